@@ -1,0 +1,30 @@
+# Everything comes from Debian packages; tools/install-dependencies names them.
+
+find_package(PkgConfig REQUIRED)
+find_package(Threads REQUIRED)
+find_package(fmt REQUIRED)
+find_package(spdlog REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(SQLite3 REQUIRED)
+find_package(GTest REQUIRED)
+find_package(benchmark REQUIRED)
+include(GoogleTest)
+
+pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)
+pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo pangoft2)
+pkg_check_modules(gdk_pixbuf REQUIRED IMPORTED_TARGET gdk-pixbuf-2.0)
+pkg_check_modules(sdl2 REQUIRED IMPORTED_TARGET sdl2)
+pkg_check_modules(taglib REQUIRED IMPORTED_TARGET taglib)
+pkg_check_modules(mpv REQUIRED IMPORTED_TARGET mpv)
+pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
+
+find_library(SONAVUE_LIBYUV yuv REQUIRED)
+find_library(SONAVUE_BLOCKS_RUNTIME BlocksRuntime REQUIRED)
+find_library(SONAVUE_GNUSTEP_BASE gnustep-base REQUIRED)
+find_program(SONAVUE_RSVG_CONVERT rsvg-convert REQUIRED)
+
+# No symbol of Foundation is ever named, so the linker must be told to keep the library.
+add_library(sonavue_foundation INTERFACE)
+target_link_libraries(sonavue_foundation INTERFACE
+  -Wl,--push-state,--no-as-needed ${SONAVUE_GNUSTEP_BASE} objc -Wl,--pop-state
+  ${SONAVUE_BLOCKS_RUNTIME})

@@ -1,0 +1,38 @@
+# The house rules of the build: one language level, warnings as errors, and include roots that let
+# a target see the modules below it and nothing else.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_FLAGS_DEBUG "-Og -g1")
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+
+option(SONAVUE_CHECKS "Compare every message with the encoding of the method that answers it" ON)
+option(SONAVUE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+find_program(SONAVUE_CCACHE ccache)
+if(SONAVUE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${SONAVUE_CCACHE})
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror -fvisibility=hidden
+                    $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+if(SONAVUE_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# `sonavue_module(objc)` gives the folder objc/ an include root of its own, so that a target sees
+# exactly the modules it links: `#include "objc/send.h"` fails where objc is not below.
+function(sonavue_module name)
+  set(root ${CMAKE_BINARY_DIR}/include-roots/${name})
+  file(MAKE_DIRECTORY ${root})
+  if(NOT EXISTS ${root}/${name})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${name} ${root}/${name} SYMBOLIC)
+  endif()
+  add_library(${name}_root INTERFACE)
+  target_include_directories(${name}_root INTERFACE ${root})
+endfunction()
