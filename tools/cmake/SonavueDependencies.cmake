@@ -23,8 +23,9 @@ find_library(SONAVUE_BLOCKS_RUNTIME BlocksRuntime REQUIRED)
 find_library(SONAVUE_GNUSTEP_BASE gnustep-base REQUIRED)
 find_program(SONAVUE_RSVG_CONVERT rsvg-convert REQUIRED)
 
-# No symbol of Foundation is ever named, so the linker must be told to keep the library.
+# No symbol of Foundation is ever named, so the linker must be told to keep the library. It carries
+# a `_Block_copy` of its own that does not know our stack blocks: the real one must be found first.
 add_library(sonavue_foundation INTERFACE)
 target_link_libraries(sonavue_foundation INTERFACE
-  -Wl,--push-state,--no-as-needed ${SONAVUE_GNUSTEP_BASE} objc -Wl,--pop-state
-  ${SONAVUE_BLOCKS_RUNTIME})
+  -Wl,--push-state,--no-as-needed ${SONAVUE_BLOCKS_RUNTIME} ${SONAVUE_GNUSTEP_BASE} objc
+  -Wl,--pop-state)

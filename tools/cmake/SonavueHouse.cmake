@@ -28,7 +28,8 @@ endif()
 # `sonavue_module(objc)` gives the folder objc/ an include root of its own, so that a target sees
 # exactly the modules it links: `#include "objc/send.h"` fails where objc is not below.
 function(sonavue_module name)
-  set(root ${CMAKE_BINARY_DIR}/include-roots/${name})
+  # The same for every build folder, so that the compiler cache serves all of them.
+  set(root ${CMAKE_SOURCE_DIR}/build/include-roots/${name})
   file(MAKE_DIRECTORY ${root})
   if(NOT EXISTS ${root}/${name})
     file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${name} ${root}/${name} SYMBOLIC)

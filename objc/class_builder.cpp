@@ -1,0 +1,37 @@
+#include "objc/class_builder.h"
+
+namespace objc {
+namespace {
+
+constexpr const char* kStorageName = "state";
+constexpr unsigned char kPointerAlignment = 3;
+
+}  // namespace
+
+ClassBuilder::ClassBuilder(const char* name, const char* base) {
+  const Class base_class = objc_getClass(base);
+  if (base_class) cls_ = objc_allocateClassPair(base_class, name, 0);
+}
+
+ClassBuilder& ClassBuilder::protocol(const char* name) {
+  const Protocol found = objc_getProtocol(name);
+  if (cls_ && found) class_addProtocol(cls_, found);
+  return *this;
+}
+
+Class ClassBuilder::finish() {
+  if (!cls_) return nullptr;
+  objc_registerClassPair(cls_);
+  if (find_offset_) find_offset_(cls_);
+  return cls_;
+}
+
+void ClassBuilder::add_storage(std::size_t size) {
+  class_addIvar(cls_, kStorageName, size, kPointerAlignment, "?");
+}
+
+std::ptrdiff_t ClassBuilder::storage_offset(Class cls) {
+  return ivar_getOffset(class_getInstanceVariable(cls, kStorageName));
+}
+
+}  // namespace objc

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <utility>
+
+#include "objc/send.h"
+
+namespace objc {
+
+/// Owns one reference to an object: `adopt` takes over a +1, `retain` adds one.
+template <Handle T>
+class Ref {
+ public:
+  Ref() = default;
+  static Ref adopt(T object) { return Ref(object); }
+  static Ref retain(T object) {
+    send<Id>(object, "retain"_sel);
+    return Ref(object);
+  }
+
+  Ref(const Ref& other) : Ref(retain(other.object_)) {}
+  Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, T())) {}
+  Ref& operator=(Ref other) noexcept {
+    std::swap(object_, other.object_);
+    return *this;
+  }
+  ~Ref() { send<>(object_, "release"_sel); }
+
+  T get() const { return object_; }
+  const T* operator->() const { return &object_; }
+  const T& operator*() const { return object_; }
+  explicit operator bool() const { return static_cast<bool>(object_); }
+
+  /// Replaces the object: the new one is retained before the old one is released.
+  void reset(T object = T()) { *this = retain(object); }
+  /// Gives the reference away as a +1.
+  T leak() { return std::exchange(object_, T()); }
+
+ private:
+  explicit Ref(T object) : object_(object) {}
+  T object_;
+};
+
+}  // namespace objc
