@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "host/runtime/clock.h"
+
+namespace host {
+
+/// The main run loop of a process: timers on the clock, work for the next turn, frames of the
+/// screen and file descriptors. One thread, one loop. Each turn has an autorelease pool of its own.
+class RunLoop {
+ public:
+  using Work = std::function<void()>;
+  using Id = std::uint64_t;
+
+  static constexpr double kFrame = 1.0 / 60.0;
+
+  explicit RunLoop(Clock& clock) : clock_(clock) {}
+  RunLoop(const RunLoop&) = delete;
+  RunLoop& operator=(const RunLoop&) = delete;
+
+  /// The loop of this process; made by `main`, or by a test for itself.
+  static RunLoop& main();
+  static bool has_main();
+  /// Makes `loop` the process's loop; nullptr takes it away again.
+  static void set_main(RunLoop* loop);
+
+  const Clock& clock() const { return clock_; }
+  double now() const { return clock_.now(); }
+
+  /// Runs `work` once in the next turn, in the order of the calls. From the loop's thread only.
+  void perform(Work work);
+
+  /// Runs `work` at `due` (clock seconds) and, with an `interval` above 0, at every interval after
+  /// it: the next due time is counted from the last due time, and ticks already past are skipped.
+  Id add_timer(double due, double interval, Work work);
+  void remove_timer(Id timer);
+
+  /// Runs `work` when the descriptor can be read (real clock: while waiting; stepped: each turn).
+  Id watch(int descriptor, Work work);
+  void unwatch(Id watch);
+
+  /// Runs `work` with the frame's time at every frame of the screen (60 a second of the clock)
+  /// until removed. A loop that nobody asked for frames has none.
+  Id add_frame_observer(std::function<void(double frame_time)> work);
+  void remove_frame_observer(Id observer);
+  bool wants_frames() const { return !frame_observers_.empty(); }
+
+  /// Runs `work` at the end of every turn in which anything ran, before the loop sleeps: where
+  /// layers are laid out and committed. Observers run in order of `order`.
+  Id add_turn_observer(int order, Work work);
+  void remove_turn_observer(Id observer);
+
+  /// Stepped clock: moves `clock` to `time`, running everything due on the way at its due time.
+  void advance_to(SteppedClock& clock, double time);
+  /// Runs what is ready now, without waiting: work of the next turn, due timers, ready descriptors.
+  void run_ready();
+  /// Real clock: serves until `stop`.
+  void run();
+  void stop() { running_ = false; }
+
+ private:
+  struct Timer {
+    Id id;
+    double due;
+    double interval;
+    Work work;
+  };
+  struct Watch {
+    Id id;
+    int descriptor;
+    Work work;
+  };
+  struct FrameObserver {
+    Id id;
+    std::function<void(double)> work;
+  };
+  struct TurnObserver {
+    Id id;
+    int order;
+    Work work;
+  };
+
+  double next_due() const;
+  bool run_work();
+  bool run_due_timers();
+  bool run_due_frame();
+  bool run_ready_descriptors(int timeout_milliseconds);
+  bool turn(int timeout_milliseconds);
+  void end_turn();
+  bool fire_first_due();
+
+  Clock& clock_;
+  bool running_ = false;
+  Id last_id_ = 0;
+  double next_frame_ = 0;
+  std::vector<Work> work_;
+  std::vector<Timer> timers_;
+  std::vector<Watch> watches_;
+  std::vector<FrameObserver> frame_observers_;
+  std::vector<TurnObserver> turn_observers_;
+};
+
+}  // namespace host
