@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/SpringBoard/SBIconModel.h"
+#include "platform/SpringBoard/SBIconView.h"
+
+struct SBIconController : objc::Bound<SBIconController, "SBIconController", NSObject> {
+  static SBIconController sharedInstance() {
+    return call_class<"sharedInstance", SBIconController>();
+  }
+  SBIconModel model() const { return call<"model", SBIconModel>(); }
+  BOOL isEditing() const { return call<"isEditing", BOOL>(); }
+  void setIsEditing(BOOL editing) const { call<"setIsEditing:">(editing); }
+  BOOL hasOpenFolder() const { return call<"hasOpenFolder", BOOL>(); }
+  void closeFolderAnimated(BOOL animated) const { call<"closeFolderAnimated:">(animated); }
+  NSInteger currentIconListIndex() const { return call<"currentIconListIndex", NSInteger>(); }
+  void scrollToIconListAtIndex(NSInteger index, BOOL animated) const {
+    call<"scrollToIconListAtIndex:animate:">(index, animated);
+  }
+  void iconTapped(SBIconView icon_view) const { call<"iconTapped:">(icon_view); }
+};

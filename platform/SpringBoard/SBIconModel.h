@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Foundation/NSArray.h"
+#include "platform/SpringBoard/SBIcon.h"
+
+/// Every icon of the home screen and where it stands.
+struct SBIconModel : objc::Bound<SBIconModel, "SBIconModel", NSObject> {
+  /// The icon of the application with that identifier; nil when it is not installed.
+  SBIcon expectedIconForDisplayIdentifier(NSString identifier) const {
+    return call<"expectedIconForDisplayIdentifier:", SBIcon>(identifier);
+  }
+  SBIcon applicationIconForBundleIdentifier(NSString identifier) const {
+    return call<"applicationIconForBundleIdentifier:", SBIcon>(identifier);
+  }
+  NSArray leafIcons() const { return call<"leafIcons", NSArray>(); }
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/SpringBoard/SBIconView.h"
+
+/// Which view shows which icon. An icon keeps its view for as long as it is installed.
+struct SBIconViewMap : objc::Bound<SBIconViewMap, "SBIconViewMap", NSObject> {
+  static SBIconViewMap homescreenMap() { return call_class<"homescreenMap", SBIconViewMap>(); }
+  /// Nil for an icon that has no view yet.
+  SBIconView mappedIconViewForIcon(SBIcon icon) const {
+    return call<"mappedIconViewForIcon:", SBIconView>(icon);
+  }
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/UIKit/UIViewController.h"
+
+struct SBLockScreenViewController
+    : objc::Bound<SBLockScreenViewController, "SBLockScreenViewController", UIViewController> {
+  void _handleDisplayTurnedOff() const { call<"_handleDisplayTurnedOff">(); }
+  void prepareForUIUnlock() const { call<"prepareForUIUnlock">(); }
+  BOOL isLocked() const { return call<"isLocked", BOOL>(); }
+};

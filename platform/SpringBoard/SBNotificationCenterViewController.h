@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/UIKit/UIViewController.h"
+
+struct SBNotificationCenterViewController
+    : objc::Bound<SBNotificationCenterViewController, "SBNotificationCenterViewController",
+                  UIViewController> {
+  void hostWillPresent() const { call<"hostWillPresent">(); }
+  BOOL isPresented() const { return call<"isPresented", BOOL>(); }
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/SpringBoard/SBApplication.h"
+#include "platform/UIKit/UIWindow.h"
+
+struct SBUIController : objc::Bound<SBUIController, "SBUIController", NSObject> {
+  static SBUIController sharedInstance() { return call_class<"sharedInstance", SBUIController>(); }
+  /// The window of the home screen.
+  UIWindow window() const { return call<"window", UIWindow>(); }
+  /// The Home button; YES when the press did something.
+  BOOL clickedMenuButton() const { return call<"clickedMenuButton", BOOL>(); }
+  /// The Home button pressed twice; YES when it did something.
+  BOOL handleMenuDoubleTap() const { return call<"handleMenuDoubleTap", BOOL>(); }
+  void activateApplicationAnimated(SBApplication application) const {
+    call<"activateApplicationAnimated:">(application);
+  }
+};
