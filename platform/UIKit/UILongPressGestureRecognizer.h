@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/UIKit/UIGestureRecognizer.h"
+
+struct UILongPressGestureRecognizer
+    : objc::Bound<UILongPressGestureRecognizer, "UILongPressGestureRecognizer",
+                  UIGestureRecognizer> {
+  UILongPressGestureRecognizer initWithTarget(objc::Object target, objc::Sel action) const {
+    return objc::cast<UILongPressGestureRecognizer>(
+        UIGestureRecognizer::initWithTarget(target, action));
+  }
+  /// Full taps before the press.
+  NSUInteger numberOfTapsRequired() const { return call<"numberOfTapsRequired", NSUInteger>(); }
+  void setNumberOfTapsRequired(NSUInteger count) const { call<"setNumberOfTapsRequired:">(count); }
+  NSUInteger numberOfTouchesRequired() const {
+    return call<"numberOfTouchesRequired", NSUInteger>();
+  }
+  void setNumberOfTouchesRequired(NSUInteger count) const {
+    call<"setNumberOfTouchesRequired:">(count);
+  }
+  /// Seconds.
+  double minimumPressDuration() const { return call<"minimumPressDuration", double>(); }
+  void setMinimumPressDuration(double seconds) const { call<"setMinimumPressDuration:">(seconds); }
+  /// Points that the finger may stray before the press is recognised.
+  CGFloat allowableMovement() const { return call<"allowableMovement", CGFloat>(); }
+  void setAllowableMovement(CGFloat points) const { call<"setAllowableMovement:">(points); }
+};
