@@ -53,6 +53,8 @@ objc::Class objc_getMetaClass(const char* name);
 objc::Protocol objc_getProtocol(const char* name);
 objc::Sel sel_registerName(const char* name);
 const char* sel_getName(objc::Sel selector);
+// Selectors of one name but other types are different pointers here: compare with this, never ==.
+signed char sel_isEqual(objc::Sel left, objc::Sel right);
 
 const char* class_getName(objc::Class cls);
 objc::Class class_getSuperclass(objc::Class cls);

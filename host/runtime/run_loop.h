@@ -90,7 +90,6 @@ class RunLoop {
   bool run_ready_descriptors(int timeout_milliseconds);
   bool turn(int timeout_milliseconds);
   void end_turn();
-  bool fire_first_due();
 
   Clock& clock_;
   bool running_ = false;

@@ -24,6 +24,9 @@ struct NSString : objc::Bound<NSString, "NSString", NSObject> {
 
   NSUInteger length() const { return call<"length", NSUInteger>(); }
   const char* UTF8String() const { return call<"UTF8String", const char*>(); }
+  const char* fileSystemRepresentation() const {
+    return call<"fileSystemRepresentation", const char*>();
+  }
   int intValue() const { return call<"intValue", int>(); }
   BOOL boolValue() const { return call<"boolValue", BOOL>(); }
   BOOL isEqualToString(NSString other) const { return call<"isEqualToString:", BOOL>(other); }

@@ -1,0 +1,88 @@
+#include "host/foundation/device_paths.h"
+
+#include <algorithm>
+#include <array>
+
+#include "host/foundation/exports.h"
+#include "objc/class_builder.h"
+#include "platform/Foundation/NSString.h"
+
+namespace host::foundation {
+namespace {
+
+constexpr std::array<std::string_view, 4> kDeviceFolders{"/var/mobile", "/Library", "/System",
+                                                         "/Applications"};
+std::string root;
+
+bool is_inside(std::string_view path, std::string_view folder) {
+  return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
+}
+
+objc::Imp original_of_string = nullptr;
+objc::Imp original_of_manager = nullptr;
+
+// The caller of a file system representation uses it before its pool ends.
+const char* mapped(const char* path) {
+  if (!path) return path;
+  const std::string real = path_on_this_machine(path);
+  return real == path ? path : NSString::stringWithUTF8String(real.c_str()).UTF8String();
+}
+
+const char* string_representation(NSString self) {
+  using Function = const char* (*)(objc::Id, objc::Sel);
+  const auto original = reinterpret_cast<Function>(original_of_string);
+  return mapped(original(self.id(), "fileSystemRepresentation"_sel));
+}
+
+const char* manager_representation(NSObject self, NSString path) {
+  using Function = const char* (*)(objc::Id, objc::Sel, objc::Id);
+  const auto original = reinterpret_cast<Function>(original_of_manager);
+  return mapped(original(self.id(), "fileSystemRepresentationWithPath:"_sel, path.id()));
+}
+
+// Data writes to the characters of the path as they stand, so it is given the mapped ones.
+objc::Imp original_write = nullptr;
+
+BOOL write_data(NSObject self, NSString path, NSUInteger options, objc::Id* error) {
+  using Function = BOOL (*)(objc::Id, objc::Sel, objc::Id, NSUInteger, objc::Id*);
+  const auto original = reinterpret_cast<Function>(original_write);
+  const NSString real = NSString::stringWithUTF8String(mapped(path.UTF8String()));
+  return original(self.id(), "writeToFile:options:error:"_sel, real.id(), options, error);
+}
+
+}  // namespace
+
+void set_device_root(std::string new_root) {
+  while (new_root.size() > 1 && new_root.back() == '/')
+    new_root.pop_back();
+  root = std::move(new_root);
+}
+
+const std::string& device_root() {
+  return root;
+}
+
+std::string path_on_this_machine(std::string_view device_path) {
+  const bool of_device = !root.empty() && !is_inside(device_path, root) &&
+                         std::any_of(kDeviceFolders.begin(), kDeviceFolders.end(),
+                                     [&](auto folder) { return is_inside(device_path, folder); });
+  return of_device ? root + std::string(device_path) : std::string(device_path);
+}
+
+void export_device_paths() {
+  if (original_of_string) return;
+  const objc::Class string = objc_getClass("NSString");
+  const objc::Class manager = objc_getClass("NSFileManager");
+  const objc::Class data = objc_getClass("NSData");
+  original_of_string =
+      method_getImplementation(class_getInstanceMethod(string, "fileSystemRepresentation"_sel));
+  original_of_manager = method_getImplementation(
+      class_getInstanceMethod(manager, "fileSystemRepresentationWithPath:"_sel));
+  original_write =
+      method_getImplementation(class_getInstanceMethod(data, "writeToFile:options:error:"_sel));
+  objc::replace_method<&write_data>(data, "writeToFile:options:error:");
+  objc::replace_method<&string_representation>(string, "fileSystemRepresentation");
+  objc::replace_method<&manager_representation>(manager, "fileSystemRepresentationWithPath:");
+}
+
+}  // namespace host::foundation

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace host::foundation {
+
+/// Gives Foundation what the platform's has beyond GNUstep Base: timers on our clock, the device's
+/// file paths, property lists written as XML. Calling it twice is harmless.
+void export_foundation();
+
+void export_device_paths();
+void export_timers();
+
+}  // namespace host::foundation

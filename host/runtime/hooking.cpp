@@ -1,0 +1,32 @@
+#include "host/runtime/hooking.h"
+
+#include <cstdlib>
+
+namespace {
+
+// The class's own method, not one that it inherits.
+objc::Method own_method(objc::Class cls, objc::Sel selector) {
+  unsigned count = 0;
+  objc::Method* methods = class_copyMethodList(cls, &count);
+  objc::Method found = nullptr;
+  for (unsigned i = 0; i < count && !found; ++i) {
+    if (sel_isEqual(method_getName(methods[i]), selector)) found = methods[i];
+  }
+  std::free(methods);
+  return found;
+}
+
+}  // namespace
+
+void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
+                     objc::Imp* original) {
+  const objc::Method answering = cls ? class_getInstanceMethod(cls, selector) : nullptr;
+  if (!answering) return;
+  const objc::Imp before = method_getImplementation(answering);
+  if (original) *original = before;
+  if (const objc::Method own = own_method(cls, selector)) {
+    method_setImplementation(own, replacement);
+  } else {
+    class_addMethod(cls, selector, replacement, method_getTypeEncoding(answering));
+  }
+}

@@ -1,0 +1,94 @@
+#include "host/runtime/hooking.h"
+
+#include <gtest/gtest.h>
+
+#include "objc/class_builder.h"
+#include "platform/Foundation/NSObject.h"
+
+namespace {
+
+struct HookBase : objc::Bound<HookBase, "HookBase", NSObject> {
+  int number() const { return call<"number", int>(); }
+  static int common() { return call_class<"common", int>(); }
+};
+struct HookLeaf : objc::Bound<HookLeaf, "HookLeaf", HookBase> {};
+
+int base_number(HookBase) {
+  return 1;
+}
+int class_number(objc::Object) {
+  return 10;
+}
+
+using Body = int (*)(objc::Id, objc::Sel);
+objc::Imp original = nullptr;
+
+int hundred_more(objc::Object self) {
+  return reinterpret_cast<Body>(original)(self.id(), "number"_sel) + 100;
+}
+objc::Imp as_imp() {
+  return reinterpret_cast<objc::Imp>(&objc::MethodOf<&hundred_more>::call);
+}
+
+struct HookingTest : ::testing::Test {
+  HookingTest() {
+    // Classes cannot be taken back, so every test makes a pair of its own under the same names.
+    static bool made = false;
+    if (made) return;
+    made = true;
+    objc::ClassBuilder("HookBase", "NSObject")
+        .method<&base_number>("number")
+        .class_method<&class_number>("common")
+        .finish();
+    objc::ClassBuilder("HookLeaf", "HookBase").finish();
+  }
+};
+
+TEST_F(HookingTest, AnInheritedMethodIsAddedToTheClassAndTheOriginalIsTheInheritedOne) {
+  HookBase base = HookBase::alloc().init();
+  HookLeaf leaf = HookLeaf::alloc().init();
+  MSHookMessageEx(HookLeaf::cls(), "number"_sel, as_imp(), &original);
+  EXPECT_EQ(leaf.number(), 101);
+  EXPECT_EQ(base.number(), 1) << "the base class keeps its own";
+  base.release();
+  leaf.release();
+}
+
+TEST_F(HookingTest, AnOwnMethodIsReplacedForSubclassesToo) {
+  struct Own : objc::Bound<Own, "HookOwn", NSObject> {
+    int number() const { return call<"number", int>(); }
+  };
+  objc::ClassBuilder("HookOwn", "NSObject").method<&base_number>("number").finish();
+  objc::ClassBuilder("HookOwnChild", "HookOwn").finish();
+  MSHookMessageEx(Own::cls(), "number"_sel, as_imp(), &original);
+  const auto child = objc::send<Own>(
+      objc::send<objc::Object>(objc::Object(objc_getClass("HookOwnChild")), "alloc"_sel),
+      "init"_sel);
+  EXPECT_EQ(child.number(), 101);
+  child.release();
+}
+
+TEST_F(HookingTest, AClassMethodIsReplacedOnTheMetaclass) {
+  static objc::Imp original_common = nullptr;
+  MSHookMessageEx(objc_getMetaClass("HookBase"), "common"_sel, as_imp(), &original_common);
+  EXPECT_EQ(reinterpret_cast<Body>(original_common)(nullptr, nullptr), 10);
+}
+
+TEST_F(HookingTest, ANilClassOrAnUnansweredSelectorChangesNothing) {
+  objc::Imp untouched = as_imp();
+  MSHookMessageEx(nullptr, "number"_sel, as_imp(), &untouched);
+  EXPECT_EQ(untouched, as_imp());
+  MSHookMessageEx(HookBase::cls(), "neverHeardOf"_sel, as_imp(), &untouched);
+  EXPECT_EQ(untouched, as_imp());
+  EXPECT_EQ(class_getInstanceMethod(HookBase::cls(), "neverHeardOf"_sel), nullptr);
+}
+
+TEST_F(HookingTest, TheOriginalIsOptional) {
+  objc::ClassBuilder("HookNoOriginal", "HookBase").finish();
+  MSHookMessageEx(objc_getClass("HookNoOriginal"), "number"_sel, as_imp(), nullptr);
+  EXPECT_NE(method_getImplementation(
+                class_getInstanceMethod(objc_getClass("HookNoOriginal"), "number"_sel)),
+            method_getImplementation(class_getInstanceMethod(HookBase::cls(), "number"_sel)));
+}
+
+}  // namespace
