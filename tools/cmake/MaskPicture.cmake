@@ -1,6 +1,6 @@
 # cmake -D SOURCE=music.svg -D MASK=icon-mask.svg -D OUTPUT=masked/music.svg -P MaskPicture.cmake
-# wraps a drawing in a group clipped to the one path of the mask. Clipping in vectors keeps the edge
-# smooth at every size, where masking a rendered square would need a picture library at build time.
+# wraps a drawing in a group masked by the one path of the mask file. It is a mask and not a clip path,
+# since a clip is applied to each shape by itself and lets colours below shine through at the edge.
 
 file(READ ${MASK} mask)
 if(NOT mask MATCHES " d=\"([^\"]+)\"")
@@ -13,7 +13,7 @@ if(NOT drawing MATCHES "<svg[^>]*>")
   message(FATAL_ERROR "${SOURCE} is no SVG")
 endif()
 set(head "${CMAKE_MATCH_0}")
-set(clip "<clipPath id=\"icon-outline\"><path d=\"${outline}\"/></clipPath>")
-string(REPLACE "${head}" "${head}${clip}<g clip-path=\"url(#icon-outline)\">" drawing "${drawing}")
+set(mask "<mask id=\"icon-outline\"><path d=\"${outline}\" fill=\"#fff\"/></mask>")
+string(REPLACE "${head}" "${head}${mask}<g mask=\"url(#icon-outline)\">" drawing "${drawing}")
 string(REPLACE "</svg>" "</g></svg>" drawing "${drawing}")
 file(WRITE ${OUTPUT} "${drawing}")
