@@ -1,0 +1,209 @@
+#include "host/media/index.h"
+
+#include <fmt/core.h>
+
+#include <filesystem>
+
+#include "host/media/database.h"
+#include "host/media/log.h"
+
+namespace host::media {
+namespace {
+
+// Raise it with every change of the tables: an index of another version is made anew.
+constexpr int schema_version = 1;
+
+constexpr char schema[] = R"(
+  BEGIN;
+  DROP TABLE IF EXISTS songs;
+  DROP TABLE IF EXISTS refused;
+  CREATE TABLE songs (
+    id INTEGER PRIMARY KEY, path BLOB NOT NULL UNIQUE, size INTEGER, modified_ns INTEGER,
+    picture_path BLOB, picture_key INTEGER, title TEXT, artist TEXT, album_artist TEXT, album TEXT,
+    genre TEXT, composer TEXT, track_number INTEGER, disc_number INTEGER, duration REAL,
+    is_compilation INTEGER, is_cloud INTEGER, embedded_artwork INTEGER);
+  CREATE TABLE refused (path BLOB PRIMARY KEY, size INTEGER, modified_ns INTEGER) WITHOUT ROWID;
+)";
+
+constexpr char select_songs[] =
+    "SELECT id, path, size, modified_ns, picture_path, picture_key, title, artist, album_artist, "
+    "album, genre, composer, track_number, disc_number, duration, is_compilation, is_cloud, "
+    "embedded_artwork FROM songs";
+constexpr char insert_song[] =
+    "INSERT OR REPLACE INTO songs VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
+
+std::string text_at(const Statement& row, int column) {
+  return std::string{row.bytes(column)};
+}
+
+SongRecord record_from(const Statement& row) {
+  SongRecord record;
+  record.id = static_cast<std::uint64_t>(row.integer(0));
+  record.path = text_at(row, 1);
+  record.stamp = {row.integer(2), row.integer(3)};
+  record.folder_picture = {text_at(row, 4), static_cast<std::uint64_t>(row.integer(5))};
+  SongTags& tags = record.tags;
+  tags.title = text_at(row, 6);
+  tags.artist = text_at(row, 7);
+  tags.album_artist = text_at(row, 8);
+  tags.album = text_at(row, 9);
+  tags.genre = text_at(row, 10);
+  tags.composer = text_at(row, 11);
+  tags.track_number = static_cast<int>(row.integer(12));
+  tags.disc_number = static_cast<int>(row.integer(13));
+  tags.duration_seconds = row.real(14);
+  tags.is_compilation = row.integer(15) != 0;
+  tags.is_cloud = row.integer(16) != 0;
+  tags.embedded_artwork = static_cast<std::uint64_t>(row.integer(17));
+  return record;
+}
+
+void bind_record(Statement& statement, const SongRecord& record) {
+  const SongTags& tags = record.tags;
+  statement.bind(1, static_cast<std::int64_t>(record.id))
+      .bind_bytes(2, record.path)
+      .bind(3, record.stamp.size)
+      .bind(4, record.stamp.modified_ns)
+      .bind_bytes(5, record.folder_picture.path)
+      .bind(6, static_cast<std::int64_t>(record.folder_picture.key))
+      .bind(7, tags.title)
+      .bind(8, tags.artist)
+      .bind(9, tags.album_artist)
+      .bind(10, tags.album)
+      .bind(11, tags.genre)
+      .bind(12, tags.composer)
+      .bind(13, std::int64_t{tags.track_number})
+      .bind(14, std::int64_t{tags.disc_number})
+      .bind(15, tags.duration_seconds)
+      .bind(16, std::int64_t{tags.is_compilation})
+      .bind(17, std::int64_t{tags.is_cloud})
+      .bind(18, static_cast<std::int64_t>(tags.embedded_artwork));
+}
+
+}  // namespace
+
+Index::Index(std::string path, std::int64_t most_pages)
+    : path_(std::move(path)), most_pages_(most_pages) {
+  std::error_code ignored;
+  std::filesystem::create_directories(std::filesystem::path{path_}.parent_path(), ignored);
+  recover(open(path_));
+}
+
+Index::~Index() = default;
+
+DatabaseStatus Index::open(const std::string& path) {
+  database_ = std::make_unique<Database>(path);
+  return database_->status() == DatabaseStatus::ok ? prepare_schema() : database_->status();
+}
+
+DatabaseStatus Index::prepare_schema() {
+  database_->execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL");
+  if (most_pages_ > 0) {
+    database_->execute(fmt::format("PRAGMA max_page_count={}", most_pages_).c_str());
+  }
+  {
+    Statement version = database_->prepare("PRAGMA user_version");
+    if (const auto status = version.step(); status != DatabaseStatus::row) return status;
+    if (version.integer(0) == schema_version) return DatabaseStatus::ok;
+  }
+  const std::string commit = fmt::format("PRAGMA user_version={}; COMMIT", schema_version);
+  DatabaseStatus status = database_->execute(schema);
+  if (status == DatabaseStatus::ok) status = database_->execute(commit.c_str());
+  if (status != DatabaseStatus::ok) database_->execute("ROLLBACK");
+  return status;
+}
+
+// Only a file that is really damaged is set aside; one that is locked or on a full disk is left as
+// it is, and this run does without it.
+void Index::recover(DatabaseStatus status) {
+  if (status == DatabaseStatus::ok) return;
+  if (status == DatabaseStatus::damaged) return set_aside();
+  work_in_memory(database_->message());
+}
+
+void Index::set_aside() {
+  database_.reset();
+  const std::string damaged = path_ + ".damaged";
+  std::error_code error;
+  std::filesystem::rename(path_, damaged, error);
+  std::error_code ignored;
+  std::filesystem::remove(path_ + "-wal", ignored);
+  std::filesystem::remove(path_ + "-shm", ignored);
+  if (!error && open(path_) == DatabaseStatus::ok) {
+    log_warning(
+        fmt::format("the music index was damaged; it is kept as {} and made anew", damaged));
+    return;
+  }
+  work_in_memory(error ? error.message() : database_->message());
+}
+
+void Index::work_in_memory(const std::string& reason) {
+  log_warning(
+      fmt::format("the music index {} cannot be kept ({}); the music is read again at the "
+                  "next start",
+                  path_, reason));
+  store_ = IndexStore::in_memory;
+  open({});
+}
+
+IndexContents Index::load() {
+  IndexContents contents;
+  const DatabaseStatus status = read(contents);
+  if (status == DatabaseStatus::ok) return contents;
+  recover(status);
+  return {};
+}
+
+DatabaseStatus Index::read(IndexContents& contents) {
+  Statement songs = database_->prepare(select_songs);
+  DatabaseStatus status = songs.step();
+  for (; status == DatabaseStatus::row; status = songs.step()) {
+    contents.songs.push_back(record_from(songs));
+  }
+  if (status != DatabaseStatus::ok) return status;
+  Statement refused = database_->prepare("SELECT path, size, modified_ns FROM refused");
+  status = refused.step();
+  for (; status == DatabaseStatus::row; status = refused.step()) {
+    contents.refused.push_back({text_at(refused, 0), {refused.integer(1), refused.integer(2)}});
+  }
+  return status;
+}
+
+bool Index::apply(const IndexChanges& changes) {
+  if (changes.count() == 0) return true;
+  const bool is_kept = database_->execute("BEGIN IMMEDIATE") == DatabaseStatus::ok &&
+                       write(changes) && database_->execute("COMMIT") == DatabaseStatus::ok;
+  if (is_kept) return true;
+  if (!has_complained_) {
+    log_warning(
+        fmt::format("the music index cannot be written ({}); the songs are there, and are "
+                    "read again at the next start",
+                    database_->message()));
+    has_complained_ = true;
+  }
+  database_->execute("ROLLBACK");
+  return false;
+}
+
+bool Index::write(const IndexChanges& changes) {
+  auto is_done = [](DatabaseStatus status) { return status == DatabaseStatus::ok; };
+  Statement forget_song = database_->prepare("DELETE FROM songs WHERE path = ?");
+  Statement forget_refused = database_->prepare("DELETE FROM refused WHERE path = ?");
+  for (const std::string& path : changes.forgotten) {
+    if (!is_done(forget_song.bind_bytes(1, path).run())) return false;
+    if (!is_done(forget_refused.bind_bytes(1, path).run())) return false;
+  }
+  Statement insert = database_->prepare(insert_song);
+  for (const SongRecord& record : changes.songs) {
+    bind_record(insert, record);
+    if (!is_done(insert.run())) return false;
+  }
+  Statement refuse = database_->prepare("INSERT OR REPLACE INTO refused VALUES (?,?,?)");
+  for (const RefusedFile& file : changes.refused) {
+    refuse.bind_bytes(1, file.path).bind(2, file.stamp.size).bind(3, file.stamp.modified_ns);
+    if (!is_done(refuse.run())) return false;
+  }
+  return true;
+}
+
+}  // namespace host::media

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/media/song_record.h"
+
+namespace host::media {
+
+class Database;
+enum class DatabaseStatus;
+
+struct IndexContents {
+  std::vector<SongRecord> songs;
+  std::vector<RefusedFile> refused;
+};
+
+// What one transaction changes. Forgotten paths go first, so that a moved song keeps its
+// identifier.
+struct IndexChanges {
+  std::vector<std::string> forgotten;
+  std::vector<SongRecord> songs;
+  std::vector<RefusedFile> refused;
+
+  std::size_t count() const { return forgotten.size() + songs.size() + refused.size(); }
+};
+
+enum class IndexStore { on_disk, in_memory };
+
+// What is known of the user's files from one start to the next. It can be made again from the files
+// at any time, so a damaged index is set aside and an index that cannot be kept works in memory;
+// either is one line in the log. Used by one thread at a time.
+class Index {
+ public:
+  // `most_pages` bounds the file, in SQLite's pages of 4 KiB; 0 leaves it to the disk.
+  explicit Index(std::string path, std::int64_t most_pages = 0);
+  ~Index();
+
+  // Everything, with one query a table.
+  IndexContents load();
+
+  // All or nothing. False when the changes could not be kept, most likely because the disk is full;
+  // said once in the log.
+  bool apply(const IndexChanges& changes);
+
+  IndexStore store() const { return store_; }
+
+ private:
+  DatabaseStatus open(const std::string& path);
+  DatabaseStatus prepare_schema();
+  DatabaseStatus read(IndexContents& contents);
+  void recover(DatabaseStatus status);
+  bool write(const IndexChanges& changes);
+  void set_aside();
+  void work_in_memory(const std::string& reason);
+
+  std::string path_;
+  std::int64_t most_pages_;
+  std::unique_ptr<Database> database_;
+  IndexStore store_ = IndexStore::on_disk;
+  bool has_complained_ = false;
+};
+
+}  // namespace host::media

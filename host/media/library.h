@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "host/media/song_record.h"
+#include "host/media/text_pool.h"
+#include "host/media/track.h"
+
+namespace host::media {
+
+// The songs at one moment, never changed once made, and so shared between threads without a lock.
+// Songs come ordered by title without regard to case, then artist, album, disc and number.
+class Library {
+ public:
+  static std::shared_ptr<const Library> build(std::span<const SongRecord> records);
+
+  Library(const Library&) = delete;
+  Library& operator=(const Library&) = delete;
+
+  std::span<const Track> tracks() const { return tracks_; }
+
+  // Null when no song has this identifier.
+  const Track* find(std::uint64_t id) const;
+
+  // The songs of one album in the order of their discs and numbers.
+  std::vector<const Track*> album(std::uint64_t album_id) const;
+
+ private:
+  explicit Library(std::span<const SongRecord> records);
+
+  Track track_from(const SongRecord& record);
+
+  TextPool texts_;
+  std::vector<Track> tracks_;
+  std::vector<std::uint32_t> by_id_;     // Indices into tracks_, ordered by identifier.
+  std::vector<std::uint32_t> by_album_;  // Likewise by album, disc and number.
+};
+
+// Songs belong to the same album when its name and its artist are the same without regard to case;
+// a compilation needs only the name.
+std::uint64_t album_identifier(const SongTags& tags);
+
+}  // namespace host::media

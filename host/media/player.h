@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+namespace host::media {
+
+// What a player tells, always from inside `pump()`, never from inside another call.
+class PlayerListener {
+ public:
+  virtual ~PlayerListener() = default;
+  virtual void player_did_reach_end() = 0;
+  virtual void player_did_fail(const std::string& path, const std::string& reason) = 0;
+};
+
+// What the playing engine says of itself, for those who check that music really plays.
+struct EngineState {
+  std::string path;  // Empty when nothing is loaded.
+  bool is_paused = false;
+  double position_seconds = 0;
+  double volume_percent = 0;
+};
+
+// Plays one file at a time. Times are seconds from the start of the file.
+class Player {
+ public:
+  virtual ~Player() = default;
+
+  virtual void set_listener(PlayerListener* listener) = 0;
+
+  // Replaces the file from its start; it plays or waits as the player did before. A file that
+  // cannot be played is told to the listener.
+  virtual void load(const std::string& path) = 0;
+  virtual void play() = 0;
+  virtual void pause() = 0;
+  // Unloads the file and pauses.
+  virtual void stop() = 0;
+  // Cut to the length of the file; ignored when nothing is loaded.
+  virtual void seek(double seconds) = 0;
+  // From 0 to 1.
+  virtual void set_volume(double volume) = 0;
+
+  virtual double volume() const = 0;
+  virtual double position() const = 0;
+  // 0 until it is known.
+  virtual double duration() const = 0;
+  virtual bool is_paused() const = 0;
+
+  // Readable when `pump()` has something to do.
+  virtual int descriptor() const = 0;
+  virtual void pump() = 0;
+
+  virtual EngineState engine() = 0;
+};
+
+}  // namespace host::media

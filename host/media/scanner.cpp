@@ -1,0 +1,54 @@
+#include "host/media/scanner.h"
+
+#include <fmt/core.h>
+
+#include "host/media/log.h"
+
+namespace host::media {
+
+void Scanner::start(std::vector<std::string> roots) {
+  thread_ = {};  // Stops and joins, so that two scans never share the index.
+  thread_ = std::jthread{
+      [this, roots = std::move(roots)](const std::stop_token& stop) { run(roots, stop); }};
+}
+
+std::optional<ScanUpdate> Scanner::take_update() {
+  const std::lock_guard lock{mutex_};
+  if (updates_.empty()) return std::nullopt;
+  ScanUpdate update = std::move(updates_.front());
+  updates_.pop_front();
+  if (updates_.empty()) signal_.clear();
+  return update;
+}
+
+void Scanner::run(const std::vector<std::string>& roots, const std::stop_token& stop) {
+  Index index{index_path_};
+  publish({ScanStage::remembered, {}, remembered_library(index, roots)});
+  ScanOutcome outcome = scan_folders(
+      index, roots,
+      [this](const ScanProgress& progress) {
+        publish({ScanStage::reading, progress, nullptr});
+      },
+      stop);
+  if (stop.stop_requested()) return;
+  const ScanProgress& counts = outcome.progress;
+  log_note(fmt::format("{} songs; {} files read, {} skipped, {} folders unreadable",
+                       outcome.library->tracks().size(), counts.read, counts.skipped,
+                       counts.unreadable_folders));
+  publish({ScanStage::finished, counts, std::move(outcome.library)});
+}
+
+void Scanner::publish(ScanUpdate update) {
+  const std::lock_guard lock{mutex_};
+  // A count that nobody has taken yet is replaced by the newer one, so a busy screen never works
+  // through a backlog.
+  const bool is_count = update.stage == ScanStage::reading;
+  if (is_count && !updates_.empty() && updates_.back().stage == ScanStage::reading) {
+    updates_.back() = std::move(update);
+  } else {
+    updates_.push_back(std::move(update));
+  }
+  signal_.raise();
+}
+
+}  // namespace host::media

@@ -1,0 +1,174 @@
+#include "host/media/tag_reader.h"
+
+#include <attachedpictureframe.h>
+#include <fileref.h>
+#include <flacfile.h>
+#include <id3v2tag.h>
+#include <mp4file.h>
+#include <mpegfile.h>
+#include <opusfile.h>
+#include <sys/stat.h>
+#include <tpropertymap.h>
+#include <vorbisfile.h>
+#include <wavfile.h>
+#include <xiphcomment.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <exception>
+#include <filesystem>
+
+#include "host/media/hash.h"
+#include "host/media/text.h"
+
+namespace host::media {
+namespace {
+
+constexpr std::array audio_suffixes = {".flac", ".mp3", ".ogg", ".oga", ".opus", ".m4a", ".wav"};
+constexpr std::size_t largest_picture_bytes = 32u << 20;
+constexpr double longest_seconds = 7 * 24 * 3600.0;
+
+template <class Pictures>
+TagLib::ByteVector best_flac_picture(const Pictures& pictures) {
+  TagLib::ByteVector best;
+  for (const auto* picture : pictures) {
+    const bool is_front = picture->type() == TagLib::FLAC::Picture::FrontCover;
+    if (best.isEmpty() || is_front) best = picture->data();
+    if (is_front) break;
+  }
+  return best;
+}
+
+TagLib::ByteVector id3_picture(const TagLib::ID3v2::Tag* tag) {
+  TagLib::ByteVector best;
+  if (tag == nullptr) return best;
+  for (const auto* frame : tag->frameList("APIC")) {
+    const auto* picture = dynamic_cast<const TagLib::ID3v2::AttachedPictureFrame*>(frame);
+    if (picture == nullptr) continue;
+    const bool is_front = picture->type() == TagLib::ID3v2::AttachedPictureFrame::FrontCover;
+    if (best.isEmpty() || is_front) best = picture->picture();
+    if (is_front) break;
+  }
+  return best;
+}
+
+TagLib::ByteVector mp4_picture(const TagLib::MP4::Tag* tag) {
+  if (tag == nullptr || !tag->contains("covr")) return {};
+  const auto covers = tag->item("covr").toCoverArtList();
+  return covers.isEmpty() ? TagLib::ByteVector{} : covers.front().data();
+}
+
+TagLib::ByteVector picture_in(TagLib::File* file) {
+  if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(file)) {
+    return best_flac_picture(flac->pictureList());
+  }
+  if (auto* mpeg = dynamic_cast<TagLib::MPEG::File*>(file)) return id3_picture(mpeg->ID3v2Tag());
+  if (auto* wav = dynamic_cast<TagLib::RIFF::WAV::File*>(file)) return id3_picture(wav->ID3v2Tag());
+  if (auto* mp4 = dynamic_cast<TagLib::MP4::File*>(file)) return mp4_picture(mp4->tag());
+  if (auto* xiph = dynamic_cast<TagLib::Ogg::XiphComment*>(file->tag())) {
+    return best_flac_picture(xiph->pictureList());
+  }
+  return {};
+}
+
+std::string_view view_of(const TagLib::ByteVector& bytes) {
+  return {bytes.data(), bytes.size()};
+}
+
+bool is_usable_picture(const TagLib::ByteVector& bytes) {
+  return !bytes.isEmpty() && bytes.size() <= largest_picture_bytes;
+}
+
+std::string text_of(const TagLib::PropertyMap& properties, const char* key) {
+  const auto found = properties.find(key);
+  if (found == properties.end() || found->second.isEmpty()) return {};
+  // A megabyte of text is cut before it is converted, so that it costs nothing.
+  const auto first = found->second.front().substr(0, longest_text_bytes);
+  return repaired_text(first.to8Bit(true));
+}
+
+SongTags tags_from(const TagLib::PropertyMap& properties) {
+  SongTags tags;
+  tags.title = text_of(properties, "TITLE");
+  tags.artist = text_of(properties, "ARTIST");
+  tags.album_artist = text_of(properties, "ALBUMARTIST");
+  tags.album = text_of(properties, "ALBUM");
+  tags.genre = text_of(properties, "GENRE");
+  tags.composer = text_of(properties, "COMPOSER");
+  tags.track_number = number_in(text_of(properties, "TRACKNUMBER"));
+  tags.disc_number = number_in(text_of(properties, "DISCNUMBER"));
+  tags.is_compilation = number_in(text_of(properties, "COMPILATION")) == 1;
+  tags.is_cloud = number_in(text_of(properties, "SONAVUE_CLOUD")) == 1;
+  return tags;
+}
+
+// Opening a pipe would wait for its other end for ever, so only plain files are let through.
+std::string reason_not_to_open(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) return "cannot be reached";
+  if (!S_ISREG(status.st_mode)) return "is not a plain file";
+  if (status.st_size == 0) return "is empty";
+  return {};
+}
+
+TagReading refused(std::string reason) {
+  return {std::nullopt, std::move(reason)};
+}
+
+TagReading read_opened(const std::string& path) {
+  const TagLib::FileRef reference{path.c_str(), true, TagLib::AudioProperties::Average};
+  if (reference.isNull() || !reference.file()->isValid()) return refused("is no audio file");
+  const TagLib::AudioProperties* audio = reference.audioProperties();
+  if (audio == nullptr || audio->sampleRate() <= 0 || audio->channels() <= 0) {
+    return refused("has no audio in it");
+  }
+  SongTags tags = tags_from(reference.file()->properties());
+  if (tags.title.empty()) {
+    tags.title = repaired_text(std::filesystem::path{path}.stem().string());
+  }
+  tags.duration_seconds = std::clamp(audio->lengthInMilliseconds() / 1000.0, 0.0, longest_seconds);
+  const TagLib::ByteVector picture = picture_in(reference.file());
+  if (is_usable_picture(picture)) {
+    tags.embedded_artwork = identifier_from(stable_hash(view_of(picture)));
+  }
+  return {std::move(tags), {}};
+}
+
+}  // namespace
+
+bool has_audio_name(std::string_view name) {
+  const auto dot = name.rfind('.');
+  if (dot == std::string_view::npos || dot == 0) return false;
+  const std::string_view suffix = name.substr(dot);
+  auto equals_suffix = [suffix](std::string_view known) {
+    return std::ranges::equal(suffix, known, [](char given, char expected) {
+      return (given >= 'A' && given <= 'Z' ? given + ('a' - 'A') : given) == expected;
+    });
+  };
+  return std::ranges::any_of(audio_suffixes, equals_suffix);
+}
+
+TagReading read_tags(const std::string& path) {
+  if (auto reason = reason_not_to_open(path); !reason.empty()) return refused(std::move(reason));
+  try {
+    return read_opened(path);
+  } catch (const std::exception& error) {
+    return refused(std::string{"cannot be read: "} + error.what());
+  }
+}
+
+std::vector<std::uint8_t> read_embedded_picture(const std::string& path) {
+  if (!reason_not_to_open(path).empty()) return {};
+  try {
+    const TagLib::FileRef reference{path.c_str(), false};
+    if (reference.isNull() || !reference.file()->isValid()) return {};
+    const TagLib::ByteVector picture = picture_in(reference.file());
+    if (!is_usable_picture(picture)) return {};
+    return {picture.begin(), picture.end()};
+  } catch (const std::exception&) {
+    return {};
+  }
+}
+
+}  // namespace host::media

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/media/song_tags.h"
+
+namespace host::media {
+
+struct TagReading {
+  std::optional<SongTags> tags;
+  std::string refusal;  // Why there are no tags; empty when there are.
+};
+
+// Whether a file of this name is worth opening: FLAC, MP3, Ogg Vorbis, Opus, M4A and WAV.
+bool has_audio_name(std::string_view name);
+
+// Reads any file without throwing. A file with audio in it but without a title is named after
+// itself; a file without audio is refused with the reason.
+TagReading read_tags(const std::string& path);
+
+// The encoded picture (JPEG or PNG) inside the file, the front cover when there are several; empty
+// when there is none or when it is absurdly large.
+std::vector<std::uint8_t> read_embedded_picture(const std::string& path);
+
+}  // namespace host::media

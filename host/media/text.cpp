@@ -1,0 +1,56 @@
+#include "host/media/text.h"
+
+#include <glib.h>
+
+#include <charconv>
+#include <memory>
+
+namespace host::media {
+namespace {
+
+using GText = std::unique_ptr<char, decltype(&g_free)>;
+
+constexpr int largest_number = 9999;
+
+bool is_control(unsigned char byte) {
+  return byte < 0x20 || byte == 0x7f;
+}
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+std::string repaired_text(std::string_view text) {
+  // Cut before repairing: a megabyte of rubbish need not be walked. One replaced byte grows to
+  // three, hence the second cut below.
+  text = text.substr(0, longest_text_bytes * 2);
+  const GText valid{g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())), &g_free};
+  std::string result{valid.get()};
+  for (char& byte : result) {
+    if (is_control(static_cast<unsigned char>(byte))) byte = ' ';
+  }
+  if (result.size() > longest_text_bytes) {
+    const char* end = g_utf8_find_prev_char(result.data(), result.data() + longest_text_bytes + 1);
+    result.resize(static_cast<std::size_t>(end - result.data()));
+  }
+  return std::string{trimmed(result)};
+}
+
+std::string folded_text(std::string_view text) {
+  const GText folded{g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free};
+  return folded.get();
+}
+
+int number_in(std::string_view text) {
+  text = trimmed(text);
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc{} || number < 0 || number > largest_number) return 0;
+  return number;
+}
+
+}  // namespace host::media

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
+namespace host::media {
+
+// Keeps each different text once, at an address that never changes: a hundred thousand songs share
+// a few thousand artists, albums and genres.
+class TextPool {
+ public:
+  std::string_view keep(std::string_view text) {
+    if (const auto known = kept_.find(text); known != kept_.end()) return *known;
+    return *kept_.insert(store(text)).first;
+  }
+
+  // For texts that are hardly ever equal, such as paths: no look-up is spent on them.
+  std::string_view store(std::string_view text) {
+    if (text.size() > room_) {
+      const std::size_t size = text.size() > block_bytes ? text.size() : block_bytes;
+      blocks_.emplace_back(size, '\0');
+      next_ = blocks_.back().data();
+      room_ = size;
+    }
+    char* const start = next_;
+    text.copy(start, text.size());
+    next_ += text.size();
+    room_ -= text.size();
+    return {start, text.size()};
+  }
+
+  // Once everything is in, the set of known texts is only weight.
+  void close() { kept_ = {}; }
+
+ private:
+  static constexpr std::size_t block_bytes = 64 * 1024;
+
+  std::deque<std::string> blocks_;
+  std::unordered_set<std::string_view> kept_;
+  char* next_ = nullptr;
+  std::size_t room_ = 0;
+};
+
+}  // namespace host::media

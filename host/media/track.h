@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace host::media {
+
+enum class MediaType : std::uint32_t { music = 1 };
+
+// One song of a library. The texts belong to the library that the track came from.
+struct Track {
+  std::uint64_t id = 0;
+  std::uint64_t album_id = 0;
+  std::string_view title;
+  std::string_view artist;
+  std::string_view album_artist;
+  std::string_view album;
+  std::string_view genre;
+  std::string_view composer;
+  std::string_view path;
+  // The picture file beside the song; empty when the picture is inside the song, or there is none.
+  std::string_view picture_path;
+  // The same picture has the same key, whichever song it is asked for; 0 when there is none.
+  std::uint64_t artwork_key = 0;
+  double duration_seconds = 0;
+  int track_number = 0;
+  int disc_number = 0;
+  MediaType media_type = MediaType::music;
+  bool is_cloud = false;
+
+  bool has_artwork() const { return artwork_key != 0; }
+};
+
+}  // namespace host::media
