@@ -2,7 +2,9 @@
 
 #include "platform/Foundation/NSObject.h"
 
-struct NSData;
+struct NSArray;
+
+using unichar = unsigned short;
 
 struct NSRange {
   NSUInteger location = 0;
@@ -43,6 +45,41 @@ struct NSString : objc::Bound<NSString, "NSString", NSObject> {
     return call<"stringByReplacingCharactersInRange:withString:", NSString>(range, replacement);
   }
   NSRange rangeOfString(NSString other) const { return call<"rangeOfString:", NSRange>(other); }
+  /// The whole character, in UTF-16 units, that the unit at `index` is part of.
+  NSRange rangeOfComposedCharacterSequenceAtIndex(NSUInteger index) const {
+    return call<"rangeOfComposedCharacterSequenceAtIndex:", NSRange>(index);
+  }
+  unichar characterAtIndex(NSUInteger index) const {
+    return call<"characterAtIndex:", unichar>(index);
+  }
+  NSString uppercaseString() const { return call<"uppercaseString", NSString>(); }
+  NSString substringToIndex(NSUInteger index) const {
+    return call<"substringToIndex:", NSString>(index);
+  }
+  NSString substringWithRange(NSRange range) const {
+    return call<"substringWithRange:", NSString>(range);
+  }
+  NSArray componentsSeparatedByString(NSString separator) const;
+  NSInteger integerValue() const { return call<"integerValue", NSInteger>(); }
+  float floatValue() const { return call<"floatValue", float>(); }
+  double doubleValue() const { return call<"doubleValue", double>(); }
+  NSInteger compare(NSString other) const { return call<"compare:", NSInteger>(other); }
+  NSInteger caseInsensitiveCompare(NSString other) const {
+    return call<"caseInsensitiveCompare:", NSInteger>(other);
+  }
+  NSString stringByAppendingPathComponent(NSString component) const {
+    return call<"stringByAppendingPathComponent:", NSString>(component);
+  }
+  NSString stringByDeletingLastPathComponent() const {
+    return call<"stringByDeletingLastPathComponent", NSString>();
+  }
+  NSString stringByDeletingPathExtension() const {
+    return call<"stringByDeletingPathExtension", NSString>();
+  }
+  NSString lastPathComponent() const { return call<"lastPathComponent", NSString>(); }
+  NSString pathExtension() const { return call<"pathExtension", NSString>(); }
+  /// A copy that does not change; +1.
+  NSString copy() const { return call<"copy", NSString>(); }
 };
 
 inline NSString NSObject::description() const {
