@@ -72,7 +72,8 @@ TEST(Picture, AJpegCutAnywhereIsNeverFatal) {
   ASSERT_TRUE(decode_picture(whole, 100));
   for (std::size_t size = 0; size < whole.size(); ++size) {
     const auto picture = decode_picture(std::span{whole}.first(size), 100);
-    if (picture) EXPECT_EQ(picture->pixels.size(), 100u * 100u) << size << " of " << whole.size();
+    if (!picture) continue;
+    EXPECT_EQ(picture->pixels.size(), 100u * 100u) << size << " of " << whole.size();
   }
 }
 
