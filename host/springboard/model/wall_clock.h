@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+namespace host::springboard {
+
+/// The time of day that the status bar shows. Apart from the run loop's clock, which only measures.
+class WallClock {
+ public:
+  virtual ~WallClock() = default;
+  /// "9:41".
+  virtual std::string time_text() const = 0;
+  /// How long the text stays right; 0 when it never changes.
+  virtual double seconds_to_next_minute() const = 0;
+};
+
+/// The machine's local time.
+class SystemWallClock final : public WallClock {
+ public:
+  std::string time_text() const override;
+  double seconds_to_next_minute() const override;
+};
+
+/// Always the same time, so that pictures of the screen can be compared.
+class FixedWallClock final : public WallClock {
+ public:
+  std::string time_text() const override { return "9:41"; }
+  double seconds_to_next_minute() const override { return 0; }
+};
+
+}  // namespace host::springboard
