@@ -4,7 +4,7 @@
 #include <array>
 
 #include "host/foundation/exports.h"
-#include "objc/class_builder.h"
+#include "host/runtime/class_family.h"
 #include "platform/Foundation/NSString.h"
 
 namespace host::foundation {
@@ -71,18 +71,12 @@ std::string path_on_this_machine(std::string_view device_path) {
 
 void export_device_paths() {
   if (original_of_string) return;
-  const objc::Class string = objc_getClass("NSString");
-  const objc::Class manager = objc_getClass("NSFileManager");
-  const objc::Class data = objc_getClass("NSData");
-  original_of_string =
-      method_getImplementation(class_getInstanceMethod(string, "fileSystemRepresentation"_sel));
-  original_of_manager = method_getImplementation(
-      class_getInstanceMethod(manager, "fileSystemRepresentationWithPath:"_sel));
+  original_of_string = replace_in_family<&string_representation>(objc_getClass("NSString"),
+                                                                 "fileSystemRepresentation");
+  original_of_manager = replace_in_family<&manager_representation>(
+      objc_getClass("NSFileManager"), "fileSystemRepresentationWithPath:");
   original_write =
-      method_getImplementation(class_getInstanceMethod(data, "writeToFile:options:error:"_sel));
-  objc::replace_method<&write_data>(data, "writeToFile:options:error:");
-  objc::replace_method<&string_representation>(string, "fileSystemRepresentation");
-  objc::replace_method<&manager_representation>(manager, "fileSystemRepresentationWithPath:");
+      replace_in_family<&write_data>(objc_getClass("NSData"), "writeToFile:options:error:");
 }
 
 }  // namespace host::foundation

@@ -1,0 +1,45 @@
+#include "host/runtime/class_family.h"
+
+#include <vector>
+
+extern "C" {
+int objc_getClassList(objc::Class* buffer, int capacity);
+objc::Imp class_getMethodImplementation(objc::Class cls, objc::Sel selector);
+}
+
+namespace host {
+namespace {
+
+bool descends_from(objc::Class cls, objc::Class ancestor) {
+  for (; cls; cls = class_getSuperclass(cls)) {
+    if (cls == ancestor) return true;
+  }
+  return false;
+}
+
+std::vector<objc::Class> all_classes() {
+  std::vector<objc::Class> classes(static_cast<std::size_t>(objc_getClassList(nullptr, 0)));
+  objc_getClassList(classes.data(), static_cast<int>(classes.size()));
+  return classes;
+}
+
+}  // namespace
+
+objc::Imp replace_in_family(objc::Class cls, const char* name, objc::Imp body,
+                            const char* encoding) {
+  const objc::Sel selector = sel_registerName(name);
+  const objc::Method method = cls ? class_getInstanceMethod(cls, selector) : nullptr;
+  if (!method) return nullptr;
+  const objc::Imp before = method_getImplementation(method);
+  class_replaceMethod(cls, selector, body, encoding);
+  // The runtime forgets the dispatch tables of some classes that came with their base in one
+  // library; adding the method to those outright makes them listen.
+  for (const objc::Class candidate : all_classes()) {
+    if (descends_from(candidate, cls) &&
+        class_getMethodImplementation(candidate, selector) == before)
+      class_addMethod(candidate, selector, body, encoding);
+  }
+  return before;
+}
+
+}  // namespace host
