@@ -1,0 +1,39 @@
+#include "host/foundation/load_guard.h"
+
+#include <fmt/format.h>
+
+#include <fstream>
+
+namespace host::foundation {
+namespace {
+
+std::string version_of(const std::filesystem::path& file) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(file, error);
+  const auto time = std::filesystem::last_write_time(file, error);
+  return fmt::format("{}-{}", size, time.time_since_epoch().count());
+}
+
+}  // namespace
+
+LoadGuard::LoadGuard(const std::filesystem::path& library, const std::filesystem::path& marks)
+    : mark_(marks / (library.filename().string() + ".loading")), version_(version_of(library)) {
+  std::ifstream mark(mark_);
+  std::string version;
+  int crashes = 0;
+  if (mark >> version >> crashes && version == version_) crashes_ = crashes;
+}
+
+void LoadGuard::will_load() {
+  std::error_code error;
+  std::filesystem::create_directories(mark_.parent_path(), error);
+  std::ofstream(mark_) << version_ << ' ' << crashes_ + 1 << '\n';
+}
+
+void LoadGuard::did_load() {
+  crashes_ = 0;
+  std::error_code error;
+  std::filesystem::remove(mark_, error);
+}
+
+}  // namespace host::foundation
