@@ -1,0 +1,17 @@
+#pragma once
+
+#include <span>
+
+#include "host/console/result.h"
+#include "host/console/type_encoding.h"
+#include "host/console/value.h"
+
+namespace host::console {
+
+/// Sends `selector`, whose method has these types, to a non-nil receiver. The arguments have been
+/// converted already: each entry points to a value of its type. Gives the problem when the message
+/// raised an exception.
+Result<Value> invoke(objc::Id receiver, objc::Sel selector, const MethodTypes& types,
+                     std::span<void* const> arguments);
+
+}  // namespace host::console
