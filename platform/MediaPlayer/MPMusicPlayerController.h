@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/MediaPlayer/MPMediaQuery.h"
+
+enum MPMusicPlaybackState : NSInteger {
+  MPMusicPlaybackStateStopped,
+  MPMusicPlaybackStatePlaying,
+  MPMusicPlaybackStatePaused,
+  MPMusicPlaybackStateInterrupted,
+  MPMusicPlaybackStateSeekingForward,
+  MPMusicPlaybackStateSeekingBackward,
+};
+
+struct MPMusicPlayerController
+    : objc::Bound<MPMusicPlayerController, "MPMusicPlayerController", NSObject> {
+  /// The player of the system's own Music application.
+  static MPMusicPlayerController iPodMusicPlayer() {
+    return call_class<"iPodMusicPlayer", MPMusicPlayerController>();
+  }
+  void setQueueWithQuery(MPMediaQuery query) const { call<"setQueueWithQuery:">(query); }
+  MPMediaItem nowPlayingItem() const { return call<"nowPlayingItem", MPMediaItem>(); }
+  void setNowPlayingItem(MPMediaItem item) const { call<"setNowPlayingItem:">(item); }
+  MPMusicPlaybackState playbackState() const {
+    return call<"playbackState", MPMusicPlaybackState>();
+  }
+  void prepareToPlay() const { call<"prepareToPlay">(); }
+  void play() const { call<"play">(); }
+  void pause() const { call<"pause">(); }
+  void stop() const { call<"stop">(); }
+  void skipToNextItem() const { call<"skipToNextItem">(); }
+  void skipToPreviousItem() const { call<"skipToPreviousItem">(); }
+  double currentPlaybackTime() const { return call<"currentPlaybackTime", double>(); }
+  void setCurrentPlaybackTime(double seconds) const { call<"setCurrentPlaybackTime:">(seconds); }
+  /// Told by the system whenever the state changes.
+  void _playbackStateDidChange(int state) const { call<"_playbackStateDidChange:">(state); }
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/UIKit/UIImage.h"
+
+/// What plays now, as the system's own controls show it.
+struct MPUNowPlayingController
+    : objc::Bound<MPUNowPlayingController, "MPUNowPlayingController", NSObject> {
+  UIImage currentNowPlayingArtwork() const { return call<"currentNowPlayingArtwork", UIImage>(); }
+  /// Keys "kMRMediaRemoteNowPlayingInfoTitle", "…Artist", "…Album"; strings.
+  NSDictionary currentNowPlayingInfo() const {
+    return call<"currentNowPlayingInfo", NSDictionary>();
+  }
+  /// Seconds; moves only when the player reports something: a new song, a seek, a resume.
+  double currentElapsed() const { return call<"currentElapsed", double>(); }
+  /// Seconds; 0 when unknown.
+  double currentDuration() const { return call<"currentDuration", double>(); }
+};
