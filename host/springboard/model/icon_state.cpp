@@ -1,0 +1,109 @@
+#include "host/springboard/model/icon_state.h"
+
+#include "host/runtime/log.h"
+#include "host/springboard/model/strings.h"
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSFileManager.h"
+#include "platform/Foundation/NSPropertyListSerialization.h"
+
+namespace host::springboard {
+namespace {
+
+NSArray array_or_nil(objc::Object object) {
+  const NSArray array = objc::cast<NSArray>(object);
+  return array.isKindOfClass(NSArray::cls()) ? array : NSArray();
+}
+
+std::optional<Slot> read_slot(objc::Object entry) {
+  if (const NSString id = string_or_nil(entry)) return Slot{to_string(id), false, {}, {}};
+  const NSDictionary folder = objc::cast<NSDictionary>(entry);
+  if (!folder.isKindOfClass(NSDictionary::cls())) return std::nullopt;
+  Slot slot;
+  slot.is_folder = true;
+  slot.title = to_string(string_or_nil(folder.objectForKey("displayName"_ns)));
+  for (const objc::Object list : array_or_nil(folder.objectForKey("iconLists"_ns)).of()) {
+    for (const objc::Object inside : array_or_nil(list).of()) {
+      if (const NSString id = string_or_nil(inside)) slot.contents.push_back(to_string(id));
+    }
+  }
+  return slot;
+}
+
+void read_dock(HomeLayout& layout, NSArray entries) {
+  for (const objc::Object entry : entries.of()) {
+    auto slot = read_slot(entry);
+    if (slot && !layout.append_to_dock(*slot)) layout.append(std::move(*slot));
+  }
+}
+
+void read_pages(HomeLayout& layout, NSArray lists) {
+  std::size_t page = 0;
+  for (const objc::Object list : lists.of()) {
+    for (const objc::Object entry : array_or_nil(list).of()) {
+      if (auto slot = read_slot(entry)) layout.append(std::move(*slot), page);
+    }
+    ++page;
+  }
+}
+
+objc::Object write_slot(const Slot& slot) {
+  if (!slot.is_folder) return to_ns(slot.id);
+  const auto contents = NSMutableArray::array();
+  for (const std::string& id : slot.contents)
+    contents.addObject(to_ns(id));
+  const auto folder = NSMutableDictionary::dictionary();
+  folder.setObject(to_ns(slot.title), "displayName"_ns);
+  folder.setObject(NSArray::arrayWithObject(contents), "iconLists"_ns);
+  return folder;
+}
+
+NSArray write_list(const HomeLayout::List& list) {
+  const auto entries = NSMutableArray::array();
+  for (const Slot& slot : list)
+    entries.addObject(write_slot(slot));
+  return entries;
+}
+
+// `-[NSDictionary writeToFile:atomically:]` leaves an empty file when a folder's name is not ASCII.
+NSData xml_data(NSDictionary state) {
+  return NSPropertyListSerialization::dataFromPropertyList(state, NSPropertyListXMLFormat_v1_0,
+                                                           nullptr);
+}
+
+NSString folder_of(NSString path) {
+  const std::string text = to_string(path);
+  return to_ns(text.substr(0, text.rfind('/')));
+}
+
+}  // namespace
+
+std::optional<HomeLayout> read_icon_state(NSString path, HomeLayout::Capacity capacity) {
+  if (!NSFileManager::defaultManager().fileExistsAtPath(path)) return std::nullopt;
+  const auto state = NSDictionary::dictionaryWithContentsOfFile(path);
+  const NSArray dock = array_or_nil(state.objectForKey("buttonBar"_ns));
+  const NSArray pages = array_or_nil(state.objectForKey("iconLists"_ns));
+  if (!dock || !pages) {
+    spdlog::warn("{} holds no arrangement of icons: the default one is used", to_string(path));
+    return std::nullopt;
+  }
+  HomeLayout layout(capacity);
+  read_dock(layout, dock);
+  read_pages(layout, pages);
+  return layout;
+}
+
+bool write_icon_state(const HomeLayout& layout, NSString path) {
+  const auto pages = NSMutableArray::array();
+  for (const HomeLayout::List& page : layout.pages())
+    pages.addObject(write_list(page));
+  const auto state = NSMutableDictionary::dictionary();
+  state.setObject(write_list(layout.dock()), "buttonBar"_ns);
+  state.setObject(pages, "iconLists"_ns);
+
+  NSFileManager::defaultManager().createDirectoryAtPath(folder_of(path), YES, nil, nullptr);
+  if (xml_data(state).writeToFile(path, YES)) return true;
+  spdlog::warn("{} could not be written: the arrangement lasts until the restart", to_string(path));
+  return false;
+}
+
+}  // namespace host::springboard
