@@ -1,0 +1,126 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "host/console/commands.h"
+
+namespace host::console {
+namespace {
+
+struct ButtonName {
+  std::string_view name;
+  Button button;
+};
+
+constexpr ButtonName kButtons[] = {
+    {"home", Button::Home},          {"home-double", Button::HomeDouble}, {"lock", Button::Lock},
+    {"volume-up", Button::VolumeUp}, {"volume-down", Button::VolumeDown},
+};
+
+constexpr std::string_view kKeys[] = {"return", "delete", "escape", "tab",  "space", "left",
+                                      "right",  "up",     "down",   "home", "end"};
+
+enum class Detail { None, Text, BundleIdentifier };
+
+struct SystemName {
+  std::string_view name;
+  std::string_view direction;  // the second word, where there is one
+  SystemEvent event;
+  Detail detail;
+};
+
+constexpr SystemName kSystemEvents[] = {
+    {"banner", "", SystemEvent::Banner, Detail::Text},
+    {"notification-centre", "", SystemEvent::NotificationCentre, Detail::None},
+    {"control-centre", "", SystemEvent::ControlCentre, Detail::None},
+    {"reachability", "", SystemEvent::Reachability, Detail::None},
+    {"lock", "", SystemEvent::Lock, Detail::None},
+    {"unlock", "", SystemEvent::Unlock, Detail::None},
+    {"edit", "on", SystemEvent::EditOn, Detail::None},
+    {"edit", "off", SystemEvent::EditOff, Detail::None},
+    {"open", "", SystemEvent::Open, Detail::BundleIdentifier},
+    {"folder", "in", SystemEvent::FolderIn, Detail::BundleIdentifier},
+    {"folder", "out", SystemEvent::FolderOut, Detail::BundleIdentifier},
+    {"dock", "in", SystemEvent::DockIn, Detail::BundleIdentifier},
+    {"dock", "out", SystemEvent::DockOut, Detail::BundleIdentifier},
+    {"uninstall", "", SystemEvent::Uninstall, Detail::BundleIdentifier},
+};
+
+Result<Answer> button(Session& session, LineReader& reader) {
+  reader.at_end();
+  const Problem unknown =
+      reader.problem("home, home-double, lock, volume-up or volume-down is missing");
+  const auto name = reader.word();
+  const auto* found = std::find_if(std::begin(kButtons), std::end(kButtons),
+                                   [name](const ButtonName& known) { return known.name == name; });
+  if (found == std::end(kButtons)) return unknown;
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().press(found->button));
+}
+
+// The text is taken as it stands, `#` included: a search may begin with one.
+Result<Answer> type(Session& session, LineReader& reader) {
+  const auto text = reader.rest();
+  if (text.empty()) return reader.problem("a text to type is missing");
+  return answer_of(session.phone().type(text));
+}
+
+Result<Answer> key(Session& session, LineReader& reader) {
+  reader.at_end();
+  const Problem unknown = reader.problem(fmt::format("a key is one of {}", fmt::join(kKeys, ", ")));
+  const auto name = reader.word();
+  if (std::find(std::begin(kKeys), std::end(kKeys), name) == std::end(kKeys)) return unknown;
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().key(name));
+}
+
+const SystemName* read_system_name(LineReader& reader) {
+  const auto name = reader.word();
+  for (const SystemName& known : kSystemEvents) {
+    if (known.name != name) continue;
+    if (known.direction.empty()) return &known;
+    if (known.direction != reader.peek_word()) continue;
+    reader.word();
+    return &known;
+  }
+  return nullptr;
+}
+
+Result<Answer> system_event(Session& session, LineReader& reader) {
+  reader.at_end();
+  const Problem unknown = reader.problem("an event of the system is missing");
+  const SystemName* found = read_system_name(reader);
+  if (!found) return unknown;
+  std::string_view detail;
+  if (found->detail == Detail::Text) {
+    detail = reader.rest();
+    if (detail.empty()) return reader.problem("a text is missing");
+  } else {
+    if (found->detail == Detail::BundleIdentifier) {
+      if (reader.at_end()) return reader.problem("a bundle identifier is missing");
+      detail = reader.word();
+    }
+    if (const auto problem = reader.end()) return *problem;
+  }
+  return answer_of(session.phone().system(found->event, detail));
+}
+
+Result<Answer> gesture(Session& session, LineReader& reader) {
+  if (reader.at_end()) return reader.problem("the name of an event is missing");
+  const auto event = reader.word();
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().gesture(event));
+}
+
+constexpr Command kCommands[] = {
+    {"button", &button},       {"type", &type},       {"key", &key},
+    {"system", &system_event}, {"gesture", &gesture},
+};
+
+}  // namespace
+
+std::span<const Command> device_commands() {
+  return kCommands;
+}
+
+}  // namespace host::console

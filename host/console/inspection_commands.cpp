@@ -1,0 +1,100 @@
+#include <fmt/format.h>
+
+#include "host/console/commands.h"
+#include "host/console/compare.h"
+#include "host/console/print.h"
+
+namespace host::console {
+namespace {
+
+// A slip of the keyboard must not keep the console busy for hours.
+constexpr double kLongestAdvance = 24 * 60 * 60;
+
+Result<Answer> advance(Session& session, LineReader& reader) {
+  reader.at_end();
+  const Problem wrong =
+      reader.problem(fmt::format("the clock advances by 0 to {} seconds", kLongestAdvance));
+  const auto seconds = reader.number("the number of seconds");
+  if (!seconds) return seconds.problem();
+  if (*seconds < 0 || *seconds > kLongestAdvance) return wrong;
+  if (const auto problem = reader.end()) return *problem;
+  session.phone().advance(*seconds);
+  return Answer{};
+}
+
+Result<Answer> print(Session& session, LineReader& reader) {
+  const auto expression = session.expression(reader);
+  if (!expression) return expression.problem();
+  if (const auto problem = reader.end()) return *problem;
+  const auto value = session.evaluator().evaluate(*expression);
+  if (!value) return value.problem();
+  return Answer{Answer::Kind::Value, text_of(*value)};
+}
+
+std::string_view written(const Expression& expression, std::string_view line) {
+  return line.substr(expression.offset, expression.end - expression.offset);
+}
+
+Result<Answer> expect(Session& session, LineReader& reader) {
+  const auto left = session.expression(reader);
+  if (!left) return left.problem();
+  const auto symbol = reader.comparison();
+  if (!symbol) return symbol.problem();
+  const auto right = session.expression(reader);
+  if (!right) return right.problem();
+  if (const auto problem = reader.end()) return *problem;
+
+  const auto found = session.evaluator().evaluate(*left);
+  if (!found) return found.problem();
+  const auto wanted = session.evaluator().evaluate(*right);
+  if (!wanted) return wanted.problem();
+  const auto comparison = comparison_named(symbol->text);
+  const auto verdict = comparison ? holds(*found, *comparison, *wanted) : std::nullopt;
+  if (!verdict) {
+    return Problem{fmt::format("{} and {} cannot be compared with {}", text_of(*found),
+                               text_of(*wanted), symbol->text),
+                   symbol->offset};
+  }
+  if (*verdict) return Answer{};
+  return Answer{Answer::Kind::Error,
+                fmt::format("expected {} {} {}, but {} is not {} {}", written(*left, reader.line()),
+                            symbol->text, written(*right, reader.line()), text_of(*found),
+                            symbol->text, text_of(*wanted))};
+}
+
+Result<Answer> screenshot(Session& session, LineReader& reader) {
+  reader.at_end();
+  const Problem wrong = reader.problem("the name of a .png file is missing");
+  const auto file = reader.rest();
+  if (!file.ends_with(".png") || file.size() == std::string_view(".png").size()) return wrong;
+  return answer_of(session.phone().screenshot(std::string(file)));
+}
+
+Result<Answer> echo(Session&, LineReader& reader) {
+  return Answer{Answer::Kind::Value, std::string(reader.rest())};
+}
+
+Result<Answer> process(Session& session, LineReader& reader) {
+  if (reader.at_end()) return reader.problem("the name of a process is missing");
+  const auto name = reader.word();
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().talk_to(name));
+}
+
+Result<Answer> quit(Session&, LineReader& reader) {
+  if (const auto problem = reader.end()) return *problem;
+  return Answer{Answer::Kind::Quit, {}};
+}
+
+constexpr Command kCommands[] = {
+    {"advance", &advance}, {"print", &print},     {"expect", &expect}, {"screenshot", &screenshot},
+    {"echo", &echo},       {"process", &process}, {"quit", &quit},
+};
+
+}  // namespace
+
+std::span<const Command> inspection_commands() {
+  return kCommands;
+}
+
+}  // namespace host::console

@@ -1,0 +1,68 @@
+#include "host/console/session.h"
+
+#include <fmt/format.h>
+
+#include "host/console/commands.h"
+#include "objc/autorelease_pool.h"
+
+namespace host::console {
+
+std::string Answer::line() const {
+  switch (kind) {
+    case Kind::Value:
+      return text;
+    case Kind::Error:
+      return "error: " + text;
+    default:
+      return "ok";
+  }
+}
+
+Answer Session::execute(std::string_view line) {
+  const objc::AutoreleasePool pool;
+  LineReader reader(line);
+  if (reader.at_end()) return {};
+  const Problem start = reader.problem("");
+  const auto name = reader.word();
+  const Command* command = command_named(name);
+  if (!command) {
+    const Problem unknown{fmt::format("no command is called {}", name), start.offset};
+    return {Answer::Kind::Error, describe(unknown, line)};
+  }
+  auto answer = command->carry_out(*this, reader);
+  if (!answer) return {Answer::Kind::Error, describe(answer.problem(), line)};
+  return std::move(*answer);
+}
+
+void Session::touch(TouchPhase phase, CGPoint point) {
+  finger_is_down_ = phase == TouchPhase::Began || phase == TouchPhase::Moved;
+  phone_.touch(phase, point);
+}
+
+Result<Expression> Session::expression(LineReader& reader) const {
+  auto made = reader.expression();
+  if (!made) return made;
+  if (auto problem = evaluator_.check(*made)) return *problem;
+  return made;
+}
+
+Result<CGPoint> Session::point(LineReader& reader) {
+  if (reader.peek_word() != "on") {
+    const auto x = reader.number("X of a point, or `on` and a view,");
+    if (!x) return x.problem();
+    const auto y = reader.number("Y of a point");
+    if (!y) return y.problem();
+    return CGPoint{*x, *y};
+  }
+  reader.word();
+  const auto made = expression(reader);
+  if (!made) return made.problem();
+  const auto view = evaluator_.evaluate(*made);
+  if (!view) return view.problem();
+  const auto* object = view->as<objc::Object>();
+  const auto centre = object ? phone_.centre_of(*object) : std::nullopt;
+  if (!centre) return Problem{"this is no view on the screen", made->offset};
+  return *centre;
+}
+
+}  // namespace host::console

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string_view>
+
+#include "host/console/answer.h"
+#include "host/console/evaluator.h"
+#include "host/console/line_reader.h"
+#include "host/console/phone.h"
+
+namespace host::console {
+
+/// Carries out the lines of one console, one after the other. A line that cannot be understood
+/// changes nothing.
+class Session {
+ public:
+  Session(Phone& phone, const Globals& globals) : phone_(phone), evaluator_(globals) {}
+
+  Answer execute(std::string_view line);
+
+  // What the commands are made of.
+
+  Phone& phone() { return phone_; }
+  bool finger_is_down() const { return finger_is_down_; }
+  void touch(TouchPhase phase, CGPoint point);
+
+  /// A checked expression whose value can be asked for later.
+  Result<Expression> expression(LineReader& reader) const;
+  const Evaluator& evaluator() const { return evaluator_; }
+  /// `X Y`, or `on EXPR`: the centre of that view.
+  Result<CGPoint> point(LineReader& reader);
+
+ private:
+  Phone& phone_;
+  Evaluator evaluator_;
+  bool finger_is_down_ = false;
+};
+
+}  // namespace host::console

@@ -1,0 +1,108 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/console/commands.h"
+
+namespace host::console {
+namespace {
+
+constexpr double kFrame = 1.0 / 60;
+// A quick finger: well within what counts as a tap, and within the time between two of them.
+constexpr double kTapHold = 0.05;
+constexpr double kTapPause = 0.08;
+constexpr int kMostTaps = 10;
+constexpr double kLongestDrag = 60;
+
+struct PhaseName {
+  std::string_view name;
+  TouchPhase phase;
+};
+
+constexpr PhaseName kPhases[] = {
+    {"began", TouchPhase::Began},
+    {"moved", TouchPhase::Moved},
+    {"ended", TouchPhase::Ended},
+    {"cancelled", TouchPhase::Cancelled},
+};
+
+const Problem kFingerIsDown{"a finger is on the screen already", 0};
+
+Result<Answer> tap(Session& session, LineReader& reader) {
+  const auto point = session.point(reader);
+  if (!point) return point.problem();
+  int count = 1;
+  if (!reader.at_end()) {
+    const Problem wrong = reader.problem(fmt::format("taps are counted from 1 to {}", kMostTaps));
+    const auto given = reader.number("the number of taps");
+    if (!given) return given.problem();
+    if (*given != std::floor(*given) || *given < 1 || *given > kMostTaps) return wrong;
+    count = static_cast<int>(*given);
+  }
+  if (const auto problem = reader.end()) return *problem;
+  if (session.finger_is_down()) return kFingerIsDown;
+  for (int i = 0; i < count; ++i) {
+    if (i > 0) session.phone().advance(kTapPause);
+    session.touch(TouchPhase::Began, *point);
+    session.phone().advance(kTapHold);
+    session.touch(TouchPhase::Ended, *point);
+  }
+  return Answer{};
+}
+
+Result<Answer> touch(Session& session, LineReader& reader) {
+  reader.at_end();
+  const Problem unknown = reader.problem("began, moved, ended or cancelled is missing");
+  const auto name = reader.word();
+  const auto* phase = std::find_if(std::begin(kPhases), std::end(kPhases),
+                                   [name](const PhaseName& known) { return known.name == name; });
+  if (phase == std::end(kPhases)) return unknown;
+  const auto point = session.point(reader);
+  if (!point) return point.problem();
+  if (const auto problem = reader.end()) return *problem;
+  const bool begins = phase->phase == TouchPhase::Began;
+  if (begins && session.finger_is_down()) return kFingerIsDown;
+  if (!begins && !session.finger_is_down()) return Problem{"no finger is on the screen", 0};
+  session.touch(phase->phase, *point);
+  return Answer{};
+}
+
+// One touch a frame, as a screen reports them, so that recognisers see the speed that was meant.
+void move_finger(Session& session, CGPoint from, CGPoint to, double seconds) {
+  const int frames = std::max(1, static_cast<int>(std::lround(seconds / kFrame)));
+  session.touch(TouchPhase::Began, from);
+  for (int frame = 1; frame <= frames; ++frame) {
+    const double part = static_cast<double>(frame) / frames;
+    session.phone().advance(seconds / frames);
+    session.touch(TouchPhase::Moved,
+                  {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part});
+  }
+  session.touch(TouchPhase::Ended, to);
+}
+
+Result<Answer> drag(Session& session, LineReader& reader) {
+  const auto from = session.point(reader);
+  if (!from) return from.problem();
+  const auto to = session.point(reader);
+  if (!to) return to.problem();
+  reader.at_end();
+  const Problem wrong = reader.problem(fmt::format("a drag lasts 0 to {} seconds", kLongestDrag));
+  const auto seconds = reader.number("the number of seconds");
+  if (!seconds) return seconds.problem();
+  if (*seconds < 0 || *seconds > kLongestDrag) return wrong;
+  if (const auto problem = reader.end()) return *problem;
+  if (session.finger_is_down()) return kFingerIsDown;
+  move_finger(session, *from, *to, *seconds);
+  return Answer{};
+}
+
+constexpr Command kCommands[] = {{"tap", &tap}, {"touch", &touch}, {"drag", &drag}};
+
+}  // namespace
+
+std::span<const Command> touch_commands() {
+  return kCommands;
+}
+
+}  // namespace host::console

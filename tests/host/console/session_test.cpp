@@ -1,0 +1,221 @@
+#include "host/console/session.h"
+
+#include <fmt/format.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/Foundation/NSString.h"
+
+namespace {
+
+using namespace host::console;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+/// Writes down what it is asked to do.
+class FakePhone : public Phone {
+ public:
+  void advance(double seconds) override {
+    now += seconds;
+    done.push_back(fmt::format("advance {:.4g}", seconds));
+  }
+  void touch(TouchPhase phase, CGPoint point) override {
+    constexpr const char* kNames[] = {"began", "moved", "ended", "cancelled"};
+    done.push_back(
+        fmt::format("{} {:.4g} {:.4g}", kNames[static_cast<int>(phase)], point.x, point.y));
+  }
+  std::optional<CGPoint> centre_of(objc::Object object) override {
+    if (objc::cast<NSObject>(object).isKindOfClass(NSString::cls())) return CGPoint{30, 40};
+    return std::nullopt;
+  }
+  Refusal type(std::string_view text) override { return note("type", text); }
+  Refusal key(std::string_view name) override { return note("key", name); }
+  Refusal press(Button button) override { return note("press", fmt::format("{}", int(button))); }
+  Refusal system(SystemEvent event, std::string_view detail) override {
+    return note("system", fmt::format("{} {}", int(event), detail));
+  }
+  Refusal gesture(std::string_view event) override { return note("gesture", event); }
+  Refusal screenshot(const std::string& file) override { return note("screenshot", file); }
+  Refusal talk_to(std::string_view process) override { return note("process", process); }
+
+  double now = 0;
+  Refusal refusal;
+  std::vector<std::string> done;
+
+ private:
+  Refusal note(std::string_view what, std::string_view detail) {
+    done.push_back(fmt::format("{} {}", what, detail));
+    return refusal;
+  }
+};
+
+int counter = 3;
+const ExportedGlobal kTable[] = {{"counter", "i", &counter}, {nullptr, nullptr, nullptr}};
+
+class Sessions : public testing::Test {
+ protected:
+  Sessions() { globals_.add_table(kTable); }
+  std::string say(std::string_view line) { return session_.execute(line).line(); }
+
+  FakePhone phone_;
+  Globals globals_;
+  Session session_{phone_, globals_};
+};
+
+TEST_F(Sessions, BlankLinesAndCommentsAreOkAndDoNothing) {
+  EXPECT_EQ(say(""), "ok");
+  EXPECT_EQ(say("   \t "), "ok");
+  EXPECT_EQ(say("# a remark"), "ok");
+  EXPECT_EQ(say("advance 1 # and a remark"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("advance 1"));
+}
+
+TEST_F(Sessions, AdvanceMovesTheClock) {
+  EXPECT_EQ(say("advance 0.25"), "ok");
+  EXPECT_EQ(say("advance -1"), "error: the clock advances by 0 to 86400 seconds (column 9)");
+  EXPECT_EQ(say("advance 1e9"), "error: the clock advances by 0 to 86400 seconds (column 9)");
+  EXPECT_EQ(say("advance"), "error: the number of seconds is missing (column 8)");
+  EXPECT_EQ(say("advance nan"), "error: the number of seconds is missing (column 9)");
+  EXPECT_EQ(say("advance 1 2"), "error: nothing more belongs here: 2 (column 11)");
+  EXPECT_THAT(phone_.done, ElementsAre("advance 0.25"));
+}
+
+TEST_F(Sessions, TapPressesHoldsAndReleases) {
+  EXPECT_EQ(say("tap 10 20.5"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("began 10 20.5", "advance 0.05", "ended 10 20.5"));
+}
+
+TEST_F(Sessions, TapsAreRepeatedWithAPauseBetween) {
+  EXPECT_EQ(say("tap 1 2 2"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("began 1 2", "advance 0.05", "ended 1 2", "advance 0.08",
+                                       "began 1 2", "advance 0.05", "ended 1 2"));
+  EXPECT_EQ(say("tap 1 2 0"), "error: taps are counted from 1 to 10 (column 9)");
+  EXPECT_EQ(say("tap 1 2 1.5"), "error: taps are counted from 1 to 10 (column 9)");
+}
+
+TEST_F(Sessions, TapFindsTheCentreOfAView) {
+  EXPECT_EQ(say("tap on @\"stands for a view\" 1"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("began 30 40", "advance 0.05", "ended 30 40"));
+  EXPECT_EQ(say("tap on [NSArray array]"), "error: this is no view on the screen (column 8)");
+  EXPECT_EQ(say("tap on nil"), "error: this is no view on the screen (column 8)");
+  EXPECT_EQ(say("tap on nowhere"), "error: nothing is called nowhere (column 8)");
+}
+
+TEST_F(Sessions, TouchGoesThroughItsPhasesInOrder) {
+  EXPECT_EQ(say("touch moved 1 2"), "error: no finger is on the screen (column 1)");
+  EXPECT_EQ(say("touch began 1 2"), "ok");
+  EXPECT_EQ(say("touch began 1 2"), "error: a finger is on the screen already (column 1)");
+  EXPECT_EQ(say("tap 1 2"), "error: a finger is on the screen already (column 1)");
+  EXPECT_EQ(say("drag 1 2 3 4 1"), "error: a finger is on the screen already (column 1)");
+  EXPECT_EQ(say("touch moved 3 4"), "ok");
+  EXPECT_EQ(say("touch cancelled 3 4"), "ok");
+  EXPECT_EQ(say("touch ended 3 4"), "error: no finger is on the screen (column 1)");
+  EXPECT_EQ(say("touch hovered 3 4"),
+            "error: began, moved, ended or cancelled is missing (column 7)");
+  EXPECT_THAT(phone_.done, ElementsAre("began 1 2", "moved 3 4", "cancelled 3 4"));
+}
+
+TEST_F(Sessions, DragMovesOnceAFrameAtASteadySpeed) {
+  EXPECT_EQ(say("drag 0 0 30 60 0.05"), "ok");
+  EXPECT_THAT(phone_.done,
+              ElementsAre("began 0 0", "advance 0.01667", "moved 10 20", "advance 0.01667",
+                          "moved 20 40", "advance 0.01667", "moved 30 60", "ended 30 60"));
+  EXPECT_NEAR(phone_.now, 0.05, 1e-12);
+}
+
+TEST_F(Sessions, DragBetweenViewsAndPointsMixes) {
+  EXPECT_EQ(say("drag on @\"view\" 30 80 0"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("began 30 40", "advance 0", "moved 30 80", "ended 30 80"));
+  EXPECT_EQ(say("drag 1 2 3"), "error: Y of a point is missing (column 11)");
+  EXPECT_EQ(say("drag 1 2 3 4 61"), "error: a drag lasts 0 to 60 seconds (column 14)");
+  EXPECT_EQ(say("drag 1 2 3 4"), "error: the number of seconds is missing (column 13)");
+}
+
+TEST_F(Sessions, KeyboardTakesTextAsItStandsAndKnownKeys) {
+  EXPECT_EQ(say("type  #1 hit & more  "), "ok");
+  EXPECT_EQ(say("key return"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("type #1 hit & more", "key return"));
+  EXPECT_EQ(say("type"), "error: a text to type is missing (column 5)");
+  EXPECT_THAT(say("key f13"), StartsWith("error: a key is one of return, "));
+}
+
+TEST_F(Sessions, ButtonsArePressed) {
+  EXPECT_EQ(say("button home"), "ok");
+  EXPECT_EQ(say("button volume-down"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("press 0", "press 4"));
+  EXPECT_THAT(say("button power"), StartsWith("error: home, home-double"));
+}
+
+TEST_F(Sessions, SystemEventsCarryTheirDetail) {
+  EXPECT_EQ(say("system banner New mail"), "ok");
+  EXPECT_EQ(say("system edit on"), "ok");
+  EXPECT_EQ(say("system edit off"), "ok");
+  EXPECT_EQ(say("system dock out com.apple.Music"), "ok");
+  EXPECT_EQ(say("system control-centre"), "ok");
+  EXPECT_THAT(phone_.done,
+              ElementsAre(fmt::format("system {} New mail", int(SystemEvent::Banner)),
+                          fmt::format("system {} ", int(SystemEvent::EditOn)),
+                          fmt::format("system {} ", int(SystemEvent::EditOff)),
+                          fmt::format("system {} com.apple.Music", int(SystemEvent::DockOut)),
+                          fmt::format("system {} ", int(SystemEvent::ControlCentre))));
+}
+
+TEST_F(Sessions, SystemEventsThatAreIncompleteAreRefused) {
+  EXPECT_EQ(say("system"), "error: an event of the system is missing (column 7)");
+  EXPECT_EQ(say("system dance"), "error: an event of the system is missing (column 8)");
+  EXPECT_EQ(say("system edit"), "error: an event of the system is missing (column 8)");
+  EXPECT_EQ(say("system dock in"), "error: a bundle identifier is missing (column 15)");
+  EXPECT_EQ(say("system lock now"), "error: nothing more belongs here: now (column 13)");
+  EXPECT_EQ(say("system banner"), "error: a text is missing (column 14)");
+  EXPECT_THAT(phone_.done, IsEmpty());
+}
+
+TEST_F(Sessions, WhatThePhoneRefusesIsAnError) {
+  phone_.refusal = "not available yet";
+  EXPECT_EQ(say("gesture shake"), "error: not available yet");
+  EXPECT_EQ(say("process Settings"), "error: not available yet");
+  EXPECT_EQ(say("screenshot a.png"), "error: not available yet");
+}
+
+TEST_F(Sessions, PrintAnswersWithTheValue) {
+  EXPECT_EQ(say("print counter"), "3");
+  EXPECT_EQ(say("print [@\"a\" uppercaseString]"), "\"A\"");
+  EXPECT_EQ(say("print counter counter"), "error: nothing more belongs here: counter (column 15)");
+  EXPECT_EQ(say("print"), "error: the end of the line begins no expression (column 6)");
+  EXPECT_EQ(say("echo one  two"), "one  two");
+}
+
+TEST_F(Sessions, ExpectationsThatHoldAreOk) {
+  EXPECT_EQ(say("expect counter == 3"), "ok");
+  EXPECT_EQ(say("expect counter != 4"), "ok");
+  EXPECT_EQ(say("expect counter<=3 # remark"), "ok");
+  EXPECT_EQ(say("expect {1, 2} ~= {1.001, 2}"), "ok");
+}
+
+TEST_F(Sessions, ExpectationsThatFailShowBothValues) {
+  EXPECT_EQ(say("expect counter == [@\"four\" length]"),
+            "error: expected counter == [@\"four\" length], but 3 is not == 4");
+  EXPECT_EQ(say("expect counter < @\"x\""),
+            "error: 3 and \"x\" cannot be compared with < (column 16)");
+  EXPECT_THAT(say("expect counter"), StartsWith("error: a comparison"));
+  EXPECT_THAT(say("expect counter = 3"), StartsWith("error: a comparison"));
+}
+
+TEST_F(Sessions, ScreenshotsAreNamedPngFiles) {
+  EXPECT_EQ(say("screenshot open panel.png"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("screenshot open panel.png"));
+  EXPECT_EQ(say("screenshot panel.jpg"), "error: the name of a .png file is missing (column 12)");
+}
+
+TEST_F(Sessions, QuitAsksForTheEnd) {
+  EXPECT_EQ(session_.execute("quit").kind, Answer::Kind::Quit);
+  EXPECT_EQ(session_.execute("quit now").kind, Answer::Kind::Error);
+}
+
+TEST_F(Sessions, UnknownCommandsAreErrorsWithTheirColumn) {
+  EXPECT_EQ(say("  jump 3"), "error: no command is called jump (column 3)");
+  EXPECT_EQ(say("[counter]"), "error: no command is called [counter] (column 1)");
+}
+
+}  // namespace
