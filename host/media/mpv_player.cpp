@@ -4,9 +4,9 @@
 #include <mpv/client.h>
 
 #include <algorithm>
-#include <array>
 #include <clocale>
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include "host/media/log.h"
@@ -19,7 +19,12 @@ constexpr double loudest_percent = 100;
 // Closer than this the engine need not be moved: nothing that looks at it shows less.
 constexpr double unseen_drift_seconds = 0.05;
 
-constexpr std::array<std::pair<const char*, const char*>, 12> engine_options = {{
+struct Option {
+  const char* name;
+  const char* value;
+};
+
+constexpr Option engine_options[] = {
     {"config", "no"},
     {"load-scripts", "no"},
     {"ytdl", "no"},
@@ -32,7 +37,20 @@ constexpr std::array<std::pair<const char*, const char*>, 12> engine_options = {
     {"audio-fallback-to-null", "yes"},
     {"pause", "yes"},
     {"cache", "no"},
-}};
+};
+
+// A device of one sample that never takes another: what the engine calls its position is then the
+// position it was sought to, to the sample, playing or paused. The clock says when a song is over;
+// left alone, the engine would unload a file as soon as its last moments were in its hands.
+constexpr Option stepped_options[] = {
+    {"ao", "null"},
+    {"ao-null-speed", "0"},
+    {"ao-null-buffer", "0"},
+    {"ao-null-outburst", "1"},
+    {"audio-buffer", "0"},
+    {"keep-open", "yes"},
+    {"keep-open-pause", "no"},
+};
 
 double number(mpv_handle* engine, const char* name) {
   double value = 0;
@@ -72,19 +90,14 @@ MpvPlayer::~MpvPlayer() {
 
 bool MpvPlayer::prepare() {
   if (!engine_) return false;
-  for (const auto& [name, value] : engine_options) {
-    if (mpv_set_option_string(engine_.get(), name, value) < 0) return false;
-  }
-  if (is_stepped()) {
-    mpv_set_option_string(engine_.get(), "ao", "null");
-    if (mpv_set_option_string(engine_.get(), "ao-null-speed", "0") < 0) return false;
-    // The clock says when a song is over. Left alone, the engine would unload a file as soon as it
-    // was sought into the last moments, which fit into its buffer.
-    mpv_set_option_string(engine_.get(), "keep-open", "yes");
-    mpv_set_option_string(engine_.get(), "keep-open-pause", "no");
-  } else if (!options_.audio_output.empty()) {
-    mpv_set_option_string(engine_.get(), "ao", options_.audio_output.c_str());
-  }
+  auto set_options = [this](std::span<const Option> options) {
+    return std::ranges::all_of(options, [this](const Option& option) {
+      return mpv_set_option_string(engine_.get(), option.name, option.value) >= 0;
+    });
+  };
+  const Option output{"ao", options_.audio_output.c_str()};
+  if (!set_options(engine_options)) return false;
+  if (is_stepped() ? !set_options(stepped_options) : !set_options({&output, 1})) return false;
   mpv_set_wakeup_callback(
       engine_.get(), [](void* signal) { static_cast<EventSignal*>(signal)->raise(); }, &signal_);
   return mpv_initialize(engine_.get()) >= 0;
@@ -150,6 +163,7 @@ void MpvPlayer::stop() {
   if (is_stepped()) stepped_.jump(0, now());
   const char* command[] = {"stop", nullptr};
   mpv_command(engine_.get(), command);
+  if (is_stepped()) wait_until([this] { return text(engine_.get(), "path").empty(); });
 }
 
 void MpvPlayer::seek(double seconds) {
