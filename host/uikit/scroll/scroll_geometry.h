@@ -1,0 +1,33 @@
+#pragma once
+
+#include <algorithm>
+
+#include "host/uikit/scroll/paging.h"
+#include "platform/UIKit/UIGeometry.h"
+
+namespace host::uikit {
+
+/// Which offsets a scroll view may rest at. The smallest is the inset before the content, negated;
+/// content smaller than the view rests there.
+struct ScrollGeometry {
+  CGSize view;
+  CGSize content;
+  UIEdgeInsets inset;
+
+  OffsetRange horizontal() const {
+    return range(inset.left, inset.right, content.width, view.width);
+  }
+  OffsetRange vertical() const {
+    return range(inset.top, inset.bottom, content.height, view.height);
+  }
+  CGPoint clamp(CGPoint offset) const {
+    return {horizontal().clamp(offset.x), vertical().clamp(offset.y)};
+  }
+
+ private:
+  static OffsetRange range(double before, double after, double content, double view) {
+    return {-before, std::max(-before, content + after - view)};
+  }
+};
+
+}  // namespace host::uikit

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/uikit/scroll/scroll_geometry.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UIScrollView.h"
+
+namespace host::uikit {
+
+/// The two slim bars that tell where in its content a scroll view is. Only their layers join the
+/// view: whoever walks its subviews finds content alone.
+class ScrollIndicators {
+ public:
+  struct Shown {
+    bool horizontal;
+    bool vertical;
+  };
+
+  explicit ScrollIndicators(UIScrollView view) : view_(view) {}
+  ~ScrollIndicators();
+
+  void set_style(UIScrollViewIndicatorStyle style);
+  /// Puts them where `offset` in `geometry` belongs, `insets` from the view's edges.
+  void place(const ScrollGeometry& geometry, CGPoint offset, UIEdgeInsets insets, Shown shown);
+  void appear();
+  void fade();
+
+ private:
+  UIView bar(objc::Ref<UIView>& bar);
+  void place_bar(objc::Ref<UIView>& bar, bool shown, CGRect frame);
+
+  UIScrollView view_;
+  UIScrollViewIndicatorStyle style_ = UIScrollViewIndicatorStyleDefault;
+  objc::Ref<UIView> horizontal_;
+  objc::Ref<UIView> vertical_;
+  bool visible_ = false;
+};
+
+}  // namespace host::uikit

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+
+#include "host/runtime/run_loop.h"
+#include "host/uikit/scroll/axis_glide.h"
+#include "objc/object.h"
+#include "platform/CoreGraphics/CGGeometry.h"
+
+namespace host::uikit {
+
+/// What moves an offset without a finger: a glide after a release, or the animation to an offset
+/// that was set. It asks the loop for frames only while it runs.
+class ScrollMotion {
+ public:
+  enum class Kind { None, Glide, Animation };
+
+  /// `owner` holds this motion, and is kept alive through each frame. `move` gets every new offset,
+  /// `finish` what came to its end by itself.
+  ScrollMotion(objc::Object owner, std::function<void(CGPoint)> move,
+               std::function<void(Kind)> finish);
+  ScrollMotion(const ScrollMotion&) = delete;
+  ScrollMotion& operator=(const ScrollMotion&) = delete;
+  ~ScrollMotion() { stop(); }
+
+  void glide(AxisGlide horizontal, AxisGlide vertical);
+  void animate(CGPoint from, CGPoint to);
+  /// Ends the motion where it is; nobody is told.
+  void stop();
+
+  Kind kind() const { return kind_; }
+  bool runs() const { return kind_ != Kind::None; }
+  /// In points a second, of a glide.
+  CGPoint velocity() const;
+  /// Where it is going to rest.
+  CGPoint end() const;
+
+ private:
+  void start(Kind kind, double duration);
+  void frame(double now);
+  CGPoint offset_at(double time) const;
+
+  objc::Object owner_;
+  std::function<void(CGPoint)> move_;
+  std::function<void(Kind)> finish_;
+  Kind kind_ = Kind::None;
+  RunLoop::Id observer_ = 0;
+  double started_ = 0;
+  double duration_ = 0;
+  AxisGlide horizontal_;
+  AxisGlide vertical_;
+  CGPoint from_;
+  CGPoint to_;
+};
+
+}  // namespace host::uikit
