@@ -1,0 +1,44 @@
+#pragma once
+
+#include <vector>
+
+#include "host/quartzcore/color.h"
+#include "host/quartzcore/image.h"
+#include "host/quartzcore/surface.h"
+#include "platform/CoreGraphics/CGContext.h"
+
+/// What a CGContextRef points to: a Cairo drawing whose user space is points from the top left,
+/// with the colours that Cairo keeps in one source only. Counted by hand.
+struct CGContext {
+  struct State {
+    host::quartzcore::Rgba fill{0, 0, 0, 1};
+    host::quartzcore::Rgba stroke{0, 0, 0, 1};
+    double alpha = 1;
+    CGInterpolationQuality interpolation = kCGInterpolationDefault;
+  };
+
+  host::quartzcore::Surface surface;
+  host::quartzcore::Drawing drawing;
+  host::quartzcore::Opacity opacity = host::quartzcore::Opacity::Translucent;
+  std::vector<State> states = std::vector<State>(1);
+  int references = 1;
+
+  State& state() { return states.back(); }
+  cairo_t* cairo() const { return drawing.get(); }
+};
+
+namespace host::quartzcore {
+
+/// A context (+1) on new transparent pixels; `scale` pixels to the point. Sizes in points, rounded
+/// up to whole pixels.
+CGContextRef make_bitmap_context(CGSize size, double scale, Opacity opacity);
+
+/// The drawing behind a context, for text; null for null.
+inline cairo_t* cairo_of(CGContextRef context) {
+  return context ? context->cairo() : nullptr;
+}
+
+/// Draws the whole image into `rect` of the drawing's user space.
+void draw_image(cairo_t* drawing, const Image& image, CGRect rect, double alpha);
+
+}  // namespace host::quartzcore

@@ -1,0 +1,48 @@
+#include "host/quartzcore/surface.h"
+
+#include <libyuv/scale_argb.h>
+
+#include <algorithm>
+
+namespace host::quartzcore {
+namespace {
+
+Surface scale_once(const Surface& source, int width, int height) {
+  const Surface result = make_surface(width, height);
+  cairo_surface_flush(source.get());
+  libyuv::ARGBScale(
+      cairo_image_surface_get_data(source.get()), cairo_image_surface_get_stride(source.get()),
+      width_of(source), height_of(source), cairo_image_surface_get_data(result.get()),
+      cairo_image_surface_get_stride(result.get()), width, height, libyuv::kFilterBox);
+  cairo_surface_mark_dirty(result.get());
+  return result;
+}
+
+}  // namespace
+
+Surface make_surface(int width, int height) {
+  return Surface::adopt(
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, std::max(width, 1), std::max(height, 1)));
+}
+
+Drawing draw_on(const Surface& surface) {
+  return Drawing::adopt(cairo_create(surface.get()));
+}
+
+Surface scaled_copy(const Surface& source, int width, int height) {
+  width = std::max(width, 1);
+  height = std::max(height, 1);
+  Surface current = source;
+  // The scaler looks at two pixels each way: larger steps would skip what lies between.
+  while (width_of(current) >= 2 * width || height_of(current) >= 2 * height) {
+    const int next_width =
+        width_of(current) >= 2 * width ? width_of(current) / 2 : width_of(current);
+    const int next_height =
+        height_of(current) >= 2 * height ? height_of(current) / 2 : height_of(current);
+    current = scale_once(current, next_width, next_height);
+  }
+  if (width_of(current) == width && height_of(current) == height) return current;
+  return scale_once(current, width, height);
+}
+
+}  // namespace host::quartzcore
