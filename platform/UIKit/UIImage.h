@@ -3,7 +3,6 @@
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/Foundation/NSData.h"
-#include "platform/UIKit/UIGeometry.h"
 
 enum UIImageOrientation : NSInteger {
   UIImageOrientationUp = 0,
@@ -64,10 +63,6 @@ struct UIImage : objc::Bound<UIImage, "UIImage", NSObject> {
   }
   UIImage imageWithRenderingMode(UIImageRenderingMode mode) const {
     return call<"imageWithRenderingMode:", UIImage>(mode);
-  }
-  UIEdgeInsets capInsets() const { return call<"capInsets", UIEdgeInsets>(); }
-  UIImage resizableImageWithCapInsets(UIEdgeInsets insets) const {
-    return call<"resizableImageWithCapInsets:", UIImage>(insets);
   }
 
   void drawAtPoint(CGPoint point) const { call<"drawAtPoint:">(point); }

@@ -1,0 +1,79 @@
+#include "host/uikit/drawing/font_face.h"
+
+#include <algorithm>
+#include <array>
+
+namespace host::uikit {
+namespace {
+
+constexpr const char* kSans = "Inter";
+constexpr const char* kMonospaced = "DejaVu Sans Mono";
+
+// The drawn letters stand taller and set wider than the platform's. Their x-heights agree at this
+// size, and the tracking of each weight takes away what is then left of the extra width.
+constexpr double kSansSize = 0.965;
+constexpr double kThinTracking = 0.006;
+constexpr double kLightTracking = -0.004;
+constexpr double kRegularTracking = -0.010;
+constexpr double kMediumTracking = -0.012;
+constexpr double kBoldTracking = -0.010;
+
+constexpr double kMonospacedSize = 0.997;
+
+constexpr FontFace sans(std::string_view name, int weight, bool italic, double tracking) {
+  return {name, "Helvetica Neue", kSans, weight, italic, kSansSize, tracking};
+}
+
+constexpr std::array kFaces{
+    sans("HelveticaNeue", 400, false, kRegularTracking),
+    sans("HelveticaNeue-Bold", 700, false, kBoldTracking),
+    sans("HelveticaNeue-Italic", 400, true, kRegularTracking),
+    sans("HelveticaNeue-UltraLight", 100, false, kThinTracking),
+    sans("HelveticaNeue-Thin", 200, false, kThinTracking),
+    sans("HelveticaNeue-Light", 300, false, kLightTracking),
+    sans("HelveticaNeue-LightItalic", 300, true, kLightTracking),
+    sans("HelveticaNeue-Medium", 500, false, kMediumTracking),
+    sans("HelveticaNeue-MediumItalic", 500, true, kMediumTracking),
+    sans("HelveticaNeue-BoldItalic", 700, true, kBoldTracking),
+    FontFace{"Helvetica", "Helvetica", kSans, 400, false, kSansSize, kRegularTracking},
+    FontFace{"Helvetica-Bold", "Helvetica", kSans, 700, false, kSansSize, kBoldTracking},
+    FontFace{"Helvetica-Light", "Helvetica", kSans, 300, false, kSansSize, kLightTracking},
+    FontFace{"Courier", "Courier", kMonospaced, 400, false, kMonospacedSize, 0},
+    FontFace{"Menlo-Regular", "Menlo", kMonospaced, 400, false, kMonospacedSize, 0},
+};
+
+const FontFace& face_at(std::string_view name) {
+  return *std::find_if(kFaces.begin(), kFaces.end(),
+                       [&](const FontFace& face) { return face.name == name; });
+}
+
+}  // namespace
+
+std::optional<FontFace> face_named(std::string_view name) {
+  const auto found = std::find_if(kFaces.begin(), kFaces.end(), [&](const FontFace& face) {
+    return face.name == name || (face.family == name && face.weight == 400 && !face.italic);
+  });
+  if (found == kFaces.end()) return std::nullopt;
+  return *found;
+}
+
+const FontFace& system_face() {
+  return face_at("HelveticaNeue");
+}
+
+const FontFace& bold_system_face() {
+  // The platform's bold system font is the medium weight: its bold would shout in a title.
+  return face_at("HelveticaNeue-Medium");
+}
+
+const FontFace& italic_system_face() {
+  return face_at("HelveticaNeue-Italic");
+}
+
+FaceMetrics metrics_of(const FontFace& face) {
+  // The platform's own, so that a label of one line is as tall here as there: 20.5 points at 17.
+  if (face.drawn_family == kSans) return {0.952, -0.213, 0.028, 0.714, 0.523};
+  return {0.928, -0.236, 0.0, 0.729, 0.547};
+}
+
+}  // namespace host::uikit
