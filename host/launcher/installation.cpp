@@ -1,0 +1,14 @@
+#include "host/launcher/installation.h"
+
+namespace host::launcher {
+
+Installation find_installation() {
+  std::error_code error;
+  // <build>/bin/sonavue, beside it SpringBoard and the device's tools.
+  const auto programs = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+  const auto build = programs.parent_path();
+  return {
+      programs / "SpringBoard", programs / "device", {build / "staging", build / "applications"}};
+}
+
+}  // namespace host::launcher

@@ -1,0 +1,107 @@
+#include "host/launcher/options.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+
+#include "host/runtime/device_model.h"
+
+namespace host::launcher {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kDescription =
+    "Sonavue on the desktop: a home screen to use with a mouse, a finger or a key.";
+
+std::string check_device(const std::string& identifier) {
+  if (device_model(identifier)) return {};
+  std::string known;
+  for (const DeviceModel& model : device_models()) {
+    if (!known.empty()) known += ", ";
+    known += model.identifier;
+  }
+  return "no device is called " + identifier + "; there are " + known;
+}
+
+std::string check_music(const std::string& folder) {
+  std::error_code error;
+  if (fs::is_directory(folder, error)) return {};
+  return folder + " is not a folder of music";
+}
+
+std::string check_script(const std::string& file) {
+  std::error_code error;
+  if (fs::is_regular_file(file, error) || fs::is_fifo(file, error)) return {};
+  return file + " is not a script";
+}
+
+fs::path made_absolute(const fs::path& path) {
+  std::error_code error;
+  const auto made = fs::weakly_canonical(fs::absolute(path), error);
+  return error ? path : made;
+}
+
+void make_absolute(Options& options) {
+  options.root = made_absolute(options.root);
+  options.screenshots = made_absolute(options.screenshots);
+  if (!options.script.empty()) options.script = made_absolute(options.script);
+  for (fs::path& folder : options.music)
+    folder = made_absolute(folder);
+}
+
+}  // namespace
+
+std::variant<Options, Ending> read_options(int count, const char* const* arguments) {
+  Options options;
+  options.device = kDefaultDevice;
+  options.root = default_device_root();
+  options.screenshots = ".";
+
+  CLI::App parser(kDescription, "sonavue");
+  parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
+  parser.add_option("--device", options.device, "Which phone or tablet to be, as iPhone7,2")
+      ->check(check_device);
+  parser.add_option("--root", options.root, "Folder that holds the device's own files");
+  parser.add_option("--music", options.music, "Folder of music; may be given more than once")
+      ->check(check_music)
+      ->allow_extra_args(false);
+  parser.add_option("--without", options.without, "Identifier of an application to leave out")
+      ->allow_extra_args(false);
+  parser.add_flag("--headless", options.headless, "No window");
+  parser.add_flag("--console", options.console, "Read commands on standard input");
+  parser.add_option("--script", options.script, "Run a file of commands, then end")
+      ->check(check_script);
+  parser.add_option("--screenshots", options.screenshots, "Folder for screenshots");
+  try {
+    parser.parse(count, arguments);
+  } catch (const CLI::CallForHelp&) {
+    return Ending{0, parser.help()};
+  } catch (const CLI::CallForVersion&) {
+    return Ending{0, parser.version() + "\n"};
+  } catch (const CLI::ParseError& error) {
+    return Ending{kBadUsage, std::string("sonavue: ") + error.what() + "\n"};
+  }
+  make_absolute(options);
+  return options;
+}
+
+fs::path default_device_root() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  if (data && *data == '/') return fs::path(data) / "sonavue/device";
+  const char* home = std::getenv("HOME");
+  return fs::path(home ? home : "/") / ".local/share/sonavue/device";
+}
+
+std::vector<std::string> home_screen_arguments(const Options& options) {
+  std::vector<std::string> made = {"--device",   options.device,  "--root",
+                                   options.root, "--screenshots", options.screenshots};
+  for (const fs::path& folder : options.music) {
+    made.push_back("--music");
+    made.push_back(folder);
+  }
+  if (options.headless) made.push_back("--headless");
+  if (options.has_stepped_clock()) made.push_back("--stepped");
+  return made;
+}
+
+}  // namespace host::launcher

@@ -1,0 +1,71 @@
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "host/launcher/installation.h"
+#include "host/launcher/options.h"
+#include "host/launcher/supervisor.h"
+#include "host/runtime/log.h"
+
+namespace {
+
+using namespace host::launcher;
+
+int complain(const std::string& reason) {
+  std::fprintf(stderr, "sonavue: %s\n", reason.c_str());
+  return kBadUsage;
+}
+
+std::string path_with(const std::filesystem::path& tools) {
+  const char* path = std::getenv("PATH");
+  return tools.string() + ":" + (path ? path : "/usr/bin:/bin");
+}
+
+bool has_display() {
+  return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("SDL_VIDEODRIVER");
+}
+
+/// Nothing when the options name a script that cannot be read.
+std::optional<ConsoleFront> console_for(const Options& options) {
+  Script script;
+  if (!options.script.empty()) {
+    auto read = read_script(options.script);
+    if (!read) return std::nullopt;
+    script = std::move(*read);
+  }
+  return ConsoleFront(std::move(script), options.console ? STDIN_FILENO : -1, stdout, stderr);
+}
+
+int run_phone(const Options& options) {
+  const Installation installation = find_installation();
+  if (auto reason = prepare_device_root(options.root)) return complain(*reason);
+  if (auto reason = stage(installation.staging, options.root, options.without))
+    return complain(*reason);
+  const host::RealClock clock;
+  const ChildCommand command{installation.home_screen,
+                             home_screen_arguments(options),
+                             {{"PATH", path_with(installation.tools)}}};
+  if (!options.console && options.script.empty()) return Supervisor(command, clock, nullptr).run();
+  auto front = console_for(options);
+  if (!front) return complain(options.script.string() + " cannot be read");
+  return Supervisor(command, clock, &*front).run();
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  host::start_log("sonavue");
+  const auto read = read_options(count, arguments);
+  if (const auto* ending = std::get_if<Ending>(&read)) {
+    std::fputs(ending->text.c_str(), ending->status == 0 ? stdout : stderr);
+    return ending->status;
+  }
+  const auto& options = std::get<Options>(read);
+  if (!options.headless && !has_display()) {
+    return complain(
+        "there is no display to open a window on. Start it on a desktop, or look without one: "
+        "--headless --console, then `screenshot FILE.png`.");
+  }
+  return run_phone(options);
+}

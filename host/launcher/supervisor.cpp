@@ -1,0 +1,168 @@
+#include "host/launcher/supervisor.h"
+
+#include <poll.h>
+#include <signal.h>
+#include <sys/signalfd.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+
+#include "host/runtime/log.h"
+
+namespace host::launcher {
+namespace {
+
+// How long a process may take to end in good order.
+constexpr double kPatience = 2.0;
+constexpr int kWakeWhileImpatient = 50;  // milliseconds
+
+/// Blocks the signals that are read from a descriptor, and lets them through again at the end.
+class BlockedSignals {
+ public:
+  BlockedSignals() {
+    sigemptyset(&signals_);
+    for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+      sigaddset(&signals_, signal);
+    sigprocmask(SIG_BLOCK, &signals_, &before_);
+  }
+  ~BlockedSignals() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
+  BlockedSignals(const BlockedSignals&) = delete;
+  BlockedSignals& operator=(const BlockedSignals&) = delete;
+
+  Descriptor descriptor() const { return Descriptor(signalfd(-1, &signals_, SFD_CLOEXEC)); }
+
+ private:
+  sigset_t signals_;
+  sigset_t before_;
+};
+
+std::string how_it_ended(int status) {
+  if (WIFSIGNALED(status)) return fmt::format("ended by signal {}", WTERMSIG(status));
+  return fmt::format("ended with status {}", WEXITSTATUS(status));
+}
+
+}  // namespace
+
+Supervisor::Supervisor(ChildCommand command, const Clock& clock, ConsoleFront* front)
+    : command_(std::move(command)), clock_(clock), front_(front) {
+  if (control_) command_.environment.emplace_back(kControlSocketVariable, control_.path());
+}
+
+int Supervisor::run() {
+  const BlockedSignals blocked;
+  signals_ = blocked.descriptor();
+  if (!control_) spdlog::warn("no socket could be made: `killall SpringBoard` will do nothing");
+  start();
+  while (!status_)
+    wait_for_something();
+  return *status_;
+}
+
+void Supervisor::start() {
+  ChildCommand command = command_;
+  Descriptor theirs;
+  int pair[2];
+  if (front_ && socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair) == 0) {
+    console_ = Descriptor(pair[0]);
+    theirs = Descriptor(pair[1]);
+    command.arguments.push_back(kConsoleArgument);
+    command.arguments.push_back(std::to_string(theirs.get()));
+  }
+  const auto child = start_child(command, theirs.get());
+  if (!child) {
+    spdlog::error("{} cannot be started", command_.program.filename().string());
+    status_ = kGaveUp;
+    return;
+  }
+  child_ = *child;
+  restart_asked_ = false;
+  patience_ends_.reset();
+  if (console_) front_->attach(console_.get());
+}
+
+void Supervisor::wait_for_something() {
+  // poll passes over negative descriptors.
+  pollfd waiting[] = {
+      {signals_.get(), POLLIN, 0},
+      {control_.descriptor(), POLLIN, 0},
+      {front_ ? front_->awaited_answer() : -1, POLLIN, 0},
+      {front_ ? front_->awaited_input() : -1, POLLIN, 0},
+  };
+  poll(waiting, std::size(waiting), patience_ends_ ? kWakeWhileImpatient : -1);
+  // Answers first: the last one may lie there although its process is gone.
+  if (waiting[2].revents) front_->read_answer();
+  if (waiting[0].revents) take_signal();
+  if (waiting[1].revents && control_.take_restart_request() && child_ && !ending_signal_) {
+    restart_asked_ = true;
+    ask_child_to_end(SIGTERM);
+  }
+  if (waiting[3].revents && !status_) front_->read_input();
+  if (front_ && front_->verdict() && child_ && !patience_ends_) ask_child_to_end(SIGTERM);
+  end_impatiently();
+}
+
+void Supervisor::take_signal() {
+  signalfd_siginfo info;
+  if (read(signals_.get(), &info, sizeof info) != sizeof info) return;
+  const int signal = static_cast<int>(info.ssi_signo);
+  if (signal == SIGCHLD) {
+    reap();
+    return;
+  }
+  ending_signal_ = signal;
+  ask_child_to_end(signal);
+}
+
+void Supervisor::reap() {
+  int status = 0;
+  if (child_ == 0 || waitpid(child_, &status, WNOHANG) != child_) return;
+  child_ = 0;
+  if (front_) {
+    while (console_ && front_->awaited_answer() >= 0)
+      front_->read_answer();
+    front_->detach(restart_asked_ ? ConsoleFront::Departure::Asked
+                                  : ConsoleFront::Departure::Unexpected);
+  }
+  console_.reset();
+  child_ended(status);
+}
+
+void Supervisor::child_ended(int status) {
+  const bool exited = WIFEXITED(status);
+  if (ending_signal_) {
+    status_ = 128 + ending_signal_;
+  } else if (front_ && front_->verdict()) {
+    status_ = front_->verdict();
+  } else if (restart_asked_) {
+    start_again();
+  } else if (exited && WEXITSTATUS(status) == 0) {
+    status_ = 0;
+  } else if (exited && WEXITSTATUS(status) == kCannotStart) {
+    status_ = kCannotStart;
+  } else {
+    spdlog::warn("{} {}", command_.program.filename().string(), how_it_ended(status));
+    start_again();
+  }
+}
+
+void Supervisor::start_again() {
+  if (limit_.allow(clock_.now())) {
+    start();
+    return;
+  }
+  spdlog::error("{} ended more than {} times within a minute: the phone stays off",
+                command_.program.filename().string(), RestartLimit::kMostRestarts);
+  status_ = kGaveUp;
+}
+
+void Supervisor::ask_child_to_end(int signal) {
+  if (child_ == 0) return;
+  kill(child_, signal);
+  patience_ends_ = clock_.now() + kPatience;
+}
+
+void Supervisor::end_impatiently() {
+  if (!patience_ends_ || child_ == 0 || clock_.now() < *patience_ends_) return;
+  kill(child_, SIGKILL);
+}
+
+}  // namespace host::launcher

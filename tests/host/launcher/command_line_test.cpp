@@ -1,0 +1,110 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include "host/launcher/options.h"
+#include "tests/host/launcher/temporary_folder.h"
+
+namespace {
+
+using namespace host::launcher;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+struct Outcome {
+  int status;
+  std::vector<std::string> errors;
+};
+
+/// Runs the launcher as a user does, without a display.
+class CommandLine : public testing::Test {
+ protected:
+  Outcome run(const std::string& arguments) {
+    const auto errors = folder_.path() / "errors";
+    const std::string line = "env -u DISPLAY -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER " LAUNCHER " " +
+                             arguments + " >/dev/null 2>" + errors.string();
+    const int status = std::system(line.c_str());
+    return {WEXITSTATUS(status), lines_of(errors)};
+  }
+  TemporaryFolder folder_;
+};
+
+TEST_F(CommandLine, MusicThatIsNotThereIsOneLineAndStatusTwo) {
+  const auto outcome = run("--headless --music /nowhere/music");
+  EXPECT_EQ(outcome.status, 2);
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("/nowhere/music is not a folder of music"));
+}
+
+TEST_F(CommandLine, AnUnknownDeviceIsOneLineWithTheKnownOnesAndStatusTwo) {
+  const auto outcome = run("--headless --device iPhone99,9");
+  EXPECT_EQ(outcome.status, 2);
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("iPhone99,9"));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("iPhone7,2"));
+}
+
+TEST_F(CommandLine, ARootThatCannotBeWrittenIsOneLineAndStatusTwo) {
+  const auto outcome = run("--headless --root /dev/null/root");
+  EXPECT_EQ(outcome.status, 2);
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("/dev/null/root"));
+}
+
+TEST_F(CommandLine, AScriptThatIsNotThereIsOneLineAndStatusTwo) {
+  const auto outcome = run("--headless --script /nowhere/a.scn");
+  EXPECT_EQ(outcome.status, 2);
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("/nowhere/a.scn is not a script"));
+}
+
+TEST_F(CommandLine, UnknownOptionsAreOneLineAndStatusTwo) {
+  const auto outcome = run("--colour red");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_THAT(outcome.errors, SizeIs(1));
+}
+
+TEST_F(CommandLine, WithoutADisplayTheUserIsToldHowToLook) {
+  const auto outcome = run("");
+  EXPECT_EQ(outcome.status, 2);
+  ASSERT_THAT(outcome.errors, SizeIs(1));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("--headless"));
+}
+
+TEST_F(CommandLine, HelpAndVersionSucceedWithNothingOnTheErrorStream) {
+  EXPECT_EQ(run("--help").status, 0);
+  const auto version = run("--version");
+  EXPECT_EQ(version.status, 0);
+  EXPECT_THAT(version.errors, SizeIs(0));
+}
+
+TEST(Options, RepeatedOnesAddUpAndPathsBecomeAbsolute) {
+  const char* arguments[] = {"sonavue", "--music",   "/usr", "--music", "/etc",     "--without",
+                             "a.b",     "--without", "c.d",  "--root",  "relative", "--headless"};
+  const auto read = read_options(std::size(arguments), arguments);
+  const auto& options = std::get<Options>(read);
+  EXPECT_EQ(options.music, (std::vector<std::filesystem::path>{"/usr", "/etc"}));
+  EXPECT_EQ(options.without, (std::vector<std::string>{"a.b", "c.d"}));
+  EXPECT_TRUE(options.root.is_absolute());
+  EXPECT_EQ(options.device, "iPhone7,2");
+}
+
+TEST(Options, TheClockIsSteppedOnlyWhenSomebodyStepsIt) {
+  Options options;
+  options.headless = true;
+  EXPECT_FALSE(options.has_stepped_clock());
+  options.console = true;
+  EXPECT_TRUE(options.has_stepped_clock());
+  options.headless = false;
+  EXPECT_FALSE(options.has_stepped_clock());
+}
+
+TEST(Options, TheDeviceLivesInTheUsersDataFolder) {
+  setenv("XDG_DATA_HOME", "/data", 1);
+  EXPECT_EQ(default_device_root(), "/data/sonavue/device");
+  unsetenv("XDG_DATA_HOME");
+  setenv("HOME", "/home/owl", 1);
+  EXPECT_EQ(default_device_root(), "/home/owl/.local/share/sonavue/device");
+}
+
+}  // namespace

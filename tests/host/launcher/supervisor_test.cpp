@@ -1,0 +1,128 @@
+#include "host/launcher/supervisor.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include "tests/host/launcher/temporary_folder.h"
+
+namespace {
+
+using namespace host::launcher;
+
+TEST(RestartLimit, AllowsFiveWithinAMinuteAndMoreLater) {
+  RestartLimit limit;
+  for (int i = 0; i < 5; ++i)
+    EXPECT_TRUE(limit.allow(100 + i));
+  EXPECT_FALSE(limit.allow(105));
+  EXPECT_FALSE(limit.allow(159.9));
+  EXPECT_TRUE(limit.allow(160));
+  EXPECT_FALSE(limit.allow(160.5));
+  EXPECT_TRUE(limit.allow(161));
+}
+
+class Supervisors : public testing::Test {
+ protected:
+  ChildCommand command(const std::string& behaviour) {
+    return {PROGRAM_FOLDER "/SpringBoard",
+            {record().string(), behaviour},
+            {{"PATH", DEVICE_TOOLS ":/usr/bin:/bin"}}};
+  }
+  int run(const std::string& behaviour) {
+    return Supervisor(command(behaviour), clock_, nullptr).run();
+  }
+
+  std::filesystem::path record() const { return folder_.path() / "starts"; }
+  std::vector<std::string> recorded() const { return lines_of(record()); }
+
+  TemporaryFolder folder_;
+  // It stands still: all that happens is within one minute.
+  host::SteppedClock clock_;
+};
+
+TEST_F(Supervisors, EndWithAProcessThatEndsInGoodOrder) {
+  EXPECT_EQ(run("end"), 0);
+  EXPECT_EQ(recorded().size(), 1u);
+}
+
+TEST_F(Supervisors, NameTheProcessAfterItsFile) {
+  run("end");
+  EXPECT_TRUE(recorded().at(0).starts_with("SpringBoard "));
+}
+
+TEST_F(Supervisors, StartACrashedProcessAgain) {
+  EXPECT_EQ(run("crash-once"), 0);
+  EXPECT_EQ(recorded().size(), 2u);
+}
+
+TEST_F(Supervisors, GiveUpAfterFiveRestartsWithinAMinute) {
+  EXPECT_EQ(run("crash"), kGaveUp);
+  EXPECT_EQ(recorded().size(), 6u);
+}
+
+TEST_F(Supervisors, CountAFailureAsACrash) {
+  EXPECT_EQ(run("fail"), kGaveUp);
+  EXPECT_EQ(recorded().size(), 6u);
+}
+
+TEST_F(Supervisors, DoNotRetryWhatCannotStart) {
+  EXPECT_EQ(run("cannot-start"), kCannotStart);
+  EXPECT_EQ(recorded().size(), 1u);
+}
+
+TEST_F(Supervisors, RestartTheProcessWhenItAsksThroughKillall) {
+  EXPECT_EQ(run("killall-once"), 0);
+  EXPECT_EQ(recorded().size(), 2u);
+}
+
+TEST_F(Supervisors, ForwardSignalsAndEndWithThem) {
+  EXPECT_EQ(run("terminate-supervisor"), 128 + SIGTERM);
+  ASSERT_EQ(recorded().size(), 2u);
+  EXPECT_EQ(recorded().at(1), "terminated");
+}
+
+TEST_F(Supervisors, LeaveNoZombieBehind) {
+  run("crash-once");
+  EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+  EXPECT_EQ(errno, ECHILD);
+}
+
+pid_t wait_for_recorded_process(const std::filesystem::path& record) {
+  std::vector<std::string> lines;
+  while (lines.empty()) {
+    sched_yield();
+    lines = lines_of(record);
+  }
+  return std::stoi(lines.at(0).substr(lines.at(0).find(' ')));
+}
+
+TEST_F(Supervisors, TakeTheirProcessWithThemWhenTheyAreKilled) {
+  // The orphan comes to this process, so that its end can be waited for.
+  prctl(PR_SET_CHILD_SUBREAPER, 1);
+  const pid_t supervisor = fork();
+  if (supervisor == 0) _exit(run("wait"));
+  const pid_t child = wait_for_recorded_process(record());
+  kill(supervisor, SIGKILL);
+  int status = 0;
+  ASSERT_EQ(waitpid(supervisor, &status, 0), supervisor);
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+}
+
+TEST_F(Supervisors, LeaveOtherProcessesOfThatNameAlone) {
+  const auto other_record = folder_.path() / "other";
+  ChildCommand other = command("wait");
+  other.arguments[0] = other_record;
+  const auto stranger = start_child(other, -1);
+  ASSERT_TRUE(stranger);
+  wait_for_recorded_process(other_record);
+
+  EXPECT_EQ(run("killall-once"), 0);
+
+  EXPECT_EQ(waitpid(*stranger, nullptr, WNOHANG), 0);
+  kill(*stranger, SIGKILL);
+  waitpid(*stranger, nullptr, 0);
+}
+
+}  // namespace
