@@ -42,6 +42,9 @@ using BOOL = signed char;
 inline constexpr BOOL YES = 1;
 inline constexpr BOOL NO = 0;
 
+/// Bytes in each field of what `uname` fills in.
+inline constexpr std::size_t kSystemNameLength = SONAVUE_HOME_PHONE ? 256 : 65;
+
 using CGFloat = double;
 using NSInteger = long;
 using NSUInteger = unsigned long;

@@ -1,0 +1,90 @@
+#include "objc/autorelease_pool.h"
+#include "tweak/appearance.h"
+#include "tweak/device.h"
+#include "tweak/gesture_listener.h"
+#include "tweak/globals.h"
+#include "tweak/library/album_table.h"
+#include "tweak/library/scroller.h"
+#include "tweak/library/song_list.h"
+#include "tweak/method.h"
+#include "tweak/movement/drag.h"
+#include "tweak/movement/present.h"
+#include "tweak/not_yet.h"
+#include "tweak/playback/icon_watch.h"
+#include "tweak/playback/now_playing.h"
+#include "tweak/playback/transport.h"
+#include "tweak/preferences.h"
+#include "tweak/start_up.h"
+#include "tweak/system_events.h"
+
+// The table of what the extension adds to the home screen, and the way it comes in: everything
+// starts from the load of this library.
+
+namespace sonavue {
+namespace {
+
+// Names are those of the first version and are kept to the letter, since other people's extensions
+// may call them.
+void add_methods() {
+  const MethodRow rows[] = {
+      row<&deviceNumber>("deviceNumber"),
+      row<&not_yet<"tweet">>("tweet"),
+      row<&not_yet_with<"zoomInAlbum:">>("zoomInAlbum:"),
+      row<&not_yet_with<"zoomOutAlbum:">>("zoomOutAlbum:"),
+      row<&not_yet_with<"playSongInAlbum:">>("playSongInAlbum:"),
+      row<&not_yet_with<"presentBanner:">>("presentBanner:"),
+      row<&not_yet<"showBanner">>("showBanner"),
+      row<&not_yet<"dismissBanner">>("dismissBanner"),
+      row<&not_yet_with<"textDidChange:">>("textDidChange:"),
+      row<&not_yet_with<"textFieldDidBeginEditing:">>("textFieldDidBeginEditing:"),
+      row<&not_yet_with<"textFieldDidEndEditing:">>("textFieldDidEndEditing:"),
+      row<&not_yet_asked<"textFieldShouldReturn:">>("textFieldShouldReturn:"),
+      row<&not_yet<"showTable">>("showTable"),
+      row<&dismisWithNoAction>("dismisWithNoAction"),
+      row<&gesture_should_receive_touch>("gestureRecognizer:shouldReceiveTouch:"),
+      row<&gestures_may_be_simultaneous>(
+          "gestureRecognizer:shouldRecognizeSimultaneouslyWithGestureRecognizer:"),
+      row<&playStop>("playStop"),
+      row<&playBackSong>("playBackSong"),
+      row<&playNextSong>("playNextSong"),
+      row<&change>("change:"),
+      row<&changePreferences>("changePreferences"),
+      row<&changesPrefs>("changesPrefs"),
+      row<&infoMusic>("infoMusic"),
+      row<&Loping1>("Loping1"),
+      row<&sposta>("sposta:"),
+      row<&sposta1>("sposta1:"),
+      row<&dismis>("dismis:"),
+      row<&present>("present"),
+  };
+  const objc::Class spring_board = objc_getClass("SpringBoard");
+  if (!spring_board) return;
+  for (const MethodRow& method : rows) {
+    class_addMethod(spring_board, sel_registerName(method.selector), method.body, method.types);
+  }
+}
+
+void make_classes() {
+  make_progress_view();
+  make_progress_view_ring();
+  make_song_list_source();
+  make_album_table_source();
+  make_scroller();
+  make_gesture_listener();
+}
+
+void install_hooks() {
+  add_methods();
+  hook_launch();
+  hook_system_events();
+}
+
+[[gnu::constructor]] void load() {
+  const objc::AutoreleasePool pool;
+  make_classes();
+  install_hooks();
+  fill_globals();
+}
+
+}  // namespace
+}  // namespace sonavue

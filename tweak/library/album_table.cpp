@@ -1,0 +1,56 @@
+#include "tweak/library/album_table.h"
+
+#include "objc/class_builder.h"
+#include "tweak/globals.h"
+#include "tweak/library/song_cell.h"
+
+namespace sonavue {
+namespace {
+
+MPMediaItem item_of(NSIndexPath path) {
+  return objc::cast<MPMediaItem>(songArtist.objectAtIndex(static_cast<NSUInteger>(path.row())));
+}
+
+NSInteger sections(MusicsAlbum, UITableView) {
+  return 1;
+}
+NSInteger number_of_rows(MusicsAlbum, UITableView, NSInteger) {
+  return static_cast<NSInteger>(songArtist.count());
+}
+BOOL no_for_row(MusicsAlbum, UITableView, NSIndexPath) {
+  return NO;
+}
+NSInteger indentation(MusicsAlbum, UITableView, NSIndexPath) {
+  return 0;
+}
+
+UITableViewCell cell_for_row(MusicsAlbum, UITableView table, NSIndexPath path) {
+  return song_cell(table, item_of(path));
+}
+
+NSIndexPath will_select(MusicsAlbum, UITableView, NSIndexPath path) {
+  return begin_track_change(path);
+}
+
+// The queue stays what it was: the songs of an album are all in it.
+void did_select(MusicsAlbum, UITableView, NSIndexPath path) {
+  if (!mc.isPlaying()) mc.togglePlayPause();
+  musicPlayer.setNowPlayingItem(item_of(path));
+}
+
+}  // namespace
+
+void make_album_table_source() {
+  objc::ClassBuilder("MusicsAlbum", "UITableView")
+      .method<&sections>("numberOfSectionsInTableView:")
+      .method<&number_of_rows>("tableView:numberOfRowsInSection:")
+      .method<&no_for_row>("tableView:canMoveRowAtIndexPath:")
+      .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
+      .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
+      .method<&indentation>("tableView:indentationLevelForRowAtIndexPath:")
+      .method<&will_select>("tableView:willSelectRowAtIndexPath:")
+      .method<&did_select>("tableView:didSelectRowAtIndexPath:")
+      .finish();
+}
+
+}  // namespace sonavue

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/UIKit/UITableView.h"
+
+/// Data source and delegate of the table of the current album's other songs. Stateless.
+struct MusicsAlbum : objc::Bound<MusicsAlbum, "MusicsAlbum", UITableView> {};
+
+namespace sonavue {
+
+void make_album_table_source();
+
+}  // namespace sonavue

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/SpringBoard/SpringBoard.h"
+#include "platform/UIKit/UIPanGestureRecognizer.h"
+#include "platform/UIKit/UITouch.h"
+
+namespace sonavue {
+
+/// The pan on the Music icon: drags the panel out. A release always opens it.
+void sposta(SpringBoard self, UIPanGestureRecognizer pan);
+
+/// The pan on the icon's twin at the top of the open panel: drags it back. A release always closes.
+void sposta1(SpringBoard self, UIPanGestureRecognizer pan);
+
+/// A button never starts a drag or a tap that closes the panel.
+BOOL gesture_should_receive_touch(SpringBoard self, UIGestureRecognizer recognizer, UITouch touch);
+BOOL gestures_may_be_simultaneous(SpringBoard self, UIGestureRecognizer one,
+                                  UIGestureRecognizer other);
+
+}  // namespace sonavue

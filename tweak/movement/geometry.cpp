@@ -1,0 +1,37 @@
+#include "tweak/movement/geometry.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kStatusBarHeight = 20.0;
+
+}  // namespace
+
+CGFloat icon_screen_offset() {
+  if (!musicIcon.isInDock()) return kStatusBarHeight;
+  return screen_height() - musicIcon.superview().frame().size.height;
+}
+
+CGFloat fade_ratio(CGFloat y) {
+  return (screen_height() - y) / (screen_height() * 3 * 0.25);
+}
+
+void move_to(UIView view, CGFloat x, CGFloat y) {
+  const CGSize size = view.frame().size;
+  view.setFrame({x, y, size.width, size.height});
+}
+
+void cover_screen_with_window() {
+  window.setFrame({0, 0, screen_width(), screen_height()});
+}
+
+void slide_album_table_aside() {
+  move_to(blurTable, blurTable.frame().size.width, 0);
+}
+
+CGPoint artwork_page_offset() {
+  const CGRect frame = art.frame();
+  return {frame.origin.x - (screen_width() - frame.size.width) * 0.5, 0};
+}
+
+}  // namespace sonavue

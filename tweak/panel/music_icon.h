@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/SpringBoard/SBApplication.h"
+#include "platform/SpringBoard/SBIconView.h"
+
+namespace sonavue {
+
+/// The Music application, or nil with the one line that this extension ever logs about a failure.
+SBApplication find_music_application();
+
+/// The home screen's present view of the Music icon.
+SBIconView find_music_icon();
+
+/// Does the icon stand inside a folder? Its drag stays the folder's own there.
+bool is_in_folder(SBIconView icon);
+
+void remove_gesture_recognizers(UIView view);
+
+/// Puts a new drag recogniser on `musicIcon`, in place of every recogniser that it has: the home
+/// screen's own would compete with the drag.
+void attach_drag(objc::Object target);
+
+}  // namespace sonavue

@@ -1,0 +1,66 @@
+#include "tweak/playback/layout.h"
+
+#include "tweak/movement/geometry.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kChange = 0.3;
+constexpr CGFloat kLift = 45;
+constexpr CGFloat kBannerAroundPlay = 25 + 15;
+constexpr CGFloat kBannerTexts = 60;
+constexpr CGFloat kSmallScreenLift = -15;
+
+void move_controls(CGFloat by) {
+  for (const UIButton control : {play, back, next}) {
+    const CGPoint at = control.frame().origin;
+    move_to(control, at.x, at.y + by);
+  }
+}
+
+void move_resting_places(CGFloat by) {
+  const auto shift = static_cast<float>(by);
+  firstPlay1 += shift;
+  firstNext1 += shift;
+  firstBack1 += shift;
+}
+
+bool window_is_fully_down() {
+  return window.frame().origin.y == 0;
+}
+
+void hang_banner(CGFloat height) {
+  window.setFrame({0, height - screen_height(), screen_width(), screen_height()});
+}
+
+}  // namespace
+
+void lay_out_full() {
+  hide = NO;
+  UIView::animateWithDuration(
+      kChange, objc::block([] {
+        if (window_is_fully_down()) {
+          move_controls(kLift);
+        } else if (isBanner) {
+          const CGFloat small = max != 0 ? 0 : kSmallScreenLift;
+          hang_banner(small + play.frame().size.height + kBannerAroundPlay + kBannerTexts);
+        }
+        container1.setAlpha(1);
+      }),
+      objc::block([](BOOL) { move_resting_places(kLift); }));
+}
+
+void lay_out_compact() {
+  hide = YES;
+  UIView::animateWithDuration(kChange, objc::block([] {
+                                if (window_is_fully_down()) {
+                                  move_controls(-kLift);
+                                } else if (isBanner) {
+                                  hang_banner(play.frame().size.height + kBannerAroundPlay);
+                                }
+                                container1.setAlpha(0);
+                              }),
+                              objc::block([](BOOL) { move_resting_places(-kLift); }));
+}
+
+}  // namespace sonavue

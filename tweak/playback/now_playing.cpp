@@ -1,0 +1,119 @@
+#include "tweak/playback/now_playing.h"
+
+#include "platform/Foundation/NSIndexPath.h"
+#include "tweak/globals.h"
+#include "tweak/panel/pieces.h"
+#include "tweak/playback/layout.h"
+#include "tweak/preferences.h"
+
+namespace sonavue {
+namespace {
+
+// Nil for the states of seeking, which have no picture of their own.
+NSString picture_for_state(int state) {
+  switch (state) {
+    case MPMusicPlaybackStatePlaying:
+      return "/Library/Application Support/Sonavue/Pausa.png"_ns;
+    case MPMusicPlaybackStateStopped:
+    case MPMusicPlaybackStatePaused:
+    case MPMusicPlaybackStateInterrupted:
+      return "/Library/Application Support/Sonavue/Play.png"_ns;
+    default:
+      return nil;
+  }
+}
+
+void draw_play_button() {
+  if (playbackState == lastState) return;
+  const NSString picture = picture_for_state(playbackState);
+  if (!picture) return;
+  play.setImage(template_image(picture), UIControlStateNormal);
+  lastState = playbackState;
+}
+
+// The system reports the elapsed time only when something changes; in between the panel counts
+// the seconds itself, one a tick.
+void follow_elapsed_time() {
+  const double reported = nowPlayingController.currentElapsed();
+  if (reported != lastElapsed) {
+    lastElapsed = reported;
+    elapsed = reported;
+    did = YES;
+  } else {
+    elapsed += 1.0;
+  }
+}
+
+void move_ring() {
+  if (!preference_equals("play"_ns, "volume"_ns, "time"_ns)) return;
+  const double duration = nowPlayingController.currentDuration();
+  if (elapsed > duration) elapsed = duration;
+  ring.setProgress(static_cast<float>(elapsed / duration), YES);
+}
+
+void show_artwork() {
+  const UIImage artwork = nowPlayingController.currentNowPlayingArtwork();
+  art.setImage(artwork);
+  cover.setImage(preference_is_on("cover"_ns, YES) ? artwork : nil);
+}
+
+/// Puts the texts into the labels and gives the album's title.
+NSString show_texts() {
+  const NSDictionary info = nowPlayingController.currentNowPlayingInfo();
+  const auto text = [&](NSString key) { return objc::cast<NSString>(info.objectForKey(key)); };
+  title.setText(text("kMRMediaRemoteNowPlayingInfoTitle"_ns));
+  artist.setText(text("kMRMediaRemoteNowPlayingInfoArtist"_ns));
+  return text("kMRMediaRemoteNowPlayingInfoAlbum"_ns);
+}
+
+bool has_text(MPMediaItem item, NSString property, NSString text) {
+  return text && objc::cast<NSString>(item.valueForProperty(property)).isEqualToString(text);
+}
+
+// The other songs of the album; the playing song itself is selected in the list of all songs.
+void collect_album(NSString album) {
+  songArtist.removeAllObjects();
+  NSInteger row = 0;
+  for (const auto item : songItems.of<MPMediaItem>()) {
+    const bool of_album = has_text(item, MPMediaItemPropertyAlbumTitle, album);
+    if (of_album && has_text(item, MPMediaItemPropertyTitle, title.text()) &&
+        has_text(item, MPMediaItemPropertyArtist, artist.text())) {
+      tableView.selectRowAtIndexPath(NSIndexPath::indexPathForRow(row, 0), YES,
+                                     UITableViewScrollPositionNone);
+    } else if (of_album) {
+      songArtist.addObject(item);
+    }
+    ++row;
+  }
+  tablev.reloadData();
+}
+
+void refresh_playing() {
+  follow_elapsed_time();
+  move_ring();
+  show_artwork();
+  const NSString album = show_texts();
+  if (did) {
+    did = NO;
+    collect_album(album);
+  }
+  if (hide) lay_out_full();
+}
+
+void refresh_idle() {
+  if (cover.image() && !preference_is_on("cover"_ns, YES)) cover.setImage(nil);
+  if (!hide) lay_out_compact();
+}
+
+}  // namespace
+
+void infoMusic(SpringBoard) {
+  draw_play_button();
+  if (mc.isPlaying()) {
+    refresh_playing();
+  } else {
+    refresh_idle();
+  }
+}
+
+}  // namespace sonavue

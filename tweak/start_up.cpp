@@ -1,0 +1,53 @@
+#include "tweak/start_up.h"
+
+#include "platform/Activator/LAActivator.h"
+#include "platform/Foundation/NSTimer.h"
+#include "tweak/device.h"
+#include "tweak/gesture_listener.h"
+#include "tweak/globals.h"
+#include "tweak/method.h"
+#include "tweak/panel/panel.h"
+#include "tweak/preferences.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kIconWatchInterval = 0.1;
+constexpr double kRefreshInterval = 1.0;
+constexpr double kPreferencesInterval = 0.1;
+
+Replaced<void(SpringBoard, objc::Object)> did_finish_launching;
+
+void register_gesture_listener() {
+  const auto listener = SVActivatorListener::alloc().init();
+  LAActivator::sharedInstance().registerListener(listener, "org.plumvane.Sonavue2"_ns);
+}
+
+// These live as long as the home screen.
+void start_timer(double interval, objc::Sel action) {
+  NSTimer::scheduledTimerWithTimeInterval(interval, Spring, action, nil, YES).fire();
+}
+
+void launched(SpringBoard self, objc::Object application) {
+  did_finish_launching(self, "applicationDidFinishLaunching:"_sel, application);
+  nowPlayingController = MPUNowPlayingController::alloc().init();
+  register_gesture_listener();
+  Spring = self;
+  measure_device(self);
+  if (!build_panel(self)) return;
+
+  newColor = color("tint"_ns).retain();
+  if (!preference_is_on("apex"_ns, NO)) start_timer(kIconWatchInterval, "Loping1"_sel);
+  start_timer(kRefreshInterval, "infoMusic"_sel);
+  start_timer(kPreferencesInterval, "changePreferences"_sel);
+  objc::send<>(Spring, "changesPrefs"_sel);
+}
+
+}  // namespace
+
+void hook_launch() {
+  replace<&launched>(objc_getClass("SpringBoard"),
+                     "applicationDidFinishLaunching:", did_finish_launching);
+}
+
+}  // namespace sonavue
