@@ -32,12 +32,10 @@ struct MpvOptions {
 // Plays through libmpv, sound only.
 //
 // On a stepped clock the engine still opens, decodes and plays, but its null device is told to run
-// at speed 0: it takes what it can buffer and then stands. So the engine is not paused, its own
-// `path` and `pause` mean what they say, and its `time-pos` moves only when it is sought, which is
-// exact and takes about a millisecond. Each pump seeks it to where the clock says the song is. Only
-// in the last fifth of a second, which its device swallows whole, does it say that it is at the
-// end. Pausing it instead would have made its `pause` a lie, and playing untimed cannot be stopped
-// at a given moment.
+// at speed 0. So the engine is not paused, its own `path` and `pause` mean what they say, and its
+// `time-pos` moves only when it is sought, which is exact and takes about a millisecond. Each pump
+// seeks it to where the clock says the song is. Pausing it instead would have made its `pause` a
+// lie, and playing untimed cannot be stopped at a given moment.
 class MpvPlayer final : public Player {
  public:
   // Null when the engine cannot be made; the log says why.

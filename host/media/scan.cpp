@@ -32,18 +32,18 @@ bool has_vanished(const std::string& path) {
   return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
+// What became of a song that the index knew: not met yet, as it was, or read anew.
+enum class Fate : char { unseen, unchanged, replaced };
+
 class Scan {
  public:
   Scan(Index& index, const ScanReport& report) : index_(index), report_(report) {
     IndexContents contents = index_.load();
     known_ = std::move(contents.songs);
-    is_seen_.resize(known_.size());
+    fates_.resize(known_.size(), Fate::unseen);
     known_by_path_.reserve(known_.size());
-    for (std::size_t i = 0; i < known_.size(); ++i) {
+    for (std::size_t i = 0; i < known_.size(); ++i)
       known_by_path_.emplace(known_[i].path, i);
-      known_by_stamp_.emplace(known_[i].stamp, i);
-      used_ids_.insert(known_[i].id);
-    }
     for (RefusedFile& file : contents.refused)
       refused_.emplace(std::move(file.path), file.stamp);
   }
@@ -59,6 +59,9 @@ class Scan {
     if (!stop.stop_requested()) forget_unseen();
     save();
     report_(progress_);
+    for (std::size_t i = 0; i < known_.size(); ++i) {
+      if (fates_[i] == Fate::unchanged) found_.push_back(std::move(known_[i]));
+    }
     return {progress_, Library::build(found_)};
   }
 
@@ -75,8 +78,7 @@ class Scan {
 
   void take(WalkedFile& file, const FolderPicture& picture) {
     if (const auto known = known_by_path_.find(file.path); known != known_by_path_.end()) {
-      is_seen_[known->second] = true;
-      return take_known(known_[known->second], file, picture);
+      return take_known(known->second, file, picture);
     }
     const auto refused = refused_.find(file.path);
     if (refused != refused_.end()) {
@@ -89,13 +91,14 @@ class Scan {
     read(file, picture, identifier_for(file));
   }
 
-  void take_known(SongRecord& record, WalkedFile& file, const FolderPicture& picture) {
-    if (record.stamp != file.stamp) return read(file, picture, record.id);
-    if (record.folder_picture != picture) {
-      record.folder_picture = picture;
-      changes_.songs.push_back(record);
-    }
-    found_.push_back(std::move(record));
+  void take_known(std::size_t index, WalkedFile& file, const FolderPicture& picture) {
+    SongRecord& record = known_[index];
+    const bool is_unchanged = record.stamp == file.stamp;
+    fates_[index] = is_unchanged ? Fate::unchanged : Fate::replaced;
+    if (!is_unchanged) return read(file, picture, record.id);
+    if (record.folder_picture == picture) return;
+    record.folder_picture = picture;
+    changes_.songs.push_back(record);
   }
 
   void read(WalkedFile& file, const FolderPicture& picture, std::uint64_t id) {
@@ -117,17 +120,30 @@ class Scan {
   // A new path is either a new song or a song that was moved: one of the same size and time whose
   // old path is gone. Only a move that is beyond doubt keeps its identifier.
   std::uint64_t identifier_for(const WalkedFile& file) {
+    prepare_for_new_files();
     std::size_t moved = known_.size();
     const auto [first, last] = known_by_stamp_.equal_range(file.stamp);
     for (auto candidate = first; candidate != last; ++candidate) {
-      if (is_seen_[candidate->second] || !has_vanished(known_[candidate->second].path)) continue;
+      if (fates_[candidate->second] != Fate::unseen ||
+          !has_vanished(known_[candidate->second].path))
+        continue;
       if (moved != known_.size()) return fresh_identifier(file.path);
       moved = candidate->second;
     }
     if (moved == known_.size()) return fresh_identifier(file.path);
-    is_seen_[moved] = true;
+    fates_[moved] = Fate::replaced;
     changes_.forgotten.push_back(known_[moved].path);
     return known_[moved].id;
+  }
+
+  // Most scans meet no new file, and need not pay for this.
+  void prepare_for_new_files() {
+    if (is_prepared_) return;
+    is_prepared_ = true;
+    for (std::size_t i = 0; i < known_.size(); ++i) {
+      known_by_stamp_.emplace(known_[i].stamp, i);
+      used_ids_.insert(known_[i].id);
+    }
   }
 
   std::uint64_t fresh_identifier(const std::string& path) {
@@ -139,7 +155,7 @@ class Scan {
 
   void forget_unseen() {
     for (std::size_t i = 0; i < known_.size(); ++i) {
-      if (!is_seen_[i]) changes_.forgotten.push_back(known_[i].path);
+      if (fates_[i] == Fate::unseen) changes_.forgotten.push_back(known_[i].path);
     }
     for (const auto& [path, stamp] : refused_) {
       if (!is_refusal_seen_.contains(path)) changes_.forgotten.push_back(path);
@@ -155,8 +171,9 @@ class Scan {
   const ScanReport& report_;
   ScanProgress progress_;
   std::vector<SongRecord> known_;
-  std::vector<bool> is_seen_;
-  std::unordered_map<std::string, std::size_t> known_by_path_;
+  std::vector<Fate> fates_;  // One for each of known_.
+  std::unordered_map<std::string_view, std::size_t> known_by_path_;
+  bool is_prepared_ = false;
   std::multimap<FileStamp, std::size_t> known_by_stamp_;
   std::unordered_set<std::uint64_t> used_ids_;
   std::unordered_map<std::string, FileStamp> refused_;

@@ -2,6 +2,7 @@
 
 #include <glib.h>
 
+#include <algorithm>
 #include <charconv>
 #include <memory>
 
@@ -41,6 +42,15 @@ std::string repaired_text(std::string_view text) {
 }
 
 std::string folded_text(std::string_view text) {
+  // Nearly every title is plain ASCII, which needs no tables.
+  if (std::ranges::all_of(text,
+                          [](char letter) { return static_cast<signed char>(letter) >= 0; })) {
+    std::string folded{text};
+    for (char& letter : folded) {
+      if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
+    }
+    return folded;
+  }
   const GText folded{g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free};
   return folded.get();
 }
