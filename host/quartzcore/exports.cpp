@@ -1,8 +1,14 @@
 #include "host/quartzcore/exports.h"
 
+#include "host/quartzcore/animation.h"
 #include "host/quartzcore/color.h"
+#include "host/quartzcore/display_link.h"
 #include "host/quartzcore/image.h"
+#include "host/quartzcore/layer.h"
 #include "host/quartzcore/path.h"
+#include "host/quartzcore/timing_function.h"
+#include "host/quartzcore/transaction.h"
+#include "host/quartzcore/value_categories.h"
 
 namespace host::quartzcore {
 
@@ -11,6 +17,12 @@ void export_quartzcore() {
     export_color();
     export_image();
     export_path();
+    export_value_categories();
+    export_timing_function();
+    export_animations();
+    export_transaction();
+    export_display_link();
+    export_layer();
     return true;
   }();
   static_cast<void>(exported);

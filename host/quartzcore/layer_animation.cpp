@@ -1,0 +1,207 @@
+#include <algorithm>
+
+#include "host/quartzcore/animation.h"
+#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/transaction.h"
+#include "host/runtime/run_loop.h"
+#include "platform/Foundation/NSNull.h"
+#include "platform/QuartzCore/CABasicAnimation.h"
+
+namespace host::quartzcore {
+namespace {
+
+double now() {
+  return RunLoop::has_main() ? RunLoop::main().now() : 0;
+}
+
+std::string text_of(NSString string) {
+  return string ? string.UTF8String() : "";
+}
+
+bool answers(objc::Object object, objc::Sel selector) {
+  return object && objc::cast<NSObject>(object).respondsToSelector(selector);
+}
+
+void tell_start(const RunningAnimation& animation) {
+  const objc::Object delegate = animation.object->delegate();
+  if (answers(delegate, "animationDidStart:"_sel))
+    objc::send<>(delegate, "animationDidStart:"_sel, animation.object.get());
+}
+
+void tell_stop(const objc::Ref<CAAnimation>& animation, BOOL finished) {
+  const objc::Object delegate = animation->delegate();
+  if (answers(delegate, "animationDidStop:finished:"_sel))
+    objc::send<>(delegate, "animationDidStop:finished:"_sel, animation.get(), finished);
+}
+
+}  // namespace
+
+objc::Ref<objc::Object> Layer::action_before_change(NSString key) const {
+  if (current_actions() == Actions::Disabled) return {};
+  return objc::Ref<objc::Object>::retain(self.actionForKey(key));
+}
+
+void Layer::run_action(const objc::Ref<objc::Object>& action, NSString key) const {
+  if (!action) return;
+  objc::send<>(action.get(), "runActionForKey:object:arguments:"_sel, key, objc::Object(self),
+               objc::Object());
+}
+
+objc::Object Layer::action_for_key(NSString key) const {
+  if (answers(delegate_, "actionForLayer:forKey:"_sel)) {
+    const auto action =
+        objc::send<objc::Object>(delegate_, "actionForLayer:forKey:"_sel, self, key);
+    if (action)
+      return objc::cast<NSObject>(action).isKindOfClass(NSNull::cls()) ? objc::Object() : action;
+  }
+  return default_action(key);
+}
+
+// Only what is in a tree has been seen, so only that can be seen to change.
+objc::Object Layer::default_action(NSString key) const {
+  if (!superlayer_ || current_animation_duration() <= 0) return nil;
+  const std::string path = text_of(key);
+  if (!layer_property(path) && !(drawing_ && drawing_->model_value(path))) return nil;
+  const CABasicAnimation animation = CABasicAnimation::animationWithKeyPath(key);
+  animation.setFromValue(object_from_value(current_value(path)));
+  animation.setDuration(current_animation_duration());
+  const CAMediaTimingFunction chosen = current_timing_function();
+  animation.setTimingFunction(chosen ? chosen
+                                     : CAMediaTimingFunction::functionWithName("default"_ns));
+  return animation;
+}
+
+LayerProperties Layer::present(double time) const {
+  LayerProperties presented = properties_;
+  if (!animations_.empty()) apply_animations(animations_, time, layer_property, presented);
+  if (drawing_) drawing_->present(animations_, time);
+  return presented;
+}
+
+bool Layer::is_scaling(double time) const {
+  return std::any_of(animations_.begin(), animations_.end(), [time](const auto& animation) {
+    return !animation.is_over(time) && (animation.key_path.starts_with("bounds") ||
+                                        animation.key_path.starts_with("transform"));
+  });
+}
+
+Value Layer::current_value(std::string_view key_path) const {
+  if (const auto* access = layer_property(key_path)) return access->read(present(now()));
+  if (drawing_) return drawing_->model_value(key_path).value_or(Value());
+  return {};
+}
+
+void Layer::add_animation(CAAnimation animation, NSString key) {
+  if (!animation) return;
+  const auto copy = objc::Ref<CAAnimation>::adopt(objc::send<CAAnimation>(animation, "copy"_sel));
+  if (key) self.removeAnimationForKey(key);
+  RunningAnimation running =
+      prepare_animation(copy, text_of(key), now(), current_animation_duration());
+  running.group = current_group();
+  animations_.push_back(std::move(running));
+  note_animated_layer(self);
+  note_layer_change();
+}
+
+// The delegate may do anything to this layer, so nothing of it is touched afterwards.
+void Layer::stop(RunningAnimation& animation, BOOL finished, bool next_turn) {
+  if (std::exchange(animation.has_stopped, true)) return;
+  animation.group.reset();
+  if (!next_turn) {
+    tell_stop(animation.object, finished);
+  } else if (RunLoop::has_main()) {
+    RunLoop::main().perform([object = animation.object, finished] { tell_stop(object, finished); });
+  }
+}
+
+void Layer::announce_started_animations() {
+  std::vector<RunningAnimation> started;
+  for (RunningAnimation& animation : animations_) {
+    if (animation.has_started || animation.begin > now()) continue;
+    animation.has_started = true;
+    started.push_back(animation);
+  }
+  for (const RunningAnimation& animation : started)
+    tell_start(animation);
+}
+
+void Layer::advance_animations(double time) {
+  announce_started_animations();
+  std::vector<RunningAnimation> ended;
+  for (RunningAnimation& animation : animations_) {
+    if (animation.has_stopped || !animation.is_over(time)) continue;
+    ended.push_back(animation);
+    animation.has_stopped = true;
+    animation.group.reset();
+  }
+  if (ended.empty()) return;
+  std::erase_if(animations_, [](const RunningAnimation& animation) {
+    return animation.has_stopped && animation.removed_on_completion;
+  });
+  note_layer_change();
+  for (RunningAnimation& animation : ended)
+    stop(animation, YES, false);
+}
+
+bool Layer::wants_frames() const {
+  return std::any_of(animations_.begin(), animations_.end(),
+                     [](const auto& animation) { return !animation.has_stopped; });
+}
+
+void Layer::remove_animation_for_key(NSString key) {
+  const std::string wanted = text_of(key);
+  for (auto& animation : animations_) {
+    if (animation.key == wanted) stop(animation, animation.is_over(now()), true);
+  }
+  if (std::erase_if(animations_, [&](const auto& animation) { return animation.key == wanted; }))
+    note_layer_change();
+}
+
+void Layer::remove_all_animations() {
+  for (auto& animation : animations_)
+    stop(animation, animation.is_over(now()), true);
+  animations_.clear();
+  note_layer_change();
+}
+
+CAAnimation Layer::animation_for_key(NSString key) const {
+  const std::string wanted = text_of(key);
+  for (const auto& animation : animations_) {
+    if (animation.key == wanted) return animation.object.get();
+  }
+  return nil;
+}
+
+NSArray Layer::animation_keys() const {
+  if (animations_.empty()) return nil;
+  const NSMutableArray keys = NSMutableArray::array();
+  for (const auto& animation : animations_) {
+    if (!animation.key.empty())
+      keys.addObject(NSString::stringWithUTF8String(animation.key.c_str()));
+  }
+  return keys;
+}
+
+CALayer Layer::presentation_layer() const {
+  const auto copy = objc::send<CALayer>(
+      objc::send<CALayer>(objc::Object(self.classOf()), "alloc"_sel), "init"_sel);
+  Layer& shown = objc::state_of<Layer>(copy);
+  shown.properties_ = present(now());
+  shown.background_color_ = objc::Ref<CGColorObject>::adopt(
+      objc::cast<CGColorObject>(object_of(make_color(shown.properties_.background_color))));
+  shown.hidden_ = hidden_;
+  shown.masks_to_bounds_ = masks_to_bounds_;
+  shown.contents_ = contents_;
+  shown.image_ = image_;
+  shown.contents_scale_ = contents_scale_;
+  shown.gravity_ = gravity_;
+  shown.model_layer_ = self;
+  return copy.autorelease();
+}
+
+CALayer Layer::model_layer() const {
+  return model_layer_ ? model_layer_ : self;
+}
+
+}  // namespace host::quartzcore

@@ -1,0 +1,104 @@
+#include <cmath>
+
+#include "host/quartzcore/context.h"
+#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layer_service.h"
+
+namespace host::quartzcore {
+namespace {
+
+// Backing stores beyond this many pixels a side are drawn coarser, not refused.
+constexpr double kLargestBackingSide = 8192;
+
+bool answers(objc::Object delegate, objc::Sel selector) {
+  return delegate && objc::cast<NSObject>(delegate).respondsToSelector(selector);
+}
+
+}  // namespace
+
+void Layer::mark(bool& flag) {
+  flag = true;
+  if (in_dirty_list_) return;
+  in_dirty_list_ = true;
+  mark_layer_dirty(self);
+}
+
+void Layer::set_needs_display() {
+  mark(needs_display_);
+}
+
+void Layer::set_needs_layout() {
+  mark(needs_layout_);
+}
+
+void Layer::display_if_needed() {
+  if (!needs_display_) return;
+  needs_display_ = false;
+  self.display();
+}
+
+// A layer that nobody draws must not cost a backing store.
+bool Layer::is_custom_drawn() const {
+  const objc::Sel selector = "drawInContext:"_sel;
+  const objc::Method own = class_getInstanceMethod(objc::class_of(self.id()), selector);
+  const objc::Method plain = class_getInstanceMethod(CALayer::cls(), selector);
+  if (method_getImplementation(own) != method_getImplementation(plain)) return true;
+  return answers(delegate_, "drawLayer:inContext:"_sel);
+}
+
+void Layer::display() {
+  if (answers(delegate_, "displayLayer:"_sel)) {
+    objc::send<>(delegate_, "displayLayer:"_sel, self);
+    return;
+  }
+  const CGSize size = properties_.bounds.size;
+  if (!is_custom_drawn()) return;
+  if (!(size.width > 0) || !(size.height > 0)) {
+    self.setContents(objc::Object());
+    return;
+  }
+  const double longest = std::max(size.width, size.height) * contents_scale_;
+  const double scale = contents_scale_ * std::min(1.0, kLargestBackingSide / longest);
+  const Opacity opacity = opaque_ ? Opacity::Opaque : Opacity::Translucent;
+  CGContextRef context = make_bitmap_context(size, scale, opacity);
+  cairo_translate(context->cairo(), -properties_.bounds.origin.x, -properties_.bounds.origin.y);
+  self.drawInContext(context);
+  // Whoever kept the context may draw on: only then the pixels must be copied.
+  CGImageRef image = context->references == 1 ? make_image(context->surface, opacity)
+                                              : CGBitmapContextCreateImage(context);
+  CGContextRelease(context);
+  self.setContents(image);
+  CGImageRelease(image);
+}
+
+void Layer::draw_in_context(CGContextRef context) {
+  if (answers(delegate_, "drawLayer:inContext:"_sel))
+    objc::send<>(delegate_, "drawLayer:inContext:"_sel, self, context);
+}
+
+void Layer::layout_sublayers() {
+  if (answers(delegate_, "layoutSublayersOfLayer:"_sel))
+    objc::send<>(delegate_, "layoutSublayersOfLayer:"_sel, self);
+}
+
+void Layer::layout_if_needed() {
+  Layer* top = this;
+  for (Layer* layer = this; layer->superlayer_;) {
+    layer = &objc::state_of<Layer>(layer->superlayer_);
+    if (layer->needs_layout_) top = layer;
+  }
+  const auto kept = objc::Ref<CALayer>::retain(top->self);
+  top->lay_out_marked_tree();
+}
+
+void Layer::lay_out_marked_tree() {
+  if (needs_layout_) {
+    needs_layout_ = false;
+    self.layoutSublayers();
+  }
+  // Layout may add and remove layers: walk what there is when it is done.
+  for (const auto& child : std::vector(children_))
+    objc::state_of<Layer>(child.get()).lay_out_marked_tree();
+}
+
+}  // namespace host::quartzcore

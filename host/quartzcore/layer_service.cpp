@@ -1,0 +1,110 @@
+#include "host/quartzcore/layer_service.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "host/quartzcore/layer.h"
+#include "host/quartzcore/transaction.h"
+#include "host/runtime/log.h"
+
+namespace host::quartzcore {
+namespace {
+
+// A layout that marks itself anew each time would hold the screen for ever.
+constexpr int kMostRounds = 100;
+
+LayerService* service = nullptr;
+std::uint64_t changes = 1;
+// Layers leave these when they end, so nothing here is retained.
+std::vector<CALayer> dirty;
+std::vector<CALayer> animated;
+
+std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
+  std::vector<objc::Ref<CALayer>> result;
+  for (CALayer layer : layers)
+    result.push_back(objc::Ref<CALayer>::retain(layer));
+  return result;
+}
+
+}  // namespace
+
+LayerService::LayerService(RunLoop& loop)
+    : loop_(loop), turn_observer_(loop.add_turn_observer(kTurnOrder, [] { flush_layers(); })) {
+  service = this;
+  update_frames();
+}
+
+LayerService::~LayerService() {
+  loop_.remove_turn_observer(turn_observer_);
+  if (frame_observer_) loop_.remove_frame_observer(frame_observer_);
+  service = nullptr;
+}
+
+LayerService* LayerService::current() {
+  return service;
+}
+
+void LayerService::update_frames() {
+  if (!animated.empty() && !frame_observer_) {
+    frame_observer_ = loop_.add_frame_observer([this](double) { advance_animations(); });
+  } else if (animated.empty() && frame_observer_) {
+    loop_.remove_frame_observer(frame_observer_);
+    frame_observer_ = 0;
+  }
+}
+
+void LayerService::advance_animations() {
+  for (const auto& layer : retained(animated))
+    objc::state_of<Layer>(layer.get()).advance_animations(loop_.now());
+  std::erase_if(animated,
+                [](CALayer layer) { return !objc::state_of<Layer>(layer).wants_frames(); });
+  update_frames();
+}
+
+void flush_layers() {
+  for (int round = 0; !dirty.empty(); ++round) {
+    if (round == kMostRounds) {
+      spdlog::warn("layout did not come to rest: {} layers are still marked", dirty.size());
+      break;
+    }
+    const auto marked = retained(dirty);
+    dirty.clear();
+    for (const auto& layer : marked)
+      objc::state_of<Layer>(layer.get()).leave_dirty_list();
+    for (const auto& layer : marked)
+      layer->layoutIfNeeded();
+    for (const auto& layer : marked)
+      layer->displayIfNeeded();
+  }
+  for (const auto& layer : retained(animated))
+    objc::state_of<Layer>(layer.get()).announce_started_animations();
+  end_implicit_transaction();
+}
+
+std::uint64_t layer_changes() {
+  return changes;
+}
+void note_layer_change() {
+  ++changes;
+}
+
+void mark_layer_dirty(CALayer layer) {
+  dirty.push_back(layer);
+}
+
+void forget_layer(CALayer layer) {
+  std::erase(dirty, layer);
+  if (std::erase(animated, layer) > 0 && service) service->update_frames();
+}
+
+void note_animated_layer(CALayer layer) {
+  if (std::find(animated.begin(), animated.end(), layer) != animated.end()) return;
+  animated.push_back(layer);
+  if (service) service->update_frames();
+}
+
+bool any_layer_animated() {
+  return !animated.empty();
+}
+
+}  // namespace host::quartzcore

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+
+#include "host/runtime/run_loop.h"
+#include "platform/QuartzCore/CALayer.h"
+
+namespace host::quartzcore {
+
+/// Ties the layers of this process to a run loop: lays out and displays at the end of each turn,
+/// and asks for frames while, and only while, something is animated. One lives at a time.
+class LayerService {
+ public:
+  /// Where layout stands among the observers of a turn's end; the screen renders after it.
+  static constexpr int kTurnOrder = 100;
+
+  explicit LayerService(RunLoop& loop);
+  ~LayerService();
+  LayerService(const LayerService&) = delete;
+  LayerService& operator=(const LayerService&) = delete;
+
+  /// The service of this process, or null.
+  static LayerService* current();
+
+  RunLoop& loop() { return loop_; }
+  /// Starts or stops asking for frames, after the set of animated layers changed.
+  void update_frames();
+
+ private:
+  void advance_animations();
+
+  RunLoop& loop_;
+  RunLoop::Id turn_observer_;
+  RunLoop::Id frame_observer_ = 0;
+};
+
+/// Lays out and displays all layers that are marked, until none is.
+void flush_layers();
+
+/// Counts every change that may change what is drawn: equal numbers mean an equal picture, as long
+/// as nothing is animated.
+std::uint64_t layer_changes();
+void note_layer_change();
+
+/// Lists that layers enter and leave by themselves.
+void mark_layer_dirty(CALayer layer);
+void forget_layer(CALayer layer);
+void note_animated_layer(CALayer layer);
+bool any_layer_animated();
+
+}  // namespace host::quartzcore

@@ -1,0 +1,126 @@
+#include "host/quartzcore/running_animation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string_view>
+
+#include "host/quartzcore/animation.h"
+#include "host/quartzcore/timing_function.h"
+
+namespace host::quartzcore {
+namespace {
+
+constexpr double kForever = std::numeric_limits<double>::infinity();
+// Beyond this many repetitions nobody waits for the end; the platform's HUGE_VALF is above it.
+constexpr float kCountsAsForever = 1e20f;
+// Frames meet a due time only up to rounding.
+constexpr double kTimeTolerance = 1e-9;
+
+std::string_view text_of(NSString string) {
+  return string ? string.UTF8String() : "";
+}
+
+std::optional<double> element(const std::vector<double>& numbers, std::size_t index) {
+  if (index >= numbers.size()) return std::nullopt;
+  return numbers[index];
+}
+
+void take_values(RunningAnimation& running, const AnimationDescription& from) {
+  running.from = value_from_object(from.from.get());
+  running.to = value_from_object(from.to.get());
+  running.by = value_from_object(from.by.get());
+  if (!from.values) return;
+  for (objc::Object value : from.values->of()) {
+    if (const auto read = value_from_object(value)) running.values.push_back(*read);
+  }
+  if (!from.key_times) return;
+  if (const auto times = value_from_object(from.key_times.get()))
+    if (const auto* numbers = std::get_if<std::vector<double>>(&*times))
+      running.key_times = *numbers;
+}
+
+}  // namespace
+
+RunningAnimation prepare_animation(objc::Ref<CAAnimation> animation, std::string key, double now,
+                                   double default_duration) {
+  const AnimationDescription& from = objc::state_of<Animation>(animation.get()).description;
+  RunningAnimation running;
+  running.key = std::move(key);
+  running.key_path = text_of(from.key_path.get());
+  running.begin = from.begin_time == 0 ? now : from.begin_time;
+  running.duration = from.duration == 0 ? default_duration : from.duration;
+  running.speed = from.speed;
+  running.time_offset = from.time_offset;
+  running.repeat_count = from.repeat_count == 0                  ? 1
+                         : from.repeat_count >= kCountsAsForever ? kForever
+                                                                 : from.repeat_count;
+  running.autoreverses = from.autoreverses;
+  const std::string_view fill = text_of(from.fill_mode.get());
+  running.fills_backwards = fill == "backwards" || fill == "both";
+  running.fills_forwards = fill == "forwards" || fill == "both";
+  running.removed_on_completion = from.removed_on_completion;
+  running.additive = from.additive;
+  running.cumulative = from.cumulative;
+  running.curve = curve_of(from.timing_function.get());
+  take_values(running, from);
+  running.object = std::move(animation);
+  return running;
+}
+
+double RunningAnimation::end() const {
+  if (speed <= 0) return kForever;
+  const double once = autoreverses ? 2 * duration : duration;
+  const double active = once == 0 ? 0 : once * repeat_count;
+  return begin + (active - time_offset) / speed - kTimeTolerance;
+}
+
+Value RunningAnimation::evaluate(double now, const Value& underlying) const {
+  if (now < begin - kTimeTolerance && !fills_backwards) return underlying;
+  const bool over = is_over(now);
+  if (over && !fills_forwards && has_stopped) return underlying;
+  const double once = autoreverses ? 2 * duration : duration;
+  if (once <= 0) return over && !fills_forwards ? underlying : last_value(underlying);
+  double time = std::max(0.0, (now - begin) * speed + time_offset);
+  double iteration = std::floor(time / once);
+  double within = time - iteration * once;
+  if (over) {
+    if (!fills_forwards) return underlying;
+    // At its end it stands at the end of the last repetition, not at the start of another.
+    iteration = std::max(0.0, std::ceil(repeat_count) - 1);
+    within = (repeat_count - iteration) * once;
+  }
+  double fraction = within / duration;
+  if (fraction > 1) fraction = autoreverses ? 2 - fraction : 1;
+  Value value = at_fraction(curve.at(fraction), underlying);
+  if (cumulative && iteration > 0) value = add(value, multiply(last_value(underlying), iteration));
+  return additive ? add(underlying, value) : value;
+}
+
+Value RunningAnimation::at_fraction(double fraction, const Value& underlying) const {
+  const auto shaped = [&](const Value& value) {
+    return shaped_like(underlying, value).value_or(underlying);
+  };
+  if (!values.empty()) {
+    const std::size_t last = values.size() - 1;
+    const auto time_of = [&](std::size_t i) {
+      return element(key_times, i)
+          .value_or(last == 0 ? 0 : static_cast<double>(i) / static_cast<double>(last));
+    };
+    std::size_t next = 1;
+    while (next < last && time_of(next) <= fraction)
+      ++next;
+    if (last == 0) return shaped(values[0]);
+    const double start = time_of(next - 1);
+    const double length = time_of(next) - start;
+    const double part = length <= 0 ? 1 : std::clamp((fraction - start) / length, 0.0, 1.0);
+    return interpolate(shaped(values[next - 1]), shaped(values[next]), part);
+  }
+  // An additive animation moves from or to no difference at all where one end is not given.
+  const Value rest = additive ? subtract(underlying, underlying) : underlying;
+  const Value start = from ? shaped(*from) : by && to ? subtract(shaped(*to), shaped(*by)) : rest;
+  const Value finish = to ? shaped(*to) : by ? add(start, shaped(*by)) : rest;
+  return interpolate(start, finish, fraction);
+}
+
+}  // namespace host::quartzcore

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/quartzcore/timing_curve.h"
+#include "host/quartzcore/value.h"
+#include "objc/ref.h"
+#include "platform/QuartzCore/CAAnimation.h"
+
+namespace host::quartzcore {
+
+class TransactionGroup;
+class Animation;
+
+/// An animation that a layer has taken, made ready for evaluation at any time without a message.
+struct RunningAnimation {
+  std::string key;
+  std::string key_path;
+  /// The layer's copy: what `animationForKey:` and the delegate's messages give.
+  objc::Ref<CAAnimation> object;
+
+  double begin = 0;
+  double duration = 0;
+  double speed = 1;
+  double time_offset = 0;
+  /// Repetitions; infinity for ever.
+  double repeat_count = 1;
+  bool autoreverses = false;
+  bool fills_backwards = false;
+  bool fills_forwards = false;
+  bool removed_on_completion = true;
+  bool additive = false;
+  bool cumulative = false;
+  TimingCurve curve;
+
+  std::optional<Value> from, to, by;
+  std::vector<Value> values;
+  std::vector<double> key_times;
+
+  bool has_started = false;
+  bool has_stopped = false;
+  /// Lets the transaction's completion run when the last of its animations is gone.
+  std::shared_ptr<TransactionGroup> group;
+
+  /// The clock time at which it is over; infinity when never.
+  double end() const;
+  bool is_over(double now) const { return now >= end(); }
+  /// What it makes of `underlying`, the property's value without it. Outside its time and fill
+  /// that is `underlying` itself.
+  Value evaluate(double now, const Value& underlying) const;
+
+ private:
+  Value at_fraction(double fraction, const Value& underlying) const;
+  Value last_value(const Value& underlying) const { return at_fraction(1, underlying); }
+};
+
+/// Makes `animation` (the layer's own copy) ready to run from `now`; `default_duration` stands in
+/// for a duration of 0.
+RunningAnimation prepare_animation(objc::Ref<CAAnimation> animation, std::string key, double now,
+                                   double default_duration);
+
+}  // namespace host::quartzcore
