@@ -1,0 +1,30 @@
+#include "host/uikit/scroll/section_title.h"
+
+#include "platform/UIKit/UIColor.h"
+#include "platform/UIKit/UILabel.h"
+
+namespace host::uikit {
+namespace {
+
+constexpr double kMargin = 15;
+constexpr double kFontSize = 14;
+constexpr double kGrey = 247.0 / 255;
+
+}  // namespace
+
+objc::Ref<UIView> make_section_title(NSString title) {
+  // Any size does: the label follows the bar to the one that the table gives it.
+  constexpr double kWidth = 320;
+  constexpr double kHeight = 28;
+  auto bar = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({0, 0, kWidth, kHeight}));
+  bar->setBackgroundColor(UIColor::colorWithWhite(kGrey, 1));
+  const UILabel label = UILabel::alloc().initWithFrame({kMargin, 0, kWidth - 2 * kMargin, kHeight});
+  label.setAutoresizingMask(UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight);
+  label.setFont(UIFont::boldSystemFontOfSize(kFontSize));
+  label.setText(title);
+  bar->addSubview(label);
+  label.release();
+  return bar;
+}
+
+}  // namespace host::uikit

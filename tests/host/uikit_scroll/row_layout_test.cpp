@@ -1,0 +1,84 @@
+#include "host/uikit/scroll/row_layout.h"
+
+#include <gtest/gtest.h>
+
+namespace host::uikit {
+namespace {
+
+RowLayout two_sections() {
+  return RowLayout(
+      31, {{20, RowHeights::uniform(3, 44), 0}, {0, RowHeights::each({10, 30, 50}), 12}}, 5);
+}
+
+TEST(RowLayout, EverythingStandsBelowWhatComesBeforeIt) {
+  const RowLayout layout = two_sections();
+  EXPECT_EQ(layout.section_header(0).begin, 31);
+  EXPECT_EQ(layout.row({0, 0}).begin, 51);
+  EXPECT_EQ(layout.row({0, 2}).end, 51 + 3 * 44);
+  EXPECT_EQ(layout.row({1, 1}).begin, 183 + 10);
+  EXPECT_EQ(layout.row({1, 1}).length(), 30);
+  EXPECT_EQ(layout.section_footer(1).begin, 183 + 90);
+  EXPECT_EQ(layout.height(), 183 + 90 + 12 + 5);
+  EXPECT_EQ(layout.table_footer().length(), 5);
+}
+
+TEST(RowLayout, ARowIsFoundByEachPointOfItAndNotByHeadersAndFooters) {
+  const RowLayout layout = two_sections();
+  EXPECT_EQ(layout.row_at(30), std::nullopt);
+  EXPECT_EQ(layout.row_at(40), std::nullopt);
+  EXPECT_EQ(layout.row_at(51), (RowPlace{0, 0}));
+  EXPECT_EQ(layout.row_at(94.9), (RowPlace{0, 0}));
+  EXPECT_EQ(layout.row_at(95), (RowPlace{0, 1}));
+  EXPECT_EQ(layout.row_at(183), (RowPlace{1, 0}));
+  EXPECT_EQ(layout.row_at(272.5), (RowPlace{1, 2}));
+  EXPECT_EQ(layout.row_at(275), std::nullopt);
+  EXPECT_EQ(layout.row_at(1000), std::nullopt);
+  EXPECT_EQ(layout.row_at(-1), std::nullopt);
+}
+
+TEST(RowLayout, RowsInASpanAreThoseThatTouchIt) {
+  const RowLayout layout = two_sections();
+  const std::vector<RowPlace> expected{{0, 2}, {1, 0}, {1, 1}};
+  EXPECT_EQ(layout.rows_in({139, 200}), expected);
+  EXPECT_TRUE(layout.rows_in({-50, 31}).empty());
+  EXPECT_TRUE(layout.rows_in({500, 900}).empty());
+  EXPECT_EQ(layout.rows_in({-100, 1000}).size(), 6u);
+}
+
+TEST(RowLayout, ATableOfNothingHasNoRows) {
+  const RowLayout layout(0, {}, 0);
+  EXPECT_EQ(layout.height(), 0);
+  EXPECT_EQ(layout.row_at(0), std::nullopt);
+  EXPECT_TRUE(layout.rows_in({0, 100}).empty());
+  EXPECT_FALSE(layout.contains({0, 0}));
+}
+
+TEST(RowLayout, AnEmptySectionIsPassedOver) {
+  const RowLayout layout(
+      0, {{0, RowHeights::uniform(0, 44), 0}, {0, RowHeights::uniform(2, 44), 0}}, 0);
+  EXPECT_EQ(layout.row_at(0), (RowPlace{1, 0}));
+  EXPECT_EQ(layout.rows_in({0, 200}).size(), 2u);
+}
+
+TEST(RowLayout, RowsWithoutHeightAreNeverFound) {
+  const RowLayout layout(0, {{0, RowHeights::uniform(5, 0), 0}}, 0);
+  EXPECT_EQ(layout.row_at(0), std::nullopt);
+  EXPECT_TRUE(layout.rows_in({0, 10}).empty());
+}
+
+TEST(RowHeights, RowsOfDifferentHeightsAreFoundAmongAHundredThousand) {
+  std::vector<double> heights(100000, 35);
+  heights[7] = 90;
+  const RowHeights rows = RowHeights::each(heights);
+  EXPECT_EQ(rows.total(), 100000 * 35.0 + 55);
+  EXPECT_EQ(rows.row_at(rows.begin_of(99999) + 1), 99999);
+  EXPECT_EQ(rows.row_at(8 * 35 + 54), 7);
+  EXPECT_EQ(rows.row_at(8 * 35 + 55), 8);
+}
+
+TEST(RowHeights, ANegativeCountIsNone) {
+  EXPECT_EQ(RowHeights::uniform(-3, 44).count(), 0);
+}
+
+}  // namespace
+}  // namespace host::uikit
