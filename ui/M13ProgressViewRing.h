@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Foundation/NSNumberFormatter.h"
+#include "platform/QuartzCore/CABasicAnimation.h"
 #include "platform/QuartzCore/CADisplayLink.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
 #include "platform/UIKit/UILabel.h"
@@ -13,6 +14,8 @@ struct M13ProgressViewRing
   M13ProgressViewRing initWithFrame(CGRect frame) const {
     return call<"initWithFrame:", M13ProgressViewRing>(frame);
   }
+  /// Gives the ring its defaults, its layers and its label; every initializer ends with it.
+  void setup() const { call<"setup">(); }
 
   /// Widths in points; once set from outside, layout leaves them alone.
   CGFloat backgroundRingWidth() const { return call<"backgroundRingWidth", CGFloat>(); }
@@ -38,7 +41,21 @@ struct M13ProgressViewRing
   CAShapeLayer backgroundLayer() const { return call<"backgroundLayer", CAShapeLayer>(); }
   CAShapeLayer progressLayer() const { return call<"progressLayer", CAShapeLayer>(); }
   CAShapeLayer iconLayer() const { return call<"iconLayer", CAShapeLayer>(); }
+  /// The last action performed.
   NSInteger currentAction() const { return call<"currentAction", NSInteger>(); }
+
+  // Each gives one layer a new path.
+  void drawBackground() const { call<"drawBackground">(); }
+  void drawIcon() const { call<"drawIcon">(); }
+  void drawProgress() const { call<"drawProgress">(); }
+  void drawSuccess() const { call<"drawSuccess">(); }
+  void drawFailure() const { call<"drawFailure">(); }
+
+  /// Called by the display link at each frame.
+  void animateProgress(CADisplayLink link) const { call<"animateProgress:">(link); }
+  /// Opacity from 0 to 1, and from 1 to 0, over the ring's animation duration.
+  CABasicAnimation showAnimation() const { return call<"showAnimation", CABasicAnimation>(); }
+  CABasicAnimation hideAnimation() const { return call<"hideAnimation", CABasicAnimation>(); }
 };
 
 namespace sonavue {
