@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "host/springboard/model/icon_state.h"
+#include "host/springboard/model/wall_clock.h"
+
+namespace host::springboard {
+
+/// What the home screen finds on its device. Set before the application is launched.
+struct Configuration {
+  std::string applications_folder = "/Applications";
+  std::string icon_state_path = kIconStatePath;
+  /// Where the home screen's own pictures are: the wallpaper and the status bar's glyphs.
+  std::string pictures_folder = "/System/Library/CoreServices/SpringBoard.app";
+  std::string wallpaper = "wallpaper-1";
+  /// Outlives the home screen; without one the status bar always shows the same time.
+  const WallClock* wall_clock = nullptr;
+};
+
+void configure(Configuration configuration);
+const Configuration& configuration();
+
+}  // namespace host::springboard

@@ -1,0 +1,37 @@
+#include "host/springboard/icon/application_icon.h"
+
+#include "host/springboard/icon/icon_image.h"
+#include "platform/SpringBoard/SBUIController.h"
+
+namespace host::springboard {
+
+SBApplicationIcon ApplicationIcon::init_with_application(SBApplication application) {
+  const auto made = super<SBApplicationIcon>("init"_sel);
+  if (made) application_.reset(application);
+  return made;
+}
+
+UIImage ApplicationIcon::generate_icon_image(int) {
+  if (!image_) {
+    image_.reset(application_image(application_.get()));
+    if (!image_) image_.reset(initial_image(self.displayName()));
+  }
+  return image_.get();
+}
+
+void ApplicationIcon::launch() {
+  SBUIController::sharedInstance().activateApplicationAnimated(application_.get());
+}
+
+void export_application_icon() {
+  objc::ClassBuilder("SBApplicationIcon", "SBIcon")
+      .state<ApplicationIcon>()
+      .method<&ApplicationIcon::init_with_application>("initWithApplication:")
+      .method<&ApplicationIcon::application>("application")
+      .method<&ApplicationIcon::display_name>("displayName")
+      .method<&ApplicationIcon::generate_icon_image>("generateIconImage:")
+      .method<&ApplicationIcon::launch>("launch")
+      .finish();
+}
+
+}  // namespace host::springboard

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "host/springboard/model/home_layout.h"
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/SpringBoard/SBIconModel.h"
+
+namespace host::springboard {
+
+/// The icons of the installed applications and folders, and the arrangement they stand in, which is
+/// read from the device when the object is made.
+class IconModel : public objc::Implementation<IconModel, SBIconModel> {
+ public:
+  explicit IconModel(SBIconModel owner);
+
+  SBIcon expected_icon_for_display_identifier(NSString identifier) const;
+  NSArray leaf_icons() const;
+
+  HomeLayout& layout() { return layout_; }
+  /// The icon under that identifier of the layout, a folder's being made when it is new; nil for an
+  /// application that is not installed.
+  SBIcon icon(const Slot& slot);
+  SBIcon application_icon(const std::string& bundle) const;
+  /// The icons of the identifiers inside a folder.
+  NSArray folder_contents(const Slot& folder) const;
+  /// Takes the application's icon out of the arrangement.
+  void remove_application(const std::string& bundle);
+  /// Forgets the icons of folders that are no more.
+  void forget_lost_folders();
+  /// Writes the arrangement to the device.
+  void save() const;
+
+ private:
+  std::map<std::string, objc::Ref<SBIcon>> applications_;
+  std::map<std::string, objc::Ref<SBIcon>> folders_;
+  HomeLayout layout_;
+};
+
+void export_icon_model();
+
+}  // namespace host::springboard

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <utility>
+
+#include "objc/object.h"
+
+namespace host::springboard {
+
+/// Objects of which there is one, made when first asked for and kept until all are forgotten.
+class SharedInstances {
+ public:
+  using Forget = void (*)();
+  static void remember(Forget forget);
+  /// Lets go of every one, last made first: the end of a home screen that another will follow.
+  static void forget_all();
+};
+
+template <objc::Handle T>
+class SharedInstance {
+ public:
+  static T get() {
+    if (!instance_) {
+      instance_ = T::alloc().init();
+      SharedInstances::remember(&forget);
+    }
+    return instance_;
+  }
+
+ private:
+  static void forget() { std::exchange(instance_, T()).release(); }
+
+  // A bare handle: nothing is to be released behind the end of `main`.
+  static inline T instance_;
+};
+
+/// The body of `+sharedInstance`.
+template <objc::Handle T>
+T shared_instance(objc::Object) {
+  return SharedInstance<T>::get();
+}
+
+}  // namespace host::springboard
