@@ -1,0 +1,71 @@
+#pragma once
+
+#include <optional>
+
+#include "host/springboard/view/icon_label.h"
+#include "host/springboard/view/icon_touch_listener.h"
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UIEvent.h"
+#include "platform/UIKit/UIGestureRecognizer.h"
+#include "platform/UIKit/UIImageView.h"
+
+namespace host::springboard {
+
+/// An icon on the screen. A tap and a long press come through recognisers, moving in the editing
+/// mode through the touches themselves: whoever takes the recognisers away leaves icons movable.
+class IconView : public objc::Implementation<IconView, SBIconView> {
+ public:
+  using Implementation::Implementation;
+
+  /// A new view for the icon, at the size of this screen's icons; +1.
+  static SBIconView make(SBIcon icon, IconTouchListener& listener);
+  void forget_listener() { listener_ = nullptr; }
+
+  SBIcon icon() const { return icon_.get(); }
+  void set_icon(SBIcon icon);
+  int location() const { return location_; }
+  void set_location(int location) { location_ = location; }
+  BOOL is_in_dock() const { return location_ == SBIconLocationDock; }
+  BOOL is_editing() const { return editing_; }
+  void set_is_editing(BOOL editing);
+  BOOL is_highlighted() const { return highlighted_; }
+  void set_highlighted(BOOL highlighted);
+
+  void touches_began(NSSet touches, UIEvent event);
+  void touches_moved(NSSet touches, UIEvent event);
+  void touches_ended(NSSet touches, UIEvent event);
+  void touches_cancelled(NSSet touches, UIEvent event);
+  void did_move_to_window();
+  void tapped(UIGestureRecognizer recognizer);
+  void pressed_long(UIGestureRecognizer recognizer);
+
+  /// Where the image stands, in the icon view's coordinates.
+  CGRect image_frame() const;
+  /// A lifted icon shows nothing of itself: its image is under the finger.
+  void set_lifted(bool lifted);
+  void set_image_scale(CGFloat scale);
+  /// Where the finger went down, in the window's coordinates.
+  CGPoint touch_point() const { return touch_point_; }
+
+ private:
+  void build();
+  void add_recognizers();
+  void let_go();
+  void start_wobbling() const;
+
+  IconTouchListener* listener_ = nullptr;
+  objc::Ref<SBIcon> icon_;
+  objc::Ref<UIView> content_;
+  objc::Ref<UIImageView> image_;
+  objc::Ref<UIImageView> shade_;
+  std::optional<IconLabel> label_;
+  CGPoint touch_point_;
+  int location_ = SBIconLocationHomeScreen;
+  BOOL editing_ = NO;
+  BOOL highlighted_ = NO;
+};
+
+void export_icon_view();
+
+}  // namespace host::springboard

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <map>
+#include <utility>
+
+#include "host/springboard/view/icon_touch_listener.h"
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/SpringBoard/SBIconViewMap.h"
+
+namespace host::springboard {
+
+/// Keeps one view for each icon, so that moving an icon never makes another view for it.
+class IconViewMap : public objc::Implementation<IconViewMap, SBIconViewMap> {
+ public:
+  using Implementation::Implementation;
+
+  SBIconView mapped_icon_view_for_icon(SBIcon icon) const;
+  /// The icon's view, made now if it has none.
+  SBIconView view_for(SBIcon icon, IconTouchListener& listener);
+  /// Nobody hears of touches any more: somebody may keep a view for longer than its screen.
+  void forget_listener() const;
+  /// Calls `visit` for each view.
+  template <class Visit>
+  void for_each(Visit visit) const {
+    for (const auto& [icon, view] : views_)
+      visit(view.get());
+  }
+  /// Takes every view whose icon `keep` refuses from the screen.
+  template <class Keep>
+  void remove_unless(Keep keep) {
+    std::erase_if(views_, [&](const auto& entry) {
+      if (keep(entry.second->icon())) return false;
+      entry.second->removeFromSuperview();
+      return true;
+    });
+  }
+
+ private:
+  std::map<objc::Id, objc::Ref<SBIconView>> views_;
+};
+
+void export_icon_view_map();
+
+}  // namespace host::springboard
