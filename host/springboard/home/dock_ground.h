@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/UIKit/UIView.h"
+
+namespace host::springboard {
+
+/// Fills the dock with its translucent bar.
+void add_dock_ground(UIView dock);
+
+}  // namespace host::springboard

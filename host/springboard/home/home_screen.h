@@ -1,0 +1,67 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/springboard/icon/icon_model.h"
+#include "host/springboard/model/grid_metrics.h"
+#include "host/springboard/view/icon_touch_listener.h"
+#include "platform/SpringBoard/SBDockIconListView.h"
+#include "platform/SpringBoard/SBFolderIconListView.h"
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UIPageControl.h"
+#include "platform/UIKit/UIScrollView.h"
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::springboard {
+
+/// The window of the home screen: wallpaper, pages of icons, page dots and dock.
+class HomeScreen {
+ public:
+  /// `scroll_delegate` hears of the pages' scrolling and is not retained.
+  HomeScreen(IconModel& model, IconTouchListener& listener, objc::Object scroll_delegate);
+
+  UIWindow window() const { return window_.get(); }
+  /// What stands on the wallpaper: pages, dots and dock.
+  UIView content() const { return content_.get(); }
+  const GridMetrics& grid() const { return grid_; }
+
+  /// Makes the views what the model says; icons fly to their new slots in `duration` seconds.
+  void sync(double duration);
+
+  std::size_t current_page() const;
+  void scroll_to_page(std::size_t page, BOOL animated) const;
+  void set_paging_enabled(BOOL enabled) const { scroll_->setScrollEnabled(enabled); }
+  /// The pages have moved under the dots.
+  void pages_scrolled() const;
+
+  SBIconListView page_list(std::size_t page) const { return pages_.at(page).get(); }
+  SBDockIconListView dock_list() const { return dock_list_.get(); }
+  /// Nil when there is no such folder.
+  SBFolderIconListView folder_list(const std::string& folder) const;
+
+ private:
+  void add_wallpaper();
+  void add_pages(objc::Object scroll_delegate);
+  void add_dots();
+  void add_dock();
+  void sync_page_count();
+  void sync_list(SBIconListView view, const HomeLayout::List& list, double duration);
+  void sync_folder(const Slot& folder, SBIcon icon);
+  SBIconView view_for(SBIcon icon) const;
+  void remove_what_is_gone();
+
+  IconModel& model_;
+  IconTouchListener& listener_;
+  GridMetrics grid_;
+  objc::Ref<UIWindow> window_;
+  objc::Ref<UIView> content_;
+  objc::Ref<UIScrollView> scroll_;
+  objc::Ref<UIPageControl> dots_;
+  objc::Ref<SBDockIconListView> dock_list_;
+  std::vector<objc::Ref<SBIconListView>> pages_;
+  std::map<std::string, objc::Ref<SBFolderIconListView>> folders_;
+};
+
+}  // namespace host::springboard

@@ -1,0 +1,117 @@
+#include "host/springboard/home/icon_controller.h"
+
+#include <algorithm>
+
+#include "host/springboard/model/strings.h"
+#include "host/springboard/shared_instance.h"
+#include "host/springboard/view/icon_view.h"
+#include "host/springboard/view/icon_view_map.h"
+
+namespace host::springboard {
+namespace {
+
+constexpr double kRearranging = 0.3;
+
+IconViewMap& view_map() {
+  return objc::state_of<IconViewMap>(SBIconViewMap::homescreenMap());
+}
+
+}  // namespace
+
+SBIconController IconController::init() {
+  const auto made = super<SBIconController>("init"_sel);
+  if (!made) return made;
+  model_ = objc::Ref<SBIconModel>::adopt(SBIconModel::alloc().init());
+  home_ = std::make_unique<HomeScreen>(icon_model(), static_cast<IconTouchListener&>(*this), self);
+  folders_ = std::make_unique<FolderPresenter>(*home_, self);
+  drag_ = std::make_unique<IconDrag>(*home_, icon_model(), *folders_);
+  return made;
+}
+
+IconController::~IconController() {
+  if (home_) view_map().forget_listener();
+}
+
+void IconController::set_is_editing(BOOL editing) {
+  if (editing_ == editing) return;
+  editing_ = editing;
+  if (!editing) drag_->end();
+  view_map().for_each([&](SBIconView view) { view.setIsEditing(editing); });
+}
+
+void IconController::close_folder_animated(BOOL animated) {
+  folders_->close(animated ? Motion::kAnimated : Motion::kAtOnce);
+}
+
+NSInteger IconController::current_icon_list_index() const {
+  return static_cast<NSInteger>(home_->current_page());
+}
+
+void IconController::scroll_to_icon_list(NSInteger index, BOOL animated) {
+  home_->scroll_to_page(static_cast<std::size_t>(std::max<NSInteger>(index, 0)), animated);
+}
+
+void IconController::scroll_view_did_scroll(UIScrollView) {
+  // The pages' view reports before the screen that holds it is whole.
+  if (home_) home_->pages_scrolled();
+}
+
+void IconController::folder_background_tapped(UIGestureRecognizer) {
+  folders_->close(Motion::kAnimated);
+}
+
+void IconController::layout_changed() {
+  drag_->end();
+  folders_->close(Motion::kAtOnce);
+  icon_model().layout().remove_empty_pages();
+  home_->sync(kRearranging);
+  icon_model().save();
+}
+
+void IconController::icon_touched(SBIconView icon_view, CGPoint point) {
+  if (icon_view.isEditing()) drag_->begin(icon_view, point);
+}
+
+void IconController::icon_dragged(SBIconView, CGPoint point) {
+  drag_->move(point);
+}
+
+void IconController::icon_released(SBIconView) {
+  drag_->end();
+}
+
+void IconController::icon_tapped(SBIconView icon_view) {
+  const SBIcon icon = icon_view.icon();
+  if (icon.isFolderIcon()) {
+    drag_->end();
+    folders_->open(to_string(icon.nodeIdentifier()), icon.displayName(), icon_view);
+  } else if (!editing_) {
+    icon.launch();
+  }
+}
+
+void IconController::icon_pressed_long(SBIconView icon_view) {
+  if (editing_) return;
+  self.setIsEditing(YES);
+  drag_->begin(icon_view, objc::state_of<IconView>(icon_view).touch_point());
+}
+
+void export_icon_controller() {
+  objc::ClassBuilder("SBIconController", "NSObject")
+      .state<IconController>()
+      .class_method<&shared_instance<SBIconController>>("sharedInstance")
+      .method<&IconController::init>("init")
+      .method<&IconController::model>("model")
+      .method<&IconController::is_editing>("isEditing")
+      .method<&IconController::set_is_editing>("setIsEditing:")
+      .method<&IconController::has_open_folder>("hasOpenFolder")
+      .method<&IconController::close_folder_animated>("closeFolderAnimated:")
+      .method<&IconController::current_icon_list_index>("currentIconListIndex")
+      .method<&IconController::scroll_to_icon_list>("scrollToIconListAtIndex:animate:")
+      .method<&IconController::icon_tapped_message>("iconTapped:")
+      .method<&IconController::scroll_view_did_scroll>("scrollViewDidScroll:")
+      .method<&IconController::folder_background_tapped>("folderBackgroundTapped:")
+      .finish();
+}
+
+}  // namespace host::springboard

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/springboard/home/folder_presenter.h"
+#include "host/springboard/home/home_screen.h"
+#include "host/springboard/home/icon_drag.h"
+#include "objc/class_builder.h"
+#include "platform/SpringBoard/SBIconController.h"
+#include "platform/UIKit/UIGestureRecognizer.h"
+
+namespace host::springboard {
+
+/// The home screen's icons: it owns their model and their views, and decides what a touch on one
+/// means.
+class IconController final : public objc::Implementation<IconController, SBIconController>,
+                             private IconTouchListener {
+ public:
+  using Implementation::Implementation;
+  ~IconController();
+
+  SBIconController init();
+  SBIconModel model() const { return model_.get(); }
+  BOOL is_editing() const { return editing_; }
+  void set_is_editing(BOOL editing);
+  BOOL has_open_folder() const { return folders_->is_open(); }
+  void close_folder_animated(BOOL animated);
+  NSInteger current_icon_list_index() const;
+  void scroll_to_icon_list(NSInteger index, BOOL animated);
+  void icon_tapped_message(SBIconView icon_view) { icon_tapped(icon_view); }
+  void scroll_view_did_scroll(UIScrollView view);
+  void folder_background_tapped(UIGestureRecognizer recognizer);
+
+  HomeScreen& home() { return *home_; }
+  IconModel& icon_model() { return objc::state_of<IconModel>(model_.get()); }
+  /// Shows and keeps an arrangement that was changed from outside; an open folder is closed.
+  void layout_changed();
+
+ private:
+  void icon_touched(SBIconView icon_view, CGPoint point) override;
+  void icon_dragged(SBIconView icon_view, CGPoint point) override;
+  void icon_released(SBIconView icon_view) override;
+  void icon_tapped(SBIconView icon_view) override;
+  void icon_pressed_long(SBIconView icon_view) override;
+
+  objc::Ref<SBIconModel> model_;
+  std::unique_ptr<HomeScreen> home_;
+  std::unique_ptr<FolderPresenter> folders_;
+  std::unique_ptr<IconDrag> drag_;
+  BOOL editing_ = NO;
+};
+
+void export_icon_controller();
+
+}  // namespace host::springboard

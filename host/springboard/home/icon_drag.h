@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "host/runtime/run_loop.h"
+#include "host/springboard/home/folder_presenter.h"
+
+namespace host::springboard {
+
+/// Carries one icon in the editing mode: a copy of its image follows the finger while the other
+/// icons make room. Where the icon would go is decided once the finger has rested there a moment.
+class IconDrag {
+ public:
+  IconDrag(HomeScreen& home, IconModel& model, FolderPresenter& folders);
+  ~IconDrag();
+  IconDrag(const IconDrag&) = delete;
+  IconDrag& operator=(const IconDrag&) = delete;
+
+  bool is_active() const { return static_cast<bool>(icon_view_); }
+  /// Points are in the coordinates of the window.
+  void begin(SBIconView icon_view, CGPoint point);
+  void move(CGPoint point);
+  /// Puts the icon where it is aimed and the arrangement on the device.
+  void end();
+
+ private:
+  enum class Intent { kStay, kMove, kDrop, kTurnBack, kTurnForward, kLeaveFolder };
+  struct Aim {
+    Intent intent = Intent::kStay;
+    Place place;
+    std::string target;  ///< Of a drop.
+    friend bool operator==(const Aim&, const Aim&) = default;
+  };
+
+  Aim aim_at(CGPoint finger, CGPoint centre) const;
+  Aim aim_in_folder(CGPoint centre) const;
+  Aim aim_in_dock(CGPoint centre) const;
+  Aim aim_on_page(CGPoint centre) const;
+  Aim move_to(Place place) const;
+  bool may_drop_on(const Slot& slot, CGPoint slot_centre, CGPoint centre) const;
+  void take_aim(Aim aim);
+  void aim_rested();
+  void move_icon(const Place& place);
+  void turn_page(std::size_t page);
+  void set_target_raised(bool raised);
+  void stop_waiting();
+  void settle();
+
+  HomeScreen& home_;
+  IconModel& model_;
+  FolderPresenter& folders_;
+  objc::Ref<SBIconView> icon_view_;
+  objc::Ref<UIView> carried_;
+  std::string id_;
+  CGSize grip_;  ///< From the finger to the middle of the carried image.
+  CGPoint finger_;
+  Aim aim_;
+  bool target_raised_ = false;
+  std::optional<RunLoop::Id> waiting_;
+};
+
+}  // namespace host::springboard
