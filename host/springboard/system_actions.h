@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string_view>
+
+namespace host::springboard {
+
+// What somebody outside the screen can do to the home screen. Each goes the way the buttons and the
+// fingers go, by messages, so that whoever replaced a method hears of it. Those that name an
+// application by its identifier are false, and change nothing, when they cannot be done.
+
+void press_home();
+void double_press_home();
+void set_editing(bool editing);
+
+bool open(std::string_view bundle);
+bool uninstall(std::string_view bundle);
+
+/// Into the first folder with room; with none, into a new one with a neighbour.
+bool move_to_folder(std::string_view bundle);
+bool move_out_of_folder(std::string_view bundle);
+/// False when the dock is full.
+bool move_to_dock(std::string_view bundle);
+/// Behind the last icon of the first page.
+bool move_out_of_dock(std::string_view bundle);
+
+void present_banner(std::string_view text);
+void present_notification_centre();
+void present_control_centre();
+/// Pulls the screen down, or lets it go again; false where the device cannot.
+bool toggle_reachability();
+void lock();
+void unlock();
+
+}  // namespace host::springboard
