@@ -11,6 +11,7 @@ struct SBUIController : objc::Bound<SBUIController, "SBUIController", NSObject> 
   BOOL clickedMenuButton() const { return call<"clickedMenuButton", BOOL>(); }
   /// The Home button pressed twice; YES when it did something.
   BOOL handleMenuDoubleTap() const { return call<"handleMenuDoubleTap", BOOL>(); }
+  BOOL isAppSwitcherShowing() const { return call<"isAppSwitcherShowing", BOOL>(); }
   void activateApplicationAnimated(SBApplication application) const {
     call<"activateApplicationAnimated:">(application);
   }

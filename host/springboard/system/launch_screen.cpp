@@ -1,0 +1,105 @@
+#include "host/springboard/system/launch_screen.h"
+
+#include "host/springboard/view/make_view.h"
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UILabel.h"
+
+namespace host::springboard {
+namespace {
+
+constexpr double kOpening = 0.4;
+constexpr double kClosing = 0.35;
+constexpr CGFloat kGround = 0.13;
+constexpr CGFloat kTextAlpha = 0.55;
+constexpr CGFloat kTitleSize = 22;
+constexpr CGFloat kTextSize = 14;
+constexpr CGFloat kLineHeight = 28;
+constexpr CGFloat kGap = 18;
+
+void add_line(UIView screen, NSString text, CGFloat top, UIFont font, UIColor color) {
+  auto label = make_view<UILabel>({0, top, screen.bounds().size.width, kLineHeight});
+  label->setText(text);
+  label->setFont(font);
+  label->setTextColor(color);
+  label->setTextAlignment(NSTextAlignmentCenter);
+  screen.addSubview(*label);
+}
+
+}  // namespace
+
+LaunchScreen::LaunchScreen(UIWindow window) : window_(window) {}
+
+LaunchScreen::~LaunchScreen() {
+  take_down();
+}
+
+void LaunchScreen::open(SBApplication application, UIImage image, CGRect from) {
+  take_down();
+  from_ = from;
+  build(application, image);
+  const UIView screen = *screen_;
+  screen.setTransform(transform_onto_icon());
+  screen.setAlpha(0);
+  UIView::animateWithDuration(kOpening, objc::block([=] {
+                                screen.setTransform(CGAffineTransform());
+                                screen.setAlpha(1);
+                              }));
+}
+
+void LaunchScreen::close() {
+  if (!is_open()) return;
+  closing_ = true;
+  const UIView screen = *screen_;
+  screen.setUserInteractionEnabled(NO);
+  const CGAffineTransform onto_icon = transform_onto_icon();
+  const auto closed = objc::block([this, kept = screen_](BOOL) {
+    if (kept.get() == screen_.get()) take_down();
+  });
+  UIView::animateWithDuration(kClosing, objc::block([=] {
+                                screen.setTransform(onto_icon);
+                                screen.setAlpha(0);
+                              }),
+                              closed);
+}
+
+void LaunchScreen::build(SBApplication application, UIImage image) {
+  closing_ = false;
+  screen_ = make_view<UIView>(window_.bounds());
+  screen_->setBackgroundColor(UIColor::colorWithWhite(kGround, 1));
+  screen_->setClipsToBounds(YES);
+  const CGPoint middle = CGRect(window_.bounds()).centre();
+
+  auto icon = objc::Ref<UIImageView>::adopt(UIImageView::alloc().initWithImage(image));
+  const CGFloat icon_bottom = middle.y - kGap;
+  icon->setCenter({middle.x, icon_bottom - icon->bounds().size.height / 2});
+  screen_->addSubview(*icon);
+
+  const NSString name = application.displayName();
+  add_line(*screen_, name, icon_bottom + kGap,
+           UIFont::fontWithName("HelveticaNeue-Light"_ns, kTitleSize), UIColor::whiteColor());
+  add_line(*screen_, name.stringByAppendingString(" is not running on this phone yet"_ns),
+           icon_bottom + kGap + kLineHeight, UIFont::fontWithName("HelveticaNeue"_ns, kTextSize),
+           UIColor::colorWithWhite(1, kTextAlpha));
+  window_.addSubview(*screen_);
+}
+
+CGAffineTransform LaunchScreen::transform_onto_icon() const {
+  const CGRect whole = window_.bounds();
+  const CGPoint middle = whole.centre();
+  const CGPoint to = from_.centre();
+  return {from_.size.width / whole.size.width,
+          0,
+          0,
+          from_.size.height / whole.size.height,
+          to.x - middle.x,
+          to.y - middle.y};
+}
+
+void LaunchScreen::take_down() {
+  if (!screen_) return;
+  screen_->removeFromSuperview();
+  screen_.reset();
+  closing_ = false;
+}
+
+}  // namespace host::springboard

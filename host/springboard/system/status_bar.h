@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+
+#include "host/runtime/run_loop.h"
+#include "host/springboard/model/wall_clock.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UILabel.h"
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::springboard {
+
+/// The status bar in a window of its own: signal, wireless network, time of day, battery. It wakes
+/// once a minute and only when the clock's text will change.
+class StatusBar {
+ public:
+  explicit StatusBar(const WallClock& clock);
+  ~StatusBar();
+  StatusBar(const StatusBar&) = delete;
+  StatusBar& operator=(const StatusBar&) = delete;
+
+  UIWindow window() const { return window_.get(); }
+  NSString time_text() const { return time_->text(); }
+
+ private:
+  void add_left_side() const;
+  void add_time();
+  void add_battery() const;
+  void show_time();
+
+  const WallClock& clock_;
+  objc::Ref<UIWindow> window_;
+  objc::Ref<UILabel> time_;
+  std::optional<RunLoop::Id> next_minute_;
+};
+
+}  // namespace host::springboard

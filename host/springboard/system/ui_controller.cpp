@@ -1,0 +1,80 @@
+#include "host/springboard/system/ui_controller.h"
+
+#include "host/springboard/home/icon_controller.h"
+#include "host/springboard/shared_instance.h"
+#include "host/springboard/view/icon_view.h"
+#include "platform/SpringBoard/SBIconViewMap.h"
+
+namespace host::springboard {
+namespace {
+
+IconController& icon_controller() {
+  return objc::state_of<IconController>(SBIconController::sharedInstance());
+}
+
+/// Where the application's icon is seen, or the middle of the screen when it is not.
+CGRect icon_on_screen(SBIcon icon, UIWindow window) {
+  const SBIconView view = SBIconViewMap::homescreenMap().mappedIconViewForIcon(icon);
+  const CGRect screen = window.bounds();
+  if (view.window() == window) {
+    const CGRect image = objc::state_of<IconView>(view).image_frame();
+    const CGRect seen = view.convertRectToView(image, window);
+    if (screen.contains(seen.centre())) return seen;
+  }
+  return {screen.centre(), {1, 1}};
+}
+
+}  // namespace
+
+UIWindow UserInterfaceController::window() const {
+  return icon_controller().home().window();
+}
+
+BOOL UserInterfaceController::clicked_menu_button() {
+  const SBIconController icons = SBIconController::sharedInstance();
+  if (switcher_showing_) {
+    switcher_showing_ = NO;
+  } else if (launch_screen_ && launch_screen_->is_open()) {
+    launch_screen_->close();
+  } else if (icons.isEditing()) {
+    icons.setIsEditing(NO);
+  } else if (icons.hasOpenFolder()) {
+    icons.closeFolderAnimated(YES);
+  } else if (icons.currentIconListIndex() != 0) {
+    icons.scrollToIconListAtIndex(0, YES);
+  } else {
+    return NO;
+  }
+  return YES;
+}
+
+BOOL UserInterfaceController::handle_menu_double_tap() {
+  switcher_showing_ = YES;
+  return YES;
+}
+
+void UserInterfaceController::activate_application_animated(SBApplication application) {
+  if (!application) return;
+  const SBIconController icons = SBIconController::sharedInstance();
+  icons.setIsEditing(NO);
+  const SBIcon icon =
+      icons.model().expectedIconForDisplayIdentifier(application.bundleIdentifier());
+  if (!launch_screen_) launch_screen_ = std::make_unique<LaunchScreen>(self.window());
+  launch_screen_->open(application, icon.generateIconImage(SBIconImageFormatHomeScreen),
+                       icon_on_screen(icon, self.window()));
+}
+
+void export_ui_controller() {
+  objc::ClassBuilder("SBUIController", "NSObject")
+      .state<UserInterfaceController>()
+      .class_method<&shared_instance<SBUIController>>("sharedInstance")
+      .method<&UserInterfaceController::window>("window")
+      .method<&UserInterfaceController::clicked_menu_button>("clickedMenuButton")
+      .method<&UserInterfaceController::handle_menu_double_tap>("handleMenuDoubleTap")
+      .method<&UserInterfaceController::is_app_switcher_showing>("isAppSwitcherShowing")
+      .method<&UserInterfaceController::activate_application_animated>(
+          "activateApplicationAnimated:")
+      .finish();
+}
+
+}  // namespace host::springboard

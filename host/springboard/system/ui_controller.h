@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+
+#include "host/springboard/system/launch_screen.h"
+#include "objc/class_builder.h"
+#include "platform/SpringBoard/SBUIController.h"
+
+namespace host::springboard {
+
+/// The Home button, and which application is in front.
+class UserInterfaceController
+    : public objc::Implementation<UserInterfaceController, SBUIController> {
+ public:
+  using Implementation::Implementation;
+
+  UIWindow window() const;
+  /// Leaves one thing after the other: the switcher, the application, the editing mode, the open
+  /// folder, at last a page other than the first.
+  BOOL clicked_menu_button();
+  /// The switcher is not drawn yet; that it was called up is remembered.
+  BOOL handle_menu_double_tap();
+  BOOL is_app_switcher_showing() const { return switcher_showing_; }
+  void activate_application_animated(SBApplication application);
+
+ private:
+  std::unique_ptr<LaunchScreen> launch_screen_;
+  BOOL switcher_showing_ = NO;
+};
+
+void export_ui_controller();
+
+}  // namespace host::springboard
