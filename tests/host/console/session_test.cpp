@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/Foundation/NSString.h"
+#include "tests/host/console/fake_phone.h"
 
 namespace {
 
@@ -12,43 +12,6 @@ using namespace host::console;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
-
-/// Writes down what it is asked to do.
-class FakePhone : public Phone {
- public:
-  void advance(double seconds) override {
-    now += seconds;
-    done.push_back(fmt::format("advance {:.4g}", seconds));
-  }
-  void touch(TouchPhase phase, CGPoint point) override {
-    constexpr const char* kNames[] = {"began", "moved", "ended", "cancelled"};
-    done.push_back(
-        fmt::format("{} {:.4g} {:.4g}", kNames[static_cast<int>(phase)], point.x, point.y));
-  }
-  std::optional<CGPoint> centre_of(objc::Object object) override {
-    if (objc::cast<NSObject>(object).isKindOfClass(NSString::cls())) return CGPoint{30, 40};
-    return std::nullopt;
-  }
-  Refusal type(std::string_view text) override { return note("type", text); }
-  Refusal key(std::string_view name) override { return note("key", name); }
-  Refusal press(Button button) override { return note("press", fmt::format("{}", int(button))); }
-  Refusal system(SystemEvent event, std::string_view detail) override {
-    return note("system", fmt::format("{} {}", int(event), detail));
-  }
-  Refusal gesture(std::string_view event) override { return note("gesture", event); }
-  Refusal screenshot(const std::string& file) override { return note("screenshot", file); }
-  Refusal talk_to(std::string_view process) override { return note("process", process); }
-
-  double now = 0;
-  Refusal refusal;
-  std::vector<std::string> done;
-
- private:
-  Refusal note(std::string_view what, std::string_view detail) {
-    done.push_back(fmt::format("{} {}", what, detail));
-    return refusal;
-  }
-};
 
 int counter = 3;
 const ExportedGlobal kTable[] = {{"counter", "i", &counter}, {nullptr, nullptr, nullptr}};

@@ -24,6 +24,10 @@ TEST(RestartLimit, AllowsFiveWithinAMinuteAndMoreLater) {
 
 class Supervisors : public testing::Test {
  protected:
+  // A supervisor that is killed leaves its socket behind: then it is removed with the folder.
+  Supervisors() { setenv("XDG_RUNTIME_DIR", folder_.path().c_str(), 1); }
+  ~Supervisors() override { unsetenv("XDG_RUNTIME_DIR"); }
+
   ChildCommand command(const std::string& behaviour) {
     return {PROGRAM_FOLDER "/SpringBoard",
             {record().string(), behaviour},

@@ -1,0 +1,57 @@
+#include "host/console/line_server.h"
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace host::console {
+
+LineServer::LineServer(int descriptor, Session& session, std::function<void()> on_quit)
+    : descriptor_(descriptor), session_(session), on_quit_(std::move(on_quit)) {}
+
+void LineServer::serve() {
+  if (busy_) return;
+  char bytes[4096];
+  const auto count = read(descriptor_, bytes, sizeof bytes);
+  if (count <= 0) {
+    on_quit_();
+    return;
+  }
+  pending_.append(bytes, static_cast<std::size_t>(count));
+  busy_ = true;
+  carry_out_lines();
+  busy_ = false;
+}
+
+void LineServer::carry_out_lines() {
+  for (auto end = pending_.find('\n'); end != std::string::npos; end = pending_.find('\n')) {
+    const std::string line = pending_.substr(0, end);
+    pending_.erase(0, end + 1);
+    if (line_is_too_long_ || line.size() > kLongestLine) {
+      line_is_too_long_ = false;
+      answer({Answer::Kind::Error, "the line is too long"});
+      continue;
+    }
+    const Answer made = session_.execute(line);
+    answer(made);
+    if (made.kind == Answer::Kind::Quit) {
+      on_quit_();
+      return;
+    }
+  }
+  if (pending_.size() > kLongestLine) {
+    pending_.clear();
+    line_is_too_long_ = true;
+  }
+}
+
+void LineServer::answer(const Answer& answer) {
+  const std::string line = answer.line() + '\n';
+  std::size_t sent = 0;
+  while (sent < line.size()) {
+    const auto count = send(descriptor_, line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
+    if (count <= 0) return;  // the other end is gone, which the next read finds out
+    sent += static_cast<std::size_t>(count);
+  }
+}
+
+}  // namespace host::console

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <fmt/format.h>
+
+#include <string>
+#include <vector>
+
+#include "host/console/phone.h"
+#include "platform/Foundation/NSString.h"
+
+/// Writes down what it is asked to do. Texts stand for views.
+class FakePhone : public host::console::Phone {
+ public:
+  using Refusal = host::console::Refusal;
+
+  void advance(double seconds) override {
+    now += seconds;
+    done.push_back(fmt::format("advance {:.4g}", seconds));
+  }
+  void touch(host::console::TouchPhase phase, CGPoint point) override {
+    constexpr const char* kNames[] = {"began", "moved", "ended", "cancelled"};
+    done.push_back(
+        fmt::format("{} {:.4g} {:.4g}", kNames[static_cast<int>(phase)], point.x, point.y));
+  }
+  std::optional<CGPoint> centre_of(objc::Object object) override {
+    if (objc::cast<NSObject>(object).isKindOfClass(NSString::cls())) return CGPoint{30, 40};
+    return std::nullopt;
+  }
+  Refusal type(std::string_view text) override { return note("type", text); }
+  Refusal key(std::string_view name) override { return note("key", name); }
+  Refusal press(host::console::Button button) override {
+    return note("press", fmt::format("{}", static_cast<int>(button)));
+  }
+  Refusal system(host::console::SystemEvent event, std::string_view detail) override {
+    return note("system", fmt::format("{} {}", static_cast<int>(event), detail));
+  }
+  Refusal gesture(std::string_view event) override { return note("gesture", event); }
+  Refusal screenshot(const std::string& file) override { return note("screenshot", file); }
+  Refusal talk_to(std::string_view process) override { return note("process", process); }
+
+  double now = 0;
+  Refusal refusal;
+  std::vector<std::string> done;
+
+ private:
+  Refusal note(std::string_view what, std::string_view detail) {
+    done.push_back(fmt::format("{} {}", what, detail));
+    return refusal;
+  }
+};
