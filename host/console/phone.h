@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "host/screen/input.h"
 #include "objc/object.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 
 namespace host::console {
 
-enum class TouchPhase { Began, Moved, Ended, Cancelled };
-
-enum class Button { Home, HomeDouble, Lock, VolumeUp, VolumeDown };
+using screen::Button;
+using screen::TouchPhase;
 
 enum class SystemEvent {
   Banner,

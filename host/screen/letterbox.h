@@ -1,0 +1,26 @@
+#pragma once
+
+#include <algorithm>
+
+#include "platform/CoreGraphics/CGGeometry.h"
+
+namespace host::screen {
+
+/// How a phone's screen lies in a window of another shape: as large as it fits, in the middle.
+struct Letterbox {
+  CGRect place;      // of the screen, in the window's units
+  double scale = 1;  // the window's units a point
+
+  static constexpr Letterbox fit(CGSize screen, CGSize window) {
+    const double scale = std::min(window.width / screen.width, window.height / screen.height);
+    const CGSize size{screen.width * scale, screen.height * scale};
+    return {{{(window.width - size.width) / 2, (window.height - size.height) / 2}, size}, scale};
+  }
+
+  /// The point of the screen that lies at this place of the window.
+  constexpr CGPoint point_at(CGPoint in_window) const {
+    return {(in_window.x - place.origin.x) / scale, (in_window.y - place.origin.y) / scale};
+  }
+};
+
+}  // namespace host::screen

@@ -1,0 +1,143 @@
+#include "host/screen/window.h"
+
+#include <SDL.h>
+#include <fmt/format.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace {
+
+using namespace host::screen;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Letterbox, FillsAWindowOfTheSameShape) {
+  const auto box = Letterbox::fit({375, 667}, {750, 1334});
+  EXPECT_EQ(box.place, CGRect(0, 0, 750, 1334));
+  EXPECT_EQ(box.point_at({375, 667}), (CGPoint{187.5, 333.5}));
+}
+
+TEST(Letterbox, LiesInTheMiddleOfAWiderOrHigherWindow) {
+  EXPECT_EQ(Letterbox::fit({100, 200}, {300, 200}).place, CGRect(100, 0, 100, 200));
+  EXPECT_EQ(Letterbox::fit({100, 200}, {100, 300}).place, CGRect(0, 50, 100, 200));
+  EXPECT_EQ(Letterbox::fit({100, 200}, {300, 200}).point_at({90, 20}), (CGPoint{-10, 20}));
+}
+
+TEST(Fingers, KeepTheirNumberUntilTheyAreLifted) {
+  Fingers fingers;
+  EXPECT_EQ(fingers.number_of(900, TouchPhase::Began), 1);
+  EXPECT_EQ(fingers.number_of(-7, TouchPhase::Began), 2);
+  EXPECT_EQ(fingers.number_of(900, TouchPhase::Ended), 1);
+  EXPECT_EQ(fingers.number_of(-7, TouchPhase::Moved), 2);
+  EXPECT_EQ(fingers.number_of(5, TouchPhase::Began), 1);
+  EXPECT_EQ(fingers.number_of(900, TouchPhase::Moved), std::nullopt);
+}
+
+class WrittenInput : public Input {
+ public:
+  void touch(int finger, TouchPhase phase, CGPoint point) override {
+    done.push_back(
+        fmt::format("touch {} {} {:g} {:g}", finger, static_cast<int>(phase), point.x, point.y));
+  }
+  void type(std::string_view text) override { done.push_back(fmt::format("type {}", text)); }
+  void key(std::string_view name) override { done.push_back(fmt::format("key {}", name)); }
+  void press(Button button) override {
+    done.push_back(fmt::format("press {}", static_cast<int>(button)));
+  }
+  void close() override { done.push_back("close"); }
+
+  std::vector<std::string> done;
+};
+
+/// A window on a desktop that exists in memory only.
+class Windows : public testing::Test {
+ protected:
+  Windows() {
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    std::string problem;
+    window_ = Window::open({100, 200}, 2, input_, problem);
+    EXPECT_TRUE(window_) << problem;
+    window_->handle_events();
+    input_.done.clear();
+  }
+
+  void push_mouse(Uint32 type, int x, int y, Uint8 button = SDL_BUTTON_LEFT) {
+    SDL_Event event{};
+    event.type = type;
+    if (type == SDL_MOUSEMOTION) {
+      event.motion.x = x;
+      event.motion.y = y;
+    } else {
+      event.button.button = button;
+      event.button.x = x;
+      event.button.y = y;
+    }
+    SDL_PushEvent(&event);
+  }
+  void push_key(SDL_Keycode key, Uint8 repeat = 0) {
+    SDL_Event event{};
+    event.type = SDL_KEYDOWN;
+    event.key.keysym.sym = key;
+    event.key.repeat = repeat;
+    SDL_PushEvent(&event);
+  }
+  std::vector<std::string> handled() {
+    input_.done.clear();
+    window_->handle_events();
+    return input_.done;
+  }
+
+  WrittenInput input_;
+  std::unique_ptr<Window> window_;
+};
+
+TEST_F(Windows, TheMouseIsAFingerWhileItsButtonIsDown) {
+  push_mouse(SDL_MOUSEMOTION, 5, 5);
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20);
+  push_mouse(SDL_MOUSEMOTION, 30, 40);
+  push_mouse(SDL_MOUSEBUTTONUP, 30, 40);
+  push_mouse(SDL_MOUSEMOTION, 50, 60);
+  EXPECT_THAT(handled(), ElementsAre("touch 0 0 10 20", "touch 0 1 30 40", "touch 0 2 30 40"));
+}
+
+TEST_F(Windows, OtherMouseButtonsAreNoFingers) {
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20, SDL_BUTTON_RIGHT);
+  push_mouse(SDL_MOUSEMOTION, 30, 40);
+  EXPECT_THAT(handled(), IsEmpty());
+}
+
+TEST_F(Windows, KeysAreButtonsOrKeysOfTheKeyboard) {
+  push_key(SDLK_F1);
+  push_key(SDLK_F1, 1);
+  push_key(SDLK_BACKSPACE);
+  push_key(SDLK_BACKSPACE, 1);
+  push_key(SDLK_a);
+  EXPECT_THAT(handled(), ElementsAre("press 0", "key delete", "key delete"));
+}
+
+TEST_F(Windows, ComposedTextIsTyped) {
+  SDL_Event event{};
+  event.type = SDL_TEXTINPUT;
+  std::snprintf(event.text.text, sizeof event.text.text, "ö");
+  SDL_PushEvent(&event);
+  EXPECT_THAT(handled(), ElementsAre("type ö"));
+}
+
+TEST_F(Windows, ClosingTheWindowIsTold) {
+  SDL_Event event{};
+  event.type = SDL_QUIT;
+  SDL_PushEvent(&event);
+  EXPECT_THAT(handled(), ElementsAre("close"));
+}
+
+TEST(Screenshots, AreWrittenOrTheReasonIsGiven) {
+  const std::array<unsigned, 4> pixels{0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFFFFFFFF};
+  const Picture picture{reinterpret_cast<const unsigned char*>(pixels.data()), 2, 2, 8};
+  const auto problem = write_png(picture, "/dev/null/shot.png");
+  ASSERT_TRUE(problem);
+  EXPECT_THAT(*problem, testing::StartsWith("/dev/null/shot.png: "));
+}
+
+}  // namespace
