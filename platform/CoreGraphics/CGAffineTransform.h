@@ -1,8 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-
 #include "platform/CoreGraphics/CGGeometry.h"
 
 inline constexpr CGAffineTransform CGAffineTransformIdentity{};
@@ -18,8 +15,8 @@ constexpr CGAffineTransform CGAffineTransformMakeScale(CGFloat sx, CGFloat sy) {
   return {sx, 0, 0, sy, 0, 0};
 }
 inline CGAffineTransform CGAffineTransformMakeRotation(CGFloat angle) {
-  const CGFloat cosine = std::cos(angle);
-  const CGFloat sine = std::sin(angle);
+  const CGFloat cosine = __builtin_cos(angle);
+  const CGFloat sine = __builtin_sin(angle);
   return {cosine, sine, -sine, cosine, 0, 0};
 }
 
@@ -78,8 +75,8 @@ constexpr CGRect CGRectApplyAffineTransform(CGRect rect, const CGAffineTransform
   CGPoint low = corners[0];
   CGPoint high = corners[0];
   for (const CGPoint& corner : corners) {
-    low = {std::min(low.x, corner.x), std::min(low.y, corner.y)};
-    high = {std::max(high.x, corner.x), std::max(high.y, corner.y)};
+    low = {CGLesser(low.x, corner.x), CGLesser(low.y, corner.y)};
+    high = {CGGreater(high.x, corner.x), CGGreater(high.y, corner.y)};
   }
   return {low.x, low.y, high.x - low.x, high.y - low.y};
 }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-
 #include "platform/CoreGraphics/CGGeometry.h"
 
 inline constexpr CGPoint CGPointZero{};
@@ -34,10 +31,10 @@ constexpr CGRect CGRectOffset(CGRect rect, CGFloat dx, CGFloat dy) {
 
 /// What both cover; empty (zero) where they do not meet.
 constexpr CGRect CGRectIntersection(CGRect left, CGRect right) {
-  const CGFloat x = std::max(left.min_x(), right.min_x());
-  const CGFloat y = std::max(left.min_y(), right.min_y());
-  const CGFloat width = std::min(left.max_x(), right.max_x()) - x;
-  const CGFloat height = std::min(left.max_y(), right.max_y()) - y;
+  const CGFloat x = CGGreater(left.min_x(), right.min_x());
+  const CGFloat y = CGGreater(left.min_y(), right.min_y());
+  const CGFloat width = CGLesser(left.max_x(), right.max_x()) - x;
+  const CGFloat height = CGLesser(left.max_y(), right.max_y()) - y;
   if (width <= 0 || height <= 0) return {};
   return {x, y, width, height};
 }
@@ -49,15 +46,15 @@ constexpr bool CGRectIntersectsRect(CGRect left, CGRect right) {
 constexpr CGRect CGRectUnion(CGRect left, CGRect right) {
   if (CGRectIsEmpty(left)) return right;
   if (CGRectIsEmpty(right)) return left;
-  const CGFloat x = std::min(left.min_x(), right.min_x());
-  const CGFloat y = std::min(left.min_y(), right.min_y());
-  return {x, y, std::max(left.max_x(), right.max_x()) - x,
-          std::max(left.max_y(), right.max_y()) - y};
+  const CGFloat x = CGLesser(left.min_x(), right.min_x());
+  const CGFloat y = CGLesser(left.min_y(), right.min_y());
+  return {x, y, CGGreater(left.max_x(), right.max_x()) - x,
+          CGGreater(left.max_y(), right.max_y()) - y};
 }
 
 /// The smallest rectangle with whole coordinates round `rect`.
 inline CGRect CGRectIntegral(CGRect rect) {
-  const CGFloat x = std::floor(rect.min_x());
-  const CGFloat y = std::floor(rect.min_y());
-  return {x, y, std::ceil(rect.max_x()) - x, std::ceil(rect.max_y()) - y};
+  const CGFloat x = __builtin_floor(rect.min_x());
+  const CGFloat y = __builtin_floor(rect.min_y());
+  return {x, y, __builtin_ceil(rect.max_x()) - x, __builtin_ceil(rect.max_y()) - y};
 }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <cmath>
-#include <cstring>
-
 #include "platform/CoreGraphics/CGGeometry.h"
 
 /// Row vectors times this matrix; m41, m42, m43 translate.
@@ -61,13 +58,13 @@ constexpr CGAffineTransform CATransform3DGetAffineTransform(const CATransform3D&
 /// Rotates round the axis (x, y, z); an axis of no length gives the identity.
 inline CATransform3D CATransform3DMakeRotation(CGFloat angle, CGFloat x, CGFloat y, CGFloat z) {
   CATransform3D made;
-  const CGFloat length = std::sqrt(x * x + y * y + z * z);
+  const CGFloat length = __builtin_sqrt(x * x + y * y + z * z);
   if (length == 0) return made;
   x /= length;
   y /= length;
   z /= length;
-  const CGFloat cosine = std::cos(angle);
-  const CGFloat sine = std::sin(angle);
+  const CGFloat cosine = __builtin_cos(angle);
+  const CGFloat sine = __builtin_sin(angle);
   const CGFloat rest = 1 - cosine;
   made.m11 = cosine + x * x * rest;
   made.m12 = x * y * rest + z * sine;
@@ -84,8 +81,8 @@ inline CATransform3D CATransform3DMakeRotation(CGFloat angle, CGFloat x, CGFloat
 /// First `first`, then `second`.
 inline CATransform3D CATransform3DConcat(const CATransform3D& first, const CATransform3D& second) {
   CGFloat left[4][4], right[4][4], product[4][4] = {};
-  std::memcpy(left, &first, sizeof left);
-  std::memcpy(right, &second, sizeof right);
+  __builtin_memcpy(left, &first, sizeof left);
+  __builtin_memcpy(right, &second, sizeof right);
   for (int row = 0; row < 4; ++row) {
     for (int column = 0; column < 4; ++column) {
       for (int i = 0; i < 4; ++i)
@@ -93,7 +90,7 @@ inline CATransform3D CATransform3DConcat(const CATransform3D& first, const CATra
     }
   }
   CATransform3D made;
-  std::memcpy(&made, product, sizeof made);
+  __builtin_memcpy(&made, product, sizeof made);
   return made;
 }
 

@@ -19,6 +19,10 @@ endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror -fvisibility=hidden
                     $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+if(SONAVUE_PHONE)
+  # The platform's C functions return its own structures; that they are C++ types here is harmless.
+  add_compile_options(-Wno-return-type-c-linkage)
+endif()
 if(SONAVUE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)

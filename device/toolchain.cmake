@@ -1,0 +1,21 @@
+# Debian's own clang and lld compile and link for the phone. Nothing of the vendor's development
+# kit is used: the C++ headers are the freestanding ones of the desktop's compiler, the libraries
+# to link against are described in stubs/.
+
+set(CMAKE_SYSTEM_NAME Generic)
+set(CMAKE_SYSTEM_PROCESSOR arm64)
+set(SONAVUE_PHONE ON)
+
+set(CMAKE_C_COMPILER clang-16)
+set(CMAKE_CXX_COMPILER clang++-16)
+set(CMAKE_C_COMPILER_TARGET arm64-apple-ios8.0)
+set(CMAKE_CXX_COMPILER_TARGET arm64-apple-ios8.0)
+# A whole program cannot be linked before the stubs are in place.
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+
+file(GLOB standard_headers /usr/include/c++/12 /usr/include/x86_64-linux-gnu/c++/12
+     /usr/include/aarch64-linux-gnu/c++/12)
+set(CMAKE_CXX_FLAGS_INIT "-ffreestanding -nostdlibinc -isystem ${CMAKE_CURRENT_LIST_DIR}/include")
+foreach(folder IN LISTS standard_headers)
+  string(APPEND CMAKE_CXX_FLAGS_INIT " -isystem ${folder}")
+endforeach()
