@@ -10,7 +10,7 @@ extern NSString NSFontAttributeName;
 extern NSString NSForegroundColorAttributeName;
 /// A UIColor behind the text.
 extern NSString NSBackgroundColorAttributeName;
-/// A number: points added after each character.
+/// A number: points added between characters.
 extern NSString NSKernAttributeName;
 /// A number; not 0 means a line below the text.
 extern NSString NSUnderlineStyleAttributeName;

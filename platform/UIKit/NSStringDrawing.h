@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UITextEnumerations.h"

@@ -36,7 +36,6 @@ struct UILabel : objc::Bound<UILabel, "UILabel", UIView> {
   CGFloat minimumScaleFactor() const { return call<"minimumScaleFactor", CGFloat>(); }
   void setMinimumScaleFactor(CGFloat factor) const { call<"setMinimumScaleFactor:">(factor); }
 
-  CGSize intrinsicContentSize() const { return call<"intrinsicContentSize", CGSize>(); }
   CGRect textRectForBounds(CGRect bounds, NSInteger lines) const {
     return call<"textRectForBounds:limitedToNumberOfLines:", CGRect>(bounds, lines);
   }

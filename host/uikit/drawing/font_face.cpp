@@ -12,8 +12,8 @@ constexpr const char* kMonospaced = "DejaVu Sans Mono";
 // The drawn letters stand taller and set wider than the platform's. Their x-heights agree at this
 // size, and the tracking of each weight takes away what is then left of the extra width.
 constexpr double kSansSize = 0.965;
-constexpr double kThinTracking = 0.006;
-constexpr double kLightTracking = -0.004;
+constexpr double kThinTracking = -0.008;
+constexpr double kLightTracking = -0.010;
 constexpr double kRegularTracking = -0.010;
 constexpr double kMediumTracking = -0.012;
 constexpr double kBoldTracking = -0.010;

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace host::uikit {
+
+/// Makes labels and text fields, and gives strings their drawing; views must have been made. A
+/// second call does nothing.
+void export_text();
+
+/// Names the attributes and gives strings their drawing; needs no views.
+void export_string_drawing();
+
+}  // namespace host::uikit

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/uikit/drawing/exports.h"
+#include "host/uikit/text/exports.h"
+#include "tests/support/host_test.h"
+
+namespace host::test {
+
+/// A process that can draw colours, pictures and text.
+class DrawingTest : public HostTest {
+ public:
+  DrawingTest() {
+    uikit::export_drawing();
+    uikit::export_string_drawing();
+  }
+};
+
+}  // namespace host::test
