@@ -9,9 +9,6 @@ struct UILongPressGestureRecognizer
     return objc::cast<UILongPressGestureRecognizer>(
         UIGestureRecognizer::initWithTarget(target, action));
   }
-  /// Full taps before the press.
-  NSUInteger numberOfTapsRequired() const { return call<"numberOfTapsRequired", NSUInteger>(); }
-  void setNumberOfTapsRequired(NSUInteger count) const { call<"setNumberOfTapsRequired:">(count); }
   NSUInteger numberOfTouchesRequired() const {
     return call<"numberOfTouchesRequired", NSUInteger>();
   }

@@ -1,0 +1,7 @@
+#pragma once
+
+namespace host::uikit {
+
+void export_control();
+
+}  // namespace host::uikit

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "objc/send.h"
+
+namespace host::uikit {
+
+/// Sends an action with as many arguments as its name asks for: none, the sender, or the sender and
+/// the event. A target that does not understand it gets nothing; the answer says whether it did.
+bool send_action_message(objc::Object target, objc::Sel action, objc::Object sender,
+                         objc::Object event);
+
+}  // namespace host::uikit

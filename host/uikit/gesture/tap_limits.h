@@ -1,0 +1,10 @@
+#pragma once
+
+namespace host::uikit {
+
+// The platform's limits for fingers that tap: seconds and points.
+inline constexpr double kLongestTap = 0.75;
+inline constexpr double kLongestTapInterval = 0.35;
+inline constexpr double kTapAllowableMovement = 45;
+
+}  // namespace host::uikit

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UITouch.h"
+
+namespace host::uikit {
+
+/// One finger from landing to lifting. It keeps the view that it landed on for life, and knows what
+/// that view has been told, since recognisers may hold the news back or call it off.
+class Touch : public objc::Implementation<Touch, UITouch> {
+ public:
+  explicit Touch(UITouch owner) : Implementation(owner) {}
+
+  double timestamp() const { return timestamp_; }
+  UITouchPhase phase() const { return told_phase_ ? *told_phase_ : phase_; }
+  NSUInteger tap_count() const { return tap_count_; }
+  UIWindow window() const { return window_.get(); }
+  UIView view() const { return view_.get(); }
+  NSArray gesture_recognizers() const;
+  CGPoint location_in_view(UIView view) const;
+  CGPoint previous_location_in_view(UIView view) const;
+
+  // For the input and the recognisers; points are of the screen.
+  void land(UIWindow window, UIView view, CGPoint point, double timestamp, NSUInteger tap_count);
+  void move(CGPoint point, double timestamp);
+  void lift(UITouchPhase phase, double timestamp);
+  void stand_still() { phase_ = UITouchPhaseStationary; }
+  CGPoint screen_location() const { return location_; }
+  CGPoint landing_point() const { return landing_point_; }
+  bool is_down() const { return phase_ != UITouchPhaseEnded && phase_ != UITouchPhaseCancelled; }
+
+  UITouch handle() const { return self; }
+  std::vector<objc::Ref<UIGestureRecognizer>>& recognizers() { return recognizers_; }
+  bool is_seen_by(UIGestureRecognizer recognizer) const;
+  void forget(UIGestureRecognizer recognizer);
+
+  /// Tells the view what it has not been told yet, as far as the recognisers allow.
+  void deliver(UIEvent event);
+  /// The view loses the touch: it is told so if it was told of it at all.
+  void cancel_in_view(UIEvent event);
+  /// The view is never told of this touch.
+  void keep_from_view() { delivery_ = Delivery::kOver; }
+  bool view_awaits_more() const { return delivery_ != Delivery::kOver; }
+
+ private:
+  enum class Delivery { kNothing, kBegan, kOver };
+
+  bool is_held_back(bool (*holds)(UIGestureRecognizer)) const;
+  void tell(UITouchPhase phase, UIEvent event);
+
+  objc::Ref<UIWindow> window_;
+  objc::Ref<UIView> view_;
+  std::vector<objc::Ref<UIGestureRecognizer>> recognizers_;
+  CGPoint landing_point_;
+  CGPoint location_;
+  CGPoint previous_location_;
+  double timestamp_ = 0;
+  NSUInteger tap_count_ = 1;
+  UITouchPhase phase_ = UITouchPhaseBegan;
+  const UITouchPhase* told_phase_ = nullptr;
+  Delivery delivery_ = Delivery::kNothing;
+  bool move_untold_ = false;
+};
+
+void export_touch();
+
+}  // namespace host::uikit

@@ -1,0 +1,210 @@
+#include "host/uikit/view/animation_action.h"
+
+#include <cmath>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "host/uikit/view/animation_run.h"
+#include "host/uikit/view/block_animation.h"
+#include "host/uikit/view/spring_curve.h"
+#include "host/uikit/view/view.h"
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/QuartzCore/CABasicAnimation.h"
+#include "platform/QuartzCore/CAKeyframeAnimation.h"
+#include "platform/QuartzCore/CAValue.h"
+
+namespace host::uikit {
+namespace {
+
+constexpr double kSpringSamplesPerSecond = 60;
+
+struct UIViewAnimationAction
+    : objc::Bound<UIViewAnimationAction, "_UIViewAnimationAction", NSObject> {};
+
+// Geometry adds up, so that a change in the middle of a movement bends it instead of cutting it
+// off; everything else starts anew from its old value.
+using OldValue = std::variant<CGPoint, CGRect, CATransform3D, objc::Ref<objc::Object>>;
+
+CGPoint scaled(CGPoint point, double by) {
+  return {point.x * by, point.y * by};
+}
+
+CGRect scaled(CGRect rect, double by) {
+  return {rect.origin.x * by, rect.origin.y * by, rect.size.width * by, rect.size.height * by};
+}
+
+objc::Object boxed(CGPoint point) {
+  return CAValue::valueWithCGPoint(point);
+}
+objc::Object boxed(CGRect rect) {
+  return CAValue::valueWithCGRect(rect);
+}
+
+template <class Geometry>
+CAPropertyAnimation make_offset_animation(NSString key, Geometry offset,
+                                          const BlockAnimation& asked) {
+  if (asked.spring_damping <= 0) {
+    const auto animation = CABasicAnimation::animationWithKeyPath(key);
+    animation.setFromValue(boxed(offset));
+    animation.setToValue(boxed(Geometry{}));
+    return animation;
+  }
+  const SpringCurve spring{asked.duration, asked.spring_damping, asked.spring_velocity};
+  const int count = static_cast<int>(std::ceil(asked.duration * kSpringSamplesPerSecond)) + 1;
+  std::vector<objc::Object> values;
+  for (int i = 0; i < count; ++i) {
+    const double time = asked.duration * i / (count - 1);
+    values.push_back(boxed(scaled(offset, spring.remaining(time))));
+  }
+  const auto animation = CAKeyframeAnimation::animationWithKeyPath(key);
+  animation.setValues(NSArray::arrayWithObjects(values.data(), values.size()));
+  return animation;
+}
+
+}  // namespace
+
+/// Runs once, for one change of one property, and then hears of its animation's end.
+class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnimationAction> {
+ public:
+  explicit AnimationAction(UIViewAnimationAction owner) : Implementation(owner) {}
+
+  void prepare(UIView view, OldValue old_value, const BlockAnimation& asked) {
+    view_.reset(view);
+    old_value_ = std::move(old_value);
+    asked_ = asked;
+  }
+
+  void run_action(NSString key, objc::Object object, NSDictionary) {
+    const CALayer layer = objc::cast<CALayer>(object);
+    const CAPropertyAnimation animation = make_animation(layer, key);
+    if (!animation) return;
+    time(animation);
+    animation.setDelegate(self);
+    asked_.run->animation_added();
+    if (blocks_touches()) objc::state_of<View>(view_.get()).begin_untouchable_animation();
+    layer.addAnimation(animation, animation.isAdditive() ? free_key(layer, key) : key);
+  }
+
+  void animation_did_stop(CAAnimation, BOOL finished) {
+    if (!asked_.run) return;
+    if (blocks_touches()) objc::state_of<View>(view_.get()).end_untouchable_animation();
+    const auto run = std::exchange(asked_.run, nullptr);
+    view_.reset();
+    run->animation_stopped(finished);
+  }
+
+ private:
+  bool blocks_touches() const { return !asked_.has(UIViewAnimationOptionAllowUserInteraction); }
+
+  /// nil when the property did not change.
+  CAPropertyAnimation make_animation(CALayer layer, NSString key) const {
+    CAPropertyAnimation animation;
+    if (const auto* point = std::get_if<CGPoint>(&old_value_)) {
+      const CGPoint now = layer.position();
+      if (now == *point) return nil;
+      animation = make_offset_animation(key, CGPoint{point->x - now.x, point->y - now.y}, asked_);
+    } else if (const auto* rect = std::get_if<CGRect>(&old_value_)) {
+      const CGRect now = layer.bounds();
+      if (now == *rect) return nil;
+      animation = make_offset_animation(
+          key,
+          CGRect(rect->origin.x - now.origin.x, rect->origin.y - now.origin.y,
+                 rect->size.width - now.size.width, rect->size.height - now.size.height),
+          asked_);
+    } else if (const auto* transform = std::get_if<CATransform3D>(&old_value_)) {
+      return make_transform_animation(layer, key, *transform);
+    } else {
+      return make_replacing_animation(layer, key, std::get<3>(old_value_).get());
+    }
+    animation.setAdditive(YES);
+    return animation;
+  }
+
+  CAPropertyAnimation make_transform_animation(CALayer layer, NSString key,
+                                               CATransform3D old) const {
+    const CATransform3D now = layer.transform();
+    if (now == old) return nil;
+    const auto animation = CABasicAnimation::animationWithKeyPath(key);
+    // A transform that flattens to nothing has no inverse to add to: it is animated as it is.
+    if (now.m11 * now.m22 == now.m12 * now.m21) {
+      animation.setFromValue(CAValue::valueWithCATransform3D(old));
+      animation.setToValue(CAValue::valueWithCATransform3D(now));
+      return animation;
+    }
+    const CATransform3D offset = CATransform3DConcat(old, CATransform3DInvert(now));
+    animation.setFromValue(CAValue::valueWithCATransform3D(offset));
+    animation.setToValue(CAValue::valueWithCATransform3D(CATransform3DIdentity));
+    animation.setAdditive(YES);
+    return animation;
+  }
+
+  static CAPropertyAnimation make_replacing_animation(CALayer layer, NSString key,
+                                                      objc::Object old) {
+    const objc::Object now = layer.valueForKeyPath(key);
+    if (now == old || objc::cast<NSObject>(now).isEqual(old)) return nil;
+    const auto animation = CABasicAnimation::animationWithKeyPath(key);
+    animation.setFromValue(old);
+    animation.setToValue(now);
+    return animation;
+  }
+
+  void time(CAPropertyAnimation animation) const {
+    animation.setDuration(asked_.duration);
+    animation.setTimingFunction(asked_.spring_damping > 0
+                                    ? CAMediaTimingFunction::functionWithName("linear"_ns)
+                                    : timing_function(asked_.options));
+    if (asked_.delay > 0) {
+      animation.setBeginTime(CACurrentMediaTime() + asked_.delay);
+      animation.setFillMode(kCAFillModeBackwards());
+    }
+    if (asked_.has(UIViewAnimationOptionRepeat)) animation.setRepeatCount(HUGE_VALF);
+    if (asked_.has(UIViewAnimationOptionAutoreverse)) animation.setAutoreverses(YES);
+  }
+
+  static NSString free_key(CALayer layer, NSString key) {
+    const std::string base = key.UTF8String();
+    NSString free = key;
+    for (int number = 2; layer.animationForKey(free); ++number)
+      free = NSString::stringWithUTF8String((base + "-" + std::to_string(number)).c_str());
+    return free;
+  }
+
+  objc::Ref<UIView> view_;
+  OldValue old_value_;
+  BlockAnimation asked_;
+};
+
+objc::Object make_animation_action(UIView view, CALayer layer, NSString key) {
+  const BlockAnimation* asked = current_block_animation();
+  if (!asked || asked->duration <= 0) return nil;
+  const std::string_view name = key.UTF8String();
+  OldValue old_value;
+  if (name == "position") {
+    old_value = layer.position();
+  } else if (name == "bounds") {
+    old_value = layer.bounds();
+  } else if (name == "transform") {
+    old_value = layer.transform();
+  } else if (name == "opacity" || name == "backgroundColor") {
+    const bool from_screen = asked->has(UIViewAnimationOptionBeginFromCurrentState);
+    const CALayer shown = from_screen ? layer.presentationLayer() : layer;
+    old_value = objc::Ref<objc::Object>::retain((shown ? shown : layer).valueForKeyPath(key));
+  } else {
+    return nil;
+  }
+  const auto action = UIViewAnimationAction::alloc().init().autorelease();
+  objc::state_of<AnimationAction>(action).prepare(view, std::move(old_value), *asked);
+  return action;
+}
+
+void export_animation_action() {
+  objc::ClassBuilder("_UIViewAnimationAction", "NSObject")
+      .state<AnimationAction>()
+      .method<&AnimationAction::run_action>("runActionForKey:object:arguments:")
+      .method<&AnimationAction::animation_did_stop>("animationDidStop:finished:")
+      .finish();
+}
+
+}  // namespace host::uikit

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include "objc/ref.h"
+#include "platform/UIKit/UIView.h"
+
+namespace host::uikit {
+
+class AnimationRun;
+
+/// What the innermost animation block asks of every change made inside it.
+struct BlockAnimation {
+  double duration = 0;
+  double delay = 0;
+  UIViewAnimationOptions options = 0;
+  /// 1 and above do not swing; 0 means that no spring was asked for.
+  double spring_damping = 0;
+  double spring_velocity = 0;
+  std::shared_ptr<AnimationRun> run = nullptr;
+
+  bool has(UIViewAnimationOptions option) const { return (options & option) != 0; }
+};
+
+/// The animation block that is being run, or nullptr: outside of every block, inside
+/// `performWithoutAnimation:`, or while animations are switched off.
+const BlockAnimation* current_block_animation();
+
+/// The curve that the options name: ease in and out unless they say otherwise.
+CAMediaTimingFunction timing_function(UIViewAnimationOptions options);
+
+/// Adds the class methods of block animations to the view class.
+void export_block_animation();
+
+}  // namespace host::uikit

@@ -1,0 +1,67 @@
+#include "host/uikit/view/responder.h"
+
+namespace host::uikit {
+namespace {
+
+// One screen with one keyboard: one first responder in the process, not one a window.
+UIResponder current_first_responder;
+
+}  // namespace
+
+UIResponder first_responder() {
+  return current_first_responder;
+}
+
+Responder::~Responder() {
+  if (current_first_responder == self) current_first_responder = nil;
+}
+
+BOOL Responder::is_first_responder() const {
+  return current_first_responder == self;
+}
+
+BOOL Responder::become_first_responder() {
+  if (self.isFirstResponder()) return YES;
+  if (!self.canBecomeFirstResponder()) return NO;
+  if (current_first_responder && !current_first_responder.resignFirstResponder()) return NO;
+  current_first_responder = self;
+  return YES;
+}
+
+BOOL Responder::resign_first_responder() {
+  if (current_first_responder != self) return YES;
+  if (!self.canResignFirstResponder()) return NO;
+  current_first_responder = nil;
+  return YES;
+}
+
+void Responder::touches_began(NSSet touches, UIEvent event) {
+  self.nextResponder().touchesBegan(touches, event);
+}
+void Responder::touches_moved(NSSet touches, UIEvent event) {
+  self.nextResponder().touchesMoved(touches, event);
+}
+void Responder::touches_ended(NSSet touches, UIEvent event) {
+  self.nextResponder().touchesEnded(touches, event);
+}
+void Responder::touches_cancelled(NSSet touches, UIEvent event) {
+  self.nextResponder().touchesCancelled(touches, event);
+}
+
+void export_responder() {
+  objc::ClassBuilder("UIResponder", "NSObject")
+      .state<Responder>()
+      .method<&Responder::next_responder>("nextResponder")
+      .method<&Responder::can_become_first_responder>("canBecomeFirstResponder")
+      .method<&Responder::become_first_responder>("becomeFirstResponder")
+      .method<&Responder::can_resign_first_responder>("canResignFirstResponder")
+      .method<&Responder::resign_first_responder>("resignFirstResponder")
+      .method<&Responder::is_first_responder>("isFirstResponder")
+      .method<&Responder::touches_began>("touchesBegan:withEvent:")
+      .method<&Responder::touches_moved>("touchesMoved:withEvent:")
+      .method<&Responder::touches_ended>("touchesEnded:withEvent:")
+      .method<&Responder::touches_cancelled>("touchesCancelled:withEvent:")
+      .finish();
+}
+
+}  // namespace host::uikit

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <vector>
+
+#include "host/uikit/view/view.h"
+
+namespace host::uikit {
+
+/// Owns a view, made when it is first asked for, and shows others over it.
+class ViewController : public objc::Implementation<ViewController, UIViewController> {
+ public:
+  explicit ViewController(UIViewController owner) : Implementation(owner) {}
+  ~ViewController();
+
+  UIView view();
+  void set_view(UIView view);
+  BOOL is_view_loaded() const { return static_cast<bool>(view_); }
+  void load_view();
+  void view_did_load() {}
+  void view_will_appear(BOOL) {}
+  void view_did_appear(BOOL) {}
+  void view_will_disappear(BOOL) {}
+  void view_did_disappear(BOOL) {}
+  void view_will_layout_subviews() {}
+  void view_did_layout_subviews() {}
+  UIResponder next_responder();
+  NSString title() const { return title_.get(); }
+  void set_title(NSString title) { title_.reset(title); }
+  BOOL should_autorotate() { return YES; }
+  NSUInteger supported_interface_orientations();
+
+  UIViewController parent() const { return parent_; }
+  NSArray children() const;
+  void add_child(UIViewController child);
+  void remove_from_parent();
+  void will_move_to_parent(UIViewController) {}
+  void did_move_to_parent(UIViewController) {}
+
+  UIModalPresentationStyle modal_presentation_style() const { return presentation_style_; }
+  void set_modal_presentation_style(UIModalPresentationStyle style) { presentation_style_ = style; }
+  UIViewController presented() const { return presented_.get(); }
+  UIViewController presenting() const { return presenting_; }
+  void present(UIViewController controller, BOOL animated, objc::Block<void()> completion);
+  void dismiss(BOOL animated, objc::Block<void()> completion);
+  void present_modal(UIViewController controller, BOOL animated);
+  void dismiss_modal(BOOL animated);
+
+ private:
+  objc::Ref<UIView> view_;
+  objc::Ref<NSString> title_;
+  std::vector<objc::Ref<UIViewController>> children_;
+  UIViewController parent_;
+  objc::Ref<UIViewController> presented_;
+  UIViewController presenting_;
+  UIModalPresentationStyle presentation_style_ = UIModalPresentationFullScreen;
+};
+
+void export_view_controller();
+
+}  // namespace host::uikit

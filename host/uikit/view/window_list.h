@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::uikit {
+
+/// The windows that are shown, back to front: by level, and within a level in the order in which
+/// they were shown. The compositor's roots are their layers.
+std::vector<UIWindow> visible_windows();
+UIWindow key_window();
+
+/// For windows alone.
+void show_in_list(UIWindow window);
+void remove_from_list(UIWindow window);
+void set_key_window(UIWindow window);
+
+}  // namespace host::uikit
