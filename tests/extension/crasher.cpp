@@ -1,0 +1,11 @@
+// A library that brings down every process that loads it.
+
+#include <cstdlib>
+
+namespace {
+
+[[gnu::constructor]] void load() {
+  std::abort();
+}
+
+}  // namespace

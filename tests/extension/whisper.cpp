@@ -1,0 +1,27 @@
+// A second extension, of another shape than ours: it replaces a method of Foundation's strings and
+// keeps no state but the implementation before.
+
+#include "objc/send.h"
+#include "platform/Foundation/NSString.h"
+
+extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
+                                objc::Imp* original);
+
+namespace {
+
+objc::Imp original = nullptr;
+
+objc::Id whispered_uppercase(objc::Id self, objc::Sel selector) {
+  using Body = objc::Id (*)(objc::Id, objc::Sel);
+  const auto loud = objc::wrap<NSString>(reinterpret_cast<Body>(original)(self, selector));
+  return loud.stringByAppendingString(" (whispered)"_ns).id();
+}
+
+[[gnu::constructor]] void load() {
+  // The constant strings' class is where such a message arrives.
+  const objc::Class strings = objc::class_of("text"_ns.id());
+  MSHookMessageEx(strings, "uppercaseString"_sel, reinterpret_cast<objc::Imp>(&whispered_uppercase),
+                  &original);
+}
+
+}  // namespace
