@@ -2,8 +2,8 @@
 
 namespace host::uikit {
 
-/// Makes labels and text fields, and gives strings their drawing; views must have been made. A
-/// second call does nothing.
+/// Makes labels, text fields and backdrops, and gives strings their drawing; views must have been
+/// made. A second call does nothing.
 void export_text();
 
 /// Names the attributes and gives strings their drawing; needs no views.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace host::uikit {
 namespace {
@@ -72,6 +73,18 @@ void add_color(AttributeList& list, const TextRun& run) {
   list.add(pango_attr_background_alpha_new(channel(behind.alpha)), run);
 }
 
+// The platform's digits are all of one width, so that a clock does not jitter. Only the digits are
+// asked for it: the font would set a colon as wide as them, too.
+void add_tabular_digits(AttributeList& list, std::string_view bytes, const TextRun& run) {
+  constexpr std::string_view kDigits = "0123456789";
+  std::size_t begin = bytes.find_first_of(kDigits, run.begin);
+  while (begin < run.end) {
+    const std::size_t end = std::min(bytes.find_first_not_of(kDigits, begin), run.end);
+    list.add(pango_attr_font_features_new("tnum=1"), {begin, end, {}});
+    begin = bytes.find_first_of(kDigits, end);
+  }
+}
+
 void add_style(AttributeList& list, const TextRun& run) {
   const TextStyle& style = run.style;
   PangoFontDescription* font = describe(style);
@@ -80,8 +93,6 @@ void add_style(AttributeList& list, const TextRun& run) {
   const double spacing = style.kern + style.face.tracking * style.size;
   if (spacing != 0) list.add(pango_attr_letter_spacing_new(pango_units(spacing)), run);
   if (style.underline) list.add(pango_attr_underline_new(PANGO_UNDERLINE_SINGLE), run);
-  // The platform's digits are all of one width; a clock must not jitter.
-  list.add(pango_attr_font_features_new("tnum=1"), run);
   add_color(list, run);
 }
 
@@ -95,8 +106,10 @@ LayoutPointer make_pango_layout(const StyledText& text) {
   LayoutPointer layout(pango_layout_new(shared_context()));
   pango_layout_set_text(layout.get(), text.bytes.data(), static_cast<int>(text.bytes.size()));
   AttributeList attributes;
-  for (const TextRun& run : text.runs)
+  for (const TextRun& run : text.runs) {
     add_style(attributes, run);
+    add_tabular_digits(attributes, text.bytes, run);
+  }
   pango_layout_set_attributes(layout.get(), attributes.get());
   if (!text.runs.empty()) {
     // Lines without a character, and ellipses, take the first style.
