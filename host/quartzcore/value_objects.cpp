@@ -1,6 +1,4 @@
-#include <algorithm>
 #include <cstring>
-#include <string_view>
 
 #include "host/quartzcore/value.h"
 #include "host/quartzcore/value_categories.h"
@@ -12,36 +10,65 @@
 namespace host::quartzcore {
 namespace {
 
+struct CAGeometryValue : objc::Bound<CAGeometryValue, "CAGeometryValue", NSValue> {};
+
+/// The desktop's Foundation loses half of a point that is boxed by its bytes, so geometry has a
+/// class of values of its own.
+class GeometryValue : public objc::Implementation<GeometryValue, CAGeometryValue> {
+ public:
+  explicit GeometryValue(CAGeometryValue owner) : Implementation(owner) {}
+
+  Value value;
+
+  const char* type() const {
+    return visit([](const auto& held) { return encoding_of(held); });
+  }
+  void get_value(void* place) const {
+    visit([place](const auto& held) {
+      std::memcpy(place, &held, sizeof held);
+      return nullptr;
+    });
+  }
+  BOOL is_equal(objc::Object other) const {
+    return other && objc::cast<NSObject>(other).isKindOfClass(CAGeometryValue::cls()) &&
+           objc::state_of<GeometryValue>(other).value == value;
+  }
+  NSUInteger hash() const { return value.index(); }
+  // It never changes: a copy may be the same object.
+  objc::Object copy_with_zone(void*) const { return self.retain(); }
+
+ private:
+  template <class T>
+  static const char* encoding_of(const T&) {
+    return objc::Encode<T>::text.c_str();
+  }
+  template <class Visitor>
+  const char* visit(Visitor visitor) const {
+    if (const auto* point = std::get_if<CGPoint>(&value)) return visitor(*point);
+    if (const auto* size = std::get_if<CGSize>(&value)) return visitor(*size);
+    if (const auto* rect = std::get_if<CGRect>(&value)) return visitor(*rect);
+    return visitor(std::get<CATransform3D>(value));
+  }
+};
+
 template <class T>
-objc::Object boxed(objc::Object cls, T value) {
-  return objc::send<objc::Object>(cls, "valueWithBytes:objCType:"_sel,
-                                  static_cast<const void*>(&value), objc::Encode<T>::text.c_str());
+objc::Object boxed(objc::Object, T value) {
+  const auto made = CAGeometryValue::alloc().init();
+  objc::state_of<GeometryValue>(made).value = value;
+  return made.autorelease();
 }
 
-/// Reads what the value holds when it is as large as a `T`, and zero otherwise.
+/// Reads a value that this host boxed; zero for another kind.
 template <class T>
 T unboxed(NSValue value) {
-  T result{};
-  const std::string_view type = objc::send<const char*>(value, "objCType"_sel);
-  if (std::count(type.begin(), type.end(), 'd') * sizeof(double) == sizeof(T))
-    objc::send<>(value, "getValue:"_sel, static_cast<void*>(&result));
-  return result;
+  if (!value.isKindOfClass(CAGeometryValue::cls())) return T{};
+  const T* held = std::get_if<T>(&objc::state_of<GeometryValue>(value).value);
+  return held ? *held : T{};
 }
 
 std::optional<Value> from_geometry(NSValue value) {
-  const std::string_view type = objc::send<const char*>(value, "objCType"_sel);
-  switch (std::count(type.begin(), type.end(), 'd')) {
-    case 2:
-      return unboxed<CGPoint>(value);
-    case 4:
-      return unboxed<CGRect>(value);
-    case 6:
-      return CATransform3DMakeAffineTransform(unboxed<CGAffineTransform>(value));
-    case 16:
-      return unboxed<CATransform3D>(value);
-    default:
-      return std::nullopt;
-  }
+  if (!value.isKindOfClass(CAGeometryValue::cls())) return std::nullopt;
+  return objc::state_of<GeometryValue>(value).value;
 }
 
 std::optional<Value> from_array(NSArray array) {
@@ -73,9 +100,8 @@ std::optional<Value> value_from_object(objc::Object object) {
 }
 
 objc::Object object_from_value(const Value& value) {
-  const objc::Object cls{NSValue::cls()};
   return std::visit(
-      [cls](const auto& held) -> objc::Object {
+      [](const auto& held) -> objc::Object {
         using Held = std::remove_cvref_t<decltype(held)>;
         if constexpr (std::is_same_v<Held, std::monostate>) {
           return nil;
@@ -86,13 +112,22 @@ objc::Object object_from_value(const Value& value) {
         } else if constexpr (std::is_same_v<Held, std::vector<double>>) {
           return array_of(held);
         } else {
-          return boxed(cls, held);
+          return boxed(objc::Object(), held);
         }
       },
       value);
 }
 
 void export_value_categories() {
+  objc::ClassBuilder("CAGeometryValue", "NSValue")
+      .state<GeometryValue>()
+      .method<&GeometryValue::type>("objCType")
+      .method<&GeometryValue::get_value>("getValue:")
+      .method<&GeometryValue::is_equal>("isEqual:")
+      .method<&GeometryValue::is_equal>("isEqualToValue:")
+      .method<&GeometryValue::hash>("hash")
+      .method<&GeometryValue::copy_with_zone>("copyWithZone:")
+      .finish();
   const objc::Class cls = NSValue::cls();
   const objc::Class meta = objc::class_of(reinterpret_cast<objc::Id>(cls));
   objc::add_method<&boxed<CGPoint>>(meta, "valueWithCGPoint:");
