@@ -1,0 +1,102 @@
+#include "host/launcher/home_screen/console_phone.h"
+
+#include <fmt/format.h>
+
+#include "host/springboard/system_actions.h"
+#include "host/uikit/view/screen_space.h"
+#include "platform/UIKit/UIView.h"
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::launcher {
+namespace {
+
+using console::Refusal;
+using console::SystemEvent;
+
+// One finger belongs to the console; the window's have other numbers.
+constexpr int kConsoleFinger = 1000;
+
+Refusal done_unless(bool done, std::string_view reason) {
+  if (done) return std::nullopt;
+  return std::string(reason);
+}
+
+/// Those events that move or open an application.
+Refusal application_event(SystemEvent event, std::string_view bundle) {
+  using namespace springboard;
+  switch (event) {
+    case SystemEvent::Open:
+      return done_unless(open(bundle), "this application cannot be opened");
+    case SystemEvent::FolderIn:
+      return done_unless(move_to_folder(bundle), "this application cannot go into a folder");
+    case SystemEvent::FolderOut:
+      return done_unless(move_out_of_folder(bundle), "this application is in no folder");
+    case SystemEvent::DockIn:
+      return done_unless(move_to_dock(bundle), "this application cannot go into the dock");
+    case SystemEvent::DockOut:
+      return done_unless(move_out_of_dock(bundle), "this application is not in the dock");
+    default:
+      return done_unless(uninstall(bundle), "this application is not installed");
+  }
+}
+
+}  // namespace
+
+void ConsolePhone::touch(console::TouchPhase phase, CGPoint point) {
+  hands_.touch(kConsoleFinger, phase, point);
+}
+
+std::optional<CGPoint> ConsolePhone::centre_of(objc::Object object) {
+  if (!objc::cast<NSObject>(object).isKindOfClass(UIView::cls())) return std::nullopt;
+  const auto view = objc::cast<UIView>(object);
+  const bool is_window = view.isKindOfClass(UIWindow::cls());
+  if (!is_window && !view.window()) return std::nullopt;
+  return uikit::to_screen(view, view.bounds().centre());
+}
+
+Refusal ConsolePhone::system(SystemEvent event, std::string_view detail) {
+  switch (event) {
+    case SystemEvent::Banner:
+      springboard::present_banner(detail);
+      return std::nullopt;
+    case SystemEvent::NotificationCentre:
+      springboard::present_notification_centre();
+      return std::nullopt;
+    case SystemEvent::ControlCentre:
+      springboard::present_control_centre();
+      return std::nullopt;
+    case SystemEvent::Reachability:
+      return done_unless(springboard::toggle_reachability(), "this device has no reachability");
+    case SystemEvent::Lock:
+      springboard::lock();
+      return std::nullopt;
+    case SystemEvent::Unlock:
+      springboard::unlock();
+      return std::nullopt;
+    case SystemEvent::EditOn:
+      springboard::set_editing(true);
+      return std::nullopt;
+    case SystemEvent::EditOff:
+      springboard::set_editing(false);
+      return std::nullopt;
+    default:
+      return application_event(event, detail);
+  }
+}
+
+Refusal ConsolePhone::gesture(std::string_view) {
+  return "the gesture service is not available yet";
+}
+
+Refusal ConsolePhone::screenshot(const std::string& file) {
+  std::error_code error;
+  std::filesystem::create_directories(parts_.screenshots, error);
+  if (error) return fmt::format("{}: {}", parts_.screenshots.string(), error.message());
+  return parts_.screenshot(parts_.screenshots / file);
+}
+
+Refusal ConsolePhone::talk_to(std::string_view process) {
+  return done_unless(process == "SpringBoard", fmt::format("{} is not running", process));
+}
+
+}  // namespace host::launcher

@@ -1,0 +1,138 @@
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "host/console/globals.h"
+#include "host/foundation/device_paths.h"
+#include "host/foundation/loader.h"
+#include "host/launcher/home_screen/console_phone.h"
+#include "host/launcher/home_screen/console_service.h"
+#include "host/launcher/home_screen/passing_time.h"
+#include "host/launcher/home_screen/phone_screen.h"
+#include "host/launcher/home_screen/platform_classes.h"
+#include "host/launcher/home_screen/process_options.h"
+#include "host/launcher/home_screen/window_input.h"
+#include "host/launcher/home_screen/window_service.h"
+#include "host/launcher/supervisor.h"
+#include "host/quartzcore/layer_service.h"
+#include "host/runtime/device_model.h"
+#include "host/runtime/log.h"
+#include "host/springboard/configuration.h"
+#include "host/uikit/application/application.h"
+#include "objc/autorelease_pool.h"
+
+namespace {
+
+using namespace host;
+using launcher::ProcessOptions;
+
+constexpr const char* kProcessName = "SpringBoard";
+constexpr const char* kBundleIdentifier = "com.apple.springboard";
+
+/// The process's clock, whose time somebody makes: the machine or the console.
+class ProcessClock {
+ public:
+  explicit ProcessClock(bool stepped) {
+    if (stepped) stepped_.emplace();
+  }
+  Clock& clock() { return stepped_ ? static_cast<Clock&>(*stepped_) : real_; }
+  void advance(RunLoop& loop, double seconds) {
+    if (stepped_) {
+      loop.advance_to(*stepped_, stepped_->now() + seconds);
+    } else {
+      launcher::let_time_pass(loop, seconds);
+    }
+  }
+
+ private:
+  RealClock real_;
+  std::optional<SteppedClock> stepped_;
+};
+
+/// Pictures of a phone whose clock is stepped have to be the same tomorrow.
+const springboard::WallClock& wall_clock(bool stepped) {
+  static const springboard::FixedWallClock fixed;
+  static const springboard::SystemWallClock system;
+  if (stepped) return fixed;
+  return system;
+}
+
+void launch(const ProcessOptions& options) {
+  launcher::export_platform_classes();
+  springboard::Configuration configuration;
+  configuration.wall_clock = &wall_clock(options.stepped);
+  springboard::configure(configuration);
+  foundation::load_libraries(kBundleIdentifier, kProcessName);
+  uikit::launch_application(kProcessName);
+}
+
+console::Globals shared_globals() {
+  console::Globals globals;
+  for (const auto& library : foundation::loaded_libraries()) {
+    const void* table = dlsym(library.handle, console::Globals::kTableSymbol);
+    globals.add_table(static_cast<const console::ExportedGlobal*>(table));
+  }
+  return globals;
+}
+
+/// The window where there is one, otherwise a screen that nobody sees.
+struct Display {
+  std::unique_ptr<screen::Screen> screen;
+  std::unique_ptr<launcher::WindowService> service;
+};
+
+std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
+                                    screen::Input& input) {
+  if (options.headless) return Display{std::make_unique<screen::Headless>(), nullptr};
+  const DeviceModel& device = current_device();
+  std::string problem;
+  auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
+  if (!window) {
+    spdlog::error("no window can be opened: {}", problem);
+    return std::nullopt;
+  }
+  auto service = std::make_unique<launcher::WindowService>(loop, *window);
+  return Display{std::move(window), std::move(service)};
+}
+
+int run(const ProcessOptions& options) {
+  ProcessClock clock(options.stepped);
+  RunLoop loop(clock.clock());
+  RunLoop::set_main(&loop);
+  foundation::set_device_root(options.root);
+  set_current_device(*device_model(options.device));
+
+  const auto pool = std::make_unique<objc::AutoreleasePool>();
+  const quartzcore::LayerService layers(loop);
+  launcher::Hands hands(loop);
+  launcher::WindowInput input(hands, [&loop] { loop.stop(); });
+  auto display = open_display(options, loop, input);
+  if (!display) return launcher::kCannotStart;
+  launch(options);
+  launcher::PhoneScreen phone_screen(loop, *display->screen);
+
+  launcher::ConsolePhone phone(
+      hands,
+      {[&](double seconds) { clock.advance(loop, seconds); },
+       [&](const std::string& file) { return phone_screen.write(file); }, options.screenshots});
+  const console::Globals globals = shared_globals();
+  console::Session session(phone, globals);
+  std::optional<launcher::ConsoleService> service;
+  if (options.console_descriptor >= 0)
+    service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
+  loop.run();
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  start_log(kProcessName);
+  const auto options = launcher::read_process_options(count, arguments);
+  if (!options) {
+    std::fputs("SpringBoard is started by sonavue.\n", stderr);
+    return launcher::kCannotStart;
+  }
+  return run(*options);
+}

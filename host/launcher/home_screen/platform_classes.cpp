@@ -1,0 +1,23 @@
+#include "host/launcher/home_screen/platform_classes.h"
+
+#include "host/foundation/exports.h"
+#include "host/quartzcore/exports.h"
+#include "host/springboard/exports.h"
+#include "host/uikit/drawing/exports.h"
+#include "host/uikit/scroll/exports.h"
+#include "host/uikit/text/exports.h"
+#include "host/uikit/view/exports.h"
+
+namespace host::launcher {
+
+void export_platform_classes() {
+  foundation::export_foundation();
+  quartzcore::export_quartzcore();
+  uikit::export_drawing();
+  uikit::export_views();
+  uikit::export_text();
+  uikit::export_scroll();
+  springboard::export_springboard();
+}
+
+}  // namespace host::launcher
