@@ -23,7 +23,7 @@ constexpr Glyph template_glyphs[] = {
     {"search", 15, 15}, {"grab_dragging", 40, 15}, {"grab_done", 40, 15}};
 
 std::optional<Picture> extension_picture(const std::string& name) {
-  return rendered_picture("staging-pictures/" + name + ".png");
+  return rendered_picture("staging/Library/Application Support/Sonavue/" + name + ".png");
 }
 
 std::string scale_suffix(int scale) {

@@ -8,16 +8,16 @@ function(sonavue_picture list)
   cmake_path(ABSOLUTE_PATH ARG_SOURCE BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
   cmake_path(GET ARG_OUTPUT PARENT_PATH folder)
   cmake_path(GET ARG_OUTPUT FILENAME file_name)
-  file(MAKE_DIRECTORY ${folder})
+  file(MAKE_DIRECTORY "${folder}")
   list(GET ARG_SIZE 0 width)
   list(GET ARG_SIZE 1 height)
   add_custom_command(
-    OUTPUT ${ARG_OUTPUT}
-    COMMAND ${SONAVUE_RSVG_CONVERT} --width=${width} --height=${height} --output=${ARG_OUTPUT}
+    OUTPUT "${ARG_OUTPUT}"
+    COMMAND ${SONAVUE_RSVG_CONVERT} --width=${width} --height=${height} "--output=${ARG_OUTPUT}"
             ${ARG_SOURCE}
     DEPENDS ${ARG_SOURCE}
     COMMENT "Drawing ${file_name}" VERBATIM)
-  set(${list} ${${list}} ${ARG_OUTPUT} PARENT_SCOPE)
+  set(${list} ${${list}} "${ARG_OUTPUT}" PARENT_SCOPE)
 endfunction()
 
 # sonavue_scaled_picture(outputs SOURCE play.svg FOLDER dir SIZE 50 50) renders Play.png, Play@2x.png
@@ -34,7 +34,7 @@ function(sonavue_scaled_picture list)
     endif()
     math(EXPR scaled_width "${width} * ${scale}")
     math(EXPR scaled_height "${height} * ${scale}")
-    sonavue_picture(${list} SOURCE ${ARG_SOURCE} OUTPUT ${ARG_FOLDER}/${name}${suffix}.png
+    sonavue_picture(${list} SOURCE ${ARG_SOURCE} OUTPUT "${ARG_FOLDER}/${name}${suffix}.png"
                     SIZE ${scaled_width} ${scaled_height})
   endforeach()
   set(${list} ${${list}} PARENT_SCOPE)
