@@ -141,6 +141,8 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
   /// Counts the offsets that were asked for with `setContentOffset:animated:`.
   unsigned settings_ = 0;
   bool moving_by_motion_ = false;
+  /// The finger that is down has landed on moving content.
+  bool caught_ = false;
 
   BOOL paging_ = NO;
   BOOL scroll_enabled_ = YES;

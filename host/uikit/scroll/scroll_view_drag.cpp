@@ -46,7 +46,7 @@ BOOL ScrollView::touches_should_cancel_in(UIView view) {
 
 BOOL ScrollView::gesture_recognizer_should_begin(UIGestureRecognizer recognizer) {
   if (recognizer != pan_.get()) return super<BOOL>("gestureRecognizerShouldBegin:"_sel, recognizer);
-  if (motion_.runs()) return YES;
+  if (caught_) return YES;
   const Axes axes = draggable_axes();
   if (!axes.horizontal && !axes.vertical) return NO;
   const bool delivered =
@@ -66,13 +66,14 @@ ScrollView::Caught ScrollView::finger_down(UIView touched) {
   tracking_ = YES;
   touched_ = touched;
   touch_time_ = RunLoop::main().now();
-  if (!motion_.runs()) return Caught::Still;
+  caught_ = motion_.runs();
   stop_motion();
-  return Caught::Moving;
+  return caught_ ? Caught::Moving : Caught::Still;
 }
 
 void ScrollView::finger_gone() {
   tracking_ = NO;
+  caught_ = false;
   touched_ = nil;
 }
 
