@@ -62,11 +62,12 @@ void load(const std::filesystem::path& file, const std::string& name) {
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
                                           std::string_view executable) {
   objc::AutoreleasePool pool;
+  const std::size_t before = loaded.size();
   for (const auto& file : library_files()) {
     const std::string name = file.stem().string();
     if (is_wanted(name, bundle_identifier, executable)) load(file, name);
   }
-  return loaded;
+  return {loaded.begin() + static_cast<std::ptrdiff_t>(before), loaded.end()};
 }
 
 const std::vector<LoadedLibrary>& loaded_libraries() {

@@ -16,11 +16,11 @@ struct LoadedLibrary {
 /// (identifiers), `Executables` (process names) or `Classes` (names that exist here); every kind
 /// that is given must match. A library without a list is left out, and so is one that brought down
 /// the process while being loaded five times, until its file changes. Each omission is one line in
-/// the log; the process always goes on.
+/// the log; the process always goes on. Returns those that this call has loaded.
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
                                           std::string_view executable);
 
-/// Those that `load_libraries` has loaded into this process so far.
+/// All that were loaded into this process so far.
 const std::vector<LoadedLibrary>& loaded_libraries();
 
 }  // namespace host::foundation
