@@ -3,7 +3,6 @@
 namespace objc {
 namespace {
 
-constexpr const char* kStorageName = "state";
 constexpr unsigned char kPointerAlignment = 3;
 
 }  // namespace
@@ -27,11 +26,12 @@ Class ClassBuilder::finish() {
 }
 
 void ClassBuilder::add_storage(std::size_t size) {
-  class_addIvar(cls_, kStorageName, size, kPointerAlignment, "?");
+  // The runtime refuses a name that a superclass uses, and each has storage of its own.
+  if (!class_addIvar(cls_, class_getName(cls_), size, kPointerAlignment, "?")) __builtin_trap();
 }
 
 std::ptrdiff_t ClassBuilder::storage_offset(Class cls) {
-  return ivar_getOffset(class_getInstanceVariable(cls, kStorageName));
+  return ivar_getOffset(class_getInstanceVariable(cls, class_getName(cls)));
 }
 
 }  // namespace objc

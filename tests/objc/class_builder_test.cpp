@@ -17,7 +17,10 @@ struct TestAnimal : objc::Bound<TestAnimal, "TestAnimal", NSObject> {
   void setLegs(int legs) const { call<"setLegs:">(legs); }
   int sound(int volume) const { return call<"sound:", int>(volume); }
 };
-struct TestDog : objc::Bound<TestDog, "TestDog", TestAnimal> {};
+struct TestDog : objc::Bound<TestDog, "TestDog", TestAnimal> {
+  int tricks() const { return call<"tricks", int>(); }
+  void setTricks(int tricks) const { call<"setTricks:">(tricks); }
+};
 
 class Animal : public objc::Implementation<Animal, TestAnimal> {
  public:
@@ -36,6 +39,11 @@ class Dog : public objc::Implementation<Dog, TestDog> {
   explicit Dog(TestDog owner) : Implementation(owner) { events.push_back("dog made"); }
   ~Dog() { events.push_back("dog gone"); }
   int sound(int volume) { return super<int>("sound:"_sel, volume) + 100; }
+  int tricks() const { return tricks_; }
+  void set_tricks(int tricks) { tricks_ = tricks; }
+
+ private:
+  int tricks_ = 1;
 };
 
 int sound_twice_as_loud(objc::Object self, int volume) {
@@ -57,6 +65,8 @@ void make_classes() {
   objc::ClassBuilder("TestDog", "TestAnimal")
       .state<Dog>()
       .method<&Dog::sound>("sound:")
+      .method<&Dog::tricks>("tricks")
+      .method<&Dog::set_tricks>("setTricks:")
       .class_method<&make_default_dog>("defaultDog")
       .finish();
 }
@@ -80,6 +90,16 @@ TEST(ClassBuilder, EachObjectHasItsOwnState) {
   EXPECT_EQ(second.legs(), 4);
   first.release();
   second.release();
+}
+
+TEST(ClassBuilder, TheStatesOfAClassAndItsBaseStandApart) {
+  make_classes();
+  TestDog dog = TestDog::alloc().init();
+  dog.setTricks(70);
+  EXPECT_EQ(dog.legs(), 4);
+  dog.setLegs(3);
+  EXPECT_EQ(dog.tricks(), 70);
+  dog.release();
 }
 
 TEST(ClassBuilder, SuperSendReachesTheBaseImplementation) {
