@@ -1,5 +1,5 @@
-#include "platform/UIKit/UIPageControl.h"
 #include "objc/class_builder.h"
+#include "platform/UIKit/UIPageControl.h"
 #include "tests/host/uikit_scroll/scroll_test.h"
 
 namespace {
