@@ -1,0 +1,219 @@
+#include <algorithm>
+
+#include "host/springboard/system_actions.h"
+#include "platform/SpringBoard/SBApplicationController.h"
+#include "platform/SpringBoard/SBDockIconListView.h"
+#include "platform/SpringBoard/SBFolderIconListView.h"
+#include "platform/SpringBoard/SBIconViewMap.h"
+#include "platform/SpringBoard/SBUIController.h"
+#include "platform/UIKit/UIApplication.h"
+#include "platform/UIKit/UIWindow.h"
+#include "tests/host/springboard/phone_fixture.h"
+
+namespace host::springboard {
+namespace {
+
+using namespace test;
+
+class HomeScreenTest : public PhoneTest {};
+class SmallHomeScreenTest : public PhoneTest {
+ public:
+  SmallHomeScreenTest() : PhoneTest("iPhone4,1") {}
+};
+class TabletHomeScreenTest : public PhoneTest {
+ public:
+  TabletHomeScreenTest() : PhoneTest("iPad4,1") {}
+};
+
+std::string class_of(NSObject object) {
+  return object.className().UTF8String();
+}
+
+TEST_F(HomeScreenTest, APageIconsXIsTheScreensAndItsYIsTwentyLess) {
+  launch();
+  const SBIconView music = icon_view(kMusic);
+  ASSERT_TRUE(music);
+  EXPECT_EQ(class_of(music.superview()), "SBIconListView");
+  const CGPoint origin = music.convertPointToView({0, 0}, nil);
+  EXPECT_EQ(origin.x, music.frame().origin.x);
+  EXPECT_EQ(origin.y, music.frame().origin.y + 20);
+  EXPECT_FALSE(music.isInDock());
+}
+
+TEST_F(HomeScreenTest, ADockIconsYCountsFromTheDocksTopAtTheScreensBottom) {
+  launch();
+  const SBIconView phone = icon_view(kPhone);
+  EXPECT_EQ(class_of(phone.superview()), "SBDockIconListView");
+  const CGFloat offset = 667 - phone.superview().frame().size.height;
+  const CGPoint origin = phone.convertPointToView({0, 0}, nil);
+  EXPECT_EQ(origin.x, phone.frame().origin.x);
+  EXPECT_EQ(origin.y, phone.frame().origin.y + offset);
+  EXPECT_TRUE(phone.isInDock());
+}
+
+TEST_F(SmallHomeScreenTest, TheSmallScreenHoldsFourRowsWithMusicInTheLast) {
+  launch();
+  const SBIconView music = icon_view(kMusic);
+  EXPECT_EQ(music.frame().origin, (CGPoint{16, 7 + 3 * 88}));
+}
+
+TEST_F(TabletHomeScreenTest, TheTabletsIconsAre76PointsWide) {
+  launch();
+  EXPECT_EQ(icon_view(kMusic).frame().size.width, 76);
+  const CGPoint origin = icon_view(kPhone).convertPointToView({0, 0}, nil);
+  const CGFloat offset = 1024 - icon_view(kPhone).superview().frame().size.height;
+  EXPECT_EQ(origin.y, icon_view(kPhone).frame().origin.y + offset);
+}
+
+TEST_F(HomeScreenTest, AnIconTellsItsApplication) {
+  launch();
+  const SBIcon music = icon(kMusic);
+  EXPECT_STREQ(music.application().bundleIdentifier().UTF8String(), kMusic);
+  EXPECT_STREQ(music.applicationBundleID().UTF8String(), kMusic);
+  EXPECT_STREQ(music.displayName().UTF8String(), "Music");
+  const UIImage image = music.generateIconImage(SBIconImageFormatHomeScreen);
+  EXPECT_EQ(image.size(), (CGSize{60, 60}));
+  EXPECT_EQ(image.scale(), 2);
+}
+
+TEST_F(HomeScreenTest, WithoutTheApplicationThereIsNoIcon) {
+  remove_application("Music");
+  launch();
+  EXPECT_FALSE(SBApplicationController::sharedInstance().applicationWithBundleIdentifier(
+      "com.apple.Music"_ns));
+  EXPECT_FALSE(icon(kMusic));
+  EXPECT_FALSE(icon_view(kMusic));
+}
+
+TEST_F(HomeScreenTest, AnIconWithoutAPictureHasItsInitial) {
+  std::filesystem::path folder = device / "Applications" / "Music.app";
+  for (const auto& file : std::filesystem::directory_iterator(folder)) {
+    if (file.path().extension() == ".png") std::filesystem::remove(file.path());
+  }
+  launch();
+  EXPECT_EQ(icon(kMusic).generateIconImage(SBIconImageFormatHomeScreen).size(), (CGSize{60, 60}));
+}
+
+TEST_F(HomeScreenTest, ATapZoomsTheApplicationsScreenOutOfItsIconAndHomeZoomsItBack) {
+  launch();
+  const UIWindow window = SBUIController::sharedInstance().window();
+  const NSUInteger views = window.subviews().count();
+  tap(on_screen(kMusic));
+  settle();
+  ASSERT_EQ(window.subviews().count(), views + 1);
+  const UIView screen = objc::cast<UIView>(window.subviews().lastObject());
+  EXPECT_EQ(screen.frame(), (CGRect{0, 0, 375, 667}));
+  EXPECT_EQ(screen.alpha(), 1);
+
+  EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
+  settle();
+  EXPECT_EQ(window.subviews().count(), views);
+}
+
+TEST_F(HomeScreenTest, WithoutItsRecognizersAnIconNeitherLaunchesNorEdits) {
+  launch();
+  const UIWindow window = SBUIController::sharedInstance().window();
+  const NSUInteger views = window.subviews().count();
+  const SBIconView music = icon_view(kMusic);
+  EXPECT_EQ(music.gestureRecognizers().count(), 2u);
+  music.setGestureRecognizers(NSArray::array());
+  tap(on_screen(kMusic));
+  settle();
+  EXPECT_EQ(window.subviews().count(), views);
+  press(on_screen(kMusic));
+  advance(1);
+  lift();
+  EXPECT_FALSE(SBIconController::sharedInstance().isEditing());
+}
+
+TEST_F(HomeScreenTest, AFingerDarkensTheIconUntilItLeaves) {
+  launch();
+  press(on_screen(kCalendar));
+  EXPECT_TRUE(icon_view(kCalendar).isHighlighted());
+  lift();
+  EXPECT_FALSE(icon_view(kCalendar).isHighlighted());
+  settle();
+}
+
+TEST_F(HomeScreenTest, ASwipeTurnsThePageAndLetsTheIconGo) {
+  launch();
+  ASSERT_EQ(SBIconController::sharedInstance().currentIconListIndex(), 0);
+  drag({330, 200}, {60, 200}, 0.2);
+  EXPECT_FALSE(icon_view(kPhotos).isHighlighted());
+  lift();
+  settle();
+  EXPECT_EQ(SBIconController::sharedInstance().currentIconListIndex(), 1);
+  EXPECT_FALSE(SBIconController::sharedInstance().isEditing());
+  EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
+  settle();
+  EXPECT_EQ(SBIconController::sharedInstance().currentIconListIndex(), 0);
+}
+
+TEST_F(HomeScreenTest, HomeDoesNothingOnAScreenAtRest) {
+  launch();
+  EXPECT_FALSE(SBUIController::sharedInstance().clickedMenuButton());
+}
+
+TEST_F(HomeScreenTest, HomeLeavesOneThingAfterTheOther) {
+  launch();
+  const auto home = SBUIController::sharedInstance();
+  const auto icons = SBIconController::sharedInstance();
+  icons.scrollToIconListAtIndex(1, NO);
+  icons.setIsEditing(YES);
+  EXPECT_TRUE(home.handleMenuDoubleTap());
+  EXPECT_TRUE(home.isAppSwitcherShowing());
+
+  home.clickedMenuButton();
+  EXPECT_FALSE(home.isAppSwitcherShowing());
+  EXPECT_TRUE(icons.isEditing());
+  home.clickedMenuButton();
+  EXPECT_FALSE(icons.isEditing());
+  EXPECT_EQ(icons.currentIconListIndex(), 1);
+  home.clickedMenuButton();
+  settle();
+  EXPECT_EQ(icons.currentIconListIndex(), 0);
+}
+
+TEST_F(HomeScreenTest, TheStatusBarLiesAboveTheHomeScreenAndTakesNoTouch) {
+  launch();
+  const auto top = objc::cast<UIWindow>(UIApplication::sharedApplication().windows().lastObject());
+  EXPECT_EQ(top.windowLevel(), UIWindowLevelStatusBar);
+  EXPECT_EQ(top.frame(), (CGRect{0, 0, 375, 20}));
+  EXPECT_FALSE(top.isUserInteractionEnabled());
+}
+
+TEST_F(HomeScreenTest, AScreenAtRestWantsNoFrames) {
+  launch();
+  settle();
+  EXPECT_FALSE(loop.wants_frames());
+  set_editing(true);
+  advance(0.1);
+  EXPECT_TRUE(loop.wants_frames());
+  set_editing(false);
+  settle();
+  EXPECT_FALSE(loop.wants_frames());
+}
+
+TEST_F(HomeScreenTest, AnotherLaunchFindsTheArrangementAsItWasLeft) {
+  launch();
+  ASSERT_TRUE(move_out_of_dock(kPhone));
+  ASSERT_TRUE(move_to_dock(kMusic));
+  const CGRect music = icon_view(kMusic).frame();
+  launch();
+  EXPECT_TRUE(icon_view(kMusic).isInDock());
+  EXPECT_FALSE(icon_view(kPhone).isInDock());
+  EXPECT_EQ(icon_view(kMusic).frame(), music);
+}
+
+TEST_F(HomeScreenTest, AnUninstalledApplicationTakesItsIconAndItsViewAlong) {
+  launch();
+  const auto view = objc::Ref<SBIconView>::retain(icon_view(kMusic));
+  EXPECT_TRUE(uninstall(kMusic));
+  EXPECT_FALSE(view->superview());
+  EXPECT_FALSE(icon(kMusic));
+  EXPECT_FALSE(uninstall(kMusic));
+  EXPECT_FALSE(std::filesystem::exists(device / "Applications" / "Music.app"));
+}
+
+}  // namespace
+}  // namespace host::springboard
