@@ -68,11 +68,9 @@ void TableView::touches_cancelled(NSSet touches, UIEvent event) {
 
 void TableView::choose(RowPlace touched) {
   NSIndexPath chosen = path(touched);
-  if (const auto asked = listener("tableView:willSelectRowAtIndexPath:"_sel)) {
+  if (const auto asked = listener("tableView:willSelectRowAtIndexPath:"_sel))
     chosen = asked.willSelectRowAtIndexPath(self, chosen);
-    if (!chosen) return;
-  }
-  // The delegate may have sent us to another row, or reloaded the table meanwhile.
+  // The delegate may have refused, sent us to another row, or reloaded the table meanwhile.
   const auto where = place(chosen);
   if (!where) return;
   if (selected_ && selected_ != where) {
