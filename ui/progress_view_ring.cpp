@@ -16,6 +16,11 @@ CGFloat background_width_for(CGFloat width) {
   return scaled > kThinnestBackgroundWidth ? scaled : kThinnestBackgroundWidth;
 }
 
+// A layer that is told its own width again would animate a change that nobody sees.
+void stroke_with(CAShapeLayer layer, CGFloat width) {
+  if (layer.lineWidth() != width) layer.setLineWidth(width);
+}
+
 }  // namespace
 
 M13ProgressViewRing ProgressViewRing::init() {
@@ -139,11 +144,11 @@ void ProgressViewRing::layout_subviews() {
 void ProgressViewRing::fit_ring_widths(CGFloat width) {
   if (!background_ring_width_overriden_) {
     background_ring_width_ = background_width_for(width);
-    background_layer_->setLineWidth(background_ring_width_);
+    stroke_with(background_layer_.get(), background_ring_width_);
   }
   if (!progress_ring_width_overriden_) {
     progress_ring_width_ = background_ring_width_ * kProgressWidthPerBackgroundWidth;
-    progress_layer_->setLineWidth(progress_ring_width_);
+    stroke_with(progress_layer_.get(), progress_ring_width_);
   }
 }
 
