@@ -157,6 +157,8 @@ void View::announce_window(UIWindow window) {
 
 void View::settle_in_window(UIWindow window) {
   window_ = window;
+  // What is on no screen does not move: whoever waits for the end hears that it was cut short.
+  if (!window) layer_->removeAllAnimations();
   self.didMoveToWindow();
   const auto children = subviews_;
   for (const auto& child : children)
