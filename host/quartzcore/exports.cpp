@@ -1,11 +1,14 @@
 #include "host/quartzcore/exports.h"
 
 #include "host/quartzcore/animation.h"
+#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/color.h"
 #include "host/quartzcore/display_link.h"
+#include "host/quartzcore/gradient_layer.h"
 #include "host/quartzcore/image.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/path.h"
+#include "host/quartzcore/shape_layer.h"
 #include "host/quartzcore/timing_function.h"
 #include "host/quartzcore/transaction.h"
 #include "host/quartzcore/value_categories.h"
@@ -23,6 +26,9 @@ void export_quartzcore() {
     export_transaction();
     export_display_link();
     export_layer();
+    export_shape_layer();
+    export_gradient_layer();
+    export_backdrop_layer();
     return true;
   }();
   static_cast<void>(exported);

@@ -19,7 +19,6 @@ class LayerDrawing {
   virtual void present(const std::vector<RunningAnimation>& animations, double now) = 0;
   /// The model's value of a property of this kind, and nothing for one that it does not have.
   virtual std::optional<Value> model_value(std::string_view key_path) const = 0;
-  virtual bool set_model_value(std::string_view key_path, const Value& value) = 0;
   /// Equal numbers mean equal drawings at equal bounds.
   virtual std::uint64_t signature() const = 0;
   /// What the drawing may touch, in the layer's coordinates.

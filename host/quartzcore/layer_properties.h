@@ -5,6 +5,7 @@
 #include "host/quartzcore/color.h"
 #include "host/quartzcore/value.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
+#include "platform/CoreGraphics/CGRect.h"
 #include "platform/QuartzCore/CATransform3D.h"
 
 namespace host::quartzcore {

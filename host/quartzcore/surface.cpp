@@ -18,6 +18,20 @@ Surface scale_once(const Surface& source, int width, int height) {
   return result;
 }
 
+// Enlarging with the fast scaler would darken the picture by a shade and let an opaque one through.
+Surface enlarge(const Surface& source, int width, int height) {
+  const Surface result = make_surface(width, height);
+  const Drawing drawing = draw_on(result);
+  cairo_scale(drawing.get(), static_cast<double>(width) / width_of(source),
+              static_cast<double>(height) / height_of(source));
+  cairo_set_operator(drawing.get(), CAIRO_OPERATOR_SOURCE);
+  cairo_set_source_surface(drawing.get(), source.get(), 0, 0);
+  cairo_pattern_set_extend(cairo_get_source(drawing.get()), CAIRO_EXTEND_PAD);
+  cairo_pattern_set_filter(cairo_get_source(drawing.get()), CAIRO_FILTER_BILINEAR);
+  cairo_paint(drawing.get());
+  return result;
+}
+
 }  // namespace
 
 Surface make_surface(int width, int height) {
@@ -42,7 +56,7 @@ Surface scaled_copy(const Surface& source, int width, int height) {
     current = scale_once(current, next_width, next_height);
   }
   if (width_of(current) == width && height_of(current) == height) return current;
-  return scale_once(current, width, height);
+  return enlarge(current, width, height);
 }
 
 }  // namespace host::quartzcore

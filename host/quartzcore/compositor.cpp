@@ -1,0 +1,152 @@
+#include "host/quartzcore/compositor.h"
+
+#include <algorithm>
+
+#include "host/quartzcore/layer_service.h"
+
+namespace host::quartzcore {
+namespace {
+
+// More rectangles than these cost more in clipping than they save in pixels.
+constexpr std::size_t kMostRectangles = 4;
+
+}  // namespace
+
+Compositor::Compositor(int width, int height, double scale)
+    : screen_{0, 0, width, height}, scale_(scale), surface_(make_surface(width, height)) {}
+
+Damage Compositor::render(std::span<const CALayer> roots, double now) {
+  const bool same_roots =
+      std::equal(roots.begin(), roots.end(), last_roots_.begin(), last_roots_.end());
+  const bool animated = any_layer_animated();
+  if (same_roots && !animated && !last_animated_ && last_changes_ == layer_changes()) return {};
+  last_roots_.assign(roots.begin(), roots.end());
+  last_changes_ = layer_changes();
+  last_animated_ = animated;
+
+  tree_.prepare(roots, screen_, scale_, now);
+  std::vector<Entry> after;
+  after.reserve(tree_.nodes().size());
+  for (const RenderNode& one : tree_.nodes()) {
+    const std::uint64_t content = one.layer->backdrop() ? one.behind : one.signature;
+    after.push_back({one.serial, mix_signature(content, one.context), one.own});
+  }
+  Damage damage =
+      std::exchange(damage_all_, false) ? Damage{screen_} : merged(find_damage(entries_, after));
+  entries_ = std::move(after);
+  if (damage.empty()) return damage;
+  ++frames_;
+  for (const PixelRect& rect : damage) {
+    painted_pixels_ += static_cast<std::uint64_t>(rect.area());
+    paint_damage(rect);
+  }
+  cairo_surface_flush(surface_.get());
+  forget_unused();
+  return damage;
+}
+
+// Layers are compared by identity. What changed damages its old and its new place; what changed
+// its rank among the others damages its place as well.
+Damage Compositor::find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after) {
+  std::unordered_map<std::uint64_t, int> places;
+  places.reserve(before.size());
+  for (std::size_t i = 0; i < before.size(); ++i)
+    places.emplace(before[i].serial, static_cast<int>(i));
+  std::vector<bool> kept(before.size(), false);
+  Damage damage;
+  int highest = -1;
+  for (const Entry& entry : after) {
+    const auto found = places.find(entry.serial);
+    if (found == places.end()) {
+      damage.push_back(entry.own);
+      continue;
+    }
+    const Entry& old = before[static_cast<std::size_t>(found->second)];
+    kept[static_cast<std::size_t>(found->second)] = true;
+    if (found->second < highest || old.signature != entry.signature) {
+      damage.push_back(old.own);
+      damage.push_back(entry.own);
+    }
+    highest = std::max(highest, found->second);
+  }
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    if (!kept[i]) damage.push_back(before[i].own);
+  }
+  // A blur is made from what lies under its whole place, so the whole place is painted for it.
+  for (const RenderNode& one : tree_.nodes()) {
+    if (one.layer->backdrop() && !backdrop_is_ready(one)) damage.push_back(one.own);
+  }
+  return damage;
+}
+
+Damage Compositor::merged(Damage damage) const {
+  std::erase_if(damage, [](const PixelRect& rect) { return rect.is_empty(); });
+  Damage result;
+  for (PixelRect rect : damage) {
+    // Swallowing one neighbour may make the rectangle touch another one.
+    for (std::size_t i = 0; i < result.size();) {
+      if (intersects(result[i], rect)) {
+        rect = united(result[i], rect);
+        result.erase(result.begin() + static_cast<std::ptrdiff_t>(i));
+        i = 0;
+      } else {
+        ++i;
+      }
+    }
+    result.push_back(rect);
+  }
+  if (result.size() <= kMostRectangles) return result;
+  PixelRect all;
+  for (const PixelRect& rect : result)
+    all = united(all, rect);
+  return {all};
+}
+
+bool Compositor::backdrop_is_ready(const RenderNode& one) const {
+  const auto found = backdrops_.find(one.serial);
+  return found != backdrops_.end() && found->second.behind == one.behind &&
+         found->second.place == one.own;
+}
+
+// The last drawing that hides everything before it.
+int Compositor::first_needed(const PixelRect& damage) const {
+  for (int i = static_cast<int>(tree_.nodes().size()) - 1; i >= 0; --i) {
+    const RenderNode& one = node(i);
+    if (!one.is_opaque || !one.own.contains(damage)) continue;
+    if (one.layer->backdrop() && !backdrop_is_ready(one)) continue;
+    bool in_group = one.is_group;
+    for (int p = one.parent; p >= 0 && !in_group; p = node(p).parent)
+      in_group = node(p).is_group;
+    if (!in_group) return i;
+  }
+  return -1;
+}
+
+void Compositor::paint_damage(const PixelRect& damage) {
+  canvases_.clear();
+  canvases_.push_back(make_canvas(surface_, 0, 0));
+  cairo_t* drawing = canvases_.back().drawing.get();
+  cairo_rectangle(drawing, damage.x, damage.y, damage.width, damage.height);
+  cairo_clip(drawing);
+  const int first = first_needed(damage);
+  if (first < 0) {
+    cairo_set_source_rgb(drawing, 0, 0, 0);
+    cairo_paint(drawing);
+  }
+  for (int i = 0; i < static_cast<int>(tree_.nodes().size()); i = node(i).end)
+    paint_node(i, damage, first);
+  canvases_.clear();
+}
+
+void Compositor::forget_unused() {
+  std::erase_if(backdrops_, [&](const auto& one) {
+    return std::none_of(tree_.nodes().begin(), tree_.nodes().end(),
+                        [&](const RenderNode& n) { return n.serial == one.first; });
+  });
+  std::erase_if(groups_, [&](const auto& one) {
+    return std::none_of(tree_.nodes().begin(), tree_.nodes().end(),
+                        [&](const RenderNode& n) { return n.serial == one.first && n.is_group; });
+  });
+}
+
+}  // namespace host::quartzcore

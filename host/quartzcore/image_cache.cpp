@@ -1,0 +1,39 @@
+#include "host/quartzcore/image_cache.h"
+
+#include <algorithm>
+
+namespace host::quartzcore {
+namespace {
+
+long size_of(const Surface& surface) {
+  return 4L * width_of(surface) * height_of(surface);
+}
+
+}  // namespace
+
+Surface ImageCache::scaled(const Image& image, int width, int height) {
+  if (image.width() == width && image.height() == height) return image.surface();
+  const Key key{image.serial(), width, height};
+  const auto found = entries_.find(key);
+  if (found != entries_.end()) {
+    found->second.last_use = ++uses_;
+    return found->second.surface;
+  }
+  const Surface made = scaled_copy(image.surface(), width, height);
+  entries_.emplace(key, Entry{made, ++uses_});
+  bytes_ += size_of(made);
+  make_room();
+  return made;
+}
+
+void ImageCache::make_room() {
+  while (bytes_ > kBudget && entries_.size() > 1) {
+    const auto oldest = std::min_element(
+        entries_.begin(), entries_.end(),
+        [](const auto& a, const auto& b) { return a.second.last_use < b.second.last_use; });
+    bytes_ -= size_of(oldest->second.surface);
+    entries_.erase(oldest);
+  }
+}
+
+}  // namespace host::quartzcore

@@ -1,0 +1,169 @@
+#include "host/quartzcore/layer_painter.h"
+
+#include <numbers>
+
+namespace host::quartzcore {
+namespace {
+
+bool is_upright(const CGAffineTransform& t) {
+  return t.b == 0 && t.c == 0 && t.a > 0 && t.d > 0;
+}
+
+void use_layer_space(const Canvas& canvas, const CGAffineTransform& t) {
+  const cairo_matrix_t matrix{t.a, t.b, t.c, t.d, t.tx - canvas.x, t.ty - canvas.y};
+  cairo_set_matrix(canvas.drawing.get(), &matrix);
+}
+
+void use_pixels(const Canvas& canvas) {
+  cairo_matrix_t matrix;
+  cairo_matrix_init_translate(&matrix, -canvas.x, -canvas.y);
+  cairo_set_matrix(canvas.drawing.get(), &matrix);
+}
+
+void add_rounded_rect(cairo_t* drawing, const CGRect& r, double radius) {
+  radius = std::clamp(radius, 0.0, std::min(r.size.width, r.size.height) / 2);
+  if (radius <= 0) {
+    cairo_rectangle(drawing, r.min_x(), r.min_y(), r.size.width, r.size.height);
+    return;
+  }
+  constexpr double kQuarter = std::numbers::pi / 2;
+  cairo_new_sub_path(drawing);
+  cairo_arc(drawing, r.max_x() - radius, r.min_y() + radius, radius, -kQuarter, 0);
+  cairo_arc(drawing, r.max_x() - radius, r.max_y() - radius, radius, 0, kQuarter);
+  cairo_arc(drawing, r.min_x() + radius, r.max_y() - radius, radius, kQuarter, 2 * kQuarter);
+  cairo_arc(drawing, r.min_x() + radius, r.min_y() + radius, radius, 2 * kQuarter, 3 * kQuarter);
+  cairo_close_path(drawing);
+}
+
+/// Adds the bounds to the path; upright ones without corners end at whole pixels, so that hair
+/// lines are sharp and neighbours meet.
+void add_bounds(const Canvas& canvas, const RenderNode& node) {
+  cairo_t* drawing = canvas.drawing.get();
+  const LayerProperties& p = node.properties;
+  cairo_new_path(drawing);
+  if (p.corner_radius <= 0 && is_upright(node.to_device)) {
+    use_pixels(canvas);
+    const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(p.bounds, node.to_device));
+    cairo_rectangle(drawing, box.x, box.y, box.width, box.height);
+  } else {
+    use_layer_space(canvas, node.to_device);
+    add_rounded_rect(drawing, p.bounds, p.corner_radius);
+  }
+}
+
+void paint_background(const Canvas& canvas, const RenderNode& node, double opacity) {
+  Rgba color = node.properties.background_color;
+  if (color.alpha <= 0) return;
+  color.alpha *= opacity;
+  add_bounds(canvas, node);
+  set_source(canvas.drawing.get(), color);
+  cairo_fill(canvas.drawing.get());
+}
+
+void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const Image& image,
+                             const CGRect& place, double opacity) {
+  cairo_t* drawing = canvas.drawing.get();
+  use_layer_space(canvas, node.to_device);
+  cairo_rectangle(drawing, place.min_x(), place.min_y(), place.size.width, place.size.height);
+  cairo_translate(drawing, place.min_x(), place.min_y());
+  cairo_scale(drawing, place.size.width / image.width(), place.size.height / image.height());
+  cairo_set_source_surface(drawing, image.surface().get(), 0, 0);
+  cairo_pattern_set_extend(cairo_get_source(drawing), CAIRO_EXTEND_PAD);
+  cairo_pattern_set_filter(cairo_get_source(drawing), CAIRO_FILTER_BILINEAR);
+  if (opacity >= 1) {
+    cairo_fill(drawing);
+  } else {
+    cairo_clip(drawing);
+    cairo_paint_with_alpha(drawing, opacity);
+  }
+}
+
+void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
+  const Image& image = *node.layer->contents_image();
+  const CGRect place = contents_rect(*node.layer, node.properties.bounds);
+  if (!(place.size.width > 0) || !(place.size.height > 0)) return;
+  cairo_save(canvas.drawing.get());
+  // Contents may reach beyond the bounds; only a layer that clips cuts itself as well.
+  if (node.layer->masks()) clip_to_layer(canvas, node);
+  const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
+  const bool own_size = box.width == image.width() && box.height == image.height();
+  if (is_upright(node.to_device) && !box.is_empty() && (own_size || !node.is_scaling)) {
+    paint_surface(canvas, images.scaled(image, box.width, box.height), box.x, box.y, opacity,
+                  image.is_opaque() ? Opacity::Opaque : Opacity::Translucent);
+  } else {
+    paint_transformed_image(canvas, node, image, place, opacity);
+  }
+  cairo_restore(canvas.drawing.get());
+}
+
+void paint_drawing(const Canvas& canvas, const RenderNode& node, double opacity) {
+  cairo_t* drawing = canvas.drawing.get();
+  cairo_save(drawing);
+  if (node.layer->masks()) clip_to_layer(canvas, node);
+  if (opacity < 1) cairo_push_group(drawing);
+  use_layer_space(canvas, node.to_device);
+  node.layer->drawing()->paint(drawing, node.properties);
+  if (opacity < 1) {
+    cairo_pop_group_to_source(drawing);
+    cairo_paint_with_alpha(drawing, opacity);
+  }
+  cairo_restore(drawing);
+}
+
+}  // namespace
+
+Canvas make_canvas(Surface surface, int x, int y) {
+  Drawing drawing = draw_on(surface);
+  return {std::move(surface), std::move(drawing), x, y};
+}
+
+void clip_to_layer(const Canvas& canvas, const RenderNode& node) {
+  add_bounds(canvas, node);
+  cairo_clip(canvas.drawing.get());
+}
+
+void paint_layer(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
+  paint_background(canvas, node, opacity);
+  if (node.layer->contents_image()) paint_image(canvas, node, opacity, images);
+  if (node.layer->drawing()) paint_drawing(canvas, node, opacity);
+}
+
+void paint_border(const Canvas& canvas, const RenderNode& node, double opacity) {
+  const LayerProperties& p = node.properties;
+  if (p.border_width <= 0 || p.border_color.alpha <= 0) return;
+  cairo_t* drawing = canvas.drawing.get();
+  Rgba color = p.border_color;
+  color.alpha *= opacity;
+  cairo_new_path(drawing);
+  use_layer_space(canvas, node.to_device);
+  const double half = p.border_width / 2;
+  add_rounded_rect(drawing, CGRectInset(p.bounds, half, half),
+                   p.corner_radius > 0 ? std::max(0.0, p.corner_radius - half) : 0);
+  cairo_set_line_width(drawing, p.border_width);
+  cairo_set_line_join(drawing, CAIRO_LINE_JOIN_MITER);
+  cairo_set_line_cap(drawing, CAIRO_LINE_CAP_BUTT);
+  set_source(drawing, color);
+  cairo_stroke(drawing);
+}
+
+void paint_surface(const Canvas& canvas, const Surface& surface, int x, int y, double opacity,
+                   Opacity kind) {
+  cairo_t* drawing = canvas.drawing.get();
+  use_pixels(canvas);
+  cairo_set_source_surface(drawing, surface.get(), x, y);
+  cairo_pattern_set_filter(cairo_get_source(drawing), CAIRO_FILTER_NEAREST);
+  cairo_new_path(drawing);
+  cairo_rectangle(drawing, x, y, width_of(surface), height_of(surface));
+  if (opacity < 1) {
+    cairo_save(drawing);
+    cairo_clip(drawing);
+    cairo_paint_with_alpha(drawing, opacity);
+    cairo_restore(drawing);
+    return;
+  }
+  if (kind == Opacity::Opaque) cairo_set_operator(drawing, CAIRO_OPERATOR_SOURCE);
+  cairo_fill(drawing);
+  cairo_set_operator(drawing, CAIRO_OPERATOR_OVER);
+}
+
+}  // namespace host::quartzcore

@@ -1,0 +1,248 @@
+#include "host/quartzcore/render_tree.h"
+
+#include <algorithm>
+
+#include "host/quartzcore/backdrop_layer.h"
+
+namespace host::quartzcore {
+namespace {
+
+bool is_upright(const CGAffineTransform& t) {
+  return t.b == 0 && t.c == 0 && t.a > 0 && t.d > 0;
+}
+
+std::uint64_t mix_transform(std::uint64_t signature, const CGAffineTransform& t) {
+  return mix_signature(
+      mix_signature(mix_signature(signature, CGPoint{t.a, t.b}), CGPoint{t.c, t.d}),
+      CGPoint{t.tx, t.ty});
+}
+
+CGPoint gravity_point(Gravity gravity) {
+  switch (gravity) {
+    case Gravity::Top:
+      return {0.5, 0};
+    case Gravity::Bottom:
+      return {0.5, 1};
+    case Gravity::Left:
+      return {0, 0.5};
+    case Gravity::Right:
+      return {1, 0.5};
+    case Gravity::TopLeft:
+      return {0, 0};
+    case Gravity::TopRight:
+      return {1, 0};
+    case Gravity::BottomLeft:
+      return {0, 1};
+    case Gravity::BottomRight:
+      return {1, 1};
+    default:
+      return {0.5, 0.5};
+  }
+}
+
+/// The drawing of the layer itself, whatever stands around it.
+std::uint64_t sign_drawing(const RenderNode& node) {
+  const Layer& layer = *node.layer;
+  const LayerProperties& p = node.properties;
+  std::uint64_t result = mix_signature(node.serial, p.bounds);
+  result = mix_signature(result, p.background_color);
+  result = mix_signature(result, CGPoint{p.corner_radius, p.border_width});
+  if (p.border_width > 0) result = mix_signature(result, p.border_color);
+  if (const Image* image = layer.contents_image()) {
+    result = mix_signature(result, image->serial());
+    result = mix_signature(result, static_cast<std::uint64_t>(layer.gravity()));
+    result = mix_signature(result, layer.contents_scale_value());
+  }
+  if (layer.drawing()) result = mix_signature(result, layer.drawing()->signature());
+  if (layer.backdrop()) result = mix_signature(result, layer.backdrop()->look().signature());
+  const std::uint64_t flags =
+      (layer.masks() ? 1 : 0) | (node.is_scaling ? 2 : 0) | (layer.mask_layer() ? 4 : 0);
+  return mix_transform(mix_signature(result, flags), node.to_device);
+}
+
+CGRect extent_of(const RenderNode& node) {
+  const Layer& layer = *node.layer;
+  const LayerProperties& p = node.properties;
+  const bool plain = p.background_color.alpha > 0 || p.border_width > 0 || layer.backdrop();
+  CGRect extent = plain ? p.bounds : CGRect();
+  if (layer.contents_image()) extent = CGRectUnion(extent, contents_rect(layer, p.bounds));
+  if (layer.drawing()) extent = CGRectUnion(extent, layer.drawing()->extent(p));
+  return layer.masks() ? CGRectIntersection(extent, p.bounds) : extent;
+}
+
+bool covers_its_pixels(const RenderNode& node) {
+  const Layer& layer = *node.layer;
+  const LayerProperties& p = node.properties;
+  if (!is_upright(node.to_device) || p.corner_radius > 0) return false;
+  const CGRect box = CGRectApplyAffineTransform(p.bounds, node.to_device);
+  if (!nearest_pixels(box).contains(node.own)) return false;
+  if (layer.backdrop() || p.background_color.alpha >= 1) return true;
+  const Image* image = layer.contents_image();
+  if (!image || !image->is_opaque()) return false;
+  const CGRect filled = CGRectApplyAffineTransform(contents_rect(layer, p.bounds), node.to_device);
+  return nearest_pixels(filled).contains(node.own);
+}
+
+bool draws_one_element(const RenderNode& node) {
+  const Layer& layer = *node.layer;
+  if (!layer.children().empty() || layer.backdrop() || layer.mask_layer()) return false;
+  const LayerProperties& p = node.properties;
+  const int elements = (p.background_color.alpha > 0) + (layer.contents_image() != nullptr) +
+                       2 * (layer.drawing() != nullptr) + (p.border_width > 0);
+  return elements <= 1;
+}
+
+std::vector<const Layer*> children_in_order(const Layer& layer) {
+  std::vector<const Layer*> order;
+  for (const auto& child : layer.children())
+    order.push_back(&objc::state_of<Layer>(child.get()));
+  const auto z = [](const Layer* one) { return one->model().z_position; };
+  if (std::any_of(order.begin(), order.end(), [&](const Layer* one) { return z(one) != 0; })) {
+    std::stable_sort(order.begin(), order.end(),
+                     [&](const Layer* a, const Layer* b) { return z(a) < z(b); });
+  }
+  return order;
+}
+
+}  // namespace
+
+CGRect contents_rect(const Layer& layer, const CGRect& bounds) {
+  const Image& image = *layer.contents_image();
+  const double scale = layer.contents_scale_value();
+  CGSize size{image.width() / scale, image.height() / scale};
+  const double fit_x = bounds.size.width / size.width;
+  const double fit_y = bounds.size.height / size.height;
+  switch (layer.gravity()) {
+    case Gravity::Resize:
+      return bounds;
+    case Gravity::ResizeAspect:
+      size = {size.width * std::min(fit_x, fit_y), size.height * std::min(fit_x, fit_y)};
+      break;
+    case Gravity::ResizeAspectFill:
+      size = {size.width * std::max(fit_x, fit_y), size.height * std::max(fit_x, fit_y)};
+      break;
+    default:
+      break;
+  }
+  const CGPoint at = gravity_point(layer.gravity());
+  return {bounds.min_x() + (bounds.size.width - size.width) * at.x,
+          bounds.min_y() + (bounds.size.height - size.height) * at.y, size.width, size.height};
+}
+
+void RenderTree::prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale,
+                         double now) {
+  nodes_.clear();
+  Surroundings around;
+  around.to_device = {scale, 0, 0, scale, 0, 0};
+  around.clip = screen;
+  for (CALayer root : roots) {
+    if (root) add(objc::state_of<Layer>(root), around, now);
+  }
+  sign_backdrops();
+}
+
+void RenderTree::add(const Layer& layer, const Surroundings& around, double now) {
+  if (layer.hidden() || around.clip.is_empty()) return;
+  const int index = static_cast<int>(nodes_.size());
+  RenderNode node;
+  node.properties = layer.present(now);
+  const LayerProperties& p = node.properties;
+  if (p.opacity <= 0) return;
+  node.layer = &layer;
+  node.serial = layer.serial();
+  node.parent = around.parent;
+  node.is_mask = around.is_mask;
+  node.to_device = CGAffineTransformConcat(p.to_super(), around.to_device);
+  if (node.to_device.a * node.to_device.d == node.to_device.b * node.to_device.c) return;
+  node.is_scaling = around.is_scaling || layer.is_scaling(now);
+  node.is_simple = draws_one_element(node);
+  node.is_group = layer.mask_layer() || ((p.opacity < 1 || layer.rasterizes()) && !node.is_simple);
+  node.context = mix_signature(around.context, p.opacity);
+  node.own = intersection(pixels_round(CGRectApplyAffineTransform(extent_of(node), node.to_device)),
+                          around.clip);
+  // Inside its group a drawing is as opaque as it is; the group's opacity comes after it.
+  node.is_opaque = (p.opacity >= 1 || node.is_group) && !around.rounded_clip && !around.is_mask &&
+                   !layer.mask_layer() && !node.own.is_empty() && covers_its_pixels(node);
+  node.signature = mix_signature(sign_drawing(node), node.own.x + 65536.0 * node.own.y);
+  node.signature = mix_signature(node.signature, node.own.width + 65536.0 * node.own.height);
+  node.subtree = node.own;
+
+  Surroundings inner = around;
+  inner.to_device = node.to_device;
+  inner.context = node.context;
+  inner.parent = index;
+  inner.is_scaling = node.is_scaling;
+  if (layer.masks()) {
+    const CGRect box = CGRectApplyAffineTransform(p.bounds, node.to_device);
+    inner.clip = intersection(is_upright(node.to_device) ? nearest_pixels(box) : pixels_round(box),
+                              around.clip);
+    const bool rounded = p.corner_radius > 0 || !is_upright(node.to_device);
+    inner.rounded_clip |= rounded;
+    // A clip that is no plain rectangle changes pixels of the layers inside.
+    if (rounded) inner.context = mix_signature(inner.context, sign_drawing(node));
+  }
+  if (layer.mask_layer()) {
+    inner.rounded_clip = true;
+    inner.context = mix_signature(inner.context, node.serial);
+  }
+  nodes_.push_back(node);
+  add_children(index, inner, now);
+}
+
+void RenderTree::add_children(int index, const Surroundings& inner, double now) {
+  const Layer& layer = *nodes_[static_cast<std::size_t>(index)].layer;
+  if (layer.mask_layer()) {
+    Surroundings mask = inner;
+    mask.is_mask = true;
+    const int place = static_cast<int>(nodes_.size());
+    add(objc::state_of<Layer>(layer.mask_layer()), mask, now);
+    const bool added = static_cast<int>(nodes_.size()) > place;
+    nodes_[static_cast<std::size_t>(index)].mask = added ? place : -1;
+  }
+  for (const Layer* child : children_in_order(layer))
+    add(*child, inner, now);
+  RenderNode& node = nodes_[static_cast<std::size_t>(index)];
+  node.end = static_cast<int>(nodes_.size());
+  if (node.parent >= 0) {
+    RenderNode& parent = nodes_[static_cast<std::size_t>(node.parent)];
+    parent.subtree = united(parent.subtree, node.subtree);
+  }
+}
+
+bool RenderTree::is_within(int node, int ancestor) const {
+  return node >= ancestor && node < nodes_[static_cast<std::size_t>(ancestor)].end;
+}
+
+// What a backdrop shows depends on everything drawn before it in its place, back to the last
+// opaque drawing that fills the place. The opacity of the groups that hold the backdrop itself
+// does not matter: it is applied to the finished group.
+void RenderTree::sign_backdrops() {
+  const auto count = static_cast<int>(nodes_.size());
+  for (int i = 0; i < count; ++i) {
+    RenderNode& backdrop = nodes_[static_cast<std::size_t>(i)];
+    if (!backdrop.layer->backdrop()) continue;
+    int first = 0;
+    for (int j = i - 1; j > 0 && first == 0; --j) {
+      const RenderNode& below = nodes_[static_cast<std::size_t>(j)];
+      if (!below.is_opaque || !below.own.contains(backdrop.own)) continue;
+      bool reaches = true;
+      for (int g = below.parent; g >= 0; g = nodes_[static_cast<std::size_t>(g)].parent)
+        reaches &= !nodes_[static_cast<std::size_t>(g)].is_group || is_within(i, g);
+      if (below.is_group && !is_within(i, j)) reaches = false;
+      if (reaches) first = j;
+    }
+    std::uint64_t behind = backdrop.signature;
+    for (int k = first; k < i; ++k) {
+      const RenderNode& below = nodes_[static_cast<std::size_t>(k)];
+      if (!is_within(i, k) && below.is_group && intersects(below.subtree, backdrop.own))
+        behind = mix_signature(behind, below.properties.opacity);
+      if (!intersects(below.own, backdrop.own)) continue;
+      behind = mix_signature(behind, below.signature);
+      behind = mix_signature(behind, below.behind);
+      if (!is_within(i, k)) behind = mix_signature(behind, below.properties.opacity);
+    }
+    backdrop.behind = behind;
+  }
+}
+
+}  // namespace host::quartzcore

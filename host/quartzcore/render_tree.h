@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "host/quartzcore/layer.h"
+#include "host/quartzcore/pixel_rect.h"
+
+namespace host::quartzcore {
+
+/// One layer as it stands in one frame, in drawing order (a parent before its children).
+struct RenderNode {
+  const Layer* layer = nullptr;
+  std::uint64_t serial = 0;
+  LayerProperties properties;
+  CGAffineTransform to_device;
+  /// Pixels that its own drawing may touch, within all clips above it.
+  PixelRect own;
+  /// The same with everything below it in the tree.
+  PixelRect subtree;
+  /// Equal numbers mean that its own drawing has the same pixels, opacity aside.
+  std::uint64_t signature = 0;
+  /// The opacities above it.
+  std::uint64_t context = 0;
+  /// For a backdrop: all that it depends on.
+  std::uint64_t behind = 0;
+  /// One past its last descendant.
+  int end = 0;
+  int parent = -1;
+  /// The mask's place, or -1; a mask stands first among the children and is not painted as one.
+  int mask = -1;
+  bool is_mask = false;
+  bool is_group = false;
+  /// Its own drawing covers `own` completely.
+  bool is_opaque = false;
+  bool is_scaling = false;
+  /// Its own drawing is one element without children: opacity needs no group.
+  bool is_simple = false;
+};
+
+/// Where contents of a layer lie in its coordinates.
+CGRect contents_rect(const Layer& layer, const CGRect& bounds);
+
+/// All layers of a frame that can be seen, in drawing order.
+class RenderTree {
+ public:
+  /// `screen` in pixels, `scale` pixels to the point, `now` the animations' time.
+  void prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale, double now);
+
+  const std::vector<RenderNode>& nodes() const { return nodes_; }
+  /// Does `node` stand in the tree below `ancestor` (or is it the same)?
+  bool is_within(int node, int ancestor) const;
+
+ private:
+  struct Surroundings {
+    CGAffineTransform to_device;
+    PixelRect clip;
+    std::uint64_t context = 0;
+    int parent = -1;
+    bool rounded_clip = false;
+    bool is_scaling = false;
+    bool in_group = false;
+    bool is_mask = false;
+  };
+
+  void add(const Layer& layer, const Surroundings& around, double now);
+  void add_children(int index, const Surroundings& inner, double now);
+  void sign_backdrops();
+
+  std::vector<RenderNode> nodes_;
+};
+
+}  // namespace host::quartzcore

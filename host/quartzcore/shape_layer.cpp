@@ -1,0 +1,244 @@
+#include "host/quartzcore/shape_layer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/quartzcore/layer_service.h"
+
+namespace host::quartzcore {
+namespace {
+
+using P = ShapeProperties;
+
+template <auto Member>
+constexpr PropertyAccess<P> access(std::string_view key_path) {
+  using T = std::remove_cvref_t<decltype(std::declval<P>().*Member)>;
+  return {key_path, [](const P& p) -> Value { return p.*Member; },
+          [](P& p, const Value& value) {
+            if (const T* held = std::get_if<T>(&value)) p.*Member = *held;
+          }};
+}
+
+constexpr PropertyAccess<P> kProperties[] = {
+    access<&P::fill>("fillColor"),       access<&P::stroke>("strokeColor"),
+    access<&P::line_width>("lineWidth"), access<&P::stroke_start>("strokeStart"),
+    access<&P::stroke_end>("strokeEnd"),
+};
+
+const PropertyAccess<P>* shape_property(std::string_view key_path) {
+  const auto* found = std::find_if(std::begin(kProperties), std::end(kProperties),
+                                   [&](const auto& one) { return one.key_path == key_path; });
+  return found == std::end(kProperties) ? nullptr : found;
+}
+
+constexpr const char* kCaps[] = {"butt", "round", "square"};
+constexpr const char* kJoins[] = {"miter", "round", "bevel"};
+constexpr const char* kRules[] = {"non-zero", "even-odd"};
+
+template <std::size_t Size>
+int index_of(NSString wanted, const char* const (&names)[Size], int otherwise) {
+  const std::string_view text = wanted ? wanted.UTF8String() : "";
+  const auto* found = std::find(std::begin(names), std::end(names), text);
+  return found == std::end(names) ? otherwise : static_cast<int>(found - names);
+}
+
+}  // namespace
+
+ShapeLayer::ShapeLayer(CAShapeLayer owner) : Implementation(owner) {
+  fill_color_ = objc::Ref<CGColorObject>::adopt(
+      objc::cast<CGColorObject>(object_of(make_color(model_.fill))));
+  objc::state_of<Layer>(owner).set_drawing(this);
+}
+
+ShapeLayer::~ShapeLayer() {
+  objc::state_of<Layer>(self).set_drawing(nullptr);
+}
+
+template <class T>
+void ShapeLayer::change(NSString key, T ShapeProperties::*member, const T& value) {
+  if (model_.*member == value) return;
+  const Layer& layer = objc::state_of<Layer>(self);
+  const auto action = layer.action_before_change(key);
+  model_.*member = value;
+  note_shape_change();
+  layer.run_action(action, key);
+}
+
+void ShapeLayer::note_shape_change() {
+  ++version_;
+  note_layer_change();
+}
+
+CGPathRef ShapeLayer::path() const {
+  return reinterpret_cast<CGPathRef>(path_.get().id());
+}
+void ShapeLayer::set_path(CGPathRef path) {
+  // A copy, so that drawing on the path afterwards changes nothing here.
+  path_ =
+      objc::Ref<CGPathObject>::adopt(objc::cast<CGPathObject>(object_of(CGPathCreateCopy(path))));
+  note_shape_change();
+}
+CGColorRef ShapeLayer::fill_color() const {
+  return reinterpret_cast<CGColorRef>(fill_color_.get().id());
+}
+void ShapeLayer::set_fill_color(CGColorRef color) {
+  fill_color_.reset(objc::cast<CGColorObject>(object_of(color)));
+  change("fillColor"_ns, &P::fill, rgba_of(color));
+}
+CGColorRef ShapeLayer::stroke_color() const {
+  return reinterpret_cast<CGColorRef>(stroke_color_.get().id());
+}
+void ShapeLayer::set_stroke_color(CGColorRef color) {
+  stroke_color_.reset(objc::cast<CGColorObject>(object_of(color)));
+  change("strokeColor"_ns, &P::stroke, rgba_of(color));
+}
+void ShapeLayer::set_line_width(CGFloat width) {
+  change("lineWidth"_ns, &P::line_width, width);
+}
+void ShapeLayer::set_stroke_start(CGFloat start) {
+  change("strokeStart"_ns, &P::stroke_start, start);
+}
+void ShapeLayer::set_stroke_end(CGFloat end) {
+  change("strokeEnd"_ns, &P::stroke_end, end);
+}
+NSString ShapeLayer::line_cap() const {
+  return NSString::stringWithUTF8String(kCaps[cap_]);
+}
+void ShapeLayer::set_line_cap(NSString cap) {
+  cap_ = static_cast<cairo_line_cap_t>(index_of(cap, kCaps, cap_));
+  note_shape_change();
+}
+NSString ShapeLayer::line_join() const {
+  return NSString::stringWithUTF8String(kJoins[join_]);
+}
+void ShapeLayer::set_line_join(NSString join) {
+  join_ = static_cast<cairo_line_join_t>(index_of(join, kJoins, join_));
+  note_shape_change();
+}
+NSString ShapeLayer::fill_rule() const {
+  return NSString::stringWithUTF8String(kRules[rule_]);
+}
+void ShapeLayer::set_fill_rule(NSString rule) {
+  rule_ = static_cast<cairo_fill_rule_t>(index_of(rule, kRules, rule_));
+  note_shape_change();
+}
+
+void ShapeLayer::present(const std::vector<RunningAnimation>& animations, double now) {
+  presented_ = model_;
+  apply_animations(animations, now, shape_property, presented_);
+}
+
+std::optional<Value> ShapeLayer::model_value(std::string_view key_path) const {
+  const auto* found = shape_property(key_path);
+  return found ? std::optional(found->read(model_)) : std::nullopt;
+}
+
+std::uint64_t ShapeLayer::signature() const {
+  std::uint64_t result = mix_signature(version_, presented_.fill);
+  result = mix_signature(result, presented_.stroke);
+  result = mix_signature(result, presented_.line_width);
+  return mix_signature(result, CGPoint{presented_.stroke_start, presented_.stroke_end});
+}
+
+CGRect ShapeLayer::extent(const LayerProperties&) const {
+  if (!path_) return {};
+  const CGRect box = objc::state_of<Path>(path_.get()).bounding_box();
+  if (presented_.stroke.alpha <= 0) return box;
+  // Half the line, and as far again as a mitred corner or a square cap may reach.
+  const double reach = presented_.line_width * (join_ == CAIRO_LINE_JOIN_MITER ? 5 : 1);
+  return CGRectInset(box, -reach, -reach);
+}
+
+// Adds the part of the path between the two ends, measured along it, to the current path.
+void ShapeLayer::add_stroked_part(cairo_t* drawing) const {
+  const Path& path = objc::state_of<Path>(path_.get());
+  const double start = std::clamp(presented_.stroke_start, 0.0, 1.0);
+  const double end = std::clamp(presented_.stroke_end, 0.0, 1.0);
+  if (start <= 0 && end >= 1) return path.add_to(drawing);
+  cairo_t* scratch = scratch_drawing();
+  cairo_new_path(scratch);
+  cairo_set_tolerance(scratch, 0.02);
+  path.add_to(scratch);
+  cairo_path_t* flat = cairo_copy_path_flat(scratch);
+  const auto walk = [flat](auto&& piece) {
+    CGPoint at, first;
+    for (int i = 0; i < flat->num_data; i += flat->data[i].header.length) {
+      const auto kind = flat->data[i].header.type;
+      const bool closes = kind == CAIRO_PATH_CLOSE_PATH;
+      const CGPoint to =
+          closes ? first : CGPoint{flat->data[i + 1].point.x, flat->data[i + 1].point.y};
+      if (kind == CAIRO_PATH_MOVE_TO) {
+        first = to;
+      } else {
+        piece(at, to, std::hypot(to.x - at.x, to.y - at.y));
+      }
+      at = to;
+    }
+  };
+  double length = 0;
+  walk([&](CGPoint, CGPoint, double part) { length += part; });
+  double walked = 0;
+  bool connected = false;
+  walk([&](CGPoint from, CGPoint to, double part) {
+    const double low = std::max(start * length, walked) - walked;
+    const double high = std::min(end * length, walked + part) - walked;
+    walked += part;
+    if (part <= 0 || high <= low) {
+      connected = false;
+      return;
+    }
+    const auto at = [&](double distance) {
+      return CGPoint{from.x + (to.x - from.x) * distance / part,
+                     from.y + (to.y - from.y) * distance / part};
+    };
+    if (!connected) cairo_move_to(drawing, at(low).x, at(low).y);
+    cairo_line_to(drawing, at(high).x, at(high).y);
+    connected = true;
+  });
+  cairo_path_destroy(flat);
+}
+
+void ShapeLayer::paint(cairo_t* drawing, const LayerProperties&) const {
+  if (!path_) return;
+  cairo_new_path(drawing);
+  if (presented_.fill.alpha > 0) {
+    objc::state_of<Path>(path_.get()).add_to(drawing);
+    cairo_set_fill_rule(drawing, rule_);
+    set_source(drawing, presented_.fill);
+    cairo_fill(drawing);
+  }
+  if (presented_.stroke.alpha > 0 && presented_.line_width > 0) {
+    add_stroked_part(drawing);
+    cairo_set_line_cap(drawing, cap_);
+    cairo_set_line_join(drawing, join_);
+    cairo_set_line_width(drawing, presented_.line_width);
+    set_source(drawing, presented_.stroke);
+    cairo_stroke(drawing);
+  }
+}
+
+void export_shape_layer() {
+  objc::ClassBuilder("CAShapeLayer", "CALayer")
+      .state<ShapeLayer>()
+      .method<&ShapeLayer::path>("path")
+      .method<&ShapeLayer::set_path>("setPath:")
+      .method<&ShapeLayer::fill_color>("fillColor")
+      .method<&ShapeLayer::set_fill_color>("setFillColor:")
+      .method<&ShapeLayer::stroke_color>("strokeColor")
+      .method<&ShapeLayer::set_stroke_color>("setStrokeColor:")
+      .method<&ShapeLayer::line_width>("lineWidth")
+      .method<&ShapeLayer::set_line_width>("setLineWidth:")
+      .method<&ShapeLayer::stroke_start>("strokeStart")
+      .method<&ShapeLayer::set_stroke_start>("setStrokeStart:")
+      .method<&ShapeLayer::stroke_end>("strokeEnd")
+      .method<&ShapeLayer::set_stroke_end>("setStrokeEnd:")
+      .method<&ShapeLayer::line_cap>("lineCap")
+      .method<&ShapeLayer::set_line_cap>("setLineCap:")
+      .method<&ShapeLayer::line_join>("lineJoin")
+      .method<&ShapeLayer::set_line_join>("setLineJoin:")
+      .method<&ShapeLayer::fill_rule>("fillRule")
+      .method<&ShapeLayer::set_fill_rule>("setFillRule:")
+      .finish();
+}
+
+}  // namespace host::quartzcore
