@@ -1,0 +1,80 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/quartzcore/layer_service.h"
+#include "host/uikit/drawing/exports.h"
+#include "host/uikit/gesture/touch_input.h"
+#include "host/uikit/text/exports.h"
+#include "host/uikit/view/exports.h"
+#include "platform/UIKit/UIWindow.h"
+#include "tests/support/host_test.h"
+
+namespace host::test {
+
+/// A phone's screen with one empty window, a finger or two, and a list of what was told to whom.
+class UIKitTest : public HostTest {
+ public:
+  static constexpr CGRect kScreen{0, 0, 375, 667};
+  static constexpr double kReport = 1.0 / 60;
+  using Events = std::vector<std::string>;
+
+  UIKitTest() {
+    uikit::export_drawing();
+    uikit::export_views();
+    uikit::export_text();
+    layers.emplace(loop);
+    window = UIWindow::alloc().initWithFrame(kScreen);
+    window.setHidden(NO);
+    events().clear();
+  }
+  // Here and not in the destructor: the targets that the end of a gesture is told to still live.
+  void TearDown() override { input.cancel_all(clock.now()); }
+  ~UIKitTest() override {
+    window.setHidden(YES);
+    window.release();
+    advance(2);
+    layers.reset();
+  }
+
+  static Events& events() {
+    static Events told;
+    return told;
+  }
+  /// What was told since the last call.
+  static Events told() { return std::exchange(events(), {}); }
+
+  /// A plain view in the window, released by the superview.
+  UIView add_view(CGRect frame) {
+    const UIView view = UIView::alloc().initWithFrame(frame).autorelease();
+    window.addSubview(view);
+    return view;
+  }
+
+  void press(CGPoint point, int finger = 0) { input.began(finger, point, clock.now()); }
+  void move(CGPoint point, int finger = 0) { input.moved(finger, point, clock.now()); }
+  void lift(CGPoint point, int finger = 0) { input.ended(finger, point, clock.now()); }
+  void tap(CGPoint point) {
+    press(point);
+    advance(0.05);
+    lift(point);
+  }
+  /// Moves the finger steadily, reporting as often as the screen does.
+  void glide(CGPoint from, CGPoint to, double seconds) {
+    const int reports = std::max(1, static_cast<int>(seconds / kReport + 0.5));
+    for (int report = 1; report <= reports; ++report) {
+      advance(seconds / reports);
+      const double share = static_cast<double>(report) / reports;
+      move({from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share});
+    }
+  }
+
+ protected:
+  std::optional<quartzcore::LayerService> layers;
+  UIWindow window;
+  uikit::TouchInput input;
+};
+
+}  // namespace host::test
