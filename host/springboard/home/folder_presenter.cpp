@@ -56,8 +56,8 @@ void FolderPresenter::close(Motion motion) {
   overlay.setUserInteractionEnabled(NO);
   const CGAffineTransform onto_icon = transform_onto_icon();
   // Another folder may be open by the time this one has gone.
-  const auto closed = objc::block([this, kept = overlay_](BOOL) {
-    if (kept.get() == overlay_.get()) take_down();
+  const auto closed = objc::block([this, kept = overlay_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && kept.get() == overlay_.get()) take_down();
   });
   UIView::animateWithDuration(kClosing, objc::block([=] {
                                 overlay.setAlpha(0);

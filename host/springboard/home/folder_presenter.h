@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -38,6 +39,8 @@ class FolderPresenter {
   std::string folder_;
   CGRect icon_frame_;
   bool closing_ = false;
+  /// Ends with this object: an animation may outlast it.
+  std::shared_ptr<void> life_ = std::make_shared<char>();
   objc::Ref<UIView> overlay_;
   objc::Ref<UIView> panel_;
   objc::Ref<UIView> list_;

@@ -30,7 +30,7 @@ constexpr std::array kSecondPage{
     "com.apple.files",
 };
 
-constexpr const char* kFolderTitle = "Extras";
+constexpr const char* kFolderTitle = "Utilities";
 constexpr std::array kFolder{
     "com.apple.MobileAddressBook", "com.apple.calculator", "com.apple.compass",
     "com.apple.VoiceMemos",        "com.apple.extras",

@@ -52,8 +52,8 @@ void LaunchScreen::close() {
   const UIView screen = *screen_;
   screen.setUserInteractionEnabled(NO);
   const CGAffineTransform onto_icon = transform_onto_icon();
-  const auto closed = objc::block([this, kept = screen_](BOOL) {
-    if (kept.get() == screen_.get()) take_down();
+  const auto closed = objc::block([this, kept = screen_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && kept.get() == screen_.get()) take_down();
   });
   UIView::animateWithDuration(kClosing, objc::block([=] {
                                 screen.setTransform(onto_icon);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "objc/ref.h"
@@ -32,6 +33,8 @@ class LaunchScreen {
   objc::Ref<UIView> screen_;
   CGRect from_;
   bool closing_ = false;
+  /// Ends with this object: an animation may outlast it.
+  std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 
 }  // namespace host::springboard

@@ -14,7 +14,7 @@ namespace {
 
 // A name may be a little wider than its icon before it is cut.
 constexpr CGFloat kLabelOverhang = 12;
-constexpr CGFloat kLabelTop = 4;
+constexpr CGFloat kLabelTop = 3;
 constexpr CGFloat kLabelHeight = 16;
 constexpr CGFloat kShadeAlpha = 0.4;
 constexpr double kScaling = 0.2;

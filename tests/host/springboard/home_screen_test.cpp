@@ -1,5 +1,4 @@
-#include <algorithm>
-
+#include "host/springboard/system/status_bar.h"
 #include "host/springboard/system_actions.h"
 #include "platform/SpringBoard/SBApplicationController.h"
 #include "platform/SpringBoard/SBDockIconListView.h"
@@ -180,6 +179,32 @@ TEST_F(HomeScreenTest, TheStatusBarLiesAboveTheHomeScreenAndTakesNoTouch) {
   EXPECT_EQ(top.windowLevel(), UIWindowLevelStatusBar);
   EXPECT_EQ(top.frame(), (CGRect{0, 0, 375, 20}));
   EXPECT_FALSE(top.isUserInteractionEnabled());
+}
+
+/// A minute of the wall is a minute of the test's clock.
+class TickingWallClock final : public WallClock {
+ public:
+  explicit TickingWallClock(const Clock& clock) : clock_(clock), start_(clock.now()) {}
+  std::string time_text() const override {
+    return "10:0" + std::to_string(static_cast<int>((clock_.now() - start_ + 0.001) / 60));
+  }
+  double seconds_to_next_minute() const override { return 60; }
+
+ private:
+  const Clock& clock_;
+  double start_;
+};
+
+TEST_F(HomeScreenTest, TheStatusBarFollowsTheWallClockFromMinuteToMinute) {
+  const TickingWallClock wall(clock);
+  StatusBar bar(wall);
+  EXPECT_STREQ(bar.time_text().UTF8String(), "10:00");
+  advance(59);
+  EXPECT_STREQ(bar.time_text().UTF8String(), "10:00");
+  advance(1.5);
+  EXPECT_STREQ(bar.time_text().UTF8String(), "10:01");
+  advance(60);
+  EXPECT_STREQ(bar.time_text().UTF8String(), "10:02");
 }
 
 TEST_F(HomeScreenTest, AScreenAtRestWantsNoFrames) {
