@@ -31,9 +31,21 @@ bool QueuePlayer::set_current(std::uint64_t id) {
   return true;
 }
 
-void QueuePlayer::play() {
+void QueuePlayer::prepare() {
   if (!queue_.current() && !queue_.select_first()) return;
   if (loaded_ != queue_.current()) load_current();
+}
+
+bool QueuePlayer::resume_paused(std::uint64_t id, double seconds) {
+  if (!path_of_(id) || !set_current(id)) return false;
+  player_.pause();
+  player_.seek(seconds);
+  set_state(PlaybackState::paused);
+  return true;
+}
+
+void QueuePlayer::play() {
+  prepare();
   if (!loaded_) return;
   player_.play();
   set_state(PlaybackState::playing);

@@ -34,6 +34,11 @@ class QueuePlayer final : private PlayerListener {
   // Makes the song the current one and goes on playing or waiting. False when it is not queued.
   bool set_current(std::uint64_t id);
 
+  // Makes ready what `play` would play: the first song when none is current.
+  void prepare();
+  // Makes the song the current one, paused at `seconds`: how an earlier process left it. False when
+  // it is not queued or the library does not hold it any more.
+  bool resume_paused(std::uint64_t id, double seconds);
   // Begins with the first song when none is current.
   void play();
   void pause();
@@ -46,6 +51,8 @@ class QueuePlayer final : private PlayerListener {
   void seek(double seconds) { player_.seek(seconds); }
 
   std::optional<std::uint64_t> current() const { return queue_.current(); }
+  // The song that the player holds, playing or not.
+  std::optional<std::uint64_t> loaded() const { return loaded_; }
   const PlayQueue& queue() const { return queue_; }
   PlaybackState state() const { return state_; }
   double position() const { return player_.position(); }
@@ -64,8 +71,8 @@ class QueuePlayer final : private PlayerListener {
   PathOf path_of_;
   PlayQueue queue_;
   PlaybackState state_ = PlaybackState::stopped;
-  std::optional<std::uint64_t> loaded_;  // The song that the player holds.
-  std::optional<std::uint64_t> told_;    // The song that was last told.
+  std::optional<std::uint64_t> loaded_;
+  std::optional<std::uint64_t> told_;  // The song that was last told.
 };
 
 }  // namespace host::media

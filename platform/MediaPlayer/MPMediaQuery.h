@@ -3,6 +3,11 @@
 #include "platform/Foundation/NSArray.h"
 #include "platform/MediaPlayer/MPMediaItem.h"
 
+// Posted after the library has changed; queries answer anew from then on.
+extern "C" {
+extern NSString MPMediaLibraryDidChangeNotification;
+}
+
 struct MPMediaPropertyPredicate
     : objc::Bound<MPMediaPropertyPredicate, "MPMediaPropertyPredicate", NSObject> {
   static MPMediaPropertyPredicate predicateWithValue(objc::Object value, NSString property) {

@@ -2,6 +2,12 @@
 
 #include "platform/MediaPlayer/MPMediaQuery.h"
 
+// Posted by the system's player after its state or its song has changed.
+extern "C" {
+extern NSString MPMusicPlayerControllerPlaybackStateDidChangeNotification;
+extern NSString MPMusicPlayerControllerNowPlayingItemDidChangeNotification;
+}
+
 enum MPMusicPlaybackState : NSInteger {
   MPMusicPlaybackStateStopped,
   MPMusicPlaybackStatePlaying,

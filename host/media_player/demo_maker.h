@@ -1,0 +1,39 @@
+#pragma once
+
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+
+#include "host/media/demo/demo_library.h"
+#include "host/media/event_signal.h"
+#include "host/media_player/media_options.h"
+
+namespace host::media_player {
+
+/// Makes the demo music beside the screen, on a thread of its own. All members are for the main
+/// thread, which watches `descriptor()`. Destroying it stops the work, and nothing half made stays.
+class DemoMaker {
+ public:
+  struct News {
+    media::DemoProgress progress;
+    bool is_over = false;
+    std::optional<std::string> failure;  // Why there is no music, once it is over.
+  };
+
+  explicit DemoMaker(DemoMusic demo);
+
+  int descriptor() const { return signal_.descriptor(); }
+  /// How things stand now.
+  News take_news();
+
+ private:
+  void run(const DemoMusic& demo, const std::stop_token& stop);
+
+  media::EventSignal signal_;
+  std::mutex mutex_;
+  News news_;
+  std::jthread thread_;  // Last, so that it ends before what it uses.
+};
+
+}  // namespace host::media_player

@@ -1,0 +1,134 @@
+#include "host/media_player/library_feed.h"
+
+#include <poll.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+#include "host/media/log.h"
+
+namespace host::media_player {
+
+using media::ScanProgress;
+using media::ScanStage;
+using media::ScanUpdate;
+
+std::string default_demo_folder() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  if (data && *data == '/') return std::string{data} + "/sonavue/demo-music";
+  const char* home = std::getenv("HOME");
+  return std::string{home ? home : ""} + "/.local/share/sonavue/demo-music";
+}
+
+LibraryFeed::LibraryFeed(const MediaOptions& options, Listener listener)
+    : roots_(options.music_folders),
+      demo_(options.demo),
+      index_path_(options.index_path),
+      first_scan_(options.pace == media::PlayerPace::stepped ? FirstScan::kBeforeStart
+                                                             : options.first_scan),
+      listener_(std::move(listener)) {
+  if (demo_) roots_.push_back(demo_->folder);
+}
+
+LibraryFeed::~LibraryFeed() {
+  if (demo_watch_) RunLoop::main().unwatch(demo_watch_);
+  if (scan_watch_) RunLoop::main().unwatch(scan_watch_);
+}
+
+void LibraryFeed::start() {
+  if (first_scan_ == FirstScan::kBeforeStart) {
+    make_demo_now();
+    scan_now();
+  } else if (missing_demo()) {
+    deliver(media::Library::build({}));
+    start_demo();
+  } else {
+    start_scan();
+  }
+}
+
+const DemoMusic* LibraryFeed::missing_demo() const {
+  return demo_ && !std::filesystem::exists(demo_->folder) ? &*demo_ : nullptr;
+}
+
+void LibraryFeed::make_demo_now() {
+  const DemoMusic* demo = missing_demo();
+  if (!demo) return;
+  const auto failure = media::make_demo_library(
+      demo->folder, demo->covers, [this](media::DemoProgress progress) { tell_demo(progress); });
+  if (failure) media::log_warning("the demo music cannot be made: " + *failure);
+}
+
+void LibraryFeed::scan_now() {
+  media::Index index{index_path_};
+  auto outcome = media::scan_folders(index, roots_, [this](const ScanProgress& files) {
+    tell_files(MediaProgress::Stage::kReadingFiles, files);
+  });
+  deliver(std::move(outcome.library));
+  tell_files(MediaProgress::Stage::kReady, outcome.progress);
+}
+
+void LibraryFeed::start_demo() {
+  demo_maker_ = std::make_unique<DemoMaker>(*demo_);
+  demo_watch_ = RunLoop::main().watch(demo_maker_->descriptor(), [this] { hear_demo(); });
+}
+
+void LibraryFeed::hear_demo() {
+  const DemoMaker::News news = demo_maker_->take_news();
+  tell_demo(news.progress);
+  if (!news.is_over) return;
+  if (news.failure) media::log_warning("the demo music cannot be made: " + *news.failure);
+  RunLoop::main().unwatch(std::exchange(demo_watch_, 0));
+  demo_maker_.reset();
+  start_scan();
+}
+
+void LibraryFeed::start_scan() {
+  scanner_ = std::make_unique<media::Scanner>(index_path_);
+  scanner_->start(roots_);
+  // What the last scan left is a matter of a moment, and a screen that begins without it would have
+  // to be filled a second time.
+  while (!library_) {
+    pollfd waiting{scanner_->descriptor(), POLLIN, 0};
+    ::poll(&waiting, 1, -1);
+    if (const auto update = scanner_->take_update()) take(*update);
+  }
+  scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { hear_scan(); });
+}
+
+void LibraryFeed::hear_scan() {
+  while (const auto update = scanner_->take_update())
+    take(*update);
+}
+
+void LibraryFeed::take(const ScanUpdate& update) {
+  if (update.library) deliver(update.library);
+  const bool is_ready = update.stage == ScanStage::finished;
+  tell_files(is_ready ? MediaProgress::Stage::kReady : MediaProgress::Stage::kReadingFiles,
+             update.progress);
+}
+
+void LibraryFeed::deliver(std::shared_ptr<const media::Library> library) {
+  if (library == library_) return;
+  library_ = std::move(library);
+  listener_.on_library(library_);
+}
+
+void LibraryFeed::tell_demo(media::DemoProgress progress) {
+  MediaProgress news;
+  news.stage = MediaProgress::Stage::kMakingMusic;
+  news.made = progress.made;
+  news.to_make = progress.total;
+  listener_.on_progress(news);
+}
+
+void LibraryFeed::tell_files(MediaProgress::Stage stage, const ScanProgress& files) {
+  MediaProgress news;
+  news.stage = stage;
+  news.files = files;
+  news.songs = library_ ? library_->tracks().size() : 0;
+  listener_.on_progress(news);
+}
+
+}  // namespace host::media_player

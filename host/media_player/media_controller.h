@@ -1,0 +1,35 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "platform/SpringBoard/SBMediaController.h"
+
+namespace host::media_player {
+
+/// The home screen's hand on whatever plays.
+class MediaController : public objc::Implementation<MediaController, SBMediaController> {
+ public:
+  explicit MediaController(SBMediaController owner) : Implementation(owner) {}
+
+  BOOL is_playing();
+  BOOL is_paused();
+  BOOL has_track();
+  BOOL toggle_play_pause();
+  BOOL change_track(int direction);
+  NSString now_playing_title();
+  NSString now_playing_artist();
+  NSString now_playing_album();
+  float volume();
+  void set_volume(float volume);
+  void change_volume_by(float step);
+  void system_volume_changed(objc::Object notification);
+
+  /// What the playing engine says of itself, so that the console can compare what is shown with
+  /// what sounds. The path is nil when nothing is loaded; the position is in seconds.
+  NSString player_path();
+  BOOL player_is_paused();
+  double player_position();
+};
+
+void export_media_controller();
+
+}  // namespace host::media_player

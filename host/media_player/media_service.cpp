@@ -1,0 +1,135 @@
+#include "host/media_player/media_service.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/media/log.h"
+#include "host/media/mpv_player.h"
+#include "host/media_player/playback_memory.h"
+#include "platform/Foundation/NSNotificationCenter.h"
+#include "platform/MediaPlayer/MPMediaQuery.h"
+
+namespace host::media_player {
+namespace {
+
+constexpr double kFirstVolume = 0.75;
+
+// Never destroyed behind the end of `main`, when the loop that it stands on is gone.
+std::unique_ptr<MediaService>& running() {
+  static auto* const service = new std::unique_ptr<MediaService>;
+  return *service;
+}
+
+std::shared_ptr<ItemStore> empty_store() {
+  return std::make_shared<ItemStore>(media::Library::build({}));
+}
+
+}  // namespace
+
+std::optional<std::string> MediaService::start(MediaOptions options) {
+  stop();
+  auto player = media::MpvPlayer::create(
+      {options.audio_output, options.pace, [] { return RunLoop::main().now(); }});
+  if (!player) return "the playing engine cannot be started";
+  running().reset(new MediaService{std::move(options), std::move(player)});
+  running()->feed_.start();
+  running()->recall();
+  return std::nullopt;
+}
+
+void MediaService::stop() {
+  if (running()) running()->remember();
+  running().reset();
+}
+
+MediaService* MediaService::current() {
+  return running().get();
+}
+
+MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> player)
+    : options_(std::move(options)),
+      items_(empty_store()),
+      playback_(std::move(player), options_.pace,
+                [this](std::uint64_t id) -> std::optional<std::string> {
+                  const media::Track* track = items_->library().find(id);
+                  return track ? std::optional{std::string{track->path}} : std::nullopt;
+                }),
+      feed_(options_, {[this](auto library) { take(std::move(library)); },
+                       [this](const MediaProgress& progress) {
+                         if (options_.on_progress) options_.on_progress(progress);
+                       }}) {
+  playback_.set_volume(kFirstVolume);
+  playback_.on_change = [this] { remember_soon(); };
+}
+
+MediaService::~MediaService() = default;
+
+void MediaService::take(std::shared_ptr<const media::Library> library) {
+  items_ = std::make_shared<ItemStore>(std::move(library));
+  NSNotificationCenter::defaultCenter().postNotificationName(MPMediaLibraryDidChangeNotification,
+                                                             nil, nil);
+}
+
+const media::Track* MediaService::now_playing() const {
+  const auto song = playback_.song();
+  return song ? items_->library().find(*song) : nullptr;
+}
+
+MPMediaItem MediaService::now_playing_item() {
+  const auto song = playback_.song();
+  return song ? items_->item_with_id(*song) : MPMediaItem();
+}
+
+bool MediaService::toggle() {
+  if (playback_.state() == media::PlaybackState::playing) {
+    playback_.pause();
+    return true;
+  }
+  if (playback_.queue().tracks().empty()) playback_.set_queue(all_songs());
+  playback_.play();
+  return playback_.state() == media::PlaybackState::playing;
+}
+
+std::vector<std::uint64_t> MediaService::all_songs() const {
+  std::vector<std::uint64_t> ids;
+  ids.reserve(items_->count());
+  for (const media::Track& track : items_->library().tracks())
+    ids.push_back(track.id);
+  return ids;
+}
+
+void MediaService::recall() {
+  if (options_.memory_path.empty()) return;
+  const RememberedPlayback memory = read_playback(options_.memory_path);
+  if (memory.volume) playback_.set_volume(*memory.volume);
+  if (memory.song == 0) return;
+  playback_.set_queue(memory.queue ? *memory.queue : all_songs());
+  if (!playback_.resume_paused(memory.song, memory.position_seconds)) playback_.set_queue({});
+}
+
+// Several things change together when a song ends; they are written once, after the turn.
+void MediaService::remember_soon() {
+  if (std::exchange(is_memory_old_, true)) return;
+  RunLoop::main().perform([] {
+    if (MediaService* service = current(); service && service->is_memory_old_) service->remember();
+  });
+}
+
+void MediaService::remember() {
+  is_memory_old_ = false;
+  if (options_.memory_path.empty()) return;
+  RememberedPlayback memory;
+  memory.song = playback_.song().value_or(0);
+  memory.position_seconds = playback_.position();
+  memory.volume = playback_.volume();
+  // The whole library is by far the most usual queue, and is not written out song by song.
+  if (const auto queue = playback_.queue().tracks(); !std::ranges::equal(queue, all_songs())) {
+    memory.queue.emplace(queue.begin(), queue.end());
+  }
+  if (!write_playback(options_.memory_path, memory)) {
+    media::log_warning("what plays cannot be remembered in " + options_.memory_path);
+    options_.memory_path.clear();
+  }
+}
+
+}  // namespace host::media_player

@@ -1,0 +1,130 @@
+#include "host/media_player/music_player_controller.h"
+
+#include "host/media_player/media_item.h"
+#include "host/media_player/media_service.h"
+#include "host/media_player/query.h"
+#include "platform/Foundation/NSNotificationCenter.h"
+#include "platform/Foundation/NSValue.h"
+
+// Loaded libraries bind to these in the executable.
+#pragma GCC visibility push(default)
+extern "C" {
+NSString MPMusicPlayerControllerPlaybackStateDidChangeNotification;
+NSString MPMusicPlayerControllerNowPlayingItemDidChangeNotification;
+}
+#pragma GCC visibility pop
+
+namespace host::media_player {
+namespace {
+
+Playback* playback() {
+  MediaService* service = MediaService::current();
+  return service ? &service->playback() : nullptr;
+}
+
+// One for the life of the process: whoever loads early may keep it.
+MPMusicPlayerController ipod_music_player(objc::Object) {
+  static const MPMusicPlayerController player = MPMusicPlayerController::alloc().init();
+  return player;
+}
+
+}  // namespace
+
+void MusicPlayerController::set_queue_with_query(MPMediaQuery query) {
+  Playback* const player = playback();
+  if (player && query) player->set_queue(objc::state_of<Query>(query).song_ids());
+}
+
+MPMediaItem MusicPlayerController::now_playing_item() {
+  MediaService* service = MediaService::current();
+  return service ? service->now_playing_item() : MPMediaItem();
+}
+
+void MusicPlayerController::set_now_playing_item(MPMediaItem item) {
+  Playback* const player = playback();
+  if (!player || !item) return;
+  const media::Track* track = objc::state_of<MediaItem>(item).track();
+  if (track) player->set_current(track->id);
+}
+
+MPMusicPlaybackState MusicPlayerController::playback_state() {
+  const Playback* player = playback();
+  if (!player) return MPMusicPlaybackStateStopped;
+  switch (player->state()) {
+    case media::PlaybackState::playing:
+      return MPMusicPlaybackStatePlaying;
+    case media::PlaybackState::paused:
+      return MPMusicPlaybackStatePaused;
+    case media::PlaybackState::stopped:
+      break;
+  }
+  return MPMusicPlaybackStateStopped;
+}
+
+void MusicPlayerController::prepare_to_play() {
+  if (Playback* player = playback()) player->prepare();
+}
+
+void MusicPlayerController::play() {
+  if (Playback* player = playback()) player->play();
+}
+
+void MusicPlayerController::pause() {
+  if (Playback* player = playback()) player->pause();
+}
+
+void MusicPlayerController::stop() {
+  if (Playback* player = playback()) player->stop();
+}
+
+void MusicPlayerController::skip_to_next_item() {
+  if (Playback* player = playback()) player->next();
+}
+
+void MusicPlayerController::skip_to_previous_item() {
+  if (Playback* player = playback()) player->previous();
+}
+
+double MusicPlayerController::current_playback_time() {
+  const Playback* player = playback();
+  return player ? player->position() : 0;
+}
+
+void MusicPlayerController::set_current_playback_time(double seconds) {
+  if (Playback* player = playback()) player->seek(seconds);
+}
+
+void MusicPlayerController::playback_state_did_change(int state) {
+  const NSDictionary details = NSDictionary::dictionaryWithObject(
+      NSNumber::numberWithInt(state), "MPMusicPlayerControllerPlaybackStateKey"_ns);
+  NSNotificationCenter::defaultCenter().postNotificationName(
+      MPMusicPlayerControllerPlaybackStateDidChangeNotification, self, details);
+}
+
+void export_music_player_controller() {
+  if (objc_getClass("MPMusicPlayerController")) return;
+  MPMusicPlayerControllerPlaybackStateDidChangeNotification =
+      "MPMusicPlayerControllerPlaybackStateDidChangeNotification"_ns;
+  MPMusicPlayerControllerNowPlayingItemDidChangeNotification =
+      "MPMusicPlayerControllerNowPlayingItemDidChangeNotification"_ns;
+  using Controller = MusicPlayerController;
+  objc::ClassBuilder("MPMusicPlayerController", "NSObject")
+      .state<Controller>()
+      .class_method<&ipod_music_player>("iPodMusicPlayer")
+      .method<&Controller::set_queue_with_query>("setQueueWithQuery:")
+      .method<&Controller::now_playing_item>("nowPlayingItem")
+      .method<&Controller::set_now_playing_item>("setNowPlayingItem:")
+      .method<&Controller::playback_state>("playbackState")
+      .method<&Controller::prepare_to_play>("prepareToPlay")
+      .method<&Controller::play>("play")
+      .method<&Controller::pause>("pause")
+      .method<&Controller::stop>("stop")
+      .method<&Controller::skip_to_next_item>("skipToNextItem")
+      .method<&Controller::skip_to_previous_item>("skipToPreviousItem")
+      .method<&Controller::current_playback_time>("currentPlaybackTime")
+      .method<&Controller::set_current_playback_time>("setCurrentPlaybackTime:")
+      .method<&Controller::playback_state_did_change>("_playbackStateDidChange:")
+      .finish();
+}
+
+}  // namespace host::media_player

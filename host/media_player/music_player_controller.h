@@ -1,0 +1,32 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "platform/MediaPlayer/MPMusicPlayerController.h"
+
+namespace host::media_player {
+
+/// The system's music player, a view of the process's media service.
+class MusicPlayerController
+    : public objc::Implementation<MusicPlayerController, MPMusicPlayerController> {
+ public:
+  explicit MusicPlayerController(MPMusicPlayerController owner) : Implementation(owner) {}
+
+  void set_queue_with_query(MPMediaQuery query);
+  MPMediaItem now_playing_item();
+  /// Nothing happens when the item is not in the queue.
+  void set_now_playing_item(MPMediaItem item);
+  MPMusicPlaybackState playback_state();
+  void prepare_to_play();
+  void play();
+  void pause();
+  void stop();
+  void skip_to_next_item();
+  void skip_to_previous_item();
+  double current_playback_time();
+  void set_current_playback_time(double seconds);
+  void playback_state_did_change(int state);
+};
+
+void export_music_player_controller();
+
+}  // namespace host::media_player

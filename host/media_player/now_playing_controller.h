@@ -1,0 +1,23 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "platform/MediaPlayerUI/MPUNowPlayingController.h"
+
+namespace host::media_player {
+
+/// What plays now, as the player last reported it.
+class NowPlayingController
+    : public objc::Implementation<NowPlayingController, MPUNowPlayingController> {
+ public:
+  explicit NowPlayingController(MPUNowPlayingController owner) : Implementation(owner) {}
+
+  UIImage current_now_playing_artwork();
+  /// Nil when nothing is loaded; a text that the song lacks is not in it.
+  NSDictionary current_now_playing_info();
+  double current_elapsed();
+  double current_duration();
+};
+
+void export_now_playing_controller();
+
+}  // namespace host::media_player

@@ -1,0 +1,135 @@
+#include "host/media_player/playback.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/Foundation/NSNotificationCenter.h"
+#include "platform/MediaPlayer/MPMusicPlayerController.h"
+#include "platform/SpringBoard/SBMediaController.h"
+
+namespace host::media_player {
+namespace {
+
+// Before views are laid out, so that what they show is what the player has come to.
+constexpr int kTurnOrder = 50;
+// Sums of times meet only up to rounding; a song must be over when its end is looked for.
+constexpr double kEndSlack = 1e-6;
+// Tells one report from the next, and is far below anything that a person sees or hears.
+constexpr double kReportStep = 1e-6;
+constexpr std::uint32_t kReportSteps = 1000;
+
+MPMusicPlaybackState platform_state(media::PlaybackState state) {
+  switch (state) {
+    case media::PlaybackState::playing:
+      return MPMusicPlaybackStatePlaying;
+    case media::PlaybackState::paused:
+      return MPMusicPlaybackStatePaused;
+    case media::PlaybackState::stopped:
+      break;
+  }
+  return MPMusicPlaybackStateStopped;
+}
+
+// News reaches the objects of the system in the next turn, as it comes from another process there.
+void tell_volume() {
+  RunLoop::main().perform([] {
+    const auto news = objc::send<objc::Object>(
+        objc::Object(objc_getClass("NSNotification")), "notificationWithName:object:"_sel,
+        "AVSystemController_SystemVolumeDidChangeNotification"_ns, objc::Object());
+    SBMediaController::sharedInstance()._systemVolumeChanged(news);
+  });
+}
+
+}  // namespace
+
+Playback::Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace,
+                   media::QueuePlayer::PathOf path_of)
+    : player_(std::move(player)), pace_(pace), queue_(*player_, std::move(path_of)) {
+  queue_.on_state_change = [this](media::PlaybackState state) { hear_state(state); };
+  queue_.on_song_change = [this] { hear_song(); };
+  watch_ = RunLoop::main().watch(player_->descriptor(), [this] { player_->pump(); });
+  if (pace_ == media::PlayerPace::stepped) {
+    turn_ = RunLoop::main().add_turn_observer(kTurnOrder, [this] { player_->pump(); });
+  }
+}
+
+Playback::~Playback() {
+  RunLoop& loop = RunLoop::main();
+  loop.unwatch(watch_);
+  if (turn_) loop.remove_turn_observer(turn_);
+  if (end_) loop.remove_timer(end_);
+}
+
+void Playback::set_queue(std::vector<std::uint64_t> ids) {
+  queue_.set_queue(std::move(ids));
+  changed();
+}
+
+bool Playback::set_current(std::uint64_t id) {
+  if (!queue_.set_current(id)) return false;
+  report();
+  return true;
+}
+
+bool Playback::resume_paused(std::uint64_t id, double seconds) {
+  if (!queue_.resume_paused(id, seconds)) return false;
+  report();
+  return true;
+}
+
+void Playback::previous() {
+  queue_.previous();
+  report();
+}
+
+void Playback::seek(double seconds) {
+  queue_.seek(seconds);
+  report();
+}
+
+void Playback::set_volume(double volume) {
+  const double before = player_->volume();
+  player_->set_volume(volume);
+  if (player_->volume() == before) return;
+  tell_volume();
+  changed();
+}
+
+void Playback::report() {
+  reports_ = (reports_ + 1) % kReportSteps;
+  reported_elapsed_ = song() ? position() + (reports_ + 1) * kReportStep : 0;
+  follow_end();
+  changed();
+}
+
+void Playback::hear_state(media::PlaybackState state) {
+  report();
+  RunLoop::main().perform([state = static_cast<int>(platform_state(state))] {
+    MPMusicPlayerController::iPodMusicPlayer()._playbackStateDidChange(state);
+  });
+}
+
+void Playback::hear_song() {
+  report();
+  RunLoop::main().perform([] {
+    NSNotificationCenter::defaultCenter().postNotificationName(
+        MPMusicPlayerControllerNowPlayingItemDidChangeNotification,
+        MPMusicPlayerController::iPodMusicPlayer(), nil);
+  });
+}
+
+// On a stepped clock nothing else would wake the loop at the moment a song is over.
+void Playback::follow_end() {
+  if (pace_ != media::PlayerPace::stepped) return;
+  RunLoop& loop = RunLoop::main();
+  if (end_) loop.remove_timer(std::exchange(end_, 0));
+  if (state() != media::PlaybackState::playing || duration() <= 0) return;
+  const double rest = std::max(0.0, duration() - position());
+  end_ = loop.add_timer(loop.now() + rest + kEndSlack, 0, [this] {
+    end_ = 0;
+    player_->pump();
+  });
+}
+
+}  // namespace host::media_player

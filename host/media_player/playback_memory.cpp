@@ -1,0 +1,76 @@
+#include "host/media_player/playback_memory.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+
+#include "objc/autorelease_pool.h"
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSValue.h"
+
+namespace host::media_player {
+namespace {
+
+template <class T>
+T typed(objc::Object value) {
+  return value && objc::cast<NSObject>(value).isKindOfClass(T::cls()) ? objc::cast<T>(value) : T();
+}
+
+NSString string_from(const std::string& text) {
+  return NSString::stringWithUTF8String(text.c_str());
+}
+
+// Identifiers are kept as text: a property list may hold a number of their size as something else.
+NSString text_of(std::uint64_t id) {
+  return string_from(std::to_string(id));
+}
+
+std::uint64_t identifier(objc::Object value) {
+  const auto text = typed<NSString>(value);
+  return text ? std::strtoull(text.UTF8String(), nullptr, 10) : 0;
+}
+
+std::optional<double> number(objc::Object value) {
+  const auto found = typed<NSNumber>(value);
+  if (!found || !std::isfinite(found.doubleValue())) return std::nullopt;
+  return found.doubleValue();
+}
+
+}  // namespace
+
+RememberedPlayback read_playback(const std::string& path) {
+  const objc::AutoreleasePool pool;
+  RememberedPlayback playback;
+  if (!std::filesystem::is_regular_file(path)) return playback;
+  const auto kept = NSDictionary::dictionaryWithContentsOfFile(string_from(path));
+  playback.song = identifier(kept.objectForKey("song"_ns));
+  playback.position_seconds = number(kept.objectForKey("position"_ns)).value_or(0);
+  playback.volume = number(kept.objectForKey("volume"_ns));
+  if (const auto queue = typed<NSArray>(kept.objectForKey("queue"_ns))) {
+    playback.queue.emplace();
+    for (const auto id : queue.of<objc::Object>())
+      playback.queue->push_back(identifier(id));
+  }
+  return playback;
+}
+
+bool write_playback(const std::string& path, const RememberedPlayback& playback) {
+  const objc::AutoreleasePool pool;
+  const NSMutableDictionary kept = NSMutableDictionary::dictionary();
+  kept.setObject(text_of(playback.song), "song"_ns);
+  kept.setObject(NSNumber::numberWithDouble(playback.position_seconds), "position"_ns);
+  if (playback.volume) {
+    kept.setObject(NSNumber::numberWithDouble(*playback.volume), "volume"_ns);
+  }
+  if (playback.queue) {
+    const NSMutableArray queue = NSMutableArray::array();
+    for (const std::uint64_t id : *playback.queue)
+      queue.addObject(text_of(id));
+    kept.setObject(queue, "queue"_ns);
+  }
+  std::error_code ignored;
+  std::filesystem::create_directories(std::filesystem::path{path}.parent_path(), ignored);
+  return kept.writeToFile(string_from(path), YES) != NO;
+}
+
+}  // namespace host::media_player
