@@ -3,6 +3,7 @@
 #include "tweak/device.h"
 #include "tweak/gesture_listener.h"
 #include "tweak/globals.h"
+#include "tweak/library/album_slide.h"
 #include "tweak/library/album_table.h"
 #include "tweak/library/scroller.h"
 #include "tweak/library/song_list.h"
@@ -39,7 +40,7 @@ void add_methods() {
       row<&not_yet_with<"textFieldDidBeginEditing:">>("textFieldDidBeginEditing:"),
       row<&not_yet_with<"textFieldDidEndEditing:">>("textFieldDidEndEditing:"),
       row<&not_yet_asked<"textFieldShouldReturn:">>("textFieldShouldReturn:"),
-      row<&not_yet<"showTable">>("showTable"),
+      row<&showTable>("showTable"),
       row<&dismisWithNoAction>("dismisWithNoAction"),
       row<&gesture_should_receive_touch>("gestureRecognizer:shouldReceiveTouch:"),
       row<&gestures_may_be_simultaneous>(

@@ -1,0 +1,39 @@
+#include "tweak/library/album_slide.h"
+
+#include <cstddef>
+
+#include "tweak/movement/geometry.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kSlideOut = 0.2;
+
+struct Swing {
+  CGFloat x;
+  double seconds;
+};
+
+// Beyond the artwork's left edge and back, each time by less.
+constexpr Swing kBounce[] = {{-20, 0.2}, {15, 0.15}, {-10, 0.15}, {5, 0.15}, {0, 0.15}};
+constexpr std::size_t kSwings = sizeof kBounce / sizeof *kBounce;
+
+void swing(std::size_t index) {
+  if (index == kSwings) return;
+  UIView::animateWithDuration(kBounce[index].seconds, objc::block([index] {
+                                move_to(blurTable, kBounce[index].x, blurTable.frame().origin.y);
+                              }),
+                              objc::block([index](BOOL) { swing(index + 1); }));
+}
+
+}  // namespace
+
+void showTable(SpringBoard) {
+  if (blurTable.frame().origin.x == 0) {
+    UIView::animateWithDuration(kSlideOut, objc::block([] { slide_album_table_aside(); }));
+    return;
+  }
+  swing(0);
+}
+
+}  // namespace sonavue

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/SpringBoard/SpringBoard.h"
+
+namespace sonavue {
+
+/// The double tap on the artwork: slides the table of the current album in with a damped bounce,
+/// or out again without one.
+void showTable(SpringBoard self);
+
+}  // namespace sonavue
