@@ -41,3 +41,13 @@ function(sonavue_module name)
   add_library(${name}_root INTERFACE)
   target_include_directories(${name}_root INTERFACE ${root})
 endfunction()
+
+# Links all objects of static libraries, also those that nothing in the program refers to: libraries
+# loaded later bind to what they export.
+function(sonavue_link_whole target)
+  foreach(library IN LISTS ARGN)
+    target_link_options(${target} PRIVATE
+      LINKER:--whole-archive $<TARGET_FILE:${library}> LINKER:--no-whole-archive)
+    target_link_libraries(${target} PRIVATE ${library})
+  endforeach()
+endfunction()

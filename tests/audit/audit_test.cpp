@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "host/launcher/home_screen/platform_classes.h"
+#include "host/runtime/run_loop.h"
+#include "objc/binding_table.h"
+#include "objc/encoding.h"
+#include "tests/audit/all_bindings.h"
+#include "ui/M13ProgressView.h"
+#include "ui/M13ProgressViewRing.h"
+
+// Every binding is held against what this process really implements: the class is there, it answers
+// the selector, and with the same types.
+
+namespace {
+
+// Handles for what a delegate may answer; no class implements them.
+bool is_protocol(std::string_view name) {
+  return name.ends_with("Delegate") || name.ends_with("DataSource");
+}
+
+// Classes that extensions may name and this phone does not have yet, as a real one may lack them.
+constexpr std::array<std::string_view, 2> kAbsent{"LAActivator", "LAEvent"};
+
+bool is_absent(std::string_view name) {
+  return std::find(kAbsent.begin(), kAbsent.end(), name) != kAbsent.end();
+}
+
+std::string name_of(const objc::Binding& binding) {
+  return std::string(binding.of_class ? "+[" : "-[") + binding.class_name + " " + binding.selector +
+         "]";
+}
+
+void check(const objc::Binding& binding) {
+  const objc::Class cls = objc_getClass(binding.class_name);
+  ASSERT_TRUE(cls) << binding.class_name << " is bound and not implemented";
+  const objc::Sel selector = sel_registerName(binding.selector);
+  const objc::Method method = binding.of_class ? class_getClassMethod(cls, selector)
+                                               : class_getInstanceMethod(cls, selector);
+  ASSERT_TRUE(method) << name_of(binding) << " is bound and not implemented";
+  EXPECT_TRUE(objc::same_encoding(binding.encoding, method_getTypeEncoding(method)))
+      << name_of(binding) << " is bound as " << binding.encoding << " and implemented as "
+      << method_getTypeEncoding(method);
+}
+
+struct AuditTest : ::testing::Test {
+  AuditTest() : loop(clock) {
+    host::RunLoop::set_main(&loop);
+    host::launcher::export_platform_classes();
+    sonavue::make_progress_view();
+    sonavue::make_progress_view_ring();
+  }
+  ~AuditTest() override { host::RunLoop::set_main(nullptr); }
+
+  host::SteppedClock clock;
+  host::RunLoop loop;
+};
+
+TEST_F(AuditTest, EveryBindingIsAnsweredWithTheSameTypes) {
+  int checked = 0;
+  for (const objc::Binding* at = objc::Binding::first; at; at = at->next) {
+    if (is_protocol(at->class_name) || is_absent(at->class_name)) continue;
+    check(*at);
+    ++checked;
+  }
+  EXPECT_GT(checked, 500) << "the table of bindings is not what it should be";
+}
+
+TEST_F(AuditTest, WhatIsCalledAbsentIsAbsent) {
+  for (const std::string_view name : kAbsent)
+    EXPECT_FALSE(objc_getClass(std::string(name).c_str()));
+}
+
+}  // namespace
