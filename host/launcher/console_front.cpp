@@ -67,7 +67,7 @@ void ConsoleFront::detach(Departure departure) {
 }
 
 void ConsoleFront::send_next() {
-  if (process_ < 0 || waiting_ || verdict_) return;
+  if (process_ < 0 || waiting_ || verdict_ || quitting_) return;
   std::string line;
   from_script_ = next_line_ < script_.lines.size();
   if (from_script_) {
@@ -78,6 +78,7 @@ void ConsoleFront::send_next() {
   } else {
     return;
   }
+  quitting_ = line == kQuit;
   line += '\n';
   waiting_ = true;
   std::size_t sent = 0;

@@ -60,6 +60,7 @@ class ConsoleFront {
   std::string answer_part_;
   bool waiting_ = false;
   bool from_script_ = false;
+  bool quitting_ = false;  // whatever was typed behind it has nobody to go to
   std::optional<int> verdict_;
 };
 

@@ -77,6 +77,11 @@ TEST_F(ConsoleFronts, ALastLineWithoutItsEndIsAnsweredToo) {
   EXPECT_EQ(output_.lines(), Lines({"one", "ok"}));
 }
 
+TEST_F(ConsoleFronts, NothingIsSentBehindQuit) {
+  EXPECT_EQ(run_typed("one\nquit\ntwo\n"), 0);
+  EXPECT_EQ(output_.lines(), Lines({"one", "ok"}));
+}
+
 TEST_F(ConsoleFronts, AScriptGoesOnInTheRestartedProcess) {
   EXPECT_EQ(run({"a.scn", {"before", "killall", "after"}}), 0);
   EXPECT_EQ(output_.lines(), Lines({"before", "after"}));
