@@ -70,7 +70,7 @@ class Compositor {
   void paint_backdrop(int index, double opacity);
   std::uint64_t contents_of_group(int index) const;
   void draw_group(int index, CachedGroup& group);
-  void apply_mask(int index, const Canvas& canvas);
+  void apply_mask(int index);
   Surface picture_behind(const PixelRect& place) const;
   void forget_unused();
 

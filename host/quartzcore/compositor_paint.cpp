@@ -70,12 +70,14 @@ void Compositor::draw_group(int index, CachedGroup& group) {
   group.surface = make_surface(group.place.width, group.place.height);
   canvases_.push_back(make_canvas(group.surface, group.place.x, group.place.y));
   paint_contents(index, group.place, -1, 1);
-  if (node(index).layer->mask_layer()) apply_mask(index, canvases_.back());
+  if (node(index).layer->mask_layer()) apply_mask(index);
   canvases_.pop_back();
   cairo_surface_flush(group.surface.get());
 }
 
-void Compositor::apply_mask(int index, const Canvas& canvas) {
+void Compositor::apply_mask(int index) {
+  // By value: the mask's own canvas may move the list.
+  const Canvas canvas = canvases_.back();
   const int mask = node(index).mask;
   const Surface shape = make_surface(width_of(canvas.surface), height_of(canvas.surface));
   canvases_.push_back(make_canvas(shape, canvas.x, canvas.y));
@@ -84,7 +86,7 @@ void Compositor::apply_mask(int index, const Canvas& canvas) {
     paint_node(mask, all, -1);
   }
   canvases_.pop_back();
-  cairo_t* drawing = canvases_.back().drawing.get();
+  cairo_t* drawing = canvas.drawing.get();
   cairo_identity_matrix(drawing);
   cairo_set_operator(drawing, CAIRO_OPERATOR_DEST_IN);
   cairo_set_source_surface(drawing, shape.get(), 0, 0);
