@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "host/media_player/media_item.h"
 
 namespace host::media_player {
@@ -20,6 +22,11 @@ void raise_range_exception(NSUInteger index, NSUInteger count) {
 ItemStore::ItemStore(std::shared_ptr<const media::Library> library)
     : shelf_(std::make_shared<Shelf>(std::move(library))),
       items_(this->library().tracks().size()) {}
+
+std::size_t ItemStore::made_count() const {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(items_, [](const auto& item) { return static_cast<bool>(item); }));
+}
 
 MPMediaItem ItemStore::item(std::size_t index) {
   objc::Ref<MPMediaItem>& known = items_[index];

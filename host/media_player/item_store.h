@@ -19,6 +19,8 @@ class ItemStore {
 
   const media::Library& library() const { return shelf_->library(); }
   std::size_t count() const { return items_.size(); }
+  /// How many items have been made so far.
+  std::size_t made_count() const;
 
   /// Borrowed.
   MPMediaItem item(std::size_t index);

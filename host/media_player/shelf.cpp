@@ -10,7 +10,7 @@ NSString Shelf::shared_text(std::string_view text) {
 }
 
 NSString make_string(std::string_view text) {
-  constexpr NSUInteger utf8 = 4;
+  constexpr unsigned utf8 = 4;  // This Foundation's encodings are shorter than the platform's.
   const void* bytes = text.data();
   return objc::send<NSString>(NSString::alloc(), "initWithBytes:length:encoding:"_sel, bytes,
                               static_cast<NSUInteger>(text.size()), utf8);

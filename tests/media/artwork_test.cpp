@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include "fixtures.h"
 #include "host/media/artwork_cache.h"
 #include "host/media/picture.h"
+#include "tests/support/media_fixtures.h"
 
 using namespace host::media;
 using namespace media_tests;

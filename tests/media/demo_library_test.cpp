@@ -9,11 +9,11 @@
 #include <memory>
 #include <set>
 
-#include "fixtures.h"
 #include "host/media/artwork_cache.h"
 #include "host/media/demo/albums.h"
 #include "host/media/demo/piece.h"
 #include "host/media/scan.h"
+#include "tests/support/media_fixtures.h"
 
 using namespace host::media;
 using namespace media_tests;

@@ -4,9 +4,9 @@
 
 #include <filesystem>
 
-#include "fixtures.h"
 #include "host/media/mpv_player.h"
 #include "host/media/queue_player.h"
+#include "tests/support/media_fixtures.h"
 
 using namespace host::media;
 using namespace media_tests;

@@ -7,7 +7,7 @@
 
 #include <filesystem>
 
-#include "fixtures.h"
+#include "tests/support/media_fixtures.h"
 
 using namespace host::media;
 using namespace media_tests;

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 
-#include "fixtures.h"
+#include "tests/support/media_fixtures.h"
 
 using namespace host::media;
 using namespace media_tests;

@@ -1,4 +1,4 @@
-#include "fixtures.h"
+#include "tests/support/media_fixtures.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <spdlog/sinks/base_sink.h>

@@ -1,0 +1,176 @@
+#include <gmock/gmock.h>
+
+#include "host/media_player/item_store.h"
+#include "platform/CoreGraphics/CGImage.h"
+#include "platform/Foundation/NSValue.h"
+#include "tests/host/media_player/media_player_test.h"
+
+namespace {
+
+using host::test::text;
+using host::test::titles;
+using testing::ElementsAre;
+
+class MediaLibraryClasses : public host::test::MediaPlayerTest {
+ protected:
+  MediaLibraryClasses() : query_(objc::Ref<MPMediaQuery>::adopt(MPMediaQuery::alloc().init())) {
+    start();
+  }
+
+  std::string number(MPMediaItem item, NSString property) const {
+    return text(objc::cast<NSNumber>(item.valueForProperty(property)).stringValue());
+  }
+
+  NSArray found(objc::Object value, NSString property) const {
+    const MPMediaQuery query = MPMediaQuery::alloc().init().autorelease();
+    query.addFilterPredicate(MPMediaPropertyPredicate::predicateWithValue(value, property));
+    return query.items();
+  }
+
+  objc::Ref<MPMediaQuery> query_;
+};
+
+TEST_F(MediaLibraryClasses, AQueryWithoutPredicatesHoldsAllSongsInTheOrderOfTheLibrary) {
+  EXPECT_THAT(titles(query_->items()), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
+}
+
+TEST_F(MediaLibraryClasses, TheItemOfASongIsOneObjectHoweverItIsFound) {
+  const MPMediaItem bravo = item("Bravo");
+  EXPECT_EQ(query_->items().objectAtIndex(1), bravo);
+  EXPECT_EQ(found("Bravo"_ns, MPMediaItemPropertyTitle).objectAtIndex(0), bravo);
+  EXPECT_TRUE(query_->items().containsObject(bravo));
+  EXPECT_FALSE(bravo.isEqual(item("Alpha")));
+}
+
+TEST_F(MediaLibraryClasses, AnItemAnswersEveryProperty) {
+  const MPMediaItem alpha = item("Alpha");
+  EXPECT_EQ(text(alpha.valueForProperty(MPMediaItemPropertyArtist)), "Xenia");
+  EXPECT_EQ(text(alpha.valueForProperty(MPMediaItemPropertyAlbumTitle)), "One");
+  EXPECT_EQ(number(alpha, MPMediaItemPropertyMediaType), "1");
+  const auto duration =
+      objc::cast<NSNumber>(alpha.valueForProperty(MPMediaItemPropertyPlaybackDuration));
+  EXPECT_NEAR(duration.doubleValue(), 8, 0.01);
+  const auto cloud = objc::cast<NSNumber>(alpha.valueForProperty(MPMediaItemPropertyIsCloudItem));
+  ASSERT_TRUE(cloud);
+  EXPECT_FALSE(cloud.boolValue());
+  EXPECT_NE(number(alpha, MPMediaItemPropertyPersistentID), "0");
+  EXPECT_EQ(number(alpha, MPMediaItemPropertyAlbumPersistentID),
+            number(item("Bravo"), MPMediaItemPropertyAlbumPersistentID));
+  EXPECT_NE(number(alpha, MPMediaItemPropertyAlbumPersistentID),
+            number(item("Charlie"), MPMediaItemPropertyAlbumPersistentID));
+}
+
+TEST_F(MediaLibraryClasses, APropertyIsKnownByItsTextAsWell) {
+  const NSString spelt = NSString::stringWithUTF8String("albumTitle");
+  EXPECT_EQ(text(item("Charlie").valueForProperty(spelt)), "Two");
+}
+
+TEST_F(MediaLibraryClasses, WhatASongDoesNotHaveIsNil) {
+  const MPMediaItem delta = item("Delta");
+  EXPECT_FALSE(delta.valueForProperty(MPMediaItemPropertyArtist));
+  EXPECT_FALSE(delta.valueForProperty(MPMediaItemPropertyAlbumTitle));
+  EXPECT_FALSE(delta.valueForProperty(MPMediaItemPropertyArtwork));
+  EXPECT_FALSE(delta.valueForProperty("no such property"_ns));
+}
+
+TEST_F(MediaLibraryClasses, AnAlbumIsFoundByItsIdentifierWrittenOutAsText) {
+  const auto album =
+      objc::cast<NSNumber>(item("Alpha").valueForProperty(MPMediaItemPropertyAlbumPersistentID));
+  EXPECT_THAT(titles(found(album.stringValue(), MPMediaItemPropertyAlbumPersistentID)),
+              ElementsAre("Alpha", "Bravo"));
+  EXPECT_THAT(titles(found(album, MPMediaItemPropertyAlbumPersistentID)),
+              ElementsAre("Alpha", "Bravo"));
+}
+
+TEST_F(MediaLibraryClasses, ASongHasToSatisfyEveryPredicate) {
+  const MPMediaQuery query = MPMediaQuery::alloc().init().autorelease();
+  query.addFilterPredicate(
+      MPMediaPropertyPredicate::predicateWithValue("Xenia"_ns, MPMediaItemPropertyArtist));
+  EXPECT_THAT(titles(query.items()), ElementsAre("Alpha", "Bravo"));
+  query.addFilterPredicate(
+      MPMediaPropertyPredicate::predicateWithValue("Bravo"_ns, MPMediaItemPropertyTitle));
+  EXPECT_THAT(titles(query.items()), ElementsAre("Bravo"));
+}
+
+TEST_F(MediaLibraryClasses, NothingIsFoundByAPropertyThatTellsNoSongsApart) {
+  EXPECT_EQ(found("8"_ns, MPMediaItemPropertyPlaybackDuration).count(), 0u);
+}
+
+TEST_F(MediaLibraryClasses, TheArtworkKeepsItsShapeAndFitsTheSizeAskedFor) {
+  const auto artwork =
+      objc::cast<MPMediaItemArtwork>(item("Alpha").valueForProperty(MPMediaItemPropertyArtwork));
+  const UIImage picture = artwork.imageWithSize({16, 16});
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture.scale(), 2);
+  EXPECT_EQ(picture.size().width, 16);
+  EXPECT_EQ(picture.size().height, 8);
+  const auto data = CGDataProviderCopyData(CGImageGetDataProvider(picture.CGImage()));
+  EXPECT_GT(CFDataGetBytePtr(data)[0], 240);
+  EXPECT_LT(CFDataGetBytePtr(data)[1], 15);
+  CFRelease(data);
+}
+
+TEST_F(MediaLibraryClasses, TheSameCoverAtTheSameSizeIsDecodedOnce) {
+  const auto image = [this](CGSize size) {
+    const auto artwork =
+        objc::cast<MPMediaItemArtwork>(item("Alpha").valueForProperty(MPMediaItemPropertyArtwork));
+    return artwork.imageWithSize(size);
+  };
+  EXPECT_EQ(image({16, 16}), image({16, 16}));
+  EXPECT_NE(image({16, 16}), image({8, 8}));
+  EXPECT_EQ(host::media_player::MediaService::current()->artwork().decode_count(), 2u);
+}
+
+TEST_F(MediaLibraryClasses, ASizeOfNothingHasNoPicture) {
+  const auto artwork =
+      objc::cast<MPMediaItemArtwork>(item("Alpha").valueForProperty(MPMediaItemPropertyArtwork));
+  EXPECT_FALSE(artwork.imageWithSize({0, 0}));
+  EXPECT_FALSE(artwork.imageWithSize({-1, -1}));
+}
+
+TEST_F(MediaLibraryClasses, AQueryAnswersTheSameArrayUntilTheLibraryChanges) {
+  const NSArray before = query_->items();
+  EXPECT_EQ(query_->items(), before);
+  add_song("e.flac", "Echo");
+  start();
+  EXPECT_THAT(titles(query_->items()), ElementsAre("Alpha", "Bravo", "Charlie", "Delta", "Echo"));
+}
+
+TEST_F(MediaLibraryClasses, AnItemOutlivesItsLibraryAndEqualsItsSuccessor) {
+  const auto bravo = objc::Ref<MPMediaItem>::retain(item("Bravo"));
+  add_song("e.flac", "Echo");
+  start();
+  EXPECT_EQ(text(bravo->valueForProperty(MPMediaItemPropertyArtist)), "Xenia");
+  EXPECT_TRUE(bravo->isEqual(item("Bravo")));
+  EXPECT_TRUE(query_->items().containsObject(bravo.get()));
+}
+
+TEST_F(MediaLibraryClasses, TheArrayOfItemsCanBeCopiedAndChanged) {
+  const NSMutableArray songs = NSMutableArray::arrayWithArray(query_->items());
+  songs.removeObjectAtIndex(0);
+  EXPECT_THAT(titles(songs), ElementsAre("Bravo", "Charlie", "Delta"));
+  EXPECT_EQ(query_->items().count(), 4u);
+}
+
+TEST_F(MediaLibraryClasses, WithoutTheServiceTheLibraryIsEmpty) {
+  host::media_player::MediaService::stop();
+  EXPECT_EQ(query_->items().count(), 0u);
+}
+
+TEST(ItemStore, AnItemIsMadeOnlyWhenItIsAskedFor) {
+  std::vector<host::media::SongRecord> songs(3);
+  for (std::size_t i = 0; i < songs.size(); ++i) {
+    songs[i].id = i + 1;
+    songs[i].tags.title = std::string(1, static_cast<char>('a' + i));
+  }
+  const objc::AutoreleasePool pool;
+  host::media_player::ItemStore store{host::media::Library::build(songs)};
+  EXPECT_EQ(store.made_count(), 0u);
+  const MPMediaItem item = store.item(1);
+  EXPECT_EQ(text(item.valueForProperty(MPMediaItemPropertyTitle)), "b");
+  EXPECT_EQ(store.item(1), item);
+  EXPECT_EQ(store.made_count(), 1u);
+  EXPECT_FALSE(store.item_with_id(99));
+}
+
+}  // namespace

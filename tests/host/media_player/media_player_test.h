@@ -1,0 +1,66 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/media_player/media_service.h"
+#include "platform/MediaPlayer/MPMusicPlayerController.h"
+#include "platform/MediaPlayerUI/MPUNowPlayingController.h"
+#include "platform/SpringBoard/SBMediaController.h"
+#include "tests/support/host_test.h"
+#include "tests/support/media_fixtures.h"
+
+namespace host::test {
+
+/// The media classes over four real songs, on a clock that the test steps:
+/// Alpha and Bravo by Xenia on "One" (8 and 20 seconds, Alpha with a red cover 64 by 32), Charlie
+/// by Yves on "Two", and Delta, which has a title and nothing else.
+class MediaPlayerTest : public HostTest {
+ protected:
+  MediaPlayerTest();
+  ~MediaPlayerTest() override;
+
+  /// Starts the service, or starts it again as another process would.
+  void start();
+  media_player::MediaOptions options() const;
+
+  std::string song_path(const std::string& name) const { return folder_ / ("music/" + name); }
+  MPMediaItem item(const char* title) const;
+  void play(const char* title) const;
+  void add_song(const std::string& file, const char* title) const;
+
+  SBMediaController media() const { return SBMediaController::sharedInstance(); }
+  MPMusicPlayerController player() const { return MPMusicPlayerController::iPodMusicPlayer(); }
+  MPUNowPlayingController now_playing() const { return now_playing_.get(); }
+  /// What the playing engine says of itself, empty when it holds nothing.
+  std::string sounding_path() const;
+  bool is_engine_paused() const;
+  double sounding_position() const;
+
+  media_tests::TemporaryFolder folder_;
+
+ private:
+  objc::Ref<MPUNowPlayingController> now_playing_;
+};
+
+std::string text(objc::Object string);
+std::vector<std::string> titles(NSArray items);
+
+/// Hears the two messages that the system sends of its own accord, in place of whoever answered
+/// them before.
+class SystemListener {
+ public:
+  SystemListener();
+  ~SystemListener();
+  SystemListener(const SystemListener&) = delete;
+  SystemListener& operator=(const SystemListener&) = delete;
+
+  std::vector<int> states;
+  std::vector<float> volumes;
+
+ private:
+  objc::Imp state_before_;
+  objc::Imp volume_before_;
+};
+
+}  // namespace host::test

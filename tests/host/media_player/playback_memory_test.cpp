@@ -1,0 +1,114 @@
+#include "host/media_player/playback_memory.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "tests/host/media_player/media_player_test.h"
+
+namespace {
+
+using host::media_player::read_playback;
+using host::media_player::RememberedPlayback;
+using host::test::text;
+using testing::ElementsAre;
+
+class PlaybackMemory : public host::test::MediaPlayerTest {
+ protected:
+  std::string file() const { return options().memory_path; }
+
+  void leave(std::string_view bytes) const {
+    std::filesystem::create_directories(folder_ / "caches");
+    media_tests::write_bytes(file(), bytes);
+  }
+};
+
+TEST_F(PlaybackMemory, KeepsWhatItWasGiven) {
+  RememberedPlayback kept;
+  kept.queue = {0x7fffffffffffffff, 2};
+  kept.song = 0x7fffffffffffffff;
+  kept.position_seconds = 12.25;
+  kept.volume = 0.5;
+  ASSERT_TRUE(host::media_player::write_playback(file(), kept));
+  const RememberedPlayback read = read_playback(file());
+  ASSERT_TRUE(read.queue);
+  EXPECT_THAT(*read.queue, ElementsAre(0x7fffffffffffffff, 2));
+  EXPECT_EQ(read.song, 0x7fffffffffffffffu);
+  EXPECT_EQ(read.position_seconds, 12.25);
+  EXPECT_EQ(read.volume, 0.5);
+}
+
+TEST_F(PlaybackMemory, ADamagedFileIsAsNone) {
+  for (const char* bytes : {"", "this is no property list", "(1, 2)",
+                            "{song = (1); position = x; volume = {}; queue = 3;}"}) {
+    leave(bytes);
+    const RememberedPlayback read = read_playback(file());
+    EXPECT_EQ(read.song, 0u) << bytes;
+    EXPECT_EQ(read.position_seconds, 0) << bytes;
+    EXPECT_FALSE(read.queue) << bytes;
+    EXPECT_FALSE(read.volume) << bytes;
+  }
+}
+
+TEST_F(PlaybackMemory, AFolderInItsPlaceIsAsNone) {
+  std::filesystem::create_directories(file());
+  EXPECT_EQ(read_playback(file()).song, 0u);
+}
+
+TEST_F(PlaybackMemory, TheSongGoesOnPausedAfterARestart) {
+  start();
+  play("Bravo");
+  media().setVolume(0.25F);
+  advance(5);
+  start();
+  EXPECT_EQ(text(media().nowPlayingTitle()), "Bravo");
+  EXPECT_TRUE(media().isPaused());
+  EXPECT_TRUE(is_engine_paused());
+  EXPECT_NEAR(sounding_position(), 5, 0.01);
+  EXPECT_FLOAT_EQ(media().volume(), 0.25F);
+  media().togglePlayPause();
+  player().skipToNextItem();
+  EXPECT_EQ(text(media().nowPlayingTitle()), "Charlie");
+}
+
+TEST_F(PlaybackMemory, IsWrittenWhileTheProcessLives) {
+  start();
+  play("Bravo");
+  advance(0.1);
+  EXPECT_NE(read_playback(file()).song, 0u);
+  EXPECT_FALSE(read_playback(file()).queue);
+}
+
+TEST_F(PlaybackMemory, AQueueOfItsOwnIsKept) {
+  start();
+  const MPMediaQuery query = MPMediaQuery::alloc().init().autorelease();
+  query.addFilterPredicate(
+      MPMediaPropertyPredicate::predicateWithValue("One"_ns, MPMediaItemPropertyAlbumTitle));
+  player().setQueueWithQuery(query);
+  player().setNowPlayingItem(item("Bravo"));
+  player().play();
+  start();
+  player().play();
+  player().skipToNextItem();
+  EXPECT_FALSE(media().hasTrack());
+}
+
+TEST_F(PlaybackMemory, ASongThatIsGoneIsForgotten) {
+  start();
+  play("Bravo");
+  host::media_player::MediaService::stop();
+  std::filesystem::remove(song_path("b.flac"));
+  start();
+  EXPECT_FALSE(media().hasTrack());
+  EXPECT_TRUE(media().togglePlayPause());
+  EXPECT_EQ(text(media().nowPlayingTitle()), "Alpha");
+}
+
+TEST_F(PlaybackMemory, ADamagedFileDoesNotKeepTheMusicFromPlaying) {
+  leave("<plist><dict><key>song");
+  start();
+  EXPECT_FALSE(media().hasTrack());
+  EXPECT_TRUE(media().togglePlayPause());
+}
+
+}  // namespace

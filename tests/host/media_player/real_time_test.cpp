@@ -1,0 +1,94 @@
+#include <gmock/gmock.h>
+#include <poll.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "host/media_player/demo_maker.h"
+#include "tests/host/media_player/media_player_test.h"
+
+namespace {
+
+using host::media_player::FirstScan;
+using host::media_player::MediaOptions;
+using host::media_player::MediaProgress;
+using host::media_player::MediaService;
+using host::test::titles;
+using testing::Contains;
+using testing::ElementsAre;
+
+constexpr int kLongestWaitMilliseconds = 60'000;
+
+// The library while its files are read beside the screen; the test waits for its news as the
+// screen does.
+class MusicBesideTheScreen : public host::test::MediaPlayerTest {
+ protected:
+  MediaOptions beside() {
+    MediaOptions options = this->options();
+    options.pace = host::media::PlayerPace::real;
+    options.on_progress = [this](const MediaProgress& progress) { news_.push_back(progress); };
+    return options;
+  }
+
+  bool is_ready() const {
+    return !news_.empty() && news_.back().stage == MediaProgress::Stage::kReady;
+  }
+
+  void wait_until_ready() {
+    for (int waited = 0; !is_ready() && waited < kLongestWaitMilliseconds; waited += 10) {
+      pollfd pause{-1, 0, 0};
+      ::poll(&pause, 1, 10);
+      loop.run_ready();
+    }
+    ASSERT_TRUE(is_ready());
+  }
+
+  std::vector<std::string> songs() const { return titles(query_->items()); }
+
+  objc::Ref<MPMediaQuery> query_ = objc::Ref<MPMediaQuery>::adopt(MPMediaQuery::alloc().init());
+  std::vector<MediaProgress> news_;
+};
+
+TEST_F(MusicBesideTheScreen, TheSongsOfTheFirstScanComeWhenItIsOver) {
+  ASSERT_FALSE(MediaService::start(beside()));
+  wait_until_ready();
+  EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
+  EXPECT_EQ(news_.back().files.read, 4u);
+  EXPECT_EQ(news_.back().songs, 4u);
+}
+
+TEST_F(MusicBesideTheScreen, WhatTheLastScanLeftIsThereAtOnceAndWhatIsNewComesLater) {
+  ASSERT_FALSE(MediaService::start(options()));
+  add_song("e.flac", "Echo");
+  ASSERT_FALSE(MediaService::start(beside()));
+  EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
+  wait_until_ready();
+  EXPECT_THAT(songs(), Contains("Echo"));
+}
+
+TEST_F(MusicBesideTheScreen, TheDemoMusicIsMadeOnceAndItsCountIsTold) {
+  MediaOptions options = beside();
+  options.music_folders.clear();
+  options.demo = {folder_ / "demo-music", folder_ / "no-covers"};
+  ASSERT_FALSE(MediaService::start(options));
+  EXPECT_THAT(songs(), ElementsAre());
+  wait_until_ready();
+  EXPECT_GE(songs().size(), 40u);
+  const auto making = [](const MediaProgress& progress) {
+    return progress.stage == MediaProgress::Stage::kMakingMusic && progress.made > 0;
+  };
+  EXPECT_TRUE(std::ranges::any_of(news_, making));
+
+  news_.clear();
+  ASSERT_FALSE(MediaService::start(options));
+  EXPECT_GE(songs().size(), 40u);
+  wait_until_ready();
+  EXPECT_TRUE(std::ranges::none_of(news_, making));
+}
+
+TEST_F(MusicBesideTheScreen, StoppingWhileTheDemoMusicIsMadeLeavesNothing) {
+  { host::media_player::DemoMaker maker{{folder_ / "demo-music", folder_ / "no-covers"}}; }
+  EXPECT_FALSE(std::filesystem::exists(folder_ / "demo-music"));
+}
+
+}  // namespace
