@@ -1,5 +1,4 @@
 #include "objc/autorelease_pool.h"
-#include "tweak/appearance.h"
 #include "tweak/device.h"
 #include "tweak/gesture_listener.h"
 #include "tweak/globals.h"
@@ -50,7 +49,7 @@ void add_methods() {
       row<&playNextSong>("playNextSong"),
       row<&change>("change:"),
       row<&changePreferences>("changePreferences"),
-      row<&changesPrefs>("changesPrefs"),
+      row<&not_yet<"changesPrefs">>("changesPrefs"),
       row<&infoMusic>("infoMusic"),
       row<&Loping1>("Loping1"),
       row<&sposta>("sposta:"),

@@ -1,4 +1,4 @@
-#include <cmath>
+#include <cstring>
 
 #include "host/foundation/exports.h"
 #include "host/runtime/run_loop.h"
@@ -42,7 +42,12 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
   void fire() {
     if (!valid_) return;
     const auto alive = objc::Ref<ClockTimerHandle>::retain(self);
-    objc::send<>(target_.get(), action_, objc::Object(self));
+    // An action that takes no argument is as good as one that takes the timer.
+    if (std::strchr(sel_getName(action_), ':')) {
+      objc::send<>(target_.get(), action_, objc::Object(self));
+    } else {
+      objc::send<>(target_.get(), action_);
+    }
     if (!repeats_) objc::send<>(self, "invalidate"_sel);
   }
 

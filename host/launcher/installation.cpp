@@ -7,8 +7,10 @@ Installation find_installation() {
   // <build>/bin/sonavue, beside it SpringBoard and the device's tools.
   const auto programs = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
   const auto build = programs.parent_path();
-  return {
-      programs / "SpringBoard", programs / "device", {build / "staging", build / "applications"}};
+  return {programs / "SpringBoard",
+          programs / "device",
+          build / "host-pictures" / "covers",
+          {build / "staging", build / "applications"}};
 }
 
 }  // namespace host::launcher

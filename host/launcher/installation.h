@@ -11,6 +11,7 @@ namespace host::launcher {
 struct Installation {
   std::filesystem::path home_screen;  // the program SpringBoard
   std::filesystem::path tools;        // programs that stand first on the device's path
+  std::filesystem::path covers;       // pictures for the demo music
   StagingSource staging;
 };
 

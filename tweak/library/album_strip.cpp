@@ -37,6 +37,7 @@ void add_title(UIView tile, MPMediaItem item, CGFloat side) {
   const auto label = UILabel::alloc().initWithFrame({0, side - kTitleHeight, side, kTitleHeight});
   label.setNumberOfLines(1);
   label.setTextAlignment(NSTextAlignmentCenter);
+  label.setTextColor(UIColor::whiteColor());
   label.setFont(UIFont::fontWithName("HelveticaNeue"_ns, kTitleSize));
   label.setText(objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyAlbumTitle)));
   tile.addSubview(label);

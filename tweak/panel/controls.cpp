@@ -25,6 +25,7 @@ constexpr CGFloat kCompactLift = 45;
 UIButton make_control(CGRect frame, NSString picture, objc::Object target, objc::Sel action) {
   const UIButton button = UIButton::alloc().initWithFrame(frame);
   button.setImage(template_image(picture), UIControlStateNormal);
+  button.setTintColor(UIColor::whiteColor());
   button.addTarget(target, action, UIControlEventTouchUpInside);
   container.addSubview(button);
   button.release();
@@ -35,6 +36,7 @@ UILabel make_text(CGFloat y, CGFloat size) {
   const UILabel label =
       UILabel::alloc().initWithFrame({0, y, container1.frame().size.width, kLineHeight});
   label.setTextAlignment(NSTextAlignmentCenter);
+  label.setTextColor(UIColor::whiteColor());
   label.setFont(UIFont::fontWithName("HelveticaNeue"_ns, size));
   container1.addSubview(label);
   label.release();
@@ -44,6 +46,8 @@ UILabel make_text(CGFloat y, CGFloat size) {
 void make_ring(SpringBoard self) {
   const CGSize size = play.frame().size;
   ring = M13ProgressViewRing::alloc().initWithFrame({0, 0, size.width, size.height});
+  ring.setPrimaryColor(UIColor::whiteColor());
+  ring.setSecondaryColor(UIColor::whiteColor());
   ring.setShowPercentage(NO);
   ring.setUserInteractionEnabled(YES);
   // The ring lies over the button, so that a tap on it must be a tap on play.

@@ -33,6 +33,7 @@ UIView make_search_icon(CGFloat field_height) {
   const CGFloat side = field_height - 2 * kIconInset;
   search_icon = UIImageView::alloc().initWithFrame({kIconInset, kIconInset, side, side});
   search_icon.setImage(template_image("/Library/Application Support/Sonavue/search@2x.png"_ns));
+  search_icon.setTintColor(UIColor::whiteColor());
   const CGFloat around = kIconInset + side + kIconInset;
   const UIView holder = UIView::alloc().initWithFrame({0, 0, around, around});
   holder.addSubview(search_icon);
@@ -122,6 +123,7 @@ void make_grabber(SpringBoard self) {
                                               (bar.height - kGrabSize.height) / 2, kGrabSize.width,
                                               kGrabSize.height});
   grabs.setImage(template_image("/Library/Application Support/Sonavue/grab_dragging@2x.png"_ns));
+  grabs.setTintColor(UIColor::whiteColor());
   grabbers.addSubview(grabs);
   grabs.release();
   top2 = make_line({0, 0, bar.width, 0.5});

@@ -8,6 +8,7 @@
 #include "host/foundation/loader.h"
 #include "host/launcher/home_screen/console_phone.h"
 #include "host/launcher/home_screen/console_service.h"
+#include "host/launcher/home_screen/music.h"
 #include "host/launcher/home_screen/passing_time.h"
 #include "host/launcher/home_screen/phone_screen.h"
 #include "host/launcher/home_screen/platform_classes.h"
@@ -63,6 +64,7 @@ void launch(const ProcessOptions& options) {
   springboard::Configuration configuration;
   configuration.wall_clock = &wall_clock(options.stepped);
   springboard::configure(configuration);
+  launcher::start_music(options);
   foundation::load_libraries(kBundleIdentifier, kProcessName);
   uikit::launch_application(kProcessName);
 }
@@ -122,6 +124,7 @@ int run(const ProcessOptions& options) {
   if (options.console_descriptor >= 0)
     service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
   loop.run();
+  launcher::stop_music();
   return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "host/launcher/home_screen/platform_classes.h"
 
 #include "host/foundation/exports.h"
+#include "host/media_player/exports.h"
 #include "host/quartzcore/exports.h"
 #include "host/springboard/exports.h"
 #include "host/uikit/drawing/exports.h"
@@ -17,6 +18,7 @@ void export_platform_classes() {
   uikit::export_views();
   uikit::export_text();
   uikit::export_scroll();
+  media_player::export_media_player();
   springboard::export_springboard();
 }
 
