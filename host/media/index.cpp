@@ -28,7 +28,9 @@ constexpr char schema[] = R"(
 constexpr char select_songs[] =
     "SELECT id, path, size, modified_ns, picture_path, picture_key, title, artist, album_artist, "
     "album, genre, composer, track_number, disc_number, duration, is_compilation, is_cloud, "
-    "embedded_artwork FROM songs";
+    "embedded_artwork FROM songs ORDER BY id";
+constexpr char select_files[] =
+    "SELECT id, path, size, modified_ns, picture_path, picture_key FROM songs ORDER BY id";
 constexpr char insert_song[] =
     "INSERT OR REPLACE INTO songs VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
 
@@ -36,12 +38,16 @@ std::string text_at(const Statement& row, int column) {
   return std::string{row.bytes(column)};
 }
 
+KnownFile file_from(const Statement& row) {
+  return {static_cast<std::uint64_t>(row.integer(0)),
+          text_at(row, 1),
+          {row.integer(2), row.integer(3)},
+          {text_at(row, 4), static_cast<std::uint64_t>(row.integer(5))}};
+}
+
 SongRecord record_from(const Statement& row) {
-  SongRecord record;
-  record.id = static_cast<std::uint64_t>(row.integer(0));
-  record.path = text_at(row, 1);
-  record.stamp = {row.integer(2), row.integer(3)};
-  record.folder_picture = {text_at(row, 4), static_cast<std::uint64_t>(row.integer(5))};
+  KnownFile file = file_from(row);
+  SongRecord record{file.id, std::move(file.path), file.stamp, std::move(file.folder_picture), {}};
   SongTags& tags = record.tags;
   tags.title = text_at(row, 6);
   tags.artist = text_at(row, 7);
@@ -148,24 +154,43 @@ void Index::work_in_memory(const std::string& reason) {
 
 IndexContents Index::load() {
   IndexContents contents;
-  const DatabaseStatus status = read(contents);
+  DatabaseStatus status = read_songs(contents.songs);
+  if (status == DatabaseStatus::ok) status = read_refused(contents.refused);
   if (status == DatabaseStatus::ok) return contents;
   recover(status);
   return {};
 }
 
-DatabaseStatus Index::read(IndexContents& contents) {
-  Statement songs = database_->prepare(select_songs);
-  DatabaseStatus status = songs.step();
-  for (; status == DatabaseStatus::row; status = songs.step()) {
-    contents.songs.push_back(record_from(songs));
-  }
-  if (status != DatabaseStatus::ok) return status;
-  Statement refused = database_->prepare("SELECT path, size, modified_ns FROM refused");
-  status = refused.step();
-  for (; status == DatabaseStatus::row; status = refused.step()) {
-    contents.refused.push_back({text_at(refused, 0), {refused.integer(1), refused.integer(2)}});
-  }
+KnownFiles Index::load_files() {
+  KnownFiles files;
+  DatabaseStatus status = read_files(files.songs);
+  if (status == DatabaseStatus::ok) status = read_refused(files.refused);
+  if (status == DatabaseStatus::ok) return files;
+  recover(status);
+  return {};
+}
+
+DatabaseStatus Index::read_songs(std::vector<SongRecord>& songs) {
+  Statement rows = database_->prepare(select_songs);
+  DatabaseStatus status = rows.step();
+  for (; status == DatabaseStatus::row; status = rows.step())
+    songs.push_back(record_from(rows));
+  return status;
+}
+
+DatabaseStatus Index::read_files(std::vector<KnownFile>& files) {
+  Statement rows = database_->prepare(select_files);
+  DatabaseStatus status = rows.step();
+  for (; status == DatabaseStatus::row; status = rows.step())
+    files.push_back(file_from(rows));
+  return status;
+}
+
+DatabaseStatus Index::read_refused(std::vector<RefusedFile>& refused) {
+  Statement rows = database_->prepare("SELECT path, size, modified_ns FROM refused");
+  DatabaseStatus status = rows.step();
+  for (; status == DatabaseStatus::row; status = rows.step())
+    refused.push_back({text_at(rows, 0), {rows.integer(1), rows.integer(2)}});
   return status;
 }
 

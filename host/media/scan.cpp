@@ -3,10 +3,14 @@
 #include <fmt/core.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <future>
 #include <map>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "host/media/folder_walk.h"
 #include "host/media/hash.h"
@@ -37,35 +41,63 @@ enum class Fate : char { unseen, unchanged, replaced };
 
 class Scan {
  public:
-  Scan(Index& index, const ScanReport& report) : index_(index), report_(report) {
-    IndexContents contents = index_.load();
-    known_ = std::move(contents.songs);
-    fates_.resize(known_.size(), Fate::unseen);
-    known_by_path_.reserve(known_.size());
-    for (std::size_t i = 0; i < known_.size(); ++i)
-      known_by_path_.emplace(known_[i].path, i);
-    for (RefusedFile& file : contents.refused)
-      refused_.emplace(std::move(file.path), file.stamp);
-  }
+  // The index is loaded while the first folders are walked; until then nothing else uses it.
+  Scan(Index& index, const ScanReport& report)
+      : index_(index),
+        report_(report),
+        loading_(std::async(std::launch::async, [this] { load_files(); })) {}
 
-  ScanOutcome run(std::span<const std::string> roots, const std::stop_token& stop) {
+  ScanOutcome run(std::span<const std::string> roots, const std::stop_token& stop,
+                  std::shared_ptr<const Library> remembered) {
     const WalkVisitor visitor{
-        [&](WalkedFolder& folder) { visit(folder, stop); },
+        [&](WalkedFolder& folder) {
+          waiting_.push_back(std::move(folder));
+          if (is_loaded()) visit_waiting(stop);
+        },
         [this](const std::string& path, const std::string& reason) {
           ++progress_.unreadable_folders;
           log_warning(fmt::format("the folder {} cannot be read: {}", path, reason));
         }};
     walk_folders(roots, visitor, stop);
+    loading_.wait();
+    visit_waiting(stop);
     if (!stop.stop_requested()) forget_unseen();
+    if (!remembered || !is_as_it_was(*remembered)) {
+      collect_unchanged();
+      remembered = nullptr;
+    }
     save();
     report_(progress_);
-    for (std::size_t i = 0; i < known_.size(); ++i) {
-      if (fates_[i] == Fate::unchanged) found_.push_back(std::move(known_[i]));
-    }
-    return {progress_, Library::build(found_)};
+    return {progress_, remembered ? std::move(remembered) : Library::build(found_)};
   }
 
  private:
+  void load_files() {
+    KnownFiles files = index_.load_files();
+    known_ = std::move(files.songs);
+    fates_.resize(known_.size(), Fate::unseen);
+    known_by_path_.reserve(known_.size());
+    for (std::size_t i = 0; i < known_.size(); ++i)
+      known_by_path_.emplace(known_[i].path, i);
+    for (RefusedFile& file : files.refused)
+      refused_.emplace(std::move(file.path), file.stamp);
+  }
+
+  bool is_loaded() const {
+    return loading_.wait_for(std::chrono::seconds{0}) == std::future_status::ready;
+  }
+
+  void visit_waiting(const std::stop_token& stop) {
+    for (WalkedFolder& folder : waiting_)
+      visit(folder, stop);
+    waiting_.clear();
+  }
+
+  bool is_as_it_was(const Library& remembered) const {
+    return !has_changes_ && std::ranges::count(fates_, Fate::unseen) == 0 &&
+           remembered.tracks().size() == known_.size();
+  }
+
   void visit(WalkedFolder& folder, const std::stop_token& stop) {
     for (WalkedFile& file : folder.songs) {
       if (stop.stop_requested()) return;
@@ -92,16 +124,53 @@ class Scan {
   }
 
   void take_known(std::size_t index, WalkedFile& file, const FolderPicture& picture) {
-    SongRecord& record = known_[index];
-    const bool is_unchanged = record.stamp == file.stamp;
+    KnownFile& known = known_[index];
+    const bool is_unchanged = known.stamp == file.stamp;
     fates_[index] = is_unchanged ? Fate::unchanged : Fate::replaced;
-    if (!is_unchanged) return read(file, picture, record.id);
-    if (record.folder_picture == picture) return;
-    record.folder_picture = picture;
-    changes_.songs.push_back(record);
+    if (!is_unchanged) return read(file, picture, known.id);
+    if (known.folder_picture == picture) return;
+    prepare_for_changes();
+    known.folder_picture = picture;
+    SongRecord* record = record_of(index);
+    if (!record) return;
+    record->folder_picture = picture;
+    changes_.songs.push_back(*record);
+  }
+
+  // The tags of the songs that stay are needed as soon as anything differs from the last scan, and
+  // have to be loaded before the first change is written.
+  void prepare_for_changes() {
+    if (std::exchange(has_changes_, true)) return;
+    load_records();
+  }
+
+  void load_records() {
+    records_ = index_.load().songs;
+    are_records_loaded_ = true;
+  }
+
+  // Null when the index was lost since its files were loaded.
+  SongRecord* record_of(std::size_t index) {
+    const bool is_there =
+        records_.size() == known_.size() && records_[index].id == known_[index].id;
+    return is_there ? &records_[index] : nullptr;
+  }
+
+  void collect_unchanged() {
+    if (!are_records_loaded_) load_records();
+    for (std::size_t i = 0; i < known_.size(); ++i) {
+      if (fates_[i] != Fate::unchanged) continue;
+      if (SongRecord* record = record_of(i)) {
+        found_.push_back(std::move(*record));
+      } else {
+        WalkedFile file{known_[i].path, known_[i].stamp};
+        read(file, known_[i].folder_picture, known_[i].id);
+      }
+    }
   }
 
   void read(WalkedFile& file, const FolderPicture& picture, std::uint64_t id) {
+    prepare_for_changes();
     ++progress_.read;
     TagReading reading = read_tags(file.path);
     if (!reading.tags) {
@@ -154,6 +223,7 @@ class Scan {
   }
 
   void forget_unseen() {
+    if (std::ranges::count(fates_, Fate::unseen) > 0) prepare_for_changes();
     for (std::size_t i = 0; i < known_.size(); ++i) {
       if (fates_[i] == Fate::unseen) changes_.forgotten.push_back(known_[i].path);
     }
@@ -170,8 +240,11 @@ class Scan {
   Index& index_;
   const ScanReport& report_;
   ScanProgress progress_;
-  std::vector<SongRecord> known_;
-  std::vector<Fate> fates_;  // One for each of known_.
+  std::vector<KnownFile> known_;
+  std::vector<Fate> fates_;          // One for each of known_.
+  std::vector<SongRecord> records_;  // Likewise, once they are loaded.
+  bool are_records_loaded_ = false;
+  bool has_changes_ = false;
   std::unordered_map<std::string_view, std::size_t> known_by_path_;
   bool is_prepared_ = false;
   std::multimap<FileStamp, std::size_t> known_by_stamp_;
@@ -180,6 +253,8 @@ class Scan {
   std::unordered_set<std::string_view> is_refusal_seen_;
   std::vector<SongRecord> found_;
   IndexChanges changes_;
+  std::vector<WalkedFolder> waiting_;  // Walked, and not yet compared with the index.
+  std::future<void> loading_;          // Last, so that it ends before what it fills goes.
 };
 
 }  // namespace
@@ -192,8 +267,8 @@ std::shared_ptr<const Library> remembered_library(Index& index,
 }
 
 ScanOutcome scan_folders(Index& index, std::span<const std::string> roots, const ScanReport& report,
-                         std::stop_token stop) {
-  return Scan{index, report}.run(roots, stop);
+                         std::stop_token stop, std::shared_ptr<const Library> remembered) {
+  return Scan{index, report}.run(roots, stop, std::move(remembered));
 }
 
 }  // namespace host::media

@@ -32,8 +32,10 @@ std::shared_ptr<const Library> remembered_library(Index& index, std::span<const 
 
 // Brings the index up to date with the folders and answers the library. Only files whose size or
 // time has changed are opened. A scan that is stopped keeps what it has read, forgets nothing, and
-// answers the songs that it has seen.
+// answers the songs that it has seen. When nothing at all has changed since `remembered` was made
+// from the index, that very library is the answer, and neither tags nor texts are looked at.
 ScanOutcome scan_folders(Index& index, std::span<const std::string> roots, const ScanReport& report,
-                         std::stop_token stop = {});
+                         std::stop_token stop = {},
+                         std::shared_ptr<const Library> remembered = nullptr);
 
 }  // namespace host::media

@@ -23,13 +23,14 @@ std::optional<ScanUpdate> Scanner::take_update() {
 
 void Scanner::run(const std::vector<std::string>& roots, const std::stop_token& stop) {
   Index index{index_path_};
-  publish({ScanStage::remembered, {}, remembered_library(index, roots)});
+  const auto remembered = remembered_library(index, roots);
+  publish({ScanStage::remembered, {}, remembered});
   ScanOutcome outcome = scan_folders(
       index, roots,
       [this](const ScanProgress& progress) {
         publish({ScanStage::reading, progress, nullptr});
       },
-      stop);
+      stop, remembered);
   if (stop.stop_requested()) return;
   const ScanProgress& counts = outcome.progress;
   log_note(fmt::format("{} songs; {} files read, {} skipped, {} folders unreadable",

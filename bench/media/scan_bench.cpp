@@ -1,0 +1,111 @@
+// How much faster a scan is when no file has changed. Every time is the best of a few runs with the
+// files in memory, and every run is checked to have found all songs.
+
+#include <fmt/core.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/media/demo/audio_file.h"
+#include "host/media/scan.h"
+#include "host/media/tag_writer.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using host::media::Index;
+using host::media::ScanOutcome;
+
+constexpr std::size_t kSongs = 10'000;
+constexpr std::size_t kSongsInAlbum = 12;
+constexpr int kRuns = 3;
+constexpr int kRate = 16'000;
+
+void require(bool is_true, const char* what) {
+  if (is_true) return;
+  fmt::print(stderr, "wrong result: {}\n", what);
+  std::exit(1);
+}
+
+void make_music(const fs::path& folder) {
+  const fs::path first = folder / "first.flac";
+  require(host::media::write_audio(first, std::vector<float>(kRate / 4, 0.1F), kRate), "a tone");
+  for (std::size_t i = 0; i < kSongs; ++i) {
+    const std::size_t album = i / kSongsInAlbum;
+    const fs::path place = folder / fmt::format("artist {}/album {}", album / 3, album);
+    fs::create_directories(place);
+    const fs::path song = place / fmt::format("{:02} a song.flac", i % kSongsInAlbum + 1);
+    fs::copy_file(first, song);
+    host::media::SongTags tags;
+    tags.title = fmt::format("Song number {}", i * 7919 % kSongs);
+    tags.artist = fmt::format("Artist {}", album / 3);
+    tags.album = fmt::format("Album {}", album);
+    tags.genre = "Benchmark";
+    tags.track_number = static_cast<int>(i % kSongsInAlbum) + 1;
+    require(host::media::write_tags(song, tags, {}), "tags");
+  }
+  fs::remove(first);
+}
+
+double milliseconds(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
+ScanOutcome scan(const fs::path& index_file, const std::vector<std::string>& roots,
+                 std::shared_ptr<const host::media::Library> remembered, std::size_t to_read) {
+  Index index{index_file};
+  ScanOutcome outcome = host::media::scan_folders(
+      index, roots, [](const host::media::ScanProgress&) {}, {}, std::move(remembered));
+  require(outcome.library->tracks().size() == kSongs, "the songs of a scan");
+  require(outcome.progress.read == to_read, "the files that were opened");
+  return outcome;
+}
+
+void measure(const fs::path& folder) {
+  make_music(folder / "music");
+  const std::vector roots{(folder / "music").string()};
+  const fs::path index_file = folder / "index.db";
+  double first = 1e9;
+  double remembering = 1e9;
+  double unchanged = 1e9;
+  for (int run = 0; run < kRuns; ++run) {
+    for (const char* suffix : {"", "-wal", "-shm"})
+      fs::remove(index_file.string() + suffix);
+    first = std::min(first, milliseconds([&] { scan(index_file, roots, nullptr, kSongs); }));
+    std::shared_ptr<const host::media::Library> library;
+    remembering = std::min(remembering, milliseconds([&] {
+                             Index index{index_file};
+                             library = host::media::remembered_library(index, roots);
+                           }));
+    require(library->tracks().size() == kSongs, "the remembered songs");
+    unchanged = std::min(unchanged, milliseconds([&] {
+                           require(scan(index_file, roots, library, 0).library == library,
+                                   "the library that was there already");
+                         }));
+  }
+  fmt::print("{} songs\n", kSongs);
+  fmt::print("  first scan                {:8.1f} ms\n", first);
+  fmt::print("  remembered library        {:8.1f} ms  first scan / this = {:.1f}\n", remembering,
+             first / remembering);
+  fmt::print("  scan with nothing changed {:8.1f} ms  first scan / this = {:.1f}\n", unchanged,
+             first / unchanged);
+}
+
+}  // namespace
+
+int main() {
+  std::string name = (fs::temp_directory_path() / "scan-bench-XXXXXX").string();
+  if (!::mkdtemp(name.data())) return 1;
+  fs::create_directories(fs::path{name} / "music");
+  measure(name);
+  fs::remove_all(name);
+  return 0;
+}

@@ -1,0 +1,94 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "host/media/scan.h"
+#include "tests/support/media_fixtures.h"
+
+using namespace host::media;
+using namespace media_tests;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A second look at folders of which a library is already in hand.
+class Rescanning : public testing::Test {
+ protected:
+  Rescanning() {
+    fs::create_directories(folder_ / "music");
+    write_song(at("a.flac"), titled("A"), {}, 0.1);
+    write_song(at("b.flac"), titled("B"), {}, 0.1);
+    write_bytes(at("broken.flac"), "no music");
+    known_ = scan(nullptr).library;
+  }
+
+  static SongTags titled(const char* title) {
+    SongTags tags;
+    tags.title = title;
+    tags.album = "Album";
+    return tags;
+  }
+
+  std::string at(const char* name) const { return folder_ / ("music/" + std::string{name}); }
+
+  ScanOutcome scan(std::shared_ptr<const Library> remembered) const {
+    Index index{folder_ / "music.db"};
+    const std::vector roots = {folder_ / "music"};
+    return scan_folders(
+        index, roots, [](const ScanProgress&) {}, {}, std::move(remembered));
+  }
+
+  TemporaryFolder folder_;
+  std::shared_ptr<const Library> known_;
+};
+
+TEST_F(Rescanning, AnswersTheLibraryInHandWhenNothingHasChanged) {
+  const ScanOutcome outcome = scan(known_);
+  EXPECT_EQ(outcome.library, known_);
+  EXPECT_EQ(outcome.progress.seen, 3u);
+  EXPECT_EQ(outcome.progress.read, 0u);
+  EXPECT_EQ(outcome.progress.skipped, 1u);
+}
+
+TEST_F(Rescanning, MakesTheLibraryAnewWhenNoneIsInHand) {
+  const ScanOutcome outcome = scan(nullptr);
+  ASSERT_EQ(outcome.library->tracks().size(), 2u);
+  EXPECT_EQ(outcome.library->tracks()[0].title, "A");
+  EXPECT_EQ(outcome.progress.read, 0u);
+}
+
+TEST_F(Rescanning, ASongThatIsGoneIsOutOfTheLibrary) {
+  fs::remove(at("a.flac"));
+  const ScanOutcome outcome = scan(known_);
+  ASSERT_EQ(outcome.library->tracks().size(), 1u);
+  EXPECT_EQ(outcome.library->tracks()[0].title, "B");
+}
+
+TEST_F(Rescanning, ASongThatChangedIsReadAndTheOthersKeepTheirTags) {
+  write_song(at("a.flac"), titled("Another"), {}, 0.2);
+  const ScanOutcome outcome = scan(known_);
+  EXPECT_EQ(outcome.progress.read, 1u);
+  ASSERT_EQ(outcome.library->tracks().size(), 2u);
+  EXPECT_EQ(outcome.library->tracks()[0].title, "Another");
+  EXPECT_EQ(outcome.library->tracks()[1].title, "B");
+  EXPECT_EQ(outcome.library->tracks()[1].album, "Album");
+}
+
+TEST_F(Rescanning, APictureThatAppearsReachesTheSongsThoughNoneIsOpened) {
+  write_bytes(at("cover.png"), as_text(png_picture(4, 4, 0x00ff00)));
+  const ScanOutcome outcome = scan(known_);
+  EXPECT_EQ(outcome.progress.read, 0u);
+  ASSERT_EQ(outcome.library->tracks().size(), 2u);
+  for (const Track& track : outcome.library->tracks())
+    EXPECT_EQ(track.picture_path, at("cover.png"));
+  EXPECT_EQ(scan(outcome.library).library, outcome.library);
+}
+
+TEST_F(Rescanning, ALibraryThatIsNotTheOneOfTheIndexIsNotTrusted) {
+  const ScanOutcome outcome = scan(Library::build({}));
+  EXPECT_EQ(outcome.library->tracks().size(), 2u);
+}
+
+}  // namespace
