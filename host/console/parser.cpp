@@ -33,30 +33,32 @@ class Parser {
     auto token = lexer_.take();
     if (!token) return token.problem();
     if (depth > kDeepest) return Problem{"nested too deeply", token->offset};
-    Expression made;
-    made.offset = token->offset;
-    if (token->kind == Token::Kind::Number) {
-      made.content = token->number;
-    } else if (token->kind == Token::Kind::Text) {
-      made.content = TextLiteral{std::move(token->text)};
-    } else if (token->kind == Token::Kind::Name) {
-      made.content = Name{std::move(token->text)};
-    } else if (is_symbol(*token, '{')) {
-      auto inside = braces(depth);
-      if (!inside) return inside.problem();
-      made.content = std::move(*inside);
-    } else if (is_symbol(*token, '[')) {
-      auto inside = message(depth);
-      if (!inside) return inside.problem();
-      made.content = std::move(*inside);
-    } else {
-      return Problem{fmt::format("{} begins no expression", shown(*token)), token->offset};
+    switch (token->kind) {
+      case Token::Kind::Number:
+        return whole(*token, token->number);
+      case Token::Kind::Text:
+        return whole(*token, TextLiteral{std::move(token->text)});
+      case Token::Kind::Name:
+        return whole(*token, Name{std::move(token->text)});
+      default:
+        break;
     }
-    made.end = lexer_.position();
-    return made;
+    if (is_symbol(*token, '{')) return whole(*token, braces(depth));
+    if (is_symbol(*token, '[')) return whole(*token, message(depth));
+    return Problem{fmt::format("{} begins no expression", shown(*token)), token->offset};
   }
 
  private:
+  template <class Content>
+  Result<Expression> whole(const Token& first, Content content) {
+    return Expression{first.offset, lexer_.position(), std::move(content)};
+  }
+  template <class Content>
+  Result<Expression> whole(const Token& first, Result<Content> content) {
+    if (!content) return content.problem();
+    return whole(first, std::move(*content));
+  }
+
   Result<Braces> braces(int depth) {
     Braces made;
     for (;;) {
