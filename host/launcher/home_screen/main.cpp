@@ -5,6 +5,7 @@
 
 #include "host/console/globals.h"
 #include "host/foundation/device_paths.h"
+#include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
 #include "host/launcher/home_screen/console_phone.h"
 #include "host/launcher/home_screen/console_service.h"
@@ -61,6 +62,7 @@ const springboard::WallClock& wall_clock(bool stepped) {
 
 void launch(const ProcessOptions& options) {
   launcher::export_platform_classes();
+  foundation::take_foundation_log();
   springboard::Configuration configuration;
   configuration.wall_clock = &wall_clock(options.stepped);
   springboard::configure(configuration);

@@ -1,0 +1,67 @@
+#include "host/foundation/foundation_log.h"
+
+#include <gmock/gmock.h>
+#include <spdlog/sinks/ostream_sink.h>
+#include <spdlog/spdlog.h>
+
+#include <sstream>
+
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSLog.h"
+#include "platform/Foundation/NSString.h"
+#include "tests/support/host_test.h"
+
+namespace {
+
+using host::foundation::log_foundation_line;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct FoundationLog : host::test::HostTest {
+  FoundationLog() : before(spdlog::default_logger()) {
+    auto sink = std::make_shared<spdlog::sinks::ostream_sink_mt>(lines);
+    auto log = std::make_shared<spdlog::logger>("test", sink);
+    log->set_pattern("%l: %v");
+    spdlog::set_default_logger(log);
+  }
+  ~FoundationLog() override { spdlog::set_default_logger(before); }
+
+  std::string logged() {
+    std::string text = lines.str();
+    lines.str({});
+    return text;
+  }
+
+  std::ostringstream lines;
+  std::shared_ptr<spdlog::logger> before;
+};
+
+TEST_F(FoundationLog, WhatAnExtensionPrintsIsALineOfTheOneLog) {
+  host::foundation::take_foundation_log();
+  NSLog("<Owl> %s"_ns.id(), "hoots");
+  EXPECT_EQ(logged(), "info: <Owl> hoots\n");
+  NSLog("<Owl> %s"_ns.id(), "hoots");
+  EXPECT_EQ(logged(), "info: <Owl> hoots\n");
+}
+
+TEST_F(FoundationLog, AFileThatIsReadInVainAgainAndAgainIsOneLine) {
+  host::foundation::take_foundation_log();
+  for (int i = 0; i < 3; ++i)
+    EXPECT_FALSE(NSDictionary::dictionaryWithContentsOfFile("/dev"_ns));
+  const std::string text = logged();
+  EXPECT_THAT(text, HasSubstr("warning: File "));
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1);
+}
+
+TEST_F(FoundationLog, ComplaintsFromOnePlaceAreOneLineHoweverTheyDiffer) {
+  log_foundation_line(
+      "2026-01-01 10:00:00.000 Owl[1:1] File Owl.m: 7. In -[Owl hoot] a.tmp1 failed");
+  EXPECT_EQ(logged(), "warning: File Owl.m: 7. In -[Owl hoot] a.tmp1 failed\n");
+  log_foundation_line(
+      "2026-01-01 10:00:01.000 Owl[1:1] File Owl.m: 7. In -[Owl hoot] a.tmp2 failed");
+  EXPECT_THAT(logged(), IsEmpty());
+  log_foundation_line("2026-01-01 10:00:01.000 Owl[1:1] File Owl.m: 8. In -[Owl hoot] is hoarse");
+  EXPECT_EQ(logged(), "warning: File Owl.m: 8. In -[Owl hoot] is hoarse\n");
+}
+
+}  // namespace
