@@ -113,9 +113,10 @@ DatabaseStatus Index::prepare_schema() {
     if (version.integer(0) == schema_version) return DatabaseStatus::ok;
   }
   const std::string commit = fmt::format("PRAGMA user_version={}; COMMIT", schema_version);
-  DatabaseStatus status = database_->execute(schema);
-  if (status == DatabaseStatus::ok) status = database_->execute(commit.c_str());
-  if (status != DatabaseStatus::ok) database_->execute("ROLLBACK");
+  const DatabaseStatus status = database_->execute(schema);
+  if (status == DatabaseStatus::ok) return database_->execute(commit.c_str());
+  // Nothing is rolled back here: that would replace the reason that is still to be told, and a
+  // database that fails is closed, which undoes what was begun.
   return status;
 }
 
