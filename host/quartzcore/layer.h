@@ -70,6 +70,8 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   void advance_animations(double now);
   void announce_started_animations();
   bool wants_frames() const;
+  /// The clock time at which the first of its running animations ends; infinity when none does.
+  double next_animation_end() const;
   void leave_dirty_list() { in_dirty_list_ = false; }
 
   // Properties.

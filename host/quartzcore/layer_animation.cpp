@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <limits>
 
 #include "host/quartzcore/animation.h"
 #include "host/quartzcore/layer.h"
@@ -147,6 +148,14 @@ void Layer::advance_animations(double time) {
 bool Layer::wants_frames() const {
   return std::any_of(animations_.begin(), animations_.end(),
                      [](const auto& animation) { return !animation.has_stopped; });
+}
+
+double Layer::next_animation_end() const {
+  double end = std::numeric_limits<double>::infinity();
+  for (const RunningAnimation& animation : animations_) {
+    if (!animation.has_stopped) end = std::min(end, animation.end());
+  }
+  return end;
 }
 
 void Layer::remove_animation_for_key(NSString key) {

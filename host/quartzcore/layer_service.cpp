@@ -1,6 +1,8 @@
 #include "host/quartzcore/layer_service.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 #include <vector>
 
 #include "host/quartzcore/layer.h"
@@ -37,6 +39,7 @@ LayerService::LayerService(RunLoop& loop)
 LayerService::~LayerService() {
   loop_.remove_turn_observer(turn_observer_);
   if (frame_observer_) loop_.remove_frame_observer(frame_observer_);
+  if (end_timer_) loop_.remove_timer(end_timer_);
   service = nullptr;
 }
 
@@ -53,12 +56,27 @@ void LayerService::update_frames() {
   }
 }
 
+void LayerService::wait_for_next_end() {
+  double end = std::numeric_limits<double>::infinity();
+  for (CALayer layer : animated)
+    end = std::min(end, objc::state_of<Layer>(layer).next_animation_end());
+  if (end_timer_ && end == end_time_) return;
+  if (end_timer_) loop_.remove_timer(std::exchange(end_timer_, 0));
+  if (end == std::numeric_limits<double>::infinity()) return;
+  end_time_ = end;
+  end_timer_ = loop_.add_timer(end, 0, [this] {
+    end_timer_ = 0;
+    advance_animations();
+  });
+}
+
 void LayerService::advance_animations() {
   for (const auto& layer : retained(animated))
     objc::state_of<Layer>(layer.get()).advance_animations(loop_.now());
   std::erase_if(animated,
                 [](CALayer layer) { return !objc::state_of<Layer>(layer).wants_frames(); });
   update_frames();
+  wait_for_next_end();
 }
 
 void flush_layers() {
@@ -78,6 +96,7 @@ void flush_layers() {
   }
   for (const auto& layer : retained(animated))
     objc::state_of<Layer>(layer.get()).announce_started_animations();
+  if (service) service->wait_for_next_end();
   end_implicit_transaction();
 }
 

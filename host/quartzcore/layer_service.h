@@ -25,6 +25,9 @@ class LayerService {
   RunLoop& loop() { return loop_; }
   /// Starts or stops asking for frames, after the set of animated layers changed.
   void update_frames();
+  /// Animations end when their time is over and not at the next frame, so that a chain of them
+  /// takes as long as it says.
+  void wait_for_next_end();
 
  private:
   void advance_animations();
@@ -32,6 +35,8 @@ class LayerService {
   RunLoop& loop_;
   RunLoop::Id turn_observer_;
   RunLoop::Id frame_observer_ = 0;
+  RunLoop::Id end_timer_ = 0;
+  double end_time_ = 0;
 };
 
 /// Lays out and displays all layers that are marked, until none is.

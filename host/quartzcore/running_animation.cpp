@@ -14,8 +14,6 @@ namespace {
 constexpr double kForever = std::numeric_limits<double>::infinity();
 // Beyond this many repetitions nobody waits for the end; the platform's HUGE_VALF is above it.
 constexpr float kCountsAsForever = 1e20f;
-// Frames meet a due time only up to rounding.
-constexpr double kTimeTolerance = 1e-9;
 
 std::string_view text_of(NSString string) {
   return string ? string.UTF8String() : "";

@@ -12,6 +12,9 @@
 
 namespace host::quartzcore {
 
+/// In seconds: frames and timers meet a due time only up to rounding.
+inline constexpr double kTimeTolerance = 1e-9;
+
 class TransactionGroup;
 class Animation;
 
@@ -47,7 +50,8 @@ struct RunningAnimation {
 
   /// The clock time at which it is over; infinity when never.
   double end() const;
-  bool is_over(double now) const { return now >= end(); }
+  /// The run loop may wake for the end a little early, and must not find it pending then.
+  bool is_over(double now) const { return now + kTimeTolerance >= end(); }
   /// What it makes of `underlying`, the property's value without it. Outside its time and fill
   /// that is `underlying` itself.
   Value evaluate(double now, const Value& underlying) const;
