@@ -3,7 +3,7 @@
 #include "platform/SpringBoard/SBIconListView.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 #include "platform/SpringBoard/SBUIController.h"
-#include "tests/host/springboard/phone_fixture.h"
+#include "tests/support/phone_fixture.h"
 
 namespace host::springboard {
 namespace {

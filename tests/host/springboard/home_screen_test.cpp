@@ -7,7 +7,7 @@
 #include "platform/SpringBoard/SBUIController.h"
 #include "platform/UIKit/UIApplication.h"
 #include "platform/UIKit/UIWindow.h"
-#include "tests/host/springboard/phone_fixture.h"
+#include "tests/support/phone_fixture.h"
 
 namespace host::springboard {
 namespace {

@@ -3,7 +3,7 @@
 #include "platform/SpringBoard/SBControlCenterContainerView.h"
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
-#include "tests/host/springboard/phone_fixture.h"
+#include "tests/support/phone_fixture.h"
 
 namespace host::springboard {
 namespace {

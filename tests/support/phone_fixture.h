@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/quartzcore/layer_service.h"
+#include "host/runtime/device_model.h"
 #include "host/springboard/model/grid_metrics.h"
 #include "host/uikit/gesture/touch_input.h"
 #include "platform/SpringBoard/SBIconController.h"
@@ -12,7 +13,7 @@
 #include "platform/SpringBoard/SpringBoard.h"
 #include "tests/support/host_test.h"
 
-namespace host::springboard::test {
+namespace host::test {
 
 inline constexpr const char* kMusic = "com.apple.Music";
 inline constexpr const char* kPhone = "com.apple.mobilephone";
@@ -24,7 +25,8 @@ inline constexpr const char* kCalculator = "com.apple.calculator";
 /// test's own, and a finger to use it.
 class PhoneTest : public host::test::HostTest {
  public:
-  explicit PhoneTest(std::string_view model = "iPhone7,2");
+  explicit PhoneTest(std::string_view model = kDefaultDevice);
+  explicit PhoneTest(const DeviceModel& model);
   ~PhoneTest() override;
 
   /// Reads the device and shows the home screen; a second call is a restart.
@@ -60,4 +62,4 @@ class PhoneTest : public host::test::HostTest {
   CGPoint finger_;
 };
 
-}  // namespace host::springboard::test
+}  // namespace host::test

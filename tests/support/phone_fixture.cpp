@@ -1,9 +1,8 @@
-#include "tests/host/springboard/phone_fixture.h"
+#include "tests/support/phone_fixture.h"
 
 #include <cmath>
 
 #include "host/quartzcore/exports.h"
-#include "host/runtime/device_model.h"
 #include "host/springboard/configuration.h"
 #include "host/springboard/exports.h"
 #include "host/springboard/model/strings.h"
@@ -14,7 +13,7 @@
 #include "host/uikit/view/exports.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
-namespace host::springboard::test {
+namespace host::test {
 namespace {
 
 constexpr int kFinger = 1;
@@ -25,23 +24,25 @@ void export_platform() {
   uikit::export_views();
   uikit::export_text();
   uikit::export_scroll();
-  export_springboard();
+  springboard::export_springboard();
 }
 
 }  // namespace
 
-PhoneTest::PhoneTest(std::string_view model) {
-  set_current_device(*device_model(model));
+PhoneTest::PhoneTest(std::string_view model) : PhoneTest(*device_model(model)) {}
+
+PhoneTest::PhoneTest(const DeviceModel& model) {
+  set_current_device(model);
   export_platform();
   std::string pattern = (std::filesystem::temp_directory_path() / "phone-XXXXXX").string();
   device = mkdtemp(pattern.data());
   std::filesystem::copy(SONAVUE_APPLICATIONS, device / "Applications",
                         std::filesystem::copy_options::recursive);
-  Configuration configuration;
+  springboard::Configuration configuration;
   configuration.applications_folder = (device / "Applications").string();
   configuration.icon_state_path = (device / "IconState.plist").string();
   configuration.pictures_folder = SONAVUE_SPRINGBOARD_PICTURES;
-  configure(configuration);
+  springboard::configure(configuration);
   layers = std::make_unique<quartzcore::LayerService>(loop);
 }
 
@@ -63,7 +64,7 @@ void PhoneTest::end() {
   objc::AutoreleasePool pool;
   application.release();
   application = nil;
-  forget_springboard();
+  springboard::forget_springboard();
 }
 
 void PhoneTest::remove_application(const std::string& name) const {
@@ -71,7 +72,8 @@ void PhoneTest::remove_application(const std::string& name) const {
 }
 
 SBIcon PhoneTest::icon(const std::string& bundle) const {
-  return SBIconController::sharedInstance().model().expectedIconForDisplayIdentifier(to_ns(bundle));
+  return SBIconController::sharedInstance().model().expectedIconForDisplayIdentifier(
+      springboard::to_ns(bundle));
 }
 
 SBIconView PhoneTest::icon_view(const std::string& bundle) const {
@@ -117,4 +119,4 @@ void PhoneTest::drag(CGPoint from, CGPoint to, double seconds, double rest) {
   advance(rest);
 }
 
-}  // namespace host::springboard::test
+}  // namespace host::test
