@@ -5,14 +5,13 @@
 
 #include "host/console/globals.h"
 #include "host/foundation/device_paths.h"
-#include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
 #include "host/launcher/home_screen/console_phone.h"
 #include "host/launcher/home_screen/console_service.h"
+#include "host/launcher/home_screen/launch.h"
 #include "host/launcher/home_screen/music.h"
 #include "host/launcher/home_screen/passing_time.h"
 #include "host/launcher/home_screen/phone_screen.h"
-#include "host/launcher/home_screen/platform_classes.h"
 #include "host/launcher/home_screen/process_options.h"
 #include "host/launcher/home_screen/window_input.h"
 #include "host/launcher/home_screen/window_service.h"
@@ -20,17 +19,12 @@
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
-#include "host/springboard/configuration.h"
-#include "host/uikit/application/application.h"
 #include "objc/autorelease_pool.h"
 
 namespace {
 
 using namespace host;
 using launcher::ProcessOptions;
-
-constexpr const char* kProcessName = "SpringBoard";
-constexpr const char* kBundleIdentifier = "com.apple.springboard";
 
 /// The process's clock, whose time somebody makes: the machine or the console.
 class ProcessClock {
@@ -51,25 +45,6 @@ class ProcessClock {
   RealClock real_;
   std::optional<SteppedClock> stepped_;
 };
-
-/// Pictures of a phone whose clock is stepped have to be the same tomorrow.
-const springboard::WallClock& wall_clock(bool stepped) {
-  static const springboard::FixedWallClock fixed;
-  static const springboard::SystemWallClock system;
-  if (stepped) return fixed;
-  return system;
-}
-
-void launch(const ProcessOptions& options) {
-  launcher::export_platform_classes();
-  foundation::take_foundation_log();
-  springboard::Configuration configuration;
-  configuration.wall_clock = &wall_clock(options.stepped);
-  springboard::configure(configuration);
-  launcher::start_music(options);
-  foundation::load_libraries(kBundleIdentifier, kProcessName);
-  uikit::launch_application(kProcessName);
-}
 
 console::Globals shared_globals() {
   console::Globals globals;
@@ -113,7 +88,7 @@ int run(const ProcessOptions& options) {
   launcher::WindowInput input(hands, [&loop] { loop.stop(); });
   auto display = open_display(options, loop, input);
   if (!display) return launcher::kCannotStart;
-  launch(options);
+  launcher::launch_home_screen(options);
   launcher::PhoneScreen phone_screen(loop, *display->screen);
 
   launcher::ConsolePhone phone(
@@ -133,7 +108,7 @@ int run(const ProcessOptions& options) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  start_log(kProcessName);
+  start_log(launcher::kHomeScreen);
   const auto options = launcher::read_process_options(count, arguments);
   if (!options) {
     std::fputs("SpringBoard is started by sonavue.\n", stderr);
