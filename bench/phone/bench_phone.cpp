@@ -1,0 +1,105 @@
+#include "bench/phone/bench_phone.h"
+
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+
+#include "host/foundation/device_paths.h"
+#include "host/foundation/loader.h"
+#include "host/launcher/device_root.h"
+#include "host/launcher/home_screen/launch.h"
+#include "host/launcher/home_screen/music.h"
+#include "host/launcher/installation.h"
+#include "host/runtime/device_model.h"
+#include "host/runtime/log.h"
+
+namespace bench {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace host;
+
+constexpr const char* kDevice = "iPhone7,2";
+constexpr const char* kPreferences =
+    "var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist";
+
+fs::path new_device() {
+  std::string name = (fs::temp_directory_path() / "bench-phone-XXXXXX").string();
+  require(mkdtemp(name.data()) != nullptr, "a folder for the device");
+  const fs::path root = name;
+  require(!launcher::prepare_device_root(root), "a device");
+  const auto problem = launcher::stage(launcher::find_installation().staging, root, {});
+  require(!problem, problem.value_or(""));
+  return root;
+}
+
+}  // namespace
+
+void require(bool is_so, std::string_view what) {
+  if (is_so) return;
+  std::fprintf(stderr, "this benchmark measured nothing: %.*s\n", static_cast<int>(what.size()),
+               what.data());
+  std::exit(EXIT_FAILURE);
+}
+
+BenchPhone::BenchPhone(std::string_view preferences) : root_(new_device()) {
+  write_preferences(preferences);
+  RunLoop::set_main(&loop_);
+  foundation::set_device_root(root_);
+  set_current_device(*device_model(kDevice));
+  layers_ = std::make_unique<quartzcore::LayerService>(loop_);
+  launcher::ProcessOptions options;
+  options.device = kDevice;
+  options.root = root_;
+  options.headless = true;
+  options.stepped = true;
+  launcher::launch_home_screen(options);
+  phone_screen_ = std::make_unique<launcher::PhoneScreen>(loop_, screen_);
+  console_phone_ = std::make_unique<launcher::ConsolePhone>(
+      hands_, launcher::ConsolePhone::Parts{
+                  [this](double seconds) { loop_.advance_to(clock_, clock_.now() + seconds); },
+                  [this](const std::string& file) { return phone_screen_->write(file); },
+                  fs::temp_directory_path()});
+  for (const auto& library : foundation::loaded_libraries())
+    globals_.add_table(static_cast<const console::ExportedGlobal*>(
+        dlsym(library.handle, console::Globals::kTableSymbol)));
+  session_ = std::make_unique<console::Session>(*console_phone_, globals_);
+  require(globals_.has("musicIcon"), "the extension is not loaded");
+}
+
+BenchPhone::~BenchPhone() {
+  launcher::stop_music();
+  phone_screen_.reset();
+  fs::remove_all(root_);
+}
+
+void BenchPhone::write_preferences(std::string_view text) const {
+  const fs::path file = root_ / kPreferences;
+  fs::create_directories(file.parent_path());
+  std::ofstream(file) << text;
+}
+
+std::string BenchPhone::run(std::string_view line) {
+  const console::Answer answer = session_->execute(line);
+  require(answer.kind != console::Answer::Kind::Error, std::string(line) + ": " + answer.text);
+  return answer.text;
+}
+
+void BenchPhone::frame() {
+  loop_.advance_to(clock_, clock_.now() + RunLoop::kFrame);
+}
+
+std::vector<std::uint32_t> BenchPhone::pixels() const {
+  const screen::Picture& picture = screen_.picture();
+  std::vector<std::uint32_t> copy(static_cast<std::size_t>(picture.width) * picture.height);
+  for (int y = 0; y < picture.height; ++y)
+    std::memcpy(copy.data() + static_cast<std::size_t>(y) * picture.width,
+                picture.pixels + static_cast<std::ptrdiff_t>(y) * picture.stride,
+                static_cast<std::size_t>(picture.width) * 4);
+  return copy;
+}
+
+}  // namespace bench

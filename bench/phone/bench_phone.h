@@ -1,0 +1,73 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/console/session.h"
+#include "host/launcher/home_screen/console_phone.h"
+#include "host/launcher/home_screen/phone_screen.h"
+#include "host/quartzcore/layer_service.h"
+#include "objc/autorelease_pool.h"
+
+namespace bench {
+
+/// What is on the phone's screen after a frame.
+class WatchedScreen final : public host::screen::Screen {
+ public:
+  void show(const host::screen::Picture& picture,
+            std::span<const host::screen::PixelRect>) override {
+    picture_ = picture;
+    ++frames_;
+  }
+  const host::screen::Picture& picture() const { return picture_; }
+  int frames() const { return frames_; }
+
+ private:
+  host::screen::Picture picture_;
+  int frames_ = 0;
+};
+
+/// A whole phone in this process, on a new device and a stepped clock, with the extension loaded
+/// and the demo music in its library. One lives at a time.
+class BenchPhone {
+ public:
+  /// The preferences are the text of a property list, there before the extension is.
+  explicit BenchPhone(std::string_view preferences);
+  ~BenchPhone();
+  BenchPhone(const BenchPhone&) = delete;
+  BenchPhone& operator=(const BenchPhone&) = delete;
+
+  void write_preferences(std::string_view text) const;
+  /// Carries out a line of the console; ends the program if that is refused.
+  std::string run(std::string_view line);
+  /// Moves the clock on to the next frame of the screen and serves all that is due until then.
+  void frame();
+  void touch(host::screen::TouchPhase phase, CGPoint point) { hands_.touch(kFinger, phase, point); }
+
+  const WatchedScreen& screen() const { return screen_; }
+  /// A copy of what is on the screen, row by row without gaps.
+  std::vector<std::uint32_t> pixels() const;
+
+ private:
+  static constexpr int kFinger = 1;
+
+  std::filesystem::path root_;
+  host::SteppedClock clock_;
+  host::RunLoop loop_{clock_};
+  objc::AutoreleasePool pool_;
+  WatchedScreen screen_;
+  std::unique_ptr<host::quartzcore::LayerService> layers_;
+  host::launcher::Hands hands_{loop_};
+  std::unique_ptr<host::launcher::PhoneScreen> phone_screen_;
+  std::unique_ptr<host::launcher::ConsolePhone> console_phone_;
+  host::console::Globals globals_;
+  std::unique_ptr<host::console::Session> session_;
+};
+
+/// Ends the program with the reason when what was measured is not what was meant to be.
+void require(bool is_so, std::string_view what);
+
+}  // namespace bench
