@@ -23,6 +23,16 @@ std::string check_device(const std::string& identifier) {
   return "no device is called " + identifier + "; there are " + known;
 }
 
+std::string all_devices() {
+  std::string names;
+  for (const DeviceModel& model : device_models()) {
+    if (!names.empty()) names += ", ";
+    names += model.identifier;
+    if (model.identifier == kDefaultDevice) names += " (at first)";
+  }
+  return names;
+}
+
 std::string check_music(const std::string& folder) {
   std::error_code error;
   if (fs::is_directory(folder, error)) return {};
@@ -59,7 +69,7 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
 
   CLI::App parser(kDescription, "sonavue");
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
-  parser.add_option("--device", options.device, "Which phone or tablet to be, as iPhone7,2")
+  parser.add_option("--device", options.device, "Which phone or tablet to be: " + all_devices())
       ->check(check_device);
   parser.add_option("--root", options.root, "Folder that holds the device's own files");
   parser.add_option("--music", options.music, "Folder of music; may be given more than once")

@@ -2,8 +2,15 @@
 
 #include "host/springboard/system_actions.h"
 #include "host/uikit/text/key_input.h"
+#include "platform/SpringBoard/SBMediaController.h"
 
 namespace host::launcher {
+namespace {
+
+// Sixteen presses from silence to the loudest.
+constexpr float kVolumeStep = 1.0f / 16;
+
+}  // namespace
 
 void Hands::touch(int finger, screen::TouchPhase phase, CGPoint point) {
   const double now = loop_.now();
@@ -44,9 +51,14 @@ Hands::Refusal Hands::press(screen::Button button) {
     case screen::Button::Lock:
       springboard::lock();
       return std::nullopt;
-    default:
-      return "the volume buttons are not connected yet";
+    case screen::Button::VolumeUp:
+      SBMediaController::sharedInstance()._changeVolumeBy(kVolumeStep);
+      return std::nullopt;
+    case screen::Button::VolumeDown:
+      SBMediaController::sharedInstance()._changeVolumeBy(-kVolumeStep);
+      return std::nullopt;
   }
+  return std::nullopt;
 }
 
 }  // namespace host::launcher
