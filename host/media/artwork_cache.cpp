@@ -29,14 +29,18 @@ std::vector<std::uint8_t> bytes_of_file(const std::string& path) {
 }  // namespace
 
 std::shared_ptr<const Picture> ArtworkCache::picture(const Track& track, int longest_side) {
-  if (!track.has_artwork()) return nullptr;
+  if (!track.has_artwork() || broken_.contains(track.artwork_key)) return nullptr;
   const Key key{track.artwork_key, longest_side};
   if (const auto known = by_key_.find(key); known != by_key_.end()) {
     entries_.splice(entries_.begin(), entries_, known->second);
     return known->second->picture;
   }
   auto decoded = decode(track, longest_side);
-  keep(key, decoded);
+  if (decoded) {
+    keep(key, decoded);
+  } else {
+    broken_.insert(track.artwork_key);
+  }
   return decoded;
 }
 
@@ -64,7 +68,7 @@ void ArtworkCache::keep(Key key, std::shared_ptr<const Picture> picture) {
 }
 
 std::size_t ArtworkCache::cost(const Entry& entry) {
-  return entry_overhead + (entry.picture ? entry.picture->byte_count() : 0);
+  return entry_overhead + entry.picture->byte_count();
 }
 
 }  // namespace host::media

@@ -4,6 +4,7 @@
 #include <list>
 #include <map>
 #include <memory>
+#include <unordered_set>
 
 #include "host/media/picture.h"
 #include "host/media/track.h"
@@ -31,7 +32,7 @@ class ArtworkCache {
   };
   struct Entry {
     Key key;
-    std::shared_ptr<const Picture> picture;  // Null for a picture that cannot be decoded.
+    std::shared_ptr<const Picture> picture;
   };
 
   std::shared_ptr<const Picture> decode(const Track& track, int longest_side);
@@ -43,6 +44,7 @@ class ArtworkCache {
   std::size_t decode_count_ = 0;
   std::list<Entry> entries_;  // The latest used first.
   std::map<Key, std::list<Entry>::iterator> by_key_;
+  std::unordered_set<std::uint64_t> broken_;  // Artworks that cannot be decoded at any size.
 };
 
 }  // namespace host::media

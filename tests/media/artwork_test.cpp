@@ -127,6 +127,7 @@ TEST(ArtworkCache, ABrokenPictureIsLoggedOnceAndNotTriedAgain) {
   ArtworkCache cache{1 << 20};
   EXPECT_FALSE(cache.picture(track_with_picture(9, path), 50));
   EXPECT_FALSE(cache.picture(track_with_picture(9, path), 50));
+  EXPECT_FALSE(cache.picture(track_with_picture(9, path), 100));
   EXPECT_EQ(cache.decode_count(), 1u);
   EXPECT_EQ(log.count("cannot be shown"), 1);
 }
