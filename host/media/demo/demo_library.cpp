@@ -1,11 +1,14 @@
 #include "host/media/demo/demo_library.h"
 
 #include <fmt/core.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <condition_variable>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <mutex>
@@ -153,13 +156,22 @@ class Studio {
   std::size_t threads_done_ = 0;
 };
 
-// Folders that a killed run left behind; they are of no use to anybody.
+bool is_running(pid_t process) {
+  return ::kill(process, 0) == 0 || errno == EPERM;
+}
+
+// Folders that a killed run left behind; they are of no use to anybody. Another phone may be making
+// its music at this moment, and its folder is left alone.
 void remove_leftovers(const fs::path& folder) {
   const std::string prefix = folder.filename().string() + ".making-";
   std::error_code error;
   for (const fs::directory_entry& entry : fs::directory_iterator{folder.parent_path(), error}) {
+    const std::string name = entry.path().filename().string();
+    if (!name.starts_with(prefix)) continue;
+    const pid_t maker = std::atoi(name.c_str() + prefix.size());
+    if (maker > 0 && maker != ::getpid() && is_running(maker)) continue;
     std::error_code ignored;
-    if (entry.path().filename().string().starts_with(prefix)) fs::remove_all(entry.path(), ignored);
+    fs::remove_all(entry.path(), ignored);
   }
 }
 
