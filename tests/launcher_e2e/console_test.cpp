@@ -1,0 +1,87 @@
+#include <map>
+
+#include "tests/launcher_e2e/phone_test.h"
+
+namespace {
+
+using namespace launcher_e2e;
+using testing::StartsWith;
+
+using Console = PhoneTest;
+
+const char* const kLooks[] = {
+    "print isShow",
+    "print [musicIcon frame]",
+    "print [music frame]",
+    "print [cover alpha]",
+    "print [[SBIconController sharedInstance] isEditing]",
+};
+
+std::vector<std::string> state_of(RunningPhone& phone) {
+  std::vector<std::string> state;
+  for (const char* look : kLooks)
+    state.push_back(phone.ask(look));
+  return state;
+}
+
+TEST_F(Console, LinesThatCannotBeUnderstoodNameTheColumnAndChangeNothing) {
+  RunningPhone phone(headless({"--console"}));
+  ASSERT_EQ(phone.ask("advance 1"), "ok");
+  const auto before = state_of(phone);
+  ASSERT_EQ(before[0], "NO");
+
+  const std::map<std::string, int> lines = {
+      {"frobnicate", 1},
+      {"  frobnicate", 3},
+      {"advance", 8},
+      {"advance soon", 9},
+      {"advance -1", 9},
+      {"advance 1e99", 9},
+      {"tap 10", 7},
+      {"tap 10 20 1 more", 13},
+      {"tap on nil", 8},
+      {"touch flew 1 2", 7},
+      {"drag 1 2 3", 11},
+      {"drag 187 300 187 500 nan", 22},
+      {"button fire", 8},
+      {"system edit perhaps", 8},
+      {"system open", 12},
+      {"print", 6},
+      {"print @\"not closed", 7},
+      {"print {1, 2", 12},
+      {"print [[UIScreen mainScreen]", 29},
+      {"print nobodyKnowsThis", 7},
+      {"print [NoSuchClass new]", 8},
+      {"print [UIView frobnicate]", 15},
+      {"expect isShow", 14},
+      {"expect isShow <> NO", 16},
+      {"screenshot", 11},
+  };
+  for (const auto& [line, column] : lines) {
+    const std::string answer = phone.ask(line);
+    EXPECT_THAT(answer, StartsWith("error: ")) << line;
+    EXPECT_TRUE(answer.ends_with("(column " + std::to_string(column) + ")"))
+        << line << " -> " << answer;
+  }
+  EXPECT_EQ(state_of(phone), before);
+}
+
+TEST_F(Console, LinesOfAbsurdSizeAreRefusedAndTheNextIsServed) {
+  RunningPhone phone(headless({"--console"}));
+  EXPECT_THAT(phone.ask("print " + std::string(5000, '[')), StartsWith("error: "));
+  EXPECT_THAT(phone.ask("print @\"" + std::string(1 << 20, 'a') + "\""), StartsWith("error: "));
+  EXPECT_THAT(phone.ask("print @\"\xff\xfe\""), StartsWith("error: "));
+  EXPECT_EQ(phone.ask("print isShow"), "NO");
+  EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
+}
+
+TEST_F(Console, MessagesThatRaiseAreErrorsAndThePhoneGoesOn) {
+  RunningPhone phone(headless({"--console"}));
+  const pid_t process = phone.wait_for_home_screen_after(0);
+  EXPECT_THAT(phone.ask("print [@\"abc\" substringFromIndex:99]"), StartsWith("error: "));
+  EXPECT_THAT(phone.ask("print [[NSArray array] objectAtIndex:5]"), StartsWith("error: "));
+  EXPECT_EQ(phone.ask("print [nil description]"), "nil");
+  EXPECT_EQ(phone.home_screen(), process);
+}
+
+}  // namespace

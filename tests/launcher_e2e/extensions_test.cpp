@@ -1,0 +1,59 @@
+#include <fstream>
+
+#include "tests/launcher_e2e/phone_test.h"
+
+namespace {
+
+using namespace launcher_e2e;
+
+class Extensions : public PhoneTest {
+ protected:
+  void install(const std::string& name, const fs::path& library) {
+    fs::create_directories(libraries());
+    fs::copy_file(library, libraries() / (name + ".so"));
+    std::ofstream(libraries() / (name + ".plist"))
+        << "{ Filter = { Bundles = (\"com.apple.springboard\"); }; }\n";
+  }
+};
+
+TEST_F(Extensions, OneThatCrashesFiveTimesAtLoadIsLeftOutAndThePhoneStartsWithTheOthers) {
+  install("Crasher", TEST_CRASHING_EXTENSION);
+  RunningPhone phone(headless());
+  ASSERT_TRUE(phone.waits_for_error("loaded Sonavue2"));
+  EXPECT_EQ(phone.count_of_errors_with("SpringBoard ended by signal 6"), 5);
+  EXPECT_EQ(phone.count_of_errors_with("Crasher is left out: it crashed 5 times"), 1);
+  EXPECT_EQ(phone.count_of_errors_with("loaded Crasher"), 0);
+}
+
+TEST_F(Extensions, OneThatWasLeftOutStaysSoAtTheNextStart) {
+  install("Crasher", TEST_CRASHING_EXTENSION);
+  {
+    RunningPhone phone(headless());
+    ASSERT_TRUE(phone.waits_for_error("loaded Sonavue2"));
+  }
+  RunningPhone phone(headless({"--console"}));
+  EXPECT_EQ(phone.ask("print isShow"), "NO");
+  EXPECT_EQ(phone.count_of_errors_with("Crasher is left out"), 1);
+  EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
+}
+
+TEST_F(Extensions, AnotherOneOfAnotherShapeWorksBesideOurs) {
+  install("Whisper", TEST_EXTENSION);
+  RunningPhone phone(headless({"--console"}));
+  EXPECT_EQ(phone.ask("print [@\"hello\" uppercaseString]"), "\"HELLO (whispered)\"");
+  EXPECT_EQ(phone.ask("print isShow"), "NO");
+  EXPECT_EQ(phone.count_of_errors_with("loaded Sonavue2"), 1);
+  EXPECT_EQ(phone.count_of_errors_with("loaded Whisper"), 1);
+}
+
+TEST_F(Extensions, AFileThatIsNoLibraryIsOneLineAndNoCrash) {
+  fs::create_directories(libraries());
+  media_tests::write_bytes(libraries() / "Nonsense.so", "this is no library");
+  std::ofstream(libraries() / "Nonsense.plist")
+      << "{ Filter = { Bundles = (\"com.apple.springboard\"); }; }\n";
+  RunningPhone phone(headless({"--console"}));
+  EXPECT_EQ(phone.ask("print isShow"), "NO");
+  EXPECT_EQ(phone.count_of_errors_with("Nonsense is left out"), 1);
+}
+
+}  // namespace

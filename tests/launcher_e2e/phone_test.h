@@ -1,0 +1,55 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/launcher_e2e/running_phone.h"
+#include "tests/support/media_fixtures.h"
+
+namespace launcher_e2e {
+
+namespace fs = std::filesystem;
+
+/// A new device and a folder with one song, for one test.
+class PhoneTest : public testing::Test {
+ protected:
+  using Arguments = std::vector<std::string>;
+
+  PhoneTest() {
+    fs::create_directories(music());
+    media_tests::write_tone(music() / "tone.flac");
+    // Sockets of a device that was ended by force go with the folder.
+    setenv("XDG_RUNTIME_DIR", folder_.path().c_str(), 1);
+  }
+  ~PhoneTest() override { unsetenv("XDG_RUNTIME_DIR"); }
+
+  fs::path folder() const { return folder_.path(); }
+  fs::path root() const { return folder() / "root"; }
+  fs::path music() const { return folder() / "music"; }
+  fs::path libraries() const { return root() / "Library/MobileSubstrate/DynamicLibraries"; }
+  fs::path preferences() const {
+    return root() / "var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist";
+  }
+
+  Arguments headless(const Arguments& more = {}) const {
+    Arguments made = {"--headless", "--root", root(), "--music", music()};
+    made.insert(made.end(), more.begin(), more.end());
+    return made;
+  }
+
+  /// A device that has run once and was switched off in good order.
+  void run_once() {
+    RunningPhone phone(headless({"--console"}));
+    ASSERT_EQ(phone.ask("quit"), "ok");
+    ASSERT_EQ(phone.wait_for_end(), 0);
+  }
+
+ private:
+  media_tests::TemporaryFolder folder_;
+};
+
+}  // namespace launcher_e2e
