@@ -41,8 +41,8 @@ class DemoLibrary : public testing::Test {
       write_bytes(*folder_ / ("covers/cover-" + std::to_string(i) + ".png"),
                   as_text(png_picture(600, 600, 0x111111 * i)));
     }
-    fs::create_directories(*folder_ / ("Music.making-" + ended_process()) / "half");
-    fs::create_directories(*folder_ / ("Music.making-" + std::to_string(::getppid())) / "half");
+    fs::create_directories(*folder_ / ("Music.making-" + ended_process() + "/half"));
+    fs::create_directories(*folder_ / ("Music.making-" + std::to_string(::getppid()) + "/half"));
     error_ = make_demo_library(*folder_ / "Music", *folder_ / "covers",
                                [](DemoProgress progress) { reports_.push_back(progress); });
     Index index{*folder_ / "music.db"};
