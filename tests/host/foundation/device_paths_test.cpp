@@ -1,5 +1,7 @@
 #include "host/foundation/device_paths.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -22,7 +24,9 @@ struct Dictionary : objc::Bound<Dictionary, "NSDictionary", NSObject> {
 };
 
 struct DevicePathsTest : host::test::HostTest {
-  DevicePathsTest() : root(std::filesystem::temp_directory_path() / "device-paths-test") {
+  DevicePathsTest()
+      : root(std::filesystem::temp_directory_path() /
+             ("device-paths-" + std::to_string(getpid()))) {
     std::filesystem::remove_all(root);
     std::filesystem::create_directories(root / "var/mobile/Library/Preferences");
     host::foundation::set_device_root(root.string());
