@@ -157,13 +157,12 @@ TEST_F(MediaLibraryClasses, WithoutTheServiceTheLibraryIsEmpty) {
   EXPECT_EQ(query_->items().count(), 0u);
 }
 
-TEST(ItemStore, AnItemIsMadeOnlyWhenItIsAskedFor) {
+TEST_F(MediaLibraryClasses, AnItemIsMadeOnlyWhenItIsAskedFor) {
   std::vector<host::media::SongRecord> songs(3);
   for (std::size_t i = 0; i < songs.size(); ++i) {
     songs[i].id = i + 1;
     songs[i].tags.title = std::string(1, static_cast<char>('a' + i));
   }
-  const objc::AutoreleasePool pool;
   host::media_player::ItemStore store{host::media::Library::build(songs)};
   EXPECT_EQ(store.made_count(), 0u);
   const MPMediaItem item = store.item(1);
