@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <vector>
 
 namespace host::quartzcore {
@@ -12,104 +11,135 @@ namespace {
 constexpr int kLargestReduction = 8;
 // Three passes of a box come close to the bell curve of the platform's blur.
 constexpr int kPasses = 3;
+constexpr float kMost = 255;
 
-struct Pixels {
-  std::uint8_t* bytes;
-  int stride;
-  int width;
-  int height;
+Channels same(double value) {
+  return Channels{} + static_cast<float>(value);
+}
 
-  std::uint8_t* at(int x, int y) const { return bytes + y * stride + x * 4; }
+/// Pixels beyond the ends of a line repeat the last one.
+class Line {
+ public:
+  void take(const Channels* pixels, int count) { copy_.assign(pixels, pixels + count); }
+  const Channels& operator[](int i) const {
+    return copy_[static_cast<std::size_t>(std::clamp(i, 0, static_cast<int>(copy_.size()) - 1))];
+  }
+
+ private:
+  std::vector<Channels> copy_;
 };
 
-Pixels pixels_of(const Surface& surface) {
-  cairo_surface_flush(surface.get());
-  return {cairo_image_surface_get_data(surface.get()),
-          cairo_image_surface_get_stride(surface.get()), width_of(surface), height_of(surface)};
-}
-
-/// One line of `count` pixels `step` bytes apart; pixels beyond its ends repeat the last one.
-void blur_line(std::uint8_t* line, int count, int step, int radius,
-               std::vector<std::uint8_t>& copy) {
-  copy.resize(static_cast<std::size_t>(count) * 4);
-  for (int i = 0; i < count; ++i)
-    std::copy_n(line + i * step, 4, copy.data() + i * 4);
-  const int size = 2 * radius + 1;
-  for (int channel = 0; channel < 3; ++channel) {
-    const auto source = [&](int i) {
-      return static_cast<int>(
-          copy[static_cast<std::size_t>(std::clamp(i, 0, count - 1) * 4 + channel)]);
-    };
-    int sum = 0;
+void blur_rows(SmallPicture& picture, int radius) {
+  const Channels share = same(1.0 / (2 * radius + 1));
+  Line source;
+  for (int y = 0; y < picture.height; ++y) {
+    Channels* row = picture.row(y);
+    source.take(row, picture.width);
+    Channels sum{};
     for (int i = -radius; i <= radius; ++i)
-      sum += source(i);
-    for (int i = 0; i < count; ++i) {
-      line[i * step + channel] = static_cast<std::uint8_t>((sum + size / 2) / size);
-      sum += source(i + radius + 1) - source(i - radius);
+      sum += source[i];
+    for (int x = 0; x < picture.width; ++x) {
+      row[x] = sum * share;
+      sum += source[x + radius + 1] - source[x - radius];
     }
   }
 }
 
-void blur(const Pixels& pixels, int radius) {
+// Row by row as well, with a sum for each column.
+void blur_columns(SmallPicture& picture, int radius) {
+  const Channels share = same(1.0 / (2 * radius + 1));
+  const std::vector<Channels> copy = picture.pixels;
+  const auto source = [&](int y) {
+    return copy.data() +
+           static_cast<std::ptrdiff_t>(std::clamp(y, 0, picture.height - 1)) * picture.width;
+  };
+  std::vector<Channels> sums(static_cast<std::size_t>(picture.width));
+  for (int i = -radius; i <= radius; ++i) {
+    for (int x = 0; x < picture.width; ++x)
+      sums[static_cast<std::size_t>(x)] += source(i)[x];
+  }
+  for (int y = 0; y < picture.height; ++y) {
+    const Channels* enters = source(y + radius + 1);
+    const Channels* leaves = source(y - radius);
+    Channels* row = picture.row(y);
+    for (int x = 0; x < picture.width; ++x) {
+      Channels& sum = sums[static_cast<std::size_t>(x)];
+      row[x] = sum * share;
+      sum += enters[x] - leaves[x];
+    }
+  }
+}
+
+void blur(SmallPicture& picture, int radius) {
   if (radius < 1) return;
-  std::vector<std::uint8_t> copy;
   for (int pass = 0; pass < kPasses; ++pass) {
-    for (int y = 0; y < pixels.height; ++y)
-      blur_line(pixels.at(0, y), pixels.width, 4, radius, copy);
-    for (int x = 0; x < pixels.width; ++x)
-      blur_line(pixels.at(x, 0), pixels.height, pixels.stride, radius, copy);
+    blur_rows(picture, radius);
+    blur_columns(picture, radius);
   }
 }
 
-struct Mixer {
-  const BackdropLook& look;
-  double luminance_sum = 0;
-
-  static double screened(double base, double light, double alpha) {
-    return base + (1 - (1 - base) * (1 - light) - base) * alpha;
+/// The look as arithmetic on channels from 0 to 255. All that follows the limits of brightness is
+/// one multiplication and one addition.
+class Mixer {
+ public:
+  explicit Mixer(const BackdropLook& look)
+      : saturation_(same(look.saturation)), brightness_(same(look.brightness * kMost)) {
+    towards(same(look.gray_level), look.gray_alpha);
+    towards(channels_of(look.tint), look.tint.alpha);
+    // Screening with a light: what is missing to white shrinks.
+    const Channels light = channels_of(look.lighten) * same(look.lighten.alpha);
+    factor_ *= same(1) - light;
+    rest_ = rest_ * (same(1) - light) + light * same(kMost);
   }
 
-  void mix(std::uint8_t* pixel) {
-    double channels[3] = {pixel[2] / 255.0, pixel[1] / 255.0, pixel[0] / 255.0};
-    const double luminance = 0.2126 * channels[0] + 0.7152 * channels[1] + 0.0722 * channels[2];
-    luminance_sum += luminance;
-    const double tint[3] = {look.tint.red, look.tint.green, look.tint.blue};
-    const double light[3] = {look.lighten.red, look.lighten.green, look.lighten.blue};
-    for (int i = 0; i < 3; ++i) {
-      double value = luminance + (channels[i] - luminance) * look.saturation + look.brightness;
-      value = std::clamp(value, 0.0, 1.0);
-      value += (look.gray_level - value) * look.gray_alpha;
-      value += (tint[i] - value) * look.tint.alpha;
-      value = screened(value, light[i], look.lighten.alpha);
-      pixel[2 - i] = static_cast<std::uint8_t>(std::lround(std::clamp(value, 0.0, 1.0) * 255));
-    }
-    pixel[3] = 255;
+  Channels mix(const Channels& pixel) {
+    const float luminance = 0.0722F * pixel[0] + 0.7152F * pixel[1] + 0.2126F * pixel[2];
+    luminance_sum_ += static_cast<double>(luminance);
+    const Channels gray = same(static_cast<double>(luminance));
+    return limited(limited(gray + (pixel - gray) * saturation_ + brightness_) * factor_ + rest_);
   }
+  double luminance_sum() const { return luminance_sum_ / static_cast<double>(kMost); }
+
+ private:
+  static Channels channels_of(const Rgba& color) {
+    return Channels{static_cast<float>(color.blue), static_cast<float>(color.green),
+                    static_cast<float>(color.red), 1};
+  }
+  static Channels limited(const Channels& value) {
+    const Channels low = value < same(0) ? same(0) : value;
+    return low > same(kMost) ? same(kMost) : low;
+  }
+  void towards(const Channels& color, double alpha) {
+    factor_ *= same(1 - alpha);
+    rest_ = rest_ * same(1 - alpha) + color * same(alpha * static_cast<double>(kMost));
+  }
+
+  Channels saturation_;
+  Channels brightness_;
+  Channels factor_ = same(1);
+  Channels rest_ = same(0);
+  double luminance_sum_ = 0;
 };
 
 }  // namespace
 
-FilteredBackdrop filter_backdrop(const Surface& behind, const BackdropLook& look, double scale) {
+int reduction_for(const BackdropLook& look, double scale) {
   const double radius = look.blur_radius * scale;
   int reduction = 1;
   while (reduction < kLargestReduction && radius >= reduction * 4)
     reduction *= 2;
-  const int width = width_of(behind);
-  const int height = height_of(behind);
-  Surface small = scaled_copy(behind, (width + reduction - 1) / reduction,
-                              (height + reduction - 1) / reduction);
-  const Pixels pixels = pixels_of(small);
+  return reduction;
+}
+
+double filter_backdrop(SmallPicture& picture, const BackdropLook& look, double scale) {
   // Three boxes of radius r spread like one bell of deviation about r; the platform's radius is
   // twice that deviation.
-  blur(pixels, static_cast<int>(std::lround(radius / reduction / 2)));
+  const double radius = look.blur_radius * scale;
+  blur(picture, static_cast<int>(std::lround(radius / picture.reduction / 2)));
   Mixer mixer{look};
-  for (int y = 0; y < pixels.height; ++y) {
-    for (int x = 0; x < pixels.width; ++x)
-      mixer.mix(pixels.at(x, y));
-  }
-  cairo_surface_mark_dirty(small.get());
-  return {scaled_copy(small, width, height),
-          mixer.luminance_sum / (static_cast<double>(pixels.width) * pixels.height)};
+  for (Channels& pixel : picture.pixels)
+    pixel = mixer.mix(pixel);
+  return mixer.luminance_sum() / static_cast<double>(picture.pixels.size());
 }
 
 }  // namespace host::quartzcore

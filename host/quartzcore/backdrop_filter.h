@@ -1,18 +1,16 @@
 #pragma once
 
 #include "host/quartzcore/backdrop_layer.h"
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/small_picture.h"
 
 namespace host::quartzcore {
 
-struct FilteredBackdrop {
-  Surface surface;
-  /// Mean luminance of the blurred picture before its tints.
-  double luminance = 0;
-};
+/// How much smaller a picture may be blurred with this look so that nobody can tell; `scale` is the
+/// screen's pixels to the point.
+int reduction_for(const BackdropLook& look, double scale);
 
-/// Blurs and tints `behind`, which is opaque; `scale` is the screen's pixels to the point. The
-/// result has the size of `behind`.
-FilteredBackdrop filter_backdrop(const Surface& behind, const BackdropLook& look, double scale);
+/// Blurs and tints a picture that was reduced by `reduction_for` and gives the mean luminance of
+/// the blurred picture before its tints.
+double filter_backdrop(SmallPicture& picture, const BackdropLook& look, double scale);
 
 }  // namespace host::quartzcore

@@ -36,6 +36,7 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   entries_ = std::move(after);
   if (damage.empty()) return damage;
   ++frames_;
+  prepare_backdrops();
   for (const PixelRect& rect : damage) {
     painted_pixels_ += static_cast<std::uint64_t>(rect.area());
     paint_damage(rect);
@@ -108,14 +109,15 @@ bool Compositor::backdrop_is_ready(const RenderNode& one) const {
          found->second.place == one.own;
 }
 
-// The last drawing that hides everything before it.
-int Compositor::first_needed(const PixelRect& damage) const {
-  for (int i = static_cast<int>(tree_.nodes().size()) - 1; i >= 0; --i) {
+// The last drawing that hides everything before it, on the screen (-1) or in a group.
+int Compositor::first_needed(const PixelRect& damage, int group) const {
+  const int end = group < 0 ? static_cast<int>(tree_.nodes().size()) : node(group).end;
+  for (int i = end - 1; i > group; --i) {
     const RenderNode& one = node(i);
     if (!one.is_opaque || !one.own.contains(damage)) continue;
     if (one.layer->backdrop() && !backdrop_is_ready(one)) continue;
     bool in_group = one.is_group;
-    for (int p = one.parent; p >= 0 && !in_group; p = node(p).parent)
+    for (int p = one.parent; p > group && !in_group; p = node(p).parent)
       in_group = node(p).is_group;
     if (!in_group) return i;
   }

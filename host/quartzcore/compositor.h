@@ -8,6 +8,7 @@
 #include "host/quartzcore/image_cache.h"
 #include "host/quartzcore/layer_painter.h"
 #include "host/quartzcore/render_tree.h"
+#include "host/quartzcore/small_picture.h"
 #include "host/quartzcore/surface.h"
 
 namespace host::quartzcore {
@@ -49,7 +50,10 @@ class Compositor {
     std::uint64_t behind = 0;
     std::uint64_t frame = 0;
     PixelRect place;
+    SmallPicture small;
+    // At the screen's size; made when the blur is painted for a second time.
     Surface surface;
+    bool is_enlarged = false;
   };
   struct CachedGroup {
     std::uint64_t contents = 0;
@@ -61,17 +65,21 @@ class Compositor {
   Damage find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after);
   Damage merged(Damage damage) const;
   void paint_damage(const PixelRect& damage);
-  int first_needed(const PixelRect& damage) const;
+  int first_needed(const PixelRect& damage) const { return first_needed(damage, -1); }
+  int first_needed(const PixelRect& damage, int group) const;
   bool backdrop_is_ready(const RenderNode& node) const;
 
   void paint_node(int index, const PixelRect& damage, int first);
   void paint_contents(int index, const PixelRect& damage, int first, double opacity);
   void paint_group(int index, const PixelRect& damage);
-  void paint_backdrop(int index, double opacity);
+  void paint_backdrop(int index, const PixelRect& damage, double opacity);
+  void prepare_backdrops();
+  void blur(int index, SmallPicture behind);
   std::uint64_t contents_of_group(int index) const;
   void draw_group(int index, CachedGroup& group);
   void apply_mask(int index);
-  Surface picture_behind(const PixelRect& place) const;
+  SmallPicture small_picture_behind(const RenderNode& backdrop, int reduction) const;
+  SmallPicture small_copy_of(const RenderNode& picture, const PixelRect& place, int reduction);
   void forget_unused();
 
   const RenderNode& node(int index) const { return tree_.nodes()[static_cast<std::size_t>(index)]; }

@@ -12,7 +12,7 @@ void Compositor::paint_node(int index, const PixelRect& damage, int first) {
   if (one.is_group) {
     paint_group(index, damage);
   } else {
-    paint_contents(index, damage, first, one.properties.opacity);
+    paint_contents(index, damage, first, one.opacity);
   }
 }
 
@@ -22,7 +22,7 @@ void Compositor::paint_contents(int index, const PixelRect& damage, int first, d
   const Canvas canvas = canvases_.back();
   cairo_save(canvas.drawing.get());
   if (index >= first && intersects(one.own, damage)) {
-    if (one.layer->backdrop()) paint_backdrop(index, opacity);
+    if (one.layer->backdrop()) paint_backdrop(index, damage, opacity);
     paint_layer(canvas, one, opacity, images_);
   }
   const int first_child = one.mask >= 0 ? node(one.mask).end : index + 1;
@@ -66,10 +66,9 @@ void Compositor::paint_group(int index, const PixelRect& damage) {
 
 void Compositor::draw_group(int index, CachedGroup& group) {
   ++groups_drawn_;
-  // A drawing of its own, since the old surface may still stand in a pattern.
-  group.surface = make_surface(group.place.width, group.place.height);
+  group.surface = emptied(std::move(group.surface), group.place.width, group.place.height);
   canvases_.push_back(make_canvas(group.surface, group.place.x, group.place.y));
-  paint_contents(index, group.place, -1, 1);
+  paint_contents(index, group.place, first_needed(group.place, index), 1);
   if (node(index).layer->mask_layer()) apply_mask(index);
   canvases_.pop_back();
   cairo_surface_flush(group.surface.get());
@@ -94,7 +93,10 @@ void Compositor::apply_mask(int index) {
   cairo_set_operator(drawing, CAIRO_OPERATOR_OVER);
 }
 
-Surface Compositor::picture_behind(const PixelRect& place) const {
+// Only a group's own picture may be empty where the screen is not.
+SmallPicture Compositor::small_picture_behind(const RenderNode& backdrop, int reduction) const {
+  const PixelRect& place = backdrop.own;
+  if (canvases_.size() == 1) return reduce(canvases_.front().surface, place, reduction);
   const Surface picture = make_surface(place.width, place.height);
   const Canvas canvas = make_canvas(picture, place.x, place.y);
   for (const Canvas& below : canvases_) {
@@ -103,20 +105,69 @@ Surface Compositor::picture_behind(const PixelRect& place) const {
     paint_surface(canvas, below.surface, below.x, below.y, 1,
                   is_screen ? Opacity::Opaque : Opacity::Translucent);
   }
-  return picture;
+  return reduce(picture, {0, 0, place.width, place.height}, reduction);
 }
 
-void Compositor::paint_backdrop(int index, double opacity) {
-  const RenderNode& one = node(index);
-  CachedBackdrop& cached = backdrops_[one.serial];
-  if (!cached.surface || cached.behind != one.behind || !(cached.place == one.own)) {
-    ++blurs_;
-    BackdropLayer& backdrop = *one.layer->backdrop();
-    FilteredBackdrop made = filter_backdrop(picture_behind(one.own), backdrop.look(), scale_);
-    cached = {one.behind, frames_, one.own, std::move(made.surface)};
-    backdrop.note_luminance(made.luminance);
+// A picture that only a backdrop sees is never brought to the size of the screen.
+SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect& place,
+                                       int reduction) {
+  const Image& image = *shown.layer->contents_image();
+  const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(
+      contents_rect(*shown.layer, shown.properties.bounds), shown.to_device));
+  const Surface scaled = images_.scaled(image, std::max(1, box.width / reduction),
+                                        std::max(1, box.height / reduction));
+  const Surface small = make_surface((place.width + reduction - 1) / reduction,
+                                     (place.height + reduction - 1) / reduction);
+  const Drawing drawing = draw_on(small);
+  cairo_scale(drawing.get(), 1.0 / reduction, 1.0 / reduction);
+  cairo_translate(drawing.get(), box.x - place.x, box.y - place.y);
+  cairo_scale(drawing.get(), static_cast<double>(box.width) / width_of(scaled),
+              static_cast<double>(box.height) / height_of(scaled));
+  cairo_set_source_surface(drawing.get(), scaled.get(), 0, 0);
+  cairo_pattern_set_extend(cairo_get_source(drawing.get()), CAIRO_EXTEND_PAD);
+  cairo_pattern_set_filter(cairo_get_source(drawing.get()), CAIRO_FILTER_BILINEAR);
+  cairo_paint(drawing.get());
+  return take_reduced(small, reduction);
+}
+
+// Backdrops over nothing but a picture are blurred before anything is painted: whoever paints then
+// knows that they hide the picture.
+void Compositor::prepare_backdrops() {
+  for (int i = 0; i < static_cast<int>(tree_.nodes().size()); ++i) {
+    const RenderNode& one = node(i);
+    if (one.lone_picture < 0 || one.own.is_empty() || backdrop_is_ready(one)) continue;
+    const int reduction = reduction_for(one.layer->backdrop()->look(), scale_);
+    blur(i, small_copy_of(node(one.lone_picture), one.own, reduction));
   }
+}
+
+void Compositor::blur(int index, SmallPicture behind) {
+  ++blurs_;
+  const RenderNode& one = node(index);
+  BackdropLayer& backdrop = *one.layer->backdrop();
+  backdrop.note_luminance(filter_backdrop(behind, backdrop.look(), scale_));
+  CachedBackdrop& cached = backdrops_[one.serial];
+  cached = {one.behind, frames_, one.own, std::move(behind), std::move(cached.surface), false};
+}
+
+void Compositor::paint_backdrop(int index, const PixelRect& damage, double opacity) {
+  const RenderNode& one = node(index);
+  if (!backdrop_is_ready(one)) {
+    const int reduction = reduction_for(one.layer->backdrop()->look(), scale_);
+    blur(index, small_picture_behind(one, reduction));
+  }
+  CachedBackdrop& cached = backdrops_[one.serial];
   const Canvas& canvas = canvases_.back();
+  if (!cached.is_enlarged && cached.frame == frames_ && one.is_plain) {
+    const PixelRect part = intersection(one.own, damage);
+    return paint_enlarged(cached.small, canvas.surface, one.own.x - canvas.x, one.own.y - canvas.y,
+                          {part.x - canvas.x, part.y - canvas.y, part.width, part.height}, opacity);
+  }
+  if (!cached.is_enlarged) {
+    cached.surface = reused(std::move(cached.surface), one.own.width, one.own.height);
+    enlarge(cached.small, cached.surface);
+    cached.is_enlarged = true;
+  }
   cairo_save(canvas.drawing.get());
   clip_to_layer(canvas, one);
   paint_surface(canvas, cached.surface, one.own.x, one.own.y, opacity, Opacity::Opaque);

@@ -83,13 +83,18 @@ bool covers_its_pixels(const RenderNode& node) {
   return nearest_pixels(filled).contains(node.own);
 }
 
+/// How many pictures the layer itself paints one over the other.
+int elements_of(const RenderNode& node) {
+  const Layer& layer = *node.layer;
+  const LayerProperties& p = node.properties;
+  return (p.background_color.alpha > 0) + (layer.contents_image() != nullptr) +
+         (layer.backdrop() != nullptr) + 2 * (layer.drawing() != nullptr) + (p.border_width > 0);
+}
+
 bool draws_one_element(const RenderNode& node) {
   const Layer& layer = *node.layer;
   if (!layer.children().empty() || layer.backdrop() || layer.mask_layer()) return false;
-  const LayerProperties& p = node.properties;
-  const int elements = (p.background_color.alpha > 0) + (layer.contents_image() != nullptr) +
-                       2 * (layer.drawing() != nullptr) + (p.border_width > 0);
-  return elements <= 1;
+  return elements_of(node) <= 1;
 }
 
 std::vector<const Layer*> children_in_order(const Layer& layer) {
@@ -157,9 +162,12 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   node.is_scaling = around.is_scaling || layer.is_scaling(now);
   node.is_simple = draws_one_element(node);
   node.is_group = layer.mask_layer() || ((p.opacity < 1 || layer.rasterizes()) && !node.is_simple);
+  node.opacity = node.is_group ? 1 : p.opacity;
   node.context = mix_signature(around.context, p.opacity);
   node.own = intersection(pixels_round(CGRectApplyAffineTransform(extent_of(node), node.to_device)),
                           around.clip);
+  node.is_plain = !around.rounded_clip && !around.is_mask && is_upright(node.to_device) &&
+                  p.corner_radius <= 0 && !layer.mask_layer();
   // Inside its group a drawing is as opaque as it is; the group's opacity comes after it.
   node.is_opaque = (p.opacity >= 1 || node.is_group) && !around.rounded_clip && !around.is_mask &&
                    !layer.mask_layer() && !node.own.is_empty() && covers_its_pixels(node);
@@ -203,6 +211,7 @@ void RenderTree::add_children(int index, const Surroundings& inner, double now) 
     add(*child, inner, now);
   RenderNode& node = nodes_[static_cast<std::size_t>(index)];
   node.end = static_cast<int>(nodes_.size());
+  dissolve_group(index);
   if (node.parent >= 0) {
     RenderNode& parent = nodes_[static_cast<std::size_t>(node.parent)];
     parent.subtree = united(parent.subtree, node.subtree);
@@ -213,6 +222,53 @@ bool RenderTree::is_within(int node, int ancestor) const {
   return node >= ancestor && node < nodes_[static_cast<std::size_t>(ancestor)].end;
 }
 
+// A fading layer in whose tree one element is drawn needs no picture of its own: the element is
+// painted with the layer's opacity.
+void RenderTree::dissolve_group(int index) {
+  RenderNode& group = nodes_[static_cast<std::size_t>(index)];
+  if (!group.is_group || group.layer->mask_layer() || group.layer->rasterizes()) return;
+  int elements = 0;
+  for (int i = index; i < group.end; ++i) {
+    const RenderNode& node = nodes_[static_cast<std::size_t>(i)];
+    if (node.is_mask || (node.is_group && i != index)) return;
+    if (!node.own.is_empty()) elements += elements_of(node);
+  }
+  if (elements > 1) return;
+  const double opacity = group.properties.opacity;
+  group.is_group = false;
+  for (int i = index; i < group.end; ++i) {
+    RenderNode& node = nodes_[static_cast<std::size_t>(i)];
+    node.opacity *= opacity;
+    if (opacity < 1) node.is_opaque = false;
+  }
+}
+
+/// The last opaque drawing that fills the backdrop's place, or the first of all.
+int RenderTree::first_seen(int index) const {
+  const RenderNode& backdrop = nodes_[static_cast<std::size_t>(index)];
+  for (int j = index - 1; j > 0; --j) {
+    const RenderNode& below = nodes_[static_cast<std::size_t>(j)];
+    if (!below.is_opaque || !below.own.contains(backdrop.own)) continue;
+    bool reaches = !below.is_group || is_within(index, j);
+    for (int g = below.parent; g >= 0; g = nodes_[static_cast<std::size_t>(g)].parent)
+      reaches &= !nodes_[static_cast<std::size_t>(g)].is_group || is_within(index, g);
+    if (reaches) return j;
+  }
+  return 0;
+}
+
+int RenderTree::lone_picture(int first, int index) const {
+  const RenderNode& backdrop = nodes_[static_cast<std::size_t>(index)];
+  const RenderNode& picture = nodes_[static_cast<std::size_t>(first)];
+  const bool is_picture = picture.is_opaque && picture.own.contains(backdrop.own) &&
+                          picture.layer->contents_image() && elements_of(picture) == 1;
+  if (!is_picture) return -1;
+  for (int k = first + 1; k < index; ++k) {
+    if (intersects(nodes_[static_cast<std::size_t>(k)].own, backdrop.own)) return -1;
+  }
+  return first;
+}
+
 // What a backdrop shows depends on everything drawn before it in its place, back to the last
 // opaque drawing that fills the place. The opacity of the groups that hold the backdrop itself
 // does not matter: it is applied to the finished group.
@@ -221,16 +277,8 @@ void RenderTree::sign_backdrops() {
   for (int i = 0; i < count; ++i) {
     RenderNode& backdrop = nodes_[static_cast<std::size_t>(i)];
     if (!backdrop.layer->backdrop()) continue;
-    int first = 0;
-    for (int j = i - 1; j > 0 && first == 0; --j) {
-      const RenderNode& below = nodes_[static_cast<std::size_t>(j)];
-      if (!below.is_opaque || !below.own.contains(backdrop.own)) continue;
-      bool reaches = true;
-      for (int g = below.parent; g >= 0; g = nodes_[static_cast<std::size_t>(g)].parent)
-        reaches &= !nodes_[static_cast<std::size_t>(g)].is_group || is_within(i, g);
-      if (below.is_group && !is_within(i, j)) reaches = false;
-      if (reaches) first = j;
-    }
+    const int first = first_seen(i);
+    backdrop.lone_picture = lone_picture(first, i);
     std::uint64_t behind = backdrop.signature;
     for (int k = first; k < i; ++k) {
       const RenderNode& below = nodes_[static_cast<std::size_t>(k)];
@@ -239,7 +287,7 @@ void RenderTree::sign_backdrops() {
       if (!intersects(below.own, backdrop.own)) continue;
       behind = mix_signature(behind, below.signature);
       behind = mix_signature(behind, below.behind);
-      if (!is_within(i, k)) behind = mix_signature(behind, below.properties.opacity);
+      if (!is_within(i, k)) behind = mix_signature(behind, below.opacity);
     }
     backdrop.behind = behind;
   }

@@ -25,6 +25,12 @@ struct RenderNode {
   std::uint64_t context = 0;
   /// For a backdrop: all that it depends on.
   std::uint64_t behind = 0;
+  /// For a backdrop: the one drawing that it sees, an upright picture that fills its place; -1 when
+  /// it sees anything else.
+  int lone_picture = -1;
+  /// What its own drawing is painted with: its opacity and that of layers above it that need no
+  /// group.
+  double opacity = 1;
   /// One past its last descendant.
   int end = 0;
   int parent = -1;
@@ -35,6 +41,8 @@ struct RenderNode {
   /// Its own drawing covers `own` completely.
   bool is_opaque = false;
   bool is_scaling = false;
+  /// Upright, and cut by nothing but whole pixels.
+  bool is_plain = false;
   /// Its own drawing is one element without children: opacity needs no group.
   bool is_simple = false;
 };
@@ -66,7 +74,10 @@ class RenderTree {
 
   void add(const Layer& layer, const Surroundings& around, double now);
   void add_children(int index, const Surroundings& inner, double now);
+  void dissolve_group(int index);
   void sign_backdrops();
+  int first_seen(int backdrop) const;
+  int lone_picture(int first, int backdrop) const;
 
   std::vector<RenderNode> nodes_;
 };

@@ -3,6 +3,7 @@
 #include <libyuv/scale_argb.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace host::quartzcore {
 namespace {
@@ -37,6 +38,23 @@ Surface enlarge(const Surface& source, int width, int height) {
 Surface make_surface(int width, int height) {
   return Surface::adopt(
       cairo_image_surface_create(CAIRO_FORMAT_ARGB32, std::max(width, 1), std::max(height, 1)));
+}
+
+Surface reused(Surface old, int width, int height) {
+  const bool fits = old && width_of(old) == std::max(width, 1) &&
+                    height_of(old) == std::max(height, 1) &&
+                    cairo_surface_get_reference_count(old.get()) == 1;
+  return fits ? std::move(old) : make_surface(width, height);
+}
+
+Surface emptied(Surface old, int width, int height) {
+  Surface surface = reused(std::move(old), width, height);
+  cairo_surface_flush(surface.get());
+  std::memset(cairo_image_surface_get_data(surface.get()), 0,
+              static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get())) *
+                  static_cast<std::size_t>(height_of(surface)));
+  cairo_surface_mark_dirty(surface.get());
+  return surface;
 }
 
 Drawing draw_on(const Surface& surface) {

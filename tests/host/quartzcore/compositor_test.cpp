@@ -124,13 +124,30 @@ TEST_F(CompositorTest, OpacityBlendsAGroupAsAWhole) {
 
 TEST_F(CompositorTest, AFadingGroupIsDrawnOnceAndOnlyBlendedAfterwards) {
   const CALayer group = add({0, 0, 4, 4}, color(1, 0, 0));
-  group.addSublayer(layer_at({0, 0, 4, 4}));
+  const CALayer inside = layer_at({2, 2, 2, 2});
+  inside.setBackgroundColor(color(0, 1, 0));
+  group.addSublayer(inside);
   for (float opacity : {0.2f, 0.4f, 0.6f}) {
     group.setOpacity(opacity);
     render();
   }
   EXPECT_EQ(compositor.group_count(), 1u);
   EXPECT_NEAR(pixel(1, 1) >> 16 & 0xff, 153, 1);
+}
+
+TEST_F(CompositorTest, AFadingTreeWithOneDrawingNeedsNoGroup) {
+  const CALayer holder = layer_at({0, 0, 4, 4});
+  root.addSublayer(holder);
+  const CALayer inside = layer_at({1, 1, 2, 2});
+  inside.setBackgroundColor(color(1, 0, 0));
+  inside.setOpacity(0.5);
+  holder.addSublayer(inside);
+  holder.setOpacity(0.5);
+  render();
+  EXPECT_EQ(compositor.group_count(), 0u);
+  EXPECT_NEAR(pixel(1, 1) >> 16 & 0xff, 64, 1);
+  EXPECT_NEAR(pixel(1, 1) & 0xff, 191, 1);
+  EXPECT_EQ(pixel(0, 0), kBlue);
 }
 
 TEST_F(CompositorTest, ALayerThatMasksCutsItsSublayersAndOneThatDoesNotLetsThemOut) {

@@ -1,0 +1,114 @@
+#include "host/quartzcore/small_picture.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+
+#include "host/quartzcore/backdrop_filter.h"
+
+namespace host::quartzcore {
+namespace {
+
+std::uint32_t* row_of(const Surface& surface, int y) {
+  return reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()) +
+                                          static_cast<std::ptrdiff_t>(y) *
+                                              cairo_image_surface_get_stride(surface.get()));
+}
+
+Surface filled(int width, int height, std::uint32_t color) {
+  const Surface surface = make_surface(width, height);
+  for (int y = 0; y < height; ++y)
+    std::fill_n(row_of(surface, y), width, color);
+  cairo_surface_mark_dirty(surface.get());
+  return surface;
+}
+
+class SmallPictureTest : public testing::TestWithParam<int> {};
+
+TEST_P(SmallPictureTest, AnEvenPictureStaysTheSameWhateverItsSize) {
+  const Surface surface = filled(21, 13, 0xff1e90ff);
+  const SmallPicture small = reduce(surface, {0, 0, 21, 13}, GetParam());
+  const Surface result = make_surface(21, 13);
+  enlarge(small, result);
+  for (int y = 0; y < 13; ++y) {
+    for (int x = 0; x < 21; ++x)
+      ASSERT_EQ(row_of(result, y)[x], 0xff1e90ff) << x << ", " << y;
+  }
+}
+
+TEST_P(SmallPictureTest, EverySquareIsTheMeanOfItsOwnPixels) {
+  const int side = GetParam();
+  const Surface surface = filled(2 * side + 3, side + 3, 0xff000000);
+  for (int x = side; x < 2 * side; ++x)
+    row_of(surface, 3)[x + 3] = 0xff0000ff;
+  const SmallPicture small = reduce(surface, {3, 3, 2 * side, side}, side);
+  ASSERT_EQ(small.width, 2);
+  ASSERT_EQ(small.height, 1);
+  EXPECT_FLOAT_EQ(small.row(0)[0][0], 0);
+  EXPECT_FLOAT_EQ(small.row(0)[1][0], 255.0F / static_cast<float>(side));
+}
+
+TEST_P(SmallPictureTest, ARampStaysARampInBothDirections) {
+  const int side = GetParam();
+  const int length = 8 * side;
+  for (const bool is_upright : {false, true}) {
+    SmallPicture small{side, 8, 8, std::vector<Channels>(64)};
+    for (int y = 0; y < 8; ++y) {
+      for (int x = 0; x < 8; ++x)
+        small.row(y)[x] = Channels{} + static_cast<float>(32 * (is_upright ? y : x));
+    }
+    const Surface result = make_surface(length, length);
+    enlarge(small, result);
+    for (int i = 0; i < length; ++i) {
+      const double middle = std::clamp((i + 0.5) / side - 0.5, 0.0, 7.0);
+      const std::uint32_t pixel = is_upright ? row_of(result, i)[5] : row_of(result, 5)[i];
+      ASSERT_NEAR(pixel & 0xff, 32 * middle, 1) << i;
+    }
+  }
+}
+
+TEST_P(SmallPictureTest, PaintedWithAnOpacityItTouchesTheDamageAlone) {
+  const SmallPicture small = reduce(filled(16, 16, 0xffffffff), {0, 0, 16, 16}, GetParam());
+  const Surface screen = filled(24, 24, 0xff000000);
+  paint_enlarged(small, screen, 4, 4, {6, 8, 5, 3}, 0.5);
+  for (int y = 0; y < 24; ++y) {
+    for (int x = 0; x < 24; ++x) {
+      const bool inside = x >= 6 && x < 11 && y >= 8 && y < 11;
+      ASSERT_EQ(row_of(screen, y)[x], inside ? 0xff808080 : 0xff000000) << x << ", " << y;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Reductions, SmallPictureTest, testing::Values(1, 2, 4, 8));
+
+TEST(BackdropFilter, ABlurSpreadsOneBrightPixelEvenlyAndLosesNothingOfIt) {
+  SmallPicture picture{8, 41, 41, std::vector<Channels>(41 * 41)};
+  picture.row(20)[20] = Channels{} + 255.0F;
+  BackdropLook look;
+  look.blur_radius = 48;
+  filter_backdrop(picture, look, 1);
+  double sum = 0;
+  for (const Channels& pixel : picture.pixels)
+    sum += static_cast<double>(pixel[0]);
+  EXPECT_NEAR(sum, 255, 0.1);
+  EXPECT_NEAR(picture.row(20)[16][1], picture.row(16)[20][1], 1e-3);
+  EXPECT_NEAR(picture.row(20)[16][1], picture.row(20)[24][1], 1e-3);
+  EXPECT_GT(picture.row(20)[20][1], picture.row(20)[24][1]);
+}
+
+TEST(BackdropFilter, TintsAreLaidOverTheSaturatedColourOneAfterTheOther) {
+  SmallPicture picture{1, 1, 1, {Channels{0, 0, 255, 255}}};
+  BackdropLook look;
+  look.blur_radius = 0;
+  look.gray_level = 1;
+  look.gray_alpha = 0.5;
+  look.tint = {0, 0, 0, 0.5};
+  EXPECT_NEAR(filter_backdrop(picture, look, 1), 0.2126, 1e-4);
+  // Red: towards white, then towards black. Blue: the same from nothing.
+  EXPECT_NEAR(picture.pixels[0][2], 127.5, 0.1);
+  EXPECT_NEAR(picture.pixels[0][0], 63.75, 0.1);
+}
+
+}  // namespace
+}  // namespace host::quartzcore
