@@ -181,9 +181,11 @@ void RunLoop::end_turn() {
 
 bool RunLoop::turn(int timeout_milliseconds) {
   objc::AutoreleasePool pool;
-  const bool any = static_cast<int>(run_ready_descriptors(timeout_milliseconds)) |
-                   static_cast<int>(run_work()) | static_cast<int>(run_due_timers()) |
-                   static_cast<int>(run_due_frame());
+  bool any = run_ready_descriptors(timeout_milliseconds);
+  any |= run_work();
+  any |= run_due_timers();
+  turn_has_frame_ = run_due_frame();
+  any |= turn_has_frame_;
   if (any) end_turn();
   return any;
 }
@@ -197,6 +199,7 @@ void RunLoop::advance_to(SteppedClock& clock, double time) {
   // What happened between two turns (a touch, a console line) is committed before time moves.
   {
     objc::AutoreleasePool pool;
+    turn_has_frame_ = false;
     end_turn();
   }
   run_ready();

@@ -47,6 +47,8 @@ class RunLoop {
   Id add_frame_observer(std::function<void(double frame_time)> work);
   void remove_frame_observer(Id observer);
   bool wants_frames() const { return !frame_observers_.empty(); }
+  /// At a turn's end: was a frame of the screen among what ran?
+  bool turn_has_frame() const { return turn_has_frame_; }
 
   /// Runs `work` at the end of every turn in which anything ran, before the loop sleeps: where
   /// layers are laid out and committed. Observers run in order of `order`.
@@ -93,6 +95,7 @@ class RunLoop {
 
   Clock& clock_;
   bool running_ = false;
+  bool turn_has_frame_ = false;
   Id last_id_ = 0;
   double next_frame_ = 0;
   std::vector<Work> work_;

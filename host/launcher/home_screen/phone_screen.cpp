@@ -28,10 +28,14 @@ PhoneScreen::PhoneScreen(RunLoop& loop, screen::Screen& screen)
       screen_(screen),
       compositor_(pixels(current_device().width), pixels(current_device().height),
                   current_device().scale),
-      observer_(loop.add_turn_observer(kTurnOrder, [this] { draw(); })) {}
+      observer_(loop.add_turn_observer(kTurnOrder, [this] { end_turn(); })) {}
 
 PhoneScreen::~PhoneScreen() {
   loop_.remove_turn_observer(observer_);
+}
+
+void PhoneScreen::end_turn() {
+  if (!loop_.wants_frames() || loop_.turn_has_frame()) draw();
 }
 
 void PhoneScreen::draw() {

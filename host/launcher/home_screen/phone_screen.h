@@ -10,7 +10,8 @@
 namespace host::launcher {
 
 /// Draws the windows of this process at the end of every turn of the loop and hands what changed to
-/// the screen. A turn that changed nothing draws nothing.
+/// the screen. A turn that changed nothing draws nothing, and while frames are coming those are
+/// drawn and no moments between them, which nobody would see.
 class PhoneScreen {
  public:
   /// Among the observers of a turn's end: after layout.
@@ -25,6 +26,7 @@ class PhoneScreen {
   std::optional<std::string> write(const std::string& file);
 
  private:
+  void end_turn();
   void draw();
   screen::Picture picture() const;
 

@@ -82,6 +82,22 @@ TEST_F(RunLoopTest, FramesComeSixtyTimesASecondOnlyWhileSomebodyWantsThem) {
   EXPECT_EQ(frames, 60);
 }
 
+TEST_F(RunLoopTest, ATurnKnowsWhetherAFrameWasAmongWhatRan) {
+  std::vector<std::pair<double, bool>> turns;
+  loop.add_frame_observer([](double) {});
+  loop.add_timer(start + 0.02, 0, [] {});
+  loop.add_turn_observer(0, [&] { turns.emplace_back(loop.now(), loop.turn_has_frame()); });
+  advance(0.035);
+  int frames = 0;
+  int others = 0;
+  for (const auto& [time, is_frame] : turns)
+    ++(is_frame ? frames : others);
+  EXPECT_EQ(frames, 2);
+  // What happened before the time moved, and the timer.
+  EXPECT_EQ(others, 2);
+  EXPECT_TRUE(turns.back().second);
+}
+
 TEST_F(RunLoopTest, TurnObserversRunInTheirOrder) {
   loop.add_turn_observer(200, note("paint"));
   loop.add_turn_observer(100, note("layout"));
