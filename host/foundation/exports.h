@@ -8,5 +8,6 @@ void export_foundation();
 
 void export_device_paths();
 void export_timers();
+void export_property_lists();
 
 }  // namespace host::foundation
