@@ -45,7 +45,8 @@ void require(bool is_so, std::string_view what) {
   std::exit(EXIT_FAILURE);
 }
 
-BenchPhone::BenchPhone(std::string_view preferences) : root_(new_device()) {
+BenchPhone::BenchPhone(Pace pace, std::string_view preferences)
+    : root_(new_device()), loop_(pace == Pace::kStepped ? static_cast<Clock&>(stepped_) : real_) {
   write_preferences(preferences);
   RunLoop::set_main(&loop_);
   foundation::set_device_root(root_);
@@ -55,12 +56,12 @@ BenchPhone::BenchPhone(std::string_view preferences) : root_(new_device()) {
   options.device = kDevice;
   options.root = root_;
   options.headless = true;
-  options.stepped = true;
+  options.stepped = pace == Pace::kStepped;
   launcher::launch_home_screen(options);
   phone_screen_ = std::make_unique<launcher::PhoneScreen>(loop_, screen_);
   console_phone_ = std::make_unique<launcher::ConsolePhone>(
       hands_, launcher::ConsolePhone::Parts{
-                  [this](double seconds) { loop_.advance_to(clock_, clock_.now() + seconds); },
+                  [this](double seconds) { loop_.advance_to(stepped_, stepped_.now() + seconds); },
                   [this](const std::string& file) { return phone_screen_->write(file); },
                   fs::temp_directory_path()});
   for (const auto& library : foundation::loaded_libraries())
@@ -89,7 +90,12 @@ std::string BenchPhone::run(std::string_view line) {
 }
 
 void BenchPhone::frame() {
-  loop_.advance_to(clock_, clock_.now() + RunLoop::kFrame);
+  loop_.advance_to(stepped_, stepped_.now() + RunLoop::kFrame);
+}
+
+void BenchPhone::live(double seconds) {
+  loop_.add_timer(loop_.now() + seconds, 0, [this] { loop_.stop(); });
+  loop_.run();
 }
 
 std::vector<std::uint32_t> BenchPhone::pixels() const {

@@ -30,12 +30,14 @@ class WatchedScreen final : public host::screen::Screen {
   int frames_ = 0;
 };
 
-/// A whole phone in this process, on a new device and a stepped clock, with the extension loaded
-/// and the demo music in its library. One lives at a time.
+enum class Pace { kStepped, kReal };
+
+/// A whole phone in this process, on a new device, with the extension loaded and the demo music in
+/// its library. One lives at a time.
 class BenchPhone {
  public:
   /// The preferences are the text of a property list, there before the extension is.
-  explicit BenchPhone(std::string_view preferences);
+  BenchPhone(Pace pace, std::string_view preferences);
   ~BenchPhone();
   BenchPhone(const BenchPhone&) = delete;
   BenchPhone& operator=(const BenchPhone&) = delete;
@@ -43,8 +45,10 @@ class BenchPhone {
   void write_preferences(std::string_view text) const;
   /// Carries out a line of the console; ends the program if that is refused.
   std::string run(std::string_view line);
-  /// Moves the clock on to the next frame of the screen and serves all that is due until then.
+  /// Stepped: moves the clock on by one frame of the screen and serves all that is due until then.
   void frame();
+  /// Real: serves the loop for so long.
+  void live(double seconds);
   void touch(host::screen::TouchPhase phase, CGPoint point) { hands_.touch(kFinger, phase, point); }
 
   const WatchedScreen& screen() const { return screen_; }
@@ -55,8 +59,9 @@ class BenchPhone {
   static constexpr int kFinger = 1;
 
   std::filesystem::path root_;
-  host::SteppedClock clock_;
-  host::RunLoop loop_{clock_};
+  host::SteppedClock stepped_;
+  host::RealClock real_;
+  host::RunLoop loop_;
   objc::AutoreleasePool pool_;
   WatchedScreen screen_;
   std::unique_ptr<host::quartzcore::LayerService> layers_;

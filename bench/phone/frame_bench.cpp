@@ -1,10 +1,9 @@
-#include <time.h>
-
 #include <cmath>
 #include <cstdio>
 #include <cstring>
 
 #include "bench/phone/bench_phone.h"
+#include "bench/support/core_time.h"
 #include "bench/support/ratio.h"
 
 // What a frame of the phone costs, from the touch to the finished picture, against a plain copy of
@@ -26,12 +25,6 @@ constexpr int kPresentFrames = 84;
 constexpr int kOpenFrames = 100;
 constexpr CGPoint kDragStep{1, -5};
 
-double core_seconds() {
-  timespec time;
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
 /// Times of the frames of one movement, and of copies made in between.
 struct Series {
   std::vector<double> frames;
@@ -46,10 +39,10 @@ class Stopwatch {
   template <class Work>
   void frame(Series& series, Work work) {
     const int before = phone_.screen().frames();
-    const double start = core_seconds();
+    const double start = bench::core_seconds();
     work();
     phone_.frame();
-    const double seconds = core_seconds() - start;
+    const double seconds = bench::core_seconds() - start;
     if (phone_.screen().frames() > before) series.frames.push_back(seconds);
     copy_frame(series);
   }
@@ -62,10 +55,10 @@ class Stopwatch {
   void copy_frame(Series& series) {
     const auto& picture = phone_.screen().picture();
     copy_.resize(static_cast<std::size_t>(picture.stride) * picture.height);
-    const double start = core_seconds();
+    const double start = bench::core_seconds();
     std::memcpy(copy_.data(), picture.pixels, copy_.size());
     bench::keep(*copy_.data());
-    series.copies.push_back(core_seconds() - start);
+    series.copies.push_back(bench::core_seconds() - start);
   }
 
   BenchPhone& phone_;
@@ -191,7 +184,7 @@ Pixels measure(BenchPhone& phone, const char* behind) {
 }  // namespace
 
 int main() {
-  BenchPhone phone(R"({ cover = 1; checked = 1; })");
+  BenchPhone phone(bench::Pace::kStepped, R"({ cover = 1; checked = 1; })");
   phone.run("advance 1");
   phone.run("print [[SBMediaController sharedInstance] togglePlayPause]");
   phone.run("advance 2");
