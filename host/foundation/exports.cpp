@@ -9,6 +9,7 @@ void export_foundation() {
   export_device_paths();
   export_timers();
   export_property_lists();
+  export_property_list_reader();
 }
 
 }  // namespace host::foundation

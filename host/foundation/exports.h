@@ -9,5 +9,6 @@ void export_foundation();
 void export_device_paths();
 void export_timers();
 void export_property_lists();
+void export_property_list_reader();
 
 }  // namespace host::foundation

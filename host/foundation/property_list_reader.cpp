@@ -1,0 +1,132 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "host/foundation/exports.h"
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSValue.h"
+
+// Extensions read their settings from the file at every use and look for changes many times a
+// second. The file is read every time, as on the platform, but bytes that have been understood once
+// are not parsed again.
+
+namespace host::foundation {
+namespace {
+
+// Settings are small. What is larger is no settings, and is not kept.
+constexpr off_t kLargestFile = 16 << 10;
+constexpr std::size_t kMostFiles = 16;
+
+struct Content {
+  std::string bytes;
+  timespec changed{};
+  ino_t file = 0;
+
+  bool operator==(const Content& other) const {
+    return file == other.file && changed.tv_sec == other.changed.tv_sec &&
+           changed.tv_nsec == other.changed.tv_nsec && bytes == other.bytes;
+  }
+};
+
+struct Understood {
+  std::string bytes;
+  objc::Ref<NSDictionary> dictionary;
+};
+
+// Never destroyed: its dictionaries must not outlive the runtime at the end of the process.
+std::map<std::string, Understood, std::less<>>& understood() {
+  static auto* const files = new std::map<std::string, Understood, std::less<>>;
+  return *files;
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(const char* path) : number_(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int get() const { return number_; }
+
+ private:
+  int number_;
+};
+
+/// Nothing for what is no small plain file.
+std::optional<Content> content_of(const char* path) {
+  const Descriptor file(path);
+  struct stat status {};
+  if (file.get() < 0 || fstat(file.get(), &status) != 0) return std::nullopt;
+  if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return std::nullopt;
+  Content content{std::string(static_cast<std::size_t>(status.st_size), '\0'), status.st_mtim,
+                  status.st_ino};
+  const ssize_t count = read(file.get(), content.bytes.data(), content.bytes.size());
+  if (count != status.st_size) return std::nullopt;
+  return content;
+}
+
+/// Somebody may change what is mutable, and would change it for all later readers.
+bool can_be_shared(objc::Object object) {
+  const auto value = objc::cast<NSObject>(object);
+  if (value.isKindOfClass(NSNumber::cls())) return true;
+  return value.isKindOfClass(NSString::cls()) &&
+         !value.isKindOfClass(objc_getClass("NSMutableString"));
+}
+
+bool can_be_shared(NSDictionary dictionary) {
+  for (const objc::Object key : dictionary.allKeys().of()) {
+    if (!can_be_shared(key) || !can_be_shared(dictionary.objectForKey(key))) return false;
+  }
+  return true;
+}
+
+void keep(std::string path, Content content, NSDictionary dictionary) {
+  if (!can_be_shared(dictionary)) return;
+  if (understood().size() >= kMostFiles) understood().clear();
+  understood()[std::move(path)] = {std::move(content.bytes),
+                                   objc::Ref<NSDictionary>::adopt(dictionary.copy())};
+}
+
+objc::Imp original = nullptr;
+
+NSDictionary parse(objc::Object cls, NSString path) {
+  using Function = objc::Id (*)(objc::Id, objc::Sel, objc::Id);
+  const auto function = reinterpret_cast<Function>(original);
+  return objc::cast<NSDictionary>(
+      objc::Object(function(cls.id(), "dictionaryWithContentsOfFile:"_sel, path.id())));
+}
+
+NSDictionary dictionary_with_contents(objc::Object cls, NSString path) {
+  const bool is_plain = cls.id() == reinterpret_cast<objc::Id>(NSDictionary::cls());
+  if (!is_plain || !path) return parse(cls, path);
+  const char* real = path.fileSystemRepresentation();
+  auto content = content_of(real);
+  if (!content) return parse(cls, path);
+  const auto known = understood().find(std::string_view(real));
+  if (known != understood().end() && known->second.bytes == content->bytes)
+    return NSDictionary::dictionaryWithDictionary(known->second.dictionary.get());
+  const NSDictionary parsed = parse(cls, path);
+  // The parser has read the file once more. Only when it did not change around that are these the
+  // bytes that were parsed.
+  if (parsed && content_of(real) == content) keep(real, std::move(*content), parsed);
+  return parsed;
+}
+
+}  // namespace
+
+void export_property_list_reader() {
+  if (original) return;
+  const objc::Class dictionaries = objc_getMetaClass("NSDictionary");
+  original = method_getImplementation(
+      class_getInstanceMethod(dictionaries, "dictionaryWithContentsOfFile:"_sel));
+  objc::replace_method<&dictionary_with_contents>(dictionaries, "dictionaryWithContentsOfFile:");
+}
+
+}  // namespace host::foundation
