@@ -1,0 +1,59 @@
+#pragma once
+
+#include <tuple>
+#include <vector>
+
+#include "host/runtime/hooking.h"
+#include "objc/class_builder.h"
+
+namespace host::test {
+
+template <objc::FixedString Selector, class Signature>
+class MethodSpy;
+
+/// Hears the calls of a method, which goes on to do what it did before. One at a time for each
+/// selector and signature; it stays in the class, deaf, when the spy is gone.
+template <objc::FixedString Selector, class Result, class Self, class... Arguments>
+class MethodSpy<Selector, Result(Self, Arguments...)> {
+ public:
+  using Call = std::tuple<Arguments...>;
+
+  /// `order` hears the selector as well, so that the calls of several spies can be told apart.
+  explicit MethodSpy(objc::Class cls, std::vector<std::string>* order = nullptr) : order_(order) {
+    listening = this;
+    if (!before)
+      MSHookMessageEx(cls, sel_registerName(Selector.c_str()),
+                      reinterpret_cast<objc::Imp>(&objc::MethodOf<&heard>::call), &before);
+    EXPECT_TRUE(before) << Selector.c_str() << " is not there";
+  }
+  ~MethodSpy() { listening = nullptr; }
+  MethodSpy(const MethodSpy&) = delete;
+  MethodSpy& operator=(const MethodSpy&) = delete;
+
+  int count() const { return static_cast<int>(calls_.size()); }
+  const Call& last() const { return calls_.back(); }
+
+ private:
+  static Result heard(Self self, Arguments... arguments) {
+    if (listening) {
+      listening->calls_.emplace_back(arguments...);
+      if (listening->order_) listening->order_->push_back(Selector.c_str());
+    }
+    using Function = objc::AbiType<Result> (*)(objc::Id, objc::Sel, objc::AbiType<Arguments>...);
+    const auto function = reinterpret_cast<Function>(before);
+    const auto selector = sel_registerName(Selector.c_str());
+    if constexpr (std::is_void_v<Result>) {
+      function(self.id(), selector, objc::to_abi(arguments)...);
+    } else {
+      return objc::from_abi<Result>(function(self.id(), selector, objc::to_abi(arguments)...));
+    }
+  }
+
+  static inline objc::Imp before = nullptr;
+  static inline MethodSpy* listening = nullptr;
+
+  std::vector<Call> calls_;
+  std::vector<std::string>* order_;
+};
+
+}  // namespace host::test

@@ -1,0 +1,213 @@
+#include "platform/UIKit/UIButton.h"
+#include "platform/UIKit/UILabel.h"
+#include "platform/UIKit/UITableView.h"
+#include "tests/tweak/method_spy.h"
+#include "tests/tweak/panel_test.h"
+
+namespace host::test {
+namespace {
+
+constexpr const char* kMarkedFile = "<key>checked</key><true/>";
+constexpr const char* kPlayPicture = "/Library/Application Support/Sonavue/Play.png";
+constexpr const char* kPausePicture = "/Library/Application Support/Sonavue/Pausa.png";
+
+class NowPlaying : public PanelTest {
+ protected:
+  UIImage cover() const { return global<UIImageView>("cover").image(); }
+  UIImage artwork() const { return global<UIImageView>("art").image(); }
+  UIImage play_picture() const {
+    return global<UIButton>("play").imageForState(UIControlStateNormal);
+  }
+  std::string label(const char* name) const { return text(global<UILabel>(name).text()); }
+  NSInteger selected_row() const {
+    const NSIndexPath path = global<UITableView>("tableView").indexPathForSelectedRow();
+    return path ? path.row() : -1;
+  }
+  void refresh() { objc::send<>(application, "infoMusic"_sel); }
+
+  /// Which file's picture was last made while `act` ran; empty when none was.
+  std::string picture_loaded_by(const std::function<void()>& act) {
+    MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded(
+        objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls())));
+    act();
+    return loaded.count() == 0 ? "" : text(std::get<0>(loaded.last()));
+  }
+  std::string picture_for(int state) {
+    global<int>("playbackState") = state;
+    return picture_loaded_by([this] { refresh(); });
+  }
+};
+
+TEST_F(NowPlaying, TheFirstRefreshDrawsTheButtonWhateverTheState) {
+  load_extension();
+  ASSERT_EQ(global<int>("lastState"), 99);
+  PhoneTest::launch();
+  EXPECT_EQ(global<int>("lastState"), 0);
+  EXPECT_EQ(play_picture().renderingMode(), UIImageRenderingModeAlwaysTemplate);
+}
+
+TEST_F(NowPlaying, EachStateHasItsPicture) {
+  launch();
+  EXPECT_EQ(picture_for(1), kPausePicture);
+  EXPECT_EQ(play_picture().renderingMode(), UIImageRenderingModeAlwaysTemplate);
+  EXPECT_EQ(picture_for(2), kPlayPicture);
+  EXPECT_EQ(picture_for(1), kPausePicture);
+  EXPECT_EQ(picture_for(3), kPlayPicture);
+  EXPECT_EQ(picture_for(1), kPausePicture);
+  EXPECT_EQ(picture_for(0), kPlayPicture);
+}
+
+TEST_F(NowPlaying, AnUnchangedStateIsNotDrawnAgain) {
+  launch();
+  EXPECT_EQ(picture_for(1), kPausePicture);
+  EXPECT_EQ(picture_for(1), "");
+}
+
+TEST_F(NowPlaying, SeekingLeavesThePictureAndTheNextStateDrawsAgain) {
+  launch();
+  ASSERT_EQ(picture_for(1), kPausePicture);
+  const UIImage before = play_picture();
+  for (const int seeking : {4, 5}) {
+    EXPECT_EQ(picture_for(seeking), "");
+    EXPECT_EQ(play_picture(), before);
+    EXPECT_EQ(global<int>("lastState"), 1);
+  }
+  EXPECT_EQ(picture_for(2), kPlayPicture);
+}
+
+TEST_F(NowPlaying, ThePlayersOwnStateReachesTheButton) {
+  launch();
+  EXPECT_EQ(picture_loaded_by([this] { play("Bravo"); }), kPausePicture);
+  EXPECT_EQ(global<int>("playbackState"), 1);
+  const auto pause = [this] {
+    media().togglePlayPause();
+    advance(1.1);
+  };
+  EXPECT_EQ(picture_loaded_by(pause), kPlayPicture);
+  EXPECT_EQ(global<int>("playbackState"), 2);
+}
+
+TEST_F(NowPlaying, TitleAndArtistAreTheSongs) {
+  launch();
+  play("Delta");
+  EXPECT_EQ(label("title"), "Delta");
+  EXPECT_EQ(label("artist"), "Yves");
+  play("Alpha");
+  EXPECT_EQ(label("title"), "Alpha");
+  EXPECT_EQ(label("artist"), "Xenia");
+}
+
+TEST_F(NowPlaying, TheArtworkIsShownAndASongWithoutOneShowsNone) {
+  launch();
+  play("Alpha");
+  ASSERT_TRUE(artwork());
+  EXPECT_GT(artwork().size().width, 0);
+  play("Delta");
+  EXPECT_FALSE(artwork());
+}
+
+TEST_F(NowPlaying, TheBackdropShowsTheArtworkWhenItsSettingIsOn) {
+  write_preferences(std::string("<key>cover</key><true/>") + kMarkedFile);
+  launch();
+  play("Alpha");
+  EXPECT_TRUE(cover());
+  EXPECT_EQ(cover(), artwork());
+}
+
+TEST_F(NowPlaying, TheBackdropIsEmptyWhenItsSettingIsOff) {
+  write_preferences(std::string("<key>cover</key><false/>") + kMarkedFile);
+  launch();
+  play("Alpha");
+  EXPECT_TRUE(artwork());
+  EXPECT_FALSE(cover());
+}
+
+TEST_F(NowPlaying, ABackdropSwitchedOffIsClearedWhenPlayingStops) {
+  write_preferences(std::string("<key>cover</key><true/>") + kMarkedFile);
+  launch();
+  play("Alpha");
+  media().togglePlayPause();
+  advance(2);
+  EXPECT_TRUE(cover());
+  write_preferences(std::string("<key>cover</key><false/>") + kMarkedFile);
+  advance(1.1);
+  EXPECT_FALSE(cover());
+  EXPECT_TRUE(artwork());
+}
+
+TEST_F(NowPlaying, ThePlayingSongIsSelectedAndMissingFromItsAlbum) {
+  launch();
+  play("Bravo");
+  const auto songs = titles("songItems");
+  EXPECT_EQ(songs.at(static_cast<std::size_t>(selected_row())), "Bravo");
+  EXPECT_THAT(titles("songArtist"), ::testing::UnorderedElementsAre("Alpha", "Charlie"));
+  EXPECT_EQ(global<UITableView>("tablev").numberOfRowsInSection(0), 2);
+  play("Delta");
+  EXPECT_EQ(songs.at(static_cast<std::size_t>(selected_row())), "Delta");
+  EXPECT_THAT(titles("songArtist"), ::testing::IsEmpty());
+}
+
+TEST_F(NowPlaying, ASongOfNoAlbumMatchesNothing) {
+  launch();
+  play("Echo");
+  EXPECT_EQ(label("title"), "Echo");
+  EXPECT_EQ(selected_row(), -1);
+  EXPECT_THAT(titles("songArtist"), ::testing::IsEmpty());
+}
+
+TEST_F(NowPlaying, AResumeRebuildsTheAlbumsList) {
+  launch();
+  play("Bravo");
+  advance(20);
+  media().togglePlayPause();
+  advance(3);
+  global<NSMutableArray>("songArtist").removeAllObjects();
+  advance(2);
+  ASSERT_THAT(titles("songArtist"), ::testing::IsEmpty());
+  media().togglePlayPause();
+  advance(1.1);
+  EXPECT_THAT(titles("songArtist"), ::testing::UnorderedElementsAre("Alpha", "Charlie"));
+  EXPECT_FALSE(is("did"));
+}
+
+TEST_F(NowPlaying, WithoutNewsTheAlbumsListIsLeftAlone) {
+  launch();
+  play("Bravo");
+  global<NSMutableArray>("songArtist").removeAllObjects();
+  advance(5);
+  EXPECT_THAT(titles("songArtist"), ::testing::IsEmpty());
+}
+
+class RingInTime : public NowPlaying {
+ protected:
+  void SetUp() override {
+    write_preferences(std::string("<key>play</key><string>time</string>") + kMarkedFile);
+    launch();
+  }
+  float progress() const { return objc::send<float>(view("ring"), "progress"_sel); }
+};
+
+TEST_F(RingInTime, GoesOnBySecondsAndStopsAtTheWhole) {
+  play("Bravo");
+  const float start = progress();
+  for (int second = 1; second <= 5; ++second) {
+    advance(1);
+    EXPECT_NEAR(progress(), start + second / kSongSeconds, 1e-4);
+  }
+  // The system does not say that the song is over; the panel's count goes no further than its end.
+  global<double>("elapsed") = kSongSeconds - 0.5;
+  advance(1);
+  EXPECT_EQ(progress(), 1);
+}
+
+TEST_F(RingInTime, IsLeftToTheVolumeOtherwise) {
+  write_preferences(std::string("<key>play</key><string>volume</string>") + kMarkedFile);
+  MethodSpy<"setProgress:animated:", void(UIView, float, BOOL)> moved(
+      objc::class_of(view("ring").id()));
+  play("Bravo");
+  advance(3);
+  EXPECT_EQ(moved.count(), 0);
+}
+
+}  // namespace
+}  // namespace host::test

@@ -1,0 +1,142 @@
+#include "host/springboard/system_actions.h"
+#include "objc/class_builder.h"
+#include "platform/MediaPlayerUI/MPUNowPlayingController.h"
+#include "platform/UIKit/UIPanGestureRecognizer.h"
+#include "tests/tweak/method_spy.h"
+#include "tests/tweak/panel_test.h"
+
+namespace host::test {
+namespace {
+
+std::vector<std::string> happened;
+std::string listener_class;
+std::string listener_name;
+std::function<bool()> home_screen_is_there;
+bool home_screen_was_there = false;
+
+objc::Object shared_activator(objc::Object) {
+  static const objc::Object activator = objc::send<objc::Object>(
+      objc::send<objc::Object>(objc::Object(objc_getClass("LAActivator")), "alloc"_sel),
+      "init"_sel);
+  return activator;
+}
+
+void register_listener(objc::Object, objc::Object listener, NSString name) {
+  happened.push_back("registerListener:forName:");
+  listener_class = objc::cast<NSObject>(listener).className().UTF8String();
+  listener_name = text(name);
+  home_screen_was_there = home_screen_is_there();
+}
+
+/// A gesture service that only remembers who registers.
+void make_gesture_service() {
+  ASSERT_FALSE(objc_getClass("LAActivator"));
+  objc::ClassBuilder("LAActivator", "NSObject")
+      .class_method<&shared_activator>("sharedInstance")
+      .method<&register_listener>("registerListener:forName:")
+      .finish();
+}
+
+template <objc::FixedString Selector>
+using SpringBoardSpy = MethodSpy<Selector, void(SpringBoard)>;
+
+class StartUp : public PanelTest {};
+
+TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
+  make_gesture_service();
+  write_preferences("<key>checked</key><true/>");
+  load_extension();
+  home_screen_is_there = [this] { return static_cast<bool>(icon_view(kMusic).window()); };
+  const MethodSpy<"init", objc::Object(MPUNowPlayingController)> now_playing(
+      MPUNowPlayingController::cls(), &happened);
+  const MethodSpy<"deviceNumber", int(SpringBoard)> number(SpringBoard::cls(), &happened);
+  const SpringBoardSpy<"Loping1"> watch(SpringBoard::cls(), &happened);
+  const SpringBoardSpy<"infoMusic"> refresh(SpringBoard::cls(), &happened);
+  const SpringBoardSpy<"changePreferences"> poll(SpringBoard::cls(), &happened);
+  const SpringBoardSpy<"changesPrefs"> apply(SpringBoard::cls(), &happened);
+  PhoneTest::launch();
+
+  // The timers' later ticks come after these.
+  ASSERT_GE(happened.size(), 7u);
+  happened.resize(7);
+  EXPECT_THAT(happened,
+              ::testing::ElementsAre("init", "registerListener:forName:", "deviceNumber", "Loping1",
+                                     "infoMusic", "changePreferences", "changesPrefs"));
+  EXPECT_EQ(listener_class, "SVActivatorListener");
+  EXPECT_EQ(listener_name, "org.plumvane.Sonavue2");
+  EXPECT_TRUE(home_screen_was_there);
+  EXPECT_EQ(global<SpringBoard>("Spring"), application);
+}
+
+TEST_F(StartUp, TimersTickAtTheirPaces) {
+  launch();
+  const SpringBoardSpy<"Loping1"> watch(SpringBoard::cls());
+  const SpringBoardSpy<"infoMusic"> refresh(SpringBoard::cls());
+  const SpringBoardSpy<"changePreferences"> poll(SpringBoard::cls());
+  advance(10);
+  EXPECT_NEAR(watch.count(), 100, 1);
+  EXPECT_NEAR(poll.count(), 100, 1);
+  EXPECT_NEAR(refresh.count(), 10, 1);
+}
+
+TEST_F(StartUp, AppliesThePreferencesOnceMoreThoughNothingChanged) {
+  write_preferences("<key>checked</key><true/>");
+  load_extension();
+  const SpringBoardSpy<"changesPrefs"> apply(SpringBoard::cls());
+  PhoneTest::launch();
+  advance(1);
+  EXPECT_EQ(apply.count(), 1);
+}
+
+TEST_F(StartUp, WithoutTheMusicApplicationItEndsWithOneLine) {
+  remove_application("Music");
+  load_extension();
+  const SpringBoardSpy<"Loping1"> watch(SpringBoard::cls());
+  const SpringBoardSpy<"infoMusic"> refresh(SpringBoard::cls());
+  const SpringBoardSpy<"changePreferences"> poll(SpringBoard::cls());
+  const SpringBoardSpy<"changesPrefs"> apply(SpringBoard::cls());
+  media_tests::CapturedLog log;
+  PhoneTest::launch();
+  advance(5);
+  EXPECT_EQ(log.count("<Sonavue> Error while hooking Music app!"), 1);
+  EXPECT_EQ(watch.count() + refresh.count() + poll.count() + apply.count(), 0);
+  EXPECT_FALSE(std::filesystem::exists(preferences_file()));
+  EXPECT_FALSE(is("added"));
+  EXPECT_FALSE(music_icon());
+  EXPECT_FALSE(view("container"));
+  EXPECT_EQ(alpha("cover"), 0);
+  EXPECT_FALSE(global<UIColor>("newColor"));
+}
+
+TEST_F(StartUp, ApexLeavesTheIconAndItsWatchAlone) {
+  write_preferences("<key>apex</key><true/>");
+  load_extension();
+  const SpringBoardSpy<"Loping1"> watch(SpringBoard::cls());
+  PhoneTest::launch();
+  const auto others = [&](const char* bundle) {
+    return icon_view(bundle).gestureRecognizers().count();
+  };
+  advance(1);
+  EXPECT_EQ(watch.count(), 0);
+  EXPECT_FALSE(is("added"));
+  EXPECT_EQ(others(kMusic), others(kCalendar));
+  // Only the start-up looks at the setting.
+  write_preferences("<key>apex</key><false/>");
+  advance(1);
+  EXPECT_EQ(watch.count(), 0);
+  EXPECT_FALSE(is("added"));
+}
+
+TEST_F(StartUp, AnIconInAFolderKeepsTheSystemsRecognizers) {
+  PhoneTest::launch();
+  ASSERT_TRUE(springboard::move_to_folder(kMusic));
+  settle();
+  const NSUInteger own = icon_view(kCalendar).gestureRecognizers().count();
+  launch();
+  EXPECT_TRUE(view("music"));
+  EXPECT_FALSE(is("added"));
+  EXPECT_EQ(music_icon().gestureRecognizers().count(), own);
+}
+
+}  // namespace
+}  // namespace host::test

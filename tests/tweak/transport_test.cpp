@@ -1,0 +1,151 @@
+#include "platform/UIKit/UITableView.h"
+#include "tests/tweak/panel_test.h"
+
+namespace host::test {
+namespace {
+
+class Transport : public PanelTest {
+ protected:
+  void SetUp() override { open_with("Bravo"); }
+
+  /// The open panel while `title` plays and its row is selected in the list of all songs.
+  void open_with(const char* title) {
+    launch();
+    play(title);
+    open_panel();
+    ASSERT_EQ(sounding(), title);
+    ASSERT_FALSE(is_engine_paused());
+  }
+
+  NSInteger selected_row() const {
+    return global<UITableView>("tableView").indexPathForSelectedRow().row();
+  }
+  void wait_for_the_lock() { advance(global<float>("time_wait") + 0.05); }
+};
+
+TEST_F(Transport, ATapOnPlayPausesAndPlaysWhatSounds) {
+  tap_on(view("play"));
+  EXPECT_TRUE(is_engine_paused());
+  EXPECT_FALSE(media().isPlaying());
+  advance(1);
+  tap_on(view("play"));
+  EXPECT_FALSE(is_engine_paused());
+  EXPECT_TRUE(media().isPlaying());
+  EXPECT_EQ(sounding(), "Bravo");
+}
+
+TEST_F(Transport, NextPlaysTheSongBelowAndBackTheOneAbove) {
+  tap_on(view("next"));
+  EXPECT_EQ(sounding(), "Charlie");
+  EXPECT_FALSE(is_engine_paused());
+  wait_for_the_lock();
+  tap_on(view("back"));
+  EXPECT_EQ(sounding(), "Bravo");
+  wait_for_the_lock();
+  tap_on(view("back"));
+  EXPECT_EQ(sounding(), "Alpha");
+}
+
+TEST_F(Transport, BackNeverRestartsTheSong) {
+  advance(20);
+  tap_on(view("back"));
+  EXPECT_EQ(sounding(), "Alpha");
+}
+
+TEST_F(Transport, TheQueueIsTheWholeLibraryAgain) {
+  tap_on(view("next"));
+  EXPECT_EQ(sounding(), "Charlie");
+  media().changeTrack(1);
+  EXPECT_EQ(sounding(), "Delta");
+}
+
+TEST_F(Transport, ATapOnAButtonDoesNotCloseThePanel) {
+  for (const char* button : {"play", "back", "next"}) {
+    tap_on(view(button));
+    wait_for_the_lock();
+    settle();
+    EXPECT_TRUE(is("isShow")) << button;
+  }
+}
+
+TEST_F(Transport, APausedPlayerPlaysOnWithTheNextSong) {
+  tap_on(view("play"));
+  ASSERT_TRUE(is_engine_paused());
+  advance(1.1);
+  tap_on(view("next"));
+  EXPECT_FALSE(is_engine_paused());
+  EXPECT_EQ(sounding(), "Charlie");
+}
+
+TEST_F(Transport, PlaySlidesTheAlbumTableAside) {
+  const UIView table = view("blurTable");
+  table.setFrame({0, 0, table.frame().size.width, table.frame().size.height});
+  tap_on(view("play"));
+  EXPECT_EQ(table.frame().origin, (CGPoint{table.frame().size.width, 0}));
+}
+
+TEST_F(Transport, TheEndOfTheLockSlidesTheAlbumTableAside) {
+  tap_on(view("next"));
+  const UIView table = view("blurTable");
+  table.setFrame({0, 0, table.frame().size.width, table.frame().size.height});
+  advance(global<float>("time_wait") - 0.1);
+  EXPECT_EQ(table.frame().origin.x, 0);
+  wait_for_the_lock();
+  EXPECT_EQ(table.frame().origin.x, table.frame().size.width);
+}
+
+TEST_F(Transport, NothingIsDoneWhileTheBannerIsDragged) {
+  global<BOOL>("isGrabbing") = YES;
+  tap_on(view("play"));
+  EXPECT_FALSE(is_engine_paused());
+  tap_on(view("next"));
+  tap_on(view("back"));
+  EXPECT_EQ(sounding(), "Bravo");
+  EXPECT_FALSE(is("changeTrack"));
+  global<BOOL>("isGrabbing") = NO;
+  tap_on(view("next"));
+  EXPECT_EQ(sounding(), "Charlie");
+}
+
+class TransportAtTheFirstSong : public Transport {
+  void SetUp() override { open_with("Alpha"); }
+};
+
+TEST_F(TransportAtTheFirstSong, BackGoesRoundToTheLast) {
+  ASSERT_EQ(selected_row(), 0);
+  tap_on(view("back"));
+  EXPECT_EQ(sounding(), "Echo");
+  EXPECT_FALSE(is_engine_paused());
+}
+
+class TransportAtTheLastSong : public Transport {
+  void SetUp() override { open_with("Echo"); }
+};
+
+TEST_F(TransportAtTheLastSong, NextGoesRoundToTheFirst) {
+  // A song of no album selects no row by itself.
+  global<UITableView>("tableView")
+      .selectRowAtIndexPath(NSIndexPath::indexPathForRow(4, 0), NO, UITableViewScrollPositionNone);
+  tap_on(view("next"));
+  EXPECT_EQ(sounding(), "Alpha");
+  EXPECT_FALSE(is_engine_paused());
+}
+
+class TransportWithoutMusic : public PanelTest {};
+
+TEST_F(TransportWithoutMusic, NothingFaults) {
+  use_no_songs();
+  launch();
+  open_panel();
+  for (const char* button : {"back", "next", "play"}) {
+    tap_on(view(button));
+    advance(2.2);
+  }
+  EXPECT_EQ(sounding(), "");
+  EXPECT_FALSE(media().isPlaying());
+  EXPECT_FALSE(is("changeTrack"));
+  EXPECT_TRUE(is("isShow"));
+}
+
+}  // namespace
+}  // namespace host::test
