@@ -2,6 +2,15 @@
 
 #include "platform/Foundation/NSString.h"
 
+// The names of the platform's own curves.
+extern "C" {
+extern NSString kCAMediaTimingFunctionLinear;
+extern NSString kCAMediaTimingFunctionEaseIn;
+extern NSString kCAMediaTimingFunctionEaseOut;
+extern NSString kCAMediaTimingFunctionEaseInEaseOut;
+extern NSString kCAMediaTimingFunctionDefault;
+}
+
 /// A curve from (0, 0) to (1, 1): "linear", "easeIn", "easeOut", "easeInEaseOut", "default".
 struct CAMediaTimingFunction
     : objc::Bound<CAMediaTimingFunction, "CAMediaTimingFunction", NSObject> {

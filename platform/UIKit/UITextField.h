@@ -4,6 +4,7 @@
 #include "platform/UIKit/UIControl.h"
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UITextEnumerations.h"
+#include "platform/UIKit/UITextInputTraits.h"
 
 enum UITextFieldViewMode : NSInteger {
   UITextFieldViewModeNever = 0,
@@ -61,6 +62,24 @@ struct UITextField : objc::Bound<UITextField, "UITextField", UIControl> {
     return call<"clearButtonMode", UITextFieldViewMode>();
   }
   void setClearButtonMode(UITextFieldViewMode mode) const { call<"setClearButtonMode:">(mode); }
+
+  // What it asks of the keyboard; looked at when the keyboard comes for it.
+  UIKeyboardType keyboardType() const { return call<"keyboardType", UIKeyboardType>(); }
+  void setKeyboardType(UIKeyboardType type) const { call<"setKeyboardType:">(type); }
+  UIKeyboardAppearance keyboardAppearance() const {
+    return call<"keyboardAppearance", UIKeyboardAppearance>();
+  }
+  void setKeyboardAppearance(UIKeyboardAppearance look) const {
+    call<"setKeyboardAppearance:">(look);
+  }
+  UIReturnKeyType returnKeyType() const { return call<"returnKeyType", UIReturnKeyType>(); }
+  void setReturnKeyType(UIReturnKeyType type) const { call<"setReturnKeyType:">(type); }
+  UITextAutocapitalizationType autocapitalizationType() const {
+    return call<"autocapitalizationType", UITextAutocapitalizationType>();
+  }
+  void setAutocapitalizationType(UITextAutocapitalizationType type) const {
+    call<"setAutocapitalizationType:">(type);
+  }
 
   CGRect textRectForBounds(CGRect bounds) const {
     return call<"textRectForBounds:", CGRect>(bounds);

@@ -40,3 +40,6 @@ inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveEaseInOut = 0 
 inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveEaseIn = 1 << 16;
 inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveEaseOut = 2 << 16;
 inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveLinear = 3 << 16;
+
+/// The curve that a keyboard moves by, as its notifications name it.
+inline constexpr NSInteger UIViewAnimationCurveKeyboard = 7;

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/UIKit/UIViewController.h"
+
+/// The page on which the user chooses the gestures of one listener.
+struct LAListenerSettingsViewController
+    : objc::Bound<LAListenerSettingsViewController, "LAListenerSettingsViewController",
+                  UIViewController> {
+  NSString listenerName() const { return call<"listenerName", NSString>(); }
+  void setListenerName(NSString name) const { call<"setListenerName:">(name); }
+};
