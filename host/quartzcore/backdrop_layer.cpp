@@ -8,6 +8,8 @@ namespace {
 CGColorObject object_in(CGColorRef color) {
   return objc::cast<CGColorObject>(object_of(color));
 }
+std::vector<const BackdropLayer*> backdrops;
+
 CGColorRef color_in(const objc::Ref<CGColorObject>& color) {
   return reinterpret_cast<CGColorRef>(color.get().id());
 }
@@ -23,9 +25,15 @@ std::uint64_t BackdropLook::signature() const {
 
 BackdropLayer::BackdropLayer(CABackdropLayer owner) : Implementation(owner) {
   objc::state_of<Layer>(owner).set_backdrop(this);
+  backdrops.push_back(this);
 }
 BackdropLayer::~BackdropLayer() {
   objc::state_of<Layer>(self).set_backdrop(nullptr);
+  std::erase(backdrops, this);
+}
+
+const std::vector<const BackdropLayer*>& all_backdrops() {
+  return backdrops;
 }
 
 void BackdropLayer::note_change() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "host/quartzcore/layer.h"
 #include "platform/QuartzCore/CABackdropLayer.h"
 
@@ -24,6 +26,7 @@ class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer
   explicit BackdropLayer(CABackdropLayer owner);
   ~BackdropLayer();
 
+  const Layer& layer() const { return objc::state_of<Layer>(self); }
   const BackdropLook& look() const { return look_; }
   void note_luminance(double luminance) { luminance_ = luminance; }
 
@@ -50,6 +53,9 @@ class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer
   objc::Ref<CGColorObject> lighten_tint_;
   double luminance_ = 0.5;
 };
+
+/// All that there are in this process.
+const std::vector<const BackdropLayer*>& all_backdrops();
 
 void export_backdrop_layer();
 

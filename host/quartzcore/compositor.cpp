@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/layer_service.h"
 
 namespace host::quartzcore {
@@ -9,6 +10,7 @@ namespace {
 
 // More rectangles than these cost more in clipping than they save in pixels.
 constexpr std::size_t kMostRectangles = 4;
+constexpr int kMostRounds = 4;
 
 }  // namespace
 
@@ -20,11 +22,10 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
       std::equal(roots.begin(), roots.end(), last_roots_.begin(), last_roots_.end());
   const bool animated = any_layer_animated();
   if (same_roots && !animated && !last_animated_ && last_changes_ == layer_changes()) return {};
+  prepare_tree(roots, now);
   last_roots_.assign(roots.begin(), roots.end());
   last_changes_ = layer_changes();
   last_animated_ = animated;
-
-  tree_.prepare(roots, screen_, scale_, now);
   std::vector<Entry> after;
   after.reserve(tree_.nodes().size());
   for (const RenderNode& one : tree_.nodes()) {
@@ -36,7 +37,7 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   entries_ = std::move(after);
   if (damage.empty()) return damage;
   ++frames_;
-  prepare_backdrops();
+  prepare_backdrops(tree_);
   for (const PixelRect& rect : damage) {
     painted_pixels_ += static_cast<std::uint64_t>(rect.area());
     paint_damage(rect);
@@ -46,8 +47,22 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   return damage;
 }
 
-// Layers are compared by identity. What changed damages its old and its new place; what changed
-// its rank among the others damages its place as well.
+// What comes into sight is drawn only now. Drawing may bring more into sight, but not for ever.
+void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
+  for (int round = 0; round < kMostRounds; ++round) {
+    tree_.prepare(roots, screen_, scale_, now);
+    if (tree_.undrawn().empty()) return;
+    std::vector<objc::Ref<CALayer>> undrawn;
+    for (const CALayer layer : tree_.undrawn())
+      undrawn.push_back(objc::Ref<CALayer>::retain(layer));
+    for (const auto& layer : undrawn)
+      layer->displayIfNeeded();
+  }
+  tree_.prepare(roots, screen_, scale_, now);
+}
+
+// Layers are compared by identity. What changed damages its old and its new place; what changed its
+// rank among the others damages its place as well.
 Damage Compositor::find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after) {
   std::unordered_map<std::uint64_t, int> places;
   places.reserve(before.size());
@@ -140,11 +155,23 @@ void Compositor::paint_damage(const PixelRect& damage) {
   canvases_.clear();
 }
 
+// What was blurred is kept for as long as its backdrop may come back; a picture at the screen's
+// size is too large for that.
 void Compositor::forget_unused() {
-  std::erase_if(backdrops_, [&](const auto& one) {
-    return std::none_of(tree_.nodes().begin(), tree_.nodes().end(),
-                        [&](const RenderNode& n) { return n.serial == one.first; });
-  });
+  const auto is_shown = [&](std::uint64_t serial) {
+    return std::any_of(tree_.nodes().begin(), tree_.nodes().end(),
+                       [&](const RenderNode& one) { return one.serial == serial; });
+  };
+  const auto is_alive = [](std::uint64_t serial) {
+    return std::any_of(all_backdrops().begin(), all_backdrops().end(),
+                       [&](const auto* one) { return one->layer().serial() == serial; });
+  };
+  std::erase_if(backdrops_, [&](const auto& one) { return !is_alive(one.first); });
+  for (auto& [serial, backdrop] : backdrops_) {
+    if (is_shown(serial)) continue;
+    backdrop.surface = {};
+    backdrop.is_enlarged = false;
+  }
   std::erase_if(groups_, [&](const auto& one) {
     return std::none_of(tree_.nodes().begin(), tree_.nodes().end(),
                         [&](const RenderNode& n) { return n.serial == one.first && n.is_group; });

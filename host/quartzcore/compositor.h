@@ -26,6 +26,11 @@ class Compositor {
   /// Brings the surface up to `roots` (drawn in their order, over black) at the clock time `now`.
   Damage render(std::span<const CALayer> roots, double now);
 
+  /// Blurs ahead what backdrops that are faded out will show of a picture behind them, so that no
+  /// frame of their fade has to. Meant for the time between frames; where nothing is new it costs
+  /// next to nothing.
+  void prepare_ahead(std::span<const CALayer> roots, double now);
+
   /// ARGB32, `width` × `height`. It stays the same surface for life.
   const Surface& surface() const { return surface_; }
   PixelRect screen() const { return screen_; }
@@ -73,8 +78,9 @@ class Compositor {
   void paint_contents(int index, const PixelRect& damage, int first, double opacity);
   void paint_group(int index, const PixelRect& damage);
   void paint_backdrop(int index, const PixelRect& damage, double opacity);
-  void prepare_backdrops();
-  void blur(int index, SmallPicture behind);
+  void prepare_tree(std::span<const CALayer> roots, double now);
+  void prepare_backdrops(const RenderTree& tree);
+  void blur(const RenderNode& backdrop, SmallPicture behind);
   std::uint64_t contents_of_group(int index) const;
   void draw_group(int index, CachedGroup& group);
   void apply_mask(int index);
@@ -88,6 +94,7 @@ class Compositor {
   const double scale_;
   Surface surface_;
   RenderTree tree_;
+  RenderTree tree_ahead_;
   ImageCache images_;
   std::vector<Entry> entries_;
   // The screen below, groups above it: where a backdrop looks through.
@@ -98,6 +105,7 @@ class Compositor {
   std::uint64_t last_changes_ = 0;
   bool last_animated_ = false;
   bool damage_all_ = true;
+  std::uint64_t state_ahead_ = 0;
   std::uint64_t frames_ = 0;
   std::uint64_t painted_pixels_ = 0;
   std::uint64_t blurs_ = 0;

@@ -114,8 +114,9 @@ SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect&
   const Image& image = *shown.layer->contents_image();
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(
       contents_rect(*shown.layer, shown.properties.bounds), shown.to_device));
-  const Surface scaled = images_.scaled(image, std::max(1, box.width / reduction),
-                                        std::max(1, box.height / reduction));
+  const Surface scaled =
+      images_.scaled(image, std::max(1, box.width / reduction), std::max(1, box.height / reduction),
+                     ImageCache::Pixels::Waited);
   const Surface small = make_surface((place.width + reduction - 1) / reduction,
                                      (place.height + reduction - 1) / reduction);
   const Drawing drawing = draw_on(small);
@@ -132,18 +133,17 @@ SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect&
 
 // Backdrops over nothing but a picture are blurred before anything is painted: whoever paints then
 // knows that they hide the picture.
-void Compositor::prepare_backdrops() {
-  for (int i = 0; i < static_cast<int>(tree_.nodes().size()); ++i) {
-    const RenderNode& one = node(i);
+void Compositor::prepare_backdrops(const RenderTree& tree) {
+  for (const RenderNode& one : tree.nodes()) {
     if (one.lone_picture < 0 || one.own.is_empty() || backdrop_is_ready(one)) continue;
+    const RenderNode& picture = tree.nodes()[static_cast<std::size_t>(one.lone_picture)];
     const int reduction = reduction_for(one.layer->backdrop()->look(), scale_);
-    blur(i, small_copy_of(node(one.lone_picture), one.own, reduction));
+    blur(one, small_copy_of(picture, one.own, reduction));
   }
 }
 
-void Compositor::blur(int index, SmallPicture behind) {
+void Compositor::blur(const RenderNode& one, SmallPicture behind) {
   ++blurs_;
-  const RenderNode& one = node(index);
   BackdropLayer& backdrop = *one.layer->backdrop();
   backdrop.note_luminance(filter_backdrop(behind, backdrop.look(), scale_));
   CachedBackdrop& cached = backdrops_[one.serial];
@@ -154,7 +154,7 @@ void Compositor::paint_backdrop(int index, const PixelRect& damage, double opaci
   const RenderNode& one = node(index);
   if (!backdrop_is_ready(one)) {
     const int reduction = reduction_for(one.layer->backdrop()->look(), scale_);
-    blur(index, small_picture_behind(one, reduction));
+    blur(one, small_picture_behind(one, reduction));
   }
   CachedBackdrop& cached = backdrops_[one.serial];
   const Canvas& canvas = canvases_.back();

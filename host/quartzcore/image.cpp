@@ -18,10 +18,30 @@ CGImageRef make_image(Surface surface, Opacity opacity, ByteOrder order) {
   if (!made) return nullptr;
   auto& image = objc::state_of<Image>(made);
   cairo_surface_flush(surface.get());
+  image.width_ = width_of(surface);
+  image.height_ = height_of(surface);
   image.surface_ = std::move(surface);
   image.opacity_ = opacity;
   image.byte_order_ = order;
   return reinterpret_cast<CGImageRef>(made.id());
+}
+
+CGImageRef promise_image(int width, int height, std::shared_ptr<PixelSource> source,
+                         ByteOrder order) {
+  const CGImageObject made = CGImageObject::alloc().init();
+  if (!made) return nullptr;
+  auto& image = objc::state_of<Image>(made);
+  image.source_ = std::move(source);
+  image.width_ = width;
+  image.height_ = height;
+  image.byte_order_ = order;
+  return reinterpret_cast<CGImageRef>(made.id());
+}
+
+Surface Image::surface() const {
+  if (!source_) return surface_;
+  Surface made = source_->pixels();
+  return made ? made : make_surface(width_, height_);
 }
 
 const Image* image_of(CGImageRef image) {
@@ -48,7 +68,8 @@ CGImageRef part_of(const Image& image, CGRect rect) {
   const Surface part = make_surface(right - left, bottom - top);
   const Drawing drawing = draw_on(part);
   cairo_set_operator(drawing.get(), CAIRO_OPERATOR_SOURCE);
-  cairo_set_source_surface(drawing.get(), image.surface().get(), -left, -top);
+  const Surface whole = image.surface();
+  cairo_set_source_surface(drawing.get(), whole.get(), -left, -top);
   cairo_paint(drawing.get());
   return make_image(part, image.is_opaque() ? Opacity::Opaque : Opacity::Translucent,
                     image.byte_order());
@@ -80,7 +101,8 @@ SONAVUE_EXPORTED std::size_t CGImageGetHeight(CGImageRef image) {
 }
 SONAVUE_EXPORTED std::size_t CGImageGetBytesPerRow(CGImageRef image) {
   if (!image) return 0;
-  return static_cast<std::size_t>(cairo_image_surface_get_stride(image_of(image)->surface().get()));
+  const int stride = cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, image_of(image)->width());
+  return static_cast<std::size_t>(stride);
 }
 SONAVUE_EXPORTED std::size_t CGImageGetBitsPerPixel(CGImageRef image) {
   return image ? 32 : 0;
@@ -99,11 +121,11 @@ SONAVUE_EXPORTED CGDataProviderRef CGImageGetDataProvider(CGImageRef image) {
 SONAVUE_EXPORTED CFDataRef CGDataProviderCopyData(CGDataProviderRef provider) {
   const auto* image = image_of(reinterpret_cast<CGImageRef>(provider));
   if (!image) return nullptr;
-  const auto stride =
-      static_cast<std::size_t>(cairo_image_surface_get_stride(image->surface().get()));
+  const host::quartzcore::Surface pixels = image->surface();
+  const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(pixels.get()));
   const std::size_t length = stride * static_cast<std::size_t>(image->height());
   auto* bytes = static_cast<unsigned char*>(std::malloc(length));
-  std::memcpy(bytes, cairo_image_surface_get_data(image->surface().get()), length);
+  std::memcpy(bytes, cairo_image_surface_get_data(pixels.get()), length);
   if (image->byte_order() == host::quartzcore::ByteOrder::RedFirst)
     host::quartzcore::swap_red_and_blue(bytes, length);
   const auto data = objc::send<NSData>(NSData::alloc(), "initWithBytesNoCopy:length:"_sel,

@@ -11,15 +11,20 @@ long size_of(const Surface& surface) {
 
 }  // namespace
 
-Surface ImageCache::scaled(const Image& image, int width, int height) {
-  if (image.width() == width && image.height() == height) return image.surface();
+Surface ImageCache::scaled(const Image& image, int width, int height, Pixels pixels) {
+  const auto source = [&] {
+    return pixels == Pixels::Waited ? image.surface() : image.surface_for_frame();
+  };
+  if (image.width() == width && image.height() == height) return source();
   const Key key{image.serial(), width, height};
   const auto found = entries_.find(key);
   if (found != entries_.end()) {
     found->second.last_use = ++uses_;
     return found->second.surface;
   }
-  const Surface made = scaled_copy(image.surface(), width, height);
+  const Surface whole = source();
+  if (!whole) return {};
+  const Surface made = scaled_copy(whole, width, height);
   entries_.emplace(key, Entry{made, ++uses_});
   bytes_ += size_of(made);
   make_room();

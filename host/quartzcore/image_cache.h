@@ -13,10 +13,13 @@ namespace host::quartzcore {
 class ImageCache {
  public:
   /// Enough for several screens of artwork and all icons.
-  static constexpr long kBudget = 64L << 20;
+  static constexpr long kBudget = 40L << 20;
 
-  /// The image at that size in pixels; its own surface when that is its size.
-  Surface scaled(const Image& image, int width, int height);
+  enum class Pixels { AsTheyAre, Waited };
+
+  /// The image at that size in pixels; its own surface when that is its size. Null while promised
+  /// pixels are on their way, unless they are waited for.
+  Surface scaled(const Image& image, int width, int height, Pixels pixels = Pixels::AsTheyAre);
   long bytes() const { return bytes_; }
 
  private:

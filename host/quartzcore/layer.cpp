@@ -44,7 +44,8 @@ Layer::Layer(CALayer owner) : Implementation(owner), serial_(next_serial()) {
 }
 
 Layer::~Layer() {
-  forget_layer(self);
+  if (in_dirty_list_) forget_dirty_layer(self);
+  if (in_animated_list_) forget_animated_layer(self);
   for (auto& animation : animations_)
     stop(animation, NO, true);
   for (const auto& child : children_)
@@ -57,12 +58,18 @@ void Layer::change(NSString key, const T& value) {
   if (properties_.*Member == value) return;
   const auto action = action_before_change(key);
   properties_.*Member = value;
+  constexpr bool is_place = !std::is_same_v<T, double> && !std::is_same_v<T, Rgba>;
+  if constexpr (is_place) forget_reach();
   note_layer_change();
   run_action(action, key);
 }
 
 CGRect Layer::frame() const {
-  return CGRectApplyAffineTransform(properties_.bounds, properties_.to_super());
+  const LayerProperties& p = properties_;
+  const CGRect box = CGRectApplyAffineTransform(p.bounds, p.to_super());
+  // Without a transform the size is kept to the last bit: whoever moves a layer by its frame must
+  // not change its bounds.
+  return CATransform3DIsIdentity(p.transform) ? CGRect{box.origin, p.bounds.size} : box;
 }
 
 void Layer::set_frame(CGRect frame) {
@@ -99,6 +106,8 @@ void Layer::set_anchor_point(CGPoint anchor) {
   change<&LayerProperties::anchor>("anchorPoint"_ns, anchor);
 }
 void Layer::set_z_position(CGFloat z) {
+  // The order of the sublayers is the index's, too.
+  forget_reach();
   change<&LayerProperties::z_position>("zPosition"_ns, z);
 }
 void Layer::set_transform(CATransform3D transform) {
@@ -146,7 +155,9 @@ void Layer::set_opaque(BOOL opaque) {
   note_layer_change();
 }
 void Layer::set_masks_to_bounds(BOOL masks) {
+  if (masks_to_bounds_ == (masks != NO)) return;
   masks_to_bounds_ = masks != NO;
+  forget_reach();
   note_layer_change();
 }
 void Layer::set_should_rasterize(BOOL rasterize) {
@@ -159,6 +170,7 @@ void Layer::set_contents(objc::Object contents) {
   contents_.reset(contents);
   image_ = image_of(contents);
   needs_display_ = false;
+  if (gravity_ != Gravity::Resize) forget_reach();
   note_layer_change();
 }
 
@@ -171,11 +183,13 @@ void Layer::set_contents_gravity(NSString gravity) {
                                    [&](const auto& named) { return named.first == wanted; });
   if (found == std::end(kGravities)) return;
   gravity_ = found->second;
+  forget_reach();
   note_layer_change();
 }
 void Layer::set_contents_scale(CGFloat scale) {
   if (scale <= 0) return;
   contents_scale_ = scale;
+  if (gravity_ != Gravity::Resize) forget_reach();
   note_layer_change();
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/quartzcore/child_index.h"
 #include "host/quartzcore/color.h"
 #include "host/quartzcore/image.h"
 #include "host/quartzcore/layer_drawing.h"
@@ -56,23 +58,49 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   bool has_animations() const { return !animations_.empty(); }
   /// Is the size on the screen under way? Then scaled copies are not worth keeping.
   bool is_scaling(double now) const;
+  CALayer handle() const { return self; }
+  /// Calls `visit` for each sublayer in drawing order; those that cannot touch `rect`, in this
+  /// layer's coordinates, are mostly left out where there are many.
+  template <class Visit>
+  void visit_children(const CGRect& rect, Visit visit) const {
+    if (children_.size() < ChildIndex::kWorthwhile) {
+      for (const Layer* child : children_in_order())
+        visit(*child);
+      return;
+    }
+    if (is_index_stale_) make_child_index();
+    child_index_->visit(rect, visit);
+  }
+  /// What the layer with everything below it may touch, in its superlayer's coordinates.
+  CGRect box() const;
+  /// Is it cut away whole by a layer above it, as the model has it?
+  bool is_clipped_away() const;
   LayerDrawing* drawing() const { return drawing_; }
   BackdropLayer* backdrop() const { return backdrop_; }
 
   // For the kinds of layer built upon this one.
-  void set_drawing(LayerDrawing* drawing) { drawing_ = drawing; }
+  void set_drawing(LayerDrawing* drawing) {
+    drawing_ = drawing;
+    forget_reach();
+  }
   void set_backdrop(BackdropLayer* backdrop) { backdrop_ = backdrop; }
   /// The action for a change about to be made, retained; run it after the change.
   objc::Ref<objc::Object> action_before_change(NSString key) const;
   void run_action(const objc::Ref<objc::Object>& action, NSString key) const;
 
+  /// Adds an animation without an object; it takes the place of one with the same key.
+  void run(RunningAnimation animation);
+
   // For the service.
   void advance_animations(double now);
   void announce_started_animations();
   bool wants_frames() const;
+  bool waits_for_start() const;
   /// The clock time at which the first of its running animations ends; infinity when none does.
   double next_animation_end() const;
   void leave_dirty_list() { in_dirty_list_ = false; }
+  bool is_in_animated_list() const { return in_animated_list_; }
+  void set_in_animated_list(bool is_in) { in_animated_list_ = is_in; }
 
   // Properties.
   CGRect frame() const;
@@ -158,7 +186,7 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   void add_animation(CAAnimation animation, NSString key);
   void remove_animation_for_key(NSString key);
   void remove_all_animations();
-  CAAnimation animation_for_key(NSString key) const;
+  CAAnimation animation_for_key(NSString key);
   NSArray animation_keys() const;
   CALayer presentation_layer() const;
   CALayer model_layer() const;
@@ -171,7 +199,16 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   template <auto Member, class T>
   void change(NSString key, const T& value);
   void mark(bool& flag);
+  void announce_layout();
   bool is_custom_drawn() const;
+  std::vector<const Layer*> children_in_order() const;
+  void make_child_index() const;
+  void take(RunningAnimation animation);
+  static bool moves(const RunningAnimation& animation);
+  bool may_move() const;
+  CGRect reach() const;
+  void forget_reach();
+  void forget_reach_of_children();
   void lay_out_marked_tree();
   void insert_child(CALayer layer, std::size_t index);
   std::size_t index_of(CALayer layer) const;
@@ -193,7 +230,16 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   bool needs_display_ = false;
   bool needs_display_on_bounds_change_ = false;
   bool needs_layout_ = false;
+  // Some layer below it does.
+  bool layout_waits_below_ = false;
   bool in_dirty_list_ = false;
+  bool in_animated_list_ = false;
+  // A layer whose reach is not known is in no index, and above it only layers that clip know
+  // theirs.
+  mutable bool is_reach_known_ = false;
+  mutable bool is_index_stale_ = true;
+  mutable CGRect reach_;
+  mutable std::unique_ptr<ChildIndex> child_index_;
   Gravity gravity_ = Gravity::Resize;
   double contents_scale_ = 1;
   objc::Ref<objc::Object> contents_;

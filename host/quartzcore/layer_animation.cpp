@@ -24,16 +24,20 @@ bool answers(objc::Object object, objc::Sel selector) {
   return object && objc::cast<NSObject>(object).respondsToSelector(selector);
 }
 
-void tell_start(const RunningAnimation& animation) {
-  const objc::Object delegate = animation.object->delegate();
-  if (answers(delegate, "animationDidStart:"_sel))
-    objc::send<>(delegate, "animationDidStart:"_sel, animation.object.get());
+objc::Object listener_of(const RunningAnimation& animation) {
+  return animation.object ? animation.object->delegate() : animation.listener.get();
 }
 
-void tell_stop(const objc::Ref<CAAnimation>& animation, BOOL finished) {
-  const objc::Object delegate = animation->delegate();
-  if (answers(delegate, "animationDidStop:finished:"_sel))
-    objc::send<>(delegate, "animationDidStop:finished:"_sel, animation.get(), finished);
+void tell_start(const RunningAnimation& animation) {
+  const objc::Object listener = listener_of(animation);
+  if (answers(listener, "animationDidStart:"_sel))
+    objc::send<>(listener, "animationDidStart:"_sel, animation.object.get());
+}
+
+/// `listener` hears of the end of `animation`, which is null where there was no object.
+void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
+  if (answers(listener, "animationDidStop:finished:"_sel))
+    objc::send<>(listener, "animationDidStop:finished:"_sel, animation.get(), finished);
 }
 
 }  // namespace
@@ -99,8 +103,19 @@ void Layer::add_animation(CAAnimation animation, NSString key) {
   if (key) self.removeAnimationForKey(key);
   RunningAnimation running =
       prepare_animation(copy, text_of(key), now(), current_animation_duration());
-  running.group = current_group();
-  animations_.push_back(std::move(running));
+  take(std::move(running));
+}
+
+void Layer::run(RunningAnimation animation) {
+  if (!animations_.empty())
+    self.removeAnimationForKey(NSString::stringWithUTF8String(animation.key.c_str()));
+  take(std::move(animation));
+}
+
+void Layer::take(RunningAnimation animation) {
+  animation.group = current_group();
+  animations_.push_back(std::move(animation));
+  if (may_move()) forget_reach();
   note_animated_layer(self);
   note_layer_change();
 }
@@ -109,11 +124,19 @@ void Layer::add_animation(CAAnimation animation, NSString key) {
 void Layer::stop(RunningAnimation& animation, BOOL finished, bool next_turn) {
   if (std::exchange(animation.has_stopped, true)) return;
   animation.group.reset();
+  const auto listener = objc::Ref<objc::Object>::retain(listener_of(animation));
   if (!next_turn) {
-    tell_stop(animation.object, finished);
+    tell_stop(listener.get(), animation.object, finished);
   } else if (RunLoop::has_main()) {
-    RunLoop::main().perform([object = animation.object, finished] { tell_stop(object, finished); });
+    RunLoop::main().perform([listener, object = animation.object, finished] {
+      tell_stop(listener.get(), object, finished);
+    });
   }
+}
+
+bool Layer::waits_for_start() const {
+  return std::any_of(animations_.begin(), animations_.end(),
+                     [](const auto& animation) { return !animation.has_started; });
 }
 
 void Layer::announce_started_animations() {
@@ -121,7 +144,7 @@ void Layer::announce_started_animations() {
   for (RunningAnimation& animation : animations_) {
     if (animation.has_started || animation.begin > now()) continue;
     animation.has_started = true;
-    started.push_back(animation);
+    if (answers(listener_of(animation), "animationDidStart:"_sel)) started.push_back(animation);
   }
   for (const RunningAnimation& animation : started)
     tell_start(animation);
@@ -130,16 +153,26 @@ void Layer::announce_started_animations() {
 void Layer::advance_animations(double time) {
   announce_started_animations();
   std::vector<RunningAnimation> ended;
-  for (RunningAnimation& animation : animations_) {
-    if (animation.has_stopped || !animation.is_over(time)) continue;
-    ended.push_back(animation);
-    animation.has_stopped = true;
-    animation.group.reset();
+  bool moved = false;
+  for (std::size_t i = 0; i < animations_.size();) {
+    RunningAnimation& animation = animations_[i];
+    if (animation.has_stopped || !animation.is_over(time)) {
+      ++i;
+      continue;
+    }
+    moved |= moves(animation);
+    if (animation.removed_on_completion) {
+      ended.push_back(std::move(animation));
+      animations_.erase(animations_.begin() + static_cast<std::ptrdiff_t>(i));
+    } else {
+      ended.push_back(animation);
+      animation.has_stopped = true;
+      animation.group.reset();
+      ++i;
+    }
   }
   if (ended.empty()) return;
-  std::erase_if(animations_, [](const RunningAnimation& animation) {
-    return animation.has_stopped && animation.removed_on_completion;
-  });
+  if (moved) forget_reach();
   note_layer_change();
   for (RunningAnimation& animation : ended)
     stop(animation, YES, false);
@@ -163,21 +196,28 @@ void Layer::remove_animation_for_key(NSString key) {
   for (auto& animation : animations_) {
     if (animation.key == wanted) stop(animation, animation.is_over(now()), true);
   }
-  if (std::erase_if(animations_, [&](const auto& animation) { return animation.key == wanted; }))
+  if (std::erase_if(animations_, [&](const auto& animation) { return animation.key == wanted; })) {
+    forget_reach();
+    note_animations_changed();
     note_layer_change();
+  }
 }
 
 void Layer::remove_all_animations() {
   for (auto& animation : animations_)
     stop(animation, animation.is_over(now()), true);
   animations_.clear();
+  forget_reach();
+  note_animations_changed();
   note_layer_change();
 }
 
-CAAnimation Layer::animation_for_key(NSString key) const {
+CAAnimation Layer::animation_for_key(NSString key) {
   const std::string wanted = text_of(key);
-  for (const auto& animation : animations_) {
-    if (animation.key == wanted) return animation.object.get();
+  for (auto& animation : animations_) {
+    if (animation.key != wanted) continue;
+    if (!animation.object) animation.object.reset(make_animation_object(animation));
+    return animation.object.get();
   }
   return nil;
 }

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <utility>
 
 #include "host/quartzcore/context.h"
 #include "host/quartzcore/layer.h"
@@ -29,6 +30,16 @@ void Layer::set_needs_display() {
 
 void Layer::set_needs_layout() {
   mark(needs_layout_);
+  announce_layout();
+}
+
+// Whoever lays out a tree then walks only where there is something to do.
+void Layer::announce_layout() {
+  for (CALayer above = superlayer_; above;) {
+    Layer& layer = objc::state_of<Layer>(above);
+    if (std::exchange(layer.layout_waits_below_, true)) return;
+    above = layer.superlayer_;
+  }
 }
 
 void Layer::display_if_needed() {
@@ -96,8 +107,14 @@ void Layer::lay_out_marked_tree() {
     needs_layout_ = false;
     self.layoutSublayers();
   }
+  if (!std::exchange(layout_waits_below_, false)) return;
   // Layout may add and remove layers: walk what there is when it is done.
-  for (const auto& child : std::vector(children_))
+  std::vector<objc::Ref<CALayer>> waiting;
+  for (const auto& child : children_) {
+    const Layer& layer = objc::state_of<Layer>(child.get());
+    if (layer.needs_layout_ || layer.layout_waits_below_) waiting.push_back(child);
+  }
+  for (const auto& child : waiting)
     objc::state_of<Layer>(child.get()).lay_out_marked_tree();
 }
 

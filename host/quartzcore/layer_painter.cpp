@@ -63,11 +63,13 @@ void paint_background(const Canvas& canvas, const RenderNode& node, double opaci
 void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const Image& image,
                              const CGRect& place, double opacity) {
   cairo_t* drawing = canvas.drawing.get();
+  const Surface pixels = image.surface_for_frame();
+  if (!pixels) return;
   use_layer_space(canvas, node.to_device);
   cairo_rectangle(drawing, place.min_x(), place.min_y(), place.size.width, place.size.height);
   cairo_translate(drawing, place.min_x(), place.min_y());
   cairo_scale(drawing, place.size.width / image.width(), place.size.height / image.height());
-  cairo_set_source_surface(drawing, image.surface().get(), 0, 0);
+  cairo_set_source_surface(drawing, pixels.get(), 0, 0);
   cairo_pattern_set_extend(cairo_get_source(drawing), CAIRO_EXTEND_PAD);
   cairo_pattern_set_filter(cairo_get_source(drawing), CAIRO_FILTER_BILINEAR);
   if (opacity >= 1) {
@@ -88,8 +90,9 @@ void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, I
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
   const bool own_size = box.width == image.width() && box.height == image.height();
   if (is_upright(node.to_device) && !box.is_empty() && (own_size || !node.is_scaling)) {
-    paint_surface(canvas, images.scaled(image, box.width, box.height), box.x, box.y, opacity,
-                  image.is_opaque() ? Opacity::Opaque : Opacity::Translucent);
+    const Surface pixels = images.scaled(image, box.width, box.height);
+    const Opacity kind = image.is_opaque() ? Opacity::Opaque : Opacity::Translucent;
+    if (pixels) paint_surface(canvas, pixels, box.x, box.y, opacity, kind);
   } else {
     paint_transformed_image(canvas, node, image, place, opacity);
   }
@@ -123,7 +126,7 @@ void clip_to_layer(const Canvas& canvas, const RenderNode& node) {
 }
 
 void paint_layer(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
-  paint_background(canvas, node, opacity);
+  if (!node.hides_background) paint_background(canvas, node, opacity);
   if (node.layer->contents_image()) paint_image(canvas, node, opacity, images);
   if (node.layer->drawing()) paint_drawing(canvas, node, opacity);
 }

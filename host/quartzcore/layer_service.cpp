@@ -20,6 +20,9 @@ std::uint64_t changes = 1;
 // Layers leave these when they end, so nothing here is retained.
 std::vector<CALayer> dirty;
 std::vector<CALayer> animated;
+// Thousands of layers may be animated; they are looked through only when something may be new.
+bool starts_wait = false;
+bool ends_are_known = true;
 
 std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
   std::vector<objc::Ref<CALayer>> result;
@@ -28,11 +31,21 @@ std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
   return result;
 }
 
+void announce_starts() {
+  if (!std::exchange(starts_wait, false)) return;
+  for (const auto& layer : retained(animated)) {
+    Layer& state = objc::state_of<Layer>(layer.get());
+    state.announce_started_animations();
+    starts_wait |= state.waits_for_start();
+  }
+}
+
 }  // namespace
 
 LayerService::LayerService(RunLoop& loop)
     : loop_(loop), turn_observer_(loop.add_turn_observer(kTurnOrder, [] { flush_layers(); })) {
   service = this;
+  ends_are_known = false;
   update_frames();
 }
 
@@ -57,25 +70,37 @@ void LayerService::update_frames() {
 }
 
 void LayerService::wait_for_next_end() {
+  if (std::exchange(ends_are_known, true)) return;
+  std::erase_if(animated, [](CALayer handle) {
+    Layer& layer = objc::state_of<Layer>(handle);
+    if (layer.wants_frames()) return false;
+    layer.set_in_animated_list(false);
+    return true;
+  });
+  update_frames();
   double end = std::numeric_limits<double>::infinity();
   for (CALayer layer : animated)
     end = std::min(end, objc::state_of<Layer>(layer).next_animation_end());
   if (end_timer_ && end == end_time_) return;
   if (end_timer_) loop_.remove_timer(std::exchange(end_timer_, 0));
-  if (end == std::numeric_limits<double>::infinity()) return;
   end_time_ = end;
+  if (end == std::numeric_limits<double>::infinity()) return;
   end_timer_ = loop_.add_timer(end, 0, [this] {
     end_timer_ = 0;
+    ends_are_known = false;
     advance_animations();
   });
 }
 
+bool LayerService::has_news() const {
+  return starts_wait || !ends_are_known || loop_.now() + kTimeTolerance >= end_time_;
+}
+
 void LayerService::advance_animations() {
+  if (!has_news()) return;
+  ends_are_known = false;
   for (const auto& layer : retained(animated))
     objc::state_of<Layer>(layer.get()).advance_animations(loop_.now());
-  std::erase_if(animated,
-                [](CALayer layer) { return !objc::state_of<Layer>(layer).wants_frames(); });
-  update_frames();
   wait_for_next_end();
 }
 
@@ -91,11 +116,12 @@ void flush_layers() {
       objc::state_of<Layer>(layer.get()).leave_dirty_list();
     for (const auto& layer : marked)
       layer->layoutIfNeeded();
-    for (const auto& layer : marked)
+    for (const auto& layer : marked) {
+      if (!layer->needsDisplay() || objc::state_of<Layer>(layer.get()).is_clipped_away()) continue;
       layer->displayIfNeeded();
+    }
   }
-  for (const auto& layer : retained(animated))
-    objc::state_of<Layer>(layer.get()).announce_started_animations();
+  announce_starts();
   if (service) service->wait_for_next_end();
   end_implicit_transaction();
 }
@@ -111,14 +137,26 @@ void mark_layer_dirty(CALayer layer) {
   dirty.push_back(layer);
 }
 
-void forget_layer(CALayer layer) {
+void forget_dirty_layer(CALayer layer) {
   std::erase(dirty, layer);
-  if (std::erase(animated, layer) > 0 && service) service->update_frames();
+}
+void forget_animated_layer(CALayer layer) {
+  note_animations_changed();
+  std::erase(animated, layer);
+  if (service) service->update_frames();
 }
 
-void note_animated_layer(CALayer layer) {
-  if (std::find(animated.begin(), animated.end(), layer) != animated.end()) return;
-  animated.push_back(layer);
+void note_animations_changed() {
+  starts_wait = true;
+  ends_are_known = false;
+}
+
+void note_animated_layer(CALayer handle) {
+  note_animations_changed();
+  Layer& layer = objc::state_of<Layer>(handle);
+  if (layer.is_in_animated_list()) return;
+  layer.set_in_animated_list(true);
+  animated.push_back(handle);
   if (service) service->update_frames();
 }
 

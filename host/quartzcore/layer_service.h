@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 #include "host/runtime/run_loop.h"
 #include "platform/QuartzCore/CALayer.h"
@@ -26,20 +27,22 @@ class LayerService {
   /// Starts or stops asking for frames, after the set of animated layers changed.
   void update_frames();
   /// Animations end when their time is over and not at the next frame, so that a chain of them
-  /// takes as long as it says.
+  /// takes as long as it says. Lets go of layers of which nothing moves any more.
   void wait_for_next_end();
 
  private:
   void advance_animations();
+  bool has_news() const;
 
   RunLoop& loop_;
   RunLoop::Id turn_observer_;
   RunLoop::Id frame_observer_ = 0;
   RunLoop::Id end_timer_ = 0;
-  double end_time_ = 0;
+  double end_time_ = std::numeric_limits<double>::infinity();
 };
 
-/// Lays out and displays all layers that are marked, until none is.
+/// Lays out and displays all layers that are marked, until none is. What another layer clips away
+/// stays marked for display until it comes into sight.
 void flush_layers();
 
 /// Counts every change that may change what is drawn: equal numbers mean an equal picture, as long
@@ -49,8 +52,11 @@ void note_layer_change();
 
 /// Lists that layers enter and leave by themselves.
 void mark_layer_dirty(CALayer layer);
-void forget_layer(CALayer layer);
+void forget_dirty_layer(CALayer layer);
+void forget_animated_layer(CALayer layer);
 void note_animated_layer(CALayer layer);
+/// After an animation was added to a layer or taken from it.
+void note_animations_changed();
 bool any_layer_animated();
 
 }  // namespace host::quartzcore

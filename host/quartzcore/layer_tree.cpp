@@ -39,6 +39,7 @@ void Layer::leave_superlayer() {
   const std::size_t index = parent.index_of(self);
   if (index < parent.children_.size())
     parent.children_.erase(parent.children_.begin() + static_cast<std::ptrdiff_t>(index));
+  parent.forget_reach_of_children();
 }
 
 void Layer::insert_child(CALayer layer, std::size_t index) {
@@ -52,6 +53,8 @@ void Layer::insert_child(CALayer layer, std::size_t index) {
   index = std::min(index, children_.size());
   children_.insert(children_.begin() + static_cast<std::ptrdiff_t>(index), kept);
   child.superlayer_ = self;
+  forget_reach_of_children();
+  if (child.needs_layout_ || child.layout_waits_below_) child.announce_layout();
   note_layer_change();
   self.setNeedsLayout();
 }

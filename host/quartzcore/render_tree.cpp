@@ -50,6 +50,7 @@ std::uint64_t sign_drawing(const RenderNode& node) {
   if (p.border_width > 0) result = mix_signature(result, p.border_color);
   if (const Image* image = layer.contents_image()) {
     result = mix_signature(result, image->serial());
+    result = mix_signature(result, image->revision());
     result = mix_signature(result, static_cast<std::uint64_t>(layer.gravity()));
     result = mix_signature(result, layer.contents_scale_value());
   }
@@ -70,17 +71,24 @@ CGRect extent_of(const RenderNode& node) {
   return layer.masks() ? CGRectIntersection(extent, p.bounds) : extent;
 }
 
-bool covers_its_pixels(const RenderNode& node) {
-  const Layer& layer = *node.layer;
-  const LayerProperties& p = node.properties;
-  if (!is_upright(node.to_device) || p.corner_radius > 0) return false;
-  const CGRect box = CGRectApplyAffineTransform(p.bounds, node.to_device);
-  if (!nearest_pixels(box).contains(node.own)) return false;
-  if (layer.backdrop() || p.background_color.alpha >= 1) return true;
-  const Image* image = layer.contents_image();
+bool fits_whole_pixels(const RenderNode& node) {
+  if (!is_upright(node.to_device) || node.properties.corner_radius > 0) return false;
+  const CGRect box = CGRectApplyAffineTransform(node.properties.bounds, node.to_device);
+  return nearest_pixels(box).contains(node.own);
+}
+
+bool is_filled_by_contents(const RenderNode& node) {
+  const Image* image = node.layer->contents_image();
   if (!image || !image->is_opaque()) return false;
-  const CGRect filled = CGRectApplyAffineTransform(contents_rect(layer, p.bounds), node.to_device);
+  const CGRect filled = CGRectApplyAffineTransform(
+      contents_rect(*node.layer, node.properties.bounds), node.to_device);
   return nearest_pixels(filled).contains(node.own);
+}
+
+bool covers_its_pixels(const RenderNode& node) {
+  if (!fits_whole_pixels(node)) return false;
+  return node.layer->backdrop() || node.properties.background_color.alpha >= 1 ||
+         is_filled_by_contents(node);
 }
 
 /// How many pictures the layer itself paints one over the other.
@@ -97,16 +105,15 @@ bool draws_one_element(const RenderNode& node) {
   return elements_of(node) <= 1;
 }
 
-std::vector<const Layer*> children_in_order(const Layer& layer) {
-  std::vector<const Layer*> order;
-  for (const auto& child : layer.children())
-    order.push_back(&objc::state_of<Layer>(child.get()));
-  const auto z = [](const Layer* one) { return one->model().z_position; };
-  if (std::any_of(order.begin(), order.end(), [&](const Layer* one) { return z(one) != 0; })) {
-    std::stable_sort(order.begin(), order.end(),
-                     [&](const Layer* a, const Layer* b) { return z(a) < z(b); });
-  }
-  return order;
+bool is_in_sight(const RenderNode& node, const PixelRect& clip) {
+  const CGRect box = CGRectApplyAffineTransform(node.properties.bounds, node.to_device);
+  return intersects(pixels_round(box), clip);
+}
+
+/// The rectangle of the layer's own coordinates that `clip` shows, and a little more.
+CGRect shown_part(const CGAffineTransform& to_device, const PixelRect& clip) {
+  const CGRect pixels(clip.x - 1, clip.y - 1, clip.width + 2, clip.height + 2);
+  return CGRectApplyAffineTransform(pixels, CGAffineTransformInvert(to_device));
 }
 
 }  // namespace
@@ -135,8 +142,10 @@ CGRect contents_rect(const Layer& layer, const CGRect& bounds) {
 }
 
 void RenderTree::prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale,
-                         double now) {
+                         double now, FadedOut faded_out) {
   nodes_.clear();
+  undrawn_.clear();
+  faded_out_ = faded_out;
   Surroundings around;
   around.to_device = {scale, 0, 0, scale, 0, 0};
   around.clip = screen;
@@ -152,13 +161,14 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   RenderNode node;
   node.properties = layer.present(now);
   const LayerProperties& p = node.properties;
-  if (p.opacity <= 0) return;
+  if (p.opacity <= 0 && faded_out_ == FadedOut::Skipped) return;
   node.layer = &layer;
   node.serial = layer.serial();
   node.parent = around.parent;
   node.is_mask = around.is_mask;
   node.to_device = CGAffineTransformConcat(p.to_super(), around.to_device);
   if (node.to_device.a * node.to_device.d == node.to_device.b * node.to_device.c) return;
+  if (layer.needs_display() && is_in_sight(node, around.clip)) undrawn_.push_back(layer.handle());
   node.is_scaling = around.is_scaling || layer.is_scaling(now);
   node.is_simple = draws_one_element(node);
   node.is_group = layer.mask_layer() || ((p.opacity < 1 || layer.rasterizes()) && !node.is_simple);
@@ -166,6 +176,9 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   node.context = mix_signature(around.context, p.opacity);
   node.own = intersection(pixels_round(CGRectApplyAffineTransform(extent_of(node), node.to_device)),
                           around.clip);
+  // While an image is stretched its edges need not be those of whole pixels.
+  node.hides_background =
+      !node.is_scaling && fits_whole_pixels(node) && is_filled_by_contents(node);
   node.is_plain = !around.rounded_clip && !around.is_mask && is_upright(node.to_device) &&
                   p.corner_radius <= 0 && !layer.mask_layer();
   // Inside its group a drawing is as opaque as it is; the group's opacity comes after it.
@@ -207,8 +220,10 @@ void RenderTree::add_children(int index, const Surroundings& inner, double now) 
     const bool added = static_cast<int>(nodes_.size()) > place;
     nodes_[static_cast<std::size_t>(index)].mask = added ? place : -1;
   }
-  for (const Layer* child : children_in_order(layer))
-    add(*child, inner, now);
+  if (!layer.children().empty() && !inner.clip.is_empty()) {
+    layer.visit_children(shown_part(inner.to_device, inner.clip),
+                         [&](const Layer& child) { add(child, inner, now); });
+  }
   RenderNode& node = nodes_[static_cast<std::size_t>(index)];
   node.end = static_cast<int>(nodes_.size());
   dissolve_group(index);
@@ -269,9 +284,9 @@ int RenderTree::lone_picture(int first, int index) const {
   return first;
 }
 
-// What a backdrop shows depends on everything drawn before it in its place, back to the last
-// opaque drawing that fills the place. The opacity of the groups that hold the backdrop itself
-// does not matter: it is applied to the finished group.
+// What a backdrop shows depends on everything drawn before it in its place, back to the last opaque
+// drawing that fills the place. The opacity of the groups that hold the backdrop itself does not
+// matter: it is applied to the finished group.
 void RenderTree::sign_backdrops() {
   const auto count = static_cast<int>(nodes_.size());
   for (int i = 0; i < count; ++i) {

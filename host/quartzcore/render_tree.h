@@ -40,6 +40,8 @@ struct RenderNode {
   bool is_group = false;
   /// Its own drawing covers `own` completely.
   bool is_opaque = false;
+  /// Its contents do so, and nothing of its background is seen.
+  bool hides_background = false;
   bool is_scaling = false;
   /// Upright, and cut by nothing but whole pixels.
   bool is_plain = false;
@@ -50,13 +52,19 @@ struct RenderNode {
 /// Where contents of a layer lie in its coordinates.
 CGRect contents_rect(const Layer& layer, const CGRect& bounds);
 
-/// All layers of a frame that can be seen, in drawing order.
+/// All layers of a frame that can be seen, and perhaps a few more, in drawing order.
 class RenderTree {
  public:
+  /// What becomes of layers without any opacity.
+  enum class FadedOut { Skipped, Included };
+
   /// `screen` in pixels, `scale` pixels to the point, `now` the animations' time.
-  void prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale, double now);
+  void prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale, double now,
+               FadedOut faded_out = FadedOut::Skipped);
 
   const std::vector<RenderNode>& nodes() const { return nodes_; }
+  /// Layers in sight that are marked for display, which waits for as long as nobody can see it.
+  const std::vector<CALayer>& undrawn() const { return undrawn_; }
   /// Does `node` stand in the tree below `ancestor` (or is it the same)?
   bool is_within(int node, int ancestor) const;
 
@@ -80,6 +88,8 @@ class RenderTree {
   int lone_picture(int first, int backdrop) const;
 
   std::vector<RenderNode> nodes_;
+  std::vector<CALayer> undrawn_;
+  FadedOut faded_out_ = FadedOut::Skipped;
 };
 
 }  // namespace host::quartzcore

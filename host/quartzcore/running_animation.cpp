@@ -7,6 +7,7 @@
 
 #include "host/quartzcore/animation.h"
 #include "host/quartzcore/timing_function.h"
+#include "platform/QuartzCore/CABasicAnimation.h"
 
 namespace host::quartzcore {
 namespace {
@@ -64,6 +65,25 @@ RunningAnimation prepare_animation(objc::Ref<CAAnimation> animation, std::string
   take_values(running, from);
   running.object = std::move(animation);
   return running;
+}
+
+CAAnimation make_animation_object(const RunningAnimation& running) {
+  const CABasicAnimation made = CABasicAnimation::animationWithKeyPath(
+      NSString::stringWithUTF8String(running.key_path.c_str()));
+  AnimationDescription& description = objc::state_of<Animation>(made).description;
+  if (running.from) description.from.reset(object_from_value(*running.from));
+  if (running.to) description.to.reset(object_from_value(*running.to));
+  description.begin_time = running.begin;
+  description.duration = running.duration;
+  description.repeat_count = static_cast<float>(running.repeat_count);
+  description.autoreverses = running.autoreverses;
+  const TimingCurve& c = running.curve;
+  made.setTimingFunction(CAMediaTimingFunction::functionWithControlPoints(
+      static_cast<float>(c.x1), static_cast<float>(c.y1), static_cast<float>(c.x2),
+      static_cast<float>(c.y2)));
+  if (running.fills_backwards) made.setFillMode(kCAFillModeBackwards());
+  made.setDelegate(running.listener.get());
+  return made;
 }
 
 double RunningAnimation::end() const {

@@ -22,8 +22,11 @@ class Animation;
 struct RunningAnimation {
   std::string key;
   std::string key_path;
-  /// The layer's copy: what `animationForKey:` and the delegate's messages give.
+  /// The layer's copy: what `animationForKey:` and the delegate's messages give. Null until
+  /// somebody asks for it where the animation was not made from an object.
   objc::Ref<CAAnimation> object;
+  /// Hears of start and stop where there is no object.
+  objc::Ref<objc::Object> listener;
 
   double begin = 0;
   double duration = 0;
@@ -60,6 +63,9 @@ struct RunningAnimation {
   Value at_fraction(double fraction, const Value& underlying) const;
   Value last_value(const Value& underlying) const { return at_fraction(1, underlying); }
 };
+
+/// An animation object that says the same as one that was made without; autoreleased.
+CAAnimation make_animation_object(const RunningAnimation& running);
 
 /// Makes `animation` (the layer's own copy) ready to run from `now`; `default_duration` stands in
 /// for a duration of 0.

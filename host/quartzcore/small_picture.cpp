@@ -69,10 +69,10 @@ struct Ways {
 
 /// Two of the same pixel.
 Halves twice(const std::uint16_t* pixel) {
-  Halves both;
-  std::memcpy(&both, pixel, 8);
-  std::memcpy(reinterpret_cast<char*>(&both) + 8, pixel, 8);
-  return both;
+  using Pixels = std::uint64_t __attribute__((vector_size(16)));
+  std::uint64_t one;
+  std::memcpy(&one, pixel, sizeof one);
+  return reinterpret_cast<Halves>(Pixels{one, one});
 }
 
 /// One row of a small picture in whole numbers, with its ends repeated once.
@@ -100,9 +100,10 @@ template <int Reduction>
 void spread(const Line& line, std::uint8_t* to) {
   const Ways<Reduction> ways;
   const Halves half = Halves{} + static_cast<std::uint16_t>(kWhole * kWhole / 2);
+  const std::uint16_t* const end = line.data() + line.size();
   Halves here = twice(line.data());
-  for (std::size_t at = 4; at < line.size(); at += 4) {
-    const Halves next = twice(line.data() + at);
+  for (const std::uint16_t* pixel = line.data() + 4; pixel < end; pixel += 4) {
+    const Halves next = twice(pixel);
     for (int pair = 0; pair < Reduction / 2; ++pair) {
       const Halves mixed = (here * ways.here[pair] + next * ways.next[pair] + half) >> 8;
       const Bytes bytes = __builtin_convertvector(mixed, Bytes);

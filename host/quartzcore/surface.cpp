@@ -1,25 +1,13 @@
 #include "host/quartzcore/surface.h"
 
-#include <libyuv/scale_argb.h>
-
 #include <algorithm>
 #include <cstring>
+
+#include "host/quartzcore/area_average.h"
 
 namespace host::quartzcore {
 namespace {
 
-Surface scale_once(const Surface& source, int width, int height) {
-  const Surface result = make_surface(width, height);
-  cairo_surface_flush(source.get());
-  libyuv::ARGBScale(
-      cairo_image_surface_get_data(source.get()), cairo_image_surface_get_stride(source.get()),
-      width_of(source), height_of(source), cairo_image_surface_get_data(result.get()),
-      cairo_image_surface_get_stride(result.get()), width, height, libyuv::kFilterBox);
-  cairo_surface_mark_dirty(result.get());
-  return result;
-}
-
-// Enlarging with the fast scaler would darken the picture by a shade and let an opaque one through.
 Surface enlarge(const Surface& source, int width, int height) {
   const Surface result = make_surface(width, height);
   const Drawing drawing = draw_on(result);
@@ -64,15 +52,10 @@ Drawing draw_on(const Surface& surface) {
 Surface scaled_copy(const Surface& source, int width, int height) {
   width = std::max(width, 1);
   height = std::max(height, 1);
-  Surface current = source;
-  // The scaler looks at two pixels each way: larger steps would skip what lies between.
-  while (width_of(current) >= 2 * width || height_of(current) >= 2 * height) {
-    const int next_width =
-        width_of(current) >= 2 * width ? width_of(current) / 2 : width_of(current);
-    const int next_height =
-        height_of(current) >= 2 * height ? height_of(current) / 2 : height_of(current);
-    current = scale_once(current, next_width, next_height);
-  }
+  const int smaller_width = std::min(width, width_of(source));
+  const int smaller_height = std::min(height, height_of(source));
+  const bool shrinks = smaller_width < width_of(source) || smaller_height < height_of(source);
+  const Surface current = shrinks ? area_average(source, smaller_width, smaller_height) : source;
   if (width_of(current) == width && height_of(current) == height) return current;
   return enlarge(current, width, height);
 }

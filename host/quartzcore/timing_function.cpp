@@ -4,6 +4,12 @@
 #include <string_view>
 #include <utility>
 
+__attribute__((visibility("default"), used)) NSString kCAMediaTimingFunctionLinear;
+__attribute__((visibility("default"), used)) NSString kCAMediaTimingFunctionEaseIn;
+__attribute__((visibility("default"), used)) NSString kCAMediaTimingFunctionEaseOut;
+__attribute__((visibility("default"), used)) NSString kCAMediaTimingFunctionEaseInEaseOut;
+__attribute__((visibility("default"), used)) NSString kCAMediaTimingFunctionDefault;
+
 namespace host::quartzcore {
 namespace {
 
@@ -56,6 +62,11 @@ TimingCurve curve_of(CAMediaTimingFunction function) {
 }
 
 void export_timing_function() {
+  kCAMediaTimingFunctionLinear = "linear"_ns;
+  kCAMediaTimingFunctionEaseIn = "easeIn"_ns;
+  kCAMediaTimingFunctionEaseOut = "easeOut"_ns;
+  kCAMediaTimingFunctionEaseInEaseOut = "easeInEaseOut"_ns;
+  kCAMediaTimingFunctionDefault = "default"_ns;
   objc::ClassBuilder("CAMediaTimingFunction", "NSObject")
       .state<TimingFunction>()
       .class_method<&with_name>("functionWithName:")

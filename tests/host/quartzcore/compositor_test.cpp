@@ -1,66 +1,13 @@
-#include "host/quartzcore/compositor.h"
-
-#include "host/quartzcore/image.h"
 #include "platform/CoreGraphics/CGPath.h"
 #include "platform/QuartzCore/CABackdropLayer.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
-#include "tests/host/quartzcore/quartz_test.h"
+#include "tests/host/quartzcore/compositor_fixture.h"
 
 namespace host::test {
 namespace {
 
 using quartzcore::Compositor;
 using quartzcore::PixelRect;
-
-class CompositorTest : public QuartzTest {
- public:
-  CompositorTest() : root(layer_at({0, 0, 8, 8})) {
-    objc::send<objc::Id>(root, "retain"_sel);
-    CATransaction::setDisableActions(YES);
-    root.setBackgroundColor(color(0, 0, 1));
-  }
-  ~CompositorTest() override { root.release(); }
-
-  quartzcore::Damage render() {
-    const CALayer roots[] = {root};
-    return compositor.render(roots, loop.now());
-  }
-  std::uint32_t pixel(int x, int y) const {
-    const auto* bytes = cairo_image_surface_get_data(compositor.surface().get());
-    std::uint32_t value = 0;
-    __builtin_memcpy(
-        &value, bytes + y * cairo_image_surface_get_stride(compositor.surface().get()) + x * 4, 4);
-    return value;
-  }
-  /// A layer of one colour in the root.
-  CALayer add(CGRect frame, CGColorRef fill) {
-    const CALayer layer = layer_at(frame);
-    layer.setBackgroundColor(fill);
-    root.addSublayer(layer);
-    return layer;
-  }
-  static CGImageRef image_of_color(int width, int height, std::uint32_t argb) {
-    const auto surface = quartzcore::make_surface(width, height);
-    auto* bytes = cairo_image_surface_get_data(surface.get());
-    for (int y = 0; y < height; ++y) {
-      for (int x = 0; x < width; ++x) {
-        __builtin_memcpy(bytes + y * cairo_image_surface_get_stride(surface.get()) + x * 4, &argb,
-                         4);
-      }
-    }
-    cairo_surface_mark_dirty(surface.get());
-    CGImageRef image = quartzcore::make_image(surface, quartzcore::Opacity::Opaque);
-    objc::send<objc::Id>(quartzcore::object_of(image), "autorelease"_sel);
-    return image;
-  }
-
-  const CALayer root;
-  Compositor compositor{8, 8, 1};
-};
-
-constexpr std::uint32_t kBlue = 0xff0000ff;
-constexpr std::uint32_t kRed = 0xffff0000;
-constexpr std::uint32_t kBlack = 0xff000000;
 
 TEST_F(CompositorTest, LayersArePaintedInTheirOrderAtTheirPlaces) {
   add({2, 2, 3, 3}, color(1, 0, 0));

@@ -33,6 +33,16 @@ TEST_F(LayerTest, SettingTheFrameOfAScaledLayerGivesThatFrame) {
   EXPECT_EQ(layer.bounds().size, (CGSize{30, 80}));
 }
 
+TEST_F(LayerTest, MovingByTheFrameLeavesTheBoundsAsTheyAre) {
+  const CGRect place{0, 0, 640.0 / 3, 480.0 / 7};
+  const CALayer layer = layer_at(place);
+  for (int step = 0; step < 100; ++step) {
+    const CGSize size = layer.frame().size;
+    layer.setFrame({step * 0.7, step / 3.0, size.width, size.height});
+    ASSERT_EQ(layer.bounds().size, place.size);
+  }
+}
+
 TEST_F(LayerTest, SublayersKeepTheOrderInWhichTheyWereInserted) {
   const CALayer parent = CALayer::layer();
   const CALayer a = CALayer::layer(), b = CALayer::layer(), c = CALayer::layer();

@@ -1,0 +1,198 @@
+#include "platform/CoreGraphics/CGContext.h"
+#include "platform/Foundation/NSValue.h"
+#include "tests/host/quartzcore/compositor_fixture.h"
+
+// What is not in sight costs nothing, and is there all the same when it comes into sight.
+
+namespace host::test {
+namespace {
+
+constexpr std::uint32_t kGreen = 0xff00ff00;
+constexpr int kMany = 200;
+
+/// A delegate that draws layers and counts.
+struct TestPainter : objc::Bound<TestPainter, "TestPainter", NSObject> {};
+
+class Painter : public objc::Implementation<Painter, TestPainter> {
+ public:
+  explicit Painter(TestPainter owner) : Implementation(owner) {}
+
+  int drawn = 0;
+  int laid_out = 0;
+
+  void draw(CALayer layer, CGContextRef context) {
+    ++drawn;
+    CGContextSetFillColorWithColor(context, CompositorTest::color(0, 1, 0));
+    CGContextFillRect(context, layer.bounds());
+  }
+  void lay_out(CALayer) { ++laid_out; }
+};
+
+/// A window of four pixels a side on a column of many layers, two pixels each, red and then clear.
+class SightTest : public CompositorTest {
+ public:
+  SightTest() : list(layer_at({0, 0, 4, 4})) {
+    list.setMasksToBounds(YES);
+    root.addSublayer(list);
+    for (int i = 0; i < kMany; ++i) {
+      rows.push_back(layer_at({0, 2.0 * i, 4, 2}));
+      list.addSublayer(rows.back());
+    }
+  }
+
+  CALayer row(int i) const { return rows[static_cast<std::size_t>(i)]; }
+  void scroll_to(int i) {
+    CATransaction::setDisableActions(YES);
+    list.setBounds({0, 2.0 * i, 4, 4});
+  }
+  static TestPainter make_painter() {
+    if (!objc_getClass("TestPainter")) {
+      objc::ClassBuilder("TestPainter", "NSObject")
+          .state<Painter>()
+          .method<&Painter::draw>("drawLayer:inContext:")
+          .method<&Painter::lay_out>("layoutSublayersOfLayer:")
+          .finish();
+    }
+    return TestPainter::alloc().init().autorelease();
+  }
+  static Painter& notes_of(TestPainter painter) { return objc::state_of<Painter>(painter); }
+
+  const CALayer list;
+  std::vector<CALayer> rows;
+};
+
+TEST_F(SightTest, AmongManyLayersThoseInSightArePainted) {
+  row(0).setBackgroundColor(color(1, 0, 0));
+  row(150).setBackgroundColor(color(0, 1, 0));
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  EXPECT_EQ(pixel(0, 2), kBlue);
+  scroll_to(150);
+  render();
+  EXPECT_EQ(pixel(0, 0), kGreen);
+  EXPECT_EQ(pixel(0, 2), kBlue);
+}
+
+TEST_F(SightTest, ALayerThatIsMovedIntoSightIsPainted) {
+  row(150).setBackgroundColor(color(1, 0, 0));
+  render();
+  row(150).setPosition({2, 1});
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  row(150).setTransform(CATransform3DMakeTranslation(0, 2, 0));
+  render();
+  EXPECT_EQ(pixel(0, 0), kBlue);
+  EXPECT_EQ(pixel(0, 2), kRed);
+}
+
+TEST_F(SightTest, ALayerReachesAsFarAsWhatIsInIt) {
+  render();
+  const CALayer inner = layer_at({0, 0, 1, 1});
+  row(150).addSublayer(inner);
+  const CALayer innermost = layer_at({0, -300, 4, 2});
+  innermost.setBackgroundColor(color(1, 0, 0));
+  inner.addSublayer(innermost);
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  inner.setPosition({0.5, 2.5});
+  render();
+  EXPECT_EQ(pixel(0, 0), kBlue);
+  EXPECT_EQ(pixel(0, 2), kRed);
+  row(150).setMasksToBounds(YES);
+  render();
+  EXPECT_EQ(pixel(0, 2), kBlue);
+  row(150).setMasksToBounds(NO);
+  innermost.setBounds({0, 0, 4, 20});
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  inner.removeFromSuperlayer();
+  render();
+  EXPECT_EQ(pixel(0, 0), kBlue);
+}
+
+TEST_F(SightTest, ALayerThatFliesThroughIsPaintedOnItsWay) {
+  row(150).setBackgroundColor(color(1, 0, 0));
+  render();
+  const CABasicAnimation flight = CABasicAnimation::animationWithKeyPath("position.y"_ns);
+  flight.setFromValue(NSNumber::numberWithDouble(-99));
+  flight.setToValue(NSNumber::numberWithDouble(101));
+  flight.setDuration(2);
+  row(150).addAnimation(flight, "flight"_ns);
+  advance(1);
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  advance(1.5);
+  render();
+  EXPECT_EQ(pixel(0, 0), kBlue);
+}
+
+TEST_F(SightTest, TheOrderAmongManyLayersIsTheirsByHeight) {
+  row(0).setBackgroundColor(color(1, 0, 0));
+  row(1).setBackgroundColor(color(0, 1, 0));
+  row(1).setPosition({2, 1});
+  render();
+  EXPECT_EQ(pixel(0, 0), kGreen);
+  row(0).setZPosition(1);
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  row(0).removeFromSuperlayer();
+  render();
+  EXPECT_EQ(pixel(0, 0), kGreen);
+}
+
+TEST_F(SightTest, WhatIsClippedAwayIsDrawnWhenItComesIntoSight) {
+  const TestPainter painter = make_painter();
+  for (const CALayer one : rows) {
+    one.setDelegate(painter);
+    one.setNeedsDisplay();
+  }
+  quartzcore::flush_layers();
+  render();
+  EXPECT_LE(notes_of(painter).drawn, 3);
+  EXPECT_EQ(pixel(0, 0), kGreen);
+  const int before = notes_of(painter).drawn;
+  scroll_to(150);
+  render();
+  EXPECT_EQ(pixel(0, 0), kGreen);
+  EXPECT_GE(notes_of(painter).drawn, before + 2);
+  EXPECT_LE(notes_of(painter).drawn, before + 3);
+  const int there = notes_of(painter).drawn;
+  scroll_to(151);
+  scroll_to(150);
+  render();
+  EXPECT_EQ(notes_of(painter).drawn, there);
+  for (const CALayer one : rows)
+    one.setDelegate({});
+}
+
+TEST_F(SightTest, OnlyMarkedLayersAreLaidOutHoweverManyThereAre) {
+  quartzcore::flush_layers();
+  const TestPainter painter = make_painter();
+  const CALayer inner = layer_at({0, 0, 1, 1});
+  row(7).addSublayer(inner);
+  quartzcore::flush_layers();
+  for (const CALayer one : {row(6), row(7), inner})
+    one.setDelegate(painter);
+  inner.setNeedsLayout();
+  list.setNeedsLayout();
+  list.layoutIfNeeded();
+  EXPECT_EQ(notes_of(painter).laid_out, 1);
+  EXPECT_FALSE(inner.needsLayout());
+  row(6).setNeedsLayout();
+  inner.setNeedsLayout();
+  root.layoutIfNeeded();
+  EXPECT_EQ(notes_of(painter).laid_out, 3);
+  // Marked outside of the tree, and then put into it.
+  const CALayer late = layer_at({0, 0, 1, 1});
+  late.setDelegate(painter);
+  late.setNeedsLayout();
+  inner.addSublayer(late);
+  inner.layoutIfNeeded();
+  root.layoutIfNeeded();
+  EXPECT_EQ(notes_of(painter).laid_out, 5);
+  for (const CALayer one : {row(6), row(7), inner, late})
+    one.setDelegate({});
+}
+
+}  // namespace
+}  // namespace host::test
