@@ -5,6 +5,7 @@
 #include "host/uikit/application/application.h"
 #include "host/uikit/gesture/event.h"
 #include "host/uikit/gesture/gesture_arena.h"
+#include "host/uikit/gesture/system_gestures.h"
 #include "host/uikit/gesture/tap_limits.h"
 #include "host/uikit/gesture/touch.h"
 #include "host/uikit/view/screen_space.h"
@@ -52,8 +53,17 @@ NSUInteger TouchInput::count_tap(CGPoint point, double timestamp) {
   return last_tap_.count > 0 && soon && near ? last_tap_.count + 1 : 1;
 }
 
+bool TouchInput::is_the_systems(int finger, UITouchPhase phase, CGPoint screen_point,
+                                double timestamp) {
+  const auto claim = system_claim(finger, phase, screen_point, timestamp);
+  if (claim == SystemGestures::Claim::Windows) return false;
+  lift(finger, screen_point, timestamp, UITouchPhaseCancelled);
+  return true;
+}
+
 void TouchInput::began(int finger, CGPoint screen_point, double timestamp) {
   if (fingers_.contains(finger)) return moved(finger, screen_point, timestamp);
+  if (is_the_systems(finger, UITouchPhaseBegan, screen_point, timestamp)) return;
   if (ignores_touches()) return;
   const UIEvent event = touches_event();
   const Hit hit = find_hit(screen_point, event);
@@ -70,6 +80,11 @@ void TouchInput::began(int finger, CGPoint screen_point, double timestamp) {
 }
 
 void TouchInput::moved(int finger, CGPoint screen_point, double timestamp) {
+  if (is_the_systems(finger, UITouchPhaseMoved, screen_point, timestamp)) return;
+  move(finger, screen_point, timestamp);
+}
+
+void TouchInput::move(int finger, CGPoint screen_point, double timestamp) {
   const auto found = fingers_.find(finger);
   if (found == fingers_.end()) return;
   const auto touch = found->second;
@@ -81,10 +96,12 @@ void TouchInput::moved(int finger, CGPoint screen_point, double timestamp) {
 }
 
 void TouchInput::ended(int finger, CGPoint screen_point, double timestamp) {
+  if (is_the_systems(finger, UITouchPhaseEnded, screen_point, timestamp)) return;
   lift(finger, screen_point, timestamp, UITouchPhaseEnded);
 }
 
 void TouchInput::cancelled(int finger, CGPoint screen_point, double timestamp) {
+  system_claim(finger, UITouchPhaseCancelled, screen_point, timestamp);
   lift(finger, screen_point, timestamp, UITouchPhaseCancelled);
 }
 
@@ -96,7 +113,7 @@ void TouchInput::cancel_all(double timestamp) {
 
 void TouchInput::lift(int finger, CGPoint screen_point, double timestamp, UITouchPhase phase) {
   // The way to where the finger left counts, even when nobody reported it.
-  moved(finger, screen_point, timestamp);
+  move(finger, screen_point, timestamp);
   const auto found = fingers_.find(finger);
   if (found == fingers_.end()) return;
   const auto touch = found->second;

@@ -26,6 +26,9 @@ class TouchInput {
     NSUInteger count = 0;
   };
 
+  /// Has a gesture of the system taken the finger, now or before? It is with no window then.
+  bool is_the_systems(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp);
+  void move(int finger, CGPoint screen_point, double timestamp);
   NSUInteger count_tap(CGPoint point, double timestamp);
   void lift(int finger, CGPoint screen_point, double timestamp, UITouchPhase phase);
   void send(UITouch touch, double timestamp);

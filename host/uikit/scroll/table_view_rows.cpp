@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "host/uikit/scroll/row_paths.h"
 #include "host/uikit/scroll/table_view.h"
 #include "objc/autorelease_pool.h"
 
@@ -13,7 +14,7 @@ constexpr NSInteger kMeasuredTogether = 1024;
 }  // namespace
 
 NSIndexPath TableView::path(RowPlace place) const {
-  return NSIndexPath::indexPathForRow(place.row, place.section);
+  return row_paths().path(place);
 }
 
 std::optional<RowPlace> TableView::place(NSIndexPath path) const {

@@ -1,11 +1,10 @@
 #include "host/uikit/text/key_input.h"
 
-#include <algorithm>
-#include <array>
+#include <string>
 
 #include "host/uikit/text/characters.h"
-#include "host/uikit/text/text_field.h"
 #include "host/uikit/view/responder.h"
+#include "platform/UIKit/UITextField.h"
 
 namespace host::uikit {
 namespace {
@@ -17,20 +16,15 @@ UITextField text_taker() {
   return objc::cast<UITextField>(responder);
 }
 
-struct CaretKey {
-  std::string_view name;
-  TextField::Motion motion;
-};
-constexpr std::array kCaretKeys{
-    CaretKey{"left", TextField::Motion::ToPrevious}, CaretKey{"right", TextField::Motion::ToNext},
-    CaretKey{"home", TextField::Motion::ToStart}, CaretKey{"end", TextField::Motion::ToEnd}};
+void (*typing_observer)() = nullptr;
 
-bool press_caret_key(UITextField taker, std::string_view name) {
-  const auto key = std::find_if(kCaretKeys.begin(), kCaretKeys.end(),
-                                [&](const CaretKey& known) { return known.name == name; });
-  if (key == kCaretKeys.end() || !taker.isKindOfClass(UITextField::cls())) return false;
-  objc::state_of<TextField>(taker).move_caret(key->motion);
+bool taken() {
+  if (typing_observer) typing_observer();
   return true;
+}
+
+NSString text_of(std::string_view name) {
+  return NSString::stringWithUTF8String(std::string(name).c_str());
 }
 
 }  // namespace
@@ -44,14 +38,14 @@ bool type_text(NSString text) {
     taker.insertText(text.substringWithRange({at, end - at}));
     at = end;
   }
-  return true;
+  return taken();
 }
 
 bool compose_text(NSString text, NSUInteger caret) {
   const UITextField taker = text_taker();
   if (!taker.respondsToSelector("setMarkedText:selectedRange:"_sel)) return false;
   taker.setMarkedText(text, {caret, 0});
-  return true;
+  return taken();
 }
 
 bool press_key(std::string_view name) {
@@ -63,10 +57,16 @@ bool press_key(std::string_view name) {
     taker.deleteBackward();
   } else if (name == "escape") {
     taker.resignFirstResponder();
+  } else if (taker.respondsToSelector("_pressKey:"_sel)) {
+    return objc::send<BOOL>(taker, "_pressKey:"_sel, text_of(name)) && taken();
   } else {
-    return press_caret_key(taker, name);
+    return false;
   }
-  return true;
+  return taken();
+}
+
+void observe_typing(void (*observer)()) {
+  typing_observer = observer;
 }
 
 }  // namespace host::uikit

@@ -15,8 +15,14 @@ bool type_text(NSString text);
 /// UTF-16 units from its start. Typing then replaces it.
 bool compose_text(NSString text, NSUInteger caret);
 
-/// Presses `return`, `backspace`, `escape`, `left`, `right`, `home` or `end`. False when the key
-/// has another name, or nobody takes it.
+/// Presses `return`, `backspace` or `escape`, or a key that moves the caret or works on what is
+/// selected: `left`, `right`, `home`, `end`, in text of several lines `up` or `down`; also behind
+/// `shift-` and `control-`, and `control-a`, `-c`, `-x` and `-v`. False when the key has another
+/// name, or nobody takes it. A class answers `_pressKey:` with whether the key did something.
 bool press_key(std::string_view name);
+
+/// Calls `observer` whenever one of these has been taken: the on-screen keyboard follows what is
+/// typed on the physical one.
+void observe_typing(void (*observer)());
 
 }  // namespace host::uikit

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/quartzcore/context.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/text/exports.h"
 #include "host/uikit/text/text_layout.h"
@@ -76,7 +77,8 @@ CGSize draw_in_rect_with_font(NSString self, CGRect rect, UIFont font, NSLineBre
   frame.height = rect.size.height;
   frame.break_mode = mode;
   frame.alignment = alignment;
-  const TextStyle style = style_of(font, nil);
+  TextStyle style = style_of(font, nil);
+  style.color = UIGraphicsGetCurrentContext()->state().fill;
   const TextLayout layout(styled_text(self, style, visible_limit(style, frame)), frame);
   layout.draw(drawing, rect);
   return layout.size();

@@ -1,17 +1,19 @@
 #pragma once
 
 #include "host/uikit/text/caret.h"
+#include "host/uikit/text/selection_marks.h"
 #include "host/uikit/text/text_layout.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIButton.h"
+#include "platform/UIKit/UILongPressGestureRecognizer.h"
 #include "platform/UIKit/UITextField.h"
 
 namespace host::uikit {
 
-/// One line of text that can be edited. The text before `caret_` is where typing goes; a stretch
-/// that an input method is still composing is marked and underlined.
-class TextField : public objc::Implementation<TextField, UITextField> {
+/// One line of text that can be edited. Typing goes to the caret, or takes the place of what is
+/// selected; a stretch that an input method is still composing is marked and underlined.
+class TextField : public objc::Implementation<TextField, UITextField>, private SelectionDrag {
  public:
   explicit TextField(UITextField owner) : Implementation(owner), text_(kEmpty()) {}
 
@@ -78,10 +80,37 @@ class TextField : public objc::Implementation<TextField, UITextField> {
   void unmark_text();
   void clear_from_button();
 
-  // For the physical keyboard.
-  enum class Motion { ToPrevious, ToNext, ToStart, ToEnd };
-  void move_caret(Motion motion);
+  // What it asks of the on-screen keyboard.
+  UIKeyboardType keyboard_type() const { return keyboard_type_; }
+  void set_keyboard_type(UIKeyboardType type) { keyboard_type_ = type; }
+  UIKeyboardAppearance keyboard_appearance() const { return keyboard_appearance_; }
+  void set_keyboard_appearance(UIKeyboardAppearance look) { keyboard_appearance_ = look; }
+  UIReturnKeyType return_key_type() const { return return_key_type_; }
+  void set_return_key_type(UIReturnKeyType type) { return_key_type_ = type; }
+  UITextAutocapitalizationType autocapitalization_type() const { return autocapitalization_; }
+  void set_autocapitalization_type(UITextAutocapitalizationType type) {
+    autocapitalization_ = type;
+  }
+  NSString text_before_caret() const { return text_->substringToIndex(selection().location); }
+
+  // What is selected, in UTF-16 units; of no length where there is only a caret.
+  NSRange selection() const;
+  /// Grows to whole characters, and no further than the text.
+  void select(NSRange range);
+  BOOL can_perform_action(objc::Sel action, objc::Object sender);
+  void cut(objc::Object sender);
+  void copy(objc::Object sender);
+  void paste(objc::Object sender);
+  void select_word(objc::Object sender);
+  void select_all(objc::Object sender);
+  void long_pressed(UILongPressGestureRecognizer recognizer);
+
+  /// A key of the physical keyboard: `left`, `right`, `home`, `end`, perhaps behind `shift-` or
+  /// `control-`, and `control-` with a, c, x or v. NO when it is none of these.
+  BOOL press_key(NSString name);
+
   const Caret& caret() const { return caret_; }
+  const SelectionMarks& marks() const { return marks_; }
 
  private:
   static objc::Ref<NSString> kEmpty() { return objc::Ref<NSString>::retain(""_ns); }
@@ -97,6 +126,20 @@ class TextField : public objc::Implementation<TextField, UITextField> {
   TextLayout layout_contents() const;
   double caret_offset(const TextLayout& layout) const;
   double text_origin(CGRect rect, const TextLayout& layout);
+  std::size_t index_at(CGPoint point);
+  double offset_of(const TextLayout& layout, std::size_t index) const;
+
+  enum class Motion { ToPrevious, ToNext, ToPreviousWord, ToNextWord, ToStart, ToEnd };
+  enum class Selecting { No, Yes };
+  void move_caret(Motion motion, Selecting selecting);
+  std::size_t moved(Motion motion) const;
+  void put_caret(std::size_t index);
+  void selection_changed();
+  NSRange typing_range() const;
+  NSString selected_text() const { return text_->substringWithRange(selection()); }
+  void show_menu();
+  void selection_dragged(SelectionEnd end, CGPoint on_screen) override;
+  void selection_drag_ended(NSUInteger taps) override;
 
   void return_pressed();
   bool may_replace(NSRange range, NSString text);
@@ -114,7 +157,10 @@ class TextField : public objc::Implementation<TextField, UITextField> {
   objc::Ref<UIButton> clear_button_;
   UITextFieldDelegate delegate_;
   Caret caret_;
+  SelectionMarks marks_;
+  /// The end of the selection that moves, and the one that stays.
   std::size_t caret_index_ = 0;
+  std::size_t anchor_index_ = 0;
   NSRange marked_;
   /// How far the text is moved to the left so that the caret is in sight.
   double scrolled_ = 0;
@@ -123,6 +169,10 @@ class TextField : public objc::Implementation<TextField, UITextField> {
   UITextFieldViewMode left_mode_ = UITextFieldViewModeNever;
   UITextFieldViewMode right_mode_ = UITextFieldViewModeNever;
   UITextFieldViewMode clear_mode_ = UITextFieldViewModeNever;
+  UIKeyboardType keyboard_type_ = UIKeyboardTypeDefault;
+  UIKeyboardAppearance keyboard_appearance_ = UIKeyboardAppearanceDefault;
+  UIReturnKeyType return_key_type_ = UIReturnKeyDefault;
+  UITextAutocapitalizationType autocapitalization_ = UITextAutocapitalizationTypeSentences;
   BOOL clears_on_begin_ = NO;
   BOOL editing_ = NO;
 };

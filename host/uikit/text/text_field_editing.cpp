@@ -1,7 +1,9 @@
 #include <algorithm>
 
 #include "host/uikit/text/characters.h"
+#include "host/uikit/text/edit_menu.h"
 #include "host/uikit/text/text_field.h"
+#include "host/uikit/view/responder.h"
 
 // How a text field is typed into, and what it asks and tells its delegate on the way.
 
@@ -24,9 +26,11 @@ BOOL TextField::become_first_responder() {
   if (self.isFirstResponder()) return YES;
   if (!self.canBecomeFirstResponder()) return NO;
   if (!delegate_agrees("textFieldShouldBeginEditing:"_sel)) return NO;
+  // The keyboard comes when the field and its delegate are ready for it.
+  const FirstResponderChange change;
   if (!super<BOOL>("becomeFirstResponder"_sel)) return NO;
   editing_ = YES;
-  caret_index_ = text_->length();
+  caret_index_ = anchor_index_ = text_->length();
   if (clears_on_begin_ && has_text() && delegate_agrees("textFieldShouldClear:"_sel))
     replace({0, text_->length()}, ""_ns);
   self.setNeedsDisplay();
@@ -44,23 +48,14 @@ BOOL TextField::resign_first_responder() {
   unmark_text();
   editing_ = NO;
   caret_.hide();
+  marks_.hide();
+  hide_edit_menu();
   scrolled_ = 0;
   self.setNeedsDisplay();
   self.setNeedsLayout();
   tell_delegate("textFieldDidEndEditing:"_sel);
   self.sendActionsForControlEvents(UIControlEventEditingDidEnd);
   return YES;
-}
-
-void TextField::end_tracking(UITouch touch, UIEvent event) {
-  super<>("endTrackingWithTouch:withEvent:"_sel, touch, event);
-  const CGPoint point = touch.locationInView(self);
-  if (!self.pointInside(point, event) || !self.becomeFirstResponder()) return;
-  const TextLayout layout = layout_contents();
-  const double x = point.x - text_origin(self.editingRectForBounds(self.bounds()), layout);
-  const std::string before = styled_contents().bytes.substr(0, layout.byte_at(x));
-  caret_index_ = NSString::stringWithUTF8String(before.c_str()).length();
-  self.setNeedsLayout();
 }
 
 bool TextField::may_replace(NSRange range, NSString text) {
@@ -71,11 +66,12 @@ bool TextField::may_replace(NSRange range, NSString text) {
 
 void TextField::replace(NSRange range, NSString text) {
   text_.reset(text_->stringByReplacingCharactersInRange(range, text));
-  caret_index_ = range.location + text.length();
+  caret_index_ = anchor_index_ = range.location + text.length();
   marked_ = {};
 }
 
 void TextField::text_edited() {
+  hide_edit_menu();
   self.setNeedsDisplay();
   self.setNeedsLayout();
   self.sendActionsForControlEvents(UIControlEventEditingChanged);
@@ -88,14 +84,14 @@ void TextField::return_pressed() {
 
 void TextField::insert_text(NSString text) {
   if (text.isEqualToString("\n"_ns)) return return_pressed();
-  const NSRange range = marked_.length ? marked_ : NSRange{caret_index_, 0};
+  const NSRange range = typing_range();
   if (!may_replace(range, text)) return;
   replace(range, text);
   text_edited();
 }
 
 void TextField::delete_backward() {
-  NSRange range = marked_;
+  NSRange range = typing_range();
   if (!range.length) {
     if (caret_index_ == 0) return;
     const std::size_t start = character_start(text_.get(), caret_index_ - 1);
@@ -107,17 +103,20 @@ void TextField::delete_backward() {
 }
 
 void TextField::set_marked_text(NSString text, NSRange selected) {
-  const NSRange range = marked_.length ? marked_ : NSRange{caret_index_, 0};
   const NSString composed = text ? text : ""_ns;
+  // Nothing in place of nothing: what is selected is not to be lost by it.
+  if (!marked_.length && !composed.length()) return;
+  const NSRange range = typing_range();
   replace(range, composed);
   marked_ = {range.location, composed.length()};
-  caret_index_ = range.location + std::min<std::size_t>(selected.location, composed.length());
+  caret_index_ = anchor_index_ =
+      range.location + std::min<std::size_t>(selected.location, composed.length());
   text_edited();
 }
 
 void TextField::unmark_text() {
   if (!marked_.length) return;
-  caret_index_ = marked_.location + marked_.length;
+  caret_index_ = anchor_index_ = marked_.location + marked_.length;
   marked_ = {};
   self.setNeedsDisplay();
   self.setNeedsLayout();
@@ -127,26 +126,6 @@ void TextField::clear_from_button() {
   if (!delegate_agrees("textFieldShouldClear:"_sel)) return;
   replace({0, text_->length()}, ""_ns);
   text_edited();
-}
-
-void TextField::move_caret(Motion motion) {
-  switch (motion) {
-    case Motion::ToPrevious:
-      if (caret_index_ > 0) caret_index_ = character_start(text_.get(), caret_index_ - 1);
-      break;
-    case Motion::ToNext:
-      caret_index_ = character_end(text_.get(), caret_index_);
-      break;
-    case Motion::ToStart:
-      caret_index_ = 0;
-      break;
-    case Motion::ToEnd:
-      caret_index_ = text_->length();
-      break;
-  }
-  marked_ = {};
-  self.setNeedsDisplay();
-  self.setNeedsLayout();
 }
 
 }  // namespace host::uikit

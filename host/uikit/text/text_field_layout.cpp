@@ -139,8 +139,12 @@ TextLayout TextField::layout_contents() const {
   return TextLayout(styled_contents(), frame);
 }
 
+double TextField::offset_of(const TextLayout& layout, std::size_t index) const {
+  return layout.caret_position(utf8_of(text_->substringToIndex(index)).size());
+}
+
 double TextField::caret_offset(const TextLayout& layout) const {
-  return layout.caret_position(utf8_of(text_->substringToIndex(caret_index_)).size());
+  return offset_of(layout, caret_index_);
 }
 
 double TextField::text_origin(CGRect rect, const TextLayout& layout) {
@@ -162,11 +166,19 @@ void TextField::update_caret() {
   if (!editing_) return caret_.hide();
   const CGRect rect = self.editingRectForBounds(self.bounds());
   const TextLayout layout = layout_contents();
-  const CGFloat left = text_origin(rect, layout) + caret_offset(layout);
+  const CGFloat origin = text_origin(rect, layout);
   const CGRect line = line_rect(rect, layout.size().height);
-  const UIColor tint = self.tintColor();
-  caret_.show(self, {to_pixel(left), line.min_y(), kCaretWidth, line.size.height},
-              tint ? tint : UIColor::blueColor());
+  const UIColor tint = self.tintColor() ? self.tintColor() : UIColor::blueColor();
+  const CGFloat edge = to_pixel(origin + caret_offset(layout));
+  if (selection().length == 0) {
+    marks_.hide();
+    return caret_.show(self, {edge, line.min_y(), kCaretWidth, line.size.height}, tint);
+  }
+  caret_.hide();
+  const CGFloat other = to_pixel(origin + offset_of(layout, anchor_index_));
+  const CGRect selected(std::min(edge, other), line.min_y(), std::abs(edge - other),
+                        line.size.height);
+  marks_.show(self, selected, rect, tint, this);
 }
 
 void TextField::draw_rect(CGRect) {

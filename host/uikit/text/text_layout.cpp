@@ -80,8 +80,9 @@ void TextLayout::measure_lines(const StyledText& text, const TextFrame& frame) {
   const int limit = line_limit(text, frame);
   const int count = pango_layout_get_line_count(layout_.get());
   const int shown = limit ? std::min(count, limit) : count;
-  for (int index = 0; index < shown; ++index) {
-    PangoLayoutLine* line = pango_layout_get_line_readonly(layout_.get(), index);
+  const GSList* next = pango_layout_get_lines_readonly(layout_.get());
+  for (int index = 0; index < shown; ++index, next = next->next) {
+    auto* line = static_cast<PangoLayoutLine*>(next->data);
     PangoRectangle extents;
     pango_layout_line_get_extents(line, nullptr, &extents);
     const auto begin = static_cast<std::size_t>(line->start_index);
@@ -110,8 +111,17 @@ double TextLayout::left_of(const Line& line, double width) const {
 }
 
 void TextLayout::draw(cairo_t* drawing, CGRect rect) const {
+  draw_between(drawing, rect, -kUnlimited, kUnlimited);
+}
+
+void TextLayout::draw_between(cairo_t* drawing, CGRect rect, double from, double to) const {
   double top = rect.min_y();
   for (const Line& line : lines_) {
+    if (top >= to) return;
+    if (top + line.height <= from) {
+      top += line.height;
+      continue;
+    }
     const double left = rect.min_x() + left_of(line, rect.size.width);
     cairo_move_to(drawing, left, top + line.ascender);
     pango_cairo_show_layout_line(drawing,

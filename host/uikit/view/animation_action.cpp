@@ -1,11 +1,14 @@
 #include "host/uikit/view/animation_action.h"
 
 #include <cmath>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "host/quartzcore/layer.h"
+#include "host/runtime/run_loop.h"
 #include "host/uikit/view/animation_run.h"
 #include "host/uikit/view/block_animation.h"
 #include "host/uikit/view/spring_curve.h"
@@ -25,7 +28,7 @@ struct UIViewAnimationAction
 
 // Geometry adds up, so that a change in the middle of a movement bends it instead of cutting it
 // off; everything else starts anew from its old value.
-using OldValue = std::variant<CGPoint, CGRect, CATransform3D, objc::Ref<objc::Object>>;
+using OldValue = std::variant<CGPoint, CGRect, CATransform3D, objc::Ref<objc::Object>, double>;
 
 CGPoint scaled(CGPoint point, double by) {
   return {point.x * by, point.y * by};
@@ -40,6 +43,14 @@ objc::Object boxed(CGPoint point) {
 }
 objc::Object boxed(CGRect rect) {
   return CAValue::valueWithCGRect(rect);
+}
+
+/// Does nobody hear of the animations that this layer is given?
+bool takes_animations_plainly(CALayer layer) {
+  const objc::Sel selector = "addAnimation:forKey:"_sel;
+  static const objc::Imp plain =
+      method_getImplementation(class_getInstanceMethod(CALayer::cls(), selector));
+  return objc_msg_lookup(layer.id(), selector) == plain;
 }
 
 template <class Geometry>
@@ -78,12 +89,13 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
 
   void run_action(NSString key, objc::Object object, NSDictionary) {
     const CALayer layer = objc::cast<CALayer>(object);
+    const auto* opacity = std::get_if<double>(&old_value_);
+    if (opacity && takes_animations_plainly(layer)) return fade(layer, *opacity);
     const CAPropertyAnimation animation = make_animation(layer, key);
     if (!animation) return;
     time(animation);
     animation.setDelegate(self);
-    asked_.run->animation_added();
-    if (blocks_touches()) objc::state_of<View>(view_.get()).begin_untouchable_animation();
+    begin();
     layer.addAnimation(animation, animation.isAdditive() ? free_key(layer, key) : key);
   }
 
@@ -96,6 +108,31 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
   }
 
  private:
+  void begin() {
+    asked_.run->animation_added();
+    if (blocks_touches()) objc::state_of<View>(view_.get()).begin_untouchable_animation();
+  }
+
+  // Whole screens of views are faded in one block, so this goes without objects.
+  void fade(CALayer layer, double from) {
+    const double to = layer.opacity();
+    if (from == to) return;
+    quartzcore::RunningAnimation animation;
+    animation.key = animation.key_path = "opacity";
+    animation.from = from;
+    animation.to = to;
+    animation.begin = RunLoop::main().now() + asked_.delay;
+    animation.fills_backwards = asked_.delay > 0;
+    animation.duration = asked_.duration;
+    animation.curve = asked_.curve;
+    animation.autoreverses = asked_.has(UIViewAnimationOptionAutoreverse);
+    if (asked_.has(UIViewAnimationOptionRepeat))
+      animation.repeat_count = std::numeric_limits<double>::infinity();
+    animation.listener.reset(self);
+    begin();
+    objc::state_of<quartzcore::Layer>(layer).run(std::move(animation));
+  }
+
   bool blocks_touches() const { return !asked_.has(UIViewAnimationOptionAllowUserInteraction); }
 
   /// nil when the property did not change.
@@ -115,6 +152,8 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
           asked_);
     } else if (const auto* transform = std::get_if<CATransform3D>(&old_value_)) {
       return make_transform_animation(layer, key, *transform);
+    } else if (const auto* opacity = std::get_if<double>(&old_value_)) {
+      return make_replacing_animation(layer, key, NSNumber::numberWithDouble(*opacity));
     } else {
       return make_replacing_animation(layer, key, std::get<3>(old_value_).get());
     }
@@ -189,8 +228,13 @@ objc::Object make_animation_action(UIView view, CALayer layer, NSString key) {
     old_value = layer.transform();
   } else if (name == "opacity" || name == "backgroundColor") {
     const bool from_screen = asked->has(UIViewAnimationOptionBeginFromCurrentState);
-    const CALayer shown = from_screen ? layer.presentationLayer() : layer;
-    old_value = objc::Ref<objc::Object>::retain((shown ? shown : layer).valueForKeyPath(key));
+    const CALayer presented = from_screen ? layer.presentationLayer() : CALayer();
+    const CALayer shown = presented ? presented : layer;
+    if (name == "opacity") {
+      old_value = static_cast<double>(shown.opacity());
+    } else {
+      old_value = objc::Ref<objc::Object>::retain(shown.valueForKeyPath(key));
+    }
   } else {
     return nil;
   }

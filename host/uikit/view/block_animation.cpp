@@ -2,13 +2,15 @@
 
 #include <vector>
 
+#include "host/quartzcore/timing_function.h"
 #include "host/uikit/view/animation_run.h"
 #include "objc/class_builder.h"
 
 namespace host::uikit {
 namespace {
 
-constexpr UIViewAnimationOptions kCurveMask = 3 << 16;
+constexpr UIViewAnimationOptions kCurveMask = 7 << 16;
+constexpr UIViewAnimationOptions kKeyboardCurve = UIViewAnimationCurveKeyboard << 16;
 
 std::vector<BlockAnimation> running_blocks;
 BOOL animations_enabled = YES;
@@ -32,6 +34,7 @@ void animate(BlockAnimation asked, objc::Block<void()> animations,
              objc::Block<void(BOOL)> completion) {
   asked = inherited(asked);
   asked.run = std::make_shared<AnimationRun>(completion);
+  if (asked.spring_damping <= 0) asked.curve = quartzcore::curve_of(timing_function(asked.options));
   const auto run = asked.run;
   running_blocks.push_back(asked);
   animations();
@@ -94,6 +97,9 @@ CAMediaTimingFunction timing_function(UIViewAnimationOptions options) {
       return CAMediaTimingFunction::functionWithName("easeOut"_ns);
     case UIViewAnimationOptionCurveLinear:
       return CAMediaTimingFunction::functionWithName("linear"_ns);
+    case kKeyboardCurve:
+      // Off at once and gently home, as a spring without a swing goes.
+      return CAMediaTimingFunction::functionWithControlPoints(0.38f, 0.7f, 0.125f, 1);
     default:
       return CAMediaTimingFunction::functionWithName("easeInEaseOut"_ns);
   }

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "host/quartzcore/timing_curve.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIView.h"
 
@@ -18,6 +19,8 @@ struct BlockAnimation {
   double spring_damping = 0;
   double spring_velocity = 0;
   std::shared_ptr<AnimationRun> run = nullptr;
+  /// The curve that options and spring come to, made once for the block.
+  quartzcore::TimingCurve curve = {};
 
   bool has(UIViewAnimationOptions option) const { return (options & option) != 0; }
 };

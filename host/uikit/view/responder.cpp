@@ -5,15 +5,36 @@ namespace {
 
 // One screen with one keyboard: one first responder in the process, not one a window.
 UIResponder current_first_responder;
+UIResponder announced;
+void (*first_responder_observer)() = nullptr;
+int changes_under_way = 0;
 
 }  // namespace
+
+void observe_first_responder(void (*observer)()) {
+  first_responder_observer = observer;
+}
+
+void announce_first_responder() {
+  announced = current_first_responder;
+  if (first_responder_observer) first_responder_observer();
+}
+
+FirstResponderChange::FirstResponderChange() {
+  ++changes_under_way;
+}
+FirstResponderChange::~FirstResponderChange() {
+  if (--changes_under_way == 0 && announced != current_first_responder) announce_first_responder();
+}
 
 UIResponder first_responder() {
   return current_first_responder;
 }
 
 Responder::~Responder() {
-  if (current_first_responder == self) current_first_responder = nil;
+  if (current_first_responder != self) return;
+  const FirstResponderChange change;
+  current_first_responder = nil;
 }
 
 BOOL Responder::is_first_responder() const {
@@ -23,6 +44,7 @@ BOOL Responder::is_first_responder() const {
 BOOL Responder::become_first_responder() {
   if (self.isFirstResponder()) return YES;
   if (!self.canBecomeFirstResponder()) return NO;
+  const FirstResponderChange change;
   if (current_first_responder && !current_first_responder.resignFirstResponder()) return NO;
   current_first_responder = self;
   return YES;
@@ -31,8 +53,13 @@ BOOL Responder::become_first_responder() {
 BOOL Responder::resign_first_responder() {
   if (current_first_responder != self) return YES;
   if (!self.canResignFirstResponder()) return NO;
+  const FirstResponderChange change;
   current_first_responder = nil;
   return YES;
+}
+
+void Responder::reload_input_views() {
+  if (self.isFirstResponder()) announce_first_responder();
 }
 
 void Responder::touches_began(NSSet touches, UIEvent event) {
@@ -57,6 +84,7 @@ void export_responder() {
       .method<&Responder::can_resign_first_responder>("canResignFirstResponder")
       .method<&Responder::resign_first_responder>("resignFirstResponder")
       .method<&Responder::is_first_responder>("isFirstResponder")
+      .method<&Responder::reload_input_views>("reloadInputViews")
       .method<&Responder::touches_began>("touchesBegan:withEvent:")
       .method<&Responder::touches_moved>("touchesMoved:withEvent:")
       .method<&Responder::touches_ended>("touchesEnded:withEvent:")

@@ -17,6 +17,7 @@ class Responder : public objc::Implementation<Responder, UIResponder> {
   BOOL can_resign_first_responder() { return YES; }
   BOOL resign_first_responder();
   BOOL is_first_responder() const;
+  void reload_input_views();
 
   void touches_began(NSSet touches, UIEvent event);
   void touches_moved(NSSet touches, UIEvent event);
@@ -26,6 +27,21 @@ class Responder : public objc::Implementation<Responder, UIResponder> {
 
 /// Who gets the keys; nil when nobody does.
 UIResponder first_responder();
+
+/// Calls `observer` whenever somebody else gets the keys than before, or nobody.
+void observe_first_responder(void (*observer)());
+/// Calls it also when it is the same one, whose wishes have changed.
+void announce_first_responder();
+
+/// While one lives, changes of the first responder are not announced; what has come of them is
+/// announced when the last one goes. So one who gives the keys to the next is one change, not two.
+class FirstResponderChange {
+ public:
+  FirstResponderChange();
+  ~FirstResponderChange();
+  FirstResponderChange(const FirstResponderChange&) = delete;
+  FirstResponderChange& operator=(const FirstResponderChange&) = delete;
+};
 
 void export_responder();
 

@@ -13,6 +13,14 @@ CGRect below(CGRect rect) {
   return {rect.origin.x, rect.max_y(), rect.size.width, rect.size.height};
 }
 
+// By messages: there are controllers that come another way than from below.
+void put_off_screen(UIViewController controller, CGRect place) {
+  objc::send<>(controller, "_placeOffScreen:"_sel, place);
+}
+void put_on_screen(UIViewController controller, CGRect place) {
+  objc::send<>(controller, "_placeOnScreen:"_sel, place);
+}
+
 /// Runs the changes as an animation, or at once; `done` afterwards in either case.
 template <class Changes, class Done>
 void change(BOOL animated, Changes changes, Done done) {
@@ -31,7 +39,7 @@ ViewController::~ViewController() {
   if (view_) objc::state_of<View>(view_.get()).set_controller(nil);
   for (const auto& child : children_)
     objc::state_of<ViewController>(child.get()).parent_ = nil;
-  if (presented_) objc::state_of<ViewController>(presented_.get()).presenting_ = nil;
+  end_presentation();
 }
 
 UIView ViewController::view() {
@@ -99,12 +107,13 @@ void ViewController::present(UIViewController controller, BOOL animated,
   const UIView view = controller.view();
   const CGRect place = window.bounds();
   controller.viewWillAppear(animated);
-  view.setFrame(animated ? below(place) : place);
+  if (animated) put_off_screen(controller, place);
   window.addSubview(view);
   change(
-      animated, [view, place] { view.setFrame(place); },
+      animated, [controller, place] { put_on_screen(controller, place); },
       [kept = presented_, animated, completion = objc::OwnedBlock<void()>(completion)] {
-        kept->viewDidAppear(animated);
+        // It may have been sent away again on its way.
+        if (kept->presentingViewController()) kept->viewDidAppear(animated);
         completion.get()();
       });
 }
@@ -113,16 +122,35 @@ void ViewController::dismiss(BOOL animated, objc::Block<void()> completion) {
   if (!presented_) return presenting_.dismissViewControllerAnimated(animated, completion);
   const auto leaving = std::exchange(presented_, {});
   objc::state_of<ViewController>(leaving.get()).presenting_ = nil;
-  const UIView view = leaving->view();
-  const CGRect place = view.frame();
+  const CGRect place = leaving->view().frame();
   leaving->viewWillDisappear(animated);
   change(
-      animated, [view, place] { view.setFrame(below(place)); },
+      animated, [leaving, place] { put_off_screen(leaving.get(), place); },
       [leaving, animated, completion = objc::OwnedBlock<void()>(completion)] {
+        objc::state_of<ViewController>(leaving.get()).end_presentation();
         leaving->view().removeFromSuperview();
         leaving->viewDidDisappear(animated);
         completion.get()();
       });
+}
+
+void ViewController::end_presentation() {
+  const auto leaving = std::exchange(presented_, {});
+  if (!leaving) return;
+  ViewController& controller = objc::state_of<ViewController>(leaving.get());
+  controller.presenting_ = nil;
+  controller.end_presentation();
+  leaving->viewWillDisappear(NO);
+  if (leaving->isViewLoaded()) leaving->view().removeFromSuperview();
+  leaving->viewDidDisappear(NO);
+}
+
+void ViewController::place_off_screen(CGRect place) {
+  self.view().setFrame(below(place));
+}
+
+void ViewController::place_on_screen(CGRect place) {
+  self.view().setFrame(place);
 }
 
 void ViewController::present_modal(UIViewController controller, BOOL animated) {
@@ -164,6 +192,8 @@ void export_view_controller() {
       .method<&Controller::presenting>("presentingViewController")
       .method<&Controller::present>("presentViewController:animated:completion:")
       .method<&Controller::dismiss>("dismissViewControllerAnimated:completion:")
+      .method<&Controller::place_off_screen>("_placeOffScreen:")
+      .method<&Controller::place_on_screen>("_placeOnScreen:")
       .method<&Controller::present_modal>("presentModalViewController:animated:")
       .method<&Controller::dismiss_modal>("dismissModalViewControllerAnimated:")
       .finish();

@@ -44,6 +44,13 @@ class ViewController : public objc::Implementation<ViewController, UIViewControl
   void dismiss(BOOL animated, objc::Block<void()> completion);
   void present_modal(UIViewController controller, BOOL animated);
   void dismiss_modal(BOOL animated);
+  /// How the view stands before it is presented and once it is dismissed, and how in between;
+  /// `place` is the window's room. Overridden by those that do not come from below.
+  void place_off_screen(CGRect place);
+  void place_on_screen(CGRect place);
+
+  /// Takes down, at once, whatever is presented: its window has no place for it any more.
+  void end_presentation();
 
  private:
   objc::Ref<UIView> view_;

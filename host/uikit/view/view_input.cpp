@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "host/uikit/gesture/gesture_recognizer.h"
+#include "host/uikit/view/miss_test.h"
 #include "host/uikit/view/screen_space.h"
 #include "host/uikit/view/view.h"
 
@@ -25,8 +26,13 @@ UIView View::hit_test(CGPoint point, UIEvent event) {
   if (self.isHidden() || !self.isUserInteractionEnabled()) return nil;
   if (self.alpha() < kLeastTouchableAlpha || untouchable_animations_ > 0) return nil;
   if (!self.pointInside(point, event)) return nil;
-  const auto children = subviews_;
-  for (auto child = children.rbegin(); child != children.rend(); ++child) {
+  // Among thousands of subviews few have to be asked.
+  MissTest test(point);
+  std::vector<objc::Ref<UIView>> candidates;
+  for (const auto& child : subviews_) {
+    if (!test.misses(child.get())) candidates.push_back(child);
+  }
+  for (auto child = candidates.rbegin(); child != candidates.rend(); ++child) {
     const CGPoint inner = (*child)->convertPointFromView(point, self);
     if (const UIView hit = (*child)->hitTest(inner, event)) return hit;
   }

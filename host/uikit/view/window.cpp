@@ -3,6 +3,7 @@
 #include "host/uikit/gesture/event.h"
 #include "host/uikit/gesture/gesture_arena.h"
 #include "host/uikit/view/screen_space.h"
+#include "host/uikit/view/view_controller.h"
 #include "host/uikit/view/window_list.h"
 #include "platform/UIKit/UIApplication.h"
 
@@ -55,6 +56,7 @@ UIScreen Window::screen() const {
 void Window::set_root_view_controller(UIViewController controller) {
   if (root_controller_.get() == controller) return;
   const bool visible = !self.isHidden();
+  if (root_controller_) objc::state_of<ViewController>(root_controller_.get()).end_presentation();
   if (root_controller_ && root_controller_->isViewLoaded())
     root_controller_->view().removeFromSuperview();
   root_controller_.reset(controller);

@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -18,8 +20,7 @@ using host::test::write_png;
 class Image : public host::test::DrawingTest {
  protected:
   Image() {
-    folder_ = std::filesystem::temp_directory_path() /
-              ("images-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+    folder_ = std::filesystem::temp_directory_path() / ("images-" + std::to_string(getpid()));
     std::filesystem::create_directories(folder_);
   }
   ~Image() override {

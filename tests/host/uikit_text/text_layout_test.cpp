@@ -7,6 +7,7 @@
 #include "host/uikit/text/characters.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/NSAttributedStringAdditions.h"
+#include "platform/UIKit/NSStringDrawing.h"
 #include "tests/host/uikit_text/drawing_test.h"
 
 namespace {
@@ -160,6 +161,25 @@ TEST_F(Text, DrawsInItsColourInsideItsRectangle) {
   UIGraphicsEndImageContext();
   EXPECT_EQ(left, 0);
   EXPECT_GT(right, 1000);
+  EXPECT_EQ(other_colours, 0);
+}
+
+TEST_F(Text, AStringDrawnWithAFontAloneTakesTheFillColour) {
+  UIGraphicsBeginImageContext({60, 20});
+  UIColor::redColor().set();
+  objc::cast<NSStringDrawing>("Hello"_ns)
+      .drawInRect({0, 0, 60, 20}, UIFont::systemFontOfSize(10), NSLineBreakByClipping,
+                  NSTextAlignmentLeft);
+
+  const CGContextRef context = UIGraphicsGetCurrentContext();
+  const auto* pixels = static_cast<const unsigned char*>(CGBitmapContextGetData(context));
+  long red = 0, other_colours = 0;
+  for (std::size_t byte = 0; byte < 20 * CGBitmapContextGetBytesPerRow(context); byte += 4) {
+    red += pixels[byte + 2];
+    other_colours += pixels[byte] + pixels[byte + 1];
+  }
+  UIGraphicsEndImageContext();
+  EXPECT_GT(red, 1000);
   EXPECT_EQ(other_colours, 0);
 }
 

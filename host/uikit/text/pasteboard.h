@@ -1,0 +1,20 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "platform/UIKit/UIPasteboard.h"
+
+namespace host::uikit {
+
+/// The platform's view of the clipboard: the general pasteboard, of which there is one.
+class Pasteboard : public objc::Implementation<Pasteboard, UIPasteboard> {
+ public:
+  explicit Pasteboard(UIPasteboard owner) : Implementation(owner) {}
+
+  static UIPasteboard general(objc::Object cls);
+  NSString string() const;
+  void set_string(NSString text);
+};
+
+void export_pasteboard();
+
+}  // namespace host::uikit

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/quartzcore/layer.h"
+#include "host/uikit/view/view.h"
+
+namespace host::uikit {
+
+/// Tells which of many subviews need not be asked whether they are hit at a point. Views whose
+/// class has its own idea of that are always to be asked.
+class MissTest {
+ public:
+  /// The point is in the coordinates of the subviews' superview.
+  explicit MissTest(CGPoint point) : point_(point) {}
+
+  bool misses(UIView view) {
+    const objc::Class cls = objc::class_of(view.id());
+    if (cls != last_class_) {
+      last_class_ = cls;
+      is_plain_ = is_inherited(cls, "hitTest:withEvent:"_sel) &&
+                  is_inherited(cls, "pointInside:withEvent:"_sel) &&
+                  is_inherited(cls, "bounds"_sel);
+    }
+    if (!is_plain_) return false;
+    const CALayer layer = objc::state_of<View>(view).layer();
+    const CGRect frame = objc::state_of<quartzcore::Layer>(layer).frame();
+    return !CGRectInset(frame, -kMargin, -kMargin).contains(point_);
+  }
+
+ private:
+  // What is turned or mirrored keeps other edges, and rounds.
+  static constexpr CGFloat kMargin = 1;
+
+  static bool is_inherited(objc::Class cls, objc::Sel selector) {
+    const objc::Method own = class_getInstanceMethod(cls, selector);
+    const objc::Method plain = class_getInstanceMethod(UIView::cls(), selector);
+    return method_getImplementation(own) == method_getImplementation(plain);
+  }
+
+  CGPoint point_;
+  objc::Class last_class_ = nullptr;
+  bool is_plain_ = false;
+};
+
+}  // namespace host::uikit
