@@ -2,61 +2,43 @@
 
 #include <fmt/core.h>
 
-#include <fstream>
-#include <iterator>
-#include <string>
+#include <utility>
 
 #include "host/media/log.h"
-#include "host/media/tag_reader.h"
 
 namespace host::media {
 namespace {
 
 constexpr std::size_t entry_overhead = 128;
-constexpr std::streamoff largest_file_bytes = 32 << 20;
-
-std::vector<std::uint8_t> bytes_of_file(const std::string& path) {
-  std::ifstream file{path, std::ios::binary | std::ios::ate};
-  const std::streamoff size = file.tellg();
-  if (!file || size <= 0 || size > largest_file_bytes) return {};
-  std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
-  file.seekg(0);
-  file.read(reinterpret_cast<char*>(bytes.data()), size);
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
-  return bytes;
-}
 
 }  // namespace
 
-std::shared_ptr<const Picture> ArtworkCache::picture(const Track& track, int longest_side) {
-  if (!track.has_artwork() || broken_.contains(track.artwork_key)) return nullptr;
-  const Key key{track.artwork_key, longest_side};
-  if (const auto known = by_key_.find(key); known != by_key_.end()) {
-    entries_.splice(entries_.begin(), entries_, known->second);
-    return known->second->picture;
-  }
-  auto decoded = decode(track, longest_side);
-  if (decoded) {
-    keep(key, decoded);
-  } else {
-    broken_.insert(track.artwork_key);
-  }
-  return decoded;
+ArtworkCache::PicturePtr ArtworkCache::picture(const CoverFile& cover, int longest_side) {
+  if (cover.key == 0 || is_broken(cover.key)) return nullptr;
+  if (PicturePtr known = kept(cover.key, longest_side)) return known;
+  auto decoded = decode_cover(cover, longest_side);
+  const PicturePtr made = decoded ? std::make_shared<const Picture>(std::move(*decoded)) : nullptr;
+  put(cover, longest_side, made);
+  return made;
 }
 
-std::shared_ptr<const Picture> ArtworkCache::decode(const Track& track, int longest_side) {
+ArtworkCache::PicturePtr ArtworkCache::kept(std::uint64_t key, int longest_side) {
+  const auto known = by_key_.find({key, longest_side});
+  if (known == by_key_.end()) return nullptr;
+  entries_.splice(entries_.begin(), entries_, known->second);
+  return known->second->picture;
+}
+
+void ArtworkCache::put(const CoverFile& cover, int longest_side, PicturePtr picture) {
   ++decode_count_;
-  const std::string path{track.picture_path.empty() ? track.path : track.picture_path};
-  const auto bytes = track.picture_path.empty() ? read_embedded_picture(path) : bytes_of_file(path);
-  auto picture = decode_picture(bytes, longest_side);
-  if (!picture) {
-    log_warning(fmt::format("the cover in {} cannot be shown", path));
-    return nullptr;
+  if (picture) {
+    if (!keeps(cover.key, longest_side)) keep({cover.key, longest_side}, std::move(picture));
+  } else if (broken_.insert(cover.key).second) {
+    log_warning(fmt::format("the cover in {} cannot be shown", cover.path));
   }
-  return std::make_shared<const Picture>(std::move(*picture));
 }
 
-void ArtworkCache::keep(Key key, std::shared_ptr<const Picture> picture) {
+void ArtworkCache::keep(Key key, PicturePtr picture) {
   entries_.push_front({key, std::move(picture)});
   by_key_[key] = entries_.begin();
   bytes_kept_ += cost(entries_.front());

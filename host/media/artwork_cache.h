@@ -6,22 +6,37 @@
 #include <memory>
 #include <unordered_set>
 
-#include "host/media/picture.h"
-#include "host/media/track.h"
+#include "host/media/cover_file.h"
 
 namespace host::media {
 
-// Decodes covers when they are first asked for and keeps the latest within a fixed number of bytes.
-// A picture that cannot be decoded is logged once and remembered as missing. Main thread only.
+// Keeps the covers that were used last within a fixed number of bytes. A picture that cannot be
+// decoded is logged once and remembered as missing. Main thread only.
 class ArtworkCache {
  public:
+  using PicturePtr = std::shared_ptr<const Picture>;
+
   explicit ArtworkCache(std::size_t byte_budget) : byte_budget_(byte_budget) {}
 
-  // The cover with its longer side at most `longest_side` pixels; null when there is none. A
-  // picture larger than the whole budget is still answered, and not kept.
-  std::shared_ptr<const Picture> picture(const Track& track, int longest_side);
+  // The cover with its longer side at most `longest_side` pixels, decoded now when it is not kept;
+  // null when there is none. A picture larger than the whole budget is still answered, and not
+  // kept.
+  PicturePtr picture(const CoverFile& cover, int longest_side);
+  PicturePtr picture(const Track& track, int longest_side) {
+    return picture(cover_of(track), longest_side);
+  }
+
+  // The same when it is kept, and null otherwise.
+  PicturePtr kept(std::uint64_t key, int longest_side);
+  bool keeps(std::uint64_t key, int longest_side) const {
+    return by_key_.contains({key, longest_side});
+  }
+  // Takes what was decoded elsewhere; null means that it cannot be.
+  void put(const CoverFile& cover, int longest_side, PicturePtr picture);
+  bool is_broken(std::uint64_t key) const { return broken_.contains(key); }
 
   std::size_t bytes_kept() const { return bytes_kept_; }
+  // How many pictures were decoded, here or elsewhere.
   std::size_t decode_count() const { return decode_count_; }
 
  private:
@@ -32,11 +47,10 @@ class ArtworkCache {
   };
   struct Entry {
     Key key;
-    std::shared_ptr<const Picture> picture;
+    PicturePtr picture;
   };
 
-  std::shared_ptr<const Picture> decode(const Track& track, int longest_side);
-  void keep(Key key, std::shared_ptr<const Picture> picture);
+  void keep(Key key, PicturePtr picture);
   static std::size_t cost(const Entry& entry);
 
   std::size_t byte_budget_;

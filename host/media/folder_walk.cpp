@@ -12,6 +12,7 @@
 #include <set>
 #include <string_view>
 
+#include "host/media/cloud_song.h"
 #include "host/media/hash.h"
 #include "host/media/tag_reader.h"
 
@@ -85,7 +86,7 @@ class Walk {
   void look_at(DIR* directory, const dirent& entry) {
     if (entry.d_name[0] == '.') return;
     if (entry.d_type == DT_DIR) return waiting_.push_back(joined(folder_.path, entry.d_name));
-    const bool is_song = has_audio_name(entry.d_name);
+    const bool is_song = has_audio_name(entry.d_name) || has_cloud_name(entry.d_name);
     const int rank = is_song ? not_a_picture : picture_rank(entry.d_name);
     const bool may_be_folder = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
     if (!is_song && rank == not_a_picture && !may_be_folder) return;

@@ -11,7 +11,7 @@ namespace host::media {
 namespace {
 
 // Raise it with every change of the tables: an index of another version is made anew.
-constexpr int schema_version = 1;
+constexpr int schema_version = 2;
 
 constexpr char schema[] = R"(
   BEGIN;
@@ -19,48 +19,65 @@ constexpr char schema[] = R"(
   DROP TABLE IF EXISTS refused;
   CREATE TABLE songs (
     id INTEGER PRIMARY KEY, path BLOB NOT NULL UNIQUE, size INTEGER, modified_ns INTEGER,
-    picture_path BLOB, picture_key INTEGER, title TEXT, artist TEXT, album_artist TEXT, album TEXT,
+    picture_path BLOB, picture_key INTEGER, picture_width INTEGER, picture_height INTEGER,
+    picture_opaque INTEGER, title TEXT, artist TEXT, album_artist TEXT, album TEXT,
     genre TEXT, composer TEXT, track_number INTEGER, disc_number INTEGER, duration REAL,
-    is_compilation INTEGER, is_cloud INTEGER, embedded_artwork INTEGER);
+    is_compilation INTEGER, is_cloud INTEGER, own_artwork INTEGER, own_path BLOB,
+    own_width INTEGER, own_height INTEGER, own_opaque INTEGER);
   CREATE TABLE refused (path BLOB PRIMARY KEY, size INTEGER, modified_ns INTEGER) WITHOUT ROWID;
 )";
 
 constexpr char select_songs[] =
-    "SELECT id, path, size, modified_ns, picture_path, picture_key, title, artist, album_artist, "
-    "album, genre, composer, track_number, disc_number, duration, is_compilation, is_cloud, "
-    "embedded_artwork FROM songs ORDER BY id";
+    "SELECT id, path, size, modified_ns, picture_path, picture_key, picture_width, picture_height, "
+    "picture_opaque, title, artist, album_artist, album, genre, composer, track_number, "
+    "disc_number, duration, is_compilation, is_cloud, own_artwork, own_path, own_width, "
+    "own_height, own_opaque FROM songs ORDER BY id";
 constexpr char select_files[] =
-    "SELECT id, path, size, modified_ns, picture_path, picture_key FROM songs ORDER BY id";
+    "SELECT id, path, size, modified_ns, picture_path, picture_key, picture_width, picture_height, "
+    "picture_opaque FROM songs ORDER BY id";
 constexpr char insert_song[] =
-    "INSERT OR REPLACE INTO songs VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
+    "INSERT OR REPLACE INTO songs VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
 
 std::string text_at(const Statement& row, int column) {
   return std::string{row.bytes(column)};
+}
+
+PictureHeader header_at(const Statement& row, int column) {
+  return {static_cast<int>(row.integer(column)), static_cast<int>(row.integer(column + 1)),
+          row.integer(column + 2) != 0};
+}
+
+void bind_header(Statement& statement, int parameter, const PictureHeader& header) {
+  statement.bind(parameter, std::int64_t{header.width})
+      .bind(parameter + 1, std::int64_t{header.height})
+      .bind(parameter + 2, std::int64_t{header.is_opaque});
 }
 
 KnownFile file_from(const Statement& row) {
   return {static_cast<std::uint64_t>(row.integer(0)),
           text_at(row, 1),
           {row.integer(2), row.integer(3)},
-          {text_at(row, 4), static_cast<std::uint64_t>(row.integer(5))}};
+          {text_at(row, 4), static_cast<std::uint64_t>(row.integer(5)), header_at(row, 6)}};
 }
 
 SongRecord record_from(const Statement& row) {
   KnownFile file = file_from(row);
   SongRecord record{file.id, std::move(file.path), file.stamp, std::move(file.folder_picture), {}};
   SongTags& tags = record.tags;
-  tags.title = text_at(row, 6);
-  tags.artist = text_at(row, 7);
-  tags.album_artist = text_at(row, 8);
-  tags.album = text_at(row, 9);
-  tags.genre = text_at(row, 10);
-  tags.composer = text_at(row, 11);
-  tags.track_number = static_cast<int>(row.integer(12));
-  tags.disc_number = static_cast<int>(row.integer(13));
-  tags.duration_seconds = row.real(14);
-  tags.is_compilation = row.integer(15) != 0;
-  tags.is_cloud = row.integer(16) != 0;
-  tags.embedded_artwork = static_cast<std::uint64_t>(row.integer(17));
+  tags.title = text_at(row, 9);
+  tags.artist = text_at(row, 10);
+  tags.album_artist = text_at(row, 11);
+  tags.album = text_at(row, 12);
+  tags.genre = text_at(row, 13);
+  tags.composer = text_at(row, 14);
+  tags.track_number = static_cast<int>(row.integer(15));
+  tags.disc_number = static_cast<int>(row.integer(16));
+  tags.duration_seconds = row.real(17);
+  tags.is_compilation = row.integer(18) != 0;
+  tags.is_cloud = row.integer(19) != 0;
+  tags.own_artwork = static_cast<std::uint64_t>(row.integer(20));
+  tags.own_picture_path = text_at(row, 21);
+  tags.own_picture = header_at(row, 22);
   return record;
 }
 
@@ -72,18 +89,21 @@ void bind_record(Statement& statement, const SongRecord& record) {
       .bind(4, record.stamp.modified_ns)
       .bind_bytes(5, record.folder_picture.path)
       .bind(6, static_cast<std::int64_t>(record.folder_picture.key))
-      .bind(7, tags.title)
-      .bind(8, tags.artist)
-      .bind(9, tags.album_artist)
-      .bind(10, tags.album)
-      .bind(11, tags.genre)
-      .bind(12, tags.composer)
-      .bind(13, std::int64_t{tags.track_number})
-      .bind(14, std::int64_t{tags.disc_number})
-      .bind(15, tags.duration_seconds)
-      .bind(16, std::int64_t{tags.is_compilation})
-      .bind(17, std::int64_t{tags.is_cloud})
-      .bind(18, static_cast<std::int64_t>(tags.embedded_artwork));
+      .bind(10, tags.title)
+      .bind(11, tags.artist)
+      .bind(12, tags.album_artist)
+      .bind(13, tags.album)
+      .bind(14, tags.genre)
+      .bind(15, tags.composer)
+      .bind(16, std::int64_t{tags.track_number})
+      .bind(17, std::int64_t{tags.disc_number})
+      .bind(18, tags.duration_seconds)
+      .bind(19, std::int64_t{tags.is_compilation})
+      .bind(20, std::int64_t{tags.is_cloud})
+      .bind(21, static_cast<std::int64_t>(tags.own_artwork))
+      .bind_bytes(22, tags.own_picture_path);
+  bind_header(statement, 7, record.folder_picture.header);
+  bind_header(statement, 23, tags.own_picture);
 }
 
 }  // namespace

@@ -57,6 +57,12 @@ Library::Library(std::span<const SongRecord> records) {
     tracks_.push_back(track_from(records[entry.second]));
   texts_.close();
 
+  std::vector<std::uint64_t> ids;
+  ids.reserve(tracks_.size());
+  for (const Track& track : tracks_)
+    ids.push_back(track.id);
+  songs_ = make_song_list(std::move(ids));
+
   by_id_.resize(tracks_.size());
   std::iota(by_id_.begin(), by_id_.end(), 0u);
   by_album_ = by_id_;
@@ -70,17 +76,22 @@ Track Library::track_from(const SongRecord& record) {
   Track track;
   track.id = record.id;
   track.album_id = album_identifier(tags);
-  track.title = texts_.store(tags.title);
+  // Songs come in the order of their titles, so no look-up is needed to find an equal one.
+  const bool is_known = !tracks_.empty() && tracks_.back().title == tags.title;
+  track.title = is_known ? tracks_.back().title : texts_.store(tags.title);
   track.artist = texts_.keep(tags.artist);
   track.album_artist = texts_.keep(tags.album_artist);
   track.album = texts_.keep(tags.album);
   track.genre = texts_.keep(tags.genre);
   track.composer = texts_.keep(tags.composer);
   track.path = texts_.store(record.path);
-  if (tags.embedded_artwork != 0) {
-    track.artwork_key = tags.embedded_artwork;
-  } else {
+  if (tags.own_artwork != 0) {
+    track.artwork_key = tags.own_artwork;
+    track.artwork = tags.own_picture;
+    track.picture_path = texts_.keep(tags.own_picture_path);
+  } else if (record.folder_picture.header.is_usable()) {
     track.artwork_key = record.folder_picture.key;
+    track.artwork = record.folder_picture.header;
     track.picture_path = texts_.keep(record.folder_picture.path);
   }
   track.duration_seconds = tags.duration_seconds;
@@ -98,12 +109,15 @@ const Track* Library::find(std::uint64_t id) const {
 }
 
 std::vector<const Track*> Library::album(std::uint64_t album_id) const {
-  const auto album_of = [this](std::uint32_t index) { return tracks_[index].album_id; };
   std::vector<const Track*> songs;
-  for (const std::uint32_t index : std::ranges::equal_range(by_album_, album_id, {}, album_of)) {
+  for (const std::uint32_t index : places_of_album(album_id))
     songs.push_back(&tracks_[index]);
-  }
   return songs;
+}
+
+std::span<const std::uint32_t> Library::places_of_album(std::uint64_t album_id) const {
+  const auto album_of = [this](std::uint32_t index) { return tracks_[index].album_id; };
+  return std::ranges::equal_range(by_album_, album_id, {}, album_of);
 }
 
 }  // namespace host::media

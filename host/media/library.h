@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "host/media/play_queue.h"
 #include "host/media/song_record.h"
 #include "host/media/text_pool.h"
 #include "host/media/track.h"
@@ -21,11 +22,16 @@ class Library {
 
   std::span<const Track> tracks() const { return tracks_; }
 
+  // The identifiers of all songs, in their order.
+  const SongList& songs() const { return songs_; }
+
   // Null when no song has this identifier.
   const Track* find(std::uint64_t id) const;
 
   // The songs of one album in the order of their discs and numbers.
   std::vector<const Track*> album(std::uint64_t album_id) const;
+  // The same as places in `tracks()`.
+  std::span<const std::uint32_t> places_of_album(std::uint64_t album_id) const;
 
  private:
   explicit Library(std::span<const SongRecord> records);
@@ -34,6 +40,7 @@ class Library {
 
   TextPool texts_;
   std::vector<Track> tracks_;
+  SongList songs_;
   std::vector<std::uint32_t> by_id_;     // Indices into tracks_, ordered by identifier.
   std::vector<std::uint32_t> by_album_;  // Likewise by album, disc and number.
 };

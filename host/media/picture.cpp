@@ -1,9 +1,11 @@
 #include "host/media/picture.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -18,6 +20,8 @@ using LoaderRef = std::unique_ptr<GdkPixbufLoader, Unref>;
 using PixbufRef = std::unique_ptr<GdkPixbuf, Unref>;
 
 constexpr char cover_quality[] = "88";
+constexpr std::size_t header_piece_bytes = 16 << 10;
+constexpr std::size_t most_header_bytes = 4 << 20;
 
 // The bytes choose between two decoders and no others: a picture inside a song is somebody else's
 // input, and most of the decoders of a desktop were never meant for that.
@@ -30,13 +34,6 @@ const char* decoder_for(std::span<const std::uint8_t> bytes) {
   if (starts_with(jpeg)) return "jpeg";
   if (starts_with(png)) return "png";
   return nullptr;
-}
-
-// The size with the longer side at most `longest_side`, never larger than the given one.
-std::pair<int, int> fitted(int width, int height, int longest_side) {
-  const double scale = std::min(1.0, static_cast<double>(longest_side) / std::max(width, height));
-  return {std::max(1, static_cast<int>(std::lround(width * scale))),
-          std::max(1, static_cast<int>(std::lround(height * scale)))};
 }
 
 struct Decoding {
@@ -53,7 +50,7 @@ void choose_size(GdkPixbufLoader* loader, int width, int height, gpointer data) 
     return;
   }
   if (!decoding.scales_itself) return;
-  const auto [wanted_width, wanted_height] = fitted(width, height, decoding.longest_side);
+  const auto [wanted_width, wanted_height] = fitted_size(width, height, decoding.longest_side);
   gdk_pixbuf_loader_set_size(loader, wanted_width, wanted_height);
 }
 
@@ -86,7 +83,73 @@ Picture picture_from(const GdkPixbuf* pixbuf) {
   return picture;
 }
 
+void note_size(GdkPixbufLoader* loader, int width, int height, gpointer data) {
+  if (static_cast<std::int64_t>(width) * height <= most_picture_pixels) {
+    *static_cast<PictureSize*>(data) = {width, height};
+  }
+  gdk_pixbuf_loader_set_size(loader, 0, 0);
+}
+
+// Transparency is announced by the kind of the pixels, or by a chunk before them.
+bool is_opaque_png(std::span<const std::uint8_t> bytes) {
+  constexpr std::size_t first_chunk = 8;
+  constexpr std::size_t kind_of_pixels = 25;
+  constexpr std::uint8_t has_alpha = 4;
+  if (bytes.size() <= kind_of_pixels || (bytes[kind_of_pixels] & has_alpha) != 0) return false;
+  for (std::size_t at = first_chunk; at + 8 <= bytes.size();) {
+    const std::string_view name{reinterpret_cast<const char*>(bytes.data() + at + 4), 4};
+    if (name == "IDAT") return true;
+    if (name == "tRNS") return false;
+    const std::size_t length = std::size_t{bytes[at]} << 24 | std::size_t{bytes[at + 1]} << 16 |
+                               std::size_t{bytes[at + 2]} << 8 | bytes[at + 3];
+    at += length + 12;
+  }
+  return false;
+}
+
 }  // namespace
+
+PictureSize fitted_size(int width, int height, int longest_side) {
+  const double scale = std::min(1.0, static_cast<double>(longest_side) / std::max(width, height));
+  return {std::max(1, static_cast<int>(std::lround(width * scale))),
+          std::max(1, static_cast<int>(std::lround(height * scale)))};
+}
+
+PictureHeader read_picture_header(std::span<const std::uint8_t> bytes) {
+  const char* decoder = decoder_for(bytes);
+  if (decoder == nullptr) return {};
+  const LoaderRef loader{gdk_pixbuf_loader_new_with_type(decoder, nullptr)};
+  if (!loader) return {};
+  PictureSize size;
+  g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(note_size), &size);
+  for (auto rest = bytes; !rest.empty() && size.width == 0;) {
+    const auto piece = rest.first(std::min(rest.size(), header_piece_bytes));
+    if (!gdk_pixbuf_loader_write(loader.get(), piece.data(), piece.size(), nullptr)) break;
+    rest = rest.subspan(piece.size());
+  }
+  // It was told to give up, and does so with an error that says nothing of the picture.
+  gdk_pixbuf_loader_close(loader.get(), nullptr);
+  const bool is_jpeg = decoder == std::string_view{"jpeg"};
+  return {size.width, size.height, size.width > 0 && (is_jpeg || is_opaque_png(bytes))};
+}
+
+PictureHeader read_picture_file_header(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  std::ifstream file{path, std::ios::binary};
+  std::vector<std::uint8_t> bytes;
+  // A photograph may carry a preview and a colour profile before its size.
+  for (std::size_t wanted = header_piece_bytes; wanted <= most_header_bytes; wanted *= 4) {
+    const std::size_t before = bytes.size();
+    bytes.resize(wanted);
+    file.read(reinterpret_cast<char*>(bytes.data() + before),
+              static_cast<std::streamsize>(wanted - before));
+    bytes.resize(before + static_cast<std::size_t>(file.gcount()));
+    const PictureHeader header = read_picture_header(bytes);
+    if (header.is_usable() || bytes.size() < wanted) return header;
+  }
+  return {};
+}
 
 std::optional<Picture> decode_picture(std::span<const std::uint8_t> bytes, int longest_side) {
   const char* decoder = decoder_for(bytes);
@@ -103,7 +166,7 @@ std::optional<Picture> decode_picture(std::span<const std::uint8_t> bytes, int l
 
   const int width = gdk_pixbuf_get_width(pixbuf);
   const int height = gdk_pixbuf_get_height(pixbuf);
-  const auto [wanted_width, wanted_height] = fitted(width, height, longest_side);
+  const auto [wanted_width, wanted_height] = fitted_size(width, height, longest_side);
   if (wanted_width == width && wanted_height == height) return picture_from(pixbuf);
   const PixbufRef scaled{
       gdk_pixbuf_scale_simple(pixbuf, wanted_width, wanted_height, GDK_INTERP_BILINEAR)};

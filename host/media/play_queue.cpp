@@ -4,7 +4,12 @@
 
 namespace host::media {
 
-void PlayQueue::set_tracks(std::vector<std::uint64_t> ids) {
+SongList make_song_list(std::vector<std::uint64_t> ids) {
+  return std::make_shared<const std::vector<std::uint64_t>>(std::move(ids));
+}
+
+void PlayQueue::set_tracks(SongList ids) {
+  if (ids == ids_) return;
   const auto playing = current();
   ids_ = std::move(ids);
   index_.reset();
@@ -12,21 +17,21 @@ void PlayQueue::set_tracks(std::vector<std::uint64_t> ids) {
 }
 
 bool PlayQueue::select(std::uint64_t id) {
-  const auto found = std::ranges::find(ids_, id);
-  if (found == ids_.end()) return false;
-  index_ = static_cast<std::size_t>(found - ids_.begin());
+  const auto found = std::ranges::find(*ids_, id);
+  if (found == ids_->end()) return false;
+  index_ = static_cast<std::size_t>(found - ids_->begin());
   return true;
 }
 
 bool PlayQueue::select_first() {
-  if (ids_.empty()) return false;
+  if (ids_->empty()) return false;
   index_ = 0;
   return true;
 }
 
 std::optional<std::uint64_t> PlayQueue::next() {
   if (!index_) return std::nullopt;
-  if (*index_ + 1 < ids_.size()) {
+  if (*index_ + 1 < ids_->size()) {
     ++*index_;
   } else {
     index_.reset();
@@ -41,7 +46,7 @@ std::optional<std::uint64_t> PlayQueue::previous() {
 
 std::optional<std::uint64_t> PlayQueue::current() const {
   if (!index_) return std::nullopt;
-  return ids_[*index_];
+  return (*ids_)[*index_];
 }
 
 }  // namespace host::media

@@ -7,9 +7,20 @@
 #include "host/media/log.h"
 
 namespace host::media {
+namespace {
 
-QueuePlayer::QueuePlayer(Player& player, PathOf path_of)
-    : player_(player), path_of_(std::move(path_of)) {
+// A thousand songs in a row are one line.
+void log_passed_over(const std::string& first_refusal, std::size_t songs) {
+  if (songs == 1) log_warning(fmt::format("{}; it is passed over", first_refusal));
+  if (songs > 1) {
+    log_warning(fmt::format("{}; it and {} more are passed over", first_refusal, songs - 1));
+  }
+}
+
+}  // namespace
+
+QueuePlayer::QueuePlayer(Player& player, FileOf file_of)
+    : player_(player), file_of_(std::move(file_of)) {
   player_.set_listener(this);
 }
 
@@ -17,7 +28,7 @@ QueuePlayer::~QueuePlayer() {
   player_.set_listener(nullptr);
 }
 
-void QueuePlayer::set_queue(std::vector<std::uint64_t> ids) {
+void QueuePlayer::set_queue(SongList ids) {
   queue_.set_tracks(std::move(ids));
   if (queue_.current() || !loaded_) return;
   // The song that plays is not in the new queue: it is over.
@@ -37,7 +48,7 @@ void QueuePlayer::prepare() {
 }
 
 bool QueuePlayer::resume_paused(std::uint64_t id, double seconds) {
-  if (!path_of_(id) || !set_current(id)) return false;
+  if (!file_of_(id).refusal.empty() || !set_current(id)) return false;
   player_.pause();
   player_.seek(seconds);
   set_state(PlaybackState::paused);
@@ -73,7 +84,7 @@ void QueuePlayer::next() {
 }
 
 void QueuePlayer::previous() {
-  if (queue_.previous()) load_current();
+  if (queue_.previous()) load_current(Way::backwards);
 }
 
 void QueuePlayer::player_did_reach_end() {
@@ -85,16 +96,31 @@ void QueuePlayer::player_did_fail(const std::string& path, const std::string& re
   next();
 }
 
-void QueuePlayer::load_current() {
-  while (const auto id = queue_.current()) {
-    if (const auto path = path_of_(*id)) {
+// There is nothing before the first song, so a way back that found none that can be played ends at
+// the one that it came from.
+std::optional<std::uint64_t> QueuePlayer::step(Way& way) {
+  if (way == Way::backwards && queue_.index() == 0u) way = Way::forwards;
+  return way == Way::forwards ? queue_.next() : queue_.previous();
+}
+
+void QueuePlayer::load_current(Way way) {
+  std::string first_refusal;
+  std::size_t refused = 0;
+  std::optional<std::string> path;
+  for (auto id = queue_.current(); id && !path;) {
+    SongFile file = file_of_(*id);
+    if (file.refusal.empty()) {
       loaded_ = id;
-      player_.load(*path);
-      return tell_song_change();
+      path = std::move(file.path);
+    } else {
+      if (refused++ == 0) first_refusal = std::move(file.refusal);
+      id = step(way);
     }
-    queue_.next();
   }
-  come_to_the_end();
+  log_passed_over(first_refusal, refused);
+  if (!path) return come_to_the_end();
+  player_.load(*path);
+  tell_song_change();
 }
 
 void QueuePlayer::come_to_the_end() {

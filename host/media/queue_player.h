@@ -13,15 +13,20 @@ namespace host::media {
 
 enum class PlaybackState { stopped, playing, paused };
 
-// Plays a queue: one song after the other, songs that cannot be played passed over, stopped at the
-// end. This is what the system's music player speaks to. Main thread only; the player must outlive
-// it.
+// Where a song's sound is to be had.
+struct SongFile {
+  std::string path;
+  std::string refusal;  // Why it cannot be played, said of the song; empty when it can.
+};
+
+// Plays a queue: one song after the other, songs that cannot be played passed over in the direction
+// of the way, with one line in the log, stopped at the end. This is what the system's music player
+// speaks to. Main thread only; the player must outlive it.
 class QueuePlayer final : private PlayerListener {
  public:
-  // Answers the path of a song, or nothing when the library does not hold it any more.
-  using PathOf = std::function<std::optional<std::string>(std::uint64_t)>;
+  using FileOf = std::function<SongFile(std::uint64_t)>;
 
-  QueuePlayer(Player& player, PathOf path_of);
+  QueuePlayer(Player& player, FileOf file_of);
   ~QueuePlayer() override;
   QueuePlayer(const QueuePlayer&) = delete;
   QueuePlayer& operator=(const QueuePlayer&) = delete;
@@ -30,8 +35,9 @@ class QueuePlayer final : private PlayerListener {
   std::function<void()> on_song_change;
   std::function<void(PlaybackState)> on_state_change;
 
-  void set_queue(std::vector<std::uint64_t> ids);
-  // Makes the song the current one and goes on playing or waiting. False when it is not queued.
+  void set_queue(SongList ids);
+  // Makes the song, or the first after it that can be played, the current one and goes on playing
+  // or waiting. False when it is not queued.
   bool set_current(std::uint64_t id);
 
   // Makes ready what `play` would play: the first song when none is current.
@@ -45,7 +51,8 @@ class QueuePlayer final : private PlayerListener {
   void stop();
   // Past the last song everything stops.
   void next();
-  // The song before the first is the first, from its start.
+  // The song before the first is the first, from its start; the same is true of the first that can
+  // be played.
   void previous();
   void restart() { player_.seek(0); }
   void seek(double seconds) { player_.seek(seconds); }
@@ -62,13 +69,16 @@ class QueuePlayer final : private PlayerListener {
   void player_did_reach_end() override;
   void player_did_fail(const std::string& path, const std::string& reason) override;
 
-  void load_current();
+  enum class Way { forwards, backwards };
+
+  void load_current(Way way = Way::forwards);
+  std::optional<std::uint64_t> step(Way& way);
   void set_state(PlaybackState state);
   void come_to_the_end();
   void tell_song_change();
 
   Player& player_;
-  PathOf path_of_;
+  FileOf file_of_;
   PlayQueue queue_;
   PlaybackState state_ = PlaybackState::stopped;
   std::optional<std::uint64_t> loaded_;

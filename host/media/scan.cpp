@@ -12,10 +12,11 @@
 #include <unordered_set>
 #include <utility>
 
+#include "host/media/cloud_song.h"
 #include "host/media/folder_walk.h"
 #include "host/media/hash.h"
 #include "host/media/log.h"
-#include "host/media/tag_reader.h"
+#include "host/media/picture.h"
 
 namespace host::media {
 namespace {
@@ -77,8 +78,10 @@ class Scan {
     known_ = std::move(files.songs);
     fates_.resize(known_.size(), Fate::unseen);
     known_by_path_.reserve(known_.size());
-    for (std::size_t i = 0; i < known_.size(); ++i)
+    for (std::size_t i = 0; i < known_.size(); ++i) {
       known_by_path_.emplace(known_[i].path, i);
+      headers_.emplace(known_[i].folder_picture.key, known_[i].folder_picture.header);
+    }
     for (RefusedFile& file : files.refused)
       refused_.emplace(std::move(file.path), file.stamp);
   }
@@ -99,6 +102,7 @@ class Scan {
   }
 
   void visit(WalkedFolder& folder, const std::stop_token& stop) {
+    if (!folder.songs.empty()) find_header(folder.picture);
     for (WalkedFile& file : folder.songs) {
       if (stop.stop_requested()) return;
       ++progress_.seen;
@@ -106,6 +110,21 @@ class Scan {
       if (progress_.seen % files_per_report == 0) report_(progress_);
       if (changes_.count() >= songs_per_transaction) save();
     }
+  }
+
+  // A picture whose key is known has not changed since it was last looked at.
+  void find_header(FolderPicture& picture) {
+    if (picture.key == 0) return;
+    const auto [known, is_new] = headers_.try_emplace(picture.key);
+    if (is_new) {
+      known->second = read_picture_file_header(picture.path);
+      if (!known->second.is_usable()) complain_of_cover(picture.path);
+    }
+    picture.header = known->second;
+  }
+
+  void complain_of_cover(const std::string& path) const {
+    log_warning(fmt::format("the cover in {} cannot be shown", path));
   }
 
   void take(WalkedFile& file, const FolderPicture& picture) {
@@ -172,7 +191,8 @@ class Scan {
   void read(WalkedFile& file, const FolderPicture& picture, std::uint64_t id) {
     prepare_for_changes();
     ++progress_.read;
-    TagReading reading = read_tags(file.path);
+    TagReading reading = read_song(file.path);
+    if (reading.has_broken_picture) complain_of_cover(file.path);
     if (!reading.tags) {
       ++progress_.skipped;
       log_warning(fmt::format("{} {}; it is left out", file.path, reading.refusal));
@@ -246,6 +266,7 @@ class Scan {
   bool are_records_loaded_ = false;
   bool has_changes_ = false;
   std::unordered_map<std::string_view, std::size_t> known_by_path_;
+  std::unordered_map<std::uint64_t, PictureHeader> headers_;  // Of folders' pictures, by their key.
   bool is_prepared_ = false;
   std::multimap<FileStamp, std::size_t> known_by_stamp_;
   std::unordered_set<std::uint64_t> used_ids_;

@@ -19,8 +19,11 @@ struct FileStamp {
 struct FolderPicture {
   std::string path;
   std::uint64_t key = 0;
+  PictureHeader header;  // Not known to a walk, which opens no file.
 
-  bool operator==(const FolderPicture&) const = default;
+  bool operator==(const FolderPicture& other) const {
+    return path == other.path && key == other.key;
+  }
 };
 
 // One song as the index keeps it.

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "host/media/picture_header.h"
+
 namespace host::media {
 
 // What one file says about itself, already repaired: every text is short, valid UTF-8.
@@ -18,8 +20,11 @@ struct SongTags {
   double duration_seconds = 0;
   bool is_compilation = false;
   bool is_cloud = false;
-  // Names the picture inside the file by its content; 0 when there is none.
-  std::uint64_t embedded_artwork = 0;
+  // Names the song's own picture by its content; 0 when there is none that can be shown.
+  std::uint64_t own_artwork = 0;
+  PictureHeader own_picture;
+  // The file that holds it; empty when the picture is inside the song.
+  std::string own_picture_path;
 
   bool operator==(const SongTags&) const = default;
 };

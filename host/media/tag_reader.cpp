@@ -18,8 +18,10 @@
 #include <cmath>
 #include <exception>
 #include <filesystem>
+#include <span>
 
 #include "host/media/hash.h"
+#include "host/media/picture.h"
 #include "host/media/text.h"
 
 namespace host::media {
@@ -76,6 +78,10 @@ std::string_view view_of(const TagLib::ByteVector& bytes) {
   return {bytes.data(), bytes.size()};
 }
 
+std::span<const std::uint8_t> bytes_of(const TagLib::ByteVector& bytes) {
+  return {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()};
+}
+
 bool is_usable_picture(const TagLib::ByteVector& bytes) {
   return !bytes.isEmpty() && bytes.size() <= largest_picture_bytes;
 }
@@ -113,7 +119,7 @@ std::string reason_not_to_open(const std::string& path) {
 }
 
 TagReading refused(std::string reason) {
-  return {std::nullopt, std::move(reason)};
+  return {std::nullopt, std::move(reason), false};
 }
 
 TagReading read_opened(const std::string& path) {
@@ -130,9 +136,13 @@ TagReading read_opened(const std::string& path) {
   tags.duration_seconds = std::clamp(audio->lengthInMilliseconds() / 1000.0, 0.0, longest_seconds);
   const TagLib::ByteVector picture = picture_in(reference.file());
   if (is_usable_picture(picture)) {
-    tags.embedded_artwork = identifier_from(stable_hash(view_of(picture)));
+    tags.own_picture = read_picture_header(bytes_of(picture));
+    if (tags.own_picture.is_usable()) {
+      tags.own_artwork = identifier_from(stable_hash(view_of(picture)));
+    }
   }
-  return {std::move(tags), {}};
+  const bool has_broken_picture = !picture.isEmpty() && tags.own_artwork == 0;
+  return {std::move(tags), {}, has_broken_picture};
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ namespace host::media {
 struct TagReading {
   std::optional<SongTags> tags;
   std::string refusal;  // Why there are no tags; empty when there are.
+  // The song names a picture that cannot be shown; it is as if it had none.
+  bool has_broken_picture = false;
 };
 
 // Whether a file of this name is worth opening: FLAC, MP3, Ogg Vorbis, Opus, M4A and WAV.

@@ -8,7 +8,7 @@
 namespace host::media {
 
 // Keeps each different text once, at an address that never changes: a hundred thousand songs share
-// a few thousand artists, albums and genres.
+// a few thousand artists, albums and genres. Behind each stands a zero byte.
 class TextPool {
  public:
   std::string_view keep(std::string_view text) {
@@ -18,16 +18,18 @@ class TextPool {
 
   // For texts that are hardly ever equal, such as paths: no look-up is spent on them.
   std::string_view store(std::string_view text) {
-    if (text.size() > room_) {
-      const std::size_t size = text.size() > block_bytes ? text.size() : block_bytes;
+    const std::size_t needed = text.size() + 1;
+    if (needed > room_) {
+      const std::size_t size = needed > block_bytes ? needed : block_bytes;
       blocks_.emplace_back(size, '\0');
       next_ = blocks_.back().data();
       room_ = size;
     }
     char* const start = next_;
     text.copy(start, text.size());
-    next_ += text.size();
-    room_ -= text.size();
+    start[text.size()] = '\0';
+    next_ += needed;
+    room_ -= needed;
     return {start, text.size()};
   }
 

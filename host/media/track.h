@@ -3,11 +3,14 @@
 #include <cstdint>
 #include <string_view>
 
+#include "host/media/picture_header.h"
+
 namespace host::media {
 
 enum class MediaType : std::uint32_t { music = 1 };
 
-// One song of a library. The texts belong to the library that the track came from.
+// One song of a library. The texts belong to the library that the track came from, and have a zero
+// byte behind them.
 struct Track {
   std::uint64_t id = 0;
   std::uint64_t album_id = 0;
@@ -22,6 +25,8 @@ struct Track {
   std::string_view picture_path;
   // The same picture has the same key, whichever song it is asked for; 0 when there is none.
   std::uint64_t artwork_key = 0;
+  // The whole picture's size in pixels, and whether none of them can be seen through.
+  PictureHeader artwork;
   double duration_seconds = 0;
   int track_number = 0;
   int disc_number = 0;

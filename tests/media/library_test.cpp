@@ -70,10 +70,11 @@ TEST(Library, AlbumArtistOrCompilationKeepsGuestsOnOneAlbum) {
 
 TEST(Library, AnEmbeddedPictureComesBeforeTheOneInTheFolder) {
   SongRecord with_both = song(1, "a");
-  with_both.folder_picture = {"/music/cover.jpg", 44};
-  with_both.tags.embedded_artwork = 33;
+  with_both.folder_picture = {"/music/cover.jpg", 44, {30, 30, true}};
+  with_both.tags.own_artwork = 33;
+  with_both.tags.own_picture = {20, 10, true};
   SongRecord with_folder = song(2, "b");
-  with_folder.folder_picture = {"/music/cover.jpg", 44};
+  with_folder.folder_picture = {"/music/cover.jpg", 44, {30, 30, true}};
   const std::vector records = {with_both, with_folder, song(3, "c")};
   const auto library = Library::build(records);
   EXPECT_EQ(library->find(1)->artwork_key, 33u);

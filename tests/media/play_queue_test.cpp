@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+using host::media::make_song_list;
 using host::media::PlayQueue;
 
 TEST(PlayQueue, AnEmptyQueueSelectsNothing) {
@@ -14,7 +15,7 @@ TEST(PlayQueue, AnEmptyQueueSelectsNothing) {
 
 TEST(PlayQueue, SelectsNothingUntilAsked) {
   PlayQueue queue;
-  queue.set_tracks({1, 2, 3});
+  queue.set_tracks(make_song_list({1, 2, 3}));
   EXPECT_FALSE(queue.current());
   EXPECT_FALSE(queue.next());
   EXPECT_TRUE(queue.select_first());
@@ -23,7 +24,7 @@ TEST(PlayQueue, SelectsNothingUntilAsked) {
 
 TEST(PlayQueue, AfterTheLastSongNothingIsSelected) {
   PlayQueue queue;
-  queue.set_tracks({1, 2});
+  queue.set_tracks(make_song_list({1, 2}));
   queue.select(2);
   EXPECT_FALSE(queue.next());
   EXPECT_FALSE(queue.index());
@@ -31,7 +32,7 @@ TEST(PlayQueue, AfterTheLastSongNothingIsSelected) {
 
 TEST(PlayQueue, BeforeTheFirstSongIsTheFirst) {
   PlayQueue queue;
-  queue.set_tracks({1, 2});
+  queue.set_tracks(make_song_list({1, 2}));
   queue.select(2);
   EXPECT_EQ(queue.previous(), 1u);
   EXPECT_EQ(queue.previous(), 1u);
@@ -39,7 +40,7 @@ TEST(PlayQueue, BeforeTheFirstSongIsTheFirst) {
 
 TEST(PlayQueue, AStrangeSongChangesNothing) {
   PlayQueue queue;
-  queue.set_tracks({1, 2});
+  queue.set_tracks(make_song_list({1, 2}));
   queue.select(2);
   EXPECT_FALSE(queue.select(9));
   EXPECT_EQ(queue.current(), 2u);
@@ -47,10 +48,10 @@ TEST(PlayQueue, AStrangeSongChangesNothing) {
 
 TEST(PlayQueue, ReplacingTheSongsKeepsTheOneThatPlays) {
   PlayQueue queue;
-  queue.set_tracks({1, 2, 3});
+  queue.set_tracks(make_song_list({1, 2, 3}));
   queue.select(2);
-  queue.set_tracks({5, 4, 2});
+  queue.set_tracks(make_song_list({5, 4, 2}));
   EXPECT_EQ(queue.index(), 2u);
-  queue.set_tracks({7});
+  queue.set_tracks(make_song_list({7}));
   EXPECT_FALSE(queue.current());
 }

@@ -39,9 +39,9 @@ class SteppedQueue : public testing::Test {
     write_tone(path(2), 20);
     write_tone(path(3), 4);
     write_bytes(path(4), "this is no music");
-    queue_.emplace(*player_, [this](std::uint64_t id) -> std::optional<std::string> {
-      if (id > 4) return std::nullopt;
-      return path(id);
+    queue_.emplace(*player_, [this](std::uint64_t id) -> SongFile {
+      if (id > 4) return {{}, "song " + std::to_string(id) + " is out of reach"};
+      return {path(id), {}};
     });
     queue_->on_song_change = [this] { heard_.push_back(queue_->current().value_or(0)); };
     queue_->on_state_change = [this](PlaybackState state) { states_.push_back(state); };
@@ -68,7 +68,7 @@ class SteppedQueue : public testing::Test {
 }  // namespace
 
 TEST_F(SteppedQueue, PlayAndPauseAreWhatTheEngineDoes) {
-  queue_->set_queue({1, 2});
+  queue_->set_queue(make_song_list({1, 2}));
   EXPECT_EQ(player_->engine().path, "");
   queue_->play();
   EXPECT_EQ(player_->engine().path, path(1));
@@ -82,7 +82,7 @@ TEST_F(SteppedQueue, PlayAndPauseAreWhatTheEngineDoes) {
 }
 
 TEST_F(SteppedQueue, PositionIsExactOnTheClockAndTheEngineIsThere) {
-  queue_->set_queue({1});
+  queue_->set_queue(make_song_list({1}));
   queue_->play();
   EXPECT_DOUBLE_EQ(queue_->position(), 0);
   step(2.5);
@@ -102,7 +102,7 @@ TEST_F(SteppedQueue, PositionIsExactOnTheClockAndTheEngineIsThere) {
 }
 
 TEST_F(SteppedQueue, TheEngineStandsStillWhileTheClockDoes) {
-  queue_->set_queue({3});
+  queue_->set_queue(make_song_list({3}));
   queue_->play();
   step(1);
   const double before = player_->engine().position_seconds;
@@ -115,7 +115,7 @@ TEST_F(SteppedQueue, TheEngineStandsStillWhileTheClockDoes) {
 }
 
 TEST_F(SteppedQueue, ASongThatEndsIsFollowedByTheNextAndTheLastByNothing) {
-  queue_->set_queue({3, 2});
+  queue_->set_queue(make_song_list({3, 2}));
   queue_->play();
   step(3.9);
   EXPECT_EQ(queue_->current(), 3u);
@@ -131,7 +131,7 @@ TEST_F(SteppedQueue, ASongThatEndsIsFollowedByTheNextAndTheLastByNothing) {
 }
 
 TEST_F(SteppedQueue, NextAndPreviousChangeWhatTheEnginePlays) {
-  queue_->set_queue({1, 2, 3});
+  queue_->set_queue(make_song_list({1, 2, 3}));
   queue_->play();
   queue_->next();
   EXPECT_EQ(player_->engine().path, path(2));
@@ -154,7 +154,7 @@ TEST_F(SteppedQueue, NextAndPreviousChangeWhatTheEnginePlays) {
 
 TEST_F(SteppedQueue, ASongThatCannotBePlayedIsPassedOver) {
   const CapturedLog log;
-  queue_->set_queue({4, 9, 2});
+  queue_->set_queue(make_song_list({4, 9, 2}));
   queue_->play();
   step(0);
   EXPECT_EQ(queue_->current(), 2u);
@@ -165,12 +165,44 @@ TEST_F(SteppedQueue, ASongThatCannotBePlayedIsPassedOver) {
 
 TEST_F(SteppedQueue, AQueueOfNothingPlayableStops) {
   std::filesystem::remove(path(1));
-  queue_->set_queue({4, 1, 9, 4});
+  queue_->set_queue(make_song_list({4, 1, 9, 4}));
   queue_->play();
   for (int i = 0; i < 4; ++i)
     step(0);
   EXPECT_FALSE(queue_->current());
   EXPECT_EQ(queue_->state(), PlaybackState::stopped);
+}
+
+TEST_F(SteppedQueue, SongsOutOfReachArePassedOverBothWaysWithOneLine) {
+  queue_->set_queue(make_song_list({1, 8, 9, 3}));
+  queue_->play();
+  const CapturedLog log;
+  queue_->next();
+  EXPECT_EQ(queue_->current(), 3u);
+  EXPECT_EQ(log.count("song 8 is out of reach; it and 1 more are passed over"), 1);
+  queue_->previous();
+  EXPECT_EQ(queue_->current(), 1u);
+  EXPECT_EQ(log.count("song 9 is out of reach; it and 1 more are passed over"), 1);
+  EXPECT_EQ(player_->engine().path, path(1));
+}
+
+TEST_F(SteppedQueue, WithNothingBeforeItInReachASongBeginsAnew) {
+  queue_->set_queue(make_song_list({8, 9, 1}));
+  queue_->play();
+  step(4);
+  const CapturedLog log;
+  queue_->previous();
+  EXPECT_EQ(queue_->current(), 1u);
+  EXPECT_DOUBLE_EQ(queue_->position(), 0);
+  EXPECT_EQ(player_->engine().path, path(1));
+  EXPECT_EQ(log.count("passed over"), 1);
+}
+
+TEST_F(SteppedQueue, ASongOutOfReachGivesItsTurnToTheNext) {
+  queue_->set_queue(make_song_list({1, 9, 3}));
+  EXPECT_TRUE(queue_->set_current(9));
+  EXPECT_EQ(queue_->current(), 3u);
+  EXPECT_FALSE(queue_->resume_paused(9, 2));
 }
 
 TEST_F(SteppedQueue, AnEmptyQueueDoesNothing) {
@@ -184,13 +216,13 @@ TEST_F(SteppedQueue, AnEmptyQueueDoesNothing) {
 }
 
 TEST_F(SteppedQueue, ReplacingTheQueueGoesOnWithASongThatIsInBoth) {
-  queue_->set_queue({1, 2});
+  queue_->set_queue(make_song_list({1, 2}));
   queue_->play();
   step(5);
-  queue_->set_queue({3, 1});
+  queue_->set_queue(make_song_list({3, 1}));
   EXPECT_DOUBLE_EQ(queue_->position(), 5);
   EXPECT_EQ(queue_->state(), PlaybackState::playing);
-  queue_->set_queue({2, 3});
+  queue_->set_queue(make_song_list({2, 3}));
   EXPECT_EQ(queue_->state(), PlaybackState::stopped);
   EXPECT_EQ(player_->engine().path, "");
 }

@@ -43,9 +43,10 @@ TEST_P(TagFormats, TagsDurationAndCoverComeBackAsWritten) {
   ASSERT_TRUE(reading.tags) << reading.refusal;
   SongTags expected = sample_tags();
   EXPECT_NEAR(reading.tags->duration_seconds, 2.0, 0.1);
-  EXPECT_NE(reading.tags->embedded_artwork, 0u);
+  EXPECT_NE(reading.tags->own_artwork, 0u);
   expected.duration_seconds = reading.tags->duration_seconds;
-  expected.embedded_artwork = reading.tags->embedded_artwork;
+  expected.own_artwork = reading.tags->own_artwork;
+  expected.own_picture = reading.tags->own_picture;
   EXPECT_EQ(*reading.tags, expected);
   EXPECT_EQ(read_embedded_picture(path), cover);
 }
@@ -68,9 +69,9 @@ TEST(TagReader, TheSamePictureHasTheSameKeyInEverySong) {
   write_song(folder / "a.flac", sample_tags(), jpeg_picture(16, 16, 0xff0000));
   write_song(folder / "b.mp3", sample_tags(), jpeg_picture(16, 16, 0xff0000));
   write_song(folder / "c.mp3", sample_tags(), jpeg_picture(16, 16, 0x00ff00));
-  const auto a = read_tags(folder / "a.flac").tags->embedded_artwork;
-  EXPECT_EQ(a, read_tags(folder / "b.mp3").tags->embedded_artwork);
-  EXPECT_NE(a, read_tags(folder / "c.mp3").tags->embedded_artwork);
+  const auto a = read_tags(folder / "a.flac").tags->own_artwork;
+  EXPECT_EQ(a, read_tags(folder / "b.mp3").tags->own_artwork);
+  EXPECT_NE(a, read_tags(folder / "c.mp3").tags->own_artwork);
 }
 
 TEST(TagReader, AFileWithoutTagsIsNamedAfterItself) {
@@ -80,7 +81,7 @@ TEST(TagReader, AFileWithoutTagsIsNamedAfterItself) {
   ASSERT_TRUE(reading.tags);
   EXPECT_EQ(reading.tags->title, "Some Tune");
   EXPECT_EQ(reading.tags->artist, "");
-  EXPECT_EQ(reading.tags->embedded_artwork, 0u);
+  EXPECT_EQ(reading.tags->own_artwork, 0u);
 }
 
 TEST(TagReader, ATitleOfOneMebibyteIsCut) {

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+#include "host/media/cover_file.h"
+#include "host/media/event_signal.h"
+
+namespace host::media {
+
+// Decodes covers beside the screen, on a thread of its own that begins with the first request. What
+// was asked for last comes first, since that is what the user looks at. All members are for the
+// main thread, which watches `descriptor()` and then takes the pictures one by one. Destroying it
+// ends with the picture under way.
+class CoverDecoder {
+ public:
+  struct Request {
+    CoverFile cover;
+    int longest_side = 0;
+  };
+  struct Decoded {
+    Request request;
+    std::shared_ptr<const Picture> picture;  // Null when it cannot be shown.
+  };
+
+  void request(Request request);
+  std::optional<Decoded> take();
+  int descriptor() const { return signal_.descriptor(); }
+
+ private:
+  void run(const std::stop_token& stop);
+
+  EventSignal signal_;
+  std::mutex mutex_;
+  std::condition_variable_any has_work_;
+  std::vector<Request> waiting_;
+  std::deque<Decoded> done_;
+  std::jthread thread_;  // Last, so that it ends before what it uses.
+};
+
+}  // namespace host::media
