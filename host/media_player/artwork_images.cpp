@@ -1,66 +1,56 @@
 #include "host/media_player/artwork_images.h"
 
-#include <algorithm>
-#include <utility>
-
+#include "host/media_player/promised_cover.h"
 #include "host/quartzcore/image.h"
 
 namespace host::media_player {
-namespace {
-
-using PicturePtr = std::shared_ptr<const media::Picture>;
-
-// The surface shares the picture's pixels and keeps them alive.
-quartzcore::Surface surface_of(const PicturePtr& picture) {
-  static const cairo_user_data_key_t owner{};
-  // Cairo has no surface that promises not to be drawn on; an image is never drawn on.
-  auto* pixels =
-      reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(picture->pixels.data()));
-  auto surface = quartzcore::Surface::adopt(cairo_image_surface_create_for_data(
-      pixels, CAIRO_FORMAT_ARGB32, picture->width, picture->height, picture->width * 4));
-  cairo_surface_set_user_data(surface.get(), &owner, new PicturePtr(picture),
-                              [](void* kept) { delete static_cast<PicturePtr*>(kept); });
-  return surface;
-}
-
-quartzcore::Opacity opacity_of(const media::Picture& picture) {
-  const bool is_opaque =
-      std::ranges::all_of(picture.pixels, [](std::uint32_t pixel) { return pixel >> 24 == 0xff; });
-  return is_opaque ? quartzcore::Opacity::Opaque : quartzcore::Opacity::Translucent;
-}
-
-// +1
-UIImage image_of(const PicturePtr& picture, double scale) {
-  const CGImageRef pixels = quartzcore::make_image(surface_of(picture), opacity_of(*picture),
-                                                   quartzcore::ByteOrder::RedFirst);
-  const UIImage image = UIImage::alloc().initWithCGImage(pixels, scale, UIImageOrientationUp);
-  CGImageRelease(pixels);
-  return image;
-}
-
-}  // namespace
 
 UIImage ArtworkImages::image(const media::Track& track, int longest_side, double scale) {
-  if (!track.has_artwork() || longest_side <= 0) return nil;
-  const Key key{track.artwork_key, longest_side, scale};
-  if (const auto known = by_key_.find(key); known != by_key_.end()) {
-    entries_.splice(entries_.begin(), entries_, known->second);
-    return known->second->image.get();
-  }
-  const PicturePtr picture = decoder_.picture(track, longest_side);
-  if (!picture) return nil;
-  const UIImage image = image_of(picture, scale).autorelease();
-  keep({key, objc::Ref<UIImage>::retain(image), picture->byte_count()});
-  return image;
+  const Entry* known = entry(track, longest_side, scale);
+  return known ? known->image.get() : UIImage();
 }
 
-void ArtworkImages::keep(Entry entry) {
-  bytes_kept_ += entry.bytes;
-  const Key key = entry.key;
-  entries_.push_front(std::move(entry));
+UIImage ArtworkImages::shown_image(const media::Track& track, int longest_side, double scale) {
+  const Entry* known = entry(track, longest_side, scale);
+  if (!known) return nil;
+  store_->pin(*known->cover);
+  if (store_->pace() == CoverStore::Pace::NeverWaits && !store_->keeps(*known->cover)) {
+    known->cover->prefetch();
+  }
+  return known->image.get();
+}
+
+const ArtworkImages::Entry* ArtworkImages::entry(const media::Track& track, int longest_side,
+                                                 double scale) {
+  const bool has_cover = track.has_artwork() && !store_->is_broken(track.artwork_key);
+  if (!has_cover || longest_side <= 0) return nullptr;
+  const Key key{track.artwork_key, longest_side, scale};
+  const auto known = by_key_.find(key);
+  if (known == by_key_.end()) return &make(track, key);
+  entries_.splice(entries_.begin(), entries_, known->second);
+  return &*known->second;
+}
+
+const ArtworkImages::Entry& ArtworkImages::make(const media::Track& track, const Key& key) {
+  using quartzcore::Opacity;
+  const auto [width, height, is_opaque] = track.artwork;
+  const media::PictureSize size = media::fitted_size(width, height, key.longest_side);
+  auto cover =
+      std::make_shared<PromisedCover>(store_, media::cover_of(track), key.longest_side, size,
+                                      is_opaque ? Opacity::Opaque : Opacity::Translucent);
+  const CGImageRef pixels =
+      quartzcore::promise_image(size.width, size.height, cover, quartzcore::ByteOrder::RedFirst);
+  auto image = objc::Ref<UIImage>::adopt(
+      UIImage::alloc().initWithCGImage(pixels, key.scale, UIImageOrientationUp));
+  CGImageRelease(pixels);
+  entries_.push_front({key, std::move(image), std::move(cover)});
   by_key_[key] = entries_.begin();
-  while (bytes_kept_ > kMostBytes && !entries_.empty()) {
-    bytes_kept_ -= entries_.back().bytes;
+  make_room();
+  return entries_.front();
+}
+
+void ArtworkImages::make_room() {
+  while (entries_.size() > kMostImages) {
     by_key_.erase(entries_.back().key);
     // Somebody may have been given it in this turn.
     entries_.back().image.leak().autorelease();

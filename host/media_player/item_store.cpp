@@ -1,24 +1,11 @@
 #include "host/media_player/item_store.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
 #include "host/media_player/media_item.h"
+#include "host/media_player/range_exception.h"
 
 namespace host::media_player {
-namespace {
-
-void raise_range_exception(NSUInteger index, NSUInteger count) {
-  const std::string reason = fmt::format("index {} is beyond an array of {} items", index, count);
-  const auto exception = objc::send<objc::Object>(
-      objc::Object(objc_getClass("NSException")), "exceptionWithName:reason:userInfo:"_sel,
-      "NSRangeException"_ns, make_string(reason).autorelease(), objc::Object());
-  objc::send<>(exception, "raise"_sel);
-}
-
-}  // namespace
-
 ItemStore::ItemStore(std::shared_ptr<const media::Library> library)
     : shelf_(std::make_shared<Shelf>(std::move(library))),
       items_(this->library().tracks().size()) {}
@@ -50,7 +37,7 @@ NSArray ItemList::make(std::shared_ptr<ItemStore> store) {
 
 objc::Object ItemList::object_at_index(NSUInteger index) {
   if (index >= count()) {
-    raise_range_exception(index, count());
+    raise_range_exception("an array", index, count());
     return nil;
   }
   return store_->item(index);

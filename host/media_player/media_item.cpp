@@ -67,34 +67,49 @@ MPMediaItem MediaItem::make(std::shared_ptr<Shelf> shelf, const media::Track& tr
   return item;
 }
 
+// Whoever was given them in this turn was promised that they live to the turn's end.
+MediaItem::~MediaItem() {
+  title_.autorelease();
+  persistent_id_.autorelease();
+}
+
 objc::Object MediaItem::value_for_property(NSString name) {
-  const Property* property = track_ ? property_named(name) : nullptr;
+  if (!track_) return nil;
+  // What a search asks of every song.
+  if (name == MPMediaItemPropertyTitle) return title();
+  const Property* property = property_named(name);
   return property ? property->value(*this) : nil;
 }
 
 NSString MediaItem::title() {
-  if (!title_) title_ = objc::Ref<NSString>::adopt(make_string(track_->title));
-  return title_.get();
+  if (!title_) title_ = shelf_->make_title(*track_);
+  return title_;
 }
 
 NSString MediaItem::artist() {
-  return shelf_->shared_text(track_->artist);
+  if (!artist_) artist_ = shelf_->shared_text(track_->artist);
+  return artist_;
 }
 
 NSString MediaItem::album() {
-  return shelf_->shared_text(track_->album);
+  if (!album_) album_ = shelf_->shared_text(track_->album);
+  return album_;
 }
 
 NSNumber MediaItem::persistent_id() {
-  return NSNumber::numberWithUnsignedLongLong(track_->id);
+  if (!persistent_id_) persistent_id_ = NSNumber::numberWithUnsignedLongLong(track_->id).retain();
+  return persistent_id_;
 }
 
 NSNumber MediaItem::album_persistent_id() {
-  return NSNumber::numberWithUnsignedLongLong(track_->album_id);
+  if (!album_id_) album_id_ = shelf_->album_number(track_->album_id);
+  return album_id_;
 }
 
 NSNumber MediaItem::media_type() {
-  return NSNumber::numberWithInteger(static_cast<NSInteger>(track_->media_type));
+  static const NSNumber music = NSNumber::numberWithInteger(1).retain();
+  static_assert(static_cast<int>(media::MediaType::music) == 1, "a library holds nothing else");
+  return music;
 }
 
 NSNumber MediaItem::duration() {
@@ -102,7 +117,9 @@ NSNumber MediaItem::duration() {
 }
 
 NSNumber MediaItem::is_cloud() {
-  return NSNumber::numberWithBool(track_->is_cloud ? YES : NO);
+  static const NSNumber yes = NSNumber::numberWithBool(YES).retain();
+  static const NSNumber no = NSNumber::numberWithBool(NO).retain();
+  return track_->is_cloud ? yes : no;
 }
 
 objc::Object MediaItem::artwork() {

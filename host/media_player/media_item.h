@@ -13,6 +13,7 @@ namespace host::media_player {
 class MediaItem : public objc::Implementation<MediaItem, MPMediaItem> {
  public:
   explicit MediaItem(MPMediaItem owner) : Implementation(owner) {}
+  ~MediaItem();
 
   /// A new item (+1) for a track of the shelf's library.
   static MPMediaItem make(std::shared_ptr<Shelf> shelf, const media::Track& track);
@@ -39,7 +40,13 @@ class MediaItem : public objc::Implementation<MediaItem, MPMediaItem> {
  private:
   std::shared_ptr<Shelf> shelf_;
   const media::Track* track_ = nullptr;
-  objc::Ref<NSString> title_;  // Made when it is first asked for.
+  // Found when they are first asked for. Only the title and the number are this item's own, and so
+  // are retained.
+  NSString title_;
+  NSNumber persistent_id_;
+  NSString artist_;
+  NSString album_;
+  NSNumber album_id_;
 };
 
 /// Gives the names of the properties their values and makes the class.

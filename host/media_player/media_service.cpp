@@ -1,8 +1,10 @@
 #include "host/media_player/media_service.h"
 
-#include <algorithm>
+#include <fmt/format.h>
+
 #include <utility>
 
+#include "host/media/cloud_song.h"
 #include "host/media/log.h"
 #include "host/media/mpv_player.h"
 #include "host/media_player/playback_memory.h"
@@ -49,11 +51,9 @@ MediaService* MediaService::current() {
 MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> player)
     : options_(std::move(options)),
       items_(empty_store()),
-      playback_(std::move(player), options_.pace,
-                [this](std::uint64_t id) -> std::optional<std::string> {
-                  const media::Track* track = items_->library().find(id);
-                  return track ? std::optional{std::string{track->path}} : std::nullopt;
-                }),
+      artwork_(options_.pace == media::PlayerPace::stepped ? CoverStore::Pace::Waits
+                                                           : CoverStore::Pace::NeverWaits),
+      playback_(std::move(player), options_.pace, [this](std::uint64_t id) { return file_of(id); }),
       feed_(options_, {[this](auto library) { take(std::move(library)); },
                        [this](const MediaProgress& progress) {
                          if (options_.on_progress) options_.on_progress(progress);
@@ -63,6 +63,13 @@ MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> 
 }
 
 MediaService::~MediaService() = default;
+
+media::SongFile MediaService::file_of(std::uint64_t id) const {
+  const media::Track* track = items_->library().find(id);
+  if (!track) return {{}, "a song of the queue is not in the library any more"};
+  if (!media::has_cloud_name(track->path)) return {std::string{track->path}, {}};
+  return {{}, fmt::format("\"{}\" is only in the cloud", track->title)};
+}
 
 void MediaService::take(std::shared_ptr<const media::Library> library) {
   items_ = std::make_shared<ItemStore>(std::move(library));
@@ -85,17 +92,9 @@ bool MediaService::toggle() {
     playback_.pause();
     return true;
   }
-  if (playback_.queue().tracks().empty()) playback_.set_queue(all_songs());
+  if (playback_.queue().tracks().empty()) playback_.set_queue(items_->library().songs());
   playback_.play();
   return playback_.state() == media::PlaybackState::playing;
-}
-
-std::vector<std::uint64_t> MediaService::all_songs() const {
-  std::vector<std::uint64_t> ids;
-  ids.reserve(items_->count());
-  for (const media::Track& track : items_->library().tracks())
-    ids.push_back(track.id);
-  return ids;
 }
 
 void MediaService::recall() {
@@ -103,8 +102,10 @@ void MediaService::recall() {
   const RememberedPlayback memory = read_playback(options_.memory_path);
   if (memory.volume) playback_.set_volume(*memory.volume);
   if (memory.song == 0) return;
-  playback_.set_queue(memory.queue ? *memory.queue : all_songs());
-  if (!playback_.resume_paused(memory.song, memory.position_seconds)) playback_.set_queue({});
+  playback_.set_queue(memory.queue ? media::make_song_list(*memory.queue)
+                                   : items_->library().songs());
+  if (!playback_.resume_paused(memory.song, memory.position_seconds))
+    playback_.set_queue(media::make_song_list({}));
 }
 
 // Several things change together when a song ends; they are written once, after the turn.
@@ -123,9 +124,9 @@ void MediaService::remember() {
   memory.position_seconds = playback_.position();
   memory.volume = playback_.volume();
   // The whole library is by far the most usual queue, and is not written out song by song.
-  if (const auto queue = playback_.queue().tracks(); !std::ranges::equal(queue, all_songs())) {
-    memory.queue.emplace(queue.begin(), queue.end());
-  }
+  const media::SongList& queue = playback_.queue().list();
+  const media::SongList& all = items_->library().songs();
+  if (queue != all && *queue != *all) memory.queue = *queue;
   if (!write_playback(options_.memory_path, memory)) {
     media::log_warning("what plays cannot be remembered in " + options_.memory_path);
     options_.memory_path.clear();

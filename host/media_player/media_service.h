@@ -46,7 +46,7 @@ class MediaService {
   MediaService(MediaOptions options, std::unique_ptr<media::Player> player);
 
   void take(std::shared_ptr<const media::Library> library);
-  std::vector<std::uint64_t> all_songs() const;
+  media::SongFile file_of(std::uint64_t id) const;
   void recall();
   void remember_soon();
   void remember();

@@ -1,5 +1,8 @@
 #include "host/media_player/music_player_controller.h"
 
+#include <fmt/format.h>
+
+#include "host/media/log.h"
 #include "host/media_player/media_item.h"
 #include "host/media_player/media_service.h"
 #include "host/media_player/query.h"
@@ -32,7 +35,7 @@ MPMusicPlayerController ipod_music_player(objc::Object) {
 
 void MusicPlayerController::set_queue_with_query(MPMediaQuery query) {
   Playback* const player = playback();
-  if (player && query) player->set_queue(objc::state_of<Query>(query).song_ids());
+  if (player && query) player->set_queue(objc::state_of<Query>(query).songs());
 }
 
 MPMediaItem MusicPlayerController::now_playing_item() {
@@ -44,7 +47,8 @@ void MusicPlayerController::set_now_playing_item(MPMediaItem item) {
   Playback* const player = playback();
   if (!player || !item) return;
   const media::Track* track = objc::state_of<MediaItem>(item).track();
-  if (track) player->set_current(track->id);
+  if (!track || player->set_current(track->id)) return;
+  media::log_warning(fmt::format("\"{}\" is not in the queue and cannot be played", track->title));
 }
 
 MPMusicPlaybackState MusicPlayerController::playback_state() {

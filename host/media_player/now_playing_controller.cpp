@@ -14,7 +14,7 @@ constexpr int kArtworkPixels = 800;
 UIImage NowPlayingController::current_now_playing_artwork() {
   MediaService* service = MediaService::current();
   const media::Track* track = service ? service->now_playing() : nullptr;
-  return track ? service->artwork().image(*track, kArtworkPixels, 1) : UIImage();
+  return track ? service->artwork().shown_image(*track, kArtworkPixels, 1) : UIImage();
 }
 
 NSDictionary NowPlayingController::current_now_playing_info() {

@@ -44,8 +44,8 @@ void tell_volume() {
 }  // namespace
 
 Playback::Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace,
-                   media::QueuePlayer::PathOf path_of)
-    : player_(std::move(player)), pace_(pace), queue_(*player_, std::move(path_of)) {
+                   media::QueuePlayer::FileOf file_of)
+    : player_(std::move(player)), pace_(pace), queue_(*player_, std::move(file_of)) {
   queue_.on_state_change = [this](media::PlaybackState state) { hear_state(state); };
   queue_.on_song_change = [this] { hear_song(); };
   watch_ = RunLoop::main().watch(player_->descriptor(), [this] { player_->pump(); });
@@ -61,8 +61,9 @@ Playback::~Playback() {
   if (end_) loop.remove_timer(end_);
 }
 
-void Playback::set_queue(std::vector<std::uint64_t> ids) {
-  queue_.set_queue(std::move(ids));
+void Playback::set_queue(media::SongList songs) {
+  if (songs == queue().list()) return;
+  queue_.set_queue(std::move(songs));
   changed();
 }
 

@@ -17,7 +17,7 @@ namespace host::media_player {
 class Playback {
  public:
   Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace,
-           media::QueuePlayer::PathOf path_of);
+           media::QueuePlayer::FileOf file_of);
   ~Playback();
   Playback(const Playback&) = delete;
   Playback& operator=(const Playback&) = delete;
@@ -25,7 +25,7 @@ class Playback {
   /// Called after queue, song, state, position or volume was changed.
   std::function<void()> on_change;
 
-  void set_queue(std::vector<std::uint64_t> ids);
+  void set_queue(media::SongList songs);
   bool set_current(std::uint64_t id);
   void prepare() { queue_.prepare(); }
   bool resume_paused(std::uint64_t id, double seconds);

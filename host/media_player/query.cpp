@@ -1,6 +1,7 @@
 #include "host/media_player/query.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "host/media_player/media_service.h"
 #include "platform/Foundation/NSValue.h"
@@ -19,30 +20,45 @@ using media::Track;
 
 struct Comparison {
   NSString* property;
-  std::string (*text_of)(const Track&);
+  std::uint64_t (*number_of)(const Track&) = nullptr;
+  std::string_view (*text_of)(const Track&) = nullptr;
 };
+
+std::uint64_t song_of(const Track& track) {
+  return track.id;
+}
+std::uint64_t album_of(const Track& track) {
+  return track.album_id;
+}
 
 // Length and cover tell no songs apart, so nothing is found by them.
 constexpr Comparison kComparisons[] = {
-    {&MPMediaItemPropertyPersistentID, [](const Track& track) { return std::to_string(track.id); }},
-    {&MPMediaItemPropertyAlbumPersistentID,
-     [](const Track& track) { return std::to_string(track.album_id); }},
+    {&MPMediaItemPropertyPersistentID, &song_of},
+    {&MPMediaItemPropertyAlbumPersistentID, &album_of},
     {&MPMediaItemPropertyMediaType,
-     [](const Track& track) { return std::to_string(static_cast<unsigned>(track.media_type)); }},
+     [](const Track& track) { return static_cast<std::uint64_t>(track.media_type); }},
     {&MPMediaItemPropertyIsCloudItem,
-     [](const Track& track) { return std::to_string(static_cast<int>(track.is_cloud)); }},
-    {&MPMediaItemPropertyTitle, [](const Track& track) { return std::string{track.title}; }},
-    {&MPMediaItemPropertyAlbumTitle, [](const Track& track) { return std::string{track.album}; }},
-    {&MPMediaItemPropertyArtist, [](const Track& track) { return std::string{track.artist}; }},
+     [](const Track& track) { return static_cast<std::uint64_t>(track.is_cloud); }},
+    {&MPMediaItemPropertyTitle, nullptr, [](const Track& track) { return track.title; }},
+    {&MPMediaItemPropertyAlbumTitle, nullptr, [](const Track& track) { return track.album; }},
+    {&MPMediaItemPropertyArtist, nullptr, [](const Track& track) { return track.artist; }},
 };
 
 std::string text_from(objc::Object value) {
-  const auto object = objc::cast<NSObject>(value);
-  if (object.isKindOfClass(NSNumber::cls())) {
-    return std::to_string(objc::cast<NSNumber>(value).unsignedLongLongValue());
-  }
-  const char* text = object.description().UTF8String();
+  const char* text = objc::cast<NSObject>(value).description().UTF8String();
   return text ? text : "";
+}
+
+std::optional<std::uint64_t> number_from(objc::Object value) {
+  if (objc::cast<NSObject>(value).isKindOfClass(NSNumber::cls())) {
+    return objc::cast<NSNumber>(value).unsignedLongLongValue();
+  }
+  const std::string digits = text_from(value);
+  std::uint64_t number = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [stopped_at, error] = std::from_chars(digits.data(), end, number);
+  if (error != std::errc{} || stopped_at != end) return std::nullopt;
+  return number;
 }
 
 MPMediaPropertyPredicate predicate_with_value(objc::Object, objc::Object value, NSString property) {
@@ -57,15 +73,28 @@ MPMediaPropertyPredicate Predicate::make(objc::Object value, NSString property) 
   const auto found = std::ranges::find_if(kComparisons, [property](const Comparison& comparison) {
     return comparison.property->isEqualToString(property);
   });
-  if (value && found != std::end(kComparisons)) {
+  if (!value || found == std::end(kComparisons)) return predicate;
+  if (found->text_of) {
     state.text_of_ = found->text_of;
-    state.wanted_ = text_from(value);
+    state.text_ = text_from(value);
+  } else if (const auto number = number_from(value)) {
+    state.number_of_ = found->number_of;
+    state.number_ = *number;
   }
   return predicate;
 }
 
 bool Predicate::matches(const Track& track) const {
-  return text_of_ && text_of_(track) == wanted_;
+  if (number_of_) return number_of_(track) == number_;
+  return text_of_ && text_of_(track) == text_;
+}
+
+std::optional<std::uint64_t> Predicate::only_album() const {
+  return number_of_ == &album_of ? std::optional{number_} : std::nullopt;
+}
+
+std::optional<std::uint64_t> Predicate::only_song() const {
+  return number_of_ == &song_of ? std::optional{number_} : std::nullopt;
 }
 
 void Query::add_filter_predicate(MPMediaPropertyPredicate predicate) {
@@ -91,24 +120,48 @@ NSArray Query::items() {
   return items_.get();
 }
 
+std::vector<std::uint32_t> Query::find_places(const media::Library& library) const {
+  const auto tracks = library.tracks();
+  std::vector<std::uint32_t> places;
+  const auto add = [&](std::uint32_t place) {
+    if (matches(tracks[place])) places.push_back(place);
+  };
+  // One album or one song of a hundred thousand is found without a look at the others.
+  for (const auto& kept : predicates_) {
+    const auto& predicate = objc::state_of<Predicate>(kept.get());
+    if (const auto song = predicate.only_song()) {
+      const Track* track = library.find(*song);
+      if (track) add(static_cast<std::uint32_t>(track - tracks.data()));
+      return places;
+    }
+    if (const auto album = predicate.only_album()) {
+      std::ranges::for_each(library.places_of_album(*album), add);
+      std::ranges::sort(places);
+      return places;
+    }
+  }
+  for (std::uint32_t place = 0; place < tracks.size(); ++place)
+    add(place);
+  return places;
+}
+
 NSArray Query::find_items(const std::shared_ptr<ItemStore>& store) const {
   if (predicates_.empty()) return ItemList::make(store).autorelease();
   const NSMutableArray found = NSMutableArray::array();
-  const auto tracks = store->library().tracks();
-  for (std::size_t i = 0; i < tracks.size(); ++i) {
-    if (matches(tracks[i])) found.addObject(store->item(i));
-  }
+  for (const std::uint32_t place : find_places(store->library()))
+    found.addObject(store->item(place));
   return found;
 }
 
-std::vector<std::uint64_t> Query::song_ids() const {
+media::SongList Query::songs() const {
+  MediaService* service = MediaService::current();
+  if (!service) return media::make_song_list({});
+  const media::Library& library = service->items()->library();
+  if (predicates_.empty()) return library.songs();
   std::vector<std::uint64_t> ids;
-  if (MediaService* service = MediaService::current()) {
-    for (const Track& track : service->items()->library().tracks()) {
-      if (matches(track)) ids.push_back(track.id);
-    }
-  }
-  return ids;
+  for (const std::uint32_t place : find_places(library))
+    ids.push_back(library.tracks()[place].id);
+  return media::make_song_list(std::move(ids));
 }
 
 void export_query() {

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/media_player/item_store.h"
@@ -11,21 +13,29 @@
 
 namespace host::media_player {
 
-/// A property's value and the text that it is compared as.
+/// A property and the value that it has to have.
 class Predicate : public objc::Implementation<Predicate, MPMediaPropertyPredicate> {
  public:
   explicit Predicate(MPMediaPropertyPredicate owner) : Implementation(owner) {}
 
-  /// A new predicate (+1). Numbers given as text are the numbers that they name.
+  /// A new predicate (+1). A number may be given as an NSNumber or as its decimal digits.
   static MPMediaPropertyPredicate make(objc::Object value, NSString property);
 
-  /// False for every song when songs cannot be told apart by the property.
+  /// False for every song when songs cannot be told apart by the property, or no song has such a
+  /// value.
   bool matches(const media::Track& track) const;
+  /// The only album, or the only song, that can match; nothing when others may.
+  std::optional<std::uint64_t> only_album() const;
+  std::optional<std::uint64_t> only_song() const;
 
  private:
-  using TextOf = std::string (*)(const media::Track&);
+  using NumberOf = std::uint64_t (*)(const media::Track&);
+  using TextOf = std::string_view (*)(const media::Track&);
+
+  NumberOf number_of_ = nullptr;
   TextOf text_of_ = nullptr;
-  std::string wanted_;
+  std::uint64_t number_ = 0;
+  std::string text_;
 };
 
 class Query : public objc::Implementation<Query, MPMediaQuery> {
@@ -37,10 +47,12 @@ class Query : public objc::Implementation<Query, MPMediaQuery> {
   NSArray items();
 
   /// The songs that `items` holds, without making an object for any of them.
-  std::vector<std::uint64_t> song_ids() const;
+  media::SongList songs() const;
 
  private:
   bool matches(const media::Track& track) const;
+  /// Where the songs stand in the library, in its order.
+  std::vector<std::uint32_t> find_places(const media::Library& library) const;
   NSArray find_items(const std::shared_ptr<ItemStore>& store) const;
 
   std::vector<objc::Ref<MPMediaPropertyPredicate>> predicates_;

@@ -1,11 +1,41 @@
 #include "host/media_player/shelf.h"
 
+#include "host/media_player/library_text.h"
+
 namespace host::media_player {
+
+// Whoever was given them in this turn was promised that they live to the turn's end.
+Shelf::~Shelf() {
+  for (auto& [address, text] : texts_)
+    text.leak().autorelease();
+  for (auto& [album, number] : album_numbers_)
+    number.leak().autorelease();
+}
 
 NSString Shelf::shared_text(std::string_view text) {
   if (text.empty()) return nil;
   objc::Ref<NSString>& known = texts_[text.data()];
-  if (!known) known = objc::Ref<NSString>::adopt(make_string(text));
+  if (!known) known = objc::Ref<NSString>::adopt(LibraryText::make(text, library_));
+  return known.get();
+}
+
+// Songs are ordered by their titles, and equal titles are one text: those that share one are
+// neighbours.
+NSString Shelf::make_title(const media::Track& track) {
+  if (track.title.empty()) return nil;
+  const auto tracks = library_->tracks();
+  const auto has_title_of_track = [&track](const media::Track& other) {
+    return other.title.data() == track.title.data();
+  };
+  const bool is_shared = (&track != &tracks.front() && has_title_of_track(*(&track - 1))) ||
+                         (&track != &tracks.back() && has_title_of_track(*(&track + 1)));
+  if (is_shared) return shared_text(track.title).retain();
+  return LibraryText::make(track.title, library_);
+}
+
+NSNumber Shelf::album_number(std::uint64_t album_id) {
+  objc::Ref<NSNumber>& known = album_numbers_[album_id];
+  if (!known) known.reset(NSNumber::numberWithUnsignedLongLong(album_id));
   return known.get();
 }
 

@@ -1,0 +1,223 @@
+#include "host/media_player/library_text.h"
+
+#include <algorithm>
+#include <cstring>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "host/media_player/range_exception.h"
+#include "host/media_player/shelf.h"
+#include "objc/ref.h"
+
+namespace host::media_player {
+namespace {
+
+/// The text that was last looked for. A search asks every title for the same one.
+class Wanted {
+ public:
+  /// Null for a text that has to be looked for letter by letter.
+  static const Wanted* for_string(NSString string) {
+    thread_local Wanted wanted;
+    if (!string) return nullptr;
+    if (wanted.string_.get() != string) wanted.read(string);
+    return wanted.is_plain_ ? &wanted : nullptr;
+  }
+
+  /// Where it stands first in `text`; null when it does not.
+  const char* find_in(std::string_view text) const {
+    if (text.size() < bytes_.size()) return nullptr;
+    const void* found = bytes_.size() == 1
+                            ? std::memchr(text.data(), bytes_.front(), text.size())
+                            : ::memmem(text.data(), text.size(), bytes_.data(), bytes_.size());
+    return static_cast<const char*>(found);
+  }
+  NSUInteger length() const { return length_; }
+
+ private:
+  void read(NSString string) {
+    const char* text = string.UTF8String();
+    bytes_ = text ? text : "";
+    const TextShape shape = shape_of(bytes_);
+    length_ = string.length();
+    // A text that UTF-8 cannot hold, or that goes on after a zero, is shorter now than it was.
+    is_plain_ = shape.kind <= TextKind::plain && length_ > 0 && shape.length == length_;
+    // One that may change has to be read every time.
+    const bool may_change = string.isKindOfClass(objc_getClass("NSMutableString"));
+    string_.reset(may_change ? NSString() : string);
+  }
+
+  objc::Ref<NSString> string_;
+  std::string bytes_;
+  NSUInteger length_ = 0;
+  bool is_plain_ = false;
+};
+
+bool has_capitals(std::string_view ascii) {
+  return std::ranges::any_of(ascii, [](char letter) { return letter >= 'A' && letter <= 'Z'; });
+}
+
+std::shared_ptr<char[]> with_zero(std::string_view text) {
+  const auto copy = std::make_shared_for_overwrite<char[]>(text.size() + 1);
+  text.copy(copy.get(), text.size());
+  copy[text.size()] = '\0';
+  return copy;
+}
+
+NSString make_owning(std::string_view text) {
+  const auto copy = with_zero(text);
+  return LibraryText::make({copy.get(), text.size()}, copy);
+}
+
+}  // namespace
+
+NSString LibraryText::make(std::string_view text, std::shared_ptr<const void> keeper) {
+  const TextShape shape = shape_of(text);
+  if (shape.kind == TextKind::broken || text.size() > UINT32_MAX) return make_string(text);
+  const MPLibraryText string = MPLibraryText::alloc();
+  auto& state = objc::state_of<LibraryText>(string);
+  state.bytes_ = text.data();
+  state.size_ = static_cast<std::uint32_t>(text.size());
+  state.length_ = static_cast<std::uint32_t>(shape.length);
+  state.kind_ = shape.kind;
+  state.keeper_ = std::move(keeper);
+  return string;
+}
+
+LibraryText::~LibraryText() {
+  delete[] units_.load();
+  // Whoever was given it in this turn was promised that it lives to the turn's end.
+  if (const auto lower = objc::wrap<NSString>(lowercase_.load()); lower != self)
+    lower.autorelease();
+}
+
+const unichar* LibraryText::units() {
+  if (const unichar* known = units_.load(std::memory_order_acquire)) return known;
+  auto* made = new unichar[length_ + 1];
+  widen(bytes(), made);
+  unichar* known = nullptr;
+  if (units_.compare_exchange_strong(known, made, std::memory_order_acq_rel)) return made;
+  delete[] made;
+  return known;
+}
+
+unichar LibraryText::character_at_index(NSUInteger index) {
+  if (index >= length_) raise_range_exception("a string", index, length_);
+  return kind_ == TextKind::ascii ? static_cast<unsigned char>(bytes_[index]) : units()[index];
+}
+
+void LibraryText::get_characters(unichar* characters, NSRange range) {
+  if (range.location > length_ || range.length > length_ - range.location) {
+    raise_range_exception("a string", range.location + range.length, length_);
+  }
+  if (kind_ == TextKind::ascii) {
+    std::copy_n(bytes_ + range.location, range.length, characters);
+  } else {
+    std::copy_n(units() + range.location, range.length, characters);
+  }
+}
+
+// Foundation's own, so that equal strings of all kinds have one.
+NSUInteger LibraryText::hash() {
+  NSUInteger known = hash_.load(std::memory_order_relaxed);
+  if (known == 0) {
+    known = super<NSUInteger>("hash"_sel);
+    hash_.store(known, std::memory_order_relaxed);
+  }
+  return known;
+}
+
+BOOL LibraryText::is_equal(objc::Object other) {
+  if (other == self) return YES;
+  if (!other || !objc::cast<NSObject>(other).isKindOfClass(NSString::cls())) return NO;
+  return is_equal_to_string(objc::cast<NSString>(other));
+}
+
+BOOL LibraryText::is_equal_to_string(NSString other) {
+  if (other == self) return YES;
+  if (!other) return NO;
+  const bool is_ours = objc::class_of(other.id()) == MPLibraryText::cls();
+  if (!is_ours) return equals_foreign(other);
+  const auto& theirs = objc::state_of<LibraryText>(other);
+  if (bytes() == theirs.bytes()) return YES;
+  const bool bytes_decide = kind_ <= TextKind::plain && theirs.kind_ <= TextKind::plain;
+  return bytes_decide ? NO : super<BOOL>("isEqualToString:"_sel, other);
+}
+
+BOOL LibraryText::equals_foreign(NSString other) {
+  constexpr NSUInteger most_units = 256;
+  const NSUInteger length = other.length();
+  if (kind_ > TextKind::plain || length > most_units) {
+    return super<BOOL>("isEqualToString:"_sel, other);
+  }
+  unichar theirs[most_units];
+  objc::send<>(other, "getCharacters:range:"_sel, static_cast<unichar*>(theirs),
+               NSRange{0, length});
+  const std::span<const unichar> letters{theirs, length};
+  if (!std::ranges::all_of(letters, is_plain_letter)) {
+    return super<BOOL>("isEqualToString:"_sel, other);
+  }
+  if (length != length_) return NO;
+  const bool is_same = kind_ == TextKind::ascii ? std::ranges::equal(letters, bytes())
+                                                : std::equal(theirs, theirs + length, units());
+  return is_same ? YES : NO;
+}
+
+NSString LibraryText::lowercase_string() {
+  if (const objc::Id known = lowercase_.load(std::memory_order_acquire)) {
+    return objc::wrap<NSString>(known);
+  }
+  const NSString made = make_lowercase();
+  objc::Id known = nullptr;
+  if (lowercase_.compare_exchange_strong(known, made.id(), std::memory_order_acq_rel)) return made;
+  if (made != self) made.release();
+  return objc::wrap<NSString>(known);
+}
+
+// This object itself, or +1.
+NSString LibraryText::make_lowercase() {
+  if (kind_ == TextKind::ascii) {
+    if (!has_capitals(bytes())) return self;
+    const auto copy = with_zero(bytes());
+    for (std::size_t i = 0; i < size_; ++i) {
+      if (copy[i] >= 'A' && copy[i] <= 'Z') copy[i] = static_cast<char>(copy[i] + ('a' - 'A'));
+    }
+    return make({copy.get(), size_}, copy);
+  }
+  const char* lower = super<NSString>("lowercaseString"_sel).UTF8String();
+  const std::string_view text = lower ? lower : "";
+  return text == bytes() ? NSString(self) : make_owning(text);
+}
+
+NSRange LibraryText::range_of_string(NSString wanted) {
+  const Wanted* plain = kind_ <= TextKind::plain ? Wanted::for_string(wanted) : nullptr;
+  if (!plain) return super<NSRange>("rangeOfString:"_sel, wanted);
+  const char* found = plain->find_in(bytes());
+  if (!found) return {NSNotFound, 0};
+  const auto offset = static_cast<std::size_t>(found - bytes_);
+  return {kind_ == TextKind::ascii ? offset : units_before(bytes(), offset), plain->length()};
+}
+
+const char* LibraryText::utf8_string() {
+  self.retain().autorelease();
+  return bytes_;
+}
+
+void export_library_text() {
+  if (objc_getClass("MPLibraryText")) return;
+  objc::ClassBuilder("MPLibraryText", "NSString")
+      .state<LibraryText>()
+      .method<&LibraryText::length>("length")
+      .method<&LibraryText::character_at_index>("characterAtIndex:")
+      .method<&LibraryText::get_characters>("getCharacters:range:")
+      .method<&LibraryText::hash>("hash")
+      .method<&LibraryText::is_equal>("isEqual:")
+      .method<&LibraryText::is_equal_to_string>("isEqualToString:")
+      .method<&LibraryText::lowercase_string>("lowercaseString")
+      .method<&LibraryText::range_of_string>("rangeOfString:")
+      .method<&LibraryText::utf8_string>("UTF8String")
+      .method<&LibraryText::copy_with_zone>("copyWithZone:")
+      .finish();
+}
+
+}  // namespace host::media_player

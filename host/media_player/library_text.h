@@ -1,0 +1,59 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "host/media_player/text_shape.h"
+#include "objc/class_builder.h"
+#include "platform/Foundation/NSString.h"
+
+namespace host::media_player {
+
+struct MPLibraryText : objc::Bound<MPLibraryText, "MPLibraryText", NSString> {};
+
+/// A string over the bytes of a library's text, which are not copied. It answers as every string of
+/// Foundation does; what a search asks of a hundred thousand titles costs nothing the second time.
+class LibraryText : public objc::Implementation<LibraryText, MPLibraryText> {
+ public:
+  explicit LibraryText(MPLibraryText owner) : Implementation(owner) {}
+  ~LibraryText();
+
+  /// A new string (+1) over `text`, behind which `keeper` keeps a zero byte as well. Bytes that are
+  /// no UTF-8 give what Foundation makes of them.
+  static NSString make(std::string_view text, std::shared_ptr<const void> keeper);
+
+  NSUInteger length() const { return length_; }
+  unichar character_at_index(NSUInteger index);
+  void get_characters(unichar* characters, NSRange range);
+  NSUInteger hash();
+  BOOL is_equal(objc::Object other);
+  BOOL is_equal_to_string(NSString other);
+  NSString lowercase_string();
+  NSRange range_of_string(NSString wanted);
+  const char* utf8_string();
+  MPLibraryText copy_with_zone(void*) const { return self.retain(); }
+
+ private:
+  std::string_view bytes() const { return {bytes_, size_}; }
+  const unichar* units();
+  BOOL equals(const LibraryText& other) const;
+  BOOL equals_foreign(NSString other);
+  NSString make_lowercase();
+
+  // What a search reads stands first, where it shares a line of the processor's memory.
+  std::atomic<objc::Id> lowercase_ = nullptr;  // Owned unless it is this object.
+  std::uint32_t length_ = 0;                   // In UTF-16 units.
+  std::uint32_t size_ = 0;
+  const char* bytes_ = nullptr;
+  TextKind kind_ = TextKind::ascii;
+  // Made when they are first asked for, as the lower-case text is, on whichever thread that is.
+  std::atomic<NSUInteger> hash_ = 0;
+  std::atomic<unichar*> units_ = nullptr;  // Of a text that is not ASCII.
+  std::shared_ptr<const void> keeper_;
+};
+
+void export_library_text();
+
+}  // namespace host::media_player

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include "host/media/cover_file.h"
+#include "host/quartzcore/image.h"
+
+namespace host::media_player {
+
+class CoverStore;
+
+/// A cover at one size, of which the size is known and the pixels are made when they are drawn.
+class PromisedCover final : public quartzcore::PixelSource,
+                            public std::enable_shared_from_this<PromisedCover> {
+ public:
+  /// `size` is what the cover has when its longer side is at most `longest_side` pixels.
+  PromisedCover(std::shared_ptr<CoverStore> store, media::CoverFile cover, int longest_side,
+                media::PictureSize size, quartzcore::Opacity opacity);
+
+  quartzcore::Surface pixels() override;
+  quartzcore::Surface pixels_for_frame() override;
+  quartzcore::Opacity opacity() const override;
+  std::uint64_t revision() const override { return revision_; }
+
+  const media::CoverFile& cover() const { return cover_; }
+  int longest_side() const { return longest_side_; }
+
+  /// Asks for the pixels before anything is drawn.
+  void prefetch();
+  /// The pixels are there, or it is known that they cannot be made.
+  void arrived();
+
+ private:
+  quartzcore::Surface surface_of(const std::shared_ptr<const media::Picture>& picture) const;
+
+  std::shared_ptr<CoverStore> store_;
+  media::CoverFile cover_;
+  int longest_side_;
+  media::PictureSize size_;
+  quartzcore::Opacity opacity_;
+  std::uint64_t revision_ = 0;
+  bool is_on_its_way_ = false;
+};
+
+}  // namespace host::media_player

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace host::media_player {
+
+enum class TextKind : std::uint8_t {
+  ascii,
+  // Letters that are characters of their own and nothing else: no combining marks, nothing that is
+  // equal to other letters in another spelling, one UTF-16 unit each. Two such texts are equal, and
+  // one is found in the other, exactly when their bytes say so.
+  plain,
+  other,
+  broken,  // No UTF-8, or it holds a zero.
+};
+
+struct TextShape {
+  TextKind kind = TextKind::ascii;
+  std::size_t length = 0;  // In UTF-16 units.
+};
+
+TextShape shape_of(std::string_view utf8);
+
+bool is_plain_letter(char32_t letter);
+
+/// Writes the `shape_of(utf8).length` UTF-16 units of a text that is not broken.
+void widen(std::string_view utf8, std::uint16_t* units);
+
+/// The UTF-16 units of the first `bytes` bytes of a text of kind `ascii` or `plain`.
+std::size_t units_before(std::string_view utf8, std::size_t bytes);
+
+}  // namespace host::media_player
