@@ -14,8 +14,8 @@ struct Configuration {
   /// Where the home screen's own pictures are: the wallpaper and the status bar's glyphs.
   std::string pictures_folder = "/System/Library/CoreServices/SpringBoard.app";
   std::string wallpaper = "wallpaper-1";
-  /// Outlives the home screen; without one the status bar always shows the same time.
-  const WallClock* wall_clock = nullptr;
+  /// Outlives the home screen.
+  const WallClock* wall_clock = &fixed_wall_clock;
 };
 
 void configure(Configuration configuration);

@@ -13,6 +13,9 @@
 #include "host/springboard/surfaces/lock_screen.h"
 #include "host/springboard/surfaces/notification_centre.h"
 #include "host/springboard/surfaces/reachability.h"
+#include "host/springboard/surfaces/slider.h"
+#include "host/springboard/surfaces/surface_action.h"
+#include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/system/spring_board_application.h"
 #include "host/springboard/system/ui_controller.h"
 #include "host/springboard/view/icon_list_view.h"
@@ -35,6 +38,9 @@ void export_springboard() {
   export_dock_icon_list_view();
   export_folder_icon_list_view();
   export_icon_controller();
+  export_surface_action();
+  export_surface_window();
+  export_slider();
   export_banner_controller();
   export_control_centre_view();
   export_control_centre();

@@ -25,12 +25,34 @@ class SharedInstance {
     }
     return instance_;
   }
+  /// Nil while nobody has asked for it.
+  static T if_made() { return instance_; }
 
  private:
   static void forget() { std::exchange(instance_, T()).release(); }
 
   // A bare handle: nothing is to be released behind the end of `main`.
   static inline T instance_;
+};
+
+/// The same for parts of the home screen that are no objects of the runtime.
+template <class T>
+class SharedPart {
+ public:
+  static T& get() {
+    if (!part_) {
+      part_ = new T;
+      SharedInstances::remember(&forget);
+    }
+    return *part_;
+  }
+  /// Null while nobody has asked for it.
+  static T* if_made() { return part_; }
+
+ private:
+  static void forget() { delete std::exchange(part_, nullptr); }
+
+  static inline T* part_ = nullptr;
 };
 
 /// The body of `+sharedInstance`.

@@ -8,8 +8,12 @@ namespace host::springboard {
 // fingers go, by messages, so that whoever replaced a method hears of it. Those that name an
 // application by its identifier are false, and change nothing, when they cannot be done.
 
+/// A phone whose display is off is woken by any of these, and nothing more happens.
 void press_home();
 void double_press_home();
+void press_lock();
+enum class VolumeButton { kUp, kDown };
+void press_volume(VolumeButton button);
 void set_editing(bool editing);
 
 bool open(std::string_view bundle);
@@ -30,5 +34,9 @@ void present_control_centre();
 bool toggle_reachability();
 void lock();
 void unlock();
+
+/// What the user sees, whatever hangs over it.
+enum class Shown { HomeScreen, LockScreen, Application };
+Shown shown_now();
 
 }  // namespace host::springboard

@@ -1,5 +1,6 @@
 #include "host/springboard/icon/application_icon.h"
 
+#include "host/springboard/configuration.h"
 #include "host/springboard/icon/icon_image.h"
 #include "platform/SpringBoard/SBUIController.h"
 
@@ -15,6 +16,8 @@ UIImage ApplicationIcon::generate_icon_image(int) {
   if (!image_) {
     image_.reset(application_image(application_.get()));
     if (!image_) image_.reset(initial_image(self.displayName()));
+    if (application_->bundleIdentifier().isEqualToString("com.apple.mobilecal"_ns))
+      image_.reset(calendar_image(image_.get(), configuration().wall_clock->day()));
   }
   return image_.get();
 }

@@ -1,5 +1,8 @@
 #include "host/springboard/icon/icon_image.h"
 
+#include <string>
+
+#include "host/springboard/model/strings.h"
 #include "host/springboard/screen_grid.h"
 #include "platform/UIKit/NSStringDrawing.h"
 #include "platform/UIKit/UIBezierPath.h"
@@ -18,6 +21,10 @@ constexpr NSUInteger kFolderColumns = 3;
 constexpr NSUInteger kFolderCount = 9;
 constexpr CGFloat kGrey = 0.45;
 constexpr CGFloat kLetterRatio = 0.6;
+// The band of a calendar's picture, its texts and where their lines begin, of the side.
+constexpr CGFloat kBandRatio = 0.258;
+constexpr CGFloat kWeekdayRatio = 0.165;
+constexpr CGFloat kDayRatio = 0.6;
 
 /// Draws into an image of one icon's size at the screen's scale.
 template <class Draw>
@@ -32,6 +39,14 @@ UIImage drawn_image(CGFloat side, Draw draw) {
 void fill_ground(CGFloat side, UIColor color) {
   color.setFill();
   UIBezierPath::bezierPathWithRoundedRect({0, 0, side, side}, side * kCornerRatio).fill();
+}
+
+/// One centred line of text whose middle is at `middle`.
+void draw_line(NSString text, NSString font_name, CGFloat size, CGFloat side, CGFloat middle) {
+  const UIFont font = UIFont::fontWithName(font_name, size);
+  const CGFloat height = font.lineHeight();
+  objc::cast<NSStringDrawing>(text).drawInRect({0, middle - height / 2, side, height}, font,
+                                               NSLineBreakByClipping, NSTextAlignmentCenter);
 }
 
 CGRect folder_cell(CGFloat side, NSUInteger index) {
@@ -49,17 +64,27 @@ UIImage application_image(SBApplication application) {
   return UIImage::imageWithContentsOfFile(application.path().stringByAppendingString(name));
 }
 
+UIImage calendar_image(UIImage ground, const CalendarDay& day) {
+  const CGFloat side = screen_grid().icon_side;
+  return drawn_image(side, [&] {
+    ground.drawInRect({0, 0, side, side});
+    const CGFloat band = side * kBandRatio;
+    UIColor::whiteColor().set();
+    draw_line(to_ns(day.weekday), "HelveticaNeue-Medium"_ns, side * kWeekdayRatio, side, band / 2);
+    UIColor::blackColor().set();
+    draw_line(to_ns(std::to_string(day.number)), "HelveticaNeue-Light"_ns, side * kDayRatio, side,
+              (band + side) / 2);
+  });
+}
+
 UIImage initial_image(NSString name) {
   const CGFloat side = screen_grid().icon_side;
   return drawn_image(side, [&] {
     fill_ground(side, UIColor::colorWithWhite(kGrey, 1));
     if (name.length() == 0) return;
-    const UIFont font = UIFont::fontWithName("HelveticaNeue-Light"_ns, side * kLetterRatio);
-    const NSString letter = name.substringToIndex(1);
     UIColor::whiteColor().set();
-    const CGRect line(0, (side - font.lineHeight()) / 2, side, font.lineHeight());
-    objc::cast<NSStringDrawing>(letter).drawInRect(line, font, NSLineBreakByClipping,
-                                                   NSTextAlignmentCenter);
+    draw_line(name.substringToIndex(1), "HelveticaNeue-Light"_ns, side * kLetterRatio, side,
+              side / 2);
   });
 }
 

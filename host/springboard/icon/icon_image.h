@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/springboard/model/wall_clock.h"
 #include "platform/Foundation/NSArray.h"
 #include "platform/SpringBoard/SBApplication.h"
 #include "platform/UIKit/UIImage.h"
@@ -8,6 +9,9 @@ namespace host::springboard {
 
 /// The picture in the application's folder for this screen; nil when there is none.
 UIImage application_image(SBApplication application);
+
+/// The picture of a calendar with the day on it: the weekday in its band, the number below.
+UIImage calendar_image(UIImage ground, const CalendarDay& day);
 
 /// A grey icon with the first letter of a name.
 UIImage initial_image(NSString name);

@@ -4,6 +4,12 @@
 
 namespace host::springboard {
 
+/// A day as a calendar's icon names it: "Tuesday", 9.
+struct CalendarDay {
+  std::string weekday;
+  int number;
+};
+
 /// The time of day that the status bar shows. Apart from the run loop's clock, which only measures.
 class WallClock {
  public:
@@ -12,6 +18,9 @@ class WallClock {
   virtual std::string time_text() const = 0;
   /// How long the text stays right; 0 when it never changes.
   virtual double seconds_to_next_minute() const = 0;
+  virtual CalendarDay day() const = 0;
+  /// "Tuesday, September 9".
+  virtual std::string date_text() const = 0;
 };
 
 /// The machine's local time.
@@ -19,6 +28,8 @@ class SystemWallClock final : public WallClock {
  public:
   std::string time_text() const override;
   double seconds_to_next_minute() const override;
+  CalendarDay day() const override;
+  std::string date_text() const override;
 };
 
 /// Always the same time, so that pictures of the screen can be compared.
@@ -26,6 +37,10 @@ class FixedWallClock final : public WallClock {
  public:
   std::string time_text() const override { return "9:41"; }
   double seconds_to_next_minute() const override { return 0; }
+  CalendarDay day() const override { return {"Tuesday", 9}; }
+  std::string date_text() const override { return "Tuesday, September 9"; }
 };
+
+inline const FixedWallClock fixed_wall_clock;
 
 }  // namespace host::springboard

@@ -1,8 +1,132 @@
 #include "host/springboard/surfaces/banner_controller.h"
 
+#include "host/springboard/model/strings.h"
+#include "host/springboard/screen_grid.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/notification_row.h"
+#include "host/springboard/surfaces/surface_parts.h"
+#include "host/springboard/surfaces/surface_window.h"
+#include "host/springboard/surfaces/surfaces.h"
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/view/make_view.h"
 
 namespace host::springboard {
+namespace {
+
+constexpr double kStay = 5;
+constexpr CGFloat kGrabberRoom = 8;
+constexpr CGFloat kHeight = kNotificationRowHeight + kGrabberRoom;
+// The glass goes on above the screen, for the swing beyond its place.
+constexpr CGFloat kAbove = 80;
+constexpr CGFloat kPullToCentre = 40;
+constexpr NSInteger kNewBanner = 0;
+
+}  // namespace
+
+BannerController::~BannerController() {
+  stop_waiting();
+  take_down();
+}
+
+void BannerController::enqueue(const std::string& text) {
+  if (context_) {
+    queue_.push_back(text);
+  } else {
+    self._presentBannerForContext(to_ns(text), kNewBanner);
+  }
+}
+
+void BannerController::present_banner(objc::Object context, NSInteger) {
+  stop_waiting();
+  take_down();
+  context_.reset(context);
+  if (!context) return;
+  build();
+  motion_->go_to(Rest::kOpen, 0);
+  wait_to_leave();
+}
+
+void BannerController::build() {
+  const CGFloat width = screen_grid().screen.width;
+  window_ = make_surface_window(kBannerLevel);
+  banner_ = make_view<UIView>({0, -kHeight - kAbove, width, kHeight + kAbove});
+  window_->addSubview(*banner_);
+  add_backdrop(*banner_, banner_->bounds(), kInkBackdrop);
+  const bool is_text = objc::cast<NSObject>(*context_).isKindOfClass(NSString::cls());
+  const std::string text = is_text ? to_string(objc::cast<NSString>(*context_)) : "";
+  add_notification_row(*banner_, {0, kAbove, width, kNotificationRowHeight},
+                       {"Messages", text, "now"});
+  add_grabber(*banner_, {width / 2, kAbove + kHeight - kGrabberRoom},
+              UIColor::colorWithWhite(1, 0.35));
+  actions_ = std::make_unique<SurfaceActions>();
+  actions_->on_pan(*banner_, [this](UIPanGestureRecognizer pan) { panned(pan); });
+  motion_.emplace(*banner_, SheetMotion::Places{-kAbove, -kHeight - kAbove},
+                  [this](Rest rest) { rested(rest); });
+  window_->setHidden(NO);
+}
+
+void BannerController::panned(UIPanGestureRecognizer pan) {
+  if (!motion_) return;
+  const CGFloat way = pan.translationInView(nil).y;
+  switch (pan.state()) {
+    case UIGestureRecognizerStateBegan:
+      stop_waiting();
+      motion_->grab();
+      [[fallthrough]];
+    case UIGestureRecognizerStateChanged:
+      motion_->follow(way);
+      break;
+    default: {
+      const CGFloat velocity = pan.velocityInView(nil).y;
+      if (way > kPullToCentre) {
+        queue_.clear();
+        send_away(0);
+        return open_notification_centre();
+      }
+      if (motion_->rest_after(velocity) == Rest::kClosed || way < -kHeight / 4)
+        return send_away(velocity);
+      motion_->go_to(Rest::kOpen, velocity);
+      wait_to_leave();
+    }
+  }
+}
+
+void BannerController::wait_to_leave() {
+  RunLoop& loop = RunLoop::main();
+  leaving_ = loop.add_timer(loop.now() + kStay, 0, [this] {
+    leaving_.reset();
+    send_away(0);
+  });
+}
+
+void BannerController::stop_waiting() {
+  if (leaving_ && RunLoop::has_main()) RunLoop::main().remove_timer(*leaving_);
+  leaving_.reset();
+}
+
+void BannerController::send_away(CGFloat velocity) {
+  stop_waiting();
+  if (motion_) motion_->go_to(Rest::kClosed, velocity);
+}
+
+void BannerController::rested(Rest rest) {
+  if (rest == Rest::kOpen) return;
+  // It goes without a message: nobody is told of a banner that only leaves.
+  context_.reset();
+  take_down();
+  if (queue_.empty()) return;
+  const std::string next = queue_.front();
+  queue_.pop_front();
+  self._presentBannerForContext(to_ns(next), kNewBanner);
+}
+
+void BannerController::take_down() {
+  motion_.reset();
+  actions_.reset();
+  banner_.reset();
+  if (window_) window_->setHidden(YES);
+  window_.reset();
+}
 
 void export_banner_controller() {
   objc::ClassBuilder("SBBannerController", "NSObject")

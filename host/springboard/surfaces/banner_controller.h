@@ -1,22 +1,53 @@
 #pragma once
 
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "host/runtime/run_loop.h"
+#include "host/springboard/surfaces/sheet_motion.h"
+#include "host/springboard/surfaces/surface_action.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
+#include "platform/Foundation/NSString.h"
 #include "platform/SpringBoard/SBBannerController.h"
+#include "platform/UIKit/UIWindow.h"
 
 namespace host::springboard {
 
-/// Which banner was asked for last. Nothing of it is drawn yet.
+/// Messages that slide down from the top, one after the other, stay five seconds and go by
+/// themselves, or are pushed up, or pulled down into the notification centre.
 class BannerController : public objc::Implementation<BannerController, SBBannerController> {
  public:
   using Implementation::Implementation;
+  ~BannerController();
 
-  /// A nil context takes the banner away.
-  void present_banner(objc::Object context, NSInteger) { context_.reset(context); }
+  /// A nil context takes the banner away; another is shown in place of the one that shows.
+  void present_banner(objc::Object context, NSInteger reason);
   BOOL is_showing_banner() const { return context_ ? YES : NO; }
 
+  /// Shows the text now, or when the banners before it have gone.
+  void enqueue(const std::string& text);
+  void forget_queue() { queue_.clear(); }
+  UIView banner() const { return banner_.get(); }
+
  private:
+  void build();
+  void panned(UIPanGestureRecognizer pan);
+  void wait_to_leave();
+  void stop_waiting();
+  void send_away(CGFloat velocity);
+  void rested(Rest rest);
+  void take_down();
+
+  std::deque<std::string> queue_;
   objc::Ref<objc::Object> context_;
+  objc::Ref<UIWindow> window_;
+  objc::Ref<UIView> banner_;
+  std::optional<SheetMotion> motion_;
+  std::unique_ptr<SurfaceActions> actions_;
+  std::optional<RunLoop::Id> leaving_;
 };
 
 void export_banner_controller();

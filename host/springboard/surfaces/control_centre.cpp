@@ -1,22 +1,137 @@
 #include "host/springboard/surfaces/control_centre.h"
 
+#include <algorithm>
+
+#include "host/springboard/model/strings.h"
 #include "host/springboard/screen_grid.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/display.h"
+#include "host/springboard/surfaces/surface_window.h"
+#include "host/springboard/surfaces/surfaces.h"
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/system_actions.h"
 #include "host/springboard/view/make_view.h"
 
 namespace host::springboard {
 namespace {
 
+constexpr double kShading = 0.35;
+
 void control_centre_will_present(SBControlCenterContainerView) {}
 
 }  // namespace
 
-void ControlCentre::present_animated(BOOL) {
-  if (presented_) return;
-  if (!view_) view_ = make_view<SBControlCenterContainerView>({{0, 0}, screen_grid().screen});
+ControlCentre::~ControlCentre() {
+  take_down();
+}
+
+bool ControlCentre::bring_in() {
+  const CGRect screen{{0, 0}, screen_grid().screen};
+  if (!view_) view_ = make_view<SBControlCenterContainerView>(screen);
+  take_down();
   // Up before the view hears of it: somebody may dismiss it there and then.
   presented_ = YES;
   view_->controlCenterWillPresent();
+  if (!presented_) return false;
+  window_ = make_surface_window(kControlCentreLevel);
+  window_->addSubview(*view_);
+  panel_ = std::make_unique<ControlCentrePanel>(
+      *view_, ControlCentrePanel::Wishes{[this] { self.dismissAnimated(YES); },
+                                         [this](UIPanGestureRecognizer pan) { panned(pan); },
+                                         [this](NSString bundle) {
+                                           self.dismissAnimated(YES);
+                                           if (!is_locked()) open(to_string(bundle));
+                                         }});
+  motion_.emplace(panel_->sheet(),
+                  SheetMotion::Places{screen.size.height - panel_->height(), screen.size.height},
+                  [this](Rest rest) { rested(rest); });
+  panel_->playback().start_watching();
+  window_->setHidden(NO);
+  return true;
+}
+
+void ControlCentre::present_animated(BOOL animated) {
+  if (presented_ || !bring_in()) return;
+  if (animated) {
+    settle(Rest::kOpen, 0);
+  } else {
+    panel_->set_shade(1);
+    motion_->put(Rest::kOpen);
+  }
+}
+
+void ControlCentre::dismiss_animated(BOOL animated) {
+  if (!presented_) return;
+  presented_ = NO;
+  if (!panel_) return;
+  if (animated) {
+    settle(Rest::kClosed, 0);
+  } else {
+    take_down();
+  }
+}
+
+bool ControlCentre::can_be_pulled() const {
+  return !presented_ && SharedPart<Display>::get().is_on() && !is_notification_centre_open();
+}
+
+void ControlCentre::pull_began(CGPoint) {
+  if (!bring_in()) return;
+  // The glass comes up to the finger, wherever on the edge it went down.
+  pulled_from_ = screen_grid().screen.height;
+  motion_->grab();
+}
+
+void ControlCentre::pull_moved(CGPoint point) {
+  if (!presented_ || !motion_) return;
+  motion_->follow(point.y - pulled_from_);
+  panel_->set_shade(std::clamp<CGFloat>((pulled_from_ - point.y) / panel_->height(), 0, 1));
+}
+
+void ControlCentre::pull_ended(CGPoint, CGFloat velocity) {
+  if (presented_ && motion_) settle(motion_->rest_after(velocity), velocity);
+}
+
+void ControlCentre::panned(UIPanGestureRecognizer pan) {
+  if (!presented_ || !motion_) return;
+  const CGFloat way = pan.translationInView(nil).y;
+  const CGFloat velocity = pan.velocityInView(nil).y;
+  switch (pan.state()) {
+    case UIGestureRecognizerStateBegan:
+      motion_->grab();
+      [[fallthrough]];
+    case UIGestureRecognizerStateChanged:
+      motion_->follow(way);
+      panel_->set_shade(std::clamp<CGFloat>(1 - way / panel_->height(), 0, 1));
+      break;
+    case UIGestureRecognizerStateEnded:
+      if (motion_->rest_after(velocity) == Rest::kClosed) return self.dismissAnimated(YES);
+      [[fallthrough]];
+    default:
+      settle(Rest::kOpen, velocity);
+  }
+}
+
+void ControlCentre::settle(Rest rest, CGFloat velocity) {
+  if (rest == Rest::kClosed) presented_ = NO;
+  const bool opens = rest == Rest::kOpen;
+  UIView::animateWithDuration(kShading, 0, UIViewAnimationOptionAllowUserInteraction,
+                              objc::block([this, opens] { panel_->set_shade(opens ? 1 : 0); }),
+                              objc::Block<void(BOOL)>());
+  motion_->go_to(rest, velocity);
+}
+
+void ControlCentre::rested(Rest rest) {
+  if (rest == Rest::kClosed) take_down();
+}
+
+void ControlCentre::take_down() {
+  motion_.reset();
+  panel_.reset();
+  if (!window_) return;
+  view_->removeFromSuperview();
+  window_->setHidden(YES);
+  window_.reset();
 }
 
 void export_control_centre_view() {

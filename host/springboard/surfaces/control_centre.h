@@ -1,5 +1,10 @@
 #pragma once
 
+#include <memory>
+#include <optional>
+
+#include "host/springboard/surfaces/control_centre_panel.h"
+#include "host/springboard/surfaces/edge_pulls.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/SpringBoard/SBControlCenterContainerView.h"
@@ -7,17 +12,37 @@
 
 namespace host::springboard {
 
-/// Whether the control centre is up. It is not drawn yet; its view only hears that it will come.
-class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenterController> {
+/// The control centre, which comes up from the bottom edge. Nothing of it exists while it is
+/// closed, but for the container that extensions know.
+class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenterController>,
+                      public EdgePullTarget {
  public:
   using Implementation::Implementation;
+  ~ControlCentre();
 
   void present_animated(BOOL animated);
-  void dismiss_animated(BOOL) { presented_ = NO; }
+  void dismiss_animated(BOOL animated);
   BOOL is_presented() const { return presented_; }
+  UIView sheet() const { return panel_ ? panel_->sheet() : UIView(); }
+
+  bool can_be_pulled() const override;
+  void pull_began(CGPoint start) override;
+  void pull_moved(CGPoint point) override;
+  void pull_ended(CGPoint point, CGFloat velocity) override;
 
  private:
+  /// False when somebody who heard of it has dismissed it there and then.
+  bool bring_in();
+  void panned(UIPanGestureRecognizer pan);
+  void settle(Rest rest, CGFloat velocity);
+  void rested(Rest rest);
+  void take_down();
+
+  objc::Ref<UIWindow> window_;
   objc::Ref<SBControlCenterContainerView> view_;
+  std::unique_ptr<ControlCentrePanel> panel_;
+  std::optional<SheetMotion> motion_;
+  CGFloat pulled_from_ = 0;
   BOOL presented_ = NO;
 };
 

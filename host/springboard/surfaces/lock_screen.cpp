@@ -1,6 +1,83 @@
 #include "host/springboard/surfaces/lock_screen.h"
 
+#include "host/springboard/configuration.h"
+#include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/display.h"
+#include "host/springboard/surfaces/surfaces.h"
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/system/spring_board_application.h"
+#include "host/springboard/view/make_view.h"
+
 namespace host::springboard {
+namespace {
+
+constexpr double kLeaving = 0.4;
+
+}  // namespace
+
+LockScreen::~LockScreen() {
+  take_down();
+}
+
+void LockScreen::handle_display_turned_off() {
+  SharedPart<Display>::get().turn_off();
+  if (locked_) {
+    panel_->sleep();
+    return;
+  }
+  take_down();
+  locked_ = YES;
+  ++locks_;
+  close_surfaces_at_once();
+  window_ = make_view<UIWindow>(UIScreen::mainScreen().bounds());
+  window_->setWindowLevel(kLockScreenLevel);
+  panel_ = std::make_unique<LockScreenPanel>(*window_, *configuration().wall_clock,
+                                             [this] { self.prepareForUIUnlock(); });
+  panel_->show(messages_.all());
+  window_->setHidden(NO);
+  set_status_bar_locked(true);
+}
+
+void LockScreen::wake() {
+  SharedPart<Display>::get().turn_on();
+  if (locked_) panel_->wake();
+}
+
+void LockScreen::add(Notification message) {
+  messages_.add(std::move(message));
+  if (!panel_) return;
+  panel_->show(messages_.all());
+  wake();
+}
+
+void LockScreen::prepare_for_unlock() {
+  if (!locked_) return;
+  locked_ = NO;
+  messages_.clear();
+  set_status_bar_locked(false);
+  leave();
+}
+
+void LockScreen::leave() {
+  panel_->sleep();
+  const UIView view = panel_->view();
+  view.setUserInteractionEnabled(NO);
+  const CGRect screen = view.bounds();
+  const auto gone = objc::block([this, lock = locks_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && lock == locks_) take_down();
+  });
+  UIView::animateWithDuration(kLeaving, objc::block([=] {
+                                view.setFrame({{screen.size.width * 0.6, 0}, screen.size});
+                                view.setAlpha(0);
+                              }),
+                              gone);
+}
+
+void LockScreen::take_down() {
+  panel_.reset();
+  if (window_) window_->setHidden(YES);
+  window_.reset();
+}
 
 void export_lock_screen() {
   objc::ClassBuilder("SBLockScreenViewController", "UIViewController")

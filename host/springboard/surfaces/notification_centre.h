@@ -1,20 +1,52 @@
 #pragma once
 
+#include <memory>
+#include <optional>
+
+#include "host/springboard/surfaces/edge_pulls.h"
+#include "host/springboard/surfaces/notification_centre_panel.h"
+#include "host/springboard/surfaces/sheet_motion.h"
 #include "objc/class_builder.h"
+#include "objc/ref.h"
 #include "platform/SpringBoard/SBNotificationCenterViewController.h"
 
 namespace host::springboard {
 
-/// Whether the notification centre was called up. It is not drawn yet.
+/// The notification centre, which comes down from the top edge. Nothing of it exists while it is
+/// closed, but for the messages.
 class NotificationCentre
-    : public objc::Implementation<NotificationCentre, SBNotificationCenterViewController> {
+    : public objc::Implementation<NotificationCentre, SBNotificationCenterViewController>,
+      public EdgePullTarget {
  public:
   using Implementation::Implementation;
+  ~NotificationCentre();
 
-  void host_will_present() { presented_ = YES; }
+  /// Sent by the centre to itself before it shows, for whoever wants to hear of it.
+  void host_will_present() {}
   BOOL is_presented() const { return presented_; }
 
+  void open();
+  void close();
+  void close_at_once();
+  void add(Notification message);
+  void clear();
+  NotificationStore& store() { return store_; }
+  NotificationCentrePanel* panel() { return panel_.get(); }
+
+  bool can_be_pulled() const override;
+  void pull_began(CGPoint start) override;
+  void pull_moved(CGPoint point) override;
+  void pull_ended(CGPoint point, CGFloat velocity) override;
+
  private:
+  void bring_in();
+  void panned(UIPanGestureRecognizer pan);
+  void settle(Rest rest, CGFloat velocity);
+
+  NotificationStore store_;
+  objc::Ref<UIWindow> window_;
+  std::unique_ptr<NotificationCentrePanel> panel_;
+  std::optional<SheetMotion> motion_;
   BOOL presented_ = NO;
 };
 

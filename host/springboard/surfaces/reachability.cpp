@@ -2,11 +2,19 @@
 
 #include "host/springboard/screen_grid.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/surface_window.h"
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/view/make_view.h"
+#include "host/uikit/view/window_list.h"
+#include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::springboard {
 namespace {
 
 constexpr CGFloat kSmallestTallScreen = 667;
+constexpr CGFloat kPart = 0.4;
+constexpr double kTravel = 0.35;
+constexpr double kKeepAlive = 8;
 
 /// Only the tall phones have it.
 BOOL reachability_supported(objc::Object) {
@@ -14,6 +22,70 @@ BOOL reachability_supported(objc::Object) {
 }
 
 }  // namespace
+
+Reachability::~Reachability() {
+  stop_waiting();
+  take_down();
+}
+
+void Reachability::handle_activated() {
+  if (active_) return;
+  active_ = YES;
+  ++changes_;
+  take_down();
+  for (const UIWindow window : uikit::visible_windows()) {
+    if (window.windowLevel() <= UIWindowLevelStatusBar)
+      moved_.push_back(objc::Ref<UIWindow>::retain(window));
+  }
+  const CGSize screen = screen_grid().screen;
+  above_ = make_surface_window(kLockScreenLevel - 1);
+  const auto free = make_view<UIView>({0, 0, screen.width, screen.height * kPart});
+  above_->addSubview(*free);
+  actions_ = std::make_unique<SurfaceActions>();
+  actions_->on_tap(*free, [this] { self._handleReachabilityDeactivated(); });
+  above_->setHidden(NO);
+  move_windows(screen.height * kPart);
+  RunLoop& loop = RunLoop::main();
+  keep_alive_ = loop.add_timer(loop.now() + kKeepAlive, 0, [this] {
+    keep_alive_.reset();
+    self._keepAliveTimerFired(nil);
+  });
+}
+
+void Reachability::leave() {
+  if (!active_) return;
+  active_ = NO;
+  ++changes_;
+  stop_waiting();
+  move_windows(0);
+}
+
+void Reachability::move_windows(CGFloat way) {
+  const auto windows = moved_;
+  const auto done = objc::block([this, change = changes_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && change == changes_ && !active_) take_down();
+  });
+  UIView::animateWithDuration(kTravel, 0, 1, 0, UIViewAnimationOptionAllowUserInteraction,
+                              objc::block([windows, way] {
+                                for (const auto& window : windows)
+                                  window->setTransform(CGAffineTransformMakeTranslation(0, way));
+                              }),
+                              done);
+}
+
+void Reachability::stop_waiting() {
+  if (keep_alive_ && RunLoop::has_main()) RunLoop::main().remove_timer(*keep_alive_);
+  keep_alive_.reset();
+}
+
+void Reachability::take_down() {
+  for (const auto& window : moved_)
+    window->setTransform(CGAffineTransform());
+  moved_.clear();
+  actions_.reset();
+  if (above_) above_->setHidden(YES);
+  above_.reset();
+}
 
 void export_reachability() {
   objc::ClassBuilder("SBReachabilityManager", "NSObject")

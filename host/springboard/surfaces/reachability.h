@@ -1,24 +1,45 @@
 #pragma once
 
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "host/runtime/run_loop.h"
+#include "host/springboard/surfaces/surface_action.h"
 #include "objc/class_builder.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
+#include "platform/UIKit/UIWindow.h"
 
 namespace host::springboard {
 
-/// Whether the screen is pulled down for a thumb. Nothing moves yet.
+/// Brings the screen down so that a thumb reaches its top, for a while.
 class Reachability : public objc::Implementation<Reachability, SBReachabilityManager> {
  public:
   using Implementation::Implementation;
+  ~Reachability();
 
   BOOL is_active() const { return active_; }
-  void handle_activated() { active_ = YES; }
-  void handle_deactivated() { active_ = NO; }
-  void handle_significant_time_changed() { active_ = NO; }
+  void handle_activated();
+  void handle_deactivated() { leave(); }
+  void handle_significant_time_changed() { leave(); }
   /// Nobody touched the screen for a while.
-  void keep_alive_timer_fired(objc::Object) { active_ = NO; }
+  void keep_alive_timer_fired(objc::Object) { leave(); }
 
  private:
+  void leave();
+  void move_windows(CGFloat way);
+  void stop_waiting();
+  void take_down();
+
+  /// What was brought down, to be brought back whatever has come since.
+  std::vector<objc::Ref<UIWindow>> moved_;
+  objc::Ref<UIWindow> above_;
+  std::unique_ptr<SurfaceActions> actions_;
+  std::optional<RunLoop::Id> keep_alive_;
   BOOL active_ = NO;
+  int changes_ = 0;
+  /// Ends with this object: an animation may outlast it.
+  std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 
 void export_reachability();

@@ -1,20 +1,34 @@
 #include "host/springboard/system/spring_board_application.h"
 
 #include "host/springboard/configuration.h"
+#include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/control_centre.h"
+#include "host/springboard/surfaces/notification_centre.h"
+#include "host/uikit/gesture/event.h"
 #include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
-namespace {
-
-const FixedWallClock fixed_clock;
-
-}  // namespace
 
 void SpringBoardApplication::application_did_finish_launching(objc::Object application) {
   super<>("applicationDidFinishLaunching:"_sel, application);
   SBUIController::sharedInstance().window().makeKeyAndVisible();
-  const WallClock* clock = configuration().wall_clock;
-  status_bar_ = std::make_unique<StatusBar>(clock ? *clock : fixed_clock);
+  status_bar_ = std::make_unique<StatusBar>(*configuration().wall_clock);
+  edge_pulls_ = std::make_unique<EdgePulls>(
+      objc::state_of<NotificationCentre>(SharedInstance<SBNotificationCenterViewController>::get()),
+      objc::state_of<ControlCentre>(SBControlCenterController::sharedInstance()));
+}
+
+void SpringBoardApplication::send_event(UIEvent event) {
+  const UITouch touch = objc::state_of<uikit::Event>(event).changed_touch();
+  const auto go_on = [&] { super<>("sendEvent:"_sel, event); };
+  if (!edge_pulls_ || !touch || !edge_pulls_->take(touch, go_on)) go_on();
+}
+
+void set_status_bar_locked(bool locked) {
+  const UIApplication application = UIApplication::sharedApplication();
+  if (!application) return;
+  if (StatusBar* bar = objc::state_of<SpringBoardApplication>(application).status_bar())
+    bar->set_locked(locked);
 }
 
 void export_spring_board_application() {
@@ -22,6 +36,7 @@ void export_spring_board_application() {
       .state<SpringBoardApplication>()
       .method<&SpringBoardApplication::application_did_finish_launching>(
           "applicationDidFinishLaunching:")
+      .method<&SpringBoardApplication::send_event>("sendEvent:")
       .finish();
 }
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "host/springboard/surfaces/edge_pulls.h"
 #include "host/springboard/system/status_bar.h"
 #include "objc/class_builder.h"
 #include "platform/SpringBoard/SpringBoard.h"
@@ -15,10 +16,17 @@ class SpringBoardApplication : public objc::Implementation<SpringBoardApplicatio
 
   /// Puts the home screen and the status bar on the screen.
   void application_did_finish_launching(objc::Object application);
+  /// Touches that the system takes for itself go no further.
+  void send_event(UIEvent event);
+  StatusBar* status_bar() { return status_bar_.get(); }
 
  private:
+  std::unique_ptr<EdgePulls> edge_pulls_;
   std::unique_ptr<StatusBar> status_bar_;
 };
+
+/// The status bar lies on the lock screen while the phone is locked.
+void set_status_bar_locked(bool locked);
 
 void export_spring_board_application();
 

@@ -3,6 +3,8 @@
 #include "host/springboard/model/strings.h"
 #include "host/springboard/pictures.h"
 #include "host/springboard/screen_grid.h"
+#include "host/springboard/surfaces/surface_parts.h"
+#include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/view/make_view.h"
 #include "platform/UIKit/UIImageView.h"
 
@@ -15,7 +17,7 @@ constexpr CGFloat kFontSize = 12;
 constexpr CGFloat kChargeWidth = 44;
 
 /// Adds a glyph centred on the bar's height and gives the x behind it.
-CGFloat add_glyph(UIView bar, NSString name, CGFloat x) {
+CGFloat add_bar_glyph(UIView bar, NSString name, CGFloat x) {
   const UIImage image = picture(name);
   if (!image) return x;
   auto view = objc::Ref<UIImageView>::adopt(UIImageView::alloc().initWithImage(image));
@@ -53,8 +55,8 @@ StatusBar::~StatusBar() {
 }
 
 void StatusBar::add_left_side() const {
-  const CGFloat end = add_glyph(*window_, "signal"_ns, kSideMargin);
-  add_glyph(*window_, "wifi"_ns, end + kGap);
+  const CGFloat end = add_bar_glyph(*window_, "signal"_ns, kSideMargin);
+  add_bar_glyph(*window_, "wifi"_ns, end + kGap);
 }
 
 void StatusBar::add_time() {
@@ -62,11 +64,19 @@ void StatusBar::add_time() {
   show_time();
 }
 
+void StatusBar::set_locked(bool locked) {
+  window_->setWindowLevel(locked ? kLockedStatusBarLevel : UIWindowLevelStatusBar);
+  time_->setHidden(locked ? YES : NO);
+  if (locked && !padlock_)
+    padlock_ = add_glyph(*window_, "lock"_ns, window_->bounds(), UIColor::whiteColor());
+  if (padlock_) padlock_->setHidden(locked ? NO : YES);
+}
+
 void StatusBar::add_battery() const {
   const UIImage outline = picture("battery-outline"_ns);
   const CGFloat x = window_->bounds().size.width - kSideMargin - outline.size().width;
-  add_glyph(*window_, "battery-fill"_ns, x);
-  add_glyph(*window_, "battery-outline"_ns, x);
+  add_bar_glyph(*window_, "battery-fill"_ns, x);
+  add_bar_glyph(*window_, "battery-outline"_ns, x);
   const auto charge =
       add_text(*window_, {x - kGap + 1 - kChargeWidth, 0, kChargeWidth, kStatusBarHeight},
                "HelveticaNeue"_ns, NSTextAlignmentRight);

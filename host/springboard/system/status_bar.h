@@ -5,6 +5,7 @@
 #include "host/runtime/run_loop.h"
 #include "host/springboard/model/wall_clock.h"
 #include "objc/ref.h"
+#include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UIWindow.h"
 
@@ -21,6 +22,8 @@ class StatusBar {
 
   UIWindow window() const { return window_.get(); }
   NSString time_text() const { return time_->text(); }
+  /// Over the lock screen, which shows the time in large, a padlock stands in its place.
+  void set_locked(bool locked);
 
  private:
   void add_left_side() const;
@@ -31,6 +34,7 @@ class StatusBar {
   const WallClock& clock_;
   objc::Ref<UIWindow> window_;
   objc::Ref<UILabel> time_;
+  objc::Ref<UIImageView> padlock_;
   std::optional<RunLoop::Id> next_minute_;
 };
 

@@ -2,7 +2,10 @@
 
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
+#include "host/springboard/shared_instance.h"
+#include "host/springboard/system/ui_controller.h"
 #include "platform/SpringBoard/SBApplicationController.h"
+#include "platform/SpringBoard/SBLockScreenViewController.h"
 #include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
@@ -56,16 +59,15 @@ bool is_in(std::string_view bundle, Area area) {
 
 }  // namespace
 
-void press_home() {
-  SBUIController::sharedInstance().clickedMenuButton();
-}
-
-void double_press_home() {
-  SBUIController::sharedInstance().handleMenuDoubleTap();
-}
-
 void set_editing(bool editing) {
   SBIconController::sharedInstance().setIsEditing(editing ? YES : NO);
+}
+
+Shown shown_now() {
+  if (SharedInstance<SBLockScreenViewController>::get().isLocked()) return Shown::LockScreen;
+  const auto& user_interface =
+      objc::state_of<UserInterfaceController>(SBUIController::sharedInstance());
+  return user_interface.shows_application() ? Shown::Application : Shown::HomeScreen;
 }
 
 bool open(std::string_view bundle) {

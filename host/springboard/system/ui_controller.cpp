@@ -2,6 +2,7 @@
 
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/view/icon_view.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
@@ -32,6 +33,8 @@ UIWindow UserInterfaceController::window() const {
 
 BOOL UserInterfaceController::clicked_menu_button() {
   const SBIconController icons = SBIconController::sharedInstance();
+  if (close_top_surface()) return YES;
+  if (is_locked()) return NO;
   if (switcher_showing_) {
     switcher_showing_ = NO;
   } else if (launch_screen_ && launch_screen_->is_open()) {
@@ -49,6 +52,7 @@ BOOL UserInterfaceController::clicked_menu_button() {
 }
 
 BOOL UserInterfaceController::handle_menu_double_tap() {
+  if (is_locked()) return NO;
   switcher_showing_ = YES;
   return YES;
 }

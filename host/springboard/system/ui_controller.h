@@ -21,6 +21,7 @@ class UserInterfaceController
   /// The switcher is not drawn yet; that it was called up is remembered.
   BOOL handle_menu_double_tap();
   BOOL is_app_switcher_showing() const { return switcher_showing_; }
+  bool shows_application() const { return launch_screen_ && launch_screen_->is_open(); }
   void activate_application_animated(SBApplication application);
 
  private:

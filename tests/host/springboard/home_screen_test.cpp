@@ -189,6 +189,8 @@ class TickingWallClock final : public WallClock {
     return "10:0" + std::to_string(static_cast<int>((clock_.now() - start_ + 0.001) / 60));
   }
   double seconds_to_next_minute() const override { return 60; }
+  CalendarDay day() const override { return {"Monday", 1}; }
+  std::string date_text() const override { return "Monday, June 1"; }
 
  private:
   const Clock& clock_;

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "host/springboard/surfaces/playback_view.h"
+#include "host/springboard/surfaces/sheet_motion.h"
+#include "objc/ref.h"
+
+namespace host::springboard {
+
+/// What the control centre shows: switches, brightness, what plays, and tools, on milk glass. It
+/// stands below the screen until it is pulled up.
+class ControlCentrePanel {
+ public:
+  /// What a touch on the panel asks for.
+  struct Wishes {
+    std::function<void()> dismiss;
+    SurfaceActions::Pan pan;
+    std::function<void(NSString bundle)> open;
+  };
+
+  /// `container` is as large as the screen.
+  ControlCentrePanel(UIView container, Wishes wishes);
+  ~ControlCentrePanel();
+  ControlCentrePanel(const ControlCentrePanel&) = delete;
+  ControlCentrePanel& operator=(const ControlCentrePanel&) = delete;
+
+  UIView sheet() const { return *sheet_; }
+  CGFloat height() const { return height_; }
+  PlaybackView& playback() { return *playback_; }
+  /// How far it is open, 0 to 1, for the shade above it.
+  void set_shade(CGFloat share) const;
+
+ private:
+  struct Switch {
+    objc::Ref<UIView> disc;
+    objc::Ref<UIImageView> glyph;
+    bool is_on = false;
+  };
+
+  void add_switches(CGFloat top);
+  void add_switch(NSString glyph_name, CGPoint centre, bool is_on);
+  void add_brightness(CGFloat top);
+  void add_tools(CGFloat top, const std::function<void(NSString)>& open);
+  void add_line(CGFloat top) const;
+  void flip(std::size_t index);
+  void show(const Switch& shown) const;
+  UIView content() const { return *content_; }
+
+  CGFloat height_ = 0;
+  objc::Ref<UIView> shade_;
+  objc::Ref<UIView> sheet_;
+  objc::Ref<UIView> content_;
+  std::vector<Switch> switches_;
+  objc::Ref<SBSurfaceSlider> brightness_;
+  std::optional<PlaybackView> playback_;
+  SurfaceActions actions_;
+};
+
+}  // namespace host::springboard

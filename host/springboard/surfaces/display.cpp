@@ -1,0 +1,46 @@
+#include "host/springboard/surfaces/display.h"
+
+#include <algorithm>
+
+#include "host/springboard/surfaces/surface_window.h"
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/view/make_view.h"
+
+namespace host::springboard {
+namespace {
+
+constexpr CGFloat kDarkestVeil = 0.82;
+
+}  // namespace
+
+Display::Display()
+    : veil_(make_surface_window(kBrightnessLevel)),
+      dark_(make_view<UIWindow>(UIScreen::mainScreen().bounds())) {
+  veil_->setUserInteractionEnabled(NO);
+  veil_->setBackgroundColor(UIColor::blackColor());
+  dark_->setWindowLevel(kDisplayOffLevel);
+  dark_->setBackgroundColor(UIColor::blackColor());
+}
+
+Display::~Display() {
+  veil_->setHidden(YES);
+  dark_->setHidden(YES);
+}
+
+void Display::turn_on() {
+  is_on_ = true;
+  dark_->setHidden(YES);
+}
+
+void Display::turn_off() {
+  is_on_ = false;
+  dark_->setHidden(NO);
+}
+
+void Display::set_brightness(double brightness) {
+  brightness_ = std::clamp(brightness, 0.0, 1.0);
+  veil_->setAlpha((1 - brightness_) * kDarkestVeil);
+  veil_->setHidden(brightness_ == 1 ? YES : NO);
+}
+
+}  // namespace host::springboard

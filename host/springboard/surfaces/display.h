@@ -1,0 +1,31 @@
+#pragma once
+
+#include "objc/ref.h"
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::springboard {
+
+/// The display behind the glass: how bright it is, and whether it is on. A display that is off is
+/// black and takes no touches; one at full brightness costs nothing.
+class Display {
+ public:
+  Display();
+  ~Display();
+  Display(const Display&) = delete;
+  Display& operator=(const Display&) = delete;
+
+  bool is_on() const { return is_on_; }
+  void turn_on();
+  void turn_off();
+  /// 0 is dark but still to be read, 1 the brightest.
+  double brightness() const { return brightness_; }
+  void set_brightness(double brightness);
+
+ private:
+  objc::Ref<UIWindow> veil_;
+  objc::Ref<UIWindow> dark_;
+  double brightness_ = 1;
+  bool is_on_ = true;
+};
+
+}  // namespace host::springboard

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace host::springboard {
+
+/// A message that came, as the surfaces show it.
+struct Notification {
+  std::string title;
+  std::string text;
+  std::string time;
+};
+
+/// The messages that came and were not cleared yet, newest first.
+class NotificationStore {
+ public:
+  const std::vector<Notification>& all() const { return all_; }
+  void add(Notification notification) { all_.insert(all_.begin(), std::move(notification)); }
+  void clear() { all_.clear(); }
+
+ private:
+  std::vector<Notification> all_;
+};
+
+}  // namespace host::springboard

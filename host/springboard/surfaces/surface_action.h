@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UIButton.h"
+#include "platform/UIKit/UIPanGestureRecognizer.h"
+#include "platform/UIKit/UITouch.h"
+
+namespace host::springboard {
+
+struct SBSurfaceAction : objc::Bound<SBSurfaceAction, "SBSurfaceAction", NSObject> {};
+
+/// The target of a button or a recogniser that calls a function.
+class SurfaceAction : public objc::Implementation<SurfaceAction, SBSurfaceAction> {
+ public:
+  using Implementation::Implementation;
+
+  void perform(objc::Object sender) {
+    if (act) act(sender);
+  }
+  BOOL should_receive(UIGestureRecognizer, UITouch touch) {
+    return !receives || receives(touch) ? YES : NO;
+  }
+
+  std::function<void(objc::Object)> act;
+  std::function<bool(UITouch)> receives;
+};
+
+/// The actions of one surface, which nothing calls any more once this has ended.
+class SurfaceActions {
+ public:
+  using Pan = std::function<void(UIPanGestureRecognizer)>;
+  using Receives = std::function<bool(UITouch)>;
+
+  SurfaceActions() = default;
+  ~SurfaceActions();
+  SurfaceActions(const SurfaceActions&) = delete;
+  SurfaceActions& operator=(const SurfaceActions&) = delete;
+
+  void on_press(UIButton button, std::function<void()> act);
+  void on_tap(UIView view, std::function<void()> act);
+  /// `receives` says which touches count; all do when there is none.
+  void on_pan(UIView view, Pan act, Receives receives = {});
+
+ private:
+  SBSurfaceAction make(std::function<void(objc::Object)> act);
+
+  std::vector<objc::Ref<SBSurfaceAction>> made_;
+};
+
+void export_surface_action();
+
+}  // namespace host::springboard

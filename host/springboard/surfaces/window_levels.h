@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::springboard {
+
+// What lies above what: the home screen and its applications at the normal level, then these, then
+// what extensions put up, alerts and the keyboard.
+
+inline constexpr UIWindowLevel kLockScreenLevel = UIWindowLevelStatusBar + 50;
+/// Of the status bar while the phone is locked: it lies on the lock screen.
+inline constexpr UIWindowLevel kLockedStatusBarLevel = kLockScreenLevel + 1;
+inline constexpr UIWindowLevel kNotificationCentreLevel = UIWindowLevelStatusBar + 56;
+inline constexpr UIWindowLevel kControlCentreLevel = UIWindowLevelStatusBar + 66;
+inline constexpr UIWindowLevel kBannerLevel = UIWindowLevelStatusBar + 90;
+inline constexpr UIWindowLevel kVolumeLevel = UIWindowLevelStatusBar + 100;
+/// The screen's own light, which no window outshines.
+inline constexpr UIWindowLevel kBrightnessLevel = 20'000'000;
+inline constexpr UIWindowLevel kDisplayOffLevel = kBrightnessLevel + 1;
+
+}  // namespace host::springboard
