@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "host/activator/assignment/assignments.h"
+#include "host/activator/assignment/property_list_file.h"
+
+namespace host::activator {
+
+inline constexpr const char* kAssignmentsPath =
+    "/var/mobile/Library/Preferences/gesture-assignments.plist";
+
+/// The assignments as their file has them. Another process may change it at any time: each look
+/// asks whether the file is still the same, each change is made to what the file holds then.
+class AssignmentStore {
+ public:
+  explicit AssignmentStore(std::string device_path = kAssignmentsPath)
+      : file_(std::move(device_path)) {}
+
+  /// A damaged file is set aside, and nothing is assigned.
+  const Assignments& current();
+  /// False, and nothing has changed, when the file cannot be written.
+  bool assign(const std::string& event, const std::string& mode, const std::string& listener);
+  bool unassign(const std::string& event, const std::string& mode, const std::string& listener);
+
+ private:
+  bool keep(Assignments changed);
+
+  PropertyListFile file_;
+  Assignments read_;
+  std::optional<FileStamp> stamp_;
+};
+
+}  // namespace host::activator

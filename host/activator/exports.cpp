@@ -1,0 +1,18 @@
+#include "host/activator/exports.h"
+
+#include "host/activator/event/event.h"
+#include "host/activator/page/listener_list_page.h"
+#include "host/activator/page/listener_page.h"
+#include "host/activator/shared_activator.h"
+
+namespace host::activator {
+
+void export_activator() {
+  if (LAActivator::cls()) return;
+  export_event();
+  export_shared_activator();
+  export_listener_page();
+  export_listener_list_page();
+}
+
+}  // namespace host::activator

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+
+#include "host/activator/gesture/touch_gestures.h"
+#include "host/runtime/run_loop.h"
+
+namespace host::activator {
+
+/// The events that buttons make: a hold of Home or of the lock button, and both volume buttons at
+/// once.
+class ButtonGestures {
+ public:
+  enum class Button { Home, Lock, VolumeUp, VolumeDown };
+  /// What is left of a press when the button comes up: what the button does by itself, or nothing,
+  /// since the press has been an event that somebody heard.
+  enum class Press { Plain, Heard };
+
+  ButtonGestures(RunLoop& loop, Recognized recognized)
+      : loop_(loop), recognized_(std::move(recognized)) {}
+  ~ButtonGestures();
+  ButtonGestures(const ButtonGestures&) = delete;
+  ButtonGestures& operator=(const ButtonGestures&) = delete;
+
+  /// A button that is down already stays as it is.
+  void down(Button button);
+  Press up(Button button);
+
+ private:
+  struct State {
+    bool is_down = false;
+    bool is_heard = false;
+    double pressed = -1;
+    RunLoop::Id hold = 0;
+  };
+
+  State& state(Button button) { return states_[static_cast<std::size_t>(button)]; }
+  void watch_hold(Button button, const char* event, double duration);
+  void watch_pair(Button button, Button other);
+
+  RunLoop& loop_;
+  const Recognized recognized_;
+  std::array<State, 4> states_;
+};
+
+}  // namespace host::activator

@@ -1,0 +1,113 @@
+#include "host/activator/registry/listener_directory.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <filesystem>
+
+#include "host/activator/assignment/property_list_file.h"
+#include "host/activator/strings.h"
+#include "host/foundation/device_paths.h"
+#include "host/quartzcore/image.h"
+#include "host/runtime/log.h"
+#include "platform/Foundation/NSArray.h"
+
+namespace host::activator {
+namespace {
+
+/// A file name for any name, and different ones for different names.
+std::string file_name(std::string_view name) {
+  std::string made;
+  for (const char byte : name) {
+    const auto value = static_cast<unsigned char>(byte);
+    const bool plain = std::isalnum(value) != 0 || byte == '.' || byte == '-';
+    made += plain ? std::string(1, byte) : fmt::format("%{:02X}", value);
+  }
+  return made;
+}
+
+objc::Object written(const ListenerRecord& record) {
+  const auto entry = NSMutableDictionary::dictionary();
+  entry.setObject(to_ns(record.name), "name"_ns);
+  entry.setObject(to_ns(record.title), "title"_ns);
+  entry.setObject(to_ns(record.description), "description"_ns);
+  entry.setObject(to_ns(record.group), "group"_ns);
+  entry.setObject(to_ns(record.icon), "icon"_ns);
+  if (!record.modes) return entry;
+  const auto modes = NSMutableArray::array();
+  for (const std::string& mode : *record.modes)
+    modes.addObject(to_ns(mode));
+  entry.setObject(modes, "modes"_ns);
+  return entry;
+}
+
+ListenerRecord record_in(NSDictionary entry) {
+  ListenerRecord record;
+  record.name = to_string(entry.objectForKey("name"_ns));
+  record.title = to_string(entry.objectForKey("title"_ns));
+  record.description = to_string(entry.objectForKey("description"_ns));
+  record.group = to_string(entry.objectForKey("group"_ns));
+  record.icon = to_string(entry.objectForKey("icon"_ns));
+  const auto modes = objc::cast<NSArray>(entry.objectForKey("modes"_ns));
+  if (!modes.isKindOfClass(NSArray::cls())) return record;
+  record.modes.emplace();
+  for (const objc::Object mode : modes.of())
+    record.modes->push_back(to_string(mode));
+  return record;
+}
+
+}  // namespace
+
+std::vector<ListenerRecord> ListenerDirectory::read() const {
+  const NSDictionary list = PropertyListFile(path_).read();
+  const auto entries = objc::cast<NSArray>(list.objectForKey("listeners"_ns));
+  std::vector<ListenerRecord> records;
+  if (!entries.isKindOfClass(NSArray::cls())) return records;
+  for (const NSDictionary entry : entries.of<NSDictionary>()) {
+    if (!entry.isKindOfClass(NSDictionary::cls())) continue;
+    ListenerRecord record = record_in(entry);
+    if (!record.name.empty()) records.push_back(std::move(record));
+  }
+  std::sort(records.begin(), records.end(), [](const auto& one, const auto& other) {
+    return std::pair(one.shown_title(), one.name) < std::pair(other.shown_title(), other.name);
+  });
+  return records;
+}
+
+ListenerRecord ListenerDirectory::find(const std::string& name) const {
+  for (ListenerRecord& record : read()) {
+    if (record.name == name) return record;
+  }
+  ListenerRecord unknown;
+  unknown.name = name;
+  return unknown;
+}
+
+bool ListenerDirectory::write(const std::vector<ListenerRecord>& records) const {
+  const auto entries = NSMutableArray::array();
+  for (const ListenerRecord& record : records)
+    entries.addObject(written(record));
+  return PropertyListFile(path_).write(NSDictionary::dictionaryWithObject(entries, "listeners"_ns));
+}
+
+std::string ListenerDirectory::keep_icon(const std::string& listener, UIImage icon) const {
+  const quartzcore::Image* image = quartzcore::image_of(icon.CGImage());
+  if (!image) return {};
+  // The scale stands in the name, as in those of all pictures of the platform.
+  const long scale = std::lround(icon.scale());
+  const std::string suffix = scale > 1 ? fmt::format("@{}x", scale) : "";
+  const std::string path = fmt::format("{}/icons/{}{}.png", path_.substr(0, path_.rfind('/')),
+                                       file_name(listener), suffix);
+  const std::filesystem::path place = foundation::path_on_this_machine(path);
+  std::error_code error;
+  std::filesystem::create_directories(place.parent_path(), error);
+  const cairo_status_t status = cairo_surface_write_to_png(image->surface().get(), place.c_str());
+  if (status == CAIRO_STATUS_SUCCESS) return path;
+  spdlog::warn("the icon of gesture listener {} could not be kept: {}", listener,
+               cairo_status_to_string(status));
+  return {};
+}
+
+}  // namespace host::activator

@@ -1,0 +1,95 @@
+#include "host/activator/gesture/button_gestures.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/support/host_test.h"
+
+namespace host::test {
+namespace {
+
+using activator::ButtonGestures;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using Button = ButtonGestures::Button;
+using Press = ButtonGestures::Press;
+
+class ButtonGesturesTest : public HostTest {
+ protected:
+  Press press(Button button) {
+    buttons.down(button);
+    return buttons.up(button);
+  }
+
+  std::vector<std::string> recognized;
+  bool is_heard = true;
+  ButtonGestures buttons{loop, [this](const char* event) {
+                           recognized.emplace_back(event);
+                           return is_heard;
+                         }};
+};
+
+TEST_F(ButtonGesturesTest, AShortPressIsTheButtonsOwn) {
+  buttons.down(Button::Home);
+  advance(0.3);
+  EXPECT_EQ(buttons.up(Button::Home), Press::Plain);
+  advance(1);
+  EXPECT_THAT(recognized, IsEmpty());
+}
+
+TEST_F(ButtonGesturesTest, AHoldOfHomeTakesThePress) {
+  buttons.down(Button::Home);
+  advance(0.7);
+  EXPECT_THAT(recognized, ElementsAre("home-hold"));
+  EXPECT_EQ(buttons.up(Button::Home), Press::Heard);
+  EXPECT_EQ(press(Button::Home), Press::Plain);
+}
+
+TEST_F(ButtonGesturesTest, AHoldThatNobodyHearsIsAPress) {
+  is_heard = false;
+  buttons.down(Button::Home);
+  advance(0.7);
+  EXPECT_EQ(buttons.up(Button::Home), Press::Plain);
+}
+
+TEST_F(ButtonGesturesTest, TheLockButtonIsHeldLonger) {
+  buttons.down(Button::Lock);
+  advance(0.9);
+  EXPECT_THAT(recognized, IsEmpty());
+  advance(0.2);
+  EXPECT_THAT(recognized, ElementsAre("lock-hold"));
+  EXPECT_EQ(buttons.up(Button::Lock), Press::Heard);
+}
+
+TEST_F(ButtonGesturesTest, VolumeButtonsThatAreDownTogetherAreAPair) {
+  buttons.down(Button::VolumeUp);
+  advance(0.5);
+  buttons.down(Button::VolumeDown);
+  buttons.up(Button::VolumeUp);
+  buttons.up(Button::VolumeDown);
+  EXPECT_THAT(recognized, ElementsAre("volume-both"));
+}
+
+TEST_F(ButtonGesturesTest, LightPressesAtOnceAreAPairToo) {
+  press(Button::VolumeDown);
+  advance(0.1);
+  press(Button::VolumeUp);
+  EXPECT_THAT(recognized, ElementsAre("volume-both"));
+}
+
+TEST_F(ButtonGesturesTest, EachPressIsInOnePairOnly) {
+  press(Button::VolumeDown);
+  press(Button::VolumeUp);
+  press(Button::VolumeDown);
+  EXPECT_THAT(recognized, ElementsAre("volume-both"));
+}
+
+TEST_F(ButtonGesturesTest, OneAfterTheOtherIsNoPair) {
+  press(Button::VolumeUp);
+  advance(0.2);
+  press(Button::VolumeDown);
+  press(Button::VolumeDown);
+  EXPECT_THAT(recognized, IsEmpty());
+}
+
+}  // namespace
+}  // namespace host::test
