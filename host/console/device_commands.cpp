@@ -20,6 +20,9 @@ constexpr ButtonName kButtons[] = {
 constexpr std::string_view kKeys[] = {"return", "delete", "escape", "tab",  "space", "left",
                                       "right",  "up",     "down",   "home", "end"};
 
+// Those that work on text, or are a gesture, with the control key; without it they type.
+constexpr std::string_view kControlKeys[] = {"a", "c", "g", "v", "x"};
+
 enum class Detail { None, Text, BundleIdentifier };
 
 struct SystemName {
@@ -54,7 +57,12 @@ Result<Answer> button(Session& session, LineReader& reader) {
   const auto* found = std::find_if(std::begin(kButtons), std::end(kButtons),
                                    [name](const ButtonName& known) { return known.name == name; });
   if (found == std::end(kButtons)) return unknown;
+  std::optional<ButtonPhase> phase;
+  if (reader.peek_word() == "down") phase = ButtonPhase::Down;
+  if (reader.peek_word() == "up") phase = ButtonPhase::Up;
+  if (phase) reader.word();
   if (const auto problem = reader.end()) return *problem;
+  if (phase) return answer_of(session.phone().button(found->button, *phase));
   return answer_of(session.phone().press(found->button));
 }
 
@@ -65,11 +73,29 @@ Result<Answer> type(Session& session, LineReader& reader) {
   return answer_of(session.phone().type(text));
 }
 
+template <std::size_t Count>
+bool is_one_of(const std::string_view (&names)[Count], std::string_view name) {
+  return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+/// Is it a key, alone or behind the keys that are held with it?
+bool is_key(std::string_view name) {
+  constexpr std::string_view kControl = "control-";
+  constexpr std::string_view kShift = "shift-";
+  const bool control = name.starts_with(kControl);
+  if (control) name.remove_prefix(kControl.size());
+  if (name.starts_with(kShift)) name.remove_prefix(kShift.size());
+  return is_one_of(kKeys, name) || (control && is_one_of(kControlKeys, name));
+}
+
 Result<Answer> key(Session& session, LineReader& reader) {
   reader.at_end();
-  const Problem unknown = reader.problem(fmt::format("a key is one of {}", fmt::join(kKeys, ", ")));
+  const Problem unknown =
+      reader.problem(fmt::format("a key is one of {}, or one of them or of {} behind control- or "
+                                 "shift-",
+                                 fmt::join(kKeys, ", "), fmt::join(kControlKeys, ", ")));
   const auto name = reader.word();
-  if (std::find(std::begin(kKeys), std::end(kKeys), name) == std::end(kKeys)) return unknown;
+  if (!is_key(name)) return unknown;
   if (const auto problem = reader.end()) return *problem;
   return answer_of(session.phone().key(name));
 }

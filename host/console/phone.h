@@ -11,6 +11,7 @@
 namespace host::console {
 
 using screen::Button;
+using screen::ButtonPhase;
 using screen::TouchPhase;
 
 enum class SystemEvent {
@@ -50,6 +51,8 @@ class Phone {
   virtual Refusal type(std::string_view text) = 0;
   virtual Refusal key(std::string_view name) = 0;
   virtual Refusal press(Button button) = 0;
+  /// A button that stays down until it is let go.
+  virtual Refusal button(Button button, ButtonPhase phase) = 0;
   /// `detail` is the banner's text or the application's bundle identifier.
   virtual Refusal system(SystemEvent event, std::string_view detail) = 0;
   virtual Refusal gesture(std::string_view event) = 0;

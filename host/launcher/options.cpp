@@ -52,7 +52,7 @@ fs::path made_absolute(const fs::path& path) {
 }
 
 void make_absolute(Options& options) {
-  options.root = made_absolute(options.root);
+  if (!options.root.empty()) options.root = made_absolute(options.root);
   options.screenshots = made_absolute(options.screenshots);
   if (!options.script.empty()) options.script = made_absolute(options.script);
   for (fs::path& folder : options.music)
@@ -64,14 +64,15 @@ void make_absolute(Options& options) {
 std::variant<Options, Ending> read_options(int count, const char* const* arguments) {
   Options options;
   options.device = kDefaultDevice;
-  options.root = default_device_root();
   options.screenshots = ".";
 
   CLI::App parser(kDescription, "sonavue");
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
   parser.add_option("--device", options.device, "Which phone or tablet to be: " + all_devices())
       ->check(check_device);
-  parser.add_option("--root", options.root, "Folder that holds the device's own files");
+  parser.add_option("--root", options.root,
+                    "Folder that holds the device's own files; a script without it plays on a new "
+                    "device that is thrown away");
   parser.add_option("--music", options.music, "Folder of music; may be given more than once")
       ->check(check_music)
       ->allow_extra_args(false);
@@ -91,6 +92,7 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   } catch (const CLI::ParseError& error) {
     return Ending{kBadUsage, std::string("sonavue: ") + error.what() + "\n"};
   }
+  if (options.root.empty() && options.script.empty()) options.root = default_device_root();
   make_absolute(options);
   return options;
 }

@@ -10,7 +10,7 @@ namespace host::launcher {
 /// What the command line asks for; paths are absolute.
 struct Options {
   std::string device;
-  std::filesystem::path root;
+  std::filesystem::path root;  // empty for a new one that is thrown away
   std::vector<std::filesystem::path> music;
   std::vector<std::string> without;
   std::filesystem::path screenshots;

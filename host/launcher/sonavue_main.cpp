@@ -6,6 +6,7 @@
 #include "host/launcher/installation.h"
 #include "host/launcher/options.h"
 #include "host/launcher/supervisor.h"
+#include "host/launcher/throwaway_folder.h"
 #include "host/runtime/log.h"
 
 namespace {
@@ -37,7 +38,9 @@ std::optional<ConsoleFront> console_for(const Options& options) {
   return ConsoleFront(std::move(script), options.console ? STDIN_FILENO : -1, stdout, stderr);
 }
 
-int run_phone(const Options& options) {
+int run_phone(Options options) {
+  std::optional<ThrowawayFolder> device;
+  if (options.root.empty()) options.root = device.emplace().path();
   const Installation installation = find_installation();
   if (auto reason = prepare_device_root(options.root)) return complain(*reason);
   if (auto reason = stage(installation.staging, options.root, options.without))

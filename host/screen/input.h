@@ -10,6 +10,8 @@ enum class TouchPhase { Began, Moved, Ended, Cancelled };
 
 enum class Button { Home, HomeDouble, Lock, VolumeUp, VolumeDown };
 
+enum class ButtonPhase { Down, Up };
+
 /// Whoever is told what the user does to the phone.
 class Input {
  public:
@@ -19,9 +21,17 @@ class Input {
   virtual void touch(int finger, TouchPhase phase, CGPoint point) = 0;
   /// Text of the keyboard, as UTF-8; input methods have composed it.
   virtual void type(std::string_view text) = 0;
-  /// A key that types nothing: return, delete, escape, tab, left, right, up, down, home or end.
+  /// Text that an input method is still composing, in place of what it composed before; empty when
+  /// it has given up. `caret` counts code points from its start.
+  virtual void compose(std::string_view text, int caret) = 0;
+  /// A key that types nothing: return, delete, escape, tab, left, right, up, down, home or end, or
+  /// a letter with the control key. `control-` and `shift-` stand before it, in this order.
   virtual void key(std::string_view name) = 0;
+  /// A whole press, of those that are nothing else.
   virtual void press(Button button) = 0;
+  /// A button that goes down, to come up later.
+  virtual void button(Button button, ButtonPhase phase) = 0;
+  virtual void shake() = 0;
   /// The user has closed the window.
   virtual void close() = 0;
 };

@@ -3,6 +3,7 @@
 #include <SDL.h>
 
 #include <cmath>
+#include <string>
 
 #include "host/screen/event_descriptor.h"
 #include "host/screen/fingers.h"
@@ -27,6 +28,11 @@ constexpr KeyName kKeys[] = {
     {SDLK_END, "end"},
 };
 
+// With the control key, letters work on text instead of typing it.
+constexpr KeyName kControlKeys[] = {
+    {SDLK_a, "a"}, {SDLK_c, "c"}, {SDLK_g, "g"}, {SDLK_v, "v"}, {SDLK_x, "x"},
+};
+
 struct KeyButton {
   SDL_Keycode key;
   Button button;
@@ -36,6 +42,16 @@ constexpr KeyButton kButtons[] = {
     {SDLK_F1, Button::Home}, {SDLK_HOME, Button::Home},     {SDLK_F2, Button::HomeDouble},
     {SDLK_F3, Button::Lock}, {SDLK_F5, Button::VolumeDown}, {SDLK_F6, Button::VolumeUp},
 };
+
+constexpr SDL_Keycode kShake = SDLK_F7;
+
+/// The key's name behind those of the keys that are held with it.
+std::string with_modifiers(const char* name, Uint16 held) {
+  std::string full;
+  if ((held & KMOD_CTRL) != 0) full += "control-";
+  if ((held & KMOD_SHIFT) != 0) full += "shift-";
+  return full + name;
+}
 
 CGSize first_size(CGSize screen) {
   SDL_Rect desktop{};
@@ -128,6 +144,15 @@ CGSize Window::window_size() const {
   return {static_cast<double>(width), static_cast<double>(height)};
 }
 
+std::string Window::clipboard_text() const {
+  const std::unique_ptr<char, decltype(&SDL_free)> text(SDL_GetClipboardText(), &SDL_free);
+  return text ? text.get() : "";
+}
+
+void Window::set_clipboard_text(const std::string& text) {
+  SDL_SetClipboardText(text.c_str());
+}
+
 int Window::event_descriptor() const {
   return screen::event_descriptor(window_.get());
 }
@@ -161,22 +186,45 @@ void Window::handle(const SDL_Event& event) {
     case SDL_TEXTINPUT:
       input_.type(event.text.text);
       break;
+    case SDL_TEXTEDITING:
+      input_.compose(event.edit.text, event.edit.start);
+      break;
     case SDL_KEYDOWN:
+      handle_button(event);
       handle_key(event);
+      break;
+    case SDL_KEYUP:
+      handle_button(event);
       break;
     default:
       break;
   }
 }
 
+void Window::handle_button(const SDL_Event& event) {
+  // A held key is one press of a button.
+  if (event.key.repeat != 0) return;
+  const bool down = event.type == SDL_KEYDOWN;
+  if (down && event.key.keysym.sym == kShake) input_.shake();
+  for (const auto& [key, button] : kButtons) {
+    if (key != event.key.keysym.sym) continue;
+    if (button != Button::HomeDouble) {
+      input_.button(button, down ? ButtonPhase::Down : ButtonPhase::Up);
+    } else if (down) {
+      input_.press(button);
+    }
+  }
+}
+
 void Window::handle_key(const SDL_Event& event) {
   const SDL_Keycode pressed = event.key.keysym.sym;
-  for (const auto& [key, button] : kButtons) {
-    // A held key is one press of a button.
-    if (key == pressed && event.key.repeat == 0) input_.press(button);
-  }
+  const Uint16 held = event.key.keysym.mod;
   for (const auto& [key, name] : kKeys) {
-    if (key == pressed) input_.key(name);
+    if (key == pressed) input_.key(with_modifiers(name, held));
+  }
+  if ((held & KMOD_CTRL) == 0) return;
+  for (const auto& [key, name] : kControlKeys) {
+    if (key == pressed) input_.key(with_modifiers(name, held));
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "host/screen/fingers.h"
 #include "host/screen/input.h"
@@ -30,6 +31,10 @@ class Window final : public Screen {
   /// Passes on what the user has done since the last call.
   void handle_events();
 
+  /// The desktop's clipboard, as UTF-8.
+  std::string clipboard_text() const;
+  void set_clipboard_text(const std::string& text);
+
   /// Becomes readable when there may be something to handle; -1 where the desktop has no such
   /// descriptor, and events have to be looked for from time to time.
   int event_descriptor() const;
@@ -38,6 +43,7 @@ class Window final : public Screen {
   Window(CGSize screen, Input& input);
   bool create(double pixels_a_point);
   void handle(const SDL_Event& event);
+  void handle_button(const SDL_Event& event);
   void handle_key(const SDL_Event& event);
   void handle_mouse(const SDL_Event& event);
   void handle_finger(const SDL_Event& event);

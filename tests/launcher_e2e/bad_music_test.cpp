@@ -120,6 +120,7 @@ TEST_F(BadMusic, IsSkippedOrShownAndCountedAndLoggedOnceEach) {
 }
 
 TEST_F(BadMusic, EverySongOfItPlaysOrIsPassedOverInTheOpenPanel) {
+  switch_drag_on();
   RunningPhone phone(headless({"--console", "--screenshots", folder() / "screenshots"}),
                      Hardship::kOrdinaryUser);
   ASSERT_EQ(phone.ask("advance 1"), "ok");
@@ -154,6 +155,7 @@ TEST_F(BadMusic, EverySongOfItPlaysOrIsPassedOverInTheOpenPanel) {
 using NoMusic = PhoneTest;
 
 TEST_F(NoMusic, IsAPhoneWhosePanelOpensAllTheSame) {
+  switch_drag_on();
   fs::remove(music() / "tone.flac");
   RunningPhone phone(headless({"--console"}));
   ASSERT_EQ(phone.ask("advance 1"), "ok");

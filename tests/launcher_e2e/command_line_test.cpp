@@ -66,4 +66,23 @@ TEST_F(BadCommandLines, ADiskWithoutRoomForTheDevice) {
   EXPECT_THAT(phone.error_lines()[0], HasSubstr(root().string()));
 }
 
+using Scripts = PhoneTest;
+
+TEST_F(Scripts, WithoutARootPlayOnANewDeviceEachTime) {
+  const fs::path script = folder() / "once.scn";
+  const fs::path temporary = folder() / "temporary";
+  fs::create_directories(temporary);
+  setenv("TMPDIR", temporary.c_str(), 1);
+  const std::string file = "@\"/var/mobile/Library/Preferences/mark.plist\"";
+  media_tests::write_bytes(
+      script, "expect [[NSFileManager defaultManager] fileExistsAtPath:" + file + "] == NO\n" +
+                  "expect [@\"mark\" writeToFile:" + file + " atomically:YES] == YES\n");
+  for (int run = 0; run < 2; ++run) {
+    RunningPhone phone({"--headless", "--music", music(), "--script", script});
+    EXPECT_EQ(phone.wait_for_end(), 0) << phone.errors();
+  }
+  EXPECT_TRUE(fs::is_empty(temporary));
+  unsetenv("TMPDIR");
+}
+
 }  // namespace

@@ -41,6 +41,15 @@ class PhoneTest : public testing::Test {
     return made;
   }
 
+  /// Lets the icon's drag open the panel, as somebody does in the settings of a new phone.
+  void switch_drag_on() const {
+    fs::create_directories(preferences().parent_path());
+    media_tests::write_bytes(
+        preferences(),
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<plist version=\"1.0\"><dict><key>enable</key><true/></dict></plist>");
+  }
+
   /// A device that has run once and was switched off in good order.
   void run_once() {
     RunningPhone phone(headless({"--console"}));

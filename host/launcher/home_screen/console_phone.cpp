@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "host/activator/phone_gestures.h"
 #include "host/springboard/system_actions.h"
 #include "host/uikit/view/screen_space.h"
 #include "platform/UIKit/UIView.h"
@@ -84,8 +85,9 @@ Refusal ConsolePhone::system(SystemEvent event, std::string_view detail) {
   }
 }
 
-Refusal ConsolePhone::gesture(std::string_view) {
-  return "the gesture service is not available yet";
+Refusal ConsolePhone::gesture(std::string_view event) {
+  return done_unless(activator::perform_event(event),
+                     "the gesture service knows no event of this name");
 }
 
 Refusal ConsolePhone::screenshot(const std::string& file) {

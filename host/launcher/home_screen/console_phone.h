@@ -27,6 +27,9 @@ class ConsolePhone final : public console::Phone {
   console::Refusal type(std::string_view text) override { return hands_.type(text); }
   console::Refusal key(std::string_view name) override { return hands_.key(name); }
   console::Refusal press(console::Button button) override { return hands_.press(button); }
+  console::Refusal button(console::Button button, console::ButtonPhase phase) override {
+    return hands_.button(button, phase);
+  }
   console::Refusal system(console::SystemEvent event, std::string_view detail) override;
   console::Refusal gesture(std::string_view event) override;
   console::Refusal screenshot(const std::string& file) override;

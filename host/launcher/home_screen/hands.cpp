@@ -2,13 +2,37 @@
 
 #include "host/springboard/system_actions.h"
 #include "host/uikit/text/key_input.h"
-#include "platform/SpringBoard/SBMediaController.h"
 
 namespace host::launcher {
 namespace {
 
-// Sixteen presses from silence to the loudest.
-constexpr float kVolumeStep = 1.0f / 16;
+/// How many UTF-16 units the first code points of UTF-8 make.
+NSUInteger utf16_units(std::string_view text, int code_points) {
+  NSUInteger units = 0;
+  for (const char byte : text) {
+    const auto value = static_cast<unsigned char>(byte);
+    const bool begins = (value & 0xC0) != 0x80;
+    if (begins && code_points-- <= 0) break;
+    if (begins) units += value >= 0xF0 ? 2 : 1;
+  }
+  return units;
+}
+
+activator::ButtonGestures::Button gesture_button(screen::Button button) {
+  using Button = activator::ButtonGestures::Button;
+  switch (button) {
+    case screen::Button::Lock:
+      return Button::Lock;
+    case screen::Button::VolumeUp:
+      return Button::VolumeUp;
+    case screen::Button::VolumeDown:
+      return Button::VolumeDown;
+    case screen::Button::Home:
+    case screen::Button::HomeDouble:
+      break;
+  }
+  return Button::Home;
+}
 
 }  // namespace
 
@@ -33,32 +57,58 @@ Hands::Refusal Hands::type(std::string_view text) {
   return std::nullopt;
 }
 
+Hands::Refusal Hands::compose(std::string_view text, int caret) {
+  const auto composed = NSString::stringWithUTF8String(std::string(text).c_str());
+  if (!composed) return "the text is not UTF-8";
+  if (!uikit::compose_text(composed, utf16_units(text, caret))) return "nobody takes text now";
+  return std::nullopt;
+}
+
 Hands::Refusal Hands::key(std::string_view name) {
+  if (gestures_.press_key(name)) return std::nullopt;
   if (name == "space") return type(" ");
-  const bool taken = uikit::press_key(name == "delete" ? "backspace" : name);
+  // Who deletes or returns with another key held means no more than that.
+  const std::string_view alone = name.substr(name.rfind('-') + 1);
+  if (alone == "delete") name = "backspace";
+  if (alone == "return" || alone == "escape") name = alone;
+  const bool taken = uikit::press_key(name);
   if (!taken) return "nobody takes this key now";
   return std::nullopt;
 }
 
 Hands::Refusal Hands::press(screen::Button button) {
-  switch (button) {
-    case screen::Button::Home:
-      springboard::press_home();
-      return std::nullopt;
-    case screen::Button::HomeDouble:
-      springboard::double_press_home();
-      return std::nullopt;
-    case screen::Button::Lock:
-      springboard::lock();
-      return std::nullopt;
-    case screen::Button::VolumeUp:
-      SBMediaController::sharedInstance()._changeVolumeBy(kVolumeStep);
-      return std::nullopt;
-    case screen::Button::VolumeDown:
-      SBMediaController::sharedInstance()._changeVolumeBy(-kVolumeStep);
-      return std::nullopt;
+  if (button == screen::Button::HomeDouble) {
+    springboard::double_press_home();
+    return std::nullopt;
+  }
+  push(button);
+  let_go(button);
+  return std::nullopt;
+}
+
+Hands::Refusal Hands::button(screen::Button button, screen::ButtonPhase phase) {
+  if (button == screen::Button::HomeDouble) return "two presses cannot be held";
+  if (phase == screen::ButtonPhase::Down) {
+    push(button);
+  } else {
+    let_go(button);
   }
   return std::nullopt;
+}
+
+// The volume changes at once, what can also be held acts when it comes up.
+void Hands::push(screen::Button button) {
+  gestures_.buttons().down(gesture_button(button));
+  if (button == screen::Button::VolumeUp) springboard::press_volume(springboard::VolumeButton::kUp);
+  if (button == screen::Button::VolumeDown)
+    springboard::press_volume(springboard::VolumeButton::kDown);
+}
+
+void Hands::let_go(screen::Button button) {
+  using Press = activator::ButtonGestures::Press;
+  if (gestures_.buttons().up(gesture_button(button)) != Press::Plain) return;
+  if (button == screen::Button::Home) springboard::press_home();
+  if (button == screen::Button::Lock) springboard::press_lock();
 }
 
 }  // namespace host::launcher

@@ -1,9 +1,12 @@
 #include "host/launcher/home_screen/launch.h"
 
+#include "host/activator/service.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
 #include "host/launcher/home_screen/music.h"
+#include "host/launcher/home_screen/phone_mode.h"
 #include "host/launcher/home_screen/platform_classes.h"
+#include "host/social/configuration.h"
 #include "host/springboard/configuration.h"
 #include "host/uikit/application/application.h"
 
@@ -20,6 +23,20 @@ const springboard::WallClock& wall_clock(bool stepped) {
   return system;
 }
 
+/// A phone without a window belongs to no desktop, whatever runs around it.
+void configure_social(bool headless) {
+  social::Configuration configuration;
+  configuration.desktop = headless ? social::Desktop::Absent : social::desktop_of_environment();
+  configuration.share_target = social::default_share_target_file();
+  social::configure(configuration);
+}
+
+/// Before the extensions come, which register with it.
+void start_gesture_service() {
+  static const PhoneMode mode;
+  activator::Service::restart(activator::Service::Role::HomeScreen, &mode);
+}
+
 }  // namespace
 
 void launch_home_screen(const ProcessOptions& options) {
@@ -28,6 +45,8 @@ void launch_home_screen(const ProcessOptions& options) {
   springboard::Configuration configuration;
   configuration.wall_clock = &wall_clock(options.stepped);
   springboard::configure(configuration);
+  configure_social(options.headless);
+  start_gesture_service();
   start_music(options);
   foundation::load_libraries(kBundleIdentifier, kHomeScreen);
   uikit::launch_application(kHomeScreen);

@@ -13,6 +13,7 @@
 #include "host/launcher/home_screen/passing_time.h"
 #include "host/launcher/home_screen/phone_screen.h"
 #include "host/launcher/home_screen/process_options.h"
+#include "host/launcher/home_screen/window_clipboard.h"
 #include "host/launcher/home_screen/window_input.h"
 #include "host/launcher/home_screen/window_service.h"
 #include "host/launcher/supervisor.h"
@@ -59,11 +60,12 @@ console::Globals shared_globals() {
 struct Display {
   std::unique_ptr<screen::Screen> screen;
   std::unique_ptr<launcher::WindowService> service;
+  std::unique_ptr<launcher::WindowClipboard> clipboard;
 };
 
 std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
                                     screen::Input& input) {
-  if (options.headless) return Display{std::make_unique<screen::Headless>(), nullptr};
+  if (options.headless) return Display{std::make_unique<screen::Headless>(), nullptr, nullptr};
   const DeviceModel& device = current_device();
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
@@ -72,7 +74,8 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
     return std::nullopt;
   }
   auto service = std::make_unique<launcher::WindowService>(loop, *window);
-  return Display{std::move(window), std::move(service)};
+  auto clipboard = std::make_unique<launcher::WindowClipboard>(*window);
+  return Display{std::move(window), std::move(service), std::move(clipboard)};
 }
 
 int run(const ProcessOptions& options) {
@@ -84,7 +87,8 @@ int run(const ProcessOptions& options) {
 
   const auto pool = std::make_unique<objc::AutoreleasePool>();
   const quartzcore::LayerService layers(loop);
-  launcher::Hands hands(loop);
+  const DeviceModel& device = current_device();
+  launcher::Hands hands(loop, {device.width, device.height});
   launcher::WindowInput input(hands, [&loop] { loop.stop(); });
   auto display = open_display(options, loop, input);
   if (!display) return launcher::kCannotStart;

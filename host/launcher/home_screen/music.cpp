@@ -1,5 +1,7 @@
 #include "host/launcher/home_screen/music.h"
 
+#include <filesystem>
+
 #include "host/foundation/device_paths.h"
 #include "host/launcher/installation.h"
 #include "host/media_player/exports.h"
@@ -52,6 +54,10 @@ void start_music(const ProcessOptions& options) {
   }
   media.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
   media.memory_path = foundation::path_on_this_machine("/var/mobile/Media/playback.plist");
+  // The home screen's extensions look at the library once, when they start: a new phone must have
+  // one by then. Later what the last scan left is there at once.
+  if (!std::filesystem::exists(media.index_path))
+    media.first_scan = media_player::FirstScan::kBeforeStart;
   media.pace = options.stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   if (options.headless) media.audio_output = "null";
   media.on_progress = ProgressLines();

@@ -24,6 +24,7 @@ class PhoneScreen {
 
   /// Brings the picture up to date and writes it to a PNG file. Gives the reason when it cannot.
   std::optional<std::string> write(const std::string& file);
+  const quartzcore::Compositor& compositor() const { return compositor_; }
 
  private:
   void end_turn();

@@ -17,8 +17,13 @@ class WindowInput final : public screen::Input {
   }
   // A key that nobody takes just now is nothing that a user has to be told.
   void type(std::string_view text) override { hands_.type(text); }
+  void compose(std::string_view text, int caret) override { hands_.compose(text, caret); }
   void key(std::string_view name) override { hands_.key(name); }
   void press(screen::Button button) override { hands_.press(button); }
+  void button(screen::Button button, screen::ButtonPhase phase) override {
+    hands_.button(button, phase);
+  }
+  void shake() override { hands_.shake(); }
   void close() override { on_close_(); }
 
  private:

@@ -31,6 +31,10 @@ class FakePhone : public host::console::Phone {
   Refusal press(host::console::Button button) override {
     return note("press", fmt::format("{}", static_cast<int>(button)));
   }
+  Refusal button(host::console::Button button, host::console::ButtonPhase phase) override {
+    const bool down = phase == host::console::ButtonPhase::Down;
+    return note(down ? "push" : "let go", fmt::format("{}", static_cast<int>(button)));
+  }
   Refusal system(host::console::SystemEvent event, std::string_view detail) override {
     return note("system", fmt::format("{} {}", static_cast<int>(event), detail));
   }

@@ -110,6 +110,13 @@ TEST_F(Sessions, ButtonsArePressed) {
   EXPECT_THAT(say("button power"), StartsWith("error: home, home-double"));
 }
 
+TEST_F(Sessions, ButtonsAreHeldDown) {
+  EXPECT_EQ(say("button lock down"), "ok");
+  EXPECT_EQ(say("button lock up"), "ok");
+  EXPECT_EQ(say("button lock sideways"), "error: nothing more belongs here: sideways (column 13)");
+  EXPECT_THAT(phone_.done, ElementsAre("push 2", "let go 2"));
+}
+
 TEST_F(Sessions, SystemEventsCarryTheirDetail) {
   EXPECT_EQ(say("system banner New mail"), "ok");
   EXPECT_EQ(say("system edit on"), "ok");

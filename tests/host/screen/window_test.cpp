@@ -42,10 +42,18 @@ class WrittenInput : public Input {
         fmt::format("touch {} {} {:g} {:g}", finger, static_cast<int>(phase), point.x, point.y));
   }
   void type(std::string_view text) override { done.push_back(fmt::format("type {}", text)); }
+  void compose(std::string_view text, int caret) override {
+    done.push_back(fmt::format("compose {} {}", text, caret));
+  }
   void key(std::string_view name) override { done.push_back(fmt::format("key {}", name)); }
   void press(Button button) override {
     done.push_back(fmt::format("press {}", static_cast<int>(button)));
   }
+  void button(Button button, ButtonPhase phase) override {
+    const char* way = phase == ButtonPhase::Down ? "push" : "let go";
+    done.push_back(fmt::format("{} {}", way, static_cast<int>(button)));
+  }
+  void shake() override { done.push_back("shake"); }
   void close() override { done.push_back("close"); }
 
   std::vector<std::string> done;
@@ -76,9 +84,11 @@ class Windows : public testing::Test {
     }
     SDL_PushEvent(&event);
   }
-  void push_key(SDL_Keycode key, Uint8 repeat = 0) {
+  void push_key(SDL_Keycode key, Uint8 repeat = 0, SDL_Keymod held = KMOD_NONE,
+                Uint32 type = SDL_KEYDOWN) {
     SDL_Event event{};
-    event.type = SDL_KEYDOWN;
+    event.key.keysym.mod = held;
+    event.type = type;
     event.key.keysym.sym = key;
     event.key.repeat = repeat;
     SDL_PushEvent(&event);
@@ -114,7 +124,28 @@ TEST_F(Windows, KeysAreButtonsOrKeysOfTheKeyboard) {
   push_key(SDLK_BACKSPACE);
   push_key(SDLK_BACKSPACE, 1);
   push_key(SDLK_a);
-  EXPECT_THAT(handled(), ElementsAre("press 0", "key delete", "key delete"));
+  EXPECT_THAT(handled(), ElementsAre("push 0", "key delete", "key delete"));
+}
+
+TEST_F(Windows, AButtonStaysDownAsLongAsItsKey) {
+  push_key(SDLK_F3);
+  push_key(SDLK_F3, 1);
+  EXPECT_THAT(handled(), ElementsAre("push 2"));
+  push_key(SDLK_F3, 0, KMOD_NONE, SDL_KEYUP);
+  EXPECT_THAT(handled(), ElementsAre("let go 2"));
+}
+
+TEST_F(Windows, TwoPressesOfHomeAreOneKey) {
+  push_key(SDLK_F2);
+  push_key(SDLK_F2, 0, KMOD_NONE, SDL_KEYUP);
+  EXPECT_THAT(handled(), ElementsAre("press 1"));
+}
+
+TEST_F(Windows, AKeyShakesThePhone) {
+  push_key(SDLK_F7);
+  push_key(SDLK_F7, 1);
+  push_key(SDLK_F7, 0, KMOD_NONE, SDL_KEYUP);
+  EXPECT_THAT(handled(), ElementsAre("shake"));
 }
 
 TEST_F(Windows, ComposedTextIsTyped) {
@@ -123,6 +154,28 @@ TEST_F(Windows, ComposedTextIsTyped) {
   std::snprintf(event.text.text, sizeof event.text.text, "ö");
   SDL_PushEvent(&event);
   EXPECT_THAT(handled(), ElementsAre("type ö"));
+}
+
+TEST_F(Windows, KeysThatAreHeldStandBeforeTheName) {
+  push_key(SDLK_LEFT, 0, KMOD_LSHIFT);
+  push_key(SDLK_RIGHT, 0, static_cast<SDL_Keymod>(KMOD_RCTRL | KMOD_LSHIFT));
+  push_key(SDLK_v, 0, KMOD_LCTRL);
+  push_key(SDLK_v);
+  EXPECT_THAT(handled(), ElementsAre("key shift-left", "key control-shift-right", "key control-v"));
+}
+
+TEST_F(Windows, WhatAnInputMethodComposesIsTold) {
+  SDL_Event event{};
+  event.type = SDL_TEXTEDITING;
+  std::snprintf(event.edit.text, sizeof event.edit.text, "にほ");
+  event.edit.start = 2;
+  SDL_PushEvent(&event);
+  EXPECT_THAT(handled(), ElementsAre("compose にほ 2"));
+}
+
+TEST_F(Windows, ShareTheDesktopsClipboard) {
+  window_->set_clipboard_text("Größe");
+  EXPECT_EQ(window_->clipboard_text(), "Größe");
 }
 
 TEST_F(Windows, ClosingTheWindowIsTold) {
