@@ -70,11 +70,13 @@ TEST_F(RingActions, TurningEndsWhenTheBackgroundHasFaded) {
   EXPECT_FALSE(ring.indeterminate());
   EXPECT_TRUE(animates(ring.backgroundLayer(), "Hide"_ns));
   EXPECT_TRUE(animates(ring.backgroundLayer(), "rotationAnimation"_ns));
-  const CGPathRef gap = ring.backgroundLayer().path();
+  // Held, or the next path could be made where this one was.
+  const CGPathRef gap = CGPathRetain(ring.backgroundLayer().path());
 
   advance(0.5);
   EXPECT_FALSE(animates(ring.backgroundLayer(), "rotationAnimation"_ns));
   EXPECT_NE(ring.backgroundLayer().path(), gap);
+  CGPathRelease(gap);
   EXPECT_TRUE(animates(ring.backgroundLayer(), "Hide"_ns));
   EXPECT_FALSE(loop.wants_frames());
 }

@@ -165,11 +165,13 @@ TEST_F(RingProgress, EveryFrameAsksForDrawing) {
 
   ring.animateProgress(ring.displayLink());
   loop.run_ready();
-  const CGPathRef path = ring.progressLayer().path();
+  // Held, or the next path could be made where this one was.
+  const CGPathRef path = CGPathRetain(ring.progressLayer().path());
   advance(0.05);
   show(ring);
 
   EXPECT_NE(ring.progressLayer().path(), path);
+  CGPathRelease(path);
 }
 
 TEST_F(RingProgress, ADurationOfZeroArrivesWithTheNextFrame) {
