@@ -1,21 +1,27 @@
 #include "objc/autorelease_pool.h"
+#include "tweak/appearance/appearance.h"
+#include "tweak/banner/banner.h"
 #include "tweak/device.h"
 #include "tweak/gesture_listener.h"
 #include "tweak/globals.h"
 #include "tweak/library/album_slide.h"
+#include "tweak/library/album_songs.h"
 #include "tweak/library/album_table.h"
+#include "tweak/library/album_zoom.h"
 #include "tweak/library/scroller.h"
+#include "tweak/library/search.h"
 #include "tweak/library/song_list.h"
 #include "tweak/method.h"
 #include "tweak/movement/drag.h"
 #include "tweak/movement/present.h"
-#include "tweak/not_yet.h"
 #include "tweak/playback/icon_watch.h"
 #include "tweak/playback/now_playing.h"
+#include "tweak/playback/share.h"
 #include "tweak/playback/transport.h"
 #include "tweak/preferences.h"
 #include "tweak/start_up.h"
 #include "tweak/system_events.h"
+#include "ui/UIImageAverageColorAddition.h"
 
 // The table of what the extension adds to the home screen, and the way it comes in: everything
 // starts from the load of this library.
@@ -28,17 +34,17 @@ namespace {
 void add_methods() {
   const MethodRow rows[] = {
       row<&deviceNumber>("deviceNumber"),
-      row<&not_yet<"tweet">>("tweet"),
-      row<&not_yet_with<"zoomInAlbum:">>("zoomInAlbum:"),
-      row<&not_yet_with<"zoomOutAlbum:">>("zoomOutAlbum:"),
-      row<&not_yet_with<"playSongInAlbum:">>("playSongInAlbum:"),
-      row<&not_yet_with<"presentBanner:">>("presentBanner:"),
-      row<&not_yet<"showBanner">>("showBanner"),
-      row<&not_yet<"dismissBanner">>("dismissBanner"),
-      row<&not_yet_with<"textDidChange:">>("textDidChange:"),
-      row<&not_yet_with<"textFieldDidBeginEditing:">>("textFieldDidBeginEditing:"),
-      row<&not_yet_with<"textFieldDidEndEditing:">>("textFieldDidEndEditing:"),
-      row<&not_yet_asked<"textFieldShouldReturn:">>("textFieldShouldReturn:"),
+      row<&tweet>("tweet"),
+      row<&zoomInAlbum>("zoomInAlbum:"),
+      row<&zoomOutAlbum>("zoomOutAlbum:"),
+      row<&playSongInAlbum>("playSongInAlbum:"),
+      row<&presentBanner>("presentBanner:"),
+      row<&showBanner>("showBanner"),
+      row<&dismissBanner>("dismissBanner"),
+      row<&textDidChange>("textDidChange:"),
+      row<&textFieldDidBeginEditing>("textFieldDidBeginEditing:"),
+      row<&textFieldDidEndEditing>("textFieldDidEndEditing:"),
+      row<&textFieldShouldReturn>("textFieldShouldReturn:"),
       row<&showTable>("showTable"),
       row<&dismisWithNoAction>("dismisWithNoAction"),
       row<&gesture_should_receive_touch>("gestureRecognizer:shouldReceiveTouch:"),
@@ -49,7 +55,7 @@ void add_methods() {
       row<&playNextSong>("playNextSong"),
       row<&change>("change:"),
       row<&changePreferences>("changePreferences"),
-      row<&not_yet<"changesPrefs">>("changesPrefs"),
+      row<&changesPrefs>("changesPrefs"),
       row<&infoMusic>("infoMusic"),
       row<&Loping1>("Loping1"),
       row<&sposta>("sposta:"),
@@ -67,6 +73,7 @@ void add_methods() {
 void make_classes() {
   make_progress_view();
   make_progress_view_ring();
+  make_average_color_addition();
   make_song_list_source();
   make_album_table_source();
   make_scroller();

@@ -14,11 +14,37 @@ void receive_event(SVActivatorListener, LAActivator, LAEvent) {
   objc::send<>(Spring, "showBanner"_sel);
 }
 
+// One picture for every size and scale.
+UIImage icon(SVActivatorListener, LAActivator, NSString, CGFloat) {
+  return UIImage::imageWithContentsOfFile(
+      "/Library/PreferenceBundles/SonavueSettings.bundle/SonavueSettingsIcon@2x.png"_ns);
+}
+
+NSString group(SVActivatorListener, LAActivator, NSString) {
+  return nil;
+}
+NSString title_text(SVActivatorListener, LAActivator, NSString) {
+  return "Sonavue"_ns;
+}
+NSString description_text(SVActivatorListener, LAActivator, NSString) {
+  return "Present/Dimiss Sonavue"_ns;
+}
+NSArray compatible_modes(SVActivatorListener, LAActivator, NSString) {
+  return NSArray::arrayWithObjects("springboard"_ns, "lockscreen"_ns, "application"_ns);
+}
+
 }  // namespace
 
 void make_gesture_listener() {
   objc::ClassBuilder("SVActivatorListener", "NSObject")
+      .protocol("LAListener")
       .method<&receive_event>("activator:receiveEvent:")
+      .method<&icon>("activator:requiresIconForListenerName:scale:")
+      .method<&icon>("activator:requiresSmallIconForListenerName:scale:")
+      .method<&group>("activator:requiresLocalizedGroupForListenerName:")
+      .method<&title_text>("activator:requiresLocalizedTitleForListenerName:")
+      .method<&description_text>("activator:requiresLocalizedDescriptionForListenerName:")
+      .method<&compatible_modes>("activator:requiresCompatibleEventModesForListenerWithName:")
       .finish();
 }
 

@@ -37,6 +37,7 @@
   X(BOOL, added, NO)                                                                            \
   X(BOOL, isShow, NO)                                                                           \
   X(BOOL, isBanner, NO)                                                                         \
+  X(BOOL, showed, NO)                                                                           \
   X(BOOL, isGrabbing, NO)                                                                       \
   X(BOOL, isSearching, NO)                                                                      \
   X(BOOL, changeTrack, NO)                                                                      \
@@ -52,9 +53,17 @@
   X(CGPoint, startPoint, {})                                                                    \
   X(CGPoint, endPoint, {})                                                                      \
   X(CGRect, firstPos, {})                                                                       \
+  X(float, firstPosBanner, 0)                                                                   \
   X(float, firstPlay1, 0)                                                                       \
   X(float, firstBack1, 0)                                                                       \
   X(float, firstNext1, 0)                                                                       \
+  X(float, firstContainer1, 0)                                                                  \
+  X(CGRect, firstMusic, {})                                                                     \
+  X(CGRect, firstMusicIcon, {})                                                                 \
+  /* Where a zoomed album goes back to: its tile, picture and title. */                         \
+  X(CGRect, oldPos, {})                                                                         \
+  X(CGRect, oldPosIcon, {})                                                                     \
+  X(CGRect, oldPosLbl, {})                                                                      \
   /* The view tree. */                                                                          \
   X(UIWindow, window, {})                                                                       \
   X(UIWindow, locationWindow, {})                                                               \

@@ -37,7 +37,7 @@ TEST_P(Dismissal, HomeSlidesTheTableFadesTheContentAndTakesTheIconHome) {
   show_album_table();
   springboard::press_home();
   advance(0);
-  EXPECT_EQ(frame("blurTable").origin.x, frame("blurTable").size.width);
+  EXPECT_DOUBLE_EQ(frame("blurTable").origin.x, frame("blurTable").size.width);
   EXPECT_EQ(alpha("container"), 1);
   EXPECT_THAT(seconds_until([this] { return alpha("container") == 0; }), IsSoonAfter(kTableSlide));
   EXPECT_EQ(alpha("cover"), 1);

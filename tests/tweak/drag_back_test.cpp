@@ -1,8 +1,10 @@
 #include "tests/tweak/drag_test.h"
+#include "tests/tweak/method_spy.h"
 
 namespace host::test {
 namespace {
 
+constexpr double kTableSlide = 0.2;
 constexpr double kGlide = 0.1f;
 constexpr double kIconTravel = 0.5;
 constexpr double kContentFade = 0.7;
@@ -71,14 +73,16 @@ TEST_P(DragBack, AMovingReleaseGlidesFirstWithTheTwin) {
   for (int step = 0; step < 10; ++step)
     move_by(1, 5);
   const CGPoint before = frame("music").origin;
+  MethodSpy<"setAlpha:", void(UIImageView, CGFloat)> faded(UIImageView::cls());
   lift();
   const CGPoint after = frame("music").origin;
   EXPECT_GT(after.y, before.y + 20);
   EXPECT_LT(after.y, before.y + 40);
   EXPECT_GT(after.x, before.x + 3);
   EXPECT_THAT(icon_on_screen().origin, IsNear(after));
-  EXPECT_THAT(alpha("cover"),
-              IsNear(std::min(1.0, (screen().height - after.y) / (0.75 * screen().height))));
+  // Not cut at 1, which is exceeded near the top.
+  EXPECT_THAT(std::get<0>(faded.last()),
+              IsNear((screen().height - after.y) / (0.75 * screen().height)));
   EXPECT_THAT(seconds_until([this] { return !is("isShow"); }), IsSoonAfter(kGlide + kIconTravel));
   expect_closed();
 }
@@ -90,6 +94,15 @@ TEST_P(DragBack, AReleaseFurtherUpTheScreenClosesToo) {
   lift();
   settle();
   expect_closed();
+}
+
+TEST_P(DragBack, TheAlbumTableSlidesAsideBeforeTheContentFades) {
+  const CGFloat width = frame("blurTable").size.width;
+  view("blurTable").setFrame({{0, 0}, frame("blurTable").size});
+  begin_drag_back();
+  EXPECT_THAT(frame("blurTable").origin, IsNear(CGPoint{width, 0}));
+  EXPECT_EQ(alpha("container"), 1);
+  EXPECT_THAT(seconds_until([this] { return alpha("container") == 0; }), IsSoonAfter(kTableSlide));
 }
 
 class DragBackOnAPage : public PanelTest {
@@ -106,7 +119,9 @@ TEST_F(DragBackOnAPage, TheContentFadesOutBehindAWindowThatTakesNoTouches) {
   EXPECT_FALSE(view("window").isUserInteractionEnabled());
   EXPECT_TRUE(is("isShow"));
   EXPECT_THAT(seconds_until([this] { return alpha("container") == 0; }), IsSoonAfter(0));
-  advance(kContentFade);
+  const auto shown = [this] { return view("container").layer().presentationLayer().opacity(); };
+  EXPECT_GT(shown(), 0.9);
+  EXPECT_NEAR(seconds_until([&] { return shown() == 0; }), kContentFade, 1.5 * RunLoop::kFrame);
   EXPECT_TRUE(is("isShow"));
   EXPECT_FALSE(view("music").isHidden());
 }

@@ -53,6 +53,15 @@ TEST_F(IconWatch, RearrangingTakesTheDragAwayAndItsEndBringsItBack) {
   EXPECT_TRUE(is("added"));
 }
 
+TEST_F(IconWatch, AnIconThatTakesNoTouchesTakesThemWithTheDrag) {
+  launch();
+  music_icon().setUserInteractionEnabled(NO);
+  global<BOOL>("added") = NO;
+  advance(kTick);
+  EXPECT_TRUE(has_drag());
+  EXPECT_TRUE(music_icon().isUserInteractionEnabled());
+}
+
 int living_pans = 0;
 objc::Imp alloc_before = nullptr;
 objc::Imp dealloc_before = nullptr;
@@ -115,11 +124,25 @@ TEST_F(IconWatch, AnIconOfAnotherApplicationIsGivenUpForTheRightOne) {
   other.addGestureRecognizer(foreign);
   foreign.release();
   global<SBIconView>("musicIcon") = other;
+  global<BOOL>("added") = NO;
   advance(kTick);
   EXPECT_EQ(other.gestureRecognizers().count(), 0u);
   EXPECT_EQ(music_icon(), music);
   EXPECT_TRUE(has_drag());
   EXPECT_TRUE(is("added"));
+}
+
+TEST_F(IconWatch, ARightIconThatIsInAFolderGetsNoDrag) {
+  launch();
+  ASSERT_TRUE(springboard::move_to_folder(kMusic));
+  settle();
+  global<SBIconView>("musicIcon") = icon_view(kCalendar);
+  global<BOOL>("added") = YES;
+  MethodSpy<"addGestureRecognizer:", void(SBIconView, objc::Object)> attached(SBIconView::cls());
+  objc::send<>(application, "Loping1"_sel);
+  EXPECT_EQ(music_icon(), icon_view(kMusic));
+  EXPECT_FALSE(is("added"));
+  EXPECT_EQ(attached.count(), 0);
 }
 
 TEST_F(IconWatch, AnUninstalledApplicationIsLoggedAtEveryTickAndChangesNothing) {

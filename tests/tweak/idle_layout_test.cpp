@@ -4,6 +4,7 @@ namespace host::test {
 namespace {
 
 constexpr CGFloat kLift = 45;
+constexpr float kLiftOfRest = 45;
 constexpr double kChange = 0.3;
 constexpr const char* kControls[] = {"play", "back", "next"};
 
@@ -69,6 +70,31 @@ TEST_F(IdleLayout, RestingPlacesFollowWhenTheChangeIsDone) {
     EXPECT_EQ(global<float>(place), 100) << place;
 }
 
+TEST_F(IdleLayout, TheChangeTakesItsTimeBothWays) {
+  const auto refresh = [this] { objc::send<>(application, "infoMusic"_sel); };
+  const auto resting = [this] { return global<float>("firstPlay1"); };
+  play("Alpha");
+  settle();
+  for (const float rest : {0.0f, kLiftOfRest}) {
+    media().togglePlayPause();
+    refresh();
+    EXPECT_THAT(seconds_until([&] { return resting() == rest; }), IsSoonAfter(kChange));
+  }
+}
+
+TEST_F(IdleLayout, AWindowOnItsWayOnlyShowsAndHidesTheTexts) {
+  const CGRect half_way{0, -300, screen().width, screen().height};
+  view("window").setFrame(half_way);
+  play("Alpha");
+  EXPECT_EQ(alpha("container1"), 1);
+  EXPECT_EQ(frame("window"), half_way);
+  expect_controls_lowered_by(0);
+  stop_playing();
+  EXPECT_EQ(alpha("container1"), 0);
+  EXPECT_EQ(frame("window"), half_way);
+  expect_controls_lowered_by(0);
+}
+
 TEST_F(IdleLayout, AHangingBannerChangesItsHeightInsteadOfItsControls) {
   const CGFloat height = screen().height;
   global<BOOL>("isBanner") = YES;
@@ -77,7 +103,9 @@ TEST_F(IdleLayout, AHangingBannerChangesItsHeightInsteadOfItsControls) {
   EXPECT_THAT(frame("window"),
               IsNear(CGRect{0, 50 + 25 + 15 + 60 - height, screen().width, height}));
   expect_controls_lowered_by(0);
+  EXPECT_EQ(alpha("container1"), 1);
   stop_playing();
+  EXPECT_EQ(alpha("container1"), 0);
   EXPECT_THAT(frame("window"), IsNear(CGRect{0, 50 + 25 + 15 - height, screen().width, height}));
   expect_controls_lowered_by(0);
 }

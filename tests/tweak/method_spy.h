@@ -32,6 +32,7 @@ class MethodSpy<Selector, Result(Self, Arguments...)> {
 
   int count() const { return static_cast<int>(calls_.size()); }
   const Call& last() const { return calls_.back(); }
+  const std::vector<Call>& calls() const { return calls_; }
 
  private:
   static Result heard(Self self, Arguments... arguments) {

@@ -1,3 +1,6 @@
+#include <algorithm>
+
+#include "platform/MediaPlayerUI/MPUNowPlayingController.h"
 #include "platform/UIKit/UIButton.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UITableView.h"
@@ -25,12 +28,17 @@ class NowPlaying : public PanelTest {
   }
   void refresh() { objc::send<>(application, "infoMusic"_sel); }
 
-  /// Which file's picture was last made while `act` ran; empty when none was.
+  /// Which of the button's pictures was last loaded while `act` ran; empty when none was.
   std::string picture_loaded_by(const std::function<void()>& act) {
     MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded(
         objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls())));
     act();
-    return loaded.count() == 0 ? "" : text(std::get<0>(loaded.last()));
+    std::string last;
+    for (const auto& [path] : loaded.calls()) {
+      const std::string file = text(path);
+      if (file == kPlayPicture || file == kPausePicture) last = file;
+    }
+    return last;
   }
   std::string picture_for(int state) {
     global<int>("playbackState") = state;
@@ -147,6 +155,32 @@ TEST_F(NowPlaying, ThePlayingSongIsSelectedAndMissingFromItsAlbum) {
   EXPECT_THAT(titles("songArtist"), ::testing::IsEmpty());
 }
 
+TEST_F(NowPlaying, ASongOfTheSameNameIsTakenForThePlayingOneOnlyByItsArtistAndAlbum) {
+  const auto song = [](const char* artist, const char* album) {
+    media::SongTags tags;
+    tags.title = "Alpha";
+    tags.artist = artist;
+    tags.album = album;
+    return tags;
+  };
+  add_song("same album", song("Yves", "One"));
+  add_song("same artist", song("Xenia", "Two"));
+  launch();
+  const auto songs = titles("songItems");
+  ASSERT_EQ(std::count(songs.begin(), songs.end(), "Alpha"), 3);
+  NSInteger row = 0;
+  for (const auto item : global<NSMutableArray>("songItems").of<MPMediaItem>()) {
+    if (songs.at(static_cast<std::size_t>(row)) == "Alpha") {
+      play(item);
+      EXPECT_EQ(selected_row(), row) << sounding();
+      EXPECT_FALSE(global<NSMutableArray>("songArtist").containsObject(item)) << sounding();
+      const bool of_one = text(media().nowPlayingAlbum()) == "One";
+      EXPECT_EQ(titles("songArtist").size(), of_one ? 3u : 1u) << sounding();
+    }
+    ++row;
+  }
+}
+
 TEST_F(NowPlaying, ASongOfNoAlbumMatchesNothing) {
   launch();
   play("Echo");
@@ -189,6 +223,8 @@ class RingInTime : public NowPlaying {
 
 TEST_F(RingInTime, GoesOnBySecondsAndStopsAtTheWhole) {
   play("Bravo");
+  // Half a second behind each refresh the ring has come to rest.
+  advance(0.5);
   const float start = progress();
   for (int second = 1; second <= 5; ++second) {
     advance(1);
@@ -198,6 +234,23 @@ TEST_F(RingInTime, GoesOnBySecondsAndStopsAtTheWhole) {
   global<double>("elapsed") = kSongSeconds - 0.5;
   advance(1);
   EXPECT_EQ(progress(), 1);
+}
+
+TEST_F(RingInTime, TheSystemsNewsCorrectsTheCount) {
+  play("Bravo");
+  advance(5);
+  media().togglePlayPause();
+  advance(0.1);
+  media().togglePlayPause();
+  const double reported = global<MPUNowPlayingController>("nowPlayingController").currentElapsed();
+  ASSERT_NE(reported, global<double>("lastElapsed"));
+  global<double>("elapsed") = kSongSeconds - 10;
+  MethodSpy<"setProgress:animated:", void(UIView, float, BOOL)> moved(
+      objc::class_of(view("ring").id()));
+  refresh();
+  EXPECT_EQ(global<double>("elapsed"), reported);
+  ASSERT_EQ(moved.count(), 1);
+  EXPECT_EQ(moved.last(), std::tuple(static_cast<float>(reported / kSongSeconds), YES));
 }
 
 TEST_F(RingInTime, IsLeftToTheVolumeOtherwise) {

@@ -5,12 +5,15 @@
 #include <cstring>
 #include <fstream>
 
+#include "host/activator/exports.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
 #include "host/launcher/device_root.h"
 #include "host/media_player/exports.h"
 #include "host/media_player/media_service.h"
+#include "host/social/exports.h"
+#include "host/uikit/text/text_view.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::test {
@@ -53,11 +56,15 @@ PanelTest::PanelTest(std::string_view model) : PanelTest(*device_model(model)) {
 PanelTest::PanelTest(const DeviceModel& model) : PhoneTest(model) {
   foundation::take_foundation_log();
   media_player::export_media_player();
+  uikit::export_text_view();
+  social::export_social();
+  activator::export_activator();
   foundation::set_device_root(device.string());
   const launcher::StagingSource staging{SONAVUE_STAGING, {}};
   auto problem = launcher::prepare_device_root(device);
   if (!problem) problem = launcher::stage(staging, device, {});
   if (problem) throw std::runtime_error(*problem);
+  write_preferences("");
 }
 
 PanelTest::~PanelTest() {
@@ -67,9 +74,30 @@ PanelTest::~PanelTest() {
 }
 
 void PanelTest::write_preferences(std::string_view entries) const {
+  const bool chooses = entries.find("<key>enable</key>") != entries.npos;
   std::ofstream(preferences_file())
-      << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>" << entries
-      << "</dict></plist>\n";
+      << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
+      << (chooses ? "" : "<key>enable</key><true/>") << entries << "</dict></plist>\n";
+}
+
+objc::Imp PanelTest::silence(objc::Sel selector) {
+  const auto do_nothing = [](objc::Id, objc::Sel) {};
+  return method_setImplementation(
+      class_getInstanceMethod(SpringBoard::cls(), selector),
+      reinterpret_cast<objc::Imp>(static_cast<void (*)(objc::Id, objc::Sel)>(do_nothing)));
+}
+
+void PanelTest::use_no_preferences() const {
+  std::filesystem::remove(preferences_file());
+}
+
+void PanelTest::add_song(const std::string& file, const media::SongTags& tags,
+                         const std::vector<std::uint8_t>& jpeg) const {
+  media_tests::write_song(songs_ / (file + ".flac"), tags, jpeg, kSongSeconds);
+}
+
+void PanelTest::add_cloud_song(const std::string& file, const std::string& entry) const {
+  media_tests::write_bytes(songs_ / (file + ".cloud.toml"), entry);
 }
 
 void PanelTest::write_songs() const {
@@ -130,7 +158,8 @@ CGFloat PanelTest::icon_offset() const {
 }
 
 CGPoint PanelTest::middle_of(UIView view) const {
-  return view.convertPointToView(view.bounds().centre(), nil);
+  const CGPoint in_window = view.convertPointToView(view.bounds().centre(), nil);
+  return view.window().convertPointToWindow(in_window, nil);
 }
 
 void PanelTest::hold(CGPoint point) {
@@ -172,9 +201,13 @@ double PanelTest::seconds_until(const std::function<bool()>& condition, double l
 }
 
 void PanelTest::play(const char* title) {
+  play(item_named(title));
+}
+
+void PanelTest::play(MPMediaItem item) {
   const auto player = MPMusicPlayerController::iPodMusicPlayer();
   player.setQueueWithQuery(global<MPMediaQuery>("fullList"));
-  player.setNowPlayingItem(item_named(title));
+  player.setNowPlayingItem(item);
   player.prepareToPlay();
   player.play();
   // Long enough for the refresh of every second to see it.

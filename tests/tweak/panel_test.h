@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/console/globals.h"
+#include "host/media/song_tags.h"
 #include "objc/encoding.h"
 #include "platform/MediaPlayer/MPMediaItem.h"
 #include "platform/MediaPlayer/MPMusicPlayerController.h"
@@ -34,12 +35,22 @@ class PanelTest : public PhoneTest {
 
   // Before the launch.
 
-  /// The preferences file: the entries of its dictionary, as XML.
+  /// The preferences file: the entries of its dictionary, as XML. The drag of the icon is on, as
+  /// it is without a call of this, unless they switch it.
   void write_preferences(std::string_view entries) const;
+  void use_no_preferences() const;
   void use_no_songs() { has_songs_ = false; }
+  /// A song besides the five; `file` is the name of its file, without the ending.
+  void add_song(const std::string& file, const media::SongTags& tags,
+                const std::vector<std::uint8_t>& jpeg = {}) const;
+  /// A song that lies in the cloud; `entry` says what is known of it, as TOML.
+  void add_cloud_song(const std::string& file, const std::string& entry) const;
   /// Starts the music and loads the extension, so that a test can listen before the launch.
   void load_extension();
   void launch();
+  /// From now on the home screen's method of that name, which takes nothing, does nothing. Gives
+  /// what it did before.
+  static objc::Imp silence(objc::Sel selector);
 
   // The extension's state.
 
@@ -80,6 +91,7 @@ class PanelTest : public PhoneTest {
   SBMediaController media() const { return SBMediaController::sharedInstance(); }
   /// Starts a song the way the system's own Music application does.
   void play(const char* title);
+  void play(MPMediaItem item);
   /// The file that the playing engine holds, without its ending; empty when it holds none.
   std::string sounding() const;
   bool is_engine_paused() const;

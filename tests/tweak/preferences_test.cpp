@@ -45,6 +45,7 @@ class Preferences : public PanelTest {
 };
 
 TEST_F(Preferences, TheFirstPollMakesTheFileWithItsMarkAlone) {
+  use_no_preferences();
   launch();
   EXPECT_TRUE(is_marked_alone());
   EXPECT_EQ(polled_changes(), 1);
@@ -53,12 +54,10 @@ TEST_F(Preferences, TheFirstPollMakesTheFileWithItsMarkAlone) {
 }
 
 TEST_F(Preferences, DefaultsHoldOnlyWhileThereIsNoFile) {
+  use_no_preferences();
   load();
   // Without the poll there is no file.
-  const auto poll = class_getInstanceMethod(SpringBoard::cls(), "changePreferences"_sel);
-  const auto do_nothing = [](objc::Id, objc::Sel) {};
-  const objc::Imp before = method_setImplementation(
-      poll, reinterpret_cast<objc::Imp>(static_cast<void (*)(objc::Id, objc::Sel)>(do_nothing)));
+  const objc::Imp before = silence("changePreferences"_sel);
   PhoneTest::launch();
   const auto cover = global<UIImageView>("cover");
   ASSERT_FALSE(std::filesystem::exists(preferences_file()));
@@ -66,7 +65,8 @@ TEST_F(Preferences, DefaultsHoldOnlyWhileThereIsNoFile) {
   play("Alpha");
   EXPECT_TRUE(cover.image());
   // With the first poll the same keys are simply missing.
-  method_setImplementation(poll, before);
+  method_setImplementation(class_getInstanceMethod(SpringBoard::cls(), "changePreferences"_sel),
+                           before);
   advance(1.2);
   ASSERT_TRUE(std::filesystem::exists(preferences_file()));
   EXPECT_TRUE(global<UIImageView>("art").image());
@@ -95,7 +95,8 @@ TEST_F(Preferences, AFileWithoutTheMarkCountsAsChanged) {
   write_preferences("<key>blur</key><string>dark</string>");
   launch();
   EXPECT_EQ(polled_changes(), 1);
-  EXPECT_EQ(file().count(), 2u);
+  EXPECT_EQ(file().count(), 3u);
+  EXPECT_TRUE(objc::cast<NSNumber>(file().objectForKey("enable"_ns)).boolValue());
   EXPECT_TRUE(objc::cast<NSNumber>(file().objectForKey("checked"_ns)).boolValue());
   EXPECT_EQ(text(file().objectForKey("blur"_ns)), "dark");
   advance(1);
@@ -111,7 +112,7 @@ TEST_F(Preferences, TwoChangesWithinOneIntervalAreAppliedTogether) {
   write_preferences("<key>square</key><true/><key>cloud</key><true/><key>checked</key><false/>");
   advance(1);
   EXPECT_EQ(polled_changes(), before + 1);
-  EXPECT_EQ(file().count(), 3u);
+  EXPECT_EQ(file().count(), 4u);
 }
 
 TEST_F(Preferences, ChangesOfTwoIntervalsAreAppliedTwice) {
@@ -149,6 +150,7 @@ TEST_F(Preferences, OtherThanSwitchesAndTextsAreNeither) {
 }
 
 TEST_F(Preferences, ADirectoryInTheFilesPlaceIsLivedWith) {
+  use_no_preferences();
   std::filesystem::create_directory(preferences_file());
   launch();
   advance(1);
@@ -156,7 +158,11 @@ TEST_F(Preferences, ADirectoryInTheFilesPlaceIsLivedWith) {
   EXPECT_EQ(alpha_of_tint(), 1);
   // It never becomes a marked file, so every poll takes it as changed.
   EXPECT_GE(polled_changes(), 10);
-  open_panel();
+  // Nothing switches the drag on, and the rest of the panel works.
+  EXPECT_FALSE(is("enabled"));
+  objc::send<>(application, "present"_sel);
+  settle();
+  EXPECT_TRUE(is("isShow"));
 }
 
 /// Somebody whom file permissions bind, as long as it lives: the superuser reads everything.
@@ -198,7 +204,7 @@ TEST_F(Preferences, ThePollKeepsTextsOfEveryScript) {
       "<key>note</key><string>日本語 Ελληνικά 🎵 &lt;&amp;&gt;</string>"
       "<key>clé</key><true/>");
   launch();
-  EXPECT_EQ(file().count(), 4u);
+  EXPECT_EQ(file().count(), 5u);
   EXPECT_EQ(text(file().objectForKey("blur"_ns)), "scuro però più chiaro");
   EXPECT_EQ(text(file().objectForKey("note"_ns)), "日本語 Ελληνικά 🎵 <&>");
   EXPECT_TRUE(objc::cast<NSNumber>(file().objectForKey("clé"_ns)).boolValue());

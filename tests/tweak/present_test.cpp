@@ -112,6 +112,26 @@ TEST_F(Present, OpeningSendsTheControlCentreAwayOnceItIsDone) {
   EXPECT_EQ(std::get<0>(dismissed.last()), YES);
 }
 
+TEST_F(Present, TheTwinIsShownInAWindowThatCoversTheScreenAndTakesTouches) {
+  launch();
+  view("window").setFrame({0, -50, screen().width, screen().height});
+  view("window").setUserInteractionEnabled(NO);
+  objc::send<>(application, "present"_sel);
+  EXPECT_EQ(frame("window"), (CGRect{0, 0, screen().width, screen().height}));
+  EXPECT_FALSE(view("music").isHidden());
+  EXPECT_TRUE(view("window").isUserInteractionEnabled());
+}
+
+TEST_F(Present, TheBannerLeavesTheIconInItsSlotWithTheTwinOverIt) {
+  launch();
+  const CGRect home = music_icon().frame();
+  global<BOOL>("isBanner") = YES;
+  objc::send<>(application, "present"_sel);
+  settle();
+  EXPECT_EQ(music_icon().frame(), home);
+  EXPECT_THAT(frame("music").origin, IsNear(CGPoint{home.origin.x, home.origin.y + icon_offset()}));
+}
+
 TEST_F(Present, ARearrangedHomeScreenIsNotOpenedOver) {
   launch();
   springboard::set_editing(true);

@@ -45,6 +45,8 @@ TEST_F(SystemEvents, TheHomeButtonDoesNotReachTheHomeScreenBehindABanner) {
   settle();
   EXPECT_EQ(SBIconController::sharedInstance().currentIconListIndex(), 1);
   EXPECT_EQ(sent_away.count(), 1);
+  EXPECT_FALSE(is("isBanner"));
+  global<BOOL>("isBanner") = YES;
   EXPECT_EQ(controller().handleMenuDoubleTap(), YES);
   settle();
   EXPECT_EQ(sent_away.count(), 2);

@@ -1,8 +1,11 @@
 #include "platform/UIKit/UITableView.h"
+#include "tests/tweak/method_spy.h"
 #include "tests/tweak/panel_test.h"
 
 namespace host::test {
 namespace {
+
+constexpr double kTableSlide = 0.2;
 
 class Transport : public PanelTest {
  protected:
@@ -59,6 +62,37 @@ TEST_F(Transport, TheQueueIsTheWholeLibraryAgain) {
   EXPECT_EQ(sounding(), "Delta");
 }
 
+TEST_F(Transport, ATrackChangeQueuesTheLibraryBeforeItPlaysTheRow) {
+  std::vector<std::string> heard;
+  const auto player = MPMusicPlayerController::cls();
+  const MethodSpy<"togglePlayPause", BOOL(SBMediaController)> toggled(SBMediaController::cls(),
+                                                                      &heard);
+  const MethodSpy<"setQueueWithQuery:", void(MPMusicPlayerController, objc::Object)> queued(player,
+                                                                                            &heard);
+  const MethodSpy<"prepareToPlay", void(MPMusicPlayerController)> prepared(player, &heard);
+  const MethodSpy<"play", void(MPMusicPlayerController)> played(player, &heard);
+  const MethodSpy<"setNowPlayingItem:", void(MPMusicPlayerController, objc::Object)> chosen(player,
+                                                                                            &heard);
+  const std::vector<std::string> steps = {
+      "setQueueWithQuery:", "prepareToPlay", "play", "setQueueWithQuery:",
+      "setNowPlayingItem:", "prepareToPlay", "play"};
+  tap_on(view("next"));
+  EXPECT_EQ(heard, steps);
+  for (const auto& [query] : queued.calls())
+    EXPECT_EQ(query, global<MPMediaQuery>("fullList"));
+  wait_for_the_lock();
+
+  // A player that does not play is started first.
+  tap_on(view("play"));
+  ASSERT_FALSE(media().isPlaying());
+  heard.clear();
+  tap_on(view("back"));
+  ASSERT_FALSE(heard.empty());
+  EXPECT_EQ(heard.front(), "togglePlayPause");
+  heard.erase(heard.begin());
+  EXPECT_EQ(heard, steps);
+}
+
 TEST_F(Transport, ATapOnAButtonDoesNotCloseThePanel) {
   for (const char* button : {"play", "back", "next"}) {
     tap_on(view(button));
@@ -80,8 +114,12 @@ TEST_F(Transport, APausedPlayerPlaysOnWithTheNextSong) {
 TEST_F(Transport, PlaySlidesTheAlbumTableAside) {
   const UIView table = view("blurTable");
   table.setFrame({0, 0, table.frame().size.width, table.frame().size.height});
+  const auto shown = [&] { return table.layer().presentationLayer().frame().origin.x; };
   tap_on(view("play"));
   EXPECT_EQ(table.frame().origin, (CGPoint{table.frame().size.width, 0}));
+  EXPECT_LT(shown(), table.frame().size.width / 2);
+  EXPECT_NEAR(seconds_until([&] { return is_near(shown(), table.frame().size.width); }),
+              kTableSlide, 1.5 * RunLoop::kFrame);
 }
 
 TEST_F(Transport, TheEndOfTheLockSlidesTheAlbumTableAside) {
@@ -129,6 +167,38 @@ TEST_F(TransportAtTheLastSong, NextGoesRoundToTheFirst) {
   tap_on(view("next"));
   EXPECT_EQ(sounding(), "Alpha");
   EXPECT_FALSE(is_engine_paused());
+}
+
+class TransportWithNoRowSelected : public Transport {
+  // A song of no album selects no row.
+  void SetUp() override { open_with("Echo"); }
+
+ protected:
+  NSIndexPath selection() const {
+    return global<UITableView>("tableView").indexPathForSelectedRow();
+  }
+};
+
+TEST_F(TransportWithNoRowSelected, NextPlaysTheSecondSong) {
+  ASSERT_FALSE(selection());
+  tap_on(view("next"));
+  EXPECT_EQ(sounding(), "Bravo");
+}
+
+TEST_F(TransportWithNoRowSelected, BackPlaysTheLastSong) {
+  global<NSMutableArray>("songItems").removeLastObject();
+  ASSERT_FALSE(selection());
+  tap_on(view("back"));
+  EXPECT_EQ(sounding(), "Delta");
+}
+
+TEST_F(TransportWithNoRowSelected, NextInAListOfOneSongPlaysIt) {
+  const auto songs = global<NSMutableArray>("songItems");
+  while (songs.count() > 1)
+    songs.removeLastObject();
+  ASSERT_FALSE(selection());
+  tap_on(view("next"));
+  EXPECT_EQ(sounding(), "Alpha");
 }
 
 class TransportWithoutMusic : public PanelTest {};

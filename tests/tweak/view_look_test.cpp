@@ -1,4 +1,5 @@
 #include "platform/CoreGraphics/CGColor.h"
+#include "platform/CoreGraphics/CGImage.h"
 #include "platform/UIKit/UIButton.h"
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UILabel.h"
@@ -8,14 +9,20 @@
 #include "platform/UIKit/UITextField.h"
 #include "platform/UIKit/UIWindow.h"
 #include "platform/UIKit/_UIBackdropView.h"
+#include "tests/tweak/method_spy.h"
 #include "tests/tweak/panel_test.h"
 
 namespace host::test {
 namespace {
 
+/// The panel as it is built, before any setting is applied.
 class ViewLook : public PanelTest {
  protected:
-  void SetUp() override { launch(); }
+  void SetUp() override {
+    load_extension();
+    silence("changesPrefs"_sel);
+    launch();
+  }
 
   std::vector<UIView> subviews(const char* name) const {
     std::vector<UIView> found;
@@ -47,8 +54,8 @@ class ViewLook : public PanelTest {
 };
 
 TEST_F(ViewLook, TheWindowsViewsAreInTheirOrder) {
-  EXPECT_EQ(subviews("window"), named({"cover", "container", "music", "grabbers"}));
-  EXPECT_EQ(subviews("cover"), named({"main"}));
+  EXPECT_EQ(subviews("window"), named({"cover", "container", "music"}));
+  EXPECT_EQ(subviews("cover"), named({"main", "grabbers"}));
 }
 
 TEST_F(ViewLook, ThePagesViewsAreInTheirOrder) {
@@ -122,6 +129,29 @@ TEST_F(ViewLook, PicturesTakeTheTintOfTheirViews) {
   }
 }
 
+TEST_F(ViewLook, EachPictureIsItsOwn) {
+  const auto pixels = [](UIImage image) {
+    const CFDataRef data = CGDataProviderCopyData(CGImageGetDataProvider(image.CGImage()));
+    const auto bytes = reinterpret_cast<const char*>(CFDataGetBytePtr(data));
+    const std::string copy(bytes, static_cast<std::size_t>(CFDataGetLength(data)));
+    CFRelease(data);
+    return copy;
+  };
+  const auto of_file = [&](NSString name) {
+    return pixels(UIImage::imageWithContentsOfFile(
+        "/Library/Application Support/Sonavue/"_ns.stringByAppendingString(name)));
+  };
+  const auto of_button = [&](const char* name) {
+    return pixels(global<UIButton>(name).imageForState(UIControlStateNormal));
+  };
+  EXPECT_EQ(of_button("play"), of_file("Play.png"_ns));
+  EXPECT_EQ(of_button("back"), of_file("indietro.png"_ns));
+  EXPECT_EQ(of_button("next"), of_file("avanti.png"_ns));
+  EXPECT_NE(of_button("back"), of_button("next"));
+  EXPECT_EQ(pixels(global<UIImageView>("grabs").image()), of_file("grab_dragging@2x.png"_ns));
+  EXPECT_EQ(pixels(global<UIImageView>("search_icon").image()), of_file("search@2x.png"_ns));
+}
+
 TEST_F(ViewLook, TheSearchFieldIsRoundDarkAndSaysSearch) {
   const auto field = global<UITextField>("searchBar");
   EXPECT_EQ(field.layer().cornerRadius(), 5);
@@ -176,6 +206,19 @@ TEST_F(ViewLook, TheListHoldsTheWholeLibrary) {
               ::testing::UnorderedElementsAre("Alpha", "Bravo", "Charlie", "Delta", "Echo"));
   EXPECT_EQ(global<MPMediaQuery>("fullList").items().count(), 5u);
   EXPECT_EQ(global<UITableView>("tableView").numberOfRowsInSection(0), 5);
+}
+
+class BlurAtTheLaunch : public PanelTest {};
+
+TEST_F(BlurAtTheLaunch, IsAskedForByItsNumber) {
+  load_extension();
+  using Settings = _UIBackdropViewSettingsPasscodePaddle;
+  const MethodSpy<"settingsForStyle:", objc::Object(objc::Object, NSInteger)> asked(
+      objc::class_of(reinterpret_cast<objc::Id>(Settings::cls())));
+  PhoneTest::launch();
+  ASSERT_EQ(asked.count(), 2);
+  for (const auto& [style] : asked.calls())
+    EXPECT_EQ(style, 3900);
 }
 
 }  // namespace

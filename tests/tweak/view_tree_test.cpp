@@ -103,9 +103,10 @@ TEST_P(ViewTree, TheListOfSongsIsOnTheSecondPage) {
 }
 
 TEST_P(ViewTree, TheGrabberHangsAboveTheBackdropsBottom) {
+  // On the backdrop, whose middle is the screen's and whose top is the window's.
   EXPECT_EQ(frame("grabbers").origin.y, frame("cover").max_y() - 20);
   const CGSize bar = frame("grabbers").size;
-  EXPECT_EQ(bar.width, width);
+  EXPECT_EQ(bar.width, frame("cover").size.width);
   EXPECT_THAT(frame("grabs"), IsNear(CGRect{(bar.width - 40) / 2, (bar.height - 15) / 2, 40, 15}));
   EXPECT_THAT(frame("top2"), IsNear(CGRect{0, 0, bar.width, 0.5}));
 }
@@ -117,6 +118,37 @@ TEST_P(ViewTree, TheAlbumStripIsOnTheThirdPageWithItsLines) {
   EXPECT_THAT(frame("top1"), IsNear(CGRect{strip.min_x(), strip.min_y(), strip.size.width, 1}));
   EXPECT_THAT(frame("bottom1"),
               IsNear(CGRect{strip.min_x(), strip.max_y() - 1, strip.size.width, 1}));
+}
+
+/// A screen that makes the list of songs shorter, and by how much.
+struct SmallScreen {
+  DeviceModel model;
+  CGFloat shorter;
+};
+
+void PrintTo(const SmallScreen& screen, std::ostream* out) {
+  *out << screen.model.name;
+}
+
+constexpr SmallScreen kSmallScreens[] = {
+    {{"iPhone7,2", "750 pixels wide", 375, 667, 2, false}, 15},
+    {{"iPhone7,1", "1080 pixels wide", 540, 960, 2, false}, 25},
+    {{"iPhone4,1", "no allowance", 320, 480, 2, false}, 15},
+    {{"iPhone4,1", "no allowance and 750 pixels wide", 375, 667, 2, false}, 30},
+    {{"iPhone6,1", "neither", 320, 568, 2, false}, 0},
+};
+
+class SmallScreenList : public PanelTest, public ::testing::WithParamInterface<SmallScreen> {
+ protected:
+  SmallScreenList() : PanelTest(GetParam().model) { use_no_songs(); }
+};
+
+INSTANTIATE_TEST_SUITE_P(, SmallScreenList, ::testing::ValuesIn(kSmallScreens));
+
+TEST_P(SmallScreenList, IsShorterByEachReason) {
+  launch();
+  const CGFloat whole = 2 * frame("container").size.height / 3 + 10;
+  EXPECT_THAT(whole - frame("tableView").size.height, IsNear(GetParam().shorter));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "platform/Foundation/NSSet.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
-#include "tweak/globals.h"
+#include "tweak/library/album_tile.h"
 #include "tweak/library/song_cell.h"
 #include "tweak/movement/geometry.h"
 #include "tweak/panel/pieces.h"
@@ -13,19 +13,16 @@ namespace sonavue {
 namespace {
 
 constexpr int kMusic = 1;
-constexpr CGFloat kGap = 10;
 constexpr CGFloat kPictureInset = 8;
-constexpr CGFloat kPictureCorner = 15;
 constexpr CGFloat kPictureBorder = 2.5;
 constexpr CGSize kPictureSize{120, 120};
 constexpr CGFloat kTitleHeight = 16;
-constexpr CGFloat kTitleSize = 12;
 
 void add_picture(UIView tile, MPMediaItem item, CGFloat side) {
   const CGFloat extent = side - kTitleHeight;
   const auto picture = UIImageView::alloc().initWithFrame({kPictureInset, 0, extent, extent});
   picture.setClipsToBounds(YES);
-  picture.layer().setCornerRadius(kPictureCorner);
+  picture.layer().setCornerRadius(kCoverCorner);
   picture.layer().setBorderWidth(kPictureBorder);
   picture.layer().setBorderColor(UIColor::whiteColor().CGColor());
   picture.setImage(artwork_or_empty(item, kPictureSize));
@@ -34,35 +31,24 @@ void add_picture(UIView tile, MPMediaItem item, CGFloat side) {
 }
 
 void add_title(UIView tile, MPMediaItem item, CGFloat side) {
-  const auto label = UILabel::alloc().initWithFrame({0, side - kTitleHeight, side, kTitleHeight});
-  label.setNumberOfLines(1);
-  label.setTextAlignment(NSTextAlignmentCenter);
+  const UILabel label =
+      make_tile_title({0, side - kTitleHeight, side, kTitleHeight},
+                      objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyAlbumTitle)));
   label.setTextColor(UIColor::whiteColor());
-  label.setFont(UIFont::fontWithName("HelveticaNeue"_ns, kTitleSize));
-  label.setText(objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyAlbumTitle)));
   tile.addSubview(label);
   label.release();
 }
 
-void add_tap(UIView view, SpringBoard self, objc::Sel action) {
-  const auto tap = UITapGestureRecognizer::alloc().initWithTarget(self, action);
-  view.addGestureRecognizer(tap);
-  tap.release();
-}
-
 void add_tile(SpringBoard self, MPMediaItem item, NSString album, NSUInteger index) {
-  const CGFloat side = (albums.frame().size.width - 3 * kGap) * 0.5;
-  const auto column = static_cast<CGFloat>(index % 2);
-  const auto row = static_cast<CGFloat>(index / 2);
-  const UIView tile = UIView::alloc().initWithFrame(
-      {kGap + column * (side + kGap), kGap + row * (side + kGap), side, side});
+  const CGFloat side = grid_side(albums.frame().size.width);
+  const UIView tile = UIView::alloc().initWithFrame(grid_frame(index, side));
   add_picture(tile, item, side);
   add_title(tile, item, side);
   tile.layer().setName(album);
   add_tap(tile, self, "zoomInAlbum:"_sel);
   albums.addSubview(tile);
   tile.release();
-  albums.setContentSize({albums.frame().size.width, tile.frame().max_y() + kGap});
+  albums.setContentSize({albums.frame().size.width, tile.frame().max_y() + kTileGap});
 }
 
 // Empty for what is no music or belongs to no album.
@@ -87,6 +73,21 @@ void make_tiles(SpringBoard self) {
 }
 
 }  // namespace
+
+UILabel make_tile_title(CGRect frame, NSString text) {
+  const auto label = UILabel::alloc().initWithFrame(frame);
+  label.setNumberOfLines(1);
+  label.setTextAlignment(NSTextAlignmentCenter);
+  label.setFont(UIFont::fontWithName(tile_font(), kTileTitleSize));
+  label.setText(text);
+  return label;
+}
+
+void add_tap(UIView view, objc::Object target, objc::Sel action) {
+  const auto tap = UITapGestureRecognizer::alloc().initWithTarget(target, action);
+  view.addGestureRecognizer(tap);
+  tap.release();
+}
 
 void make_album_strip(SpringBoard self) {
   const CGRect list = tableView.frame();

@@ -28,13 +28,19 @@ NSString text_of(MPMediaItem item) {
 
 }  // namespace
 
-UIImage artwork_or_empty(MPMediaItem item, CGSize size) {
-  const auto artwork =
-      objc::cast<MPMediaItemArtwork>(item.valueForProperty(MPMediaItemPropertyArtwork));
-  const UIImage picture = artwork.imageWithSize(size);
-  if (picture) return picture;
+UIImage artwork_of(MPMediaItem item, CGSize size) {
+  return objc::cast<MPMediaItemArtwork>(item.valueForProperty(MPMediaItemPropertyArtwork))
+      .imageWithSize(size);
+}
+
+UIImage empty_cover() {
   return UIImage::imageWithContentsOfFile(
       "/Library/Application Support/Sonavue/empty_cover.png"_ns);
+}
+
+UIImage artwork_or_empty(MPMediaItem item, CGSize size) {
+  const UIImage artwork = artwork_of(item, size);
+  return artwork ? artwork : empty_cover();
 }
 
 UITableViewCell song_cell(UITableView table, MPMediaItem item) {

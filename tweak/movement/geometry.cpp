@@ -21,8 +21,20 @@ void move_to(UIView view, CGFloat x, CGFloat y) {
   view.setFrame({x, y, size.width, size.height});
 }
 
+void move_to_x(UIView view, CGFloat x) {
+  move_to(view, x, view.frame().origin.y);
+}
+
+void move_to_y(UIView view, CGFloat y) {
+  move_to(view, view.frame().origin.x, y);
+}
+
 void cover_screen_with_window() {
-  window.setFrame({0, 0, screen_width(), screen_height()});
+  hang_window(screen_height());
+}
+
+void hang_window(CGFloat height) {
+  window.setFrame({0, height - screen_height(), screen_width(), screen_height()});
 }
 
 void slide_album_table_aside() {

@@ -21,9 +21,14 @@ CGFloat fade_ratio(CGFloat y);
 
 /// Moves a view without changing its size.
 void move_to(UIView view, CGFloat x, CGFloat y);
+void move_to_x(UIView view, CGFloat x);
+void move_to_y(UIView view, CGFloat y);
 
 /// Puts the panel's window over the whole screen.
 void cover_screen_with_window();
+
+/// Hangs the window from the top of the screen by its last `height` points.
+void hang_window(CGFloat height);
 
 /// Slides the table of the current album out of the artwork, to the right.
 void slide_album_table_aside();

@@ -60,8 +60,7 @@ void make_ring(SpringBoard self) {
 }
 
 void lift(UIView view) {
-  const CGPoint at = view.frame().origin;
-  move_to(view, at.x, at.y - kCompactLift);
+  move_to_y(view, view.frame().origin.y - kCompactLift);
 }
 
 }  // namespace

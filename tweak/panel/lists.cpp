@@ -48,11 +48,7 @@ void make_search_field(SpringBoard self) {
   searchBar.setClipsToBounds(YES);
   searchBar.setTextColor(UIColor::whiteColor());
   searchBar.setBackgroundColor(UIColor::colorWithWhite(0, 0.4));
-  const auto placeholder = NSAttributedString::alloc().initWithString(
-      "Search"_ns,
-      NSDictionary::dictionaryWithObject(UIColor::whiteColor(), NSForegroundColorAttributeName));
-  searchBar.setAttributedPlaceholder(placeholder);
-  placeholder.release();
+  set_placeholder(UIColor::whiteColor());
   searchBar.setLeftView(make_search_icon(kFieldFrame.size.height));
   searchBar.setLeftViewMode(UITextFieldViewModeAlways);
   searchBar.setDelegate(self);
@@ -69,6 +65,13 @@ UIView line_on_pages(CGRect frame) {
 }
 
 }  // namespace
+
+void set_placeholder(UIColor colour) {
+  const auto placeholder = NSAttributedString::alloc().initWithString(
+      "Search"_ns, NSDictionary::dictionaryWithObject(colour, NSForegroundColorAttributeName));
+  searchBar.setAttributedPlaceholder(placeholder);
+  placeholder.release();
+}
 
 UIView make_line(CGRect frame) {
   const UIView line = UIView::alloc().initWithFrame(frame);
@@ -116,8 +119,9 @@ void make_song_list(SpringBoard self) {
 }
 
 void make_grabber(SpringBoard self) {
+  const CGSize around = cover.frame().size;
   grabbers = UIView::alloc().initWithFrame(
-      {0, cover.frame().max_y() - kGrabberHeight, screen_width(), kGrabberHeight});
+      {0, around.height - kGrabberHeight, around.width, kGrabberHeight});
   const CGSize bar = grabbers.frame().size;
   grabs = UIImageView::alloc().initWithFrame({(bar.width - kGrabSize.width) / 2,
                                               (bar.height - kGrabSize.height) / 2, kGrabSize.width,
@@ -134,7 +138,8 @@ void make_grabber(SpringBoard self) {
   grabbers.addGestureRecognizer(pan);
   pan.release();
   grabbers.setHidden(YES);
-  window.addSubview(grabbers);
+  // On the backdrop, and so unseen whenever that is.
+  cover.addSubview(grabbers);
   grabbers.release();
 }
 

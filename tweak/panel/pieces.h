@@ -30,6 +30,9 @@ _UIBackdropViewSettings initial_blur();
 /// A picture that is drawn in the tint colour of its view.
 UIImage template_image(NSString path);
 
+/// The word in the empty search field.
+void set_placeholder(UIColor colour);
+
 /// A plain view of one point's height that edges a list.
 UIView make_line(CGRect frame);
 

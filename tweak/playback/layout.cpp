@@ -12,10 +12,8 @@ constexpr CGFloat kBannerTexts = 60;
 constexpr CGFloat kSmallScreenLift = -15;
 
 void move_controls(CGFloat by) {
-  for (const UIButton control : {play, back, next}) {
-    const CGPoint at = control.frame().origin;
-    move_to(control, at.x, at.y + by);
-  }
+  for (const UIButton control : {play, back, next})
+    move_to_y(control, control.frame().origin.y + by);
 }
 
 void move_resting_places(CGFloat by) {
@@ -29,10 +27,6 @@ bool window_is_fully_down() {
   return window.frame().origin.y == 0;
 }
 
-void hang_banner(CGFloat height) {
-  window.setFrame({0, height - screen_height(), screen_width(), screen_height()});
-}
-
 }  // namespace
 
 void lay_out_full() {
@@ -43,7 +37,7 @@ void lay_out_full() {
           move_controls(kLift);
         } else if (isBanner) {
           const CGFloat small = max != 0 ? 0 : kSmallScreenLift;
-          hang_banner(small + play.frame().size.height + kBannerAroundPlay + kBannerTexts);
+          hang_window(small + play.frame().size.height + kBannerAroundPlay + kBannerTexts);
         }
         container1.setAlpha(1);
       }),
@@ -56,7 +50,7 @@ void lay_out_compact() {
                                 if (window_is_fully_down()) {
                                   move_controls(-kLift);
                                 } else if (isBanner) {
-                                  hang_banner(play.frame().size.height + kBannerAroundPlay);
+                                  hang_window(play.frame().size.height + kBannerAroundPlay);
                                 }
                                 container1.setAlpha(0);
                               }),

@@ -1,6 +1,7 @@
 #include "tweak/playback/now_playing.h"
 
 #include "platform/Foundation/NSIndexPath.h"
+#include "tweak/appearance/legibility.h"
 #include "tweak/globals.h"
 #include "tweak/panel/pieces.h"
 #include "tweak/playback/layout.h"
@@ -94,6 +95,7 @@ void refresh_playing() {
   show_artwork();
   const NSString album = show_texts();
   if (did) {
+    if (legibility) colour_for_artwork();
     did = NO;
     collect_album(album);
   }

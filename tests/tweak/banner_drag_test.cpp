@@ -1,0 +1,143 @@
+#include "platform/SpringBoard/SBControlCenterController.h"
+#include "platform/UIKit/UIImageView.h"
+#include "tests/tweak/banner_fixture.h"
+
+namespace host::test {
+namespace {
+
+constexpr double kOpening = 0.5;
+
+class BannerDrag : public BannerTest {
+ protected:
+  void SetUp() override {
+    BannerTest::SetUp();
+    play("Alpha");
+    advance(1.2);
+    show();
+    start_ = window_y();
+  }
+
+  /// Above the screen's edge, where the control centre begins.
+  void grab_upwards() {
+    const CGPoint middle = middle_of(view("grabs"));
+    hold({middle.x, middle.y - 6});
+    move_by(0, -12);
+  }
+
+  CGFloat start_ = 0;
+};
+
+TEST_F(BannerDrag, TheWindowFollowsTheFinger) {
+  grab();
+  EXPECT_EQ(window_y(), start_);
+  move_by(0, 100);
+  EXPECT_EQ(window_y(), start_ + 100);
+  move_by(0, -30);
+  EXPECT_EQ(window_y(), start_ + 70);
+  EXPECT_TRUE(is("isGrabbing"));
+}
+
+TEST_F(BannerDrag, TheControlsRiseAndStopBelowOneAnother) {
+  const CGFloat texts = y_of("container1");
+  grab();
+  move_by(0, 20);
+  EXPECT_EQ(y_of("container1"), texts - 20);
+  EXPECT_EQ(y_of("play"), frame("container1").max_y() + 10);
+  EXPECT_EQ(y_of("back"), frame("container1").max_y() + 20);
+  move_by(0, 300);
+  EXPECT_TRUE(is_laid_out_below_artwork(0));
+}
+
+TEST_F(BannerDrag, PushedUpTheControlsStay) {
+  grab();
+  const CGFloat texts = y_of("container1");
+  const CGFloat play_y = y_of("play");
+  move_by(0, -20);
+  EXPECT_EQ(window_y(), start_ - 20);
+  EXPECT_EQ(y_of("container1"), texts);
+  EXPECT_EQ(y_of("play"), play_y);
+}
+
+TEST_F(BannerDrag, LetGoBelowItsStartItOpens) {
+  grab();
+  move_by(0, 40);
+  lift();
+  EXPECT_TRUE(is("showed"));
+  EXPECT_THAT(seconds_until([this] { return !is("isGrabbing"); }), IsSoonAfter(kOpening));
+  EXPECT_EQ(window_y(), 0);
+  EXPECT_TRUE(is_laid_out_below_artwork(0));
+  EXPECT_TRUE(global<UIScrollView>("container").isScrollEnabled());
+  EXPECT_TRUE(is("isBanner"));
+}
+
+TEST_F(BannerDrag, LetGoExactlyAtItsStartItOpens) {
+  grab();
+  ASSERT_EQ(window_y(), start_);
+  lift();
+  settle();
+  EXPECT_TRUE(is("showed"));
+  EXPECT_EQ(window_y(), 0);
+}
+
+TEST_F(BannerDrag, LetGoAboveItsStartItGoes) {
+  grab();
+  move_by(0, -1);
+  lift();
+  EXPECT_FALSE(is("isBanner"));
+  settle();
+  EXPECT_EQ(alpha("cover"), 0);
+  EXPECT_EQ(window_y(), 0);
+}
+
+TEST_F(BannerDrag, OpenItGoesNoFurtherDown) {
+  pull_open();
+  grab_upwards();
+  move_by(0, 60);
+  EXPECT_EQ(window_y(), 0);
+  EXPECT_TRUE(is_laid_out_below_artwork(0));
+}
+
+TEST_F(BannerDrag, OpenItGoesByAPushUpwards) {
+  pull_open();
+  grab_upwards();
+  move_by(0, -60);
+  EXPECT_EQ(window_y(), -60);
+  lift();
+  settle();
+  EXPECT_FALSE(is("isBanner"));
+  EXPECT_EQ(alpha("container"), 0);
+}
+
+TEST_F(BannerDrag, ItsBeginningSendsTheControlCentreAway) {
+  const MethodSpy<"dismissAnimated:", void(SBControlCenterController, BOOL)> sent_away(
+      SBControlCenterController::cls());
+  grab();
+  ASSERT_EQ(sent_away.count(), 1);
+  EXPECT_EQ(std::get<0>(sent_away.last()), YES);
+}
+
+TEST_F(BannerDrag, TheGrabberShowsWhatCanBeDone) {
+  const MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded(
+      objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls())));
+  const auto last = [&] { return text(std::get<0>(loaded.last())); };
+  grab();
+  EXPECT_EQ(last(), "/Library/Application Support/Sonavue/grab_dragging@2x.png");
+  move_by(0, 40);
+  lift();
+  advance(kOpening - 0.05);
+  EXPECT_EQ(last(), "/Library/Application Support/Sonavue/grab_dragging@2x.png");
+  advance(0.1);
+  EXPECT_EQ(last(), "/Library/Application Support/Sonavue/grab_done@2x.png");
+}
+
+class BannerDragWithoutTexts : public BannerTest {};
+
+TEST_F(BannerDragWithoutTexts, TheOpenLayoutIsLifted) {
+  show();
+  pull_open();
+  ASSERT_EQ(alpha("container1"), 0);
+  EXPECT_TRUE(is_laid_out_below_artwork(kLiftWithoutTexts));
+}
+
+}  // namespace
+}  // namespace host::test

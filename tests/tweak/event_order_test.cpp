@@ -1,0 +1,148 @@
+#include "host/springboard/system_actions.h"
+#include "platform/SpringBoard/SBBannerController.h"
+#include "platform/SpringBoard/SBControlCenterContainerView.h"
+#include "platform/SpringBoard/SBControlCenterController.h"
+#include "platform/SpringBoard/SBLockScreenViewController.h"
+#include "platform/SpringBoard/SBNotificationCenterViewController.h"
+#include "platform/SpringBoard/SBReachabilityManager.h"
+#include "tests/tweak/method_spy.h"
+#include "tests/tweak/panel_test.h"
+
+namespace host::test {
+namespace {
+
+using ::testing::ElementsAre;
+using Heard = std::vector<std::string>;
+
+/// Hears what the system itself does at an event, under the extension's replacement, and what the
+/// extension sends, in their order.
+class EventOrder : public PanelTest {
+ protected:
+  void SetUp() override {
+    use_no_songs();
+    launch();
+    closed_.emplace(SpringBoard::cls(), &heard_);
+  }
+
+  Heard heard_at(const std::function<void()>& event) {
+    heard_.clear();
+    event();
+    return heard_;
+  }
+  int closings() const { return closed_->count(); }
+
+  Heard heard_;
+  // These hear the system's own methods: they are there before the extension comes in.
+  MethodSpy<"_handleDisplayTurnedOff", void(SBLockScreenViewController)> turned_off_{
+      SBLockScreenViewController::cls(), &heard_};
+  MethodSpy<"prepareForUIUnlock", void(SBLockScreenViewController)> unlocked_{
+      SBLockScreenViewController::cls(), &heard_};
+  MethodSpy<"hostWillPresent", void(SBNotificationCenterViewController)> notifications_{
+      SBNotificationCenterViewController::cls(), &heard_};
+  MethodSpy<"controlCenterWillPresent", void(SBControlCenterContainerView)> control_centre_{
+      SBControlCenterContainerView::cls(), &heard_};
+  MethodSpy<"dismissAnimated:", void(SBControlCenterController, BOOL)> control_centre_dismissed_{
+      SBControlCenterController::cls(), &heard_};
+  MethodSpy<"_presentBannerForContext:reason:", void(SBBannerController, objc::Object, NSInteger)>
+      banner_{SBBannerController::cls(), &heard_};
+  MethodSpy<"_handleReachabilityActivated", void(SBReachabilityManager)> reached_{
+      SBReachabilityManager::cls(), &heard_};
+  MethodSpy<"_handleReachabilityDeactivated", void(SBReachabilityManager)> let_go_{
+      SBReachabilityManager::cls(), &heard_};
+  MethodSpy<"_handleSignificantTimeChanged", void(SBReachabilityManager)> time_changed_{
+      SBReachabilityManager::cls(), &heard_};
+  MethodSpy<"_keepAliveTimerFired:", void(SBReachabilityManager, objc::Object)> kept_alive_{
+      SBReachabilityManager::cls(), &heard_};
+  MethodSpy<"_playbackStateDidChange:", void(MPMusicPlayerController, int)> state_changed_{
+      MPMusicPlayerController::cls(), &heard_};
+
+ private:
+  std::optional<MethodSpy<"dismisWithNoAction", void(SpringBoard)>> closed_;
+};
+
+/// Both forms of the panel are closed by the same events.
+class EventOrderWithAForm : public EventOrder, public ::testing::WithParamInterface<const char*> {
+ protected:
+  Heard heard_at(const std::function<void()>& event) {
+    global<BOOL>(GetParam()) = YES;
+    return EventOrder::heard_at(event);
+  }
+};
+
+std::string name_of_form(const ::testing::TestParamInfo<const char*>& info) {
+  return info.param;
+}
+INSTANTIATE_TEST_SUITE_P(, EventOrderWithAForm, ::testing::Values("isShow", "isBanner"),
+                         name_of_form);
+
+TEST_P(EventOrderWithAForm, TheLockScreenGoesFirstAndThePanelCloses) {
+  EXPECT_THAT(heard_at(&springboard::lock),
+              ElementsAre("_handleDisplayTurnedOff", "dismisWithNoAction"));
+  EXPECT_THAT(heard_at(&springboard::unlock),
+              ElementsAre("prepareForUIUnlock", "dismisWithNoAction"));
+}
+
+TEST_P(EventOrderWithAForm, NotificationCentreGoesFirstAndThePanelCloses) {
+  EXPECT_THAT(heard_at(&springboard::present_notification_centre),
+              ElementsAre("hostWillPresent", "dismisWithNoAction"));
+}
+
+TEST_P(EventOrderWithAForm, ThePanelClosesAndTheSystemsBannerFollows) {
+  const auto context = NSString("a message"_ns);
+  EXPECT_THAT(
+      heard_at([&] { SBBannerController::sharedInstance()._presentBannerForContext(context, 7); }),
+      ElementsAre("dismisWithNoAction", "_presentBannerForContext:reason:"));
+  EXPECT_EQ(banner_.last(), std::tuple(objc::Object(context), NSInteger{7}));
+}
+
+TEST_F(EventOrder, ThePanelMakesTheControlCentreGoOnceItCame) {
+  global<BOOL>("isShow") = YES;
+  EXPECT_THAT(heard_at(&springboard::present_control_centre),
+              ElementsAre("controlCenterWillPresent", "dismissAnimated:"));
+  EXPECT_EQ(std::get<0>(control_centre_dismissed_.last()), NO);
+}
+
+TEST_F(EventOrder, ABannerThatIsFullyDownGoesWithTheControlCentre) {
+  const MethodSpy<"dismissBanner", void(SpringBoard)> sent_away(SpringBoard::cls(), &heard_);
+  global<BOOL>("isBanner") = YES;
+  ASSERT_EQ(frame("window").origin.y, 0);
+  EXPECT_THAT(heard_at(&springboard::present_control_centre),
+              ElementsAre("controlCenterWillPresent", "dismissBanner", "dismissAnimated:"));
+  EXPECT_EQ(std::get<0>(control_centre_dismissed_.last()), NO);
+  EXPECT_FALSE(SBControlCenterController::sharedInstance().isPresented());
+}
+
+TEST_F(EventOrder, ReachabilityGoesFirst) {
+  const auto manager = SBReachabilityManager::sharedInstance();
+  EXPECT_THAT(heard_at([&] { manager._handleReachabilityActivated(); }),
+              ElementsAre("_handleReachabilityActivated", "dismisWithNoAction"));
+  EXPECT_THAT(heard_at([&] { manager._handleReachabilityDeactivated(); }),
+              ElementsAre("_handleReachabilityDeactivated", "dismisWithNoAction"));
+  EXPECT_THAT(heard_at([&] { manager._handleSignificantTimeChanged(); }),
+              ElementsAre("_handleSignificantTimeChanged", "dismisWithNoAction"));
+  EXPECT_THAT(heard_at([&] { manager._keepAliveTimerFired(manager); }),
+              ElementsAre("_keepAliveTimerFired:", "dismisWithNoAction"));
+  EXPECT_EQ(std::get<0>(kept_alive_.last()), manager);
+}
+
+TEST_F(EventOrder, AClosedPanelIsNotToldToClose) {
+  springboard::lock();
+  springboard::unlock();
+  springboard::present_notification_centre();
+  springboard::present_banner("a message");
+  springboard::present_control_centre();
+  EXPECT_THAT(heard_,
+              ElementsAre("_handleDisplayTurnedOff", "prepareForUIUnlock", "hostWillPresent",
+                          "_presentBannerForContext:reason:", "controlCenterWillPresent"));
+  EXPECT_EQ(closings(), 0);
+}
+
+TEST_F(EventOrder, ThePlayerHearsOfItsStateToo) {
+  EXPECT_THAT(
+      heard_at([&] { global<MPMusicPlayerController>("musicPlayer")._playbackStateDidChange(3); }),
+      ElementsAre("_playbackStateDidChange:"));
+  EXPECT_EQ(std::get<0>(state_changed_.last()), 3);
+}
+
+}  // namespace
+}  // namespace host::test

@@ -1,0 +1,44 @@
+#include "tweak/appearance/colouring.h"
+
+#include "tweak/globals.h"
+#include "tweak/panel/pieces.h"
+
+namespace sonavue {
+namespace {
+
+void colour_album_tiles(PanelColours colours) {
+  for (const auto tile : albums.subviews().of<UIView>()) {
+    for (const auto part : tile.subviews().of<UIView>()) {
+      if (part.isKindOfClass(UIImageView::cls())) {
+        part.layer().setBorderColor(colours.controls().CGColor());
+      } else if (part.isKindOfClass(UILabel::cls())) {
+        objc::cast<UILabel>(part).setTextColor(colours.texts());
+      }
+    }
+  }
+}
+
+}  // namespace
+
+void colour_content(PanelColours colours) {
+  art.layer().setBorderColor(colours.controls().CGColor());
+  colour_album_tiles(colours);
+  for (const UIView control : {UIView(back), UIView(play), UIView(next), UIView(search_icon)})
+    control.setTintColor(colours.controls());
+  searchBar.setTextColor(colours.texts());
+  title.setTextColor(colours.texts());
+  artist.setTextColor(colours.texts());
+}
+
+void colour_edges(PanelColours colours) {
+  set_placeholder(colours.texts());
+  tableView.setSeparatorColor(colours.controls());
+  tablev.setSeparatorColor(colours.controls());
+  for (const UIView line : {top, bottom, top1, top2, bottom1})
+    line.setBackgroundColor(colours.controls());
+  ring.setPrimaryColor(colours.controls());
+  ring.setSecondaryColor(colours.controls());
+  grabs.setTintColor(colours.controls());
+}
+
+}  // namespace sonavue

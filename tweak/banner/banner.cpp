@@ -1,0 +1,71 @@
+#include "tweak/banner/banner.h"
+
+#include "tweak/banner/controls_layout.h"
+#include "tweak/banner/grabber.h"
+#include "tweak/movement/geometry.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kContentFade = 0.01;
+constexpr double kTravel = 0.5;
+constexpr CGFloat kAroundPlay = 25 + 15;
+constexpr CGFloat kTexts = 60;
+constexpr CGFloat kLessOnSmallScreens = 15;
+
+CGFloat banner_height() {
+  CGFloat height = play.frame().size.height + kAroundPlay;
+  if (container1.alpha() == 1) height += kTexts;
+  if (max == 0 && mc.isPlaying()) height -= kLessOnSmallScreens;
+  return height;
+}
+
+void show_artwork_page() {
+  container.setScrollEnabled(NO);
+  container.setContentOffset(artwork_page_offset(), NO);
+}
+
+void put_twin_in_place() {
+  const CGSize size = music.frame().size;
+  move_to(music, (screen_width() - size.width) / 2, (screen_height() - size.height) / 10);
+}
+
+void be_gone() {
+  cover.setAlpha(0);
+  music.setHidden(YES);
+  window.setUserInteractionEnabled(NO);
+  cover_screen_with_window();
+  stand_below_artwork();
+  container.setContentOffset(artwork_page_offset());
+  isGrabbing = NO;
+  container.setAlpha(0);
+}
+
+}  // namespace
+
+void showBanner(SpringBoard) {
+  if (!enabled || isShow) return;
+  showed = NO;
+  if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
+  show_artwork_page();
+  grabbers.setHidden(NO);
+  show_grabber(Grabber::kDragging);
+  isBanner = YES;
+  hang_window(0);
+  window.setUserInteractionEnabled(YES);
+  put_twin_in_place();
+  UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(1); }),
+                              objc::block([](BOOL) { stand_at_bottom(); }));
+  music.setHidden(NO);
+  cover.setAlpha(1);
+  container.setAlpha(1);
+  UIView::animateWithDuration(kTravel, objc::block([] { hang_window(banner_height()); }));
+}
+
+void dismissBanner(SpringBoard) {
+  isBanner = NO;
+  UIView::animateWithDuration(kTravel, objc::block([] { hang_window(0); }),
+                              objc::block([](BOOL) { be_gone(); }));
+}
+
+}  // namespace sonavue

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/CoreGraphics/CGGeometry.h"
+
+// Where the texts and the transport stand in the banner's forms.
+
+namespace sonavue {
+
+/// What everything below the texts is moved by while they are hidden.
+CGFloat lift_without_texts();
+
+/// The layout of the open panel: texts below the artwork, transport below the texts.
+void stand_below_artwork();
+
+/// The layout of the hanging banner: everything at the bottom of the pages.
+void stand_at_bottom();
+
+/// Keeps the places from which the controls rise while the banner is pulled down.
+void keep_resting_places();
+
+/// The controls rise against the window that was pulled down by `distance`; each stops below the
+/// one above it.
+void rise_against(CGFloat distance);
+
+}  // namespace sonavue

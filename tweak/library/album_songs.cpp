@@ -1,0 +1,121 @@
+#include "tweak/library/album_songs.h"
+
+#include "tweak/library/album_tile.h"
+#include "tweak/library/song_cell.h"
+#include "tweak/preferences.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kPictureCorner = 10;
+constexpr CGFloat kPictureBorder = 1.5;
+constexpr double kFadeIn = 0.3;
+
+MPMediaQuery songs_of_album(NSString album) {
+  const MPMediaQuery query = MPMediaQuery::alloc().init();
+  query.addFilterPredicate(
+      MPMediaPropertyPredicate::predicateWithValue(album, MPMediaItemPropertyAlbumPersistentID));
+  return query.autorelease();
+}
+
+NSString persistent_id(MPMediaItem item) {
+  return objc::cast<NSNumber>(item.valueForProperty(MPMediaItemPropertyPersistentID)).stringValue();
+}
+
+UIImage picture_of(MPMediaItem item, UIView tile, CGFloat side) {
+  if (const UIImage artwork = artwork_of(item, {side, side})) return artwork;
+  const UIImage cover = cover_of(tile).image();
+  return cover ? cover : empty_cover();
+}
+
+void add_picture(UIView song, UIImage image, CGFloat side) {
+  const CGFloat margin = side / 6;
+  const auto picture =
+      UIImageView::alloc().initWithFrame({margin, margin, 2 * side / 3, 2 * side / 3});
+  picture.setImage(image);
+  picture.layer().setMasksToBounds(YES);
+  picture.layer().setCornerRadius(kPictureCorner);
+  picture.layer().setBorderWidth(kPictureBorder);
+  picture.layer().setBorderColor((legibility ? newColor : color("tint"_ns)).CGColor());
+  song.addSubview(picture);
+  picture.release();
+}
+
+void add_title(UIView song, MPMediaItem item, CGFloat side) {
+  const UILabel label =
+      make_tile_title({0, 5 * side / 6, side, side / 6},
+                      objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyTitle)));
+  label.setTextColor(legibility ? newColor : color("font_tint"_ns));
+  song.addSubview(label);
+  label.release();
+}
+
+void fade_in(UIView view) {
+  view.setAlpha(0);
+  UIView::animateWithDuration(kFadeIn, objc::block([view] { view.setAlpha(1); }));
+}
+
+/// Gives the tile's lower right corner.
+CGPoint add_song(SpringBoard self, UIScrollView grid, UIView tile, MPMediaItem item,
+                 NSUInteger index) {
+  const CGFloat side = grid_side(grid.frame().size.width);
+  const UIView song = UIView::alloc().initWithFrame(grid_frame(index, side));
+  add_picture(song, picture_of(item, tile, side), side);
+  add_title(song, item, side);
+  song.layer().setName(persistent_id(item));
+  add_tap(song, self, "playSongInAlbum:"_sel);
+  song.setUserInteractionEnabled(YES);
+  grid.addSubview(song);
+  fade_in(song);
+  const CGPoint corner{song.frame().max_x(), song.frame().max_y()};
+  song.release();
+  return corner;
+}
+
+CGFloat scrollable(CGFloat content, CGFloat visible) {
+  return content < visible ? visible + 1 : content;
+}
+
+MPMediaItem listed_song(NSString wanted) {
+  for (const auto item : songItems.of<MPMediaItem>()) {
+    if (persistent_id(item).isEqualToString(wanted)) return item;
+  }
+  return nil;
+}
+
+void zoom_out() {
+  objc::send<>(Spring, "zoomOutAlbum:"_sel, albums.gestureRecognizers().objectAtIndex(0));
+}
+
+}  // namespace
+
+UIScrollView make_song_grid(SpringBoard self, UIView tile, CGFloat side) {
+  const UIScrollView grid = UIScrollView::alloc().initWithFrame({0, 0, side, side});
+  grid.setShowsHorizontalScrollIndicator(NO);
+  grid.setShowsVerticalScrollIndicator(NO);
+  grid.setBackgroundColor(UIColor::clearColor());
+  NSUInteger index = 0;
+  CGPoint corner{};
+  for (const auto item : songs_of_album(tile.layer().name()).items().of<MPMediaItem>())
+    corner = add_song(self, grid, tile, item, index++);
+  grid.setContentSize(
+      {scrollable(corner.x + kTileGap, side), scrollable(corner.y + kTileGap, side)});
+  return grid;
+}
+
+void playSongInAlbum(SpringBoard, UITapGestureRecognizer tap) {
+  if (!art.image()) {
+    zoom_out();
+    mc.togglePlayPause();
+    return;
+  }
+  const MPMediaItem item = listed_song(tap.view().layer().name());
+  if (!item) return;
+  zoom_out();
+  musicPlayer.setQueueWithQuery(fullList);
+  musicPlayer.setNowPlayingItem(item);
+  musicPlayer.prepareToPlay();
+  musicPlayer.play();
+}
+
+}  // namespace sonavue
