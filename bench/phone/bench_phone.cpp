@@ -25,6 +25,7 @@ using namespace host;
 constexpr const char* kDevice = "iPhone7,2";
 constexpr const char* kPreferences =
     "var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist";
+constexpr const char* kIndex = "var/mobile/Media/library.sqlite";
 
 fs::path new_device() {
   std::string name = (fs::temp_directory_path() / "bench-phone-XXXXXX").string();
@@ -45,9 +46,13 @@ void require(bool is_so, std::string_view what) {
   std::exit(EXIT_FAILURE);
 }
 
-BenchPhone::BenchPhone(Pace pace, std::string_view preferences)
-    : root_(new_device()), loop_(pace == Pace::kStepped ? static_cast<Clock&>(stepped_) : real_) {
+BenchPhone::BenchPhone(Pace pace, std::string_view preferences, const Music& music)
+    : root_(new_device()), loop_(pace == Pace::kReal ? static_cast<Clock&>(real_) : stepped_) {
   write_preferences(preferences);
+  if (music.remember) {
+    fs::create_directories((root_ / kIndex).parent_path());
+    music.remember(root_ / kIndex);
+  }
   RunLoop::set_main(&loop_);
   foundation::set_device_root(root_);
   set_current_device(*device_model(kDevice));
@@ -55,6 +60,7 @@ BenchPhone::BenchPhone(Pace pace, std::string_view preferences)
   launcher::ProcessOptions options;
   options.device = kDevice;
   options.root = root_;
+  options.music = music.folders;
   options.headless = true;
   options.stepped = pace == Pace::kStepped;
   launcher::launch_home_screen(options);
@@ -87,6 +93,13 @@ std::string BenchPhone::run(std::string_view line) {
   const console::Answer answer = session_->execute(line);
   require(answer.kind != console::Answer::Kind::Error, std::string(line) + ": " + answer.text);
   return answer.text;
+}
+
+objc::Object BenchPhone::global(std::string_view name) const {
+  const auto value = globals_.value(name);
+  const auto* object = value ? value->as<objc::Object>() : nullptr;
+  require(object != nullptr, name);
+  return *object;
 }
 
 void BenchPhone::frame() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,14 +31,25 @@ class WatchedScreen final : public host::screen::Screen {
   int frames_ = 0;
 };
 
-enum class Pace { kStepped, kReal };
+enum class Pace {
+  kStepped,
+  kReal,
+  /// The screen is stepped; music plays and covers are decoded beside it, in their own time.
+  kSteppedScreen,
+};
 
-/// A whole phone in this process, on a new device, with the extension loaded and the demo music in
-/// its library. One lives at a time.
+/// The music of a phone: folders of this machine, and what puts them into the new device's index
+/// before anything is started. None is the demo music.
+struct Music {
+  std::vector<std::filesystem::path> folders;
+  std::function<void(const std::filesystem::path& index)> remember;
+};
+
+/// A whole phone in this process, on a new device, with the extension loaded. One lives at a time.
 class BenchPhone {
  public:
   /// The preferences are the text of a property list, there before the extension is.
-  BenchPhone(Pace pace, std::string_view preferences);
+  BenchPhone(Pace pace, std::string_view preferences, const Music& music = {});
   ~BenchPhone();
   BenchPhone(const BenchPhone&) = delete;
   BenchPhone& operator=(const BenchPhone&) = delete;
@@ -45,6 +57,10 @@ class BenchPhone {
   void write_preferences(std::string_view text) const;
   /// Carries out a line of the console; ends the program if that is refused.
   std::string run(std::string_view line);
+  /// The object in one of the extension's shared variables.
+  objc::Object global(std::string_view name) const;
+  /// Stepped: serves what is ready without moving the clock.
+  void turn() { loop_.advance_to(stepped_, stepped_.now()); }
   /// Stepped: moves the clock on by one frame of the screen and serves all that is due until then.
   void frame();
   /// Real: serves the loop for so long.
@@ -52,11 +68,14 @@ class BenchPhone {
   void touch(host::screen::TouchPhase phase, CGPoint point) { hands_.touch(kFinger, phase, point); }
 
   const WatchedScreen& screen() const { return screen_; }
+  const host::quartzcore::Compositor& compositor() const { return phone_screen_->compositor(); }
   /// A copy of what is on the screen, row by row without gaps.
   std::vector<std::uint32_t> pixels() const;
 
  private:
   static constexpr int kFinger = 1;
+  /// Of the default device, in points.
+  static constexpr CGSize kScreen{375, 667};
 
   std::filesystem::path root_;
   host::SteppedClock stepped_;
@@ -65,7 +84,7 @@ class BenchPhone {
   objc::AutoreleasePool pool_;
   WatchedScreen screen_;
   std::unique_ptr<host::quartzcore::LayerService> layers_;
-  host::launcher::Hands hands_{loop_};
+  host::launcher::Hands hands_{loop_, kScreen};
   std::unique_ptr<host::launcher::PhoneScreen> phone_screen_;
   std::unique_ptr<host::launcher::ConsolePhone> console_phone_;
   host::console::Globals globals_;

@@ -1,69 +1,25 @@
 #include <cmath>
 #include <cstdio>
-#include <cstring>
 
-#include "bench/phone/bench_phone.h"
-#include "bench/support/core_time.h"
-#include "bench/support/ratio.h"
+#include "bench/phone/frame_series.h"
 
 // What a frame of the phone costs, from the touch to the finished picture, against a plain copy of
-// one frame. Both are times of this thread on its core, so that other programs do not count. Frames
-// in which nothing was painted are left out: they would only flatter.
+// one frame.
 
 namespace {
 
 using bench::BenchPhone;
+using bench::Series;
+using bench::Stopwatch;
 using host::screen::TouchPhase;
 using Pixels = std::vector<std::uint32_t>;
 
-constexpr double kMedianAim = 8;
-constexpr double kWorstAim = 24;
 constexpr int kRounds = 5;
 constexpr int kDragFrames = 45;
 // A glide, the icon's way and the fade of the contents.
 constexpr int kPresentFrames = 84;
 constexpr int kOpenFrames = 100;
 constexpr CGPoint kDragStep{1, -5};
-
-/// Times of the frames of one movement, and of copies made in between.
-struct Series {
-  std::vector<double> frames;
-  std::vector<double> copies;
-};
-
-class Stopwatch {
- public:
-  explicit Stopwatch(BenchPhone& phone) : phone_(phone) {}
-
-  /// One frame that begins with `work`, which is a touch or nothing.
-  template <class Work>
-  void frame(Series& series, Work work) {
-    const int before = phone_.screen().frames();
-    const double start = bench::core_seconds();
-    work();
-    phone_.frame();
-    const double seconds = bench::core_seconds() - start;
-    if (phone_.screen().frames() > before) series.frames.push_back(seconds);
-    copy_frame(series);
-  }
-  void frames(Series& series, int count) {
-    for (int i = 0; i < count; ++i)
-      frame(series, [] {});
-  }
-
- private:
-  void copy_frame(Series& series) {
-    const auto& picture = phone_.screen().picture();
-    copy_.resize(static_cast<std::size_t>(picture.stride) * picture.height);
-    const double start = bench::core_seconds();
-    std::memcpy(copy_.data(), picture.pixels, copy_.size());
-    bench::keep(*copy_.data());
-    series.copies.push_back(bench::core_seconds() - start);
-  }
-
-  BenchPhone& phone_;
-  std::vector<unsigned char> copy_;
-};
 
 /// Share of the pixels in which two pictures differ noticeably.
 double difference(const Pixels& a, const Pixels& b) {
@@ -98,6 +54,8 @@ CGPoint origin_of(BenchPhone& phone, const char* view) {
   bench::require(std::sscanf(text.c_str(), "{{%lf, %lf}", &origin.x, &origin.y) == 2, text);
   return origin;
 }
+
+enum class Behind { kArtwork, kHome };
 
 struct Figures {
   Series drag;
@@ -136,15 +94,19 @@ void drag_out(BenchPhone& phone, Stopwatch& watch, Series& series, const Pixels&
   phone.touch(TouchPhase::Ended, finger);
 }
 
-Pictures open_and_close(BenchPhone& phone, Figures& figures) {
+Pictures open_and_close(BenchPhone& phone, Figures& figures, Behind behind) {
   Stopwatch watch(phone);
   // A song whose cover has not been on the screen yet.
   phone.run("print [[SBMediaController sharedInstance] changeTrack:1]");
   phone.run("advance 3");
   phone.run("expect isShow == NO");
   Pictures pictures{phone.pixels(), {}};
+  const std::uint64_t blurs = phone.compositor().blur_count();
   drag_out(phone, watch, figures.drag, pictures.home);
   watch.frames(figures.present, kPresentFrames);
+  // The new cover was blurred when it came, not while the panel was fading in over it.
+  if (behind == Behind::kArtwork)
+    bench::require(phone.compositor().blur_count() == blurs, "a frame of the opening blurred");
   phone.run("expect isShow == YES");
   pictures.panel = phone.pixels();
   bench::require(difference(pictures.home, pictures.panel) > 0.5, "the panel is not to be seen");
@@ -160,40 +122,31 @@ Pictures open_and_close(BenchPhone& phone, Figures& figures) {
   return pictures;
 }
 
-void print(const char* what, const char* behind, const Series& series) {
-  char name[80];
-  const bench::Times frames = bench::summary(series.frames);
-  const bench::Times copies = bench::summary(series.copies);
-  std::snprintf(name, sizeof name, "%s, %s: median frame / copy", what, behind);
-  bench::print_ratio(name, frames.median, copies.median, kMedianAim);
-  std::snprintf(name, sizeof name, "%s, %s: worst frame / copy", what, behind);
-  bench::print_ratio(name, frames.worst, copies.median, kWorstAim);
-}
-
-Pixels measure(BenchPhone& phone, const char* behind) {
+Pixels measure(BenchPhone& phone, Behind behind) {
   Figures figures;
   Pictures last;
   for (int round = 0; round < kRounds; ++round)
-    last = open_and_close(phone, figures);
-  print("drag", behind, figures.drag);
-  print("present", behind, figures.present);
-  print("open panel", behind, figures.open);
+    last = open_and_close(phone, figures, behind);
+  const std::string over = behind == Behind::kArtwork ? ", artwork" : ", home";
+  bench::print_frames("drag" + over, figures.drag);
+  bench::print_frames("present" + over, figures.present);
+  bench::print_frames("open panel" + over, figures.open);
   return last.panel;
 }
 
 }  // namespace
 
 int main() {
-  BenchPhone phone(bench::Pace::kStepped, R"({ cover = 1; checked = 1; })");
+  BenchPhone phone(bench::Pace::kStepped, R"({ enable = 1; cover = 1; checked = 1; })");
   phone.run("advance 1");
   phone.run("print [[SBMediaController sharedInstance] togglePlayPause]");
   phone.run("advance 2");
   phone.run("expect [[SBMediaController sharedInstance] isPlaying] == YES");
   phone.run("expect [cover image] != nil");
-  const Pixels with_artwork = measure(phone, "artwork");
-  phone.write_preferences(R"({ cover = 0; checked = 1; })");
+  const Pixels with_artwork = measure(phone, Behind::kArtwork);
+  phone.write_preferences(R"({ enable = 1; cover = 0; checked = 1; })");
   phone.run("advance 2");
   phone.run("expect [cover image] == nil");
-  const Pixels with_home = measure(phone, "home");
+  const Pixels with_home = measure(phone, Behind::kHome);
   bench::require(difference(with_artwork, with_home) > 0.3, "both panels look the same");
 }

@@ -39,7 +39,7 @@ double number(const std::string& text) {
 int main(int count, char** arguments) {
   const double seconds = count > 1 ? number(arguments[1]) : kSeconds;
   bench::require(seconds > 0, "the seconds are no number");
-  bench::BenchPhone phone(bench::Pace::kReal, "{ cover = 1; checked = 1; }");
+  bench::BenchPhone phone(bench::Pace::kReal, "{ enable = 1; cover = 1; checked = 1; }");
   phone.live(kWarmUp);
   phone.run("expect isShow == NO");
   bench::require(number(phone.run("print [[[[MPMediaQuery alloc] init] items] count]")) >= kSongs,
