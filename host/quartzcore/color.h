@@ -2,7 +2,9 @@
 
 #include <cairo.h>
 
+#include "host/quartzcore/image.h"
 #include "objc/class_builder.h"
+#include "objc/ref.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "platform/Foundation/NSObject.h"
 
@@ -14,6 +16,17 @@ struct Rgba {
   friend constexpr bool operator==(const Rgba&, const Rgba&) = default;
 };
 
+/// A picture that fills an area by being repeated, `scale` of its pixels to the point.
+struct Pattern {
+  objc::Ref<CGImageObject> image;
+  double scale = 1;
+
+  explicit operator bool() const { return static_cast<bool>(image); }
+  friend bool operator==(const Pattern& left, const Pattern& right) {
+    return left.image.get() == right.image.get() && left.scale == right.scale;
+  }
+};
+
 struct CGColorObject : objc::Bound<CGColorObject, "CGColor", NSObject> {};
 
 /// What a CGColorRef points to: an immutable colour that is an object of the runtime.
@@ -21,7 +34,9 @@ class Color : public objc::Implementation<Color, CGColorObject> {
  public:
   explicit Color(CGColorObject owner) : Implementation(owner) {}
 
+  /// Of a pattern: its mean, for whatever has no use for pictures.
   Rgba rgba;
+  Pattern pattern;
 
   BOOL is_equal(objc::Object other) const;
   NSUInteger hash() const;
@@ -29,6 +44,10 @@ class Color : public objc::Implementation<Color, CGColorObject> {
 
 /// A new colour (+1).
 CGColorRef make_color(const Rgba& rgba);
+/// A new colour (+1) that fills with copies of the picture.
+CGColorRef make_pattern_color(CGImageRef image, double scale);
+/// No pattern where the colour is a plain one, or null.
+Pattern pattern_of(CGColorRef color);
 /// The components; of null, clear black.
 Rgba rgba_of(CGColorRef color);
 bool is_color(objc::Object object);
@@ -39,6 +58,9 @@ inline objc::Object object_of(CGColorRef color) {
 inline void set_source(cairo_t* drawing, const Rgba& rgba) {
   cairo_set_source_rgba(drawing, rgba.red, rgba.green, rgba.blue, rgba.alpha);
 }
+
+/// Tiles from the origin of the drawing's user space.
+void set_source(cairo_t* drawing, const Pattern& pattern);
 
 void export_color();
 

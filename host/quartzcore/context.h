@@ -12,6 +12,8 @@
 struct CGContext {
   struct State {
     host::quartzcore::Rgba fill{0, 0, 0, 1};
+    /// In place of the fill colour where there is one.
+    host::quartzcore::Pattern fill_pattern;
     host::quartzcore::Rgba stroke{0, 0, 0, 1};
     double alpha = 1;
     CGInterpolationQuality interpolation = kCGInterpolationDefault;

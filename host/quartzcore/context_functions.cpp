@@ -44,9 +44,19 @@ void add_ellipse(cairo_t* drawing, CGRect rect) {
 }
 
 void fill_path(CGContextRef context, cairo_fill_rule_t rule) {
-  use(context, context->state().fill);
-  cairo_set_fill_rule(context->cairo(), rule);
-  cairo_fill(context->cairo());
+  cairo_t* const drawing = context->cairo();
+  const CGContext::State& state = context->state();
+  cairo_set_fill_rule(drawing, rule);
+  if (!state.fill_pattern) {
+    use(context, state.fill);
+    cairo_fill(drawing);
+    return;
+  }
+  cairo_save(drawing);
+  cairo_clip(drawing);
+  set_source(drawing, state.fill_pattern);
+  cairo_paint_with_alpha(drawing, state.alpha);
+  cairo_restore(drawing);
 }
 
 }  // namespace
@@ -102,14 +112,18 @@ SONAVUE_EXPORTED void CGContextSetInterpolationQuality(CGContextRef context,
   if (context) context->state().interpolation = quality;
 }
 SONAVUE_EXPORTED void CGContextSetFillColorWithColor(CGContextRef context, CGColorRef color) {
-  if (context) context->state().fill = rgba_of(color);
+  if (!context) return;
+  context->state().fill = rgba_of(color);
+  context->state().fill_pattern = pattern_of(color);
 }
 SONAVUE_EXPORTED void CGContextSetStrokeColorWithColor(CGContextRef context, CGColorRef color) {
   if (context) context->state().stroke = rgba_of(color);
 }
 SONAVUE_EXPORTED void CGContextSetRGBFillColor(CGContextRef context, CGFloat red, CGFloat green,
                                                CGFloat blue, CGFloat alpha) {
-  if (context) context->state().fill = {red, green, blue, alpha};
+  if (!context) return;
+  context->state().fill = {red, green, blue, alpha};
+  context->state().fill_pattern = {};
 }
 SONAVUE_EXPORTED void CGContextSetRGBStrokeColor(CGContextRef context, CGFloat red, CGFloat green,
                                                  CGFloat blue, CGFloat alpha) {

@@ -140,8 +140,16 @@ void Layer::set_border_color(CGColorRef color) {
 CGColorRef Layer::background_color() const {
   return color_in(background_color_);
 }
+const Pattern* Layer::background_pattern() const {
+  if (!background_color_) return nullptr;
+  const Pattern& pattern = objc::state_of<Color>(background_color_.get()).pattern;
+  return pattern ? &pattern : nullptr;
+}
 void Layer::set_background_color(CGColorRef color) {
+  const bool has_pattern = background_pattern() || pattern_of(color);
   background_color_.reset(object_in(color));
+  // Patterns of the same mean are not the same.
+  if (has_pattern) note_layer_change();
   change<&LayerProperties::background_color>("backgroundColor"_ns, rgba_of(color));
 }
 

@@ -133,6 +133,8 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   void set_border_width(CGFloat width);
   CGColorRef border_color() const;
   void set_border_color(CGColorRef color);
+  /// Null when the background is of one colour.
+  const Pattern* background_pattern() const;
   CGColorRef background_color() const;
   void set_background_color(CGColorRef color);
   objc::Object contents() const { return contents_.get(); }

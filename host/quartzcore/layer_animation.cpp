@@ -237,8 +237,10 @@ CALayer Layer::presentation_layer() const {
       objc::send<CALayer>(objc::Object(self.classOf()), "alloc"_sel), "init"_sel);
   Layer& shown = objc::state_of<Layer>(copy);
   shown.properties_ = present(now());
-  shown.background_color_ = objc::Ref<CGColorObject>::adopt(
-      objc::cast<CGColorObject>(object_of(make_color(shown.properties_.background_color))));
+  shown.background_color_ = background_pattern()
+                                ? background_color_
+                                : objc::Ref<CGColorObject>::adopt(objc::cast<CGColorObject>(
+                                      object_of(make_color(shown.properties_.background_color))));
   shown.hidden_ = hidden_;
   shown.masks_to_bounds_ = masks_to_bounds_;
   shown.contents_ = contents_;

@@ -51,11 +51,24 @@ void add_bounds(const Canvas& canvas, const RenderNode& node) {
   }
 }
 
+void paint_pattern(const Canvas& canvas, const RenderNode& node, const Pattern& pattern,
+                   double opacity) {
+  cairo_t* drawing = canvas.drawing.get();
+  cairo_save(drawing);
+  cairo_clip(drawing);
+  use_layer_space(canvas, node.to_device);
+  set_source(drawing, pattern);
+  cairo_paint_with_alpha(drawing, opacity);
+  cairo_restore(drawing);
+}
+
 void paint_background(const Canvas& canvas, const RenderNode& node, double opacity) {
   Rgba color = node.properties.background_color;
   if (color.alpha <= 0) return;
   color.alpha *= opacity;
   add_bounds(canvas, node);
+  if (const Pattern* pattern = shown_pattern(node))
+    return paint_pattern(canvas, node, *pattern, opacity);
   set_source(canvas.drawing.get(), color);
   cairo_fill(canvas.drawing.get());
 }

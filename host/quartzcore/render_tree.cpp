@@ -46,6 +46,11 @@ std::uint64_t sign_drawing(const RenderNode& node) {
   const LayerProperties& p = node.properties;
   std::uint64_t result = mix_signature(node.serial, p.bounds);
   result = mix_signature(result, p.background_color);
+  if (const Pattern* pattern = shown_pattern(node)) {
+    const Image& image = *image_of(pattern->image.get());
+    result = mix_signature(result, image.serial());
+    result = mix_signature(result, image.revision());
+  }
   result = mix_signature(result, CGPoint{p.corner_radius, p.border_width});
   if (p.border_width > 0) result = mix_signature(result, p.border_color);
   if (const Image* image = layer.contents_image()) {
@@ -87,7 +92,8 @@ bool is_filled_by_contents(const RenderNode& node) {
 
 bool covers_its_pixels(const RenderNode& node) {
   if (!fits_whole_pixels(node)) return false;
-  return node.layer->backdrop() || node.properties.background_color.alpha >= 1 ||
+  return node.layer->backdrop() ||
+         (node.properties.background_color.alpha >= 1 && !shown_pattern(node)) ||
          is_filled_by_contents(node);
 }
 
@@ -117,6 +123,13 @@ CGRect shown_part(const CGAffineTransform& to_device, const PixelRect& clip) {
 }
 
 }  // namespace
+
+const Pattern* shown_pattern(const RenderNode& node) {
+  const Pattern* pattern = node.layer->background_pattern();
+  return pattern && node.properties.background_color == node.layer->model().background_color
+             ? pattern
+             : nullptr;
+}
 
 CGRect contents_rect(const Layer& layer, const CGRect& bounds) {
   const Image& image = *layer.contents_image();

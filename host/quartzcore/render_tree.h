@@ -49,6 +49,8 @@ struct RenderNode {
   bool is_simple = false;
 };
 
+/// The pattern of its background; null when that is of one colour, or on its way to or from one.
+const Pattern* shown_pattern(const RenderNode& node);
 /// Where contents of a layer lie in its coordinates.
 CGRect contents_rect(const Layer& layer, const CGRect& bounds);
 

@@ -3,6 +3,8 @@
 #include "platform/CoreGraphics/CGTypes.h"
 #include "platform/Foundation/NSObject.h"
 
+struct UIImage;
+
 struct UIColor : objc::Bound<UIColor, "UIColor", NSObject> {
   static UIColor blackColor() { return call_class<"blackColor", UIColor>(); }
   static UIColor darkGrayColor() { return call_class<"darkGrayColor", UIColor>(); }
@@ -34,6 +36,9 @@ struct UIColor : objc::Bound<UIColor, "UIColor", NSObject> {
   static UIColor colorWithCGColor(CGColorRef color) {
     return call_class<"colorWithCGColor:", UIColor>(color);
   }
+
+  /// Fills with copies of the picture, side by side; nil without one. Body in UIImage.h.
+  static UIColor colorWithPatternImage(UIImage image);
 
   UIColor initWithWhite(CGFloat white, CGFloat alpha) const {
     return call<"initWithWhite:alpha:", UIColor>(white, alpha);

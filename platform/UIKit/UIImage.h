@@ -3,6 +3,7 @@
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/Foundation/NSData.h"
+#include "platform/UIKit/UIColor.h"
 
 enum UIImageOrientation : NSInteger {
   UIImageOrientationUp = 0,
@@ -71,3 +72,7 @@ struct UIImage : objc::Bound<UIImage, "UIImage", NSObject> {
     call<"drawInRect:blendMode:alpha:">(rect, mode, alpha);
   }
 };
+
+inline UIColor UIColor::colorWithPatternImage(UIImage image) {
+  return call_class<"colorWithPatternImage:", UIColor>(image);
+}

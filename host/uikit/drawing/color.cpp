@@ -8,6 +8,7 @@
 #include "host/uikit/drawing/hue.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "platform/UIKit/UIGraphics.h"
+#include "platform/UIKit/UIImage.h"
 
 namespace host::uikit {
 namespace {
@@ -35,10 +36,23 @@ UIColor color_with_hue(objc::Object, CGFloat hue, CGFloat saturation, CGFloat br
   return UIColor::colorWithRed(rgb.red, rgb.green, rgb.blue, alpha);
 }
 
+/// Takes over the reference.
+UIColor color_of_pattern(CGColorRef pattern) {
+  const UIColor color = UIColor::alloc().init().autorelease();
+  objc::state_of<Color>(color).take_pattern(pattern);
+  return color;
+}
+
 UIColor color_with_cg_color(objc::Object, CGColorRef color) {
   if (!color) return nil;
+  if (quartzcore::pattern_of(color)) return color_of_pattern(CGColorRetain(color));
   const Rgba rgba = quartzcore::rgba_of(color);
   return UIColor::colorWithRed(rgba.red, rgba.green, rgba.blue, rgba.alpha);
+}
+
+UIColor color_with_pattern(objc::Object, UIImage image) {
+  const CGColorRef pattern = quartzcore::make_pattern_color(image.CGImage(), image.scale());
+  return pattern ? color_of_pattern(pattern) : UIColor();
 }
 
 // Named colours are made once and kept for the life of the process.
@@ -90,6 +104,12 @@ UIColor Color::init_with_rgba(CGFloat red, CGFloat green, CGFloat blue, CGFloat 
   return self;
 }
 
+void Color::take_pattern(CGColorRef pattern) {
+  CGColorRelease(cg_color_);
+  cg_color_ = pattern;
+  rgba_ = quartzcore::rgba_of(pattern);
+}
+
 UIColor Color::with_alpha(CGFloat alpha) const {
   return UIColor::colorWithRed(rgba_.red, rgba_.green, rgba_.blue, alpha);
 }
@@ -130,7 +150,9 @@ CGColorRef Color::cg_color() {
 BOOL Color::is_equal(objc::Object other) const {
   if (other == self) return YES;
   if (!objc::cast<NSObject>(other).isKindOfClass(UIColor::cls())) return NO;
-  return components_of(objc::cast<UIColor>(other)) == rgba_;
+  const UIColor color = objc::cast<UIColor>(other);
+  return components_of(color) == rgba_ &&
+         quartzcore::pattern_of(color.CGColor()) == quartzcore::pattern_of(cg_color_);
 }
 
 NSUInteger Color::hash() const {
@@ -187,6 +209,7 @@ void export_color() {
       .class_method<&color_with_rgba>("colorWithRed:green:blue:alpha:")
       .class_method<&color_with_hue>("colorWithHue:saturation:brightness:alpha:")
       .class_method<&color_with_cg_color>("colorWithCGColor:")
+      .class_method<&color_with_pattern>("colorWithPatternImage:")
       .method<&Color::init_with_white>("initWithWhite:alpha:")
       .method<&Color::init_with_rgba>("initWithRed:green:blue:alpha:")
       .method<&Color::with_alpha>("colorWithAlphaComponent:")

@@ -18,6 +18,8 @@ class Color : public objc::Implementation<Color, UIColor> {
 
   UIColor init_with_white(CGFloat white, CGFloat alpha);
   UIColor init_with_rgba(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha);
+  /// Takes over the reference.
+  void take_pattern(CGColorRef pattern);
   UIColor with_alpha(CGFloat alpha) const;
   BOOL get_rgba(CGFloat* red, CGFloat* green, CGFloat* blue, CGFloat* alpha) const;
   BOOL get_white(CGFloat* white, CGFloat* alpha) const;

@@ -1,3 +1,4 @@
+#include "host/quartzcore/context.h"
 #include "platform/CoreGraphics/CGPath.h"
 #include "platform/QuartzCore/CABackdropLayer.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
@@ -18,6 +19,32 @@ TEST_F(CompositorTest, LayersArePaintedInTheirOrderAtTheirPlaces) {
   EXPECT_EQ(pixel(4, 4), 0xff00ff00);
   EXPECT_EQ(pixel(5, 5), 0xff00ff00);
   EXPECT_EQ(pixel(6, 6), kBlue);
+}
+
+TEST_F(CompositorTest, APatternIsTiledFromTheLayersCorner) {
+  const CGImageRef red = image_of_color(1, 1, kRed);
+  const CGImageRef green = image_of_color(1, 1, 0xff00ff00);
+  const auto tile = quartzcore::make_surface(2, 1);
+  const auto drawing = quartzcore::draw_on(tile);
+  quartzcore::draw_image(drawing.get(), *quartzcore::image_of(red), {0, 0, 1, 1}, 1);
+  quartzcore::draw_image(drawing.get(), *quartzcore::image_of(green), {1, 0, 1, 1}, 1);
+  const CGImageRef picture = quartzcore::make_image(tile, quartzcore::Opacity::Opaque);
+  const CGColorRef pattern = quartzcore::make_pattern_color(picture, 1);
+  const CALayer layer = add({1, 1, 4, 4}, pattern);
+  render();
+  EXPECT_EQ(pixel(0, 1), kBlue);
+  EXPECT_EQ(pixel(1, 1), kRed);
+  EXPECT_EQ(pixel(2, 1), 0xff00ff00);
+  EXPECT_EQ(pixel(3, 4), kRed);
+  EXPECT_EQ(pixel(5, 1), kBlue);
+
+  const CGColorRef plain = quartzcore::make_color(quartzcore::rgba_of(pattern));
+  layer.setBackgroundColor(plain);
+  EXPECT_FALSE(render().empty()) << "a pattern is not its mean";
+  EXPECT_EQ(pixel(1, 1), pixel(2, 1));
+  CGColorRelease(plain);
+  CGColorRelease(pattern);
+  CGImageRelease(picture);
 }
 
 TEST_F(CompositorTest, AFrameWithNothingChangedPaintsNothing) {

@@ -1,6 +1,13 @@
+#include <gmock/gmock.h>
+
+#include <cstring>
+
+#include "host/quartzcore/image.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/UIKit/UIColor.h"
+#include "platform/UIKit/UIGraphics.h"
+#include "platform/UIKit/UIImage.h"
 #include "tests/host/uikit_text/drawing_test.h"
 
 namespace {
@@ -72,6 +79,52 @@ TEST_F(Color, CrossesCoreGraphicsUnchanged) {
 
   EXPECT_EQ(components(back), (Components{0.1, 0.2, 0.3, 0.4}));
   EXPECT_DOUBLE_EQ(CGColorGetAlpha(made.CGColor()), 0.4);
+}
+
+/// Two points wide at two pixels a point: the left half red, the right half blue.
+UIImage striped_picture() {
+  UIGraphicsBeginImageContextWithOptions({2, 1}, YES, 2);
+  UIColor::redColor().setFill();
+  UIRectFill({0, 0, 1, 1});
+  UIColor::blueColor().setFill();
+  UIRectFill({1, 0, 1, 1});
+  const UIImage picture = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+  return picture;
+}
+
+TEST_F(Color, APatternFillsWithItsPictureOverAndOver) {
+  const UIColor pattern = UIColor::colorWithPatternImage(striped_picture());
+  UIGraphicsBeginImageContextWithOptions({5, 1}, YES, 1);
+  pattern.setFill();
+  UIRectFill({0, 0, 5, 1});
+  const UIImage drawn = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+
+  const auto surface = host::quartzcore::image_of(drawn.CGImage())->surface();
+  std::uint32_t pixels[5];
+  std::memcpy(pixels, cairo_image_surface_get_data(surface.get()), sizeof pixels);
+  EXPECT_THAT(pixels,
+              ::testing::ElementsAre(0xffff0000, 0xff0000ff, 0xffff0000, 0xff0000ff, 0xffff0000));
+}
+
+TEST_F(Color, APatternIsItsMeanWhereOneColourIsAsked) {
+  const Components mean = components(UIColor::colorWithPatternImage(striped_picture()));
+  EXPECT_NEAR(mean.red, 0.5, 0.01);
+  EXPECT_NEAR(mean.blue, 0.5, 0.01);
+  EXPECT_EQ(mean.alpha, 1);
+}
+
+TEST_F(Color, PatternsOfOnePictureAreEqualAndCrossCoreGraphics) {
+  const UIImage picture = striped_picture();
+  const UIColor pattern = UIColor::colorWithPatternImage(picture);
+  EXPECT_TRUE(pattern.isEqual(UIColor::colorWithPatternImage(picture)));
+  EXPECT_FALSE(pattern.isEqual(UIColor::colorWithPatternImage(striped_picture())));
+  EXPECT_TRUE(pattern.isEqual(UIColor::colorWithCGColor(pattern.CGColor())));
+}
+
+TEST_F(Color, WithoutAPictureThereIsNoPattern) {
+  EXPECT_FALSE(UIColor::colorWithPatternImage(nil));
 }
 
 }  // namespace
