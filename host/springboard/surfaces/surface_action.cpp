@@ -3,44 +3,57 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
 
 namespace host::springboard {
+namespace {
+
+objc::Sel perform() {
+  return "perform:"_sel;
+}
+
+}  // namespace
 
 SurfaceActions::~SurfaceActions() {
-  for (const auto& action : made_) {
-    auto& state = objc::state_of<SurfaceAction>(*action);
+  for (const Made& made : made_) {
+    auto& state = objc::state_of<SurfaceAction>(*made.action);
     state.act = nullptr;
     state.receives = nullptr;
-    // A touch that is under way may hold the recogniser a little longer.
-    objc::Ref<SBSurfaceAction>(action).leak().autorelease();
+    // A finger that is still down keeps its view and what recognises on it beyond the surface.
+    made.button->removeTarget(*made.action, perform(), UIControlEventTouchUpInside);
+    made.recognizer->removeTarget(*made.action, perform());
+    made.recognizer->setDelegate(nil);
+    // This may be the action's own doing.
+    objc::Ref<SBSurfaceAction>(made.action).leak().autorelease();
   }
 }
 
-SBSurfaceAction SurfaceActions::make(std::function<void(objc::Object)> act) {
-  made_.push_back(objc::Ref<SBSurfaceAction>::adopt(SBSurfaceAction::alloc().init()));
-  objc::state_of<SurfaceAction>(*made_.back()).act = std::move(act);
-  return *made_.back();
+SurfaceActions::Made& SurfaceActions::make(std::function<void(objc::Object)> act) {
+  Made& made = made_.emplace_back();
+  made.action = objc::Ref<SBSurfaceAction>::adopt(SBSurfaceAction::alloc().init());
+  objc::state_of<SurfaceAction>(*made.action).act = std::move(act);
+  return made;
 }
 
 void SurfaceActions::on_press(UIButton button, std::function<void()> act) {
-  const auto action = make([act = std::move(act)](objc::Object) { act(); });
-  button.addTarget(action, "perform:"_sel, UIControlEventTouchUpInside);
+  Made& made = make([act = std::move(act)](objc::Object) { act(); });
+  made.button = objc::Ref<UIButton>::retain(button);
+  button.addTarget(*made.action, perform(), UIControlEventTouchUpInside);
 }
 
 void SurfaceActions::on_tap(UIView view, std::function<void()> act) {
-  const auto action = make([act = std::move(act)](objc::Object) { act(); });
-  const auto tap = objc::Ref<UITapGestureRecognizer>::adopt(
-      UITapGestureRecognizer::alloc().initWithTarget(action, "perform:"_sel));
-  view.addGestureRecognizer(*tap);
+  Made& made = make([act = std::move(act)](objc::Object) { act(); });
+  made.recognizer = objc::Ref<UIGestureRecognizer>::adopt(
+      UITapGestureRecognizer::alloc().initWithTarget(*made.action, perform()));
+  view.addGestureRecognizer(*made.recognizer);
 }
 
 void SurfaceActions::on_pan(UIView view, Pan act, Receives receives) {
-  const auto action = make([act = std::move(act)](objc::Object sender) {
+  Made& made = make([act = std::move(act)](objc::Object sender) {
     act(objc::cast<UIPanGestureRecognizer>(sender));
   });
-  objc::state_of<SurfaceAction>(action).receives = std::move(receives);
-  const auto pan = objc::Ref<UIPanGestureRecognizer>::adopt(
-      UIPanGestureRecognizer::alloc().initWithTarget(action, "perform:"_sel));
-  pan->setDelegate(action);
-  view.addGestureRecognizer(*pan);
+  objc::state_of<SurfaceAction>(*made.action).receives = std::move(receives);
+  made.recognizer = objc::Ref<UIGestureRecognizer>::adopt(
+      UIPanGestureRecognizer::alloc().initWithTarget(*made.action, perform()));
+  made.recognizer->setDelegate(*made.action);
+  view.addGestureRecognizer(*made.recognizer);
 }
 
 void export_surface_action() {

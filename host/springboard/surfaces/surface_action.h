@@ -46,9 +46,15 @@ class SurfaceActions {
   void on_pan(UIView view, Pan act, Receives receives = {});
 
  private:
-  SBSurfaceAction make(std::function<void(objc::Object)> act);
+  /// An action and who calls it; one of the two is there.
+  struct Made {
+    objc::Ref<SBSurfaceAction> action;
+    objc::Ref<UIButton> button;
+    objc::Ref<UIGestureRecognizer> recognizer;
+  };
+  Made& make(std::function<void(objc::Object)> act);
 
-  std::vector<objc::Ref<SBSurfaceAction>> made_;
+  std::vector<Made> made_;
 };
 
 void export_surface_action();

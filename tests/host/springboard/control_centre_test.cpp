@@ -70,6 +70,23 @@ TEST_F(ControlCentreTest, TheIconUnderThePullLosesItsTouch) {
   EXPECT_TRUE(is_open());
 }
 
+TEST_F(ControlCentreTest, ItMayGoUnderAFinger) {
+  fling(bottom_edge(), {middle().x, 250}, 0.3);
+  settle();
+  const CGFloat top = screen().height - seen();
+  press({middle().x, top + 10});
+  {
+    const objc::AutoreleasePool pool;
+    SBControlCenterController::sharedInstance().dismissAnimated(NO);
+  }
+  move({middle().x, top + 60});
+  move({middle().x, top + 90});
+  lift();
+  settle();
+  EXPECT_FALSE(is_open());
+  EXPECT_FALSE(control_centre().sheet());
+}
+
 TEST_F(ControlCentreTest, ATapAboveClosesIt) {
   present_control_centre();
   settle();
