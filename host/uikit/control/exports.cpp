@@ -2,6 +2,7 @@
 
 #include "host/uikit/control/button.h"
 #include "host/uikit/control/control.h"
+#include "host/uikit/control/switch.h"
 
 namespace host::uikit {
 
@@ -9,6 +10,7 @@ void export_control() {
   if (UIControl::cls()) return;
   export_control_class();
   export_button();
+  export_switch();
 }
 
 }  // namespace host::uikit
