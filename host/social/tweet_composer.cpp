@@ -139,6 +139,7 @@ void export_tweet_composer() {
       .class_method<&Composer::can_send>("canSendTweet")
       .method<&Composer::set_initial_text>("setInitialText:")
       .method<&Composer::set_completion_handler>("setCompletionHandler:")
+      .method<&Composer::presentation_style>("modalPresentationStyle")
       .method<&Composer::load_view>("loadView")
       .method<&Composer::view_will_appear>("viewWillAppear:")
       .method<&Composer::view_will_disappear>("viewWillDisappear:")

@@ -27,6 +27,8 @@ class TweetComposer : public objc::Implementation<TweetComposer, TWTweetComposeV
     handler_ = objc::OwnedBlock<void(Result)>(handler);
   }
 
+  /// A card: whatever is behind it stays in sight, and does not disappear.
+  UIModalPresentationStyle presentation_style() const { return UIModalPresentationOverFullScreen; }
   void load_view();
   void view_will_appear(BOOL animated);
   void view_will_disappear(BOOL animated);

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "platform/UIKit/UIApplication.h"
+#include "platform/UIKit/UINavigationItem.h"
 #include "platform/UIKit/UIWindow.h"
+
+struct UINavigationController;
 
 enum UIModalPresentationStyle : NSInteger {
   UIModalPresentationFullScreen,
@@ -29,6 +33,28 @@ struct UIViewController : objc::Bound<UIViewController, "UIViewController", UIRe
   BOOL shouldAutorotate() const { return call<"shouldAutorotate", BOOL>(); }
   NSUInteger supportedInterfaceOrientations() const {
     return call<"supportedInterfaceOrientations", NSUInteger>();
+  }
+  /// Asked by those that know no supported orientations.
+  BOOL shouldAutorotateToInterfaceOrientation(UIInterfaceOrientation orientation) const {
+    return call<"shouldAutorotateToInterfaceOrientation:", BOOL>(orientation);
+  }
+  UIInterfaceOrientation preferredInterfaceOrientationForPresentation() const {
+    return call<"preferredInterfaceOrientationForPresentation", UIInterfaceOrientation>();
+  }
+  UIInterfaceOrientation interfaceOrientation() const {
+    return call<"interfaceOrientation", UIInterfaceOrientation>();
+  }
+
+  /// What a navigation bar shows of it; made when it is first asked for.
+  UINavigationItem navigationItem() const { return call<"navigationItem", UINavigationItem>(); }
+  /// The one on whose stack it is, or one above it is. Body in UINavigationController.h.
+  UINavigationController navigationController() const;
+  /// Are bars to keep clear the room at the ends of the scroll view that the page begins with?
+  BOOL automaticallyAdjustsScrollViewInsets() const {
+    return call<"automaticallyAdjustsScrollViewInsets", BOOL>();
+  }
+  void setAutomaticallyAdjustsScrollViewInsets(BOOL adjusts) const {
+    call<"setAutomaticallyAdjustsScrollViewInsets:">(adjusts);
   }
 
   UIViewController parentViewController() const {

@@ -8,6 +8,7 @@
 #include "host/springboard/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/keyboard/exports.h"
+#include "host/uikit/navigation/exports.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/exports.h"
 #include "host/uikit/text/text_view.h"
@@ -24,6 +25,7 @@ void export_platform_classes() {
   uikit::export_keyboard();
   uikit::export_scroll();
   uikit::export_text_view();
+  uikit::export_navigation();
   media_player::export_media_player();
   springboard::export_springboard();
   social::export_social();

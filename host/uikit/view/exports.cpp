@@ -3,6 +3,8 @@
 #include "host/uikit/application/exports.h"
 #include "host/uikit/control/exports.h"
 #include "host/uikit/gesture/exports.h"
+#include "host/uikit/navigation/bar_button_item.h"
+#include "host/uikit/navigation/navigation_item.h"
 #include "host/uikit/view/animation_action.h"
 #include "host/uikit/view/block_animation.h"
 #include "host/uikit/view/image_view.h"
@@ -20,6 +22,8 @@ void export_views() {
   export_animation_action();
   export_block_animation();
   export_window();
+  export_bar_button_item();
+  export_navigation_item();
   export_view_controller();
   export_image_view();
   export_gesture();

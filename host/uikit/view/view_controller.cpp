@@ -1,37 +1,13 @@
 #include "host/uikit/view/view_controller.h"
 
 #include "platform/UIKit/UIDevice.h"
+#include "platform/UIKit/UINavigationController.h"
 
 namespace host::uikit {
 namespace {
 
 constexpr NSUInteger kAllButUpsideDown = 26;
 constexpr NSUInteger kAllOrientations = 30;
-constexpr double kPresentationDuration = 0.4;
-
-CGRect below(CGRect rect) {
-  return {rect.origin.x, rect.max_y(), rect.size.width, rect.size.height};
-}
-
-// By messages: there are controllers that come another way than from below.
-void put_off_screen(UIViewController controller, CGRect place) {
-  objc::send<>(controller, "_placeOffScreen:"_sel, place);
-}
-void put_on_screen(UIViewController controller, CGRect place) {
-  objc::send<>(controller, "_placeOnScreen:"_sel, place);
-}
-
-/// Runs the changes as an animation, or at once; `done` afterwards in either case.
-template <class Changes, class Done>
-void change(BOOL animated, Changes changes, Done done) {
-  if (animated) {
-    UIView::animateWithDuration(kPresentationDuration, objc::block(changes),
-                                objc::block([done](BOOL) { done(); }));
-  } else {
-    changes();
-    done();
-  }
-}
 
 }  // namespace
 
@@ -61,6 +37,26 @@ void ViewController::load_view() {
   view.setAutoresizingMask(UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight);
   self.setView(view);
   view.release();
+}
+
+void ViewController::set_title(NSString title) {
+  title_ = objc::Ref<NSString>::adopt(title.copy());
+  if (navigation_item_) navigation_item_->setTitle(title);
+}
+
+UINavigationItem ViewController::navigation_item() {
+  if (!navigation_item_)
+    navigation_item_ =
+        objc::Ref<UINavigationItem>::adopt(UINavigationItem::alloc().initWithTitle(self.title()));
+  return navigation_item_.get();
+}
+
+UINavigationController ViewController::navigation_controller() const {
+  for (UIViewController one = self; one; one = one.parentViewController()) {
+    if (one.isKindOfClass(UINavigationController::cls()))
+      return objc::cast<UINavigationController>(one);
+  }
+  return nil;
 }
 
 UIResponder ViewController::next_responder() {
@@ -98,68 +94,6 @@ void ViewController::remove_from_parent() {
   self.didMoveToParentViewController(nil);
 }
 
-void ViewController::present(UIViewController controller, BOOL animated,
-                             objc::Block<void()> completion) {
-  const UIWindow window = self.view().window();
-  if (!controller || presented_ || !window) return;
-  presented_.reset(controller);
-  objc::state_of<ViewController>(controller).presenting_ = self;
-  const UIView view = controller.view();
-  const CGRect place = window.bounds();
-  controller.viewWillAppear(animated);
-  if (animated) put_off_screen(controller, place);
-  window.addSubview(view);
-  change(
-      animated, [controller, place] { put_on_screen(controller, place); },
-      [kept = presented_, animated, completion = objc::OwnedBlock<void()>(completion)] {
-        // It may have been sent away again on its way.
-        if (kept->presentingViewController()) kept->viewDidAppear(animated);
-        completion.get()();
-      });
-}
-
-void ViewController::dismiss(BOOL animated, objc::Block<void()> completion) {
-  if (!presented_) return presenting_.dismissViewControllerAnimated(animated, completion);
-  const auto leaving = std::exchange(presented_, {});
-  objc::state_of<ViewController>(leaving.get()).presenting_ = nil;
-  const CGRect place = leaving->view().frame();
-  leaving->viewWillDisappear(animated);
-  change(
-      animated, [leaving, place] { put_off_screen(leaving.get(), place); },
-      [leaving, animated, completion = objc::OwnedBlock<void()>(completion)] {
-        objc::state_of<ViewController>(leaving.get()).end_presentation();
-        leaving->view().removeFromSuperview();
-        leaving->viewDidDisappear(animated);
-        completion.get()();
-      });
-}
-
-void ViewController::end_presentation() {
-  const auto leaving = std::exchange(presented_, {});
-  if (!leaving) return;
-  ViewController& controller = objc::state_of<ViewController>(leaving.get());
-  controller.presenting_ = nil;
-  controller.end_presentation();
-  leaving->viewWillDisappear(NO);
-  if (leaving->isViewLoaded()) leaving->view().removeFromSuperview();
-  leaving->viewDidDisappear(NO);
-}
-
-void ViewController::place_off_screen(CGRect place) {
-  self.view().setFrame(below(place));
-}
-
-void ViewController::place_on_screen(CGRect place) {
-  self.view().setFrame(place);
-}
-
-void ViewController::present_modal(UIViewController controller, BOOL animated) {
-  self.presentViewController(controller, animated, nullptr);
-}
-void ViewController::dismiss_modal(BOOL animated) {
-  self.dismissViewControllerAnimated(animated, nullptr);
-}
-
 void export_view_controller() {
   using Controller = ViewController;
   objc::ClassBuilder("UIViewController", "UIResponder")
@@ -180,6 +114,13 @@ void export_view_controller() {
       .method<&Controller::set_title>("setTitle:")
       .method<&Controller::should_autorotate>("shouldAutorotate")
       .method<&Controller::supported_interface_orientations>("supportedInterfaceOrientations")
+      .method<&Controller::should_autorotate_to>("shouldAutorotateToInterfaceOrientation:")
+      .method<&Controller::preferred_orientation>("preferredInterfaceOrientationForPresentation")
+      .method<&Controller::orientation>("interfaceOrientation")
+      .method<&Controller::navigation_item>("navigationItem")
+      .method<&Controller::navigation_controller>("navigationController")
+      .method<&Controller::adjusts_insets>("automaticallyAdjustsScrollViewInsets")
+      .method<&Controller::set_adjusts_insets>("setAutomaticallyAdjustsScrollViewInsets:")
       .method<&Controller::parent>("parentViewController")
       .method<&Controller::children>("childViewControllers")
       .method<&Controller::add_child>("addChildViewController:")

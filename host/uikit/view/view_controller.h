@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "host/uikit/view/view.h"
+#include "platform/UIKit/UINavigationController.h"
 
 namespace host::uikit {
 
@@ -25,9 +26,18 @@ class ViewController : public objc::Implementation<ViewController, UIViewControl
   void view_did_layout_subviews() {}
   UIResponder next_responder();
   NSString title() const { return title_.get(); }
-  void set_title(NSString title) { title_.reset(title); }
+  void set_title(NSString title);
   BOOL should_autorotate() { return YES; }
   NSUInteger supported_interface_orientations();
+  BOOL should_autorotate_to(UIInterfaceOrientation orientation) {
+    return orientation == UIInterfaceOrientationPortrait ? YES : NO;
+  }
+  UIInterfaceOrientation preferred_orientation() { return UIInterfaceOrientationPortrait; }
+  UIInterfaceOrientation orientation() const { return UIInterfaceOrientationPortrait; }
+  UINavigationItem navigation_item();
+  UINavigationController navigation_controller() const;
+  BOOL adjusts_insets() const { return adjusts_insets_; }
+  void set_adjusts_insets(BOOL adjusts) { adjusts_insets_ = adjusts; }
 
   UIViewController parent() const { return parent_; }
   NSArray children() const;
@@ -38,8 +48,8 @@ class ViewController : public objc::Implementation<ViewController, UIViewControl
 
   UIModalPresentationStyle modal_presentation_style() const { return presentation_style_; }
   void set_modal_presentation_style(UIModalPresentationStyle style) { presentation_style_ = style; }
-  UIViewController presented() const { return presented_.get(); }
-  UIViewController presenting() const { return presenting_; }
+  UIViewController presented() const;
+  UIViewController presenting() const;
   void present(UIViewController controller, BOOL animated, objc::Block<void()> completion);
   void dismiss(BOOL animated, objc::Block<void()> completion);
   void present_modal(UIViewController controller, BOOL animated);
@@ -53,13 +63,17 @@ class ViewController : public objc::Implementation<ViewController, UIViewControl
   void end_presentation();
 
  private:
+  UIViewController presenter() const;
+
   objc::Ref<UIView> view_;
   objc::Ref<NSString> title_;
+  objc::Ref<UINavigationItem> navigation_item_;
   std::vector<objc::Ref<UIViewController>> children_;
   UIViewController parent_;
   objc::Ref<UIViewController> presented_;
   UIViewController presenting_;
   UIModalPresentationStyle presentation_style_ = UIModalPresentationFullScreen;
+  BOOL adjusts_insets_ = YES;
 };
 
 void export_view_controller();
