@@ -16,6 +16,7 @@
 #include "host/springboard/surfaces/slider.h"
 #include "host/springboard/surfaces/surface_action.h"
 #include "host/springboard/surfaces/surface_window.h"
+#include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/system/spring_board_application.h"
 #include "host/springboard/system/ui_controller.h"
 #include "host/springboard/view/icon_list_view.h"
@@ -41,6 +42,7 @@ void export_springboard() {
   export_surface_action();
   export_surface_window();
   export_slider();
+  export_app_switcher();
   export_banner_controller();
   export_control_centre_view();
   export_control_centre();

@@ -1,5 +1,7 @@
 #include "host/springboard/surfaces/surface_action.h"
 
+#include <cmath>
+
 #include "platform/UIKit/UITapGestureRecognizer.h"
 
 namespace host::springboard {
@@ -16,6 +18,7 @@ SurfaceActions::~SurfaceActions() {
     auto& state = objc::state_of<SurfaceAction>(*made.action);
     state.act = nullptr;
     state.receives = nullptr;
+    state.begins = nullptr;
     // A finger that is still down keeps its view and what recognises on it beyond the surface.
     made.button->removeTarget(*made.action, perform(), UIControlEventTouchUpInside);
     made.recognizer->removeTarget(*made.action, perform());
@@ -56,11 +59,20 @@ void SurfaceActions::on_pan(UIView view, Pan act, Receives receives) {
   view.addGestureRecognizer(*made.recognizer);
 }
 
+void SurfaceActions::on_upright_pan(UIView view, Pan act) {
+  on_pan(view, std::move(act));
+  objc::state_of<SurfaceAction>(*made_.back().action).begins = [](UIGestureRecognizer pan) {
+    const CGPoint way = objc::cast<UIPanGestureRecognizer>(pan).translationInView(nil);
+    return std::abs(way.y) > std::abs(way.x);
+  };
+}
+
 void export_surface_action() {
   objc::ClassBuilder("SBSurfaceAction", "NSObject")
       .state<SurfaceAction>()
       .method<&SurfaceAction::perform>("perform:")
       .method<&SurfaceAction::should_receive>("gestureRecognizer:shouldReceiveTouch:")
+      .method<&SurfaceAction::should_begin>("gestureRecognizerShouldBegin:")
       .finish();
 }
 

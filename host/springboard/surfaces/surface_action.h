@@ -24,9 +24,13 @@ class SurfaceAction : public objc::Implementation<SurfaceAction, SBSurfaceAction
   BOOL should_receive(UIGestureRecognizer, UITouch touch) {
     return !receives || receives(touch) ? YES : NO;
   }
+  BOOL should_begin(UIGestureRecognizer recognizer) {
+    return !begins || begins(recognizer) ? YES : NO;
+  }
 
   std::function<void(objc::Object)> act;
   std::function<bool(UITouch)> receives;
+  std::function<bool(UIGestureRecognizer)> begins;
 };
 
 /// The actions of one surface, which nothing calls any more once this has ended.
@@ -44,6 +48,8 @@ class SurfaceActions {
   void on_tap(UIView view, std::function<void()> act);
   /// `receives` says which touches count; all do when there is none.
   void on_pan(UIView view, Pan act, Receives receives = {});
+  /// Of pans that begin upwards or downwards; those to the side are left to others.
+  void on_upright_pan(UIView view, Pan act);
 
  private:
   /// An action and who calls it; one of the two is there.

@@ -8,6 +8,7 @@
 #include "host/springboard/surfaces/notification_centre.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/surfaces/volume_overlay.h"
+#include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/system_actions.h"
 #include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBMediaController.h"
@@ -73,6 +74,7 @@ bool close_top_surface() {
 }
 
 void close_surfaces_at_once() {
+  app_switcher().dismiss_at_once();
   const SBControlCenterController controls = SBControlCenterController::sharedInstance();
   if (controls.isPresented()) controls.dismissAnimated(NO);
   notification_centre().close_at_once();

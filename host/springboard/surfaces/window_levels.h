@@ -7,6 +7,8 @@ namespace host::springboard {
 // What lies above what: the home screen and its applications at the normal level, then these, then
 // what extensions put up, alerts and the keyboard.
 
+/// Above every application, below the status bar.
+inline constexpr UIWindowLevel kSwitcherLevel = UIWindowLevelStatusBar - 10;
 inline constexpr UIWindowLevel kLockScreenLevel = UIWindowLevelStatusBar + 50;
 /// Of the status bar while the phone is locked: it lies on the lock screen.
 inline constexpr UIWindowLevel kLockedStatusBarLevel = kLockScreenLevel + 1;

@@ -3,6 +3,7 @@
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/system/ui_controller.h"
 #include "platform/SpringBoard/SBApplicationController.h"
 #include "platform/SpringBoard/SBLockScreenViewController.h"
@@ -79,6 +80,7 @@ bool open(std::string_view bundle) {
 bool uninstall(std::string_view bundle) {
   const SBApplication found = application(bundle);
   if (!found) return false;
+  recent_applications().forget(std::string(bundle));
   icon_controller().icon_model().remove_application(std::string(bundle));
   icon_controller().layout_changed();
   SBApplicationController::sharedInstance().uninstallApplication(found);

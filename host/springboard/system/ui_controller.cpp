@@ -1,8 +1,12 @@
 #include "host/springboard/system/ui_controller.h"
 
 #include "host/springboard/home/icon_controller.h"
+#include "host/springboard/model/strings.h"
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/surfaces.h"
+#include "host/springboard/switcher/app_switcher.h"
+#include "host/springboard/switcher/recent_applications.h"
+#include "host/springboard/switcher/screen_picture.h"
 #include "host/springboard/view/icon_view.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
@@ -35,10 +39,11 @@ BOOL UserInterfaceController::clicked_menu_button() {
   const SBIconController icons = SBIconController::sharedInstance();
   if (close_top_surface()) return YES;
   if (is_locked()) return NO;
-  if (switcher_showing_) {
-    switcher_showing_ = NO;
-  } else if (launch_screen_ && launch_screen_->is_open()) {
-    launch_screen_->close();
+  if (app_switcher().is_showing()) {
+    app_switcher().dismiss();
+  } else if (shows_application()) {
+    recent_applications().keep_picture(recent_applications().front(), picture_of_front());
+    leave_application();
   } else if (icons.isEditing()) {
     icons.setIsEditing(NO);
   } else if (icons.hasOpenFolder()) {
@@ -53,8 +58,23 @@ BOOL UserInterfaceController::clicked_menu_button() {
 
 BOOL UserInterfaceController::handle_menu_double_tap() {
   if (is_locked()) return NO;
-  switcher_showing_ = YES;
+  while (close_top_surface()) {
+  }
+  if (app_switcher().is_showing()) {
+    app_switcher().dismiss();
+  } else {
+    app_switcher().show();
+  }
   return YES;
+}
+
+BOOL UserInterfaceController::is_app_switcher_showing() const {
+  return app_switcher().is_showing() ? YES : NO;
+}
+
+void UserInterfaceController::leave_application() {
+  recent_applications().went_home();
+  if (launch_screen_) launch_screen_->close();
 }
 
 void UserInterfaceController::activate_application_animated(SBApplication application) {
@@ -63,6 +83,7 @@ void UserInterfaceController::activate_application_animated(SBApplication applic
   icons.setIsEditing(NO);
   const SBIcon icon =
       icons.model().expectedIconForDisplayIdentifier(application.bundleIdentifier());
+  recent_applications().came_to_front(to_string(application.bundleIdentifier()));
   if (!launch_screen_) launch_screen_ = std::make_unique<LaunchScreen>(self.window());
   launch_screen_->open(application, icon.generateIconImage(SBIconImageFormatHomeScreen),
                        icon_on_screen(icon, self.window()));

@@ -18,15 +18,16 @@ class UserInterfaceController
   /// Leaves one thing after the other: the switcher, the application, the editing mode, the open
   /// folder, at last a page other than the first.
   BOOL clicked_menu_button();
-  /// The switcher is not drawn yet; that it was called up is remembered.
+  /// Calls up the switcher, or sends it away; not while the phone is locked.
   BOOL handle_menu_double_tap();
-  BOOL is_app_switcher_showing() const { return switcher_showing_; }
+  BOOL is_app_switcher_showing() const;
+  /// Back to the home screen.
+  void leave_application();
   bool shows_application() const { return launch_screen_ && launch_screen_->is_open(); }
   void activate_application_animated(SBApplication application);
 
  private:
   std::unique_ptr<LaunchScreen> launch_screen_;
-  BOOL switcher_showing_ = NO;
 };
 
 void export_ui_controller();

@@ -1,0 +1,179 @@
+#include "host/springboard/switcher/app_switcher.h"
+
+#include "host/springboard/configuration.h"
+#include "host/springboard/icon/icon_image.h"
+#include "host/springboard/model/strings.h"
+#include "host/springboard/pictures.h"
+#include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/surface_parts.h"
+#include "host/springboard/surfaces/surface_window.h"
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/switcher/recent_applications.h"
+#include "host/springboard/switcher/screen_picture.h"
+#include "host/springboard/system/ui_controller.h"
+#include "host/springboard/view/make_view.h"
+#include "platform/SpringBoard/SBApplicationController.h"
+#include "platform/SpringBoard/SBIconController.h"
+
+namespace host::springboard {
+namespace {
+
+constexpr double kZoom = 0.4;
+constexpr double kFading = 0.15;
+constexpr CGFloat kShade = 0.12;
+constexpr NSUInteger kIconsOnHomeCard = 9;
+// What stands for the home screen among bundle identifiers.
+const std::string kHome;
+
+SBApplication application(const std::string& bundle) {
+  return SBApplicationController::sharedInstance().applicationWithBundleIdentifier(to_ns(bundle));
+}
+
+UIImage icon_of(SBApplication application) {
+  const SBIcon icon = SBIconController::sharedInstance().model().expectedIconForDisplayIdentifier(
+      application.bundleIdentifier());
+  const UIImage image = icon.generateIconImage(SBIconImageFormatHomeScreen);
+  return image ? image : initial_image(application.displayName());
+}
+
+/// The home screen in small: the first of its applications.
+UIImage home_icon() {
+  const auto images = NSMutableArray::array();
+  for (const SBApplication each :
+       SBApplicationController::sharedInstance().allApplications().of<SBApplication>()) {
+    if (images.count() < kIconsOnHomeCard) images.addObject(icon_of(each));
+  }
+  return folder_image(images);
+}
+
+UserInterfaceController& user_interface() {
+  return objc::state_of<UserInterfaceController>(SBUIController::sharedInstance());
+}
+
+}  // namespace
+
+AppSwitcher::~AppSwitcher() {
+  dismiss_at_once();
+}
+
+void AppSwitcher::show() {
+  if (showing_) return;
+  dismiss_at_once();
+  showing_ = true;
+  ++shows_;
+  build();
+  window_->setHidden(NO);
+  const std::string& front = recent_applications().front();
+  row_->show_card(front);
+  row_->zoom_onto(front);
+  UIView::animateWithDuration(kZoom, 0, UIViewAnimationOptionAllowUserInteraction,
+                              objc::block([this] { row_->zoom_out(); }), objc::Block<void(BOOL)>());
+}
+
+void AppSwitcher::build() {
+  RecentApplications& recent = recent_applications();
+  if (!recent.front().empty()) recent.keep_picture(recent.front(), picture_of_front());
+  window_ = make_surface_window(kSwitcherLevel);
+  add_ground();
+  row_ = std::make_unique<SwitcherRow>(*window_, self);
+  add_home_card();
+  for (const std::string& bundle : recent.all())
+    add_card(application(bundle));
+  actions_ = std::make_unique<SurfaceActions>();
+  actions_->on_tap(row_->view(), [this] { dismiss(); });
+}
+
+void AppSwitcher::add_ground() const {
+  const auto wallpaper = make_view<UIImageView>(window_->bounds());
+  wallpaper->setContentMode(UIViewContentModeScaleAspectFill);
+  wallpaper->setClipsToBounds(YES);
+  wallpaper->setBackgroundColor(UIColor::blackColor());
+  wallpaper->setImage(picture(to_ns(configuration().wallpaper)));
+  wallpaper->setUserInteractionEnabled(YES);
+  window_->addSubview(*wallpaper);
+  add_backdrop(*window_, window_->bounds(), kDarkBackdrop);
+  add_plate(*window_, window_->bounds(), UIColor::colorWithWhite(0, kShade));
+}
+
+void AppSwitcher::add_home_card() {
+  row_->add({kHome, "Home"_ns, home_icon(), picture_of_home()}, wishes_for(kHome));
+}
+
+void AppSwitcher::add_card(SBApplication application) {
+  if (!application) return;
+  const std::string bundle = to_string(application.bundleIdentifier());
+  row_->add({bundle, application.displayName(), icon_of(application),
+             recent_applications().picture(bundle)},
+            wishes_for(bundle));
+}
+
+SwitcherCard::Wishes AppSwitcher::wishes_for(const std::string& bundle) {
+  return {[this, bundle] { choose(bundle); }, [this, bundle] { throw_away(bundle); }};
+}
+
+void AppSwitcher::choose(const std::string& bundle) {
+  if (!showing_) return;
+  if (bundle != recent_applications().front()) {
+    // It comes up below, while the card grows over it.
+    if (bundle.empty()) {
+      user_interface().leave_application();
+    } else {
+      SBUIController::sharedInstance().activateApplicationAnimated(application(bundle));
+    }
+  }
+  leave_onto(bundle);
+}
+
+void AppSwitcher::throw_away(const std::string& bundle) {
+  if (!showing_) return;
+  if (bundle == recent_applications().front()) user_interface().leave_application();
+  row_->throw_away(bundle);
+  recent_applications().close(bundle);
+}
+
+void AppSwitcher::dismiss() {
+  if (showing_) leave_onto(recent_applications().front());
+}
+
+void AppSwitcher::leave_onto(const std::string& bundle) {
+  showing_ = false;
+  row_->view().setUserInteractionEnabled(NO);
+  const auto grown = objc::block([this, show = shows_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && show == shows_ && row_) fade();
+  });
+  UIView::animateWithDuration(kZoom, objc::block([this, bundle] { row_->zoom_onto(bundle); }),
+                              grown);
+}
+
+void AppSwitcher::fade() {
+  const auto faded = objc::block([this, show = shows_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && show == shows_) dismiss_at_once();
+  });
+  UIView::animateWithDuration(kFading, objc::block([this] { window_->setAlpha(0); }), faded);
+}
+
+void AppSwitcher::dismiss_at_once() {
+  showing_ = false;
+  actions_.reset();
+  row_.reset();
+  if (window_) window_->setHidden(YES);
+  window_.reset();
+}
+
+void AppSwitcher::will_end_dragging(UIScrollView, CGPoint, CGPoint* target) {
+  if (row_) target->x = row_->stop_near(target->x);
+}
+
+AppSwitcher& app_switcher() {
+  return objc::state_of<AppSwitcher>(SharedInstance<SBAppSwitcherController>::get());
+}
+
+void export_app_switcher() {
+  objc::ClassBuilder("SBAppSwitcherController", "NSObject")
+      .state<AppSwitcher>()
+      .method<&AppSwitcher::will_end_dragging>(
+          "scrollViewWillEndDragging:withVelocity:targetContentOffset:")
+      .finish();
+}
+
+}  // namespace host::springboard

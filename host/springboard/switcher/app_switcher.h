@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/springboard/switcher/switcher_row.h"
+#include "objc/class_builder.h"
+#include "platform/SpringBoard/SBApplication.h"
+#include "platform/UIKit/UIWindow.h"
+
+namespace host::springboard {
+
+struct SBAppSwitcherController
+    : objc::Bound<SBAppSwitcherController, "SBAppSwitcherController", NSObject> {};
+
+/// The application switcher: a row of cards over the blurred wallpaper, the home screen's first and
+/// then one for each application that was opened, the latest first. A tap opens, a throw upwards
+/// closes the application.
+class AppSwitcher : public objc::Implementation<AppSwitcher, SBAppSwitcherController> {
+ public:
+  using Implementation::Implementation;
+  ~AppSwitcher();
+
+  bool is_showing() const { return showing_; }
+  void show();
+  /// Back to what was in front.
+  void dismiss();
+  void dismiss_at_once();
+  SwitcherRow* row() { return row_.get(); }
+
+  /// Of the row: it comes to rest with a card in the middle.
+  void will_end_dragging(UIScrollView view, CGPoint velocity, CGPoint* target);
+
+ private:
+  void build();
+  void add_ground() const;
+  void add_card(SBApplication application);
+  void add_home_card();
+  SwitcherCard::Wishes wishes_for(const std::string& bundle);
+  void choose(const std::string& bundle);
+  void throw_away(const std::string& bundle);
+  void leave_onto(const std::string& bundle);
+  void fade();
+
+  objc::Ref<UIWindow> window_;
+  std::unique_ptr<SwitcherRow> row_;
+  std::unique_ptr<SurfaceActions> actions_;
+  bool showing_ = false;
+  int shows_ = 0;
+  /// Ends with this object: an animation may outlast it.
+  std::shared_ptr<void> life_ = std::make_shared<char>();
+};
+
+AppSwitcher& app_switcher();
+
+void export_app_switcher();
+
+}  // namespace host::springboard

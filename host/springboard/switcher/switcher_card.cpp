@@ -1,0 +1,115 @@
+#include "host/springboard/switcher/switcher_card.h"
+
+#include <cmath>
+
+#include "host/springboard/surfaces/surface_parts.h"
+#include "host/springboard/view/make_view.h"
+
+namespace host::springboard {
+namespace {
+
+constexpr CGFloat kIconTop = 20;
+constexpr CGFloat kNameTop = 4;
+constexpr CGFloat kNameHeight = 18;
+constexpr CGFloat kNameSize = 13;
+constexpr CGFloat kGround = 0.13;
+// Of the card's height; a faster finger need not go as far.
+constexpr CGFloat kFarEnough = 0.35;
+constexpr CGFloat kFastEnough = 500;
+// Of the finger's way, for a card that does not want to go there.
+constexpr CGFloat kGive = 0.25;
+constexpr double kLeaving = 0.25;
+constexpr double kFalling = 0.4;
+constexpr CGFloat kDamping = 0.8;
+
+}  // namespace
+
+SwitcherCard::SwitcherCard(UIView row, CGRect frame, const Content& content, Wishes wishes)
+    : bundle_(content.bundle),
+      wishes_(std::move(wishes)),
+      home_y_(frame.centre().y),
+      screen_(make_view<UIImageView>(frame)) {
+  screen_->setBackgroundColor(UIColor::colorWithWhite(kGround, 1));
+  screen_->setImage(content.picture);
+  screen_->setUserInteractionEnabled(YES);
+  row.addSubview(*screen_);
+  add_label(row, frame, content);
+  actions_.on_tap(*screen_, [this] { wishes_.chosen(); });
+  actions_.on_tap(*label_, [this] { wishes_.chosen(); });
+  actions_.on_upright_pan(*screen_, [this](UIPanGestureRecognizer pan) { panned(pan); });
+}
+
+SwitcherCard::~SwitcherCard() {
+  screen_->removeFromSuperview();
+  label_->removeFromSuperview();
+}
+
+void SwitcherCard::add_label(UIView row, CGRect frame, const Content& content) {
+  const CGSize icon = content.icon.size();
+  const CGFloat height = icon.height + kNameTop + kNameHeight;
+  label_ = make_view<UIView>({frame.min_x(), frame.max_y() + kIconTop, frame.size.width, height});
+  row.addSubview(*label_);
+  auto image = objc::Ref<UIImageView>::adopt(UIImageView::alloc().initWithImage(content.icon));
+  image->setCenter({frame.size.width / 2, icon.height / 2});
+  label_->addSubview(*image);
+  const auto name =
+      springboard::add_label(*label_, {0, icon.height + kNameTop, frame.size.width, kNameHeight},
+                             {"HelveticaNeue"_ns, kNameSize, UIColor::whiteColor()});
+  name->setText(content.name);
+}
+
+void SwitcherCard::set_centre_x(CGFloat x) const {
+  screen_->setCenter({x, CGPoint(screen_->center()).y});
+  label_->setCenter({x, CGPoint(label_->center()).y});
+}
+
+void SwitcherCard::set_label_alpha(CGFloat alpha) const {
+  label_->setAlpha(alpha);
+}
+
+void SwitcherCard::panned(UIPanGestureRecognizer pan) {
+  const CGFloat way = pan.translationInView(nil).y;
+  switch (pan.state()) {
+    case UIGestureRecognizerStateBegan:
+    case UIGestureRecognizerStateChanged:
+      lift(way);
+      break;
+    case UIGestureRecognizerStateEnded:
+      if (is_thrown(way, pan.velocityInView(nil).y)) return wishes_.thrown();
+      [[fallthrough]];
+    default:
+      fall_back();
+  }
+}
+
+bool SwitcherCard::is_thrown(CGFloat way, CGFloat velocity) const {
+  if (bundle_.empty() || way >= 0 || velocity > kFastEnough) return false;
+  return velocity < -kFastEnough || -way > kFarEnough * CGRect(screen_->bounds()).size.height;
+}
+
+void SwitcherCard::lift(CGFloat way) const {
+  const bool free = way < 0 && !bundle_.empty();
+  const CGFloat moved = free ? way : way * kGive;
+  screen_->setCenter({CGPoint(screen_->center()).x, home_y_ + moved});
+}
+
+void SwitcherCard::fall_back() const {
+  UIView::animateWithDuration(kFalling, 0, kDamping, 0, UIViewAnimationOptionAllowUserInteraction,
+                              objc::block([screen = *screen_, y = home_y_] {
+                                screen.setCenter({CGPoint(screen.center()).x, y});
+                              }),
+                              objc::Block<void(BOOL)>());
+}
+
+void SwitcherCard::fly_away(const std::function<void()>& flown) const {
+  screen_->setUserInteractionEnabled(NO);
+  label_->setUserInteractionEnabled(NO);
+  const CGFloat above = -CGRect(screen_->bounds()).size.height / 2;
+  UIView::animateWithDuration(kLeaving, objc::block([screen = *screen_, label = *label_, above] {
+                                screen.setCenter({CGPoint(screen.center()).x, above});
+                                label.setAlpha(0);
+                              }),
+                              objc::block([flown](BOOL) { flown(); }));
+}
+
+}  // namespace host::springboard
