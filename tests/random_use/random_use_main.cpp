@@ -10,16 +10,17 @@
 #include "tests/support/media_fixtures.h"
 
 // Uses a phone at random for a while of its own clock and looks after every pause whether the panel
-// is where it says: `random_use SEED SECONDS`. Ends with 1 at the first fault, having said how to
-// see it again.
+// is where it says: `random_use SEED SECONDS [aloud]`. Ends with 1 at the first fault, having said
+// how to see it again; aloud it tells the console's lines.
 
 namespace {
 
 using namespace random_use;
 using launcher_e2e::RunningPhone;
 
-constexpr int kActionsBetweenPauses = 12;
-constexpr int kPausesBetweenHomes = 5;
+// Few enough that the panel is not closed again most of the time.
+constexpr int kFewestActions = 1;
+constexpr int kMostActions = 12;
 constexpr int kSongs = 6;
 
 struct Music {
@@ -46,34 +47,31 @@ std::string fault_of(const RunningPhone& phone) {
   return {};
 }
 
-/// The panel as the Home button leaves it. A banner called while the panel was on its way takes a
-/// press for each; a locked phone is unlocked first.
-std::string after_home(RunningPhone& phone, RandomUser& user) {
-  for (const char* line :
-       {"system unlock", "button home", "advance 4", "button home", "advance 4", "button home"})
-    phone.ask(line);
-  user.rest();
-  const auto reading = read_panel(phone);
-  if (!reading) return "no answer";
-  if (reading->is_show || reading->is_banner)
-    return fmt::format("after Home the panel is {}", name_of(rest_of(*reading)));
-  return {};
-}
-
 class Watch {
  public:
   Watch(RunningPhone& phone, RandomUser& user) : phone_(phone), user_(user) {}
 
-  /// The first fault; empty when all is well.
+  /// The first fault of the process or of the panel, which has come to rest; empty when all is
+  /// well.
   std::string look() {
     const auto reading = read_panel(phone_);
     if (const std::string fault = fault_of(phone_); !fault.empty()) return fault;
     if (!reading) return "the phone does not answer";
+    ++pauses_;
     ++seen_[rest_of(*reading)];
     if (const std::string text = contradiction(*reading); !text.empty())
       return fmt::format("{}: {}", name_of(rest_of(*reading)), text);
-    if (++pauses_ % kPausesBetweenHomes == 0) return after_home(phone_, user_);
     return {};
+  }
+  /// Two movements at once leave the panel where neither would have: all that is promised then is
+  /// that the Home button puts it away.
+  std::string look_after_haste() {
+    user_.come_home();
+    user_.rest();
+    const auto reading = read_panel(phone_);
+    if (reading && (reading->is_show || reading->is_banner))
+      return fmt::format("{} after the Home button", name_of(rest_of(*reading)));
+    return look();
   }
   void report() const {
     fmt::print("{} actions, {:.0f} s, {} pauses:", user_.actions(), user_.seconds(), pauses_);
@@ -89,20 +87,23 @@ class Watch {
   int pauses_ = 0;
 };
 
-int use(std::uint32_t seed, double seconds) {
+int use(std::uint32_t seed, double seconds, bool aloud) {
   fmt::print("seed {}\n", seed);
   std::fflush(stdout);
   const media_tests::TemporaryFolder folder;
   const Music music(folder / "music");
   RunningPhone phone({"--headless", "--console", "--root", folder / "root", "--music", music.path});
   RandomUser user(phone, seed, folder / "root", music.path);
+  if (aloud) user.say_aloud();
   user.prepare();
   Watch watch(phone, user);
+  int round = 0;
   while (user.seconds() < seconds) {
-    for (int i = 0; i < kActionsBetweenPauses; ++i)
-      user.act();
+    const bool calm = round++ % 2 == 0;
+    user.begin_round(calm ? RandomUser::Mood::kCalm : RandomUser::Mood::kHasty);
+    user.act_some(kFewestActions, kMostActions);
     user.rest();
-    const std::string fault = watch.look();
+    const std::string fault = calm ? watch.look() : watch.look_after_haste();
     if (fault.empty()) continue;
     fmt::print("{}\nafter {} actions, at {:.2f} s of seed {}; last line: {}\n{}\n", fault,
                user.actions(), user.seconds(), seed, user.last_line(), phone.errors());
@@ -123,8 +124,8 @@ int main(int count, char** arguments) {
     return std::from_chars(text, text + std::strlen(text), into).ec == std::errc();
   };
   if (!read(1, seed) || !read(2, seconds)) {
-    std::fputs("usage: random_use SEED SECONDS\n", stderr);
+    std::fputs("usage: random_use SEED SECONDS [aloud]\n", stderr);
     return 2;
   }
-  return use(seed, seconds);
+  return use(seed, seconds, count > 3);
 }

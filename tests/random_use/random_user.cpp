@@ -10,7 +10,9 @@ namespace {
 constexpr int kWidth = 375;
 constexpr int kHeight = 667;
 // Longer than any chain of animations, the lock of a track change included.
-constexpr double kRest = 8;
+constexpr double kRest = 5;
+// Longer than the way of the panel from one place of rest to the next.
+constexpr double kChain = 2.5;
 
 constexpr const char* kListener = "org.plumvane.Sonavue2";
 constexpr const char* kModes[] = {"springboard", "lockscreen", "application"};
@@ -39,6 +41,7 @@ void RandomUser::prepare() {
 
 void RandomUser::say(const std::string& line) {
   last_line_ = line;
+  if (aloud_) fmt::print("{:.2f} {}\n", seconds_, line);
   const std::string answer = phone_.ask(line);
   // A view that is not on the screen cannot be touched, a full dock takes no icon: life of a user.
   if (answer.starts_with("(")) refusals_ += line + ": " + answer + "\n";
@@ -57,6 +60,11 @@ void RandomUser::rest() {
   lift_the_finger();
   if (!held_button_.empty()) hold_a_button();
   wait(kRest);
+}
+
+void RandomUser::act_some(int fewest, int most) {
+  for (int left = hand_.between(fewest, most); left > 0; --left)
+    act();
 }
 
 void RandomUser::act() {
@@ -88,7 +96,35 @@ void RandomUser::act() {
     }
     chosen -= weight;
   }
-  wait(hand_.between(1, 30) / 100.0);
+  pause_after_action();
+}
+
+void RandomUser::pause_after_action() {
+  wait(mood_ == Mood::kCalm ? kChain : hand_.between(1, 200) / 100.0);
+}
+
+/// Most of what can be seen is seen from the panel or the banner: without a little purpose the
+/// phone would be locked or in an application most of the time.
+void RandomUser::begin_round(Mood mood) {
+  mood_ = mood;
+  if (hand_.once_in(3)) return;
+  come_home();
+  wait(2);
+  if (hand_.once_in(2)) {
+    say("gesture shake");
+  } else {
+    say("drag on musicIcon 187 200 0.3");
+    seconds_ += 0.3;
+  }
+  pause_after_action();
+}
+
+void RandomUser::come_home() {
+  if (hand_.once_in(4)) write_first_settings(root_);
+  for (const char* line : {"system unlock", "system edit off", "button home", "button home"}) {
+    say(line);
+    wait(0.5);
+  }
 }
 
 void RandomUser::tap_somewhere() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 #include <string>
 
 #include "tests/launcher_e2e/running_phone.h"
@@ -19,7 +18,16 @@ class RandomUser {
 
   /// Gives the banner gestures in every mode, and switches the panel on.
   void prepare();
-  void act();
+  /// Prints every line that is said from now on.
+  void say_aloud() { aloud_ = true; }
+  /// Calm, it waits after everything that may move the panel until that has come to an end; hasty,
+  /// it does the next thing while the last one is still on its way.
+  enum class Mood { kCalm, kHasty };
+  /// Now and then brings the phone to where things happen.
+  void begin_round(Mood mood);
+  void come_home();
+  /// Between `fewest` and `most` actions.
+  void act_some(int fewest, int most);
   /// Lifts every finger, lets go of every button and waits until all has come to rest.
   void rest();
 
@@ -37,6 +45,8 @@ class RandomUser {
     Action action;
   };
 
+  void act();
+  void pause_after_action();
   void say(const std::string& line);
   void wait(double seconds);
   std::string somewhere();
@@ -68,7 +78,9 @@ class RandomUser {
   std::filesystem::path music_;
   double seconds_ = 0;
   int actions_ = 0;
+  Mood mood_ = Mood::kCalm;
   bool finger_is_down_ = false;
+  bool aloud_ = false;
   std::string held_button_;
   std::string last_line_;
   std::string refusals_;
