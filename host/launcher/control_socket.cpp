@@ -2,12 +2,11 @@
 
 #include <poll.h>
 #include <sys/socket.h>
-#include <sys/un.h>
 
 #include <cstdlib>
-#include <cstring>
-#include <optional>
 #include <string_view>
+
+#include "host/launcher/unix_socket.h"
 
 namespace host::launcher {
 namespace {
@@ -15,16 +14,12 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kDone = "ok\n";
+constexpr std::string_view kRefused = "no\n";
+constexpr std::size_t kLongestRequest = 256;
 // An asker that says nothing must not hold up the phone.
 constexpr int kPatienceMilliseconds = 500;
-
-std::optional<sockaddr_un> address_of(const fs::path& path) {
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
-  if (path.native().size() >= sizeof address.sun_path) return std::nullopt;
-  std::memcpy(address.sun_path, path.c_str(), path.native().size() + 1);
-  return address;
-}
+// A supervisor has little to do but to answer; on a busy machine even that can take a while.
+constexpr int kAskersPatienceMilliseconds = 5000;
 
 /// A new folder that only this user may enter; empty when none can be made.
 fs::path new_folder() {
@@ -38,14 +33,10 @@ fs::path new_folder() {
   return {};
 }
 
-Descriptor new_socket() {
-  return Descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-}
-
-std::string read_some(int descriptor) {
+std::string read_some(int descriptor, int patience) {
   pollfd waiting{descriptor, POLLIN, 0};
-  if (poll(&waiting, 1, kPatienceMilliseconds) <= 0) return {};
-  char text[64];
+  if (poll(&waiting, 1, patience) <= 0) return {};
+  char text[kLongestRequest];
   const auto count = recv(descriptor, text, sizeof text, 0);
   return count > 0 ? std::string(text, static_cast<std::size_t>(count)) : std::string();
 }
@@ -61,12 +52,7 @@ ControlSocket::ControlSocket() {
   folder_ = new_folder();
   if (folder_.empty()) return;
   path_ = folder_ / "control";
-  const auto address = address_of(path_);
-  Descriptor made = new_socket();
-  if (!address || !made) return;
-  const auto* where = reinterpret_cast<const sockaddr*>(&*address);
-  if (bind(made.get(), where, sizeof *address) != 0 || listen(made.get(), 8) != 0) return;
-  listener_ = std::move(made);
+  listener_ = listening_socket(path_);
 }
 
 ControlSocket::~ControlSocket() {
@@ -74,21 +60,18 @@ ControlSocket::~ControlSocket() {
   if (!folder_.empty()) fs::remove_all(folder_, ignored);
 }
 
-bool ControlSocket::take_restart_request() {
+void ControlSocket::serve(const std::function<bool(const ControlRequest&)>& serve) const {
   const Descriptor asker(accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC));
-  if (!asker || read_some(asker.get()) != kRestartRequest) return false;
-  write_all(asker.get(), kDone);
-  return true;
+  if (!asker) return;
+  const auto request = read_request(read_some(asker.get(), kPatienceMilliseconds));
+  write_all(asker.get(), request && serve(*request) ? kDone : kRefused);
 }
 
-bool ask_for_restart(const fs::path& path) {
-  const auto address = address_of(path);
-  const Descriptor made = new_socket();
-  if (!address || !made) return false;
-  const auto* where = reinterpret_cast<const sockaddr*>(&*address);
-  if (connect(made.get(), where, sizeof *address) != 0) return false;
-  write_all(made.get(), kRestartRequest);
-  return read_some(made.get()) == kDone;
+bool ask_supervisor(const fs::path& path, const ControlRequest& request) {
+  const Descriptor made = connected_socket(path);
+  if (!made) return false;
+  write_all(made.get(), line_of(request));
+  return read_some(made.get(), kAskersPatienceMilliseconds) == kDone;
 }
 
 }  // namespace host::launcher

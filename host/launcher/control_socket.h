@@ -4,13 +4,13 @@
 #include <functional>
 #include <string>
 
-#include "host/launcher/descriptor.h"
+#include "host/launcher/control_request.h"
+#include "host/runtime/descriptor.h"
 
 namespace host::launcher {
 
-/// The environment's name of the socket, and the one request that is made through it.
+/// The environment's name of the socket.
 inline constexpr const char* kControlSocketVariable = "SONAVUE_CONTROL_SOCKET";
-inline constexpr const char* kRestartRequest = "restart SpringBoard\n";
 
 /// Where the processes of one device reach their supervisor: a socket in a folder of its own that
 /// nobody else may enter. Both are removed at the end.
@@ -24,9 +24,10 @@ class ControlSocket {
   explicit operator bool() const { return static_cast<bool>(listener_); }
   int descriptor() const { return listener_.get(); }
   const std::filesystem::path& path() const { return path_; }
+  const std::filesystem::path& folder() const { return folder_; }
 
-  /// Takes one waiting request. True when a restart was asked for; the asker is told so.
-  bool take_restart_request();
+  /// Takes one waiting request and tells the asker what `serve` says of it: was it done?
+  void serve(const std::function<bool(const ControlRequest&)>& serve) const;
 
  private:
   std::filesystem::path folder_;
@@ -34,7 +35,7 @@ class ControlSocket {
   Descriptor listener_;
 };
 
-/// Asks the supervisor at `path` to restart its home screen. False when nobody answered.
-bool ask_for_restart(const std::filesystem::path& path);
+/// Asks the supervisor at `path`. False when it could not do it, or nobody answered.
+bool ask_supervisor(const std::filesystem::path& path, const ControlRequest& request);
 
 }  // namespace host::launcher

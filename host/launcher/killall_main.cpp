@@ -49,7 +49,7 @@ bool means_home_screen(int count, char** arguments) {
 int main(int count, char** arguments) {
   const char* socket = std::getenv(host::launcher::kControlSocketVariable);
   if (socket && means_home_screen(count, arguments)) {
-    if (host::launcher::ask_for_restart(socket)) return 0;
+    if (host::launcher::ask_supervisor(socket, {})) return 0;
     std::fputs("SpringBoard: no process found\n", stderr);
     return 1;
   }

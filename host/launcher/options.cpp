@@ -116,4 +116,8 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
   return made;
 }
 
+std::vector<std::string> application_arguments(const Options& options) {
+  return {"--device", options.device, "--root", options.root};
+}
+
 }  // namespace host::launcher

@@ -39,5 +39,7 @@ std::filesystem::path default_device_root();
 
 /// The arguments that make the home screen's process the phone of these options.
 std::vector<std::string> home_screen_arguments(const Options& options);
+/// The same for the processes of applications.
+std::vector<std::string> application_arguments(const Options& options);
 
 }  // namespace host::launcher

@@ -46,13 +46,14 @@ int run_phone(Options options) {
   if (auto reason = stage(installation.staging, options.root, options.without))
     return complain(*reason);
   const host::RealClock clock;
-  const ChildCommand command{installation.home_screen,
-                             home_screen_arguments(options),
-                             {{"PATH", path_with(installation.tools)}}};
-  if (!options.console && options.script.empty()) return Supervisor(command, clock, nullptr).run();
+  const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
+  const Supervisor::Commands commands{
+      {installation.home_screen, home_screen_arguments(options), {path}},
+      {{}, application_arguments(options), {path}}};
+  if (!options.console && options.script.empty()) return Supervisor(commands, clock, nullptr).run();
   auto front = console_for(options);
   if (!front) return complain(options.script.string() + " cannot be read");
-  return Supervisor(command, clock, &*front).run();
+  return Supervisor(commands, clock, &*front).run();
 }
 
 }  // namespace

@@ -40,12 +40,20 @@ std::string how_it_ended(int status) {
   return fmt::format("ended with status {}", WEXITSTATUS(status));
 }
 
+/// With the way to reach the supervisor.
+ChildCommand reaching(ChildCommand command, const ControlSocket& control) {
+  if (control) command.environment.emplace_back(kControlSocketVariable, control.path());
+  return command;
+}
+
 }  // namespace
 
-Supervisor::Supervisor(ChildCommand command, const Clock& clock, ConsoleFront* front)
-    : command_(std::move(command)), clock_(clock), front_(front) {
-  if (control_) command_.environment.emplace_back(kControlSocketVariable, control_.path());
-}
+Supervisor::Supervisor(Commands commands, const Clock& clock, ConsoleFront* front)
+    : command_(reaching(std::move(commands.home_screen), control_)),
+      clock_(clock),
+      front_(front),
+      applications_({command_.program.parent_path(), control_.folder()},
+                    reaching(std::move(commands.applications), control_)) {}
 
 int Supervisor::run() {
   const BlockedSignals blocked;
@@ -91,13 +99,26 @@ void Supervisor::wait_for_something() {
   // Answers first: the last one may lie there although its process is gone.
   if (waiting[2].revents) front_->read_answer();
   if (waiting[0].revents) take_signal();
-  if (waiting[1].revents && control_.take_restart_request() && child_ && !ending_signal_) {
-    restart_asked_ = true;
-    ask_child_to_end(SIGTERM);
-  }
+  if (waiting[1].revents) control_.serve([this](const auto& request) { return serve(request); });
   if (waiting[3].revents && !status_) front_->read_input();
   if (front_ && front_->verdict() && child_ && !patience_ends_) ask_child_to_end(SIGTERM);
   end_impatiently();
+}
+
+bool Supervisor::serve(const ControlRequest& request) {
+  switch (request.kind) {
+    case ControlRequest::Kind::Open:
+      return !ending_signal_ && applications_.open(request.bundle, request.program);
+    case ControlRequest::Kind::Close:
+      return applications_.close(request.bundle);
+    case ControlRequest::Kind::Restart:
+      break;
+  }
+  if (child_ && !ending_signal_) {
+    restart_asked_ = true;
+    ask_child_to_end(SIGTERM);
+  }
+  return true;
 }
 
 void Supervisor::take_signal() {
@@ -113,6 +134,7 @@ void Supervisor::take_signal() {
 }
 
 void Supervisor::reap() {
+  applications_.reap();
   int status = 0;
   if (child_ == 0 || waitpid(child_, &status, WNOHANG) != child_) return;
   child_ = 0;

@@ -8,6 +8,7 @@
 #include "host/launcher/console_front.h"
 #include "host/launcher/control_socket.h"
 #include "host/launcher/restart_limit.h"
+#include "host/launcher/running_applications.h"
 #include "host/runtime/clock.h"
 
 namespace host::launcher {
@@ -20,11 +21,19 @@ inline constexpr int kGaveUp = 3;
 inline constexpr const char* kConsoleArgument = "--console-descriptor";
 
 /// Keeps one home screen running: starts it again when it ends unexpectedly or when somebody on the
-/// device asks for it, and ends with it when it ends in good order.
+/// device asks for it, and ends with it when it ends in good order. Applications are its children
+/// too, so that they outlive a home screen.
 class Supervisor {
  public:
+  /// What the processes are started with: applications lie beside the home screen's program, which
+  /// is the only one that is named.
+  struct Commands {
+    ChildCommand home_screen;
+    ChildCommand applications;
+  };
+
   /// `front` may be nullptr, then the process gets no console.
-  Supervisor(ChildCommand command, const Clock& clock, ConsoleFront* front);
+  Supervisor(Commands commands, const Clock& clock, ConsoleFront* front);
 
   /// Serves until the phone is off. Gives the status to end with: 0, the verdict of a script,
   /// `kCannotStart`, `kGaveUp`, or 128 and the number of the signal that ended it.
@@ -34,16 +43,18 @@ class Supervisor {
   void start();
   void wait_for_something();
   void take_signal();
+  bool serve(const ControlRequest& request);
   void reap();
   void child_ended(int status);
   void start_again();
   void ask_child_to_end(int signal);
   void end_impatiently();
 
+  ControlSocket control_;
   ChildCommand command_;
   const Clock& clock_;
   ConsoleFront* front_;
-  ControlSocket control_;
+  RunningApplications applications_;
   RestartLimit limit_;
   Descriptor signals_;
   Descriptor console_;

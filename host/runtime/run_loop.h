@@ -55,6 +55,9 @@ class RunLoop {
   Id add_turn_observer(int order, Work work);
   void remove_turn_observer(Id observer);
 
+  /// When the next timer or frame is due; infinity when none is.
+  double next_due() const;
+
   /// Stepped clock: moves `clock` to `time`, running everything due on the way at its due time.
   void advance_to(SteppedClock& clock, double time);
   /// Runs what is ready now, without waiting: work of the next turn, due timers, ready descriptors.
@@ -85,7 +88,6 @@ class RunLoop {
     Work work;
   };
 
-  double next_due() const;
   bool run_work();
   bool run_due_timers();
   bool run_due_frame();

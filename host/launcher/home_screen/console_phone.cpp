@@ -5,8 +5,6 @@
 #include "host/activator/phone_gestures.h"
 #include "host/springboard/system_actions.h"
 #include "host/uikit/view/screen_space.h"
-#include "platform/UIKit/UIView.h"
-#include "platform/UIKit/UIWindow.h"
 
 namespace host::launcher {
 namespace {
@@ -48,11 +46,7 @@ void ConsolePhone::touch(console::TouchPhase phase, CGPoint point) {
 }
 
 std::optional<CGPoint> ConsolePhone::centre_of(objc::Object object) {
-  if (!objc::cast<NSObject>(object).isKindOfClass(UIView::cls())) return std::nullopt;
-  const auto view = objc::cast<UIView>(object);
-  const bool is_window = view.isKindOfClass(UIWindow::cls());
-  if (!is_window && !view.window()) return std::nullopt;
-  return uikit::to_screen(view, view.bounds().centre());
+  return uikit::centre_on_screen(object);
 }
 
 Refusal ConsolePhone::system(SystemEvent event, std::string_view detail) {

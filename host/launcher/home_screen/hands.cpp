@@ -1,22 +1,11 @@
 #include "host/launcher/home_screen/hands.h"
 
 #include "host/springboard/system_actions.h"
+#include "host/uikit/text/characters.h"
 #include "host/uikit/text/key_input.h"
 
 namespace host::launcher {
 namespace {
-
-/// How many UTF-16 units the first code points of UTF-8 make.
-NSUInteger utf16_units(std::string_view text, int code_points) {
-  NSUInteger units = 0;
-  for (const char byte : text) {
-    const auto value = static_cast<unsigned char>(byte);
-    const bool begins = (value & 0xC0) != 0x80;
-    if (begins && code_points-- <= 0) break;
-    if (begins) units += value >= 0xF0 ? 2 : 1;
-  }
-  return units;
-}
 
 activator::ButtonGestures::Button gesture_button(screen::Button button) {
   using Button = activator::ButtonGestures::Button;
@@ -29,6 +18,7 @@ activator::ButtonGestures::Button gesture_button(screen::Button button) {
       return Button::VolumeDown;
     case screen::Button::Home:
     case screen::Button::HomeDouble:
+    case screen::Button::HomeTouch:
       break;
   }
   return Button::Home;
@@ -60,7 +50,7 @@ Hands::Refusal Hands::type(std::string_view text) {
 Hands::Refusal Hands::compose(std::string_view text, int caret) {
   const auto composed = NSString::stringWithUTF8String(std::string(text).c_str());
   if (!composed) return "the text is not UTF-8";
-  if (!uikit::compose_text(composed, utf16_units(text, caret))) return "nobody takes text now";
+  if (!uikit::compose_text(composed, uikit::utf16_units(text, caret))) return "nobody takes text now";
   return std::nullopt;
 }
 
@@ -81,6 +71,10 @@ Hands::Refusal Hands::press(screen::Button button) {
     springboard::double_press_home();
     return std::nullopt;
   }
+  if (button == screen::Button::HomeTouch) {
+    if (!springboard::double_touch_home()) return "this device has no reachability";
+    return std::nullopt;
+  }
   push(button);
   let_go(button);
   return std::nullopt;
@@ -88,6 +82,7 @@ Hands::Refusal Hands::press(screen::Button button) {
 
 Hands::Refusal Hands::button(screen::Button button, screen::ButtonPhase phase) {
   if (button == screen::Button::HomeDouble) return "two presses cannot be held";
+  if (button == screen::Button::HomeTouch) return "two touches cannot be held";
   if (phase == screen::ButtonPhase::Down) {
     push(button);
   } else {

@@ -75,4 +75,15 @@ std::size_t character_end(NSString text, std::size_t index) {
   return end;
 }
 
+NSUInteger utf16_units(std::string_view text, int code_points) {
+  NSUInteger units = 0;
+  for (const char byte : text) {
+    const auto value = static_cast<unsigned char>(byte);
+    const bool begins = (value & 0xC0) != 0x80;
+    if (begins && code_points-- <= 0) break;
+    if (begins) units += value >= 0xF0 ? 2 : 1;
+  }
+  return units;
+}
+
 }  // namespace host::uikit

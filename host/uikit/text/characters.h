@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "platform/Foundation/NSString.h"
 
@@ -17,5 +18,8 @@ void append_utf8(std::string& bytes, std::span<const unichar> units);
 std::size_t character_start(NSString text, std::size_t index);
 /// Where the character that begins at `index` ends.
 std::size_t character_end(NSString text, std::size_t index);
+
+/// How many UTF-16 units the first code points of UTF-8 make.
+NSUInteger utf16_units(std::string_view text, int code_points);
 
 }  // namespace host::uikit

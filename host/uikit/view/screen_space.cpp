@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/uikit/view/view.h"
+#include "platform/UIKit/UIWindow.h"
 
 namespace host::uikit {
 namespace {
@@ -47,6 +48,14 @@ CGPoint to_screen(UIView view, CGPoint point) {
 CGPoint from_screen(UIView view, CGPoint point) {
   if (!view) return point;
   return from_superlayer(view.layer(), from_screen(view.superview(), point));
+}
+
+std::optional<CGPoint> centre_on_screen(objc::Object object) {
+  if (!objc::cast<NSObject>(object).isKindOfClass(UIView::cls())) return std::nullopt;
+  const auto view = objc::cast<UIView>(object);
+  const bool is_window = view.isKindOfClass(UIWindow::cls());
+  if (!is_window && !view.window()) return std::nullopt;
+  return to_screen(view, view.bounds().centre());
 }
 
 CGPoint vector_from_screen(UIView view, CGPoint vector) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/UIKit/UIView.h"
 
 namespace host::uikit {
@@ -8,6 +10,10 @@ namespace host::uikit {
 /// shows). The view at the root, a window as a rule, stands in the screen with its frame.
 CGPoint to_screen(UIView view, CGPoint point);
 CGPoint from_screen(UIView view, CGPoint point);
+
+/// The middle of a view that is on the screen; nothing when `object` is no view or stands in no
+/// window.
+std::optional<CGPoint> centre_on_screen(objc::Object object);
 
 /// A distance of the screen, or a speed, as the view measures it.
 CGPoint vector_from_screen(UIView view, CGPoint vector);

@@ -34,7 +34,7 @@ class ConsoleFronts : public testing::Test {
     const ChildCommand command{PROGRAM_FOLDER "/SpringBoard",
                                {(folder_.path() / "starts").string(), "echo"},
                                {{"PATH", DEVICE_TOOLS ":/usr/bin:/bin"}}};
-    return Supervisor(command, clock_, &front).run();
+    return Supervisor({command, {}}, clock_, &front).run();
   }
   int run_typed(const std::string& text) {
     int ends[2];

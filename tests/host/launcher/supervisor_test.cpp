@@ -34,7 +34,7 @@ class Supervisors : public testing::Test {
             {{"PATH", DEVICE_TOOLS ":/usr/bin:/bin"}}};
   }
   int run(const std::string& behaviour) {
-    return Supervisor(command(behaviour), clock_, nullptr).run();
+    return Supervisor({command(behaviour), {}}, clock_, nullptr).run();
   }
 
   std::filesystem::path record() const { return folder_.path() / "starts"; }

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace host::launcher {
+namespace host {
 
 /// Owns a file descriptor and closes it; -1 when it holds none.
 class Descriptor {
@@ -28,4 +28,4 @@ class Descriptor {
   int descriptor_ = -1;
 };
 
-}  // namespace host::launcher
+}  // namespace host

@@ -1,0 +1,11 @@
+#include "host/application/program/own_phone.h"
+
+#include "host/uikit/view/screen_space.h"
+
+namespace host::application {
+
+std::optional<CGPoint> OwnPhone::centre_of(objc::Object object) {
+  return uikit::centre_on_screen(object);
+}
+
+}  // namespace host::application

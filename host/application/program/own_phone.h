@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/console/phone.h"
+
+namespace host::application {
+
+/// The phone, for the console's lines that are carried out in an application: they ask and expect.
+/// Fingers, buttons and time are the home screen's.
+class OwnPhone final : public console::Phone {
+ public:
+  void advance(double) override {}
+  void touch(console::TouchPhase, CGPoint) override {}
+  std::optional<CGPoint> centre_of(objc::Object object) override;
+  console::Refusal type(std::string_view) override { return refused(); }
+  console::Refusal key(std::string_view) override { return refused(); }
+  console::Refusal press(console::Button) override { return refused(); }
+  console::Refusal button(console::Button, console::ButtonPhase) override { return refused(); }
+  console::Refusal system(console::SystemEvent, std::string_view) override { return refused(); }
+  console::Refusal gesture(std::string_view) override { return refused(); }
+  console::Refusal screenshot(const std::string&) override { return refused(); }
+  console::Refusal talk_to(std::string_view) override { return refused(); }
+
+ private:
+  static console::Refusal refused() { return "an application cannot do this"; }
+};
+
+}  // namespace host::application

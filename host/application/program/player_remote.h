@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+
+#include "host/application/wire/messages.h"
+
+namespace host::application {
+
+/// The phone's player, as an application sees and steers it: the home screen's process plays.
+class PlayerRemote {
+ public:
+  /// The one of this process.
+  static PlayerRemote& shared();
+
+  const PlaybackIs& playback() const { return playback_; }
+  void play_song(std::uint64_t song) { steer({PlayerCommand::PlaySong, song, 0}); }
+  void toggle() { steer({PlayerCommand::Toggle, 0, 0}); }
+  void next() { steer({PlayerCommand::Next, 0, 0}); }
+  void previous() { steer({PlayerCommand::Previous, 0, 0}); }
+  void seek(double seconds) { steer({PlayerCommand::Seek, 0, seconds}); }
+  void set_volume(double volume) { steer({PlayerCommand::SetVolume, 0, volume}); }
+
+  /// Called after every change.
+  std::function<void()> on_change;
+  /// Where commands go; whoever runs the application sets it.
+  std::function<void(const SteerPlayer&)> send;
+  void take(const PlaybackIs& playback);
+
+ private:
+  void steer(const SteerPlayer& command) const;
+
+  PlaybackIs playback_;
+};
+
+}  // namespace host::application

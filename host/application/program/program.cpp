@@ -1,0 +1,102 @@
+#include "host/application/program/program.h"
+
+#include <dlfcn.h>
+
+#include <CLI/CLI.hpp>
+#include <optional>
+
+#include "host/application/program/running_program.h"
+#include "host/foundation/device_paths.h"
+#include "host/foundation/foundation_log.h"
+#include "host/foundation/loader.h"
+#include "host/launcher/home_screen/platform_classes.h"
+#include "host/launcher/running_applications.h"
+#include "host/quartzcore/layer_service.h"
+#include "host/runtime/device_model.h"
+#include "host/runtime/log.h"
+#include "host/uikit/application/application.h"
+#include "objc/autorelease_pool.h"
+
+namespace host::application {
+namespace {
+
+constexpr int kCannotStart = 2;
+
+/// What the supervisor tells the process, which trusts it.
+struct Options {
+  std::string device;
+  std::string root;
+  int listener = -1;
+};
+
+std::optional<Options> read_options(int count, const char* const* arguments) {
+  Options options;
+  CLI::App parser;
+  parser.add_option("--device", options.device)->required();
+  parser.add_option("--root", options.root)->required();
+  parser.add_option(launcher::kListenerArgument, options.listener)->required();
+  try {
+    parser.parse(count, arguments);
+  } catch (const CLI::ParseError&) {
+    return std::nullopt;
+  }
+  if (!device_model(options.device)) return std::nullopt;
+  return options;
+}
+
+/// The first home screen decides how time passes here.
+Hello wait_for_home(HomeLink& link) {
+  for (;;) {
+    link.wait();
+    while (auto message = link.next()) {
+      if (const auto* hello = std::get_if<Hello>(&*message)) return *hello;
+    }
+  }
+}
+
+console::Globals globals_of_libraries() {
+  console::Globals globals;
+  for (const auto& library : foundation::loaded_libraries()) {
+    const void* table = dlsym(library.handle, console::Globals::kTableSymbol);
+    globals.add_table(static_cast<const console::ExportedGlobal*>(table));
+  }
+  return globals;
+}
+
+void live(HomeLink& link, const Program& program) {
+  const Hello hello = wait_for_home(link);
+  SteppedClock stepped;
+  RealClock real;
+  RunLoop loop(hello.is_stepped ? static_cast<Clock&>(stepped) : real);
+  RunLoop::set_main(&loop);
+  const auto pool = std::make_unique<objc::AutoreleasePool>();
+  launcher::export_platform_classes();
+  foundation::take_foundation_log();
+  const quartzcore::LayerService layers(loop);
+  if (program.export_classes) program.export_classes();
+  foundation::load_libraries(program.bundle, program.name);
+  if (program.prepare) program.prepare(hello.is_stepped);
+  uikit::launch_application(program.application_class);
+  const console::Globals globals = globals_of_libraries();
+  RunningProgram running(link, loop, hello.is_stepped ? &stepped : nullptr, globals);
+  running.take(hello);
+  running.serve();
+}
+
+}  // namespace
+
+int run_program(int count, char** arguments, const Program& program) {
+  start_log(program.name);
+  const auto options = read_options(count, arguments);
+  if (!options) {
+    spdlog::error("{} is started by sonavue", program.name);
+    return kCannotStart;
+  }
+  set_current_device(*device_model(options->device));
+  foundation::set_device_root(options->root);
+  HomeLink link{Descriptor(options->listener)};
+  live(link, program);
+  return 0;
+}
+
+}  // namespace host::application

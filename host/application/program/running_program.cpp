@@ -1,0 +1,163 @@
+#include "host/application/program/running_program.h"
+
+#include <cmath>
+
+#include "host/application/program/player_remote.h"
+#include "host/runtime/log.h"
+#include "host/uikit/text/characters.h"
+#include "host/uikit/text/key_input.h"
+#include "objc/autorelease_pool.h"
+
+namespace host::application {
+namespace {
+
+/// What the wire has for "nothing is due".
+constexpr double kVeryLate = 1e15;
+
+NSString to_ns(const std::string& text) {
+  return NSString::stringWithUTF8String(text.c_str());
+}
+
+}  // namespace
+
+RunningProgram::RunningProgram(HomeLink& link, RunLoop& loop, SteppedClock* stepped,
+                               const console::Globals& globals)
+    : link_(link),
+      loop_(loop),
+      stepped_(stepped),
+      screen_([this](const NewFrame& frame) { link_.send(frame); }),
+      phone_screen_(loop, screen_),
+      session_(phone_, globals) {
+  PlayerRemote::shared().send = [this](const SteerPlayer& command) { link_.send(command); };
+}
+
+RunningProgram::~RunningProgram() {
+  PlayerRemote::shared().send = {};
+  for (const auto& watch : {message_watch_, home_watch_}) {
+    if (watch) loop_.unwatch(*watch);
+  }
+}
+
+void RunningProgram::serve() {
+  handle_messages();
+  if (stepped_) {
+    for (;;) {
+      link_.wait();
+      handle_messages();
+    }
+  }
+  watch();
+  loop_.run();
+}
+
+void RunningProgram::watch() {
+  for (auto* watch : {&message_watch_, &home_watch_}) {
+    if (*watch) loop_.unwatch(**watch);
+    watch->reset();
+  }
+  const auto serve = [this] {
+    link_.take_in();
+    handle_messages();
+    // Another home screen has another descriptor.
+    watch();
+  };
+  home_watch_ = loop_.watch(link_.listener(), serve);
+  if (link_.is_connected()) message_watch_ = loop_.watch(link_.awaited(), serve);
+}
+
+void RunningProgram::handle_messages() {
+  if (!link_.is_connected()) screen_.detach();
+  while (auto message = link_.next()) {
+    const objc::AutoreleasePool pool;
+    std::visit([this](const auto& one) { take(one); }, *message);
+  }
+}
+
+void RunningProgram::take(const Hello& hello) {
+  auto surface =
+      SharedSurface::open(link_.take_memory(), {hello.width, hello.height, hello.stride});
+  if (!surface) {
+    spdlog::error("the home screen gave no surface to draw on");
+    link_.close();
+    return;
+  }
+  if (stepped_) ahead_ = loop_.now() - hello.now;
+  touches_.cancel_all(loop_.now());
+  screen_.attach(std::move(surface));
+}
+
+void RunningProgram::take(const FingerChange& change) {
+  const double time = own_time(change.time);
+  move_to(time);
+  const CGPoint point{change.x, change.y};
+  switch (change.phase) {
+    case FingerPhase::Began:
+      return touches_.began(change.finger, point, time);
+    case FingerPhase::Moved:
+      return touches_.moved(change.finger, point, time);
+    case FingerPhase::Ended:
+      return touches_.ended(change.finger, point, time);
+    case FingerPhase::Cancelled:
+      return touches_.cancelled(change.finger, point, time);
+  }
+}
+
+// What nobody takes just now is dropped, as on the home screen.
+void RunningProgram::take(const TypedText& typed) {
+  if (const NSString text = to_ns(typed.text)) uikit::type_text(text);
+}
+
+void RunningProgram::take(const ComposedText& composed) {
+  if (const NSString text = to_ns(composed.text))
+    uikit::compose_text(text, uikit::utf16_units(composed.text, composed.caret));
+}
+
+void RunningProgram::take(const PressedKey& pressed) {
+  uikit::press_key(pressed.name);
+}
+
+void RunningProgram::take(const Visibility& visibility) {
+  screen_.set_in_front(visibility.is_in_front);
+}
+
+void RunningProgram::take(const TimeIs& reached) {
+  if (!stepped_) return;
+  const double time = own_time(reached.time);
+  move_to(time);
+  loop_.run_ready();
+  finish_frame();
+  const double due = loop_.next_due();
+  link_.send(ReachedTime{reached.time, std::isfinite(due) ? due - ahead_ : kVeryLate});
+}
+
+void RunningProgram::take(const ConsoleLine& line) {
+  std::string answer = session_.execute(line.text).line();
+  if (answer.size() > kLongestText) answer.resize(kLongestText);
+  link_.send(ConsoleAnswer{std::move(answer)});
+}
+
+void RunningProgram::take(const PlaybackIs& playback) {
+  PlayerRemote::shared().take(playback);
+}
+
+void RunningProgram::move_to(double own_time) {
+  if (stepped_) loop_.advance_to(*stepped_, own_time);
+}
+
+// The picture of a moment belongs to that moment: whoever steps the clock waits for it.
+void RunningProgram::finish_frame() {
+  std::deque<ToApplication> others;
+  while (link_.is_connected() && screen_.waits_for_buffer()) {
+    auto message = link_.next();
+    if (!message) {
+      link_.wait();
+    } else if (std::holds_alternative<FrameTaken>(*message)) {
+      screen_.frame_taken();
+    } else {
+      others.push_back(std::move(*message));
+    }
+  }
+  link_.put_back(std::move(others));
+}
+
+}  // namespace host::application

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "host/application/program/home_link.h"
+#include "host/application/program/own_phone.h"
+#include "host/application/program/surface_screen.h"
+#include "host/console/session.h"
+#include "host/launcher/home_screen/phone_screen.h"
+#include "host/runtime/run_loop.h"
+#include "host/uikit/gesture/touch_input.h"
+
+namespace host::application {
+
+/// An application that has come to life: does what the home screen tells it, and draws for it.
+class RunningProgram {
+ public:
+  /// `stepped` is the clock when the home screen moves it; otherwise it is nullptr.
+  RunningProgram(HomeLink& link, RunLoop& loop, SteppedClock* stepped,
+                 const console::Globals& globals);
+  ~RunningProgram();
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+
+  void take(const Hello& hello);
+  /// Never ends by itself.
+  void serve();
+
+ private:
+  void watch();
+  void handle_messages();
+  void take(const FingerChange& change);
+  void take(const TypedText& typed);
+  void take(const ComposedText& composed);
+  void take(const PressedKey& pressed);
+  void take(const Visibility& visibility);
+  void take(const TimeIs& reached);
+  void take(const ConsoleLine& line);
+  void take(const Ping& ping) { link_.send(Pong{ping.number}); }
+  void take(const FrameTaken&) { screen_.frame_taken(); }
+  void take(const PlaybackIs& playback);
+
+  double own_time(double home_time) const { return home_time + ahead_; }
+  void move_to(double own_time);
+  void finish_frame();
+
+  HomeLink& link_;
+  RunLoop& loop_;
+  SteppedClock* stepped_;
+  SurfaceScreen screen_;
+  launcher::PhoneScreen phone_screen_;
+  uikit::TouchInput touches_;
+  OwnPhone phone_;
+  console::Session session_;
+  std::optional<RunLoop::Id> message_watch_;
+  std::optional<RunLoop::Id> home_watch_;
+  /// Of the home screen's clock, whose beginning a restart moves.
+  double ahead_ = 0;
+};
+
+}  // namespace host::application
