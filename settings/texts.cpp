@@ -1,0 +1,63 @@
+#include "settings/texts.h"
+
+#include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSFileManager.h"
+#include "platform/Foundation/NSUserDefaults.h"
+
+namespace sonavue {
+namespace {
+
+NSString table_path(NSString language) {
+  return "/Library/Application Support/Sonavue/Languages/"_ns.stringByAppendingString(language)
+      .stringByAppendingString(".plist"_ns);
+}
+
+bool can_be_read(NSString path) {
+  const NSFileManager files = NSFileManager::defaultManager();
+  return files.fileExistsAtPath(path) && files.isReadableFileAtPath(path);
+}
+
+NSString text_in_table(NSString path, NSString identifier) {
+  return objc::cast<NSString>(
+      NSDictionary::dictionaryWithContentsOfFile(path).objectForKey(identifier));
+}
+
+// Not nil, so that it can be shown and be a key like any text.
+NSString nothing() {
+  return "(null)"_ns;
+}
+
+}  // namespace
+
+NSString lang() {
+  const NSArray supported = NSArray::arrayWithObject("en"_ns);
+  const NSArray preferred =
+      objc::cast<NSArray>(NSUserDefaults::standardUserDefaults().objectForKey("AppleLanguages"_ns));
+  const objc::Object first = preferred.firstObject();
+  return supported.containsObject(first) ? objc::cast<NSString>(first) : "en"_ns;
+}
+
+NSString Translator(NSString identifier) {
+  const NSString path = table_path(lang());
+  if (!can_be_read(path)) return nothing();
+  const NSString text = text_in_table(path, identifier);
+  if (text.length() != 0) return text;
+  const NSString english = table_path("en"_ns);
+  if (!can_be_read(english)) return text;
+  const NSString in_english = text_in_table(english, identifier);
+  return in_english.length() != 0 ? in_english : nothing();
+}
+
+NSString getNotTranslated(NSString text) {
+  const NSString path = table_path(lang());
+  if (!can_be_read(path)) return nothing();
+  const NSDictionary table = NSDictionary::dictionaryWithContentsOfFile(path);
+  const NSEnumerator names = table.keyEnumerator();
+  while (const objc::Object name = names.nextObject()) {
+    if (objc::cast<NSString>(table.objectForKey(name)).isEqualToString(text))
+      return objc::cast<NSString>(name);
+  }
+  return nothing();
+}
+
+}  // namespace sonavue

@@ -1,0 +1,51 @@
+#include "settings/wizard/linker.h"
+
+#include "objc/class_builder.h"
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UITapGestureRecognizer.h"
+#include "settings/pictures.h"
+#include "settings/wizard/row.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kArrowWidth = 25;
+constexpr CGFloat kArrowFromRight = 45;
+
+void add_arrow(UIView view) {
+  const CGSize size = view.frame().size;
+  const UIImageView arrow = UIImageView::alloc().initWithFrame(
+      {size.width - kArrowFromRight, 0, kArrowWidth, size.height});
+  arrow.setContentMode(UIViewContentModeCenter);
+  arrow.setImage(imageFromFile("dir"_ns));
+  view.addSubview(arrow);
+  arrow.release();
+}
+
+void inizialize(Linker self, NSString name, UIImage image, BOOL border, objc::Object target,
+                objc::Sel action) {
+  dress_as_row(self, name, image, border ? RowBorder::kHairline : RowBorder::kNone);
+  add_arrow(self);
+  const auto tap = UITapGestureRecognizer::alloc().initWithTarget(target, action);
+  self.addGestureRecognizer(tap);
+  tap.release();
+}
+
+Linker init(Linker self, CGRect frame, NSString name, UIImage image, BOOL border,
+            objc::Object target, objc::Sel action) {
+  const auto made = objc::send_super<Linker>(self, Linker::cls(), "initWithFrame:"_sel, frame);
+  objc::send<>(made, "inizialize:image:border:target:action:"_sel, name, image, border, target,
+               action);
+  return made;
+}
+
+}  // namespace
+
+void make_linker() {
+  objc::ClassBuilder("Linker", "UIView")
+      .method<&init>("initWithFrame:name:image:border:target:action:")
+      .method<&inizialize>("inizialize:image:border:target:action:")
+      .finish();
+}
+
+}  // namespace sonavue

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/UIKit/UIImage.h"
+#include "platform/UIKit/UIView.h"
+
+/// A row that leads somewhere. A class of the extension's own.
+struct Linker : objc::Bound<Linker, "Linker", UIView> {
+  Linker initWithFrame(CGRect frame, NSString name, UIImage image, BOOL border, objc::Object target,
+                       objc::Sel action) const {
+    return call<"initWithFrame:name:image:border:target:action:", Linker>(frame, name, image,
+                                                                          border, target, action);
+  }
+};
+
+namespace sonavue {
+
+void make_linker();
+
+}  // namespace sonavue

@@ -1,0 +1,26 @@
+#include "settings/wizard/locked_view_controller.h"
+
+#include "objc/class_builder.h"
+
+namespace sonavue {
+namespace {
+
+constexpr NSUInteger kPortraitOnly = 2;
+
+BOOL should_autorotate(LockedUIViewController) {
+  return NO;
+}
+NSUInteger supported_orientations(LockedUIViewController) {
+  return kPortraitOnly;
+}
+
+}  // namespace
+
+void make_locked_view_controller() {
+  objc::ClassBuilder("LockedUIViewController", "UIViewController")
+      .method<&should_autorotate>("shouldAutorotate")
+      .method<&supported_orientations>("supportedInterfaceOrientations")
+      .finish();
+}
+
+}  // namespace sonavue

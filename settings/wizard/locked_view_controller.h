@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/UIKit/UIViewController.h"
+
+/// A page that never turns with the phone. A class of the extension's own.
+struct LockedUIViewController
+    : objc::Bound<LockedUIViewController, "LockedUIViewController", UIViewController> {};
+
+namespace sonavue {
+
+void make_locked_view_controller();
+
+}  // namespace sonavue

@@ -1,0 +1,52 @@
+#include "settings/wizard/row.h"
+
+#include "platform/UIKit/UIColor.h"
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UILabel.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kHairline = 0.5;
+constexpr CGPoint kIconOrigin = {20, 8};
+constexpr CGFloat kTitleGap = 15;
+
+/// Gives where the title begins.
+CGFloat add_icon(UIView view, UIImage image) {
+  const CGFloat side = view.frame().size.height - 2 * kIconOrigin.y;
+  const UIImageView icon = UIImageView::alloc().initWithFrame({kIconOrigin, {side, side}});
+  icon.setContentMode(UIViewContentModeCenter);
+  icon.setImage(image);
+  view.addSubview(icon);
+  icon.release();
+  return image ? kIconOrigin.x + side + kTitleGap : kTitleGap;
+}
+
+void add_title(UIView view, NSString text, CGFloat x) {
+  const UILabel title = UILabel::alloc().init();
+  title.setText(text);
+  title.sizeToFit();
+  const CGSize size = title.frame().size;
+  title.setFrame({{x, (view.frame().size.height - size.height) / 2}, size});
+  view.addSubview(title);
+  title.release();
+}
+
+}  // namespace
+
+void add_hairline(UIView view) {
+  view.layer().setBorderWidth(kHairline);
+  view.layer().setBorderColor(UIColor::grayColor().CGColor());
+}
+
+void dress_as_row(UIView view, NSString name, UIImage image, RowBorder border) {
+  view.setBackgroundColor(UIColor::whiteColor());
+  view.layer().setName(name);
+  if (border == RowBorder::kHairline) {
+    view.layer().setMasksToBounds(YES);
+    add_hairline(view);
+  }
+  add_title(view, name, add_icon(view, image));
+}
+
+}  // namespace sonavue

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/UIKit/UIImage.h"
+#include "platform/UIKit/UIView.h"
+
+/// A row with a switch of its own drawing, bound to the setting whose text is its name. A class of
+/// the extension's own.
+struct Switcher : objc::Bound<Switcher, "Switcher", UIView> {
+  Switcher initWithFrame(CGRect frame, NSString name, UIImage image, BOOL border) const {
+    return call<"initWithFrame:name:image:border:", Switcher>(frame, name, image, border);
+  }
+  objc::Object getValue() const { return call<"getValue", objc::Object>(); }
+  void setValue() const { call<"setValue">(); }
+  void animate() const { call<"animate">(); }
+};
+
+namespace sonavue {
+
+void make_switcher();
+
+}  // namespace sonavue

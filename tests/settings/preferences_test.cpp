@@ -1,0 +1,58 @@
+#include "settings/preferences.h"
+
+#include "platform/Foundation/NSValue.h"
+#include "tests/settings/settings_test.h"
+
+namespace sonavue::test {
+namespace {
+
+using SettingsPreferences = SettingsTest;
+
+NSNumber yes() {
+  return NSNumber::numberWithBool(YES);
+}
+
+TEST_F(SettingsPreferences, AChangeKeepsTheRestAndClearsTheMark) {
+  write_dictionary(preferences(), text_entry("blur", "dark") + switch_entry("checked", true));
+  store(yes(), "enable"_ns);
+  EXPECT_EQ(stored(), "blur = dark, checked = 0, enable = 1");
+}
+
+TEST_F(SettingsPreferences, TheFirstChangeMakesTheFile) {
+  store("red"_ns, "tint"_ns);
+  EXPECT_EQ(stored(), "checked = 0, tint = red");
+}
+
+TEST_F(SettingsPreferences, AnUnreadableFileIsReplaced) {
+  write(preferences(), "<plist><dict><key>bl");
+  store("red"_ns, "tint"_ns);
+  EXPECT_EQ(stored(), "checked = 0, tint = red");
+}
+
+TEST_F(SettingsPreferences, AnUnannouncedChangeLeavesTheMark) {
+  write_dictionary(preferences(), switch_entry("checked", true));
+  store_unannounced(yes(), "apex"_ns);
+  EXPECT_EQ(stored(), "apex = 1, checked = 1");
+}
+
+TEST_F(SettingsPreferences, AnUnannouncedFirstChangeMakesNoMark) {
+  store_unannounced(yes(), "firstBoot"_ns);
+  EXPECT_EQ(stored(), "firstBoot = 1");
+}
+
+TEST_F(SettingsPreferences, ValuesAreReadAnewEveryTime) {
+  EXPECT_FALSE(stored_value("tint"_ns));
+  write_dictionary(preferences(), text_entry("tint", "red"));
+  EXPECT_TRUE(objc::cast<NSString>(stored_value("tint"_ns)).isEqualToString("red"_ns));
+  EXPECT_FALSE(stored_value("blur"_ns));
+}
+
+TEST_F(SettingsPreferences, OnlyANumberThatIsNotZeroIsTrue) {
+  EXPECT_TRUE(is_true(yes()));
+  EXPECT_FALSE(is_true(NSNumber::numberWithBool(NO)));
+  EXPECT_FALSE(is_true(objc::Object()));
+  EXPECT_FALSE(is_true(NSArray::array()));
+}
+
+}  // namespace
+}  // namespace sonavue::test

@@ -1,0 +1,158 @@
+#include "settings/texts.h"
+
+#include <set>
+
+#include "platform/Foundation/NSUserDefaults.h"
+#include "tests/settings/settings_test.h"
+
+namespace sonavue::test {
+namespace {
+
+class Texts : public SettingsTest {
+ protected:
+  static void speak(const char* language) {
+    NSUserDefaults::standardUserDefaults().setObject(
+        NSArray::arrayWithObject(NSString::stringWithUTF8String(language)), "AppleLanguages"_ns);
+  }
+  ~Texts() override {
+    NSUserDefaults::standardUserDefaults().removeObjectForKey("AppleLanguages"_ns);
+  }
+  static std::string text(const char* identifier) {
+    const NSString found = Translator(NSString::stringWithUTF8String(identifier));
+    return found ? found.UTF8String() : "nil";
+  }
+  static std::string identifier(const char* text) {
+    return getNotTranslated(NSString::stringWithUTF8String(text)).UTF8String();
+  }
+  void write_english(std::string_view entries) const {
+    write_dictionary(languages() / "en.plist", entries);
+  }
+};
+
+TEST_F(Texts, WhoeverSpeaksAnotherLanguageReadsEnglish) {
+  speak("fr");
+  write_dictionary(languages() / "fr.plist", text_entry("red", "Rouge"));
+  write_english(text_entry("red", "Red"));
+  EXPECT_STREQ(lang().UTF8String(), "en");
+  EXPECT_EQ(text("red"), "Red");
+}
+
+TEST_F(Texts, EnglishIsEnglishAndSoIsNoLanguageAtAll) {
+  speak("en");
+  EXPECT_STREQ(lang().UTF8String(), "en");
+  NSUserDefaults::standardUserDefaults().setObject(NSArray::array(), "AppleLanguages"_ns);
+  EXPECT_STREQ(lang().UTF8String(), "en");
+}
+
+TEST_F(Texts, WhatTheTableLacksIsNull) {
+  write_english(text_entry("red", "Red"));
+  EXPECT_EQ(text("blue"), "(null)");
+}
+
+TEST_F(Texts, AnEmptyTextIsNone) {
+  write_english(text_entry("red", ""));
+  EXPECT_EQ(text("red"), "(null)");
+}
+
+TEST_F(Texts, WithoutATableEverythingIsNull) {
+  fs::remove(languages() / "en.plist");
+  EXPECT_EQ(text("red"), "(null)");
+  EXPECT_EQ(identifier("Red"), "(null)");
+}
+
+TEST_F(Texts, AMalformedTableIsAnEmptyOne) {
+  for (const char* bytes : {"", "no list", "<?xml version=\"1.0\"?><plist><dict><key>red"}) {
+    write(languages() / "en.plist", bytes);
+    EXPECT_EQ(text("red"), "(null)") << bytes;
+    EXPECT_EQ(identifier("Red"), "(null)") << bytes;
+  }
+}
+
+TEST_F(Texts, ATextLeadsBackToItsIdentifier) {
+  write_english(text_entry("red", "Red") + text_entry("tint", "Tint color"));
+  EXPECT_EQ(identifier("Tint color"), "tint");
+  EXPECT_EQ(identifier("tint color"), "(null)");
+  EXPECT_EQ(identifier(""), "(null)");
+}
+
+TEST_F(Texts, OfTwoIdentifiersWithOneTextOneIsFound) {
+  write_english(text_entry("gray", "Grey") + text_entry("grey", "Grey"));
+  EXPECT_THAT(identifier("Grey"), testing::AnyOf("gray", "grey"));
+}
+
+TEST_F(Texts, TheTableIsReadAnewEveryTime) {
+  write_english(text_entry("red", "Red"));
+  EXPECT_EQ(text("red"), "Red");
+  write_english(text_entry("red", "Crimson"));
+  EXPECT_EQ(text("red"), "Crimson");
+  EXPECT_EQ(identifier("Crimson"), "red");
+}
+
+TEST_F(Texts, TheEnglishTableIsWholeAndUnambiguous) {
+  const char* const identifiers[] = {"activator",
+                                     "adaptive_light",
+                                     "apex",
+                                     "black",
+                                     "blue",
+                                     "blur",
+                                     "brown",
+                                     "cancel",
+                                     "clear",
+                                     "close",
+                                     "cloud",
+                                     "colored",
+                                     "configuration",
+                                     "contacts",
+                                     "cover",
+                                     "cyan",
+                                     "dark",
+                                     "dark_low",
+                                     "desc_apex",
+                                     "desc_blur",
+                                     "desc_cloud",
+                                     "desc_cover",
+                                     "desc_font_tint",
+                                     "desc_gest",
+                                     "desc_legibility",
+                                     "desc_play",
+                                     "desc_setup",
+                                     "desc_square",
+                                     "desc_style",
+                                     "desc_tint",
+                                     "enable",
+                                     "flat_semi_light",
+                                     "font_tint",
+                                     "gray",
+                                     "green",
+                                     "legibility",
+                                     "light",
+                                     "light_keyboard",
+                                     "light_low",
+                                     "magenta",
+                                     "orange",
+                                     "passcode",
+                                     "play",
+                                     "purple",
+                                     "red",
+                                     "semi_light",
+                                     "setup",
+                                     "square",
+                                     "style",
+                                     "time",
+                                     "tint",
+                                     "tweet",
+                                     "ultra_colored",
+                                     "ultra_dark",
+                                     "ultra_light",
+                                     "volume",
+                                     "white"};
+  std::set<std::string> texts;
+  for (const char* each : identifiers) {
+    EXPECT_NE(text(each), "(null)") << each;
+    EXPECT_TRUE(texts.insert(text(each)).second) << each << " reads as another does";
+    EXPECT_EQ(identifier(text(each).c_str()), each);
+  }
+}
+
+}  // namespace
+}  // namespace sonavue::test
