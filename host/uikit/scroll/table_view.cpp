@@ -14,6 +14,7 @@ UIView TableView::init_with_frame(CGRect frame) {
 UITableView TableView::init_with_style(CGRect frame, UITableViewStyle style) {
   if (!self.initWithFrame(frame)) return nil;
   style_ = style;
+  if (is_grouped()) self.setBackgroundColor(group_ground_color());
   return self;
 }
 

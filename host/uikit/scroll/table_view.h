@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/uikit/scroll/cell_pool.h"
+#include "host/uikit/scroll/group_title.h"
 #include "host/uikit/scroll/row_layout.h"
 #include "objc/class_builder.h"
 #include "platform/UIKit/UITableView.h"
@@ -101,6 +102,8 @@ class TableView : public objc::Implementation<TableView, UITableView> {
   void put_all_away();
   void place_accessory_views();
   void place_section_headers();
+  bool is_grouped() const { return style_ == UITableViewStyleGrouped; }
+  UIView title_view(NSString title, GroupEnd end, RowSpan span) const;
   UIView section_header(NSInteger section);
   UIView section_footer(NSInteger section);
   void swap_view(objc::Ref<UIView>& kept, UIView view);

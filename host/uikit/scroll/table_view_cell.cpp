@@ -194,6 +194,20 @@ void TableViewCell::set_separator(UIColor color, UITableViewCellSeparatorStyle s
   }
   separator_->setHidden(NO);
   separator_->setBackgroundColor(color);
+  if (group_top_) group_top_->setBackgroundColor(color);
+}
+
+void TableViewCell::set_place_in_group(bool is_first, bool is_last) {
+  in_group_ = true;
+  last_in_group_ = is_last;
+  if (is_first && separator_ && !group_top_) {
+    group_top_ = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({}));
+    group_top_->setUserInteractionEnabled(NO);
+    group_top_->setBackgroundColor(separator_->backgroundColor());
+    self.addSubview(group_top_.get());
+  }
+  if (group_top_) group_top_->setHidden(is_first && !separator_->isHidden() ? NO : YES);
+  self.setNeedsLayout();
 }
 
 }  // namespace host::uikit

@@ -48,6 +48,8 @@ class TableViewCell : public objc::Implementation<TableViewCell, UITableViewCell
   void set_highlighted(BOOL highlighted);
   void set_highlighted_animated(BOOL highlighted, BOOL animated);
 
+  /// In a group, lines run from side to side above its first row and below its last.
+  void set_place_in_group(bool is_first, bool is_last);
   /// The line below the row, as its table wants it.
   void set_separator(UIColor color, UITableViewCellSeparatorStyle style);
 
@@ -57,6 +59,7 @@ class TableViewCell : public objc::Implementation<TableViewCell, UITableViewCell
   void mark_labels(BOOL marked);
   UIView selection_view();
   void place_separator(CGRect bounds);
+  CGFloat separator_left(const UIEdgeInsets& inset) const;
   CGFloat place_accessory(CGRect bounds);
   CGFloat place_picture(CGRect content);
   void place_texts(CGRect content, CGFloat left);
@@ -74,6 +77,9 @@ class TableViewCell : public objc::Implementation<TableViewCell, UITableViewCell
   objc::Ref<UIView> accessory_view_;
   objc::Ref<UIView> standard_accessory_;
   objc::Ref<UIView> separator_;
+  objc::Ref<UIView> group_top_;
+  bool in_group_ = false;
+  bool last_in_group_ = false;
   UIEdgeInsets separator_inset_{0, 15, 0, 0};
   NSInteger indentation_level_ = 0;
   CGFloat indentation_width_ = 10;

@@ -42,8 +42,19 @@ void TableViewCell::place_separator(CGRect bounds) {
   const UIEdgeInsets inset =
       table && separator_inset_ == own_default ? table.separatorInset() : separator_inset_;
   const CGFloat height = hairline();
-  separator_->setFrame({inset.left, bounds.size.height - height,
-                        std::max(0.0, bounds.size.width - inset.left - inset.right), height});
+  const CGFloat left = separator_left(inset);
+  const CGFloat right = last_in_group_ ? 0 : inset.right;
+  separator_->setFrame(
+      {left, bounds.size.height - height, std::max(0.0, bounds.size.width - left - right), height});
+  if (group_top_) group_top_->setFrame({0, 0, bounds.size.width, height});
+}
+
+// Between the rows of a group the line begins where their texts do, behind the icons.
+CGFloat TableViewCell::separator_left(const UIEdgeInsets& inset) const {
+  if (!in_group_) return inset.left;
+  if (last_in_group_) return 0;
+  const bool has_icon = image_view_ && image_view_->image();
+  return has_icon ? inset.left + image_view_->image().size().width + kMargin : inset.left;
 }
 
 CGFloat TableViewCell::place_accessory(CGRect bounds) {

@@ -56,6 +56,9 @@ void TableView::show_row(RowPlace place) {
   if (!cell || !layout_.contains(place)) return;
   cells_.insert_or_assign(place, objc::Ref<UITableViewCell>::retain(cell));
   objc::state_of<TableViewCell>(cell).set_separator(separator_color(), separator_style_);
+  if (is_grouped())
+    objc::state_of<TableViewCell>(cell).set_place_in_group(
+        place.row == 0, place.row + 1 == layout_.row_count(place.section));
   if (const auto indenting = listener("tableView:indentationLevelForRowAtIndexPath:"_sel))
     cell.setIndentationLevel(indenting.indentationLevelForRowAtIndexPath(self, shown_path));
   // A row that comes into sight during an animation is simply there.
@@ -89,6 +92,11 @@ void TableView::put_all_away() {
   section_footers_.clear();
 }
 
+UIView TableView::title_view(NSString title, GroupEnd end, RowSpan span) const {
+  if (!is_grouped()) return make_section_title(title).leak().autorelease();
+  return make_group_title(title, end, rect_of(span).size).leak().autorelease();
+}
+
 UIView TableView::section_header(NSInteger section) {
   if (const auto found = section_headers_.find(section); found != section_headers_.end())
     return found->second.get();
@@ -97,7 +105,7 @@ UIView TableView::section_header(NSInteger section) {
   if (!view) {
     const NSString title =
         source("tableView:titleForHeaderInSection:"_sel).titleForHeaderInSection(self, section);
-    if (title) view = make_section_title(title).leak().autorelease();
+    if (title) view = title_view(title, GroupEnd::Header, layout_.section_header(section));
   }
   if (!view) return nil;
   section_headers_.emplace(section, objc::Ref<UIView>::retain(view));
@@ -113,7 +121,7 @@ UIView TableView::section_footer(NSInteger section) {
   if (!view) {
     const NSString title =
         source("tableView:titleForFooterInSection:"_sel).titleForFooterInSection(self, section);
-    if (title) view = make_section_title(title).leak().autorelease();
+    if (title) view = title_view(title, GroupEnd::Footer, layout_.section_footer(section));
   }
   if (!view) return nil;
   section_footers_.emplace(section, objc::Ref<UIView>::retain(view));

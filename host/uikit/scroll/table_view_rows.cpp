@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "host/uikit/scroll/group_title.h"
 #include "host/uikit/scroll/row_paths.h"
 #include "host/uikit/scroll/table_view.h"
 #include "objc/autorelease_pool.h"
@@ -83,9 +84,13 @@ double TableView::header_height(NSInteger section) const {
     const double height = asked.heightForHeaderInSection(self, section);
     if (height >= 0) return height;
   }
-  const auto titled = source("tableView:titleForHeaderInSection:"_sel);
-  const auto viewed = listener("tableView:viewForHeaderInSection:"_sel);
-  if (!viewed && !titled.titleForHeaderInSection(self, section)) return 0;
+  const NSString title =
+      source("tableView:titleForHeaderInSection:"_sel).titleForHeaderInSection(self, section);
+  if (is_grouped()) {
+    if (section_header_height_ >= 0) return section_header_height_;
+    return group_title_height(title, GroupEnd::Header, section == 0, self.bounds().size.width);
+  }
+  if (!listener("tableView:viewForHeaderInSection:"_sel) && !title) return 0;
   return section_header_height_ >= 0 ? section_header_height_ : kTitleHeight;
 }
 
@@ -94,9 +99,13 @@ double TableView::footer_height(NSInteger section) const {
     const double height = asked.heightForFooterInSection(self, section);
     if (height >= 0) return height;
   }
-  const auto titled = source("tableView:titleForFooterInSection:"_sel);
-  const auto viewed = listener("tableView:viewForFooterInSection:"_sel);
-  if (!viewed && !titled.titleForFooterInSection(self, section)) return 0;
+  const NSString title =
+      source("tableView:titleForFooterInSection:"_sel).titleForFooterInSection(self, section);
+  if (is_grouped()) {
+    if (section_footer_height_ >= 0) return section_footer_height_;
+    return group_title_height(title, GroupEnd::Footer, false, self.bounds().size.width);
+  }
+  if (!listener("tableView:viewForFooterInSection:"_sel) && !title) return 0;
   return section_footer_height_ >= 0 ? section_footer_height_ : kTitleHeight;
 }
 
