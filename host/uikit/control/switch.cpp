@@ -13,9 +13,9 @@ constexpr CGFloat kRim = 1.5;
 constexpr CGFloat kKnob = 28;
 /// A pressed knob reaches towards the other side.
 constexpr CGFloat kPressedKnob = 35;
-constexpr CGFloat kShadowDrop = 2.5;
+constexpr CGFloat kShadowDrop = 2;
 constexpr CGFloat kShadowGrowth = 0.5;
-constexpr CGFloat kShadowAlpha = 0.13;
+constexpr CGFloat kShadowAlpha = 0.09;
 constexpr CGFloat kKnobEdgeAlpha = 0.1;
 constexpr CGFloat kDisabledAlpha = 0.5;
 /// A finger has to travel this far before it drags the knob and does not tap it.

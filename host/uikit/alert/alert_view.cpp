@@ -1,0 +1,141 @@
+#include "host/uikit/alert/alert_view.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/uikit/alert/alert_button.h"
+#include "platform/CoreGraphics/CGAffineTransform.h"
+
+namespace host::uikit {
+namespace {
+
+constexpr CGFloat kDimAlpha = 0.4;
+constexpr CGFloat kFirstScale = 1.18;
+constexpr double kComing = 0.4;
+constexpr CGFloat kComingDamping = 0.9;
+constexpr double kGoing = 0.25;
+
+/// Those that are up, the last one on top.
+std::vector<UIAlertView>& shown_alerts() {
+  static std::vector<UIAlertView> alerts;
+  return alerts;
+}
+
+}  // namespace
+
+AlertView::~AlertView() {
+  std::erase(shown_alerts(), self);
+}
+
+UIAlertView AlertView::init_with_title(NSString title, NSString message, objc::Object delegate,
+                                       NSString cancel, NSString other) {
+  if (!self.UIView::initWithFrame({})) return nil;
+  self.setTitle(title);
+  self.setMessage(message);
+  delegate_ = delegate;
+  if (cancel) cancel_index_ = self.addButtonWithTitle(cancel);
+  if (other) self.addButtonWithTitle(other);
+  return self;
+}
+
+NSInteger AlertView::add_button(NSString title) {
+  titles_.push_back(objc::Ref<NSString>::adopt(title.copy()));
+  return number_of_buttons() - 1;
+}
+
+NSString AlertView::button_title(NSInteger index) const {
+  if (index < 0 || index >= number_of_buttons()) return nil;
+  return titles_[static_cast<std::size_t>(index)].get();
+}
+
+UIAlertViewDelegate AlertView::listener(objc::Sel selector) const {
+  const auto delegate = objc::cast<UIAlertViewDelegate>(delegate_);
+  return delegate && delegate.respondsToSelector(selector) ? delegate : UIAlertViewDelegate();
+}
+
+void AlertView::show() {
+  if (window_) return;
+  const CGRect screen = UIScreen::mainScreen().bounds();
+  window_ = objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame(screen));
+  window_->setWindowLevel(UIWindowLevelAlert);
+  dim_ = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame(screen));
+  dim_->setBackgroundColor(UIColor::colorWithWhite(0, kDimAlpha));
+  window_->addSubview(dim_.get());
+  build();
+  self.setCenter(screen.centre());
+  // The window keeps the alert while it is up.
+  window_->addSubview(self);
+  if (!shown_alerts().empty()) shown_alerts().back().window().setHidden(YES);
+  shown_alerts().push_back(self);
+  window_->setHidden(NO);
+  appear();
+}
+
+void AlertView::appear() {
+  UIView::performWithoutAnimation(objc::block([this] {
+    dim_->setAlpha(0);
+    self.setAlpha(0);
+    self.setTransform(CGAffineTransformMakeScale(kFirstScale, kFirstScale));
+  }));
+  UIView::animateWithDuration(kComing, 0, kComingDamping, 0,
+                              UIViewAnimationOptionAllowUserInteraction, objc::block([this] {
+                                dim_->setAlpha(1);
+                                self.setAlpha(1);
+                                self.setTransform(CGAffineTransformIdentity);
+                              }),
+                              nullptr);
+}
+
+void AlertView::pressed(UIControl button) {
+  if (leaving_) return;
+  const auto kept = objc::Ref<UIAlertView>::retain(self);
+  const NSInteger index = button.tag();
+  listener("alertView:clickedButtonAtIndex:"_sel).clickedButtonAtIndex(self, index);
+  self.dismissWithClickedButtonIndex(index, YES);
+}
+
+void AlertView::dismiss(NSInteger index, BOOL animated) {
+  if (!window_ || leaving_) return;
+  leaving_ = true;
+  const auto kept = objc::Ref<UIAlertView>::retain(self);
+  std::erase(shown_alerts(), self);
+  window_->setUserInteractionEnabled(NO);
+  const auto gone = [this, kept, index](BOOL) {
+    const auto window = std::exchange(window_, {});
+    window->setHidden(YES);
+    self.removeFromSuperview();
+    leaving_ = false;
+    if (!shown_alerts().empty()) shown_alerts().back().window().setHidden(NO);
+    listener("alertView:didDismissWithButtonIndex:"_sel).didDismissWithButtonIndex(self, index);
+  };
+  if (!animated) return gone(YES);
+  UIView::animateWithDuration(kGoing, objc::block([this] {
+                                dim_->setAlpha(0);
+                                self.setAlpha(0);
+                              }),
+                              objc::block(gone));
+}
+
+void export_alert_view() {
+  objc::ClassBuilder("UIAlertView", "UIView")
+      .state<AlertView>()
+      .method<&AlertView::init_with_title>(
+          "initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:")
+      .method<&AlertView::add_button>("addButtonWithTitle:")
+      .method<&AlertView::title>("title")
+      .method<&AlertView::set_title>("setTitle:")
+      .method<&AlertView::message>("message")
+      .method<&AlertView::set_message>("setMessage:")
+      .method<&AlertView::delegate>("delegate")
+      .method<&AlertView::set_delegate>("setDelegate:")
+      .method<&AlertView::number_of_buttons>("numberOfButtons")
+      .method<&AlertView::button_title>("buttonTitleAtIndex:")
+      .method<&AlertView::cancel_button_index>("cancelButtonIndex")
+      .method<&AlertView::is_visible>("isVisible")
+      .method<&AlertView::show>("show")
+      .method<&AlertView::dismiss>("dismissWithClickedButtonIndex:animated:")
+      .method<&AlertView::pressed>("_pressed:")
+      .finish();
+}
+
+}  // namespace host::uikit
