@@ -30,6 +30,11 @@ void ClassBuilder::add_storage(std::size_t size) {
   if (!class_addIvar(cls_, class_getName(cls_), size, kPointerAlignment, "?")) __builtin_trap();
 }
 
+void ClassBuilder::add_field(const char* name, const char* encoding) {
+  if (cls_ && !class_addIvar(cls_, name, sizeof(void*), kPointerAlignment, encoding))
+    __builtin_trap();
+}
+
 std::ptrdiff_t ClassBuilder::storage_offset(Class cls) {
   return ivar_getOffset(class_getInstanceVariable(cls, class_getName(cls)));
 }

@@ -125,6 +125,14 @@ class ClassBuilder {
     return *this;
   }
 
+  /// Gives every object an instance variable that others find by its name; zero at first.
+  template <class T>
+  ClassBuilder& field(const char* name) {
+    static_assert(sizeof(T) == sizeof(void*), "a pointer of some kind");
+    add_field(name, Encode<T>::text.c_str());
+    return *this;
+  }
+
   template <auto Function>
   ClassBuilder& method(const char* selector) {
     add_method<Function>(cls_, selector);
@@ -145,6 +153,7 @@ class ClassBuilder {
  private:
   Class metaclass() const { return cls_ ? class_of(reinterpret_cast<Id>(cls_)) : nullptr; }
   void add_storage(std::size_t size);
+  void add_field(const char* name, const char* encoding);
   static std::ptrdiff_t storage_offset(Class cls);
 
   template <class T>

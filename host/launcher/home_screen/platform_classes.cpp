@@ -3,6 +3,7 @@
 #include "host/activator/exports.h"
 #include "host/foundation/exports.h"
 #include "host/media_player/exports.h"
+#include "host/preferences/exports.h"
 #include "host/quartzcore/exports.h"
 #include "host/social/exports.h"
 #include "host/springboard/exports.h"
@@ -30,6 +31,7 @@ void export_platform_classes() {
   springboard::export_springboard();
   social::export_social();
   activator::export_activator();
+  preferences::export_preferences();
 }
 
 }  // namespace host::launcher

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "platform/Preferences/PSListItemsController.h"
+
+namespace host::preferences {
+
+/// All that a list offers, with a check mark at what is chosen. A tap hands the value to the setter
+/// of the specifier that opened the page.
+class ListItemsController
+    : public objc::Implementation<ListItemsController, PSListItemsController> {
+ public:
+  explicit ListItemsController(PSListItemsController owner) : Implementation(owner) {}
+
+  NSArray specifiers();
+  UITableViewCell cell(UITableView table, NSIndexPath path);
+  void selected(UITableView table, NSIndexPath path);
+
+ private:
+  objc::Object value_at(NSIndexPath path) const;
+  void show_mark(UITableViewCell cell, NSIndexPath path) const;
+};
+
+void export_list_items_controller();
+
+}  // namespace host::preferences

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/Preferences/PSSpecifier.h"
+
+namespace host::preferences {
+
+class Specifier : public objc::Implementation<Specifier, PSSpecifier> {
+ public:
+  explicit Specifier(PSSpecifier owner) : Implementation(owner) {}
+
+  static PSSpecifier named(objc::Object cls, NSString name, objc::Object target, objc::Sel set,
+                           objc::Sel get, objc::Class detail, PSCellType cell, objc::Class edit);
+  static PSSpecifier empty_group(objc::Object cls);
+  static PSSpecifier group_named(objc::Object cls, NSString name);
+
+  NSString name() const { return name_.get(); }
+  void set_name(NSString name) { name_ = objc::Ref<NSString>::adopt(name.copy()); }
+  NSString identifier() const;
+  void set_identifier(NSString identifier);
+  objc::Object target() const { return target_; }
+  void set_target(objc::Object target) { target_ = target; }
+  objc::Object property(NSString key) const;
+  void set_property(objc::Object value, NSString key);
+  void set_values(NSArray values, NSArray titles);
+  NSArray values() const { return values_.get(); }
+  NSDictionary titles() const { return titles_.get(); }
+
+  // For the pages.
+  PSCellType cell_type() const { return cell_; }
+  objc::Class detail() const { return detail_; }
+  objc::Sel action() const;
+  /// What the target says; nil where there is none to ask.
+  objc::Object value() const;
+  void set_value(objc::Object value) const;
+  void send_action() const;
+
+ private:
+  objc::Ref<NSString> name_;
+  objc::Ref<NSMutableDictionary> properties_;
+  objc::Ref<NSArray> values_;
+  objc::Ref<NSDictionary> titles_;
+  // Not retained, as the platform has it.
+  objc::Object target_;
+  objc::Sel set_ = nullptr;
+  objc::Sel get_ = nullptr;
+  objc::Class detail_ = nullptr;
+  objc::Class edit_ = nullptr;
+  PSCellType cell_ = 0;
+};
+
+inline const Specifier& state_of(PSSpecifier specifier) {
+  return objc::state_of<Specifier>(specifier);
+}
+
+void export_specifier();
+
+}  // namespace host::preferences
