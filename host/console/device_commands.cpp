@@ -13,8 +13,12 @@ struct ButtonName {
 };
 
 constexpr ButtonName kButtons[] = {
-    {"home", Button::Home},          {"home-double", Button::HomeDouble}, {"lock", Button::Lock},
-    {"volume-up", Button::VolumeUp}, {"volume-down", Button::VolumeDown},
+    {"home", Button::Home},
+    {"home-double", Button::HomeDouble},
+    {"home-touch", Button::HomeTouch},
+    {"lock", Button::Lock},
+    {"volume-up", Button::VolumeUp},
+    {"volume-down", Button::VolumeDown},
 };
 
 constexpr std::string_view kKeys[] = {"return", "delete", "escape", "tab",  "space", "left",
@@ -52,7 +56,7 @@ constexpr SystemName kSystemEvents[] = {
 Result<Answer> button(Session& session, LineReader& reader) {
   reader.at_end();
   const Problem unknown =
-      reader.problem("home, home-double, lock, volume-up or volume-down is missing");
+      reader.problem("home, home-double, home-touch, lock, volume-up or volume-down is missing");
   const auto name = reader.word();
   const auto* found = std::find_if(std::begin(kButtons), std::end(kButtons),
                                    [name](const ButtonName& known) { return known.name == name; });

@@ -8,7 +8,8 @@ namespace host::screen {
 
 enum class TouchPhase { Began, Moved, Ended, Cancelled };
 
-enum class Button { Home, HomeDouble, Lock, VolumeUp, VolumeDown };
+/// `HomeDouble` is two presses of Home, `HomeTouch` two touches that do not press it.
+enum class Button { Home, HomeDouble, Lock, VolumeUp, VolumeDown, HomeTouch };
 
 enum class ButtonPhase { Down, Up };
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "host/screen/event_descriptor.h"
-#include "host/screen/fingers.h"
+#include "host/screen/phone_body_drawing.h"
 
 namespace host::screen {
 namespace {
@@ -14,50 +14,19 @@ namespace {
 // The mouse is one more finger, beside those of a touch screen.
 constexpr int kMouseFinger = 0;
 // Of the desktop's height, for a phone that would not fit it.
-constexpr double kLargestPart = 0.85;
+constexpr double kLargestPart = 0.92;
+constexpr auto kAround = static_cast<Uint8>(kGroundLight * 255);
 
-struct KeyName {
-  SDL_Keycode key;
-  const char* name;
-};
-
-constexpr KeyName kKeys[] = {
-    {SDLK_RETURN, "return"}, {SDLK_KP_ENTER, "return"}, {SDLK_BACKSPACE, "delete"},
-    {SDLK_ESCAPE, "escape"}, {SDLK_TAB, "tab"},         {SDLK_LEFT, "left"},
-    {SDLK_RIGHT, "right"},   {SDLK_UP, "up"},           {SDLK_DOWN, "down"},
-    {SDLK_END, "end"},
-};
-
-// With the control key, letters work on text instead of typing it.
-constexpr KeyName kControlKeys[] = {
-    {SDLK_a, "a"}, {SDLK_c, "c"}, {SDLK_g, "g"}, {SDLK_v, "v"}, {SDLK_x, "x"},
-};
-
-struct KeyButton {
-  SDL_Keycode key;
-  Button button;
-};
-
-constexpr KeyButton kButtons[] = {
-    {SDLK_F1, Button::Home}, {SDLK_HOME, Button::Home},     {SDLK_F2, Button::HomeDouble},
-    {SDLK_F3, Button::Lock}, {SDLK_F5, Button::VolumeDown}, {SDLK_F6, Button::VolumeUp},
-};
-
-constexpr SDL_Keycode kShake = SDLK_F7;
-
-/// The key's name behind those of the keys that are held with it.
-std::string with_modifiers(const char* name, Uint16 held) {
-  std::string full;
-  if ((held & KMOD_CTRL) != 0) full += "control-";
-  if ((held & KMOD_SHIFT) != 0) full += "shift-";
-  return full + name;
+CGSize first_size(CGSize phone) {
+  SDL_Rect desktop{};
+  if (SDL_GetDisplayUsableBounds(0, &desktop) != 0 || desktop.h <= 0) return phone;
+  const double shrink = std::min(1.0, desktop.h * kLargestPart / phone.height);
+  return {std::round(phone.width * shrink), std::round(phone.height * shrink)};
 }
 
-CGSize first_size(CGSize screen) {
-  SDL_Rect desktop{};
-  if (SDL_GetDisplayUsableBounds(0, &desktop) != 0 || desktop.h <= 0) return screen;
-  const double shrink = std::min(1.0, desktop.h * kLargestPart / screen.height);
-  return {std::round(screen.width * shrink), std::round(screen.height * shrink)};
+SDL_FRect to_sdl(CGRect rect) {
+  return {static_cast<float>(rect.min_x()), static_cast<float>(rect.min_y()),
+          static_cast<float>(rect.size.width), static_cast<float>(rect.size.height)};
 }
 
 }  // namespace
@@ -72,10 +41,16 @@ void Window::Destroy::operator()(SDL_Texture* texture) const {
   SDL_DestroyTexture(texture);
 }
 
-Window::Window(CGSize screen, Input& input) : screen_(screen), input_(input) {}
+Window::Window(CGSize screen, Input& input)
+    : body_(screen),
+      input_(input),
+      buttons_(input),
+      keys_(input, buttons_),
+      pointers_(body_, input, buttons_) {}
 
 Window::~Window() {
   texture_.reset();
+  body_texture_.reset();
   renderer_.reset();
   window_.reset();
   SDL_QuitSubSystem(SDL_INIT_VIDEO);
@@ -97,17 +72,17 @@ std::unique_ptr<Window> Window::open(CGSize screen, double pixels_a_point, Input
 }
 
 bool Window::create(double pixels_a_point) {
-  const CGSize size = first_size(screen_);
+  const CGSize size = first_size(body_.size());
   window_.reset(SDL_CreateWindow("Sonavue", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                                  static_cast<int>(size.width), static_cast<int>(size.height),
                                  SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
   if (!window_) return false;
   renderer_.reset(SDL_CreateRenderer(window_.get(), -1, 0));
   if (!renderer_) return false;
-  texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
-                                   SDL_TEXTUREACCESS_STREAMING,
-                                   static_cast<int>(std::lround(screen_.width * pixels_a_point)),
-                                   static_cast<int>(std::lround(screen_.height * pixels_a_point))));
+  texture_.reset(SDL_CreateTexture(
+      renderer_.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
+      static_cast<int>(std::lround(body_.screen().size.width * pixels_a_point)),
+      static_cast<int>(std::lround(body_.screen().size.height * pixels_a_point))));
   SDL_StartTextInput();
   return texture_ != nullptr;
 }
@@ -123,24 +98,54 @@ void Window::show(const Picture& picture, std::span<const PixelRect> damage) {
 }
 
 void Window::present() {
-  int width = 0;
-  int height = 0;
-  SDL_GetRendererOutputSize(renderer_.get(), &width, &height);
-  const CGRect place =
-      Letterbox::fit(screen_, {static_cast<double>(width), static_cast<double>(height)}).place;
-  const SDL_FRect target{static_cast<float>(place.origin.x), static_cast<float>(place.origin.y),
-                         static_cast<float>(place.size.width),
-                         static_cast<float>(place.size.height)};
-  SDL_SetRenderDrawColor(renderer_.get(), 0, 0, 0, SDL_ALPHA_OPAQUE);
+  draw_body();
+  const Letterbox box = Letterbox::fit(body_.size(), output_size());
+  const CGRect screen = body_.screen();
+  const CGRect in_window{box.place.origin.x + screen.min_x() * box.scale,
+                         box.place.origin.y + screen.min_y() * box.scale,
+                         screen.size.width * box.scale, screen.size.height * box.scale};
+  const SDL_FRect body_place = to_sdl(box.place);
+  const SDL_FRect screen_place = to_sdl(in_window);
+  SDL_SetRenderDrawColor(renderer_.get(), kAround, kAround, kAround, SDL_ALPHA_OPAQUE);
   SDL_RenderClear(renderer_.get());
-  SDL_RenderCopyF(renderer_.get(), texture_.get(), nullptr, &target);
+  SDL_RenderCopyF(renderer_.get(), body_texture_.get(), nullptr, &body_place);
+  SDL_RenderCopyF(renderer_.get(), texture_.get(), nullptr, &screen_place);
   SDL_RenderPresent(renderer_.get());
+}
+
+/// Only when it looks different from the last time.
+void Window::draw_body() {
+  const Letterbox box = Letterbox::fit(body_.size(), output_size());
+  const CGSize size{std::ceil(box.place.size.width), std::ceil(box.place.size.height)};
+  if (!buttons_.take_change() && size == body_drawn_) return;
+  const auto width = static_cast<int>(size.width);
+  const auto height = static_cast<int>(size.height);
+  cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
+  cairo_t* drawing = cairo_create(surface);
+  cairo_scale(drawing, box.scale, box.scale);
+  screen::draw_body(drawing, body_, [this](Button button) { return buttons_.is_down(button); });
+  cairo_destroy(drawing);
+  cairo_surface_flush(surface);
+  if (size != body_drawn_)
+    body_texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
+                                          SDL_TEXTUREACCESS_STATIC, width, height));
+  body_drawn_ = size;
+  SDL_UpdateTexture(body_texture_.get(), nullptr, cairo_image_surface_get_data(surface),
+                    cairo_image_surface_get_stride(surface));
+  cairo_surface_destroy(surface);
 }
 
 CGSize Window::window_size() const {
   int width = 0;
   int height = 0;
   SDL_GetWindowSize(window_.get(), &width, &height);
+  return {static_cast<double>(width), static_cast<double>(height)};
+}
+
+CGSize Window::output_size() const {
+  int width = 0;
+  int height = 0;
+  SDL_GetRendererOutputSize(renderer_.get(), &width, &height);
   return {static_cast<double>(width), static_cast<double>(height)};
 }
 
@@ -161,6 +166,7 @@ void Window::handle_events() {
   SDL_Event event;
   while (SDL_PollEvent(&event))
     handle(event);
+  if (buttons_.has_change()) present();
 }
 
 void Window::handle(const SDL_Event& event) {
@@ -190,73 +196,49 @@ void Window::handle(const SDL_Event& event) {
       input_.compose(event.edit.text, event.edit.start);
       break;
     case SDL_KEYDOWN:
-      handle_button(event);
-      handle_key(event);
-      break;
     case SDL_KEYUP:
-      handle_button(event);
+      keys_.handle(event.key);
       break;
     default:
       break;
   }
 }
 
-void Window::handle_button(const SDL_Event& event) {
-  // A held key is one press of a button.
-  if (event.key.repeat != 0) return;
-  const bool down = event.type == SDL_KEYDOWN;
-  if (down && event.key.keysym.sym == kShake) input_.shake();
-  for (const auto& [key, button] : kButtons) {
-    if (key != event.key.keysym.sym) continue;
-    if (button != Button::HomeDouble) {
-      input_.button(button, down ? ButtonPhase::Down : ButtonPhase::Up);
-    } else if (down) {
-      input_.press(button);
-    }
-  }
-}
-
-void Window::handle_key(const SDL_Event& event) {
-  const SDL_Keycode pressed = event.key.keysym.sym;
-  const Uint16 held = event.key.keysym.mod;
-  for (const auto& [key, name] : kKeys) {
-    if (key == pressed) input_.key(with_modifiers(name, held));
-  }
-  if ((held & KMOD_CTRL) == 0) return;
-  for (const auto& [key, name] : kControlKeys) {
-    if (key == pressed) input_.key(with_modifiers(name, held));
-  }
-}
-
 void Window::handle_mouse(const SDL_Event& event) {
-  const auto box = Letterbox::fit(screen_, window_size());
+  const auto box = Letterbox::fit(body_.size(), window_size());
   if (event.type == SDL_MOUSEMOTION) {
-    if (!mouse_is_down_ || event.motion.which == SDL_TOUCH_MOUSEID) return;
-    input_.touch(
-        kMouseFinger, TouchPhase::Moved,
-        box.point_at({static_cast<double>(event.motion.x), static_cast<double>(event.motion.y)}));
+    if (event.motion.which == SDL_TOUCH_MOUSEID) return;
+    pointers_.moved(kMouseFinger, box.point_at({static_cast<double>(event.motion.x),
+                                                static_cast<double>(event.motion.y)}));
     return;
   }
+  if (event.button.which == SDL_TOUCH_MOUSEID) return;
   const bool down = event.type == SDL_MOUSEBUTTONDOWN;
-  if (event.button.button != SDL_BUTTON_LEFT || event.button.which == SDL_TOUCH_MOUSEID) return;
-  if (down == mouse_is_down_) return;
-  mouse_is_down_ = down;
+  const CGPoint point =
+      box.point_at({static_cast<double>(event.button.x), static_cast<double>(event.button.y)});
+  if (event.button.button == SDL_BUTTON_RIGHT && down) pointers_.touch_lightly(point);
+  if (event.button.button != SDL_BUTTON_LEFT) return;
   // A drag may leave the window, as a finger leaves the screen at its edge.
   SDL_CaptureMouse(down ? SDL_TRUE : SDL_FALSE);
-  input_.touch(
-      kMouseFinger, down ? TouchPhase::Began : TouchPhase::Ended,
-      box.point_at({static_cast<double>(event.button.x), static_cast<double>(event.button.y)}));
+  if (down) {
+    pointers_.down(kMouseFinger, point, event.button.clicks);
+  } else {
+    pointers_.up(kMouseFinger, point);
+  }
 }
 
 void Window::handle_finger(const SDL_Event& event) {
   const CGSize size = window_size();
-  const auto box = Letterbox::fit(screen_, size);
+  const auto box = Letterbox::fit(body_.size(), size);
   const CGPoint point = box.point_at({event.tfinger.x * size.width, event.tfinger.y * size.height});
   const TouchPhase phase = event.type == SDL_FINGERDOWN ? TouchPhase::Began
                            : event.type == SDL_FINGERUP ? TouchPhase::Ended
                                                         : TouchPhase::Moved;
-  if (const auto finger = fingers_.number_of(event.tfinger.fingerId, phase))
-    input_.touch(*finger, phase, point);
+  const auto finger = fingers_.number_of(event.tfinger.fingerId, phase);
+  if (!finger) return;
+  if (phase == TouchPhase::Began) pointers_.down(*finger, point);
+  if (phase == TouchPhase::Moved) pointers_.moved(*finger, point);
+  if (phase == TouchPhase::Ended) pointers_.up(*finger, point);
 }
 
 }  // namespace host::screen

@@ -4,8 +4,9 @@
 #include <string>
 
 #include "host/screen/fingers.h"
-#include "host/screen/input.h"
+#include "host/screen/keys.h"
 #include "host/screen/letterbox.h"
+#include "host/screen/pointers.h"
 #include "host/screen/screen.h"
 
 struct SDL_Renderer;
@@ -15,9 +16,8 @@ union SDL_Event;
 
 namespace host::screen {
 
-/// A window of the desktop that shows the phone's screen and is its fingers, keys and buttons: the
-/// mouse or a touch screen touches, F1 or Home is the Home button, F2 presses it twice, F3 locks,
-/// F5 and F6 change the volume, and everything else types.
+/// A window of the desktop that shows the phone and is its fingers, keys and buttons: the mouse or
+/// a touch screen touches its screen and presses the buttons around it.
 class Window final : public Screen {
  public:
   /// `screen` is in points, `pixels_a_point` the scale of the phone. Gives nothing, and the reason
@@ -43,12 +43,12 @@ class Window final : public Screen {
   Window(CGSize screen, Input& input);
   bool create(double pixels_a_point);
   void handle(const SDL_Event& event);
-  void handle_button(const SDL_Event& event);
-  void handle_key(const SDL_Event& event);
   void handle_mouse(const SDL_Event& event);
   void handle_finger(const SDL_Event& event);
   void present();
+  void draw_body();
   CGSize window_size() const;
+  CGSize output_size() const;
 
   struct Destroy {
     void operator()(SDL_Window* window) const;
@@ -56,13 +56,18 @@ class Window final : public Screen {
     void operator()(SDL_Texture* texture) const;
   };
 
-  const CGSize screen_;
+  const PhoneBody body_;
   Input& input_;
+  HeldButtons buttons_;
+  Keys keys_;
+  Pointers pointers_;
   std::unique_ptr<SDL_Window, Destroy> window_;
   std::unique_ptr<SDL_Renderer, Destroy> renderer_;
   std::unique_ptr<SDL_Texture, Destroy> texture_;
+  std::unique_ptr<SDL_Texture, Destroy> body_texture_;
+  /// In pixels, of what the body was last drawn at.
+  CGSize body_drawn_;
   Fingers fingers_;
-  bool mouse_is_down_ = false;
 };
 
 }  // namespace host::screen

@@ -11,6 +11,9 @@ namespace host::springboard {
 /// A phone whose display is off is woken by any of these, and nothing more happens.
 void press_home();
 void double_press_home();
+/// Two touches of the Home button that do not press it: they bring the screen down, or let it go,
+/// and do not wake it. False where the device cannot.
+bool double_touch_home();
 void press_lock();
 enum class VolumeButton { kUp, kDown };
 void press_volume(VolumeButton button);

@@ -95,6 +95,12 @@ void double_press_home() {
   if (!wake_display()) SBUIController::sharedInstance().handleMenuDoubleTap();
 }
 
+bool double_touch_home() {
+  if (!SBReachabilityManager::reachabilitySupported()) return false;
+  if (display().is_on() && !is_locked()) toggle_reachability();
+  return true;
+}
+
 void press_lock() {
   if (!wake_display()) lock();
 }

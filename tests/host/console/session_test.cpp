@@ -106,7 +106,8 @@ TEST_F(Sessions, KeyboardTakesTextAsItStandsAndKnownKeys) {
 TEST_F(Sessions, ButtonsArePressed) {
   EXPECT_EQ(say("button home"), "ok");
   EXPECT_EQ(say("button volume-down"), "ok");
-  EXPECT_THAT(phone_.done, ElementsAre("press 0", "press 4"));
+  EXPECT_EQ(say("button home-touch"), "ok");
+  EXPECT_THAT(phone_.done, ElementsAre("press 0", "press 4", "press 5"));
   EXPECT_THAT(say("button power"), StartsWith("error: home, home-double"));
 }
 

@@ -7,6 +7,8 @@
 
 #include <array>
 
+#include "tests/host/screen/written_input.h"
+
 namespace {
 
 using namespace host::screen;
@@ -35,30 +37,6 @@ TEST(Fingers, KeepTheirNumberUntilTheyAreLifted) {
   EXPECT_EQ(fingers.number_of(900, TouchPhase::Moved), std::nullopt);
 }
 
-class WrittenInput : public Input {
- public:
-  void touch(int finger, TouchPhase phase, CGPoint point) override {
-    done.push_back(
-        fmt::format("touch {} {} {:g} {:g}", finger, static_cast<int>(phase), point.x, point.y));
-  }
-  void type(std::string_view text) override { done.push_back(fmt::format("type {}", text)); }
-  void compose(std::string_view text, int caret) override {
-    done.push_back(fmt::format("compose {} {}", text, caret));
-  }
-  void key(std::string_view name) override { done.push_back(fmt::format("key {}", name)); }
-  void press(Button button) override {
-    done.push_back(fmt::format("press {}", static_cast<int>(button)));
-  }
-  void button(Button button, ButtonPhase phase) override {
-    const char* way = phase == ButtonPhase::Down ? "push" : "let go";
-    done.push_back(fmt::format("{} {}", way, static_cast<int>(button)));
-  }
-  void shake() override { done.push_back("shake"); }
-  void close() override { done.push_back("close"); }
-
-  std::vector<std::string> done;
-};
-
 /// A window on a desktop that exists in memory only.
 class Windows : public testing::Test {
  protected:
@@ -67,18 +45,23 @@ class Windows : public testing::Test {
     std::string problem;
     window_ = Window::open({100, 200}, 2, input_, problem);
     EXPECT_TRUE(window_) << problem;
+    origin_ = PhoneBody({100, 200}).screen().origin;
     window_->handle_events();
     input_.done.clear();
   }
 
-  void push_mouse(Uint32 type, int x, int y, Uint8 button = SDL_BUTTON_LEFT) {
+  /// At a place of the screen; the desktop is large enough for a point to be one of its units.
+  void push_mouse(Uint32 type, int x, int y, Uint8 button = SDL_BUTTON_LEFT, Uint8 clicks = 1) {
     SDL_Event event{};
+    x += static_cast<int>(origin_.x);
+    y += static_cast<int>(origin_.y);
     event.type = type;
     if (type == SDL_MOUSEMOTION) {
       event.motion.x = x;
       event.motion.y = y;
     } else {
       event.button.button = button;
+      event.button.clicks = clicks;
       event.button.x = x;
       event.button.y = y;
     }
@@ -100,6 +83,7 @@ class Windows : public testing::Test {
   }
 
   WrittenInput input_;
+  CGPoint origin_;
   std::unique_ptr<Window> window_;
 };
 
@@ -139,6 +123,33 @@ TEST_F(Windows, TwoPressesOfHomeAreOneKey) {
   push_key(SDLK_F2);
   push_key(SDLK_F2, 0, KMOD_NONE, SDL_KEYUP);
   EXPECT_THAT(handled(), ElementsAre("press 1"));
+}
+
+TEST_F(Windows, TwoTouchesOfHomeAreOneKey) {
+  push_key(SDLK_F4);
+  push_key(SDLK_F4, 1);
+  push_key(SDLK_F4, 0, KMOD_NONE, SDL_KEYUP);
+  EXPECT_THAT(handled(), ElementsAre("press 5"));
+}
+
+TEST_F(Windows, TheMousePressesHomeBelowTheScreen) {
+  push_mouse(SDL_MOUSEBUTTONDOWN, 50, 244);
+  EXPECT_THAT(handled(), ElementsAre("push 0"));
+  push_mouse(SDL_MOUSEMOTION, 50, 100);
+  push_mouse(SDL_MOUSEBUTTONUP, 50, 100);
+  EXPECT_THAT(handled(), ElementsAre("let go 0"));
+}
+
+TEST_F(Windows, ADoubleClickOnHomePressesItTwice) {
+  push_mouse(SDL_MOUSEBUTTONDOWN, 50, 244, SDL_BUTTON_LEFT, 2);
+  push_mouse(SDL_MOUSEBUTTONUP, 50, 244, SDL_BUTTON_LEFT, 2);
+  EXPECT_THAT(handled(), ElementsAre("press 1"));
+}
+
+TEST_F(Windows, TheOtherMouseButtonTouchesHomeLightly) {
+  push_mouse(SDL_MOUSEBUTTONDOWN, 50, 244, SDL_BUTTON_RIGHT);
+  push_mouse(SDL_MOUSEBUTTONUP, 50, 244, SDL_BUTTON_RIGHT);
+  EXPECT_THAT(handled(), ElementsAre("press 5"));
 }
 
 TEST_F(Windows, AKeyShakesThePhone) {

@@ -44,5 +44,21 @@ TEST_F(ReachabilityTest, ATapAboveTheScreenSendsItBack) {
   EXPECT_TRUE(icon_view(kCalendar).isHighlighted());
 }
 
+TEST_F(ReachabilityTest, TwoTouchesOfHomeBringTheScreenDownAndLetItGo) {
+  EXPECT_TRUE(double_touch_home());
+  EXPECT_TRUE(is_active());
+  EXPECT_TRUE(double_touch_home());
+  EXPECT_FALSE(is_active());
+}
+
+TEST_F(ReachabilityTest, NotOnALockedOrADarkPhone) {
+  press_lock();
+  EXPECT_TRUE(double_touch_home());
+  EXPECT_FALSE(display().is_on());
+  press_lock();
+  EXPECT_TRUE(double_touch_home());
+  EXPECT_FALSE(is_active());
+}
+
 }  // namespace
 }  // namespace host::springboard

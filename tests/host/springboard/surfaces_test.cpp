@@ -71,6 +71,7 @@ TEST_F(SurfacesTest, ReachabilityTogglesOnATallPhone) {
 TEST_F(ShortPhoneSurfacesTest, AShortPhoneHasNoReachability) {
   EXPECT_FALSE(SBReachabilityManager::reachabilitySupported());
   EXPECT_FALSE(toggle_reachability());
+  EXPECT_FALSE(double_touch_home());
 }
 
 }  // namespace

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <set>
+#include <utility>
+
+#include "host/screen/input.h"
+
+namespace host::screen {
+
+/// Which of the phone's buttons are down, by a key, the mouse or a finger. A button that two hold
+/// goes down once and up once.
+class HeldButtons {
+ public:
+  explicit HeldButtons(Input& input) : input_(input) {}
+
+  void down(Button button) {
+    if (held_.count(button) == 0) input_.button(button, ButtonPhase::Down);
+    held_.insert(button);
+    changed_ = true;
+  }
+  void up(Button button) {
+    const auto found = held_.find(button);
+    if (found == held_.end()) return;
+    held_.erase(found);
+    if (held_.count(button) == 0) input_.button(button, ButtonPhase::Up);
+    changed_ = true;
+  }
+  bool is_down(Button button) const { return held_.count(button) != 0; }
+  /// Whether any has gone down or up since the change was last taken.
+  bool has_change() const { return changed_; }
+  bool take_change() { return std::exchange(changed_, false); }
+
+ private:
+  Input& input_;
+  std::multiset<Button> held_;
+  bool changed_ = false;
+};
+
+}  // namespace host::screen

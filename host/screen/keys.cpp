@@ -1,0 +1,91 @@
+#include "host/screen/keys.h"
+
+#include <SDL.h>
+
+#include <string>
+
+namespace host::screen {
+namespace {
+
+struct KeyName {
+  SDL_Keycode key;
+  const char* name;
+};
+
+constexpr KeyName kKeys[] = {
+    {SDLK_RETURN, "return"}, {SDLK_KP_ENTER, "return"}, {SDLK_BACKSPACE, "delete"},
+    {SDLK_ESCAPE, "escape"}, {SDLK_TAB, "tab"},         {SDLK_LEFT, "left"},
+    {SDLK_RIGHT, "right"},   {SDLK_UP, "up"},           {SDLK_DOWN, "down"},
+    {SDLK_END, "end"},
+};
+
+// With the control key, letters work on text instead of typing it.
+constexpr KeyName kControlKeys[] = {
+    {SDLK_a, "a"}, {SDLK_c, "c"}, {SDLK_g, "g"}, {SDLK_v, "v"}, {SDLK_x, "x"},
+};
+
+struct KeyButton {
+  SDL_Keycode key;
+  Button button;
+};
+
+constexpr KeyButton kButtons[] = {
+    {SDLK_F1, Button::Home},       {SDLK_HOME, Button::Home},   {SDLK_F3, Button::Lock},
+    {SDLK_F5, Button::VolumeDown}, {SDLK_F6, Button::VolumeUp},
+};
+
+// What cannot be held.
+constexpr KeyButton kPresses[] = {
+    {SDLK_F2, Button::HomeDouble},
+    {SDLK_F4, Button::HomeTouch},
+};
+
+constexpr SDL_Keycode kShake = SDLK_F7;
+
+/// The key's name behind those of the keys that are held with it.
+std::string with_modifiers(const char* name, Uint16 held) {
+  std::string full;
+  if ((held & KMOD_CTRL) != 0) full += "control-";
+  if ((held & KMOD_SHIFT) != 0) full += "shift-";
+  return full + name;
+}
+
+}  // namespace
+
+void Keys::handle(const SDL_KeyboardEvent& event) {
+  // A held key is one press of a button.
+  if (event.repeat == 0) handle_button(event);
+  if (event.type == SDL_KEYDOWN) handle_text_key(event);
+}
+
+void Keys::handle_button(const SDL_KeyboardEvent& event) {
+  const SDL_Keycode pressed = event.keysym.sym;
+  const bool down = event.type == SDL_KEYDOWN;
+  for (const auto& [key, button] : kButtons) {
+    if (key != pressed) continue;
+    if (down) {
+      buttons_.down(button);
+    } else {
+      buttons_.up(button);
+    }
+  }
+  if (!down) return;
+  for (const auto& [key, button] : kPresses) {
+    if (key == pressed) input_.press(button);
+  }
+  if (pressed == kShake) input_.shake();
+}
+
+void Keys::handle_text_key(const SDL_KeyboardEvent& event) {
+  const SDL_Keycode pressed = event.keysym.sym;
+  const Uint16 held = event.keysym.mod;
+  for (const auto& [key, name] : kKeys) {
+    if (key == pressed) input_.key(with_modifiers(name, held));
+  }
+  if ((held & KMOD_CTRL) == 0) return;
+  for (const auto& [key, name] : kControlKeys) {
+    if (key == pressed) input_.key(with_modifiers(name, held));
+  }
+}
+
+}  // namespace host::screen

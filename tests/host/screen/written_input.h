@@ -1,0 +1,33 @@
+#pragma once
+
+#include <fmt/format.h>
+
+#include <string>
+#include <vector>
+
+#include "host/screen/input.h"
+
+/// Writes down what the user does.
+class WrittenInput : public host::screen::Input {
+ public:
+  void touch(int finger, host::screen::TouchPhase phase, CGPoint point) override {
+    done.push_back(
+        fmt::format("touch {} {} {:g} {:g}", finger, static_cast<int>(phase), point.x, point.y));
+  }
+  void type(std::string_view text) override { done.push_back(fmt::format("type {}", text)); }
+  void compose(std::string_view text, int caret) override {
+    done.push_back(fmt::format("compose {} {}", text, caret));
+  }
+  void key(std::string_view name) override { done.push_back(fmt::format("key {}", name)); }
+  void press(host::screen::Button button) override {
+    done.push_back(fmt::format("press {}", static_cast<int>(button)));
+  }
+  void button(host::screen::Button button, host::screen::ButtonPhase phase) override {
+    const char* way = phase == host::screen::ButtonPhase::Down ? "push" : "let go";
+    done.push_back(fmt::format("{} {}", way, static_cast<int>(button)));
+  }
+  void shake() override { done.push_back("shake"); }
+  void close() override { done.push_back("close"); }
+
+  std::vector<std::string> done;
+};
