@@ -23,6 +23,7 @@ Result<Answer> advance(Session& session, LineReader& reader) {
 }
 
 Result<Answer> print(Session& session, LineReader& reader) {
+  if (const auto answer = session.elsewhere(std::string(reader.line()))) return *answer;
   const auto expression = session.expression(reader);
   if (!expression) return expression.problem();
   if (const auto problem = reader.end()) return *problem;
@@ -36,6 +37,7 @@ std::string_view written(const Expression& expression, std::string_view line) {
 }
 
 Result<Answer> expect(Session& session, LineReader& reader) {
+  if (const auto answer = session.elsewhere(std::string(reader.line()))) return *answer;
   const auto left = session.expression(reader);
   if (!left) return left.problem();
   const auto symbol = reader.comparison();
@@ -60,6 +62,14 @@ Result<Answer> expect(Session& session, LineReader& reader) {
                 fmt::format("expected {} {} {}, but {} is not {} {}", written(*left, reader.line()),
                             symbol->text, written(*right, reader.line()), text_of(*found),
                             symbol->text, text_of(*wanted))};
+}
+
+/// The middle of a view, as a finger would have to know it.
+Result<Answer> where(Session& session, LineReader& reader) {
+  const auto point = session.point_on_view(reader);
+  if (!point) return point.problem();
+  if (const auto problem = reader.end()) return *problem;
+  return Answer{Answer::Kind::Value, fmt::format("{{{}, {}}}", point->x, point->y)};
 }
 
 Result<Answer> screenshot(Session& session, LineReader& reader) {
@@ -87,8 +97,8 @@ Result<Answer> quit(Session&, LineReader& reader) {
 }
 
 constexpr Command kCommands[] = {
-    {"advance", &advance}, {"print", &print},     {"expect", &expect}, {"screenshot", &screenshot},
-    {"echo", &echo},       {"process", &process}, {"quit", &quit},
+    {"advance", &advance},       {"print", &print}, {"expect", &expect},   {"where", &where},
+    {"screenshot", &screenshot}, {"echo", &echo},   {"process", &process}, {"quit", &quit},
 };
 
 }  // namespace

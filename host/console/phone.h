@@ -59,6 +59,9 @@ class Phone {
   virtual Refusal screenshot(const std::string& file) = 0;
   /// Turns the console to another process of the phone.
   virtual Refusal talk_to(std::string_view process) = 0;
+  /// What the process that the console has turned to answers to a line; nothing while that is the
+  /// phone's own.
+  virtual std::optional<std::string> answer_elsewhere(const std::string&) { return std::nullopt; }
 };
 
 }  // namespace host::console

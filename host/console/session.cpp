@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <cstdio>
+
 #include "host/console/commands.h"
 #include "objc/autorelease_pool.h"
 
@@ -55,6 +57,24 @@ Result<CGPoint> Session::point(LineReader& reader) {
     return CGPoint{*x, *y};
   }
   reader.word();
+  return point_on_view(reader);
+}
+
+Result<CGPoint> Session::point_on_view(LineReader& reader) {
+  const std::size_t start = reader.position();
+  // Which names there are is for the process to say that holds the view.
+  LineReader ahead = reader;
+  if (const auto whole = ahead.expression()) {
+    const auto text = reader.line().substr(whole->offset, whole->end - whole->offset);
+    if (const auto answer = elsewhere("where " + std::string(text))) {
+      reader = ahead;
+      CGPoint point;
+      const bool is_point =
+          std::sscanf(answer->text.c_str(), "{%lf, %lf}", &point.x, &point.y) == 2;
+      if (is_point && answer->kind == Answer::Kind::Value) return point;
+      return Problem{answer->text, start};
+    }
+  }
   const auto made = expression(reader);
   if (!made) return made.problem();
   const auto view = evaluator_.evaluate(*made);
@@ -63,6 +83,15 @@ Result<CGPoint> Session::point(LineReader& reader) {
   const auto centre = object ? phone_.centre_of(*object) : std::nullopt;
   if (!centre) return Problem{"this is no view on the screen", made->offset};
   return *centre;
+}
+
+std::optional<Answer> Session::elsewhere(const std::string& line) {
+  const auto said = phone_.answer_elsewhere(line);
+  if (!said) return std::nullopt;
+  constexpr std::string_view kError = "error: ";
+  if (*said == "ok") return Answer{};
+  if (said->starts_with(kError)) return Answer{Answer::Kind::Error, said->substr(kError.size())};
+  return Answer{Answer::Kind::Value, *said};
 }
 
 }  // namespace host::console

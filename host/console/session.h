@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "host/console/answer.h"
@@ -26,8 +28,12 @@ class Session {
   /// A checked expression whose value can be asked for later.
   Result<Expression> expression(LineReader& reader) const;
   const Evaluator& evaluator() const { return evaluator_; }
+  /// The answer of the process that the console has turned to; nothing while that is this one.
+  std::optional<Answer> elsewhere(const std::string& line);
   /// `X Y`, or `on EXPR`: the centre of that view.
   Result<CGPoint> point(LineReader& reader);
+  /// The centre of the view that an expression names.
+  Result<CGPoint> point_on_view(LineReader& reader);
 
  private:
   Phone& phone_;

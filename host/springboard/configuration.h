@@ -7,6 +7,8 @@
 
 namespace host::springboard {
 
+class ProcessKeeper;
+
 /// What the home screen finds on its device. Set before the application is launched.
 struct Configuration {
   std::string applications_folder = "/Applications";
@@ -16,6 +18,11 @@ struct Configuration {
   std::string wallpaper = "wallpaper-1";
   /// Outlives the home screen.
   const WallClock* wall_clock = &fixed_wall_clock;
+  /// Owns the applications' processes, and outlives the home screen; with none, no application has
+  /// a program.
+  ProcessKeeper* process_keeper = nullptr;
+  /// Does somebody move the clock? Then applications are kept in step with it.
+  bool has_stepped_clock = false;
 };
 
 void configure(Configuration configuration);

@@ -7,6 +7,7 @@
 #include "host/springboard/icon/folder_icon.h"
 #include "host/springboard/icon/icon.h"
 #include "host/springboard/icon/icon_model.h"
+#include "host/springboard/processes/application_view.h"
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/banner_controller.h"
 #include "host/springboard/surfaces/control_centre.h"
@@ -43,6 +44,7 @@ void export_springboard() {
   export_surface_window();
   export_slider();
   export_app_switcher();
+  export_application_view();
   export_banner_controller();
   export_control_centre_view();
   export_control_centre();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace host::springboard {
@@ -37,6 +39,17 @@ void present_control_centre();
 bool toggle_reachability();
 void lock();
 void unlock();
+
+// The physical keyboard while an application with a program is in front. True when the
+// application is to have what was typed: no view of the home screen's own takes it.
+bool type_into_application(const std::string& text);
+bool compose_in_application(const std::string& text, int caret);
+bool press_key_in_application(const std::string& name);
+
+/// The answer of the application's process with this program to a console's line; nothing when it
+/// does not run, or not any more.
+std::optional<std::string> ask_application(const std::string& program, const std::string& line);
+bool is_application_running(const std::string& program);
 
 /// What the user sees, whatever hangs over it.
 enum class Shown { HomeScreen, LockScreen, Application };

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "host/activator/phone_gestures.h"
+#include "host/launcher/home_screen/launch.h"
 #include "host/springboard/system_actions.h"
 #include "host/uikit/view/screen_space.h"
 
@@ -92,7 +93,18 @@ Refusal ConsolePhone::screenshot(const std::string& file) {
 }
 
 Refusal ConsolePhone::talk_to(std::string_view process) {
-  return done_unless(process == "SpringBoard", fmt::format("{} is not running", process));
+  const std::string name(process);
+  const bool is_here = name == kHomeScreen;
+  if (!is_here && !springboard::is_application_running(name))
+    return fmt::format("{} is not running", name);
+  elsewhere_ = is_here ? std::string() : name;
+  return std::nullopt;
+}
+
+std::optional<std::string> ConsolePhone::answer_elsewhere(const std::string& line) {
+  if (elsewhere_.empty()) return std::nullopt;
+  return springboard::ask_application(elsewhere_, line)
+      .value_or(fmt::format("error: {} is not running", elsewhere_));
 }
 
 }  // namespace host::launcher

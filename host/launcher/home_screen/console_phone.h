@@ -34,10 +34,13 @@ class ConsolePhone final : public console::Phone {
   console::Refusal gesture(std::string_view event) override;
   console::Refusal screenshot(const std::string& file) override;
   console::Refusal talk_to(std::string_view process) override;
+  std::optional<std::string> answer_elsewhere(const std::string& line) override;
 
  private:
   Hands& hands_;
   Parts parts_;
+  /// Whom the console talks to; empty for this process.
+  std::string elsewhere_;
 };
 
 }  // namespace host::launcher

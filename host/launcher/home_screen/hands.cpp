@@ -43,6 +43,7 @@ void Hands::touch(int finger, screen::TouchPhase phase, CGPoint point) {
 Hands::Refusal Hands::type(std::string_view text) {
   const auto typed = NSString::stringWithUTF8String(std::string(text).c_str());
   if (!typed) return "the text is not UTF-8";
+  if (springboard::type_into_application(std::string(text))) return std::nullopt;
   if (!uikit::type_text(typed)) return "nobody takes text now";
   return std::nullopt;
 }
@@ -50,7 +51,9 @@ Hands::Refusal Hands::type(std::string_view text) {
 Hands::Refusal Hands::compose(std::string_view text, int caret) {
   const auto composed = NSString::stringWithUTF8String(std::string(text).c_str());
   if (!composed) return "the text is not UTF-8";
-  if (!uikit::compose_text(composed, uikit::utf16_units(text, caret))) return "nobody takes text now";
+  if (springboard::compose_in_application(std::string(text), caret)) return std::nullopt;
+  if (!uikit::compose_text(composed, uikit::utf16_units(text, caret)))
+    return "nobody takes text now";
   return std::nullopt;
 }
 
@@ -61,6 +64,7 @@ Hands::Refusal Hands::key(std::string_view name) {
   const std::string_view alone = name.substr(name.rfind('-') + 1);
   if (alone == "delete") name = "backspace";
   if (alone == "return" || alone == "escape") name = alone;
+  if (springboard::press_key_in_application(std::string(name))) return std::nullopt;
   const bool taken = uikit::press_key(name);
   if (!taken) return "nobody takes this key now";
   return std::nullopt;

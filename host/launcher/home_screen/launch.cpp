@@ -6,6 +6,7 @@
 #include "host/launcher/home_screen/music.h"
 #include "host/launcher/home_screen/phone_mode.h"
 #include "host/launcher/home_screen/platform_classes.h"
+#include "host/launcher/home_screen/supervised_processes.h"
 #include "host/social/configuration.h"
 #include "host/springboard/configuration.h"
 #include "host/uikit/application/application.h"
@@ -44,6 +45,9 @@ void launch_home_screen(const ProcessOptions& options) {
   foundation::take_foundation_log();
   springboard::Configuration configuration;
   configuration.wall_clock = &wall_clock(options.stepped);
+  configuration.has_stepped_clock = options.stepped;
+  static SupervisedProcesses processes;
+  configuration.process_keeper = &processes;
   springboard::configure(configuration);
   configure_social(options.headless);
   start_gesture_service();

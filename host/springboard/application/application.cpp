@@ -10,6 +10,7 @@ SBApplication Application::make(const InstalledApplication& installed) {
   state.bundle_.reset(to_ns(installed.bundle));
   state.name_.reset(to_ns(installed.name));
   state.path_.reset(to_ns(installed.path));
+  state.program_ = installed.program;
   return made;
 }
 

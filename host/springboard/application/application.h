@@ -17,11 +17,14 @@ class Application : public objc::Implementation<Application, SBApplication> {
   NSString bundle_identifier() const { return bundle_.get(); }
   NSString display_name() const { return name_.get(); }
   NSString path() const { return path_.get(); }
+  /// Empty when no program belongs to it.
+  const std::string& program() const { return program_; }
 
  private:
   objc::Ref<NSString> bundle_;
   objc::Ref<NSString> name_;
   objc::Ref<NSString> path_;
+  std::string program_;
 };
 
 void export_application();

@@ -16,6 +16,7 @@ InstalledApplication read_application(NSString path) {
   InstalledApplication application;
   application.path = to_string(path);
   application.bundle = to_string(string_or_nil(info.objectForKey("CFBundleIdentifier"_ns)));
+  application.program = to_string(string_or_nil(info.objectForKey("CFBundleExecutable"_ns)));
   for (const NSString key : {"CFBundleDisplayName"_ns, "CFBundleName"_ns}) {
     if (application.name.empty())
       application.name = to_string(string_or_nil(info.objectForKey(key)));

@@ -8,9 +8,10 @@
 namespace host::springboard {
 
 struct InstalledApplication {
-  std::string bundle;  ///< Its identifier.
-  std::string name;    ///< Under its icon.
-  std::string path;    ///< Its folder on the device.
+  std::string bundle;        ///< Its identifier.
+  std::string name;          ///< Under its icon.
+  std::string path;          ///< Its folder on the device.
+  std::string program = {};  ///< Of its process; empty when it has none.
   friend bool operator==(const InstalledApplication&, const InstalledApplication&) = default;
 };
 

@@ -9,7 +9,9 @@ namespace {
 
 constexpr double kOpening = 0.4;
 constexpr double kClosing = 0.35;
+constexpr double kFading = 0.3;
 constexpr CGFloat kGround = 0.13;
+constexpr CGFloat kLaunchGround = 0.98;
 constexpr CGFloat kTextAlpha = 0.55;
 constexpr CGFloat kTitleSize = 22;
 constexpr CGFloat kTextSize = 14;
@@ -33,10 +35,11 @@ LaunchScreen::~LaunchScreen() {
   take_down();
 }
 
-void LaunchScreen::open(SBApplication application, UIImage image, CGRect from) {
+void LaunchScreen::open(SBApplication application, UIImage image, CGRect from,
+                        const Process& process) {
   take_down();
   from_ = from;
-  build(application, image);
+  build(application, image, process);
   const UIView screen = *screen_;
   screen.setTransform(transform_onto_icon());
   screen.setAlpha(0);
@@ -47,25 +50,36 @@ void LaunchScreen::open(SBApplication application, UIImage image, CGRect from) {
 }
 
 void LaunchScreen::close() {
-  if (!is_open()) return;
-  closing_ = true;
-  const UIView screen = *screen_;
-  screen.setUserInteractionEnabled(NO);
-  const CGAffineTransform onto_icon = transform_onto_icon();
-  const auto closed = objc::block([this, kept = screen_, life = std::weak_ptr<void>(life_)](BOOL) {
-    if (!life.expired() && kept.get() == screen_.get()) take_down();
-  });
-  UIView::animateWithDuration(kClosing, objc::block([=] {
-                                screen.setTransform(onto_icon);
-                                screen.setAlpha(0);
-                              }),
-                              closed);
+  if (is_open()) leave(transform_onto_icon(), kClosing);
 }
 
-void LaunchScreen::build(SBApplication application, UIImage image) {
+void LaunchScreen::fade() {
+  if (is_open()) leave(CGAffineTransform(), kFading);
+}
+
+void LaunchScreen::leave(CGAffineTransform transform, double duration) {
+  closing_ = true;
+  if (hosted_) objc::state_of<ApplicationView>(*hosted_).cancel_fingers();
+  const UIView screen = *screen_;
+  screen.setUserInteractionEnabled(NO);
+  const auto gone = objc::block([this, kept = screen_, life = std::weak_ptr<void>(life_)](BOOL) {
+    if (!life.expired() && kept.get() == screen_.get()) take_down();
+  });
+  UIView::animateWithDuration(duration, objc::block([=] {
+                                screen.setTransform(transform);
+                                screen.setAlpha(0);
+                              }),
+                              gone);
+}
+
+void LaunchScreen::frame_came() {
+  if (hosted_) objc::state_of<ApplicationView>(*hosted_).show_picture();
+}
+
+void LaunchScreen::build(SBApplication application, UIImage image, const Process& process) {
   closing_ = false;
   screen_ = make_view<UIView>(window_.bounds());
-  screen_->setBackgroundColor(UIColor::colorWithWhite(kGround, 1));
+  screen_->setBackgroundColor(UIColor::colorWithWhite(process ? kLaunchGround : kGround, 1));
   screen_->setClipsToBounds(YES);
   const CGPoint middle = CGRect(window_.bounds()).centre();
 
@@ -73,14 +87,21 @@ void LaunchScreen::build(SBApplication application, UIImage image) {
   const CGFloat icon_bottom = middle.y - kGap;
   icon->setCenter({middle.x, icon_bottom - icon->bounds().size.height / 2});
   screen_->addSubview(*icon);
-
-  const NSString name = application.displayName();
-  add_line(*screen_, name, icon_bottom + kGap,
-           UIFont::fontWithName("HelveticaNeue-Light"_ns, kTitleSize), UIColor::whiteColor());
-  add_line(*screen_, name.stringByAppendingString(" is not running on this phone yet"_ns),
-           icon_bottom + kGap + kLineHeight, UIFont::fontWithName("HelveticaNeue"_ns, kTextSize),
-           UIColor::colorWithWhite(1, kTextAlpha));
+  if (process) {
+    hosted_ = ApplicationView::make(screen_->bounds(), process);
+    screen_->addSubview(*hosted_);
+  } else {
+    add_texts(application.displayName(), icon_bottom + kGap);
+  }
   window_.addSubview(*screen_);
+}
+
+void LaunchScreen::add_texts(NSString name, CGFloat top) const {
+  add_line(*screen_, name, top, UIFont::fontWithName("HelveticaNeue-Light"_ns, kTitleSize),
+           UIColor::whiteColor());
+  add_line(*screen_, name.stringByAppendingString(" is not running on this phone yet"_ns),
+           top + kLineHeight, UIFont::fontWithName("HelveticaNeue"_ns, kTextSize),
+           UIColor::colorWithWhite(1, kTextAlpha));
 }
 
 CGAffineTransform LaunchScreen::transform_onto_icon() const {
@@ -97,6 +118,8 @@ CGAffineTransform LaunchScreen::transform_onto_icon() const {
 
 void LaunchScreen::take_down() {
   if (!screen_) return;
+  if (hosted_) objc::state_of<ApplicationView>(*hosted_).cancel_fingers();
+  hosted_.reset();
   screen_->removeFromSuperview();
   screen_.reset();
   closing_ = false;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "host/springboard/processes/application_view.h"
 #include "objc/ref.h"
 #include "platform/SpringBoard/SBApplication.h"
 #include "platform/UIKit/UIImage.h"
@@ -10,27 +11,37 @@
 
 namespace host::springboard {
 
-/// What a launched application shows of itself until applications run as processes of their own: a
-/// screen with its icon that says so, zooming out of the icon and back into it.
+/// The screen of the application in front, zooming out of its icon and back into it. It shows the
+/// icon until the application has drawn its first picture; one without a program says so instead.
 class LaunchScreen {
  public:
+  using Process = std::shared_ptr<ApplicationProcess>;
+
   explicit LaunchScreen(UIWindow window);
   ~LaunchScreen();
   LaunchScreen(const LaunchScreen&) = delete;
   LaunchScreen& operator=(const LaunchScreen&) = delete;
 
-  /// `from` is the icon's image on the screen.
-  void open(SBApplication application, UIImage image, CGRect from);
+  /// `from` is the icon's image on the screen; `process` is null for one without a program.
+  void open(SBApplication application, UIImage image, CGRect from, const Process& process);
   void close();
+  /// The application is no more: what it drew fades away.
+  void fade();
   bool is_open() const { return static_cast<bool>(screen_) && !closing_; }
 
+  /// The application in front has drawn.
+  void frame_came();
+
  private:
-  void build(SBApplication application, UIImage image);
+  void build(SBApplication application, UIImage image, const Process& process);
+  void add_texts(NSString name, CGFloat top) const;
   CGAffineTransform transform_onto_icon() const;
+  void leave(CGAffineTransform transform, double duration);
   void take_down();
 
   UIWindow window_;
   objc::Ref<UIView> screen_;
+  objc::Ref<SBHostedApplicationView> hosted_;
   CGRect from_;
   bool closing_ = false;
   /// Ends with this object: an animation may outlast it.

@@ -1,7 +1,9 @@
 #include "host/springboard/system/ui_controller.h"
 
+#include "host/springboard/application/application.h"
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
+#include "host/springboard/processes/running_processes.h"
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/switcher/app_switcher.h"
@@ -74,6 +76,7 @@ BOOL UserInterfaceController::is_app_switcher_showing() const {
 
 void UserInterfaceController::leave_application() {
   recent_applications().went_home();
+  running_processes().bring_to_front({});
   if (launch_screen_) launch_screen_->close();
 }
 
@@ -83,10 +86,37 @@ void UserInterfaceController::activate_application_animated(SBApplication applic
   icons.setIsEditing(NO);
   const SBIcon icon =
       icons.model().expectedIconForDisplayIdentifier(application.bundleIdentifier());
-  recent_applications().came_to_front(to_string(application.bundleIdentifier()));
-  if (!launch_screen_) launch_screen_ = std::make_unique<LaunchScreen>(self.window());
+  const std::string bundle = to_string(application.bundleIdentifier());
+  recent_applications().came_to_front(bundle);
+  if (!launch_screen_) watch_processes();
+  const auto process =
+      running_processes().open(bundle, objc::state_of<Application>(application).program());
   launch_screen_->open(application, icon.generateIconImage(SBIconImageFormatHomeScreen),
-                       icon_on_screen(icon, self.window()));
+                       icon_on_screen(icon, self.window()), process);
+  running_processes().bring_to_front(process ? bundle : std::string());
+}
+
+void UserInterfaceController::watch_processes() {
+  launch_screen_ = std::make_unique<LaunchScreen>(self.window());
+  RunningProcesses& processes = running_processes();
+  processes.on_frame([this](const std::string& bundle) {
+    if (recent_applications().front() == bundle) launch_screen_->frame_came();
+  });
+  processes.on_gone([this](const std::string& bundle) { application_gone(bundle); });
+  recent_applications().on_close(
+      [](const std::string& bundle) { running_processes().close(bundle); });
+}
+
+void UserInterfaceController::application_gone(const std::string& bundle) {
+  if (recent_applications().front() == bundle) {
+    recent_applications().went_home();
+    launch_screen_->fade();
+  }
+  recent_applications().forget(bundle);
+}
+
+LaunchScreen::Process UserInterfaceController::process_in_front() const {
+  return shows_application() ? running_processes().find(recent_applications().front()) : nullptr;
 }
 
 void export_ui_controller() {

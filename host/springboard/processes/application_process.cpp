@@ -1,0 +1,217 @@
+#include "host/springboard/processes/application_process.h"
+
+#include <cmath>
+#include <utility>
+
+#include "host/runtime/device_model.h"
+
+namespace host::springboard {
+
+using namespace application;
+
+namespace {
+
+// More than an application can have to say before it has come up to a time of the clock.
+constexpr int kMostMessagesInOneWait = 20000;
+constexpr int kReadsATurn = 16;
+
+SurfaceSize screen_size() {
+  const DeviceModel& device = current_device();
+  const auto pixels = [&device](double points) {
+    return static_cast<int>(std::lround(points * device.scale));
+  };
+  const int width = pixels(device.width);
+  return {width, pixels(device.height), cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, width)};
+}
+
+/// The buffer's pixels as they are, without a copy; the memory stays as long as they are shown.
+quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memory, int buffer) {
+  using Owner = std::shared_ptr<const SharedSurface>;
+  static const cairo_user_data_key_t kOwner{};
+  const SurfaceSize& size = memory->size();
+  // Cairo has no surfaces that are only read; nothing draws on an image.
+  auto* pixels = const_cast<unsigned char*>(memory->buffer(buffer));
+  cairo_surface_t* made = cairo_image_surface_create_for_data(pixels, CAIRO_FORMAT_ARGB32,
+                                                              size.width, size.height, size.stride);
+  cairo_surface_set_user_data(made, &kOwner, new Owner(memory),
+                              [](void* owner) { delete static_cast<Owner*>(owner); });
+  return quartzcore::Surface::adopt(made);
+}
+
+}  // namespace
+
+ApplicationProcess::ApplicationProcess(Channel channel, Time time, Events events)
+    : loop_(RunLoop::main()),
+      channel_(std::move(channel)),
+      time_(time),
+      events_(std::move(events)),
+      surface_(SharedSurface::make(screen_size())) {
+  if (!surface_ || !greet()) channel_.close();
+  if (!is_alive()) return;
+  watch();
+  if (time_ == Time::Stepped) catch_up_soon();
+}
+
+ApplicationProcess::~ApplicationProcess() {
+  life_.reset();
+  stop_watching();
+}
+
+bool ApplicationProcess::greet() {
+  const SurfaceSize& size = surface_->size();
+  const Hello hello{time_ == Time::Stepped, loop_.now(), size.width, size.height, size.stride};
+  return channel_.send(encoded(ToApplication(hello)), Channel::Patience::NeverWaits,
+                       surface_->descriptor());
+}
+
+CGImageRef ApplicationProcess::picture() const {
+  return reinterpret_cast<CGImageRef>(picture_.get().id());
+}
+
+void ApplicationProcess::set_in_front(bool is_in_front) {
+  is_in_front_ = is_in_front;
+  send(Visibility{is_in_front});
+  watch_over();
+}
+
+void ApplicationProcess::send(const ToApplication& message) {
+  write(message);
+  if (time_ == Time::Stepped && is_alive()) catch_up_soon();
+}
+
+// Its socket holds much more than a living application leaves unread.
+void ApplicationProcess::write(const ToApplication& message) {
+  if (!is_alive()) return;
+  if (!channel_.send(encoded(message), Channel::Patience::NeverWaits)) end(ProcessEnd::NoAnswer);
+}
+
+std::optional<std::string> ApplicationProcess::ask(const std::string& line) {
+  if (time_ == Time::Stepped) catch_up();
+  answer_.reset();
+  write(ConsoleLine{line});
+  if (!read_until([this] { return answer_.has_value(); }, kPatience)) return std::nullopt;
+  if (time_ == Time::Stepped) catch_up_soon();
+  return std::exchange(answer_, std::nullopt);
+}
+
+void ApplicationProcess::watch() {
+  if (!watch_ && is_alive()) watch_ = loop_.watch(channel_.descriptor(), [this] { read(); });
+}
+
+void ApplicationProcess::stop_watching() {
+  if (watch_) loop_.unwatch(*watch_);
+  watch_.reset();
+  for (auto* timer : {&pause_, &due_, &questions_}) {
+    if (*timer) loop_.remove_timer(**timer);
+    timer->reset();
+  }
+}
+
+void ApplicationProcess::read() {
+  if (std::exchange(is_reading_, true)) return;
+  const std::weak_ptr<void> life = life_;
+  int left = MessageBudget::kMessagesATurn;
+  for (int reads = 0; reads < kReadsATurn && left > 0; ++reads) {
+    std::string bytes;
+    const auto reading = channel_.read_into(bytes);
+    channel_.take_descriptor();  // nobody asked for any
+    reader_.append(bytes);
+    while (left > 0 && is_alive()) {
+      const auto message = reader_.next();
+      if (!message) break;
+      --left;
+      budget_.count(loop_.now());
+      take(*message);
+      if (life.expired()) return;
+    }
+    if (reader_.has_failed()) end(ProcessEnd::Garbage);
+    if (budget_.is_flooded()) end(ProcessEnd::Flood);
+    if (reading == Channel::Reading::End && left > 0) end(ProcessEnd::Ended);
+    if (life.expired()) return;
+    if (!is_alive() || reading == Channel::Reading::Nothing) break;
+  }
+  is_reading_ = false;
+  if (left == 0) read_on_next_frame();
+}
+
+void ApplicationProcess::read_on_next_frame() {
+  if (!is_alive() || pause_) return;
+  if (watch_) loop_.unwatch(*watch_);
+  watch_.reset();
+  pause_ = loop_.add_timer(loop_.now() + RunLoop::kFrame, 0, [this] {
+    pause_.reset();
+    watch();
+    read();
+  });
+}
+
+bool ApplicationProcess::read_until(const std::function<bool()>& came, double patience) {
+  const RealClock machine;
+  const double deadline = machine.now() + patience;
+  int messages = 0;
+  while (is_alive() && !came()) {
+    if (const auto message = reader_.next()) {
+      take(*message);
+      if (++messages > kMostMessagesInOneWait) end(ProcessEnd::Flood);
+      continue;
+    }
+    if (reader_.has_failed()) {
+      end(ProcessEnd::Garbage);
+      break;
+    }
+    const double left = deadline - machine.now();
+    if (left <= 0 || !wait_until_readable(channel_.descriptor(), left)) {
+      end(ProcessEnd::NoAnswer);
+      break;
+    }
+    std::string bytes;
+    if (channel_.read_into(bytes) == Channel::Reading::End) end(ProcessEnd::Ended);
+    reader_.append(bytes);
+  }
+  return is_alive();
+}
+
+void ApplicationProcess::take(const ToHome& message) {
+  has_answered_ = true;
+  std::visit([this](const auto& one) { take(one); }, message);
+}
+
+void ApplicationProcess::take(const NewFrame& frame) {
+  if (frame.buffer >= SharedSurface::kBuffers) {
+    end(ProcessEnd::Garbage);
+    return;
+  }
+  const CGImageRef made =
+      quartzcore::make_image(surface_on(surface_, frame.buffer), quartzcore::Opacity::Opaque);
+  picture_ = objc::Ref<quartzcore::CGImageObject>::adopt(
+      objc::cast<quartzcore::CGImageObject>(quartzcore::object_of(made)));
+  if (events_.frame_came) events_.frame_came();
+  // The picture before is on no layer any more when the next frame of the screen is painted.
+  write(FrameTaken{});
+}
+
+void ApplicationProcess::take(const ReachedTime& reached) {
+  reached_ = reached.time;
+  next_due_ = reached.next_due;
+}
+
+void ApplicationProcess::take(const ConsoleAnswer& answer) {
+  answer_ = answer.line;
+}
+
+void ApplicationProcess::take(const Pong& pong) {
+  if (pong.number <= asked_) answered_ = pong.number;
+}
+
+void ApplicationProcess::take(const SteerPlayer& command) {
+  if (events_.steers) events_.steers(command);
+}
+
+void ApplicationProcess::end(ProcessEnd reason) {
+  if (!is_alive()) return;
+  channel_.close();
+  stop_watching();
+  if (events_.ended) events_.ended(reason);
+}
+
+}  // namespace host::springboard

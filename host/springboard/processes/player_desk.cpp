@@ -1,0 +1,122 @@
+#include "host/springboard/processes/player_desk.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/springboard/processes/application_process.h"
+#include "platform/MediaPlayer/MPMusicPlayerController.h"
+#include "platform/SpringBoard/SBMediaController.h"
+
+namespace host::springboard {
+
+using namespace application;
+
+namespace {
+
+constexpr double kLookEvery = 0.25;
+// What the clock says of the song and what the player says may differ by so much.
+constexpr double kElapsedTolerance = 0.4;
+
+MPMusicPlayerController player() {
+  return MPMusicPlayerController::iPodMusicPlayer();
+}
+
+double number_of(MPMediaItem item, NSString property) {
+  const auto number = item.valueForProperty(property);
+  return number ? objc::send<double>(number, "doubleValue"_sel) : 0;
+}
+
+std::uint64_t song_id(MPMediaItem item) {
+  const auto number = item.valueForProperty(MPMediaItemPropertyPersistentID);
+  return number ? objc::send<unsigned long long>(number, "unsignedLongLongValue"_sel) : 0;
+}
+
+PlaybackIs playback_now() {
+  PlaybackIs found;
+  found.volume = SBMediaController::sharedInstance().volume();
+  const MPMediaItem item = player().nowPlayingItem();
+  if (!item) return found;
+  found.song = song_id(item);
+  found.is_playing = player().playbackState() == MPMusicPlaybackStatePlaying;
+  found.elapsed = player().currentPlaybackTime();
+  found.duration = number_of(item, MPMediaItemPropertyPlaybackDuration);
+  if (!std::isfinite(found.elapsed)) found.elapsed = 0;
+  return found;
+}
+
+void play_song(std::uint64_t song) {
+  const objc::Object number = objc::send<objc::Object>(objc::Object(objc_getClass("NSNumber")),
+                                                       "numberWithUnsignedLongLong:"_sel,
+                                                       static_cast<unsigned long long>(song));
+  const auto query = MPMediaQuery::alloc().init().autorelease();
+  query.addFilterPredicate(
+      MPMediaPropertyPredicate::predicateWithValue(number, MPMediaItemPropertyPersistentID));
+  const NSArray found = query.items();
+  if (found.count() == 0) return;
+  player().setQueueWithQuery(MPMediaQuery::alloc().init().autorelease());
+  player().setNowPlayingItem(objc::cast<MPMediaItem>(found.objectAtIndex(0)));
+  player().play();
+}
+
+}  // namespace
+
+PlayerDesk::~PlayerDesk() {
+  if (looks_ && RunLoop::has_main()) RunLoop::main().remove_timer(*looks_);
+}
+
+void PlayerDesk::carry_out(const SteerPlayer& command) {
+  const SBMediaController media = SBMediaController::sharedInstance();
+  switch (command.command) {
+    case PlayerCommand::PlaySong:
+      play_song(command.song);
+      break;
+    case PlayerCommand::Toggle:
+      media.togglePlayPause();
+      break;
+    case PlayerCommand::Next:
+      media.changeTrack(1);
+      break;
+    case PlayerCommand::Previous:
+      media.changeTrack(-1);
+      break;
+    case PlayerCommand::Seek:
+      player().setCurrentPlaybackTime(std::max(command.value, 0.0));
+      break;
+    case PlayerCommand::SetVolume:
+      media.setVolume(static_cast<float>(std::clamp(command.value, 0.0, 1.0)));
+      break;
+  }
+  look_soon();
+}
+
+void PlayerDesk::watch(bool watches) {
+  RunLoop& loop = RunLoop::main();
+  if (looks_) loop.remove_timer(*looks_);
+  looks_.reset();
+  told_.reset();
+  if (!watches) return;
+  looks_ = loop.add_timer(loop.now() + kLookEvery, kLookEvery, [this] { look(); });
+  look_soon();
+}
+
+void PlayerDesk::look_soon() {
+  RunLoop::main().perform([this, life = std::weak_ptr<void>(life_)] {
+    if (!life.expired()) look();
+  });
+}
+
+void PlayerDesk::look() {
+  ApplicationProcess* front = front_();
+  if (!front || !SBMediaController::cls()) return;
+  const PlaybackIs now = playback_now();
+  const double time = RunLoop::main().now();
+  const bool same = told_ && told_->song == now.song && told_->is_playing == now.is_playing &&
+                    told_->volume == now.volume && told_->duration == now.duration;
+  const double expected = same ? told_->elapsed + (now.is_playing ? time - told_at_ : 0) : 0;
+  if (same && std::abs(expected - now.elapsed) <= kElapsedTolerance) return;
+  told_ = now;
+  told_at_ = time;
+  front->send(now);
+}
+
+}  // namespace host::springboard

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "host/application/wire/messages.h"
+#include "host/runtime/run_loop.h"
+
+namespace host::springboard {
+
+class ApplicationProcess;
+
+/// Lets the application in front see and steer the player, which is the home screen's.
+class PlayerDesk {
+ public:
+  using Front = std::function<ApplicationProcess*()>;
+
+  explicit PlayerDesk(Front front) : front_(std::move(front)) {}
+  ~PlayerDesk();
+  PlayerDesk(const PlayerDesk&) = delete;
+  PlayerDesk& operator=(const PlayerDesk&) = delete;
+
+  void carry_out(const application::SteerPlayer& command);
+  /// Tells the one in front what plays, now and whenever it is another thing.
+  void watch(bool watches);
+
+ private:
+  void look();
+  void look_soon();
+
+  Front front_;
+  std::optional<RunLoop::Id> looks_;
+  std::optional<application::PlaybackIs> told_;
+  double told_at_ = 0;
+  std::shared_ptr<void> life_ = std::make_shared<char>();
+};
+
+}  // namespace host::springboard

@@ -1,0 +1,101 @@
+#include "host/springboard/processes/running_processes.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/runtime/log.h"
+#include "host/springboard/configuration.h"
+#include "host/springboard/processes/process_keeper.h"
+#include "host/springboard/shared_instance.h"
+
+namespace host::springboard {
+namespace {
+
+ApplicationProcess::Time time_of_phone() {
+  return configuration().has_stepped_clock ? ApplicationProcess::Time::Stepped
+                                           : ApplicationProcess::Time::Real;
+}
+
+/// What the log says of an application that could not be kept.
+const char* words_for(ProcessEnd reason) {
+  switch (reason) {
+    case ProcessEnd::NoAnswer:
+      return "does not answer: closed";
+    case ProcessEnd::Flood:
+      return "floods the phone with messages: closed";
+    case ProcessEnd::Garbage:
+      return "says what is no message: closed";
+    case ProcessEnd::Ended:
+      break;
+  }
+  return "has ended";
+}
+
+}  // namespace
+
+RunningProcesses::RunningProcesses()
+    : player_([this]() -> ApplicationProcess* { return find(front_).get(); }) {}
+
+RunningProcesses::~RunningProcesses() = default;
+
+RunningProcesses::Process RunningProcesses::open(const std::string& bundle,
+                                                 const std::string& program) {
+  if (Process running = find(bundle)) return running;
+  ProcessKeeper* keeper = configuration().process_keeper;
+  if (!keeper || program.empty() || !keeper->open(bundle, program)) return nullptr;
+  auto made = std::make_shared<ApplicationProcess>(keeper->connect(bundle), time_of_phone(),
+                                                   events_of(bundle));
+  if (!made->is_alive()) return nullptr;
+  running_[bundle] = {program, made};
+  return made;
+}
+
+ApplicationProcess::Events RunningProcesses::events_of(const std::string& bundle) {
+  return {[this, bundle] {
+            if (frame_came_) frame_came_(bundle);
+          },
+          [this, bundle](ProcessEnd reason) { ended(bundle, reason); },
+          [this](const application::SteerPlayer& command) { player_.carry_out(command); }};
+}
+
+RunningProcesses::Process RunningProcesses::find(const std::string& bundle) const {
+  const auto found = running_.find(bundle);
+  return found == running_.end() ? nullptr : found->second.process;
+}
+
+RunningProcesses::Process RunningProcesses::find_program(const std::string& program) const {
+  const auto found = std::find_if(running_.begin(), running_.end(), [&program](const auto& one) {
+    return one.second.program == program;
+  });
+  return found == running_.end() ? nullptr : found->second.process;
+}
+
+void RunningProcesses::bring_to_front(const std::string& bundle) {
+  if (front_ == bundle) return;
+  if (const Process before = find(front_)) before->set_in_front(false);
+  front_ = bundle;
+  if (const Process now = find(bundle)) now->set_in_front(true);
+  player_.watch(!bundle.empty());
+}
+
+void RunningProcesses::close(const std::string& bundle) {
+  if (!running_.erase(bundle)) return;
+  if (front_ == bundle) front_.clear();
+  if (ProcessKeeper* keeper = configuration().process_keeper) keeper->close(bundle);
+}
+
+void RunningProcesses::ended(const std::string& bundle, ProcessEnd reason) {
+  const auto found = running_.find(bundle);
+  if (found == running_.end()) return;
+  spdlog::warn("{} {}", found->second.program, words_for(reason));
+  // It is in the middle of telling us.
+  RunLoop::main().perform([kept = found->second.process] {});
+  close(bundle);
+  if (gone_) gone_(bundle);
+}
+
+RunningProcesses& running_processes() {
+  return SharedPart<RunningProcesses>::get();
+}
+
+}  // namespace host::springboard
