@@ -5,6 +5,7 @@
 #include "host/uikit/navigation/back_button.h"
 #include "host/uikit/navigation/navigation_bar.h"
 #include "host/uikit/navigation/navigation_controller.h"
+#include "host/uikit/pages/page_view_controller.h"
 #include "host/uikit/picker/picker_view.h"
 #include "host/uikit/picker/picker_wheel.h"
 
@@ -17,6 +18,7 @@ void export_navigation() {
   export_back_button();
   export_navigation_bar();
   export_navigation_controller();
+  export_page_view_controller();
   export_picker_wheel();
   export_picker_view();
 }
