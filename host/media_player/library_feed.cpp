@@ -21,12 +21,21 @@ std::string default_demo_folder() {
   return std::string{home ? home : ""} + "/.local/share/sonavue/demo-music";
 }
 
+namespace {
+
+FirstScan first_scan_for(const MediaOptions& options) {
+  const bool is_stepped = options.pace == media::PlayerPace::stepped;
+  const bool is_beside = options.first_scan == FirstScan::kBeside;
+  return is_stepped && is_beside ? FirstScan::kBeforeStart : options.first_scan;
+}
+
+}  // namespace
+
 LibraryFeed::LibraryFeed(const MediaOptions& options, Listener listener)
     : roots_(options.music_folders),
       demo_(options.demo),
       index_path_(options.index_path),
-      first_scan_(options.pace == media::PlayerPace::stepped ? FirstScan::kBeforeStart
-                                                             : options.first_scan),
+      first_scan_(first_scan_for(options)),
       listener_(std::move(listener)) {
   if (demo_) roots_.push_back(demo_->folder);
 }
@@ -37,7 +46,10 @@ LibraryFeed::~LibraryFeed() {
 }
 
 void LibraryFeed::start() {
-  if (first_scan_ == FirstScan::kBeforeStart) {
+  if (first_scan_ == FirstScan::kNever) {
+    media::Index index{index_path_};
+    deliver(media::Library::build(index.load().songs));
+  } else if (first_scan_ == FirstScan::kBeforeStart) {
     make_demo_now();
     scan_now();
   } else if (missing_demo()) {

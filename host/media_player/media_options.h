@@ -15,6 +15,7 @@ namespace host::media_player {
 enum class FirstScan {
   kBeforeStart,  // The library is whole when the service has started.
   kBeside,       // What the last scan left is there at once; the rest follows beside the screen.
+  kNever,        // What the last scan left is all: another process looks at the files.
 };
 
 /// Music that is made when the user has given none.

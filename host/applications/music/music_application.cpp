@@ -1,28 +1,82 @@
 #include "host/applications/music/music_application.h"
 
+#include "host/application/program/player_remote.h"
+#include "host/applications/music/library.h"
+#include "host/applications/music/look.h"
+#include "host/foundation/device_paths.h"
+#include "host/media_player/media_service.h"
 #include "host/runtime/device_model.h"
-#include "platform/UIKit/UILabel.h"
+#include "host/runtime/log.h"
+#include "host/springboard/view/make_view.h"
 
 namespace host::music {
 
+using application::PlayerRemote;
+
+MusicApplication::~MusicApplication() {
+  PlayerRemote::shared().on_change = {};
+}
+
 void MusicApplication::application_did_finish_launching(objc::Object) {
   const DeviceModel& device = current_device();
-  window_ = objc::Ref<UIWindow>::adopt(
-      objc::cast<UIWindow>(UIWindow::alloc().initWithFrame({0, 0, device.width, device.height})));
+  window_ = springboard::make_view<UIWindow>({0, 0, device.width, device.height});
   window_->setBackgroundColor(UIColor::whiteColor());
-  const auto label =
-      objc::cast<UILabel>(UILabel::alloc().initWithFrame({20, 100, 300, 40}).autorelease());
-  label.setText("Music"_ns);
-  window_->addSubview(label);
+  window_->setTintColor(accent_color());
+  songs_ = SongsPage::make(player_, [this](MPMediaItem song) { play(song); });
+  now_playing_ = NowPlayingPage::make(player_);
+  navigation_ = objc::Ref<UINavigationController>::adopt(
+      UINavigationController::alloc().initWithRootViewController(*songs_));
+  window_->setRootViewController(*navigation_);
+  mini_bar_ = std::make_unique<MiniBar>(*window_, player_, [this] { open_now_playing(); });
+  objc::state_of<SongsPage>(*songs_).on_visible = [this](bool visible) {
+    mini_bar_->set_wanted(visible);
+  };
+  PlayerRemote::shared().on_change = [this] { player_changed(); };
   window_->makeKeyAndVisible();
 }
 
-void prepare_music(bool) {}
+UITableView MusicApplication::songs_table() const {
+  return objc::state_of<SongsPage>(*songs_).table();
+}
+
+void MusicApplication::play(MPMediaItem song) {
+  PlayerRemote::shared().play_song(id_of(song));
+  open_now_playing();
+}
+
+void MusicApplication::open_now_playing() {
+  if (navigation_->topViewController() == *songs_)
+    navigation_->pushViewController(*now_playing_, YES);
+}
+
+void MusicApplication::player_changed() {
+  player_.refresh();
+  objc::state_of<SongsPage>(*songs_).player_changed();
+  objc::state_of<NowPlayingPage>(*now_playing_).player_changed();
+  mini_bar_->player_changed();
+}
+
+void open_library(bool is_stepped) {
+  media_player::MediaOptions options;
+  options.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
+  options.first_scan = media_player::FirstScan::kNever;
+  options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
+  options.audio_output = "null";
+  if (const auto problem = media_player::MediaService::start(std::move(options)))
+    spdlog::error("there is no music: {}", *problem);
+}
 
 void export_music_classes() {
+  if (objc_getClass("MusicApplication")) return;
+  export_songs_page();
+  export_now_playing_page();
   objc::ClassBuilder("MusicApplication", "UIApplication")
       .state<MusicApplication>()
       .method<&MusicApplication::application_did_finish_launching>("applicationDidFinishLaunching:")
+      .method<&MusicApplication::songs_table>("songsTable")
+      .method<&MusicApplication::mini_bar>("miniBar")
+      .method<&MusicApplication::now_playing>("nowPlaying")
+      .method<&MusicApplication::navigation>("navigation")
       .finish();
 }
 

@@ -1,31 +1,51 @@
 #pragma once
 
+#include <memory>
+
 #include "host/application/program/program.h"
-#include "objc/class_builder.h"
-#include "objc/ref.h"
-#include "platform/UIKit/UIApplication.h"
-#include "platform/UIKit/UIWindow.h"
+#include "host/applications/music/mini_bar.h"
+#include "host/applications/music/now_playing_page.h"
+#include "host/applications/music/songs_page.h"
+#include "platform/UIKit/UINavigationController.h"
 
 namespace host::music {
 
 struct MusicApplicationObject
     : objc::Bound<MusicApplicationObject, "MusicApplication", UIApplication> {};
 
-/// The application object of the Music application.
+/// The Music application: the list of songs, the page of what plays, and the bar between them. The
+/// home screen's process plays.
 class MusicApplication : public objc::Implementation<MusicApplication, MusicApplicationObject> {
  public:
   using Implementation::Implementation;
+  ~MusicApplication();
 
   void application_did_finish_launching(objc::Object application);
 
+  // For whoever looks in from outside.
+  UITableView songs_table() const;
+  UIView mini_bar() const { return mini_bar_->view(); }
+  MusicNowPlayingController now_playing() const { return now_playing_.get(); }
+  UINavigationController navigation() const { return navigation_.get(); }
+
  private:
+  void play(MPMediaItem song);
+  void open_now_playing();
+  void player_changed();
+
+  PlayerState player_;
   objc::Ref<UIWindow> window_;
+  objc::Ref<MusicSongsController> songs_;
+  objc::Ref<MusicNowPlayingController> now_playing_;
+  objc::Ref<UINavigationController> navigation_;
+  std::unique_ptr<MiniBar> mini_bar_;
 };
 
 void export_music_classes();
-void prepare_music(bool is_stepped);
+/// Opens the library that the home screen's process keeps.
+void open_library(bool is_stepped);
 
 inline constexpr application::Program kProgram{"com.apple.Music", "Music", "MusicApplication",
-                                               &export_music_classes, &prepare_music};
+                                               &export_music_classes, &open_library};
 
 }  // namespace host::music

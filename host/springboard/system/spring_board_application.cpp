@@ -24,11 +24,22 @@ void SpringBoardApplication::send_event(UIEvent event) {
   if (!edge_pulls_ || !touch || !edge_pulls_->take(touch, go_on)) go_on();
 }
 
-void set_status_bar_locked(bool locked) {
+namespace {
+
+/// Null before the launch.
+StatusBar* status_bar() {
   const UIApplication application = UIApplication::sharedApplication();
-  if (!application) return;
-  if (StatusBar* bar = objc::state_of<SpringBoardApplication>(application).status_bar())
-    bar->set_locked(locked);
+  return application ? objc::state_of<SpringBoardApplication>(application).status_bar() : nullptr;
+}
+
+}  // namespace
+
+void set_status_bar_locked(bool locked) {
+  if (StatusBar* bar = status_bar()) bar->set_locked(locked);
+}
+
+void set_status_bar_dark(bool dark) {
+  if (StatusBar* bar = status_bar()) bar->set_dark(dark);
 }
 
 void export_spring_board_application() {

@@ -18,7 +18,7 @@ constexpr CGFloat kChargeWidth = 44;
 
 /// Adds a glyph centred on the bar's height and gives the x behind it.
 CGFloat add_bar_glyph(UIView bar, NSString name, CGFloat x) {
-  const UIImage image = picture(name);
+  const UIImage image = glyph(name);
   if (!image) return x;
   auto view = objc::Ref<UIImageView>::adopt(UIImageView::alloc().initWithImage(image));
   const CGSize size = image.size();
@@ -46,6 +46,7 @@ StatusBar::StatusBar(const WallClock& clock)
   add_left_side();
   add_time();
   add_battery();
+  color_contents();
   window_->setHidden(NO);
 }
 
@@ -65,22 +66,36 @@ void StatusBar::add_time() {
 }
 
 void StatusBar::set_locked(bool locked) {
+  locked_ = locked;
   window_->setWindowLevel(locked ? kLockedStatusBarLevel : UIWindowLevelStatusBar);
   time_->setHidden(locked ? YES : NO);
   if (locked && !padlock_)
     padlock_ = add_glyph(*window_, "lock"_ns, window_->bounds(), UIColor::whiteColor());
   if (padlock_) padlock_->setHidden(locked ? NO : YES);
+  color_contents();
 }
 
-void StatusBar::add_battery() const {
+void StatusBar::set_dark(bool dark) {
+  dark_ = dark;
+  color_contents();
+}
+
+// The glyphs take the bar's tint. The lock screen is never light.
+void StatusBar::color_contents() const {
+  const UIColor color = dark_ && !locked_ ? UIColor::blackColor() : UIColor::whiteColor();
+  window_->setTintColor(color);
+  time_->setTextColor(color);
+  charge_->setTextColor(color);
+}
+
+void StatusBar::add_battery() {
   const UIImage outline = picture("battery-outline"_ns);
   const CGFloat x = window_->bounds().size.width - kSideMargin - outline.size().width;
   add_bar_glyph(*window_, "battery-fill"_ns, x);
   add_bar_glyph(*window_, "battery-outline"_ns, x);
-  const auto charge =
-      add_text(*window_, {x - kGap + 1 - kChargeWidth, 0, kChargeWidth, kStatusBarHeight},
-               "HelveticaNeue"_ns, NSTextAlignmentRight);
-  charge->setText("100%"_ns);
+  charge_ = add_text(*window_, {x - kGap + 1 - kChargeWidth, 0, kChargeWidth, kStatusBarHeight},
+                     "HelveticaNeue"_ns, NSTextAlignmentRight);
+  charge_->setText("100%"_ns);
 }
 
 void StatusBar::show_time() {

@@ -24,17 +24,23 @@ class StatusBar {
   NSString time_text() const { return time_->text(); }
   /// Over the lock screen, which shows the time in large, a padlock stands in its place.
   void set_locked(bool locked);
+  /// Dark on an application's light ground.
+  void set_dark(bool dark);
 
  private:
   void add_left_side() const;
   void add_time();
-  void add_battery() const;
+  void add_battery();
   void show_time();
+  void color_contents() const;
 
   const WallClock& clock_;
   objc::Ref<UIWindow> window_;
   objc::Ref<UILabel> time_;
   objc::Ref<UIImageView> padlock_;
+  objc::Ref<UILabel> charge_;
+  bool locked_ = false;
+  bool dark_ = false;
   std::optional<RunLoop::Id> next_minute_;
 };
 

@@ -9,6 +9,7 @@
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/switcher/screen_picture.h"
+#include "host/springboard/system/spring_board_application.h"
 #include "host/springboard/view/icon_view.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
@@ -77,6 +78,7 @@ BOOL UserInterfaceController::is_app_switcher_showing() const {
 void UserInterfaceController::leave_application() {
   recent_applications().went_home();
   running_processes().bring_to_front({});
+  set_status_bar_dark(false);
   if (launch_screen_) launch_screen_->close();
 }
 
@@ -94,6 +96,7 @@ void UserInterfaceController::activate_application_animated(SBApplication applic
   launch_screen_->open(application, icon.generateIconImage(SBIconImageFormatHomeScreen),
                        icon_on_screen(icon, self.window()), process);
   running_processes().bring_to_front(process ? bundle : std::string());
+  set_status_bar_dark(static_cast<bool>(process));
 }
 
 void UserInterfaceController::watch_processes() {
@@ -110,6 +113,7 @@ void UserInterfaceController::watch_processes() {
 void UserInterfaceController::application_gone(const std::string& bundle) {
   if (recent_applications().front() == bundle) {
     recent_applications().went_home();
+    set_status_bar_dark(false);
     launch_screen_->fade();
   }
   recent_applications().forget(bundle);

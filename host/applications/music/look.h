@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/UIKit/UIColor.h"
+
+namespace host::music {
+
+/// The application's own red: what can be touched, and the song that plays.
+inline UIColor accent_color() {
+  return UIColor::colorWithRed(1, 45.0 / 255, 85.0 / 255, 1);
+}
+/// Of second lines.
+inline UIColor weak_color() {
+  return UIColor::colorWithWhite(0.56, 1);
+}
+inline UIColor separator_color() {
+  return UIColor::colorWithRed(200.0 / 255, 199.0 / 255, 204.0 / 255, 1);
+}
+
+inline constexpr CGFloat kMargin = 15;
+/// Of the bar at the bottom of the list.
+inline constexpr CGFloat kMiniBarHeight = 56;
+
+}  // namespace host::music

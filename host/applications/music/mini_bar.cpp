@@ -1,0 +1,82 @@
+#include "host/applications/music/mini_bar.h"
+
+#include "host/application/program/player_remote.h"
+#include "host/applications/music/library.h"
+#include "host/applications/music/look.h"
+#include "host/springboard/surfaces/surface_parts.h"
+#include "host/springboard/view/make_view.h"
+#include "platform/CoreGraphics/CGAffineTransform.h"
+
+namespace host::music {
+namespace {
+
+constexpr CGFloat kCoverSide = 44;
+constexpr CGFloat kCoverMargin = (kMiniBarHeight - kCoverSide) / 2;
+constexpr CGFloat kTextLeft = kCoverMargin + kCoverSide + 10;
+constexpr CGFloat kButton = 44;
+constexpr CGFloat kTitleTop = 10;
+constexpr CGFloat kTitleHeight = 20;
+constexpr CGFloat kLineHeight = 16;
+constexpr double kSlide = 0.25;
+
+}  // namespace
+
+MiniBar::MiniBar(UIView parent, const PlayerState& player, std::function<void()> tapped)
+    : player_(player) {
+  const CGSize size = parent.bounds().size;
+  bar_ =
+      springboard::make_view<UIView>({0, size.height - kMiniBarHeight, size.width, kMiniBarHeight});
+  bar_->setBackgroundColor(UIColor::colorWithWhite(0.97, 1));
+  bar_->setTransform(CGAffineTransformMakeTranslation(0, kMiniBarHeight));
+  parent.addSubview(*bar_);
+  build();
+  actions_.on_tap(*bar_, std::move(tapped));
+  actions_.on_press(*play_, [] { application::PlayerRemote::shared().toggle(); });
+}
+
+void MiniBar::build() {
+  const CGFloat width = bar_->bounds().size.width;
+  springboard::add_plate(*bar_, {0, 0, width, 0.5}, separator_color());
+  cover_ =
+      springboard::make_view<UIImageView>({kCoverMargin, kCoverMargin, kCoverSide, kCoverSide});
+  bar_->addSubview(*cover_);
+  const CGFloat room = width - kTextLeft - kButton - 2 * kCoverMargin;
+  title_ = springboard::add_label(
+      *bar_, {kTextLeft, kTitleTop, room, kTitleHeight},
+      {"HelveticaNeue-Medium"_ns, 15, UIColor::blackColor(), NSTextAlignmentLeft});
+  artist_ = springboard::add_label(*bar_, {kTextLeft, kTitleTop + kTitleHeight, room, kLineHeight},
+                                   {"HelveticaNeue"_ns, 12, weak_color(), NSTextAlignmentLeft});
+  play_ = springboard::add_glyph_button(
+      *bar_, "surface-play"_ns,
+      {width - kButton - kCoverMargin, (kMiniBarHeight - kButton) / 2, kButton, kButton},
+      UIColor::blackColor());
+}
+
+void MiniBar::player_changed() {
+  if (shown_song_ != player_.song()) {
+    shown_song_ = player_.song();
+    const MPMediaItem song = player_.item();
+    cover_->setImage(cover_of(song, kCoverSide));
+    title_->setText(title_of(song));
+    artist_->setText(artist_of(song));
+  }
+  play_->setImage(springboard::glyph(player_.is_playing() ? "surface-pause"_ns : "surface-play"_ns),
+                  UIControlStateNormal);
+  show_or_hide();
+}
+
+void MiniBar::set_wanted(bool wanted) {
+  wanted_ = wanted;
+  show_or_hide();
+}
+
+void MiniBar::show_or_hide() {
+  const bool is_seen = wanted_ && player_.has_song();
+  const CGFloat down = is_seen ? 0 : kMiniBarHeight;
+  if (bar_->transform().ty == down) return;
+  UIView::animateWithDuration(kSlide, objc::block([bar = *bar_, down] {
+                                bar.setTransform(CGAffineTransformMakeTranslation(0, down));
+                              }));
+}
+
+}  // namespace host::music

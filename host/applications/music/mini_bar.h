@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+
+#include "host/applications/music/player_state.h"
+#include "host/springboard/surfaces/surface_action.h"
+#include "platform/UIKit/UIImageView.h"
+
+namespace host::music {
+
+/// What plays, at the bottom of the list: its cover, its texts and a button that plays or pauses.
+/// Away while nothing is loaded, or while the whole screen shows what plays.
+class MiniBar {
+ public:
+  MiniBar(UIView parent, const PlayerState& player, std::function<void()> tapped);
+  MiniBar(const MiniBar&) = delete;
+  MiniBar& operator=(const MiniBar&) = delete;
+
+  void player_changed();
+  /// Is the list below it to be seen?
+  void set_wanted(bool wanted);
+  UIView view() const { return bar_.get(); }
+
+ private:
+  void build();
+  void show_or_hide();
+
+  const PlayerState& player_;
+  objc::Ref<UIView> bar_;
+  objc::Ref<UIImageView> cover_;
+  objc::Ref<UILabel> title_;
+  objc::Ref<UILabel> artist_;
+  objc::Ref<UIButton> play_;
+  springboard::SurfaceActions actions_;
+  std::uint64_t shown_song_ = 0;
+  bool wanted_ = true;
+};
+
+}  // namespace host::music
