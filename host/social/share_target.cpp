@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <fstream>
 
-#include "host/foundation/device_paths.h"
 #include "host/runtime/log.h"
 #include "host/social/configuration.h"
-#include "host/social/outbox.h"
 #include "host/social/percent_encoding.h"
 
 namespace host::social {
@@ -44,14 +42,6 @@ std::string_view trimmed(std::string_view line) {
   return line.substr(begin, line.find_last_not_of(kBlank) - begin + 1);
 }
 
-HandedTo put_into_outbox(std::string_view text) {
-  const Outbox outbox(foundation::path_on_this_machine(configuration().outbox));
-  const Outbox::Result result = outbox.put(kKind, text);
-  if (!result) return HandedTo::Nobody;
-  spdlog::info("a text to share waits in {}", result.file.string());
-  return HandedTo::Outbox;
-}
-
 }  // namespace
 
 ShareTarget ShareTarget::read(const std::filesystem::path& file) {
@@ -80,13 +70,10 @@ std::string ShareTarget::address_for(std::string_view text) const {
 }
 
 HandedTo hand_over_share(std::string_view text) {
-  if (configuration().desktop == Desktop::Absent) return put_into_outbox(text);
-  const ShareTarget target = ShareTarget::read(configuration().share_target);
-  const auto problem = open_on_desktop(target.address_for(text),
-                                       [text = std::string(text)] { put_into_outbox(text); });
-  if (!problem) return HandedTo::Desktop;
-  spdlog::warn("the desktop does not take a text to share: {}", *problem);
-  return put_into_outbox(text);
+  const bool has_desktop = configuration().desktop == Desktop::Present;
+  const ShareTarget target =
+      has_desktop ? ShareTarget::read(configuration().share_target) : ShareTarget();
+  return hand_over(kKind, target.address_for(text), text);
 }
 
 }  // namespace host::social

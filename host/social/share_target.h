@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/social/hand_over.h"
+
 namespace host::social {
 
 /// The address that a text is shared at, with `{text}` where the text goes. By default that is a
@@ -25,8 +27,6 @@ class ShareTarget {
  private:
   std::string address_{kDefault};
 };
-
-enum class HandedTo { Desktop, Outbox, Nobody };
 
 /// Gives a text away: to the share target where there is a desktop, otherwise, or when the desktop
 /// does not take it, to the device's outbox. When nobody takes it the reason is in the log.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Foundation/NSURL.h"
 #include "platform/UIKit/UIWindow.h"
 
 enum UIInterfaceOrientation : NSInteger {
@@ -29,6 +30,10 @@ struct UIApplication : objc::Bound<UIApplication, "UIApplication", UIResponder> 
   BOOL sendAction(objc::Sel action, objc::Object target, objc::Object sender, UIEvent event) const {
     return call<"sendAction:to:from:forEvent:", BOOL>(action, target, sender, event);
   }
+
+  /// Is there somebody for addresses of this kind?
+  BOOL canOpenURL(NSURL url) const { return call<"canOpenURL:", BOOL>(url); }
+  BOOL openURL(NSURL url) const { return call<"openURL:", BOOL>(url); }
 
   BOOL isIgnoringInteractionEvents() const { return call<"isIgnoringInteractionEvents", BOOL>(); }
   void beginIgnoringInteractionEvents() const { call<"beginIgnoringInteractionEvents">(); }

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "host/runtime/device_model.h"
+#include "host/uikit/application/address_opener.h"
 #include "host/uikit/gesture/action_message.h"
 #include "host/uikit/gesture/event.h"
 #include "host/uikit/view/responder.h"
@@ -14,6 +15,12 @@ namespace {
 constexpr CGFloat kStatusBarHeight = 20;
 
 UIApplication shared_application;
+AddressOpener address_opener;
+
+std::string text_of(NSURL url) {
+  const char* text = url.absoluteString().UTF8String();
+  return text ? text : "";
+}
 
 /// The first in the responder chain that understands the action.
 objc::Object taker_of(objc::Sel action, objc::Object sender) {
@@ -26,6 +33,10 @@ objc::Object taker_of(objc::Sel action, objc::Object sender) {
 }
 
 }  // namespace
+
+void set_address_opener(AddressOpener opener) {
+  address_opener = opener;
+}
 
 Application::~Application() {
   if (shared_application == self) shared_application = nil;
@@ -66,6 +77,14 @@ BOOL Application::send_action(objc::Sel action, objc::Object target, objc::Objec
   return uikit::send_action(action, target, sender, event) ? YES : NO;
 }
 
+BOOL Application::can_open(NSURL url) {
+  return url && address_opener.can_open && address_opener.can_open(text_of(url)) ? YES : NO;
+}
+
+BOOL Application::open(NSURL url) {
+  return url && address_opener.open && address_opener.open(text_of(url)) ? YES : NO;
+}
+
 CGFloat Application::status_bar_height() const {
   return status_bar_hidden_ ? 0 : kStatusBarHeight;
 }
@@ -103,6 +122,8 @@ void export_application_class() {
       .method<&Application::windows>("windows")
       .method<&Application::send_event>("sendEvent:")
       .method<&Application::send_action>("sendAction:to:from:forEvent:")
+      .method<&Application::can_open>("canOpenURL:")
+      .method<&Application::open>("openURL:")
       .method<&Application::is_ignoring_interaction_events>("isIgnoringInteractionEvents")
       .method<&Application::begin_ignoring_interaction_events>("beginIgnoringInteractionEvents")
       .method<&Application::end_ignoring_interaction_events>("endIgnoringInteractionEvents")

@@ -24,6 +24,9 @@ class Application : public objc::Implementation<Application, UIApplication> {
   void send_event(UIEvent event);
   BOOL send_action(objc::Sel action, objc::Object target, objc::Object sender, UIEvent event);
 
+  BOOL can_open(NSURL url);
+  BOOL open(NSURL url);
+
   BOOL is_ignoring_interaction_events() const { return ignoring_ > 0; }
   void begin_ignoring_interaction_events() { ++ignoring_; }
   void end_ignoring_interaction_events() { ignoring_ -= ignoring_ > 0 ? 1 : 0; }
