@@ -2,6 +2,7 @@
 
 #include "objc/block.h"
 #include "objc/class_builder.h"
+#include "objc/ref.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/pictures.h"
@@ -50,10 +51,11 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
   void set_value() { store(NSNumber::numberWithBool(on_), key()); }
 
   void animate() {
-    const Switcher switcher = self;
+    // It writes even when its page is gone by then.
+    const auto switcher = objc::Ref<Switcher>::retain(self);
     UIView::animateWithDuration(kMove, 0, UIViewAnimationOptions{},
-                                objc::block([switcher] { state(switcher).move(); }),
-                                objc::block([switcher](BOOL) { state(switcher).arrive(); }));
+                                objc::block([switcher] { state(*switcher).move(); }),
+                                objc::block([switcher](BOOL) { state(*switcher).arrive(); }));
   }
 
  private:

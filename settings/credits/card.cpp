@@ -1,0 +1,165 @@
+#include "settings/credits/card.h"
+
+#include "platform/UIKit/UIButton.h"
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UILabel.h"
+#include "platform/UIKit/UIScreen.h"
+#include "platform/UIKit/UIScrollView.h"
+#include "platform/UIKit/UITapGestureRecognizer.h"
+#include "settings/texts.h"
+#include "settings/wizard/locked_view_controller.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kPhotoSide = 100;
+constexpr CGFloat kPhotoTop = 70;
+constexpr CGFloat kNameGap = 5;
+constexpr CGFloat kNameHeight = 34;
+constexpr CGFloat kNameSize = 25;
+constexpr CGFloat kRoleHeight = 24;
+constexpr CGFloat kRoleSize = 17;
+constexpr CGFloat kStripGap = 28;
+constexpr CGFloat kStripHeight = 130;
+constexpr CGFloat kHairline = 0.5;
+constexpr CGRect kClose = {12, 26, 80, 36};
+
+constexpr CGFloat kTileMargin = 15;
+constexpr CGSize kTileSize = {90, 110};
+constexpr CGRect kTilePicture = {10, 10, 70, 70};
+constexpr CGFloat kTileNameHeight = 30;
+constexpr CGFloat kTileNameSize = 13.5;
+
+NSString picture_path(const char* name, NSString ending) {
+  return "/Library/Application Support/Sonavue/"_ns.stringByAppendingString(as_text(name))
+      .stringByAppendingString(ending);
+}
+
+void add_photo(UIView card, const Author& author) {
+  const CGFloat x = (card.frame().size.width - kPhotoSide) / 2;
+  const UIImageView photo =
+      UIImageView::alloc().initWithFrame({x, kPhotoTop, kPhotoSide, kPhotoSide});
+  photo.layer().setMasksToBounds(YES);
+  photo.layer().setCornerRadius(kPhotoSide / 2);
+  photo.setImage(UIImage::imageWithContentsOfFile(picture_path(author.photo, "@2x.png"_ns)));
+  card.addSubview(photo);
+  photo.release();
+}
+
+/// Gives where it ends.
+CGFloat add_line(UIView card, const char* text, CGFloat top, CGFloat height, CGFloat font_size) {
+  const UILabel label = UILabel::alloc().initWithFrame({0, top, card.frame().size.width, height});
+  label.setText(as_text(text));
+  label.setTextAlignment(NSTextAlignmentCenter);
+  label.setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, font_size));
+  card.addSubview(label);
+  label.release();
+  return top + height;
+}
+
+void add_close_button(UIView card, PSTableCell cell) {
+  const UIButton close = UIButton::buttonWithType(UIButtonTypeSystem);
+  close.setFrame(kClose);
+  close.setTitle(Translator("close"_ns), UIControlStateNormal);
+  close.addTarget(cell, "dismissViewController"_sel, UIControlEventTouchUpInside);
+  card.addSubview(close);
+}
+
+void add_hairline_above(UIView card, CGFloat top) {
+  const UIView line = UIView::alloc().initWithFrame(
+      {kTileMargin, top, card.frame().size.width - kTileMargin, kHairline});
+  line.setBackgroundColor(UIColor::colorWithWhite(0, 0.2));
+  card.addSubview(line);
+  line.release();
+}
+
+/// +1.
+UIScrollView strip(UIView card, CGFloat top) {
+  add_hairline_above(card, top);
+  const UIScrollView made = UIScrollView::alloc().initWithFrame(
+      {0, top + kHairline, card.frame().size.width, kStripHeight});
+  made.setShowsHorizontalScrollIndicator(NO);
+  card.addSubview(made);
+  return made;
+}
+
+void fit_content(UIScrollView strip) {
+  const auto tiles = static_cast<CGFloat>(strip.subviews().count());
+  strip.setContentSize({2 * kTileMargin + tiles * kTileSize.width, kStripHeight});
+}
+
+void add_packages(UIView card, const Author& author, PSTableCell cell, CGFloat top) {
+  const UIScrollView packages = strip(card, top);
+  for (int i = 0; i < author.package_count; ++i) {
+    const Package& package = author.packages[i];
+    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, UIView(packages),
+                 as_text(package.title), picture_path(package.picture, ".png"_ns),
+                 sel_registerName(package.action));
+  }
+  fit_content(packages);
+  packages.release();
+}
+
+void add_contacts(UIView card, const Author& author, PSTableCell cell, CGFloat top) {
+  struct Contact {
+    const char* name;
+    const char* picture;
+    const char* action;
+  };
+  const Contact contacts[] = {{"Message", "Message", "message"},
+                              {"Mail", "Mail", "email"},
+                              {"Follow", "Twitter", author.follow_action}};
+  const UIScrollView strip_of_contacts = strip(card, top);
+  for (const Contact& contact : contacts) {
+    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, UIView(strip_of_contacts),
+                 as_text(contact.name), picture_path(contact.picture, ".png"_ns),
+                 sel_registerName(contact.action));
+  }
+  fit_content(strip_of_contacts);
+  strip_of_contacts.release();
+}
+
+}  // namespace
+
+UIViewController make_card(const Author& author, PSTableCell cell) {
+  const auto controller = LockedUIViewController::alloc().init();
+  const UIView card = controller.view();
+  card.setFrame(UIScreen::mainScreen().bounds());
+  card.setBackgroundColor(UIColor::whiteColor());
+  add_photo(card, author);
+  const CGFloat name_end =
+      add_line(card, author.name, kPhotoTop + kPhotoSide + kNameGap, kNameHeight, kNameSize);
+  const CGFloat role_end = add_line(card, author.role, name_end, kRoleHeight, kRoleSize);
+  add_close_button(card, cell);
+  add_packages(card, author, cell, role_end + kStripGap);
+  add_contacts(card, author, cell, role_end + kStripGap + kStripHeight + kHairline);
+  return controller;
+}
+
+void add_tile(UIView container, NSString name, NSString picture_path, objc::Sel action,
+              PSTableCell cell) {
+  const auto before = static_cast<CGFloat>(container.subviews().count());
+  const CGFloat height = container.frame().size.height;
+  const UIView tile = UIView::alloc().initWithFrame(
+      {{kTileMargin + kTileSize.width * before, (height - kTileSize.height) / 2}, kTileSize});
+  tile.setBackgroundColor(UIColor::clearColor());
+  const UIImageView picture = UIImageView::alloc().initWithFrame(kTilePicture);
+  picture.setImage(UIImage::imageWithContentsOfFile(picture_path));
+  tile.addSubview(picture);
+  picture.release();
+  const UILabel label =
+      UILabel::alloc().initWithFrame({0, kTilePicture.max_y(), kTileSize.width, kTileNameHeight});
+  label.setText(name);
+  label.setTextAlignment(NSTextAlignmentCenter);
+  label.setFont(UIFont::fontWithName("Helvetica-Light"_ns, kTileNameSize));
+  tile.addSubview(label);
+  label.release();
+  const auto tap = UITapGestureRecognizer::alloc().initWithTarget(cell, action);
+  tap.setCancelsTouchesInView(YES);
+  tile.addGestureRecognizer(tap);
+  tap.release();
+  container.addSubview(tile);
+  tile.release();
+}
+
+}  // namespace sonavue

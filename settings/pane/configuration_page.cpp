@@ -1,0 +1,29 @@
+#include "settings/pane/configuration_page.h"
+
+#include "objc/class_builder.h"
+#include "settings/pane/specifiers.h"
+#include "settings/pane/style_page.h"
+
+struct configurationController
+    : objc::Bound<configurationController, "configurationController", PSListController> {};
+
+namespace sonavue {
+namespace {
+
+NSArray specifiers(configurationController self) {
+  if (!self.cached_specifiers()) {
+    self.setSpecifiers(NSArray::arrayWithObjects(
+        group_with_footer("desc_style"_ns), link_row(self, "style"_ns, styleController::cls())));
+  }
+  return self.cached_specifiers();
+}
+
+}  // namespace
+
+void make_configuration_page() {
+  objc::ClassBuilder("configurationController", "PSListController")
+      .method<&specifiers>("specifiers")
+      .finish();
+}
+
+}  // namespace sonavue

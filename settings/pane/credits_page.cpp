@@ -1,0 +1,28 @@
+#include "settings/pane/credits_page.h"
+
+#include "objc/class_builder.h"
+#include "settings/globals.h"
+#include "settings/pane/specifiers.h"
+
+namespace sonavue {
+namespace {
+
+NSArray specifiers(creatorsController self) {
+  settings::where = self;
+  if (!self.cached_specifiers()) {
+    self.setSpecifiers(NSArray::arrayWithObjects(
+        PSSpecifier::emptyGroupSpecifier(), group_with_header("developerCell"_ns),
+        PSSpecifier::emptyGroupSpecifier(), group_with_header("designerCell"_ns)));
+  }
+  return self.cached_specifiers();
+}
+
+}  // namespace
+
+void make_credits_page() {
+  objc::ClassBuilder("creatorsController", "PSListController")
+      .method<&specifiers>("specifiers")
+      .finish();
+}
+
+}  // namespace sonavue

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Preferences/PSListController.h"
+
+/// The page of those who made it. A class of the extension's own.
+struct creatorsController
+    : objc::Bound<creatorsController, "creatorsController", PSListController> {};
+
+namespace sonavue {
+
+void make_credits_page();
+
+}  // namespace sonavue

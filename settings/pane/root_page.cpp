@@ -1,0 +1,87 @@
+#include "settings/pane/root_page.h"
+
+#include "objc/class_builder.h"
+#include "platform/Foundation/NSValue.h"
+#include "platform/Preferences/PSListController.h"
+#include "platform/Twitter/TWTweetComposeViewController.h"
+#include "settings/globals.h"
+#include "settings/pane/credits_page.h"
+#include "settings/pane/specifiers.h"
+#include "settings/pane/style_page.h"
+#include "settings/pictures.h"
+#include "settings/preferences.h"
+#include "settings/texts.h"
+
+struct SonavueSettingsController
+    : objc::Bound<SonavueSettingsController, "SonavueSettingsController", PSListController> {};
+
+namespace sonavue {
+namespace {
+
+NSArray make_specifiers(SonavueSettingsController self) {
+  return NSArray::arrayWithObjects(
+      group_with_header("HeaderCellForSonavue"_ns), PSSpecifier::emptyGroupSpecifier(),
+      with_icon(switch_row(self, "enable"_ns), "attivo"_ns), PSSpecifier::emptyGroupSpecifier(),
+      with_icon(link_row(self, "configuration"_ns, styleController::cls()), "configurazione"_ns),
+      PSSpecifier::emptyGroupSpecifier(),
+      with_icon(link_row(self, "contacts"_ns, creatorsController::cls()), "contatti"_ns));
+}
+
+NSArray specifiers(SonavueSettingsController self) {
+  if (!self.cached_specifiers()) self.setSpecifiers(make_specifiers(self));
+  return self.cached_specifiers();
+}
+
+objc::Object get_value(SonavueSettingsController, PSSpecifier row) {
+  return row_value(row);
+}
+void set_value(SonavueSettingsController, objc::Object value, PSSpecifier row) {
+  store_row_value(value, row);
+}
+
+void tweet(SonavueSettingsController self) {
+  const auto composer = TWTweetComposeViewController::alloc().init();
+  composer.setInitialText(Translator("tweet"_ns));
+  self.presentModalViewController(composer, YES);
+  composer.release();
+}
+
+void add_share_button(SonavueSettingsController self) {
+  const UIImage picture =
+      imageFromFile("happy"_ns).imageWithRenderingMode(UIImageRenderingModeAlwaysTemplate);
+  const UIBarButtonItem button = UIBarButtonItem::alloc().initWithImage(
+      picture, UIBarButtonItemStyleBordered, self, "Tweet"_sel);
+  button.setTintColor(pattern_color());
+  self.navigationItem().setRightBarButtonItem(button);
+  button.release();
+}
+
+/// The wizard comes by itself once. The home screen has nothing to apply then.
+void show_wizard_the_first_time(SonavueSettingsController self) {
+  if (is_true(stored_value("firstBoot"_ns))) return;
+  store_unannounced(NSNumber::numberWithBool(YES), "firstBoot"_ns);
+  settings::where = self;
+  // It lives for as long as the wizard needs it, which is until the application ends.
+  styleController::alloc().init().showFirstPage();
+}
+
+void view_will_appear(SonavueSettingsController self, BOOL animated) {
+  objc::send_super<>(self, SonavueSettingsController::cls(), "viewWillAppear:"_sel, animated);
+  self.setTitle("Sonavue"_ns);
+  add_share_button(self);
+  show_wizard_the_first_time(self);
+}
+
+}  // namespace
+
+void make_root_page() {
+  objc::ClassBuilder("SonavueSettingsController", "PSListController")
+      .method<&specifiers>("specifiers")
+      .method<&get_value>("getValue:")
+      .method<&set_value>("setValue:forSpecifier:")
+      .method<&tweet>("Tweet")
+      .method<&view_will_appear>("viewWillAppear:")
+      .finish();
+}
+
+}  // namespace sonavue

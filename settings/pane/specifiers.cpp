@@ -1,0 +1,77 @@
+#include "settings/pane/specifiers.h"
+
+#include "platform/Preferences/PSListItemsController.h"
+#include "platform/Preferences/PSTableCell.h"
+#include "settings/choices.h"
+#include "settings/pane/switch_cell.h"
+#include "settings/pictures.h"
+#include "settings/preferences.h"
+#include "settings/texts.h"
+
+namespace sonavue {
+namespace {
+
+enum class Stored { kNo, kYes };
+
+PSSpecifier row(NSString kind, NSString name, objc::Object target, Stored stored,
+                objc::Class detail) {
+  const bool has_value = stored == Stored::kYes;
+  return PSSpecifier::preferenceSpecifierNamed(
+      name, target, has_value ? "setValue:forSpecifier:"_sel : objc::Sel(),
+      has_value ? "getValue:"_sel : objc::Sel(), detail, PSTableCell::cellTypeFromString(kind),
+      nullptr);
+}
+
+}  // namespace
+
+PSSpecifier group_with_footer(NSString footer_identifier) {
+  const PSSpecifier group = PSSpecifier::emptyGroupSpecifier();
+  group.setProperty(Translator(footer_identifier), "footerText"_ns);
+  return group;
+}
+
+PSSpecifier group_with_header(NSString class_name) {
+  const PSSpecifier group = row("PSGroupCell"_ns, ""_ns, nil, Stored::kNo, nullptr);
+  group.setProperty(class_name, "headerCellClass"_ns);
+  return group;
+}
+
+PSSpecifier switch_row(objc::Object target, NSString identifier) {
+  const PSSpecifier made =
+      row("PSSwitchCell"_ns, Translator(identifier), target, Stored::kYes, nullptr);
+  made.setProperty(objc::Object(reinterpret_cast<objc::Id>(SRSwitchTableCell::cls())),
+                   "cellClass"_ns);
+  return made;
+}
+
+PSSpecifier list_row(objc::Object target, NSString identifier, NSArray choices) {
+  const PSSpecifier made = row("PSLinkListCell"_ns, Translator(identifier), target, Stored::kYes,
+                               PSListItemsController::cls());
+  made.setValues(choices, translated(choices));
+  return made;
+}
+
+PSSpecifier link_row(objc::Object target, NSString identifier, objc::Class detail) {
+  return row("PSLinkCell"_ns, Translator(identifier), target, Stored::kNo, detail);
+}
+
+PSSpecifier action_row(objc::Object target, NSString identifier, objc::Sel action) {
+  const PSSpecifier made = link_row(target, identifier, nullptr);
+  made.set_action(action);
+  return made;
+}
+
+PSSpecifier with_icon(PSSpecifier row, NSString picture) {
+  row.setProperty(imageFromFile(picture), "iconImage"_ns);
+  return row;
+}
+
+objc::Object row_value(PSSpecifier row) {
+  return stored_value(getNotTranslated(row.name()));
+}
+
+void store_row_value(objc::Object value, PSSpecifier row) {
+  store(value, getNotTranslated(row.name()));
+}
+
+}  // namespace sonavue

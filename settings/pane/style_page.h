@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/Preferences/PSListController.h"
+
+/// The page of everything that can be chosen, and the wizard that leads through the most important
+/// of it. A class of the extension's own.
+struct styleController : objc::Bound<styleController, "styleController", PSListController> {
+  void showFirstPage() const { call<"showFirstPage">(); }
+};
+
+namespace sonavue {
+
+void make_style_page();
+
+}  // namespace sonavue

@@ -1,0 +1,53 @@
+#include "settings/wizard/choice_pickers.h"
+
+#include "objc/class_builder.h"
+#include "settings/choices.h"
+#include "settings/preferences.h"
+
+namespace sonavue {
+namespace {
+
+/// The answers of a wheel with the rows of `choices`.
+template <class Picker, NSArray (*choices)()>
+class ChoicePicker : public objc::Implementation<ChoicePicker<Picker, choices>, Picker> {
+  using Base = objc::Implementation<ChoicePicker<Picker, choices>, Picker>;
+
+ public:
+  using Base::Base;
+
+  static void make(const char* name) {
+    objc::ClassBuilder(name, "UIPickerView")
+        .template state<ChoicePicker>()
+        .template method<&ChoicePicker::set_key>("setKey:")
+        .template method<&ChoicePicker::components>("numberOfComponentsInPickerView:")
+        .template method<&ChoicePicker::rows>("pickerView:numberOfRowsInComponent:")
+        .template method<&ChoicePicker::title>("pickerView:titleForRow:forComponent:")
+        .template method<&ChoicePicker::chosen>("pickerView:didSelectRow:inComponent:")
+        .finish();
+  }
+
+  void set_key(NSString key) { key_ = key; }
+  NSInteger components(UIPickerView) { return 1; }
+  NSInteger rows(UIPickerView, NSInteger) {
+    return static_cast<NSInteger>(translated(choices()).count());
+  }
+  NSString title(UIPickerView, NSInteger row, NSInteger) {
+    return objc::cast<NSString>(translated(choices()).objectAtIndex(static_cast<NSUInteger>(row)));
+  }
+  void chosen(UIPickerView, NSInteger row, NSInteger) {
+    store(choices().objectAtIndex(static_cast<NSUInteger>(row)), key_);
+  }
+
+ private:
+  // Not retained: it is one of the constant names.
+  NSString key_;
+};
+
+}  // namespace
+
+void make_choice_pickers() {
+  ChoicePicker<Tint, &color_choices>::make("Tint");
+  ChoicePicker<Play, &ring_choices>::make("Play");
+}
+
+}  // namespace sonavue

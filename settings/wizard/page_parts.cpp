@@ -1,0 +1,36 @@
+#include "settings/wizard/page_parts.h"
+
+#include "platform/UIKit/UILabel.h"
+#include "settings/wizard/linker.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kTextSize = 30;
+
+}  // namespace
+
+UIView add_text_page(NSMutableArray pages, const PageText& text) {
+  const UIViewController page = UIViewController::alloc().init();
+  page.view().setBackgroundColor(UIColor::whiteColor());
+  const UILabel label = UILabel::alloc().initWithFrame(text.frame);
+  label.setText(text.text);
+  label.setNumberOfLines(text.lines);
+  label.setTextAlignment(NSTextAlignmentCenter);
+  label.setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, kTextSize));
+  page.view().addSubview(label);
+  label.release();
+  pages.addObject(page);
+  page.release();
+  return page.view();
+}
+
+void add_linker(UIView page, CGRect frame, NSString name, NSString picture, styleController target,
+                objc::Sel action) {
+  const Linker linker = Linker::alloc().initWithFrame(
+      frame, name, UIImage::imageWithContentsOfFile(picture), YES, target, action);
+  page.addSubview(linker);
+  linker.release();
+}
+
+}  // namespace sonavue

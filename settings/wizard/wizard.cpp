@@ -1,0 +1,151 @@
+#include "settings/wizard/wizard.h"
+
+#include "objc/block.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UIPageControl.h"
+#include "platform/UIKit/UIScreen.h"
+#include "settings/choices.h"
+#include "settings/globals.h"
+#include "settings/pane/gesture_page.h"
+#include "settings/wizard/locked_view_controller.h"
+#include "settings/wizard/question_pages.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kSlide = 0.3;
+constexpr double kFade = 1.0;
+// A pull to the left is stiff: there is nothing on that side.
+constexpr CGFloat kStiffness = 3;
+// The service's page stands before the question that led to it.
+constexpr NSUInteger kGesturePageIndex = 5;
+
+}  // namespace
+
+void Wizard::show_first_page() {
+  const CGRect bounds = UIScreen::mainScreen().bounds();
+  main_ = LockedUIViewController::alloc().init();
+  main_.view().setFrame(bounds);
+  main_.view().setBackgroundColor(UIColor::whiteColor());
+  const UIView page = welcome_.build(main_.view().frame());
+  main_.view().addSubview(page);
+  objc::send<>(owner_, "shimmerLabel"_sel);
+  settings::where.presentViewController(main_, YES, nullptr);
+  const auto pan = UIPanGestureRecognizer::alloc().initWithTarget(owner_, "spostaPrimo:"_sel);
+  page.addGestureRecognizer(pan);
+  pan.release();
+  page.release();
+}
+
+void Wizard::shimmer_label() {
+  if (controller_ && controller_.view().alpha() == 1) return;
+  const auto owner = objc::Ref<styleController>::retain(owner_);
+  welcome_.wave(objc::block([owner](BOOL) { objc::send<>(*owner, "shimmerLabel"_sel); }));
+}
+
+void Wizard::drag_first_page(UIPanGestureRecognizer pan) {
+  const UIView page = pan.view();
+  const CGSize size = page.frame().size;
+  const CGPoint location = pan.locationInView(main_.view());
+  if (pan.state() == UIGestureRecognizerStateBegan) settings::startPoint = location;
+  if (pan.state() != UIGestureRecognizerStateEnded) {
+    settings::endPoint = location;
+    const CGFloat distance = location.x - settings::startPoint.x;
+    page.setFrame({distance < 0 ? distance / kStiffness : distance, 0, size.width, size.height});
+    return;
+  }
+  if (page.frame().origin.x < size.width / 4) {
+    UIView::animateWithDuration(kSlide, objc::block([page, size] {
+                                  page.setFrame({0, 0, size.width, size.height});
+                                }));
+    return;
+  }
+  const auto owner = objc::Ref<styleController>::retain(owner_);
+  UIView::animateWithDuration(kSlide, 0, UIViewAnimationOptions{}, objc::block([page, size] {
+                                page.setFrame({size.width, 0, size.width, size.height});
+                              }),
+                              objc::block([this, owner](BOOL) {
+                                welcome_.release_labels();
+                                objc::send<>(*owner, "showSetup"_sel);
+                              }));
+}
+
+void Wizard::show_setup() {
+  const CGRect bounds = UIScreen::mainScreen().bounds();
+  blurs_ = translated(blur_choices());
+  blurs_.retain();
+  controllers_ = NSMutableArray::alloc().init();
+  add_question_pages(controllers_, bounds, owner_);
+  gesture_page_ = make_gesture_page();
+  gesture_page_.view().setBackgroundColor(UIColor::whiteColor());
+  controller_ = UIPageViewController::alloc().initWithTransitionStyle(
+      UIPageViewControllerTransitionStyleScroll,
+      UIPageViewControllerNavigationOrientationHorizontal, nil);
+  const UIView view = controller_.view();
+  view.setFrame(main_.view().frame());
+  view.setBackgroundColor(UIColor::whiteColor());
+  controller_.setDelegate(owner_);
+  controller_.setDataSource(owner_);
+  show_page(0);
+  view.setAlpha(0);
+  main_.view().addSubview(view);
+  UIView::animateWithDuration(kFade, objc::block([view] { view.setAlpha(1); }));
+}
+
+void Wizard::show_page(NSUInteger index) const {
+  controller_.setViewControllers(NSArray::arrayWithObject(controllers_.objectAtIndex(index)),
+                                 UIPageViewControllerNavigationDirectionForward, YES, nullptr);
+}
+
+void Wizard::show_activator_page() {
+  if (!controllers_.containsObject(gesture_page_))
+    controllers_.insertObject(gesture_page_, kGesturePageIndex);
+  show_page(kGesturePageIndex);
+}
+
+void Wizard::show_tutorial() {
+  const UIView view = controller_.view();
+  const auto owner = objc::Ref<styleController>::retain(owner_);
+  UIView::animateWithDuration(
+      kFade, objc::block([view] { view.setAlpha(0); }), objc::block([this, owner, view](BOOL) {
+        controllers_.removeAllObjects();
+        add_tutorial_pages(controllers_, UIScreen::mainScreen().bounds(), owner_);
+        show_page(0);
+        UIView::animateWithDuration(kFade, objc::block([view] { view.setAlpha(1); }));
+      }));
+}
+
+void Wizard::dismiss_intro() {
+  settings::where.dismissViewControllerAnimated(YES, nullptr);
+  controller_.release();
+  controller_ = nil;
+  blurs_.release();
+  blurs_ = nil;
+  main_.release();
+  main_ = nil;
+  controllers_.release();
+  controllers_ = nil;
+  gesture_page_.release();
+  gesture_page_ = nil;
+}
+
+UIViewController Wizard::page_before(UIViewController page) const {
+  const NSUInteger index = controllers_.indexOfObjectIdenticalTo(page);
+  if (!controllers_ || index == NSNotFound || index == 0) return nil;
+  return objc::cast<UIViewController>(controllers_.objectAtIndex(index - 1));
+}
+
+UIViewController Wizard::page_after(UIViewController page) const {
+  const NSUInteger index = controllers_.indexOfObjectIdenticalTo(page);
+  if (!controllers_ || index == NSNotFound || index + 1 >= controllers_.count()) return nil;
+  return objc::cast<UIViewController>(controllers_.objectAtIndex(index + 1));
+}
+
+NSInteger Wizard::presentation_count(UIPageViewController pages) const {
+  for (const UIView view : pages.view().subviews().of<UIView>()) {
+    if (view.isKindOfClass(UIPageControl::cls())) view.setHidden(YES);
+  }
+  return static_cast<NSInteger>(controllers_.count());
+}
+
+}  // namespace sonavue
