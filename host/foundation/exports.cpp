@@ -10,6 +10,7 @@ void export_foundation() {
   export_timers();
   export_property_lists();
   export_property_list_reader();
+  export_string_search();
 }
 
 }  // namespace host::foundation

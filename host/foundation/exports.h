@@ -3,12 +3,14 @@
 namespace host::foundation {
 
 /// Gives Foundation what the platform's has beyond GNUstep Base: timers on our clock, the device's
-/// file paths, property lists written as XML. Calling it twice is harmless.
+/// file paths, property lists written as XML, searches in strings that never throw. Calling it
+/// twice is harmless.
 void export_foundation();
 
 void export_device_paths();
 void export_timers();
 void export_property_lists();
 void export_property_list_reader();
+void export_string_search();
 
 }  // namespace host::foundation
