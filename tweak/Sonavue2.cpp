@@ -8,6 +8,7 @@
 #include "tweak/library/album_songs.h"
 #include "tweak/library/album_table.h"
 #include "tweak/library/album_zoom.h"
+#include "tweak/library/hits.h"
 #include "tweak/library/scroller.h"
 #include "tweak/library/search.h"
 #include "tweak/library/song_list.h"
@@ -75,6 +76,7 @@ void make_classes() {
   make_progress_view_ring();
   make_average_color_addition();
   make_song_list_source();
+  make_hits();
   make_album_table_source();
   make_scroller();
   make_gesture_listener();

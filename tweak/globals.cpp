@@ -1,6 +1,7 @@
 #include "tweak/globals.h"
 
 #include "platform/UIKit/UIScreen.h"
+#include "tweak/library/hits.h"
 
 namespace sonavue {
 
@@ -11,7 +12,7 @@ SONAVUE_GLOBALS(SONAVUE_DEFINE)
 void fill_globals() {
   mc = SBMediaController::sharedInstance();
   rect = UIScreen::mainScreen().bounds();
-  result = NSMutableArray::alloc().init();
+  result = SVHits::alloc().init();
   musicPlayer = MPMusicPlayerController::iPodMusicPlayer();
 }
 

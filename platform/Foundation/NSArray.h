@@ -60,6 +60,10 @@ struct NSArray : objc::Bound<NSArray, "NSArray", NSObject> {
   objc::Object objectAtIndex(NSUInteger index) const {
     return call<"objectAtIndex:", objc::Object>(index);
   }
+  /// Writes the objects of the range, none of which is retained.
+  void getObjects(objc::Object* objects, NSRange range) const {
+    call<"getObjects:range:">(objects, range);
+  }
   objc::Object firstObject() const { return call<"firstObject", objc::Object>(); }
   objc::Object lastObject() const { return call<"lastObject", objc::Object>(); }
   BOOL containsObject(objc::Object object) const { return call<"containsObject:", BOOL>(object); }

@@ -52,6 +52,9 @@ struct NSString : objc::Bound<NSString, "NSString", NSObject> {
   unichar characterAtIndex(NSUInteger index) const {
     return call<"characterAtIndex:", unichar>(index);
   }
+  void getCharacters(unichar* characters, NSRange range) const {
+    call<"getCharacters:range:">(characters, range);
+  }
   NSString uppercaseString() const { return call<"uppercaseString", NSString>(); }
   NSString substringToIndex(NSUInteger index) const {
     return call<"substringToIndex:", NSString>(index);

@@ -3,6 +3,7 @@
 #include "tweak/appearance/blur_style.h"
 #include "tweak/appearance/colouring.h"
 #include "tweak/globals.h"
+#include "tweak/library/search.h"
 #include "tweak/panel/music_icon.h"
 #include "tweak/preferences.h"
 
@@ -27,6 +28,7 @@ void list_songs() {
       if (!is_only_in_cloud(item)) songItems.addObject(item);
     }
   }
+  read_titles_again();
   tableView.reloadData();
 }
 

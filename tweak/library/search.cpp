@@ -1,14 +1,20 @@
 #include "tweak/library/search.h"
 
+#include <new>
+
 #include "tweak/globals.h"
+#include "tweak/library/hits.h"
+#include "tweak/library/title_index.h"
 
 namespace sonavue {
 namespace {
 
-bool holds(MPMediaItem item, NSString lower_case_text) {
-  const auto name = objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyTitle));
-  if (name.length() == 0) return false;
-  return name.lowercaseString().rangeOfString(lower_case_text).length != 0;
+// Never destroyed: it lives as long as the home screen.
+TitleIndex& index() {
+  alignas(TitleIndex) static unsigned char place[sizeof(TitleIndex)];
+  static TitleIndex* made = nullptr;
+  if (!made) made = new (place) TitleIndex;
+  return *made;
 }
 
 void list_all_songs() {
@@ -18,6 +24,10 @@ void list_all_songs() {
 
 }  // namespace
 
+void read_titles_again() {
+  index().forget();
+}
+
 void textDidChange(SpringBoard, UITextField field) {
   result.removeAllObjects();
   if (field.text().length() == 0) {
@@ -25,16 +35,17 @@ void textDidChange(SpringBoard, UITextField field) {
     return;
   }
   isSearching = YES;
-  const NSString wanted = field.text().lowercaseString();
-  for (const auto item : songItems.of<MPMediaItem>()) {
-    if (holds(item, wanted)) result.addObject(item);
-  }
+  auto& hits = objc::state_of<Hits>(result);
+  index().follow(songItems);
+  index().find(field.text().lowercaseString(), hits.places());
+  hits.show(index().songs());
   tableView.reloadData();
 }
 
-// The rows stay as they are until the first letter.
+// The rows stay as they are until the first letter, which finds the titles read already.
 void textFieldDidBeginEditing(SpringBoard, UITextField) {
   isSearching = YES;
+  index().follow(songItems);
 }
 
 void textFieldDidEndEditing(SpringBoard, UITextField field) {

@@ -9,6 +9,9 @@ namespace sonavue {
 /// case, in the order of the list. An empty text lists all songs.
 void textDidChange(SpringBoard self, UITextField field);
 
+/// For when the songs have been listed anew: their titles may be others.
+void read_titles_again();
+
 // The field's delegate.
 void textFieldDidBeginEditing(SpringBoard self, UITextField field);
 void textFieldDidEndEditing(SpringBoard self, UITextField field);

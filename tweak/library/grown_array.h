@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+
+namespace sonavue {
+
+/// Plain values in a row that grows at its end. What could not grow for want of memory has failed,
+/// and says so until it is cleared.
+template <class T>
+class GrownArray {
+  static_assert(std::is_trivially_copyable_v<T>);
+
+ public:
+  GrownArray() = default;
+  ~GrownArray() { __builtin_free(values_); }
+  GrownArray(const GrownArray&) = delete;
+  GrownArray& operator=(const GrownArray&) = delete;
+
+  std::size_t count() const { return count_; }
+  bool has_failed() const { return failed_; }
+  T* begin() { return values_; }
+  T* end() { return values_ + count_; }
+  const T* begin() const { return values_; }
+  const T* end() const { return values_ + count_; }
+  const T& operator[](std::size_t index) const { return values_[index]; }
+
+  void add(T value) {
+    if (count_ == room_ && !make_room(count_ + 1)) return;
+    values_[count_++] = value;
+  }
+  /// Sets the count; new values are whatever was there.
+  void resize(std::size_t count) {
+    if (count <= room_ || make_room(count)) count_ = count;
+  }
+  /// Forgets the values and keeps their room.
+  void clear() {
+    count_ = 0;
+    failed_ = false;
+  }
+  /// Gives back what has been taken beyond the values.
+  void shrink() {
+    if (count_ == 0 || count_ == room_) return;
+    if (void* less = __builtin_realloc(values_, count_ * sizeof(T))) {
+      values_ = static_cast<T*>(less);
+      room_ = count_;
+    }
+  }
+
+ private:
+  static constexpr std::size_t kFirstRoom = 64;
+
+  bool make_room(std::size_t wanted) {
+    std::size_t room = room_ ? room_ : kFirstRoom;
+    while (room < wanted)
+      room *= 2;
+    void* more = __builtin_realloc(values_, room * sizeof(T));
+    if (!more) {
+      failed_ = true;
+      return false;
+    }
+    values_ = static_cast<T*>(more);
+    room_ = room;
+    return true;
+  }
+
+  T* values_ = nullptr;
+  std::size_t count_ = 0;
+  std::size_t room_ = 0;
+  bool failed_ = false;
+};
+
+}  // namespace sonavue
