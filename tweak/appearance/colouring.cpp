@@ -6,13 +6,17 @@
 namespace sonavue {
 namespace {
 
+// The strip is one control of the panel: a colour chosen in the preferences is read once for all
+// of its tiles, of which a large library has thousands.
 void colour_album_tiles(PanelColours colours) {
+  const CGColorRef border = colours.controls().CGColor();
+  const UIColor text = colours.texts();
   for (const auto tile : albums.subviews().of<UIView>()) {
     for (const auto part : tile.subviews().of<UIView>()) {
       if (part.isKindOfClass(UIImageView::cls())) {
-        part.layer().setBorderColor(colours.controls().CGColor());
+        part.layer().setBorderColor(border);
       } else if (part.isKindOfClass(UILabel::cls())) {
-        objc::cast<UILabel>(part).setTextColor(colours.texts());
+        objc::cast<UILabel>(part).setTextColor(text);
       }
     }
   }

@@ -4,7 +4,7 @@
 
 namespace sonavue {
 
-/// Where a colour comes from; it is asked anew for every view.
+/// Where a colour comes from; it is asked anew for every control.
 using ColourSource = UIColor (*)();
 
 struct PanelColours {
