@@ -3,6 +3,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 #include <utility>
 
@@ -10,6 +11,8 @@ namespace host::launcher {
 namespace {
 
 constexpr const char* kQuit = "quit";
+constexpr std::string_view kPlay = "play ";
+constexpr int kDeepest = 8;
 
 /// Appends what can be read now; false at the end of the input.
 bool append_from(int descriptor, std::string& text) {
@@ -41,16 +44,13 @@ std::optional<Script> read_script(const std::string& file) {
 }
 
 ConsoleFront::ConsoleFront(Script script, int input, std::FILE* output, std::FILE* errors)
-    : script_(std::move(script)),
-      input_(input),
-      answers_all_(input >= 0),
-      output_(output),
-      errors_(errors) {
+    : input_(input), answers_all_(input >= 0), output_(output), errors_(errors) {
+  put_first(script, 0);
   if (input_ < 0) typed_.push_back(kQuit);
 }
 
 int ConsoleFront::awaited_input() const {
-  const bool script_is_over = next_line_ == script_.lines.size() && !waiting_;
+  const bool script_is_over = script_.empty() && !waiting_;
   return script_is_over && process_ >= 0 ? input_ : -1;
 }
 
@@ -66,18 +66,49 @@ void ConsoleFront::detach(Departure departure) {
   answered(departure == Departure::Asked ? "ok" : "error: the process ended before it answered");
 }
 
-void ConsoleFront::send_next() {
-  if (process_ < 0 || waiting_ || verdict_ || quitting_) return;
-  std::string line;
-  from_script_ = next_line_ < script_.lines.size();
-  if (from_script_) {
-    line = script_.lines[next_line_++];
-  } else if (!typed_.empty()) {
-    line = std::move(typed_.front());
-    typed_.pop_front();
-  } else {
-    return;
+void ConsoleFront::put_first(const Script& script, int depth) {
+  std::size_t number = script.lines.size();
+  for (auto line = script.lines.rbegin(); line != script.lines.rend(); ++line)
+    script_.push_front({*line, script.name, number--, depth});
+}
+
+bool ConsoleFront::play(const std::string& line, const std::string& beside, int depth) {
+  if (!line.starts_with(kPlay)) return false;
+  const auto named = std::filesystem::path(line.substr(kPlay.size()));
+  const auto file = std::filesystem::path(beside).parent_path() / named;
+  const auto script = depth < kDeepest ? read_script(file) : std::nullopt;
+  if (script) {
+    put_first(*script, depth + 1);
+    return true;
   }
+  // The process is asked for nothing, so that this is answered when all before it is done.
+  refusal_ = depth < kDeepest ? "error: " + file.string() + " cannot be read"
+                              : "error: too many scripts play each other";
+  send_line("");
+  return true;
+}
+
+void ConsoleFront::send_next() {
+  while (process_ >= 0 && !waiting_ && !verdict_ && !quitting_) {
+    from_script_ = !script_.empty();
+    if (from_script_) {
+      line_ = std::move(script_.front());
+      script_.pop_front();
+      if (play(line_.text, line_.script, line_.depth)) continue;
+      send_line(line_.text);
+    } else if (!typed_.empty()) {
+      const std::string line = std::move(typed_.front());
+      typed_.pop_front();
+      typing_ = true;
+      if (play(line, {}, 0)) continue;
+      send_line(line);
+    } else {
+      return;
+    }
+  }
+}
+
+void ConsoleFront::send_line(std::string line) {
   quitting_ = line == kQuit;
   line += '\n';
   waiting_ = true;
@@ -89,14 +120,21 @@ void ConsoleFront::send_next() {
   }
 }
 
-void ConsoleFront::answered(const std::string& answer) {
+/// A script ends with its first failure, and with it the console; not for somebody who types.
+void ConsoleFront::fail(const std::string& answer) {
+  std::fprintf(errors_, "%s:%zu: %s\n", line_.script.c_str(), line_.number, answer.c_str());
+  script_.clear();
+  if (!typing_) verdict_ = kFailed;
+}
+
+void ConsoleFront::answered(const std::string& given) {
+  const std::string answer = std::exchange(refusal_, std::nullopt).value_or(given);
   waiting_ = false;
   const bool failed = answer.starts_with("error: ");
   if (!from_script_) {
     if (answers_all_) std::fprintf(output_, "%s\n", answer.c_str());
   } else if (failed) {
-    std::fprintf(errors_, "%s:%zu: %s\n", script_.name.c_str(), next_line_, answer.c_str());
-    verdict_ = kFailed;
+    fail(answer);
   } else if (answer != "ok") {
     std::fprintf(output_, "%s\n", answer.c_str());
   }

@@ -17,9 +17,10 @@ struct Script {
 /// Nothing when the file cannot be read.
 std::optional<Script> read_script(const std::string& file);
 
-/// The user's end of the console: hands the lines of a script, then those of standard input, to the
-/// process that the phone's console runs in, one at a time, and passes its answers on. It outlives
-/// that process: after a restart the next line goes to the new one.
+/// The user's end of the console. `play FILE` stands for the lines of another script; a relative
+/// name is looked for beside the script that says it. It hands the lines of a script, then those of
+/// standard input, to the process that the phone's console runs in, one at a time, and passes its
+/// answers on. It outlives that process: after a restart the next line goes to the new one.
 class ConsoleFront {
  public:
   static constexpr int kFailed = 1;
@@ -45,20 +46,36 @@ class ConsoleFront {
   std::optional<int> verdict() const { return verdict_; }
 
  private:
-  void send_next();
-  void answered(const std::string& answer);
+  /// A line that waits for its turn, and where it stands.
+  struct Line {
+    std::string text;
+    std::string script;
+    std::size_t number;
+    int depth;  // how many scripts have played each other
+  };
 
-  Script script_;
+  void send_next();
+  void send_line(std::string line);
+  void answered(const std::string& given);
+  void put_first(const Script& script, int depth);
+  /// True when the line was one to play another script, which has been put in its place or refused.
+  bool play(const std::string& line, const std::string& beside, int depth);
+  void fail(const std::string& answer);
+
+  std::deque<Line> script_;
+  /// What a line is answered that the process knows nothing of.
+  std::optional<std::string> refusal_;
+  Line line_;  // of a script, the one that was sent last
   int input_;
   const bool answers_all_;  // whoever types sees every answer
   std::FILE* output_;
   std::FILE* errors_;
   int process_ = -1;
-  std::size_t next_line_ = 0;
   std::deque<std::string> typed_;
   std::string typed_part_;
   std::string answer_part_;
   bool waiting_ = false;
+  bool typing_ = false;  // the first script is over
   bool from_script_ = false;
   bool quitting_ = false;  // whatever was typed behind it has nobody to go to
   std::optional<int> verdict_;

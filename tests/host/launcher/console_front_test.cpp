@@ -4,11 +4,13 @@
 #include <unistd.h>
 
 #include "host/launcher/supervisor.h"
+#include "host/runtime/descriptor.h"
 #include "tests/host/launcher/temporary_folder.h"
 
 namespace {
 
 using namespace host::launcher;
+using host::Descriptor;
 
 /// What is printed to a file of the C library, for reading it back.
 class Printed {
@@ -98,6 +100,38 @@ TEST_F(ConsoleFronts, ATypedLineThatCrashesIsAnErrorAndTheNextIsServed) {
   EXPECT_EQ(run_typed("crash\nafter\n"), 0);
   EXPECT_EQ(output_.lines(), Lines({"error: the process ended before it answered", "after", "ok"}));
   EXPECT_EQ(starts(), 2u);
+}
+
+TEST_F(ConsoleFronts, AScriptPlaysAnotherThatLiesBesideIt) {
+  write_file(folder_.path() / "more/b.scn", "2\nplay c.scn\n");
+  write_file(folder_.path() / "more/c.scn", "3\n");
+  EXPECT_EQ(run({folder_.path() / "a.scn", {"1", "play more/b.scn", "4"}}), 0);
+  EXPECT_EQ(output_.lines(), Lines({"1", "2", "3", "4"}));
+}
+
+TEST_F(ConsoleFronts, AFailureNamesTheScriptThatWasPlayedAndEndsBoth) {
+  write_file(folder_.path() / "b.scn", "2\nerror: no\nnever sent\n");
+  EXPECT_EQ(run({folder_.path() / "a.scn", {"1", "play b.scn", "never sent"}}), 1);
+  EXPECT_EQ(errors_.lines(), Lines({(folder_.path() / "b.scn").string() + ":2: error: no"}));
+  EXPECT_EQ(output_.lines(), Lines({"1", "2"}));
+}
+
+TEST_F(ConsoleFronts, AScriptThatIsMissingOrPlaysItselfIsAnError) {
+  const std::string a = folder_.path() / "a.scn";
+  EXPECT_EQ(run({a, {"play b.scn"}}), 1);
+  write_file(a, "play a.scn\n");
+  EXPECT_EQ(run({a, {"play a.scn"}}), 1);
+  EXPECT_EQ(errors_.lines(),
+            Lines({a + ":1: error: " + (folder_.path() / "b.scn").string() + " cannot be read",
+                   a + ":1: error: too many scripts play each other"}));
+}
+
+TEST_F(ConsoleFronts, WhoTypesMayPlayAScriptAndGoOnAfterItsFailure) {
+  const std::string b = folder_.path() / "b.scn";
+  write_file(b, "2\nerror: no\n3\n");
+  EXPECT_EQ(run_typed("1\nplay " + b + "\n4\nplay " + b + "5\n"), 0);
+  EXPECT_EQ(output_.lines(), Lines({"1", "2", "4", "error: " + b + "5 cannot be read", "ok"}));
+  EXPECT_EQ(errors_.lines(), Lines({b + ":2: error: no"}));
 }
 
 TEST(Scripts, AreReadByLineAndMissingOnesAreNot) {
