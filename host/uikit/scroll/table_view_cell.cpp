@@ -18,7 +18,6 @@ constexpr double kSelectionDuration = 0.3;
 UIView TableViewCell::init_with_frame(CGRect frame) {
   if (!super<UIView>("initWithFrame:"_sel, frame)) return nil;
   self.setBackgroundColor(UIColor::whiteColor());
-  self.setClipsToBounds(YES);
   content_view_ = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({{}, frame.size}));
   self.addSubview(content_view_.get());
   return self;
