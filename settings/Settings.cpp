@@ -1,3 +1,5 @@
+#include "settings/Settings.h"
+
 #include "objc/autorelease_pool.h"
 #include "settings/credits/author_cell.h"
 #include "settings/pane/configuration_page.h"
@@ -16,10 +18,8 @@
 // missing that derive from the settings application's own.
 
 namespace sonavue {
-namespace {
 
-[[gnu::constructor]] void load() {
-  const objc::AutoreleasePool pool;
+void make_settings_classes() {
   make_shimmer();
   make_linker();
   make_switcher();
@@ -32,6 +32,13 @@ namespace {
   make_style_page();
   make_configuration_page();
   make_root_page();
+}
+
+namespace {
+
+[[gnu::constructor]] void load() {
+  const objc::AutoreleasePool pool;
+  make_settings_classes();
 }
 
 }  // namespace

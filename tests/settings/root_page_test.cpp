@@ -1,0 +1,135 @@
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UIScreen.h"
+#include "tests/settings/pages_test.h"
+
+// Nothing of the test machine is to be restarted.
+extern "C" int system(const char* command) {
+  sonavue::test::shell_commands().emplace_back(command);
+  return 0;
+}
+
+namespace sonavue::test {
+namespace {
+
+class RootPage : public PagesTest {
+ protected:
+  void open_root() { open("SonavueSettingsController"); }
+  /// The kinds and names of its rows.
+  std::vector<std::string> names() const {
+    std::vector<std::string> made;
+    for (const PSSpecifier each : page.specifiers().of<PSSpecifier>())
+      made.emplace_back(each.name() ? each.name().UTF8String() : "");
+    return made;
+  }
+};
+
+TEST_F(RootPage, HasASwitchAndTwoLinksBelowItsHeader) {
+  open_root();
+  EXPECT_THAT(names(),
+              testing::ElementsAre("", "", "Enable Sonavue", "", "Configuration", "", "Contacts"));
+  EXPECT_STREQ(page.navigationItem().title().UTF8String(), "Sonavue");
+  photograph("settings-root");
+}
+
+TEST_F(RootPage, TheFirstLaunchMarksItselfAndShowsTheWizard) {
+  fs::remove(preferences());
+  open_root();
+  EXPECT_EQ(stored(), "firstBoot = 1");
+  ASSERT_TRUE(page.presentedViewController() || stack.presentedViewController());
+  EXPECT_TRUE(find(window, "Sonavue"));
+  EXPECT_EQ(settings::where, page);
+  photograph("wizard-welcome");
+}
+
+TEST_F(RootPage, TheSecondLaunchShowsNoWizard) {
+  open_root();
+  EXPECT_FALSE(page.presentedViewController());
+  EXPECT_FALSE(stack.presentedViewController());
+  EXPECT_EQ(stored(), "firstBoot = 1");
+}
+
+TEST_F(RootPage, TheFirstLaunchKeepsTheMarkOfChanges) {
+  write_dictionary(preferences(), switch_entry("checked", true) + text_entry("tint", "red"));
+  open_root();
+  EXPECT_EQ(stored(), "checked = 1, firstBoot = 1, tint = red");
+}
+
+TEST_F(RootPage, TheSwitchWritesAndKeepsEverythingElse) {
+  write_dictionary(preferences(), switch_entry("firstBoot", true) + text_entry("tint", "red") +
+                                      switch_entry("checked", true));
+  open_root();
+  const UISwitch enable = switch_of("Enable Sonavue");
+  EXPECT_FALSE(enable.isOn());
+  tap_middle(enable);
+  EXPECT_EQ(stored(), "checked = 0, enable = 1, firstBoot = 1, tint = red");
+  EXPECT_TRUE(enable.isOn());
+  tap_middle(enable);
+  EXPECT_EQ(stored(), "checked = 0, enable = 0, firstBoot = 1, tint = red");
+}
+
+TEST_F(RootPage, ASubpageAndBackLeavesTheSpecifiersAsTheyWere) {
+  open_root();
+  const auto before = objc::Ref<NSArray>::retain(page.specifiers());
+  tap_row("Contacts");
+  EXPECT_TRUE(shown().isKindOfClass(objc_getClass("creatorsController")));
+  stack.popViewControllerAnimated(YES);
+  advance(1);
+  EXPECT_EQ(shown(), page);
+  EXPECT_EQ(page.specifiers(), before.get());
+}
+
+TEST_F(RootPage, ConfigurationIsTheStylePage) {
+  open_root();
+  tap_row("Configuration");
+  EXPECT_TRUE(shown().isKindOfClass(objc_getClass("styleController")));
+  EXPECT_EQ(settings::where, shown());
+}
+
+TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
+  open_root();
+  const objc::Object cls(objc_getClass("HeaderCellForSonavue"));
+  const auto header = objc::send<PSHeaderViewDelegate>(objc::send<NSObject>(cls, "alloc"_sel),
+                                                       "initWithSpecifier:"_sel, PSSpecifier())
+                          .autorelease();
+  for (const CGFloat width : {320.0, 375.0, 414.0, 768.0})
+    EXPECT_EQ(header.preferredHeightForWidth(width), 184);
+  const CGFloat width = UIScreen::mainScreen().bounds().size.width;
+  UIView logo;
+  UIView name;
+  for (const UIView part : header.subviews().of<UIView>()) {
+    if (part.isKindOfClass(UIImageView::cls())) logo = part;
+    if (part.isKindOfClass(UILabel::cls())) name = part;
+  }
+  ASSERT_TRUE(logo && name);
+  EXPECT_EQ(logo.frame(), (CGRect{(width - 130) / 2, 10, 130, 130}));
+  EXPECT_EQ(name.frame(), (CGRect{0, 145, width, 50}));
+  EXPECT_TRUE(name.layer().mask()) << "it shimmers";
+}
+
+TEST_F(RootPage, TheShareButtonOpensTheComposer) {
+  open_root();
+  const UIBarButtonItem button = page.navigationItem().rightBarButtonItem();
+  ASSERT_TRUE(button);
+  EXPECT_EQ(button.image().renderingMode(), UIImageRenderingModeAlwaysTemplate);
+  objc::send<>(button.target(), button.action());
+  advance(1);
+  EXPECT_TRUE(page.presentedViewController() || stack.presentedViewController());
+  photograph("settings-share");
+}
+
+TEST_F(RootPage, WithoutTextsEverythingIsNullAndStoredSo) {
+  fs::remove(languages() / "en.plist");
+  open_root();
+  EXPECT_THAT(names(), testing::Contains("(null)"));
+  tap_middle(switch_of("(null)"));
+  EXPECT_EQ(stored(), "(null) = 1, checked = 0, firstBoot = 1");
+}
+
+TEST_F(RootPage, TheConfigurationPageLeadsToTheStylePage) {
+  open("configurationController");
+  tap_row("Style");
+  EXPECT_TRUE(shown().isKindOfClass(objc_getClass("styleController")));
+}
+
+}  // namespace
+}  // namespace sonavue::test
