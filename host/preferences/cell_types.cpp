@@ -32,8 +32,6 @@ const char* cell_class_name(PSCellType type) {
   switch (type) {
     case kSwitchCell:
       return "PSSwitchTableCell";
-    case kSliderCell:
-      return "PSSliderTableCell";
     default:
       return "PSTableCell";
   }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/springboard/configuration.h"
 #include "host/springboard/home/dock_ground.h"
 #include "host/springboard/icon/folder_icon.h"
 #include "host/springboard/model/strings.h"
@@ -11,6 +10,7 @@
 #include "host/springboard/screen_grid.h"
 #include "host/springboard/view/icon_view_map.h"
 #include "host/springboard/view/make_view.h"
+#include "host/springboard/wallpaper.h"
 
 namespace host::springboard {
 namespace {
@@ -39,12 +39,19 @@ HomeScreen::HomeScreen(IconModel& model, IconTouchListener& listener, objc::Obje
 }
 
 void HomeScreen::add_wallpaper() {
-  auto wallpaper = make_view<UIImageView>(window_->bounds());
-  wallpaper->setContentMode(UIViewContentModeScaleAspectFill);
-  wallpaper->setClipsToBounds(YES);
-  wallpaper->setBackgroundColor(UIColor::blackColor());
-  wallpaper->setImage(picture(to_ns(configuration().wallpaper)));
-  window_->addSubview(*wallpaper);
+  wallpaper_ = make_view<UIImageView>(window_->bounds());
+  wallpaper_->setContentMode(UIViewContentModeScaleAspectFill);
+  wallpaper_->setClipsToBounds(YES);
+  wallpaper_->setBackgroundColor(UIColor::blackColor());
+  window_->addSubview(*wallpaper_);
+  show_wallpaper();
+}
+
+void HomeScreen::show_wallpaper() {
+  const NSString chosen = chosen_wallpaper();
+  if (wallpaper_name_ && wallpaper_name_->isEqualToString(chosen)) return;
+  wallpaper_name_.reset(chosen);
+  wallpaper_->setImage(picture(chosen));
 }
 
 void HomeScreen::add_pages(objc::Object scroll_delegate) {

@@ -27,6 +27,8 @@ class HomeScreen {
   UIView content() const { return content_.get(); }
   const GridMetrics& grid() const { return grid_; }
 
+  /// Shows the wallpaper that is chosen now.
+  void show_wallpaper();
   /// Makes the views what the model says; icons fly to their new slots in `duration` seconds.
   void sync(double duration);
 
@@ -56,6 +58,8 @@ class HomeScreen {
   IconTouchListener& listener_;
   GridMetrics grid_;
   objc::Ref<UIWindow> window_;
+  objc::Ref<UIImageView> wallpaper_;
+  objc::Ref<NSString> wallpaper_name_;
   objc::Ref<UIView> content_;
   objc::Ref<UIScrollView> scroll_;
   objc::Ref<UIPageControl> dots_;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "host/springboard/configuration.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/pictures.h"
 #include "host/springboard/surfaces/notification_row.h"
 #include "host/springboard/surfaces/surface_parts.h"
 #include "host/springboard/view/make_view.h"
+#include "host/springboard/wallpaper.h"
 
 namespace host::springboard {
 namespace {
@@ -60,7 +60,7 @@ void LockScreenPanel::add_wallpaper() {
   wallpaper->setContentMode(UIViewContentModeScaleAspectFill);
   wallpaper->setClipsToBounds(YES);
   wallpaper->setBackgroundColor(UIColor::blackColor());
-  wallpaper->setImage(picture(to_ns(configuration().wallpaper)));
+  wallpaper->setImage(picture(chosen_wallpaper()));
   view_->addSubview(*wallpaper);
   shade_ = add_plate(*view_, view_->bounds(), UIColor::colorWithWhite(0, kShade));
 }

@@ -79,6 +79,8 @@ void UserInterfaceController::leave_application() {
   recent_applications().went_home();
   running_processes().bring_to_front({});
   set_status_bar_dark(false);
+  // Settings may have chosen another one.
+  objc::state_of<IconController>(SBIconController::sharedInstance()).home().show_wallpaper();
   if (launch_screen_) launch_screen_->close();
 }
 

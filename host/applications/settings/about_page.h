@@ -1,0 +1,22 @@
+#pragma once
+
+#include "objc/class_builder.h"
+#include "platform/Preferences/PSListController.h"
+
+namespace host::settings {
+
+struct PrefsAboutController
+    : objc::Bound<PrefsAboutController, "PrefsAboutController", PSListController> {};
+
+/// What the phone is, and how much music is on it.
+class AboutPage : public objc::Implementation<AboutPage, PrefsAboutController> {
+ public:
+  using Implementation::Implementation;
+
+  NSArray specifiers();
+  objc::Object value(PSSpecifier specifier);
+};
+
+void export_about_page();
+
+}  // namespace host::settings

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace host::settings {
+
+/// A row of the root list that an extension has asked for by a property list.
+struct LoaderEntry {
+  std::string label;
+  /// The class of its page.
+  std::string detail;
+  /// A picture's file; empty for none.
+  std::string icon;
+};
+
+inline constexpr const char* kLoaderFolder = "/Library/PreferenceLoader/Preferences";
+inline constexpr const char* kBundleFolder = "/Library/PreferenceBundles";
+
+/// By their labels. A file that is no such list is passed over, and the log says why.
+std::vector<LoaderEntry> read_loader_entries();
+
+}  // namespace host::settings

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/UIKit/UIImage.h"
+
+namespace host::settings {
+
+enum class RowIcon { Sounds, Wallpaper, Gestures, About };
+
+/// A white sign on a rounded square, in the size of a row's icon.
+UIImage row_icon(RowIcon icon);
+
+}  // namespace host::settings

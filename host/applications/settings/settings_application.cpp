@@ -1,0 +1,69 @@
+#include "host/applications/settings/settings_application.h"
+
+#include "host/application/program/player_remote.h"
+#include "host/applications/settings/about_page.h"
+#include "host/applications/settings/root_page.h"
+#include "host/applications/settings/sounds_page.h"
+#include "host/applications/settings/volume_cell.h"
+#include "host/applications/settings/wallpaper_page.h"
+#include "host/foundation/device_paths.h"
+#include "host/media_player/media_service.h"
+#include "host/runtime/log.h"
+#include "host/social/configuration.h"
+
+namespace host::settings {
+
+using application::PlayerRemote;
+
+SettingsApplication::~SettingsApplication() {
+  PlayerRemote::shared().on_change = {};
+  if (window_) window_->setHidden(YES);
+}
+
+void SettingsApplication::did_finish_launching(objc::Object) {
+  window_ =
+      objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame(UIScreen::mainScreen().bounds()));
+  window_->setBackgroundColor(UIColor::whiteColor());
+  const auto root = PrefsListController::alloc().init();
+  navigation_ = objc::Ref<UINavigationController>::adopt(
+      UINavigationController::alloc().initWithRootViewController(root));
+  root.release();
+  window_->setRootViewController(navigation_.get());
+  window_->makeKeyAndVisible();
+  // The volume may be changed by its buttons while the page is open.
+  PlayerRemote::shared().on_change = [this] {
+    const UIViewController top = navigation_->topViewController();
+    if (top.isKindOfClass(PrefsSoundsController::cls())) objc::cast<PSListController>(top).reload();
+  };
+}
+
+void export_settings_classes() {
+  if (PreferencesAppController::cls()) return;
+  export_root_page();
+  export_about_page();
+  export_volume_cell();
+  export_sounds_page();
+  export_wallpaper_page();
+  objc::ClassBuilder("PreferencesAppController", "UIApplication")
+      .state<SettingsApplication>()
+      .method<&SettingsApplication::did_finish_launching>("applicationDidFinishLaunching:")
+      .method<&SettingsApplication::window>("settingsWindow")
+      .method<&SettingsApplication::navigation>("navigation")
+      .finish();
+}
+
+void prepare_settings(bool is_stepped) {
+  social::Configuration ways_out;
+  ways_out.desktop = is_stepped ? social::Desktop::Absent : social::desktop_of_environment();
+  ways_out.share_target = social::default_share_target_file();
+  social::configure(ways_out);
+  media_player::MediaOptions options;
+  options.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
+  options.first_scan = media_player::FirstScan::kNever;
+  options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
+  options.audio_output = "null";
+  if (const auto problem = media_player::MediaService::start(std::move(options)))
+    spdlog::error("there is no music to count: {}", *problem);
+}
+
+}  // namespace host::settings

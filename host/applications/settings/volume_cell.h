@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/springboard/surfaces/slider.h"
+#include "objc/class_builder.h"
+#include "platform/Preferences/PSTableCell.h"
+
+namespace host::settings {
+
+struct PrefsVolumeCell : objc::Bound<PrefsVolumeCell, "PrefsVolumeCell", PSTableCell> {};
+
+/// A row that is one slider, between a silent speaker and a loud one.
+class VolumeCell : public objc::Implementation<VolumeCell, PrefsVolumeCell> {
+ public:
+  using Implementation::Implementation;
+
+  void layout_subviews();
+  void refresh(PSSpecifier specifier);
+
+ private:
+  void build(CGSize size);
+
+  objc::Ref<springboard::SBSurfaceSlider> slider_;
+};
+
+void export_volume_cell();
+
+}  // namespace host::settings
