@@ -4,17 +4,23 @@
 
 #include "host/preferences/cell_types.h"
 #include "host/preferences/specifier.h"
+#include "host/runtime/log.h"
 
 namespace host::preferences {
 namespace {
 
-/// A property that is a class, or the name of one.
-objc::Class class_in(PSSpecifier specifier, NSString key) {
+/// A property that is a class, or the name of one. Null where there is none, and where its objects
+/// could not be begun in the way that they have to.
+objc::Class class_in(PSSpecifier specifier, NSString key, objc::Sel initializer) {
   const objc::Object value = specifier.propertyForKey(key);
   if (!value) return nullptr;
-  if (objc::cast<NSObject>(value).isKindOfClass(NSString::cls()))
-    return objc_getClass(objc::cast<NSString>(value).UTF8String());
-  return reinterpret_cast<objc::Class>(value.id());
+  const bool is_name = objc::cast<NSObject>(value).isKindOfClass(NSString::cls());
+  const char* name = is_name ? objc::cast<NSString>(value).UTF8String() : nullptr;
+  const auto cls = is_name ? objc_getClass(name) : reinterpret_cast<objc::Class>(value.id());
+  if (cls && class_getInstanceMethod(cls, initializer)) return cls;
+  spdlog::warn("a row of the settings wants {} {}, which is no such class", key.UTF8String(),
+               is_name ? name : "");
+  return nullptr;
 }
 
 template <class T>
@@ -143,7 +149,8 @@ NSInteger ListController::rows(UITableView, NSInteger section) {
 UITableViewCell ListController::cell(UITableView table, NSIndexPath path) {
   const PSSpecifier specifier = specifier_at(path);
   const PSCellType type = state_of(specifier).cell_type();
-  objc::Class cls = class_in(specifier, "cellClass"_ns);
+  objc::Class cls =
+      class_in(specifier, "cellClass"_ns, "initWithStyle:reuseIdentifier:specifier:"_sel);
   if (!cls) cls = objc_getClass(cell_class_name(type));
   // Cells of one class and layout can stand for each other.
   const auto reuse = NSString::stringWithUTF8String(
@@ -176,7 +183,8 @@ NSString ListController::footer_title(UITableView, NSInteger section) {
 PSHeaderViewDelegate ListController::own_header(NSInteger section) {
   if (const auto made = headers_.find(section); made != headers_.end()) return made->second.get();
   const PSSpecifier group = group_at(section);
-  const objc::Class cls = group ? class_in(group, "headerCellClass"_ns) : nullptr;
+  const objc::Class cls =
+      group ? class_in(group, "headerCellClass"_ns, "initWithSpecifier:"_sel) : nullptr;
   if (!cls) return nil;
   const auto view = allocated<PSHeaderViewDelegate>(cls).initWithSpecifier(group);
   headers_.emplace(section, objc::Ref<PSHeaderViewDelegate>::adopt(view));

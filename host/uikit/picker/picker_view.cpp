@@ -34,6 +34,12 @@ objc::Ref<UIView> add_line(UIView picker) {
 
 }  // namespace
 
+// A wheel may still turn when its picker has gone.
+PickerView::~PickerView() {
+  for (const auto& one : wheels_)
+    objc::state_of<PickerWheel>(one.get()).forget_picker();
+}
+
 UIView PickerView::init_with_frame(CGRect frame) {
   if (!super<UIView>("initWithFrame:"_sel, fitted(frame))) return nil;
   self.setClipsToBounds(YES);

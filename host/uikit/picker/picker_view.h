@@ -12,6 +12,7 @@ namespace host::uikit {
 class PickerView : public objc::Implementation<PickerView, UIPickerView> {
  public:
   explicit PickerView(UIPickerView owner) : Implementation(owner) {}
+  ~PickerView();
 
   UIView init_with_frame(CGRect frame);
   void set_frame(CGRect frame);

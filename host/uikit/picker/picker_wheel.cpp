@@ -47,6 +47,11 @@ void PickerWheel::load(Rows rows) {
   set_frame(self.frame());
 }
 
+void PickerWheel::forget_picker() {
+  rows_.title = {};
+  on_choice_ = {};
+}
+
 // Inset so that the first and the last row can come to the middle.
 void PickerWheel::set_frame(CGRect frame) {
   super<>("setFrame:"_sel, frame);

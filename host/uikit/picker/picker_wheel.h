@@ -29,6 +29,7 @@ class PickerWheel : public objc::Implementation<PickerWheel, UIPickerWheel> {
   static objc::Ref<UIPickerWheel> make(std::function<void(NSInteger)> on_choice);
 
   void load(Rows rows);
+  void forget_picker();
   NSInteger count() const { return rows_.count; }
   /// -1 where there is none.
   NSInteger chosen() const { return rows_.count > 0 ? chosen_ : -1; }

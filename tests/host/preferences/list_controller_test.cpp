@@ -100,6 +100,21 @@ TEST_F(ListControllerTest, ACellsClassMayBeTheSpecifiersChoice) {
   EXPECT_TRUE(cell(0, kSwitches).isKindOfClass(objc_getClass("TestPaneHeader")));
 }
 
+TEST_F(ListControllerTest, AClassThatIsNoCellOrNotThereIsPassedOver) {
+  const auto specifier = pane.specifierForID("Enabled"_ns);
+  for (const objc::Object cls : {objc::Object("NoSuchClass"_ns), objc::Object("NSArray"_ns)}) {
+    specifier.setProperty(cls, "cellClass"_ns);
+    pane.reload();
+    advance(0.1);
+    EXPECT_TRUE(cell(0, kSwitches).isKindOfClass(PSSwitchTableCell::cls()));
+  }
+  const auto head = objc::cast<PSSpecifier>(pane.specifiers().firstObject());
+  head.setProperty("NSArray"_ns, "headerCellClass"_ns);
+  pane.setSpecifiers(NSArray::arrayWithArray(pane.specifiers()));
+  advance(0.1);
+  EXPECT_EQ(pane.table().rectForHeaderInSection(0).size.height, 35);
+}
+
 TEST_F(ListControllerTest, AnIconStandsInItsRow) {
   UIGraphicsBeginImageContextWithOptions({29, 29}, YES, 2);
   const UIImage icon = UIGraphicsGetImageFromCurrentImageContext();
