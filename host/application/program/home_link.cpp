@@ -54,7 +54,8 @@ void HomeLink::put_back(std::deque<ToApplication> messages) {
 
 void HomeLink::send(const ToHome& message) {
   if (!channel_) return;
-  if (!channel_.send(encoded(message), Channel::Patience::Waits)) channel_.close();
+  if (channel_.send(encoded(message), Channel::Patience::Waits) != Channel::Sending::Done)
+    channel_.close();
 }
 
 }  // namespace host::application

@@ -46,7 +46,7 @@ Descriptor descriptor_of(msghdr& message) {
 
 }  // namespace
 
-bool Channel::send(std::string_view bytes, Patience patience, int descriptor) const {
+Channel::Sending Channel::send(std::string_view bytes, Patience patience, int descriptor) const {
   const int flags = MSG_NOSIGNAL | (patience == Patience::NeverWaits ? MSG_DONTWAIT : 0);
   while (!bytes.empty()) {
     iovec part{const_cast<char*>(bytes.data()), bytes.size()};
@@ -57,11 +57,12 @@ bool Channel::send(std::string_view bytes, Patience patience, int descriptor) co
     if (descriptor >= 0) attach(message, space, descriptor);
     const auto count = sendmsg(socket_.get(), &message, flags);
     if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return false;
+    if (count < 0 && errno == EAGAIN) return Sending::Full;
+    if (count <= 0) return Sending::Gone;
     descriptor = -1;
     bytes.remove_prefix(static_cast<std::size_t>(count));
   }
-  return true;
+  return Sending::Done;
 }
 
 Channel::Reading Channel::read_into(std::string& bytes) {

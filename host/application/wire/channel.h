@@ -20,9 +20,10 @@ class Channel {
 
   /// Whoever does not wait gives up an end that reads nothing.
   enum class Patience { Waits, NeverWaits };
-  /// False when the other end is gone or does not read; the channel is of no use then. A descriptor
-  /// that is not -1 goes with the bytes.
-  bool send(std::string_view bytes, Patience patience, int descriptor = -1) const;
+  /// Anything but `Done` leaves the channel without use: the other end does not read, or is gone. A
+  /// descriptor that is not -1 goes with the bytes.
+  enum class Sending { Done, Full, Gone };
+  Sending send(std::string_view bytes, Patience patience, int descriptor = -1) const;
 
   enum class Reading { Some, Nothing, End };
   /// Appends what is there now. A descriptor that came along is kept for `take_descriptor`.

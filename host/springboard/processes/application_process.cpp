@@ -61,7 +61,7 @@ bool ApplicationProcess::greet() {
   const SurfaceSize& size = surface_->size();
   const Hello hello{time_ == Time::Stepped, loop_.now(), size.width, size.height, size.stride};
   return channel_.send(encoded(ToApplication(hello)), Channel::Patience::NeverWaits,
-                       surface_->descriptor());
+                       surface_->descriptor()) == Channel::Sending::Done;
 }
 
 CGImageRef ApplicationProcess::picture() const {
@@ -82,14 +82,16 @@ void ApplicationProcess::send(const ToApplication& message) {
 // Its socket holds much more than a living application leaves unread.
 void ApplicationProcess::write(const ToApplication& message) {
   if (!is_alive()) return;
-  if (!channel_.send(encoded(message), Channel::Patience::NeverWaits)) end(ProcessEnd::NoAnswer);
+  const auto sending = channel_.send(encoded(message), Channel::Patience::NeverWaits);
+  if (sending == Channel::Sending::Full) end(ProcessEnd::NoAnswer);
+  if (sending == Channel::Sending::Gone) end(ProcessEnd::Ended);
 }
 
 std::optional<std::string> ApplicationProcess::ask(const std::string& line) {
   if (time_ == Time::Stepped) catch_up();
   answer_.reset();
   write(ConsoleLine{line});
-  if (!read_until([this] { return answer_.has_value(); }, kPatience)) return std::nullopt;
+  if (!read_until([this] { return answer_.has_value(); })) return std::nullopt;
   if (time_ == Time::Stepped) catch_up_soon();
   return std::exchange(answer_, std::nullopt);
 }
@@ -131,6 +133,7 @@ void ApplicationProcess::read() {
     if (!is_alive() || reading == Channel::Reading::Nothing) break;
   }
   is_reading_ = false;
+  show_new_frame();
   if (left == 0) read_on_next_frame();
 }
 
@@ -145,9 +148,9 @@ void ApplicationProcess::read_on_next_frame() {
   });
 }
 
-bool ApplicationProcess::read_until(const std::function<bool()>& came, double patience) {
+bool ApplicationProcess::read_until(const std::function<bool()>& came) {
   const RealClock machine;
-  const double deadline = machine.now() + patience;
+  const double began = machine.now();
   int messages = 0;
   while (is_alive() && !came()) {
     if (const auto message = reader_.next()) {
@@ -159,7 +162,8 @@ bool ApplicationProcess::read_until(const std::function<bool()>& came, double pa
       end(ProcessEnd::Garbage);
       break;
     }
-    const double left = deadline - machine.now();
+    show_new_frame();
+    const double left = began + patience() - machine.now();
     if (left <= 0 || !wait_until_readable(channel_.descriptor(), left)) {
       end(ProcessEnd::NoAnswer);
       break;
@@ -168,6 +172,7 @@ bool ApplicationProcess::read_until(const std::function<bool()>& came, double pa
     if (channel_.read_into(bytes) == Channel::Reading::End) end(ProcessEnd::Ended);
     reader_.append(bytes);
   }
+  show_new_frame();
   return is_alive();
 }
 
@@ -181,12 +186,19 @@ void ApplicationProcess::take(const NewFrame& frame) {
     end(ProcessEnd::Garbage);
     return;
   }
+  new_frame_ = frame.buffer;
+}
+
+// Of several frames that came at once only the last can be seen, and an application that waits for
+// each to be taken never sends several.
+void ApplicationProcess::show_new_frame() {
+  if (!new_frame_ || !is_alive()) return;
+  const int buffer = *std::exchange(new_frame_, std::nullopt);
   const CGImageRef made =
-      quartzcore::make_image(surface_on(surface_, frame.buffer), quartzcore::Opacity::Opaque);
+      quartzcore::make_image(surface_on(surface_, buffer), quartzcore::Opacity::Opaque);
   picture_ = objc::Ref<quartzcore::CGImageObject>::adopt(
       objc::cast<quartzcore::CGImageObject>(quartzcore::object_of(made)));
   if (events_.frame_came) events_.frame_came();
-  // The picture before is on no layer any more when the next frame of the screen is painted.
   write(FrameTaken{});
 }
 

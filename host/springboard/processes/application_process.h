@@ -22,7 +22,7 @@ enum class ProcessEnd { Ended, NoAnswer, Flood, Garbage };
 /// does, or fails to do, holds up the home screen for longer than the patience below.
 class ApplicationProcess {
  public:
-  /// Seconds of the machine's time that an application may take to answer.
+  /// Seconds that an application may take to answer.
   static constexpr double kPatience = 5;
   /// The same while it comes to life.
   static constexpr double kFirstPatience = 30;
@@ -43,6 +43,8 @@ class ApplicationProcess {
   ApplicationProcess& operator=(const ApplicationProcess&) = delete;
 
   bool is_alive() const { return static_cast<bool>(channel_); }
+  /// Has it said more than is read in one turn?
+  bool has_more_to_say() const { return pause_.has_value(); }
   /// What it drew last; nil before the first frame.
   CGImageRef picture() const;
 
@@ -62,15 +64,18 @@ class ApplicationProcess {
   void read();
   void read_on_next_frame();
   /// Waits for what the application owes us. False when it has ended instead.
-  bool read_until(const std::function<bool()>& came, double patience);
+  bool read_until(const std::function<bool()>& came);
 
   void take(const application::ToHome& message);
   void take(const application::NewFrame& frame);
+  void show_new_frame();
   void take(const application::ReachedTime& reached);
   void take(const application::ConsoleAnswer& answer);
   void take(const application::Pong& pong);
   void take(const application::Closing&) { end(ProcessEnd::Ended); }
   void take(const application::SteerPlayer& command);
+
+  double patience() const { return has_answered_ ? kPatience : kFirstPatience; }
 
   // The stepped clock.
   void catch_up_soon();
@@ -91,6 +96,7 @@ class ApplicationProcess {
   MessageBudget budget_;
   std::shared_ptr<const application::SharedSurface> surface_;
   objc::Ref<quartzcore::CGImageObject> picture_;
+  std::optional<int> new_frame_;
   std::optional<RunLoop::Id> watch_;
   std::optional<RunLoop::Id> pause_;
   std::optional<RunLoop::Id> due_;

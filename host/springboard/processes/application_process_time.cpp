@@ -32,7 +32,7 @@ void ApplicationProcess::catch_up() {
   reached_.reset();
   write(TimeIs{now});
   const auto has_reached = [this, now] { return reached_ && *reached_ >= now; };
-  if (!read_until(has_reached, has_answered_ ? kPatience : kFirstPatience)) return;
+  if (!read_until(has_reached)) return;
   wait_for_due(std::max(next_due_, now + kLeastStep));
 }
 
@@ -55,9 +55,8 @@ void ApplicationProcess::watch_over() {
 
 void ApplicationProcess::ask_for_life() {
   const double now = loop_.now();
-  const double patience = has_answered_ ? kPatience : kFirstPatience;
   if (answered_ < asked_) {
-    if (now - asked_at_ >= patience) end(ProcessEnd::NoAnswer);
+    if (now - asked_at_ >= patience()) end(ProcessEnd::NoAnswer);
     return;
   }
   asked_at_ = now;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/springboard/model/strings.h"
 #include "host/springboard/processes/application_process.h"
 #include "platform/MediaPlayer/MPMusicPlayerController.h"
 #include "platform/SpringBoard/SBMediaController.h"
@@ -17,6 +18,10 @@ constexpr double kLookEvery = 0.25;
 // What the clock says of the song and what the player says may differ by so much.
 constexpr double kElapsedTolerance = 0.4;
 
+// A home screen without the media classes lacks the constants with these names.
+const char* const kPersistentId = "persistentID";
+const char* const kPlaybackDuration = "playbackDuration";
+
 MPMusicPlayerController player() {
   return MPMusicPlayerController::iPodMusicPlayer();
 }
@@ -27,7 +32,7 @@ double number_of(MPMediaItem item, NSString property) {
 }
 
 std::uint64_t song_id(MPMediaItem item) {
-  const auto number = item.valueForProperty(MPMediaItemPropertyPersistentID);
+  const auto number = item.valueForProperty(to_ns(kPersistentId));
   return number ? objc::send<unsigned long long>(number, "unsignedLongLongValue"_sel) : 0;
 }
 
@@ -39,7 +44,7 @@ PlaybackIs playback_now() {
   found.song = song_id(item);
   found.is_playing = player().playbackState() == MPMusicPlaybackStatePlaying;
   found.elapsed = player().currentPlaybackTime();
-  found.duration = number_of(item, MPMediaItemPropertyPlaybackDuration);
+  found.duration = number_of(item, to_ns(kPlaybackDuration));
   if (!std::isfinite(found.elapsed)) found.elapsed = 0;
   return found;
 }
@@ -50,7 +55,7 @@ void play_song(std::uint64_t song) {
                                                        static_cast<unsigned long long>(song));
   const auto query = MPMediaQuery::alloc().init().autorelease();
   query.addFilterPredicate(
-      MPMediaPropertyPredicate::predicateWithValue(number, MPMediaItemPropertyPersistentID));
+      MPMediaPropertyPredicate::predicateWithValue(number, to_ns(kPersistentId)));
   const NSArray found = query.items();
   if (found.count() == 0) return;
   player().setQueueWithQuery(MPMediaQuery::alloc().init().autorelease());

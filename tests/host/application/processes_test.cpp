@@ -1,0 +1,267 @@
+
+#include "host/launcher/running_applications.h"
+#include "host/launcher/unix_socket.h"
+#include "host/springboard/configuration.h"
+#include "host/springboard/model/strings.h"
+#include "host/springboard/processes/application_view.h"
+#include "host/springboard/processes/process_keeper.h"
+#include "host/springboard/processes/running_processes.h"
+#include "host/springboard/switcher/recent_applications.h"
+#include "host/springboard/system_actions.h"
+#include "platform/SpringBoard/SBUIController.h"
+#include "tests/support/media_fixtures.h"
+#include "tests/support/phone_fixture.h"
+
+namespace {
+
+using namespace host;
+using namespace host::springboard;
+using host::test::kMusic;
+using host::test::PhoneTest;
+
+constexpr std::uint32_t kColor = 0xFF336699;
+constexpr double kDeadline = 60;
+
+/// Starts the strange application in place of every other.
+class StrangePrograms final : public ProcessKeeper {
+ public:
+  StrangePrograms(const std::filesystem::path& folder, const std::string& behaviour)
+      : folder_(folder),
+        applications_({PROGRAM_FOLDER, folder}, {{}, {"--behaviour", behaviour}, {}}) {}
+
+  bool open(const std::string& bundle, const std::string& program) override {
+    return applications_.open(bundle, program);
+  }
+  void close(const std::string& bundle) override { applications_.close(bundle); }
+  application::Channel connect(const std::string& bundle) override {
+    return application::Channel(
+        launcher::connected_socket(launcher::application_socket(folder_, bundle)));
+  }
+  launcher::RunningApplications& applications() { return applications_; }
+
+ private:
+  std::filesystem::path folder_;
+  launcher::RunningApplications applications_;
+};
+
+/// A home screen on which Music is a program that misbehaves.
+class ProcessesTest : public PhoneTest {
+ protected:
+  ~ProcessesTest() override {
+    end();
+    Configuration none;
+    configure(none);
+  }
+
+  enum class Time { kReal, kStepped };
+  void launch_with(const std::string& behaviour, Time time = Time::kReal) {
+    programs_.emplace(device, behaviour);
+    Configuration with = configuration();
+    with.process_keeper = &*programs_;
+    with.has_stepped_clock = time == Time::kStepped;
+    configure(with);
+    launch();
+  }
+  void open_music() {
+    tap(on_screen(kMusic));
+    advance(1);
+  }
+  RunningProcesses::Process music() const { return running_processes().find(kMusic); }
+
+  /// Serves the loop, whose clock stands, until something has come from the other process.
+  bool comes_true(const std::function<bool()>& condition) {
+    const RealClock machine;
+    const double deadline = machine.now() + kDeadline;
+    while (!condition() && machine.now() < deadline)
+      loop.run_ready();
+    return condition();
+  }
+  bool has_picture() const { return music() && music()->picture(); }
+  std::uint32_t first_pixel() const {
+    const auto surface = quartzcore::image_of(music()->picture())->surface();
+    return *reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
+  }
+  bool log_has(std::string_view text) const { return log_.count(text) > 0; }
+
+  media_tests::CapturedLog log_;
+  std::optional<StrangePrograms> programs_;
+};
+
+TEST_F(ProcessesTest, ATapOpensTheApplicationAndShowsWhatItDraws) {
+  launch_with("honest");
+  open_music();
+  EXPECT_EQ(shown_now(), Shown::Application);
+  ASSERT_TRUE(comes_true([&] { return has_picture(); }));
+  EXPECT_EQ(first_pixel(), kColor);
+}
+
+TEST_F(ProcessesTest, WithoutItsProgramAnApplicationHasOnlyItsLaunchScreen) {
+  launch_with("honest");
+  EXPECT_TRUE(open("com.apple.Preferences"));
+  advance(1);
+  EXPECT_EQ(shown_now(), Shown::Application);
+  EXPECT_FALSE(running_processes().find("com.apple.Preferences"));
+}
+
+TEST_F(ProcessesTest, HomeLeavesTheApplicationRunningAndOpensItAgainAsItWas) {
+  launch_with("honest");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return has_picture(); }));
+  const pid_t process = programs_->applications().process(kMusic);
+  press_home();
+  advance(1);
+  EXPECT_EQ(shown_now(), Shown::HomeScreen);
+  EXPECT_FALSE(music()->is_in_front());
+  EXPECT_TRUE(music()->is_alive());
+  EXPECT_TRUE(music()->picture());
+  open_music();
+  EXPECT_TRUE(music()->is_in_front());
+  EXPECT_EQ(programs_->applications().process(kMusic), process);
+}
+
+TEST_F(ProcessesTest, TouchesGoToTheApplicationThatIsSeen) {
+  launch_with("honest", Time::kStepped);
+  open_music();
+  const auto before = quartzcore::image_of(music()->picture())->serial();
+  tap({100, 300});
+  advance(RunLoop::kFrame);
+  EXPECT_NE(quartzcore::image_of(music()->picture())->serial(), before);
+  press_home();
+  advance(1);
+  const auto left = quartzcore::image_of(music()->picture())->serial();
+  tap({100, 640});
+  advance(1);
+  EXPECT_EQ(quartzcore::image_of(music()->picture())->serial(), left);
+}
+
+TEST_F(ProcessesTest, OnASteppedClockThePictureIsThereWhenTheTimeIs) {
+  launch_with("honest", Time::kStepped);
+  EXPECT_TRUE(open(kMusic));
+  advance(0);
+  EXPECT_TRUE(has_picture());
+}
+
+TEST_F(ProcessesTest, AnAnswerFromTheConsoleOfTheApplicationComesBack) {
+  launch_with("honest", Time::kStepped);
+  open_music();
+  EXPECT_EQ(ask_application("Music", "print 1"), "\"print 1\"");
+  EXPECT_EQ(ask_application("Nobody", "print 1"), std::nullopt);
+}
+
+TEST_F(ProcessesTest, OneThatAnswersIsLeftAlone) {
+  launch_with("honest");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return has_picture(); }));
+  for (int second = 0; second < 20; ++second) {
+    advance(1);
+    // Time to answer, which the standing clock does not count.
+    const auto before = quartzcore::image_of(music()->picture())->serial();
+    tap({100, 300});
+    ASSERT_TRUE(
+        comes_true([&] { return quartzcore::image_of(music()->picture())->serial() != before; }));
+  }
+  EXPECT_TRUE(music()->is_alive());
+}
+
+TEST_F(ProcessesTest, OneThatHangsInFrontIsClosedAndNamedInTheLog) {
+  launch_with("hang");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return has_picture(); }));
+  advance(ApplicationProcess::kPatience - 1);
+  EXPECT_TRUE(music());
+  advance(3);
+  EXPECT_FALSE(music());
+  EXPECT_FALSE(programs_->applications().is_running(kMusic));
+  EXPECT_TRUE(log_has("Music does not answer: closed"));
+  EXPECT_EQ(shown_now(), Shown::HomeScreen);
+}
+
+TEST_F(ProcessesTest, OneThatHangsOnASteppedClockIsClosedAsWell) {
+  launch_with("hang", Time::kStepped);
+  open_music();
+  EXPECT_FALSE(music());
+  EXPECT_TRUE(log_has("Music does not answer: closed"));
+  EXPECT_EQ(shown_now(), Shown::HomeScreen);
+}
+
+TEST_F(ProcessesTest, OneThatCrashesFadesToTheHomeScreen) {
+  launch_with("crash");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return !music(); }));
+  EXPECT_TRUE(log_has("Music has ended"));
+  EXPECT_EQ(shown_now(), Shown::HomeScreen);
+  EXPECT_FALSE(recent_applications().contains(kMusic));
+  advance(1);
+  EXPECT_EQ(SBUIController::sharedInstance().clickedMenuButton(), NO);
+}
+
+TEST_F(ProcessesTest, OneThatEndsInGoodOrderIsGone) {
+  launch_with("end");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return !music(); }));
+  EXPECT_EQ(shown_now(), Shown::HomeScreen);
+}
+
+TEST_F(ProcessesTest, OneThatIsOpenedAfterItsEndBeginsAnew) {
+  launch_with("crash");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return !music(); }));
+  advance(1);
+  open_music();
+  EXPECT_EQ(shown_now(), Shown::Application);
+  ASSERT_TRUE(comes_true([&] { return !music(); }));
+}
+
+TEST_F(ProcessesTest, OneThatSpeaksNonsenseIsClosed) {
+  for (const char* behaviour : {"garbage", "bad-buffer"}) {
+    launch_with(behaviour);
+    open_music();
+    ASSERT_TRUE(comes_true([&] { return !music(); })) << behaviour;
+    EXPECT_FALSE(programs_->applications().is_running(kMusic));
+    EXPECT_TRUE(log_has("Music says what is no message: closed")) << behaviour;
+    EXPECT_EQ(shown_now(), Shown::HomeScreen);
+    end();
+  }
+}
+
+TEST_F(ProcessesTest, OneThatFloodsIsReadALittleAtATimeAndThenClosed) {
+  launch_with("flood");
+  open_music();
+  ASSERT_TRUE(comes_true([&] { return has_picture(); }));
+  const double began = clock.now();
+  std::uint64_t most = 0;
+  while (music() && clock.now() < began + 10) {
+    const auto before = quartzcore::image_of(music()->picture())->serial();
+    advance(RunLoop::kFrame);
+    // However fast this machine is, the flood is ahead of the reader.
+    ASSERT_TRUE(comes_true([&] { return !music() || music()->has_more_to_say(); }));
+    if (music()) most = std::max(most, quartzcore::image_of(music()->picture())->serial() - before);
+  }
+  // A turn or two a frame, and of each one picture.
+  EXPECT_LE(most, 3u);
+  EXPECT_GE(clock.now() - began, 1);
+  EXPECT_TRUE(log_has("Music floods the phone with messages: closed"));
+  EXPECT_FALSE(programs_->applications().is_running(kMusic));
+  EXPECT_EQ(shown_now(), Shown::HomeScreen);
+}
+
+TEST_F(ProcessesTest, OneThatWouldShrinkItsMemoryCannot) {
+  launch_with("shrink", Time::kStepped);
+  open_music();
+  ASSERT_TRUE(music());
+  EXPECT_EQ(first_pixel(), kColor);
+  advance(10);
+  EXPECT_TRUE(music()->is_alive());
+}
+
+TEST_F(ProcessesTest, ThrowingItAwayInTheSwitcherEndsIt) {
+  launch_with("honest", Time::kStepped);
+  open_music();
+  press_home();
+  advance(1);
+  recent_applications().close(kMusic);
+  EXPECT_FALSE(programs_->applications().is_running(kMusic));
+  EXPECT_FALSE(music());
+}
+
+}  // namespace

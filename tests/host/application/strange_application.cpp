@@ -1,0 +1,91 @@
+#include <poll.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "host/application/surface/shared_surface.h"
+#include "host/application/wire/channel.h"
+#include "host/application/wire/message_reader.h"
+
+// An application without anything of the platform: it draws one colour, and then does what its
+// argument says, `--behaviour NAME … --listener NUMBER`.
+
+namespace {
+
+using namespace host;
+using namespace host::application;
+
+constexpr std::uint32_t kColor = 0xFF336699;
+
+void send(Channel& channel, const ToHome& message) {
+  if (channel.send(encoded(message), Channel::Patience::Waits) != Channel::Sending::Done)
+    std::exit(1);
+}
+
+void draw(Channel& channel, SharedSurface& surface) {
+  const SurfaceSize& size = surface.size();
+  for (std::size_t i = 0; i < size.buffer_bytes() / sizeof kColor; ++i)
+    std::memcpy(surface.writable_buffer(0) + i * sizeof kColor, &kColor, sizeof kColor);
+  send(channel, NewFrame{0, 0, 0, size.width, size.height});
+}
+
+/// Answers as every application does; a touch is a reason to draw.
+void answer(Channel& channel, SharedSurface& surface, const ToApplication& message) {
+  if (const auto* time = std::get_if<TimeIs>(&message))
+    send(channel, ReachedTime{time->time, time->time + 1000});
+  if (const auto* ping = std::get_if<Ping>(&message)) send(channel, Pong{ping->number});
+  if (const auto* line = std::get_if<ConsoleLine>(&message))
+    send(channel, ConsoleAnswer{"\"" + line->text + "\""});
+  if (std::holds_alternative<FingerChange>(message)) draw(channel, surface);
+}
+
+void misbehave(const std::string& behaviour, Channel& channel, SharedSurface& surface) {
+  if (behaviour == "hang") {
+    for (;;)
+      pause();
+  }
+  if (behaviour == "crash") raise(SIGKILL);
+  if (behaviour == "end") {
+    send(channel, Closing{});
+    std::exit(0);
+  }
+  if (behaviour == "garbage") channel.send("\xFF\xFF\xFF\xFFgarbage", Channel::Patience::Waits);
+  if (behaviour == "bad-buffer") send(channel, NewFrame{7, 0, 0, 1, 1});
+  // What could make the home screen fault, if it were not forbidden.
+  if (behaviour == "shrink" && ftruncate(surface.descriptor(), 0) == 0) std::exit(1);
+  if (behaviour == "flood") {
+    for (;;)
+      send(channel, NewFrame{0, 0, 0, 1, 1});
+  }
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count < 5) return 2;
+  const std::string behaviour = arguments[2];
+  Channel channel(Descriptor(accept(std::atoi(arguments[4]), nullptr, nullptr)));
+  MessageReader<ToApplication> reader;
+  std::shared_ptr<SharedSurface> surface;
+  for (;;) {
+    wait_until_readable(channel.descriptor(), 60);
+    std::string bytes;
+    if (channel.read_into(bytes) == Channel::Reading::End) return 0;
+    reader.append(bytes);
+    while (const auto message = reader.next()) {
+      if (const auto* hello = std::get_if<Hello>(&*message)) {
+        surface = SharedSurface::open(channel.take_descriptor(),
+                                      {hello->width, hello->height, hello->stride});
+        if (!surface) return 1;
+        draw(channel, *surface);
+        misbehave(behaviour, channel, *surface);
+      } else if (surface) {
+        answer(channel, *surface, *message);
+      }
+    }
+  }
+}
