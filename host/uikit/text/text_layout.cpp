@@ -17,6 +17,8 @@ constexpr std::size_t kUnitsPerCharacter = 4;
 constexpr std::size_t kFewestUnits = 64;
 // Widths are compared after rounding to Pango's units.
 constexpr double kRoundingRoom = 1.0 / 512;
+// What an ellipsized line may be wider than was asked for, since its letters end on whole pixels.
+constexpr double kEllipsisRoom = 1;
 
 double line_height_of(const TextStyle& style) {
   const FaceMetrics metrics = metrics_of(style.face);
@@ -64,6 +66,17 @@ void set_limits(PangoLayout* layout, const TextFrame& frame, int limit) {
   pango_layout_set_height(layout, -limit);
 }
 
+/// Where not even the ellipsis has room it would say less than the text does: then the text is
+/// drawn as it is, as far as it can be seen.
+void drop_ellipsis_that_does_not_fit(PangoLayout* layout, const TextFrame& frame, int limit) {
+  if (limit != 1 || !pango_layout_is_ellipsized(layout)) return;
+  PangoRectangle extents;
+  pango_layout_line_get_extents(pango_layout_get_line_readonly(layout, 0), nullptr, &extents);
+  if (points_from(extents.width) <= frame.width + kEllipsisRoom) return;
+  pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_NONE);
+  pango_layout_set_width(layout, -1);
+}
+
 }  // namespace
 
 void UnreferenceLayout::operator()(PangoLayout* layout) const {
@@ -72,7 +85,9 @@ void UnreferenceLayout::operator()(PangoLayout* layout) const {
 
 TextLayout::TextLayout(const StyledText& text, const TextFrame& frame)
     : layout_(make_pango_layout(text)), alignment_(frame.alignment) {
-  set_limits(layout_.get(), frame, line_limit(text, frame));
+  const int limit = line_limit(text, frame);
+  set_limits(layout_.get(), frame, limit);
+  drop_ellipsis_that_does_not_fit(layout_.get(), frame, limit);
   measure_lines(text, frame);
 }
 

@@ -54,6 +54,16 @@ TEST_F(Text, TruncatesTheTailToOneLine) {
   EXPECT_LT(layout.size().width, 60.5);
 }
 
+TEST_F(Text, WhereNotEvenTheEllipsisFitsTheTextIsDrawnAsItIs) {
+  const auto text = styled_text("W"_ns, style);
+  const double width = TextLayout(text, {}).size().width;
+  const TextLayout layout(text,
+                          {.width = 4, .lines = 1, .break_mode = NSLineBreakByTruncatingTail});
+
+  EXPECT_FALSE(layout.is_truncated());
+  EXPECT_DOUBLE_EQ(layout.size().width, width);
+}
+
 TEST_F(Text, TextThatJustFitsIsNotTruncated) {
   const auto text = styled_text("Let It Be"_ns, style);
   const double width = TextLayout(text, {}).size().width;
