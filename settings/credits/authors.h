@@ -21,18 +21,18 @@ inline constexpr Package kDesignersPackages[] = {
 };
 
 inline constexpr Author kDeveloper = {
-    "developerCell",     "Plumvane Code (@plumvane_code)",
+    "developerCell",     "Plum (@plumcode)",
     "Developer",         "developer",
-    "code@example.org",  "code@example.org",
-    "plumvane_code",     "followDeveloper",
+    "plum@example.org",  "plum@example.org",
+    "plumcode",          "followDeveloper",
     kDevelopersPackages, 4,
 };
 
 inline constexpr Author kDesigner = {
-    "designerCell",     "Plumvane Draw (@plumvane_draw)",
+    "designerCell",     "Vane (@vanedraws)",
     "Designer",         "designer",
-    "draw@example.org", "draw@example.org",
-    "plumvane_draw",    "followDesigner",
+    "vane@example.org", "vane@example.org",
+    "vanedraws",        "followDesigner",
     kDesignersPackages, 3,
 };
 

@@ -1,0 +1,149 @@
+#include "platform/MessageUI/MFMailComposeViewController.h"
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UIScrollView.h"
+#include "platform/UIKit/UITapGestureRecognizer.h"
+#include "tests/settings/pages_test.h"
+
+namespace sonavue::test {
+namespace {
+
+class Credits : public PagesTest {
+ protected:
+  void open_credits() { open("creatorsController"); }
+  /// The header cell of that class.
+  UIView author(const char* class_name) const { return cell_in(window, objc_getClass(class_name)); }
+  static UIView cell_in(UIView top, objc::Class cls) {
+    if (top.isKindOfClass(cls)) return top;
+    for (const UIView part : top.subviews().of<UIView>()) {
+      if (const UIView found = cell_in(part, cls)) return found;
+    }
+    return nil;
+  }
+  UIViewController presented() const {
+    return page.presentedViewController() ? page.presentedViewController()
+                                          : stack.presentedViewController();
+  }
+  void open_card(const char* class_name) {
+    open_credits();
+    cell = author(class_name);
+    ASSERT_TRUE(cell);
+    tap_middle(cell);
+    card = presented();
+    ASSERT_TRUE(card);
+  }
+  /// What stands on the tiles of the card's strips, in their order.
+  std::vector<std::string> tiles() const {
+    std::vector<std::string> names;
+    for (const UIView part : card.view().subviews().of<UIView>()) {
+      if (!part.isKindOfClass(UIScrollView::cls())) continue;
+      for (const UIView tile : part.subviews().of<UIView>()) {
+        const auto label = objc::cast<UILabel>(tile.subviews().lastObject());
+        if (label.isKindOfClass(UILabel::cls())) names.emplace_back(label.text().UTF8String());
+      }
+    }
+    return names;
+  }
+
+  UIView cell;
+  UIViewController card;
+};
+
+TEST_F(Credits, TwoAuthorsHaveARowEach) {
+  open_credits();
+  photograph("credits");
+  EXPECT_EQ(settings::where, page);
+  for (const char* class_name : {"developerCell", "designerCell"}) {
+    const UIView row = author(class_name);
+    ASSERT_TRUE(row) << class_name;
+    EXPECT_EQ(objc::cast<PSHeaderViewDelegate>(row).preferredHeightForWidth(320), 94);
+    const auto photo = objc::cast<UIImageView>(row.subviews().lastObject());
+    EXPECT_TRUE(photo.isKindOfClass(UIImageView::cls()));
+    EXPECT_EQ(row.backgroundColor(), UIColor::whiteColor());
+  }
+  EXPECT_TRUE(find(author("developerCell"), "Developer"));
+  EXPECT_TRUE(find(author("designerCell"), "Designer"));
+}
+
+TEST_F(Credits, TheDevelopersCardHasFourPackagesAndThreeContacts) {
+  open_card("developerCell");
+  photograph("credits-developer");
+  EXPECT_THAT(tiles(), testing::ElementsAre("Tidepool", "Nightshelf", "Lanterns", "Sonavue",
+                                            "Message", "Mail", "Follow"));
+}
+
+TEST_F(Credits, TheDesignersCardHasThreePackages) {
+  open_card("designerCell");
+  photograph("credits-designer");
+  EXPECT_THAT(tiles(), testing::ElementsAre("Fernglyphs", "Paperdock", "Sonavue", "Message", "Mail",
+                                            "Follow"));
+}
+
+TEST_F(Credits, TilesStandInARow) {
+  open_card("developerCell");
+  const UIView strip = UIView::alloc().initWithFrame({0, 0, 300, 130}).autorelease();
+  for (int i = 0; i < 3; ++i) {
+    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, strip, "Tile"_ns, "/none.png"_ns,
+                 "Sonavue"_sel);
+  }
+  for (NSUInteger k = 0; k < 3; ++k) {
+    const auto tile = objc::cast<UIView>(strip.subviews().objectAtIndex(k));
+    EXPECT_EQ(tile.frame(), (CGRect{15.0 + 90 * static_cast<CGFloat>(k), 10, 90, 110}));
+    EXPECT_EQ(objc::cast<UIView>(tile.subviews().objectAtIndex(0)).frame(),
+              (CGRect{10, 10, 70, 70}));
+    const auto tap = objc::cast<UITapGestureRecognizer>(tile.gestureRecognizers().firstObject());
+    EXPECT_TRUE(tap.cancelsTouchesInView());
+  }
+}
+
+TEST_F(Credits, CloseClosesTheCard) {
+  open_card("developerCell");
+  ASSERT_TRUE(tap_text("Close"));
+  advance(1);
+  EXPECT_FALSE(presented());
+}
+
+TEST_F(Credits, APackageWithoutAManagerOnlyClosesTheCard) {
+  open_card("developerCell");
+  ASSERT_TRUE(tap_text("Tidepool"));
+  advance(1);
+  EXPECT_FALSE(presented());
+  EXPECT_FALSE(fs::exists(device / "var/mobile/Library/Outbox"));
+}
+
+TEST_F(Credits, FollowOpensTheWebWhereNoReaderIs) {
+  open_card("developerCell");
+  ASSERT_TRUE(tap_text("Follow"));
+  advance(1);
+  EXPECT_FALSE(presented());
+  std::string sent;
+  for (const auto& entry : fs::directory_iterator(device / "var/mobile/Library/Outbox")) {
+    std::ifstream file(entry.path());
+    sent.append(std::istreambuf_iterator<char>(file), {});
+  }
+  EXPECT_THAT(sent, testing::HasSubstr("/intent/follow?screen_name=plumcode"));
+}
+
+TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
+  open_card("designerCell");
+  ASSERT_TRUE(tap_text("Mail"));
+  advance(1);
+  const auto composer = objc::cast<MFMailComposeViewController>(card.presentedViewController());
+  ASSERT_TRUE(composer.isKindOfClass(MFMailComposeViewController::cls()));
+  photograph("credits-mail");
+  EXPECT_EQ(composer.mailComposeDelegate(), objc::Object(cell));
+  objc::send<>(cell, "mailComposeController:didFinishWithResult:error:"_sel, composer,
+               MFMailComposeResultCancelled, objc::Object());
+  advance(3);
+  EXPECT_FALSE(presented());
+}
+
+TEST_F(Credits, AMessageIsWrittenOverTheCard) {
+  open_card("developerCell");
+  ASSERT_TRUE(tap_text("Message"));
+  advance(1);
+  photograph("credits-message");
+  EXPECT_TRUE(card.presentedViewController());
+}
+
+}  // namespace
+}  // namespace sonavue::test

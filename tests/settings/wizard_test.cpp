@@ -1,0 +1,263 @@
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UIPageControl.h"
+#include "platform/UIKit/UIPageViewController.h"
+#include "platform/UIKit/UIPickerView.h"
+#include "settings/pane/style_page.h"
+#include "tests/settings/pages_test.h"
+
+namespace sonavue::test {
+namespace {
+
+/// The wizard over the style page, on a screen of 375 by 667 points.
+class WizardPages : public PagesTest {
+ protected:
+  WizardPages() { write_dictionary(preferences(), switch_entry("firstBoot", true)); }
+
+  void start() {
+    open("styleController");
+    tap_row("Guided setup");
+    main = page.presentedViewController() ? page.presentedViewController()
+                                          : stack.presentedViewController();
+    ASSERT_TRUE(main);
+    welcome = objc::cast<UIView>(main.view().subviews().objectAtIndex(0));
+  }
+  /// Drags the welcome page by so many points, and rests there.
+  void drag_welcome(CGFloat distance) {
+    const CGPoint from = {150, 400};
+    press(from);
+    advance(0.05);
+    move({from.x + 12, from.y});
+    began = from.x + 12;
+    glide({began, from.y}, {began + distance, from.y}, 0.3);
+    advance(0.2);
+  }
+  void let_go(CGFloat distance) {
+    lift({began + distance, 400});
+    advance(1);
+  }
+  void start_questions() {
+    start();
+    drag_welcome(200);
+    let_go(200);
+    advance(2);
+    questions = objc::cast<UIPageViewController>(objc::send<objc::Object>(
+        objc::cast<UIView>(main.view().subviews().lastObject()), "nextResponder"_sel));
+    ASSERT_TRUE(questions.isKindOfClass(UIPageViewController::cls()));
+  }
+  UIViewController shown_page() const {
+    return objc::cast<UIViewController>(questions.viewControllers().firstObject());
+  }
+  void swipe(CGFloat distance) {
+    const CGPoint from = {distance < 0 ? 330.0 : 40.0, 250};
+    press(from);
+    glide(from, {from.x + distance, from.y}, 0.15);
+    lift({from.x + distance, from.y});
+    advance(1.5);
+  }
+  void next_page() { swipe(-280); }
+  template <class T>
+  T part(const char* class_name) const {
+    for (const UIView each : shown_page().view().subviews().of<UIView>()) {
+      if (each.isKindOfClass(objc_getClass(class_name))) return objc::cast<T>(each);
+    }
+    return T();
+  }
+
+  UIViewController main;
+  UIView welcome;
+  UIPageViewController questions;
+  CGFloat began = 0;
+};
+
+TEST_F(WizardPages, TheWelcomePageIsLaidOutForTheScreen) {
+  start();
+  EXPECT_EQ(welcome.frame(), kScreen);
+  const NSArray parts = welcome.subviews();
+  ASSERT_EQ(parts.count(), 16u);
+  const auto frame = [&](NSUInteger index) {
+    return objc::cast<UIView>(parts.objectAtIndex(index)).frame();
+  };
+  EXPECT_EQ(frame(0), (CGRect{(375.0 - 130) / 2, 50, 130, 130}));
+  EXPECT_EQ(frame(1), (CGRect{0, 205, 375, 50}));
+  EXPECT_EQ(frame(2), (CGRect{15, 235, 345, 667.0 / 2}));
+  EXPECT_EQ(frame(3), (CGRect{65, 587, 20, 70}));
+  const CGFloat kerning[] = {5, -3, -10, -10, -1, 4, -8, 5, -3, -2, -8, -2};
+  CGFloat x = 85;
+  for (NSUInteger letter = 0; letter < 12; ++letter) {
+    x += kerning[letter];
+    EXPECT_EQ(frame(4 + letter), (CGRect{x, 602, 15, 50})) << letter;
+    x += 15;
+  }
+}
+
+TEST_F(WizardPages, TheHintFadesLetterByLetterAndAgain) {
+  start();
+  // The wave began with the tap on the row, a second ago.
+  const auto alpha = [&](NSUInteger part) {
+    return objc::cast<UIView>(welcome.subviews().objectAtIndex(3 + part))
+        .layer()
+        .presentationLayer()
+        .opacity();
+  };
+  const auto faintest = [&](NSUInteger part) {
+    float lowest = 1;
+    for (int i = 0; i < 60; ++i) {
+      advance(0.05);
+      lowest = std::min(lowest, alpha(part));
+    }
+    return lowest;
+  };
+  EXPECT_LT(faintest(0), 0.1f);
+  EXPECT_LT(faintest(12), 0.1f);
+  EXPECT_LT(faintest(5), 0.1f) << "the wave comes again";
+}
+
+TEST_F(WizardPages, LessThanAQuarterSpringsBack) {
+  start();
+  drag_welcome(375.0 / 4 - 0.5);
+  EXPECT_NEAR(welcome.frame().origin.x, 375.0 / 4 - 0.5, 1e-6);
+  let_go(375.0 / 4 - 0.5);
+  EXPECT_EQ(welcome.frame().origin.x, 0);
+  EXPECT_EQ(main.view().subviews().count(), 1u);
+}
+
+TEST_F(WizardPages, AQuarterIsEnough) {
+  start();
+  drag_welcome(375.0 / 4);
+  let_go(375.0 / 4);
+  EXPECT_EQ(welcome.frame().origin.x, 375);
+  EXPECT_EQ(main.view().subviews().count(), 2u);
+}
+
+TEST_F(WizardPages, APullToTheLeftIsStiff) {
+  start();
+  drag_welcome(-90);
+  EXPECT_NEAR(welcome.frame().origin.x, -30, 1e-6);
+  let_go(-90);
+  EXPECT_EQ(welcome.frame().origin.x, 0);
+}
+
+TEST_F(WizardPages, EveryQuestionWritesItsOwnKey) {
+  start_questions();
+  const char* const switches[] = {"enable", "cloud", "cover", "square", "legibility"};
+  for (const char* key : switches) {
+    write_dictionary(preferences(), switch_entry("checked", true));
+    const UIView row = part<UIView>("Switcher");
+    ASSERT_TRUE(row) << key;
+    EXPECT_EQ(row.frame().origin.y, 0.75 * 667);
+    tap_middle(row);
+    EXPECT_THAT(stored(), testing::HasSubstr(std::string(key) + " = 1"));
+    EXPECT_THAT(stored(), testing::HasSubstr("checked = 0"));
+    photograph(std::string("wizard-") + key);
+    next_page();
+  }
+  EXPECT_TRUE(part<UIView>("Linker"));
+  photograph("wizard-gesture-question");
+  next_page();
+  const char* const wheels[] = {"blur", "play", "tint", "font_tint"};
+  const char* const second[] = {"light", "time", "white", "white"};
+  for (int wheel = 0; wheel < 4; ++wheel) {
+    write_dictionary(preferences(), "");
+    const auto picker = part<UIPickerView>("UIPickerView");
+    ASSERT_TRUE(picker) << wheels[wheel];
+    EXPECT_EQ(picker.selectedRowInComponent(0), 0);
+    EXPECT_EQ(stored(), "") << "nothing is written before the wheel turns";
+    const objc::Object answers = picker.delegate();
+    objc::send<>(answers, "pickerView:didSelectRow:inComponent:"_sel, picker, NSInteger{1},
+                 NSInteger{0});
+    EXPECT_THAT(stored(), testing::HasSubstr(std::string(wheels[wheel]) + " = " + second[wheel]));
+    photograph(std::string("wizard-wheel-") + wheels[wheel]);
+    next_page();
+  }
+  EXPECT_TRUE(find(shown_page().view(), "Tutorial"));
+  photograph("wizard-ready");
+  next_page();
+  EXPECT_TRUE(find(shown_page().view(), "Tutorial")) << "there is no page behind the last one";
+}
+
+TEST_F(WizardPages, WheelsOfferTheTextsOfTheirTables) {
+  start_questions();
+  const auto rows = [&](NSUInteger page_index) {
+    objc::Object controller = questions.viewControllers().firstObject();
+    for (NSUInteger i = 0; i < page_index; ++i)
+      next_page();
+    controller = shown_page();
+    return part<UIPickerView>("UIPickerView").numberOfRowsInComponent(0);
+  };
+  EXPECT_EQ(rows(6), 13);
+  EXPECT_EQ(rows(1), 2);
+  EXPECT_EQ(rows(1), 12);
+  const auto picker = part<UIPickerView>("UIPickerView");
+  const auto title =
+      objc::send<NSString>(picker.delegate(), "pickerView:titleForRow:forComponent:"_sel, picker,
+                           NSInteger{7}, NSInteger{0});
+  EXPECT_STREQ(title.UTF8String(), "Magenta");
+  EXPECT_EQ(rows(1), 12);
+}
+
+TEST_F(WizardPages, TheTenthBlurIsTheHalfLightOne) {
+  start_questions();
+  const UIPickerView picker = UIPickerView::alloc().init().autorelease();
+  objc::send<>(page, "pickerView:didSelectRow:inComponent:"_sel, picker, NSInteger{9},
+               NSInteger{0});
+  EXPECT_EQ(stored(), "blur = semi_light, checked = 0, firstBoot = 1");
+}
+
+TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
+  start_questions();
+  const auto count = [&] {
+    return objc::send<NSInteger>(page, "presentationCountForPageViewController:"_sel, questions);
+  };
+  EXPECT_EQ(count(), 11);
+  objc::send<>(page, "showActivatorPage"_sel);
+  advance(1.5);
+  EXPECT_EQ(count(), 12);
+  EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
+  photograph("wizard-gesture-page");
+  next_page();
+  EXPECT_TRUE(part<UIView>("Linker")) << "the question stands behind it now";
+  objc::send<>(page, "showActivatorPage"_sel);
+  advance(1.5);
+  EXPECT_EQ(count(), 12);
+  EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
+}
+
+TEST_F(WizardPages, TheDotsAreHiddenAlthoughTheyAreCounted) {
+  start_questions();
+  int dots = 0;
+  for (const UIView each : questions.view().subviews().of<UIView>()) {
+    if (!each.isKindOfClass(UIPageControl::cls())) continue;
+    ++dots;
+    EXPECT_TRUE(each.isHidden());
+  }
+  EXPECT_EQ(dots, 1);
+}
+
+TEST_F(WizardPages, TheTutorialEndsTheWizard) {
+  start_questions();
+  objc::send<>(page, "showTutorial"_sel);
+  advance(3);
+  for (int number = 0; number < 4; ++number) {
+    photograph("wizard-tutorial-" + std::to_string(number));
+    if (number < 3) next_page();
+  }
+  ASSERT_TRUE(find(shown_page().view(), "Done"));
+  tap_text("Done");
+  advance(2);
+  EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());
+  EXPECT_EQ(stored(), "firstBoot = 1");
+}
+
+TEST_F(WizardPages, ItCanBeginAgainAfterItsEnd) {
+  start_questions();
+  objc::send<>(page, "dismissIntro"_sel);
+  advance(2);
+  tap_row("Guided setup");
+  const UIViewController again = page.presentedViewController() ? page.presentedViewController()
+                                                                : stack.presentedViewController();
+  ASSERT_TRUE(again);
+  EXPECT_TRUE(find(again.view(), "Sonavue"));
+}
+
+}  // namespace
+}  // namespace sonavue::test
