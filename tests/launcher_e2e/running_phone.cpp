@@ -45,14 +45,16 @@ void suffer(Hardship hardship) {
 }
 
 /// A process as the system lists it: `number (name) state parent …`.
-bool is_home_screen_of(pid_t launcher, const std::filesystem::path& listed) {
+bool is_child_of(pid_t launcher, std::string_view program, const std::filesystem::path& listed) {
   std::string text;
   std::getline(std::ifstream(listed / "stat"), text);
-  const auto name = text.find("(SpringBoard) ");
+  const std::string wanted = "(" + std::string(program) + ") ";
+  const auto name = text.find(wanted);
   if (name == text.npos) return false;
-  const char state = text[name + 14];
+  const auto behind = name + wanted.size();
+  const char state = text[behind];
   pid_t parent = 0;
-  std::from_chars(text.data() + name + 16, text.data() + text.size(), parent);
+  std::from_chars(text.data() + behind + 2, text.data() + text.size(), parent);
   return parent == launcher && state != 'Z';
 }
 
@@ -142,13 +144,13 @@ int RunningPhone::wait_for_end() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-pid_t RunningPhone::home_screen() const {
+pid_t RunningPhone::child(std::string_view program) const {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator("/proc", error)) {
     const std::string name = entry.path().filename();
     pid_t number = 0;
     std::from_chars(name.data(), name.data() + name.size(), number);
-    if (number > 0 && is_home_screen_of(launcher_, entry.path())) return number;
+    if (number > 0 && is_child_of(launcher_, program, entry.path())) return number;
   }
   return 0;
 }

@@ -37,8 +37,9 @@ class RunningPhone {
   /// The status that the launcher ended with; -1 when it did not end, or not by itself.
   int wait_for_end();
 
-  /// The process of the home screen; 0 when there is none at this moment.
-  pid_t home_screen() const;
+  /// The phone's process with this program; 0 when there is none at this moment.
+  pid_t child(std::string_view program) const;
+  pid_t home_screen() const { return child("SpringBoard"); }
   /// The process that takes the place of `before`; 0 when none came. Begin with 0.
   pid_t wait_for_home_screen_after(pid_t before);
 

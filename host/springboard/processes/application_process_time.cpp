@@ -24,8 +24,7 @@ void ApplicationProcess::catch_up_soon() {
   });
 }
 
-// One question and one answer for all that the application does until it next has something to do:
-// a phone at rest asks nothing.
+// One question and one answer for all that the application does until it next has something to do.
 void ApplicationProcess::catch_up() {
   catches_up_soon_ = false;
   const double now = loop_.now();
@@ -33,7 +32,9 @@ void ApplicationProcess::catch_up() {
   write(TimeIs{now});
   const auto has_reached = [this, now] { return reached_ && *reached_ >= now; };
   if (!read_until(has_reached)) return;
-  wait_for_due(std::max(next_due_, now + kLeastStep));
+  const double due = std::max(next_due_, now + kLeastStep);
+  // Whoever is in front is asked even when nothing is due: it may hang.
+  wait_for_due(is_in_front_ ? std::min(due, now + kAskEvery) : due);
 }
 
 void ApplicationProcess::wait_for_due(double due) {

@@ -1,0 +1,34 @@
+#include "host/launcher/control_request.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace host::launcher;
+using Kind = ControlRequest::Kind;
+
+TEST(ControlRequests, AreReadAsTheyWereWritten) {
+  for (const ControlRequest& request :
+       {ControlRequest{}, ControlRequest{Kind::Open, "com.apple.Music", "Music"},
+        ControlRequest{Kind::Close, "com.apple.Music", {}}})
+    EXPECT_EQ(read_request(line_of(request)), request);
+}
+
+TEST(ControlRequests, AreTheWholeLineAndNothingElse) {
+  for (const char* line :
+       {"", "\n", "restart SpringBoard", "restart\n", "restart SpringBoard now\n", "open\n",
+        "open com.apple.Music\n", "open com.apple.Music Music more\n", "close\n",
+        "close com.apple.Music Music\n", "shut com.apple.Music\n", "open  com.apple.Music Music\n"})
+    EXPECT_EQ(read_request(line), std::nullopt) << line;
+}
+
+TEST(ControlRequests, NameNoFileOutsideTheirFolders) {
+  for (const std::string name : {"../Music", "/bin/sh", "..", ".hidden", "a/b", "a b", "a\nb", "ü",
+                                 std::string(65, 'a').c_str()}) {
+    EXPECT_EQ(read_request("open com.apple.Music " + name + "\n"), std::nullopt) << name;
+    EXPECT_EQ(read_request("open " + name + " Music\n"), std::nullopt) << name;
+    EXPECT_EQ(read_request("close " + name + "\n"), std::nullopt) << name;
+  }
+}
+
+}  // namespace
