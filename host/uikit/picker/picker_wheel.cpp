@@ -79,7 +79,6 @@ WheelGeometry PickerWheel::geometry() const {
 void PickerWheel::choose(NSInteger row, bool animated) {
   if (rows_.count == 0) return;
   chosen_ = std::clamp<NSInteger>(row, 0, rows_.count - 1);
-  turned_by_finger_ = false;
   self.setContentOffset({0, offset_of(chosen_)}, animated ? YES : NO);
 }
 
@@ -127,7 +126,6 @@ void PickerWheel::place(UILabel label, double distance) const {
 }
 
 void PickerWheel::will_end_dragging(UIScrollView, CGPoint, CGPoint* target) {
-  turned_by_finger_ = true;
   target->y = offset_of(row_near(target->y));
 }
 
@@ -143,12 +141,12 @@ void PickerWheel::did_end_animation(UIScrollView) {
   settle();
 }
 
+// What the program chooses is known from the first: any other row is a finger's doing.
 void PickerWheel::settle() {
-  const bool by_finger = std::exchange(turned_by_finger_, false);
   const NSInteger row = row_near(self.contentOffset().y);
   if (rows_.count == 0 || row == chosen_) return;
   chosen_ = row;
-  if (by_finger && on_choice_) on_choice_(row);
+  if (on_choice_) on_choice_(row);
 }
 
 void PickerWheel::tapped(UITapGestureRecognizer tap) {
@@ -157,7 +155,6 @@ void PickerWheel::tapped(UITapGestureRecognizer tap) {
   const double distance = geometry().distance_at(tap.locationInView(self).y - middle);
   const auto row = static_cast<NSInteger>(std::floor((middle + distance) / kPickerRow));
   if (row < 0 || row >= rows_.count || row == chosen_) return;
-  turned_by_finger_ = true;
   self.setContentOffset({0, offset_of(row)}, YES);
 }
 

@@ -56,7 +56,6 @@ class PickerWheel : public objc::Implementation<PickerWheel, UIPickerWheel> {
   std::function<void(NSInteger)> on_choice_;
   std::map<NSInteger, objc::Ref<UILabel>> labels_;
   NSInteger chosen_ = 0;
-  bool turned_by_finger_ = false;
 };
 
 inline constexpr CGFloat kPickerRow = 32;

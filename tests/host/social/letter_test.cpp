@@ -27,6 +27,10 @@ class PretendedRegistry {
     std::ofstream(script) << "#!/bin/sh\n[ \"$*\" = 'query default " << known
                           << "' ] && echo some.desktop\nexit 0\n";
     chmod(script.c_str(), 0700);
+    // An opener that would take everything.
+    const std::string opener = folder_ / "xdg-open";
+    std::ofstream(opener) << "#!/bin/sh\nexit 0\n";
+    chmod(opener.c_str(), 0700);
   }
 
  private:
@@ -91,6 +95,13 @@ TEST_F(Letters, TheDesktopIsAskedWhoseAddressesItKnows) {
   EXPECT_FALSE(can_open_address("unknown://anything"));
   EXPECT_FALSE(open_address("unknown://anything"));
   EXPECT_TRUE(can_open_address("https://example.org/"));
+}
+
+TEST_F(Letters, TheDesktopIsNotAskedAboutWhatIsNoAddress) {
+  const PretendedRegistry registry("x-scheme-handler/");
+  configure_desktop(Desktop::Present);
+  for (const char* address : {"", ":x", "no address", "/usr/bin/x", "--help:x"})
+    EXPECT_FALSE(can_open_address(address)) << address;
 }
 
 TEST_F(Letters, WithoutADesktopOnlyTheWebLettersAndTextsAreOpened) {

@@ -80,6 +80,19 @@ TEST_F(AlertTest, AButtonTellsWhichAndTakesItDown) {
   EXPECT_EQ(uikit::visible_windows().size(), 1u);
 }
 
+TEST_F(AlertTest, OfTwoFingersOnItsButtonsTheFirstThatLiftsDecides) {
+  const auto alert = show({"Yes"});
+  const CGPoint no = middle_of_button(alert, 0);
+  const CGPoint yes = middle_of_button(alert, 1);
+  press(no, 0);
+  press(yes, 1);
+  advance(0.05);
+  lift(yes, 1);
+  lift(no, 0);
+  advance(1);
+  EXPECT_EQ(told(), (Events{"clicked 1", "dismissed 1"}));
+}
+
 TEST_F(AlertTest, WhatIsBehindTakesNoTouches) {
   const auto alert = show({"Yes"});
   tap({20, 100});

@@ -1,3 +1,5 @@
+#include <map>
+
 #include "platform/UIKit/UIPickerView.h"
 #include "tests/host/uikit_navigation/page_test.h"
 
@@ -48,6 +50,8 @@ class PickerTest : public PageTest {
     picker.removeFromSuperview();
   }
 
+  UIScrollView wheel() const { return objc::cast<UIScrollView>(picker.subviews().firstObject()); }
+
   objc::Ref<TestPickerRows> rows;
   UIPickerView picker;
   const CGPoint middle{187, 408};
@@ -72,19 +76,20 @@ TEST_F(PickerTest, AFingerTurnsTheWheelWhichRestsOnARowAndTellsItOnce) {
   advance(2);
   const NSInteger row = picker.selectedRowInComponent(0);
   EXPECT_EQ(row, 3);
+  EXPECT_NEAR(wheel().contentOffset().y, 3 * 32 - 92, 0.01) << "exactly in the middle";
   EXPECT_EQ(told(), Events{"row 3 of 0"});
   photograph("picker", clock.now());
 }
 
 TEST_F(PickerTest, AFlingRunsOnAndStopsExactlyOnARow) {
   press(middle);
-  glide(middle, {187, 340}, 0.05);
-  lift({187, 340});
+  glide(middle, {187, 380}, 0.06);
+  lift({187, 380});
   advance(4);
   const NSInteger row = picker.selectedRowInComponent(0);
   EXPECT_GT(row, 3);
-  const auto wheel = objc::cast<UIScrollView>(picker.subviews().firstObject());
-  EXPECT_NEAR(wheel.contentOffset().y, 32.0 * static_cast<double>(row) - 92, 0.01);
+  EXPECT_LT(row, 12) << "not by the wheel's end";
+  EXPECT_NEAR(wheel().contentOffset().y, 32.0 * static_cast<double>(row) - 92, 0.01);
   EXPECT_EQ(told(), Events{"row " + std::to_string(row) + " of 0"});
 }
 
@@ -99,6 +104,26 @@ TEST_F(PickerTest, ATapBringsARowToTheMiddle) {
   tap({187, 408 - 95});
   advance(1);
   EXPECT_EQ(told(), Events{}) << "there is no row";
+}
+
+TEST_F(PickerTest, RowsLieOnARimThatTurnsAway) {
+  picker.selectRow(5, 0, NO);
+  advance(0.1);
+  std::map<std::string, CGFloat> heights;
+  for (const UIView part : wheel().subviews().of<UIView>()) {
+    if (!part.isKindOfClass(UILabel::cls())) continue;
+    heights[objc::cast<UILabel>(part).text().UTF8String()] =
+        part.convertPointToView({0, part.bounds().size.height / 2}, nil).y;
+  }
+  const CGFloat near = heights["Row 6"] - heights["Row 5"];
+  const CGFloat far = heights["Row 8"] - heights["Row 7"];
+  EXPECT_NEAR(heights["Row 5"], 408, 0.5);
+  EXPECT_NEAR(near, 32, 1);
+  EXPECT_GT(far, 5);
+  EXPECT_LT(far, near - 4) << "foreshortened";
+  tap({187, heights["Row 8"]});
+  advance(1);
+  EXPECT_EQ(picker.selectedRowInComponent(0), 8) << "what is seen there is what is touched";
 }
 
 TEST_F(PickerTest, TheProgramTurnsItWithoutBeingTold) {
