@@ -120,10 +120,16 @@ void RunningPhone::close_input() {
 }
 
 std::string RunningPhone::ask(std::string_view line) {
+  return say(line) ? next_answer() : "(nobody listens)";
+}
+
+bool RunningPhone::say(std::string_view line) {
   const std::string sent = std::string(line) + "\n";
   signal(SIGPIPE, SIG_IGN);
-  if (write(input_, sent.data(), sent.size()) != static_cast<ssize_t>(sent.size()))
-    return "(nobody listens)";
+  return write(input_, sent.data(), sent.size()) == static_cast<ssize_t>(sent.size());
+}
+
+std::string RunningPhone::next_answer() {
   std::size_t end = 0;
   const bool came = pump_until([&] {
     end = output_.find('\n', answered_);

@@ -32,6 +32,9 @@ class RunningPhone {
 
   /// The console's answer to one line; needs `--console`.
   std::string ask(std::string_view line);
+  /// The same in two steps, for a phone that will not answer soon.
+  bool say(std::string_view line);
+  std::string next_answer();
   void close_input();
 
   /// The status that the launcher ended with; -1 when it did not end, or not by itself.
