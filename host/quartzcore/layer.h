@@ -89,7 +89,7 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   void run_action(const objc::Ref<objc::Object>& action, NSString key) const;
 
   /// Adds an animation without an object; it takes the place of one with the same key.
-  void run(RunningAnimation animation);
+  void run(RunningAnimation&& animation);
 
   // For the service.
   void advance_animations(double now);
@@ -205,7 +205,7 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   bool is_custom_drawn() const;
   std::vector<const Layer*> children_in_order() const;
   void make_child_index() const;
-  void take(RunningAnimation animation);
+  void take(RunningAnimation&& animation);
   static bool moves(const RunningAnimation& animation);
   bool may_move() const;
   CGRect reach() const;

@@ -28,15 +28,20 @@ objc::Object listener_of(const RunningAnimation& animation) {
   return animation.object ? animation.object->delegate() : animation.listener.get();
 }
 
+bool hears_of_start(const RunningAnimation& animation) {
+  return animation.object && answers(animation.object->delegate(), "animationDidStart:"_sel);
+}
+
 void tell_start(const RunningAnimation& animation) {
   const objc::Object listener = listener_of(animation);
   if (answers(listener, "animationDidStart:"_sel))
     objc::send<>(listener, "animationDidStart:"_sel, animation.object.get());
 }
 
-/// `listener` hears of the end of `animation`, which is null where there was no object.
+/// `listener` hears of the end of `animation`, which is null where there was no object: it is one
+/// of ours then, and answers.
 void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
-  if (answers(listener, "animationDidStop:finished:"_sel))
+  if (!animation || answers(listener, "animationDidStop:finished:"_sel))
     objc::send<>(listener, "animationDidStop:finished:"_sel, animation.get(), finished);
 }
 
@@ -106,13 +111,13 @@ void Layer::add_animation(CAAnimation animation, NSString key) {
   take(std::move(running));
 }
 
-void Layer::run(RunningAnimation animation) {
+void Layer::run(RunningAnimation&& animation) {
   if (!animations_.empty())
     self.removeAnimationForKey(NSString::stringWithUTF8String(animation.key.c_str()));
   take(std::move(animation));
 }
 
-void Layer::take(RunningAnimation animation) {
+void Layer::take(RunningAnimation&& animation) {
   animation.group = current_group();
   animations_.push_back(std::move(animation));
   if (may_move()) forget_reach();
@@ -144,7 +149,7 @@ void Layer::announce_started_animations() {
   for (RunningAnimation& animation : animations_) {
     if (animation.has_started || animation.begin > now()) continue;
     animation.has_started = true;
-    if (answers(listener_of(animation), "animationDidStart:"_sel)) started.push_back(animation);
+    if (hears_of_start(animation)) started.push_back(animation);
   }
   for (const RunningAnimation& animation : started)
     tell_start(animation);

@@ -25,18 +25,19 @@ std::optional<double> element(const std::vector<double>& numbers, std::size_t in
   return numbers[index];
 }
 
-void take_values(RunningAnimation& running, const AnimationDescription& from) {
-  running.from = value_from_object(from.from.get());
-  running.to = value_from_object(from.to.get());
-  running.by = value_from_object(from.by.get());
-  if (!from.values) return;
+std::shared_ptr<const AnimatedValues> values_of(const AnimationDescription& from) {
+  auto made = std::make_shared<AnimatedValues>();
+  made->from = value_from_object(from.from.get());
+  made->to = value_from_object(from.to.get());
+  made->by = value_from_object(from.by.get());
+  if (!from.values) return made;
   for (objc::Object value : from.values->of()) {
-    if (const auto read = value_from_object(value)) running.values.push_back(*read);
+    if (const auto read = value_from_object(value)) made->row.push_back(*read);
   }
-  if (!from.key_times) return;
+  if (!from.key_times) return made;
   if (const auto times = value_from_object(from.key_times.get()))
-    if (const auto* numbers = std::get_if<std::vector<double>>(&*times))
-      running.key_times = *numbers;
+    if (const auto* numbers = std::get_if<std::vector<double>>(&*times)) made->key_times = *numbers;
+  return made;
 }
 
 }  // namespace
@@ -62,7 +63,7 @@ RunningAnimation prepare_animation(objc::Ref<CAAnimation> animation, std::string
   running.additive = from.additive;
   running.cumulative = from.cumulative;
   running.curve = curve_of(from.timing_function.get());
-  take_values(running, from);
+  running.values = values_of(from);
   running.object = std::move(animation);
   return running;
 }
@@ -71,8 +72,9 @@ CAAnimation make_animation_object(const RunningAnimation& running) {
   const CABasicAnimation made = CABasicAnimation::animationWithKeyPath(
       NSString::stringWithUTF8String(running.key_path.c_str()));
   AnimationDescription& description = objc::state_of<Animation>(made).description;
-  if (running.from) description.from.reset(object_from_value(*running.from));
-  if (running.to) description.to.reset(object_from_value(*running.to));
+  const auto& [from, to, by, row, key_times] = *running.values;
+  if (from) description.from.reset(object_from_value(*from));
+  if (to) description.to.reset(object_from_value(*to));
   description.begin_time = running.begin;
   description.duration = running.duration;
   description.repeat_count = static_cast<float>(running.repeat_count);
@@ -116,11 +118,12 @@ Value RunningAnimation::evaluate(double now, const Value& underlying) const {
 }
 
 Value RunningAnimation::at_fraction(double fraction, const Value& underlying) const {
+  const auto& [from, to, by, row, key_times] = *values;
   const auto shaped = [&](const Value& value) {
     return shaped_like(underlying, value).value_or(underlying);
   };
-  if (!values.empty()) {
-    const std::size_t last = values.size() - 1;
+  if (!row.empty()) {
+    const std::size_t last = row.size() - 1;
     const auto time_of = [&](std::size_t i) {
       return element(key_times, i)
           .value_or(last == 0 ? 0 : static_cast<double>(i) / static_cast<double>(last));
@@ -128,11 +131,11 @@ Value RunningAnimation::at_fraction(double fraction, const Value& underlying) co
     std::size_t next = 1;
     while (next < last && time_of(next) <= fraction)
       ++next;
-    if (last == 0) return shaped(values[0]);
+    if (last == 0) return shaped(row[0]);
     const double start = time_of(next - 1);
     const double length = time_of(next) - start;
     const double part = length <= 0 ? 1 : std::clamp((fraction - start) / length, 0.0, 1.0);
-    return interpolate(shaped(values[next - 1]), shaped(values[next]), part);
+    return interpolate(shaped(row[next - 1]), shaped(row[next]), part);
   }
   // An additive animation moves from or to no difference at all where one end is not given.
   const Value rest = additive ? subtract(underlying, underlying) : underlying;

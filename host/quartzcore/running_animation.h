@@ -18,14 +18,22 @@ inline constexpr double kTimeTolerance = 1e-9;
 class TransactionGroup;
 class Animation;
 
-/// An animation that a layer has taken, made ready for evaluation at any time without a message.
+/// What an animation moves between: two ends, or a row of values each at its time.
+struct AnimatedValues {
+  std::optional<Value> from, to, by;
+  std::vector<Value> row;
+  std::vector<double> key_times;
+};
+
+/// An animation that a layer has taken, made ready for evaluation at any time without a message. It
+/// is kept small: whole screens of layers are animated in one block.
 struct RunningAnimation {
   std::string key;
   std::string key_path;
   /// The layer's copy: what `animationForKey:` and the delegate's messages give. Null until
   /// somebody asks for it where the animation was not made from an object.
   objc::Ref<CAAnimation> object;
-  /// Hears of start and stop where there is no object.
+  /// Where there is no object: hears of the stop by `animationDidStop:finished:`, which it answers.
   objc::Ref<objc::Object> listener;
 
   double begin = 0;
@@ -42,9 +50,8 @@ struct RunningAnimation {
   bool cumulative = false;
   TimingCurve curve;
 
-  std::optional<Value> from, to, by;
-  std::vector<Value> values;
-  std::vector<double> key_times;
+  /// Never null.
+  std::shared_ptr<const AnimatedValues> values;
 
   bool has_started = false;
   bool has_stopped = false;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -28,7 +29,8 @@ struct UIViewAnimationAction
 
 // Geometry adds up, so that a change in the middle of a movement bends it instead of cutting it
 // off; everything else starts anew from its old value.
-using OldValue = std::variant<CGPoint, CGRect, CATransform3D, objc::Ref<objc::Object>, double>;
+using OldValue =
+    std::variant<CGPoint, CGRect, std::unique_ptr<CATransform3D>, objc::Ref<objc::Object>, double>;
 
 CGPoint scaled(CGPoint point, double by) {
   return {point.x * by, point.y * by};
@@ -43,6 +45,22 @@ objc::Object boxed(CGPoint point) {
 }
 objc::Object boxed(CGRect rect) {
   return CAValue::valueWithCGRect(rect);
+}
+
+/// What a fade moves between. Views that fade together mostly do so between the same two ends, and
+/// share them then.
+std::shared_ptr<const quartzcore::AnimatedValues> fade_between(double from, double to) {
+  static std::shared_ptr<const quartzcore::AnimatedValues> last;
+  const auto is_the_same = [&] {
+    return std::get<double>(*last->from) == from && std::get<double>(*last->to) == to;
+  };
+  if (!last || !is_the_same()) {
+    auto made = std::make_shared<quartzcore::AnimatedValues>();
+    made->from = from;
+    made->to = to;
+    last = std::move(made);
+  }
+  return last;
 }
 
 /// Does nobody hear of the animations that this layer is given?
@@ -119,8 +137,7 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
     if (from == to) return;
     quartzcore::RunningAnimation animation;
     animation.key = animation.key_path = "opacity";
-    animation.from = from;
-    animation.to = to;
+    animation.values = fade_between(from, to);
     animation.begin = RunLoop::main().now() + asked_.delay;
     animation.fills_backwards = asked_.delay > 0;
     animation.duration = asked_.duration;
@@ -150,8 +167,8 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
           CGRect(rect->origin.x - now.origin.x, rect->origin.y - now.origin.y,
                  rect->size.width - now.size.width, rect->size.height - now.size.height),
           asked_);
-    } else if (const auto* transform = std::get_if<CATransform3D>(&old_value_)) {
-      return make_transform_animation(layer, key, *transform);
+    } else if (const auto* transform = std::get_if<std::unique_ptr<CATransform3D>>(&old_value_)) {
+      return make_transform_animation(layer, key, **transform);
     } else if (const auto* opacity = std::get_if<double>(&old_value_)) {
       return make_replacing_animation(layer, key, NSNumber::numberWithDouble(*opacity));
     } else {
@@ -225,7 +242,7 @@ objc::Object make_animation_action(UIView view, CALayer layer, NSString key) {
   } else if (name == "bounds") {
     old_value = layer.bounds();
   } else if (name == "transform") {
-    old_value = layer.transform();
+    old_value = std::make_unique<CATransform3D>(layer.transform());
   } else if (name == "opacity" || name == "backgroundColor") {
     const bool from_screen = asked->has(UIViewAnimationOptionBeginFromCurrentState);
     const CALayer presented = from_screen ? layer.presentationLayer() : CALayer();
