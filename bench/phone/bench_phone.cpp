@@ -22,7 +22,6 @@ namespace {
 namespace fs = std::filesystem;
 using namespace host;
 
-constexpr const char* kDevice = "iPhone7,2";
 constexpr const char* kPreferences =
     "var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist";
 constexpr const char* kIndex = "var/mobile/Media/library.sqlite";
@@ -55,10 +54,10 @@ BenchPhone::BenchPhone(Pace pace, std::string_view preferences, const Music& mus
   }
   RunLoop::set_main(&loop_);
   foundation::set_device_root(root_);
-  set_current_device(*device_model(kDevice));
+  set_current_device(*device_model(kBenchDevice));
   layers_ = std::make_unique<quartzcore::LayerService>(loop_);
   launcher::ProcessOptions options;
-  options.device = kDevice;
+  options.device = kBenchDevice;
   options.root = root_;
   options.music = music.folders;
   options.headless = true;

@@ -31,6 +31,9 @@ class WatchedScreen final : public host::screen::Screen {
   int frames_ = 0;
 };
 
+/// The model that the phone is.
+inline constexpr const char* kBenchDevice = "iPhone7,2";
+
 enum class Pace {
   kStepped,
   kReal,
@@ -67,6 +70,8 @@ class BenchPhone {
   void live(double seconds);
   void touch(host::screen::TouchPhase phase, CGPoint point) { hands_.touch(kFinger, phase, point); }
 
+  /// Of the device's own files.
+  const std::filesystem::path& root() const { return root_; }
   const WatchedScreen& screen() const { return screen_; }
   const host::quartzcore::Compositor& compositor() const { return phone_screen_->compositor(); }
   /// A copy of what is on the screen, row by row without gaps.

@@ -24,20 +24,6 @@ SurfaceSize screen_size() {
   return {width, pixels(device.height), cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, width)};
 }
 
-/// The buffer's pixels as they are, without a copy; the memory stays as long as they are shown.
-quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memory, int buffer) {
-  using Owner = std::shared_ptr<const SharedSurface>;
-  static const cairo_user_data_key_t kOwner{};
-  const SurfaceSize& size = memory->size();
-  // Cairo has no surfaces that are only read; nothing draws on an image.
-  auto* pixels = const_cast<unsigned char*>(memory->buffer(buffer));
-  cairo_surface_t* made = cairo_image_surface_create_for_data(pixels, CAIRO_FORMAT_ARGB32,
-                                                              size.width, size.height, size.stride);
-  cairo_surface_set_user_data(made, &kOwner, new Owner(memory),
-                              [](void* owner) { delete static_cast<Owner*>(owner); });
-  return quartzcore::Surface::adopt(made);
-}
-
 }  // namespace
 
 ApplicationProcess::ApplicationProcess(Channel channel, Time time, Events events)
@@ -103,6 +89,8 @@ void ApplicationProcess::watch() {
 void ApplicationProcess::stop_watching() {
   if (watch_) loop_.unwatch(*watch_);
   watch_.reset();
+  if (screen_frames_) loop_.remove_frame_observer(*screen_frames_);
+  screen_frames_.reset();
   for (auto* timer : {&pause_, &due_, &questions_}) {
     if (*timer) loop_.remove_timer(**timer);
     timer->reset();
@@ -133,7 +121,7 @@ void ApplicationProcess::read() {
     if (!is_alive() || reading == Channel::Reading::Nothing) break;
   }
   is_reading_ = false;
-  show_new_frame();
+  new_frame_came();
   if (left == 0) read_on_next_frame();
 }
 
@@ -162,7 +150,7 @@ bool ApplicationProcess::read_until(const std::function<bool()>& came) {
       end(ProcessEnd::Garbage);
       break;
     }
-    show_new_frame();
+    new_frame_came();
     const double left = began + patience() - machine.now();
     if (left <= 0 || !wait_until_readable(channel_.descriptor(), left)) {
       end(ProcessEnd::NoAnswer);
@@ -172,7 +160,7 @@ bool ApplicationProcess::read_until(const std::function<bool()>& came) {
     if (channel_.read_into(bytes) == Channel::Reading::End) end(ProcessEnd::Ended);
     reader_.append(bytes);
   }
-  show_new_frame();
+  new_frame_came();
   return is_alive();
 }
 
@@ -187,19 +175,6 @@ void ApplicationProcess::take(const NewFrame& frame) {
     return;
   }
   new_frame_ = frame.buffer;
-}
-
-// Of several frames that came at once only the last can be seen, and an application that waits for
-// each to be taken never sends several.
-void ApplicationProcess::show_new_frame() {
-  if (!new_frame_ || !is_alive()) return;
-  const int buffer = *std::exchange(new_frame_, std::nullopt);
-  const CGImageRef made =
-      quartzcore::make_image(surface_on(surface_, buffer), quartzcore::Opacity::Opaque);
-  picture_ = objc::Ref<quartzcore::CGImageObject>::adopt(
-      objc::cast<quartzcore::CGImageObject>(quartzcore::object_of(made)));
-  if (events_.frame_came) events_.frame_came();
-  write(FrameTaken{});
 }
 
 void ApplicationProcess::take(const ReachedTime& reached) {

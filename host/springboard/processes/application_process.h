@@ -68,6 +68,10 @@ class ApplicationProcess {
 
   void take(const application::ToHome& message);
   void take(const application::NewFrame& frame);
+
+  // Pictures, of which the screen shows one a frame.
+  void new_frame_came();
+  void screen_frame();
   void show_new_frame();
   void take(const application::ReachedTime& reached);
   void take(const application::ConsoleAnswer& answer);
@@ -97,6 +101,8 @@ class ApplicationProcess {
   std::shared_ptr<const application::SharedSurface> surface_;
   objc::Ref<quartzcore::CGImageObject> picture_;
   std::optional<int> new_frame_;
+  std::optional<RunLoop::Id> screen_frames_;
+  int quiet_frames_ = 0;
   std::optional<RunLoop::Id> watch_;
   std::optional<RunLoop::Id> pause_;
   std::optional<RunLoop::Id> due_;

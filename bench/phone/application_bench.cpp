@@ -1,0 +1,114 @@
+#include <cmath>
+#include <cstdio>
+
+#include "bench/phone/frame_series.h"
+#include "host/launcher/installation.h"
+#include "host/launcher/running_applications.h"
+#include "host/launcher/unix_socket.h"
+#include "host/springboard/configuration.h"
+#include "host/springboard/processes/process_keeper.h"
+
+// What a frame of the banner costs the home screen while an application runs below it, at rest and
+// while its list glides, against a plain copy of one frame.
+
+namespace {
+
+using bench::BenchPhone;
+using bench::Series;
+using bench::Stopwatch;
+using host::screen::TouchPhase;
+
+constexpr int kRounds = 5;
+constexpr int kDragFrames = 60;
+constexpr CGFloat kDragStep = 6;
+/// Where the panel's top is while it hangs.
+constexpr CGFloat kHangs = -517;
+
+/// The applications of a phone that has no supervisor.
+class OwnPrograms final : public host::springboard::ProcessKeeper {
+ public:
+  explicit OwnPrograms(const std::filesystem::path& root)
+      : sockets_(root),
+        applications_({host::launcher::find_installation().home_screen.parent_path(), root},
+                      {{}, {"--device", bench::kBenchDevice, "--root", root}, {}}) {}
+
+  bool open(const std::string& bundle, const std::string& program) override {
+    return applications_.open(bundle, program);
+  }
+  void close(const std::string& bundle) override { applications_.close(bundle); }
+  host::application::Channel connect(const std::string& bundle) override {
+    return host::application::Channel(
+        host::launcher::connected_socket(host::launcher::application_socket(sockets_, bundle)));
+  }
+
+ private:
+  std::filesystem::path sockets_;
+  host::launcher::RunningApplications applications_;
+};
+
+enum class Below { kAtRest, kGliding };
+
+CGPoint middle_of(BenchPhone& phone, const char* view) {
+  CGPoint point;
+  const std::string text = phone.run(std::string("where ") + view);
+  bench::require(std::sscanf(text.c_str(), "{%lf, %lf}", &point.x, &point.y) == 2, text);
+  return point;
+}
+
+void fling_list(BenchPhone& phone, bool down) {
+  phone.run(down ? "drag 187 600 187 300 0.08" : "drag 187 300 187 600 0.08");
+}
+
+void drag_banner(BenchPhone& phone, Series& series, Below below, int round) {
+  Stopwatch watch(phone);
+  phone.run("print [Spring showBanner]");
+  phone.run("advance 1");
+  phone.run("expect isBanner == YES");
+  if (below == Below::kGliding) fling_list(phone, round % 2 == 0);
+  CGPoint finger = middle_of(phone, "grabs");
+  phone.touch(TouchPhase::Began, finger);
+  for (int i = 0; i < kDragFrames; ++i) {
+    finger.y += kDragStep;
+    watch.frame(series, [&] { phone.touch(TouchPhase::Moved, finger); });
+  }
+  double top = 0;
+  const auto frame = phone.run("print [window frame]");
+  bench::require(std::sscanf(frame.c_str(), "{{0, %lf}", &top) == 1, frame);
+  // Less what a finger moves before it is known to drag.
+  bench::require(std::abs(top - (kHangs + kDragFrames * kDragStep)) <= 2.5 * kDragStep,
+                 "the banner does not follow: " + frame);
+  phone.touch(TouchPhase::Ended, finger);
+  phone.run("advance 1");
+  phone.run("expect showed == YES");
+  phone.run("drag 187 657 187 300 0.3");
+  phone.run("advance 3");
+  phone.run("expect isBanner == NO");
+}
+
+void measure(BenchPhone& phone, Below below, const char* what) {
+  Series series;
+  for (int round = 0; round < kRounds; ++round)
+    drag_banner(phone, series, below, round);
+  bench::require(series.frames.size() >= kRounds * kDragFrames * 9 / 10, "frames were not painted");
+  bench::print_frames(what, series);
+}
+
+}  // namespace
+
+int main() {
+  BenchPhone phone(bench::Pace::kStepped, R"({ enable = 1; cover = 1; checked = 1; })");
+  OwnPrograms programs(phone.root());
+  auto configuration = host::springboard::configuration();
+  configuration.process_keeper = &programs;
+  host::springboard::configure(configuration);
+  phone.run("advance 1");
+  phone.run("print [[SBMediaController sharedInstance] togglePlayPause]");
+  phone.run("system open com.apple.Music");
+  phone.run("advance 2");
+  phone.run("process Music");
+  phone.run(
+      "expect [[[UIApplication sharedApplication] songsTable] numberOfRowsInSection:0] == 44");
+  phone.run("process SpringBoard");
+  measure(phone, Below::kAtRest, "banner, application at rest");
+  measure(phone, Below::kGliding, "banner, application gliding");
+}

@@ -1,0 +1,64 @@
+#include <utility>
+
+#include "host/springboard/processes/application_process.h"
+
+// How what an application draws comes onto the screen.
+
+namespace host::springboard {
+
+using namespace application;
+
+namespace {
+
+/// Frames of the screen without a new picture, after which the application is at rest.
+constexpr int kRestAfter = 2;
+
+/// The buffer's pixels as they are, without a copy; the memory stays as long as they are shown.
+quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memory, int buffer) {
+  using Owner = std::shared_ptr<const SharedSurface>;
+  static const cairo_user_data_key_t kOwner{};
+  const SurfaceSize& size = memory->size();
+  // Cairo has no surfaces that are only read; nothing draws on an image.
+  auto* pixels = const_cast<unsigned char*>(memory->buffer(buffer));
+  cairo_surface_t* made = cairo_image_surface_create_for_data(pixels, CAIRO_FORMAT_ARGB32,
+                                                              size.width, size.height, size.stride);
+  cairo_surface_set_user_data(made, &kOwner, new Owner(memory),
+                              [](void* owner) { delete static_cast<Owner*>(owner); });
+  return quartzcore::Surface::adopt(made);
+}
+
+}  // namespace
+
+// Of several that came at once only the last can be seen. While an application moves something, the
+// screen is drawn once a frame and not anew for each picture and each touch.
+void ApplicationProcess::new_frame_came() {
+  if (!new_frame_ || !is_alive()) return;
+  // On a stepped clock the application goes on at once; nothing is drawn before it has.
+  if (time_ == Time::Stepped) write(FrameTaken{});
+  if (screen_frames_ || !is_alive()) return;
+  show_new_frame();
+  quiet_frames_ = 0;
+  screen_frames_ = loop_.add_frame_observer([this](double) { screen_frame(); });
+}
+
+void ApplicationProcess::screen_frame() {
+  if (new_frame_) {
+    quiet_frames_ = 0;
+    show_new_frame();
+  } else if (++quiet_frames_ >= kRestAfter) {
+    loop_.remove_frame_observer(*screen_frames_);
+    screen_frames_.reset();
+  }
+}
+
+void ApplicationProcess::show_new_frame() {
+  const int buffer = *std::exchange(new_frame_, std::nullopt);
+  const CGImageRef made =
+      quartzcore::make_image(surface_on(surface_, buffer), quartzcore::Opacity::Opaque);
+  picture_ = objc::Ref<quartzcore::CGImageObject>::adopt(
+      objc::cast<quartzcore::CGImageObject>(quartzcore::object_of(made)));
+  if (events_.frame_came) events_.frame_came();
+  if (time_ == Time::Real) write(FrameTaken{});
+}
+
+}  // namespace host::springboard
