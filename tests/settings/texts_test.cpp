@@ -68,6 +68,13 @@ TEST_F(Texts, AMalformedTableIsAnEmptyOne) {
   }
 }
 
+TEST_F(Texts, AFolderInPlaceOfATableIsAnEmptyOne) {
+  fs::remove(languages() / "en.plist");
+  fs::create_directory(languages() / "en.plist");
+  EXPECT_EQ(text("red"), "(null)");
+  EXPECT_EQ(identifier("Red"), "(null)");
+}
+
 TEST_F(Texts, ATextLeadsBackToItsIdentifier) {
   write_english(text_entry("red", "Red") + text_entry("tint", "Tint color"));
   EXPECT_EQ(identifier("Tint color"), "tint");
