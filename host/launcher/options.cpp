@@ -13,6 +13,19 @@ namespace fs = std::filesystem;
 constexpr const char* kDescription =
     "Sonavue on the desktop: a home screen to use with a mouse, a finger or a key.";
 
+constexpr const char* kKeys =
+    "In the window\n"
+    "  F1 or Home       the Home button             or click it\n"
+    "  F2               Home, pressed twice         or double-click it\n"
+    "  F3               the lock button             or click it, at the side or the top\n"
+    "  F4               Home, touched twice: the    or click it with the other button\n"
+    "                   screen comes down\n"
+    "  F5, F6           volume down, up             or click them, at the left\n"
+    "  F7               shakes the phone\n"
+    "  Control-G        the keyboard's own gesture\n"
+    "Buttons are down as long as their key: hold F1 or F3, or F5 and F6 together.\n"
+    "The mouse is a finger; one that comes in over the edge pulls from it.";
+
 std::string check_device(const std::string& identifier) {
   if (device_model(identifier)) return {};
   std::string known;
@@ -67,6 +80,7 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   options.screenshots = ".";
 
   CLI::App parser(kDescription, "sonavue");
+  parser.footer(kKeys);
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
   parser.add_option("--device", options.device, "Which phone or tablet to be: " + all_devices())
       ->check(check_device);

@@ -89,6 +89,14 @@ TEST(Options, RepeatedOnesAddUpAndPathsBecomeAbsolute) {
   EXPECT_EQ(options.device, "iPhone7,2");
 }
 
+TEST(Options, HelpListsTheKeysOfTheWindow) {
+  const char* arguments[] = {"sonavue", "--help"};
+  const auto read = read_options(std::size(arguments), arguments);
+  const auto& help = std::get<Ending>(read).text;
+  for (const char* key : {"F1", "F2", "F3", "F4", "F5, F6", "F7", "Control-G"})
+    EXPECT_THAT(help, HasSubstr(std::string("  ") + key + " ")) << key;
+}
+
 TEST(Options, TheClockIsSteppedOnlyWhenSomebodyStepsIt) {
   Options options;
   options.headless = true;
