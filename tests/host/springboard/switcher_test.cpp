@@ -175,11 +175,12 @@ TEST_F(SwitcherTest, TheRowStopsWithACardInTheMiddle) {
 }
 
 TEST_F(SwitcherTest, ACardThrownUpClosesItsApplication) {
-  Bundles closed;
-  recent_applications().on_close([&](const std::string& bundle) { closed.push_back(bundle); });
   open_and_leave(kCalendar);
   open_and_leave(kPhotos);
   call_up();
+  // In the place of whoever ends processes here.
+  Bundles closed;
+  recent_applications().on_close([&](const std::string& bundle) { closed.push_back(bundle); });
   const CGPoint next{screen().width - 20, centre(kPhotos).y};
   fling(next, {next.x + 4, next.y - 300}, 0.2);
   settle();
