@@ -4,6 +4,7 @@
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/control_centre.h"
 #include "host/springboard/surfaces/notification_centre.h"
+#include "host/springboard/system/ui_controller.h"
 #include "host/uikit/gesture/event.h"
 #include "platform/SpringBoard/SBUIController.h"
 
@@ -11,7 +12,9 @@ namespace host::springboard {
 
 void SpringBoardApplication::application_did_finish_launching(objc::Object application) {
   super<>("applicationDidFinishLaunching:"_sel, application);
-  SBUIController::sharedInstance().window().makeKeyAndVisible();
+  const SBUIController user_interface = SBUIController::sharedInstance();
+  user_interface.window().makeKeyAndVisible();
+  objc::state_of<UserInterfaceController>(user_interface).watch_processes();
   status_bar_ = std::make_unique<StatusBar>(*configuration().wall_clock);
   edge_pulls_ = std::make_unique<EdgePulls>(
       objc::state_of<NotificationCentre>(SharedInstance<SBNotificationCenterViewController>::get()),

@@ -25,11 +25,12 @@ class UserInterfaceController
   void leave_application();
   bool shows_application() const { return launch_screen_ && launch_screen_->is_open(); }
   void activate_application_animated(SBApplication application);
+  /// Shows what applications draw, and notices when they are gone. Once, at the launch.
+  void watch_processes();
   /// The application that the user sees; null on the home screen, and for one without a program.
   LaunchScreen::Process process_in_front() const;
 
  private:
-  void watch_processes();
   void application_gone(const std::string& bundle);
 
   std::unique_ptr<LaunchScreen> launch_screen_;
