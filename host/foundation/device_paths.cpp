@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "host/foundation/atomic_write.h"
 #include "host/foundation/exports.h"
 #include "host/runtime/class_family.h"
-#include "platform/Foundation/NSString.h"
+#include "platform/Foundation/NSData.h"
 
 namespace host::foundation {
 namespace {
@@ -40,13 +41,19 @@ const char* manager_representation(NSObject self, NSString path) {
   return mapped(original(self.id(), "fileSystemRepresentationWithPath:"_sel, path.id()));
 }
 
-// Data writes to the characters of the path as they stand, so it is given the mapped ones.
+// Data writes to the characters of the path as they stand, so it is given the mapped ones. What it
+// writes in one step leaves a file behind when the process is killed meanwhile, so that this is
+// done here, and left to it only where that fails: it has the words for why.
+constexpr NSUInteger kAtomically = 1;
 objc::Imp original_write = nullptr;
 
-BOOL write_data(NSObject self, NSString path, NSUInteger options, objc::Id* error) {
+BOOL write_data(NSData self, NSString path, NSUInteger options, objc::Id* error) {
   using Function = BOOL (*)(objc::Id, objc::Sel, objc::Id, NSUInteger, objc::Id*);
   const auto original = reinterpret_cast<Function>(original_write);
   const NSString real = NSString::stringWithUTF8String(mapped(path.UTF8String()));
+  if (real && (options & kAtomically) != 0 &&
+      write_atomically(real.UTF8String(), {static_cast<const char*>(self.bytes()), self.length()}))
+    return YES;
   return original(self.id(), "writeToFile:options:error:"_sel, real.id(), options, error);
 }
 
