@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "host/springboard/model/strings.h"
-#include "host/springboard/pictures.h"
 #include "host/springboard/surfaces/notification_row.h"
 #include "host/springboard/surfaces/surface_parts.h"
 #include "host/springboard/view/make_view.h"
@@ -56,12 +55,7 @@ LockScreenPanel::~LockScreenPanel() {
 }
 
 void LockScreenPanel::add_wallpaper() {
-  const auto wallpaper = make_view<UIImageView>(view_->bounds());
-  wallpaper->setContentMode(UIViewContentModeScaleAspectFill);
-  wallpaper->setClipsToBounds(YES);
-  wallpaper->setBackgroundColor(UIColor::blackColor());
-  wallpaper->setImage(picture(chosen_wallpaper()));
-  view_->addSubview(*wallpaper);
+  springboard::add_wallpaper(*view_);
   shade_ = add_plate(*view_, view_->bounds(), UIColor::colorWithWhite(0, kShade));
 }
 

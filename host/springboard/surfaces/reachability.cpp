@@ -2,6 +2,7 @@
 
 #include "host/springboard/screen_grid.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/surface_parts.h"
 #include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/view/make_view.h"
@@ -37,6 +38,9 @@ void Reachability::handle_activated() {
     if (window.windowLevel() <= UIWindowLevelStatusBar)
       moved_.push_back(objc::Ref<UIWindow>::retain(window));
   }
+  behind_ = make_surface_window(kBehindScreenLevel);
+  add_blurred_wallpaper(*behind_);
+  behind_->setHidden(NO);
   const CGSize screen = screen_grid().screen;
   above_ = make_surface_window(kLockScreenLevel - 1);
   const auto free = make_view<UIView>({0, 0, screen.width, screen.height * kPart});
@@ -85,6 +89,8 @@ void Reachability::take_down() {
   actions_.reset();
   if (above_) above_->setHidden(YES);
   above_.reset();
+  if (behind_) behind_->setHidden(YES);
+  behind_.reset();
 }
 
 void export_reachability() {

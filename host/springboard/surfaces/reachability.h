@@ -34,6 +34,7 @@ class Reachability : public objc::Implementation<Reachability, SBReachabilityMan
   /// What was brought down, to be brought back whatever has come since.
   std::vector<objc::Ref<UIWindow>> moved_;
   objc::Ref<UIWindow> above_;
+  objc::Ref<UIWindow> behind_;
   std::unique_ptr<SurfaceActions> actions_;
   std::optional<RunLoop::Id> keep_alive_;
   BOOL active_ = NO;

@@ -1,5 +1,7 @@
 #include "host/springboard/surfaces/surface_parts.h"
 
+#include "host/springboard/configuration.h"
+#include "host/springboard/model/strings.h"
 #include "host/springboard/pictures.h"
 #include "host/springboard/view/make_view.h"
 
@@ -7,6 +9,7 @@ namespace host::springboard {
 namespace {
 
 constexpr CGSize kGrabber{36, 5};
+constexpr CGFloat kBehindScreens = 0.12;
 
 }  // namespace
 
@@ -26,6 +29,22 @@ objc::Ref<UIView> add_plate(UIView parent, CGRect frame, UIColor color, CGFloat 
   if (radius > 0) plate->layer().setCornerRadius(radius);
   parent.addSubview(*plate);
   return plate;
+}
+
+objc::Ref<UIImageView> add_wallpaper(UIView parent) {
+  auto wallpaper = make_view<UIImageView>(parent.bounds());
+  wallpaper->setContentMode(UIViewContentModeScaleAspectFill);
+  wallpaper->setClipsToBounds(YES);
+  wallpaper->setBackgroundColor(UIColor::blackColor());
+  wallpaper->setImage(picture(to_ns(configuration().wallpaper)));
+  parent.addSubview(*wallpaper);
+  return wallpaper;
+}
+
+void add_blurred_wallpaper(UIView parent) {
+  add_wallpaper(parent)->setUserInteractionEnabled(YES);
+  add_backdrop(parent, parent.bounds(), kDarkBackdrop);
+  add_plate(parent, parent.bounds(), UIColor::colorWithWhite(0, kBehindScreens));
 }
 
 void add_grabber(UIView parent, CGPoint centre, UIColor color) {

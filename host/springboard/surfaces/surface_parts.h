@@ -16,6 +16,10 @@ inline constexpr _UIBackdropViewStyle kMilkBackdrop = 2070;
 /// Blurs what lies behind the frame, and lets touches through.
 objc::Ref<UIView> add_backdrop(UIView parent, CGRect frame, _UIBackdropViewStyle style);
 objc::Ref<UIView> add_plate(UIView parent, CGRect frame, UIColor color, CGFloat radius = 0);
+/// The home screen's wallpaper, over all of the parent.
+objc::Ref<UIImageView> add_wallpaper(UIView parent);
+/// The same, dark and blurred: what lies behind the screens. It takes the touches on it.
+void add_blurred_wallpaper(UIView parent);
 /// The short bar that says where a surface can be held.
 void add_grabber(UIView parent, CGPoint centre, UIColor color);
 

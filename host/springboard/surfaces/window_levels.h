@@ -7,6 +7,8 @@ namespace host::springboard {
 // What lies above what: the home screen and its applications at the normal level, then these, then
 // what extensions put up, alerts and the keyboard.
 
+/// Behind the screen that reachability has brought down.
+inline constexpr UIWindowLevel kBehindScreenLevel = UIWindowLevelNormal - 1;
 /// Above every application, below the status bar.
 inline constexpr UIWindowLevel kSwitcherLevel = UIWindowLevelStatusBar - 10;
 inline constexpr UIWindowLevel kLockScreenLevel = UIWindowLevelStatusBar + 50;

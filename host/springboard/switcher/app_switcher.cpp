@@ -1,9 +1,7 @@
 #include "host/springboard/switcher/app_switcher.h"
 
-#include "host/springboard/configuration.h"
 #include "host/springboard/icon/icon_image.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/pictures.h"
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/surface_parts.h"
 #include "host/springboard/surfaces/surface_window.h"
@@ -20,7 +18,6 @@ namespace {
 
 constexpr double kZoom = 0.4;
 constexpr double kFading = 0.15;
-constexpr CGFloat kShade = 0.12;
 constexpr NSUInteger kIconsOnHomeCard = 9;
 // What stands for the home screen among bundle identifiers.
 const std::string kHome;
@@ -74,25 +71,13 @@ void AppSwitcher::build() {
   RecentApplications& recent = recent_applications();
   if (!recent.front().empty()) recent.keep_picture(recent.front(), picture_of_front());
   window_ = make_surface_window(kSwitcherLevel);
-  add_ground();
+  add_blurred_wallpaper(*window_);
   row_ = std::make_unique<SwitcherRow>(*window_, self);
   add_home_card();
   for (const std::string& bundle : recent.all())
     add_card(application(bundle));
   actions_ = std::make_unique<SurfaceActions>();
   actions_->on_tap(row_->view(), [this] { dismiss(); });
-}
-
-void AppSwitcher::add_ground() const {
-  const auto wallpaper = make_view<UIImageView>(window_->bounds());
-  wallpaper->setContentMode(UIViewContentModeScaleAspectFill);
-  wallpaper->setClipsToBounds(YES);
-  wallpaper->setBackgroundColor(UIColor::blackColor());
-  wallpaper->setImage(picture(to_ns(configuration().wallpaper)));
-  wallpaper->setUserInteractionEnabled(YES);
-  window_->addSubview(*wallpaper);
-  add_backdrop(*window_, window_->bounds(), kDarkBackdrop);
-  add_plate(*window_, window_->bounds(), UIColor::colorWithWhite(0, kShade));
 }
 
 void AppSwitcher::add_home_card() {

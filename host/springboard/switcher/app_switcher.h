@@ -33,7 +33,6 @@ class AppSwitcher : public objc::Implementation<AppSwitcher, SBAppSwitcherContro
 
  private:
   void build();
-  void add_ground() const;
   void add_card(SBApplication application);
   void add_home_card();
   SwitcherCard::Wishes wishes_for(const std::string& bundle);

@@ -1,3 +1,5 @@
+#include "host/springboard/surfaces/window_levels.h"
+#include "host/uikit/view/window_list.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
 #include "tests/host/springboard/surface_fixture.h"
 
@@ -42,6 +44,17 @@ TEST_F(ReachabilityTest, ATapAboveTheScreenSendsItBack) {
   EXPECT_FALSE(is_active());
   press(on_screen(kCalendar));
   EXPECT_TRUE(icon_view(kCalendar).isHighlighted());
+}
+
+TEST_F(ReachabilityTest, TheWallpaperLiesBehindAndGoesWithIt) {
+  const auto count = uikit::visible_windows().size();
+  toggle_reachability();
+  settle();
+  EXPECT_EQ(uikit::visible_windows().front().windowLevel(), kBehindScreenLevel);
+  EXPECT_EQ(CGRect(uikit::visible_windows().front().frame()).min_y(), 0);
+  toggle_reachability();
+  settle();
+  EXPECT_EQ(uikit::visible_windows().size(), count);
 }
 
 TEST_F(ReachabilityTest, TwoTouchesOfHomeBringTheScreenDownAndLetItGo) {
