@@ -8,6 +8,8 @@ find_package(CLI11 REQUIRED)
 find_package(SQLite3 REQUIRED)
 find_package(GTest REQUIRED)
 find_package(benchmark REQUIRED)
+find_package(OpenSSL REQUIRED)
+find_package(LibArchive REQUIRED)
 include(GoogleTest)
 
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "device/macho/image.h"
+
+namespace sonavue::device {
+
+/// Numbers of the signature's format; all of its numbers are stored with the big end first.
+inline constexpr std::uint32_t kSuperBlobMagic = 0xfade0cc0;
+inline constexpr std::uint32_t kCodeDirectoryMagic = 0xfade0c02;
+inline constexpr std::uint32_t kRequirementsMagic = 0xfade0c01;
+inline constexpr std::uint32_t kCodeDirectorySlot = 0;
+inline constexpr std::uint32_t kRequirementsSlot = 2;
+inline constexpr std::uint32_t kAlternateSlot = 0x1000;
+inline constexpr std::uint32_t kAdHoc = 0x2;
+inline constexpr std::size_t kPageSize = 4096;
+
+/// The same library with an ad-hoc signature: nobody vouches for it, but every page has its hash. A
+/// directory of SHA-1 hashes comes first, since older systems know no others, one of SHA-256
+/// second. The same bytes and name give the same signature. Throws FormatError where that cannot
+/// be.
+Bytes signed_library(const Image& library, const std::string& identifier);
+
+}  // namespace sonavue::device
