@@ -6,9 +6,11 @@
 #include <optional>
 #include <string>
 
+#include "host/foundation/binary_property_list.h"
 #include "host/foundation/exports.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
+#include "platform/Foundation/NSData.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
 
@@ -96,7 +98,23 @@ void keep(std::string path, Content content, NSDictionary dictionary) {
 
 objc::Imp original = nullptr;
 
+bool is_binary(NSString path) {
+  const Descriptor file(path.fileSystemRepresentation());
+  char start[8];
+  return file.get() >= 0 && read(file.get(), start, sizeof start) == sizeof start &&
+         is_binary_property_list({start, sizeof start});
+}
+
+NSDictionary parse_binary(objc::Object cls, NSString path) {
+  const auto data = NSData::dataWithContentsOfFile(path);
+  const auto list = objc::cast<NSObject>(
+      binary_property_list({static_cast<const char*>(data.bytes()), data.length()}));
+  if (!list.isKindOfClass(NSDictionary::cls())) return nil;
+  return objc::send<NSDictionary>(cls, "dictionaryWithDictionary:"_sel, list);
+}
+
 NSDictionary parse(objc::Object cls, NSString path) {
+  if (path && is_binary(path)) return parse_binary(cls, path);
   using Function = objc::Id (*)(objc::Id, objc::Sel, objc::Id);
   const auto function = reinterpret_cast<Function>(original);
   return objc::cast<NSDictionary>(
