@@ -47,6 +47,22 @@ TEST_F(SettingsPreferences, ValuesAreReadAnewEveryTime) {
   EXPECT_FALSE(stored_value("blur"_ns));
 }
 
+/// Written by another program's library, in the two forms that there are.
+class ForeignPreferences : public SettingsTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(ForeignPreferences, AreReadAndKept) {
+  fs::copy_file(fs::path(SETTINGS_TEST_DATA) / GetParam(), preferences());
+  EXPECT_TRUE(is_true(stored_value("enable"_ns)));
+  EXPECT_FALSE(is_true(stored_value("cover"_ns)));
+  EXPECT_STREQ(objc::cast<NSString>(stored_value("note"_ns)).UTF8String(), "Grüße 🎵");
+  store("dark"_ns, "blur"_ns);
+  EXPECT_EQ(stored(),
+            "blur = dark, checked = 0, cover = 0, enable = 1, list = (a, 1), "
+            "note = Grüße 🎵, play = time, size = 12.5");
+}
+INSTANTIATE_TEST_SUITE_P(Forms, ForeignPreferences,
+                         testing::Values("preferences-xml.plist", "preferences-binary.plist"));
+
 TEST_F(SettingsPreferences, OnlyANumberThatIsNotZeroIsTrue) {
   EXPECT_TRUE(is_true(yes()));
   EXPECT_FALSE(is_true(NSNumber::numberWithBool(NO)));
