@@ -21,6 +21,12 @@ TEST_F(Banner, HangsFromTheTopAtItsHeight) {
   EXPECT_TRUE(view("window").isUserInteractionEnabled());
 }
 
+TEST_F(Banner, HasRoomForTextsOnlyWhenTheyAreWhollySeen) {
+  view("container1").setAlpha(0.5);
+  objc::send<>(application, "showBanner"_sel);
+  EXPECT_EQ(hanging(), kBannerWithoutTexts);
+}
+
 TEST_F(Banner, ComesFromWhollyAboveTheScreenInHalfASecond) {
   objc::send<>(application, "showBanner"_sel);
   EXPECT_EQ(hanging(), kBannerWithoutTexts);

@@ -97,7 +97,8 @@ void double_press_home() {
 
 bool double_touch_home() {
   if (!SBReachabilityManager::reachabilitySupported()) return false;
-  if (display().is_on() && !is_locked()) toggle_reachability();
+  const bool is_free = !is_locked() && !app_switcher().is_showing();
+  if (display().is_on() && is_free) toggle_reachability();
   return true;
 }
 

@@ -9,8 +9,8 @@ namespace host::springboard {
 
 /// Behind the screen that reachability has brought down.
 inline constexpr UIWindowLevel kBehindScreenLevel = UIWindowLevelNormal - 1;
-/// Above every application, below the status bar.
-inline constexpr UIWindowLevel kSwitcherLevel = UIWindowLevelStatusBar - 10;
+/// Above the status bar, which each card shows in small.
+inline constexpr UIWindowLevel kSwitcherLevel = UIWindowLevelStatusBar + 10;
 inline constexpr UIWindowLevel kLockScreenLevel = UIWindowLevelStatusBar + 50;
 /// Of the status bar while the phone is locked: it lies on the lock screen.
 inline constexpr UIWindowLevel kLockedStatusBarLevel = kLockScreenLevel + 1;

@@ -9,7 +9,6 @@
 #include "host/runtime/run_loop.h"
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/screen_grid.h"
-#include "host/springboard/surfaces/window_levels.h"
 #include "host/uikit/view/window_list.h"
 #include "platform/UIKit/UIScreen.h"
 
@@ -44,8 +43,7 @@ bool is_status_bar(UIWindow window) {
 UIImage picture_of_front() {
   std::vector<CALayer> layers;
   for (const UIWindow window : uikit::visible_windows()) {
-    if (window.windowLevel() < kSwitcherLevel || is_status_bar(window))
-      layers.push_back(window.layer());
+    if (window.windowLevel() <= UIWindowLevelStatusBar) layers.push_back(window.layer());
   }
   return picture_of(layers);
 }

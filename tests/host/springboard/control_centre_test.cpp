@@ -60,6 +60,12 @@ TEST_F(ControlCentreTest, APullThatBeginsAboveTheEdgeIsNone) {
   EXPECT_FALSE(is_open());
 }
 
+TEST_F(ControlCentreTest, APullAlongTheEdgeIsNone) {
+  fling({100, screen().height - 3}, {300, screen().height - 100}, 0.3);
+  settle();
+  EXPECT_FALSE(is_open());
+}
+
 TEST_F(ControlCentreTest, TheIconUnderThePullLosesItsTouch) {
   // A folder of the dock's height: the icon of the dock is touched at the very bottom.
   const SBIconView phone = icon_view(kPhone);

@@ -3,6 +3,7 @@
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/uikit/view/window_list.h"
+#include "platform/SpringBoard/SBReachabilityManager.h"
 #include "platform/SpringBoard/SBUIController.h"
 #include "tests/host/springboard/surface_fixture.h"
 
@@ -111,6 +112,13 @@ TEST_F(SwitcherTest, TheControlCentreGoesForIt) {
   call_up();
   EXPECT_TRUE(is_showing());
   EXPECT_FALSE(control_centre().is_presented());
+}
+
+TEST_F(SwitcherTest, TouchesOfHomeDoNotBringItDown) {
+  call_up();
+  double_touch_home();
+  EXPECT_FALSE(SBReachabilityManager::sharedInstance().reachabilityModeActive());
+  EXPECT_TRUE(is_showing());
 }
 
 TEST_F(SwitcherTest, ApplicationsStandBehindTheHomeScreenTheLatestFirst) {
