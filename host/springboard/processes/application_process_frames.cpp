@@ -37,6 +37,7 @@ void ApplicationProcess::new_frame_came() {
   if (time_ == Time::Stepped) write(FrameTaken{});
   if (screen_frames_ || !is_alive()) return;
   show_new_frame();
+  if (!is_alive()) return;
   quiet_frames_ = 0;
   screen_frames_ = loop_.add_frame_observer([this](double) { screen_frame(); });
 }
