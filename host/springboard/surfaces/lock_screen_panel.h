@@ -25,6 +25,7 @@ class LockScreenPanel {
   void wake();
   void sleep();
   void show(const std::vector<Notification>& messages);
+  bool has_messages() const { return has_messages_; }
   UIView view() const { return *view_; }
   UILabel time() const { return *time_; }
   bool shows_playback() const { return !playback_->view().isHidden(); }

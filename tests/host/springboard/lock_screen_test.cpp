@@ -92,6 +92,16 @@ TEST_F(LockScreenTest, AMessageWakesItAndIsGoneAfterUnlocking) {
   EXPECT_EQ(notification_centre().store().all().size(), 1u);
 }
 
+TEST_F(LockScreenTest, WhatWasReadDoesNotComeBackWithTheNextLock) {
+  lock_and_wake();
+  present_banner("Rain at noon");
+  EXPECT_TRUE(lock_screen().panel()->has_messages());
+  unlock();
+  settle();
+  lock_and_wake();
+  EXPECT_FALSE(lock_screen().panel()->has_messages());
+}
+
 TEST_F(LockScreenTest, LockingClosesTheSurfaces) {
   present_control_centre();
   settle();
