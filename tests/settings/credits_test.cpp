@@ -95,6 +95,16 @@ TEST_F(Credits, TilesStandInARow) {
   }
 }
 
+TEST_F(Credits, AStripIsAsWideAsItsTiles) {
+  open_card("developerCell");
+  std::vector<CGFloat> widths;
+  for (const UIView part : card.view().subviews().of<UIView>()) {
+    if (part.isKindOfClass(UIScrollView::cls()))
+      widths.push_back(objc::cast<UIScrollView>(part).contentSize().width);
+  }
+  EXPECT_THAT(widths, testing::ElementsAre(15 + 4 * 90 + 15, 15 + 3 * 90 + 15));
+}
+
 TEST_F(Credits, CloseClosesTheCard) {
   open_card("developerCell");
   ASSERT_TRUE(tap_text("Close"));
@@ -130,6 +140,7 @@ TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
   const auto composer = objc::cast<MFMailComposeViewController>(card.presentedViewController());
   ASSERT_TRUE(composer.isKindOfClass(MFMailComposeViewController::cls()));
   photograph("credits-mail");
+  EXPECT_TRUE(says(composer.view(), "Sonavue"));
   EXPECT_EQ(composer.mailComposeDelegate(), objc::Object(cell));
   objc::send<>(cell, "mailComposeController:didFinishWithResult:error:"_sel, composer,
                MFMailComposeResultCancelled, objc::Object());
@@ -142,7 +153,9 @@ TEST_F(Credits, AMessageIsWrittenOverTheCard) {
   ASSERT_TRUE(tap_text("Message"));
   advance(1);
   photograph("credits-message");
-  EXPECT_TRUE(card.presentedViewController());
+  const UIViewController composer = card.presentedViewController();
+  ASSERT_TRUE(composer);
+  EXPECT_TRUE(says(composer.view(), "I'm using Sonavue"));
 }
 
 }  // namespace

@@ -103,6 +103,23 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
     }
     return nil;
   }
+  /// Does a label, a field or a text view below `top` say so?
+  static bool says(UIView top, std::string_view text) {
+    if (top.respondsToSelector("text"_sel)) {
+      const auto said = objc::send<NSString>(top, "text"_sel);
+      if (said && said.UTF8String() == text) return true;
+    }
+    for (const UIView part : top.subviews().of<UIView>()) {
+      if (says(part, text)) return true;
+    }
+    return false;
+  }
+  static bool screen_says(std::string_view text) {
+    for (const UIWindow each : UIApplication::sharedApplication().windows().of<UIWindow>()) {
+      if (says(each, text)) return true;
+    }
+    return false;
+  }
   bool tap_text(std::string_view text) {
     for (const UIWindow each : UIApplication::sharedApplication().windows().of<UIWindow>()) {
       if (const UIView found = find(each, text)) {

@@ -1,5 +1,6 @@
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIScreen.h"
+#include "settings/texts.h"
 #include "tests/settings/pages_test.h"
 
 // Nothing of the test machine is to be restarted.
@@ -28,6 +29,15 @@ TEST_F(RootPage, HasASwitchAndTwoLinksBelowItsHeader) {
   EXPECT_THAT(names(),
               testing::ElementsAre("", "", "Enable Sonavue", "", "Configuration", "", "Contacts"));
   EXPECT_STREQ(page.navigationItem().title().UTF8String(), "Sonavue");
+  for (const PSSpecifier each : page.specifiers().of<PSSpecifier>()) {
+    if (each.name().length() > 0) {
+      EXPECT_TRUE(each.propertyForKey("iconImage"_ns)) << each.name().UTF8String();
+    }
+  }
+  EXPECT_TRUE(row("Enable Sonavue").isKindOfClass(objc_getClass("SRSwitchTableCell")));
+  const UISwitch plain = UISwitch::alloc().init().autorelease();
+  const UIColor tint = switch_of("Enable Sonavue").onTintColor();
+  EXPECT_TRUE(tint && tint != plain.onTintColor());
   photograph("settings-root");
 }
 
@@ -104,6 +114,7 @@ TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
   EXPECT_EQ(logo.frame(), (CGRect{(width - 130) / 2, 10, 130, 130}));
   EXPECT_EQ(name.frame(), (CGRect{0, 145, width, 50}));
   EXPECT_TRUE(name.layer().mask()) << "it shimmers";
+  EXPECT_EQ(objc::cast<UIView>(header).backgroundColor(), UIColor::clearColor());
 }
 
 TEST_F(RootPage, TheShareButtonOpensTheComposer) {
@@ -114,6 +125,8 @@ TEST_F(RootPage, TheShareButtonOpensTheComposer) {
   objc::send<>(button.target(), button.action());
   advance(1);
   EXPECT_TRUE(page.presentedViewController() || stack.presentedViewController());
+  EXPECT_TRUE(button.tintColor());
+  EXPECT_TRUE(screen_says(Translator("tweet"_ns).UTF8String()));
   photograph("settings-share");
 }
 

@@ -1,3 +1,4 @@
+#include "objc/ref.h"
 #include "platform/Activator/LAListenerSettingsViewController.h"
 #include "tests/settings/pages_test.h"
 
@@ -27,6 +28,12 @@ TEST_F(StylePage, AsksForEverythingInItsOrder) {
   EXPECT_EQ(page.specifiers().count(), 22u);
   EXPECT_EQ(settings::where, page);
   photograph("settings-style");
+}
+
+TEST_F(StylePage, ItsRowsAreMadeOnce) {
+  open_style();
+  const auto rows = objc::Ref<NSArray>::retain(page.specifiers());
+  EXPECT_EQ(page.specifiers(), rows.get());
 }
 
 TEST_F(StylePage, EverySwitchWritesItsOwnKey) {

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIPageControl.h"
 #include "platform/UIKit/UIPageViewController.h"
@@ -63,6 +65,9 @@ class WizardPages : public PagesTest {
     return T();
   }
 
+  // From one wave of the hint to the next: the last part goes and comes back.
+  static constexpr double kWave = 12 * 0.08 + 2 * 0.8;
+
   UIViewController main;
   UIView welcome;
   UIPageViewController questions;
@@ -110,6 +115,44 @@ TEST_F(WizardPages, TheHintFadesLetterByLetterAndAgain) {
   EXPECT_LT(faintest(0), 0.1f);
   EXPECT_LT(faintest(12), 0.1f);
   EXPECT_LT(faintest(5), 0.1f) << "the wave comes again";
+}
+
+TEST_F(WizardPages, TheWaveRunsThroughTheHintAtItsPace) {
+  start();
+  // When each part is gone, by the frame.
+  const auto gone = [&](NSUInteger part) {
+    float lowest = 1;
+    double when = 0;
+    const double end = clock.now() + kWave;
+    while (clock.now() < end) {
+      advance(1.0 / 60);
+      const float now = objc::cast<UIView>(welcome.subviews().objectAtIndex(3 + part))
+                            .layer()
+                            .presentationLayer()
+                            .opacity();
+      if (now < lowest) {
+        lowest = now;
+        when = clock.now();
+      }
+    }
+    return when;
+  };
+  const double first = gone(0);
+  const double last = gone(12);
+  const double first_again = gone(0);
+  const double behind = std::fmod(last - first, kWave);
+  EXPECT_NEAR(behind, 12 * 0.08, 0.05);
+  EXPECT_NEAR(std::remainder(first_again - first, kWave), 0, 0.05);
+}
+
+TEST_F(WizardPages, TheQuestionsFadeInInASecond) {
+  start();
+  objc::send<>(page, "showSetup"_sel);
+  advance(0.5);
+  const UIView view = objc::cast<UIView>(main.view().subviews().lastObject());
+  EXPECT_NEAR(view.layer().presentationLayer().opacity(), 0.5, 0.1);
+  advance(0.6);
+  EXPECT_EQ(view.layer().presentationLayer().opacity(), 1);
 }
 
 TEST_F(WizardPages, LessThanAQuarterSpringsBack) {
@@ -220,6 +263,17 @@ TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   advance(1.5);
   EXPECT_EQ(count(), 12);
   EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
+}
+
+TEST_F(WizardPages, TheScreenStaysUpright) {
+  start_questions();
+  EXPECT_EQ(objc::send<NSUInteger>(page, "pageViewControllerSupportedInterfaceOrientations:"_sel,
+                                   questions),
+            2u);
+  EXPECT_EQ(objc::send<NSInteger>(page, "presentationIndexForPageViewController:"_sel, questions),
+            0);
+  EXPECT_FALSE(objc::send<BOOL>(main, "shouldAutorotate"_sel));
+  EXPECT_EQ(objc::send<NSUInteger>(main, "supportedInterfaceOrientations"_sel), 2u);
 }
 
 TEST_F(WizardPages, TheDotsAreHiddenAlthoughTheyAreCounted) {
