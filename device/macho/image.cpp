@@ -65,7 +65,8 @@ void Image::read_segment(const LoadCommand& command) {
     const std::size_t section = at + kSegmentCommandSize + i * kSectionSize;
     sections_.push_back({name, text_at(bytes_, section, section + kNameLength),
                          little_64(bytes_, section + 32), little_64(bytes_, section + 40),
-                         little_32(bytes_, section + 48), little_32(bytes_, section + 64)});
+                         little_32(bytes_, section + 48), little_32(bytes_, section + 68),
+                         little_32(bytes_, section + 72)});
   }
 }
 

@@ -39,7 +39,9 @@ struct Section {
   std::uint64_t address;
   std::uint64_t size;
   std::uint32_t offset;
-  std::uint32_t flags;
+  /// Of a section of stubs: its first place in the table of indirect symbols, and a stub's size.
+  std::uint32_t first_indirect;
+  std::uint32_t stub_size;
 };
 
 struct Segment {

@@ -1,0 +1,48 @@
+#include "device/check/check.h"
+
+#include <fmt/core.h>
+
+#include <optional>
+
+#include "device/check/calls.h"
+#include "device/check/layout.h"
+#include "device/check/library.h"
+#include "device/check/names.h"
+#include "device/check/signature.h"
+
+namespace sonavue::device {
+namespace {
+
+std::optional<Image> image_in(const PackageFile& package, const char* path, Findings& findings) {
+  const PackagedFile* file = package.data_file(path);
+  if (!file) return std::nullopt;
+  try {
+    return Image(file->content);
+  } catch (const FormatError& problem) {
+    findings.push_back(fmt::format("{}: {}", path, problem.what()));
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+Findings check_package(const PackageFile& package, const std::filesystem::path& source) {
+  Findings findings;
+  check_layout(package, source, findings);
+  const auto library = image_in(package, kLibraryPath, findings);
+  const auto bundle = image_in(package, kBundlePath, findings);
+  if (!library || !bundle) return findings;
+
+  check_load_commands("library", *library, findings);
+  check_load_commands("settings bundle", *bundle, findings);
+  check_library(*library, findings);
+  check_bundle(*bundle, findings);
+  check_signature("library", *library, "org.plumvane.sonavue2", findings);
+  check_signature("settings bundle", *bundle, "org.plumvane.SonavueSettings", findings);
+  check_symbols(*library, *bundle, source, findings);
+  check_names(*library, source, findings);
+  check_calls(*library, findings);
+  return findings;
+}
+
+}  // namespace sonavue::device

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "device/macho/bytes.h"
+
+namespace sonavue::device {
+
+/// One file or folder of a package, as its archive has it.
+struct PackagedFile {
+  std::string path;
+  bool is_folder;
+  bool is_plain;
+  unsigned mode;
+  long owner;
+  long group;
+  Bytes content;
+};
+
+/// A finished package, taken apart.
+struct PackageFile {
+  std::vector<PackagedFile> control;
+  std::vector<PackagedFile> data;
+  /// The names of the package's own parts, which tell how they are compressed.
+  std::vector<std::string> parts;
+
+  const PackagedFile* control_file(const std::string& path) const;
+  const PackagedFile* data_file(const std::string& path) const;
+};
+
+/// Throws FormatError for what is no package.
+PackageFile read_package(const std::filesystem::path& path);
+
+}  // namespace sonavue::device

@@ -1,0 +1,108 @@
+#!/bin/sh
+# Makes the phone's package twice and compares, has it checked, then breaks it in every way that a
+# rule forbids and sees the checker say so: `package_test.sh SOURCE BUILD`.
+set -eu
+
+source=$1
+build=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failed=0
+
+fail() {
+  echo "FAILED: $*" >&2
+  failed=1
+}
+
+preset=$(basename "$build")
+"$source/device/package/make" "$preset" "$work/first"
+"$source/device/package/make" "$preset" "$work/second"
+package=$(echo "$work"/first/*.deb)
+cmp "$package" "$work/second/$(basename "$package")" || fail "made twice, the package differs"
+"$build/bin/sonavue_check" "$source" "$package" || fail "the checker refuses the package"
+
+mkdir "$work/whole"
+dpkg-deb --raw-extract "$package" "$work/whole"
+
+# The page hashes once more, by a program that know nothing of this project.
+library=Library/MobileSubstrate/DynamicLibraries/Sonavue2.dylib
+dd if="$work/whole/$library" of="$work/page" bs=4096 skip=3 count=1 2>/dev/null
+for program in sha1sum sha256sum; do
+  hash=$("$program" "$work/page" | cut -d' ' -f1)
+  od -An -v -tx1 "$work/whole/$library" | tr -d ' \n' | grep -q "$hash" ||
+    fail "$program of a page is not in the signature"
+done
+
+# broken EXPECTED COMMAND…: in a copy of the package's tree the command is run, and the checker then
+# has to answer with 1 and the expected words.
+broken() {
+  expected=$1
+  shift
+  rm -rf "$work/tree" "$work/broken.deb"
+  cp -a "$work/whole" "$work/tree"
+  (cd "$work/tree" && "$@")
+  # shellcheck disable=SC2086
+  dpkg-deb ${packing:--Zgzip} -z1 ${owners---root-owner-group} --nocheck --build "$work/tree" \
+    "$work/broken.deb" >/dev/null 2>&1 || fail "no package after: $*"
+  result=0
+  "$build/bin/sonavue_check" "${against:-$source}" "$work/broken.deb" >"$work/said" 2>&1 || result=$?
+  [ "$result" -eq 1 ] || fail "the checker ends with $result after: $*"
+  grep -qF "$expected" "$work/said" || fail "the checker does not say '$expected' after: $*"
+}
+
+# patch FILE OLD NEW replaces bytes by as many others.
+patch() {
+  LC_ALL=C sed -i "s|$2|$3|g" "$1"
+}
+
+bundle=Library/PreferenceBundles/SonavueSettings.bundle
+broken "Play@2x.png: is missing" rm "Library/Application Support/Sonavue/Play@2x.png"
+broken "en.plist: is missing" rm "Library/Application Support/Sonavue/Languages/en.plist"
+broken "Info.plist: is missing" rm "$bundle/Info.plist"
+broken "stray: does not belong" sh -c 'echo stray >Library/stray'
+broken "Info.plist: mode 600" chmod 600 "$bundle/Info.plist"
+broken "Info.plist: is empty" truncate -s 0 "$bundle/Info.plist"
+broken "is neither a file nor a folder" ln -sf en.plist "$bundle/Info.plist"
+broken "control: lacks \`Depends" sed -i 's/libactivator, //' DEBIAN/control
+broken "control: lacks \`Package" sed -i 's/^Package: .*/Package: org.example.other/' DEBIAN/control
+broken "lacks the field Section" sed -i '/^Section/d' DEBIAN/control
+broken "postinst: asks for no restart" sed -i /finish/d DEBIAN/postinst
+broken "postrm: ends processes" sed -i 's/^exit/killall SpringBoard; exit/' DEBIAN/postrm
+broken "prerm: does not belong" cp DEBIAN/postrm DEBIAN/prerm
+packing=-Zxz broken "packed by gzip" true
+# Whoever is not root owns the files anyway.
+owned_by_others() { [ "$(id -u)" -ne 0 ] || chown -R 1:1 Library; }
+owners='' broken "root:root" owned_by_others
+
+broken "calls itself" patch "$library" DynamicLibraries/Sonavue2 DynamicLibraries/Sonavue3
+broken "hashes do not fit" patch "$library" playNextSong playLastSong
+broken "know no selector presentBanned:" patch "$library" presentBanner: presentBanned:
+broken "has no signature" cp "$source/build/device/Sonavue2.dylib" "$library"
+broken "another name" "$build/bin/sonavue_sign" org.example.other \
+  "$source/build/device/Sonavue2.dylib" "$library"
+broken "does not bring the library in" patch "$bundle/SonavueSettings" Sonavue2.dylib Sonavue9.dylib
+broken "library: is no dynamic library" cp "$bundle/SonavueSettings" "$library"
+broken "no 64-bit library" cp "$bundle/Info.plist" "$library"
+
+# Rules that compare with the source are broken in a copy of what they read.
+mkdir -p "$work/source/device/check"
+cp -a "$source/objc" "$source/platform" "$source/resources" "$work/source"
+cp -a "$source/device/stubs" "$work/source/device"
+cp "$source/device/check/own_names.txt" "$work/source/device/check"
+against=$work/source
+sed -i /_uname$/d "$against/device/stubs/libSystem.tbd"
+broken "needs _uname, which no stub has" true
+sed -i 's/_system$/_uname\n      - _system\n      - _nobody_needs_this/' \
+  "$against/device/stubs/libSystem.tbd"
+broken "_nobody_needs_this is not used" true
+sed -i /^Linker$/d "$against/device/check/own_names.txt"
+broken "know no class Linker" true
+sed -i /^tweet$/d "$against/device/check/own_names.txt"
+broken "know no selector tweet" true
+
+result=0
+echo nothing >"$work/nothing.deb"
+"$build/bin/sonavue_check" "$source" "$work/nothing.deb" 2>"$work/said" || result=$?
+[ "$result" -eq 2 ] || fail "the checker ends with $result for what is no package"
+
+exit $failed
