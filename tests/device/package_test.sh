@@ -84,6 +84,29 @@ broken "does not bring the library in" patch "$bundle/SonavueSettings" Sonavue2.
 broken "library: is no dynamic library" cp "$bundle/SonavueSettings" "$library"
 broken "no 64-bit library" cp "$bundle/Info.plist" "$library"
 
+# as_numbers FILE OLD NEW replaces a row of numbers, written as perl packs them.
+as_numbers() {
+  perl -0777 -pi -e "BEGIN { (\$old, \$new) = (pack(q(V*), $2), pack(q(V*), $3)) }
+    s/\Q\$old\E/\$new/g" "$1"
+}
+broken "not made for the system from 8.0" as_numbers "$library" "0x25, 16, 0x80000" "0x25, 16, 0x90000"
+broken "a build version in place" as_numbers "$library" "0x25, 16, 0x80000" "0x32, 16, 0x80000"
+broken "has chained fixups" as_numbers "$library" "0x80000022, 48" "0x80000034, 48"
+broken "no classic dyld" as_numbers "$bundle/SonavueSettings" "0x80000022, 48" "0x80000021, 48"
+broken "a table of exports" as_numbers "$library" "0x26, 16" "0x80000033, 16"
+broken "no identifier of its build" as_numbers "$library" "0x1b, 24" "0x2c, 24"
+broken "a place for encryption" as_numbers "$library" "0x1b, 24" "0x2c, 24"
+# Every idle instruction becomes a store to where arguments beyond the registers go.
+broken "sends a message over the stack" as_numbers "$library" 0xd503201f 0xf90003ff
+initialisers=$(llvm-objdump-16 --macho --section=__DATA,__mod_init_func "$work/whole/$library" |
+  sed -n 's/^0x[0-9a-f]* \(0x[0-9a-f]*\).*/\1/p')
+first=$(echo "$initialisers" | head -n 1)
+second=$(echo "$initialisers" | tail -n 1)
+broken "out of order" as_numbers "$library" "$first, 0, $second, 0" "$second, 0, $first, 0"
+broken "an initialiser is none of ours" as_numbers "$library" "$first, 0, $second, 0" \
+  "$first + 4, 0, $second, 0"
+broken "other initialisers" patch "$library" __mod_init_func __mod_term_func
+
 # Rules that compare with the source are broken in a copy of what they read.
 mkdir -p "$work/source/device/check"
 cp -a "$source/objc" "$source/platform" "$source/resources" "$work/source"
