@@ -1,5 +1,6 @@
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIScreen.h"
+#include "settings/pictures.h"
 #include "settings/texts.h"
 #include "tests/settings/pages_test.h"
 
@@ -136,6 +137,14 @@ TEST_F(RootPage, WithoutTextsEverythingIsNullAndStoredSo) {
   EXPECT_THAT(names(), testing::Contains("(null)"));
   tap_middle(switch_of("(null)"));
   EXPECT_EQ(stored(), "(null) = 1, checked = 0, firstBoot = 1");
+}
+
+TEST_F(RootPage, APictureIsFoundByItsNameAndByItsFile) {
+  EXPECT_TRUE(imageFromFile("attivo"_ns));
+  EXPECT_TRUE(imageFromFile("attivo@2x.png"_ns));
+  EXPECT_FALSE(imageFromFile("nothing"_ns));
+  fs::copy_file(pictures() / "attivo@2x.png", pictures() / "small.png");
+  EXPECT_FALSE(imageFromFile("small"_ns)) << "only sharp pictures are meant";
 }
 
 TEST_F(RootPage, TheConfigurationPageLeadsToTheStylePage) {

@@ -265,6 +265,16 @@ TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
 }
 
+TEST_F(WizardPages, ASwipeBackLeadsToThePageBefore) {
+  start_questions();
+  next_page();
+  EXPECT_FALSE(find(shown_page().view(), "Enable Sonavue"));
+  swipe(280);
+  EXPECT_TRUE(find(shown_page().view(), "Enable Sonavue"));
+  swipe(280);
+  EXPECT_TRUE(find(shown_page().view(), "Enable Sonavue")) << "there is nothing before the first";
+}
+
 TEST_F(WizardPages, TheScreenStaysUpright) {
   start_questions();
   EXPECT_EQ(objc::send<NSUInteger>(page, "pageViewControllerSupportedInterfaceOrientations:"_sel,
