@@ -3,9 +3,33 @@
 #include "platform/UIKit/UIScrollView.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tests/settings/pages_test.h"
+#include "tests/settings/replaced_method.h"
 
 namespace sonavue::test {
 namespace {
+
+/// The schemes that somebody opens on this machine, and what was opened.
+std::vector<std::string>& known_schemes() {
+  static std::vector<std::string> schemes;
+  return schemes;
+}
+std::vector<std::string>& opened() {
+  static std::vector<std::string> addresses;
+  return addresses;
+}
+BOOL can_open(UIApplication, NSURL url) {
+  const NSString text = url.absoluteString();
+  const std::string address = text ? text.UTF8String() : "";
+  const std::string scheme = address.substr(0, address.find(':'));
+  return std::find(known_schemes().begin(), known_schemes().end(), scheme) != known_schemes().end();
+}
+BOOL open_address(UIApplication, NSURL url) {
+  opened().emplace_back(url.absoluteString().UTF8String());
+  return YES;
+}
+BOOL cannot_send(objc::Object) {
+  return NO;
+}
 
 class Credits : public PagesTest {
  protected:
@@ -131,6 +155,40 @@ TEST_F(Credits, FollowOpensTheWebWhereNoReaderIs) {
     sent.append(std::istreambuf_iterator<char>(file), {});
   }
   EXPECT_THAT(sent, testing::HasSubstr("/intent/follow?screen_name=plumcode"));
+}
+
+/// A machine with other applications.
+class CreditsAmongApplications : public Credits {
+ protected:
+  std::vector<std::string> opened_by(const char* tile, std::vector<std::string> schemes) {
+    known_schemes() = std::move(schemes);
+    opened().clear();
+    open_card("developerCell");
+    EXPECT_TRUE(tap_text(tile));
+    advance(1);
+    EXPECT_FALSE(presented());
+    return opened();
+  }
+
+ private:
+  ReplacedMethod<&can_open> can_open_{UIApplication::cls(), "canOpenURL:"};
+  ReplacedMethod<&open_address> open_{UIApplication::cls(), "openURL:"};
+};
+
+TEST_F(CreditsAmongApplications, APackageIsShownByItsManagerAlone) {
+  EXPECT_THAT(opened_by("Tidepool", {}), testing::IsEmpty());
+  EXPECT_THAT(opened_by("Tidepool", {"cydia"}),
+              testing::ElementsAre(testing::StartsWith("cydia://package/")));
+}
+
+TEST_F(Credits, WhereNoTextsAreSentTheMessageDoesNothing) {
+  const ReplacedMethod<&cannot_send> without(objc_getMetaClass("MFMessageComposeViewController"),
+                                             "canSendText");
+  open_card("developerCell");
+  ASSERT_TRUE(tap_text("Message"));
+  advance(1);
+  EXPECT_FALSE(card.presentedViewController());
+  EXPECT_EQ(presented(), card);
 }
 
 TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {

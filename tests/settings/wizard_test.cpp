@@ -85,6 +85,7 @@ TEST_F(WizardPages, TheWelcomePageIsLaidOutForTheScreen) {
   EXPECT_EQ(frame(0), (CGRect{(375.0 - 130) / 2, 50, 130, 130}));
   EXPECT_EQ(frame(1), (CGRect{0, 205, 375, 50}));
   EXPECT_EQ(frame(2), (CGRect{15, 235, 345, 667.0 / 2}));
+  EXPECT_EQ(objc::cast<UILabel>(parts.objectAtIndex(2)).numberOfLines(), 10);
   EXPECT_EQ(frame(3), (CGRect{65, 587, 20, 70}));
   const CGFloat kerning[] = {5, -3, -10, -10, -1, 4, -8, 5, -3, -2, -8, -2};
   CGFloat x = 85;
