@@ -3,10 +3,7 @@
 #include "host/application/program/player_remote.h"
 #include "host/applications/music/library.h"
 #include "host/applications/music/look.h"
-#include "host/foundation/device_paths.h"
-#include "host/media_player/media_service.h"
 #include "host/runtime/device_model.h"
-#include "host/runtime/log.h"
 #include "host/springboard/view/make_view.h"
 
 namespace host::music {
@@ -54,16 +51,6 @@ void MusicApplication::player_changed() {
   objc::state_of<SongsPage>(*songs_).player_changed();
   objc::state_of<NowPlayingPage>(*now_playing_).player_changed();
   mini_bar_->player_changed();
-}
-
-void open_library(bool is_stepped) {
-  media_player::MediaOptions options;
-  options.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
-  options.first_scan = media_player::FirstScan::kNever;
-  options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
-  options.audio_output = "null";
-  if (const auto problem = media_player::MediaService::start(std::move(options)))
-    spdlog::error("there is no music: {}", *problem);
 }
 
 void export_music_classes() {

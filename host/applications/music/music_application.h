@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "host/application/program/program.h"
+#include "host/application/program/shared_library.h"
 #include "host/applications/music/mini_bar.h"
 #include "host/applications/music/now_playing_page.h"
 #include "host/applications/music/songs_page.h"
@@ -42,10 +43,9 @@ class MusicApplication : public objc::Implementation<MusicApplication, MusicAppl
 };
 
 void export_music_classes();
-/// Opens the library that the home screen's process keeps.
-void open_library(bool is_stepped);
 
 inline constexpr application::Program kProgram{"com.apple.Music", "Music", "MusicApplication",
-                                               &export_music_classes, &open_library};
+                                               &export_music_classes,
+                                               &application::open_shared_library};
 
 }  // namespace host::music

@@ -1,14 +1,12 @@
 #include "host/applications/settings/settings_application.h"
 
 #include "host/application/program/player_remote.h"
+#include "host/application/program/shared_library.h"
 #include "host/applications/settings/about_page.h"
 #include "host/applications/settings/root_page.h"
 #include "host/applications/settings/sounds_page.h"
 #include "host/applications/settings/volume_cell.h"
 #include "host/applications/settings/wallpaper_page.h"
-#include "host/foundation/device_paths.h"
-#include "host/media_player/media_service.h"
-#include "host/runtime/log.h"
 #include "host/social/configuration.h"
 
 namespace host::settings {
@@ -57,13 +55,7 @@ void prepare_settings(bool is_stepped) {
   ways_out.desktop = is_stepped ? social::Desktop::Absent : social::desktop_of_environment();
   ways_out.share_target = social::default_share_target_file();
   social::configure(ways_out);
-  media_player::MediaOptions options;
-  options.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
-  options.first_scan = media_player::FirstScan::kNever;
-  options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
-  options.audio_output = "null";
-  if (const auto problem = media_player::MediaService::start(std::move(options)))
-    spdlog::error("there is no music to count: {}", *problem);
+  application::open_shared_library(is_stepped);
 }
 
 }  // namespace host::settings
