@@ -63,7 +63,7 @@ BenchPhone::BenchPhone(Pace pace, std::string_view preferences, const Music& mus
   options.headless = true;
   options.stepped = pace == Pace::kStepped;
   launcher::launch_home_screen(options);
-  phone_screen_ = std::make_unique<launcher::PhoneScreen>(loop_, screen_);
+  phone_screen_ = std::make_unique<process::PhoneScreen>(loop_, screen_);
   console_phone_ = std::make_unique<launcher::ConsolePhone>(
       hands_, launcher::ConsolePhone::Parts{
                   [this](double seconds) { loop_.advance_to(stepped_, stepped_.now() + seconds); },

@@ -9,7 +9,7 @@
 
 #include "host/console/session.h"
 #include "host/launcher/home_screen/console_phone.h"
-#include "host/launcher/home_screen/phone_screen.h"
+#include "host/process/phone_screen.h"
 #include "host/quartzcore/layer_service.h"
 #include "objc/autorelease_pool.h"
 
@@ -90,7 +90,7 @@ class BenchPhone {
   WatchedScreen screen_;
   std::unique_ptr<host::quartzcore::LayerService> layers_;
   host::launcher::Hands hands_{loop_, kScreen};
-  std::unique_ptr<host::launcher::PhoneScreen> phone_screen_;
+  std::unique_ptr<host::process::PhoneScreen> phone_screen_;
   std::unique_ptr<host::launcher::ConsolePhone> console_phone_;
   host::console::Globals globals_;
   std::unique_ptr<host::console::Session> session_;

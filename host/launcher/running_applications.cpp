@@ -6,6 +6,7 @@
 
 #include <utility>
 
+#include "host/application/wire/listener_argument.h"
 #include "host/launcher/unix_socket.h"
 
 namespace host::launcher {
@@ -42,7 +43,7 @@ bool RunningApplications::open(const std::string& bundle, const std::string& pro
   forget_socket(bundle);
   const Descriptor listener = listening_socket(socket_of(bundle));
   if (!listener) return false;
-  command.arguments.emplace_back(kListenerArgument);
+  command.arguments.emplace_back(application::kListenerArgument);
   command.arguments.push_back(std::to_string(listener.get()));
   const auto child = start_child(command, listener.get());
   if (child) running_[bundle] = *child;

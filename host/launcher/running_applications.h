@@ -10,9 +10,6 @@
 
 namespace host::launcher {
 
-/// The argument before the number of the socket that an application listens on.
-inline constexpr const char* kListenerArgument = "--listener";
-
 /// The applications' processes. Each listens on a socket that has its bundle's name, which is there
 /// before the process is, so that whoever opened it can connect at once. One that ends is just
 /// gone; all of them end with this object.

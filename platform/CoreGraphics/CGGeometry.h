@@ -3,8 +3,12 @@
 #include "objc/encoding.h"
 
 // The bindings are compiled where there is no hosted C++ library.
-constexpr CGFloat CGLesser(CGFloat left, CGFloat right) { return right < left ? right : left; }
-constexpr CGFloat CGGreater(CGFloat left, CGFloat right) { return left < right ? right : left; }
+constexpr CGFloat CGLesser(CGFloat left, CGFloat right) {
+  return right < left ? right : left;
+}
+constexpr CGFloat CGGreater(CGFloat left, CGFloat right) {
+  return left < right ? right : left;
+}
 
 struct CGPoint {
   CGFloat x = 0;

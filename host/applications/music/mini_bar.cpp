@@ -1,8 +1,8 @@
 #include "host/applications/music/mini_bar.h"
 
-#include "host/application/program/player_remote.h"
 #include "host/applications/music/library.h"
 #include "host/applications/music/look.h"
+#include "host/applications/program/player_remote.h"
 #include "host/springboard/surfaces/surface_parts.h"
 #include "host/springboard/view/make_view.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"

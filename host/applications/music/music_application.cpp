@@ -1,8 +1,8 @@
 #include "host/applications/music/music_application.h"
 
-#include "host/application/program/player_remote.h"
 #include "host/applications/music/library.h"
 #include "host/applications/music/look.h"
+#include "host/applications/program/player_remote.h"
 #include "host/runtime/device_model.h"
 #include "host/springboard/view/make_view.h"
 

@@ -2,11 +2,11 @@
 
 #include <memory>
 
-#include "host/application/program/program.h"
-#include "host/application/program/shared_library.h"
 #include "host/applications/music/mini_bar.h"
 #include "host/applications/music/now_playing_page.h"
 #include "host/applications/music/songs_page.h"
+#include "host/applications/program/program.h"
+#include "host/applications/program/shared_library.h"
 #include "platform/UIKit/UINavigationController.h"
 
 namespace host::music {

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-#include "host/application/program/player_remote.h"
 #include "host/applications/music/library.h"
 #include "host/applications/music/look.h"
+#include "host/applications/program/player_remote.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/surfaces/surface_parts.h"
 #include "host/springboard/view/make_view.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/application/program/player_remote.h"
 #include "host/applications/music/library.h"
+#include "host/applications/program/player_remote.h"
 #include "host/runtime/run_loop.h"
 
 namespace host::music {

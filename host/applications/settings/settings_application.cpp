@@ -1,7 +1,7 @@
 #include "host/applications/settings/settings_application.h"
 
-#include "host/application/program/player_remote.h"
-#include "host/application/program/shared_library.h"
+#include "host/applications/program/player_remote.h"
+#include "host/applications/program/shared_library.h"
 #include "host/applications/settings/about_page.h"
 #include "host/applications/settings/root_page.h"
 #include "host/applications/settings/sounds_page.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/application/program/program.h"
+#include "host/applications/program/program.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIApplication.h"

@@ -1,6 +1,6 @@
 #include "host/applications/settings/sounds_page.h"
 
-#include "host/application/program/player_remote.h"
+#include "host/applications/program/player_remote.h"
 #include "platform/Foundation/NSValue.h"
 
 namespace host::settings {

@@ -5,8 +5,8 @@
 #include "host/foundation/loader.h"
 #include "host/launcher/home_screen/music.h"
 #include "host/launcher/home_screen/phone_mode.h"
-#include "host/launcher/home_screen/platform_classes.h"
 #include "host/launcher/home_screen/supervised_processes.h"
+#include "host/process/platform_classes.h"
 #include "host/social/configuration.h"
 #include "host/springboard/configuration.h"
 #include "host/uikit/application/application.h"
@@ -41,7 +41,7 @@ void start_gesture_service() {
 }  // namespace
 
 void launch_home_screen(const ProcessOptions& options) {
-  export_platform_classes();
+  process::export_platform_classes();
   foundation::take_foundation_log();
   springboard::Configuration configuration;
   configuration.wall_clock = &wall_clock(options.stepped);

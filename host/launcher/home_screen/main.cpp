@@ -11,12 +11,12 @@
 #include "host/launcher/home_screen/launch.h"
 #include "host/launcher/home_screen/music.h"
 #include "host/launcher/home_screen/passing_time.h"
-#include "host/launcher/home_screen/phone_screen.h"
 #include "host/launcher/home_screen/process_options.h"
 #include "host/launcher/home_screen/window_clipboard.h"
 #include "host/launcher/home_screen/window_input.h"
 #include "host/launcher/home_screen/window_service.h"
 #include "host/launcher/supervisor.h"
+#include "host/process/phone_screen.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
@@ -93,7 +93,7 @@ int run(const ProcessOptions& options) {
   auto display = open_display(options, loop, input);
   if (!display) return launcher::kCannotStart;
   launcher::launch_home_screen(options);
-  launcher::PhoneScreen phone_screen(loop, *display->screen);
+  process::PhoneScreen phone_screen(loop, *display->screen);
 
   launcher::ConsolePhone phone(
       hands,

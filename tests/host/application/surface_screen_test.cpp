@@ -1,4 +1,4 @@
-#include "host/application/program/surface_screen.h"
+#include "host/applications/program/surface_screen.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

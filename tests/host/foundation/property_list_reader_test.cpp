@@ -75,9 +75,9 @@ TEST_F(PropertyListReaderTest, AMutableDictionaryIsReadAsOneEachTime) {
   write("<key>on</key><true/>");
   read();
   for (int i = 0; i < 2; ++i) {
-    const auto changed = objc::send<NSMutableDictionary>(
-        objc::Object(objc_getClass("NSMutableDictionary")), "dictionaryWithContentsOfFile:"_sel,
-        path);
+    const auto changed =
+        objc::send<NSMutableDictionary>(objc::Object(objc_getClass("NSMutableDictionary")),
+                                        "dictionaryWithContentsOfFile:"_sel, path);
     ASSERT_EQ(changed.count(), 1u);
     changed.setObject("b"_ns, "more"_ns);
   }

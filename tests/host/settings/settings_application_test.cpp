@@ -5,10 +5,10 @@
 #include <filesystem>
 
 #include "host/activator/service.h"
-#include "host/application/program/player_remote.h"
+#include "host/applications/program/player_remote.h"
 #include "host/applications/settings/loader_entries.h"
 #include "host/foundation/device_paths.h"
-#include "host/launcher/home_screen/platform_classes.h"
+#include "host/process/platform_classes.h"
 #include "host/springboard/configuration.h"
 #include "host/springboard/wallpaper.h"
 #include "host/uikit/application/application.h"
@@ -28,7 +28,7 @@ class SettingsTest : public PageTest {
  protected:
   SettingsTest() {
     foundation::set_device_root(device.path());
-    launcher::export_platform_classes();
+    process::export_platform_classes();
     settings::export_settings_classes();
     activator::Service::restart(activator::Service::Role::Guest, nullptr);
     springboard::Configuration configuration;

@@ -1,4 +1,4 @@
-#include "host/application/program/own_phone.h"
+#include "host/applications/program/own_phone.h"
 
 #include "host/uikit/view/screen_space.h"
 

@@ -7,7 +7,7 @@
 #include "host/runtime/run_loop.h"
 #include "host/screen/screen.h"
 
-namespace host::launcher {
+namespace host::process {
 
 /// Draws the windows of this process at the end of every turn of the loop and hands what changed to
 /// the screen. A turn that changed nothing draws nothing, and while frames are coming those are
@@ -37,4 +37,4 @@ class PhoneScreen {
   RunLoop::Id observer_;
 };
 
-}  // namespace host::launcher
+}  // namespace host::process

@@ -1,4 +1,4 @@
-#include "host/application/program/home_link.h"
+#include "host/applications/program/home_link.h"
 
 #include <poll.h>
 #include <sys/socket.h>

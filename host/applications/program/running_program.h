@@ -3,11 +3,11 @@
 #include <memory>
 #include <optional>
 
-#include "host/application/program/home_link.h"
-#include "host/application/program/own_phone.h"
-#include "host/application/program/surface_screen.h"
+#include "host/applications/program/home_link.h"
+#include "host/applications/program/own_phone.h"
+#include "host/applications/program/surface_screen.h"
 #include "host/console/session.h"
-#include "host/launcher/home_screen/phone_screen.h"
+#include "host/process/phone_screen.h"
 #include "host/runtime/run_loop.h"
 #include "host/uikit/gesture/touch_input.h"
 
@@ -49,7 +49,7 @@ class RunningProgram {
   RunLoop& loop_;
   SteppedClock* stepped_;
   SurfaceScreen screen_;
-  launcher::PhoneScreen phone_screen_;
+  process::PhoneScreen phone_screen_;
   uikit::TouchInput touches_;
   OwnPhone phone_;
   console::Session session_;

@@ -1,8 +1,8 @@
-#include "host/application/program/running_program.h"
+#include "host/applications/program/running_program.h"
 
 #include <cmath>
 
-#include "host/application/program/player_remote.h"
+#include "host/applications/program/player_remote.h"
 #include "host/runtime/log.h"
 #include "host/uikit/text/characters.h"
 #include "host/uikit/text/key_input.h"

@@ -1,16 +1,16 @@
-#include "host/application/program/program.h"
+#include "host/applications/program/program.h"
 
 #include <dlfcn.h>
 
 #include <CLI/CLI.hpp>
 #include <optional>
 
-#include "host/application/program/running_program.h"
+#include "host/application/wire/listener_argument.h"
+#include "host/applications/program/running_program.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
-#include "host/launcher/home_screen/platform_classes.h"
-#include "host/launcher/running_applications.h"
+#include "host/process/platform_classes.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
@@ -34,7 +34,7 @@ std::optional<Options> read_options(int count, const char* const* arguments) {
   CLI::App parser;
   parser.add_option("--device", options.device)->required();
   parser.add_option("--root", options.root)->required();
-  parser.add_option(launcher::kListenerArgument, options.listener)->required();
+  parser.add_option(kListenerArgument, options.listener)->required();
   try {
     parser.parse(count, arguments);
   } catch (const CLI::ParseError&) {
@@ -70,7 +70,7 @@ void live(HomeLink& link, const Program& program) {
   RunLoop loop(hello.is_stepped ? static_cast<Clock&>(stepped) : real);
   RunLoop::set_main(&loop);
   const auto pool = std::make_unique<objc::AutoreleasePool>();
-  launcher::export_platform_classes();
+  process::export_platform_classes();
   foundation::take_foundation_log();
   const quartzcore::LayerService layers(loop);
   if (program.export_classes) program.export_classes();

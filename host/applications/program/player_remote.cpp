@@ -1,4 +1,4 @@
-#include "host/application/program/player_remote.h"
+#include "host/applications/program/player_remote.h"
 
 namespace host::application {
 

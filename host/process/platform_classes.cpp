@@ -1,4 +1,4 @@
-#include "host/launcher/home_screen/platform_classes.h"
+#include "host/process/platform_classes.h"
 
 #include "host/activator/exports.h"
 #include "host/foundation/exports.h"
@@ -15,7 +15,7 @@
 #include "host/uikit/text/text_view.h"
 #include "host/uikit/view/exports.h"
 
-namespace host::launcher {
+namespace host::process {
 
 void export_platform_classes() {
   foundation::export_foundation();
@@ -34,4 +34,4 @@ void export_platform_classes() {
   preferences::export_preferences();
 }
 
-}  // namespace host::launcher
+}  // namespace host::process

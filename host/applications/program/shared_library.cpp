@@ -1,4 +1,4 @@
-#include "host/application/program/shared_library.h"
+#include "host/applications/program/shared_library.h"
 
 #include "host/foundation/device_paths.h"
 #include "host/media_player/media_service.h"

@@ -1,4 +1,4 @@
-#include "host/launcher/home_screen/phone_screen.h"
+#include "host/process/phone_screen.h"
 
 #include <cmath>
 #include <vector>
@@ -7,7 +7,7 @@
 #include "host/runtime/device_model.h"
 #include "host/uikit/view/window_list.h"
 
-namespace host::launcher {
+namespace host::process {
 namespace {
 
 int pixels(double points) {
@@ -61,4 +61,4 @@ std::optional<std::string> PhoneScreen::write(const std::string& file) {
   return screen::write_png(picture(), file);
 }
 
-}  // namespace host::launcher
+}  // namespace host::process

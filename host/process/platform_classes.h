@@ -1,8 +1,8 @@
 #pragma once
 
-namespace host::launcher {
+namespace host::process {
 
 /// Makes every class of the platform that the home screen's process offers, base first.
 void export_platform_classes();
 
-}  // namespace host::launcher
+}  // namespace host::process
