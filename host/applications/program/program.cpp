@@ -1,7 +1,5 @@
 #include "host/applications/program/program.h"
 
-#include <dlfcn.h>
-
 #include <CLI/CLI.hpp>
 #include <optional>
 
@@ -10,6 +8,7 @@
 #include "host/foundation/device_paths.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
+#include "host/process/library_globals.h"
 #include "host/process/platform_classes.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
@@ -54,15 +53,6 @@ Hello wait_for_home(HomeLink& link) {
   }
 }
 
-console::Globals globals_of_libraries() {
-  console::Globals globals;
-  for (const auto& library : foundation::loaded_libraries()) {
-    const void* table = dlsym(library.handle, console::Globals::kTableSymbol);
-    globals.add_table(static_cast<const console::ExportedGlobal*>(table));
-  }
-  return globals;
-}
-
 void live(HomeLink& link, const Program& program) {
   const Hello hello = wait_for_home(link);
   SteppedClock stepped;
@@ -77,7 +67,7 @@ void live(HomeLink& link, const Program& program) {
   foundation::load_libraries(program.bundle, program.name);
   if (program.prepare) program.prepare(hello.is_stepped);
   uikit::launch_application(program.application_class);
-  const console::Globals globals = globals_of_libraries();
+  const console::Globals globals = process::globals_of_libraries();
   RunningProgram running(link, loop, hello.is_stepped ? &stepped : nullptr, globals);
   running.take(hello);
   running.serve();

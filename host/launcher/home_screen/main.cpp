@@ -1,11 +1,8 @@
-#include <dlfcn.h>
-
 #include <cstdio>
 #include <memory>
 
 #include "host/console/globals.h"
 #include "host/foundation/device_paths.h"
-#include "host/foundation/loader.h"
 #include "host/launcher/home_screen/console_phone.h"
 #include "host/launcher/home_screen/console_service.h"
 #include "host/launcher/home_screen/launch.h"
@@ -16,6 +13,7 @@
 #include "host/launcher/home_screen/window_input.h"
 #include "host/launcher/home_screen/window_service.h"
 #include "host/launcher/supervisor.h"
+#include "host/process/library_globals.h"
 #include "host/process/phone_screen.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
@@ -46,15 +44,6 @@ class ProcessClock {
   RealClock real_;
   std::optional<SteppedClock> stepped_;
 };
-
-console::Globals shared_globals() {
-  console::Globals globals;
-  for (const auto& library : foundation::loaded_libraries()) {
-    const void* table = dlsym(library.handle, console::Globals::kTableSymbol);
-    globals.add_table(static_cast<const console::ExportedGlobal*>(table));
-  }
-  return globals;
-}
 
 /// The window where there is one, otherwise a screen that nobody sees.
 struct Display {
@@ -99,7 +88,7 @@ int run(const ProcessOptions& options) {
       hands,
       {[&](double seconds) { clock.advance(loop, seconds); },
        [&](const std::string& file) { return phone_screen.write(file); }, options.screenshots});
-  const console::Globals globals = shared_globals();
+  const console::Globals globals = process::globals_of_libraries();
   console::Session session(phone, globals);
   std::optional<launcher::ConsoleService> service;
   if (options.console_descriptor >= 0)
