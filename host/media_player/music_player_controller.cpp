@@ -5,6 +5,7 @@
 #include "host/media/log.h"
 #include "host/media_player/media_item.h"
 #include "host/media_player/media_service.h"
+#include "host/media_player/playback_state.h"
 #include "host/media_player/query.h"
 #include "platform/Foundation/NSNotificationCenter.h"
 #include "platform/Foundation/NSValue.h"
@@ -53,16 +54,7 @@ void MusicPlayerController::set_now_playing_item(MPMediaItem item) {
 
 MPMusicPlaybackState MusicPlayerController::playback_state() {
   const Playback* player = playback();
-  if (!player) return MPMusicPlaybackStateStopped;
-  switch (player->state()) {
-    case media::PlaybackState::playing:
-      return MPMusicPlaybackStatePlaying;
-    case media::PlaybackState::paused:
-      return MPMusicPlaybackStatePaused;
-    case media::PlaybackState::stopped:
-      break;
-  }
-  return MPMusicPlaybackStateStopped;
+  return player ? platform_state(player->state()) : MPMusicPlaybackStateStopped;
 }
 
 void MusicPlayerController::prepare_to_play() {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "host/media_player/playback_state.h"
 #include "platform/Foundation/NSNotificationCenter.h"
-#include "platform/MediaPlayer/MPMusicPlayerController.h"
 #include "platform/SpringBoard/SBMediaController.h"
 
 namespace host::media_player {
@@ -18,18 +18,6 @@ constexpr double kEndSlack = 1e-6;
 // Tells one report from the next, and is far below anything that a person sees or hears.
 constexpr double kReportStep = 1e-6;
 constexpr std::uint32_t kReportSteps = 1000;
-
-MPMusicPlaybackState platform_state(media::PlaybackState state) {
-  switch (state) {
-    case media::PlaybackState::playing:
-      return MPMusicPlaybackStatePlaying;
-    case media::PlaybackState::paused:
-      return MPMusicPlaybackStatePaused;
-    case media::PlaybackState::stopped:
-      break;
-  }
-  return MPMusicPlaybackStateStopped;
-}
 
 // News reaches the objects of the system in the next turn, as it comes from another process there.
 void tell_volume() {
