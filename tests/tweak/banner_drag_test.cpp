@@ -6,6 +6,8 @@ namespace host::test {
 namespace {
 
 constexpr double kOpening = 0.5;
+constexpr const char* kDragging = "/Library/Application Support/Sonavue/grab_dragging@2x.png";
+constexpr const char* kDone = "/Library/Application Support/Sonavue/grab_done@2x.png";
 
 class BannerDrag : public BannerTest {
  protected:
@@ -25,6 +27,16 @@ class BannerDrag : public BannerTest {
   }
 
   CGFloat start_ = 0;
+};
+
+/// Hears which pictures are read for the grabber.
+class GrabberPicture {
+ public:
+  std::string last() const { return loaded_.count() > 0 ? text(std::get<0>(loaded_.last())) : ""; }
+
+ private:
+  MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded_{
+      objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls()))};
 };
 
 TEST_F(BannerDrag, TheWindowFollowsTheFinger) {
@@ -117,17 +129,23 @@ TEST_F(BannerDrag, ItsBeginningSendsTheControlCentreAway) {
 }
 
 TEST_F(BannerDrag, TheGrabberShowsWhatCanBeDone) {
-  const MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded(
-      objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls())));
-  const auto last = [&] { return text(std::get<0>(loaded.last())); };
+  const GrabberPicture picture;
   grab();
-  EXPECT_EQ(last(), "/Library/Application Support/Sonavue/grab_dragging@2x.png");
+  EXPECT_EQ(picture.last(), kDragging);
   move_by(0, 40);
   lift();
   advance(kOpening - 0.05);
-  EXPECT_EQ(last(), "/Library/Application Support/Sonavue/grab_dragging@2x.png");
+  EXPECT_EQ(picture.last(), kDragging);
   advance(0.1);
-  EXPECT_EQ(last(), "/Library/Application Support/Sonavue/grab_done@2x.png");
+  EXPECT_EQ(picture.last(), kDone);
+}
+
+TEST_F(BannerDrag, CalledFromOpenTheGrabberShowsThatItCanBeDraggedAgain) {
+  const GrabberPicture picture;
+  pull_open();
+  ASSERT_EQ(picture.last(), kDone);
+  objc::send<>(application, "showBanner"_sel);
+  EXPECT_EQ(picture.last(), kDragging);
 }
 
 class BannerDragWithoutTexts : public BannerTest {};

@@ -78,6 +78,21 @@ TEST_F(Directories, AListenerThatThrowsIsListedByItsName) {
   EXPECT_GE(log.count("gesture listener thrower threw"), 1);
 }
 
+TEST_F(Directories, AskEachListenerOnceHoweverManyCameInOneTurn) {
+  int titles = 0;
+  script().on_question = [&](const std::string& question) -> objc::Object {
+    titles += question == "title" ? 1 : 0;
+    return nil;
+  };
+  for (const char* name : {"a", "b", "c"})
+    add(answering_listener(), name);
+  loop.run_ready();
+  EXPECT_EQ(titles, 3);
+  add(answering_listener(), "d");
+  loop.run_ready();
+  EXPECT_EQ(titles, 3 + 4);
+}
+
 TEST_F(Directories, ForgetWhoIsUnregisteredAndWhoWasThereInALifeBefore) {
   add(plain_listener(), "a");
   add(plain_listener(), "b");

@@ -139,6 +139,18 @@ TEST_F(Registry, AGestureIsHeardWithTheNextTurnInThePresentMode) {
   EXPECT_THAT(script().events, ElementsAre("shake lockscreen"));
 }
 
+TEST_F(Registry, AGestureEndsWithTheServiceThatRecognizedIt) {
+  add(plain_listener(), "a");
+  assign("shake", "a");
+  EXPECT_TRUE(Service::shared().recognized("shake"));
+  // Twice, so that another service may lie where the first one was.
+  start_again();
+  start_again();
+  add(plain_listener(), "a");
+  loop.run_ready();
+  EXPECT_THAT(script().events, IsEmpty());
+}
+
 TEST_F(Registry, AGestureOfAnAbsentListenerIsNotHeard) {
   EXPECT_TRUE(assign("shake", "not there"));
   EXPECT_FALSE(Service::shared().recognized("shake"));
