@@ -51,7 +51,7 @@ const char* EdgeSlide::corner(CGPoint inwards) const {
   const Side down = side_of(start_.y, screen_.height);
   if (across.distance > kCorner || down.distance > kCorner) return nullptr;
   const CGFloat longer = std::max(inwards.x, inwards.y);
-  if (std::min(inwards.x, inwards.y) < kSlant * longer || longer <= 0) return nullptr;
+  if (std::min(inwards.x, inwards.y) < kSlant * longer) return nullptr;
   if (down.is_near_start) return across.is_near_start ? kSlideInTopLeft : kSlideInTopRight;
   return across.is_near_start ? kSlideInBottomLeft : kSlideInBottomRight;
 }

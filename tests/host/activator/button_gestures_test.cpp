@@ -44,6 +44,14 @@ TEST_F(ButtonGesturesTest, AHoldOfHomeTakesThePress) {
   EXPECT_EQ(press(Button::Home), Press::Plain);
 }
 
+TEST_F(ButtonGesturesTest, AButtonThatIsDownAlreadyIsNotPressedAgain) {
+  buttons.down(Button::Home);
+  advance(0.5);
+  buttons.down(Button::Home);
+  advance(1);
+  EXPECT_THAT(recognized, ElementsAre("home-hold"));
+}
+
 TEST_F(ButtonGesturesTest, AHoldThatNobodyHearsIsAPress) {
   is_heard = false;
   buttons.down(Button::Home);
@@ -79,6 +87,13 @@ TEST_F(ButtonGesturesTest, LightPressesAtOnceAreAPairToo) {
 TEST_F(ButtonGesturesTest, EachPressIsInOnePairOnly) {
   press(Button::VolumeDown);
   press(Button::VolumeUp);
+  press(Button::VolumeDown);
+  EXPECT_THAT(recognized, ElementsAre("volume-both"));
+}
+
+TEST_F(ButtonGesturesTest, AHeldButtonOfAPairMakesNoOther) {
+  buttons.down(Button::VolumeUp);
+  press(Button::VolumeDown);
   press(Button::VolumeDown);
   EXPECT_THAT(recognized, ElementsAre("volume-both"));
 }

@@ -42,6 +42,13 @@ TEST(EdgeSlides, StraightOutOfACornerBelongToTheEdge) {
 TEST(EdgeSlides, BeginAtTheEdge) {
   EXPECT_EQ(slide({16, 300}, {100, 300}), "-");
   EXPECT_EQ(slide({180, 651}, {180, 500}), "-");
+  EXPECT_EQ(slide({16, 16}, {60, 60}), "-");
+}
+
+TEST(EdgeSlides, ComeOutOfACornerOnlyNearToIt) {
+  EXPECT_EQ(slide({5, 50}, {50, 95}), "slide-in-top-left");
+  EXPECT_EQ(slide({5, 51}, {50, 80}), "slide-in-left");
+  EXPECT_EQ(slide({51, 5}, {80, 50}), "slide-in-top");
 }
 
 TEST(EdgeSlides, WaitForSomeWay) {
@@ -51,7 +58,9 @@ TEST(EdgeSlides, WaitForSomeWay) {
 
 TEST(EdgeSlides, AlongTheEdgeAreNone) {
   EXPECT_EQ(slide({2, 300}, {10, 360}), "-");
+  EXPECT_EQ(slide({2, 300}, {12, 240}), "-");
   EXPECT_EQ(slide({2, 30}, {3, 90}), "-");
+  EXPECT_EQ(slide({180, 2}, {120, 12}), "-");
 }
 
 }  // namespace

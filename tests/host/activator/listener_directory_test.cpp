@@ -93,6 +93,18 @@ TEST_F(Directories, AskEachListenerOnceHoweverManyCameInOneTurn) {
   EXPECT_EQ(titles, 3 + 4);
 }
 
+TEST_F(Directories, AListenerMayUnregisterItselfWhenItIsAsked) {
+  script().on_question = [&](const std::string& question) -> objc::Object {
+    if (question == "title") service().unregisterListenerWithName("a"_ns);
+    return nil;
+  };
+  add(answering_listener(), "a");
+  add(plain_listener(), "b");
+  loop.run_ready();
+  ASSERT_EQ(records().size(), 1u);
+  EXPECT_EQ(records().front().name, "b");
+}
+
 TEST_F(Directories, ForgetWhoIsUnregisteredAndWhoWasThereInALifeBefore) {
   add(plain_listener(), "a");
   add(plain_listener(), "b");

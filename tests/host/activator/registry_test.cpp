@@ -90,6 +90,21 @@ TEST_F(Registry, AListenerMayUnregisterItselfFromItsEvent) {
   EXPECT_EQ(script().living, 0);
 }
 
+TEST_F(Registry, TellsAllWhoWereAssignedWhateverTheFirstOneChanges) {
+  for (const char* name : {"a", "b", "c"}) {
+    add(plain_listener(), name);
+    assign("shake", name);
+  }
+  script().on_event = [&](LAEvent told) {
+    for (const char* name : {"a", "b", "c"}) {
+      service().unassignEvent(told, to_ns(name));
+      assign("home-hold", name);
+    }
+  };
+  send("shake");
+  EXPECT_EQ(script().events.size(), 3u);
+}
+
 TEST_F(Registry, ThrowingKeepsNobodyElseFromTheEvent) {
   add(plain_listener(), "first");
   add(plain_listener(), "second");

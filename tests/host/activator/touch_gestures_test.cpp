@@ -105,6 +105,26 @@ TEST_F(TouchGesturesTest, AHoldOfTheStatusBarIsRecognizedWhileTheFingerIsDown) {
   EXPECT_THAT(told().back(), testing::HasSubstr("cancelled"));
 }
 
+TEST_F(TouchGesturesTest, AFingerThatHoldsTheStatusBarSlidesNoMore) {
+  press({180, 10});
+  advance(0.7);
+  glide({180, 10}, {180, 90}, 0.1);
+  lift({180, 90});
+  EXPECT_THAT(recognized, ElementsAre("status-bar-hold"));
+}
+
+TEST_F(TouchGesturesTest, AHoldEndsWithWhoWatchesIt) {
+  {
+    TouchGestures others(loop, kScreen.size, [this](const char* event) {
+      recognized.emplace_back(event);
+      return true;
+    });
+    others.touch(0, UITouchPhaseBegan, {180, 10}, clock.now());
+  }
+  advance(1);
+  EXPECT_THAT(recognized, IsEmpty());
+}
+
 TEST_F(TouchGesturesTest, AMovingOrLiftedFingerHoldsNothing) {
   press({180, 10});
   move({195, 10});
