@@ -2,14 +2,22 @@
 # kit is used: the C++ headers are the freestanding ones of the desktop's compiler, the libraries
 # to link against are described in stubs/.
 
+# Besides the phone's own processor, the desktop's: what is made for that one is run by tests.
+set(SONAVUE_PHONE_PROCESSOR arm64 CACHE STRING "arm64, or x86_64 for a simulated phone")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SONAVUE_PHONE_PROCESSOR)
+set(target ${SONAVUE_PHONE_PROCESSOR}-apple-ios8.0)
+if(NOT SONAVUE_PHONE_PROCESSOR STREQUAL arm64)
+  string(APPEND target -simulator)
+endif()
+
 set(CMAKE_SYSTEM_NAME Generic)
-set(CMAKE_SYSTEM_PROCESSOR arm64)
+set(CMAKE_SYSTEM_PROCESSOR ${SONAVUE_PHONE_PROCESSOR})
 set(SONAVUE_PHONE ON)
 
 set(CMAKE_C_COMPILER clang-16)
 set(CMAKE_CXX_COMPILER clang++-16)
-set(CMAKE_C_COMPILER_TARGET arm64-apple-ios8.0)
-set(CMAKE_CXX_COMPILER_TARGET arm64-apple-ios8.0)
+set(CMAKE_C_COMPILER_TARGET ${target})
+set(CMAKE_CXX_COMPILER_TARGET ${target})
 # A whole program cannot be linked before the stubs are in place.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
