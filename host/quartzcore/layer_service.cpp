@@ -54,6 +54,11 @@ LayerService::~LayerService() {
   if (frame_observer_) loop_.remove_frame_observer(frame_observer_);
   if (end_timer_) loop_.remove_timer(end_timer_);
   service = nullptr;
+  // An animation keeps its listener, which keeps the layer: nobody is there to end it any more.
+  for (const auto& layer : retained(std::exchange(animated, {}))) {
+    objc::state_of<Layer>(layer.get()).set_in_animated_list(false);
+    layer->removeAllAnimations();
+  }
 }
 
 LayerService* LayerService::current() {

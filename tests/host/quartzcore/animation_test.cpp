@@ -57,6 +57,17 @@ TEST_F(AnimationTest, ARemovedAnimationIsToldUnfinishedOnceInTheNextTurn) {
   EXPECT_EQ(notes_of(watcher).stops, std::vector{false});
 }
 
+TEST_F(AnimationTest, NoneOutlivesTheServiceThatMovesItsLayer) {
+  const CALayer layer = CALayer::layer();
+  layer.addAnimation(basic("opacity"_ns, 0, 1, 1), "fade"_ns);
+  EXPECT_TRUE(loop.wants_frames());
+  restart_service();
+  EXPECT_FALSE(layer.animationForKey("fade"_ns));
+  EXPECT_FALSE(loop.wants_frames());
+  layer.addAnimation(basic("opacity"_ns, 0, 1, 1), "fade"_ns);
+  EXPECT_TRUE(loop.wants_frames());
+}
+
 TEST_F(AnimationTest, AnotherAnimationUnderTheSameKeyReplacesTheFirst) {
   const CALayer layer = CALayer::layer();
   const TestWatcher watcher = TestWatcher::make();

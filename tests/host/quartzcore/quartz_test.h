@@ -24,6 +24,11 @@ class QuartzTest : public HostTest {
   }
   ~QuartzTest() override { service_.reset(); }
 
+  void restart_service() {
+    service_.reset();
+    service_.emplace(loop);
+  }
+
   static CALayer layer_at(CGRect frame) {
     const CALayer layer = CALayer::layer();
     layer.setFrame(frame);
