@@ -32,7 +32,6 @@ Reachability::~Reachability() {
 void Reachability::handle_activated() {
   if (active_) return;
   active_ = YES;
-  ++changes_;
   take_down();
   for (const UIWindow window : uikit::visible_windows()) {
     if (window.windowLevel() <= UIWindowLevelStatusBar)
@@ -59,16 +58,17 @@ void Reachability::handle_activated() {
 void Reachability::leave() {
   if (!active_) return;
   active_ = NO;
-  ++changes_;
+  ++ways_back_;
   stop_waiting();
   move_windows(0);
 }
 
 void Reachability::move_windows(CGFloat way) {
   const auto windows = moved_;
-  const auto done = objc::block([this, change = changes_, life = std::weak_ptr<void>(life_)](BOOL) {
-    if (!life.expired() && change == changes_ && !active_) take_down();
-  });
+  const auto done =
+      objc::block([this, way_back = ways_back_, life = std::weak_ptr<void>(life_)](BOOL) {
+        if (!life.expired() && way_back == ways_back_ && !active_) take_down();
+      });
   UIView::animateWithDuration(kTravel, 0, 1, 0, UIViewAnimationOptionAllowUserInteraction,
                               objc::block([windows, way] {
                                 for (const auto& window : windows)
@@ -83,8 +83,6 @@ void Reachability::stop_waiting() {
 }
 
 void Reachability::take_down() {
-  for (const auto& window : moved_)
-    window->setTransform(CGAffineTransform());
   moved_.clear();
   actions_.reset();
   if (above_) above_->setHidden(YES);

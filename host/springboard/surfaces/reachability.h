@@ -38,7 +38,7 @@ class Reachability : public objc::Implementation<Reachability, SBReachabilityMan
   std::unique_ptr<SurfaceActions> actions_;
   std::optional<RunLoop::Id> keep_alive_;
   BOOL active_ = NO;
-  int changes_ = 0;
+  int ways_back_ = 0;
   /// Ends with this object: an animation may outlast it.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };

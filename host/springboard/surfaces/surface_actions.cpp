@@ -97,8 +97,8 @@ void double_press_home() {
 
 bool double_touch_home() {
   if (!SBReachabilityManager::reachabilitySupported()) return false;
-  const bool is_free = !is_locked() && !app_switcher().is_showing();
-  if (display().is_on() && is_free) toggle_reachability();
+  // A dark phone is locked, too.
+  if (!is_locked() && !app_switcher().is_showing()) toggle_reachability();
   return true;
 }
 
