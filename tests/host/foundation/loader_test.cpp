@@ -99,9 +99,11 @@ TEST_F(LoaderTest, APhoneWithoutTheFolderHasNoExtensions) {
 
 TEST_F(LoaderTest, AnotherExtensionReplacesAnotherMethodOfAnotherClass) {
   install("Whisper", TEST_EXTENSION, kForSpringBoard);
-  EXPECT_TRUE("Hello"_ns.uppercaseString().isEqualToString("HELLO"_ns));
+  // Those that other tests have loaded whisper as well: a library stays.
+  const NSString before = "Hello"_ns.uppercaseString();
   ASSERT_EQ(load(), std::vector<std::string>{"Whisper"});
-  EXPECT_TRUE("Hello"_ns.uppercaseString().isEqualToString("HELLO (whispered)"_ns));
+  EXPECT_TRUE("Hello"_ns.uppercaseString().isEqualToString(
+      before.stringByAppendingString(" (whispered)"_ns)));
 }
 
 TEST_F(LoaderTest, ALibraryThatCrashesFiveTimesIsLeftOutUntilItChanges) {
