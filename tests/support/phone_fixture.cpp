@@ -1,6 +1,7 @@
 #include "tests/support/phone_fixture.h"
 
 #include <cmath>
+#include <utility>
 
 #include "host/quartzcore/exports.h"
 #include "host/springboard/configuration.h"
@@ -60,10 +61,9 @@ void PhoneTest::launch() {
 }
 
 void PhoneTest::end() {
-  if (!application) return;
   objc::AutoreleasePool pool;
-  application.release();
-  application = nil;
+  std::exchange(application, SpringBoard()).release();
+  // Its shared objects are there as soon as somebody asks for one, launched or not.
   springboard::forget_springboard();
 }
 
