@@ -92,13 +92,37 @@ TEST_F(BannerDrag, LetGoExactlyAtItsStartItOpens) {
 }
 
 TEST_F(BannerDrag, LetGoAboveItsStartItGoes) {
+  const MethodSpy<"dismissBanner", void(SpringBoard)> sent_away(SpringBoard::cls());
   grab();
   move_by(0, -1);
   lift();
+  EXPECT_EQ(sent_away.count(), 1);
   EXPECT_FALSE(is("isBanner"));
+  EXPECT_TRUE(is("isGrabbing"));
   settle();
   EXPECT_EQ(alpha("cover"), 0);
   EXPECT_EQ(window_y(), 0);
+  EXPECT_FALSE(is("isGrabbing"));
+}
+
+TEST_F(BannerDrag, AFingerThatTheSystemTakesLetsItGo) {
+  grab();
+  move_by(0, 40);
+  touches.cancelled(1, finger(), clock.now());
+  settle();
+  EXPECT_TRUE(is("showed"));
+  EXPECT_EQ(window_y(), 0);
+}
+
+TEST_F(BannerDrag, WhollyDownTheControlsWaitForItToMove) {
+  grab();
+  move_by(0, -start_);
+  ASSERT_EQ(window_y(), 0);
+  ASSERT_TRUE(is_laid_out_below_artwork(0));
+  move_by(0, -500);
+  EXPECT_TRUE(is_laid_out_below_artwork(0));
+  move_by(0, 1);
+  EXPECT_FALSE(is_laid_out_below_artwork(0));
 }
 
 TEST_F(BannerDrag, OpenItGoesNoFurtherDown) {
@@ -107,6 +131,33 @@ TEST_F(BannerDrag, OpenItGoesNoFurtherDown) {
   move_by(0, 60);
   EXPECT_EQ(window_y(), 0);
   EXPECT_TRUE(is_laid_out_below_artwork(0));
+}
+
+TEST_F(BannerDrag, OpenItIsHeldUntilTheFingerLeavesAndStaysHowItWasGrabbed) {
+  const GrabberPicture picture;
+  const auto pages = global<UIScrollView>("container");
+  pull_open();
+  const float resting = global<float>("firstContainer1");
+  grab_upwards();
+  EXPECT_FALSE(pages.isScrollEnabled());
+  move_by(0, -60);
+  move_by(0, 200);
+  EXPECT_EQ(window_y(), 0);
+  EXPECT_TRUE(is_laid_out_below_artwork(0));
+  lift();
+  settle();
+  EXPECT_TRUE(pages.isScrollEnabled());
+  EXPECT_TRUE(is("isGrabbing"));
+  EXPECT_EQ(picture.last(), kDragging);
+  EXPECT_EQ(global<float>("firstContainer1"), resting);
+}
+
+TEST_F(BannerDrag, GoneFromAnotherPageItComesBackWithTheArtwork) {
+  const auto pages = global<UIScrollView>("container");
+  pull_open();
+  pages.setContentOffset({screen().width, 0});
+  send_away();
+  EXPECT_THAT(pages.contentOffset(), IsNear(CGPoint{0, 0}));
 }
 
 TEST_F(BannerDrag, OpenItGoesByAPushUpwards) {

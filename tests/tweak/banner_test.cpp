@@ -53,6 +53,12 @@ TEST_F(Banner, ControlsStandAtTheBottomOfThePages) {
   EXPECT_EQ(frame("container1").max_y(), y_of("play") - 5);
 }
 
+TEST_F(Banner, ControlsStandThereAsSoonAsItComes) {
+  objc::send<>(application, "showBanner"_sel);
+  advance(2 * RunLoop::kFrame);
+  EXPECT_EQ(frame("play").max_y(), frame("container").size.height - 10);
+}
+
 TEST_F(Banner, ShowsTheArtworkPageAndHoldsIt) {
   const auto pages = global<UIScrollView>("container");
   pages.setContentOffset({screen().width, 0});

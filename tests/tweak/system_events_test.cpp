@@ -119,10 +119,13 @@ TEST_F(SystemEvents, TheControlCentreDoesNotOpenOverThePanel) {
 TEST_F(SystemEvents, ABannerOnTheMoveLeavesTheControlCentreAlone) {
   MethodSpy<"dismissBanner", void(SpringBoard)> sent_away(SpringBoard::cls());
   global<BOOL>("isBanner") = YES;
-  view("window").setFrame({0, -200, screen().width, screen().height});
-  springboard::present_control_centre();
-  settle();
-  EXPECT_TRUE(SBControlCenterController::sharedInstance().isPresented());
+  for (const CGFloat y : {-200.0, -0.5, 0.5}) {
+    view("window").setFrame({0, y, screen().width, screen().height});
+    springboard::present_control_centre();
+    settle();
+    EXPECT_TRUE(SBControlCenterController::sharedInstance().isPresented()) << y;
+    SBControlCenterController::sharedInstance().dismissAnimated(NO);
+  }
   EXPECT_EQ(sent_away.count(), 0);
 }
 
