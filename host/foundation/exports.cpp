@@ -11,6 +11,7 @@ void export_foundation() {
   export_property_lists();
   export_property_list_reader();
   export_string_search();
+  export_addresses();
 }
 
 }  // namespace host::foundation

@@ -3,8 +3,8 @@
 namespace host::foundation {
 
 /// Gives Foundation what the platform's has beyond GNUstep Base: timers on our clock, the device's
-/// file paths, property lists written as XML, searches in strings that never throw. Calling it
-/// twice is harmless.
+/// file paths, property lists written as XML, searches in strings that never throw, addresses
+/// without a path. Calling it twice is harmless.
 void export_foundation();
 
 void export_device_paths();
@@ -12,5 +12,6 @@ void export_timers();
 void export_property_lists();
 void export_property_list_reader();
 void export_string_search();
+void export_addresses();
 
 }  // namespace host::foundation

@@ -9,6 +9,7 @@ struct NSURL : objc::Bound<NSURL, "NSURL", NSObject> {
     return call_class<"fileURLWithPath:", NSURL>(path);
   }
   NSString absoluteString() const { return call<"absoluteString", NSString>(); }
+  NSString relativeString() const { return call<"relativeString", NSString>(); }
   NSString scheme() const { return call<"scheme", NSString>(); }
   NSString path() const { return call<"path", NSString>(); }
 };

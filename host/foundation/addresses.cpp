@@ -1,0 +1,85 @@
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+#include "host/foundation/exports.h"
+#include "host/runtime/class_family.h"
+#include "objc/field.h"
+#include "platform/Foundation/NSURL.h"
+
+// Foundation here takes "reader://user?name=x" for a host called "user?name=x", which is none, and
+// makes no address of it. Such an address is read with the empty path written out, and says what it
+// was given.
+
+namespace host::foundation {
+namespace {
+
+objc::Imp original_init = nullptr;
+objc::Imp original_text = nullptr;
+objc::Imp original_path = nullptr;
+
+constexpr bool is_ascii(char unit) {
+  return static_cast<unsigned char>(unit) < 0x80;
+}
+
+/// Where the host of "scheme://host?…" or "scheme://host#…" ends; nothing when there is a path.
+std::optional<NSUInteger> end_of_host_without_path(NSString text) {
+  constexpr std::string_view kBeforeHost = "://";
+  const std::string_view address = text ? text.UTF8String() : "";
+  const auto before_host = address.find(kBeforeHost);
+  if (before_host == address.npos || before_host != address.find_first_of(":/?#"))
+    return std::nullopt;
+  const auto end = address.find_first_of("/?#", before_host + kBeforeHost.size());
+  if (end == address.npos || address[end] == '/') return std::nullopt;
+  // No address has other letters, whose bytes would not count one each.
+  const bool is_plain = std::all_of(address.begin(), address.end(), is_ascii);
+  return is_plain ? std::optional<NSUInteger>(end) : std::nullopt;
+}
+
+bool is_mended(NSURL self) {
+  return end_of_host_without_path(self.relativeString()).has_value();
+}
+
+NSURL read(NSURL self, NSString text, NSURL base) {
+  using Function = NSURL (*)(NSURL, objc::Sel, NSString, NSURL);
+  const auto read_text = reinterpret_cast<Function>(original_init);
+  return read_text(self, "initWithString:relativeToURL:"_sel, text, base);
+}
+
+NSURL init(NSURL self, NSString text, NSURL base) {
+  const auto end = end_of_host_without_path(text);
+  if (!end) return read(self, text, base);
+  const NSString whole =
+      text.substringToIndex(*end).stringByAppendingString("/"_ns).stringByAppendingString(
+          text.substringFromIndex(*end));
+  const NSURL made = read(self, whole, base);
+  if (auto* given = objc::field<NSString>(made, "_urlString")) {
+    given->release();
+    *given = objc::send<NSString>(text, "copy"_sel);
+  }
+  return made;
+}
+
+using TextOf = NSString (*)(NSURL, objc::Sel);
+
+NSString absolute_string(NSURL self) {
+  if (is_mended(self)) return self.relativeString();
+  return reinterpret_cast<TextOf>(original_text)(self, "absoluteString"_sel);
+}
+
+NSString path(NSURL self) {
+  if (is_mended(self)) return ""_ns;
+  return reinterpret_cast<TextOf>(original_path)(self, "path"_sel);
+}
+
+}  // namespace
+
+void export_addresses() {
+  if (original_init) return;
+  const objc::Class cls = objc_getClass("NSURL");
+  original_init = replace_in_family<&init>(cls, "initWithString:relativeToURL:");
+  original_text = replace_in_family<&absolute_string>(cls, "absoluteString");
+  original_path = replace_in_family<&path>(cls, "path");
+}
+
+}  // namespace host::foundation
