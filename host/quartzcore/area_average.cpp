@@ -112,7 +112,7 @@ Surface area_average(const Surface& source, int width, int height) {
   for (int x = 0; x < width; ++x)
     columns.emplace_back(x, across);
 
-  const Surface result = make_surface(width, height);
+  const Surface result = reused({}, width, height);
   cairo_surface_flush(source.get());
   const auto* from = cairo_image_surface_get_data(source.get());
   const std::ptrdiff_t from_stride = cairo_image_surface_get_stride(source.get());

@@ -66,9 +66,12 @@ void Compositor::paint_group(int index, const PixelRect& damage) {
 
 void Compositor::draw_group(int index, CachedGroup& group) {
   ++groups_drawn_;
-  group.surface = emptied(std::move(group.surface), group.place.width, group.place.height);
+  const int first = first_needed(group.place, index);
+  // What hides all that lies below it needs no empty picture.
+  const auto prepared = first < 0 ? emptied : reused;
+  group.surface = prepared(std::move(group.surface), group.place.width, group.place.height);
   canvases_.push_back(make_canvas(group.surface, group.place.x, group.place.y));
-  paint_contents(index, group.place, first_needed(group.place, index), 1);
+  paint_contents(index, group.place, first, 1);
   if (node(index).layer->mask_layer()) apply_mask(index);
   canvases_.pop_back();
   cairo_surface_flush(group.surface.get());

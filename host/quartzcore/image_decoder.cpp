@@ -27,7 +27,7 @@ void shrink_huge_picture(GdkPixbufLoader* loader, int width, int height, void*) 
 Surface surface_of(const GdkPixbuf* pixbuf) {
   const int width = gdk_pixbuf_get_width(pixbuf);
   const int height = gdk_pixbuf_get_height(pixbuf);
-  const Surface surface = make_surface(width, height);
+  const Surface surface = reused({}, width, height);
   unsigned char* to = cairo_image_surface_get_data(surface.get());
   const int to_stride = cairo_image_surface_get_stride(surface.get());
   const unsigned char* from = gdk_pixbuf_read_pixels(pixbuf);

@@ -2,14 +2,58 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 
 #include "host/quartzcore/area_average.h"
+#include "host/quartzcore/pixel_memory.h"
 
 namespace host::quartzcore {
 namespace {
 
+using Block = PixelMemory::Block;
+using Contents = PixelMemory::Contents;
+
+// Smaller ones come from the pages that are there anyway.
+constexpr std::size_t kLeastRecycled = 128U << 10;
+
+void give_back(void* lent) {
+  const std::unique_ptr<Block> block(static_cast<Block*>(lent));
+  pixel_memory().give_back(*block);
+}
+
+/// Null when Cairo wants no surface of that size.
+Surface surface_in(std::unique_ptr<Block> block, int width, int height, int stride) {
+  static const cairo_user_data_key_t owner{};
+  auto surface = Surface::adopt(cairo_image_surface_create_for_data(
+      block->bytes, CAIRO_FORMAT_ARGB32, width, height, stride));
+  const cairo_status_t status =
+      cairo_surface_set_user_data(surface.get(), &owner, block.get(), give_back);
+  if (status == CAIRO_STATUS_SUCCESS) {
+    static_cast<void>(block.release());
+    return surface;
+  }
+  surface = {};
+  give_back(block.release());
+  return {};
+}
+
+Surface surface_with(Contents contents, int width, int height) {
+  width = std::max(width, 1);
+  height = std::max(height, 1);
+  const int stride = cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, width);
+  const auto size =
+      static_cast<std::size_t>(std::max(stride, 0)) * static_cast<std::size_t>(height);
+  if (size >= kLeastRecycled) {
+    auto block = std::make_unique<Block>(pixel_memory().take(size, contents));
+    if (block->bytes) {
+      if (Surface made = surface_in(std::move(block), width, height, stride)) return made;
+    }
+  }
+  return Surface::adopt(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+}
+
 Surface enlarge(const Surface& source, int width, int height) {
-  const Surface result = make_surface(width, height);
+  const Surface result = reused({}, width, height);
   const Drawing drawing = draw_on(result);
   cairo_scale(drawing.get(), static_cast<double>(width) / width_of(source),
               static_cast<double>(height) / height_of(source));
@@ -24,15 +68,14 @@ Surface enlarge(const Surface& source, int width, int height) {
 }  // namespace
 
 Surface make_surface(int width, int height) {
-  return Surface::adopt(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, std::max(width, 1), std::max(height, 1)));
+  return surface_with(Contents::Zeros, width, height);
 }
 
 Surface reused(Surface old, int width, int height) {
   const bool fits = old && width_of(old) == std::max(width, 1) &&
                     height_of(old) == std::max(height, 1) &&
                     cairo_surface_get_reference_count(old.get()) == 1;
-  return fits ? std::move(old) : make_surface(width, height);
+  return fits ? std::move(old) : surface_with(Contents::Anything, width, height);
 }
 
 Surface emptied(Surface old, int width, int height) {

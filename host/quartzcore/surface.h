@@ -38,7 +38,7 @@ using Drawing = CairoRef<cairo_t, cairo_reference, cairo_destroy>;
 /// A transparent ARGB32 surface; sizes below one pixel become one.
 Surface make_surface(int width, int height);
 /// A surface of that size with anything in it: the old one, where it has the size and nobody else
-/// uses it, since new memory costs more than the painting.
+/// uses it.
 Surface reused(Surface old, int width, int height);
 /// The same, transparent.
 Surface emptied(Surface old, int width, int height);

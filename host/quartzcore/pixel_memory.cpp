@@ -1,0 +1,66 @@
+#include "host/quartzcore/pixel_memory.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+
+namespace host::quartzcore {
+namespace {
+
+/// A surface that needs less than half of a block would only keep it from another one.
+bool fits(const PixelMemory::Block& block, std::size_t size) {
+  return block.size >= size && block.size / 2 <= size;
+}
+
+}  // namespace
+
+PixelMemory::~PixelMemory() {
+  for (const Block& block : blocks_)
+    std::free(block.bytes);
+}
+
+PixelMemory::Block PixelMemory::kept_block(std::size_t size) {
+  const std::lock_guard lock(mutex_);
+  const auto found = std::find_if(blocks_.begin(), blocks_.end(),
+                                  [size](const Block& block) { return fits(block, size); });
+  if (found == blocks_.end()) return {};
+  const Block block = *found;
+  blocks_.erase(found);
+  kept_ -= block.size;
+  return block;
+}
+
+PixelMemory::Block PixelMemory::take(std::size_t size, Contents contents) {
+  const bool is_zeroed = contents == Contents::Zeros;
+  if (const Block block = kept_block(size); block.bytes) {
+    if (is_zeroed) std::memset(block.bytes, 0, size);
+    return block;
+  }
+  void* made = is_zeroed ? std::calloc(size, 1) : std::malloc(size);
+  return {static_cast<unsigned char*>(made), made ? size : 0};
+}
+
+void PixelMemory::give_back(Block block) {
+  const std::lock_guard lock(mutex_);
+  blocks_.push_front(block);
+  kept_ += block.size;
+  while (kept_ > kMostKept) {
+    std::free(blocks_.back().bytes);
+    kept_ -= blocks_.back().size;
+    blocks_.pop_back();
+  }
+}
+
+std::size_t PixelMemory::kept() const {
+  const std::lock_guard lock(mutex_);
+  return kept_;
+}
+
+PixelMemory& pixel_memory() {
+  // Never destroyed: surfaces may outlive everything.
+  static auto* const memory = new PixelMemory;
+  return *memory;
+}
+
+}  // namespace host::quartzcore

@@ -1,0 +1,77 @@
+#include "host/quartzcore/pixel_memory.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "host/quartzcore/surface.h"
+
+namespace host::quartzcore {
+namespace {
+
+using Contents = PixelMemory::Contents;
+
+constexpr std::size_t kMegabyte = 1U << 20;
+
+TEST(PixelMemory, WhatIsGivenBackServesTheNextOneOfAboutItsSize) {
+  PixelMemory memory;
+  memory.give_back(memory.take(kMegabyte, Contents::Anything));
+  EXPECT_EQ(memory.kept(), kMegabyte);
+  const auto much_smaller = memory.take(kMegabyte / 4, Contents::Anything);
+  const auto larger = memory.take(kMegabyte + 1, Contents::Anything);
+  EXPECT_EQ(memory.kept(), kMegabyte) << "neither fits";
+  const auto a_little_smaller = memory.take(kMegabyte * 3 / 4, Contents::Anything);
+  EXPECT_EQ(memory.kept(), 0U);
+  for (const auto& block : {much_smaller, larger, a_little_smaller})
+    memory.give_back(block);
+}
+
+TEST(PixelMemory, ZerosAreZerosWhateverTheMemoryHeldBefore) {
+  PixelMemory memory;
+  const auto used = memory.take(kMegabyte, Contents::Zeros);
+  std::memset(used.bytes, 0xee, used.size);
+  memory.give_back(used);
+  const auto block = memory.take(kMegabyte, Contents::Zeros);
+  EXPECT_TRUE(std::all_of(block.bytes, block.bytes + kMegabyte, [](auto byte) { return !byte; }));
+  memory.give_back(block);
+}
+
+TEST(PixelMemory, KeepsNoMoreThanItsBound) {
+  PixelMemory memory;
+  PixelMemory::Block blocks[40];
+  for (auto& block : blocks)
+    block = memory.take(kMegabyte, Contents::Anything);
+  for (const auto& block : blocks)
+    memory.give_back(block);
+  EXPECT_EQ(memory.kept(), PixelMemory::kMostKept);
+}
+
+TEST(PixelMemory, ASurfaceGivesBackWhatItHadWhenTheLastReferenceGoes) {
+  Surface surface = make_surface(750, 1000);
+  Surface shared = surface;
+  const std::size_t before = pixel_memory().kept();
+  surface = {};
+  EXPECT_EQ(pixel_memory().kept(), before);
+  shared = {};
+  EXPECT_EQ(pixel_memory().kept(), before + std::size_t{750} * 1000 * 4);
+}
+
+TEST(PixelMemory, ANewSurfaceIsTransparentWhereAnotherOneWasPainted) {
+  for (int round = 0; round < 2; ++round) {
+    const Surface surface = make_surface(600, 600);
+    auto* const bytes = cairo_image_surface_get_data(surface.get());
+    EXPECT_TRUE(std::all_of(bytes, bytes + 600 * 600 * 4, [](auto byte) { return !byte; }));
+    const Drawing drawing = draw_on(surface);
+    cairo_set_source_rgb(drawing.get(), 1, 1, 1);
+    cairo_paint(drawing.get());
+    cairo_surface_flush(surface.get());
+  }
+}
+
+TEST(PixelMemory, ASurfaceOfAnImpossibleSizeIsRefusedByItsStatus) {
+  EXPECT_NE(cairo_surface_status(make_surface(40'000, 40).get()), CAIRO_STATUS_SUCCESS);
+}
+
+}  // namespace
+}  // namespace host::quartzcore
