@@ -1,6 +1,7 @@
 #include "host/media/picture.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <libyuv/convert_argb.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -67,18 +68,26 @@ std::uint32_t premultiplied(std::uint32_t red, std::uint32_t green, std::uint32_
   return alpha << 24 | scaled(red) << 16 | scaled(green) << 8 | scaled(blue);
 }
 
+void premultiply_into(const GdkPixbuf* pixbuf, Picture& picture) {
+  const guint8* row = gdk_pixbuf_read_pixels(pixbuf);
+  std::uint32_t* to = picture.pixels.data();
+  for (int y = 0; y < picture.height; ++y, row += gdk_pixbuf_get_rowstride(pixbuf)) {
+    const guint8* pixel = row;
+    for (int x = 0; x < picture.width; ++x, pixel += 4)
+      *to++ = premultiplied(pixel[0], pixel[1], pixel[2], pixel[3]);
+  }
+}
+
 Picture picture_from(const GdkPixbuf* pixbuf) {
   Picture picture{gdk_pixbuf_get_width(pixbuf), gdk_pixbuf_get_height(pixbuf), {}};
-  const int channels = gdk_pixbuf_get_n_channels(pixbuf);
-  const std::size_t stride = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(pixbuf));
-  const guint8* rows = gdk_pixbuf_read_pixels(pixbuf);
-  picture.pixels.reserve(static_cast<std::size_t>(picture.width) * picture.height);
-  for (int y = 0; y < picture.height; ++y) {
-    const guint8* pixel = rows + stride * static_cast<std::size_t>(y);
-    for (int x = 0; x < picture.width; ++x, pixel += channels) {
-      const std::uint32_t alpha = channels == 4 ? pixel[3] : 255;
-      picture.pixels.push_back(premultiplied(pixel[0], pixel[1], pixel[2], alpha));
-    }
+  picture.pixels.resize(static_cast<std::size_t>(picture.width) *
+                        static_cast<std::size_t>(picture.height));
+  if (gdk_pixbuf_get_has_alpha(pixbuf)) {
+    premultiply_into(pixbuf, picture);
+  } else {
+    libyuv::RAWToARGB(gdk_pixbuf_read_pixels(pixbuf), gdk_pixbuf_get_rowstride(pixbuf),
+                      reinterpret_cast<std::uint8_t*>(picture.pixels.data()), picture.width * 4,
+                      picture.width, picture.height);
   }
   return picture;
 }
