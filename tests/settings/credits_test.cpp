@@ -160,10 +160,11 @@ TEST_F(Credits, FollowOpensTheWebWhereNoReaderIs) {
 /// A machine with other applications.
 class CreditsAmongApplications : public Credits {
  protected:
-  std::vector<std::string> opened_by(const char* tile, std::vector<std::string> schemes) {
+  std::vector<std::string> opened_by(const char* tile, std::vector<std::string> schemes,
+                                     const char* class_name = "developerCell") {
     known_schemes() = std::move(schemes);
     opened().clear();
-    open_card("developerCell");
+    open_card(class_name);
     EXPECT_TRUE(tap_text(tile));
     advance(1);
     EXPECT_FALSE(presented());
@@ -179,6 +180,33 @@ TEST_F(CreditsAmongApplications, APackageIsShownByItsManagerAlone) {
   EXPECT_THAT(opened_by("Tidepool", {}), testing::IsEmpty());
   EXPECT_THAT(opened_by("Tidepool", {"cydia"}),
               testing::ElementsAre(testing::StartsWith("cydia://package/")));
+}
+
+TEST_F(CreditsAmongApplications, EveryTileShowsItsOwnPackage) {
+  const std::pair<const char*, const char*> packages[] = {{"Tidepool", "org.example.tidepool"},
+                                                          {"Nightshelf", "org.example.nightshelf"},
+                                                          {"Lanterns", "org.example.lanterns"},
+                                                          {"Sonavue", "org.plumvane.sonavue2"}};
+  for (const auto& [title, identifier] : packages) {
+    EXPECT_THAT(opened_by(title, {"cydia"}),
+                testing::ElementsAre(std::string("cydia://package/") + identifier));
+  }
+}
+
+TEST_F(CreditsAmongApplications, FollowAsksTheReadersInTheirOrder) {
+  EXPECT_THAT(opened_by("Follow", {"twitter", "tweetings", "tweetbot"}),
+              testing::ElementsAre("tweetbot:///user_profile/plumcode"));
+  EXPECT_THAT(opened_by("Follow", {"twitter", "tweetings"}),
+              testing::ElementsAre("tweetings:///user?screen_name=plumcode"));
+  EXPECT_THAT(opened_by("Follow", {"twitter"}),
+              testing::ElementsAre("twitter://user?screen_name=plumcode"));
+  EXPECT_THAT(opened_by("Follow", {}),
+              testing::ElementsAre(testing::EndsWith("/intent/follow?screen_name=plumcode")));
+}
+
+TEST_F(CreditsAmongApplications, FollowMeansTheAuthorOfTheCard) {
+  EXPECT_THAT(opened_by("Follow", {"twitter"}, "designerCell"),
+              testing::ElementsAre("twitter://user?screen_name=vanedraws"));
 }
 
 TEST_F(Credits, WhereNoTextsAreSentTheMessageDoesNothing) {

@@ -2,11 +2,22 @@
 
 #include <set>
 
+#include "platform/Foundation/NSFileManager.h"
 #include "platform/Foundation/NSUserDefaults.h"
+#include "tests/settings/replaced_method.h"
 #include "tests/settings/settings_test.h"
 
 namespace sonavue::test {
 namespace {
+
+/// How often a file may still be read.
+int& readings_left() {
+  static int left = 0;
+  return left;
+}
+BOOL may_be_read(NSFileManager, NSString) {
+  return readings_left()-- > 0;
+}
 
 class Texts : public SettingsTest {
  protected:
@@ -58,6 +69,37 @@ TEST_F(Texts, WithoutATableEverythingIsNull) {
   fs::remove(languages() / "en.plist");
   EXPECT_EQ(text("red"), "(null)");
   EXPECT_EQ(identifier("Red"), "(null)");
+}
+
+/// Somebody else's table, for so many looks at it.
+class LockedTexts : public Texts {
+ protected:
+  LockedTexts() { write_english(text_entry("red", "Red") + text_entry("empty", "")); }
+
+ private:
+  ReplacedMethod<&may_be_read> locked_{NSFileManager::cls(), "isReadableFileAtPath:"};
+};
+
+TEST_F(LockedTexts, WhatMayNotBeReadIsNullWhateverItHolds) {
+  readings_left() = 0;
+  EXPECT_EQ(text("red"), "(null)");
+  EXPECT_EQ(identifier("Red"), "(null)");
+}
+
+TEST_F(LockedTexts, OneLookIsEnoughForATextThatIsThere) {
+  readings_left() = 1;
+  EXPECT_EQ(text("red"), "Red");
+  readings_left() = 1;
+  EXPECT_EQ(identifier("Red"), "red");
+}
+
+TEST_F(LockedTexts, WhereOnlyTheSecondLookFailsTheFirstFindingStands) {
+  readings_left() = 1;
+  EXPECT_EQ(text("blue"), "nil");
+  readings_left() = 1;
+  EXPECT_EQ(text("empty"), "");
+  readings_left() = 2;
+  EXPECT_EQ(text("empty"), "(null)");
 }
 
 TEST_F(Texts, AMalformedTableIsAnEmptyOne) {

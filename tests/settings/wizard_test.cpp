@@ -1,10 +1,12 @@
 #include <cmath>
 
+#include "objc/autorelease_pool.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIPageControl.h"
 #include "platform/UIKit/UIPageViewController.h"
 #include "platform/UIKit/UIPickerView.h"
 #include "settings/pane/style_page.h"
+#include "settings/texts.h"
 #include "tests/settings/pages_test.h"
 
 namespace sonavue::test {
@@ -239,12 +241,67 @@ TEST_F(WizardPages, WheelsOfferTheTextsOfTheirTables) {
   EXPECT_EQ(rows(1), 12);
 }
 
+TEST_F(WizardPages, EveryRowOfAWheelIsWrittenAndNamed) {
+  const std::vector<std::string> blurs = {
+      "adaptive_light",  "light",         "dark",          "ultra_light", "light_low",
+      "dark_low",        "ultra_dark",    "passcode",      "colored",     "semi_light",
+      "flat_semi_light", "ultra_colored", "light_keyboard"};
+  const std::vector<std::string> colors = {"black",  "white",  "gray",  "red",
+                                           "green",  "blue",   "cyan",  "magenta",
+                                           "orange", "purple", "brown", "clear"};
+  const std::pair<const char*, std::vector<std::string>> wheels[] = {
+      {"blur", blurs}, {"play", {"volume", "time"}}, {"tint", colors}, {"font_tint", colors}};
+  start_questions();
+  for (int i = 0; i < 6; ++i)
+    next_page();
+  for (const auto& [key, values] : wheels) {
+    const auto picker = part<UIPickerView>("UIPickerView");
+    const objc::Object source = picker.dataSource();
+    EXPECT_EQ(source, picker.delegate());
+    EXPECT_EQ(objc::send<NSInteger>(source, "numberOfComponentsInPickerView:"_sel, picker), 1);
+    ASSERT_EQ(picker.numberOfRowsInComponent(0), static_cast<NSInteger>(values.size())) << key;
+    for (std::size_t row = 0; row < values.size(); ++row) {
+      fs::remove(preferences());
+      objc::send<>(source, "pickerView:didSelectRow:inComponent:"_sel, picker,
+                   static_cast<NSInteger>(row), NSInteger{0});
+      const std::string mark = "checked = 0";
+      const std::string written = std::string(key) + " = " + values[row];
+      EXPECT_EQ(stored(), written < mark ? written + ", " + mark : mark + ", " + written);
+      const auto title = objc::send<NSString>(source, "pickerView:titleForRow:forComponent:"_sel,
+                                              picker, static_cast<NSInteger>(row), NSInteger{0});
+      EXPECT_STREQ(title.UTF8String(),
+                   Translator(NSString::stringWithUTF8String(values[row].c_str())).UTF8String());
+    }
+    next_page();
+  }
+}
+
 TEST_F(WizardPages, TheTenthBlurIsTheHalfLightOne) {
   start_questions();
   const UIPickerView picker = UIPickerView::alloc().init().autorelease();
   objc::send<>(page, "pickerView:didSelectRow:inComponent:"_sel, picker, NSInteger{9},
                NSInteger{0});
   EXPECT_EQ(stored(), "blur = semi_light, checked = 0, firstBoot = 1");
+}
+
+TEST_F(WizardPages, TheWelcomePageIsLetGoOfWithItsLabels) {
+  // A label keeps its colour for as long as it lives.
+  const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
+  {
+    const objc::AutoreleasePool pool;
+    start();
+    for (const UIView each : welcome.subviews().of<UIView>()) {
+      if (each.isKindOfClass(UILabel::cls())) objc::cast<UILabel>(each).setTextColor(color);
+    }
+    drag_welcome(200);
+    let_go(200);
+    advance(4);
+    objc::send<>(page, "dismissIntro"_sel);
+    advance(2);
+  }
+  advance(4);
+  EXPECT_EQ(color.retainCount(), 1u);
+  color.release();
 }
 
 TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
