@@ -110,6 +110,22 @@ TEST_F(TitleIndex, EveryPlaceOfALongTitleIsSearched) {
   }
 }
 
+TEST_F(TitleIndex, ALetterIsFoundWhereverItStandsInALongList) {
+  // given titles of every length, so that letters and borders come to lie everywhere
+  std::vector<std::string> titles;
+  for (std::size_t length = 1; length <= 140; ++length) {
+    titles.push_back(std::string(length, 'x'));
+    titles.push_back(std::string(length - 1, 'x') + "q");
+    titles.push_back("qr" + std::string(length, 'x'));
+    titles.push_back("が" + std::string(length % 3, 'q'));
+  }
+  list_titles(titles);
+
+  // then one letter, two letters, and letters that are nowhere
+  for (const char* typed : {"q", "x", "qr", "xq", "rx", "r", "zz", "z", "qq"})
+    EXPECT_EQ(found_by(typed), found_one_by_one(typed)) << typed;
+}
+
 TEST_F(TitleIndex, AListThatChangesBetweenTwoKeysIsSearchedAnew) {
   list_titles({"alpha", "beta", "gamma"});
   EXPECT_THAT(found_by("bet"), ElementsAre("beta"));

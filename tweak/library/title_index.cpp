@@ -1,6 +1,8 @@
 #include "tweak/library/title_index.h"
 
 #include "objc/autorelease_pool.h"
+#include "tweak/library/needle.h"
+#include "tweak/library/short_needle.h"
 
 namespace sonavue {
 namespace {
@@ -10,9 +12,25 @@ constexpr unsigned char kBorder = 0;
 // Titles are read, and lists compared, in lots of this.
 constexpr NSUInteger kLot = 512;
 constexpr std::size_t kMostBytes = UINT32_MAX;
+// What may be read behind the last title, by whatever looks for a text.
+constexpr std::size_t kReadBehind =
+    Needle::kReadBehind > ShortNeedle::kReadBehind ? Needle::kReadBehind : ShortNeedle::kReadBehind;
 
 NSString title_of(MPMediaItem song) {
   return objc::cast<NSString>(song.valueForProperty(MPMediaItemPropertyTitle));
+}
+
+/// Both in order. From the end on, so that each place is moved once.
+void merge(const Places& others, Places& found) {
+  std::size_t from = found.count();
+  std::size_t left = others.count();
+  found.resize(from + left);
+  if (found.count() != from + left) return;
+  std::uint32_t* const places = found.begin();
+  for (std::size_t to = from + left; left > 0;) {
+    const bool is_found_last = from > 0 && places[from - 1] > others[left - 1];
+    places[--to] = is_found_last ? places[--from] : others[--left];
+  }
 }
 
 }  // namespace
@@ -63,7 +81,7 @@ void TitleIndex::read_titles() {
                 title_of(song(static_cast<std::uint32_t>(place))));
   }
   starts_.add(static_cast<std::uint32_t>(bytes_.count()));
-  for (std::size_t behind = 0; behind < Needle::kReadBehind; ++behind)
+  for (std::size_t behind = 0; behind < kReadBehind; ++behind)
     bytes_.add(kBorder);
   bytes_.shrink();
   starts_.shrink();
@@ -85,7 +103,8 @@ void TitleIndex::find(NSString lower_case_text, Places& found) {
     find_by_platform(lower_case_text, found);
     return;
   }
-  find_bytes(Needle(wanted_.begin(), wanted_.count()), lower_case_text, found);
+  if (wanted_.count() > ShortNeedle::kLongest || !find_short(found)) find_long(found);
+  add_others(lower_case_text, found);
 }
 
 void TitleIndex::find_by_platform(NSString text, Places& found) const {
@@ -110,23 +129,52 @@ std::uint32_t TitleIndex::place_at(std::size_t offset, std::uint32_t from) const
   return from;
 }
 
-void TitleIndex::find_bytes(const Needle& needle, NSString text, Places& found) const {
+void TitleIndex::find_long(Places& found) const {
+  const Needle needle(wanted_.begin(), wanted_.count());
   const auto* const begin = bytes_.begin();
   const auto* const end = begin + starts_[starts_.count() - 1];
-  const std::uint32_t* other = not_plain_.begin();
-  const auto ask_platform_before = [&](std::uint32_t place) {
-    for (; other != not_plain_.end() && *other < place; ++other) {
-      if (title_holds(song(*other), text)) found.add(*other);
-    }
-  };
   std::uint32_t place = 0;
   for (const auto* from = begin; (from = needle.find_in(from, end));) {
     place = place_at(static_cast<std::size_t>(from - begin), place);
-    ask_platform_before(place);
     found.add(place);
     from = begin + starts_[place + 1];
   }
-  ask_platform_before(static_cast<std::uint32_t>(songs_->count()));
+}
+
+// The place of each title is written down, and kept where the title holds the text. False without
+// the memory for that.
+bool TitleIndex::find_short(Places& found) const {
+  const ShortNeedle needle(wanted_.begin(), wanted_.count());
+  const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
+  found.resize(count);
+  if (found.count() != count) return false;
+  std::uint32_t* kept = found.begin();
+  std::uint32_t place = 0;
+  bool is_held = false;
+  for (const auto* block = bytes_.begin(); place < count; block += ShortNeedle::kPlaces) {
+    std::uint64_t hits = needle.places_in(block);
+    std::uint64_t borders = ShortNeedle::places_of(kBorder, block);
+    for (; borders && place < count; borders &= borders - 1) {
+      const std::uint64_t title = borders ^ (borders - 1);  // All up to the border.
+      *kept = place++;
+      kept += is_held | ((hits & title) != 0);
+      hits &= ~title;
+      is_held = false;
+    }
+    is_held |= hits != 0;
+  }
+  found.resize(static_cast<std::size_t>(kept - found.begin()));
+  return true;
+}
+
+// Puts the titles that the platform has to look at where they belong among those found.
+void TitleIndex::add_others(NSString text, Places& found) const {
+  if (not_plain_.count() == 0) return;
+  Places others;
+  for (const std::uint32_t place : not_plain_) {
+    if (title_holds(song(place), text)) others.add(place);
+  }
+  merge(others, found);
 }
 
 }  // namespace sonavue

@@ -5,7 +5,7 @@
 #include "objc/ref.h"
 #include "platform/Foundation/NSArray.h"
 #include "platform/MediaPlayer/MPMediaItem.h"
-#include "tweak/library/needle.h"
+#include "tweak/library/grown_array.h"
 #include "tweak/library/plain_text.h"
 
 namespace sonavue {
@@ -38,7 +38,9 @@ class TitleIndex {
   bool has_songs(NSArray songs) const;
   void read_titles();
   void add_title(std::uint32_t place, NSString title);
-  void find_bytes(const Needle& needle, NSString text, Places& found) const;
+  void find_long(Places& found) const;
+  bool find_short(Places& found) const;
+  void add_others(NSString text, Places& found) const;
   void find_by_platform(NSString text, Places& found) const;
   std::uint32_t place_at(std::size_t offset, std::uint32_t from) const;
   MPMediaItem song(std::uint32_t place) const;

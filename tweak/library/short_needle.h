@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace sonavue {
+
+/// One byte or two that are looked for in sixty-four places at once. Most titles hold a single
+/// letter: then it takes less to see all places of it than to look for the next one again and
+/// again.
+class ShortNeedle {
+ public:
+  using Byte = unsigned char;
+  static constexpr std::size_t kLongest = 2;
+  /// Places that are looked at together, each a bit of a word, the first the lowest.
+  static constexpr std::size_t kPlaces = 64;
+  /// So many bytes behind a text that is searched must be readable.
+  static constexpr std::size_t kReadBehind = kPlaces + kLongest;
+
+  ShortNeedle(const Byte* bytes, std::size_t length)
+      : last_(length - 1), head_(all_of(bytes[0])), tail_(all_of(bytes[last_])) {}
+
+  /// Where it begins.
+  std::uint64_t places_in(const Byte* text) const {
+    return bits(text, [&](const Byte* at) {
+      return (block_at(at) == head_) & (block_at(at + last_) == tail_);
+    });
+  }
+  static std::uint64_t places_of(Byte byte, const Byte* text) {
+    return bits(text, [wanted = all_of(byte)](const Byte* at) { return block_at(at) == wanted; });
+  }
+
+ private:
+  typedef Byte Block __attribute__((vector_size(16)));
+  typedef char Bits __attribute__((vector_size(16)));
+  typedef std::uint64_t Halves __attribute__((vector_size(16)));
+
+  static Block block_at(const Byte* place) {
+    Block block;
+    __builtin_memcpy(&block, place, sizeof block);
+    return block;
+  }
+  static Block all_of(Byte byte) { return Block{} + byte; }
+
+  template <class Compare>
+  static std::uint64_t bits(const Byte* text, Compare compare) {
+    std::uint64_t bits = 0;
+    for (std::size_t place = 0; place < kPlaces; place += sizeof(Block))
+      bits |= bits_of(reinterpret_cast<Bits>(compare(text + place))) << place;
+    return bits;
+  }
+
+  // One bit for each byte, which is all ones or all zeros.
+  static std::uint64_t bits_of(Bits bytes) {
+#ifdef __SSE2__
+    return static_cast<unsigned>(__builtin_ia32_pmovmskb128(bytes));
+#else
+    const auto halves = reinterpret_cast<Halves>(bytes);
+    return bits_of(halves[0]) | bits_of(halves[1]) << 8;
+#endif
+  }
+  // The product brings the lowest bit of each byte to its own place in the highest byte.
+  static std::uint64_t bits_of(std::uint64_t bytes) {
+    return (bytes & 0x0101010101010101) * 0x0102040810204080 >> 56;
+  }
+
+  std::size_t last_;
+  Block head_;
+  Block tail_;
+};
+
+}  // namespace sonavue
