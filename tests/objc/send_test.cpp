@@ -4,6 +4,7 @@
 
 #include "objc/autorelease_pool.h"
 #include "objc/ref.h"
+#include "objc/repeated_send.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/Foundation/NSValue.h"
 
@@ -31,6 +32,14 @@ TEST(Send, FloatingPointArgumentsAndResultsKeepTheirWidth) {
   objc::AutoreleasePool pool;
   EXPECT_EQ(NSNumber::numberWithFloat(0.1f).floatValue(), 0.1f);
   EXPECT_EQ(NSNumber::numberWithDouble(0.1).doubleValue(), 0.1);
+}
+
+TEST(RepeatedSend, IsAnsweredAsIfSentEachTime) {
+  objc::AutoreleasePool pool;
+  const NSString text = "an owl"_ns;
+  const objc::RepeatedSend<unichar, NSUInteger> letter_at(text, "characterAtIndex:"_sel);
+  EXPECT_EQ(letter_at(0), u'a');
+  EXPECT_EQ(letter_at(3), u'o');
 }
 
 TEST(Selector, IsRegisteredOnceAndCached) {

@@ -12,18 +12,15 @@ RowHeights RowHeights::uniform(long count, double height) {
   return heights;
 }
 
-RowHeights RowHeights::each(const std::vector<double>& heights) {
-  const auto differs = [&](double height) { return height != heights.front(); };
-  const long count = static_cast<long>(heights.size());
-  if (std::none_of(heights.begin(), heights.end(), differs))
-    return uniform(count, heights.empty() ? 0 : heights.front());
-  RowHeights rows;
-  rows.count_ = count;
-  rows.ends_.reserve(heights.size());
-  double end = 0;
-  for (const double height : heights)
-    rows.ends_.push_back(end += height);
-  return rows;
+void RowHeights::add(double height) {
+  if (count_ == 0) height_ = height;
+  if (ends_.empty() && height != height_) {
+    ends_.reserve(static_cast<std::size_t>(count_) + 1);
+    for (long row = 1; row <= count_; ++row)
+      ends_.push_back(static_cast<double>(row) * height_);
+  }
+  if (!ends_.empty()) ends_.push_back(ends_.back() + height);
+  ++count_;
 }
 
 double RowHeights::begin_of(long row) const {

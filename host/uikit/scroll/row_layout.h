@@ -25,7 +25,9 @@ struct RowSpan {
 class RowHeights {
  public:
   static RowHeights uniform(long count, double height);
-  static RowHeights each(const std::vector<double>& heights);
+
+  /// One more row at the end.
+  void add(double height);
 
   long count() const { return count_; }
   double total() const { return begin_of(count_); }

@@ -12,8 +12,9 @@ namespace host::uikit {
 /// those of the first section are kept; to make one costs far more than to hand it out.
 class RowPaths {
  public:
-  /// Rows beyond this number are made anew each time: what is kept stays below some ten megabytes.
-  static constexpr long kMostKept = 150'000;
+  /// Rows beyond this number are made anew each time. A kept one costs some seventy bytes, a small
+  /// part of what its row's song takes.
+  static constexpr long kMostKept = 2'000'000;
 
   /// Borrowed, or autoreleased.
   NSIndexPath path(RowPlace place);

@@ -4,6 +4,7 @@
 #include "host/uikit/scroll/row_paths.h"
 #include "host/uikit/scroll/table_view.h"
 #include "objc/autorelease_pool.h"
+#include "objc/repeated_send.h"
 
 namespace host::uikit {
 namespace {
@@ -61,21 +62,23 @@ void TableView::measure_again() {
 }
 
 RowLayout::Section TableView::measured_section(NSInteger section, NSInteger rows) {
-  RowLayout::Section measured{header_height(section), RowHeights::uniform(rows, row_height_),
-                              footer_height(section)};
+  RowLayout::Section measured{header_height(section), {}, footer_height(section)};
   const auto asked = listener("tableView:heightForRowAtIndexPath:"_sel);
-  if (!asked) return measured;
-  std::vector<double> heights;
-  heights.reserve(static_cast<std::size_t>(std::max(rows, 0L)));
+  if (!asked) {
+    measured.rows = RowHeights::uniform(rows, row_height_);
+    return measured;
+  }
+  const objc::RepeatedSend<CGFloat, UITableView, NSIndexPath> height_of(
+      asked, "tableView:heightForRowAtIndexPath:"_sel);
+  RowPaths& paths = row_paths();
   for (NSInteger first = 0; first < rows; first += kMeasuredTogether) {
     const objc::AutoreleasePool pool;
     const NSInteger end = std::min(rows, first + kMeasuredTogether);
     for (NSInteger row = first; row < end; ++row) {
-      const double height = asked.heightForRowAtIndexPath(self, path({section, row}));
-      heights.push_back(height < 0 ? row_height_ : height);
+      const double height = height_of(self, paths.path({section, row}));
+      measured.rows.add(height < 0 ? row_height_ : height);
     }
   }
-  measured.rows = RowHeights::each(heights);
   return measured;
 }
 

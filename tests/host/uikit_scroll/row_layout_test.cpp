@@ -5,9 +5,15 @@
 namespace host::uikit {
 namespace {
 
+RowHeights heights_of(const std::vector<double>& heights) {
+  RowHeights rows;
+  for (const double height : heights)
+    rows.add(height);
+  return rows;
+}
+
 RowLayout two_sections() {
-  return RowLayout(
-      31, {{20, RowHeights::uniform(3, 44), 0}, {0, RowHeights::each({10, 30, 50}), 12}}, 5);
+  return RowLayout(31, {{20, RowHeights::uniform(3, 44), 0}, {0, heights_of({10, 30, 50}), 12}}, 5);
 }
 
 TEST(RowLayout, EverythingStandsBelowWhatComesBeforeIt) {
@@ -69,11 +75,24 @@ TEST(RowLayout, RowsWithoutHeightAreNeverFound) {
 TEST(RowHeights, RowsOfDifferentHeightsAreFoundAmongAHundredThousand) {
   std::vector<double> heights(100000, 35);
   heights[7] = 90;
-  const RowHeights rows = RowHeights::each(heights);
+  const RowHeights rows = heights_of(heights);
   EXPECT_EQ(rows.total(), 100000 * 35.0 + 55);
   EXPECT_EQ(rows.row_at(rows.begin_of(99999) + 1), 99999);
   EXPECT_EQ(rows.row_at(8 * 35 + 54), 7);
   EXPECT_EQ(rows.row_at(8 * 35 + 55), 8);
+}
+
+TEST(RowHeights, TheFirstRowOfAnotherHeightMovesNoneBeforeIt) {
+  const RowHeights rows = heights_of({35, 35, 35, 20, 35});
+  EXPECT_EQ(rows.count(), 5);
+  EXPECT_EQ(rows.begin_of(3), 105);
+  EXPECT_EQ(rows.begin_of(4), 125);
+  EXPECT_EQ(rows.total(), 160);
+}
+
+TEST(RowHeights, RowsOfOneHeightAreOnlyCounted) {
+  EXPECT_EQ(heights_of({44, 44, 44}).total(), 132);
+  EXPECT_EQ(heights_of({0, 44}).total(), 44);
 }
 
 TEST(RowHeights, ANegativeCountIsNone) {
