@@ -1,6 +1,7 @@
 
 #include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
+#include "host/process/phone_screen.h"
 #include "host/springboard/configuration.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/processes/application_view.h"
@@ -8,6 +9,7 @@
 #include "host/springboard/processes/running_processes.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/system_actions.h"
+#include "host/springboard/view/make_view.h"
 #include "platform/SpringBoard/SBUIController.h"
 #include "tests/support/media_fixtures.h"
 #include "tests/support/phone_fixture.h"
@@ -42,6 +44,11 @@ class StrangePrograms final : public ProcessKeeper {
  private:
   std::filesystem::path folder_;
   launcher::RunningApplications applications_;
+};
+
+struct CountedScreen final : screen::Screen {
+  void show(const screen::Picture&, std::span<const screen::PixelRect>) override { ++frames; }
+  int frames = 0;
 };
 
 /// A home screen on which Music is a program that misbehaves.
@@ -242,6 +249,29 @@ TEST_F(ProcessesTest, OneThatFloodsIsReadALittleAtATimeAndThenClosed) {
   EXPECT_TRUE(log_has("Music floods the phone with messages: closed"));
   EXPECT_FALSE(programs_->applications().is_running(kMusic));
   EXPECT_EQ(shown_now(), Shown::HomeScreen);
+}
+
+TEST_F(ProcessesTest, OneThatFloodsLeavesTheHomeScreenEveryFrame) {
+  launch_with("flood");
+  open_music();
+  const auto is_ahead = [&] { return music() && music()->has_more_to_say(); };
+  ASSERT_TRUE(comes_true(is_ahead));
+  CountedScreen screen;
+  const process::PhoneScreen phone_screen(loop, screen);
+  const auto moving = make_view<UIView>({0, 0, 10, 10});
+  moving->setBackgroundColor(UIColor::whiteColor());
+  SBUIController::sharedInstance().window().addSubview(*moving);
+  UIView::animateWithDuration(0.5, objc::block([&] { moving->setCenter({300, 500}); }));
+  CGFloat place = 0;
+  for (int frame = 0; frame < 25; ++frame) {
+    const int before = screen.frames;
+    advance(RunLoop::kFrame);
+    ASSERT_TRUE(comes_true(is_ahead)) << frame;
+    EXPECT_EQ(screen.frames, before + 1) << frame;
+    const CGFloat now = moving->layer().presentationLayer().position().y;
+    EXPECT_GT(now, place) << frame;
+    place = now;
+  }
 }
 
 TEST_F(ProcessesTest, OneThatWouldShrinkItsMemoryCannot) {
