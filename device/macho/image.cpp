@@ -6,7 +6,6 @@ namespace sonavue::device {
 namespace {
 
 constexpr std::uint32_t kMagic = 0xfeedfacf;
-constexpr std::uint32_t kArm64 = 0x0100000c;
 constexpr std::size_t kNameLength = 16;
 constexpr std::size_t kSegmentCommandSize = 72;
 constexpr std::size_t kSectionSize = 80;
@@ -15,6 +14,10 @@ constexpr std::size_t kShortestCommand = 8;
 constexpr std::uint8_t kKindMask = 0x0e;
 constexpr std::uint8_t kExternal = 0x01;
 constexpr std::uint8_t kDebugging = 0xe0;
+
+const char* name_of(Processor processor) {
+  return processor == kArm64 ? "arm64" : "x86-64";
+}
 
 }  // namespace
 
@@ -26,10 +29,11 @@ bool Symbol::is_external() const {
   return kind & kExternal;
 }
 
-Image::Image(Bytes bytes) : bytes_(std::move(bytes)) {
+Image::Image(Bytes bytes, Processor processor) : bytes_(std::move(bytes)) {
   if (bytes_.size() < kHeaderSize || little_32(bytes_, 0) != kMagic)
     throw FormatError("it is no 64-bit library of the phone");
-  if (little_32(bytes_, 4) != kArm64) throw FormatError("it is for another processor than arm64");
+  if (little_32(bytes_, 4) != processor)
+    throw FormatError(std::string("it is for another processor than ") + name_of(processor));
   if (file_kind() != kLibrary && file_kind() != kBundle)
     throw FormatError("it is neither a library nor a bundle");
 
@@ -55,7 +59,8 @@ void Image::read_segment(const LoadCommand& command) {
                      little_64(bytes_, at + 24),
                      little_64(bytes_, at + kSegmentMemorySizeOffset),
                      little_64(bytes_, at + 40),
-                     little_64(bytes_, at + kSegmentSizeOffset)};
+                     little_64(bytes_, at + kSegmentSizeOffset),
+                     little_32(bytes_, at + 60)};
   bytes_at(bytes_, read.offset, read.size);
   segments_.push_back(read);
   const std::size_t count = little_32(bytes_, at + 64);
@@ -65,8 +70,8 @@ void Image::read_segment(const LoadCommand& command) {
     const std::size_t section = at + kSegmentCommandSize + i * kSectionSize;
     sections_.push_back({name, text_at(bytes_, section, section + kNameLength),
                          little_64(bytes_, section + 32), little_64(bytes_, section + 40),
-                         little_32(bytes_, section + 48), little_32(bytes_, section + 68),
-                         little_32(bytes_, section + 72)});
+                         little_32(bytes_, section + 48), little_32(bytes_, section + 64),
+                         little_32(bytes_, section + 68), little_32(bytes_, section + 72)});
   }
 }
 

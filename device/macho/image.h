@@ -27,6 +27,8 @@ enum Command : std::uint32_t {
 
 enum FileKind : std::uint32_t { kLibrary = 6, kBundle = 8 };
 
+enum Processor : std::uint32_t { kX86 = 0x01000007, kArm64 = 0x0100000c };
+
 struct LoadCommand {
   std::uint32_t kind;
   std::size_t offset;
@@ -39,6 +41,7 @@ struct Section {
   std::uint64_t address;
   std::uint64_t size;
   std::uint32_t offset;
+  std::uint32_t flags;
   /// Of a section of stubs: its first place in the table of indirect symbols, and a stub's size.
   std::uint32_t first_indirect;
   std::uint32_t stub_size;
@@ -51,6 +54,7 @@ struct Segment {
   std::uint64_t memory_size;
   std::uint64_t offset;
   std::uint64_t size;
+  std::uint32_t protection;
 };
 
 struct Symbol {
@@ -62,11 +66,11 @@ struct Symbol {
   bool is_external() const;
 };
 
-/// A library or bundle for the phone's 64-bit processors, with its tables read.
+/// A library or bundle of the phone for one processor, with its tables read.
 class Image {
  public:
   /// Throws FormatError for everything else.
-  explicit Image(Bytes bytes);
+  explicit Image(Bytes bytes, Processor processor = kArm64);
 
   const Bytes& bytes() const { return bytes_; }
   std::uint32_t file_kind() const;

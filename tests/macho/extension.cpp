@@ -1,0 +1,58 @@
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+
+#include "host/console/globals.h"
+#include "host/runtime/log.h"
+#include "tests/macho/loader/loaded_image.h"
+#include "tests/macho/loader/phone_symbols.h"
+
+// An extension for the desktop without anything of its own: it maps the library of the phone's
+// format that lies beside it, and shows the console what that one exports.
+
+namespace {
+
+using host::console::ExportedGlobal;
+
+constexpr std::size_t kMostGlobals = 256;
+
+}  // namespace
+
+extern "C" [[gnu::visibility("default")]] ExportedGlobal exported_globals[kMostGlobals];
+ExportedGlobal exported_globals[kMostGlobals] = {};
+
+namespace {
+
+using namespace macho_tests;
+
+std::filesystem::path phone_library() {
+  Dl_info here{};
+  dladdr(exported_globals, &here);
+  return std::filesystem::path(here.dli_fname).replace_extension(".dylib");
+}
+
+/// The last of `kMostGlobals` stays the end of the table.
+void show_globals(const LoadedImage& image) {
+  const auto* row = static_cast<const ExportedGlobal*>(image.exported("_exported_globals"));
+  for (std::size_t i = 0; row && row->name && i + 1 < kMostGlobals; ++i)
+    exported_globals[i] = *row++;
+}
+
+[[gnu::constructor]] void load() {
+  const auto file = phone_library();
+  try {
+    const Image image(read_file(file), kX86);
+    // Its methods are those of classes that stay for as long as the process does.
+    static const LoadedImage* loaded = new LoadedImage(image, &find_phone_symbol);
+    show_globals(*loaded);
+    loaded->run_initialisers();
+    spdlog::info("{} runs, with {} symbols bound", file.filename().string(),
+                 loaded->count_of_bindings());
+  } catch (const FormatError& problem) {
+    spdlog::error("{} does not run: {}", file.string(), problem.what());
+  }
+}
+
+}  // namespace

@@ -1,0 +1,96 @@
+#include "tests/macho/loader/phone_symbols.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string_view>
+
+#include "objc/abi.h"
+#include "platform/POSIX/uname.h"
+#include "tests/macho/loader/messages.h"
+
+namespace macho_tests {
+namespace {
+
+constexpr std::string_view kSystemLibrary = "/usr/lib/libSystem.B.dylib";
+constexpr std::size_t kPhoneNameLength = 256;
+constexpr std::size_t kPhoneNames = 5;
+
+/// The phone's structure has longer names than this machine's.
+int phone_uname(char (*names)[kPhoneNameLength]) {
+  SystemName here;
+  if (uname(&here) != 0) return -1;
+  const char* texts[kPhoneNames] = {here.sysname, here.nodename, here.release, here.version,
+                                    here.machine};
+  for (std::size_t i = 0; i < kPhoneNames; ++i)
+    std::strncpy(names[i], texts[i], kPhoneNameLength);
+  return 0;
+}
+
+objc::Class phone_object_class(objc::Id object) {
+  return object ? objc::class_of(object) : nullptr;
+}
+
+/// Everything is bound before it is called, so nobody comes here.
+void bind_when_called() {
+  __builtin_trap();
+}
+
+// Any number that an overrun does not write by chance.
+std::uintptr_t stack_guard = 0x00ff'0a0d'5ca1'ab1e;
+
+struct Known {
+  std::string_view symbol;
+  void* address;
+};
+
+template <class Function>
+void* address_of(Function* function) {
+  return reinterpret_cast<void*>(function);
+}
+
+/// Made at the first call, which may come before this file's other statics are.
+std::span<const Known> made_here() {
+  static const Known known[] = {
+      {"_objc_msgSend", address_of(&phone_message)},
+      {"_objc_msgSend_stret", address_of(&phone_message_in_memory)},
+      {"_objc_msgSendSuper", address_of(&phone_super_message)},
+      {"_objc_msgSendSuper_stret", address_of(&phone_super_message_in_memory)},
+      {"_object_getClass", address_of(&phone_object_class)},
+      {"_uname", address_of(&phone_uname)},
+      {"___stack_chk_guard", &stack_guard},
+      {"dyld_stub_binder", address_of(&bind_when_called)},
+  };
+  return known;
+}
+
+/// Of the phone's system library only these are taken for the same as the desktop's.
+constexpr std::string_view kSameOnBothSystems[] = {
+    "__Block_copy",
+    "__Block_release",
+    "__NSConcreteStackBlock",
+    "__dispatch_main_q",
+    "_dispatch_async",
+    "___stack_chk_fail",
+    "_free",
+    "_memcmp",
+    "_realloc",
+    "_system",
+};
+
+}  // namespace
+
+void* find_phone_symbol(const std::string& library, const std::string& symbol) {
+  for (const Known& each : made_here())
+    if (each.symbol == symbol) return each.address;
+  const bool is_same =
+      std::count(std::begin(kSameOnBothSystems), std::end(kSameOnBothSystems), symbol);
+  if (library == kSystemLibrary && !is_same) return nullptr;
+  // The file writes each name of C with a line before it.
+  return symbol.rfind('_', 0) == 0 ? dlsym(RTLD_DEFAULT, symbol.c_str() + 1) : nullptr;
+}
+
+}  // namespace macho_tests

@@ -1,0 +1,55 @@
+#include "tests/macho/loader/phone_symbols.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+
+#include "objc/abi.h"
+#include "platform/POSIX/uname.h"
+
+namespace {
+
+using macho_tests::find_phone_symbol;
+
+constexpr const char* kSystem = "/usr/lib/libSystem.B.dylib";
+constexpr const char* kRuntime = "/usr/lib/libobjc.A.dylib";
+
+TEST(PhoneSymbols, TheRuntimesAndTheBlocksAreThisProcesses) {
+  EXPECT_EQ(find_phone_symbol(kRuntime, "_sel_registerName"),
+            reinterpret_cast<void*>(&sel_registerName));
+  EXPECT_EQ(find_phone_symbol(kSystem, "__NSConcreteStackBlock"),
+            static_cast<void*>(_NSConcreteStackBlock));
+  EXPECT_EQ(find_phone_symbol(kSystem, "__Block_copy"), reinterpret_cast<void*>(&_Block_copy));
+}
+
+TEST(PhoneSymbols, TheRestOfTheSystemLibraryIsNotTakenForTheSame) {
+  for (const char* other : {"_stat", "___error", "_open", "_dispatch_sync", "_objc_msgSendNow"})
+    EXPECT_EQ(find_phone_symbol(kSystem, other), nullptr) << other;
+  EXPECT_EQ(find_phone_symbol("/usr/lib/other.dylib", "_nobody_has_this"), nullptr);
+  EXPECT_EQ(find_phone_symbol(kSystem, "free"), nullptr);
+}
+
+TEST(PhoneSymbols, TheSystemsNameHasThePhonesLayout) {
+  constexpr std::size_t kLength = 256;
+  auto names = std::make_unique<char[][kLength]>(5);
+  std::memset(names.get(), 'x', 5 * kLength);
+  using Function = int (*)(char(*)[kLength]);
+  const auto phone_uname = reinterpret_cast<Function>(find_phone_symbol(kSystem, "_uname"));
+  SystemName here;
+  ASSERT_EQ(uname(&here), 0);
+  ASSERT_EQ(phone_uname(names.get()), 0);
+  EXPECT_STREQ(names[0], here.sysname);
+  EXPECT_STREQ(names[3], here.version);
+  EXPECT_STREQ(names[4], here.machine);
+}
+
+TEST(PhoneSymbols, TheClassOfNothingIsNothing) {
+  using Function = objc::Class (*)(objc::Id);
+  const auto class_of = reinterpret_cast<Function>(find_phone_symbol(kRuntime, "_object_getClass"));
+  EXPECT_EQ(class_of(nullptr), nullptr);
+  const auto cls = reinterpret_cast<objc::Id>(objc_getClass("NSObject"));
+  EXPECT_EQ(class_of(cls), objc_getMetaClass("NSObject"));
+}
+
+}  // namespace
