@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace {
 
 using namespace host::launcher;
@@ -23,8 +26,9 @@ TEST(ControlRequests, AreTheWholeLineAndNothingElse) {
 }
 
 TEST(ControlRequests, NameNoFileOutsideTheirFolders) {
-  for (const std::string name : {"../Music", "/bin/sh", "..", ".hidden", "a/b", "a b", "a\nb", "ü",
-                                 std::string(65, 'a').c_str()}) {
+  const std::vector<std::string> names = {"../Music", "/bin/sh", "..", ".hidden",           "a/b",
+                                          "a b",      "a\nb",    "ü",  std::string(65, 'a')};
+  for (const std::string& name : names) {
     EXPECT_EQ(read_request("open com.apple.Music " + name + "\n"), std::nullopt) << name;
     EXPECT_EQ(read_request("open " + name + " Music\n"), std::nullopt) << name;
     EXPECT_EQ(read_request("close " + name + "\n"), std::nullopt) << name;
