@@ -141,7 +141,7 @@ TEST_F(BannerDrag, OpenItIsHeldUntilTheFingerLeavesAndStaysHowItWasGrabbed) {
   grab_upwards();
   EXPECT_FALSE(pages.isScrollEnabled());
   move_by(0, -60);
-  move_by(0, 200);
+  move_by(0, 80);
   EXPECT_EQ(window_y(), 0);
   EXPECT_TRUE(is_laid_out_below_artwork(0));
   lift();
