@@ -12,6 +12,7 @@ namespace fs = std::filesystem;
 
 constexpr unsigned kProgramMode = 0755;
 constexpr unsigned kFileMode = 0644;
+constexpr const char* kFilterPath = "Library/MobileSubstrate/DynamicLibraries/Sonavue2.plist";
 constexpr const char* kProduct = "Library/Application Support/Sonavue/";
 constexpr const char* kBundle = "Library/PreferenceBundles/SonavueSettings.bundle/";
 constexpr const char* kIcon = "SonavueSettingsIcon";
@@ -24,7 +25,7 @@ void add_scales(std::set<std::string>& files, const std::string& stem) {
 std::set<std::string> expected_files(const fs::path& source) {
   std::set<std::string> files = {
       kLibraryPath,
-      "Library/MobileSubstrate/DynamicLibraries/Sonavue2.plist",
+      kFilterPath,
       kBundlePath,
       std::string(kBundle) + "Info.plist",
       "Library/PreferenceLoader/Preferences/Sonavue.plist",
@@ -98,6 +99,16 @@ void check_fields(const PackageFile& package, Findings& findings) {
       findings.push_back(fmt::format("control: lacks the field {}", field));
 }
 
+/// The processes that the library is loaded into.
+void check_filter(const PackageFile& package, Findings& findings) {
+  const PackagedFile* file = package.data_file(kFilterPath);
+  if (!file) return;
+  const std::string text(file->content.begin(), file->content.end());
+  for (const char* bundle : {"com.apple.springboard", "com.apple.Preferences"})
+    if (text.find(fmt::format("<string>{}</string>", bundle)) == std::string::npos)
+      findings.push_back(fmt::format("the filter: does not name {}", bundle));
+}
+
 }  // namespace
 
 void check_layout(const PackageFile& package, const fs::path& source, Findings& findings) {
@@ -106,6 +117,7 @@ void check_layout(const PackageFile& package, const fs::path& source, Findings& 
   check_files(package, source, findings);
   check_control(package, findings);
   check_fields(package, findings);
+  check_filter(package, findings);
 }
 
 }  // namespace sonavue::device

@@ -12,14 +12,15 @@ constexpr std::size_t kPage = 4096;
 constexpr std::size_t kBlobHeader = 12;
 
 struct Expected {
+  const char* name;
   std::uint32_t slot;
   unsigned kind;
   unsigned hash_size;
   unsigned char* (*hash)(const unsigned char*, std::size_t, unsigned char*);
 };
 
-constexpr Expected kDirectories[] = {{0, 1, SHA_DIGEST_LENGTH, &SHA1},
-                                     {0x1000, 2, SHA256_DIGEST_LENGTH, &SHA256}};
+constexpr Expected kDirectories[] = {{"SHA-1", 0, 1, SHA_DIGEST_LENGTH, &SHA1},
+                                     {"SHA-256", 0x1000, 2, SHA256_DIGEST_LENGTH, &SHA256}};
 
 class SignatureReader {
  public:
@@ -36,8 +37,8 @@ class SignatureReader {
 
   void check() const {
     require(big_32(bytes_, start_ + 8) == 3, "signature has other parts than three");
-    check_directory(0, kDirectories[0]);
     check_requirements();
+    check_directory(0, kDirectories[0]);
     check_directory(2, kDirectories[1]);
   }
 
@@ -86,9 +87,9 @@ class SignatureReader {
                   std::size_t stored) const {
     unsigned char computed[SHA256_DIGEST_LENGTH];
     expected.hash(bytes_at(bytes_, at, size), size, computed);
-    require(std::equal(computed, computed + expected.hash_size,
-                       bytes_at(bytes_, stored, expected.hash_size)),
-            "signature's hashes do not fit its bytes");
+    if (!std::equal(computed, computed + expected.hash_size,
+                    bytes_at(bytes_, stored, expected.hash_size)))
+      throw FormatError(fmt::format("signature's {} hashes do not fit its bytes", expected.name));
   }
 
   const Bytes& bytes_;

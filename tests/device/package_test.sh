@@ -24,13 +24,14 @@ cmp "$package" "$work/second/$(basename "$package")" || fail "made twice, the pa
 mkdir "$work/whole"
 dpkg-deb --raw-extract "$package" "$work/whole"
 
-# The page hashes once more, by a program that know nothing of this project.
+# The page hashes once more, by programs that know nothing of this project.
 library=Library/MobileSubstrate/DynamicLibraries/Sonavue2.dylib
 dd if="$work/whole/$library" of="$work/page" bs=4096 skip=3 count=1 2>/dev/null
 for program in sha1sum sha256sum; do
   hash=$("$program" "$work/page" | cut -d' ' -f1)
   od -An -v -tx1 "$work/whole/$library" | tr -d ' \n' | grep -q "$hash" ||
     fail "$program of a page is not in the signature"
+  echo "$hash" >"$work/$program"
 done
 
 # broken EXPECTED COMMAND…: in a copy of the package's tree the command is run, and the checker then
@@ -56,6 +57,7 @@ patch() {
 }
 
 bundle=Library/PreferenceBundles/SonavueSettings.bundle
+filter=Library/MobileSubstrate/DynamicLibraries/Sonavue2.plist
 broken "Play@2x.png: is missing" rm "Library/Application Support/Sonavue/Play@2x.png"
 broken "en.plist: is missing" rm "Library/Application Support/Sonavue/Languages/en.plist"
 broken "Info.plist: is missing" rm "$bundle/Info.plist"
@@ -63,11 +65,25 @@ broken "stray: does not belong" sh -c 'echo stray >Library/stray'
 broken "Info.plist: mode 600" chmod 600 "$bundle/Info.plist"
 broken "Info.plist: is empty" truncate -s 0 "$bundle/Info.plist"
 broken "is neither a file nor a folder" ln -sf en.plist "$bundle/Info.plist"
-broken "control: lacks \`Depends" sed -i 's/libactivator, //' DEBIAN/control
-broken "control: lacks \`Package" sed -i 's/^Package: .*/Package: org.example.other/' DEBIAN/control
-broken "lacks the field Section" sed -i '/^Section/d' DEBIAN/control
+for needed in mobilesubstrate preferenceloader libactivator 'firmware (>= 8.0)'; do
+  broken "control: lacks \`Depends" sed -i "/^Depends/s/$needed/other/" DEBIAN/control
+done
+for field in Package Name Architecture; do
+  broken "control: lacks \`$field: " sed -i "s/^$field: .*/$field: org.example.other/" DEBIAN/control
+done
+for field in Version Maintainer Section Description Installed-Size; do
+  broken "lacks the field $field" perl -0777 -pi -e "s/^$field:.*\\n( .*\\n)*//m" DEBIAN/control
+done
+broken "does not name com.apple.springboard" patch "$filter" com.apple.springboard com.apple.springgoard
+broken "does not name com.apple.Preferences" patch "$filter" com.apple.Preferences com.apple.preferences
+broken "mode 600 in place of 755" chmod 600 "$library"
+broken "Library: mode 700 in place of 755" chmod 700 Library
 broken "postinst: asks for no restart" sed -i /finish/d DEBIAN/postinst
-broken "postrm: ends processes" sed -i 's/^exit/killall SpringBoard; exit/' DEBIAN/postrm
+broken "postrm: asks for no restart" sed -i /finish/d DEBIAN/postrm
+broken "postinst: asks for no restart" rm DEBIAN/postinst
+for script in postinst postrm; do
+  broken "$script: ends processes" sed -i 's/^exit/killall SpringBoard; exit/' DEBIAN/$script
+done
 broken "prerm: does not belong" cp DEBIAN/postrm DEBIAN/prerm
 packing=-Zxz broken "packed by gzip" true
 # Whoever is not root owns the files anyway.
@@ -82,6 +98,11 @@ broken "another name" "$build/bin/sonavue_sign" org.example.other \
   "$source/build/device/Sonavue2.dylib" "$library"
 broken "does not bring the library in" patch "$bundle/SonavueSettings" Sonavue2.dylib Sonavue9.dylib
 broken "library: is no dynamic library" cp "$bundle/SonavueSettings" "$library"
+broken "settings bundle: is no bundle" cp "$library" "$bundle/SonavueSettings"
+broken "tell no selectors or no classes" patch "$library" 15cached_selector 15cached_selectoR
+broken "tell no selectors or no classes" patch "$library" 12cached_class 12cached_clasS
+broken "library: sends no messages" patch "$library" _objc_msgSend _objc_msgSenD
+broken "library: has no code" patch "$library" __text __texT
 broken "no 64-bit library" cp "$bundle/Info.plist" "$library"
 
 # as_numbers FILE OLD NEW replaces a row of numbers, written as perl packs them.
@@ -89,6 +110,14 @@ as_numbers() {
   perl -0777 -pi -e "BEGIN { (\$old, \$new) = (pack(q(V*), $2), pack(q(V*), $3)) }
     s/\Q\$old\E/\$new/g" "$1"
 }
+
+# turned HASH: the hash of a page that the signature holds is written backwards.
+turned() {
+  perl -0777 -pi -e "BEGIN { \$hash = pack(q(H*), q($(cat "$1"))) } s/\Q\$hash\E/reverse \$hash/e" \
+    "$library"
+}
+broken "signature's SHA-1 hashes do not fit" turned "$work/sha1sum"
+broken "signature's SHA-256 hashes do not fit" turned "$work/sha256sum"
 broken "not made for the system from 8.0" as_numbers "$library" "0x25, 16, 0x80000" "0x25, 16, 0x90000"
 broken "a build version in place" as_numbers "$library" "0x25, 16, 0x80000" "0x32, 16, 0x80000"
 broken "has chained fixups" as_numbers "$library" "0x80000022, 48" "0x80000034, 48"

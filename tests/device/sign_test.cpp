@@ -51,18 +51,65 @@ TEST(Sign, EveryByteOfTheCodeIsCovered) {
   }
 }
 
-TEST(Sign, TheSignatureItselfIsLookedAt) {
+TEST(Sign, EveryPartOfTheSignatureIsLookedAt) {
+  struct Part {
+    std::size_t offset;
+    const char* finding;
+  };
+  constexpr std::size_t kFirst = 36;  // where the directory of the SHA-1 hashes begins
+  const Part parts[] = {
+      {3, "is none"},
+      {7, "has another length than it says"},
+      {11, "has other parts than three"},
+      {15, "has its parts in another order"},
+      {23, "has its parts in another order"},
+      {31, "has its parts in another order"},
+      {kFirst + 3, "lacks a directory"},
+      {kFirst + 15, "is not ad-hoc"},
+      {kFirst + 19, "'s SHA-1 hashes do not fit its bytes"},
+      {kFirst + 23, "is for another name"},
+      {kFirst + 31, "has another number of pages"},
+      {kFirst + 35, "covers less than the code"},
+      {kFirst + 36, "has another kind of hashes in a directory"},
+      {kFirst + 37, "has another kind of hashes in a directory"},
+      {kFirst + 39, "has pages of another size"},
+  };
   const Bytes whole = signed_bytes();
   const std::size_t start = little_32(whole, Image(whole).command(kCodeSignature)->offset + 8);
-  // The magic number, the number of parts, the first part's slot, a directory's flags.
-  for (const std::size_t at : {0u, 11u, 15u, 36u + 15u}) {
+  for (const Part& part : parts) {
     Bytes changed = whole;
-    changed[start + at] ^= 0x40;
-    EXPECT_EQ(signature_findings(changed).size(), 1u) << at;
+    changed[start + part.offset] ^= 1;
+    const std::string separator = part.finding[0] == '\'' ? "" : " ";
+    EXPECT_EQ(signature_findings(changed),
+              Findings{"library: signature" + separator + part.finding})
+        << part.offset;
   }
-  Bytes longer = whole;
+  const std::size_t requirements = start + big_32(whole, start + 24);
+  Bytes changed = whole;
+  changed[requirements + 11] ^= 1;
+  EXPECT_EQ(signature_findings(changed), Findings{"library: signature has requirements"});
+}
+
+TEST(Sign, NothingFollowsTheSignature) {
+  Bytes longer = signed_bytes();
   longer.push_back(0);
-  EXPECT_EQ(signature_findings(longer).size(), 1u);
+  EXPECT_EQ(signature_findings(longer), Findings{"library: signature is not at its end"});
+}
+
+TEST(Sign, BothKindsOfHashesAreLookedAt) {
+  const Bytes whole = signed_bytes();
+  const std::size_t start = little_32(whole, Image(whole).command(kCodeSignature)->offset + 8);
+  const struct {
+    std::size_t part;
+    const char* kind;
+  } kinds[] = {{0, "SHA-1"}, {2, "SHA-256"}};
+  for (const auto& each : kinds) {
+    const std::size_t directory = start + big_32(whole, start + 16 + each.part * 8);
+    Bytes changed = whole;
+    changed[directory + big_32(whole, directory + 16)] ^= 1;
+    EXPECT_EQ(signature_findings(changed), Findings{std::string("library: signature's ") +
+                                                    each.kind + " hashes do not fit its bytes"});
+  }
 }
 
 TEST(Sign, AnotherNameIsNoticed) {
