@@ -3,17 +3,7 @@
 # and takes it away again: `install_test.sh SOURCE BUILD`. Whoever runs this need not be root.
 set -eu
 
-source=$1
-build=$2
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failed=0
-
-fail() {
-  echo "FAILED: $*" >&2
-  failed=1
-}
-
+. "$(dirname "$0")/test_folder.sh"
 "$source/device/package/make" "$(basename "$build")" "$work"
 package=$(echo "$work"/*.deb)
 name=org.plumvane.sonavue2

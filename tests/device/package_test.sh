@@ -3,17 +3,7 @@
 # rule forbids and sees the checker say so: `package_test.sh SOURCE BUILD`.
 set -eu
 
-source=$1
-build=$2
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failed=0
-
-fail() {
-  echo "FAILED: $*" >&2
-  failed=1
-}
-
+. "$(dirname "$0")/test_folder.sh"
 preset=$(basename "$build")
 "$source/device/package/make" "$preset" "$work/first"
 "$source/device/package/make" "$preset" "$work/second"
