@@ -21,6 +21,12 @@ class ReachabilityTest : public SurfaceTest {
     return -1;
   }
   static bool is_there(UIWindowLevel level) { return way_down(level) >= 0; }
+  static int count_of(UIWindowLevel level) {
+    int count = 0;
+    for (const UIWindow window : uikit::visible_windows())
+      count += window.windowLevel() == level ? 1 : 0;
+    return count;
+  }
 };
 
 TEST_F(ReachabilityTest, TheIconsComeDownToTheThumb) {
@@ -66,8 +72,14 @@ TEST_F(ReachabilityTest, EachWayTakesAThirdOfASecond) {
 TEST_F(ReachabilityTest, AskedForAgainItStaysAsItIs) {
   toggle_reachability();
   settle();
+  advance(3);
   manager()._handleReachabilityActivated();
   EXPECT_TRUE(is_at_rest());
+  toggle_reachability();
+  toggle_reachability();
+  // Longer than the first eight seconds.
+  advance(4);
+  EXPECT_TRUE(is_active());
   toggle_reachability();
   advance(0.1);
   manager()._handleReachabilityDeactivated();
@@ -87,13 +99,27 @@ TEST_F(ReachabilityTest, ItsTimeBeginsAnewWithEachWayDown) {
   EXPECT_TRUE(is_active());
 }
 
+TEST_F(ReachabilityTest, BroughtDownOnItsWayBackItHasOneWallpaper) {
+  toggle_reachability();
+  settle();
+  toggle_reachability();
+  advance(0.1);
+  toggle_reachability();
+  EXPECT_EQ(count_of(kBehindScreenLevel), 1);
+  EXPECT_EQ(way_down(kBehindScreenLevel), 0);
+  EXPECT_EQ(count_of(kLockScreenLevel - 1), 1);
+}
+
 TEST_F(ReachabilityTest, OnlyTheLastWayBackTakesEverythingDown) {
   toggle_reachability();
   settle();
   toggle_reachability();
+  advance(0.05);
   toggle_reachability();
+  advance(0.25);
   toggle_reachability();
-  advance(0.1);
+  // The first way back would have ended meanwhile, and so would the second way down.
+  advance(0.34);
   EXPECT_TRUE(is_there(kBehindScreenLevel));
   settle();
   EXPECT_FALSE(is_there(kBehindScreenLevel));
@@ -172,6 +198,7 @@ TEST_F(ReachabilityTest, TwoTouchesOfHomeBringTheScreenDownAndLetItGo) {
 TEST_F(ReachabilityTest, NotOnALockedOrADarkPhone) {
   press_lock();
   EXPECT_TRUE(double_touch_home());
+  EXPECT_FALSE(is_active());
   EXPECT_FALSE(display().is_on());
   press_lock();
   EXPECT_TRUE(double_touch_home());
