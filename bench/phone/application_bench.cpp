@@ -2,11 +2,7 @@
 #include <cstdio>
 
 #include "bench/phone/frame_series.h"
-#include "host/launcher/installation.h"
-#include "host/launcher/running_applications.h"
-#include "host/launcher/unix_socket.h"
-#include "host/springboard/configuration.h"
-#include "host/springboard/processes/process_keeper.h"
+#include "bench/phone/own_programs.h"
 
 // What a frame of the banner costs the home screen while an application runs below it, at rest and
 // while its list glides, against a plain copy of one frame.
@@ -23,28 +19,6 @@ constexpr int kDragFrames = 60;
 constexpr CGFloat kDragStep = 6;
 /// Where the panel's top is while it hangs.
 constexpr CGFloat kHangs = -517;
-
-/// The applications of a phone that has no supervisor.
-class OwnPrograms final : public host::springboard::ProcessKeeper {
- public:
-  explicit OwnPrograms(const std::filesystem::path& root)
-      : sockets_(root),
-        applications_({host::launcher::find_installation().home_screen.parent_path(), root},
-                      {{}, {"--device", bench::kBenchDevice, "--root", root}, {}}) {}
-
-  bool open(const std::string& bundle, const std::string& program) override {
-    return applications_.open(bundle, program);
-  }
-  void close(const std::string& bundle) override { applications_.close(bundle); }
-  host::application::Channel connect(const std::string& bundle) override {
-    return host::application::Channel(
-        host::launcher::connected_socket(host::launcher::application_socket(sockets_, bundle)));
-  }
-
- private:
-  std::filesystem::path sockets_;
-  host::launcher::RunningApplications applications_;
-};
 
 enum class Below { kAtRest, kGliding };
 
@@ -97,10 +71,7 @@ void measure(BenchPhone& phone, Below below, const char* what) {
 
 int main() {
   BenchPhone phone(bench::Pace::kStepped, R"({ enable = 1; cover = 1; checked = 1; })");
-  OwnPrograms programs(phone.root());
-  auto configuration = host::springboard::configuration();
-  configuration.process_keeper = &programs;
-  host::springboard::configure(configuration);
+  const bench::OwnPrograms programs(phone);
   phone.run("advance 1");
   phone.run("print [[SBMediaController sharedInstance] togglePlayPause]");
   phone.run("system open com.apple.Music");
