@@ -7,12 +7,14 @@ namespace host::uikit {
 namespace {
 
 constexpr const char* kSans = "Inter";
+// The same letters drawn for large sizes, where thin strokes stand.
+constexpr const char* kDisplaySans = "Inter Display";
 constexpr const char* kMonospaced = "DejaVu Sans Mono";
 
 // The drawn letters stand taller and set wider than the platform's. Their x-heights agree at this
 // size, and the tracking of each weight takes away what is then left of the extra width.
 constexpr double kSansSize = 0.965;
-constexpr double kThinTracking = -0.008;
+constexpr double kThinTracking = 0.004;
 constexpr double kLightTracking = -0.010;
 constexpr double kRegularTracking = -0.010;
 constexpr double kMediumTracking = -0.012;
@@ -24,12 +26,16 @@ constexpr FontFace sans(std::string_view name, int weight, bool italic, double t
   return {name, "Helvetica Neue", kSans, weight, italic, kSansSize, tracking};
 }
 
+constexpr FontFace thin_sans(std::string_view name, int weight) {
+  return {name, "Helvetica Neue", kDisplaySans, weight, false, kSansSize, kThinTracking};
+}
+
 constexpr std::array kFaces{
     sans("HelveticaNeue", 400, false, kRegularTracking),
     sans("HelveticaNeue-Bold", 700, false, kBoldTracking),
     sans("HelveticaNeue-Italic", 400, true, kRegularTracking),
-    sans("HelveticaNeue-UltraLight", 100, false, kThinTracking),
-    sans("HelveticaNeue-Thin", 200, false, kThinTracking),
+    thin_sans("HelveticaNeue-UltraLight", 100),
+    thin_sans("HelveticaNeue-Thin", 200),
     sans("HelveticaNeue-Light", 300, false, kLightTracking),
     sans("HelveticaNeue-LightItalic", 300, true, kLightTracking),
     sans("HelveticaNeue-Medium", 500, false, kMediumTracking),
@@ -72,7 +78,8 @@ const FontFace& italic_system_face() {
 
 FaceMetrics metrics_of(const FontFace& face) {
   // The platform's own, so that a label of one line is as tall here as there: 20.5 points at 17.
-  if (face.drawn_family == kSans) return {0.952, -0.213, 0.028, 0.714, 0.523};
+  if (face.drawn_family == kSans || face.drawn_family == kDisplaySans)
+    return {0.952, -0.213, 0.028, 0.714, 0.523};
   return {0.928, -0.236, 0.0, 0.729, 0.547};
 }
 

@@ -29,12 +29,23 @@ TEST_F(Font, ALineIsAsTallAsOnThePlatform) {
   EXPECT_NEAR(UIFont::systemFontOfSize(17).lineHeight(), 20.28, 0.01);
 }
 
+TEST_F(Font, ALineIsAsTallInEveryWeight) {
+  const double regular = UIFont::fontWithName("HelveticaNeue"_ns, 30).lineHeight();
+  for (const NSString name : {"HelveticaNeue-UltraLight"_ns, "HelveticaNeue-Thin"_ns,
+                              "HelveticaNeue-Light"_ns, "HelveticaNeue-Bold"_ns})
+    EXPECT_DOUBLE_EQ(UIFont::fontWithName(name, 30).lineHeight(), regular) << name.UTF8String();
+}
+
 TEST_F(Font, HeavierWeightsSetWiderAndLighterOnesNarrower) {
   const NSString text = "Here Comes The Sun"_ns;
   const double regular = size_of(text, UIFont::fontWithName("HelveticaNeue"_ns, 15)).width;
 
   EXPECT_GT(size_of(text, UIFont::fontWithName("HelveticaNeue-Bold"_ns, 15)).width, regular);
   EXPECT_LT(size_of(text, UIFont::fontWithName("HelveticaNeue-Thin"_ns, 15)).width, regular);
+  // The thinnest letters stand about a tenth closer than the regular ones.
+  const double thinnest =
+      size_of(text, UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, 15)).width;
+  EXPECT_NEAR(thinnest / regular, 0.9, 0.03);
 }
 
 TEST_F(Font, LettersAreAboutAsWideAsThePlatformsOwn) {
