@@ -1,8 +1,8 @@
 #include "platform/MessageUI/MFMailComposeViewController.h"
+#include "platform/MessageUI/MFMessageComposeViewController.h"
 #include "platform/UIKit/UIImageView.h"
-#include "platform/UIKit/UIScrollView.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
-#include "tests/settings/pages_test.h"
+#include "tests/settings/credits_page_test.h"
 #include "tests/settings/replaced_method.h"
 
 namespace sonavue::test {
@@ -30,47 +30,6 @@ BOOL open_address(UIApplication, NSURL url) {
 BOOL cannot_send(objc::Object) {
   return NO;
 }
-
-class Credits : public PagesTest {
- protected:
-  void open_credits() { open("creatorsController"); }
-  /// The header cell of that class.
-  UIView author(const char* class_name) const { return cell_in(window, objc_getClass(class_name)); }
-  static UIView cell_in(UIView top, objc::Class cls) {
-    if (top.isKindOfClass(cls)) return top;
-    for (const UIView part : top.subviews().of<UIView>()) {
-      if (const UIView found = cell_in(part, cls)) return found;
-    }
-    return nil;
-  }
-  UIViewController presented() const {
-    return page.presentedViewController() ? page.presentedViewController()
-                                          : stack.presentedViewController();
-  }
-  void open_card(const char* class_name) {
-    open_credits();
-    cell = author(class_name);
-    ASSERT_TRUE(cell);
-    tap_middle(cell);
-    card = presented();
-    ASSERT_TRUE(card);
-  }
-  /// What stands on the tiles of the card's strips, in their order.
-  std::vector<std::string> tiles() const {
-    std::vector<std::string> names;
-    for (const UIView part : card.view().subviews().of<UIView>()) {
-      if (!part.isKindOfClass(UIScrollView::cls())) continue;
-      for (const UIView tile : part.subviews().of<UIView>()) {
-        const auto label = objc::cast<UILabel>(tile.subviews().lastObject());
-        if (label.isKindOfClass(UILabel::cls())) names.emplace_back(label.text().UTF8String());
-      }
-    }
-    return names;
-  }
-
-  UIView cell;
-  UIViewController card;
-};
 
 TEST_F(Credits, TwoAuthorsHaveARowEach) {
   open_credits();
@@ -227,6 +186,7 @@ TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
   ASSERT_TRUE(composer.isKindOfClass(MFMailComposeViewController::cls()));
   photograph("credits-mail");
   EXPECT_TRUE(says(composer.view(), "Sonavue"));
+  EXPECT_TRUE(says(composer.view(), "vane@example.org"));
   EXPECT_EQ(composer.mailComposeDelegate(), objc::Object(cell));
   objc::send<>(cell, "mailComposeController:didFinishWithResult:error:"_sel, composer,
                MFMailComposeResultCancelled, objc::Object());
@@ -234,14 +194,19 @@ TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
   EXPECT_FALSE(presented());
 }
 
-TEST_F(Credits, AMessageIsWrittenOverTheCard) {
+TEST_F(Credits, AMessageIsWrittenOverTheCardAndClosesItAtItsEnd) {
   open_card("developerCell");
   ASSERT_TRUE(tap_text("Message"));
   advance(1);
   photograph("credits-message");
-  const UIViewController composer = card.presentedViewController();
-  ASSERT_TRUE(composer);
+  const auto composer = objc::cast<MFMessageComposeViewController>(card.presentedViewController());
+  ASSERT_TRUE(composer.isKindOfClass(MFMessageComposeViewController::cls()));
   EXPECT_TRUE(says(composer.view(), "I'm using Sonavue"));
+  EXPECT_TRUE(says(composer.view(), "plum@example.org"));
+  EXPECT_EQ(composer.messageComposeDelegate(), objc::Object(cell));
+  ASSERT_TRUE(tap_text("Cancel"));
+  advance(3);
+  EXPECT_FALSE(presented());
 }
 
 }  // namespace

@@ -114,6 +114,13 @@ TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
   ASSERT_TRUE(logo && name);
   EXPECT_EQ(logo.frame(), (CGRect{(width - 130) / 2, 10, 130, 130}));
   EXPECT_EQ(name.frame(), (CGRect{0, 145, width, 50}));
+  const auto title = objc::cast<UILabel>(name);
+  EXPECT_STREQ(title.text().UTF8String(), "Sonavue2");
+  EXPECT_STREQ(title.font().fontName().UTF8String(), "HelveticaNeue-UltraLight");
+  EXPECT_EQ(title.font().pointSize(), 50);
+  EXPECT_EQ(title.textColor(), UIColor::redColor());
+  EXPECT_EQ(title.textAlignment(), NSTextAlignmentCenter);
+  EXPECT_TRUE(objc::cast<UIImageView>(logo).image());
   EXPECT_TRUE(name.layer().mask()) << "it shimmers";
   EXPECT_EQ(objc::cast<UIView>(header).backgroundColor(), UIColor::clearColor());
 }
@@ -123,6 +130,7 @@ TEST_F(RootPage, TheShareButtonOpensTheComposer) {
   const UIBarButtonItem button = page.navigationItem().rightBarButtonItem();
   ASSERT_TRUE(button);
   EXPECT_EQ(button.image().renderingMode(), UIImageRenderingModeAlwaysTemplate);
+  EXPECT_EQ(button.style(), UIBarButtonItemStyleBordered);
   objc::send<>(button.target(), button.action());
   advance(1);
   EXPECT_TRUE(page.presentedViewController() || stack.presentedViewController());
@@ -145,6 +153,16 @@ TEST_F(RootPage, APictureIsFoundByItsNameAndByItsFile) {
   EXPECT_FALSE(imageFromFile("nothing"_ns));
   fs::copy_file(pictures() / "attivo@2x.png", pictures() / "small.png");
   EXPECT_FALSE(imageFromFile("small"_ns)) << "only sharp pictures are meant";
+}
+
+TEST_F(RootPage, WithoutPicturesThePagesStillWork) {
+  fs::remove_all(pictures());
+  fs::create_directories(languages());
+  fs::copy_file(SONAVUE_ENGLISH_TEXTS, languages() / "en.plist");
+  open_root();
+  EXPECT_FALSE(row("Contacts").imageView().image());
+  tap_middle(switch_of("Enable Sonavue"));
+  EXPECT_EQ(stored(), "checked = 0, enable = 1, firstBoot = 1");
 }
 
 TEST_F(RootPage, TheConfigurationPageLeadsToTheStylePage) {

@@ -115,6 +115,7 @@ TEST_F(StylePage, TheGesturePageNamesTheListenerWithoutItsNumber) {
   const auto gestures = objc::cast<LAListenerSettingsViewController>(over.topViewController());
   EXPECT_STREQ(gestures.listenerName().UTF8String(), "org.plumvane.Sonavue");
   EXPECT_STREQ(gestures.title().UTF8String(), "Activator");
+  EXPECT_EQ(gestures.navigationItem().rightBarButtonItem().style(), UIBarButtonItemStyleBordered);
   photograph("settings-gesture");
   ASSERT_TRUE(tap_text("Cancel"));
   EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());

@@ -2,6 +2,7 @@
 
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSValue.h"
+#include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
@@ -30,6 +31,9 @@ class WizardRows : public SettingsTest {
   }
   static Switcher switcher() {
     return Switcher::alloc().initWithFrame(kRow, "Enable Sonavue"_ns, nil, YES).autorelease();
+  }
+  void copy_picture(const char* name) const {
+    fs::copy_file(fs::path(SONAVUE_PICTURES) / name, pictures() / name);
   }
   template <class T>
   static T subview(UIView view, NSUInteger index) {
@@ -62,7 +66,45 @@ TEST_F(WizardRows, ARowHasAnIconATitleAndAnArrow) {
   EXPECT_EQ(subview<UIView>(row, 2).frame(), (CGRect{275, 0, 25, 45}));
 }
 
+TEST_F(WizardRows, APictureMovesTheTitleAside) {
+  UIGraphicsBeginImageContextWithOptions({29, 29}, YES, 2);
+  const UIImage picture = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+  const Switcher row =
+      Switcher::alloc().initWithFrame(kRow, "Enable Sonavue"_ns, picture, YES).autorelease();
+  const auto icon = subview<UIImageView>(row, 0);
+  EXPECT_EQ(icon.image(), picture);
+  EXPECT_EQ(icon.contentMode(), UIViewContentModeCenter);
+  EXPECT_EQ(subview<UIView>(row, 1).frame().origin.x, 20 + 29 + 15);
+}
+
+TEST_F(WizardRows, TheArrowIsAPicture) {
+  copy_picture("dir@2x.png");
+  const auto arrow = subview<UIImageView>(linker(), 2);
+  EXPECT_TRUE(arrow.image());
+  EXPECT_EQ(arrow.contentMode(), UIViewContentModeCenter);
+}
+
+TEST_F(WizardRows, ATapReachesTheTarget) {
+  const auto tap = objc::cast<UITapGestureRecognizer>(linker().gestureRecognizers().firstObject());
+  EXPECT_TRUE(tap.isKindOfClass(UITapGestureRecognizer::cls()));
+  EXPECT_EQ(switcher().gestureRecognizers().count(), 1u);
+}
+
+TEST_F(WizardRows, TheTrackAndItsKnobAreRoundAndOutlined) {
+  copy_picture("pattern@2x.png");
+  const Switcher row = switcher();
+  const UIView fill = subview<UIView>(track(row), 0);
+  for (const UIView round : {track(row), subview<UIView>(track(row), 1)}) {
+    EXPECT_EQ(round.layer().cornerRadius(), round.frame().size.height / 2);
+    EXPECT_EQ(round.layer().borderWidth(), 0.5);
+    EXPECT_EQ(round.backgroundColor(), UIColor::whiteColor());
+  }
+  EXPECT_TRUE(fill.backgroundColor());
+}
+
 TEST_F(WizardRows, WithoutABorderItHasNone) {
+  EXPECT_FALSE(linker(NO).layer().masksToBounds());
   EXPECT_EQ(linker(NO).layer().borderWidth(), 0);
 }
 

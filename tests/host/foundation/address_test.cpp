@@ -61,6 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Address{"mailto:a@example.org?subject=Hello%20you", "mailto", "nil", "nil",
                             "nil", "nil"},
                     Address{"sms:+123456", "sms", "nil", "nil", "nil", "nil"},
+                    Address{"sms:+123456?to=b://c?d", "sms", "nil", "nil", "nil", "nil"},
                     Address{"sms:a@example.org&body=x", "sms", "nil", "nil", "nil", "nil"}));
 
 TEST_F(AddressTexts, EqualOnesAreEqual) {
@@ -87,8 +88,9 @@ TEST_F(AddressTexts, StandForThemselvesNextToAnother) {
 }
 
 TEST_F(AddressTexts, WhatIsNoAddressIsStillNone) {
-  for (const char* text : {"reader://us er?name=x", "reader://user?name=x y", "re ader://user?x",
-                           "reader://user?name=ä", "reader://ü?name=x", "reader://user?%zz[]<>"})
+  for (const char* text :
+       {"reader://us er?name=x", "reader://user?name=x y", "re ader://user?x",
+        "reader://user?name=ä", "reader://ü?name=x", "reader://üüüü?", "reader://user?%zz[]<>"})
     EXPECT_FALSE(address(text)) << text;
 }
 
