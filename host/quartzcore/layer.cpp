@@ -46,6 +46,7 @@ Layer::Layer(CALayer owner) : Implementation(owner), serial_(next_serial()) {
 Layer::~Layer() {
   if (in_dirty_list_) forget_dirty_layer(self);
   if (in_animated_list_) forget_animated_layer(self);
+  forget_own_backing_store();
   for (auto& animation : animations_)
     stop(animation, NO, true);
   for (const auto& child : children_)
@@ -175,6 +176,7 @@ void Layer::set_should_rasterize(BOOL rasterize) {
 
 void Layer::set_contents(objc::Object contents) {
   if (contents == contents_.get()) return;
+  forget_own_backing_store();
   contents_.reset(contents);
   image_ = image_of(contents);
   needs_display_ = false;

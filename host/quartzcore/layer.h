@@ -99,6 +99,9 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   /// The clock time at which the first of its running animations ends; infinity when none does.
   double next_animation_end() const;
   void leave_dirty_list() { in_dirty_list_ = false; }
+  /// Lets go of the picture that the layer has drawn of itself, which it draws again when it is to
+  /// be seen.
+  void drop_backing_store();
   bool is_in_animated_list() const { return in_animated_list_; }
   void set_in_animated_list(bool is_in) { in_animated_list_ = is_in; }
 
@@ -203,6 +206,7 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   void mark(bool& flag);
   void announce_layout();
   bool is_custom_drawn() const;
+  void forget_own_backing_store();
   std::vector<const Layer*> children_in_order() const;
   void make_child_index() const;
   void take(RunningAnimation&& animation);
@@ -236,6 +240,7 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   bool layout_waits_below_ = false;
   bool in_dirty_list_ = false;
   bool in_animated_list_ = false;
+  bool has_backing_store_ = false;
   // A layer whose reach is not known is in no index, and above it only layers that clip know
   // theirs.
   mutable bool is_reach_known_ = false;

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <utility>
 
+#include "host/quartzcore/backing_stores.h"
 #include "host/quartzcore/context.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
@@ -79,7 +80,22 @@ void Layer::display() {
                                               : CGBitmapContextCreateImage(context);
   CGContextRelease(context);
   self.setContents(image);
+  note_backing_store(self, CGImageGetBytesPerRow(image) * CGImageGetHeight(image));
+  has_backing_store_ = true;
   CGImageRelease(image);
+}
+
+void Layer::forget_own_backing_store() {
+  if (std::exchange(has_backing_store_, false)) forget_backing_store(self);
+}
+
+// Nobody sees it, so the screen has not changed.
+void Layer::drop_backing_store() {
+  forget_own_backing_store();
+  contents_.reset();
+  image_ = nullptr;
+  needs_display_ = true;
+  if (gravity_ != Gravity::Resize) forget_reach();
 }
 
 void Layer::draw_in_context(CGContextRef context) {

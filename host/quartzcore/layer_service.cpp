@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/quartzcore/backing_stores.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/transaction.h"
 #include "host/runtime/log.h"
@@ -126,6 +127,7 @@ void flush_layers() {
       layer->displayIfNeeded();
     }
   }
+  trim_backing_stores();
   announce_starts();
   if (service) service->wait_for_next_end();
   end_implicit_transaction();

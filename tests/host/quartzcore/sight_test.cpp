@@ -1,3 +1,4 @@
+#include "host/quartzcore/backing_stores.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/Foundation/NSValue.h"
 #include "tests/host/quartzcore/compositor_fixture.h"
@@ -163,6 +164,71 @@ TEST_F(SightTest, WhatIsClippedAwayIsDrawnWhenItComesIntoSight) {
   EXPECT_EQ(notes_of(painter).drawn, there);
   for (const CALayer one : rows)
     one.setDelegate({});
+}
+
+TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
+  // given rows whose pictures take eight megabytes each
+  const std::size_t before = quartzcore::backing_store_bytes();
+  const TestPainter painter = make_painter();
+  for (const CALayer one : rows) {
+    one.setDelegate(painter);
+    one.setContentsScale(512);
+    one.setNeedsDisplay();
+  }
+
+  // when many of them have been in sight
+  for (int i = 0; i < 20; ++i) {
+    scroll_to(i);
+    quartzcore::flush_layers();
+    render();
+    EXPECT_EQ(pixel(0, 0), kGreen) << i;
+    EXPECT_EQ(pixel(3, 3), kGreen) << i;
+  }
+  quartzcore::flush_layers();
+
+  // then no more is kept than the budget, what is in sight is, and the first ones come again
+  EXPECT_LE(quartzcore::backing_store_bytes(), quartzcore::kBackingStoreBudget);
+  EXPECT_FALSE(row(0).contents());
+  EXPECT_TRUE(row(19).contents());
+  const int drawn = notes_of(painter).drawn;
+  scroll_to(0);
+  render();
+  EXPECT_EQ(pixel(0, 0), kGreen);
+  EXPECT_GE(notes_of(painter).drawn, drawn + 2);
+
+  // and nothing stays counted of layers that have other contents, or are gone
+  for (const CALayer one : rows) {
+    one.setDelegate({});
+    one.setContents({});
+  }
+  EXPECT_EQ(quartzcore::backing_store_bytes(), before);
+}
+
+TEST_F(SightTest, WhatIsInSightIsKeptWhateverItTakes) {
+  // given three rows that take more than the budget, all in sight
+  const TestPainter painter = make_painter();
+  list.setBounds({0, 0, 4, 6});
+  for (int i = 0; i < 3; ++i) {
+    row(i).setDelegate(painter);
+    row(i).setContentsScale(1024);
+    row(i).setNeedsDisplay();
+  }
+  quartzcore::flush_layers();
+  render();
+  const int drawn = notes_of(painter).drawn;
+  EXPECT_GT(quartzcore::backing_store_bytes(), quartzcore::kBackingStoreBudget);
+
+  // when turn after turn goes by
+  for (int i = 0; i < 3; ++i) {
+    row(0).setOpacity(0.5f + 0.1f * static_cast<float>(i));
+    quartzcore::flush_layers();
+    render();
+  }
+
+  // then none was drawn again
+  EXPECT_EQ(notes_of(painter).drawn, drawn);
+  for (int i = 0; i < 3; ++i)
+    row(i).setDelegate({});
 }
 
 TEST_F(SightTest, OnlyMarkedLayersAreLaidOutHoweverManyThereAre) {
