@@ -9,6 +9,7 @@
 #include "host/runtime/run_loop.h"
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/screen_grid.h"
+#include "host/springboard/system/spring_board_application.h"
 #include "host/uikit/view/window_list.h"
 #include "platform/UIKit/UIScreen.h"
 
@@ -60,7 +61,11 @@ UIImage picture_of_home() {
   for (const UIWindow window : uikit::visible_windows()) {
     if (is_status_bar(window)) layers.push_back(window.layer());
   }
-  return picture_of(layers);
+  // Over an application in front it may be dark, which is not to be read here.
+  const bool was_dark = set_status_bar_dark(false);
+  const UIImage picture = picture_of(layers);
+  set_status_bar_dark(was_dark);
+  return picture;
 }
 
 }  // namespace host::springboard

@@ -41,8 +41,9 @@ void set_status_bar_locked(bool locked) {
   if (StatusBar* bar = status_bar()) bar->set_locked(locked);
 }
 
-void set_status_bar_dark(bool dark) {
-  if (StatusBar* bar = status_bar()) bar->set_dark(dark);
+bool set_status_bar_dark(bool dark) {
+  StatusBar* bar = status_bar();
+  return bar && bar->set_dark(dark);
 }
 
 void export_spring_board_application() {

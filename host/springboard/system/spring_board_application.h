@@ -27,8 +27,8 @@ class SpringBoardApplication : public objc::Implementation<SpringBoardApplicatio
 
 /// The status bar lies on the lock screen while the phone is locked.
 void set_status_bar_locked(bool locked);
-/// It is dark over an application with a light screen.
-void set_status_bar_dark(bool dark);
+/// It is dark over an application with a light screen. Gives what it was.
+bool set_status_bar_dark(bool dark);
 
 void export_spring_board_application();
 

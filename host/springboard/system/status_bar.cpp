@@ -1,5 +1,7 @@
 #include "host/springboard/system/status_bar.h"
 
+#include <utility>
+
 #include "host/springboard/model/strings.h"
 #include "host/springboard/pictures.h"
 #include "host/springboard/screen_grid.h"
@@ -75,9 +77,10 @@ void StatusBar::set_locked(bool locked) {
   color_contents();
 }
 
-void StatusBar::set_dark(bool dark) {
-  dark_ = dark;
+bool StatusBar::set_dark(bool dark) {
+  const bool before = std::exchange(dark_, dark);
   color_contents();
+  return before;
 }
 
 // The glyphs take the bar's tint. The lock screen is never light.

@@ -24,8 +24,8 @@ class StatusBar {
   NSString time_text() const { return time_->text(); }
   /// Over the lock screen, which shows the time in large, a padlock stands in its place.
   void set_locked(bool locked);
-  /// Dark on an application's light ground.
-  void set_dark(bool dark);
+  /// Dark on an application's light ground. Gives what it was.
+  bool set_dark(bool dark);
 
  private:
   void add_left_side() const;

@@ -1,7 +1,10 @@
+#include "host/quartzcore/image.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/switcher/recent_applications.h"
+#include "host/springboard/switcher/screen_picture.h"
+#include "host/springboard/system/spring_board_application.h"
 #include "host/uikit/view/window_list.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
 #include "platform/SpringBoard/SBUIController.h"
@@ -52,6 +55,22 @@ TEST_F(SwitcherTest, ADoublePressCallsItUpWithTheHomeScreensCard) {
   EXPECT_EQ(app_switcher().row()->count(), 1u);
   EXPECT_NEAR(centre("").x, middle().x, 0.5);
   EXPECT_TRUE(is_at_rest());
+}
+
+std::string pixels_of(UIImage image) {
+  const auto surface = quartzcore::image_of(image.CGImage())->surface();
+  const auto bytes = reinterpret_cast<const char*>(cairo_image_surface_get_data(surface.get()));
+  return {bytes, static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get())) *
+                     static_cast<std::size_t>(cairo_image_surface_get_height(surface.get()))};
+}
+
+TEST_F(SwitcherTest, TheHomeScreensCardHasItsOwnLightStatusBar) {
+  const std::string light = pixels_of(picture_of_home());
+  set_status_bar_dark(true);
+  EXPECT_TRUE(pixels_of(picture_of_home()) == light);
+  // Above an application it stays as that wants it.
+  EXPECT_FALSE(pixels_of(picture_of_front()) == light);
+  EXPECT_TRUE(set_status_bar_dark(false));
 }
 
 TEST_F(SwitcherTest, ItZoomsOutOfTheWholeScreen) {
