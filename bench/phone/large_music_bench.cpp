@@ -58,7 +58,7 @@ double offset(BenchPhone& phone) {
 /// What a frame costs here and there, less what a copy of one costs for comparison.
 class SharedFrames {
  public:
-  SharedFrames(BenchPhone& phone, pid_t music) : phone_(phone), watch_(phone), music_(music) {}
+  SharedFrames(BenchPhone& phone, pid_t music) : watch_(phone), music_(music) {}
 
   template <class Work>
   void frame(Work work) {
@@ -80,7 +80,6 @@ class SharedFrames {
   std::size_t count() const { return both_.frames.size(); }
 
  private:
-  BenchPhone& phone_;
   bench::Stopwatch watch_;
   ProcessTime music_;
   Series here_;
