@@ -16,6 +16,8 @@ constexpr CGFloat kTextAlpha = 0.55;
 constexpr CGFloat kTitleSize = 22;
 constexpr CGFloat kTextSize = 14;
 constexpr CGFloat kLineHeight = 28;
+constexpr CGFloat kTextGap = 4;
+constexpr CGFloat kTextLineHeight = 20;
 constexpr CGFloat kGap = 18;
 
 void add_line(UIView screen, NSString text, CGFloat top, UIFont font, UIColor color) {
@@ -99,9 +101,13 @@ void LaunchScreen::build(SBApplication application, UIImage image, const Process
 void LaunchScreen::add_texts(NSString name, CGFloat top) const {
   add_line(*screen_, name, top, UIFont::fontWithName("HelveticaNeue-Light"_ns, kTitleSize),
            UIColor::whiteColor());
-  add_line(*screen_, name.stringByAppendingString(" is not running on this phone yet"_ns),
-           top + kLineHeight, UIFont::fontWithName("HelveticaNeue"_ns, kTextSize),
-           UIColor::colorWithWhite(1, kTextAlpha));
+  CGFloat line_top = top + kLineHeight + kTextGap;
+  for (const NSString line :
+       {"Only its icon is on this phone."_ns, "Press the Home button to go back."_ns}) {
+    add_line(*screen_, line, line_top, UIFont::fontWithName("HelveticaNeue"_ns, kTextSize),
+             UIColor::colorWithWhite(1, kTextAlpha));
+    line_top += kTextLineHeight;
+  }
 }
 
 CGAffineTransform LaunchScreen::transform_onto_icon() const {

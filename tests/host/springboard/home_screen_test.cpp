@@ -6,6 +6,7 @@
 #include "platform/SpringBoard/SBIconViewMap.h"
 #include "platform/SpringBoard/SBUIController.h"
 #include "platform/UIKit/UIApplication.h"
+#include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/support/phone_fixture.h"
 
@@ -107,6 +108,21 @@ TEST_F(HomeScreenTest, ATapZoomsTheApplicationsScreenOutOfItsIconAndHomeZoomsItB
   EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
   settle();
   EXPECT_EQ(window.subviews().count(), views);
+}
+
+TEST_F(HomeScreenTest, AnIconWithoutAProgramSaysSoAndHowToLeave) {
+  launch();
+  tap(on_screen(kCalendar));
+  settle();
+  const auto window = SBUIController::sharedInstance().window();
+  std::vector<std::string> lines;
+  for (const UIView part :
+       objc::cast<UIView>(window.subviews().lastObject()).subviews().of<UIView>())
+    if (part.isKindOfClass(UILabel::cls()))
+      lines.emplace_back(objc::cast<UILabel>(part).text().UTF8String());
+  EXPECT_EQ(lines, (std::vector<std::string>{"Calendar", "Only its icon is on this phone.",
+                                             "Press the Home button to go back."}));
+  EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
 }
 
 TEST_F(HomeScreenTest, WithoutItsRecognizersAnIconNeitherLaunchesNorEdits) {
