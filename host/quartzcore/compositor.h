@@ -65,6 +65,7 @@ class Compositor {
     std::uint64_t frame = 0;
     PixelRect place;
     Surface surface;
+    bool is_opaque = false;
   };
 
   Damage find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after);

@@ -3,6 +3,7 @@
 #include "host/quartzcore/backdrop_filter.h"
 #include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/compositor.h"
+#include "host/quartzcore/pixel_blend.h"
 
 namespace host::quartzcore {
 
@@ -59,16 +60,24 @@ void Compositor::paint_group(int index, const PixelRect& damage) {
     group.place = place;
     draw_group(index, group);
   }
-  static_cast<void>(damage);
-  paint_surface(canvases_.back(), group.surface, place.x, place.y, one.properties.opacity,
-                Opacity::Translucent);
+  const Canvas& canvas = canvases_.back();
+  if (!group.is_opaque) {
+    paint_surface(canvas, group.surface, place.x, place.y, one.properties.opacity,
+                  Opacity::Translucent);
+    return;
+  }
+  const PixelRect part{damage.x - canvas.x, damage.y - canvas.y, damage.width, damage.height};
+  blend_opaque(group.surface, canvas.surface, place.x - canvas.x, place.y - canvas.y, part,
+               one.properties.opacity);
 }
 
 void Compositor::draw_group(int index, CachedGroup& group) {
   ++groups_drawn_;
   const int first = first_needed(group.place, index);
-  // What hides all that lies below it needs no empty picture.
-  const auto prepared = first < 0 ? emptied : reused;
+  // Nothing cuts what fills the whole place: it needs no empty picture below, and makes an opaque
+  // one.
+  group.is_opaque = first >= 0;
+  const auto prepared = group.is_opaque ? reused : emptied;
   group.surface = prepared(std::move(group.surface), group.place.width, group.place.height);
   canvases_.push_back(make_canvas(group.surface, group.place.x, group.place.y));
   paint_contents(index, group.place, first, 1);

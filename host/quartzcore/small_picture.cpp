@@ -6,11 +6,16 @@
 #include <cstdint>
 #include <cstring>
 
+#include "host/quartzcore/pixel_blend.h"
+#include "host/quartzcore/wide_loops.h"
+
 namespace host::quartzcore {
 namespace {
 
-using Bytes = std::uint8_t __attribute__((vector_size(8)));
-using Halves = std::uint16_t __attribute__((vector_size(16)));
+using TwoPixels = std::uint16_t __attribute__((vector_size(16)));
+using TwoPixelsBytes = std::uint8_t __attribute__((vector_size(8)));
+using FourPixels = std::uint16_t __attribute__((vector_size(32)));
+using FourPixelsBytes = std::uint8_t __attribute__((vector_size(16)));
 
 // Blending counts in sixteenths, so that two directions of it fit 16 bits.
 constexpr int kWhole = 16;
@@ -21,15 +26,15 @@ SmallPicture make_small(int width, int height, int reduction) {
   return {reduction, width, height, std::vector<Channels>(count)};
 }
 
-void add_row(const std::uint8_t* bytes, std::vector<std::uint16_t>& sums) {
+SONAVUE_WIDE void add_row(const std::uint8_t* bytes, std::vector<std::uint16_t>& sums) {
   std::uint16_t* sum = sums.data();
   for (std::size_t i = 0; i < sums.size(); ++i)
     sum[i] = static_cast<std::uint16_t>(sum[i] + bytes[i]);
 }
 
 /// Sums of columns to means of squares.
-void take_means(const std::vector<std::uint16_t>& sums, int rows, const SmallPicture& picture,
-                Channels* to) {
+SONAVUE_WIDE void take_means(const std::vector<std::uint16_t>& sums, int rows,
+                             const SmallPicture& picture, Channels* to) {
   const int columns = static_cast<int>(sums.size()) / 4;
   for (int x = 0; x < picture.width; ++x) {
     const int first = x * picture.reduction;
@@ -51,30 +56,6 @@ std::uint16_t way(int k, int reduction) {
   return static_cast<std::uint16_t>((kWhole * k + kWhole / 2) / reduction);
 }
 
-/// The shares of a square's own pixel and of the next one, for two pixels of the screen at a time.
-template <int Reduction>
-struct Ways {
-  Ways() {
-    for (int pair = 0; pair < Reduction / 2; ++pair) {
-      for (int i = 0; i < 8; ++i) {
-        const std::uint16_t to = way(2 * pair + i / 4, Reduction);
-        next[pair][i] = to;
-        here[pair][i] = static_cast<std::uint16_t>(kWhole - to);
-      }
-    }
-  }
-  Halves here[Reduction / 2];
-  Halves next[Reduction / 2];
-};
-
-/// Two of the same pixel.
-Halves twice(const std::uint16_t* pixel) {
-  using Pixels = std::uint64_t __attribute__((vector_size(16)));
-  std::uint64_t one;
-  std::memcpy(&one, pixel, sizeof one);
-  return reinterpret_cast<Halves>(Pixels{one, one});
-}
-
 /// One row of a small picture in whole numbers, with its ends repeated once.
 using Line = std::vector<std::uint16_t>;
 
@@ -89,26 +70,44 @@ Line whole_numbers(const SmallPicture& picture, int y) {
   return line;
 }
 
-void blend_lines(const Line& here, const Line& next, std::uint16_t to, Line& blended) {
+SONAVUE_WIDE void blend_lines(const Line& here, const Line& next, std::uint16_t to, Line& blended) {
   const auto rest = static_cast<std::uint16_t>(kWhole - to);
   for (std::size_t i = 0; i < blended.size(); ++i)
     blended[i] = static_cast<std::uint16_t>(here[i] * rest + next[i] * to);
 }
 
+/// Puts the same pixel in all places.
+template <class Pixels>
+[[gnu::always_inline]] inline void fill(Pixels& places, const std::uint16_t* pixel) {
+  std::array<std::uint16_t, sizeof(Pixels) / sizeof *pixel> all;
+  for (std::size_t place = 0; place < all.size(); place += 4)
+    std::memcpy(&all[place], pixel, 4 * sizeof *pixel);
+  std::memcpy(&places, all.data(), sizeof places);
+}
+
 /// Spreads a line, counted in sixteenths, over `Reduction` pixels for each gap between two of it.
-template <int Reduction>
-void spread(const Line& line, std::uint8_t* to) {
-  const Ways<Reduction> ways;
-  const Halves half = Halves{} + static_cast<std::uint16_t>(kWhole * kWhole / 2);
+/// The steps over a gap are all the same, so that only the first pixels are multiplied.
+template <int Reduction, class Pixels, class Bytes>
+[[gnu::always_inline]] inline void spread(const Line& line, std::uint8_t* to) {
+  constexpr int kCount = sizeof(Bytes) / 4;
+  Pixels ways;
+  for (int i = 0; i < 4 * kCount; ++i)
+    ways[i] = way(i / 4, Reduction);
+  const auto step = static_cast<std::uint16_t>(kWhole * kCount / Reduction);
+  const Pixels half = Pixels{} + static_cast<std::uint16_t>(kWhole * kWhole / 2);
   const std::uint16_t* const end = line.data() + line.size();
-  Halves here = twice(line.data());
+  Pixels here;
+  Pixels next;
+  fill(here, line.data());
   for (const std::uint16_t* pixel = line.data() + 4; pixel < end; pixel += 4) {
-    const Halves next = twice(pixel);
-    for (int pair = 0; pair < Reduction / 2; ++pair) {
-      const Halves mixed = (here * ways.here[pair] + next * ways.next[pair] + half) >> 8;
-      const Bytes bytes = __builtin_convertvector(mixed, Bytes);
+    fill(next, pixel);
+    const Pixels gap = next - here;
+    Pixels mixed = here * static_cast<std::uint16_t>(kWhole) + half + gap * ways;
+    for (int done = 0; done < Reduction; done += kCount) {
+      const Bytes bytes = __builtin_convertvector(mixed >> 8, Bytes);
       std::memcpy(to, &bytes, sizeof bytes);
       to += sizeof bytes;
+      mixed += gap * step;
     }
     here = next;
   }
@@ -116,8 +115,18 @@ void spread(const Line& line, std::uint8_t* to) {
 
 using Spread = void (*)(const Line& line, std::uint8_t* to);
 
+SONAVUE_WIDE void spread_2(const Line& line, std::uint8_t* to) {
+  spread<2, TwoPixels, TwoPixelsBytes>(line, to);
+}
+SONAVUE_WIDE void spread_4(const Line& line, std::uint8_t* to) {
+  spread<4, FourPixels, FourPixelsBytes>(line, to);
+}
+SONAVUE_WIDE void spread_8(const Line& line, std::uint8_t* to) {
+  spread<8, FourPixels, FourPixelsBytes>(line, to);
+}
+
 Spread spread_over(int reduction) {
-  return reduction == 2 ? &spread<2> : reduction == 4 ? &spread<4> : &spread<8>;
+  return reduction == 2 ? &spread_2 : reduction == 4 ? &spread_4 : &spread_8;
 }
 
 /// Makes the rows of the screen from the rows of a small picture.
@@ -159,16 +168,6 @@ class Enlarger {
   std::vector<std::uint8_t> row_;
 };
 
-/// `share` of 256 parts of the source.
-void blend_row(const std::uint8_t* from, std::uint8_t* to, int bytes, int share) {
-  const auto own = static_cast<std::uint16_t>(share);
-  const auto rest = static_cast<std::uint16_t>(256 - share);
-  for (int i = 0; i < bytes; ++i) {
-    const auto sum = static_cast<std::uint16_t>(from[i] * own + to[i] * rest + 128);
-    to[i] = static_cast<std::uint8_t>(sum >> 8);
-  }
-}
-
 }  // namespace
 
 SmallPicture reduce(const Surface& surface, const PixelRect& place, int reduction) {
@@ -204,17 +203,12 @@ void paint_enlarged(const SmallPicture& picture, const Surface& surface, int x, 
   cairo_surface_flush(surface.get());
   std::uint8_t* bytes = cairo_image_surface_get_data(surface.get());
   const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface.get());
-  const int share = static_cast<int>(std::lround(opacity * 256));
-  const int count = damage.width * 4;
+  const int share = share_of(opacity);
   Enlarger enlarger(picture);
   for (int at = damage.y; at < damage.bottom(); ++at) {
     const std::uint8_t* from = enlarger.row(at - y) + std::ptrdiff_t{damage.x - x} * 4;
     std::uint8_t* to = bytes + at * stride + std::ptrdiff_t{damage.x} * 4;
-    if (share >= 256) {
-      std::memcpy(to, from, static_cast<std::size_t>(count));
-    } else {
-      blend_row(from, to, count, share);
-    }
+    blend_row(from, to, damage.width, share);
   }
   cairo_surface_mark_dirty_rectangle(surface.get(), damage.x, damage.y, damage.width,
                                      damage.height);

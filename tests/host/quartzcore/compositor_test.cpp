@@ -109,6 +109,43 @@ TEST_F(CompositorTest, AFadingGroupIsDrawnOnceAndOnlyBlendedAfterwards) {
   EXPECT_NEAR(pixel(1, 1) >> 16 & 0xff, 153, 1);
 }
 
+TEST_F(CompositorTest, AGroupThatFillsItsPlaceIsBlendedOnlyWhereSomethingChanged) {
+  const CALayer group = add({1, 1, 6, 6}, color(1, 0, 0));
+  const CALayer inside = layer_at({0, 0, 6, 6});
+  inside.setBackgroundColor(color(0, 1, 0));
+  group.addSublayer(inside);
+  group.setOpacity(0.5);
+  render();
+  const CALayer below = layer_at({0, 0, 3, 3});
+  below.setBackgroundColor(color(0, 0, 0));
+  root.insertSublayerAtIndex(below, 0);
+  render();
+  // Blended once, whether painted again or not.
+  EXPECT_NEAR(pixel(2, 2) >> 8 & 0xff, 128, 1);
+  EXPECT_EQ(pixel(2, 2) & 0xff, 0u);
+  EXPECT_NEAR(pixel(5, 5) >> 8 & 0xff, 128, 1);
+  EXPECT_NEAR(pixel(5, 5) & 0xff, 127, 1);
+  EXPECT_EQ(pixel(0, 0), kBlack);
+  EXPECT_EQ(pixel(7, 7), kBlue);
+}
+
+TEST_F(CompositorTest, ARoundClipCutsAGroupThatWouldFillItsPlace) {
+  const CALayer clip = add({0, 0, 8, 8}, color(0, 0, 1));
+  clip.setCornerRadius(4);
+  clip.setMasksToBounds(YES);
+  const CALayer group = layer_at({0, 0, 8, 8});
+  clip.addSublayer(group);
+  for (int i = 0; i < 2; ++i) {
+    const CALayer inside = layer_at({0, 0, 8, 8});
+    inside.setBackgroundColor(color(1, 0, 0));
+    group.addSublayer(inside);
+  }
+  group.setOpacity(0.5);
+  render();
+  EXPECT_NEAR(pixel(4, 4) >> 16 & 0xff, 128, 1);
+  EXPECT_EQ(pixel(0, 0), kBlue);
+}
+
 TEST_F(CompositorTest, AFadingTreeWithOneDrawingNeedsNoGroup) {
   const CALayer holder = layer_at({0, 0, 4, 4});
   root.addSublayer(holder);

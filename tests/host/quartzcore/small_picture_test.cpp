@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "host/quartzcore/backdrop_filter.h"
+#include "host/quartzcore/pixel_blend.h"
 
 namespace host::quartzcore {
 namespace {
@@ -76,6 +77,19 @@ TEST_P(SmallPictureTest, PaintedWithAnOpacityItTouchesTheDamageAlone) {
     for (int x = 0; x < 24; ++x) {
       const bool inside = x >= 6 && x < 11 && y >= 8 && y < 11;
       ASSERT_EQ(row_of(screen, y)[x], inside ? 0xff808080 : 0xff000000) << x << ", " << y;
+    }
+  }
+}
+
+TEST(PixelBlend, AnOpaqueSurfaceIsBlendedInsideTheDamageAndTheSurfaceBelow) {
+  const Surface screen = filled(40, 20, 0xff000000);
+  const Surface picture = filled(40, 20, 0xffffffff);
+  blend_opaque(picture, screen, -7, 5, {3, 0, 50, 9}, 0.25);
+  blend_opaque(picture, screen, 100, 100, {0, 0, 40, 20}, 1);
+  for (int y = 0; y < 20; ++y) {
+    for (int x = 0; x < 40; ++x) {
+      const bool inside = x >= 3 && x < 33 && y >= 5 && y < 9;
+      ASSERT_EQ(row_of(screen, y)[x], inside ? 0xff404040 : 0xff000000) << x << ", " << y;
     }
   }
 }
