@@ -22,19 +22,14 @@ void add_matches(Names& names, const std::string& text, const std::regex& patter
     names.insert((*each)[1].str());
 }
 
-/// What the stubs list for the phone's own processor.
 Names stub_symbols(const fs::path& source) {
   static const std::regex symbol(" +- ([^ \\[]+)");
   Names names;
   for (const auto& each : fs::directory_iterator(source / "device/stubs")) {
     std::ifstream lines(each.path());
-    bool is_for_the_phone = false;
-    for (std::string line; std::getline(lines, line);) {
-      if (line.find("targets:") != line.npos)
-        is_for_the_phone = line.find("arm64-ios") != line.npos;
-      else if (std::smatch found; is_for_the_phone && std::regex_match(line, found, symbol))
-        names.insert(found[1]);
-    }
+    std::smatch found;
+    for (std::string line; std::getline(lines, line);)
+      if (std::regex_match(line, found, symbol)) names.insert(found[1]);
   }
   return names;
 }

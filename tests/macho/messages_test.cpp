@@ -13,6 +13,10 @@ using objc::Object;
 using objc::Sel;
 using objc::SuperReceiver;
 
+Sel operator""_known(const char* name, std::size_t) {
+  return macho_tests::phone_selector(name);
+}
+
 CGRect rect_of(Object, double x, CGRect inside, int number) {
   return {{x, inside.origin.y}, {inside.size.width, static_cast<double>(number)}};
 }
@@ -89,52 +93,55 @@ const auto send_sum =
                   double, double, double, double, double, double, CGPoint)>(&phone_message);
 
 // A result in memory has its place in the first argument, which is what these types say, too.
-const auto send_rect =
-    as<CGRect* (*)(CGRect*, Id, Sel, double, CGRect, int)>(&phone_message_in_memory);
+const auto send_rect = as<CGRect* (*)(CGRect*, Id, Sel, double, CGRect, int)>(&phone_message);
 const auto send_super_rect =
-    as<CGRect* (*)(CGRect*, const SuperReceiver*, Sel, double, CGRect, int)>(
-        &phone_super_message_in_memory);
+    as<CGRect* (*)(CGRect*, const SuperReceiver*, Sel, double, CGRect, int)>(&phone_super_message);
 
 TEST_F(Messages, IntegersFloatsAndSmallStructuresComeBackInRegisters) {
-  EXPECT_EQ(send_number(object(), "answer"_sel), 42);
-  EXPECT_EQ(send_half(object(), "half:"_sel, 0.5f), 0.25f);
-  EXPECT_EQ(send_size(object(), "sizeOf:height:"_sel, 1.5f, -3), (CGSize{1.5, -3}));
+  EXPECT_EQ(send_number(object(), "answer"_known), 42);
+  EXPECT_EQ(send_half(object(), "half:"_known, 0.5f), 0.25f);
+  EXPECT_EQ(send_size(object(), "sizeOf:height:"_known, 1.5f, -3), (CGSize{1.5, -3}));
 }
 
 TEST_F(Messages, ALargeStructureComesBackInItsPlace) {
   CGRect place{};
   const CGRect inside{{1, 2}, {3, 4}};
-  EXPECT_EQ(send_rect(&place, object(), "rectOf:inside:number:"_sel, 9, inside, 7), &place);
+  EXPECT_EQ(send_rect(&place, object(), "rectOf:inside:number:"_known, 9, inside, 7), &place);
   EXPECT_EQ(place, (CGRect{{1, 2}, {9, -7}}));
 
   place = {};
   const SuperReceiver above = super();
-  EXPECT_EQ(send_super_rect(&place, &above, "rectOf:inside:number:"_sel, 9, inside, 7), &place);
+  EXPECT_EQ(send_super_rect(&place, &above, "rectOf:inside:number:"_known, 9, inside, 7), &place);
   EXPECT_EQ(place, (CGRect{{9, 2}, {3, 7}}));
 }
 
 TEST_F(Messages, ManyArgumentsArriveInRegistersAndOnTheStack) {
   EXPECT_EQ(
-      send_sum(object(), "a:b:c:d:e:f:g:h:i:j:k:l:m:n:o:p:"_sel, 1, 2, -3, 4, 5, 6, 7, 8, 9, 10, 11,
-               12, 13, 14, 15, CGPoint{16, 17}),
+      send_sum(object(), "a:b:c:d:e:f:g:h:i:j:k:l:m:n:o:p:"_known, 1, 2, -3, 4, 5, 6, 7, 8, 9, 10,
+               11, 12, 13, 14, 15, CGPoint{16, 17}),
       1 + 4 - 9 + 16 + 25 + 36 + 49 + 64 + 81 + 100 + 121 + 144 + 169 + 196 + 225 + 256 + 289);
 }
 
 TEST_F(Messages, NilAnswersWithZeroAndLeavesAPlaceAlone) {
-  EXPECT_EQ(send_number(nullptr, "answer"_sel), 0);
-  EXPECT_EQ(send_half(nullptr, "half:"_sel, 0.5f), 0.0f);
-  EXPECT_EQ(send_size(nullptr, "sizeOf:height:"_sel, 1.5f, -3), CGSize{});
+  EXPECT_EQ(send_number(nullptr, "answer"_known), 0);
+  EXPECT_EQ(send_half(nullptr, "half:"_known, 0.5f), 0.0f);
+  EXPECT_EQ(send_size(nullptr, "sizeOf:height:"_known, 1.5f, -3), CGSize{});
   CGRect place{{1, 2}, {3, 4}};
-  EXPECT_EQ(send_rect(&place, nullptr, "rectOf:inside:number:"_sel, 9, {}, 7), &place);
+  EXPECT_EQ(send_rect(&place, nullptr, "rectOf:inside:number:"_known, 9, {}, 7), &place);
   EXPECT_EQ(place, (CGRect{{1, 2}, {3, 4}}));
+}
+
+TEST_F(Messages, ASelectorOfTheHostsIsSentWithoutAPlace) {
+  EXPECT_EQ(send_number(object(), sel_registerName("hash")),
+            static_cast<long>(objc::send<NSUInteger>(Object(object()), "hash"_sel)));
 }
 
 TEST_F(Messages, SuperBeginsAboveAndKeepsTheReceiver) {
   const SuperReceiver above = super();
   const auto send_super = as<long (*)(const SuperReceiver*, Sel)>(&phone_super_message);
-  EXPECT_EQ(send_super(&above, "answer"_sel), 41);
+  EXPECT_EQ(send_super(&above, "answer"_known), 41);
   const auto send_super_self = as<Id (*)(const SuperReceiver*, Sel)>(&phone_super_message);
-  EXPECT_EQ(send_super_self(&above, "self"_sel), object());
+  EXPECT_EQ(send_super_self(&above, "self"_known), object());
 }
 
 }  // namespace

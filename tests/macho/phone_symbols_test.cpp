@@ -16,8 +16,8 @@ constexpr const char* kSystem = "/usr/lib/libSystem.B.dylib";
 constexpr const char* kRuntime = "/usr/lib/libobjc.A.dylib";
 
 TEST(PhoneSymbols, TheRuntimesAndTheBlocksAreThisProcesses) {
-  EXPECT_EQ(find_phone_symbol(kRuntime, "_sel_registerName"),
-            reinterpret_cast<void*>(&sel_registerName));
+  EXPECT_EQ(find_phone_symbol(kRuntime, "_class_addMethod"),
+            reinterpret_cast<void*>(&class_addMethod));
   EXPECT_EQ(find_phone_symbol(kSystem, "__NSConcreteStackBlock"),
             static_cast<void*>(_NSConcreteStackBlock));
   EXPECT_EQ(find_phone_symbol(kSystem, "__Block_copy"), reinterpret_cast<void*>(&_Block_copy));
@@ -42,6 +42,13 @@ TEST(PhoneSymbols, TheSystemsNameHasThePhonesLayout) {
   EXPECT_STREQ(names[0], here.sysname);
   EXPECT_STREQ(names[3], here.version);
   EXPECT_STREQ(names[4], here.machine);
+}
+
+TEST(PhoneSymbols, SelectorsAreThoseOfThisProcess) {
+  using Function = objc::Sel (*)(const char*);
+  const auto register_name =
+      reinterpret_cast<Function>(find_phone_symbol(kRuntime, "_sel_registerName"));
+  EXPECT_EQ(register_name("aWord:"), sel_registerName("aWord:"));
 }
 
 TEST(PhoneSymbols, TheClassOfNothingIsNothing) {

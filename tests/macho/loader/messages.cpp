@@ -1,10 +1,12 @@
 #include "tests/macho/loader/messages.h"
 
+#include <mutex>
+#include <unordered_set>
+
 // Nobody knows here which of the registers that carry arguments are in use, so all of them are kept
-// while the method is looked up. A result in memory has its place in the first register, which
-// moves receiver and selector one further; nil leaves such a place as it was, as on the phone.
+// while the method is looked up. Who looks it up may change those that are not for fractions.
 asm(R"(
-  .macro find_method receiver, selector, lookup
+  .macro send_by finder
     pushq %rbp
     movq %rsp, %rbp
     subq $0xc0, %rsp
@@ -24,10 +26,8 @@ asm(R"(
     movaps %xmm5, 0x90(%rsp)
     movaps %xmm6, 0xa0(%rsp)
     movaps %xmm7, 0xb0(%rsp)
-    movq \receiver, %rax
-    movq \selector, %rsi
-    movq %rax, %rdi
-    call \lookup@PLT
+    movq %rsp, %rdi
+    call \finder
     movq %rax, %r11
     movq 0x00(%rsp), %rdi
     movq 0x08(%rsp), %rsi
@@ -46,6 +46,7 @@ asm(R"(
     movaps 0xa0(%rsp), %xmm6
     movaps 0xb0(%rsp), %xmm7
     leave
+    jmp *%r11
   .endm
 
   .macro function name
@@ -58,33 +59,88 @@ asm(R"(
 
   .text
   function phone_message
-    testq %rdi, %rdi
-    jz 1f
-    find_method %rdi, %rsi, objc_msg_lookup
-    jmp *%r11
-  1:
+    send_by phone_method
+  function phone_super_message
+    send_by phone_super_method
+
+  function phone_nil_in_registers
     xorl %eax, %eax
     xorl %edx, %edx
     xorps %xmm0, %xmm0
     xorps %xmm1, %xmm1
     ret
-
-  function phone_message_in_memory
-    testq %rsi, %rsi
-    jz 1f
-    find_method %rsi, %rdx, objc_msg_lookup
-    jmp *%r11
-  1:
+  function phone_nil_in_memory
     movq %rdi, %rax
     ret
-
-  function phone_super_message
-    find_method %rdi, %rsi, objc_msg_lookup_super
-    movq (%rdi), %rdi
-    jmp *%r11
-
-  function phone_super_message_in_memory
-    find_method %rsi, %rdx, objc_msg_lookup_super
-    movq (%rsi), %rsi
-    jmp *%r11
 )");
+
+extern "C" {
+void phone_nil_in_registers();
+void phone_nil_in_memory();
+}
+
+namespace macho_tests {
+namespace {
+
+class KnownSelectors {
+ public:
+  void add(objc::Sel selector) {
+    const std::lock_guard guard(lock_);
+    known_.insert(selector);
+  }
+  bool has(const void* pointer) const {
+    const std::lock_guard guard(lock_);
+    return known_.count(pointer) != 0;
+  }
+
+ private:
+  mutable std::mutex lock_;
+  std::unordered_set<const void*> known_;
+};
+
+/// Made at the first use, which comes before the statics of what is loaded.
+KnownSelectors& selectors() {
+  static KnownSelectors known;
+  return known;
+}
+
+/// The first arguments of a message: perhaps a place for the result, then whom it is for, then the
+/// selector. A selector of somebody else's is taken for one without such a place.
+struct Message {
+  explicit Message(void** registers)
+      : has_place(!selectors().has(registers[1]) && selectors().has(registers[2])),
+        target(registers[has_place]),
+        selector(static_cast<objc::Sel>(registers[has_place + 1])) {}
+
+  bool has_place;
+  void*& target;
+  objc::Sel selector;
+};
+
+}  // namespace
+
+objc::Sel phone_selector(const char* name) {
+  const objc::Sel selector = sel_registerName(name);
+  selectors().add(selector);
+  return selector;
+}
+
+extern "C" {
+
+// Nil leaves the place of a result as it was, as on the phone.
+[[gnu::used]] objc::Imp phone_method(void** registers) {
+  const Message message(registers);
+  const auto receiver = static_cast<objc::Id>(message.target);
+  if (!receiver) return message.has_place ? &phone_nil_in_memory : &phone_nil_in_registers;
+  return objc_msg_lookup(receiver, message.selector);
+}
+
+[[gnu::used]] objc::Imp phone_super_method(void** registers) {
+  const Message message(registers);
+  auto* super = static_cast<objc::SuperReceiver*>(message.target);
+  message.target = super->receiver;
+  return objc_msg_lookup_super(super, message.selector);
+}
+}
+
+}  // namespace macho_tests

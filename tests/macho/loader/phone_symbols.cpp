@@ -56,9 +56,8 @@ void* address_of(Function* function) {
 std::span<const Known> made_here() {
   static const Known known[] = {
       {"_objc_msgSend", address_of(&phone_message)},
-      {"_objc_msgSend_stret", address_of(&phone_message_in_memory)},
       {"_objc_msgSendSuper", address_of(&phone_super_message)},
-      {"_objc_msgSendSuper_stret", address_of(&phone_super_message_in_memory)},
+      {"_sel_registerName", address_of(&phone_selector)},
       {"_object_getClass", address_of(&phone_object_class)},
       {"_uname", address_of(&phone_uname)},
       {"___stack_chk_guard", &stack_guard},
