@@ -57,6 +57,7 @@ TEST_F(ListControllerTest, AListOpensItsItemsAndStoresWhatIsChosen) {
   EXPECT_EQ(cell(0, 0).accessoryType(), UITableViewCellAccessoryNone);
   tap_row(2, 0);
   EXPECT_EQ(cell(1, 0).accessoryType(), UITableViewCellAccessoryNone);
+  EXPECT_FALSE(shown().table().indexPathForSelectedRow());
   photograph("pane-items", clock.now());
   tap(kBack);
   advance(1);
