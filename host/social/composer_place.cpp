@@ -23,7 +23,7 @@ constexpr CGFloat kNarrowestPhone = 320;
 
 CGFloat card_width(const Look& look, CGFloat screen, ScreenKind kind) {
   const CGFloat more = kind == ScreenKind::Phone ? (screen - kNarrowestPhone) * kShareOfWidth : 0;
-  return std::floor(std::min(look.card.width + std::max(0.0, more), screen - 2 * kSideMargin));
+  return std::floor(std::min(look.card.width + more, screen - 2 * kSideMargin));
 }
 
 }  // namespace

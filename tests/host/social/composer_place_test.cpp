@@ -37,6 +37,10 @@ TEST_P(ComposerPlace, IsInTheMiddleOfTheWidthOnWholePoints) {
   EXPECT_EQ(place.min_y(), std::floor(place.min_y()));
 }
 
+TEST(ComposerPlaceOnALowScreen, IsBelowTheStatusBarAllTheSame) {
+  EXPECT_EQ(composer_place({480, 320}, ScreenKind::Phone).min_y(), 20);
+}
+
 INSTANTIATE_TEST_SUITE_P(Screens, ComposerPlace,
                          ::testing::Values(Screen{{320, 480}, ScreenKind::Phone, 216},
                                            Screen{{320, 568}, ScreenKind::Phone, 216},

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include "host/social/configuration.h"
 #include "host/social/exports.h"
 #include "host/uikit/application/application.h"
@@ -103,6 +105,29 @@ TEST_F(LetterComposers, AMailThatIsCancelledIsSentNowhere) {
   advance(1);
   EXPECT_EQ(told().front(), "mail ended with 0");
   EXPECT_FALSE(std::filesystem::exists(folder / "Outbox"));
+}
+
+TEST_F(LetterComposers, TheSubjectMayBeChanged) {
+  show_mail();
+  tap({250, 64 + 44 + 22});
+  uikit::type_text("!"_ns);
+  advance(0.5);
+  tap(send);
+  advance(1);
+  EXPECT_THAT(sent("mail-1.txt"), testing::HasSubstr("\nSubject: Sonavue!\n"));
+}
+
+TEST_F(LetterComposers, TheEndIsToldOnce) {
+  show_mail();
+  const auto composer = objc::cast<UINavigationController>(
+      objc::cast<NSObject>(window.rootViewController().presentedViewController()));
+  const auto page = objc::Ref<UIViewController>::retain(composer.topViewController());
+  objc::send<>(*page, "cancelPressed"_sel);
+  objc::send<>(*page, "sendPressed"_sel);
+  objc::send<>(*page, "cancelPressed"_sel);
+  advance(1);
+  EXPECT_EQ(told(),
+            (Events{"mail ended with 0", "Behind will appear", "Behind did appear", "gone"}));
 }
 
 TEST_F(LetterComposers, AMailThatNobodyTakesHasFailed) {

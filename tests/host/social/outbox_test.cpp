@@ -61,6 +61,7 @@ TEST(Outbox, NeverWritesOverAnEarlierText) {
   write_bytes(folder / "share-99.txt.bak", "");
   write_bytes(folder / "share-98x.txt", "");
   write_bytes(folder / "share--1.txt", "");
+  write_bytes(folder / "share297.txt", "");
   const auto result = Outbox(folder.path()).put("share", "later");
   EXPECT_EQ(result.file, folder / "share-8.txt");
   EXPECT_EQ(read_bytes(folder / "share-7.txt"), "earlier");
