@@ -60,6 +60,12 @@ TEST_F(BannerDrag, TheControlsRiseAndStopBelowOneAnother) {
   EXPECT_TRUE(is_laid_out_below_artwork(0));
 }
 
+TEST_F(BannerDrag, TextsThatAreHalfSeenKeepTheirRoom) {
+  view("container1").setAlpha(0.5);
+  pull_open();
+  EXPECT_TRUE(is_laid_out_below_artwork(0));
+}
+
 TEST_F(BannerDrag, PushedUpTheControlsStay) {
   grab();
   const CGFloat texts = y_of("container1");
@@ -200,6 +206,26 @@ TEST_F(BannerDrag, CalledFromOpenTheGrabberShowsThatItCanBeDraggedAgain) {
 }
 
 class BannerDragWithoutTexts : public BannerTest {};
+
+TEST_F(BannerDragWithoutTexts, EachControlRisesFromItsOwnPlace) {
+  show();
+  const CGFloat back_y = y_of("back");
+  CGRect next = frame("next");
+  next.origin.y -= 20;
+  view("next").setFrame(next);
+  grab();
+  move_by(0, 5);
+  EXPECT_EQ(y_of("next"), next.origin.y - 5);
+  EXPECT_EQ(y_of("back"), back_y - 5);
+}
+
+TEST_F(BannerDragWithoutTexts, TheControlsRiseToTheLiftedLayout) {
+  show();
+  grab();
+  move_by(0, 350);
+  EXPECT_FALSE(is("showed"));
+  EXPECT_TRUE(is_laid_out_below_artwork(kLiftWithoutTexts));
+}
 
 TEST_F(BannerDragWithoutTexts, TheOpenLayoutIsLifted) {
   show();

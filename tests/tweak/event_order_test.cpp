@@ -95,6 +95,11 @@ TEST_P(EventOrderWithAForm, ThePanelClosesAndTheSystemsBannerFollows) {
   EXPECT_EQ(banner_.last(), std::tuple(objc::Object(context), NSInteger{7}));
 }
 
+TEST_P(EventOrderWithAForm, ThePlayersStateIsKept) {
+  heard_at([&] { global<MPMusicPlayerController>("musicPlayer")._playbackStateDidChange(3); });
+  EXPECT_EQ(global<int>("playbackState"), 3);
+}
+
 TEST_F(EventOrder, ThePanelMakesTheControlCentreGoOnceItCame) {
   global<BOOL>("isShow") = YES;
   EXPECT_THAT(heard_at(&springboard::present_control_centre),
@@ -142,6 +147,23 @@ TEST_F(EventOrder, ThePlayerHearsOfItsStateToo) {
       heard_at([&] { global<MPMusicPlayerController>("musicPlayer")._playbackStateDidChange(3); }),
       ElementsAre("_playbackStateDidChange:"));
   EXPECT_EQ(std::get<0>(state_changed_.last()), 3);
+}
+
+const int* kept_state = nullptr;
+int state_seen_by_system = 0;
+
+TEST_F(PanelTest, ThePlayersStateIsKeptAfterTheSystemHasHeardOfIt) {
+  const auto see_state = +[](objc::Id, objc::Sel, int) { state_seen_by_system = *kept_state; };
+  use_no_songs();
+  method_setImplementation(
+      class_getInstanceMethod(MPMusicPlayerController::cls(), "_playbackStateDidChange:"_sel),
+      reinterpret_cast<objc::Imp>(see_state));
+  load_extension();
+  kept_state = &global<int>("playbackState");
+  global<int>("playbackState") = 7;
+  global<MPMusicPlayerController>("musicPlayer")._playbackStateDidChange(3);
+  EXPECT_EQ(state_seen_by_system, 7);
+  EXPECT_EQ(global<int>("playbackState"), 3);
 }
 
 }  // namespace
