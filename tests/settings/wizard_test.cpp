@@ -255,6 +255,41 @@ TEST_F(WizardPages, TheWelcomePageIsLetGoOfWithItsLabels) {
   color.release();
 }
 
+TEST_F(WizardPages, TheQuestionsAreLetGoOfAtTheEnd) {
+  // A label keeps its colour for as long as it lives.
+  const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
+  {
+    const objc::AutoreleasePool pool;
+    start_questions();
+    part<UILabel>("UILabel").setTextColor(color);
+    objc::send<>(page, "dismissIntro"_sel);
+    advance(2);
+  }
+  advance(4);
+  EXPECT_EQ(color.retainCount(), 1u);
+  color.release();
+}
+
+TEST_F(WizardPages, TheListOfBlursIsLetGoOfAtTheEnd) {
+  // The page's row keeps the same text.
+  NSString text;
+  {
+    const objc::AutoreleasePool pool;
+    start();
+    text = Translator("adaptive_light"_ns);
+  }
+  const NSUInteger keepers = text.retainCount();
+  {
+    const objc::AutoreleasePool pool;
+    objc::send<>(page, "showSetup"_sel);
+    EXPECT_GT(text.retainCount(), keepers);
+    advance(2);
+    objc::send<>(page, "dismissIntro"_sel);
+    advance(4);
+  }
+  EXPECT_EQ(text.retainCount(), keepers);
+}
+
 TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   start_questions();
   const auto count = [&] {
