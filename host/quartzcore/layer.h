@@ -93,9 +93,10 @@ class Layer : public objc::Implementation<Layer, CALayer> {
 
   // For the service.
   void advance_animations(double now);
-  void announce_started_animations();
+  /// Marks those whose time has come as started, and adds to `heard` whose start somebody hears of.
+  /// Are there others that wait for their time?
+  bool start_animations(std::vector<RunningAnimation>& heard);
   bool wants_frames() const;
-  bool waits_for_start() const;
   /// The clock time at which the first of its running animations ends; infinity when none does.
   double next_animation_end() const;
   void leave_dirty_list() { in_dirty_list_ = false; }

@@ -32,12 +32,6 @@ bool hears_of_start(const RunningAnimation& animation) {
   return animation.object && answers(animation.object->delegate(), "animationDidStart:"_sel);
 }
 
-void tell_start(const RunningAnimation& animation) {
-  const objc::Object listener = listener_of(animation);
-  if (answers(listener, "animationDidStart:"_sel))
-    objc::send<>(listener, "animationDidStart:"_sel, animation.object.get());
-}
-
 /// `listener` hears of the end of `animation`, which is null where there was no object: it is one
 /// of ours then, and answers.
 void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
@@ -46,6 +40,14 @@ void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, B
 }
 
 }  // namespace
+
+void tell_starts(const std::vector<RunningAnimation>& started) {
+  for (const RunningAnimation& animation : started) {
+    const objc::Object listener = listener_of(animation);
+    if (answers(listener, "animationDidStart:"_sel))
+      objc::send<>(listener, "animationDidStart:"_sel, animation.object.get());
+  }
+}
 
 objc::Ref<objc::Object> Layer::action_before_change(NSString key) const {
   if (current_actions() == Actions::Disabled) return {};
@@ -139,24 +141,24 @@ void Layer::stop(RunningAnimation& animation, BOOL finished, bool next_turn) {
   }
 }
 
-bool Layer::waits_for_start() const {
-  return std::any_of(animations_.begin(), animations_.end(),
-                     [](const auto& animation) { return !animation.has_started; });
-}
-
-void Layer::announce_started_animations() {
-  std::vector<RunningAnimation> started;
+bool Layer::start_animations(std::vector<RunningAnimation>& heard) {
+  bool waits = false;
   for (RunningAnimation& animation : animations_) {
-    if (animation.has_started || animation.begin > now()) continue;
+    if (animation.has_started) continue;
+    if (animation.begin > now()) {
+      waits = true;
+      continue;
+    }
     animation.has_started = true;
-    if (hears_of_start(animation)) started.push_back(animation);
+    if (hears_of_start(animation)) heard.push_back(animation);
   }
-  for (const RunningAnimation& animation : started)
-    tell_start(animation);
+  return waits;
 }
 
 void Layer::advance_animations(double time) {
-  announce_started_animations();
+  std::vector<RunningAnimation> heard;
+  start_animations(heard);
+  tell_starts(heard);
   std::vector<RunningAnimation> ended;
   bool moved = false;
   for (std::size_t i = 0; i < animations_.size();) {

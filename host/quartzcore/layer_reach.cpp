@@ -81,12 +81,24 @@ std::vector<const Layer*> Layer::children_in_order() const {
   return order;
 }
 
+// Each of perhaps thousands is looked at once, unless they are not drawn in the order of the list.
 void Layer::make_child_index() const {
-  std::vector<const Layer*> order = children_in_order();
+  std::vector<const Layer*> order;
   std::vector<CGRect> boxes;
-  boxes.reserve(order.size());
-  for (const Layer* child : order)
-    boxes.push_back(child->box());
+  order.reserve(children_.size());
+  boxes.reserve(children_.size());
+  bool is_in_order = true;
+  for (const auto& handle : children_) {
+    const Layer& child = objc::state_of<Layer>(handle.get());
+    order.push_back(&child);
+    boxes.push_back(child.box());
+    is_in_order &= child.model().z_position == 0;
+  }
+  if (!is_in_order) {
+    order = children_in_order();
+    std::transform(order.begin(), order.end(), boxes.begin(),
+                   [](const Layer* child) { return child->box(); });
+  }
   child_index_ = std::make_unique<ChildIndex>(std::move(order), std::move(boxes));
   is_index_stale_ = false;
 }

@@ -34,11 +34,10 @@ std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
 
 void announce_starts() {
   if (!std::exchange(starts_wait, false)) return;
-  for (const auto& layer : retained(animated)) {
-    Layer& state = objc::state_of<Layer>(layer.get());
-    state.announce_started_animations();
-    starts_wait |= state.waits_for_start();
-  }
+  std::vector<RunningAnimation> heard;
+  for (CALayer layer : animated)
+    starts_wait |= objc::state_of<Layer>(layer).start_animations(heard);
+  tell_starts(heard);
 }
 
 }  // namespace
@@ -77,16 +76,15 @@ void LayerService::update_frames() {
 
 void LayerService::wait_for_next_end() {
   if (std::exchange(ends_are_known, true)) return;
-  std::erase_if(animated, [](CALayer handle) {
+  double end = std::numeric_limits<double>::infinity();
+  std::erase_if(animated, [&end](CALayer handle) {
     Layer& layer = objc::state_of<Layer>(handle);
+    end = std::min(end, layer.next_animation_end());
     if (layer.wants_frames()) return false;
     layer.set_in_animated_list(false);
     return true;
   });
   update_frames();
-  double end = std::numeric_limits<double>::infinity();
-  for (CALayer layer : animated)
-    end = std::min(end, objc::state_of<Layer>(layer).next_animation_end());
   if (end_timer_ && end == end_time_) return;
   if (end_timer_) loop_.remove_timer(std::exchange(end_timer_, 0));
   end_time_ = end;
