@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "host/launcher/unix_socket.h"
 #include "tests/host/launcher/temporary_folder.h"
 
@@ -12,13 +15,25 @@ using namespace host::launcher;
 
 constexpr const char* kBundle = "org.example.Sleeper";
 
-/// The folder of programs is the machine's own: `sleep` is one that runs until it is ended.
+constexpr const char* kProgram = "sleeper";
+
+/// The programs of a test: one that runs until it is ended, whatever it is told.
+class Programs : public TemporaryFolder {
+ public:
+  Programs() {
+    const auto program = path() / kProgram;
+    std::ofstream(program) << "#!/bin/sh\nexec sleep 1000\n";
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+  }
+};
+
 class Applications : public testing::Test {
  protected:
+  Programs programs_;
   TemporaryFolder sockets_;
-  RunningApplications applications_{{"/bin", sockets_.path()}, {{}, {"1000"}, {}}};
+  RunningApplications applications_{{programs_.path(), sockets_.path()}, {}};
 
-  bool open() { return applications_.open(kBundle, "sleep"); }
+  bool open() { return applications_.open(kBundle, kProgram); }
   bool can_be_reached() const {
     return static_cast<bool>(connected_socket(application_socket(sockets_.path(), kBundle)));
   }
@@ -67,8 +82,8 @@ TEST_F(Applications, OpenAnewWhenTheyHadEnded) {
 TEST_F(Applications, EndWithWhomTheyBelongTo) {
   pid_t process = 0;
   {
-    RunningApplications others({"/bin", sockets_.path()}, {{}, {"1000"}, {}});
-    ASSERT_TRUE(others.open("org.example.Other", "sleep"));
+    RunningApplications others({programs_.path(), sockets_.path()}, {});
+    ASSERT_TRUE(others.open("org.example.Other", kProgram));
     process = others.process("org.example.Other");
   }
   EXPECT_EQ(kill(process, 0), -1);
