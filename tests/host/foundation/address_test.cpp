@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Address{"mailto:a@example.org?subject=Hello%20you", "mailto", "nil", "nil",
                             "nil", "nil"},
                     Address{"sms:+123456", "sms", "nil", "nil", "nil", "nil"},
-                    Address{"sms:+123456?to=b://c?d", "sms", "nil", "nil", "nil", "nil"},
+                    Address{"sms:+123456?to=b://c?d", "sms", "nil", "nil", "to=b://c?d", "nil"},
                     Address{"sms:a@example.org&body=x", "sms", "nil", "nil", "nil", "nil"}));
 
 TEST_F(AddressTexts, EqualOnesAreEqual) {
