@@ -22,7 +22,6 @@ void check_sections(const Image& image) {
     if (each.name.rfind("__objc_", 0) == 0)
       throw FormatError(each.name + " would have to be registered by the runtime");
   }
-  if (image.command(kChainedFixups)) throw FormatError("it has chained fixups");
 }
 
 bool is_code(const Image& image, std::uint64_t address) {

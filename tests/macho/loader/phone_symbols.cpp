@@ -88,7 +88,7 @@ void* find_phone_symbol(const std::string& library, const std::string& symbol) {
   const bool is_same =
       std::count(std::begin(kSameOnBothSystems), std::end(kSameOnBothSystems), symbol);
   if (library == kSystemLibrary && !is_same) return nullptr;
-  // The file writes each name of C with a line before it.
+  // In this file format every name of C has an underscore before it.
   return symbol.rfind('_', 0) == 0 ? dlsym(RTLD_DEFAULT, symbol.c_str() + 1) : nullptr;
 }
 
