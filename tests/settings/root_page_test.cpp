@@ -1,3 +1,4 @@
+#include "host/runtime/device_model.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIScreen.h"
 #include "settings/pictures.h"
@@ -123,6 +124,26 @@ TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
   EXPECT_TRUE(objc::cast<UIImageView>(logo).image());
   EXPECT_TRUE(name.layer().mask()) << "it shimmers";
   EXPECT_EQ(objc::cast<UIView>(header).backgroundColor(), UIColor::clearColor());
+}
+
+TEST_F(RootPage, TheHeaderIsInTheMiddleOfEveryScreen) {
+  open_root();
+  const auto model = host::current_device();
+  for (const auto& each : host::device_models()) {
+    host::set_current_device(each);
+    const CGFloat width = UIScreen::mainScreen().bounds().size.width;
+    const objc::Object cls(objc_getClass("HeaderCellForSonavue"));
+    const auto header =
+        objc::cast<UIView>(objc::send<PSHeaderViewDelegate>(objc::send<NSObject>(cls, "alloc"_sel),
+                                                            "initWithSpecifier:"_sel, PSSpecifier())
+                               .autorelease());
+    for (const UIView part : header.subviews().of<UIView>()) {
+      if (part.isKindOfClass(UIImageView::cls()) || part.isKindOfClass(UILabel::cls())) {
+        EXPECT_EQ(part.center().x, width / 2) << each.identifier;
+      }
+    }
+  }
+  host::set_current_device(model);
 }
 
 TEST_F(RootPage, TheShareButtonOpensTheComposer) {
