@@ -18,7 +18,7 @@ class PixelMemory {
   };
 
   /// A few screens: what an animation lets go of the next one finds.
-  static constexpr std::size_t kMostKept = 24U << 20;
+  static constexpr std::size_t kMostKept = 12U << 20;
 
   PixelMemory() = default;
   ~PixelMemory();
