@@ -53,6 +53,14 @@ TEST_F(Search, FoldsTheCaseOfEveryScriptAndNothingElse) {
   EXPECT_THAT(found_by("ss"), ElementsAre("STRASSE"));
 }
 
+TEST_F(Search, FoldsTheCaseBesideALooseMarkToo) {
+  // The accent is a sign of its own, behind its letter.
+  const char* const title = "Cafe\u0301 NOIR";
+  open_with({title, "Pinot Noir"});
+  for (const char* typed : {"noir", "NOIR", "Noir"})
+    EXPECT_THAT(found_by(typed), UnorderedElementsAre(title, "Pinot Noir")) << typed;
+}
+
 TEST_F(Search, LooksAtTheTitleAlone) {
   open_with({"By Xenia"});
   // The artist of three songs and the album of three, and a title.
