@@ -17,6 +17,12 @@ namespace {
 class RootPage : public PagesTest {
  protected:
   void open_root() { open("SonavueSettingsController"); }
+  static PSHeaderViewDelegate make_header() {
+    const objc::Object cls(objc_getClass("HeaderCellForSonavue"));
+    return objc::send<PSHeaderViewDelegate>(objc::send<NSObject>(cls, "alloc"_sel),
+                                            "initWithSpecifier:"_sel, PSSpecifier())
+        .autorelease();
+  }
   /// The kinds and names of its rows.
   std::vector<std::string> names() const {
     std::vector<std::string> made;
@@ -99,10 +105,7 @@ TEST_F(RootPage, ConfigurationIsTheStylePage) {
 
 TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
   open_root();
-  const objc::Object cls(objc_getClass("HeaderCellForSonavue"));
-  const auto header = objc::send<PSHeaderViewDelegate>(objc::send<NSObject>(cls, "alloc"_sel),
-                                                       "initWithSpecifier:"_sel, PSSpecifier())
-                          .autorelease();
+  const PSHeaderViewDelegate header = make_header();
   for (const CGFloat width : {320.0, 375.0, 414.0, 768.0})
     EXPECT_EQ(header.preferredHeightForWidth(width), 184);
   const CGFloat width = UIScreen::mainScreen().bounds().size.width;
@@ -132,11 +135,7 @@ TEST_F(RootPage, TheHeaderIsInTheMiddleOfEveryScreen) {
   for (const auto& each : host::device_models()) {
     host::set_current_device(each);
     const CGFloat width = UIScreen::mainScreen().bounds().size.width;
-    const objc::Object cls(objc_getClass("HeaderCellForSonavue"));
-    const auto header =
-        objc::cast<UIView>(objc::send<PSHeaderViewDelegate>(objc::send<NSObject>(cls, "alloc"_sel),
-                                                            "initWithSpecifier:"_sel, PSSpecifier())
-                               .autorelease());
+    const auto header = objc::cast<UIView>(make_header());
     for (const UIView part : header.subviews().of<UIView>()) {
       if (part.isKindOfClass(UIImageView::cls()) || part.isKindOfClass(UILabel::cls())) {
         EXPECT_EQ(part.center().x, width / 2) << each.identifier;

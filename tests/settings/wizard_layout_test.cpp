@@ -124,7 +124,6 @@ TEST_F(WizardLayout, TheWelcomePageHasItsLetters) {
 }
 
 TEST_F(WizardLayout, EveryPageAsksForItsOwnPicture) {
-  // A bar of the platform asks for none of these.
   const ReplacedMethod<&note_picture> noted(objc_getMetaClass("UIImage"),
                                             "imageWithContentsOfFile:");
   const char* const arrow = "dir@2x.png";
