@@ -1,6 +1,5 @@
 #include <cmath>
 
-#include "objc/autorelease_pool.h"
 #include "platform/UIKit/UIPageControl.h"
 #include "platform/UIKit/UIPickerView.h"
 #include "settings/texts.h"
@@ -235,61 +234,6 @@ TEST_F(WizardPages, TheTenthBlurIsTheHalfLightOne) {
   EXPECT_EQ(stored(), "blur = semi_light, checked = 0, firstBoot = 1");
 }
 
-TEST_F(WizardPages, TheWelcomePageIsLetGoOfWithItsLabels) {
-  // A label keeps its colour for as long as it lives.
-  const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
-  {
-    const objc::AutoreleasePool pool;
-    start();
-    for (const UIView each : welcome.subviews().of<UIView>()) {
-      if (each.isKindOfClass(UILabel::cls())) objc::cast<UILabel>(each).setTextColor(color);
-    }
-    drag_welcome(200);
-    let_go(200);
-    advance(4);
-    objc::send<>(page, "dismissIntro"_sel);
-    advance(2);
-  }
-  advance(4);
-  EXPECT_EQ(color.retainCount(), 1u);
-  color.release();
-}
-
-TEST_F(WizardPages, TheQuestionsAreLetGoOfAtTheEnd) {
-  // A label keeps its colour for as long as it lives.
-  const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
-  {
-    const objc::AutoreleasePool pool;
-    start_questions();
-    part<UILabel>("UILabel").setTextColor(color);
-    objc::send<>(page, "dismissIntro"_sel);
-    advance(2);
-  }
-  advance(4);
-  EXPECT_EQ(color.retainCount(), 1u);
-  color.release();
-}
-
-TEST_F(WizardPages, TheListOfBlursIsLetGoOfAtTheEnd) {
-  // The page's row keeps the same text.
-  NSString text;
-  {
-    const objc::AutoreleasePool pool;
-    start();
-    text = Translator("adaptive_light"_ns);
-  }
-  const NSUInteger keepers = text.retainCount();
-  {
-    const objc::AutoreleasePool pool;
-    objc::send<>(page, "showSetup"_sel);
-    EXPECT_GT(text.retainCount(), keepers);
-    advance(2);
-    objc::send<>(page, "dismissIntro"_sel);
-    advance(4);
-  }
-  EXPECT_EQ(text.retainCount(), keepers);
-}
-
 TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   start_questions();
   const auto count = [&] {
@@ -339,32 +283,6 @@ TEST_F(WizardPages, TheDotsAreHiddenAlthoughTheyAreCounted) {
     EXPECT_TRUE(each.isHidden());
   }
   EXPECT_EQ(dots, 1);
-}
-
-TEST_F(WizardPages, TheTutorialEndsTheWizard) {
-  start_questions();
-  objc::send<>(page, "showTutorial"_sel);
-  advance(3);
-  for (int number = 0; number < 4; ++number) {
-    photograph("wizard-tutorial-" + std::to_string(number));
-    if (number < 3) next_page();
-  }
-  ASSERT_TRUE(find(shown_page().view(), "Done"));
-  tap_text("Done");
-  advance(2);
-  EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());
-  EXPECT_EQ(stored(), "firstBoot = 1");
-}
-
-TEST_F(WizardPages, ItCanBeginAgainAfterItsEnd) {
-  start_questions();
-  objc::send<>(page, "dismissIntro"_sel);
-  advance(2);
-  tap_row("Guided setup");
-  const UIViewController again = page.presentedViewController() ? page.presentedViewController()
-                                                                : stack.presentedViewController();
-  ASSERT_TRUE(again);
-  EXPECT_TRUE(find(again.view(), "Sonavue"));
 }
 
 }  // namespace
