@@ -10,13 +10,13 @@
 namespace sonavue::test {
 namespace {
 
-/// How often a file may still be read.
+/// How often the English table may still be read.
 int& readings_left() {
   static int left = 0;
   return left;
 }
-BOOL may_be_read(NSFileManager, NSString) {
-  return readings_left()-- > 0;
+BOOL may_be_read(NSFileManager, NSString path) {
+  return !path.hasSuffix("/en.plist"_ns) || readings_left()-- > 0;
 }
 
 class Texts : public SettingsTest {
