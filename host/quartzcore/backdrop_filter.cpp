@@ -48,7 +48,7 @@ void blur_rows(SmallPicture& picture, int radius) {
 // Row by row as well, with a sum for each column.
 void blur_columns(SmallPicture& picture, int radius) {
   const Channels share = same(1.0 / (2 * radius + 1));
-  const std::vector<Channels> copy = picture.pixels;
+  const SmallPicture::Pixels copy = picture.pixels;
   const auto source = [&](int y) {
     return copy.data() +
            static_cast<std::ptrdiff_t>(std::clamp(y, 0, picture.height - 1)) * picture.width;

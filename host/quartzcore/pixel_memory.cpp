@@ -42,6 +42,7 @@ PixelMemory::Block PixelMemory::take(std::size_t size, Contents contents) {
 }
 
 void PixelMemory::give_back(Block block) {
+  if (block.size < kLeastKept) return std::free(block.bytes);
   const std::lock_guard lock(mutex_);
   blocks_.push_front(block);
   kept_ += block.size;

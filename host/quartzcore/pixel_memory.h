@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <mutex>
+#include <new>
 
 namespace host::quartzcore {
 
@@ -19,6 +20,8 @@ class PixelMemory {
 
   /// A few screens: what an animation lets go of the next one finds.
   static constexpr std::size_t kMostKept = 12U << 20;
+  /// Smaller blocks come from pages that are there anyway.
+  static constexpr std::size_t kLeastKept = 128U << 10;
 
   PixelMemory() = default;
   ~PixelMemory();
@@ -40,5 +43,21 @@ class PixelMemory {
 
 /// The one of this process.
 PixelMemory& pixel_memory();
+
+/// For vectors of pixels that are made anew with each frame.
+template <class T>
+struct PixelAllocator {
+  using value_type = T;
+
+  T* allocate(std::size_t count) {
+    const auto block = pixel_memory().take(count * sizeof(T), PixelMemory::Contents::Anything);
+    if (!block.bytes) throw std::bad_alloc();
+    return reinterpret_cast<T*>(block.bytes);
+  }
+  void deallocate(T* values, std::size_t count) {
+    pixel_memory().give_back({reinterpret_cast<unsigned char*>(values), count * sizeof(T)});
+  }
+  friend bool operator==(const PixelAllocator&, const PixelAllocator&) { return true; }
+};
 
 }  // namespace host::quartzcore

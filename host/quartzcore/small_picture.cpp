@@ -23,7 +23,7 @@ constexpr std::uint8_t kOpaque = 255;
 
 SmallPicture make_small(int width, int height, int reduction) {
   const auto count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-  return {reduction, width, height, std::vector<Channels>(count)};
+  return {reduction, width, height, SmallPicture::Pixels(count)};
 }
 
 SONAVUE_WIDE void add_row(const std::uint8_t* bytes, std::vector<std::uint16_t>& sums) {

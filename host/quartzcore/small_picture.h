@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "host/quartzcore/pixel_memory.h"
 #include "host/quartzcore/pixel_rect.h"
 #include "host/quartzcore/surface.h"
 
@@ -13,11 +14,13 @@ using Channels = float __attribute__((vector_size(16)));
 /// A picture of which each pixel stands for a square of the screen's pixels. A blur hides that, and
 /// costs the less.
 struct SmallPicture {
+  using Pixels = std::vector<Channels, PixelAllocator<Channels>>;
+
   /// Pixels of the screen to the side of one of these: 1, 2, 4 or 8.
   int reduction = 1;
   int width = 0;
   int height = 0;
-  std::vector<Channels> pixels;  // row by row
+  Pixels pixels;  // row by row
 
   Channels* row(int y) { return pixels.data() + static_cast<std::ptrdiff_t>(y) * width; }
   const Channels* row(int y) const {

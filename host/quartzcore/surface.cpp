@@ -13,9 +13,6 @@ namespace {
 using Block = PixelMemory::Block;
 using Contents = PixelMemory::Contents;
 
-// Smaller ones come from the pages that are there anyway.
-constexpr std::size_t kLeastRecycled = 128U << 10;
-
 void give_back(void* lent) {
   const std::unique_ptr<Block> block(static_cast<Block*>(lent));
   pixel_memory().give_back(*block);
@@ -43,7 +40,7 @@ Surface surface_with(Contents contents, int width, int height) {
   const int stride = cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, width);
   const auto size =
       static_cast<std::size_t>(std::max(stride, 0)) * static_cast<std::size_t>(height);
-  if (size >= kLeastRecycled) {
+  if (size >= PixelMemory::kLeastKept) {
     auto block = std::make_unique<Block>(pixel_memory().take(size, contents));
     if (block->bytes) {
       if (Surface made = surface_in(std::move(block), width, height, stride)) return made;

@@ -54,7 +54,7 @@ TEST_P(SmallPictureTest, ARampStaysARampInBothDirections) {
   const int side = GetParam();
   const int length = 8 * side;
   for (const bool is_upright : {false, true}) {
-    SmallPicture small{side, 8, 8, std::vector<Channels>(64)};
+    SmallPicture small{side, 8, 8, SmallPicture::Pixels(64)};
     for (int y = 0; y < 8; ++y) {
       for (int x = 0; x < 8; ++x)
         small.row(y)[x] = Channels{} + static_cast<float>(32 * (is_upright ? y : x));
@@ -97,7 +97,7 @@ TEST(PixelBlend, AnOpaqueSurfaceIsBlendedInsideTheDamageAndTheSurfaceBelow) {
 INSTANTIATE_TEST_SUITE_P(Reductions, SmallPictureTest, testing::Values(1, 2, 4, 8));
 
 TEST(BackdropFilter, ABlurSpreadsOneBrightPixelEvenlyAndLosesNothingOfIt) {
-  SmallPicture picture{8, 41, 41, std::vector<Channels>(41 * 41)};
+  SmallPicture picture{8, 41, 41, SmallPicture::Pixels(41 * 41)};
   picture.row(20)[20] = Channels{} + 255.0F;
   BackdropLook look;
   look.blur_radius = 48;
