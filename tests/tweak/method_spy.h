@@ -5,6 +5,8 @@
 
 #include "host/runtime/hooking.h"
 #include "objc/class_builder.h"
+#include "objc/ref.h"
+#include "platform/Foundation/NSString.h"
 
 namespace host::test {
 
@@ -38,6 +40,7 @@ class MethodSpy<Selector, Result(Self, Arguments...)> {
   static Result heard(Self self, Arguments... arguments) {
     if (listening) {
       listening->calls_.emplace_back(arguments...);
+      (listening->keep(arguments), ...);
       if (listening->order_) listening->order_->push_back(Selector.c_str());
     }
     using Function = objc::AbiType<Result> (*)(objc::Id, objc::Sel, objc::AbiType<Arguments>...);
@@ -50,10 +53,18 @@ class MethodSpy<Selector, Result(Self, Arguments...)> {
     }
   }
 
+  // Texts are often made for the call alone; a test looks at them when it is long over.
+  template <class T>
+  void keep([[maybe_unused]] T argument) {
+    if constexpr (std::is_base_of_v<NSString, T>)
+      kept_.push_back(objc::Ref<objc::Object>::retain(argument));
+  }
+
   static inline objc::Imp before = nullptr;
   static inline MethodSpy* listening = nullptr;
 
   std::vector<Call> calls_;
+  std::vector<objc::Ref<objc::Object>> kept_;
   std::vector<std::string>* order_;
 };
 

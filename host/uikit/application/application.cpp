@@ -8,6 +8,7 @@
 #include "host/uikit/gesture/event.h"
 #include "host/uikit/view/responder.h"
 #include "host/uikit/view/window_list.h"
+#include "objc/autorelease_pool.h"
 
 namespace host::uikit {
 namespace {
@@ -94,6 +95,8 @@ CGRect Application::status_bar_frame() const {
 }
 
 UIApplication launch_application(const char* class_name) {
+  // The launch is a turn of its own: what it borrowed on the way is not kept for life.
+  const objc::AutoreleasePool pool;
   const objc::Object cls(objc_getClass(class_name));
   const auto allocated = objc::send<UIApplication>(cls, "alloc"_sel);
   const auto application = objc::send<UIApplication>(allocated, "init"_sel);
