@@ -32,8 +32,8 @@ class ArtworkImages {
   std::size_t bytes_kept() const { return store_->cache().bytes_kept(); }
 
  private:
-  /// Far more than the covers of the largest library at the sizes of the screen's places for them.
-  static constexpr std::size_t kMostImages = 20'000;
+  /// The tiles of a large library, and the rows of it that were seen last.
+  static constexpr std::size_t kMostImages = 8'000;
 
   struct Key {
     std::uint64_t artwork;

@@ -23,7 +23,7 @@ class CoverStore : public std::enable_shared_from_this<CoverStore> {
     Waits,       // A frame has all pictures, whatever that takes: a stepped clock stands meanwhile.
     NeverWaits,  // They are decoded beside the screen and shown when they are there.
   };
-  static constexpr std::size_t kMostBytes = 12 << 20;
+  static constexpr std::size_t kMostBytes = 8 << 20;
 
   explicit CoverStore(Pace pace) : pace_(pace) {}
   ~CoverStore();

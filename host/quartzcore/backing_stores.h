@@ -10,8 +10,8 @@ namespace host::quartzcore {
 // keep a picture of each: so all of them together have a budget. Beyond it the pictures of layers
 // that are clipped away are let go, the oldest first, and drawn again once they come into sight.
 
-/// Bytes; some ten screens full of texts.
-inline constexpr std::size_t kBackingStoreBudget = 24 << 20;
+/// Bytes; a few screens full of texts.
+inline constexpr std::size_t kBackingStoreBudget = 8 << 20;
 
 /// The layer has drawn itself anew. Not retained: it says when it ends.
 void note_backing_store(CALayer layer, std::size_t bytes);

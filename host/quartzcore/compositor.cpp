@@ -11,11 +11,18 @@ namespace {
 // More rectangles than these cost more in clipping than they save in pixels.
 constexpr std::size_t kMostRectangles = 4;
 constexpr int kMostRounds = 4;
+// A background as high and as wide as the screen is high takes almost two; the rest is for what
+// lies on it, and for all icons.
+constexpr long kScreensOfImages = 4;
+constexpr long kBytesOfPixel = 4;
 
 }  // namespace
 
 Compositor::Compositor(int width, int height, double scale)
-    : screen_{0, 0, width, height}, scale_(scale), surface_(make_surface(width, height)) {}
+    : screen_{0, 0, width, height},
+      scale_(scale),
+      surface_(make_surface(width, height)),
+      images_(kScreensOfImages * kBytesOfPixel * width * height) {}
 
 Damage Compositor::render(std::span<const CALayer> roots, double now) {
   const bool same_roots =

@@ -32,7 +32,7 @@ Surface ImageCache::scaled(const Image& image, int width, int height, Pixels pix
 }
 
 void ImageCache::make_room() {
-  while (bytes_ > kBudget && entries_.size() > 1) {
+  while (bytes_ > budget_ && entries_.size() > 1) {
     const auto oldest = std::min_element(
         entries_.begin(), entries_.end(),
         [](const auto& a, const auto& b) { return a.second.last_use < b.second.last_use; });

@@ -12,10 +12,10 @@ namespace host::quartzcore {
 /// Scaled copies of images, so that each is scaled once for a place and then only copied.
 class ImageCache {
  public:
-  /// Enough for several screens of artwork and all icons.
-  static constexpr long kBudget = 40L << 20;
-
   enum class Pixels { AsTheyAre, Waited };
+
+  /// The budget is in bytes of pixels.
+  explicit ImageCache(long budget) : budget_(budget) {}
 
   /// The image at that size in pixels; its own surface when that is its size. Null while promised
   /// pixels are on their way, unless they are waited for.
@@ -31,6 +31,7 @@ class ImageCache {
 
   void make_room();
 
+  const long budget_;
   std::map<Key, Entry> entries_;
   std::uint64_t uses_ = 0;
   long bytes_ = 0;

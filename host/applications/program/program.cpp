@@ -12,6 +12,7 @@
 #include "host/process/platform_classes.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
+#include "host/runtime/heap.h"
 #include "host/runtime/log.h"
 #include "host/uikit/application/application.h"
 #include "objc/autorelease_pool.h"
@@ -77,6 +78,7 @@ void live(HomeLink& link, const Program& program) {
 
 int run_program(int count, char** arguments, const Program& program) {
   start_log(program.name);
+  give_large_blocks_back();
   const auto options = read_options(count, arguments);
   if (!options) {
     spdlog::error("{} is started by sonavue", program.name);

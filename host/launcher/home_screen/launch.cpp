@@ -7,6 +7,7 @@
 #include "host/launcher/home_screen/phone_mode.h"
 #include "host/launcher/home_screen/supervised_processes.h"
 #include "host/process/platform_classes.h"
+#include "host/runtime/heap.h"
 #include "host/social/configuration.h"
 #include "host/springboard/configuration.h"
 #include "host/uikit/application/application.h"
@@ -41,6 +42,7 @@ void start_gesture_service() {
 }  // namespace
 
 void launch_home_screen(const ProcessOptions& options) {
+  give_large_blocks_back();
   process::export_platform_classes();
   foundation::take_foundation_log();
   springboard::Configuration configuration;

@@ -180,12 +180,12 @@ TEST_F(SightTest, WhatIsClippedAwayIsDrawnWhenItComesIntoSight) {
 }
 
 TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
-  // given rows whose pictures take eight megabytes each
+  // given rows whose pictures take two megabytes each
   const std::size_t before = quartzcore::backing_store_bytes();
   const TestPainter painter = make_painter();
   for (const CALayer one : rows) {
     one.setDelegate(painter);
-    one.setContentsScale(512);
+    one.setContentsScale(256);
     one.setNeedsDisplay();
   }
 
