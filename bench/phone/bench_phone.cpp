@@ -1,10 +1,12 @@
 #include "bench/phone/bench_phone.h"
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fstream>
 
 #include "host/foundation/device_paths.h"
@@ -34,6 +36,12 @@ fs::path new_device() {
   const auto problem = launcher::stage(launcher::find_installation().staging, root, {});
   require(!problem, problem.value_or(""));
   return root;
+}
+
+double process_seconds() {
+  timespec time;
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
 }  // namespace
@@ -103,6 +111,20 @@ objc::Object BenchPhone::global(std::string_view name) const {
 
 void BenchPhone::frame() {
   loop_.advance_to(stepped_, stepped_.now() + RunLoop::kFrame);
+}
+
+void BenchPhone::settle() {
+  constexpr int kMostRounds = 300;
+  constexpr useconds_t kRound = 100'000;
+  constexpr double kAtRest = 0.01;
+  for (int round = 0; round < kMostRounds; ++round) {
+    const double before = process_seconds();
+    usleep(kRound);
+    const double beside = process_seconds() - before;
+    turn();
+    if (beside < kAtRest) return;
+  }
+  require(false, "the phone does not come to rest");
 }
 
 void BenchPhone::live(double seconds) {

@@ -66,6 +66,8 @@ class BenchPhone {
   void turn() { loop_.advance_to(stepped_, stepped_.now()); }
   /// Stepped: moves the clock on by one frame of the screen and serves all that is due until then.
   void frame();
+  /// Stepped screen: serves what threads beside the screen have brought, until they rest.
+  void settle();
   /// Real: serves the loop for so long.
   void live(double seconds);
   void touch(host::screen::TouchPhase phase, CGPoint point) { hands_.touch(kFinger, phase, point); }

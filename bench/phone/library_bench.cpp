@@ -44,25 +44,6 @@ double wall_seconds() {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-double process_seconds() {
-  timespec time;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-/// Serves what threads beside the screen have brought, until they rest.
-void settle(BenchPhone& phone) {
-  constexpr double kMost = 30;
-  for (const double start = wall_seconds(); wall_seconds() - start < kMost;) {
-    const double before = process_seconds();
-    usleep(100'000);
-    const double beside = process_seconds() - before;
-    phone.turn();
-    if (beside < 0.01) return;
-  }
-  require(false, "the phone does not come to rest");
-}
-
 template <class Work>
 double seconds_of(Work work) {
   const objc::AutoreleasePool pool;
@@ -101,7 +82,7 @@ void fling(BenchPhone& phone, Stopwatch& watch, Series& series, const char* view
     if (now == before && i > 2) break;
     before = now;
   }
-  settle(phone);
+  phone.settle();
 }
 
 void check_rows(BenchPhone& phone) {
@@ -168,7 +149,7 @@ void tap(BenchPhone& phone, Stopwatch& watch, Series& series, CGPoint point) {
   watch.frame(series, [&] { phone.touch(TouchPhase::Began, point); });
   watch.frame(series, [&] { phone.touch(TouchPhase::Ended, point); });
   watch.frames(series, kZoomFrames);
-  settle(phone);
+  phone.settle();
 }
 
 void measure_zoom(BenchPhone& phone) {
@@ -285,7 +266,7 @@ int main() {
   phone.run("advance 1");
   std::printf("start with 100,000 songs and 5,000 albums %28.3f s\n",
               wall_seconds() - start - filling);
-  settle(phone);
+  phone.settle();
   require(global<NSArray>(phone, "songItems").count() >= LargeLibrary::kSongs, "the songs");
   require(global<UIView>(phone, "albums").subviews().count() >= LargeLibrary::kAlbums, "the tiles");
   play(phone, playable_songs(phone).front());

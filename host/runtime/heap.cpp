@@ -5,7 +5,8 @@
 namespace host {
 namespace {
 
-constexpr int kLarge = 128 * 1024;
+// Smaller ones come and go with frames, which have no time for the system.
+constexpr int kLarge = 1 << 20;
 
 }  // namespace
 
