@@ -147,4 +147,12 @@ echo nothing >"$work/nothing.deb"
 "$build/bin/sonavue_check" "$source" "$work/nothing.deb" 2>"$work/said" || result=$?
 [ "$result" -eq 2 ] || fail "the checker ends with $result for what is no package"
 
+# The same package with its files' archive cut short.
+result=0
+(cd "$work" && ar x "$package" && truncate -s -1000 data.tar.gz &&
+  ar rc cut.deb debian-binary control.tar.gz data.tar.gz)
+"$build/bin/sonavue_check" "$source" "$work/cut.deb" >"$work/said" 2>&1 || result=$?
+[ "$result" -eq 2 ] && grep -q "its archive is damaged" "$work/said" ||
+  fail "the checker ends with $result for a package that is cut short"
+
 exit $failed
