@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <utility>
 
 #include "host/quartzcore/layer.h"
@@ -22,12 +21,6 @@ constexpr std::array<std::string_view, 5> kUnmovingKeys = {
 bool touch(const CGRect& a, const CGRect& b) {
   return a.min_x() <= b.max_x() && b.min_x() <= a.max_x() && a.min_y() <= b.max_y() &&
          b.min_y() <= a.max_y();
-}
-
-void sort_by_z(std::vector<const Layer*>& layers) {
-  std::stable_sort(layers.begin(), layers.end(), [](const Layer* a, const Layer* b) {
-    return a->model().z_position < b->model().z_position;
-  });
 }
 
 }  // namespace
@@ -80,38 +73,20 @@ std::vector<const Layer*> Layer::children_in_order() const {
   order.reserve(children_.size());
   for (const auto& child : children_)
     order.push_back(&objc::state_of<Layer>(child.get()));
-  const auto is_raised = [](const Layer* one) { return one->model().z_position != 0; };
-  if (std::any_of(order.begin(), order.end(), is_raised)) sort_by_z(order);
+  const auto z = [](const Layer* one) { return one->model().z_position; };
+  if (std::any_of(order.begin(), order.end(), [&](const Layer* one) { return z(one) != 0; })) {
+    std::stable_sort(order.begin(), order.end(),
+                     [&](const Layer* a, const Layer* b) { return z(a) < z(b); });
+  }
   return order;
 }
 
-// Of perhaps thousands each is looked at once; only the few that are drawn out of the list's order
-// are sorted.
 void Layer::make_child_index() const {
-  std::vector<const Layer*> order;
-  std::vector<const Layer*> others;
+  std::vector<const Layer*> order = children_in_order();
   std::vector<CGRect> boxes;
-  order.reserve(children_.size());
-  boxes.reserve(children_.size());
-  for (const auto& handle : children_) {
-    const Layer& child = objc::state_of<Layer>(handle.get());
-    if (child.model().z_position != 0) {
-      others.push_back(&child);
-      continue;
-    }
-    order.push_back(&child);
-    boxes.push_back(child.box());
-  }
-  sort_by_z(others);
-  const auto above = std::find_if(others.begin(), others.end(),
-                                  [](const Layer* one) { return one->model().z_position > 0; });
-  const auto box_of = [](const Layer* one) { return one->box(); };
-  std::vector<CGRect> below(static_cast<std::size_t>(above - others.begin()));
-  std::transform(others.begin(), above, below.begin(), box_of);
-  order.insert(order.begin(), others.begin(), above);
-  boxes.insert(boxes.begin(), below.begin(), below.end());
-  order.insert(order.end(), above, others.end());
-  std::transform(above, others.end(), std::back_inserter(boxes), box_of);
+  boxes.reserve(order.size());
+  for (const Layer* child : order)
+    boxes.push_back(child->box());
   child_index_ = std::make_unique<ChildIndex>(std::move(order), std::move(boxes));
   is_index_stale_ = false;
 }

@@ -109,6 +109,36 @@ TEST_F(CompositorTest, AFadingGroupIsDrawnOnceAndOnlyBlendedAfterwards) {
   EXPECT_NEAR(pixel(1, 1) >> 16 & 0xff, 153, 1);
 }
 
+TEST_F(CompositorTest, AFadedGroupKeepsToTheRoundCornersAroundIt) {
+  const CALayer clip = add({0, 0, 8, 8}, color(1, 0, 0));
+  clip.setMasksToBounds(YES);
+  clip.setCornerRadius(4);
+  const CALayer group = layer_at({0, 0, 8, 8});
+  group.setBackgroundColor(color(1, 0, 0));
+  const CALayer inside = layer_at({0, 0, 8, 8});
+  inside.setBackgroundColor(color(0, 1, 0));
+  group.addSublayer(inside);
+  group.setOpacity(0.5);
+  clip.addSublayer(group);
+  render();
+  EXPECT_EQ(pixel(0, 0), kBlue);
+  EXPECT_NEAR(pixel(4, 4) >> 8 & 0xff, 128, 1);
+}
+
+TEST_F(CompositorTest, AFadedGroupShowsNothingBesideItsMask) {
+  const CALayer group = add({0, 0, 8, 8}, color(1, 0, 0));
+  const CALayer inside = layer_at({0, 0, 8, 8});
+  inside.setBackgroundColor(color(0, 1, 0));
+  group.addSublayer(inside);
+  const CALayer mask = layer_at({4, 0, 4, 8});
+  mask.setBackgroundColor(color(0, 0, 0));
+  group.setMask(mask);
+  group.setOpacity(0.5);
+  render();
+  EXPECT_EQ(pixel(1, 1), kBlue);
+  EXPECT_NEAR(pixel(6, 6) >> 8 & 0xff, 128, 1);
+}
+
 TEST_F(CompositorTest, AGroupThatFillsItsPlaceIsBlendedOnlyWhereSomethingChanged) {
   const CALayer group = add({1, 1, 6, 6}, color(1, 0, 0));
   const CALayer inside = layer_at({0, 0, 6, 6});
