@@ -5,6 +5,17 @@
 
 namespace sonavue {
 
+/// One bit for each of eight bytes that are all ones or all zeros, the lowest first: the product
+/// brings the lowest bit of each to its own place in the highest byte.
+constexpr std::uint64_t bits_of_bytes(std::uint64_t bytes) {
+  return (bytes & 0x0101010101010101) * 0x0102040810204080 >> 56;
+}
+// Not every processor goes this way, so that no search tells when it is wrong.
+static_assert(bits_of_bytes(0) == 0 && bits_of_bytes(~std::uint64_t{0}) == 0xff);
+static_assert(bits_of_bytes(0x00000000000000ff) == 0x01);
+static_assert(bits_of_bytes(0xff00000000000000) == 0x80);
+static_assert(bits_of_bytes(0xff00ffff0000ff00) == 0xb2);
+
 /// One byte or two that are looked for in sixty-four places at once. Most titles hold a single
 /// letter: then it takes less to see all places of it than to look for the next one again and
 /// again.
@@ -56,12 +67,8 @@ class ShortNeedle {
     return static_cast<unsigned>(__builtin_ia32_pmovmskb128(bytes));
 #else
     const auto halves = reinterpret_cast<Halves>(bytes);
-    return bits_of(halves[0]) | bits_of(halves[1]) << 8;
+    return bits_of_bytes(halves[0]) | bits_of_bytes(halves[1]) << 8;
 #endif
-  }
-  // The product brings the lowest bit of each byte to its own place in the highest byte.
-  static std::uint64_t bits_of(std::uint64_t bytes) {
-    return (bytes & 0x0101010101010101) * 0x0102040810204080 >> 56;
   }
 
   std::size_t last_;
