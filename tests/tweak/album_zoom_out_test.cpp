@@ -78,6 +78,22 @@ TEST_F(AlbumZoomOut, AnotherAlbumCanBeZoomedThen) {
   EXPECT_FALSE(backdrop_of(tile("One")));
 }
 
+TEST_F(AlbumZoomOut, ATapOnTheTileThatIsOnItsWayBackChangesNothing) {
+  for (const double moment : {0.1, 0.3, 0.6}) {
+    tap_beside();
+    advance(moment);
+    objc::send<>(application, "zoomInAlbum:"_sel, two_.gestureRecognizers().firstObject());
+    settle();
+    std::vector<CGRect> frames;
+    for (const UIView one : tiles())
+      frames.push_back(one.frame());
+    EXPECT_THAT(frames, ::testing::UnorderedElementsAreArray(frames_)) << moment;
+    EXPECT_FALSE(backdrop_of(two_));
+    EXPECT_TRUE(strip().isScrollEnabled());
+    zoom_in("Two");
+  }
+}
+
 TEST_F(AlbumZoomOut, WithoutAZoomedAlbumNothingHappens) {
   tap_beside();
   settle();

@@ -115,6 +115,8 @@ void shrink(const Zoom& zoom) {
 void zoomInAlbum(SpringBoard self, UITapGestureRecognizer tap) {
   if (!albums.isScrollEnabled()) return;
   const UIView tile = tap.view();
+  // It is still on its way back, and its frame is not its own yet.
+  if (backdrop_of(cover_of(tile))) return;
   albums.bringSubviewToFront(tile);
   const Zoom zoom{tile, cover_of(tile), title_of(tile), make_backdrop(tile)};
   save_places(zoom);
