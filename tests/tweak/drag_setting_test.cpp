@@ -1,3 +1,4 @@
+#include "host/springboard/system_actions.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "tests/tweak/coloured_panel.h"
 
@@ -95,6 +96,34 @@ TEST_F(DragSetting, ApexAtTheStartLeavesTheSystemsRecognizers) {
   launch();
   EXPECT_EQ(recognizers(), icon_view(kCalendar).gestureRecognizers().count());
   EXPECT_FALSE(a_drag_opens());
+}
+
+TEST_F(DragSetting, InAFolderTheIconGetsNoDragWhateverIsChanged) {
+  launch();
+  ASSERT_TRUE(springboard::move_to_folder(kMusic));
+  advance(0.2);
+  ASSERT_EQ(recognizers(), 0u);
+  change_settings(switch_entry("enable", false));
+  change_settings(switch_entry("enable", true));
+  EXPECT_TRUE(is("enabled"));
+  EXPECT_EQ(recognizers(), 0u);
+  const auto own = UIPanGestureRecognizer::alloc().initWithTarget(application, "nothing:"_sel);
+  music_icon().addGestureRecognizer(own);
+  change_settings(switch_entry("enable", true));
+  EXPECT_EQ(recognizers(), 0u);
+  own.release();
+}
+
+TEST_F(DragSetting, APhoneThatStartsWithTheIconInAFolderGivesItNoDrag) {
+  PhoneTest::launch();
+  ASSERT_TRUE(springboard::move_to_folder(kMusic));
+  settle();
+  launch();
+  EXPECT_FALSE(is("added"));
+  EXPECT_EQ(recognizers(), 0u);
+  advance(1.5);
+  EXPECT_EQ(recognizers(), 0u);
+  EXPECT_TRUE(is("enabled"));
 }
 
 TEST_F(DragSetting, EveryApplicationPutsAFreshRecognizerInPlaceOfTheLast) {

@@ -36,7 +36,7 @@ void list_songs() {
 void switch_drag(SpringBoard self) {
   if (preference_is_on("apex"_ns, NO)) return;
   enabled = preference_in_file("enable"_ns);
-  if (enabled) {
+  if (enabled && !is_in_folder(musicIcon)) {
     attach_drag(self);
   } else {
     remove_gesture_recognizers(musicIcon);
