@@ -5,13 +5,16 @@
 #include "platform/UIKit/UITouch.h"
 #include "tweak/globals.h"
 #include "tweak/method.h"
+#include "tweak/movement/icon_home.h"
+#include "tweak/movement/movement.h"
 #include "tweak/preferences.h"
 
 namespace sonavue {
 namespace {
 
+// Up, or on its way there.
 bool panel_is_up() {
-  return isShow || isBanner;
+  return isShow || isBanner || icon_is_away();
 }
 
 void close_panel() {
@@ -22,7 +25,8 @@ void close_panel_if_up() {
   if (panel_is_up()) close_panel();
 }
 
-// A touch on the Music icon leaves its home frame behind, before any drag begins.
+// A touch on the Music icon leaves its home frame behind, before any drag begins. While the panel
+// closes the icon can be touched where it is not at home.
 
 Replaced<void(SBIconView, NSSet, UIEvent)> touches_began;
 
@@ -30,7 +34,7 @@ void touches_began_on_icon(SBIconView self, NSSet touches, UIEvent event) {
   touches_began(self, "touchesBegan:withEvent:"_sel, touches, event);
   const auto touch = objc::cast<UITouch>(event.allTouches().anyObject());
   const UIView touched = touch.view();
-  if (touched && touched == musicIcon) saved = touched.frame();
+  if (touched && touched == musicIcon && !icon_is_away()) keep_icon_home();
 }
 
 // The Home button only closes the panel while it is up.

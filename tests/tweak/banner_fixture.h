@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIScrollView.h"
 #include "tests/tweak/method_spy.h"
 #include "tests/tweak/panel_test.h"
@@ -44,6 +45,20 @@ class BannerTest : public PanelTest {
     return y_of("container1") == texts && y_of("play") == end + 10 && y_of("back") == end + 20 &&
            y_of("next") == end + 20;
   }
+};
+
+inline constexpr const char* kGrabDragging =
+    "/Library/Application Support/Sonavue/grab_dragging@2x.png";
+inline constexpr const char* kGrabDone = "/Library/Application Support/Sonavue/grab_done@2x.png";
+
+/// Hears which pictures are read for the grabber.
+class GrabberPicture {
+ public:
+  std::string last() const { return loaded_.count() > 0 ? text(std::get<0>(loaded_.last())) : ""; }
+
+ private:
+  MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded_{
+      objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls()))};
 };
 
 inline constexpr CGFloat kBannerWithoutTexts = 50 + 25 + 15;

@@ -1,3 +1,5 @@
+#include "host/springboard/system_actions.h"
+#include "host/uikit/view/responder.h"
 #include "platform/Twitter/TWTweetComposeViewController.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UIWindow.h"
@@ -72,6 +74,104 @@ TEST_F(Share, TheEndOfTheComposerTakesItsPresenterOffTheWindow) {
   EXPECT_TRUE(is("isShow"));
   tap_twin();
   EXPECT_TRUE(presenter());
+}
+
+TEST_F(Share, ASecondTapWhileTheComposerComesIsIgnored) {
+  play("Alpha");
+  advance(1.2);
+  objc::send<>(application, "tweet"_sel);
+  const UIViewController first = presenter();
+  objc::send<>(application, "tweet"_sel);
+  EXPECT_EQ(presenter(), first);
+}
+
+/// A composer over the panel, and what closes the panel under it.
+class ComposerOverPanel : public Share {
+ protected:
+  void SetUp() override {
+    Share::SetUp();
+    play("Alpha");
+    advance(1.2);
+  }
+  void compose() {
+    tap_twin();
+    ASSERT_TRUE(presenter());
+    ASSERT_TRUE(uikit::first_responder());
+  }
+  void expect_nothing_left() {
+    EXPECT_FALSE(presenter());
+    EXPECT_FALSE(uikit::first_responder());
+    settle();
+    EXPECT_FALSE(is("isShow"));
+    EXPECT_FALSE(is("isBanner"));
+    EXPECT_EQ(view("window").subviews().count(), views_of_window_);
+  }
+  void remember_views() { views_of_window_ = view("window").subviews().count(); }
+
+ private:
+  NSUInteger views_of_window_ = 0;
+};
+
+TEST_F(ComposerOverPanel, EveryClosingTakesItDownAtOnce) {
+  const std::function<void()> closings[] = {
+      [] { springboard::press_home(); },
+      [] { springboard::press_lock(); },
+      [] { springboard::present_banner("a message"); },
+      [] { springboard::present_notification_centre(); },
+  };
+  remember_views();
+  for (const auto& close : closings) {
+    compose();
+    close();
+    expect_nothing_left();
+    springboard::press_home();
+    springboard::unlock();
+    settle();
+    open_panel();
+  }
+}
+
+TEST_F(ComposerOverPanel, ItIsTakenDownWhileItComes) {
+  remember_views();
+  tap_on(view("music"));
+  advance(0.1);
+  ASSERT_TRUE(presenter());
+  springboard::press_home();
+  expect_nothing_left();
+}
+
+TEST_F(ComposerOverPanel, ItIsTakenDownWhileItLeaves) {
+  remember_views();
+  compose();
+  tap({62, 106});
+  advance(0.1);
+  springboard::press_home();
+  expect_nothing_left();
+}
+
+TEST_F(ComposerOverPanel, ADragBackTakesItDown) {
+  remember_views();
+  hold(middle_of(view("music")));
+  objc::send<>(application, "tweet"_sel);
+  move_by(0, 12);
+  EXPECT_FALSE(presenter());
+  move_by(0, 60);
+  lift();
+  settle();
+  expect_nothing_left();
+}
+
+TEST_F(ComposerOverPanel, TheBannersEndTakesItDown) {
+  springboard::press_home();
+  settle();
+  remember_views();
+  objc::send<>(application, "showBanner"_sel);
+  settle();
+  objc::send<>(application, "tweet"_sel);
+  settle();
+  ASSERT_TRUE(presenter());
+  springboard::press_home();
+  expect_nothing_left();
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include "tweak/banner/controls_layout.h"
 #include "tweak/banner/grabber.h"
 #include "tweak/movement/geometry.h"
+#include "tweak/movement/movement.h"
+#include "tweak/playback/share.h"
 
 namespace sonavue {
 namespace {
@@ -37,14 +39,25 @@ void be_gone() {
   cover_screen_with_window();
   stand_below_artwork();
   container.setContentOffset(artwork_page_offset());
+  // Off while the banner hangs; a banner that nobody grabbed has not switched it on again.
+  container.setScrollEnabled(YES);
   isGrabbing = NO;
   container.setAlpha(0);
+}
+
+// The extension off, the panel out or on its way, or no panel at all, since nothing was built on a
+// phone without the Music application.
+bool cannot_come() {
+  return !enabled || isShow || icon_is_away() || !container;
 }
 
 }  // namespace
 
 void showBanner(SpringBoard) {
-  if (!enabled || isShow) return;
+  if (cannot_come()) return;
+  // A finger that still holds the grabber has lost it.
+  begin_movement(Movement::kNone);
+  isGrabbing = NO;
   showed = NO;
   if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
   show_artwork_page();
@@ -63,9 +76,13 @@ void showBanner(SpringBoard) {
 }
 
 void dismissBanner(SpringBoard) {
+  take_composer_down();
   isBanner = NO;
-  UIView::animateWithDuration(kTravel, objc::block([] { hang_window(0); }),
-                              objc::block([](BOOL) { be_gone(); }));
+  begin_movement(Movement::kBannerLeaving, &be_gone);
+  UIView::animateWithDuration(kTravel, objc::block([] { hang_window(0); }), unless_replaced([] {
+                                end_movement();
+                                be_gone();
+                              }));
 }
 
 }  // namespace sonavue

@@ -4,6 +4,7 @@
 #include "tweak/banner/banner.h"
 #include "tweak/banner/controls_layout.h"
 #include "tweak/movement/geometry.h"
+#include "tweak/movement/movement.h"
 #include "tweak/panel/pieces.h"
 
 namespace sonavue {
@@ -12,6 +13,7 @@ namespace {
 constexpr double kOpening = 0.5;
 
 void begin() {
+  begin_movement(Movement::kGrab);
   container.setScrollEnabled(NO);
   isGrabbing = YES;
   show_grabber(Grabber::kDragging);
@@ -28,16 +30,19 @@ void follow() {
   move_to_y(window, firstPosBanner + (is_at_its_end ? 0 : distance));
 }
 
+void be_open() {
+  show_grabber(Grabber::kDone);
+  isGrabbing = NO;
+}
+
 void open() {
   showed = YES;
+  end_movement();
   UIView::animateWithDuration(kOpening, objc::block([] {
                                 cover_screen_with_window();
                                 stand_below_artwork();
                               }),
-                              objc::block([](BOOL) {
-                                show_grabber(Grabber::kDone);
-                                isGrabbing = NO;
-                              }));
+                              unless_replaced(&be_open));
 }
 
 void let_go(SpringBoard self) {
@@ -46,7 +51,22 @@ void let_go(SpringBoard self) {
     objc::send<>(self, "dismissBanner"_sel);
   } else if (!showed) {
     open();
+  } else {
+    end_movement();
+    be_open();
   }
+}
+
+// Back to where the grab began.
+void give_back() {
+  end_movement();
+  isGrabbing = NO;
+  container.setScrollEnabled(showed);
+  if (showed) show_grabber(Grabber::kDone);
+  UIView::animateWithDuration(kOpening, objc::block([] {
+                                move_to_y(window, firstPosBanner);
+                                if (!showed) rise_against(0);
+                              }));
 }
 
 }  // namespace
@@ -59,12 +79,19 @@ void show_grabber(Grabber picture) {
 
 void presentBanner(SpringBoard self, UIPanGestureRecognizer pan) {
   const UIGestureRecognizerState state = pan.state();
-  if (state == UIGestureRecognizerStateEnded || state == UIGestureRecognizerStateCancelled) {
+  const bool begins = state == UIGestureRecognizerStateBegan;
+  // A banner that is going is not to be had, nor one that was called anew under the finger.
+  if (begins ? !isBanner : movement() != Movement::kGrab) return;
+  if (state == UIGestureRecognizerStateEnded) {
     let_go(self);
     return;
   }
+  if (is_lost(state)) {
+    give_back();
+    return;
+  }
   endPoint = pan.locationInView(locationWindow);
-  if (state == UIGestureRecognizerStateBegan) {
+  if (begins) {
     begin();
     startPoint = endPoint;
   }

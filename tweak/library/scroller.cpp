@@ -3,6 +3,7 @@
 #include "objc/class_builder.h"
 #include "platform/UIKit/UIScreen.h"
 #include "tweak/movement/geometry.h"
+#include "tweak/movement/movement.h"
 
 namespace sonavue {
 namespace {
@@ -29,7 +30,9 @@ void hold_controls(CGFloat offset) {
   move_to_x(container1, centred(container1, offset));
 }
 
+// Pages that go on gliding behind a panel that is closed must not take the icon out of its slot.
 void raise_icon(CGFloat rise) {
+  if (!isBanner && !icon_is_away()) return;
   if (!isBanner) move_to_y(musicIcon, firstMusicIcon.origin.y - rise);
   move_to_y(music, firstMusic.origin.y - rise);
 }

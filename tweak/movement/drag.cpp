@@ -1,6 +1,9 @@
 #include "tweak/movement/drag.h"
 
 #include "tweak/movement/geometry.h"
+#include "tweak/movement/icon_home.h"
+#include "tweak/movement/movement.h"
+#include "tweak/playback/share.h"
 
 namespace sonavue {
 namespace {
@@ -10,7 +13,6 @@ constexpr double kGlide = 0.1f;
 constexpr CGFloat kGlideShare = 10;
 // The twin stands this much aside of the icon on the frame of the release, and on that one only.
 constexpr CGFloat kReleaseAside = 5.0;
-constexpr double kIconTravel = 0.5;
 constexpr double kContentFade = 0.7;
 constexpr double kTableSlide = 0.2;
 
@@ -29,7 +31,21 @@ void follow_icon(CGFloat aside, CGPoint icon, CGFloat offset) {
   move_to(music, icon.x + aside, icon.y + offset);
 }
 
+bool may_drag_out() {
+  return !musicIcon.isEditing() && !isBanner && !icon_is_away();
+}
+
+bool may_drag_back() {
+  return !isBanner && (movement() == Movement::kNone || movement() == Movement::kOpening);
+}
+
+void begin_drag_out() {
+  begin_movement(Movement::kDragOut);
+  keep_icon_home();
+}
+
 void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
+  begin_movement(Movement::kOpening);
   UIView::animateWithDuration(
       kGlide, objc::block([velocity, offset] {
         const CGPoint icon = musicIcon.frame().origin;
@@ -38,29 +54,18 @@ void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
         follow_icon(kReleaseAside, target, offset);
         cover.setAlpha(fade_ratio(target.y));
       }),
-      objc::block([self](BOOL) { objc::send<>(self, "present"_sel); }));
+      unless_replaced([self] { objc::send<>(self, "present"_sel); }));
 }
 
 void begin_drag_back() {
+  take_composer_down();
+  begin_movement(Movement::kDragBack);
   firstPos = music.frame();
   window.setUserInteractionEnabled(NO);
   UIView::animateWithDuration(
       kTableSlide, objc::block([] { slide_album_table_aside(); }), objc::block([](BOOL) {
         UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(0); }));
       }));
-}
-
-void settle_home() {
-  const CGFloat offset = icon_screen_offset();
-  UIView::animateWithDuration(kIconTravel, objc::block([offset] {
-                                cover.setAlpha(0);
-                                musicIcon.setFrame(saved);
-                                move_to(music, musicIcon.frame().origin.x, saved.origin.y + offset);
-                              }),
-                              objc::block([](BOOL) {
-                                isShow = NO;
-                                music.setHidden(YES);
-                              }));
 }
 
 // `to_icon` turns a screen y of the twin into a y of the icon.
@@ -73,30 +78,40 @@ void glide_home(CGPoint velocity, CGFloat to_icon) {
         if (!isBanner) move_to(musicIcon, target.x, target.y + to_icon);
         cover.setAlpha(fade_ratio(target.y));
       }),
-      objc::block([](BOOL) { settle_home(); }));
+      unless_replaced([] { bring_icon_home(); }));
 }
 
 }  // namespace
 
 void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
-  if (musicIcon.isEditing() || isBanner) return;
+  const UIGestureRecognizerState state = pan.state();
+  const bool begins = state == UIGestureRecognizerStateBegan;
+  const bool ends = state == UIGestureRecognizerStateEnded;
+  // Of a drag that was refused, or that a button has ended, the rest is not heard.
+  if (begins ? !may_drag_out() : movement() != Movement::kDragOut) return;
+  const bool is_disturbed = musicIcon.isEditing() || isBanner;
+  // What begins in the middle of a drag must not swallow the end of it.
+  if (is_lost(state) || (ends && is_disturbed)) {
+    go_straight_home();
+    return;
+  }
+  if (is_disturbed) return;
   if (!grabbers.isHidden()) grabbers.setHidden(YES);
 
-  const UIGestureRecognizerState state = pan.state();
   endPoint = pan.locationInView(locationWindow);
-  if (state == UIGestureRecognizerStateBegan) {
-    saved = musicIcon.frame();
+  if (begins) {
+    begin_drag_out();
     startPoint = endPoint;
   }
   const CGPoint place = dragged_from(saved.origin);
   const CGPoint velocity = pan.velocityInView(musicIcon);
   const CGFloat offset = icon_screen_offset();
 
-  if (state == UIGestureRecognizerStateEnded) {
+  if (ends) {
     glide_out(self, velocity, offset);
     return;
   }
-  if (state == UIGestureRecognizerStateBegan) {
+  if (begins) {
     music.setHidden(NO);
     cover_screen_with_window();
   }
@@ -107,11 +122,17 @@ void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
 }
 
 void sposta1(SpringBoard, UIPanGestureRecognizer pan) {
-  if (isBanner) return;
   const UIGestureRecognizerState state = pan.state();
-  if (state == UIGestureRecognizerStateBegan) begin_drag_back();
+  const bool begins = state == UIGestureRecognizerStateBegan;
+  if (begins ? !may_drag_back() : movement() != Movement::kDragBack) return;
+  if (is_lost(state)) {
+    go_straight_home();
+    return;
+  }
+  if (isBanner) return;
+  if (begins) begin_drag_back();
   endPoint = pan.locationInView(locationWindow);
-  if (state == UIGestureRecognizerStateBegan) startPoint = endPoint;
+  if (begins) startPoint = endPoint;
   const CGPoint place = dragged_from(firstPos.origin);
   const CGPoint velocity = pan.velocityInView(musicIcon);
   const CGFloat to_icon = -icon_screen_offset();

@@ -2,6 +2,9 @@
 
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "tweak/movement/geometry.h"
+#include "tweak/movement/icon_home.h"
+#include "tweak/movement/movement.h"
+#include "tweak/playback/share.h"
 
 namespace sonavue {
 namespace {
@@ -20,34 +23,42 @@ CGPoint icon_place_at_top() {
 }
 
 void open_completed() {
+  end_movement();
   isShow = YES;
   SBControlCenterController::sharedInstance().dismissAnimated(YES);
 }
 
 void fade_content_in() {
   UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(1.0); }),
-                              objc::block([](BOOL) { open_completed(); }));
+                              unless_replaced([] { open_completed(); }));
 }
 
-void take_icon_home(const objc::OwnedBlock<void(BOOL)>& completion) {
+// A block of the caller's that is answered in any case.
+using Closed = objc::OwnedBlock<void(BOOL)>;
+
+template <class Step>
+auto then(const Closed& closed, Step step) {
+  return unless_replaced([closed, step] { step(closed); }, [closed] { closed.get()(NO); });
+}
+
+void leave_pages(const Closed& closed) {
   container.setContentOffset(artwork_page_offset());
-  const CGFloat offset = icon_screen_offset();
-  UIView::animateWithDuration(kIconTravel, objc::block([offset] {
-                                cover.setAlpha(0);
-                                musicIcon.setFrame(saved);
-                                move_to(music, musicIcon.frame().origin.x, saved.origin.y + offset);
-                              }),
-                              objc::block([completion](BOOL) {
-                                isShow = NO;
-                                music.setHidden(YES);
-                                completion.get()(YES);
-                              }));
+  bring_icon_home(closed);
+}
+
+void fade_content_out(const Closed& closed) {
+  UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(0); }),
+                              then(closed, &leave_pages));
 }
 
 }  // namespace
 
 void present(SpringBoard) {
-  if (musicIcon.isEditing()) return;
+  if (musicIcon.isEditing()) {
+    if (movement() == Movement::kOpening) go_straight_home();
+    return;
+  }
+  begin_movement(Movement::kOpening);
   cover_screen_with_window();
   music.setHidden(NO);
   if (!window.isUserInteractionEnabled()) window.setUserInteractionEnabled(YES);
@@ -60,24 +71,23 @@ void present(SpringBoard) {
                                 const CGPoint icon = musicIcon.frame().origin;
                                 move_to(music, icon.x, icon.y + offset);
                               }),
-                              objc::block([](BOOL) { fade_content_in(); }));
+                              unless_replaced([] { fade_content_in(); }));
 }
 
 void dismis(SpringBoard, objc::Block<void(BOOL)> completion) {
+  take_composer_down();
+  begin_movement(Movement::kClosing);
   cover_screen_with_window();
   // At once, so that no touch reaches a panel that is closing.
   window.setUserInteractionEnabled(NO);
-  const objc::OwnedBlock<void(BOOL)> kept(completion);
-  UIView::animateWithDuration(
-      kTableSlide, objc::block([] { slide_album_table_aside(); }), objc::block([kept](BOOL) {
-        UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(0); }),
-                                    objc::block([kept](BOOL) { take_icon_home(kept); }));
-      }));
+  UIView::animateWithDuration(kTableSlide, objc::block([] { slide_album_table_aside(); }),
+                              then(Closed(completion), &fade_content_out));
 }
 
 void dismisWithNoAction(SpringBoard self) {
   if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
-  if (isShow) {
+  // A panel that is on its way is closed as well; one that is closing goes on.
+  if (icon_is_away() && movement() != Movement::kClosing) {
     const auto nothing = objc::block([](BOOL) {});
     const objc::Block<void(BOOL)> borrowed = nothing;
     objc::send<>(self, "dismis:"_sel, borrowed);

@@ -19,13 +19,19 @@ NSString share_text() {
       .stringByAppendingString(" with #Sonavue2"_ns);
 }
 
+void composer_has_ended(TWTweetComposeViewControllerResult) {
+  window.setRootViewController(nil);
+}
+
 }  // namespace
 
 void tweet(SpringBoard) {
+  // A second tap while the composer comes.
+  if (window.rootViewController()) return;
   if (!art.image()) return;
   const auto composer = TWTweetComposeViewController::alloc().init();
   composer.setCompletionHandler(
-      objc::block([](TWTweetComposeViewControllerResult) { window.setRootViewController(nil); }));
+      objc::block([](TWTweetComposeViewControllerResult how) { composer_has_ended(how); }));
   composer.setInitialText(share_text());
   // The window keeps this one until the composer is done.
   const auto presenter = UIViewController::alloc().init();
@@ -33,6 +39,14 @@ void tweet(SpringBoard) {
   presenter.presentModalViewController(composer, YES);
   composer.release();
   presenter.release();
+}
+
+// The composer tells its handler of its own buttons only.
+void take_composer_down() {
+  const UIViewController presenter = window.rootViewController();
+  if (!presenter) return;
+  presenter.dismissViewControllerAnimated(NO, nullptr);
+  composer_has_ended(TWTweetComposeViewControllerResultCancelled);
 }
 
 }  // namespace sonavue

@@ -8,4 +8,7 @@ namespace sonavue {
 /// yet, and there is nothing to share.
 void tweet(SpringBoard self);
 
+/// Cancels a composer that is up, at once: the panel under it is about to go.
+void take_composer_down();
+
 }  // namespace sonavue

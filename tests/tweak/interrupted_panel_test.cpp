@@ -1,0 +1,228 @@
+#include "host/springboard/system_actions.h"
+#include "platform/SpringBoard/SBUIController.h"
+#include "platform/UIKit/UIScrollView.h"
+#include "tests/tweak/panel_test.h"
+
+// Buttons, fingers and gestures that come while the panel is on its way.
+
+namespace host::test {
+namespace {
+
+constexpr double kGlide = 0.1;
+constexpr double kIconTravel = 0.5;
+constexpr double kContentFade = 0.7;
+/// Within the glide, the icon's way to the top, and the fade of the content.
+constexpr double kMomentsOfOpening[] = {0.05, 0.3, 1.0};
+
+class InterruptedPanel : public PanelTest {
+ protected:
+  void SetUp() override {
+    launch();
+    home_ = music_icon().frame();
+  }
+  void drag_out() {
+    begin_drag();
+    move_finger({screen().width / 2, screen().height / 2});
+    advance(0.2);
+    lift();
+  }
+  void open_for(double seconds) {
+    drag_out();
+    advance(seconds);
+    ASSERT_FALSE(is("isShow"));
+  }
+  void expect_closed() {
+    EXPECT_FALSE(is("isShow"));
+    EXPECT_FALSE(is("isBanner"));
+    EXPECT_TRUE(view("music").isHidden());
+    EXPECT_EQ(music_icon().frame(), home_);
+    EXPECT_EQ(alpha("cover"), 0);
+    EXPECT_EQ(alpha("container"), 0);
+    EXPECT_FALSE(view("window").isUserInteractionEnabled());
+  }
+
+  CGRect home_;
+};
+
+TEST_F(InterruptedPanel, HomeEndsAnOpeningAtAnyMoment) {
+  for (const double moment : kMomentsOfOpening) {
+    open_for(moment);
+    springboard::press_home();
+    EXPECT_FALSE(view("window").isUserInteractionEnabled());
+    settle();
+    expect_closed();
+  }
+}
+
+TEST_F(InterruptedPanel, HomeDuringTheOpeningIsThePanelsAlone) {
+  SBIconController::sharedInstance().setIsEditing(NO);
+  open_for(0.3);
+  EXPECT_EQ(SBUIController::sharedInstance().handleMenuDoubleTap(), YES);
+  settle();
+  EXPECT_FALSE(SBUIController::sharedInstance().isAppSwitcherShowing());
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, NoPanelOpensOnALockedPhone) {
+  for (const double moment : kMomentsOfOpening) {
+    open_for(moment);
+    springboard::press_lock();
+    settle();
+    expect_closed();
+    springboard::press_home();
+    springboard::unlock();
+    settle();
+    expect_closed();
+  }
+}
+
+TEST_F(InterruptedPanel, AFingerThatIsLiftedInTheDarkOpensNothing) {
+  begin_drag();
+  move_by(0, -100);
+  springboard::press_lock();
+  advance(0.2);
+  lift();
+  settle();
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, HomeEndsADragUnderTheFinger) {
+  begin_drag();
+  move_by(0, -100);
+  springboard::press_home();
+  move_by(0, -100);
+  advance(0.2);
+  lift();
+  settle();
+  expect_closed();
+  open_panel();
+}
+
+TEST_F(InterruptedPanel, HomeTwiceLeavesNothingBehindForTheNextOpening) {
+  open_panel();
+  springboard::press_home();
+  advance(0.8);
+  springboard::press_home();
+  EXPECT_GE(seconds_until([this] { return !is("isShow"); }), 0);
+  drag_out();
+  advance(kGlide + kIconTravel + kContentFade + 0.1);
+  EXPECT_TRUE(is("isShow"));
+  settle();
+  EXPECT_TRUE(is("isShow"));
+  EXPECT_EQ(alpha("container"), 1);
+  EXPECT_EQ(alpha("cover"), 1);
+}
+
+TEST_F(InterruptedPanel, EveryCallerOfAClosingIsAnswered) {
+  open_panel();
+  BOOL first = NO;
+  int answers = 0;
+  const auto closed = objc::block([&](BOOL finished) {
+    if (answers++ == 0) first = finished;
+  });
+  const objc::Block<void(BOOL)> borrowed = closed;
+  objc::send<>(application, "dismis:"_sel, borrowed);
+  advance(0.3);
+  objc::send<>(application, "dismis:"_sel, borrowed);
+  settle();
+  EXPECT_EQ(answers, 2);
+  EXPECT_EQ(first, NO);
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, ATouchOfTheIconAtTheTopKeepsItsHome) {
+  open_panel();
+  springboard::press_home();
+  advance(0.3);
+  ASSERT_NE(music_icon().frame(), home_);
+  // The closing window is deaf, so that the touch lands on the icon itself.
+  press(middle_of(music_icon()));
+  EXPECT_EQ(global<CGRect>("saved"), home_);
+  touches.cancelled(1, middle_of(music_icon()), clock.now());
+  settle();
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, ADragOfTheIconAtTheTopIsIgnored) {
+  open_panel();
+  springboard::press_home();
+  advance(0.1);
+  hold(middle_of(music_icon()));
+  move_by(0, 12);
+  move_by(0, 60);
+  lift();
+  settle();
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, AClosingThatIsNotOverYetDoesNotEndTheNextDrag) {
+  begin_drag();
+  touches.cancelled(1, finger(), clock.now());
+  advance(0.2);
+  // The icon has not moved, and so takes touches while the backdrop goes.
+  begin_drag();
+  move_by(0, -120);
+  advance(1);
+  EXPECT_FALSE(view("music").isHidden());
+  EXPECT_GT(alpha("cover"), 0);
+  lift();
+  settle();
+  EXPECT_TRUE(is("isShow"));
+  EXPECT_FALSE(view("music").isHidden());
+}
+
+TEST_F(InterruptedPanel, ATwinThatIsGrabbedWhileThePanelComesClosesIt) {
+  open_for(0.9);
+  hold(middle_of(view("music")));
+  move_by(0, 12);
+  move_by(0, 60);
+  advance(2);
+  EXPECT_FALSE(is("isShow"));
+  lift();
+  settle();
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, HomeDuringADragBackIsTheEndOfIt) {
+  open_panel();
+  hold(middle_of(view("music")));
+  move_by(0, 12);
+  move_by(0, 90);
+  springboard::press_home();
+  advance(0.2);
+  move_by(30, 30);
+  lift();
+  settle();
+  expect_closed();
+}
+
+TEST_F(InterruptedPanel, AGestureBringsNoBannerIntoAnOpening) {
+  for (const double moment : kMomentsOfOpening) {
+    open_for(moment);
+    objc::send<>(application, "showBanner"_sel);
+    EXPECT_FALSE(is("isBanner"));
+    settle();
+    EXPECT_TRUE(is("isShow"));
+    springboard::press_home();
+    settle();
+    expect_closed();
+  }
+}
+
+TEST_F(InterruptedPanel, PagesThatGoOnGlidingLeaveTheIconInItsSlot) {
+  open_panel();
+  const CGFloat y = middle_of(view("container")).y;
+  hold({screen().width * 0.9, y});
+  for (int step = 0; step < 6; ++step)
+    move_by(-20, 0);
+  springboard::press_home();
+  advance(1.3);
+  for (int step = 0; step < 6; ++step)
+    move_by(-20, 0);
+  lift();
+  settle();
+  expect_closed();
+}
+
+}  // namespace
+}  // namespace host::test

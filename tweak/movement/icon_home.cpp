@@ -1,0 +1,54 @@
+#include "tweak/movement/icon_home.h"
+
+#include "tweak/movement/geometry.h"
+#include "tweak/movement/movement.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kIconTravel = 0.5;
+
+// In whose coordinates `saved` is. Only compared, never sent a message.
+UIView list_of_home;
+
+void put_icon_home() {
+  // An icon that the system has moved to another list meanwhile stands in its slot there.
+  if (!list_of_home || musicIcon.superview() == list_of_home) musicIcon.setFrame(saved);
+}
+
+void be_closed() {
+  isShow = NO;
+  music.setHidden(YES);
+}
+
+}  // namespace
+
+void keep_icon_home() {
+  saved = musicIcon.frame();
+  list_of_home = musicIcon.superview();
+}
+
+void bring_icon_home(objc::OwnedBlock<void(BOOL)> closed) {
+  begin_movement(Movement::kGoingHome, &be_closed);
+  const CGFloat offset = icon_screen_offset();
+  UIView::animateWithDuration(kIconTravel, objc::block([offset] {
+                                cover.setAlpha(0);
+                                put_icon_home();
+                                move_to(music, musicIcon.frame().origin.x, saved.origin.y + offset);
+                              }),
+                              unless_replaced(
+                                  [closed] {
+                                    end_movement();
+                                    be_closed();
+                                    closed.get()(YES);
+                                  },
+                                  [closed] { closed.get()(NO); }));
+}
+
+void go_straight_home() {
+  window.setUserInteractionEnabled(NO);
+  UIView::animateWithDuration(kIconTravel, objc::block([] { container.setAlpha(0); }));
+  bring_icon_home();
+}
+
+}  // namespace sonavue
