@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdarg>
 
 #include "host/uikit/alert/alert_button.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
@@ -21,6 +22,21 @@ std::vector<UIAlertView>& shown_alerts() {
   return alerts;
 }
 
+/// The message is variadic: of the other titles only the first has a name, and nil ends them.
+objc::Id init_with_titles(objc::Id self, objc::Sel, objc::Id title, objc::Id message,
+                          objc::Id delegate, objc::Id cancel, objc::Id first_other, ...) {
+  AlertView& state = objc::state_of<AlertView>(objc::Object(self));
+  const auto text = [](objc::Id id) { return objc::cast<NSString>(objc::Object(id)); };
+  const UIAlertView alert =
+      state.init_with_title(text(title), text(message), objc::Object(delegate), text(cancel));
+  va_list others;
+  va_start(others, first_other);
+  for (objc::Id other = first_other; other; other = va_arg(others, objc::Id))
+    alert.addButtonWithTitle(text(other));
+  va_end(others);
+  return alert.id();
+}
+
 }  // namespace
 
 AlertView::~AlertView() {
@@ -28,13 +44,12 @@ AlertView::~AlertView() {
 }
 
 UIAlertView AlertView::init_with_title(NSString title, NSString message, objc::Object delegate,
-                                       NSString cancel, NSString other) {
+                                       NSString cancel) {
   if (!self.UIView::initWithFrame({})) return nil;
   self.setTitle(title);
   self.setMessage(message);
   delegate_ = delegate;
   if (cancel) cancel_index_ = self.addButtonWithTitle(cancel);
-  if (other) self.addButtonWithTitle(other);
   return self;
 }
 
@@ -119,8 +134,6 @@ void AlertView::dismiss(NSInteger index, BOOL animated) {
 void export_alert_view() {
   objc::ClassBuilder("UIAlertView", "UIView")
       .state<AlertView>()
-      .method<&AlertView::init_with_title>(
-          "initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:")
       .method<&AlertView::add_button>("addButtonWithTitle:")
       .method<&AlertView::title>("title")
       .method<&AlertView::set_title>("setTitle:")
@@ -136,6 +149,11 @@ void export_alert_view() {
       .method<&AlertView::dismiss>("dismissWithClickedButtonIndex:animated:")
       .method<&AlertView::pressed>("_pressed:")
       .finish();
+  using Encoding =
+      objc::MethodEncoding<UIAlertView, NSString, NSString, objc::Object, NSString, NSString>;
+  class_addMethod(UIAlertView::cls(),
+                  "initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:"_sel,
+                  reinterpret_cast<objc::Imp>(&init_with_titles), Encoding::text.c_str());
 }
 
 }  // namespace host::uikit

@@ -19,7 +19,7 @@ class AlertView : public objc::Implementation<AlertView, UIAlertView> {
   ~AlertView();
 
   UIAlertView init_with_title(NSString title, NSString message, objc::Object delegate,
-                              NSString cancel, NSString other);
+                              NSString cancel);
   NSInteger add_button(NSString title);
   NSString title() const { return title_.get(); }
   void set_title(NSString title) { title_ = objc::Ref<NSString>::adopt(title.copy()); }

@@ -111,6 +111,33 @@ TEST_F(AlertTest, ManyButtonsStandBelowEachOtherAndTheWayOutIsTheLast) {
   alert.dismissWithClickedButtonIndex(0, NO);
 }
 
+// As compiled code sends it: every title of the list is an argument of its own, and nil ends it.
+TEST_F(AlertTest, TakesAListOfOtherTitles) {
+  using Init =
+      objc::Id (*)(objc::Id, objc::Sel, objc::Id, objc::Id, objc::Id, objc::Id, objc::Id, ...);
+  const objc::Sel selector =
+      "initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:"_sel;
+  const auto init_with = [&](auto... others) {
+    const UIAlertView made = UIAlertView::alloc();
+    const auto init = reinterpret_cast<Init>(objc_msg_lookup(made.id(), selector));
+    const objc::Object alert(init(made.id(), selector, ("Title"_ns).id(), nullptr, nullptr,
+                                  ("No"_ns).id(), others.id()...));
+    return objc::Ref<UIAlertView>::adopt(objc::cast<UIAlertView>(alert));
+  };
+  const auto titles = [](const objc::Ref<UIAlertView>& alert) {
+    std::vector<std::string> all;
+    for (NSInteger index = 0; index < alert->numberOfButtons(); ++index)
+      all.emplace_back(alert->buttonTitleAtIndex(index).UTF8String());
+    return all;
+  };
+  using ::testing::ElementsAre;
+  const NSString end;
+  EXPECT_THAT(titles(init_with("One"_ns, "Two"_ns, "Three"_ns, end)),
+              ElementsAre("No", "One", "Two", "Three"));
+  EXPECT_THAT(titles(init_with("Yes"_ns, end)), ElementsAre("No", "Yes"));
+  EXPECT_THAT(titles(init_with(end, "Never"_ns, end)), ElementsAre("No"));
+}
+
 TEST_F(AlertTest, OfTwoTheLaterIsSeenAndThenTheOther) {
   const auto first = show({"Yes"});
   const auto second = show({});
