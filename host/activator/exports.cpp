@@ -4,11 +4,13 @@
 #include "host/activator/page/listener_list_page.h"
 #include "host/activator/page/listener_page.h"
 #include "host/activator/shared_activator.h"
+#include "host/runtime/protocol.h"
 
 namespace host::activator {
 
 void export_activator() {
   if (LAActivator::cls()) return;
+  define_protocol("LAListener");
   export_event();
   export_shared_activator();
   export_listener_page();

@@ -50,6 +50,14 @@ TEST_F(GestureListener, SaysWhatItIs) {
   EXPECT_EQ(text(modes.objectAtIndex(2)), "application");
 }
 
+TEST_F(GestureListener, IsKnownToBeAListener) {
+  load_extension();
+  const objc::Object protocol(reinterpret_cast<objc::Id>(objc_getProtocol("LAListener")));
+  ASSERT_TRUE(protocol);
+  EXPECT_TRUE(objc::send<BOOL>(make(), "conformsToProtocol:"_sel, protocol));
+  EXPECT_FALSE(objc::send<BOOL>(NSArray::array(), "conformsToProtocol:"_sel, protocol));
+}
+
 TEST_F(GestureListener, ShowsOnePictureAtEveryScale) {
   load_extension();
   const MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded(
