@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdarg>
+#include <memory>
 
 #include "host/uikit/alert/alert_button.h"
+#include "host/uikit/view/touch_hold.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::uikit {
@@ -92,13 +94,14 @@ void AlertView::appear() {
     self.setAlpha(0);
     self.setTransform(CGAffineTransformMakeScale(kFirstScale, kFirstScale));
   }));
-  UIView::animateWithDuration(kComing, 0, kComingDamping, 0,
-                              UIViewAnimationOptionAllowUserInteraction, objc::block([this] {
+  const auto hold = std::make_shared<TouchHold>(window_.get());
+  UIView::animateWithDuration(kComing, 0, kComingDamping, 0, UIViewAnimationOptions{},
+                              objc::block([this] {
                                 dim_->setAlpha(1);
                                 self.setAlpha(1);
                                 self.setTransform(CGAffineTransformIdentity);
                               }),
-                              nullptr);
+                              objc::block([hold](BOOL) { hold->end(); }));
 }
 
 void AlertView::pressed(UIControl button) {
@@ -114,8 +117,9 @@ void AlertView::dismiss(NSInteger index, BOOL animated) {
   leaving_ = true;
   const auto kept = objc::Ref<UIAlertView>::retain(self);
   std::erase(shown_alerts(), self);
-  window_->setUserInteractionEnabled(NO);
-  const auto gone = [this, kept, index](BOOL) {
+  const auto hold = std::make_shared<TouchHold>(window_.get());
+  const auto gone = [this, kept, index, hold](BOOL) {
+    hold->end();
     const auto window = std::exchange(window_, {});
     window->setHidden(YES);
     self.removeFromSuperview();

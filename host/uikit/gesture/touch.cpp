@@ -43,6 +43,11 @@ void Touch::lift(UITouchPhase phase, double timestamp) {
   phase_ = phase;
 }
 
+void Touch::lose(double timestamp) {
+  lift(UITouchPhaseCancelled, timestamp);
+  lost_ = true;
+}
+
 bool Touch::is_seen_by(UIGestureRecognizer recognizer) const {
   return std::any_of(recognizers_.begin(), recognizers_.end(),
                      [recognizer](const auto& seen) { return seen.get() == recognizer; });

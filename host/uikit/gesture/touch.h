@@ -28,6 +28,9 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   void land(UIWindow window, UIView view, CGPoint point, double timestamp, NSUInteger tap_count);
   void move(CGPoint point, double timestamp);
   void lift(UITouchPhase phase, double timestamp);
+  /// Cancelled, and nobody hears of the finger again until it lands anew.
+  void lose(double timestamp);
+  bool is_lost() const { return lost_; }
   void stand_still() { phase_ = UITouchPhaseStationary; }
   CGPoint screen_location() const { return location_; }
   CGPoint landing_point() const { return landing_point_; }
@@ -64,6 +67,7 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   const UITouchPhase* told_phase_ = nullptr;
   Delivery delivery_ = Delivery::kNothing;
   bool move_untold_ = false;
+  bool lost_ = false;
 };
 
 void export_touch();

@@ -89,7 +89,7 @@ void TouchInput::move(int finger, CGPoint screen_point, double timestamp) {
   if (found == fingers_.end()) return;
   const auto touch = found->second;
   Touch& state = objc::state_of<Touch>(touch.get());
-  if (state.screen_location() == screen_point) return;
+  if (state.is_lost() || state.screen_location() == screen_point) return;
   state.move(screen_point, timestamp);
   send(touch.get(), timestamp);
   if (state.is_down()) state.stand_still();
@@ -118,6 +118,7 @@ void TouchInput::lift(int finger, CGPoint screen_point, double timestamp, UITouc
   if (found == fingers_.end()) return;
   const auto touch = found->second;
   fingers_.erase(found);
+  if (objc::state_of<Touch>(touch.get()).is_lost()) return;
   last_tap_.time = timestamp;
   objc::state_of<Touch>(touch.get()).lift(phase, timestamp);
   send(touch.get(), timestamp);

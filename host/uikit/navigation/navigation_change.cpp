@@ -42,6 +42,8 @@ void NavigationController::change_to_top(Page from, NavigationBar::Direction dir
 
 void NavigationController::begin_change(Change change) {
   ++changes_;
+  const auto finger = change.by_finger ? pan_.get() : UIPanGestureRecognizer();
+  change.hold = std::make_unique<TouchHold>(self.view(), finger);
   change_ = std::make_unique<Change>(std::move(change));
   const UIViewController to = change_->to.get();
   to.view();
@@ -59,7 +61,6 @@ void NavigationController::begin_change(Change change) {
     bar_state().begin_change(items(), change_->direction);
     show_change(0);
   }));
-  container_->setUserInteractionEnabled(change_->by_finger ? YES : NO);
 }
 
 void NavigationController::show_change(CGFloat progress) {
@@ -88,7 +89,7 @@ void NavigationController::finish_change() {
     install(done->to.get());
     bar_state().finish_change();
   }));
-  container_->setUserInteractionEnabled(YES);
+  done->hold->end();
   done->from->viewDidDisappear(YES);
   done->to->viewDidAppear(YES);
   dismiss_pages(done->leaving);
@@ -160,7 +161,6 @@ void NavigationController::handle_pan(UIPanGestureRecognizer recognizer) {
     case UIGestureRecognizerStateCancelled: {
       if (!change_ || !change_->slide) break;
       change_->by_finger = false;
-      container_->setUserInteractionEnabled(NO);
       const bool flung = std::abs(velocity) >= kFling;
       const bool leaves = recognizer.state() == UIGestureRecognizerStateEnded &&
                           (flung ? velocity > 0 : moved > width * kHalf);

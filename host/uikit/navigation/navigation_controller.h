@@ -5,6 +5,7 @@
 
 #include "host/uikit/navigation/navigation_bar.h"
 #include "host/uikit/navigation/page_slide.h"
+#include "host/uikit/view/touch_hold.h"
 #include "platform/UIKit/UINavigationController.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 
@@ -59,6 +60,8 @@ class NavigationController
     std::unique_ptr<PageSlide> slide;
     /// Taken off the stack, and told so at the end.
     std::vector<Page> leaving;
+    /// Neither page takes touches on its way, nor the bar.
+    std::unique_ptr<TouchHold> hold = nullptr;
   };
 
   NavigationBar& bar_state() { return objc::state_of<NavigationBar>(bar()); }

@@ -133,13 +133,13 @@ void PageViewController::slide_to(Page page, Side side, objc::Block<void(BOOL)> 
   }));
   show_neighbour(side);
   sliding_ = true;
-  scroll_->setUserInteractionEnabled(NO);
+  hold_ = std::make_unique<TouchHold>(self.view());
   scroll_->setContentOffset({side == kBefore ? 0 : 2 * width(), 0}, YES);
 }
 
 void PageViewController::finish_slide() {
   sliding_ = false;
-  scroll_->setUserInteractionEnabled(YES);
+  hold_.reset();
   const Page previous = std::exchange(current_, std::exchange(coming_, {}));
   if (is_seen()) seen_ = current_;
   if (before_.get() == current_.get()) before_ = {};

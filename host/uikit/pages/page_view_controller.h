@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+
+#include "host/uikit/view/touch_hold.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIPageControl.h"
@@ -76,6 +79,7 @@ class PageViewController : public objc::Implementation<PageViewController, UIPag
   Page coming_;
   objc::OwnedBlock<void(BOOL)> completion_;
   bool sliding_ = false;
+  std::unique_ptr<TouchHold> hold_;
   bool arranging_ = false;
   /// The page that knows that it is seen.
   Page seen_;

@@ -130,6 +130,9 @@ class View : public objc::Implementation<View, UIView> {
   /// Animations that take the view out of the reach of touches while they run.
   void begin_untouchable_animation() { ++untouchable_animations_; }
   void end_untouchable_animation() { --untouchable_animations_; }
+  /// Nothing in the view takes touches meanwhile; the view itself does.
+  void begin_touch_hold() { ++touch_holds_; }
+  void end_touch_hold() { --touch_holds_; }
 
  private:
   friend class Window;
@@ -157,6 +160,7 @@ class View : public objc::Implementation<View, UIView> {
   UIViewAutoresizing autoresizing_mask_ = UIViewAutoresizingNone;
   UIViewContentMode content_mode_ = UIViewContentModeScaleToFill;
   int untouchable_animations_ = 0;
+  int touch_holds_ = 0;
   bool draws_ = false;
   BOOL user_interaction_enabled_ = YES;
   BOOL multiple_touch_enabled_ = NO;

@@ -1,3 +1,6 @@
+#include <memory>
+
+#include "host/uikit/view/touch_hold.h"
 #include "host/uikit/view/view_controller.h"
 
 namespace host::uikit {
@@ -17,16 +20,20 @@ void put_on_screen(UIViewController controller, CGRect place) {
   objc::send<>(controller, "_placeOnScreen:"_sel, place);
 }
 
-/// Runs the changes as an animation, or at once; `done` afterwards in either case.
+/// Runs the changes as an animation, or at once; `done` afterwards in either case. No page in the
+/// window takes touches meanwhile: a second tap would ask one that goes, or one behind it.
 template <class Changes, class Done>
-void change(BOOL animated, Changes changes, Done done) {
-  if (animated) {
-    UIView::animateWithDuration(kPresentationDuration, objc::block(changes),
-                                objc::block([done](BOOL) { done(); }));
-  } else {
+void change(UIWindow window, BOOL animated, Changes changes, Done done) {
+  if (!animated) {
     changes();
-    done();
+    return done();
   }
+  const auto hold = window ? std::make_shared<TouchHold>(window) : nullptr;
+  UIView::animateWithDuration(kPresentationDuration, objc::block(changes),
+                              objc::block([hold, done](BOOL) {
+                                if (hold) hold->end();
+                                done();
+                              }));
 }
 
 /// Who hides all that is behind it: those behind then disappear, and appear again afterwards.
@@ -68,7 +75,7 @@ void ViewController::present(UIViewController controller, BOOL animated,
   if (animated) put_off_screen(controller, place);
   window.addSubview(view);
   change(
-      animated, [controller, place] { put_on_screen(controller, place); },
+      window, animated, [controller, place] { put_on_screen(controller, place); },
       [this, behind = objc::Ref<UIViewController>::retain(self), kept = presented_, animated,
        hides_self, completion = objc::OwnedBlock<void()>(completion)] {
         // It may have been sent away again on its way.
@@ -85,12 +92,13 @@ void ViewController::dismiss(BOOL animated, objc::Block<void()> completion) {
   if (!presented_) return presenting_.dismissViewControllerAnimated(animated, completion);
   const auto leaving = std::exchange(presented_, {});
   objc::state_of<ViewController>(leaving.get()).presenting_ = nil;
+  const UIWindow window = leaving->view().window();
   const CGRect place = leaving->view().frame();
   const bool hid_self = covers(leaving.get());
   leaving->viewWillDisappear(animated);
   if (hid_self) self.viewWillAppear(animated);
   change(
-      animated, [leaving, place] { put_off_screen(leaving.get(), place); },
+      window, animated, [leaving, place] { put_off_screen(leaving.get(), place); },
       [behind = objc::Ref<UIViewController>::retain(self), leaving, animated, hid_self,
        completion = objc::OwnedBlock<void()>(completion)] {
         objc::state_of<ViewController>(leaving.get()).end_presentation();

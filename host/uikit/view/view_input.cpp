@@ -26,6 +26,7 @@ UIView View::hit_test(CGPoint point, UIEvent event) {
   if (self.isHidden() || !self.isUserInteractionEnabled()) return nil;
   if (self.alpha() < kLeastTouchableAlpha || untouchable_animations_ > 0) return nil;
   if (!self.pointInside(point, event)) return nil;
+  if (touch_holds_ > 0) return self;
   // Among thousands of subviews few have to be asked.
   MissTest test(point);
   std::vector<objc::Ref<UIView>> candidates;

@@ -2,6 +2,7 @@
 
 #include "host/uikit/view/window_list.h"
 #include "platform/UIKit/UIAlertView.h"
+#include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tests/host/uikit_navigation/page_test.h"
 
 namespace host::test {
@@ -101,6 +102,28 @@ TEST_F(AlertTest, WhatIsBehindTakesNoTouches) {
   EXPECT_EQ(told(), Events{});
   alert.dismissWithClickedButtonIndex(0, NO);
   EXPECT_EQ(told(), Events{"dismissed 0"}) << "a program's dismissal is no click";
+}
+
+TEST_F(AlertTest, TakesNoTouchesOnItsWayAndLetsNoneThrough) {
+  const auto target = RecordingTarget::make("behind");
+  const UIView behind = add_view(kScreen);
+  RecordingTarget::add<UITapGestureRecognizer>(behind, target.get());
+  const auto alert =
+      UIAlertView::alloc().initWithTitle("Sure?"_ns, nil, listener.get(), "No"_ns).autorelease();
+  alert.show();
+  const CGPoint button{187, kScreen.centre().y + alert.bounds().size.height / 2 - 22};
+  advance(0.1);
+  tap(button);
+  advance(1);
+  EXPECT_TRUE(alert.isVisible());
+  tap(button);
+  advance(0.1);
+  tap(button);
+  tap({20, 100});
+  advance(1);
+  EXPECT_EQ(told(), (Events{"clicked 0", "dismissed 0"}));
+  tap(button);
+  EXPECT_EQ(told(), Events{"behind ended"});
 }
 
 TEST_F(AlertTest, ManyButtonsStandBelowEachOtherAndTheWayOutIsTheLast) {

@@ -7,10 +7,6 @@
 namespace host::test {
 namespace {
 
-constexpr CGPoint kBack{30, 42};
-constexpr CGPoint kRightButton{350, 42};
-constexpr CGPoint kEdge{3, 300};
-
 class NavigationTest : public PageTest {
  protected:
   NavigationTest() {

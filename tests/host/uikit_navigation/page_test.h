@@ -54,6 +54,11 @@ class ToldPage : public objc::Implementation<ToldPage, UIViewController> {
 /// A phone's screen on which pages are turned.
 class PageTest : public UIKitTest {
  public:
+  // On a bar, and where a finger takes a page away.
+  static constexpr CGPoint kBack{30, 42};
+  static constexpr CGPoint kRightButton{350, 42};
+  static constexpr CGPoint kEdge{3, 300};
+
   PageTest() {
     uikit::export_scroll();
     uikit::export_navigation();

@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIPageControl.h"
 #include "platform/UIKit/UIPageViewController.h"
 #include "tests/host/uikit_navigation/page_test.h"
+#include "tests/host/uikit_view/recording_view.h"
 
 namespace host::test {
 namespace {
@@ -97,6 +98,10 @@ class PageViewTest : public PageTest {
     lift({to, 300});
     advance(2);
   }
+  void turn_to(std::size_t index) {
+    pages.setViewControllers(NSArray::arrayWithObject(page(index)),
+                             UIPageViewControllerNavigationDirectionForward, YES, nullptr);
+  }
   UIViewController shown() {
     return objc::cast<UIViewController>(pages.viewControllers().firstObject());
   }
@@ -185,6 +190,37 @@ TEST_F(PageViewTest, TheProgramTurnsToAPageAndIsToldAtTheEnd) {
   EXPECT_EQ(shown(), page(2));
   swipe(60, 300);
   EXPECT_EQ(shown(), page(1)) << "its neighbour, not the page that it came from";
+}
+
+TEST_F(PageViewTest, TheProgramsTurningTakesAPageFromTheFingerThatTurnsIt) {
+  show();
+  press({300, 300});
+  glide({300, 300}, {200, 300}, 0.2);
+  turn_to(2);
+  glide({200, 300}, {280, 300}, 0.2);
+  lift({280, 300});
+  advance(2);
+  EXPECT_EQ(shown(), page(2));
+  EXPECT_EQ(page(2).view().convertRectToView(page(2).view().bounds(), nil), kScreen);
+  swipe(60, 300);
+  EXPECT_EQ(shown(), page(1)) << "fingers turn pages again";
+}
+
+TEST_F(PageViewTest, PagesTakeNoTouchesWhileTheProgramTurnsThem) {
+  state().has_dots = true;
+  show();
+  for (const UIViewController each : state().pages)
+    each.view().addSubview(RecordingView::make("page", kScreen));
+  told();
+  turn_to(2);
+  tap({200, 300});
+  tap({350, 650});
+  EXPECT_FALSE(std::count(events().begin(), events().end(), "page began"));
+  EXPECT_EQ(dots().currentPage(), 0) << "nor do the dots";
+  advance(1);
+  told();
+  tap({200, 300});
+  EXPECT_EQ(told(), (Events{"page began", "page ended"}));
 }
 
 TEST_F(PageViewTest, APageThatIsInsertedIsFoundByTheNextSwipe) {

@@ -1,5 +1,6 @@
 #include "objc/class_builder.h"
 #include "platform/UIKit/UIViewController.h"
+#include "tests/host/uikit_view/recording_view.h"
 #include "tests/host/uikit_view/uikit_test.h"
 
 namespace host::test {
@@ -100,6 +101,104 @@ TEST_F(PresentationTest, WhatIsDismissedOnItsWayHasNeverAppeared) {
   root().dismissViewControllerAnimated(NO, nullptr);
   advance(1);
   EXPECT_EQ(told(), (Events{"will appear", "will disappear", "did disappear"}));
+}
+
+/// A page over another, each with something in it that says what fingers do on it.
+class TouchesInTransition : public PresentationTest {
+ protected:
+  TouchesInTransition() {
+    fill(root(), "behind");
+    fill(shown.get(), "front");
+    told();
+  }
+  static void fill(UIViewController page, const char* name) {
+    page.view().addSubview(RecordingView::make(name, kScreen));
+  }
+  Events after_tap() {
+    told();
+    tap(kPoint);
+    return RecordingView::told_of_touches();
+  }
+  void expect_no_touches_on_its_way() {
+    EXPECT_EQ(after_tap(), Events{});
+    advance(0.3);
+    EXPECT_EQ(after_tap(), Events{});
+    advance(0.1);
+  }
+  void present() { root().presentViewController(shown.get(), YES, nullptr); }
+  void dismiss() { root().dismissViewControllerAnimated(YES, nullptr); }
+
+  static constexpr CGPoint kPoint{100, 300};
+  const objc::Ref<UIViewController> shown =
+      objc::Ref<UIViewController>::adopt(UIViewController::alloc().init());
+};
+
+TEST_F(TouchesInTransition, NeitherPageTakesThemWhileOneComes) {
+  present();
+  expect_no_touches_on_its_way();
+  EXPECT_EQ(after_tap(), (Events{"front began", "front ended"}));
+}
+
+TEST_F(TouchesInTransition, NeitherPageTakesThemWhileOneGoes) {
+  present();
+  advance(1);
+  dismiss();
+  expect_no_touches_on_its_way();
+  EXPECT_EQ(after_tap(), (Events{"behind began", "behind ended"}));
+}
+
+TEST_F(TouchesInTransition, PagesFurtherBehindTakeNoneEither) {
+  const auto last = make_fading();
+  present();
+  advance(1);
+  shown->presentViewController(last.get(), YES, nullptr);
+  EXPECT_EQ(after_tap(), Events{});
+}
+
+TEST_F(TouchesInTransition, AFingerThatIsDownIsCancelledAndSaysNoMore) {
+  press(kPoint);
+  advance(0.05);
+  told();
+  present();
+  EXPECT_EQ(RecordingView::told_of_touches(), Events{"behind cancelled"});
+  move({120, 320});
+  advance(1);
+  move({140, 320});
+  lift({140, 320});
+  EXPECT_EQ(RecordingView::told_of_touches(), Events{}) << "until it lands anew";
+  EXPECT_EQ(after_tap(), (Events{"front began", "front ended"}));
+}
+
+TEST_F(TouchesInTransition, OneWithoutAnimationTakesNothingFromThem) {
+  root().presentViewController(shown.get(), NO, nullptr);
+  EXPECT_EQ(after_tap(), (Events{"front began", "front ended"}));
+  root().dismissViewControllerAnimated(NO, nullptr);
+  EXPECT_EQ(after_tap(), (Events{"behind began", "behind ended"}));
+}
+
+TEST_F(TouchesInTransition, OneThatIsCutShortGivesThemBack) {
+  present();
+  advance(0.1);
+  dismiss();
+  advance(0.1);
+  window.setRootViewController(nil);
+  const auto next = make_fading();
+  fill(next.get(), "next");
+  window.setRootViewController(next.get());
+  advance(1);
+  EXPECT_EQ(after_tap(), (Events{"next began", "next ended"}));
+}
+
+TEST_F(TouchesInTransition, ItsEndMayPresentTheNextAndTouchesComeAfterThat) {
+  const auto last = make_fading();
+  fill(last.get(), "last");
+  root().presentViewController(shown.get(), YES, objc::block([&] {
+                                 shown->presentViewController(last.get(), YES, nullptr);
+                               }));
+  advance(0.5);
+  EXPECT_EQ(after_tap(), Events{});
+  advance(0.5);
+  EXPECT_EQ(after_tap(), (Events{"last began", "last ended"}));
 }
 
 }  // namespace

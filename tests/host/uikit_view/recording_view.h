@@ -31,6 +31,16 @@ class RecordingView : public objc::Implementation<RecordingView, TestRecordingVi
   void tint_color_did_change() { tell("tint"); }
   void layout_subviews() { ++layouts; }
 
+  /// What was told of fingers since the last call, and of nothing else.
+  static UIKitTest::Events told_of_touches() {
+    auto told = UIKitTest::told();
+    std::erase_if(told, [](const std::string& what) {
+      return !what.ends_with(" began") && !what.ends_with(" moved") && !what.ends_with(" ended") &&
+             !what.ends_with(" cancelled") && !what.ends_with(" pressed");
+    });
+    return told;
+  }
+
   static TestRecordingView make(const char* name, CGRect frame) {
     make_class();
     const auto view =
