@@ -7,8 +7,22 @@
 
 namespace sonavue::settings {
 
-/// The page over which the wizard and the cards are shown.
+/// The page over which the wizard and the cards are shown. It is kept until another takes its
+/// place, since what it shows lives on it: the rows that cards belong to, and the wizard's
+/// controls.
 inline constinit UIViewController where;
+
+inline void set_where(UIViewController page) {
+  page.retain();
+  where.release();
+  where = page;
+}
+
+/// Ends what is shown over the page; by itself where the page has been taken from under it.
+inline void end_shown(UIViewController shown) {
+  const UIViewController ending = where.presentedViewController() ? where : shown;
+  ending.dismissViewControllerAnimated(YES, nullptr);
+}
 
 /// What the switch asked for that is still in question.
 inline constinit objc::Object value1;

@@ -44,7 +44,7 @@ class AuthorCell : public objc::Implementation<AuthorCell<author>, PSTableCell> 
     settings::where.presentViewController(contr_, YES, nullptr);
   }
   void dismiss() {
-    settings::where.dismissViewControllerAnimated(YES, nullptr);
+    settings::end_shown(contr_);
     contr_.release();
     contr_ = nil;
   }

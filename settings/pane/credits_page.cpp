@@ -8,7 +8,7 @@ namespace sonavue {
 namespace {
 
 NSArray specifiers(creatorsController self) {
-  settings::where = self;
+  settings::set_where(self);
   if (!self.cached_specifiers()) {
     self.setSpecifiers(NSArray::arrayWithObjects(
         PSSpecifier::emptyGroupSpecifier(), group_with_header("developerCell"_ns),

@@ -60,7 +60,7 @@ void add_share_button(SonavueSettingsController self) {
 void show_wizard_the_first_time(SonavueSettingsController self) {
   if (is_true(stored_value("firstBoot"_ns))) return;
   store_unannounced(NSNumber::numberWithBool(YES), "firstBoot"_ns);
-  settings::where = self;
+  settings::set_where(self);
   // It lives for as long as the wizard needs it, which is until the application ends.
   styleController::alloc().init().showFirstPage();
 }

@@ -24,7 +24,7 @@ class StylePage : public objc::Implementation<StylePage, styleController> {
   explicit StylePage(styleController owner) : Implementation(owner), wizard_(owner) {}
 
   NSArray specifiers() {
-    settings::where = self;
+    settings::set_where(self);
     if (!self.cached_specifiers()) self.setSpecifiers(make_style_rows(self));
     return self.cached_specifiers();
   }

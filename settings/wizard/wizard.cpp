@@ -116,7 +116,7 @@ void Wizard::show_tutorial() {
 }
 
 void Wizard::dismiss_intro() {
-  settings::where.dismissViewControllerAnimated(YES, nullptr);
+  settings::end_shown(main_);
   controller_.release();
   controller_ = nil;
   blurs_.release();

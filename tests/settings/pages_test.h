@@ -43,7 +43,7 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
   ~PagesTest() override {
     window.setRootViewController(nil);
     advance(3);
-    settings::where = nil;
+    settings::set_where(nil);
   }
 
   /// Pushes a new page of that class, as the settings application does.
