@@ -36,6 +36,16 @@ TEST_F(Banner, ComesFromWhollyAboveTheScreenInHalfASecond) {
   EXPECT_LT(view("window").layer().presentationLayer().frame().max_y(), kBannerWithoutTexts);
 }
 
+TEST_F(Banner, IsThereAfterHalfASecondAndNoLater) {
+  objc::send<>(application, "showBanner"_sel);
+  const double took = seconds_until([this] {
+    const CALayer shown = view("window").layer().presentationLayer();
+    return shown && shown.frame().max_y() == kBannerWithoutTexts;
+  });
+  EXPECT_THAT(took, testing::AllOf(testing::Gt(0.5 - RunLoop::kFrame),
+                                   testing::Le(0.5 + 1.5 * RunLoop::kFrame)));
+}
+
 TEST_F(Banner, IsSixtyPointsShorterWithoutTheTexts) {
   show();
   ASSERT_EQ(alpha("container1"), 0);

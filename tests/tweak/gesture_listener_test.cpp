@@ -1,3 +1,4 @@
+#include "platform/Activator/LAEvent.h"
 #include "platform/UIKit/UIImage.h"
 #include "tests/tweak/method_spy.h"
 #include "tests/tweak/panel_test.h"
@@ -21,6 +22,19 @@ TEST_F(GestureListener, AnEventBringsTheBanner) {
   objc::send<>(make(), "activator:receiveEvent:"_sel, objc::Object(), objc::Object());
   EXPECT_EQ(shown.count(), 1);
   EXPECT_TRUE(is("isBanner"));
+}
+
+TEST_F(GestureListener, LeavesAnEventUnhandledWhateverItIs) {
+  launch();
+  for (const NSString name : {"shake"_ns, "home-hold"_ns, "no event of this service"_ns}) {
+    for (const NSString mode : {"springboard"_ns, "lockscreen"_ns, "application"_ns}) {
+      const MethodSpy<"showBanner", void(SpringBoard)> shown(SpringBoard::cls());
+      const LAEvent event = LAEvent::eventWithName(name, mode);
+      objc::send<>(make(), "activator:receiveEvent:"_sel, objc::Object(), event);
+      EXPECT_FALSE(event.isHandled());
+      EXPECT_EQ(shown.count(), 1);
+    }
+  }
 }
 
 TEST_F(GestureListener, AnEventBeforeTheLaunchDoesNothing) {

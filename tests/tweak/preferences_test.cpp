@@ -103,6 +103,26 @@ TEST_F(Preferences, AFileWithoutTheMarkCountsAsChanged) {
   EXPECT_EQ(polled_changes(), 1);
 }
 
+std::function<void()> on_change;
+
+void change_heard(SpringBoard) {
+  if (on_change) on_change();
+}
+
+TEST_F(Preferences, ThePollHasWrittenItsMarkWhenItApplies) {
+  write_preferences("<key>checked</key><true/>");
+  launch();
+  objc::replace_method<&change_heard>(SpringBoard::cls(), "changesPrefs");
+  std::vector<BOOL> marks;
+  on_change = [&] {
+    marks.push_back(objc::cast<NSNumber>(file().objectForKey("checked"_ns)).boolValue());
+  };
+  write_preferences("<key>blur</key><string>dark</string><key>checked</key><false/>");
+  advance(1);
+  on_change = nullptr;
+  EXPECT_EQ(marks, std::vector<BOOL>{YES});
+}
+
 TEST_F(Preferences, TwoChangesWithinOneIntervalAreAppliedTogether) {
   launch();
   const int before = polled_changes();

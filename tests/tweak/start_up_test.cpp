@@ -12,14 +12,17 @@ namespace {
 std::vector<std::string> happened;
 std::string listener_class;
 std::string listener_name;
-std::function<bool()> home_screen_is_there;
-bool home_screen_was_there = false;
+std::function<void()> on_registration;
+std::function<void()> on_first_tick;
 
 void register_listener(objc::Object, objc::Object listener, NSString name) {
   happened.push_back("registerListener:forName:");
   listener_class = objc::cast<NSObject>(listener).className().UTF8String();
   listener_name = text(name);
-  home_screen_was_there = home_screen_is_there();
+  if (on_registration) on_registration();
+}
+void tick(SpringBoard) {
+  if (const auto told = std::exchange(on_first_tick, nullptr)) told();
 }
 
 /// From here on the gesture service only remembers who registers.
@@ -39,7 +42,12 @@ TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
   const MethodSpy<"applicationDidFinishLaunching:", void(SpringBoard, objc::Object)> system(
       SpringBoard::cls(), &happened);
   load_extension();
-  home_screen_is_there = [this] { return static_cast<bool>(icon_view(kMusic).window()); };
+  bool home_screen_was_there = false;
+  bool panel_had_its_target = true;
+  on_registration = [&] {
+    home_screen_was_there = static_cast<bool>(icon_view(kMusic).window());
+    panel_had_its_target = static_cast<bool>(global<SpringBoard>("Spring"));
+  };
   const MethodSpy<"init", objc::Object(MPUNowPlayingController)> now_playing(
       MPUNowPlayingController::cls(), &happened);
   const MethodSpy<"deviceNumber", int(SpringBoard)> number(SpringBoard::cls(), &happened);
@@ -48,6 +56,7 @@ TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
   const SpringBoardSpy<"changePreferences"> poll(SpringBoard::cls(), &happened);
   const SpringBoardSpy<"changesPrefs"> apply(SpringBoard::cls(), &happened);
   PhoneTest::launch();
+  on_registration = nullptr;
 
   // The timers' later ticks come after these.
   ASSERT_GE(happened.size(), 8u);
@@ -59,7 +68,20 @@ TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
   EXPECT_EQ(listener_class, "SVActivatorListener");
   EXPECT_EQ(listener_name, "org.plumvane.Sonavue2");
   EXPECT_TRUE(home_screen_was_there);
+  EXPECT_FALSE(panel_had_its_target) << "an event that comes at once goes nowhere";
   EXPECT_EQ(global<SpringBoard>("Spring"), application);
+}
+
+TEST_F(StartUp, TheColourIsReadBeforeTheFirstTimerFires) {
+  write_preferences("<key>tint</key><string>red</string><key>checked</key><true/>");
+  load_extension();
+  for (const char* timer : {"Loping1", "infoMusic", "changePreferences"})
+    objc::replace_method<&tick>(SpringBoard::cls(), timer);
+  UIColor colour;
+  on_first_tick = [&] { colour = global<UIColor>("newColor"); };
+  PhoneTest::launch();
+  EXPECT_FALSE(on_first_tick) << "none has fired";
+  EXPECT_EQ(colour, UIColor::redColor());
 }
 
 TEST_F(StartUp, TimersTickAtTheirPaces) {

@@ -97,6 +97,25 @@ TEST_F(AverageColor, IsTheMeanOfEveryPixelOfEveryRow) {
   EXPECT_NEAR(mean.blue, 0.75, 1e-6);
 }
 
+// The scale is rounded before anything is multiplied by it.
+TEST_F(AverageColor, ScalesInSinglePrecision) {
+  const int width = 7;
+  const int height = 3;
+  const double sum = 51.0 * width * height;
+  const double scale = 1.0f / (3.0f * (7.0f * 255.0f));
+  ASSERT_NE(sum * scale, sum / (3.0 * (7.0 * 255.0)));
+  EXPECT_EQ(average_of(plain(width, height, 0, 0.2, 0)).green, sum * scale);
+}
+
+TEST_F(AverageColor, MergedIsDividedInSinglePrecision) {
+  const double fifth = 51 / 255.0f;
+  ASSERT_NE(fifth, 51 / 255.0);
+  const Components merged = merged_of(plain(40, 40, 0.2, 0.2, 0.2));
+  EXPECT_EQ(merged.red, fifth);
+  EXPECT_EQ(merged.green, fifth);
+  EXPECT_EQ(merged.blue, fifth);
+}
+
 TEST_F(AverageColor, TakesTheBytesInTheOrderInWhichTheyAreStored) {
   const Components mean = average_of(drawn(UIColor::redColor()));
   EXPECT_EQ(mean.red, 0);
