@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace host::uikit {
 namespace {
@@ -14,6 +15,7 @@ constexpr const char* kMonospaced = "DejaVu Sans Mono";
 // The drawn letters stand taller and set wider than the platform's. Their x-heights agree at this
 // size, and the tracking of each weight takes away what is then left of the extra width.
 constexpr double kSansSize = 0.965;
+constexpr double kUltraLightTracking = -0.015;
 constexpr double kThinTracking = 0.004;
 constexpr double kLightTracking = -0.010;
 constexpr double kRegularTracking = -0.010;
@@ -26,16 +28,16 @@ constexpr FontFace sans(std::string_view name, int weight, bool italic, double t
   return {name, "Helvetica Neue", kSans, weight, italic, kSansSize, tracking};
 }
 
-constexpr FontFace thin_sans(std::string_view name, int weight) {
-  return {name, "Helvetica Neue", kDisplaySans, weight, false, kSansSize, kThinTracking};
+constexpr FontFace thin_sans(std::string_view name, int weight, double tracking) {
+  return {name, "Helvetica Neue", kDisplaySans, weight, false, kSansSize, tracking};
 }
 
 constexpr std::array kFaces{
     sans("HelveticaNeue", 400, false, kRegularTracking),
     sans("HelveticaNeue-Bold", 700, false, kBoldTracking),
     sans("HelveticaNeue-Italic", 400, true, kRegularTracking),
-    thin_sans("HelveticaNeue-UltraLight", 100),
-    thin_sans("HelveticaNeue-Thin", 200),
+    thin_sans("HelveticaNeue-UltraLight", 100, kUltraLightTracking),
+    thin_sans("HelveticaNeue-Thin", 200, kThinTracking),
     sans("HelveticaNeue-Light", 300, false, kLightTracking),
     sans("HelveticaNeue-LightItalic", 300, true, kLightTracking),
     sans("HelveticaNeue-Medium", 500, false, kMediumTracking),
@@ -47,6 +49,29 @@ constexpr std::array kFaces{
     FontFace{"Courier", "Courier", kMonospaced, 400, false, kMonospacedSize, 0},
     FontFace{"Menlo-Regular", "Menlo", kMonospaced, 400, false, kMonospacedSize, 0},
 };
+
+// The platform's own, so that a label of one line is as tall here as there: 20.5 points at 17.
+constexpr FaceMetrics kRegularMetrics{0.952, -0.213, 0.028, 0.714, 0.523};
+constexpr FaceMetrics kBoldMetrics{0.975, -0.217, 0.029, 0.714, 0.523};
+constexpr int kRegularWeight = 400;
+constexpr int kBoldWeight = 700;
+// The older family stands lower, and asks for nothing between its lines.
+constexpr FaceMetrics kHelveticaMetrics{0.92, -0.23, 0.0, 0.72, 0.523};
+constexpr FaceMetrics kMonospacedMetrics{0.928, -0.236, 0.0, 0.729, 0.547};
+
+// Only the regular and the bold are published. Every other weight is taken to lie on the line
+// through the two: the thinner the strokes, the less room they take above and below.
+FaceMetrics neue_metrics(int weight) {
+  const double share =
+      static_cast<double>(weight - kRegularWeight) / (kBoldWeight - kRegularWeight);
+  const auto between = [share](double regular, double bold) {
+    return std::lerp(regular, bold, share);
+  };
+  return {between(kRegularMetrics.ascender, kBoldMetrics.ascender),
+          between(kRegularMetrics.descender, kBoldMetrics.descender),
+          between(kRegularMetrics.leading, kBoldMetrics.leading), kRegularMetrics.cap_height,
+          kRegularMetrics.x_height};
+}
 
 const FontFace& face_at(std::string_view name) {
   return *std::find_if(kFaces.begin(), kFaces.end(),
@@ -77,10 +102,8 @@ const FontFace& italic_system_face() {
 }
 
 FaceMetrics metrics_of(const FontFace& face) {
-  // The platform's own, so that a label of one line is as tall here as there: 20.5 points at 17.
-  if (face.drawn_family == kSans || face.drawn_family == kDisplaySans)
-    return {0.952, -0.213, 0.028, 0.714, 0.523};
-  return {0.928, -0.236, 0.0, 0.729, 0.547};
+  if (face.family == "Helvetica Neue") return neue_metrics(face.weight);
+  return face.family == "Helvetica" ? kHelveticaMetrics : kMonospacedMetrics;
 }
 
 }  // namespace host::uikit

@@ -53,6 +53,23 @@ TEST_F(Label, OneLineOfTheStandardFontIsTwentyAndAHalfPointsTall) {
   EXPECT_EQ(label.sizeThatFits({}).height, 20.5);
 }
 
+TEST_F(Label, LinesFollowEachOtherAtTheLineHeightOfTheirFont) {
+  const UILabel label = label_in({});
+  label.setText("one\ntwo\nthree\nfour\nfive\nsix"_ns);
+  label.setNumberOfLines(0);
+  const struct {
+    NSString font;
+    double height;
+  } six_lines[] = {{"HelveticaNeue"_ns, 215},             // 6 times 35.79, up to the pixel
+                   {"HelveticaNeue-Bold"_ns, 220},        // 6 times 36.63
+                   {"HelveticaNeue-UltraLight"_ns, 210},  // 6 times 34.95
+                   {"Helvetica-Light"_ns, 207}};          // 6 times 34.5
+  for (const auto& each : six_lines) {
+    label.setFont(UIFont::fontWithName(each.font, 30));
+    EXPECT_EQ(label.sizeThatFits({400, 0}).height, each.height) << each.font.UTF8String();
+  }
+}
+
 TEST_F(Label, NoTextNeedsNoRoom) {
   EXPECT_EQ(label_in({0, 0, 50, 50}).sizeThatFits({}), (CGSize{0, 0}));
 }
