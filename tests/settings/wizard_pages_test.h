@@ -37,6 +37,9 @@ class WizardPages : public PagesTest {
     drag_welcome(200);
     let_go(200);
     advance(2);
+    find_questions();
+  }
+  void find_questions() {
     questions = objc::cast<UIPageViewController>(objc::send<objc::Object>(
         objc::cast<UIView>(main.view().subviews().lastObject()), "nextResponder"_sel));
     ASSERT_TRUE(questions.isKindOfClass(UIPageViewController::cls()));
@@ -44,20 +47,23 @@ class WizardPages : public PagesTest {
   UIViewController shown_page() const {
     return objc::cast<UIViewController>(questions.viewControllers().firstObject());
   }
-  void swipe(CGFloat distance) {
-    const CGPoint from = {distance < 0 ? 330.0 : 40.0, 250};
-    press(from);
-    glide(from, {from.x + distance, from.y}, 0.15);
-    lift({from.x + distance, from.y});
-    advance(1.5);
-  }
-  void next_page() { swipe(-280); }
+  void next_page() { swipe(0.875, 0.125); }
+  void page_back() { swipe(0.125, 0.875); }
   template <class T>
   T part(const char* class_name) const {
     for (const UIView each : shown_page().view().subviews().of<UIView>()) {
       if (each.isKindOfClass(objc_getClass(class_name))) return objc::cast<T>(each);
     }
     return T();
+  }
+
+  /// From one share of the screen's width to another.
+  void swipe(CGFloat from, CGFloat to) {
+    const CGFloat width = window.bounds().size.width;
+    press({from * width, 250});
+    glide({from * width, 250}, {to * width, 250}, 0.15);
+    lift({to * width, 250});
+    advance(1.5);
   }
 
   // From one wave of the hint to the next: the last part goes and comes back.

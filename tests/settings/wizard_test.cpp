@@ -208,24 +208,6 @@ TEST_F(WizardPages, EveryRowOfAWheelIsWrittenAndNamed) {
   }
 }
 
-TEST_F(WizardPages, EveryTextIsShownWhole) {
-  start_questions();
-  const auto whole = [&] {
-    const auto label = part<UILabel>("UILabel");
-    ASSERT_TRUE(label);
-    const CGSize room = label.frame().size;
-    const CGSize wanted = label.sizeThatFits({room.width, 10 * room.height});
-    EXPECT_LE(wanted.height, room.height) << label.text().UTF8String();
-    EXPECT_LT(wanted.height, (label.numberOfLines() + 0.5) * label.font().lineHeight());
-  };
-  for (int question = 0; question < 11; ++question, next_page())
-    whole();
-  objc::send<>(page, "showTutorial"_sel);
-  advance(3);
-  for (int number = 0; number < 4; ++number, next_page())
-    whole();
-}
-
 TEST_F(WizardPages, TheTenthBlurIsTheHalfLightOne) {
   start_questions();
   const UIPickerView picker = UIPickerView::alloc().init().autorelease();
@@ -257,9 +239,9 @@ TEST_F(WizardPages, ASwipeBackLeadsToThePageBefore) {
   start_questions();
   next_page();
   EXPECT_FALSE(find(shown_page().view(), "Enable Sonavue"));
-  swipe(280);
+  page_back();
   EXPECT_TRUE(find(shown_page().view(), "Enable Sonavue"));
-  swipe(280);
+  page_back();
   EXPECT_TRUE(find(shown_page().view(), "Enable Sonavue")) << "there is nothing before the first";
 }
 
