@@ -50,12 +50,18 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
   objc::Object value() { return stored_value(key()); }
   void set_value() { store(NSNumber::numberWithBool(on_), key()); }
 
+  // Where it goes is settled when it leaves: a tap on the way is ignored, so that what it shows at
+  // the end is what it writes.
   void animate() {
+    if (is_moving_) return;
+    is_moving_ = true;
+    const BOOL target = !on_;
     // It writes even when its page is gone by then.
     const auto switcher = objc::Ref<Switcher>::retain(self);
-    UIView::animateWithDuration(kMove, 0, UIViewAnimationOptions{},
-                                objc::block([switcher] { state(*switcher).move(); }),
-                                objc::block([switcher](BOOL) { state(*switcher).arrive(); }));
+    UIView::animateWithDuration(
+        kMove, 0, UIViewAnimationOptions{},
+        objc::block([switcher, target] { state(*switcher).move_to(target); }),
+        objc::block([switcher, target](BOOL) { state(*switcher).arrive_at(target); }));
   }
 
  private:
@@ -67,6 +73,8 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
     const CGSize size = self.frame().size;
     const UIView track = round_white_view(
         {size.width - kTrackFromRight, kTrackMargin, kTrackWidth, size.height - 2 * kTrackMargin});
+    // The fill has corners, and the track is round.
+    track.layer().setMasksToBounds(YES);
     const CGFloat side = track.frame().size.height - 2 * kKnobInset;
     knob_ = round_white_view({kKnobInset, kKnobInset, side, side});
     track.addSubview(knob_);
@@ -80,16 +88,17 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
     track.release();
   }
 
-  void move() const {
+  void move_to(BOOL on) const {
     const CGRect knob = knob_.frame();
     const CGSize fill = fill_.frame().size;
-    const CGFloat x = on_ ? 0 : kTrackWidth - knob.size.width;
+    const CGFloat x = on ? kTrackWidth - knob.size.width : 0;
     knob_.setFrame({{x, knob.origin.y}, knob.size});
-    fill_.setFrame({{}, {on_ ? knob.size.width / 2 : x + knob.size.width, fill.height}});
+    fill_.setFrame({{}, {on ? x + knob.size.width : knob.size.width / 2, fill.height}});
   }
 
-  void arrive() {
-    on_ = !on_;
+  void arrive_at(BOOL on) {
+    on_ = on;
+    is_moving_ = false;
     self.setValue();
   }
 
@@ -97,6 +106,7 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
   UIView knob_;
   UIView fill_;
   BOOL on_ = NO;
+  bool is_moving_ = false;
 };
 
 }  // namespace
