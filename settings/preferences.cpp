@@ -1,5 +1,6 @@
 #include "settings/preferences.h"
 
+#include "objc/kind.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
 
@@ -24,7 +25,8 @@ NSMutableDictionary changeable() {
 }  // namespace
 
 objc::Object stored_value(NSString key) {
-  return load().objectForKey(key);
+  const objc::Object value = load().objectForKey(key);
+  return objc::kind_of<NSString>(value) || objc::kind_of<NSNumber>(value) ? value : nil;
 }
 
 void store(objc::Object value, NSString key) {

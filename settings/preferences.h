@@ -7,7 +7,8 @@
 
 namespace sonavue {
 
-/// What the file holds under the key; nil without a file or such a key.
+/// The text or number that the file holds under the key; nil without a file or such a key, and for
+/// what is neither, which no row can show.
 objc::Object stored_value(NSString key);
 
 /// Puts `value`, which is not nil, under the key and clears "checked", by which the home screen

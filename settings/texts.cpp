@@ -1,5 +1,6 @@
 #include "settings/texts.h"
 
+#include "objc/kind.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSFileManager.h"
 #include "platform/Foundation/NSUserDefaults.h"
@@ -18,7 +19,7 @@ bool can_be_read(NSString path) {
 }
 
 NSString text_in_table(NSString path, NSString identifier) {
-  return objc::cast<NSString>(
+  return objc::kind_of<NSString>(
       NSDictionary::dictionaryWithContentsOfFile(path).objectForKey(identifier));
 }
 
@@ -31,10 +32,10 @@ NSString nothing() {
 
 NSString lang() {
   const NSArray supported = NSArray::arrayWithObject("en"_ns);
-  const NSArray preferred =
-      objc::cast<NSArray>(NSUserDefaults::standardUserDefaults().objectForKey("AppleLanguages"_ns));
-  const objc::Object first = preferred.firstObject();
-  return supported.containsObject(first) ? objc::cast<NSString>(first) : "en"_ns;
+  const auto preferred = objc::kind_of<NSArray>(
+      NSUserDefaults::standardUserDefaults().objectForKey("AppleLanguages"_ns));
+  const auto first = objc::kind_of<NSString>(preferred.firstObject());
+  return supported.containsObject(first) ? first : "en"_ns;
 }
 
 NSString Translator(NSString identifier) {
@@ -54,7 +55,7 @@ NSString getNotTranslated(NSString text) {
   const NSDictionary table = NSDictionary::dictionaryWithContentsOfFile(path);
   const NSEnumerator names = table.keyEnumerator();
   while (const objc::Object name = names.nextObject()) {
-    if (objc::cast<NSString>(table.objectForKey(name)).isEqualToString(text))
+    if (objc::kind_of<NSString>(table.objectForKey(name)).isEqualToString(text))
       return objc::cast<NSString>(name);
   }
   return nothing();

@@ -63,6 +63,19 @@ TEST_P(ForeignPreferences, AreReadAndKept) {
 INSTANTIATE_TEST_SUITE_P(Forms, ForeignPreferences,
                          testing::Values("preferences-xml.plist", "preferences-binary.plist"));
 
+TEST_F(SettingsPreferences, OnlyTextsAndNumbersAreValues) {
+  for (const char* value : {"<data>AAEC</data>", "<date>2015-01-01T00:00:00Z</date>", "<array/>",
+                            "<dict><key>red</key><true/></dict>"}) {
+    write_dictionary(preferences(), "<key>enable</key>" + std::string(value));
+    EXPECT_FALSE(stored_value("enable"_ns)) << value;
+  }
+  for (const char* value : {"<integer>7</integer>", "<real>0.5</real>", "<true/>",
+                            "<string>red</string>", "<string/>"}) {
+    write_dictionary(preferences(), "<key>enable</key>" + std::string(value));
+    EXPECT_TRUE(stored_value("enable"_ns)) << value;
+  }
+}
+
 TEST_F(SettingsPreferences, OnlyANumberThatIsNotZeroIsTrue) {
   EXPECT_TRUE(is_true(yes()));
   EXPECT_FALSE(is_true(NSNumber::numberWithBool(NO)));

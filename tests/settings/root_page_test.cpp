@@ -66,6 +66,28 @@ TEST_F(RootPage, TheSecondLaunchShowsNoWizard) {
   EXPECT_EQ(stored(), "firstBoot = 1");
 }
 
+TEST_F(RootPage, AFirstLaunchOfAnOddTypeIsOneToo) {
+  for (const std::string value : {"<array/>", "<dict/>", "<data>AAEC</data>", "<string>no</string>",
+                                  "<date>2015-01-01T00:00:00Z</date>"}) {
+    write_dictionary(preferences(), "<key>firstBoot</key>" + value + "<key>enable</key>" + value);
+    open_root();
+    EXPECT_TRUE(page.presentedViewController() || stack.presentedViewController()) << value;
+    EXPECT_THAT(stored(), testing::HasSubstr("firstBoot = 1")) << value;
+    objc::send<>(settings::where, "dismissViewControllerAnimated:completion:"_sel, BOOL{NO},
+                 objc::Object());
+    advance(1);
+  }
+}
+
+TEST_F(RootPage, TablesThatHoldNoTextsLeaveRowsWithoutNames) {
+  write_dictionary(languages() / "en.plist", "<key>enable</key><array/><key>contacts</key><true/>" +
+                                                 text_entry("configuration", "Configuration"));
+  open_root();
+  EXPECT_THAT(names(), testing::ElementsAre("", "", "(null)", "", "Configuration", "", "(null)"));
+  tap_middle(switch_of("(null)"));
+  EXPECT_THAT(stored(), testing::HasSubstr("(null) = 1"));
+}
+
 TEST_F(RootPage, TheFirstLaunchKeepsTheMarkOfChanges) {
   write_dictionary(preferences(), switch_entry("checked", true) + text_entry("tint", "red"));
   open_root();

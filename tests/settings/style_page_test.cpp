@@ -1,6 +1,7 @@
 #include "objc/ref.h"
 #include "platform/Activator/LAListenerSettingsViewController.h"
 #include "tests/settings/pages_test.h"
+#include "tests/support/odd_preferences.h"
 
 namespace sonavue::test {
 namespace {
@@ -128,6 +129,27 @@ TEST_F(StylePage, TheSetupRowShowsTheWizardOverIt) {
   EXPECT_TRUE(page.presentedViewController() || stack.presentedViewController());
   EXPECT_EQ(settings::where, page);
   EXPECT_EQ(stored(), "firstBoot = 1");
+}
+
+TEST_F(StylePage, ValuesOfAnyTypeLeaveAPaneThatWorks) {
+  for (const std::string& entries : host::test::odd_preferences()) {
+    write_dictionary(preferences(), entries);
+    open_style();
+    photograph("settings-style-odd");
+    for (const char* list : {"Blur", "Play button ring", "Tint color", "Text color"}) {
+      tap_row(list);
+      stack.popViewControllerAnimated(NO);
+      advance(0.5);
+    }
+    const UISwitch square = switch_of("Square artwork");
+    const bool was_on = square.isOn();
+    tap_middle(square);
+    EXPECT_THAT(stored(), testing::HasSubstr(was_on ? "square = 0" : "square = 1")) << entries;
+    tap_row("Tint color");
+    tap_row("Magenta");
+    EXPECT_THAT(stored(), testing::HasSubstr("tint = magenta")) << entries;
+    EXPECT_THAT(stored(), testing::HasSubstr("checked = 0")) << entries;
+  }
 }
 
 }  // namespace

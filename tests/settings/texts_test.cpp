@@ -2,8 +2,11 @@
 
 #include <set>
 
+#include "platform/Foundation/NSData.h"
+#include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSFileManager.h"
 #include "platform/Foundation/NSUserDefaults.h"
+#include "platform/Foundation/NSValue.h"
 #include "tests/settings/replaced_method.h"
 #include "tests/settings/settings_test.h"
 
@@ -115,6 +118,48 @@ TEST_F(Texts, AFolderInPlaceOfATableIsAnEmptyOne) {
   fs::create_directory(languages() / "en.plist");
   EXPECT_EQ(text("red"), "(null)");
   EXPECT_EQ(identifier("Red"), "(null)");
+}
+
+// Whatever a property list can hold that is no text.
+constexpr const char* kNoTexts[] = {"<integer>7</integer>",
+                                    "<real>0.5</real>",
+                                    "<true/>",
+                                    "<data>AAEC</data>",
+                                    "<date>2015-01-01T00:00:00Z</date>",
+                                    "<array><string>Red</string></array>",
+                                    "<dict><key>red</key><string>Red</string></dict>"};
+
+TEST_F(Texts, WhatIsNoTextIsAbsent) {
+  for (const std::string value : kNoTexts) {
+    write_english("<key>red</key>" + value + text_entry("tint", "Tint color") + "<key>zero</key>" +
+                  value);
+    EXPECT_EQ(text("red"), "(null)") << value;
+    EXPECT_EQ(text("tint"), "Tint color") << value;
+    EXPECT_EQ(identifier("Tint color"), "tint") << value;
+    EXPECT_EQ(identifier("Red"), "(null)") << value;
+  }
+}
+
+TEST_F(Texts, ATableThatIsNoDictionaryIsAnEmptyOne) {
+  for (const std::string value : kNoTexts) {
+    if (value.starts_with("<dict>")) continue;
+    write(languages() / "en.plist", "<plist version=\"1.0\">" + value + "</plist>");
+    EXPECT_EQ(text("red"), "(null)") << value;
+    EXPECT_EQ(identifier("Red"), "(null)") << value;
+  }
+}
+
+TEST_F(Texts, LanguagesThatAreNoneReadEnglish) {
+  write_english(text_entry("red", "Red"));
+  const NSArray wrong = NSArray::arrayWithObjects(
+      "en"_ns, NSNumber::numberWithBool(YES), NSDictionary::dictionary(), NSData::data(),
+      NSArray::arrayWithObject(NSNumber::numberWithBool(YES)),
+      NSArray::arrayWithObject(NSArray::arrayWithObject("en"_ns)));
+  for (const auto each : wrong.of<NSObject>()) {
+    NSUserDefaults::standardUserDefaults().setObject(each, "AppleLanguages"_ns);
+    EXPECT_STREQ(lang().UTF8String(), "en") << each.description().UTF8String();
+    EXPECT_EQ(text("red"), "Red") << each.description().UTF8String();
+  }
 }
 
 TEST_F(Texts, ATextLeadsBackToItsIdentifier) {

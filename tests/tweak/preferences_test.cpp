@@ -3,6 +3,7 @@
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/UIImageView.h"
+#include "tests/support/odd_preferences.h"
 #include "tests/tweak/method_spy.h"
 #include "tests/tweak/panel_test.h"
 
@@ -167,6 +168,26 @@ TEST_F(Preferences, OtherThanSwitchesAndTextsAreNeither) {
   EXPECT_EQ(polled_changes(), 1);
   EXPECT_EQ(alpha_of_tint(), 1);
   EXPECT_TRUE(is("added"));
+}
+
+TEST_F(Preferences, ValuesOfAnyTypeLeaveAPanelThatWorks) {
+  for (const std::string& entries : odd_preferences()) {
+    write_preferences(entries);
+    if (!application) {
+      launch();
+    } else {
+      objc::send<>(application, "changesPrefs"_sel);
+    }
+    play("Alpha");
+    advance(1.2);
+    objc::send<>(application, "present"_sel);
+    settle();
+    EXPECT_TRUE(is("isShow")) << entries;
+    EXPECT_FALSE(is("isBanner")) << entries;
+    objc::send<>(application, "dismisWithNoAction"_sel);
+    advance(2);
+    EXPECT_FALSE(is("isShow")) << entries;
+  }
 }
 
 TEST_F(Preferences, ADirectoryInTheFilesPlaceIsLivedWith) {
