@@ -235,6 +235,21 @@ TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
 }
 
+TEST_F(WizardPages, TheGesturePageLeavesTheStatusBarFree) {
+  start_questions();
+  objc::send<>(page, "showActivatorPage"_sel);
+  advance(1.5);
+  const auto table = part<UITableView>("UITableView");
+  ASSERT_TRUE(table);
+  EXPECT_EQ(table.superview().convertRectToView(table.frame(), nil), (CGRect{0, 20, 375, 647}));
+  const UIView name = find(table, "org.plumvane.Sonavue");
+  ASSERT_TRUE(name);
+  EXPECT_GE(name.convertPointToView({}, nil).y, 20);
+  page_back();
+  next_page();
+  EXPECT_EQ(table.frame().size.height, 647) << "nor does it shrink when it comes again";
+}
+
 TEST_F(WizardPages, ASwipeBackLeadsToThePageBefore) {
   start_questions();
   next_page();

@@ -37,7 +37,7 @@ void ListenerListPage::view_did_load() {
 
 void ListenerListPage::view_will_appear(BOOL animated) {
   super("viewWillAppear:"_sel, animated);
-  add_bar_where_missing();
+  keep_top_free();
   // Another process may have changed what is shown.
   show_again();
 }

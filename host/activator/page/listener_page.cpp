@@ -29,7 +29,7 @@ void ListenerPage::view_did_load() {
 
 void ListenerPage::view_will_appear(BOOL animated) {
   super("viewWillAppear:"_sel, animated);
-  add_bar_where_missing();
+  keep_top_free();
   // Another process may have changed what is shown.
   show_again();
 }

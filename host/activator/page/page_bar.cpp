@@ -9,15 +9,15 @@
 namespace host::activator {
 namespace {
 
-constexpr CGFloat kStatusBar = 20;
 constexpr CGFloat kButtonWidth = 70;
 constexpr CGFloat kFont = 17;
 constexpr CGFloat kBarGrey = 248.0 / 255;
 constexpr CGFloat kLineGrey = 178.0 / 255;
 
 void add_title(UIView bar, NSString title, CGFloat width) {
-  const UILabel label = UILabel::alloc().initWithFrame(
-      {kButtonWidth, kStatusBar, width - 2 * kButtonWidth, kPageBarHeight - kStatusBar});
+  const UILabel label =
+      UILabel::alloc().initWithFrame({kButtonWidth, kStatusBarHeight, width - 2 * kButtonWidth,
+                                      kPageBarHeight - kStatusBarHeight});
   label.setFont(UIFont::boldSystemFontOfSize(kFont));
   label.setTextAlignment(NSTextAlignmentCenter);
   label.setAutoresizingMask(UIViewAutoresizingFlexibleWidth);
@@ -28,7 +28,8 @@ void add_title(UIView bar, NSString title, CGFloat width) {
 
 void add_button(UIView bar, UIViewController page, objc::Sel close, CGFloat width) {
   const UIButton button = UIButton::buttonWithType(UIButtonTypeSystem);
-  button.setFrame({width - kButtonWidth, kStatusBar, kButtonWidth, kPageBarHeight - kStatusBar});
+  button.setFrame(
+      {width - kButtonWidth, kStatusBarHeight, kButtonWidth, kPageBarHeight - kStatusBarHeight});
   button.setAutoresizingMask(UIViewAutoresizingFlexibleLeftMargin);
   button.setTitle("Done"_ns, UIControlStateNormal);
   button.titleLabel().setFont(UIFont::boldSystemFontOfSize(kFont));
@@ -38,7 +39,7 @@ void add_button(UIView bar, UIViewController page, objc::Sel close, CGFloat widt
 
 // The home screen's status bar is white, for wallpapers: it needs something darker behind it.
 void add_status_ground(UIView bar, CGFloat width) {
-  const UIView ground = UIView::alloc().initWithFrame({0, 0, width, kStatusBar});
+  const UIView ground = UIView::alloc().initWithFrame({0, 0, width, kStatusBarHeight});
   ground.setBackgroundColor(caption_color());
   ground.setAutoresizingMask(UIViewAutoresizingFlexibleWidth);
   bar.addSubview(ground);

@@ -12,6 +12,7 @@ inline bool stands_alone(UIViewController page) {
   return page.presentingViewController() && !page.parentViewController();
 }
 
-inline constexpr CGFloat kPageBarHeight = 64;
+inline constexpr CGFloat kStatusBarHeight = 20;
+inline constexpr CGFloat kPageBarHeight = kStatusBarHeight + 44;
 
 }  // namespace host::activator

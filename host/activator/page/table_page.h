@@ -3,10 +3,12 @@
 #include "host/activator/page/page_bar.h"
 #include "host/activator/page/page_look.h"
 #include "objc/class_builder.h"
+#include "platform/UIKit/UINavigationController.h"
 
 namespace host::activator {
 
-/// What the pages share: a table that fills the page, under a bar where the page has none.
+/// What the pages share: a table that fills the page, under a bar where the page stands by itself,
+/// and under the status bar where it is a part of a page without bars.
 template <class Derived, class Self>
 class TablePage : public objc::Implementation<Derived, Self> {
  public:
@@ -28,19 +30,24 @@ class TablePage : public objc::Implementation<Derived, Self> {
     table_ = make_table(self.view().bounds(), self);
     self.view().addSubview(table_.get());
   }
-  void add_bar_where_missing() {
-    if (!stands_alone(self) || bar_) return;
-    const CGRect bounds = self.view().bounds();
-    bar_ = objc::Ref<UIView>::retain(
-        make_page_bar(self, self.title(), "closePressed"_sel, bounds.size.width));
-    self.view().addSubview(bar_.get());
-    table_->setFrame({0, kPageBarHeight, bounds.size.width, bounds.size.height - kPageBarHeight});
+  void keep_top_free() {
+    if (bar_ || self.navigationController()) return;
+    if (stands_alone(self)) add_bar();
+    const CGFloat top = bar_ ? kPageBarHeight : kStatusBarHeight;
+    const CGSize size = self.view().bounds().size;
+    table_->setFrame({0, top, size.width, size.height - top});
   }
   bool has_table() const { return static_cast<bool>(table_); }
   UITableView table() const { return table_.get(); }
   CGFloat width() const { return self.view().bounds().size.width; }
 
  private:
+  void add_bar() {
+    bar_ =
+        objc::Ref<UIView>::retain(make_page_bar(self, self.title(), "closePressed"_sel, width()));
+    self.view().addSubview(bar_.get());
+  }
+
   objc::Ref<UITableView> table_;
   objc::Ref<UIView> bar_;
 };

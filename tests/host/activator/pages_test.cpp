@@ -171,7 +171,8 @@ TEST_F(Pages, APageInsideAnotherHasNoBarOfItsOwn) {
   page.release();
   root.view().addSubview(page.view());
   page.viewWillAppear(NO);
-  EXPECT_EQ(table(page).frame().origin.y, 0);
+  EXPECT_EQ(page.view().subviews().count(), 1u);
+  EXPECT_EQ(table(page).frame().origin.y, 20) << "the status bar is left free";
 }
 
 }  // namespace
