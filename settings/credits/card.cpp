@@ -23,6 +23,8 @@ constexpr CGFloat kStripGap = 28;
 constexpr CGFloat kStripHeight = 130;
 constexpr CGFloat kHairline = 0.5;
 constexpr CGRect kClose = {12, 26, 80, 36};
+constexpr CGFloat kCardHeight = kPhotoTop + kPhotoSide + kNameGap + kNameHeight + kRoleHeight +
+                                kStripGap + 2 * (kHairline + kStripHeight);
 
 constexpr CGFloat kTileMargin = 15;
 constexpr CGSize kTileSize = {90, 110};
@@ -35,15 +37,19 @@ NSString picture_path(const char* name, NSString ending) {
       .stringByAppendingString(ending);
 }
 
-void add_photo(UIView card, const Author& author) {
-  const CGFloat x = (card.frame().size.width - kPhotoSide) / 2;
-  const UIImageView photo =
-      UIImageView::alloc().initWithFrame({x, kPhotoTop, kPhotoSide, kPhotoSide});
+/// Gives where it ends. On a low screen it stands so much higher that the last strip is on it, too.
+CGFloat add_photo(UIView card, const Author& author) {
+  const CGSize size = card.frame().size;
+  const CGFloat missing = size.height < kCardHeight ? kCardHeight - size.height : 0;
+  const CGFloat top = kPhotoTop - missing;
+  const UIImageView photo = UIImageView::alloc().initWithFrame(
+      {(size.width - kPhotoSide) / 2, top, kPhotoSide, kPhotoSide});
   photo.layer().setMasksToBounds(YES);
   photo.layer().setCornerRadius(kPhotoSide / 2);
   photo.setImage(UIImage::imageWithContentsOfFile(picture_path(author.photo, "@2x.png"_ns)));
   card.addSubview(photo);
   photo.release();
+  return top + kPhotoSide;
 }
 
 /// Gives where it ends.
@@ -126,9 +132,9 @@ UIViewController make_card(const Author& author, PSTableCell cell) {
   const UIView card = controller.view();
   card.setFrame(UIScreen::mainScreen().bounds());
   card.setBackgroundColor(UIColor::whiteColor());
-  add_photo(card, author);
+  const CGFloat photo_end = add_photo(card, author);
   const CGFloat name_end =
-      add_line(card, author.name, kPhotoTop + kPhotoSide + kNameGap, kNameHeight, kNameSize);
+      add_line(card, author.name, photo_end + kNameGap, kNameHeight, kNameSize);
   const CGFloat role_end = add_line(card, author.role, name_end, kRoleHeight, kRoleSize);
   add_close_button(card, cell);
   add_packages(card, author, cell, role_end + kStripGap);

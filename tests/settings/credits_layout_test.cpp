@@ -1,6 +1,8 @@
 #include "objc/autorelease_pool.h"
+#include "platform/UIKit/UIButton.h"
 #include "platform/UIKit/UIImageView.h"
 #include "tests/settings/credits_page_test.h"
+#include "tests/settings/every_device.h"
 
 // Where everything of the credits stands, and what it looks like.
 
@@ -118,6 +120,24 @@ TEST_F(CreditsLayout, AMissingPhotoLeavesAnEmptyCircle) {
   EXPECT_EQ(photo.layer().cornerRadius(), 50);
   EXPECT_THAT(tiles(), testing::Contains("Mail"));
 }
+
+class CreditsCard : public OnEveryDevice<Credits> {};
+
+TEST_P(CreditsCard, StandsOnTheScreenToItsLastRow) {
+  open_card("developerCell");
+  photograph_device("credits-card");
+  const CGRect screen = UIScreen::mainScreen().bounds();
+  CGFloat end = 20;  // Of the status bar.
+  for (const UIView part : card.view().subviews().of<UIView>()) {
+    if (part.isKindOfClass(UIButton::cls())) continue;
+    EXPECT_GE(part.frame().origin.y, end) << "nothing lies over what is above it";
+    end = CGRect(part.frame()).max_y();
+  }
+  EXPECT_LE(end, screen.size.height);
+  ASSERT_TRUE(tap_text("Follow"));
+  EXPECT_FALSE(presented()) << "its last row can be tapped";
+}
+INSTANTIATE_TEST_SUITE_P(Devices, CreditsCard, every_device(), device_name);
 
 }  // namespace
 }  // namespace sonavue::test

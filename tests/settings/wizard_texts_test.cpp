@@ -1,33 +1,17 @@
-#include "host/runtime/device_model.h"
 #include "platform/UIKit/NSStringDrawing.h"
-#include "platform/UIKit/UIScreen.h"
+#include "tests/settings/every_device.h"
 #include "tests/settings/wizard_pages_test.h"
 
 // What the wizard says.
 
-namespace host {
-
-void PrintTo(const DeviceModel& model, std::ostream* stream) {
-  *stream << model.name;
-}
-
-}  // namespace host
-
 namespace sonavue::test {
 namespace {
 
-/// The wizard on every device that there is.
-class WizardTexts : public WizardPages, public testing::WithParamInterface<host::DeviceModel> {
+class WizardTexts : public OnEveryDevice<WizardPages> {
  protected:
-  WizardTexts() {
-    host::set_current_device(GetParam());
-    window.setFrame(UIScreen::mainScreen().bounds());
-  }
-  ~WizardTexts() override { host::set_current_device(*host::device_model(host::kDefaultDevice)); }
-
   void expect_whole(UILabel label) {
     ASSERT_TRUE(label);
-    photograph("wizard-" + std::string(GetParam().identifier) + "-" + std::to_string(++shown_));
+    photograph_device("wizard-" + std::to_string(++shown_));
     const CGSize room = label.frame().size;
     const CGSize wanted =
         objc::cast<NSStringDrawing>(label.text())
@@ -54,12 +38,7 @@ TEST_P(WizardTexts, EveryTextIsShownWhole) {
   for (int number = 0; number < 4; ++number, next_page())
     expect_whole(part<UILabel>("UILabel"));
 }
-INSTANTIATE_TEST_SUITE_P(Models, WizardTexts, testing::ValuesIn(host::device_models()),
-                         [](const auto& model) {
-                           std::string name(model.param.name);
-                           std::erase(name, ' ');
-                           return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Devices, WizardTexts, every_device(), device_name);
 
 }  // namespace
 }  // namespace sonavue::test
