@@ -12,6 +12,9 @@ namespace {
 namespace fs = std::filesystem;
 using Failure = std::optional<std::string>;
 
+/// In the root of a device until its first files are laid.
+constexpr const char* kBeingMade = ".being-made";
+
 constexpr const char* kFolders[] = {
     "var/mobile/Library/Preferences",      "Library/MobileSubstrate/DynamicLibraries",
     "Library/PreferenceBundles",           "Library/PreferenceLoader/Preferences",
@@ -30,7 +33,20 @@ bool is_same(const fs::path& from, const fs::path& to) {
   return same_size && fs::last_write_time(from, error) == fs::last_write_time(to, error) && !error;
 }
 
-Failure copy_tree(const fs::path& from, const fs::path& to) {
+bool is_being_made(const fs::path& root) {
+  std::error_code error;
+  return !fs::exists(root, error) || fs::is_empty(root, error) ||
+         fs::exists(root / kBeingMade, error);
+}
+
+Failure copy_if_missing(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  if (fs::exists(fs::symlink_status(to, error))) return std::nullopt;
+  return copy_if_changed(from, to);
+}
+
+Failure copy_tree(const fs::path& from, const fs::path& to,
+                  Failure (*copy)(const fs::path& from, const fs::path& to)) {
   std::error_code error;
   if (!fs::is_directory(from, error)) return std::nullopt;
   fs::create_directories(to, error);
@@ -42,7 +58,7 @@ Failure copy_tree(const fs::path& from, const fs::path& to) {
       fs::create_directories(target, error);
       if (error) return failure(target, error);
     } else if (entries->is_regular_file()) {
-      if (auto failed = copy_if_changed(entries->path(), target)) return failed;
+      if (auto failed = copy(entries->path(), target)) return failed;
     }
   }
   if (error) return failure(from, error);
@@ -74,6 +90,19 @@ Failure prepare_device_root(const fs::path& root) {
   return std::nullopt;
 }
 
+Failure lay_first_files(const fs::path& first_files, const fs::path& root) {
+  if (!is_being_made(root)) return std::nullopt;
+  std::error_code error;
+  fs::create_directories(root, error);
+  if (error) return failure(root, error);
+  const fs::path mark = root / kBeingMade;
+  if (!std::ofstream(mark)) return failure(mark, {errno, std::generic_category()});
+  if (auto failed = copy_tree(first_files, root, &copy_if_missing)) return failed;
+  fs::remove(mark, error);
+  if (error) return failure(mark, error);
+  return std::nullopt;
+}
+
 Failure copy_if_changed(const fs::path& from, const fs::path& to) {
   if (is_same(from, to)) return std::nullopt;
   const fs::path beside = to.parent_path() / ("." + to.filename().string() + ".staging");
@@ -89,7 +118,7 @@ Failure copy_if_changed(const fs::path& from, const fs::path& to) {
 
 Failure stage(const StagingSource& source, const fs::path& root,
               std::span<const std::string> without) {
-  if (auto failed = copy_tree(source.overlay, root)) return failed;
+  if (auto failed = copy_tree(source.overlay, root, &copy_if_changed)) return failed;
   std::error_code error;
   for (const auto& entry : fs::directory_iterator(source.applications, error)) {
     const fs::path target = root / "Applications" / entry.path().filename();
@@ -97,7 +126,7 @@ Failure stage(const StagingSource& source, const fs::path& root,
     if (std::find(without.begin(), without.end(), identifier) != without.end()) {
       fs::remove_all(target, error);
       if (error) return failure(target, error);
-    } else if (auto failed = copy_tree(entry.path(), target)) {
+    } else if (auto failed = copy_tree(entry.path(), target, &copy_if_changed)) {
       return failed;
     }
   }

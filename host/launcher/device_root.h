@@ -10,6 +10,13 @@ namespace host::launcher {
 /// Makes the folders that every device has. Gives the reason when the root cannot be written.
 std::optional<std::string> prepare_device_root(const std::filesystem::path& root);
 
+/// Lays `first_files` over a device that is just being made: the root is missing or empty, or an
+/// earlier start was cut short here. What lies there stays. Never again afterwards, so that what
+/// the user removes is gone for good. Gives the first file that failed; the next start goes on
+/// then.
+std::optional<std::string> lay_first_files(const std::filesystem::path& first_files,
+                                           const std::filesystem::path& root);
+
 /// Where the build keeps what belongs on the device.
 struct StagingSource {
   std::filesystem::path overlay;       // laid over the root as it is

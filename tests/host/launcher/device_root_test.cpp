@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include "tests/host/launcher/temporary_folder.h"
+#include "tests/support/full_disk.h"
 
 namespace {
 
@@ -99,6 +100,82 @@ TEST_F(DeviceRoot, NamesTheFileThatCannotBeStaged) {
   const auto reason = stage_all();
   ASSERT_TRUE(reason);
   EXPECT_TRUE(reason->starts_with((root() / "a").string()));
+}
+
+class FirstFiles : public DeviceRoot {
+ protected:
+  FirstFiles() {
+    write_file(first_files() / "var/a", "first");
+    write_file(first_files() / "var/b", "a longer one");
+  }
+  std::optional<std::string> lay() { return lay_first_files(first_files(), root()); }
+  fs::path first_files() const { return build() / "first-files"; }
+  std::string text(const std::string& name) const {
+    const auto lines = lines_of(root() / "var" / name);
+    return lines.empty() ? "" : lines.front();
+  }
+};
+
+TEST_F(FirstFiles, AreLaidOverADeviceThatIsNotThereYet) {
+  EXPECT_EQ(lay(), std::nullopt);
+  EXPECT_EQ(text("a"), "first");
+  EXPECT_EQ(text("b"), "a longer one");
+}
+
+TEST_F(FirstFiles, AreLaidIntoAnEmptyFolder) {
+  fs::create_directories(root());
+  EXPECT_EQ(lay(), std::nullopt);
+  EXPECT_EQ(text("a"), "first");
+}
+
+TEST_F(FirstFiles, LeaveNothingElseBehind) {
+  lay();
+  const std::vector<fs::path> in_root(fs::directory_iterator(root()), {});
+  EXPECT_EQ(in_root, std::vector<fs::path>{root() / "var"});
+}
+
+TEST_F(FirstFiles, AreNothingForADeviceThatIsInUse) {
+  prepare_device_root(root());
+  EXPECT_EQ(lay(), std::nullopt);
+  EXPECT_FALSE(fs::exists(root() / "var/a"));
+}
+
+TEST_F(FirstFiles, AreNotLaidAgainWhenTheUserHasRemovedThem) {
+  lay();
+  ASSERT_TRUE(fs::remove(root() / "var/a"));
+  EXPECT_EQ(lay(), std::nullopt);
+  EXPECT_FALSE(fs::exists(root() / "var/a"));
+}
+
+TEST_F(FirstFiles, GoOnAfterAStartThatWasCutShortAndOverNoFile) {
+  {
+    const FullDisk disk(8);
+    const auto reason = lay();
+    ASSERT_TRUE(reason);
+    EXPECT_TRUE(reason->starts_with((root() / "var/b").string())) << *reason;
+  }
+  EXPECT_FALSE(fs::exists(root() / "var/b"));
+  write_file(root() / "var/a", "mine");
+  prepare_device_root(root());
+  EXPECT_EQ(lay(), std::nullopt);
+  EXPECT_EQ(text("a"), "mine");
+  EXPECT_EQ(text("b"), "a longer one");
+  // Now the device is made.
+  fs::remove(root() / "var/b");
+  lay();
+  EXPECT_FALSE(fs::exists(root() / "var/b"));
+}
+
+TEST_F(FirstFiles, GiveTheReasonWhenThereCanBeNoDevice) {
+  write_file(folder_.path() / "root", "");
+  const auto reason = lay();
+  ASSERT_TRUE(reason);
+  EXPECT_TRUE(reason->starts_with(root().string()));
+}
+
+TEST_F(FirstFiles, AreNothingInABuildWithoutAny) {
+  fs::remove_all(first_files());
+  EXPECT_EQ(lay(), std::nullopt);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "host/social/outbox.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <iterator>
@@ -10,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/full_disk.h"
 #include "tests/support/media_fixtures.h"
 
 namespace {
@@ -19,25 +18,6 @@ using media_tests::CapturedLog;
 using media_tests::read_bytes;
 using media_tests::TemporaryFolder;
 using media_tests::write_bytes;
-
-/// While it lives no file of this process can grow beyond so many bytes, as on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    before_signal_ = signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit full{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    signal(SIGXFSZ, before_signal_);
-  }
-
- private:
-  rlimit before_;
-  void (*before_signal_)(int);
-};
 
 std::size_t files_in(const std::string& folder) {
   const std::filesystem::directory_iterator files(folder);
