@@ -10,7 +10,8 @@ Installation find_installation() {
   return {programs / "SpringBoard",
           programs / "device",
           build / "host-pictures" / "covers",
-          {build / "staging", build / "applications"}};
+          {build / "staging", build / "applications"},
+          build / "first-files"};
 }
 
 }  // namespace host::launcher

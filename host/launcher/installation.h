@@ -13,6 +13,7 @@ struct Installation {
   std::filesystem::path tools;        // programs that stand first on the device's path
   std::filesystem::path covers;       // pictures for the demo music
   StagingSource staging;
+  std::filesystem::path first_files;  // of a new device that is set up already
 };
 
 Installation find_installation();

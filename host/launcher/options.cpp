@@ -84,9 +84,15 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
   parser.add_option("--device", options.device, "Which phone or tablet to be: " + all_devices())
       ->check(check_device);
-  parser.add_option("--root", options.root,
-                    "Folder that holds the device's own files; a script without it plays on a new "
-                    "device that is thrown away");
+  auto* root = parser.add_option("--root", options.root,
+                                 "Folder that holds the device's own files; a script without it "
+                                 "plays on a new device that is thrown away");
+  bool new_phone = false;
+  parser
+      .add_flag("--new-phone", new_phone,
+                "An untouched device, which asks for its settings itself and is thrown away; "
+                "without it a new device is set up already")
+      ->excludes(root);
   parser.add_option("--music", options.music, "Folder of music; may be given more than once")
       ->check(check_music)
       ->allow_extra_args(false);
@@ -106,7 +112,8 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   } catch (const CLI::ParseError& error) {
     return Ending{kBadUsage, std::string("sonavue: ") + error.what() + "\n"};
   }
-  if (options.root.empty() && options.script.empty()) options.root = default_device_root();
+  options.is_set_up = options.root.empty() && options.script.empty() && !new_phone;
+  if (options.is_set_up) options.root = default_device_root();
   make_absolute(options);
   return options;
 }

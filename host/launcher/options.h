@@ -15,6 +15,7 @@ struct Options {
   std::vector<std::string> without;
   std::filesystem::path screenshots;
   std::filesystem::path script;  // empty without one
+  bool is_set_up = false;        // a new device begins with its first files
   bool headless = false;
   bool console = false;
 

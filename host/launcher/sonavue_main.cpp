@@ -38,13 +38,20 @@ std::optional<ConsoleFront> console_for(const Options& options) {
   return ConsoleFront(std::move(script), options.console ? STDIN_FILENO : -1, stdout, stderr);
 }
 
+/// Gives the reason when the device cannot be started.
+std::optional<std::string> prepare(const Options& options, const Installation& installation) {
+  std::optional<std::string> reason;
+  if (options.is_set_up) reason = lay_first_files(installation.first_files, options.root);
+  if (!reason) reason = prepare_device_root(options.root);
+  if (!reason) reason = stage(installation.staging, options.root, options.without);
+  return reason;
+}
+
 int run_phone(Options options) {
   std::optional<ThrowawayFolder> device;
   if (options.root.empty()) options.root = device.emplace().path();
   const Installation installation = find_installation();
-  if (auto reason = prepare_device_root(options.root)) return complain(*reason);
-  if (auto reason = stage(installation.staging, options.root, options.without))
-    return complain(*reason);
+  if (const auto reason = prepare(options, installation)) return complain(*reason);
   const host::RealClock clock;
   const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
   const Supervisor::Commands commands{

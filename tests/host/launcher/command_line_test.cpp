@@ -89,6 +89,35 @@ TEST(Options, RepeatedOnesAddUpAndPathsBecomeAbsolute) {
   EXPECT_EQ(options.device, "iPhone7,2");
 }
 
+TEST(Options, OnlyADeviceThatNobodyNamesIsSetUp) {
+  const auto read = [](std::vector<const char*> arguments) {
+    arguments.insert(arguments.begin(), "sonavue");
+    return std::get<Options>(read_options(static_cast<int>(arguments.size()), arguments.data()));
+  };
+  EXPECT_TRUE(read({}).is_set_up);
+  EXPECT_EQ(read({}).root, default_device_root());
+  EXPECT_TRUE(read({"--headless", "--console"}).is_set_up);
+  EXPECT_FALSE(read({"--root", default_device_root().c_str()}).is_set_up);
+  EXPECT_FALSE(read({"--script", "/etc/passwd"}).is_set_up);
+  EXPECT_FALSE(read({"--new-phone"}).is_set_up);
+  EXPECT_TRUE(read({"--new-phone"}).root.empty());
+}
+
+TEST(Options, ANamedDeviceIsNoNewPhone) {
+  const char* arguments[] = {"sonavue", "--new-phone", "--root", "/tmp/phone"};
+  const auto read = read_options(std::size(arguments), arguments);
+  const auto& ending = std::get<Ending>(read);
+  EXPECT_EQ(ending.status, kBadUsage);
+  EXPECT_THAT(ending.text, HasSubstr("--new-phone"));
+  EXPECT_THAT(ending.text, HasSubstr("--root"));
+}
+
+TEST(Options, HelpTellsHowToGetAnUntouchedDevice) {
+  const char* arguments[] = {"sonavue", "--help"};
+  const auto read = read_options(std::size(arguments), arguments);
+  EXPECT_THAT(std::get<Ending>(read).text, HasSubstr("--new-phone "));
+}
+
 TEST(Options, HelpListsTheKeysOfTheWindow) {
   const char* arguments[] = {"sonavue", "--help"};
   const auto read = read_options(std::size(arguments), arguments);
