@@ -51,6 +51,7 @@ constexpr SystemName kSystemEvents[] = {
     {"dock", "in", SystemEvent::DockIn, Detail::BundleIdentifier},
     {"dock", "out", SystemEvent::DockOut, Detail::BundleIdentifier},
     {"uninstall", "", SystemEvent::Uninstall, Detail::BundleIdentifier},
+    {"kill", "", SystemEvent::Kill, Detail::BundleIdentifier},
 };
 
 Result<Answer> button(Session& session, LineReader& reader) {

@@ -80,6 +80,12 @@ Result<Answer> screenshot(Session& session, LineReader& reader) {
   return answer_of(session.phone().screenshot(std::string(file)));
 }
 
+/// For whoever wants to know what a finger has left behind.
+Result<Answer> rest(Session& session, LineReader& reader) {
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().unrest());
+}
+
 Result<Answer> echo(Session&, LineReader& reader) {
   return Answer{Answer::Kind::Value, std::string(reader.rest())};
 }
@@ -97,8 +103,9 @@ Result<Answer> quit(Session&, LineReader& reader) {
 }
 
 constexpr Command kCommands[] = {
-    {"advance", &advance},       {"print", &print}, {"expect", &expect},   {"where", &where},
-    {"screenshot", &screenshot}, {"echo", &echo},   {"process", &process}, {"quit", &quit},
+    {"advance", &advance}, {"print", &print},           {"expect", &expect},
+    {"where", &where},     {"screenshot", &screenshot}, {"rest", &rest},
+    {"echo", &echo},       {"process", &process},       {"quit", &quit},
 };
 
 }  // namespace

@@ -29,6 +29,7 @@ enum class SystemEvent {
   DockIn,
   DockOut,
   Uninstall,
+  Kill,
 };
 
 /// Why the phone could not do what it was asked to; nothing when it did.
@@ -41,8 +42,8 @@ class Phone {
 
   /// Lets the phone's clock run for `seconds`, and everything that is due meanwhile.
   virtual void advance(double seconds) = 0;
-  /// One finger on the screen; `point` is in points from the top left.
-  virtual void touch(TouchPhase phase, CGPoint point) = 0;
+  /// One of the fingers on the screen; `point` is in points from the top left.
+  virtual void touch(int finger, TouchPhase phase, CGPoint point) = 0;
   /// The middle of a view that is on the screen, in points of the screen; nothing when `object` is
   /// no view or stands in no window.
   virtual std::optional<CGPoint> centre_of(objc::Object object) = 0;
@@ -57,6 +58,9 @@ class Phone {
   virtual Refusal system(SystemEvent event, std::string_view detail) = 0;
   virtual Refusal gesture(std::string_view event) = 0;
   virtual Refusal screenshot(const std::string& file) = 0;
+  /// What keeps the phone from resting on its home screen, with nothing open and nothing under way;
+  /// nothing when it rests.
+  virtual Refusal unrest() = 0;
   /// Turns the console to another process of the phone.
   virtual Refusal talk_to(std::string_view process) = 0;
   /// What the process that the console has turned to answers to a line; nothing while that is the

@@ -36,9 +36,14 @@ Answer Session::execute(std::string_view line) {
   return std::move(*answer);
 }
 
-void Session::touch(TouchPhase phase, CGPoint point) {
-  finger_is_down_ = phase == TouchPhase::Began || phase == TouchPhase::Moved;
-  phone_.touch(phase, point);
+void Session::touch(int finger, TouchPhase phase, CGPoint point) {
+  const bool is_down = phase == TouchPhase::Began || phase == TouchPhase::Moved;
+  if (is_down) {
+    fingers_.insert(finger);
+  } else {
+    fingers_.erase(finger);
+  }
+  phone_.touch(finger, phase, point);
 }
 
 Result<Expression> Session::expression(LineReader& reader) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -22,8 +23,8 @@ class Session {
   // What the commands are made of.
 
   Phone& phone() { return phone_; }
-  bool finger_is_down() const { return finger_is_down_; }
-  void touch(TouchPhase phase, CGPoint point);
+  bool is_down(int finger) const { return fingers_.contains(finger); }
+  void touch(int finger, TouchPhase phase, CGPoint point);
 
   /// A checked expression whose value can be asked for later.
   Result<Expression> expression(LineReader& reader) const;
@@ -38,7 +39,7 @@ class Session {
  private:
   Phone& phone_;
   Evaluator evaluator_;
-  bool finger_is_down_ = false;
+  std::set<int> fingers_;
 };
 
 }  // namespace host::console

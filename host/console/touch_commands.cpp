@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 
 #include "host/console/commands.h"
@@ -14,6 +15,9 @@ constexpr double kTapHold = 0.05;
 constexpr double kTapPause = 0.08;
 constexpr int kMostTaps = 10;
 constexpr double kLongestDrag = 60;
+// The finger that taps and drags, and that is meant where none is named.
+constexpr int kFirstFinger = 1;
+constexpr int kLastFinger = 5;
 
 struct PhaseName {
   std::string_view name;
@@ -28,6 +32,7 @@ constexpr PhaseName kPhases[] = {
 };
 
 const Problem kFingerIsDown{"a finger is on the screen already", 0};
+const Problem kNoFinger{"no finger is on the screen", 0};
 
 Result<Answer> tap(Session& session, LineReader& reader) {
   const auto point = session.point(reader);
@@ -41,17 +46,33 @@ Result<Answer> tap(Session& session, LineReader& reader) {
     count = static_cast<int>(*given);
   }
   if (const auto problem = reader.end()) return *problem;
-  if (session.finger_is_down()) return kFingerIsDown;
+  if (session.is_down(kFirstFinger)) return kFingerIsDown;
   for (int i = 0; i < count; ++i) {
     if (i > 0) session.phone().advance(kTapPause);
-    session.touch(TouchPhase::Began, *point);
+    session.touch(kFirstFinger, TouchPhase::Began, *point);
     session.phone().advance(kTapHold);
-    session.touch(TouchPhase::Ended, *point);
+    session.touch(kFirstFinger, TouchPhase::Ended, *point);
   }
   return Answer{};
 }
 
+/// The finger's number, where one is given.
+Result<int> finger_of(LineReader& reader) {
+  const auto word = reader.peek_word();
+  if (word.empty() || !std::isdigit(static_cast<unsigned char>(word.front()))) return kFirstFinger;
+  const Problem wrong =
+      reader.problem(fmt::format("fingers are counted from 1 to {}", kLastFinger));
+  const auto number = reader.number("the number of a finger");
+  if (!number) return number.problem();
+  if (*number != std::floor(*number) || *number < kFirstFinger || *number > kLastFinger)
+    return wrong;
+  return static_cast<int>(*number);
+}
+
 Result<Answer> touch(Session& session, LineReader& reader) {
+  reader.at_end();
+  const auto finger = finger_of(reader);
+  if (!finger) return finger.problem();
   reader.at_end();
   const Problem unknown = reader.problem("began, moved, ended or cancelled is missing");
   const auto name = reader.word();
@@ -62,23 +83,23 @@ Result<Answer> touch(Session& session, LineReader& reader) {
   if (!point) return point.problem();
   if (const auto problem = reader.end()) return *problem;
   const bool begins = phase->phase == TouchPhase::Began;
-  if (begins && session.finger_is_down()) return kFingerIsDown;
-  if (!begins && !session.finger_is_down()) return Problem{"no finger is on the screen", 0};
-  session.touch(phase->phase, *point);
+  if (begins && session.is_down(*finger)) return kFingerIsDown;
+  if (!begins && !session.is_down(*finger)) return kNoFinger;
+  session.touch(*finger, phase->phase, *point);
   return Answer{};
 }
 
 // One touch a frame, as a screen reports them, so that recognisers see the speed that was meant.
 void move_finger(Session& session, CGPoint from, CGPoint to, double seconds) {
   const int frames = std::max(1, static_cast<int>(std::lround(seconds / kFrame)));
-  session.touch(TouchPhase::Began, from);
+  session.touch(kFirstFinger, TouchPhase::Began, from);
   for (int frame = 1; frame <= frames; ++frame) {
     const double part = static_cast<double>(frame) / frames;
     session.phone().advance(seconds / frames);
-    session.touch(TouchPhase::Moved,
+    session.touch(kFirstFinger, TouchPhase::Moved,
                   {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part});
   }
-  session.touch(TouchPhase::Ended, to);
+  session.touch(kFirstFinger, TouchPhase::Ended, to);
 }
 
 Result<Answer> drag(Session& session, LineReader& reader) {
@@ -92,7 +113,7 @@ Result<Answer> drag(Session& session, LineReader& reader) {
   if (!seconds) return seconds.problem();
   if (*seconds < 0 || *seconds > kLongestDrag) return wrong;
   if (const auto problem = reader.end()) return *problem;
-  if (session.finger_is_down()) return kFingerIsDown;
+  if (session.is_down(kFirstFinger)) return kFingerIsDown;
   move_finger(session, *from, *to, *seconds);
   return Answer{};
 }

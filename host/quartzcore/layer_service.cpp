@@ -169,4 +169,8 @@ bool any_layer_animated() {
   return !animated.empty();
 }
 
+const std::vector<CALayer>& animated_layers() {
+  return animated;
+}
+
 }  // namespace host::quartzcore

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <vector>
 
 #include "host/runtime/run_loop.h"
 #include "platform/QuartzCore/CALayer.h"
@@ -58,5 +59,6 @@ void note_animated_layer(CALayer layer);
 /// After an animation was added to a layer or taken from it.
 void note_animations_changed();
 bool any_layer_animated();
+const std::vector<CALayer>& animated_layers();
 
 }  // namespace host::quartzcore

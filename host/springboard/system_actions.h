@@ -50,6 +50,8 @@ bool press_key_in_application(const std::string& name);
 /// does not run, or not any more.
 std::optional<std::string> ask_application(const std::string& program, const std::string& line);
 bool is_application_running(const std::string& program);
+/// Ends the process of an application as a lack of memory would; false when it has none.
+bool kill_application(std::string_view bundle);
 
 /// What the user sees, whatever hangs over it.
 enum class Shown { HomeScreen, LockScreen, Application };

@@ -9,7 +9,7 @@ namespace host::application {
 class OwnPhone final : public console::Phone {
  public:
   void advance(double) override {}
-  void touch(console::TouchPhase, CGPoint) override {}
+  void touch(int, console::TouchPhase, CGPoint) override {}
   std::optional<CGPoint> centre_of(objc::Object object) override;
   console::Refusal type(std::string_view) override { return refused(); }
   console::Refusal key(std::string_view) override { return refused(); }
@@ -18,6 +18,7 @@ class OwnPhone final : public console::Phone {
   console::Refusal system(console::SystemEvent, std::string_view) override { return refused(); }
   console::Refusal gesture(std::string_view) override { return refused(); }
   console::Refusal screenshot(const std::string&) override { return refused(); }
+  console::Refusal unrest() override { return refused(); }
   console::Refusal talk_to(std::string_view) override { return refused(); }
 
  private:

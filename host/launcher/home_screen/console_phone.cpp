@@ -4,6 +4,7 @@
 
 #include "host/activator/phone_gestures.h"
 #include "host/launcher/home_screen/launch.h"
+#include "host/springboard/system/unrest.h"
 #include "host/springboard/system_actions.h"
 #include "host/uikit/view/screen_space.h"
 
@@ -13,8 +14,8 @@ namespace {
 using console::Refusal;
 using console::SystemEvent;
 
-// One finger belongs to the console; the window's have other numbers.
-constexpr int kConsoleFinger = 1000;
+// The console's fingers are not the window's.
+constexpr int kConsoleFingers = 1000;
 
 Refusal done_unless(bool done, std::string_view reason) {
   if (done) return std::nullopt;
@@ -35,6 +36,8 @@ Refusal application_event(SystemEvent event, std::string_view bundle) {
       return done_unless(move_to_dock(bundle), "this application cannot go into the dock");
     case SystemEvent::DockOut:
       return done_unless(move_out_of_dock(bundle), "this application is not in the dock");
+    case SystemEvent::Kill:
+      return done_unless(kill_application(bundle), "this application does not run");
     default:
       return done_unless(uninstall(bundle), "this application is not installed");
   }
@@ -42,8 +45,8 @@ Refusal application_event(SystemEvent event, std::string_view bundle) {
 
 }  // namespace
 
-void ConsolePhone::touch(console::TouchPhase phase, CGPoint point) {
-  hands_.touch(kConsoleFinger, phase, point);
+void ConsolePhone::touch(int finger, console::TouchPhase phase, CGPoint point) {
+  hands_.touch(kConsoleFingers + finger, phase, point);
 }
 
 std::optional<CGPoint> ConsolePhone::centre_of(objc::Object object) {
@@ -90,6 +93,12 @@ Refusal ConsolePhone::screenshot(const std::string& file) {
   std::filesystem::create_directories(parts_.screenshots, error);
   if (error) return fmt::format("{}: {}", parts_.screenshots.string(), error.message());
   return parts_.screenshot(parts_.screenshots / file);
+}
+
+Refusal ConsolePhone::unrest() {
+  const std::vector<std::string> reasons = springboard::reasons_for_unrest();
+  if (reasons.empty()) return std::nullopt;
+  return fmt::format("{}", fmt::join(reasons, "; "));
 }
 
 Refusal ConsolePhone::talk_to(std::string_view process) {

@@ -22,7 +22,7 @@ class ConsolePhone final : public console::Phone {
   ConsolePhone(Hands& hands, Parts parts) : hands_(hands), parts_(std::move(parts)) {}
 
   void advance(double seconds) override { parts_.advance(seconds); }
-  void touch(console::TouchPhase phase, CGPoint point) override;
+  void touch(int finger, console::TouchPhase phase, CGPoint point) override;
   std::optional<CGPoint> centre_of(objc::Object object) override;
   console::Refusal type(std::string_view text) override { return hands_.type(text); }
   console::Refusal key(std::string_view name) override { return hands_.key(name); }
@@ -33,6 +33,7 @@ class ConsolePhone final : public console::Phone {
   console::Refusal system(console::SystemEvent event, std::string_view detail) override;
   console::Refusal gesture(std::string_view event) override;
   console::Refusal screenshot(const std::string& file) override;
+  console::Refusal unrest() override;
   console::Refusal talk_to(std::string_view process) override;
   std::optional<std::string> answer_elsewhere(const std::string& line) override;
 

@@ -38,6 +38,7 @@ class HomeScreen {
   /// The pages have moved under the dots.
   void pages_scrolled() const;
 
+  std::size_t page_count() const { return pages_.size(); }
   SBIconListView page_list(std::size_t page) const { return pages_.at(page).get(); }
   SBDockIconListView dock_list() const { return dock_list_.get(); }
   /// Nil when there is no such folder.

@@ -1,4 +1,6 @@
 #include "host/application/wire/message_reader.h"
+#include "host/springboard/configuration.h"
+#include "host/springboard/processes/process_keeper.h"
 #include "host/springboard/processes/running_processes.h"
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/surfaces.h"
@@ -43,6 +45,14 @@ std::optional<std::string> ask_application(const std::string& program, const std
   const auto process = running_processes().find_program(program);
   if (!process || line.size() > kLongestText) return std::nullopt;
   return process->ask(line);
+}
+
+bool kill_application(std::string_view bundle) {
+  const std::string name(bundle);
+  if (!running_processes().find(name)) return false;
+  // What is gone is noticed by the silence of its channel, like any other end.
+  configuration().process_keeper->close(name);
+  return true;
 }
 
 bool is_application_running(const std::string& program) {

@@ -14,21 +14,6 @@
 namespace host::uikit {
 namespace {
 
-struct Hit {
-  UIWindow window;
-  UIView view;
-};
-
-/// The topmost window whose tree has a view that takes the point.
-Hit find_hit(CGPoint point, UIEvent event) {
-  const auto windows = visible_windows();
-  for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-    if (const UIView view = window->hitTest(from_screen(*window, point), event))
-      return {*window, view};
-  }
-  return {};
-}
-
 /// A view sees one finger at a time unless it asks for more, and an exclusive view shares its
 /// window with no other; recognisers see every finger all the same.
 bool view_may_take_another(const Hit& hit) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/uikit/view/screen_space.h"
+
 namespace host::uikit {
 namespace {
 
@@ -21,6 +23,15 @@ std::vector<UIWindow> visible_windows() {
 
 UIWindow key_window() {
   return key;
+}
+
+Hit find_hit(CGPoint point, UIEvent event) {
+  const auto windows = visible_windows();
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+    if (const UIView view = window->hitTest(from_screen(*window, point), event))
+      return {*window, view};
+  }
+  return {};
 }
 
 void show_in_list(UIWindow window) {

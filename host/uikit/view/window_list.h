@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "platform/UIKit/UIEvent.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::uikit {
@@ -10,6 +11,14 @@ namespace host::uikit {
 /// they were shown. The compositor's roots are their layers.
 std::vector<UIWindow> visible_windows();
 UIWindow key_window();
+
+struct Hit {
+  UIWindow window;
+  UIView view;
+};
+/// The topmost window whose tree has a view that takes the point of the screen; nil for both when
+/// there is none.
+Hit find_hit(CGPoint point, UIEvent event);
 
 /// For windows alone.
 void show_in_list(UIWindow window);

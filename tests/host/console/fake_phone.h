@@ -17,10 +17,11 @@ class FakePhone : public host::console::Phone {
     now += seconds;
     done.push_back(fmt::format("advance {:.4g}", seconds));
   }
-  void touch(host::console::TouchPhase phase, CGPoint point) override {
+  void touch(int finger, host::console::TouchPhase phase, CGPoint point) override {
     constexpr const char* kNames[] = {"began", "moved", "ended", "cancelled"};
-    done.push_back(
-        fmt::format("{} {:.4g} {:.4g}", kNames[static_cast<int>(phase)], point.x, point.y));
+    done.push_back(fmt::format("{}{} {:.4g} {:.4g}",
+                               finger == 1 ? "" : fmt::format("finger {} ", finger),
+                               kNames[static_cast<int>(phase)], point.x, point.y));
   }
   std::optional<CGPoint> centre_of(objc::Object object) override {
     if (objc::cast<NSObject>(object).isKindOfClass(NSString::cls())) return CGPoint{30, 40};
@@ -40,6 +41,7 @@ class FakePhone : public host::console::Phone {
   }
   Refusal gesture(std::string_view event) override { return note("gesture", event); }
   Refusal screenshot(const std::string& file) override { return note("screenshot", file); }
+  Refusal unrest() override { return note("rest", ""); }
   Refusal talk_to(std::string_view process) override { return note("process", process); }
 
   double now = 0;

@@ -79,6 +79,26 @@ TEST_F(Sessions, TouchGoesThroughItsPhasesInOrder) {
   EXPECT_THAT(phone_.done, ElementsAre("began 1 2", "moved 3 4", "cancelled 3 4"));
 }
 
+TEST_F(Sessions, FingersAreTouchedByTheirNumbers) {
+  EXPECT_EQ(say("touch 2 began 1 2"), "ok");
+  EXPECT_EQ(say("touch began 3 4"), "ok");
+  EXPECT_EQ(say("touch 2 began 1 2"), "error: a finger is on the screen already (column 1)");
+  EXPECT_EQ(say("touch 3 ended 1 2"), "error: no finger is on the screen (column 1)");
+  EXPECT_EQ(say("touch 1 ended 3 4"), "ok");
+  EXPECT_EQ(say("touch 2 ended 5 6"), "ok");
+  for (const char* wrong : {"touch 0 began 1 2", "touch 6 began 1 2", "touch 1.5 began 1 2"})
+    EXPECT_EQ(say(wrong), "error: fingers are counted from 1 to 5 (column 7)") << wrong;
+  EXPECT_THAT(phone_.done,
+              ElementsAre("finger 2 began 1 2", "began 3 4", "ended 3 4", "finger 2 ended 5 6"));
+}
+
+TEST_F(Sessions, RestSaysWhatKeepsThePhoneFromIt) {
+  EXPECT_EQ(say("rest"), "ok");
+  phone_.refusal = "the phone is locked";
+  EXPECT_EQ(say("rest"), "error: the phone is locked");
+  EXPECT_THAT(say("rest now"), StartsWith("error: nothing more belongs here"));
+}
+
 TEST_F(Sessions, DragMovesOnceAFrameAtASteadySpeed) {
   EXPECT_EQ(say("drag 0 0 30 60 0.05"), "ok");
   EXPECT_THAT(phone_.done,
