@@ -1,131 +1,136 @@
 #include <fmt/format.h>
 
-#include <charconv>
-#include <cstdio>
-#include <cstring>
-#include <map>
+#include <CLI/CLI.hpp>
+#include <chrono>
+#include <fstream>
 
-#include "tests/random_use/panel_reading.h"
+#include "tests/random_use/oracle.h"
 #include "tests/random_use/random_user.h"
-#include "tests/support/media_fixtures.h"
+#include "tests/random_use/shrinking.h"
 
-// Uses a phone at random for a while of its own clock and looks after every pause whether the panel
-// is where it says: `random_use SEED SECONDS [aloud]`. Ends with 1 at the first fault, having said
-// how to see it again; aloud it tells the console's lines.
+// Uses phones at random and looks after every burst whether the phone can still be used. Ends with
+// 1 when there was a fault, having told the shortest script that shows it.
 
 namespace {
 
 using namespace random_use;
-using launcher_e2e::RunningPhone;
 
-// Few enough that the panel is not closed again most of the time.
-constexpr int kFewestActions = 1;
-constexpr int kMostActions = 12;
-constexpr int kSongs = 6;
-
-struct Music {
-  explicit Music(const std::filesystem::path& folder) : path(folder) {
-    std::filesystem::create_directories(path);
-    for (int number = 0; number < kSongs; ++number) {
-      host::media::SongTags tags;
-      tags.title = fmt::format("Song {}", number);
-      tags.artist = number % 2 ? "Anna" : "Bert";
-      tags.album = fmt::format("Album {}", number / 2);
-      media_tests::write_song(path / fmt::format("{}.flac", number), tags,
-                              media_tests::jpeg_picture(200, 200, 0x3060a0u * (number + 1u)), 4);
-    }
-  }
-  std::filesystem::path path;
+struct Options {
+  std::uint32_t first = 1;
+  std::uint32_t last = 1;
+  double seconds = 0;
+  double shrinking = 240;
+  std::string faults;
+  bool aloud = false;
 };
 
-/// What went wrong with the process itself, as its error stream tells.
-std::string fault_of(const RunningPhone& phone) {
-  for (const char* sign :
-       {"AddressSanitizer", "runtime error:", "SpringBoard ended", "called as", "hung"}) {
-    if (phone.count_of_errors_with(sign)) return sign;
+struct Figures {
+  int bursts = 0;
+  int actions = 0;
+  double simulated = 0;
+  double real = 0;
+  int faults = 0;
+  double most_memory = 0;
+
+  void add(const Figures& other) {
+    bursts += other.bursts;
+    actions += other.actions;
+    simulated += other.simulated;
+    real += other.real;
+    faults += other.faults;
+    most_memory = std::max(most_memory, other.most_memory);
   }
-  return {};
+  void print(const std::string& name) const {
+    fmt::print(
+        "{}: {} bursts, {} actions, {:.0f} simulated seconds, {:.0f} real seconds, {} MB, {}\n",
+        name, bursts, actions, simulated, real, static_cast<int>(most_memory),
+        faults ? fmt::format("{} faults", faults) : "no fault");
+    std::fflush(stdout);
+  }
+};
+
+void tell(const Story& story, std::uint32_t seed, const Options& options) {
+  std::string text = fmt::format("# Seed {}: {}\n", seed, story.fault.text);
+  text += "# options: --music DEVICE" + std::string(kSongs) + "\n";
+  for (const std::string& line : story.lines)
+    text += line + "\n";
+  fmt::print("{}", text);
+  std::fflush(stdout);
+  if (options.faults.empty()) return;
+  std::ofstream(fmt::format("{}/seed-{}.scn", options.faults, seed)) << text;
 }
 
-class Watch {
+/// One seed on one phone, to its end or its first fault.
+class Use {
  public:
-  Watch(RunningPhone& phone, RandomUser& user) : phone_(phone), user_(user) {}
+  Use(std::uint32_t seed, const Options& options)
+      : seed_(seed), options_(options), user_(phone_, seed), oracle_(phone_) {
+    if (options.aloud) phone_.say_aloud();
+  }
 
-  /// The first fault of the process or of the panel, which has come to rest; empty when all is
-  /// well.
-  std::string look() {
-    const auto reading = read_panel(phone_);
-    if (const std::string fault = fault_of(phone_); !fault.empty()) return fault;
-    if (!reading) return "the phone does not answer";
-    ++pauses_;
-    ++seen_[rest_of(*reading)];
-    if (const std::string text = contradiction(*reading); !text.empty())
-      return fmt::format("{}: {}", name_of(rest_of(*reading)), text);
-    return {};
-  }
-  /// Two movements at once leave the panel where neither would have: all that is promised then is
-  /// that the Home button puts it away.
-  std::string look_after_haste() {
-    user_.come_home();
-    user_.rest();
-    const auto reading = read_panel(phone_);
-    if (reading && (reading->is_show || reading->is_banner))
-      return fmt::format("{} after the Home button", name_of(rest_of(*reading)));
-    return look();
-  }
-  void report() const {
-    fmt::print("{} actions, {:.0f} s, {} pauses:", user_.actions(), user_.seconds(), pauses_);
-    for (const auto& [rest, times] : seen_)
-      fmt::print(" {} {},", name_of(rest), times);
-    fmt::print(" no fault\n");
+  Figures play() {
+    const auto start = std::chrono::steady_clock::now();
+    Figures figures;
+    user_.prepare();
+    while (phone_.seconds() < options_.seconds && !figures.faults) {
+      bursts_.push_back(phone_.lines().size());
+      user_.burst();
+      ++figures.bursts;
+      const std::size_t done = phone_.lines().size();
+      if (const auto fault = oracle_.judge()) {
+        ++figures.faults;
+        report(*fault, done);
+      }
+      figures.most_memory = std::max(figures.most_memory, phone_.memory().value_or(0));
+    }
+    figures.actions = user_.actions();
+    figures.simulated = phone_.seconds();
+    figures.real = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return figures;
   }
 
  private:
-  RunningPhone& phone_;
-  RandomUser& user_;
-  std::map<Rest, int> seen_;
-  int pauses_ = 0;
+  /// `done` lines were said before the phone was judged.
+  void report(const Fault& fault, std::size_t done) {
+    fmt::print("seed {}, burst {}: {}\n", seed_, bursts_.size(), fault.text);
+    if (fault.expectations.empty()) fmt::print("{}\n", phone_.errors());
+    std::fflush(stdout);
+    std::vector<std::string> lines = phone_.lines();
+    lines.resize(done);
+    tell(shrunk({fault, lines}, bursts_, options_.shrinking), seed_, options_);
+  }
+
+  std::uint32_t seed_;
+  const Options& options_;
+  UsedPhone phone_;
+  RandomUser user_;
+  Oracle oracle_;
+  std::vector<std::size_t> bursts_;
 };
 
-int use(std::uint32_t seed, double seconds, bool aloud) {
-  fmt::print("seed {}\n", seed);
-  std::fflush(stdout);
-  const media_tests::TemporaryFolder folder;
-  const Music music(folder / "music");
-  RunningPhone phone({"--headless", "--console", "--root", folder / "root", "--music", music.path});
-  RandomUser user(phone, seed, folder / "root", music.path);
-  if (aloud) user.say_aloud();
-  user.prepare();
-  Watch watch(phone, user);
-  int round = 0;
-  while (user.seconds() < seconds) {
-    const bool calm = round++ % 2 == 0;
-    user.begin_round(calm ? RandomUser::Mood::kCalm : RandomUser::Mood::kHasty);
-    user.act_some(kFewestActions, kMostActions);
-    user.rest();
-    const std::string fault = calm ? watch.look() : watch.look_after_haste();
-    if (fault.empty()) continue;
-    fmt::print("{}\nafter {} actions, at {:.2f} s of seed {}; last line: {}\n{}\n", fault,
-               user.actions(), user.seconds(), seed, user.last_line(), phone.errors());
-    return 1;
+int use(const Options& options) {
+  Figures all;
+  for (std::uint32_t seed = options.first; seed <= options.last; ++seed) {
+    const Figures figures = Use(seed, options).play();
+    figures.print(fmt::format("seed {}", seed));
+    all.add(figures);
   }
-  watch.report();
-  return 0;
+  if (options.last > options.first)
+    all.print(fmt::format("{} seeds", options.last - options.first + 1));
+  return all.faults ? 1 : 0;
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
-  std::uint32_t seed = 0;
-  double seconds = 0;
-  const auto read = [&](int index, auto& into) {
-    if (index >= count) return false;
-    const char* text = arguments[index];
-    return std::from_chars(text, text + std::strlen(text), into).ec == std::errc();
-  };
-  if (!read(1, seed) || !read(2, seconds)) {
-    std::fputs("usage: random_use SEED SECONDS [aloud]\n", stderr);
-    return 2;
-  }
-  return use(seed, seconds, count > 3);
+  Options options;
+  CLI::App parser{"Uses phones at random, one for each seed, and tells what they do not survive"};
+  parser.add_option("first", options.first, "The first seed")->required();
+  parser.add_option("last", options.last, "The last seed")->required();
+  parser.add_option("seconds", options.seconds, "Of each phone's clock")->required();
+  parser.add_option("--shrinking", options.shrinking, "Real seconds spent on each fault's script");
+  parser.add_option("--faults", options.faults, "A folder for the scripts");
+  parser.add_flag("--aloud", options.aloud, "Tells the console's lines");
+  CLI11_PARSE(parser, count, arguments);
+  return use(options);
 }

@@ -1,0 +1,111 @@
+#include "tests/random_use/shrinking.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <chrono>
+
+namespace random_use {
+namespace {
+
+using Lines = std::vector<std::string>;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::string_view kAdvance = "advance ";
+
+bool is_pause(const std::string& line) {
+  return line.starts_with(kAdvance);
+}
+
+/// Pauses in a row are one.
+Lines with_whole_pauses(const Lines& lines) {
+  Lines made;
+  for (const std::string& line : lines) {
+    if (!made.empty() && is_pause(line) && is_pause(made.back())) {
+      const auto seconds = [](const std::string& pause) {
+        return std::stod(pause.substr(kAdvance.size()));
+      };
+      made.back() = fmt::format("{}{:.6g}", kAdvance, seconds(made.back()) + seconds(line));
+    } else {
+      made.push_back(line);
+    }
+  }
+  return made;
+}
+
+class Shrinking {
+ public:
+  Shrinking(Story story, double seconds)
+      : story_(std::move(story)),
+        end_(Clock::now() +
+             std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds))) {}
+
+  bool has_time() const { return Clock::now() < end_; }
+  /// Takes the lines in place of those before if they show the fault too.
+  bool take(const Lines& lines) {
+    auto played = replayed(lines, story_.fault.kind);
+    if (!played) return false;
+    lines_ = with_whole_pauses(lines);
+    story_ = std::move(*played);
+    return true;
+  }
+  const Lines& lines() const { return lines_; }
+  Story story() { return std::move(story_); }
+
+  /// Takes out parts of the lines, smaller and smaller ones, until no single line can be spared.
+  void leave_out() {
+    for (std::size_t size = std::max<std::size_t>(lines_.size() / 2, 1); has_time(); size /= 2) {
+      bool any = true;
+      while (any && has_time())
+        any = leave_out_parts_of(size) && size == 1;
+      if (size <= 1) return;
+    }
+  }
+
+ private:
+  bool leave_out_parts_of(std::size_t size) {
+    bool any = false;
+    // From the end: what is done last is spared least often, and its going makes the rest idle.
+    for (std::size_t end = lines_.size(); end > 0 && has_time();) {
+      const std::size_t start = end > size ? end - size : 0;
+      Lines fewer = lines_;
+      fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(start),
+                  fewer.begin() + static_cast<std::ptrdiff_t>(end));
+      any |= take(fewer);
+      end = start;
+    }
+    return any;
+  }
+
+  Story story_;
+  Lines lines_;
+  Clock::time_point end_;
+};
+
+}  // namespace
+
+std::optional<Story> replayed(const Lines& lines, const std::string& kind) {
+  UsedPhone phone;
+  for (const std::string& line : lines)
+    phone.say(line);
+  const auto fault = Oracle(phone).judge();
+  if (!fault || fault->kind != kind) return std::nullopt;
+  Lines played = phone.lines();
+  played.insert(played.end(), fault->expectations.begin(), fault->expectations.end());
+  return Story{*fault, played};
+}
+
+Story shrunk(Story story, const std::vector<std::size_t>& bursts, double seconds) {
+  const Lines whole = story.lines;
+  Shrinking shrinking(std::move(story), seconds);
+  bool fails = false;
+  for (std::size_t last = 1; !fails && last < bursts.size() && shrinking.has_time(); last *= 4) {
+    const auto start = static_cast<std::ptrdiff_t>(bursts[bursts.size() - last]);
+    fails = shrinking.take(Lines(whole.begin() + start, whole.end()));
+  }
+  if (!fails) fails = shrinking.take(whole);
+  if (fails) shrinking.leave_out();
+  return shrinking.story();
+}
+
+}  // namespace random_use
