@@ -74,5 +74,27 @@ TEST_F(AlbumSlide, ADoubleTapSendsItBothWays) {
   EXPECT_EQ(x(), frame("blurTable").size.width);
 }
 
+TEST_F(AlbumSlide, WhatSendsItAsideEndsTheBounce) {
+  const std::function<void()> ways[] = {
+      [this] { objc::send<>(application, "playStop"_sel); },
+      [this] { objc::send<>(application, "dismisWithNoAction"_sel); },
+  };
+  for (const auto& send_aside : ways) {
+    switch_table();
+    advance(0.3);
+    send_aside();
+    settle();
+    EXPECT_EQ(x(), frame("blurTable").size.width);
+  }
+}
+
+TEST_F(AlbumSlide, TwiceDuringTheBounceThereIsOneBounce) {
+  switch_table();
+  advance(0.3);
+  const auto legs = legs_of([this] { switch_table(); }, 1.5);
+  EXPECT_EQ(legs.size(), 5u);
+  EXPECT_EQ(x(), 0);
+}
+
 }  // namespace
 }  // namespace host::test

@@ -1,4 +1,5 @@
 #include "host/springboard/system_actions.h"
+#include "platform/UIKit/UITextField.h"
 #include "tests/tweak/banner_fixture.h"
 
 // Fingers, gestures and buttons that come while the banner is on its way, and what it leaves to the
@@ -113,6 +114,14 @@ TEST_F(InterruptedBanner, ABannerThatGoesCannotBeGrabbed) {
   settle();
   expect_gone();
   EXPECT_FALSE(is("showed"));
+}
+
+TEST_F(InterruptedBanner, PushedUpItTakesTheKeyboardAlong) {
+  pull_open();
+  const auto field = global<UITextField>("searchBar");
+  ASSERT_TRUE(field.becomeFirstResponder());
+  send_off();
+  EXPECT_FALSE(field.isFirstResponder());
 }
 
 TEST_F(InterruptedBanner, SentOffUnderTheFingerItIsGone) {

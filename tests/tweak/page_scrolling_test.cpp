@@ -152,6 +152,18 @@ TEST_F(Pages, ADragFromTheArtworkRecordsThePlaces) {
   lift();
 }
 
+TEST_F(Pages, PlacesThatAreRecordedWhileTheControlsMoveAreNotMovedOnceMore) {
+  media().togglePlayPause();
+  ASSERT_GE(seconds_until([this] { return is("hide"); }), 0);
+  begin_drag_of_pages();
+  advance(0.5);
+  lift();
+  settle();
+  ASSERT_EQ(x(), 0);
+  EXPECT_THAT(frame("play").origin.y, IsNear(rest_["play"].origin.y - 45));
+  EXPECT_THAT(static_cast<CGFloat>(global<float>("firstPlay1")), IsNear(frame("play").origin.y));
+}
+
 TEST_F(Pages, ADragFromAnotherPageRecordsNothing) {
   turn_page(1);
   const float places[] = {global<float>("firstBack1"), global<float>("firstPlay1"),

@@ -131,5 +131,15 @@ TEST_F(SearchEditing, EditingAgainGoesOnFromWhatWasFound) {
   EXPECT_THAT(texts(), ElementsAre("Bravo"));
 }
 
+TEST_F(SearchEditing, ADragBackTakesTheKeyboardAway) {
+  tap_on_search();
+  ASSERT_TRUE(field().isFirstResponder());
+  drag(middle_of(view("music")), {screen().width / 2, 300}, 0.3);
+  lift();
+  settle();
+  EXPECT_FALSE(is("isShow"));
+  EXPECT_FALSE(field().isFirstResponder());
+}
+
 }  // namespace
 }  // namespace host::test

@@ -2,6 +2,7 @@
 
 #include "tweak/banner/controls_layout.h"
 #include "tweak/banner/grabber.h"
+#include "tweak/library/search.h"
 #include "tweak/movement/geometry.h"
 #include "tweak/movement/movement.h"
 #include "tweak/playback/share.h"
@@ -59,7 +60,7 @@ void showBanner(SpringBoard) {
   begin_movement(Movement::kNone);
   isGrabbing = NO;
   showed = NO;
-  if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
+  end_search_typing();
   show_artwork_page();
   grabbers.setHidden(NO);
   show_grabber(Grabber::kDragging);
@@ -77,6 +78,7 @@ void showBanner(SpringBoard) {
 
 void dismissBanner(SpringBoard) {
   take_composer_down();
+  end_search_typing();
   isBanner = NO;
   begin_movement(Movement::kBannerLeaving, &be_gone);
   UIView::animateWithDuration(kTravel, objc::block([] { hang_window(0); }), unless_replaced([] {

@@ -15,6 +15,8 @@ void stand_above_bottom(UIView view, CGFloat gap) {
   move_to_y(view, container.frame().size.height - view.frame().size.height - gap);
 }
 
+unsigned times_kept = 0;
+
 float y_of(UIView view) {
   return static_cast<float>(view.frame().origin.y);
 }
@@ -53,6 +55,11 @@ void keep_resting_places() {
   firstPlay1 = y_of(play);
   firstNext1 = y_of(next);
   firstBack1 = y_of(back);
+  ++times_kept;
+}
+
+unsigned times_resting_places_were_kept() {
+  return times_kept;
 }
 
 void rise_against(CGFloat distance) {

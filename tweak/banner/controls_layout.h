@@ -15,8 +15,12 @@ void stand_below_artwork();
 /// The layout of the hanging banner: everything at the bottom of the pages.
 void stand_at_bottom();
 
-/// Keeps the places from which the controls rise while the banner is pulled down.
+/// Keeps the places from which the controls rise while the banner is pulled down, and sink while
+/// pages are turned.
 void keep_resting_places();
+
+/// How often that was done.
+unsigned times_resting_places_were_kept();
 
 /// The controls rise against the window that was pulled down by `distance`; each stops below the
 /// one above it.

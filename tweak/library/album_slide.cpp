@@ -18,22 +18,30 @@ struct Swing {
 constexpr Swing kBounce[] = {{-20, 0.2}, {15, 0.15}, {-10, 0.15}, {5, 0.15}, {0, 0.15}};
 constexpr std::size_t kSwings = sizeof kBounce / sizeof *kBounce;
 
-void swing(std::size_t index) {
-  if (index == kSwings) return;
+// Counts the slides: the bounce of one that has been taken back must not go on.
+unsigned slides = 0;
+
+void swing(std::size_t index, unsigned slide) {
+  if (index == kSwings || slide != slides) return;
   UIView::animateWithDuration(kBounce[index].seconds, objc::block([index] {
                                 move_to(blurTable, kBounce[index].x, blurTable.frame().origin.y);
                               }),
-                              objc::block([index](BOOL) { swing(index + 1); }));
+                              objc::block([index, slide](BOOL) { swing(index + 1, slide); }));
 }
 
 }  // namespace
+
+void slide_album_table_aside() {
+  ++slides;
+  move_to(blurTable, blurTable.frame().size.width, 0);
+}
 
 void showTable(SpringBoard) {
   if (blurTable.frame().origin.x == 0) {
     UIView::animateWithDuration(kSlideOut, objc::block([] { slide_album_table_aside(); }));
     return;
   }
-  swing(0);
+  swing(0, ++slides);
 }
 
 }  // namespace sonavue

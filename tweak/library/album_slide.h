@@ -8,4 +8,7 @@ namespace sonavue {
 /// or out again without one.
 void showTable(SpringBoard self);
 
+/// Puts the table of the current album out of the artwork, to the right.
+void slide_album_table_aside();
+
 }  // namespace sonavue

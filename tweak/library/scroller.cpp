@@ -2,6 +2,7 @@
 
 #include "objc/class_builder.h"
 #include "platform/UIKit/UIScreen.h"
+#include "tweak/banner/controls_layout.h"
 #include "tweak/movement/geometry.h"
 #include "tweak/movement/movement.h"
 
@@ -47,11 +48,7 @@ void sink_controls(CGFloat fall) {
 // A drag that starts on another page goes on from what the last one recorded.
 void will_begin_dragging(Scroller, UIScrollView pages) {
   if (pages.contentOffset().x != artwork_page_offset().x) return;
-  const auto y_of = [](UIView view) { return static_cast<float>(view.frame().origin.y); };
-  firstContainer1 = y_of(container1);
-  firstPlay1 = y_of(play);
-  firstNext1 = y_of(next);
-  firstBack1 = y_of(back);
+  keep_resting_places();
   firstMusic = music.frame();
   firstMusicIcon = musicIcon.frame();
 }

@@ -28,6 +28,10 @@ void read_titles_again() {
   index().forget();
 }
 
+void end_search_typing() {
+  if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
+}
+
 void textDidChange(SpringBoard, UITextField field) {
   result.removeAllObjects();
   if (field.text().length() == 0) {

@@ -17,4 +17,7 @@ void textFieldDidBeginEditing(SpringBoard self, UITextField field);
 void textFieldDidEndEditing(SpringBoard self, UITextField field);
 BOOL textFieldShouldReturn(SpringBoard self, UITextField field);
 
+/// Takes the keyboard away, if it is there for the search field.
+void end_search_typing();
+
 }  // namespace sonavue

@@ -2,6 +2,7 @@
 
 #include "objc/class_builder.h"
 #include "tweak/globals.h"
+#include "tweak/library/search.h"
 #include "tweak/library/song_cell.h"
 
 namespace sonavue {
@@ -53,7 +54,7 @@ NSIndexPath will_select(Musicz, UITableView, NSIndexPath path) {
 }
 
 void did_select(Musicz, UITableView, NSIndexPath path) {
-  if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
+  end_search_typing();
   const MPMediaItem item = item_of(path);
   if (!item) return;
   // Nothing has ever been loaded: the system must first start playing by itself.

@@ -1,5 +1,7 @@
 #include "tweak/movement/drag.h"
 
+#include "tweak/library/album_slide.h"
+#include "tweak/library/search.h"
 #include "tweak/movement/geometry.h"
 #include "tweak/movement/icon_home.h"
 #include "tweak/movement/movement.h"
@@ -59,6 +61,7 @@ void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
 
 void begin_drag_back() {
   take_composer_down();
+  end_search_typing();
   begin_movement(Movement::kDragBack);
   firstPos = music.frame();
   window.setUserInteractionEnabled(NO);

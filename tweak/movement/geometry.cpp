@@ -37,10 +37,6 @@ void hang_window(CGFloat height) {
   window.setFrame({0, height - screen_height(), screen_width(), screen_height()});
 }
 
-void slide_album_table_aside() {
-  move_to(blurTable, blurTable.frame().size.width, 0);
-}
-
 CGPoint artwork_page_offset() {
   const CGRect frame = art.frame();
   return {frame.origin.x - (screen_width() - frame.size.width) * 0.5, 0};

@@ -30,9 +30,6 @@ void cover_screen_with_window();
 /// Hangs the window from the top of the screen by its last `height` points.
 void hang_window(CGFloat height);
 
-/// Slides the table of the current album out of the artwork, to the right.
-void slide_album_table_aside();
-
 /// The offset of `container` at which the artwork stands in the middle of the screen.
 CGPoint artwork_page_offset();
 

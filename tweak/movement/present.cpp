@@ -1,6 +1,8 @@
 #include "tweak/movement/present.h"
 
 #include "platform/SpringBoard/SBControlCenterController.h"
+#include "tweak/library/album_slide.h"
+#include "tweak/library/search.h"
 #include "tweak/movement/geometry.h"
 #include "tweak/movement/icon_home.h"
 #include "tweak/movement/movement.h"
@@ -85,7 +87,7 @@ void dismis(SpringBoard, objc::Block<void(BOOL)> completion) {
 }
 
 void dismisWithNoAction(SpringBoard self) {
-  if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
+  end_search_typing();
   // A panel that is on its way is closed as well; one that is closing goes on.
   if (icon_is_away() && movement() != Movement::kClosing) {
     const auto nothing = objc::block([](BOOL) {});

@@ -1,4 +1,5 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
+#include "tweak/library/album_slide.h"
 #include "tweak/library/album_table.h"
 #include "tweak/movement/geometry.h"
 #include "tweak/panel/pieces.h"

@@ -1,5 +1,6 @@
 #include "tweak/playback/layout.h"
 
+#include "tweak/banner/controls_layout.h"
 #include "tweak/movement/geometry.h"
 
 namespace sonavue {
@@ -23,6 +24,13 @@ void move_resting_places(CGFloat by) {
   firstBack1 += shift;
 }
 
+// Places that are kept while the controls move are the new ones already.
+auto resting_places_moved(CGFloat by) {
+  return objc::block([by, kept = times_resting_places_were_kept()](BOOL) {
+    if (kept == times_resting_places_were_kept()) move_resting_places(by);
+  });
+}
+
 bool window_is_fully_down() {
   return window.frame().origin.y == 0;
 }
@@ -41,7 +49,7 @@ void lay_out_full() {
         }
         container1.setAlpha(1);
       }),
-      objc::block([](BOOL) { move_resting_places(kLift); }));
+      resting_places_moved(kLift));
 }
 
 void lay_out_compact() {
@@ -54,7 +62,7 @@ void lay_out_compact() {
                                 }
                                 container1.setAlpha(0);
                               }),
-                              objc::block([](BOOL) { move_resting_places(-kLift); }));
+                              resting_places_moved(-kLift));
 }
 
 }  // namespace sonavue

@@ -1,6 +1,7 @@
 #include "tweak/playback/transport.h"
 
 #include "platform/Foundation/NSIndexPath.h"
+#include "tweak/library/album_slide.h"
 #include "tweak/library/song_cell.h"
 #include "tweak/library/song_list.h"
 #include "tweak/movement/geometry.h"
