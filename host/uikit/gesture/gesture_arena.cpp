@@ -92,9 +92,12 @@ void GestureArena::collect_recognizers(Touch& touch) {
 void GestureArena::tell_recognizers(UITouch touch, UIEvent event) {
   const NSSet touches = NSSet::setWithObject(touch);
   const auto recognizers = objc::state_of<Touch>(touch).recognizers();
+  const UITouchPhase phase = touch.phase();
   for (const auto& recognizer : recognizers) {
+    // One of them may have had the touch cancelled, which they have all heard by now.
+    if (touch.phase() != phase) return;
     if (state_of(recognizer.get()).is_over()) continue;
-    switch (touch.phase()) {
+    switch (phase) {
       case UITouchPhaseBegan:
         recognizer->touchesBegan(touches, event);
         break;

@@ -1,5 +1,7 @@
 #include "host/uikit/gesture/system_gestures.h"
 
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace host::uikit {
@@ -10,6 +12,18 @@ std::vector<SystemGestures*>& all() {
   return gestures;
 }
 
+/// Who has taken which finger.
+std::map<int, SystemGestures*>& owners() {
+  static std::map<int, SystemGestures*> owners;
+  return owners;
+}
+
+void hand_over(int finger, SystemGestures* owner, CGPoint screen_point, double timestamp) {
+  SystemGestures* before = std::exchange(owners()[finger], owner);
+  if (before && before != owner)
+    before->touch(finger, UITouchPhaseCancelled, screen_point, timestamp);
+}
+
 }  // namespace
 
 void add_system_gestures(SystemGestures* gestures) {
@@ -18,6 +32,7 @@ void add_system_gestures(SystemGestures* gestures) {
 
 void remove_system_gestures(SystemGestures* gestures) {
   std::erase(all(), gestures);
+  std::erase_if(owners(), [gestures](const auto& owned) { return owned.second == gestures; });
 }
 
 SystemGestures::Claim system_claim(int finger, UITouchPhase phase, CGPoint screen_point,
@@ -26,8 +41,11 @@ SystemGestures::Claim system_claim(int finger, UITouchPhase phase, CGPoint scree
   const auto present = all();
   for (SystemGestures* gestures : present) {
     const auto answer = gestures->touch(finger, phase, screen_point, timestamp);
-    if (answer == SystemGestures::Claim::System) claim = answer;
+    if (answer != SystemGestures::Claim::System) continue;
+    claim = answer;
+    hand_over(finger, gestures, screen_point, timestamp);
   }
+  if (phase == UITouchPhaseEnded || phase == UITouchPhaseCancelled) owners().erase(finger);
   return claim;
 }
 

@@ -10,7 +10,8 @@ namespace host::uikit {
 class SystemGestures {
  public:
   /// Whose the finger is from now on. A finger that is taken leaves the view that it was on, which
-  /// is told so, and comes to no window any more; the gestures see it to its end.
+  /// is told so, and comes to no window any more; the gestures see it to its end. When another
+  /// takes it later, the one that had it is shown that it is cancelled.
   enum class Claim { Windows, System };
 
   virtual ~SystemGestures() = default;

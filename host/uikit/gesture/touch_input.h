@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 
 #include "objc/ref.h"
 #include "platform/UIKit/UITouch.h"
@@ -12,29 +13,62 @@ namespace host::uikit {
 /// are seconds of the clock.
 class TouchInput {
  public:
+  TouchInput();
+  ~TouchInput();
+  TouchInput(const TouchInput&) = delete;
+  TouchInput& operator=(const TouchInput&) = delete;
+
   void began(int finger, CGPoint screen_point, double timestamp);
   void moved(int finger, CGPoint screen_point, double timestamp);
   void ended(int finger, CGPoint screen_point, double timestamp);
-  /// The system takes the finger away, when the screen locks for instance.
+  /// Whoever reports the finger has lost it: it is not on the screen any more.
   void cancelled(int finger, CGPoint screen_point, double timestamp);
   void cancel_all(double timestamp);
 
+  enum class Reach { Windows, Everybody };
+  /// Cancels the touches of fingers that stay where they are, and ignores these until they lift.
+  void take_away(Reach reach, double timestamp);
+
  private:
+  /// Whose a finger is. What it does as nobody's is ignored.
+  enum class Owner { Windows, System, Nobody };
+  struct Finger {
+    Owner owner = Owner::Windows;
+    CGPoint point;
+    /// Null where no view takes it.
+    objc::Ref<UITouch> touch;
+  };
   struct Tap {
     CGPoint point;
     double time = -1;
     NSUInteger count = 0;
   };
 
-  /// Has a gesture of the system taken the finger, now or before? It is with no window then.
-  bool is_the_systems(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp);
+  /// Shows the change to the gestures of the system. Is the finger still one for the windows then?
+  bool goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp);
+  void land(int finger, CGPoint screen_point, double timestamp);
   void move(int finger, CGPoint screen_point, double timestamp);
+  /// The finger has left the screen.
+  void forget(int finger, UITouchPhase phase, double timestamp);
+  void cancel(Finger& finger, double timestamp);
+  void end(UITouch touch, UITouchPhase phase, double timestamp);
   NSUInteger count_tap(CGPoint point, double timestamp);
-  void lift(int finger, CGPoint screen_point, double timestamp, UITouchPhase phase);
   void send(UITouch touch, double timestamp);
 
-  std::map<int, objc::Ref<UITouch>> fingers_;
+  /// Every finger on the screen.
+  std::map<int, Finger> fingers_;
+  /// The one that the system's gestures are just looking at.
+  std::optional<int> shown_;
   Tap last_tap_;
 };
+
+/// Takes every touch away from the views and recognisers that have it; they hear that it is
+/// cancelled. A finger that stays on the screen means nothing to anybody until it is lifted, but
+/// for one that a gesture of the system has taken: that stays with it.
+void cancel_every_touch();
+
+/// A screen that is off feels no finger. Those that are on it are taken from everybody, and from
+/// the system's gestures as well; one that outlasts the dark is ignored until it is lifted.
+void set_touches_enabled(bool enabled);
 
 }  // namespace host::uikit

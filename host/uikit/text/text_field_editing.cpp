@@ -42,7 +42,7 @@ BOOL TextField::become_first_responder() {
 
 BOOL TextField::resign_first_responder() {
   if (!self.isFirstResponder()) return super<BOOL>("resignFirstResponder"_sel);
-  if (!delegate_agrees("textFieldShouldEndEditing:"_sel)) return NO;
+  if (!must_resign() && !delegate_agrees("textFieldShouldEndEditing:"_sel)) return NO;
   if (!super<BOOL>("resignFirstResponder"_sel)) return NO;
   const auto alive = objc::Ref<UITextField>::retain(self);
   unmark_text();

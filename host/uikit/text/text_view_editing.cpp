@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "host/uikit/text/text_view.h"
+#include "host/uikit/view/responder.h"
 
 // How a text view is typed into, and what it asks and tells its delegate on the way.
 
@@ -36,7 +37,7 @@ BOOL TextView::become_first_responder() {
 
 BOOL TextView::resign_first_responder() {
   if (!self.isFirstResponder()) return super<BOOL>("resignFirstResponder"_sel);
-  if (!delegate_agrees("textViewShouldEndEditing:"_sel)) return NO;
+  if (!must_resign() && !delegate_agrees("textViewShouldEndEditing:"_sel)) return NO;
   if (!super<BOOL>("resignFirstResponder"_sel)) return NO;
   // Whoever hears of it may let go of the view.
   const auto alive = objc::Ref<UITextView>::retain(self);

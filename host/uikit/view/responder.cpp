@@ -1,5 +1,7 @@
 #include "host/uikit/view/responder.h"
 
+#include <utility>
+
 namespace host::uikit {
 namespace {
 
@@ -8,6 +10,7 @@ UIResponder current_first_responder;
 UIResponder announced;
 void (*first_responder_observer)() = nullptr;
 int changes_under_way = 0;
+bool everybody_must_resign = false;
 
 }  // namespace
 
@@ -31,6 +34,16 @@ UIResponder first_responder() {
   return current_first_responder;
 }
 
+void end_text_input() {
+  const bool before = std::exchange(everybody_must_resign, true);
+  current_first_responder.resignFirstResponder();
+  everybody_must_resign = before;
+}
+
+bool must_resign() {
+  return everybody_must_resign;
+}
+
 Responder::~Responder() {
   if (current_first_responder != self) return;
   const FirstResponderChange change;
@@ -52,7 +65,7 @@ BOOL Responder::become_first_responder() {
 
 BOOL Responder::resign_first_responder() {
   if (current_first_responder != self) return YES;
-  if (!self.canResignFirstResponder()) return NO;
+  if (!must_resign() && !self.canResignFirstResponder()) return NO;
   const FirstResponderChange change;
   current_first_responder = nil;
   return YES;

@@ -28,6 +28,11 @@ class Responder : public objc::Implementation<Responder, UIResponder> {
 /// Who gets the keys; nil when nobody does.
 UIResponder first_responder();
 
+/// Nobody has the keys any more: whoever has them must give them up, and is not asked.
+void end_text_input();
+/// Is that why the first responder resigns? Then there is nobody to ask whether it may.
+bool must_resign();
+
 /// Calls `observer` whenever somebody else gets the keys than before, or nobody.
 void observe_first_responder(void (*observer)());
 /// Calls it also when it is the same one, whose wishes have changed.

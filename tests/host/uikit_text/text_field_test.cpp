@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/uikit/text/key_input.h"
+#include "host/uikit/view/responder.h"
 #include "platform/UIKit/UITextField.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/host/uikit_text/view_test.h"
@@ -15,6 +16,7 @@ using host::uikit::type_text;
 
 std::vector<std::string> news;
 BOOL answer_to_begin = YES;
+BOOL answer_to_end = YES;
 BOOL answer_to_change = YES;
 BOOL answer_to_return = YES;
 
@@ -24,6 +26,9 @@ BOOL should_begin(NSObject, UITextField) {
 }
 void did_begin(NSObject, UITextField) {
   news.push_back("did begin");
+}
+BOOL should_end(NSObject, UITextField) {
+  return answer_to_end;
 }
 void did_end(NSObject, UITextField) {
   news.push_back("did end");
@@ -46,6 +51,7 @@ void make_listener_class() {
   objc::ClassBuilder("TextFieldListener", "NSObject")
       .method<&should_begin>("textFieldShouldBeginEditing:")
       .method<&did_begin>("textFieldDidBeginEditing:")
+      .method<&should_end>("textFieldShouldEndEditing:")
       .method<&did_end>("textFieldDidEndEditing:")
       .method<&should_change>("textField:shouldChangeCharactersInRange:replacementString:")
       .method<&should_return>("textFieldShouldReturn:")
@@ -58,7 +64,7 @@ class TextField : public host::test::TextViewTest {
   TextField() {
     make_listener_class();
     news.clear();
-    answer_to_begin = answer_to_change = answer_to_return = YES;
+    answer_to_begin = answer_to_end = answer_to_change = answer_to_return = YES;
     window_ = objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame({0, 0, 375, 667}));
     field = UITextField::alloc().initWithFrame({0, 0, 200, 25}).autorelease();
     window_->addSubview(field);
@@ -68,7 +74,7 @@ class TextField : public host::test::TextViewTest {
     field.setDelegate(listener_.get());
     field.addTarget(listener_.get(), "textDidChange:"_sel, UIControlEventEditingChanged);
   }
-  ~TextField() override { field.resignFirstResponder(); }
+  ~TextField() override { host::uikit::end_text_input(); }
 
   std::string text() const { return field.text().UTF8String(); }
   const host::uikit::Caret& caret() const {
@@ -103,6 +109,20 @@ TEST_F(TextField, TypingTellsDelegateAndTargetOfEveryCharacter) {
 TEST_F(TextField, NobodyHearsAboutTextThatIsSet) {
   field.setText("set"_ns);
   EXPECT_TRUE(news.empty());
+}
+
+TEST_F(TextField, MayKeepTheKeysUntilTheSystemEndsAllInput) {
+  field.becomeFirstResponder();
+  news.clear();
+  answer_to_end = NO;
+  EXPECT_FALSE(field.resignFirstResponder());
+  EXPECT_TRUE(field.isEditing());
+  host::uikit::end_text_input();
+  EXPECT_FALSE(field.isFirstResponder());
+  EXPECT_FALSE(field.isEditing());
+  EXPECT_EQ(news, (std::vector<std::string>{"did end"}));
+  field.becomeFirstResponder();
+  EXPECT_FALSE(field.resignFirstResponder()) << "and is asked again the next time";
 }
 
 TEST_F(TextField, TypingGoesNowhereWithoutAFirstResponder) {

@@ -9,6 +9,7 @@
 #include "host/uikit/gesture/touch_input.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/key_input.h"
+#include "host/uikit/view/responder.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/host/uikit_text/view_test.h"
 
@@ -23,6 +24,7 @@ constexpr CGFloat kLine = 20;  // about, at 17 points
 
 std::vector<std::string> news;
 BOOL answer_to_begin = YES;
+BOOL answer_to_end = YES;
 BOOL answer_to_change = YES;
 
 BOOL should_begin(NSObject, UITextView) {
@@ -31,6 +33,9 @@ BOOL should_begin(NSObject, UITextView) {
 }
 void did_begin(NSObject, UITextView) {
   news.push_back("did begin");
+}
+BOOL should_end(NSObject, UITextView) {
+  return answer_to_end;
 }
 void did_end(NSObject, UITextView) {
   news.push_back("did end");
@@ -49,6 +54,7 @@ void make_listener_class() {
   objc::ClassBuilder("TextViewListener", "NSObject")
       .method<&should_begin>("textViewShouldBeginEditing:")
       .method<&did_begin>("textViewDidBeginEditing:")
+      .method<&should_end>("textViewShouldEndEditing:")
       .method<&did_end>("textViewDidEndEditing:")
       .method<&should_change>("textView:shouldChangeTextInRange:replacementText:")
       .method<&did_change>("textViewDidChange:")
@@ -73,7 +79,7 @@ class TextView : public host::test::TextViewTest {
     host::uikit::export_text_view();
     make_listener_class();
     news.clear();
-    answer_to_begin = answer_to_change = YES;
+    answer_to_begin = answer_to_end = answer_to_change = YES;
     window_ = objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame({0, 0, 375, 667}));
     window_->setHidden(NO);
     view = UITextView::alloc().initWithFrame({0, 0, kWidth, kHeight}).autorelease();
@@ -85,7 +91,7 @@ class TextView : public host::test::TextViewTest {
     view.setDelegate(listener_.get());
   }
   ~TextView() override {
-    view.resignFirstResponder();
+    host::uikit::end_text_input();
     input_.cancel_all(clock.now());
     window_->setHidden(YES);
     window_.reset();
@@ -139,6 +145,15 @@ class TextView : public host::test::TextViewTest {
   objc::Ref<NSObject> listener_;
   host::uikit::TouchInput input_;
 };
+
+TEST_F(TextView, MayKeepTheKeysUntilTheSystemEndsAllInput) {
+  edit("abc");
+  answer_to_end = NO;
+  EXPECT_FALSE(view.resignFirstResponder());
+  host::uikit::end_text_input();
+  EXPECT_FALSE(view.isFirstResponder());
+  EXPECT_EQ(news, (std::vector<std::string>{"did end"}));
+}
 
 TEST_F(TextView, StartsEmptyAndNeverHasNilText) {
   EXPECT_EQ(text(), "");
