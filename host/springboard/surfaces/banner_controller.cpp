@@ -78,7 +78,8 @@ void BannerController::panned(UIPanGestureRecognizer pan) {
       break;
     default: {
       const CGFloat velocity = pan.velocityInView(nil).y;
-      if (way > kPullToCentre) {
+      const bool is_let_go = pan.state() == UIGestureRecognizerStateEnded;
+      if (is_let_go && way > kPullToCentre) {
         queue_.clear();
         send_away(0);
         return open_notification_centre();

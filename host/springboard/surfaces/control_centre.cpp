@@ -11,6 +11,7 @@
 #include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/system_actions.h"
 #include "host/springboard/view/make_view.h"
+#include "host/uikit/gesture/touch_input.h"
 
 namespace host::springboard {
 namespace {
@@ -26,6 +27,7 @@ ControlCentre::~ControlCentre() {
 }
 
 bool ControlCentre::bring_in() {
+  uikit::cancel_every_touch();
   const CGRect screen{{0, 0}, screen_grid().screen};
   if (!view_) view_ = make_view<SBControlCenterContainerView>(screen);
   take_down();
@@ -90,6 +92,10 @@ void ControlCentre::pull_moved(CGPoint point) {
 
 void ControlCentre::pull_ended(CGPoint, CGFloat velocity) {
   if (presented_ && motion_) settle(motion_->rest_after(velocity), velocity);
+}
+
+void ControlCentre::pull_cancelled() {
+  if (presented_ && motion_) self.dismissAnimated(YES);
 }
 
 void ControlCentre::panned(UIPanGestureRecognizer pan) {

@@ -29,6 +29,7 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
   void pull_began(CGPoint start) override;
   void pull_moved(CGPoint point) override;
   void pull_ended(CGPoint point, CGFloat velocity) override;
+  void pull_cancelled() override;
 
  private:
   /// False when somebody who heard of it has dismissed it there and then.

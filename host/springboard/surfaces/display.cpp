@@ -5,6 +5,7 @@
 #include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/view/make_view.h"
+#include "host/uikit/gesture/touch_input.h"
 
 namespace host::springboard {
 namespace {
@@ -23,17 +24,20 @@ Display::Display()
 }
 
 Display::~Display() {
+  uikit::set_touches_enabled(true);
   veil_->setHidden(YES);
   dark_->setHidden(YES);
 }
 
 void Display::turn_on() {
   is_on_ = true;
+  uikit::set_touches_enabled(true);
   dark_->setHidden(YES);
 }
 
 void Display::turn_off() {
   is_on_ = false;
+  uikit::set_touches_enabled(false);
   dark_->setHidden(NO);
 }
 

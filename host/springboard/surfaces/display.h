@@ -6,7 +6,8 @@
 namespace host::springboard {
 
 /// The display behind the glass: how bright it is, and whether it is on. A display that is off is
-/// black and takes no touches; one at full brightness costs nothing.
+/// black and feels no finger, and those that lie on it are taken away; one at full brightness costs
+/// nothing.
 class Display {
  public:
   Display();

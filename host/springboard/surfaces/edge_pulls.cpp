@@ -3,7 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "host/uikit/gesture/touch.h"
 #include "platform/UIKit/UIScreen.h"
 
 namespace host::springboard {
@@ -14,61 +13,64 @@ constexpr CGFloat kThreshold = 8;
 
 }  // namespace
 
-bool EdgePulls::take(UITouch touch, const std::function<void()>& cancel) {
-  if (touch_ && touch == *touch_) return move(touch, cancel);
-  const bool is_busy = touch_ && taken_;
-  if (!is_busy && touch.phase() == UITouchPhaseBegan) watch(touch);
-  return false;
+EdgePulls::EdgePulls(EdgePullTarget& top, EdgePullTarget& bottom) : top_(top), bottom_(bottom) {
+  uikit::add_system_gestures(this);
 }
 
-void EdgePulls::watch(UITouch touch) {
-  const CGPoint point = objc::state_of<uikit::Touch>(touch).landing_point();
+EdgePulls::~EdgePulls() {
+  uikit::remove_system_gestures(this);
+}
+
+EdgePulls::Claim EdgePulls::touch(int finger, UITouchPhase phase, CGPoint screen_point,
+                                  double timestamp) {
+  if (phase == UITouchPhaseBegan) {
+    if (!taken_) watch(finger, screen_point, timestamp);
+    return Claim::Windows;
+  }
+  if (finger_ != finger) return Claim::Windows;
+  velocity_.add(screen_point, timestamp);
+  const bool is_over = phase == UITouchPhaseEnded || phase == UITouchPhaseCancelled;
+  if (!is_over) follow(screen_point);
+  const Claim claim = taken_ ? Claim::System : Claim::Windows;
+  if (is_over) end(phase, screen_point, timestamp);
+  return claim;
+}
+
+void EdgePulls::watch(int finger, CGPoint point, double timestamp) {
   const CGFloat height = UIScreen::mainScreen().bounds().size.height;
   EdgePullTarget* target = nullptr;
   if (point.y <= kEdge) target = &top_;
   if (point.y >= height - kEdge) target = &bottom_;
   if (!target || !target->can_be_pulled()) return;
   target_ = target;
-  touch_.reset(touch);
+  finger_ = finger;
   start_ = point;
-  taken_ = false;
   velocity_.clear();
-  velocity_.add(point, touch.timestamp());
+  velocity_.add(point, timestamp);
 }
 
-bool EdgePulls::pulls_inwards(CGPoint point) const {
-  const CGFloat way = target_ == &top_ ? point.y - start_.y : start_.y - point.y;
-  return way >= kThreshold && way > std::abs(point.x - start_.x);
-}
-
-bool EdgePulls::move(UITouch touch, const std::function<void()>& cancel) {
-  auto& state = objc::state_of<uikit::Touch>(touch);
-  const CGPoint point = state.screen_location();
-  velocity_.add(point, touch.timestamp());
-  if (!state.is_down()) {
-    const bool was_taken = taken_;
-    end(touch);
-    return was_taken;
-  }
+void EdgePulls::follow(CGPoint point) {
+  const CGFloat inwards = target_ == &top_ ? point.y - start_.y : start_.y - point.y;
+  const CGFloat sideways = std::abs(point.x - start_.x);
   if (taken_) {
     target_->pull_moved(point);
-  } else if (pulls_inwards(point)) {
+  } else if (sideways >= kThreshold && sideways >= inwards) {
+    finger_.reset();
+  } else if (inwards >= kThreshold) {
     taken_ = true;
-    state.lift(UITouchPhaseCancelled, touch.timestamp());
-    cancel();
     target_->pull_began(start_);
     target_->pull_moved(point);
-  } else {
-    return false;
   }
-  return true;
 }
 
-void EdgePulls::end(UITouch touch) {
-  const CGPoint point = objc::state_of<uikit::Touch>(touch).screen_location();
-  touch_.reset();
-  if (std::exchange(taken_, false))
-    target_->pull_ended(point, velocity_.velocity(touch.timestamp()).y);
+void EdgePulls::end(UITouchPhase phase, CGPoint point, double timestamp) {
+  finger_.reset();
+  if (!std::exchange(taken_, false)) return;
+  if (phase == UITouchPhaseCancelled) {
+    target_->pull_cancelled();
+  } else {
+    target_->pull_ended(point, velocity_.velocity(timestamp).y);
+  }
 }
 
 }  // namespace host::springboard

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <functional>
+#include <optional>
 
+#include "host/uikit/gesture/system_gestures.h"
 #include "host/uikit/gesture/velocity_tracker.h"
-#include "objc/ref.h"
-#include "platform/UIKit/UITouch.h"
 
 namespace host::springboard {
 
@@ -17,29 +16,31 @@ class EdgePullTarget {
   virtual void pull_moved(CGPoint point) = 0;
   /// `velocity` is downwards, in points a second.
   virtual void pull_ended(CGPoint point, CGFloat velocity) = 0;
+  /// The finger was taken away.
+  virtual void pull_cancelled() = 0;
 };
 
-/// Watches for fingers that land on the top or the bottom edge and pull inwards. Until then their
-/// touches go to whatever lies there; from then on they are the system's, and whoever had them is
-/// told that they are cancelled.
-class EdgePulls {
+/// Watches for fingers that land on the top or the bottom edge and pull inwards. Until then they go
+/// to whatever lies there; from then on they are the system's. A finger that has gone sideways
+/// stays with what it is on, wherever it goes afterwards.
+class EdgePulls final : public uikit::SystemGestures {
  public:
-  EdgePulls(EdgePullTarget& top, EdgePullTarget& bottom) : top_(top), bottom_(bottom) {}
+  EdgePulls(EdgePullTarget& top, EdgePullTarget& bottom);
+  ~EdgePulls() override;
+  EdgePulls(const EdgePulls&) = delete;
+  EdgePulls& operator=(const EdgePulls&) = delete;
 
-  /// True when the touch, which has just changed, is the system's and nobody else is to hear of it.
-  /// `cancel` sends its event on, now that the touch is cancelled.
-  bool take(UITouch touch, const std::function<void()>& cancel);
+  Claim touch(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp) override;
 
  private:
-  void watch(UITouch touch);
-  bool pulls_inwards(CGPoint point) const;
-  bool move(UITouch touch, const std::function<void()>& cancel);
-  void end(UITouch touch);
+  void watch(int finger, CGPoint point, double timestamp);
+  void follow(CGPoint point);
+  void end(UITouchPhase phase, CGPoint point, double timestamp);
 
   EdgePullTarget& top_;
   EdgePullTarget& bottom_;
   EdgePullTarget* target_ = nullptr;
-  objc::Ref<UITouch> touch_;
+  std::optional<int> finger_;
   CGPoint start_;
   bool taken_ = false;
   uikit::VelocityTracker velocity_;

@@ -6,7 +6,9 @@
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/system/spring_board_application.h"
+#include "host/springboard/system_actions.h"
 #include "host/springboard/view/make_view.h"
+#include "host/uikit/view/responder.h"
 
 namespace host::springboard {
 namespace {
@@ -21,6 +23,7 @@ LockScreen::~LockScreen() {
 
 void LockScreen::handle_display_turned_off() {
   SharedPart<Display>::get().turn_off();
+  uikit::end_text_input();
   if (locked_) {
     panel_->sleep();
     return;
@@ -31,8 +34,7 @@ void LockScreen::handle_display_turned_off() {
   close_surfaces_at_once();
   window_ = make_view<UIWindow>(UIScreen::mainScreen().bounds());
   window_->setWindowLevel(kLockScreenLevel);
-  panel_ = std::make_unique<LockScreenPanel>(*window_, *configuration().wall_clock,
-                                             [this] { self.prepareForUIUnlock(); });
+  panel_ = std::make_unique<LockScreenPanel>(*window_, *configuration().wall_clock, &unlock);
   panel_->show(messages_.all());
   window_->setHidden(NO);
   set_status_bar_locked(true);

@@ -6,6 +6,7 @@
 #include "host/springboard/surfaces/display.h"
 #include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/surfaces/window_levels.h"
+#include "host/uikit/gesture/touch_input.h"
 #include "platform/SpringBoard/SBControlCenterController.h"
 
 namespace host::springboard {
@@ -16,6 +17,7 @@ NotificationCentre::~NotificationCentre() {
 
 void NotificationCentre::bring_in() {
   close_at_once();
+  uikit::cancel_every_touch();
   self.hostWillPresent();
   presented_ = YES;
   window_ = make_surface_window(kNotificationCentreLevel);
@@ -76,6 +78,10 @@ void NotificationCentre::pull_moved(CGPoint point) {
 
 void NotificationCentre::pull_ended(CGPoint, CGFloat velocity) {
   if (presented_ && motion_) settle(motion_->rest_after(velocity), velocity);
+}
+
+void NotificationCentre::pull_cancelled() {
+  close();
 }
 
 void NotificationCentre::panned(UIPanGestureRecognizer pan) {

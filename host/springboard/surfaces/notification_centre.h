@@ -37,6 +37,7 @@ class NotificationCentre
   void pull_began(CGPoint start) override;
   void pull_moved(CGPoint point) override;
   void pull_ended(CGPoint point, CGFloat velocity) override;
+  void pull_cancelled() override;
 
  private:
   void bring_in();

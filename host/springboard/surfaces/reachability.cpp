@@ -6,6 +6,7 @@
 #include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/view/make_view.h"
+#include "host/uikit/gesture/touch_input.h"
 #include "host/uikit/view/window_list.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
@@ -33,6 +34,8 @@ void Reachability::handle_activated() {
   if (active_) return;
   active_ = YES;
   take_down();
+  // The windows move away under them.
+  uikit::cancel_every_touch();
   for (const UIWindow window : uikit::visible_windows()) {
     if (window.windowLevel() <= UIWindowLevelStatusBar)
       moved_.push_back(objc::Ref<UIWindow>::retain(window));

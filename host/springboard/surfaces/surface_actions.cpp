@@ -10,6 +10,7 @@
 #include "host/springboard/surfaces/volume_overlay.h"
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/system_actions.h"
+#include "host/uikit/gesture/touch_input.h"
 #include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBMediaController.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
@@ -146,11 +147,14 @@ bool toggle_reachability() {
 }
 
 void lock() {
+  // Whoever hears of it finds no finger on the screen any more.
+  display().turn_off();
   lock_controller()._handleDisplayTurnedOff();
 }
 
 void unlock() {
   wake_display();
+  uikit::cancel_every_touch();
   lock_controller().prepareForUIUnlock();
 }
 

@@ -5,7 +5,6 @@
 #include "host/springboard/surfaces/control_centre.h"
 #include "host/springboard/surfaces/notification_centre.h"
 #include "host/springboard/system/ui_controller.h"
-#include "host/uikit/gesture/event.h"
 #include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
@@ -19,12 +18,6 @@ void SpringBoardApplication::application_did_finish_launching(objc::Object appli
   edge_pulls_ = std::make_unique<EdgePulls>(
       objc::state_of<NotificationCentre>(SharedInstance<SBNotificationCenterViewController>::get()),
       objc::state_of<ControlCentre>(SBControlCenterController::sharedInstance()));
-}
-
-void SpringBoardApplication::send_event(UIEvent event) {
-  const UITouch touch = objc::state_of<uikit::Event>(event).changed_touch();
-  const auto go_on = [&] { super<>("sendEvent:"_sel, event); };
-  if (!edge_pulls_ || !touch || !edge_pulls_->take(touch, go_on)) go_on();
 }
 
 namespace {
@@ -51,7 +44,6 @@ void export_spring_board_application() {
       .state<SpringBoardApplication>()
       .method<&SpringBoardApplication::application_did_finish_launching>(
           "applicationDidFinishLaunching:")
-      .method<&SpringBoardApplication::send_event>("sendEvent:")
       .finish();
 }
 

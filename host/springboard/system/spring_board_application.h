@@ -16,8 +16,6 @@ class SpringBoardApplication : public objc::Implementation<SpringBoardApplicatio
 
   /// Puts the home screen and the status bar on the screen.
   void application_did_finish_launching(objc::Object application);
-  /// Touches that the system takes for itself go no further.
-  void send_event(UIEvent event);
   StatusBar* status_bar() { return status_bar_.get(); }
 
  private:

@@ -11,6 +11,7 @@
 #include "host/springboard/switcher/screen_picture.h"
 #include "host/springboard/system/spring_board_application.h"
 #include "host/springboard/view/icon_view.h"
+#include "host/uikit/gesture/touch_input.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
 namespace host::springboard {
@@ -39,6 +40,7 @@ UIWindow UserInterfaceController::window() const {
 }
 
 BOOL UserInterfaceController::clicked_menu_button() {
+  uikit::cancel_every_touch();
   const SBIconController icons = SBIconController::sharedInstance();
   if (close_top_surface()) return YES;
   if (is_locked()) return NO;
@@ -61,6 +63,7 @@ BOOL UserInterfaceController::clicked_menu_button() {
 
 BOOL UserInterfaceController::handle_menu_double_tap() {
   if (is_locked()) return NO;
+  uikit::cancel_every_touch();
   while (close_top_surface()) {
   }
   if (app_switcher().is_showing()) {
@@ -86,6 +89,7 @@ void UserInterfaceController::leave_application() {
 
 void UserInterfaceController::activate_application_animated(SBApplication application) {
   if (!application) return;
+  uikit::cancel_every_touch();
   const SBIconController icons = SBIconController::sharedInstance();
   icons.setIsEditing(NO);
   const SBIcon icon =

@@ -7,6 +7,7 @@
 
 #include "host/uikit/alert/alert_button.h"
 #include "host/uikit/view/touch_hold.h"
+#include "host/uikit/gesture/touch_input.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::uikit {
@@ -72,6 +73,7 @@ UIAlertViewDelegate AlertView::listener(objc::Sel selector) const {
 
 void AlertView::show() {
   if (window_) return;
+  cancel_every_touch();
   const CGRect screen = UIScreen::mainScreen().bounds();
   window_ = objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame(screen));
   window_->setWindowLevel(UIWindowLevelAlert);

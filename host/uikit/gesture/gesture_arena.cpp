@@ -121,6 +121,8 @@ void GestureArena::dispatch(UITouch touch, UIEvent event) {
   ++dispatching_;
   if (touch.phase() == UITouchPhaseBegan) collect_recognizers(objc::state_of<Touch>(touch));
   tell_recognizers(touch, event);
+  // This is never held back, not even in the middle of another event.
+  if (touch.phase() == UITouchPhaseCancelled) objc::state_of<Touch>(touch).cancel_in_view(event);
   --dispatching_;
   settle();
 }

@@ -66,6 +66,19 @@ TEST_F(ControlCentreTest, APullAlongTheEdgeIsNone) {
   EXPECT_FALSE(is_open());
 }
 
+TEST_F(ControlCentreTest, AFingerThatWentSidewaysStaysWithWhatItIsOn) {
+  const SBIconView phone = icon_view(kPhone);
+  const CGFloat x = on_screen(phone).x;
+  press({x, screen().height - 9});
+  move({x + 9, screen().height - 9});
+  move({x + 9, 300});
+  EXPECT_FALSE(is_open());
+  EXPECT_TRUE(phone.isHighlighted());
+  lift();
+  settle();
+  EXPECT_FALSE(is_open());
+}
+
 TEST_F(ControlCentreTest, TheIconUnderThePullLosesItsTouch) {
   // A folder of the dock's height: the icon of the dock is touched at the very bottom.
   const SBIconView phone = icon_view(kPhone);

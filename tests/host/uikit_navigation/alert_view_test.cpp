@@ -2,8 +2,10 @@
 
 #include "host/uikit/view/window_list.h"
 #include "platform/UIKit/UIAlertView.h"
+#include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tests/host/uikit_navigation/page_test.h"
+#include "tests/host/uikit_view/recording_target.h"
 
 namespace host::test {
 namespace {
@@ -124,6 +126,20 @@ TEST_F(AlertTest, TakesNoTouchesOnItsWayAndLetsNoneThrough) {
   EXPECT_EQ(told(), (Events{"clicked 0", "dismissed 0"}));
   tap(button);
   EXPECT_EQ(told(), Events{"behind ended"});
+}
+
+TEST_F(AlertTest, TakesTheFingersThatAreOnTheScreen) {
+  const auto target = RecordingTarget::make("pan");
+  RecordingTarget::add<UIPanGestureRecognizer>(add_view(kScreen), *target);
+  press({50, 50});
+  move({90, 50});
+  told();
+  const auto alert = show({"Yes"});
+  EXPECT_EQ(told(), Events{"pan cancelled"});
+  move({90, 90});
+  lift({90, 90});
+  EXPECT_EQ(told(), Events{});
+  alert.dismissWithClickedButtonIndex(0, NO);
 }
 
 TEST_F(AlertTest, ManyButtonsStandBelowEachOtherAndTheWayOutIsTheLast) {
