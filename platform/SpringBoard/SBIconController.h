@@ -13,8 +13,9 @@ struct SBIconController : objc::Bound<SBIconController, "SBIconController", NSOb
   BOOL hasOpenFolder() const { return call<"hasOpenFolder", BOOL>(); }
   void closeFolderAnimated(BOOL animated) const { call<"closeFolderAnimated:">(animated); }
   NSInteger currentIconListIndex() const { return call<"currentIconListIndex", NSInteger>(); }
-  void scrollToIconListAtIndex(NSInteger index, BOOL animated) const {
-    call<"scrollToIconListAtIndex:animate:">(index, animated);
+  /// NO when that page is the one that shows already.
+  BOOL scrollToIconListAtIndex(NSInteger index, BOOL animated) const {
+    return call<"scrollToIconListAtIndex:animate:", BOOL>(index, animated);
   }
   void iconTapped(SBIconView icon_view) const { call<"iconTapped:">(icon_view); }
 };

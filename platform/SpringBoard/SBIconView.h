@@ -14,6 +14,9 @@ enum SBIconLocation : int {
 struct SBIconView : objc::Bound<SBIconView, "SBIconView", UIView> {
   SBIcon icon() const { return call<"icon", SBIcon>(); }
   void setIcon(SBIcon icon) const { call<"setIcon:">(icon); }
+  /// An `SBIconViewDelegate`, not retained.
+  objc::Object delegate() const { return call<"delegate", objc::Object>(); }
+  void setDelegate(objc::Object delegate) const { call<"setDelegate:">(delegate); }
   int location() const { return call<"location", int>(); }
   void setLocation(int location) const { call<"setLocation:">(location); }
   BOOL isInDock() const { return call<"isInDock", BOOL>(); }

@@ -24,15 +24,15 @@ IconViewMap& view_map() {
 
 }  // namespace
 
-HomeScreen::HomeScreen(IconModel& model, IconTouchListener& listener, objc::Object scroll_delegate)
+HomeScreen::HomeScreen(IconModel& model, objc::Object delegate)
     : model_(model),
-      listener_(listener),
+      delegate_(delegate),
       grid_(screen_grid()),
       window_(make_view<UIWindow>({{0, 0}, grid_.screen})),
       content_(make_view<UIView>({{0, 0}, grid_.screen})) {
   add_wallpaper();
   window_->addSubview(*content_);
-  add_pages(scroll_delegate);
+  add_pages();
   add_dots();
   add_dock();
   sync(0);
@@ -54,7 +54,7 @@ void HomeScreen::show_wallpaper() {
   wallpaper_->setImage(picture(chosen));
 }
 
-void HomeScreen::add_pages(objc::Object scroll_delegate) {
+void HomeScreen::add_pages() {
   scroll_ = make_view<UIScrollView>(content_->bounds());
   scroll_->setPagingEnabled(YES);
   scroll_->setAlwaysBounceHorizontal(YES);
@@ -62,7 +62,7 @@ void HomeScreen::add_pages(objc::Object scroll_delegate) {
   scroll_->setShowsVerticalScrollIndicator(NO);
   // An icon darkens at once under the finger.
   scroll_->setDelaysContentTouches(NO);
-  scroll_->setDelegate(scroll_delegate);
+  scroll_->setDelegate(delegate_);
   content_->addSubview(*scroll_);
 }
 
@@ -135,7 +135,7 @@ void HomeScreen::sync_folder(const Slot& folder, SBIcon icon) {
 }
 
 SBIconView HomeScreen::view_for(SBIcon icon) const {
-  return view_map().view_for(icon, listener_);
+  return view_map().view_for(icon, delegate_);
 }
 
 void HomeScreen::remove_what_is_gone() {

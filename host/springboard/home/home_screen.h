@@ -6,9 +6,9 @@
 
 #include "host/springboard/icon/icon_model.h"
 #include "host/springboard/model/grid_metrics.h"
-#include "host/springboard/view/icon_touch_listener.h"
 #include "platform/SpringBoard/SBDockIconListView.h"
 #include "platform/SpringBoard/SBFolderIconListView.h"
+#include "platform/SpringBoard/SBIconView.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIPageControl.h"
 #include "platform/UIKit/UIScrollView.h"
@@ -19,8 +19,8 @@ namespace host::springboard {
 /// The window of the home screen: wallpaper, pages of icons, page dots and dock.
 class HomeScreen {
  public:
-  /// `scroll_delegate` hears of the pages' scrolling and is not retained.
-  HomeScreen(IconModel& model, IconTouchListener& listener, objc::Object scroll_delegate);
+  /// `delegate` hears of the icons' touches and of the pages' scrolling, and is not retained.
+  HomeScreen(IconModel& model, objc::Object delegate);
 
   UIWindow window() const { return window_.get(); }
   /// What stands on the wallpaper: pages, dots and dock.
@@ -46,7 +46,7 @@ class HomeScreen {
 
  private:
   void add_wallpaper();
-  void add_pages(objc::Object scroll_delegate);
+  void add_pages();
   void add_dots();
   void add_dock();
   void sync_page_count();
@@ -56,7 +56,7 @@ class HomeScreen {
   void remove_what_is_gone();
 
   IconModel& model_;
-  IconTouchListener& listener_;
+  objc::Object delegate_;
   GridMetrics grid_;
   objc::Ref<UIWindow> window_;
   objc::Ref<UIImageView> wallpaper_;

@@ -22,14 +22,14 @@ SBIconController IconController::init() {
   const auto made = super<SBIconController>("init"_sel);
   if (!made) return made;
   model_ = objc::Ref<SBIconModel>::adopt(SBIconModel::alloc().init());
-  home_ = std::make_unique<HomeScreen>(icon_model(), static_cast<IconTouchListener&>(*this), self);
+  home_ = std::make_unique<HomeScreen>(icon_model(), self);
   folders_ = std::make_unique<FolderPresenter>(*home_, self);
   drag_ = std::make_unique<IconDrag>(*home_, icon_model(), *folders_);
   return made;
 }
 
 IconController::~IconController() {
-  if (home_) view_map().forget_listener();
+  if (home_) view_map().forget_delegate();
 }
 
 void IconController::set_is_editing(BOOL editing) {
@@ -47,8 +47,12 @@ NSInteger IconController::current_icon_list_index() const {
   return static_cast<NSInteger>(home_->current_page());
 }
 
-void IconController::scroll_to_icon_list(NSInteger index, BOOL animated) {
-  home_->scroll_to_page(static_cast<std::size_t>(std::max<NSInteger>(index, 0)), animated);
+BOOL IconController::scroll_to_icon_list(NSInteger index, BOOL animated) {
+  const std::size_t before = home_->current_page();
+  const auto wanted = static_cast<std::size_t>(std::max<NSInteger>(index, 0));
+  const std::size_t page = std::min(wanted, icon_model().layout().pages().size() - 1);
+  home_->scroll_to_page(page, animated);
+  return page == before ? NO : YES;
 }
 
 void IconController::scroll_view_did_scroll(UIScrollView) {
@@ -57,43 +61,44 @@ void IconController::scroll_view_did_scroll(UIScrollView) {
 }
 
 void IconController::folder_background_tapped(UIGestureRecognizer) {
-  folders_->close(Motion::kAnimated);
+  self.closeFolderAnimated(YES);
 }
 
 void IconController::layout_changed() {
   drag_->end();
-  folders_->close(Motion::kAtOnce);
+  self.closeFolderAnimated(NO);
   icon_model().layout().remove_empty_pages();
   home_->sync(kRearranging);
   icon_model().save();
 }
 
-void IconController::icon_touched(SBIconView icon_view, CGPoint point) {
-  if (icon_view.isEditing()) drag_->begin(icon_view, point);
+void IconController::icon_touch_began(SBIconView icon_view) {
+  // Another finger may be carrying another icon.
+  if (icon_view.isEditing() && !drag_->is_active())
+    drag_->begin(icon_view, objc::state_of<IconView>(icon_view).touch_point());
 }
 
-void IconController::icon_dragged(SBIconView, CGPoint point) {
-  drag_->move(point);
+void IconController::icon_touch_moved(SBIconView icon_view, UITouch touch) {
+  if (drag_->carries(icon_view)) drag_->move(touch.locationInView(nil));
 }
 
-void IconController::icon_released(SBIconView) {
-  drag_->end();
+void IconController::icon_touch_ended(SBIconView icon_view, BOOL) {
+  if (drag_->carries(icon_view)) drag_->end();
 }
 
 void IconController::icon_tapped(SBIconView icon_view) {
   const SBIcon icon = icon_view.icon();
   if (icon.isFolderIcon()) {
-    drag_->end();
     folders_->open(to_string(icon.nodeIdentifier()), icon.displayName(), icon_view);
   } else if (!editing_) {
     icon.launch();
   }
 }
 
-void IconController::icon_pressed_long(SBIconView icon_view) {
+void IconController::icon_handle_long_press(SBIconView icon_view) {
   if (editing_) return;
   self.setIsEditing(YES);
-  drag_->begin(icon_view, objc::state_of<IconView>(icon_view).touch_point());
+  icon_touch_began(icon_view);
 }
 
 void export_icon_controller() {
@@ -108,7 +113,11 @@ void export_icon_controller() {
       .method<&IconController::close_folder_animated>("closeFolderAnimated:")
       .method<&IconController::current_icon_list_index>("currentIconListIndex")
       .method<&IconController::scroll_to_icon_list>("scrollToIconListAtIndex:animate:")
-      .method<&IconController::icon_tapped_message>("iconTapped:")
+      .method<&IconController::icon_touch_began>("iconTouchBegan:")
+      .method<&IconController::icon_touch_moved>("icon:touchMoved:")
+      .method<&IconController::icon_touch_ended>("icon:touchEnded:")
+      .method<&IconController::icon_tapped>("iconTapped:")
+      .method<&IconController::icon_handle_long_press>("iconHandleLongPress:")
       .method<&IconController::scroll_view_did_scroll>("scrollViewDidScroll:")
       .method<&IconController::folder_background_tapped>("folderBackgroundTapped:")
       .finish();

@@ -8,14 +8,14 @@
 #include "host/springboard/home/icon_drag.h"
 #include "objc/class_builder.h"
 #include "platform/SpringBoard/SBIconController.h"
+#include "platform/SpringBoard/SBIconViewDelegate.h"
 #include "platform/UIKit/UIGestureRecognizer.h"
 
 namespace host::springboard {
 
 /// The home screen's icons: it owns their model and their views, and decides what a touch on one
 /// means.
-class IconController final : public objc::Implementation<IconController, SBIconController>,
-                             private IconTouchListener {
+class IconController final : public objc::Implementation<IconController, SBIconController> {
  public:
   using Implementation::Implementation;
   ~IconController();
@@ -27,10 +27,15 @@ class IconController final : public objc::Implementation<IconController, SBIconC
   BOOL has_open_folder() const { return folders_->is_open(); }
   void close_folder_animated(BOOL animated);
   NSInteger current_icon_list_index() const;
-  void scroll_to_icon_list(NSInteger index, BOOL animated);
-  void icon_tapped_message(SBIconView icon_view) { icon_tapped(icon_view); }
+  BOOL scroll_to_icon_list(NSInteger index, BOOL animated);
   void scroll_view_did_scroll(UIScrollView view);
   void folder_background_tapped(UIGestureRecognizer recognizer);
+  // As the delegate of the icons' views.
+  void icon_touch_began(SBIconView icon_view);
+  void icon_touch_moved(SBIconView icon_view, UITouch touch);
+  void icon_touch_ended(SBIconView icon_view, BOOL lifted);
+  void icon_tapped(SBIconView icon_view);
+  void icon_handle_long_press(SBIconView icon_view);
 
   HomeScreen& home() { return *home_; }
   IconModel& icon_model() { return objc::state_of<IconModel>(model_.get()); }
@@ -38,12 +43,6 @@ class IconController final : public objc::Implementation<IconController, SBIconC
   void layout_changed();
 
  private:
-  void icon_touched(SBIconView icon_view, CGPoint point) override;
-  void icon_dragged(SBIconView icon_view, CGPoint point) override;
-  void icon_released(SBIconView icon_view) override;
-  void icon_tapped(SBIconView icon_view) override;
-  void icon_pressed_long(SBIconView icon_view) override;
-
   objc::Ref<SBIconModel> model_;
   std::unique_ptr<HomeScreen> home_;
   std::unique_ptr<FolderPresenter> folders_;

@@ -7,6 +7,7 @@
 #include "host/springboard/view/icon_view.h"
 #include "host/springboard/view/make_view.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
+#include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
 namespace host::springboard {
@@ -196,7 +197,7 @@ void IconDrag::aim_rested() {
       turn_page(home_.current_page() + 1);
       break;
     case Intent::kLeaveFolder:
-      folders_.close(Motion::kAnimated);
+      SBIconController::sharedInstance().closeFolderAnimated(YES);
       model_.layout().move_out_of_folder(id_);
       home_.sync(kMakingRoom);
       move(finger_);
@@ -214,7 +215,7 @@ void IconDrag::turn_page(std::size_t page) {
   if (page > pages.size() || alone_on_last) return;
   model_.layout().move(id_, {Area::kPage, page, {}, page < pages.size() ? pages[page].size() : 0});
   home_.sync(0);
-  home_.scroll_to_page(page, YES);
+  SBIconController::sharedInstance().scrollToIconListAtIndex(static_cast<NSInteger>(page), YES);
 }
 
 void IconDrag::set_target_raised(bool raised) {

@@ -19,6 +19,7 @@ class IconDrag {
   IconDrag& operator=(const IconDrag&) = delete;
 
   bool is_active() const { return static_cast<bool>(icon_view_); }
+  bool carries(SBIconView icon_view) const { return is_active() && *icon_view_ == icon_view; }
   /// Points are in the coordinates of the window.
   void begin(SBIconView icon_view, CGPoint point);
   void move(CGPoint point);

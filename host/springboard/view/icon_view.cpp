@@ -1,13 +1,12 @@
 #include "host/springboard/view/icon_view.h"
 
+#include <cmath>
+
 #include "host/springboard/pictures.h"
 #include "host/springboard/screen_grid.h"
 #include "host/springboard/view/jiggle.h"
 #include "host/springboard/view/make_view.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
-#include "platform/UIKit/UILongPressGestureRecognizer.h"
-#include "platform/UIKit/UITapGestureRecognizer.h"
-#include "platform/UIKit/UITouch.h"
 
 namespace host::springboard {
 namespace {
@@ -19,18 +18,27 @@ constexpr CGFloat kLabelHeight = 16;
 constexpr CGFloat kShadeAlpha = 0.4;
 constexpr double kScaling = 0.2;
 
-CGPoint window_point(NSSet touches) {
-  return objc::cast<UITouch>(touches.anyObject()).locationInView(nil);
+// So long a finger rests on an icon before the arranging begins, in seconds, and so still, in
+// points.
+constexpr double kHold = 0.5;
+constexpr CGFloat kStill = 10;
+
+/// The view takes one finger at a time.
+UITouch only(NSSet touches) {
+  return objc::cast<UITouch>(touches.anyObject());
 }
 
 }  // namespace
 
-SBIconView IconView::make(SBIcon icon, IconTouchListener& listener) {
+SBIconView IconView::make(SBIcon icon) {
   const CGSize size = screen_grid().icon_view_size();
   const auto made = objc::cast<SBIconView>(SBIconView::alloc().initWithFrame({{0, 0}, size}));
-  objc::state_of<IconView>(made).listener_ = &listener;
   made.setIcon(icon);
   return made;
+}
+
+void IconView::set_delegate(objc::Object delegate) {
+  delegate_ = objc::cast<SBIconViewDelegate>(delegate);
 }
 
 CGRect IconView::image_frame() const {
@@ -61,18 +69,6 @@ void IconView::build() {
   content_->addSubview(*shade_);
   label_.emplace(*content_, CGRect(-kLabelOverhang, image.max_y() + kLabelTop,
                                    image.size.width + 2 * kLabelOverhang, kLabelHeight));
-  add_recognizers();
-}
-
-void IconView::add_recognizers() {
-  auto tap = objc::Ref<UITapGestureRecognizer>::adopt(
-      UITapGestureRecognizer::alloc().initWithTarget(self, "tapped:"_sel));
-  self.addGestureRecognizer(*tap);
-  auto press = objc::Ref<UILongPressGestureRecognizer>::adopt(
-      UILongPressGestureRecognizer::alloc().initWithTarget(self, "pressedLong:"_sel));
-  // The same touch goes on to carry the icon.
-  press->setCancelsTouchesInView(NO);
-  self.addGestureRecognizer(*press);
 }
 
 void IconView::set_is_editing(BOOL editing) {
@@ -115,40 +111,54 @@ void IconView::set_image_scale(CGFloat scale) {
 
 void IconView::touches_began(NSSet touches, UIEvent event) {
   super<>("touchesBegan:withEvent:"_sel, touches, event);
-  touch_point_ = window_point(touches);
-  if (!self.isEditing()) self.setHighlighted(YES);
-  if (listener_) listener_->icon_touched(self, touch_point_);
+  landing_point_ = touch_point_ = only(touches).locationInView(nil);
+  is_held_ = has_strayed_ = false;
+  if (!self.isEditing()) {
+    self.setHighlighted(YES);
+    hold_.start(kHold, [this] { held(); });
+  }
+  delegate_.iconTouchBegan(self);
 }
 
 void IconView::touches_moved(NSSet touches, UIEvent event) {
   super<>("touchesMoved:withEvent:"_sel, touches, event);
-  touch_point_ = window_point(touches);
-  if (listener_) listener_->icon_dragged(self, touch_point_);
+  touch_point_ = only(touches).locationInView(nil);
+  const CGSize way{touch_point_.x - landing_point_.x, touch_point_.y - landing_point_.y};
+  if (std::hypot(way.width, way.height) > kStill) {
+    has_strayed_ = true;
+    hold_.stop();
+  }
+  delegate_.iconTouchMoved(self, only(touches));
 }
 
 void IconView::touches_ended(NSSet touches, UIEvent event) {
   super<>("touchesEnded:withEvent:"_sel, touches, event);
-  let_go();
+  const bool is_tapped = is_tapped_by(only(touches));
+  let_go(YES);
+  if (is_tapped) delegate_.iconTapped(self);
 }
 
 void IconView::touches_cancelled(NSSet touches, UIEvent event) {
   super<>("touchesCancelled:withEvent:"_sel, touches, event);
-  let_go();
+  let_go(NO);
 }
 
-void IconView::let_go() {
+/// A finger may stray within the icon; one that carries it is no tap.
+bool IconView::is_tapped_by(UITouch touch) const {
+  if (is_held_ || (has_strayed_ && self.isEditing())) return false;
+  return self.pointInside(touch.locationInView(self), nil);
+}
+
+void IconView::let_go(BOOL lifted) {
+  hold_.stop();
   self.setHighlighted(NO);
-  if (listener_) listener_->icon_released(self);
+  delegate_.iconTouchEnded(self, lifted);
 }
 
-void IconView::tapped(UIGestureRecognizer) {
-  if (listener_) listener_->icon_tapped(self);
-}
-
-void IconView::pressed_long(UIGestureRecognizer recognizer) {
-  if (recognizer.state() != UIGestureRecognizerStateBegan) return;
+void IconView::held() {
+  is_held_ = true;
   self.setHighlighted(NO);
-  if (listener_) listener_->icon_pressed_long(self);
+  delegate_.iconHandleLongPress(self);
 }
 
 void export_icon_view() {
@@ -156,6 +166,8 @@ void export_icon_view() {
       .state<IconView>()
       .method<&IconView::icon>("icon")
       .method<&IconView::set_icon>("setIcon:")
+      .method<&IconView::delegate>("delegate")
+      .method<&IconView::set_delegate>("setDelegate:")
       .method<&IconView::location>("location")
       .method<&IconView::set_location>("setLocation:")
       .method<&IconView::is_in_dock>("isInDock")
@@ -168,8 +180,6 @@ void export_icon_view() {
       .method<&IconView::touches_ended>("touchesEnded:withEvent:")
       .method<&IconView::touches_cancelled>("touchesCancelled:withEvent:")
       .method<&IconView::did_move_to_window>("didMoveToWindow")
-      .method<&IconView::tapped>("tapped:")
-      .method<&IconView::pressed_long>("pressedLong:")
       .finish();
 }
 

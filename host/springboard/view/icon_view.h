@@ -3,25 +3,27 @@
 #include <optional>
 
 #include "host/springboard/view/icon_label.h"
-#include "host/springboard/view/icon_touch_listener.h"
+#include "host/uikit/gesture/countdown.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
+#include "platform/SpringBoard/SBIconViewDelegate.h"
 #include "platform/UIKit/UIEvent.h"
-#include "platform/UIKit/UIGestureRecognizer.h"
 #include "platform/UIKit/UIImageView.h"
 
 namespace host::springboard {
 
-/// An icon on the screen. A tap and a long press come through recognisers, moving in the editing
-/// mode through the touches themselves: whoever takes the recognisers away leaves icons movable.
+/// An icon on the screen. Taps, holding and moving in the editing mode all come of the view's own
+/// touches and are told to its delegate; it has no recogniser. Whoever adds one that takes the
+/// touches away as it begins takes all of these.
 class IconView : public objc::Implementation<IconView, SBIconView> {
  public:
   using Implementation::Implementation;
 
   /// A new view for the icon, at the size of this screen's icons; +1.
-  static SBIconView make(SBIcon icon, IconTouchListener& listener);
-  void forget_listener() { listener_ = nullptr; }
+  static SBIconView make(SBIcon icon);
 
+  objc::Object delegate() const { return delegate_; }
+  void set_delegate(objc::Object delegate);
   SBIcon icon() const { return icon_.get(); }
   void set_icon(SBIcon icon);
   int location() const { return location_; }
@@ -37,30 +39,33 @@ class IconView : public objc::Implementation<IconView, SBIconView> {
   void touches_ended(NSSet touches, UIEvent event);
   void touches_cancelled(NSSet touches, UIEvent event);
   void did_move_to_window();
-  void tapped(UIGestureRecognizer recognizer);
-  void pressed_long(UIGestureRecognizer recognizer);
 
   /// Where the image stands, in the icon view's coordinates.
   CGRect image_frame() const;
   /// A lifted icon shows nothing of itself: its image is under the finger.
   void set_lifted(bool lifted);
   void set_image_scale(CGFloat scale);
-  /// Where the finger went down, in the window's coordinates.
+  /// Where the finger is, in the window's coordinates.
   CGPoint touch_point() const { return touch_point_; }
 
  private:
   void build();
-  void add_recognizers();
-  void let_go();
+  void held();
+  bool is_tapped_by(UITouch touch) const;
+  void let_go(BOOL lifted);
   void start_wobbling() const;
 
-  IconTouchListener* listener_ = nullptr;
+  SBIconViewDelegate delegate_;
   objc::Ref<SBIcon> icon_;
   objc::Ref<UIView> content_;
   objc::Ref<UIImageView> image_;
   objc::Ref<UIImageView> shade_;
   std::optional<IconLabel> label_;
+  CGPoint landing_point_;
   CGPoint touch_point_;
+  uikit::Countdown hold_;
+  bool is_held_ = false;
+  bool has_strayed_ = false;
   int location_ = SBIconLocationHomeScreen;
   BOOL editing_ = NO;
   BOOL highlighted_ = NO;

@@ -5,8 +5,8 @@
 
 namespace host::springboard {
 
-void IconViewMap::forget_listener() const {
-  for_each([](SBIconView view) { objc::state_of<IconView>(view).forget_listener(); });
+void IconViewMap::forget_delegate() const {
+  for_each([](SBIconView view) { view.setDelegate(nil); });
 }
 
 SBIconView IconViewMap::mapped_icon_view_for_icon(SBIcon icon) const {
@@ -14,9 +14,12 @@ SBIconView IconViewMap::mapped_icon_view_for_icon(SBIcon icon) const {
   return found == views_.end() ? SBIconView() : found->second.get();
 }
 
-SBIconView IconViewMap::view_for(SBIcon icon, IconTouchListener& listener) {
+SBIconView IconViewMap::view_for(SBIcon icon, objc::Object delegate) {
   auto& view = views_[icon.id()];
-  if (!view) view = objc::Ref<SBIconView>::adopt(IconView::make(icon, listener));
+  if (!view) {
+    view = objc::Ref<SBIconView>::adopt(IconView::make(icon));
+    view->setDelegate(delegate);
+  }
   return view.get();
 }
 

@@ -3,7 +3,6 @@
 #include <map>
 #include <utility>
 
-#include "host/springboard/view/icon_touch_listener.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
@@ -17,9 +16,9 @@ class IconViewMap : public objc::Implementation<IconViewMap, SBIconViewMap> {
 
   SBIconView mapped_icon_view_for_icon(SBIcon icon) const;
   /// The icon's view, made now if it has none.
-  SBIconView view_for(SBIcon icon, IconTouchListener& listener);
+  SBIconView view_for(SBIcon icon, objc::Object delegate);
   /// Nobody hears of touches any more: somebody may keep a view for longer than its screen.
-  void forget_listener() const;
+  void forget_delegate() const;
   /// Calls `visit` for each view.
   template <class Visit>
   void for_each(Visit visit) const {
@@ -31,6 +30,7 @@ class IconViewMap : public objc::Implementation<IconViewMap, SBIconViewMap> {
   void remove_unless(Keep keep) {
     std::erase_if(views_, [&](const auto& entry) {
       if (keep(entry.second->icon())) return false;
+      entry.second->setDelegate(nil);
       entry.second->removeFromSuperview();
       return true;
     });

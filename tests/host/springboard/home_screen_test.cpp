@@ -125,22 +125,6 @@ TEST_F(HomeScreenTest, AnIconWithoutAProgramSaysSoAndHowToLeave) {
   EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
 }
 
-TEST_F(HomeScreenTest, WithoutItsRecognizersAnIconNeitherLaunchesNorEdits) {
-  launch();
-  const UIWindow window = SBUIController::sharedInstance().window();
-  const NSUInteger views = window.subviews().count();
-  const SBIconView music = icon_view(kMusic);
-  EXPECT_EQ(music.gestureRecognizers().count(), 2u);
-  music.setGestureRecognizers(NSArray::array());
-  tap(on_screen(kMusic));
-  settle();
-  EXPECT_EQ(window.subviews().count(), views);
-  press(on_screen(kMusic));
-  advance(1);
-  lift();
-  EXPECT_FALSE(SBIconController::sharedInstance().isEditing());
-}
-
 TEST_F(HomeScreenTest, AFingerDarkensTheIconUntilItLeaves) {
   launch();
   press(on_screen(kCalendar));

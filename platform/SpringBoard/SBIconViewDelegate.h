@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/SpringBoard/SBIconView.h"
+#include "platform/UIKit/UITouch.h"
+
+/// Whoever an icon's view tells of its touches.
+struct SBIconViewDelegate : objc::Bound<SBIconViewDelegate, "SBIconViewDelegate", NSObject> {
+  void iconTouchBegan(SBIconView icon_view) const { call<"iconTouchBegan:">(icon_view); }
+  void iconTouchMoved(SBIconView icon_view, UITouch touch) const {
+    call<"icon:touchMoved:">(icon_view, touch);
+  }
+  /// `lifted` is NO when the touch was taken away.
+  void iconTouchEnded(SBIconView icon_view, BOOL lifted) const {
+    call<"icon:touchEnded:">(icon_view, lifted);
+  }
+  void iconTapped(SBIconView icon_view) const { call<"iconTapped:">(icon_view); }
+  void iconHandleLongPress(SBIconView icon_view) const { call<"iconHandleLongPress:">(icon_view); }
+};
