@@ -54,7 +54,10 @@ bool ControlCentre::bring_in() {
 
 void ControlCentre::present_animated(BOOL animated) {
   if (presented_ || !bring_in()) return;
-  if (animated) {
+  if (is_pulled_) {
+    // The glass comes up to the finger, wherever on the edge it went down.
+    motion_->grab();
+  } else if (animated) {
     settle(Rest::kOpen, 0);
   } else {
     panel_->set_shade(1);
@@ -78,10 +81,10 @@ bool ControlCentre::can_be_pulled() const {
 }
 
 void ControlCentre::pull_began(CGPoint) {
-  if (!bring_in()) return;
-  // The glass comes up to the finger, wherever on the edge it went down.
   pulled_from_ = screen_grid().screen.height;
-  motion_->grab();
+  is_pulled_ = true;
+  self.presentAnimated(YES);
+  is_pulled_ = false;
 }
 
 void ControlCentre::pull_moved(CGPoint point) {
@@ -91,7 +94,10 @@ void ControlCentre::pull_moved(CGPoint point) {
 }
 
 void ControlCentre::pull_ended(CGPoint, CGFloat velocity) {
-  if (presented_ && motion_) settle(motion_->rest_after(velocity), velocity);
+  if (!presented_ || !motion_) return;
+  const Rest rest = motion_->rest_after(velocity);
+  if (rest == Rest::kClosed) return self.dismissAnimated(YES);
+  settle(rest, velocity);
 }
 
 void ControlCentre::pull_cancelled() {

@@ -44,6 +44,8 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
   std::unique_ptr<ControlCentrePanel> panel_;
   std::optional<SheetMotion> motion_;
   CGFloat pulled_from_ = 0;
+  /// Is it a finger that presents it?
+  bool is_pulled_ = false;
   BOOL presented_ = NO;
 };
 

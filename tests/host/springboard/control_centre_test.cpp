@@ -1,9 +1,13 @@
 #include "tests/host/springboard/surface_fixture.h"
+#include "tests/settings/replaced_method.h"
+#include "tests/tweak/method_spy.h"
 
 namespace host::springboard {
 namespace {
 
 using namespace test;
+
+void swallow(SBControlCenterController, BOOL) {}
 
 class ControlCentreTest : public SurfaceTest {
  protected:
@@ -52,6 +56,34 @@ TEST_F(ControlCentreTest, BeyondItsPlaceItGivesOnlyALittle) {
   lift();
   settle();
   EXPECT_NEAR(seen(), open, 0.5);
+}
+
+TEST_F(ControlCentreTest, APullPresentsItByTheMessageAndLettingGoEarlyDismissesItByTheOther) {
+  const MethodSpy<"presentAnimated:", void(SBControlCenterController, BOOL)> presents(
+      SBControlCenterController::cls());
+  const MethodSpy<"dismissAnimated:", void(SBControlCenterController, BOOL)> dismisses(
+      SBControlCenterController::cls());
+  drag(bottom_edge(), {middle().x, screen().height - 80}, 0.5, 0.3);
+  EXPECT_EQ(presents.count(), 1);
+  EXPECT_NEAR(seen(), 80, 0.5) << "and it follows the finger";
+  lift();
+  EXPECT_EQ(dismisses.count(), 1);
+  settle();
+  EXPECT_FALSE(control_centre().sheet());
+  fling(bottom_edge(), {middle().x, 250}, 0.3);
+  settle();
+  EXPECT_EQ(presents.count(), 2);
+  EXPECT_EQ(dismisses.count(), 1);
+  EXPECT_TRUE(is_open());
+}
+
+TEST_F(ControlCentreTest, WhoeverSwallowsTheMessageKeepsItClosed) {
+  const sonavue::test::ReplacedMethod<&swallow> replaced(SBControlCenterController::cls(),
+                                                         "presentAnimated:");
+  fling(bottom_edge(), {middle().x, 250}, 0.3);
+  settle();
+  EXPECT_FALSE(is_open());
+  EXPECT_FALSE(control_centre().sheet());
 }
 
 TEST_F(ControlCentreTest, APullThatBeginsAboveTheEdgeIsNone) {
