@@ -1,5 +1,6 @@
 #include "host/springboard/surfaces/volume_overlay.h"
 
+#include "host/uikit/view/window_list.h"
 #include "tests/host/springboard/surface_fixture.h"
 
 namespace host::springboard {
@@ -34,6 +35,20 @@ TEST_F(VolumeOverlayTest, EveryPressKeepsIt) {
   press_volume(VolumeButton::kUp);
   advance(1);
   EXPECT_TRUE(overlay().is_showing());
+}
+
+TEST_F(VolumeOverlayTest, ItLiesAboveWhatExtensionsAndAlertsPutUp) {
+  const auto alert =
+      objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame({{0, 0}, screen()}));
+  alert->setWindowLevel(UIWindowLevelAlert);
+  alert->setHidden(NO);
+  press_volume(VolumeButton::kUp);
+  const UIWindow top = uikit::visible_windows().back();
+  EXPECT_NE(top, *alert);
+  EXPECT_FALSE(top.isUserInteractionEnabled()) << "and lets touches through";
+  overlay().hide_at_once();
+  EXPECT_EQ(uikit::visible_windows().back(), *alert);
+  alert->setHidden(YES);
 }
 
 TEST_F(VolumeOverlayTest, TheControlCentreNeedsNone) {
