@@ -46,6 +46,26 @@ TEST_F(Extensions, AnotherOneOfAnotherShapeWorksBesideOurs) {
   EXPECT_EQ(phone.count_of_errors_with("loaded Whisper"), 1);
 }
 
+TEST_F(Extensions, AnotherOneHearsTheTapsOnTheIconThatOursDrags) {
+  install("Eavesdropper", TEST_LISTENING_EXTENSION);
+  switch_drag_on();
+  RunningPhone phone(headless({"--console"}));
+  EXPECT_EQ(phone.ask("advance 1"), "ok");
+  EXPECT_EQ(phone.ask("print [[musicIcon gestureRecognizers] count]"), "1");
+  EXPECT_EQ(phone.ask("tap on musicIcon"), "ok");
+  EXPECT_EQ(phone.ask("print [Eavesdropper liftedFingers]"), "1");
+  EXPECT_EQ(phone.ask("print [Eavesdropper tappedIcons]"), "1");
+  EXPECT_EQ(phone.ask("advance 1"), "ok");
+  EXPECT_EQ(phone.ask("button home"), "ok");
+  EXPECT_EQ(phone.ask("advance 1"), "ok");
+  EXPECT_EQ(phone.ask("drag 57 332 157 232 0.5"), "ok");
+  EXPECT_EQ(phone.ask("advance 2"), "ok");
+  EXPECT_EQ(phone.ask("print isShow"), "YES");
+  EXPECT_EQ(phone.ask("print [Eavesdropper liftedFingers]"), "1")
+      << "the drag has taken the icon's touch";
+  EXPECT_EQ(phone.ask("print [Eavesdropper tappedIcons]"), "1");
+}
+
 TEST_F(Extensions, AFileThatIsNoLibraryIsOneLineAndNoCrash) {
   fs::create_directories(libraries());
   media_tests::write_bytes(libraries() / "Nonsense.so", "this is no library");
