@@ -1,27 +1,46 @@
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "host/foundation/canonical_search.h"
 #include "host/foundation/exports.h"
 #include "host/runtime/class_family.h"
 #include "platform/Foundation/NSString.h"
 
-// Looking for a text that begins with a mark, which belongs to a letter before it, ends in an
-// exception where the platform's strings only say that it is not there. Anybody may type one.
+// On the platform a text is found however its letters are spelt. Foundation's own search takes a
+// letter with a mark in one piece for another one than the same in two, and ends in an exception
+// over a text that begins with a mark.
 
 namespace host::foundation {
 namespace {
 
 objc::Imp original = nullptr;
 
+std::u16string units_of(NSString text) {
+  static_assert(sizeof(unichar) == sizeof(char16_t));
+  std::u16string units(text.length(), u'\0');
+  text.getCharacters(reinterpret_cast<unichar*>(units.data()), {0, units.size()});
+  return units;
+}
+
+std::optional<Stretch> find(std::u16string_view text, std::u16string_view wanted) {
+  const bool units_decide =
+      std::ranges::all_of(wanted, is_plain_letter) && std::ranges::all_of(text, is_plain_letter);
+  if (!units_decide) return find_canonical(text, wanted);
+  const std::size_t place = text.find(wanted);
+  if (place == text.npos) return std::nullopt;
+  return Stretch{place, wanted.size()};
+}
+
 NSRange range_of_string(NSString self, NSString wanted) {
-  using Function = NSRange (*)(objc::Id, objc::Sel, objc::Id);
-  const auto find = [&] {
-    return reinterpret_cast<Function>(original)(self.id(), "rangeOfString:"_sel, wanted.id());
-  };
   // No text at all is the caller's mistake, and stays one.
-  if (!wanted) return find();
-  try {
-    return find();
-  } catch (...) {
-    return {NSNotFound, 0};
+  if (!wanted || wanted.length() == 0) {
+    using Function = NSRange (*)(objc::Id, objc::Sel, objc::Id);
+    return reinterpret_cast<Function>(original)(self.id(), "rangeOfString:"_sel, wanted.id());
   }
+  const auto found = find(units_of(self), units_of(wanted));
+  return found ? NSRange{found->location, found->length} : NSRange{NSNotFound, 0};
 }
 
 }  // namespace

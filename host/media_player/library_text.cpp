@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/foundation/canonical_search.h"
 #include "host/media_player/range_exception.h"
 #include "host/media_player/shelf.h"
 #include "objc/ref.h"
@@ -21,12 +22,13 @@ class Wanted {
     thread_local Wanted wanted;
     if (!string) return nullptr;
     if (wanted.string_.get() != string) wanted.read(string);
-    return wanted.is_plain_ ? &wanted : nullptr;
+    return wanted.is_text_ ? &wanted : nullptr;
   }
 
-  /// Where it stands first in `text`; null when it does not.
+  /// Where it stands first in `text`, which is plain; null when it does not. In a plain text every
+  /// letter is of one piece, and so must those be that are found there.
   const char* find_in(std::string_view text) const {
-    if (text.size() < bytes_.size()) return nullptr;
+    if (!is_plain_ || text.size() < bytes_.size()) return nullptr;
     const void* found = bytes_.size() == 1
                             ? std::memchr(text.data(), bytes_.front(), text.size())
                             : ::memmem(text.data(), text.size(), bytes_.data(), bytes_.size());
@@ -38,10 +40,15 @@ class Wanted {
   void read(NSString string) {
     const char* text = string.UTF8String();
     bytes_ = text ? text : "";
-    const TextShape shape = shape_of(bytes_);
-    length_ = string.length();
+    TextShape shape = shape_of(bytes_);
     // A text that UTF-8 cannot hold, or that goes on after a zero, is shorter now than it was.
-    is_plain_ = shape.kind <= TextKind::plain && length_ > 0 && shape.length == length_;
+    is_text_ = shape.length > 0 && shape.length == string.length();
+    if (is_text_ && shape.kind == TextKind::other) {
+      bytes_ = foundation::composed(bytes_);
+      shape = shape_of(bytes_);
+    }
+    length_ = shape.length;
+    is_plain_ = shape.kind <= TextKind::plain;
     // One that may change has to be read every time.
     const bool may_change = string.isKindOfClass(objc_getClass("NSMutableString"));
     string_.reset(may_change ? NSString() : string);
@@ -50,6 +57,7 @@ class Wanted {
   objc::Ref<NSString> string_;
   std::string bytes_;
   NSUInteger length_ = 0;
+  bool is_text_ = false;
   bool is_plain_ = false;
 };
 
@@ -154,7 +162,7 @@ BOOL LibraryText::equals_foreign(NSString other) {
   objc::send<>(other, "getCharacters:range:"_sel, static_cast<unichar*>(theirs),
                NSRange{0, length});
   const std::span<const unichar> letters{theirs, length};
-  if (!std::ranges::all_of(letters, is_plain_letter)) {
+  if (!std::ranges::all_of(letters, foundation::is_plain_letter)) {
     return super<BOOL>("isEqualToString:"_sel, other);
   }
   if (length != length_) return NO;
@@ -190,12 +198,12 @@ NSString LibraryText::make_lowercase() {
 }
 
 NSRange LibraryText::range_of_string(NSString wanted) {
-  const Wanted* plain = kind_ <= TextKind::plain ? Wanted::for_string(wanted) : nullptr;
-  if (!plain) return super<NSRange>("rangeOfString:"_sel, wanted);
-  const char* found = plain->find_in(bytes());
+  const Wanted* text = kind_ <= TextKind::plain ? Wanted::for_string(wanted) : nullptr;
+  if (!text) return super<NSRange>("rangeOfString:"_sel, wanted);
+  const char* found = text->find_in(bytes());
   if (!found) return {NSNotFound, 0};
   const auto offset = static_cast<std::size_t>(found - bytes_);
-  return {kind_ == TextKind::ascii ? offset : units_before(bytes(), offset), plain->length()};
+  return {kind_ == TextKind::ascii ? offset : units_before(bytes(), offset), text->length()};
 }
 
 const char* LibraryText::utf8_string() {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/foundation/canonical_search.h"
+
 namespace host::media_player {
 namespace {
 
@@ -36,26 +38,13 @@ Letter first_letter(std::string_view text) {
 
 }  // namespace
 
-bool is_plain_letter(char32_t letter) {
-  struct Range {
-    char32_t first;
-    char32_t last;
-  };
-  // Latin, Cyrillic, the syllables and the ideographs in common use.
-  constexpr Range ranges[] = {
-      {0x01, 0x2ff}, {0x400, 0x482}, {0x3041, 0x3096}, {0x30a1, 0x30fa}, {0x4e00, 0x9fff}};
-  return std::ranges::any_of(ranges, [letter](const Range& range) {
-    return letter >= range.first && letter <= range.last;
-  });
-}
-
 TextShape shape_of(std::string_view utf8) {
   TextShape shape;
   while (!utf8.empty()) {
     const Letter letter = first_letter(utf8);
     if (letter.bytes == 0) return {TextKind::broken, 0};
     if (letter.bytes > 1 && shape.kind == TextKind::ascii) shape.kind = TextKind::plain;
-    if (!is_plain_letter(letter.code)) shape.kind = TextKind::other;
+    if (!foundation::is_plain_letter(letter.code)) shape.kind = TextKind::other;
     shape.length += letter.bytes == 4 ? 2 : 1;
     utf8.remove_prefix(letter.bytes);
   }

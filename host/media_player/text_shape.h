@@ -8,9 +8,8 @@ namespace host::media_player {
 
 enum class TextKind : std::uint8_t {
   ascii,
-  // Letters that are characters of their own and nothing else: no combining marks, nothing that is
-  // equal to other letters in another spelling, one UTF-16 unit each. Two such texts are equal, and
-  // one is found in the other, exactly when their bytes say so.
+  // Letters that `foundation::is_plain_letter` knows: two such texts are equal, and one is found in
+  // the other, exactly when their bytes say so.
   plain,
   other,
   broken,  // No UTF-8, or it holds a zero.
@@ -22,8 +21,6 @@ struct TextShape {
 };
 
 TextShape shape_of(std::string_view utf8);
-
-bool is_plain_letter(char32_t letter);
 
 /// Writes the `shape_of(utf8).length` UTF-16 units of a text that is not broken.
 void widen(std::string_view utf8, std::uint16_t* units);

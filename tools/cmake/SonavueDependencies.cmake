@@ -12,6 +12,7 @@ find_package(OpenSSL REQUIRED)
 find_package(LibArchive REQUIRED)
 include(GoogleTest)
 
+pkg_check_modules(glib REQUIRED IMPORTED_TARGET glib-2.0)
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)
 pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo pangoft2)
 pkg_check_modules(gdk_pixbuf REQUIRED IMPORTED_TARGET gdk-pixbuf-2.0)

@@ -55,6 +55,7 @@ std::vector<std::string> texts() {
           "שלום עולם",
           "\xe2\x84\xab \xc3\x85 A\xcc\x8a",
           "ﬁ ﬂ",
+          "각 가 사랑",
           "𝔘𝔫𝔦",
           "[.*+?^${}()|]",
           digits,
@@ -174,7 +175,8 @@ TEST_F(LibraryTexts, FindWhatAnOrdinaryStringFinds) {
     all.push_back(std::move(made));
   auto wanted = random_texts(120, 4);
   for (const char* more :
-       {"a", "ti", "title", "Σ", "ß", "本", "0", "9012", "é", "\xcc\x81", "*", ""})
+       {"a", "ti", "title", "Σ", "ß", "本", "0", "9012", "é", "e\xcc\x81", "\xcc\x81", "*", "",
+        "\xe2\x84\xaa", "か\xe3\x82\x99", "A\xcc\x8a", "E\xcc\x81", "각"})
     wanted.push_back(more);
   for (const std::string& needle : wanted) {
     for (const std::string& text : all) {
