@@ -61,6 +61,19 @@ TEST_F(Search, FoldsTheCaseBesideALooseMarkToo) {
     EXPECT_THAT(found_by(typed), UnorderedElementsAre(title, "Pinot Noir")) << typed;
 }
 
+TEST_F(Search, FindsALetterHoweverItIsSpelt) {
+  // The accent in one piece with its letter, and a sign of its own behind it.
+  const char* const one_piece = "Caf\u00e9";
+  const char* const two_pieces = "Cafe\u0301 noir";
+  open_with({one_piece, two_pieces});
+  for (const char* typed : {"\u00e9", "\u00c9", "e\u0301", "E\u0301", "caf\u00e9", "cafe\u0301"})
+    EXPECT_THAT(found_by(typed), UnorderedElementsAre(one_piece, two_pieces)) << typed;
+  EXPECT_THAT(found_by("\u00e9 n"), ElementsAre(two_pieces));
+  // The letter alone is another one.
+  for (const char* typed : {"cafe", "fe", "\u00e8", "e\u0300"})
+    EXPECT_THAT(found_by(typed), IsEmpty()) << typed;
+}
+
 TEST_F(Search, LooksAtTheTitleAlone) {
   open_with({"By Xenia"});
   // The artist of three songs and the album of three, and a title.

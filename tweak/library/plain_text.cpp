@@ -1,5 +1,7 @@
 #include "tweak/library/plain_text.h"
 
+#include "platform/Foundation/NSStringMapping.h"
+
 namespace sonavue {
 namespace {
 
@@ -16,6 +18,9 @@ struct Letters {
 constexpr Letters kPlainLetters[] = {{0x20, 0x7e},     {0xa0, 0xac},     {0xae, 0x2ff},
                                      {0x391, 0x3c9},   {0x400, 0x482},   {0x2013, 0x2026},
                                      {0x3041, 0x3096}, {0x30a1, 0x30fa}, {0x4e00, 0x9fff}};
+
+// Accents, and the signs of the syllables.
+constexpr Letters kMarks[] = {{0x300, 0x36f}, {0x3099, 0x309a}};
 
 unichar ascii_lowercase(unichar letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<unichar>(letter + ('a' - 'A')) : letter;
@@ -59,6 +64,15 @@ bool PlainTextWriter::is_ascii() const {
   return true;
 }
 
+bool PlainTextWriter::has_marks() const {
+  for (const unichar unit : units_) {
+    for (const Letters& marks : kMarks) {
+      if (unit >= marks.first && unit <= marks.last) return true;
+    }
+  }
+  return false;
+}
+
 bool PlainTextWriter::write(Bytes& bytes) const {
   const std::size_t before = bytes.count();
   for (const unichar unit : units_) {
@@ -72,10 +86,14 @@ bool PlainTextWriter::write(Bytes& bytes) const {
 }
 
 // What is plain is asked of the lower case: capitals may become several letters, or one of another
-// script. Those of ASCII are always the same, which spares most titles a string.
+// script. Those of ASCII are always the same, which spares most titles a string. A mark is put in
+// one piece with its letter, which finds the same on the platform.
 bool PlainTextWriter::add_lowercase(NSString text, Bytes& bytes) {
   if (!read(text)) return false;
-  if (!is_ascii() && !read(text.lowercaseString())) return false;
+  if (is_ascii()) return write(bytes);
+  const auto lower = objc::cast<NSStringMapping>(text.lowercaseString());
+  if (!read(lower)) return false;
+  if (has_marks() && !read(lower.precomposedStringWithCanonicalMapping())) return false;
   return write(bytes);
 }
 
