@@ -99,6 +99,8 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   parser.add_option("--without", options.without, "Identifier of an application to leave out")
       ->allow_extra_args(false);
   parser.add_flag("--headless", options.headless, "No window");
+  parser.add_flag("--blind", options.blind,
+                  "With --headless: draw nothing but screenshots, so that hours pass in minutes");
   parser.add_flag("--console", options.console, "Read commands on standard input");
   parser.add_option("--script", options.script, "Run a file of commands, then end")
       ->check(check_script);
@@ -133,6 +135,7 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
     made.push_back(folder);
   }
   if (options.headless) made.push_back("--headless");
+  if (options.headless && options.blind) made.push_back("--blind");
   if (options.has_stepped_clock()) made.push_back("--stepped");
   return made;
 }

@@ -17,6 +17,7 @@ struct Options {
   std::filesystem::path script;  // empty without one
   bool is_set_up = false;        // a new device begins with its first files
   bool headless = false;
+  bool blind = false;
   bool console = false;
 
   /// With nobody watching, the clock stands still until the console moves it.

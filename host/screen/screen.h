@@ -30,12 +30,20 @@ class Screen {
 
   /// Shows the picture, of which only the damaged parts have changed since the last time.
   virtual void show(const Picture& picture, std::span<const PixelRect> damage) = 0;
+  /// Are pictures wanted as they come, and not only those that are asked for?
+  virtual bool is_watched() const { return true; }
 };
 
-/// A screen that nobody looks at.
+/// A screen that nobody looks at. Blind, it does not even want the pictures.
 class Headless final : public Screen {
  public:
+  explicit Headless(bool blind = false) : blind_(blind) {}
+
   void show(const Picture&, std::span<const PixelRect>) override {}
+  bool is_watched() const override { return !blind_; }
+
+ private:
+  bool blind_;
 };
 
 /// Writes the picture to a file. Gives the reason when that failed.

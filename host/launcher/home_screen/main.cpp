@@ -54,7 +54,8 @@ struct Display {
 
 std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
                                     screen::Input& input) {
-  if (options.headless) return Display{std::make_unique<screen::Headless>(), nullptr, nullptr};
+  if (options.headless)
+    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr};
   const DeviceModel& device = current_device();
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);

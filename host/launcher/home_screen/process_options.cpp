@@ -15,6 +15,7 @@ std::optional<ProcessOptions> read_process_options(int count, const char* const*
   parser.add_option("--music", options.music)->allow_extra_args(false);
   parser.add_option("--screenshots", options.screenshots)->required();
   parser.add_flag("--headless", options.headless);
+  parser.add_flag("--blind", options.blind);
   parser.add_flag("--stepped", options.stepped);
   parser.add_option(kConsoleArgument, options.console_descriptor);
   try {

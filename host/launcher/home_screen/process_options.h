@@ -14,6 +14,7 @@ struct ProcessOptions {
   std::vector<std::filesystem::path> music;
   std::filesystem::path screenshots;
   bool headless = false;
+  bool blind = false;
   bool stepped = false;
   int console_descriptor = -1;
 };
