@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <chrono>
 #include <fstream>
+#include <set>
 
 #include "tests/random_use/oracle.h"
 #include "tests/random_use/random_user.h"
@@ -21,97 +22,123 @@ struct Options {
   double seconds = 0;
   double shrinking = 240;
   std::string faults;
+  bool drawn = false;
   bool aloud = false;
 };
+
+double now() {
+  using std::chrono::steady_clock;
+  return std::chrono::duration<double>(steady_clock::now().time_since_epoch()).count();
+}
 
 struct Figures {
   int bursts = 0;
   int actions = 0;
+  int faults = 0;
   double simulated = 0;
   double real = 0;
-  int faults = 0;
   double most_memory = 0;
 
   void add(const Figures& other) {
     bursts += other.bursts;
     actions += other.actions;
+    faults += other.faults;
     simulated += other.simulated;
     real += other.real;
-    faults += other.faults;
     most_memory = std::max(most_memory, other.most_memory);
   }
   void print(const std::string& name) const {
     fmt::print(
-        "{}: {} bursts, {} actions, {:.0f} simulated seconds, {:.0f} real seconds, {} MB, {}\n",
-        name, bursts, actions, simulated, real, static_cast<int>(most_memory),
-        faults ? fmt::format("{} faults", faults) : "no fault");
+        "{}: {} bursts, {} actions, {:.0f} simulated s, {:.0f} real s, {:.0f} MB, {} faults\n",
+        name, bursts, actions, simulated, real, most_memory, faults);
     std::fflush(stdout);
   }
 };
 
-void tell(const Story& story, std::uint32_t seed, const Options& options) {
-  std::string text = fmt::format("# Seed {}: {}\n", seed, story.fault.text);
-  text += "# options: --music DEVICE" + std::string(kSongs) + "\n";
-  for (const std::string& line : story.lines)
-    text += line + "\n";
-  fmt::print("{}", text);
-  std::fflush(stdout);
-  if (options.faults.empty()) return;
-  std::ofstream(fmt::format("{}/seed-{}.scn", options.faults, seed)) << text;
-}
+/// Tells every fault once, with the shortest script that shows it.
+class Reports {
+ public:
+  explicit Reports(const Options& options) : options_(options) {}
 
-/// One seed on one phone, to its end or its first fault.
+  void add(std::uint32_t seed, const Story& story, const std::vector<std::size_t>& bursts) {
+    fmt::print("seed {}, burst {}: {}\n", seed, bursts.size(), story.fault.text);
+    std::fflush(stdout);
+    if (!kinds_.insert(story.fault.kind).second) return;
+    tell(seed, shrunk(story, bursts, {options_.drawn, options_.shrinking}));
+  }
+
+ private:
+  void tell(std::uint32_t seed, const Story& story) const {
+    std::string text = fmt::format("# Seed {}: {}\n# Songs: {}\n", seed, story.fault.text, kSongs);
+    for (const std::string& line : story.lines)
+      text += line + "\n";
+    fmt::print("{}", text);
+    std::fflush(stdout);
+    if (options_.faults.empty()) return;
+    std::ofstream(fmt::format("{}/seed-{}-{}.scn", options_.faults, seed, kinds_.size())) << text;
+  }
+
+  const Options& options_;
+  std::set<std::string> kinds_;
+};
+
+/// One phone until the seed's time is over, or to its first fault.
 class Use {
  public:
-  Use(std::uint32_t seed, const Options& options)
-      : seed_(seed), options_(options), user_(phone_, seed), oracle_(phone_) {
+  Use(std::uint32_t seed, std::uint32_t phones_before, const Options& options)
+      : seed_(seed),
+        phone_(options.drawn),
+        user_(phone_, seed + kSeeds * phones_before),
+        oracle_(phone_) {
     if (options.aloud) phone_.say_aloud();
   }
 
-  Figures play() {
-    const auto start = std::chrono::steady_clock::now();
+  Figures play(double seconds, Reports& reports) {
+    const double start = now();
     Figures figures;
     user_.prepare();
-    while (phone_.seconds() < options_.seconds && !figures.faults) {
+    while (phone_.seconds() < seconds && !figures.faults) {
       bursts_.push_back(phone_.lines().size());
       user_.burst();
       ++figures.bursts;
       const std::size_t done = phone_.lines().size();
       if (const auto fault = oracle_.judge()) {
         ++figures.faults;
-        report(*fault, done);
+        std::vector<std::string> lines = phone_.lines();
+        lines.resize(done);
+        reports.add(seed_, {*fault, lines}, bursts_);
       }
       figures.most_memory = std::max(figures.most_memory, phone_.memory().value_or(0));
     }
     figures.actions = user_.actions();
     figures.simulated = phone_.seconds();
-    figures.real = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    figures.real = now() - start;
     return figures;
   }
 
  private:
-  /// `done` lines were said before the phone was judged.
-  void report(const Fault& fault, std::size_t done) {
-    fmt::print("seed {}, burst {}: {}\n", seed_, bursts_.size(), fault.text);
-    if (fault.expectations.empty()) fmt::print("{}\n", phone_.errors());
-    std::fflush(stdout);
-    std::vector<std::string> lines = phone_.lines();
-    lines.resize(done);
-    tell(shrunk({fault, lines}, bursts_, options_.shrinking), seed_, options_);
-  }
+  // Phones after a fault are used by another hand than any seed's.
+  static constexpr std::uint32_t kSeeds = 1'000'000;
 
   std::uint32_t seed_;
-  const Options& options_;
   UsedPhone phone_;
   RandomUser user_;
   Oracle oracle_;
   std::vector<std::size_t> bursts_;
 };
 
+Figures play(std::uint32_t seed, const Options& options, Reports& reports) {
+  Figures figures;
+  for (std::uint32_t phones = 0; figures.simulated < options.seconds; ++phones)
+    figures.add(Use(seed, phones, options).play(options.seconds - figures.simulated, reports));
+  return figures;
+}
+
 int use(const Options& options) {
+  Reports reports(options);
   Figures all;
   for (std::uint32_t seed = options.first; seed <= options.last; ++seed) {
-    const Figures figures = Use(seed, options).play();
+    const Figures figures = play(seed, options, reports);
     figures.print(fmt::format("seed {}", seed));
     all.add(figures);
   }
@@ -124,12 +151,13 @@ int use(const Options& options) {
 
 int main(int count, char** arguments) {
   Options options;
-  CLI::App parser{"Uses phones at random, one for each seed, and tells what they do not survive"};
+  CLI::App parser{"Uses phones at random and tells what they do not survive"};
   parser.add_option("first", options.first, "The first seed")->required();
   parser.add_option("last", options.last, "The last seed")->required();
   parser.add_option("seconds", options.seconds, "Of each phone's clock")->required();
   parser.add_option("--shrinking", options.shrinking, "Real seconds spent on each fault's script");
   parser.add_option("--faults", options.faults, "A folder for the scripts");
+  parser.add_flag("--drawn", options.drawn, "Draws every frame, which takes long");
   parser.add_flag("--aloud", options.aloud, "Tells the console's lines");
   CLI11_PARSE(parser, count, arguments);
   return use(options);

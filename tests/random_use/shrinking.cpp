@@ -35,15 +35,16 @@ Lines with_whole_pauses(const Lines& lines) {
 
 class Shrinking {
  public:
-  Shrinking(Story story, double seconds)
+  Shrinking(Story story, ShrinkingOptions options)
       : story_(std::move(story)),
-        end_(Clock::now() +
-             std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds))) {}
+        is_drawn_(options.is_drawn),
+        end_(Clock::now() + std::chrono::duration_cast<Clock::duration>(
+                                std::chrono::duration<double>(options.seconds))) {}
 
   bool has_time() const { return Clock::now() < end_; }
   /// Takes the lines in place of those before if they show the fault too.
   bool take(const Lines& lines) {
-    auto played = replayed(lines, story_.fault.kind);
+    auto played = replayed(lines, story_.fault.kind, is_drawn_);
     if (!played) return false;
     lines_ = with_whole_pauses(lines);
     story_ = std::move(*played);
@@ -79,13 +80,14 @@ class Shrinking {
 
   Story story_;
   Lines lines_;
+  bool is_drawn_;
   Clock::time_point end_;
 };
 
 }  // namespace
 
-std::optional<Story> replayed(const Lines& lines, const std::string& kind) {
-  UsedPhone phone;
+std::optional<Story> replayed(const Lines& lines, const std::string& kind, bool is_drawn) {
+  UsedPhone phone(is_drawn);
   for (const std::string& line : lines)
     phone.say(line);
   const auto fault = Oracle(phone).judge();
@@ -95,9 +97,9 @@ std::optional<Story> replayed(const Lines& lines, const std::string& kind) {
   return Story{*fault, played};
 }
 
-Story shrunk(Story story, const std::vector<std::size_t>& bursts, double seconds) {
+Story shrunk(Story story, const std::vector<std::size_t>& bursts, ShrinkingOptions options) {
   const Lines whole = story.lines;
-  Shrinking shrinking(std::move(story), seconds);
+  Shrinking shrinking(std::move(story), options);
   bool fails = false;
   for (std::size_t last = 1; !fails && last < bursts.size() && shrinking.has_time(); last *= 4) {
     const auto start = static_cast<std::ptrdiff_t>(bursts[bursts.size() - last]);

@@ -14,10 +14,16 @@ struct Story {
 
 /// Plays the lines on a new phone and has it judged: the story of the fault with the same kind;
 /// nothing when there is no such fault.
-std::optional<Story> replayed(const std::vector<std::string>& lines, const std::string& kind);
+std::optional<Story> replayed(const std::vector<std::string>& lines, const std::string& kind,
+                              bool is_drawn);
 
-/// Leaves out of the lines what the fault does not need, for at most so many seconds: first all but
-/// the last bursts, whose beginnings are given, then line by line.
-Story shrunk(Story story, const std::vector<std::size_t>& bursts, double seconds);
+struct ShrinkingOptions {
+  bool is_drawn = false;
+  double seconds = 0;  // at most
+};
+
+/// Leaves out of the lines what the fault does not need: first all but the last bursts, whose
+/// beginnings are given, then line by line.
+Story shrunk(Story story, const std::vector<std::size_t>& bursts, ShrinkingOptions options);
 
 }  // namespace random_use

@@ -52,9 +52,9 @@ void put_songs_on(const std::string& device) {
   }
 }
 
-UsedPhone::UsedPhone()
-    : phone_({"--headless", "--console", "--root", with_songs(folder_ / "device"), "--music",
-              folder_ / "device" + kSongs}) {}
+UsedPhone::UsedPhone(bool is_drawn)
+    : phone_({"--headless", is_drawn ? "--headless" : "--blind", "--console", "--root",
+              with_songs(folder_ / "device"), "--music", folder_ / "device" + kSongs}) {}
 
 std::string UsedPhone::say(const std::string& line) {
   if (aloud_) fmt::print("{:.2f} {}\n", seconds_, line);

@@ -21,7 +21,8 @@ inline constexpr const char* kSongs = "/var/mobile/Media/Songs";
 /// on another new phone they do the same.
 class UsedPhone {
  public:
-  UsedPhone();
+  /// One that draws every frame takes long.
+  explicit UsedPhone(bool is_drawn);
 
   /// The console's answer. A line that is refused changes nothing and is not remembered.
   std::string say(const std::string& line);
