@@ -115,7 +115,8 @@ void TweetComposer::post() {
 
 void TweetComposer::leave(Result result) {
   if (std::exchange(leaving_, true)) return;
-  self.view().setUserInteractionEnabled(NO);
+  if (const UIWindow window = self.view().window())
+    hold_ = std::make_unique<uikit::TouchHold>(window);
   card_->text().resignFirstResponder();
   const auto kept = objc::Ref<TWTweetComposeViewController>::retain(self);
   UIView::animateWithDuration(
@@ -124,11 +125,11 @@ void TweetComposer::leave(Result result) {
 }
 
 void TweetComposer::finish(Result result) {
+  hold_.reset();
   // A handler that keeps the composer would otherwise keep it for ever.
   const auto handler = std::exchange(handler_, {});
   handler.get()(result);
   if (self.presentingViewController()) self.dismissViewControllerAnimated(NO, nullptr);
-  self.view().setUserInteractionEnabled(YES);
   leaving_ = false;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "host/social/composer_card.h"
+#include "host/uikit/view/touch_hold.h"
 #include "objc/class_builder.h"
 #include "platform/Twitter/TWTweetComposeViewController.h"
 
@@ -51,6 +53,8 @@ class TweetComposer : public objc::Implementation<TweetComposer, TWTweetComposeV
   CGRect card_place_;
   bool shown_ = false;
   bool leaving_ = false;
+  /// While it leaves, nothing behind it takes touches either.
+  std::unique_ptr<uikit::TouchHold> hold_;
   bool count_is_old_ = true;
 };
 

@@ -291,6 +291,21 @@ TEST_F(TweetComposerTest, WhatIsBehindIsDimmedAndTakesNoTouches) {
   behind.removeFromSuperview();
 }
 
+TEST_F(TweetComposerTest, WhatIsBehindTakesNoTouchesBeforeItHasLeft) {
+  const auto behind = RecordingView::make("behind", kScreen);
+  window.addSubview(behind);
+  show("text");
+  clear_window_at_the_end();
+  tap_on(social::kCancelTag);
+  advance(0.1);
+  tap({20, 600});
+  advance(1);
+  EXPECT_EQ(RecordingView::told_of_touches(), Events{});
+  tap({20, 600});
+  EXPECT_EQ(RecordingView::told_of_touches(), (Events{"behind began", "behind ended"}));
+  behind.removeFromSuperview();
+}
+
 TEST_F(TweetComposerTest, NothingIsLeftWhenTheRootGoesWhileItIsUp) {
   show("text");
   window.setRootViewController(nil);
