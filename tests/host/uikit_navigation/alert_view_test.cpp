@@ -6,6 +6,7 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tests/host/uikit_navigation/page_test.h"
 #include "tests/host/uikit_view/recording_target.h"
+#include "tests/host/uikit_view/recording_view.h"
 
 namespace host::test {
 namespace {
@@ -104,6 +105,18 @@ TEST_F(AlertTest, WhatIsBehindTakesNoTouches) {
   EXPECT_EQ(told(), Events{});
   alert.dismissWithClickedButtonIndex(0, NO);
   EXPECT_EQ(told(), Events{"dismissed 0"}) << "a program's dismissal is no click";
+}
+
+TEST_F(AlertTest, TakesAwayTheFingersBehindIt) {
+  const auto behind = RecordingView::make("behind", kScreen);
+  window.addSubview(behind);
+  press({20, 100});
+  advance(0.1);
+  told();
+  const auto alert = show({"Yes"});
+  lift({20, 100});
+  EXPECT_EQ(RecordingView::told_of_touches(), Events{"behind cancelled"});
+  alert.dismissWithClickedButtonIndex(0, NO);
 }
 
 TEST_F(AlertTest, TakesNoTouchesOnItsWayAndLetsNoneThrough) {
