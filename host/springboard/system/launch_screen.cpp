@@ -1,6 +1,7 @@
 #include "host/springboard/system/launch_screen.h"
 
 #include "host/springboard/view/make_view.h"
+#include "host/uikit/view/touch_hold.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 
@@ -45,10 +46,13 @@ void LaunchScreen::open(SBApplication application, UIImage image, CGRect from,
   const UIView screen = *screen_;
   screen.setTransform(transform_onto_icon());
   screen.setAlpha(0);
+  // A second tap would open what lies below.
+  const auto hold = std::make_shared<uikit::TouchHold>(window_);
   UIView::animateWithDuration(kOpening, objc::block([=] {
                                 screen.setTransform(CGAffineTransform());
                                 screen.setAlpha(1);
-                              }));
+                              }),
+                              objc::block([hold](BOOL) { hold->end(); }));
 }
 
 void LaunchScreen::close() {
@@ -63,10 +67,12 @@ void LaunchScreen::leave(CGAffineTransform transform, double duration) {
   closing_ = true;
   if (hosted_) objc::state_of<ApplicationView>(*hosted_).cancel_fingers();
   const UIView screen = *screen_;
-  screen.setUserInteractionEnabled(NO);
-  const auto gone = objc::block([this, kept = screen_, life = std::weak_ptr<void>(life_)](BOOL) {
-    if (!life.expired() && kept.get() == screen_.get()) take_down();
-  });
+  const auto hold = std::make_shared<uikit::TouchHold>(window_);
+  const auto gone =
+      objc::block([this, hold, kept = screen_, life = std::weak_ptr<void>(life_)](BOOL) {
+        hold->end();
+        if (!life.expired() && kept.get() == screen_.get()) take_down();
+      });
   UIView::animateWithDuration(duration, objc::block([=] {
                                 screen.setTransform(transform);
                                 screen.setAlpha(0);

@@ -15,7 +15,19 @@ namespace {
 
 using namespace test;
 
-class HomeScreenTest : public PhoneTest {};
+class HomeScreenTest : public PhoneTest {
+ protected:
+  /// What the screen of the application in front says.
+  static std::vector<std::string> lines_in_front() {
+    const UIWindow window = SBUIController::sharedInstance().window();
+    std::vector<std::string> lines;
+    for (const UIView part :
+         objc::cast<UIView>(window.subviews().lastObject()).subviews().of<UIView>())
+      if (part.isKindOfClass(UILabel::cls()))
+        lines.emplace_back(objc::cast<UILabel>(part).text().UTF8String());
+    return lines;
+  }
+};
 class SmallHomeScreenTest : public PhoneTest {
  public:
   SmallHomeScreenTest() : PhoneTest("iPhone4,1") {}
@@ -114,14 +126,33 @@ TEST_F(HomeScreenTest, AnIconWithoutAProgramSaysSoAndHowToLeave) {
   launch();
   tap(on_screen(kCalendar));
   settle();
-  const auto window = SBUIController::sharedInstance().window();
-  std::vector<std::string> lines;
-  for (const UIView part :
-       objc::cast<UIView>(window.subviews().lastObject()).subviews().of<UIView>())
-    if (part.isKindOfClass(UILabel::cls()))
-      lines.emplace_back(objc::cast<UILabel>(part).text().UTF8String());
-  EXPECT_EQ(lines, (std::vector<std::string>{"Calendar", "Only its icon is on this phone.",
-                                             "Press the Home button to go back."}));
+  EXPECT_EQ(lines_in_front(),
+            (std::vector<std::string>{"Calendar", "Only its icon is on this phone.",
+                                      "Press the Home button to go back."}));
+  EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
+}
+
+TEST_F(HomeScreenTest, IconsTakeNoTouchesWhileAnApplicationComesOrGoes) {
+  launch();
+  const UIWindow window = SBUIController::sharedInstance().window();
+  const NSUInteger views = window.subviews().count();
+  constexpr int kOtherFinger = 7;
+  touches.began(kOtherFinger, on_screen(kPhotos), clock.now());
+  tap(on_screen(kCalendar));
+  touches.ended(kOtherFinger, on_screen(kPhotos), clock.now());
+  advance(0.1);
+  tap(on_screen(kPhotos));
+  settle();
+  ASSERT_EQ(window.subviews().count(), views + 1);
+  EXPECT_EQ(lines_in_front().front(), "Calendar");
+  EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
+  advance(0.1);
+  tap(on_screen(kPhotos));
+  settle();
+  EXPECT_EQ(window.subviews().count(), views);
+  tap(on_screen(kPhotos));
+  settle();
+  EXPECT_EQ(lines_in_front().front(), "Photos");
   EXPECT_TRUE(SBUIController::sharedInstance().clickedMenuButton());
 }
 
