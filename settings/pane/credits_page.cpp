@@ -11,8 +11,8 @@ NSArray specifiers(creatorsController self) {
   settings::set_where(self);
   if (!self.cached_specifiers()) {
     self.setSpecifiers(NSArray::arrayWithObjects(
-        PSSpecifier::emptyGroupSpecifier(), group_with_header("developerCell"_ns),
-        PSSpecifier::emptyGroupSpecifier(), group_with_header("designerCell"_ns)));
+        PSSpecifier::emptyGroupSpecifier(), group_with_header(self, "developerCell"_ns),
+        PSSpecifier::emptyGroupSpecifier(), group_with_header(self, "designerCell"_ns)));
   }
   return self.cached_specifiers();
 }

@@ -20,7 +20,7 @@ namespace {
 
 NSArray make_specifiers(SonavueSettingsController self) {
   return NSArray::arrayWithObjects(
-      group_with_header("HeaderCellForSonavue"_ns), PSSpecifier::emptyGroupSpecifier(),
+      group_with_header(self, "HeaderCellForSonavue"_ns), PSSpecifier::emptyGroupSpecifier(),
       with_icon(switch_row(self, "enable"_ns), "attivo"_ns), PSSpecifier::emptyGroupSpecifier(),
       with_icon(link_row(self, "configuration"_ns, styleController::cls()), "configurazione"_ns),
       PSSpecifier::emptyGroupSpecifier(),

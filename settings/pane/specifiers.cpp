@@ -30,8 +30,8 @@ PSSpecifier group_with_footer(NSString footer_identifier) {
   return group;
 }
 
-PSSpecifier group_with_header(NSString class_name) {
-  const PSSpecifier group = row("PSGroupCell"_ns, ""_ns, nil, Stored::kNo, nullptr);
+PSSpecifier group_with_header(objc::Object target, NSString class_name) {
+  const PSSpecifier group = row("PSGroupCell"_ns, ""_ns, target, Stored::kNo, nullptr);
   group.setProperty(class_name, "headerCellClass"_ns);
   return group;
 }

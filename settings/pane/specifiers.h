@@ -9,7 +9,7 @@ namespace sonavue {
 
 PSSpecifier group_with_footer(NSString footer_identifier);
 /// A group whose header is a view of the class of that name.
-PSSpecifier group_with_header(NSString class_name);
+PSSpecifier group_with_header(objc::Object target, NSString class_name);
 
 /// The target answers `getValue:` and `setValue:forSpecifier:`.
 PSSpecifier switch_row(objc::Object target, NSString identifier);

@@ -38,8 +38,6 @@ class PageRows : public PagesTest {
             .autorelease();
     made_rows().clear();
     made.specifiers();
-    // Which have neither a name nor anybody to ask.
-    std::erase_if(made_rows(), [](const std::string& row) { return row.starts_with(": 0 -"); });
     return made_rows();
   }
 };
@@ -48,6 +46,7 @@ TEST_F(PageRows, OnTheRootPageOneRowHasAValueAndTwoLeadOn) {
   const std::string target = "SonavueSettingsController";
   EXPECT_THAT(rows_of("SonavueSettingsController"),
               testing::UnorderedElementsAre(
+                  ": 0 " + target + " - - -",
                   "Enable Sonavue: 6 " + target + " setValue:forSpecifier: getValue: -",
                   "Configuration: 1 " + target + " - - styleController",
                   "Contacts: 1 " + target + " - - creatorsController"));
@@ -65,6 +64,11 @@ TEST_F(PageRows, OnTheStylePageOnlyTwoRowsHaveNoValue) {
           "Play button ring: 2" + value + "PSListItemsController",
           "Tint color: 2" + value + "PSListItemsController",
           "Text color: 2" + value + "PSListItemsController"));
+}
+
+TEST_F(PageRows, OnTheCreditsPageAreTwoHeadersAndNothingElse) {
+  const std::string header = ": 0 creatorsController - - -";
+  EXPECT_THAT(rows_of("creatorsController"), testing::ElementsAre(header, header));
 }
 
 TEST_F(PageRows, TheConfigurationPageHasOneLink) {

@@ -107,6 +107,9 @@ TEST_F(WizardLayout, TheWelcomePageHasItsLetters) {
   const auto label = [&](NSUInteger index) {
     return objc::cast<UILabel>(parts.objectAtIndex(index));
   };
+  const auto logo = objc::cast<UIImageView>(parts.objectAtIndex(0));
+  EXPECT_TRUE(logo.image());
+  EXPECT_EQ(logo.contentMode(), UIViewContentModeScaleAspectFill);
   EXPECT_EQ(font(label(1)), "HelveticaNeue-UltraLight 55");
   EXPECT_EQ(label(1).textColor(), UIColor::redColor());
   EXPECT_EQ(font(label(2)), "HelveticaNeue-UltraLight 28");

@@ -8,14 +8,16 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/wizard/linker.h"
 #include "settings/wizard/switcher.h"
-#include "tests/settings/settings_test.h"
+#include "tests/host/uikit_view/recording_target.h"
+#include "tests/host/uikit_view/uikit_test.h"
+#include "tests/settings/settings_device.h"
 
 namespace sonavue::test {
 namespace {
 
 constexpr CGRect kRow = {0, 100, 320, 45};
 
-class WizardRows : public SettingsTest {
+class WizardRows : public host::test::UIKitTest, public SettingsDevice {
  protected:
   WizardRows() {
     if (Linker::cls()) return;
@@ -86,9 +88,30 @@ TEST_F(WizardRows, TheArrowIsAPicture) {
 }
 
 TEST_F(WizardRows, ATapReachesTheTarget) {
-  const auto tap = objc::cast<UITapGestureRecognizer>(linker().gestureRecognizers().firstObject());
-  EXPECT_TRUE(tap.isKindOfClass(UITapGestureRecognizer::cls()));
-  EXPECT_EQ(switcher().gestureRecognizers().count(), 1u);
+  const auto target = host::test::RecordingTarget::make("target");
+  const Linker row = Linker::alloc()
+                         .initWithFrame(kRow, "Tutorial"_ns, nil, YES, target.get(), "press"_sel)
+                         .autorelease();
+  window.addSubview(row);
+  told();
+  tap({160, 90});
+  EXPECT_EQ(told(), Events{}) << "above the row";
+  for (const CGFloat x : {5.0, 160.0, 290.0}) {
+    tap({x, 122});
+    EXPECT_EQ(told(), Events{"target pressed"}) << x;
+    advance(1);
+  }
+}
+
+TEST_F(WizardRows, ATapMovesTheSwitchAndNothingElse) {
+  const Switcher row = switcher();
+  const Switcher other = switcher();
+  window.addSubview(row);
+  tap({160, 122});
+  advance(0.4);
+  EXPECT_NEAR(knob(row).origin.x, 55 - 34.8, 1e-9);
+  EXPECT_TRUE(is_near(knob(other), {0.1, 0.1, 34.8, 34.8}));
+  EXPECT_EQ(stored(), "checked = 0, enable = 1");
 }
 
 TEST_F(WizardRows, TheTrackAndItsKnobAreRoundAndOutlined) {
