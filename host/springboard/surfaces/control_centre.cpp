@@ -70,7 +70,7 @@ void ControlCentre::dismiss_animated(BOOL animated) {
   presented_ = NO;
   if (!panel_) return;
   if (animated) {
-    settle(Rest::kClosed, 0);
+    settle(Rest::kClosed, velocity_);
   } else {
     take_down();
   }
@@ -94,10 +94,14 @@ void ControlCentre::pull_moved(CGPoint point) {
 }
 
 void ControlCentre::pull_ended(CGPoint, CGFloat velocity) {
-  if (!presented_ || !motion_) return;
-  const Rest rest = motion_->rest_after(velocity);
-  if (rest == Rest::kClosed) return self.dismissAnimated(YES);
-  settle(rest, velocity);
+  if (presented_ && motion_) let_go(velocity);
+}
+
+void ControlCentre::let_go(CGFloat velocity) {
+  if (motion_->rest_after(velocity) == Rest::kOpen) return settle(Rest::kOpen, velocity);
+  velocity_ = velocity;
+  self.dismissAnimated(YES);
+  velocity_ = 0;
 }
 
 void ControlCentre::pull_cancelled() {
@@ -117,8 +121,8 @@ void ControlCentre::panned(UIPanGestureRecognizer pan) {
       panel_->set_shade(std::clamp<CGFloat>(1 - way / panel_->height(), 0, 1));
       break;
     case UIGestureRecognizerStateEnded:
-      if (motion_->rest_after(velocity) == Rest::kClosed) return self.dismissAnimated(YES);
-      [[fallthrough]];
+      let_go(velocity);
+      break;
     default:
       settle(Rest::kOpen, velocity);
   }

@@ -34,6 +34,7 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
  private:
   /// False when somebody who heard of it has dismissed it there and then.
   bool bring_in();
+  void let_go(CGFloat velocity);
   void panned(UIPanGestureRecognizer pan);
   void settle(Rest rest, CGFloat velocity);
   void rested(Rest rest);
@@ -46,6 +47,8 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
   CGFloat pulled_from_ = 0;
   /// Is it a finger that presents it?
   bool is_pulled_ = false;
+  /// Of the finger that has let go of it, downwards.
+  CGFloat velocity_ = 0;
   BOOL presented_ = NO;
 };
 

@@ -10,6 +10,30 @@
 #include "platform/SpringBoard/SBControlCenterController.h"
 
 namespace host::springboard {
+namespace {
+
+SBNotificationCenterController controller() {
+  return SBNotificationCenterController::sharedInstance();
+}
+
+NotificationCentre& centre() {
+  return objc::state_of<NotificationCentre>(
+      SharedInstance<SBNotificationCenterViewController>::get());
+}
+
+void present_animated(SBNotificationCenterController, BOOL animated) {
+  centre().present(animated);
+}
+
+void dismiss_animated(SBNotificationCenterController, BOOL animated) {
+  centre().dismiss(animated);
+}
+
+BOOL is_visible(SBNotificationCenterController) {
+  return centre().is_presented();
+}
+
+}  // namespace
 
 NotificationCentre::~NotificationCentre() {
   close_at_once();
@@ -34,14 +58,21 @@ void NotificationCentre::bring_in() {
   window_->setHidden(NO);
 }
 
-void NotificationCentre::open() {
+void NotificationCentre::present(BOOL animated) {
   if (presented_) return;
   bring_in();
-  settle(Rest::kOpen, 0);
+  if (is_pulled_) {
+    motion_->grab();
+  } else if (animated) {
+    settle(Rest::kOpen, 0);
+  } else {
+    motion_->put(Rest::kOpen);
+  }
 }
 
-void NotificationCentre::close() {
-  if (presented_ && motion_) settle(Rest::kClosed, 0);
+void NotificationCentre::dismiss(BOOL animated) {
+  if (!animated) return close_at_once();
+  if (presented_ && motion_) settle(Rest::kClosed, velocity_);
 }
 
 void NotificationCentre::close_at_once() {
@@ -68,8 +99,9 @@ bool NotificationCentre::can_be_pulled() const {
 }
 
 void NotificationCentre::pull_began(CGPoint) {
-  bring_in();
-  motion_->grab();
+  is_pulled_ = true;
+  controller().presentAnimated(YES);
+  is_pulled_ = false;
 }
 
 void NotificationCentre::pull_moved(CGPoint point) {
@@ -77,11 +109,18 @@ void NotificationCentre::pull_moved(CGPoint point) {
 }
 
 void NotificationCentre::pull_ended(CGPoint, CGFloat velocity) {
-  if (presented_ && motion_) settle(motion_->rest_after(velocity), velocity);
+  if (presented_ && motion_) let_go(velocity);
+}
+
+void NotificationCentre::let_go(CGFloat velocity) {
+  if (motion_->rest_after(velocity) == Rest::kOpen) return settle(Rest::kOpen, velocity);
+  velocity_ = velocity;
+  controller().dismissAnimated(YES);
+  velocity_ = 0;
 }
 
 void NotificationCentre::pull_cancelled() {
-  close();
+  controller().dismissAnimated(YES);
 }
 
 void NotificationCentre::panned(UIPanGestureRecognizer pan) {
@@ -95,7 +134,7 @@ void NotificationCentre::panned(UIPanGestureRecognizer pan) {
       motion_->follow(pan.translationInView(nil).y);
       break;
     case UIGestureRecognizerStateEnded:
-      settle(motion_->rest_after(velocity), velocity);
+      let_go(velocity);
       break;
     default:
       settle(Rest::kOpen, 0);
@@ -112,6 +151,12 @@ void export_notification_centre() {
       .state<NotificationCentre>()
       .method<&NotificationCentre::host_will_present>("hostWillPresent")
       .method<&NotificationCentre::is_presented>("isPresented")
+      .finish();
+  objc::ClassBuilder("SBNotificationCenterController", "NSObject")
+      .class_method<&shared_instance<SBNotificationCenterController>>("sharedInstance")
+      .method<&present_animated>("presentAnimated:")
+      .method<&dismiss_animated>("dismissAnimated:")
+      .method<&is_visible>("isVisible")
       .finish();
 }
 

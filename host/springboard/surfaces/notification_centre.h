@@ -8,6 +8,7 @@
 #include "host/springboard/surfaces/sheet_motion.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
+#include "platform/SpringBoard/SBNotificationCenterController.h"
 #include "platform/SpringBoard/SBNotificationCenterViewController.h"
 
 namespace host::springboard {
@@ -25,8 +26,9 @@ class NotificationCentre
   void host_will_present() {}
   BOOL is_presented() const { return presented_; }
 
-  void open();
-  void close();
+  // What the controller does; whoever wants the centre to come or go asks that.
+  void present(BOOL animated);
+  void dismiss(BOOL animated);
   void close_at_once();
   void add(Notification message);
   void clear();
@@ -41,6 +43,7 @@ class NotificationCentre
 
  private:
   void bring_in();
+  void let_go(CGFloat velocity);
   void panned(UIPanGestureRecognizer pan);
   void settle(Rest rest, CGFloat velocity);
 
@@ -48,6 +51,10 @@ class NotificationCentre
   objc::Ref<UIWindow> window_;
   std::unique_ptr<NotificationCentrePanel> panel_;
   std::optional<SheetMotion> motion_;
+  /// Is it a finger that presents it?
+  bool is_pulled_ = false;
+  /// Of the finger that has let go of it, downwards.
+  CGFloat velocity_ = 0;
   BOOL presented_ = NO;
 };
 

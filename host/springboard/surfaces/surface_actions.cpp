@@ -57,7 +57,7 @@ bool is_notification_centre_open() {
 }
 
 void open_notification_centre() {
-  notification_centre().open();
+  SBNotificationCenterController::sharedInstance().presentAnimated(YES);
 }
 
 bool close_top_surface() {
@@ -65,7 +65,7 @@ bool close_top_surface() {
   if (controls.isPresented()) {
     controls.dismissAnimated(YES);
   } else if (is_notification_centre_open()) {
-    notification_centre().close();
+    SBNotificationCenterController::sharedInstance().dismissAnimated(YES);
   } else if (SBReachabilityManager::sharedInstance().reachabilityModeActive()) {
     SBReachabilityManager::sharedInstance()._handleReachabilityDeactivated();
   } else {
@@ -128,7 +128,7 @@ void present_banner(std::string_view text) {
 }
 
 void present_notification_centre() {
-  notification_centre().open();
+  open_notification_centre();
 }
 
 void present_control_centre() {

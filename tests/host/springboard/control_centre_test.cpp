@@ -1,3 +1,4 @@
+#include "host/uikit/gesture/system_gestures.h"
 #include "tests/host/springboard/surface_fixture.h"
 #include "tests/settings/replaced_method.h"
 #include "tests/tweak/method_spy.h"
@@ -75,6 +76,28 @@ TEST_F(ControlCentreTest, APullPresentsItByTheMessageAndLettingGoEarlyDismissesI
   EXPECT_EQ(presents.count(), 2);
   EXPECT_EQ(dismisses.count(), 1);
   EXPECT_TRUE(is_open());
+}
+
+/// Takes each finger that has gone far enough, as the gesture service does for its listeners.
+class FarGestures final : public uikit::SystemGestures {
+ public:
+  FarGestures() { uikit::add_system_gestures(this); }
+  ~FarGestures() override { uikit::remove_system_gestures(this); }
+  Claim touch(int, UITouchPhase, CGPoint point, double) override {
+    return point.y < 400 ? Claim::System : Claim::Windows;
+  }
+};
+
+TEST_F(ControlCentreTest, ItGoesBackWhenAnotherGestureTakesTheFinger) {
+  const FarGestures others;
+  drag(bottom_edge(), {middle().x, 420}, 0.2);
+  ASSERT_TRUE(is_open());
+  move({middle().x, 390});
+  EXPECT_FALSE(is_open());
+  move({middle().x, 200});
+  lift();
+  settle();
+  EXPECT_FALSE(control_centre().sheet());
 }
 
 TEST_F(ControlCentreTest, WhoeverSwallowsTheMessageKeepsItClosed) {

@@ -1,4 +1,5 @@
 #include "tests/host/springboard/surface_fixture.h"
+#include "tests/tweak/method_spy.h"
 
 namespace host::springboard {
 namespace {
@@ -24,6 +25,39 @@ TEST_F(NotificationCentreTest, APullFromTheTopEdgeOpensIt) {
 TEST_F(NotificationCentreTest, ItFollowsTheFinger) {
   drag(top_edge(), {middle().x, 220}, 0.3, 0.2);
   EXPECT_NEAR(seen(), 220, 0.5);
+}
+
+TEST_F(NotificationCentreTest, FingersAndHomeGoThroughTheControllersMessages) {
+  const objc::Class controller = SBNotificationCenterController::cls();
+  const MethodSpy<"presentAnimated:", void(SBNotificationCenterController, BOOL)> presents(
+      controller);
+  const MethodSpy<"dismissAnimated:", void(SBNotificationCenterController, BOOL)> dismisses(
+      controller);
+  drag(top_edge(), {middle().x, 80}, 0.5, 0.3);
+  EXPECT_EQ(presents.count(), 1);
+  EXPECT_TRUE(SBNotificationCenterController::sharedInstance().isVisible());
+  EXPECT_NEAR(seen(), 80, 0.5) << "and it follows the finger";
+  lift();
+  EXPECT_EQ(dismisses.count(), 1);
+  settle();
+  EXPECT_FALSE(notification_centre().panel());
+  fling(top_edge(), {middle().x, 500}, 0.4);
+  settle();
+  fling({middle().x, screen().height - 5}, {middle().x, 200}, 0.3);
+  settle();
+  EXPECT_EQ(dismisses.count(), 2);
+  present_notification_centre();
+  press_home();
+  EXPECT_EQ(presents.count(), 3);
+  EXPECT_EQ(dismisses.count(), 3);
+}
+
+TEST_F(NotificationCentreTest, WhatAnimatesNothingIsThereAndGoneAtOnce) {
+  const auto controller = SBNotificationCenterController::sharedInstance();
+  controller.presentAnimated(NO);
+  EXPECT_NEAR(seen(), screen().height, 0.5);
+  controller.dismissAnimated(NO);
+  EXPECT_FALSE(notification_centre().panel());
 }
 
 TEST_F(NotificationCentreTest, APullThatBeginsBelowTheEdgeIsNone) {
