@@ -194,6 +194,37 @@ TEST_F(WizardTransitions, BackIsDeafWhileTheWizardIsOnItsWay) {
   expect_wizard_over_the_page();
 }
 
+TEST_F(WizardTransitions, BackIsDeafWhileTheFirstWizardComesWithItsPage) {
+  open("creatorsController");
+  write_dictionary(preferences(), "");
+  const objc::Object cls(objc_getClass("SonavueSettingsController"));
+  page = objc::send<PSListController>(objc::send<NSObject>(cls, "alloc"_sel), "init"_sel);
+  stack.pushViewController(page, YES);
+  page.release();
+  advance(0.1);
+  tap(kBack);
+  advance(2);
+  expect_wizard_over_the_page();
+}
+
+TEST_F(WizardTransitions, AFingerOnBackIsTakenAwayByTheRestartQuestion) {
+  open("styleController");
+  const CGPoint apex = middle(switch_of("Apex support"));
+  press(kBack, 1);
+  advance(0.05);
+  tap(apex);
+  advance(0.1);
+  lift(kBack, 1);
+  advance(1);
+  EXPECT_EQ(stack.topViewController(), page);
+  ASSERT_TRUE(tap_text("No"));
+  advance(1);
+  EXPECT_FALSE(switch_of("Apex support").isOn());
+  tap(kBack);
+  advance(1);
+  EXPECT_NE(stack.topViewController(), page);
+}
+
 TEST_F(WizardTransitions, SetupAndBackAtOnceAreSetup) {
   open("styleController");
   const CGPoint setup = row("Guided setup").convertPointToView({60, 20}, nil);
