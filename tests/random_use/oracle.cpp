@@ -21,6 +21,7 @@ constexpr int kMostWaits = 6;
 constexpr int kFewestPresses = 2;
 constexpr int kMostPresses = 5;
 constexpr int kMostAlerts = 20;
+constexpr int kMostSlides = 3;
 constexpr int kMostPages = 4;
 // The poll of the settings, and the timer that keeps the drag on the icon.
 constexpr double kTakenUp = 0.3;
@@ -132,10 +133,14 @@ void Oracle::answer_alerts() {
   }
 }
 
+/// What hangs over the lock screen has to go first.
 void Oracle::unlock() {
-  if (!sees("the phone is locked")) return;
-  phone_.say("drag 60 560 330 560 0.3");
-  phone_.wait(kLook);
+  for (int left = kMostSlides; left > 0 && sees("the phone is locked"); --left) {
+    phone_.say("button home");
+    phone_.wait(kPanelsWay);
+    phone_.say("drag 60 560 330 560 0.3");
+    phone_.wait(kLook);
+  }
 }
 
 void Oracle::come_home() {
