@@ -161,6 +161,7 @@ void TouchInput::end(UITouch touch, UITouchPhase phase, double timestamp) {
   Touch& state = objc::state_of<Touch>(touch);
   if (state.is_lost()) return;
   last_tap_.time = timestamp;
+  if (phase == UITouchPhaseCancelled) last_tap_.count = 0;
   state.lift(phase, timestamp);
   send(touch, timestamp);
 }

@@ -245,6 +245,10 @@ TEST_F(TouchTest, CountsTapsInOnePlaceThatFollowSoon) {
   EXPECT_EQ(count_after(0.2, {50, 50}), 3u);
   EXPECT_EQ(count_after(0.2, {99, 99}), 1u) << "elsewhere";
   EXPECT_EQ(count_after(1, {99, 99}), 1u) << "too late";
+  press({50, 50});
+  uikit::cancel_every_touch();
+  lift({50, 50});
+  EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "a cancelled touch is no tap";
 }
 
 }  // namespace
