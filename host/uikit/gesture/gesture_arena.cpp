@@ -97,6 +97,8 @@ void GestureArena::tell_recognizers(UITouch touch, UIEvent event) {
     // One of them may have had the touch cancelled, which they have all heard by now.
     if (touch.phase() != phase) return;
     if (state_of(recognizer.get()).is_over()) continue;
+    // Or switched another one off, which has no part in the touch any more.
+    if (!objc::state_of<Touch>(touch).is_seen_by(recognizer.get())) continue;
     switch (phase) {
       case UITouchPhaseBegan:
         recognizer->touchesBegan(touches, event);

@@ -55,6 +55,19 @@ TEST_F(GestureConflictTest, APanThatBeginsEndsTheChancesOfATap) {
   EXPECT_EQ(told(), Events{"outer ended"});
 }
 
+TEST_F(GestureConflictTest, OneThatATapSwitchesOffIsAsNewWhenItIsOnAgain) {
+  const auto pan = RecordingTarget::add<UIPanGestureRecognizer>(outer, outer_target.get());
+  RecordingTarget::add<UITapGestureRecognizer>(inner, inner_target.get());
+  auto& taps = objc::state_of<RecordingTarget>(inner_target.get());
+  taps.on_gesture = [pan](UIGestureRecognizer) { pan.setEnabled(NO); };
+  tap({50, 50});
+  EXPECT_EQ(told(), Events{"inner ended"});
+  EXPECT_EQ(pan.state(), UIGestureRecognizerStatePossible);
+  pan.setEnabled(YES);
+  drag();
+  EXPECT_EQ(told(), (Events{"outer began", "outer ended"}));
+}
+
 TEST_F(GestureConflictTest, ALongPressKeepsThePanOut) {
   RecordingTarget::add<UIPanGestureRecognizer>(outer, outer_target.get());
   RecordingTarget::add<UILongPressGestureRecognizer>(inner, inner_target.get());
