@@ -209,6 +209,25 @@ TEST_F(InterruptedPanel, AGestureBringsNoBannerIntoAnOpening) {
   }
 }
 
+TEST_F(InterruptedPanel, AnIconThatTheSystemMovesMeanwhileStaysInItsSlot) {
+  ASSERT_TRUE(springboard::move_out_of_dock(kPhone));
+  settle();
+  open_panel();
+  const CGFloat y = middle_of(view("container")).y;
+  drag({screen().width * 0.85, y}, {screen().width * 0.15, y}, 0.2);
+  lift();
+  settle();
+  ASSERT_TRUE(springboard::move_to_dock(kMusic));
+  home_ = music_icon().frame();
+  drag({screen().width * 0.15, y}, {screen().width * 0.85, y}, 0.2);
+  lift();
+  settle();
+  EXPECT_EQ(music_icon().frame(), home_);
+  springboard::press_home();
+  settle();
+  expect_closed();
+}
+
 TEST_F(InterruptedPanel, PagesThatGoOnGlidingLeaveTheIconInItsSlot) {
   open_panel();
   const CGFloat y = middle_of(view("container")).y;

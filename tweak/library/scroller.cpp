@@ -4,6 +4,7 @@
 #include "platform/UIKit/UIScreen.h"
 #include "tweak/banner/controls_layout.h"
 #include "tweak/movement/geometry.h"
+#include "tweak/movement/icon_home.h"
 #include "tweak/movement/movement.h"
 
 namespace sonavue {
@@ -34,7 +35,7 @@ void hold_controls(CGFloat offset) {
 // Pages that go on gliding behind a panel that is closed must not take the icon out of its slot.
 void raise_icon(CGFloat rise) {
   if (!isBanner && !icon_is_away()) return;
-  if (!isBanner) move_to_y(musicIcon, firstMusicIcon.origin.y - rise);
+  move_icon(musicIcon.frame().origin.x, firstMusicIcon.origin.y - rise);
   move_to_y(music, firstMusic.origin.y - rise);
 }
 

@@ -52,7 +52,7 @@ void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
       kGlide, objc::block([velocity, offset] {
         const CGPoint icon = musicIcon.frame().origin;
         const CGPoint target{icon.x + velocity.x / kGlideShare, icon.y + velocity.y / kGlideShare};
-        if (!isBanner) move_to(musicIcon, target.x, target.y);
+        move_icon(target.x, target.y);
         follow_icon(kReleaseAside, target, offset);
         cover.setAlpha(fade_ratio(target.y));
       }),
@@ -78,7 +78,7 @@ void glide_home(CGPoint velocity, CGFloat to_icon) {
         const CGPoint from = music.frame().origin;
         const CGPoint target{from.x + velocity.x / kGlideShare, from.y + velocity.y / kGlideShare};
         move_to(music, target.x, target.y);
-        if (!isBanner) move_to(musicIcon, target.x, target.y + to_icon);
+        move_icon(target.x, target.y + to_icon);
         cover.setAlpha(fade_ratio(target.y));
       }),
       unless_replaced([] { bring_icon_home(); }));
@@ -118,7 +118,7 @@ void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
     music.setHidden(NO);
     cover_screen_with_window();
   }
-  if (!isBanner) move_to(musicIcon, place.x, place.y);
+  move_icon(place.x, place.y);
   follow_icon(0, musicIcon.frame().origin, offset);
   // Not clamped below: a finger beyond the bottom edge gives a negative alpha, which is unseen.
   cover.setAlpha(at_most_one(fade_ratio(endPoint.y)));
@@ -146,7 +146,7 @@ void sposta1(SpringBoard, UIPanGestureRecognizer pan) {
   }
   move_to(music, place.x, place.y);
   const CGPoint twin = music.frame().origin;
-  if (!isBanner) move_to(musicIcon, twin.x, twin.y + to_icon);
+  move_icon(twin.x, twin.y + to_icon);
   // Only a dock icon's drag fades the backdrop before the release; a page icon's waits for it.
   if (musicIcon.isInDock()) cover.setAlpha(at_most_one(fade_ratio(endPoint.y)));
 }

@@ -11,9 +11,9 @@ constexpr double kIconTravel = 0.5;
 // In whose coordinates `saved` is. Only compared, never sent a message.
 UIView list_of_home;
 
-void put_icon_home() {
-  // An icon that the system has moved to another list meanwhile stands in its slot there.
-  if (!list_of_home || musicIcon.superview() == list_of_home) musicIcon.setFrame(saved);
+// An icon that the system has moved to another list stands in its slot there.
+bool has_other_home() {
+  return list_of_home && musicIcon.superview() != list_of_home;
 }
 
 void be_closed() {
@@ -28,12 +28,16 @@ void keep_icon_home() {
   list_of_home = musicIcon.superview();
 }
 
+void move_icon(CGFloat x, CGFloat y) {
+  if (!isBanner && !has_other_home()) move_to(musicIcon, x, y);
+}
+
 void bring_icon_home(objc::OwnedBlock<void(BOOL)> closed) {
   begin_movement(Movement::kGoingHome, &be_closed);
   const CGFloat offset = icon_screen_offset();
   UIView::animateWithDuration(kIconTravel, objc::block([offset] {
                                 cover.setAlpha(0);
-                                put_icon_home();
+                                if (!has_other_home()) musicIcon.setFrame(saved);
                                 move_to(music, musicIcon.frame().origin.x, saved.origin.y + offset);
                               }),
                               unless_replaced(

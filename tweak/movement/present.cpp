@@ -69,7 +69,7 @@ void present(SpringBoard) {
   const CGFloat offset = icon_screen_offset();
   UIView::animateWithDuration(kIconTravel, objc::block([place, offset] {
                                 cover.setAlpha(1.0);
-                                if (!isBanner) move_to(musicIcon, place.x, place.y);
+                                move_icon(place.x, place.y);
                                 const CGPoint icon = musicIcon.frame().origin;
                                 move_to(music, icon.x, icon.y + offset);
                               }),
