@@ -228,6 +228,23 @@ TEST_F(InterruptedPanel, AnIconThatTheSystemMovesMeanwhileStaysInItsSlot) {
   expect_closed();
 }
 
+TEST_F(InterruptedPanel, AnIconThatAFingerArrangesMeanwhileStaysInItsSlot) {
+  open_panel();
+  springboard::press_home();
+  // The closing window is deaf, and the icon still at the top.
+  advance(0.1);
+  springboard::set_editing(true);
+  drag(middle_of(music_icon()), {292, 382}, 0.06);
+  lift();
+  advance(0.4);
+  const CGRect slot = music_icon().frame();
+  ASSERT_NE(slot, home_);
+  settle();
+  EXPECT_EQ(music_icon().frame(), slot);
+  EXPECT_FALSE(is("isShow"));
+  EXPECT_TRUE(view("music").isHidden());
+}
+
 TEST_F(InterruptedPanel, PagesThatGoOnGlidingLeaveTheIconInItsSlot) {
   open_panel();
   const CGFloat y = middle_of(view("container")).y;
