@@ -1,4 +1,5 @@
 #include "host/springboard/system_actions.h"
+#include "platform/SpringBoard/SBReachabilityManager.h"
 #include "platform/SpringBoard/SBUIController.h"
 #include "platform/UIKit/UIScrollView.h"
 #include "tests/tweak/panel_test.h"
@@ -61,6 +62,22 @@ TEST_F(InterruptedPanel, HomeDuringTheOpeningIsThePanelsAlone) {
   settle();
   EXPECT_FALSE(SBUIController::sharedInstance().isAppSwitcherShowing());
   expect_closed();
+}
+
+TEST_F(InterruptedPanel, EveryEventThatClosesAnOpenPanelEndsAnOpening) {
+  const std::function<void()> events[] = {
+      [] { springboard::present_banner("a message"); },
+      [] { springboard::present_notification_centre(); },
+      [] { SBReachabilityManager::sharedInstance()._handleSignificantTimeChanged(); },
+  };
+  for (const auto& event : events) {
+    open_for(0.3);
+    event();
+    settle();
+    expect_closed();
+    springboard::press_home();
+    advance(8);
+  }
 }
 
 TEST_F(InterruptedPanel, NoPanelOpensOnALockedPhone) {

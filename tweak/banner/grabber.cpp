@@ -80,7 +80,7 @@ void show_grabber(Grabber picture) {
 void presentBanner(SpringBoard self, UIPanGestureRecognizer pan) {
   const UIGestureRecognizerState state = pan.state();
   const bool begins = state == UIGestureRecognizerStateBegan;
-  // A banner that is going is not to be had, nor one that was called anew under the finger.
+  // A banner that is leaving ignores the finger, and so does one that was called again under it.
   if (begins ? !isBanner : movement() != Movement::kGrab) return;
   if (state == UIGestureRecognizerStateEnded) {
     let_go(self);

@@ -38,7 +38,7 @@ bool may_drag_out() {
 }
 
 bool may_drag_back() {
-  return !isBanner && (movement() == Movement::kNone || movement() == Movement::kOpening);
+  return movement() == Movement::kNone || movement() == Movement::kOpening;
 }
 
 void begin_drag_out() {
@@ -90,7 +90,7 @@ void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
   const UIGestureRecognizerState state = pan.state();
   const bool begins = state == UIGestureRecognizerStateBegan;
   const bool ends = state == UIGestureRecognizerStateEnded;
-  // Of a drag that was refused, or that a button has ended, the rest is not heard.
+  // The rest of a drag that was refused, or that a button has ended, is ignored.
   if (begins ? !may_drag_out() : movement() != Movement::kDragOut) return;
   const bool is_disturbed = musicIcon.isEditing() || isBanner;
   // What begins in the middle of a drag must not swallow the end of it.
