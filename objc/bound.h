@@ -1,5 +1,6 @@
 #pragma once
 
+#include "objc/image.h"
 #include "objc/send.h"
 
 #ifdef SONAVUE_BINDING_TABLE
@@ -19,13 +20,29 @@ inline Class class_named() {
   return cached_class<Name>;
 }
 
+/// The same for a class whose framework or library may not be in the process yet: while the class
+/// is missing, each look-up first loads the file at the path `Image`.
+template <FixedString Name, FixedString Image>
+inline Class class_of_image() {
+  if (!class_named<Name>()) [[unlikely]]
+    load_image(Image.c_str());
+  return class_named<Name>();
+}
+
 /// Base of a typed view of the platform's class `Name`: `struct UILabel : Bound<UILabel, "UILabel",
-/// UIView>`. It adds names to a pointer and nothing else.
-template <class Self, FixedString Name, Handle Base>
+/// UIView>`. It adds names to a pointer and nothing else. `Image` is named for the classes that no
+/// process of the phone is sure to have.
+template <class Self, FixedString Name, Handle Base, FixedString Image = "">
 struct Bound : Base {
   using Superclass = Base;
 
-  static Class cls() { return class_named<Name>(); }
+  static Class cls() {
+    if constexpr (Image.size() == 0) {
+      return class_named<Name>();
+    } else {
+      return class_of_image<Name, Image>();
+    }
+  }
   static const char* class_name() { return Name.c_str(); }
   static Self alloc() { return send<Self>(Object(cls()), "alloc"_sel); }
 

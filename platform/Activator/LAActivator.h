@@ -1,10 +1,11 @@
 #pragma once
 
+#include "platform/Activator/Activator.h"
 #include "platform/Activator/LAEvent.h"
 #include "platform/Foundation/NSArray.h"
 
 /// The gesture service: listeners are registered under names, events are assigned to names.
-struct LAActivator : objc::Bound<LAActivator, "LAActivator", NSObject> {
+struct LAActivator : objc::Bound<LAActivator, "LAActivator", NSObject, kActivatorImage> {
   /// Nil on a phone without the service.
   static LAActivator sharedInstance() { return call_class<"sharedInstance", LAActivator>(); }
   /// The service keeps the listener until another is registered under the name or it is taken out.

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "platform/Foundation/NSDictionary.h"
+#include "platform/MediaPlayerUI/MediaPlayerUI.h"
 #include "platform/UIKit/UIImage.h"
 
 /// What plays now, as the system's own controls show it.
-struct MPUNowPlayingController
-    : objc::Bound<MPUNowPlayingController, "MPUNowPlayingController", NSObject> {
+struct MPUNowPlayingController : objc::Bound<MPUNowPlayingController, "MPUNowPlayingController",
+                                             NSObject, kMediaPlayerUIImage> {
   UIImage currentNowPlayingArtwork() const { return call<"currentNowPlayingArtwork", UIImage>(); }
   /// Keys "kMRMediaRemoteNowPlayingInfoTitle", "…Artist", "…Album"; strings.
   NSDictionary currentNowPlayingInfo() const {

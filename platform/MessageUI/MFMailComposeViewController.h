@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Foundation/NSArray.h"
+#include "platform/MessageUI/MessageUI.h"
 #include "platform/UIKit/UINavigationController.h"
 
 enum MFMailComposeResult : int {
@@ -12,7 +13,7 @@ enum MFMailComposeResult : int {
 
 struct MFMailComposeViewController
     : objc::Bound<MFMailComposeViewController, "MFMailComposeViewController",
-                  UINavigationController> {
+                  UINavigationController, kMessageUIImage> {
   static BOOL canSendMail() { return call_class<"canSendMail", BOOL>(); }
   objc::Object mailComposeDelegate() const { return call<"mailComposeDelegate", objc::Object>(); }
   void setMailComposeDelegate(objc::Object delegate) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Foundation/NSArray.h"
+#include "platform/MessageUI/MessageUI.h"
 #include "platform/UIKit/UINavigationController.h"
 
 enum MessageComposeResult : int {
@@ -11,7 +12,7 @@ enum MessageComposeResult : int {
 
 struct MFMessageComposeViewController
     : objc::Bound<MFMessageComposeViewController, "MFMessageComposeViewController",
-                  UINavigationController> {
+                  UINavigationController, kMessageUIImage> {
   static BOOL canSendText() { return call_class<"canSendText", BOOL>(); }
   objc::Object messageComposeDelegate() const {
     return call<"messageComposeDelegate", objc::Object>();

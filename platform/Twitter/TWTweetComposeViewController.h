@@ -1,6 +1,7 @@
 #pragma once
 
 #include "objc/block.h"
+#include "platform/Twitter/Twitter.h"
 #include "platform/UIKit/UIViewController.h"
 
 enum TWTweetComposeViewControllerResult : NSInteger {
@@ -10,7 +11,8 @@ enum TWTweetComposeViewControllerResult : NSInteger {
 
 /// A short text that is shown for editing and then sent or cancelled.
 struct TWTweetComposeViewController
-    : objc::Bound<TWTweetComposeViewController, "TWTweetComposeViewController", UIViewController> {
+    : objc::Bound<TWTweetComposeViewController, "TWTweetComposeViewController", UIViewController,
+                  kTwitterImage> {
   using Handler = objc::Block<void(TWTweetComposeViewControllerResult)>;
 
   static BOOL canSendTweet() { return call_class<"canSendTweet", BOOL>(); }

@@ -20,6 +20,7 @@ void open(NSString address) {
 
 void write_mail(const Author& author, PSTableCell cell, UIViewController card) {
   const auto composer = MFMailComposeViewController::alloc().init();
+  if (!composer) return;
   composer.setMailComposeDelegate(cell);
   composer.setSubject("Sonavue"_ns);
   composer.setMessageBody(""_ns, NO);

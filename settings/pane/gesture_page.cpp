@@ -13,6 +13,7 @@ LAListenerSettingsViewController make_gesture_page() {
 
 void present_gesture_page(UIViewController over) {
   const auto page = make_gesture_page().autorelease();
+  if (!page) return;
   const auto stack = UINavigationController::alloc().initWithRootViewController(page);
   over.presentViewController(stack, YES, nullptr);
   const auto cancel = UIBarButtonItem::alloc().initWithTitle(

@@ -41,6 +41,7 @@ void set_value(SonavueSettingsController, objc::Object value, PSSpecifier row) {
 
 void tweet(SonavueSettingsController self) {
   const auto composer = TWTweetComposeViewController::alloc().init();
+  if (!composer) return;
   composer.setInitialText(Translator("tweet"_ns));
   self.presentModalViewController(composer, YES);
   composer.release();

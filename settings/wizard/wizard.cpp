@@ -98,6 +98,7 @@ void Wizard::show_page(NSUInteger index) const {
 }
 
 void Wizard::show_activator_page() {
+  if (!gesture_page_) return;
   if (!controllers_.containsObject(gesture_page_))
     controllers_.insertObject(gesture_page_, kGesturePageIndex);
   show_page(kGesturePageIndex);

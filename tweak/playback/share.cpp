@@ -30,6 +30,7 @@ void tweet(SpringBoard) {
   if (window.rootViewController()) return;
   if (!art.image()) return;
   const auto composer = TWTweetComposeViewController::alloc().init();
+  if (!composer) return;
   composer.setCompletionHandler(
       objc::block([](TWTweetComposeViewControllerResult how) { composer_has_ended(how); }));
   composer.setInitialText(share_text());

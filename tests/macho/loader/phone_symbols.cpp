@@ -68,16 +68,10 @@ std::span<const Known> made_here() {
 
 /// Of the phone's system library only these are taken for the same as the desktop's.
 constexpr std::string_view kSameOnBothSystems[] = {
-    "__Block_copy",
-    "__Block_release",
-    "__NSConcreteStackBlock",
-    "__dispatch_main_q",
-    "_dispatch_async",
-    "___stack_chk_fail",
-    "_free",
-    "_memcmp",
-    "_realloc",
-    "_system",
+    "__Block_copy",      "__Block_release", "__NSConcreteStackBlock",
+    "__dispatch_main_q", "_dispatch_async", "_dlopen",
+    "___stack_chk_fail", "_free",           "_memcmp",
+    "_realloc",          "_system",
 };
 
 }  // namespace

@@ -1,0 +1,18 @@
+#include "objc/image.h"
+
+// Declared here because the phone is built without the C library's headers.
+extern "C" void* dlopen(const char* path, int mode);
+
+namespace objc {
+namespace {
+
+constexpr int kBindLazily = 1;
+
+}  // namespace
+
+// The image stays for as long as the process does, as its classes have to.
+void load_image(const char* path) {
+  dlopen(path, kBindLazily);
+}
+
+}  // namespace objc

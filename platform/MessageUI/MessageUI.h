@@ -1,0 +1,7 @@
+#pragma once
+
+#include "objc/fixed_string.h"
+
+/// The file that has the classes of this folder. No process is sure to have loaded it.
+inline constexpr objc::FixedString kMessageUIImage =
+    "/System/Library/Frameworks/MessageUI.framework/MessageUI";
