@@ -9,7 +9,7 @@
 namespace host::activator {
 
 void export_activator() {
-  if (LAActivator::cls()) return;
+  if (objc_getClass("LAActivator")) return;
   define_protocol("LAListener");
   export_event();
   export_shared_activator();

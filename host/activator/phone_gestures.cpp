@@ -34,7 +34,8 @@ bool perform_event(std::string_view name) {
   const EventKind* kind = event_named(name);
   if (!kind) return false;
   Service& service = Service::shared();
-  service.send(LAEvent::eventWithName(to_ns(kind->name), to_ns(name_of(service.present_mode()))));
+  if (service.is_heard(kind->name))
+    service.send(LAEvent::eventWithName(to_ns(kind->name), to_ns(name_of(service.present_mode()))));
   return true;
 }
 

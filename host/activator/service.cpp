@@ -122,10 +122,11 @@ void Service::tell_others_later() {
 
 void Service::tell_others() {
   will_tell_others_ = false;
-  const LAActivator activator = LAActivator::sharedInstance();
   std::vector<ListenerRecord> records;
   // A copy: a listener may register another when it is asked.
   const auto listeners = listeners_;
+  // Without listeners nobody has asked for the service's library, which has the class.
+  const LAActivator activator = listeners.empty() ? nil : LAActivator::sharedInstance();
   for (const auto& [name, listener] : listeners) {
     records.push_back(describe(activator, listener.get(), name));
     records.back().icon = directory_.keep_icon(name, icon_of(activator, listener.get(), name));

@@ -12,6 +12,7 @@ void export_foundation() {
   export_property_list_reader();
   export_string_search();
   export_addresses();
+  export_bundles();
 }
 
 }  // namespace host::foundation

@@ -3,10 +3,8 @@
 #include "host/media_player/artwork.h"
 #include "host/media_player/item_store.h"
 #include "host/media_player/library_text.h"
-#include "host/media_player/media_controller.h"
 #include "host/media_player/media_item.h"
 #include "host/media_player/music_player_controller.h"
-#include "host/media_player/now_playing_controller.h"
 #include "host/media_player/query.h"
 #include "objc/autorelease_pool.h"
 
@@ -20,8 +18,6 @@ void export_media_player() {
   export_item_list();
   export_query();
   export_music_player_controller();
-  export_now_playing_controller();
-  export_media_controller();
 }
 
 }  // namespace host::media_player

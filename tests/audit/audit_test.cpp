@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/process/platform_classes.h"
+#include "host/process/device_images.h"
 #include "host/runtime/run_loop.h"
 #include "objc/binding_table.h"
 #include "objc/encoding.h"
@@ -41,7 +41,9 @@ void check(const objc::Binding& binding) {
 struct AuditTest : ::testing::Test {
   AuditTest() : loop(clock) {
     host::RunLoop::set_main(&loop);
-    host::process::export_platform_classes();
+    host::process::start_home_screen();
+    for (const host::DeviceImage& image : host::process::device_images())
+      host::load_device_image(image.path);
     sonavue::make_progress_view();
     sonavue::make_progress_view_ring();
   }

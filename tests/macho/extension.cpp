@@ -33,6 +33,13 @@ std::filesystem::path phone_library() {
   return std::filesystem::path(here.dli_fname).replace_extension(".dylib");
 }
 
+/// What the image is linked with comes into the process before it.
+void load_libraries_of(const Image& image) {
+  for (const std::string& each : image.libraries())
+    if (!dlopen(each.c_str(), RTLD_LAZY))
+      throw FormatError("it needs " + each + ", which the phone does not have");
+}
+
 /// The last of `kMostGlobals` stays the end of the table.
 void show_globals(const LoadedImage& image) {
   const auto* row = static_cast<const ExportedGlobal*>(image.exported("_exported_globals"));
@@ -44,6 +51,7 @@ void show_globals(const LoadedImage& image) {
   const auto file = phone_library();
   try {
     const Image image(read_file(file), kX86);
+    load_libraries_of(image);
     // Its methods are those of classes that stay for as long as the process does.
     static const LoadedImage* loaded = new LoadedImage(image, &find_phone_symbol);
     show_globals(*loaded);

@@ -169,6 +169,7 @@ TEST_F(CreditsAmongApplications, FollowMeansTheAuthorOfTheCard) {
 }
 
 TEST_F(Credits, WhereNoTextsAreSentTheMessageDoesNothing) {
+  ASSERT_TRUE(MFMessageComposeViewController::cls());
   const ReplacedMethod<&cannot_send> without(objc_getMetaClass("MFMessageComposeViewController"),
                                              "canSendText");
   open_card("developerCell");
@@ -192,6 +193,24 @@ TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
                MFMailComposeResultCancelled, objc::Object());
   advance(3);
   EXPECT_FALSE(presented());
+}
+
+TEST_F(Credits, WithoutTheFrameworkNothingIsWrittenAndTheCardStays) {
+  host::set_device_images({});
+  open_card("developerCell");
+  for (const char* contact : {"Mail", "Message"}) {
+    ASSERT_TRUE(tap_text(contact));
+    advance(1);
+    EXPECT_FALSE(card.presentedViewController()) << contact;
+    EXPECT_TRUE(presented()) << contact;
+  }
+}
+
+TEST_F(Credits, TheFrameworkComesInWithTheFirstLetter) {
+  open_card("developerCell");
+  EXPECT_FALSE(objc_getClass("MFMailComposeViewController"));
+  ASSERT_TRUE(tap_text("Mail"));
+  EXPECT_TRUE(objc_getClass("MFMailComposeViewController"));
 }
 
 TEST_F(Credits, AMessageIsWrittenOverTheCardAndClosesItAtItsEnd) {

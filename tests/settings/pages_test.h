@@ -1,12 +1,9 @@
 #pragma once
 
-#include "host/activator/exports.h"
 #include "host/activator/service.h"
-#include "host/preferences/exports.h"
+#include "host/process/device_images.h"
 #include "host/social/configuration.h"
-#include "host/social/exports.h"
 #include "host/uikit/application/application.h"
-#include "host/uikit/text/text_view.h"
 #include "platform/Preferences/PSListController.h"
 #include "platform/Preferences/PSSwitchTableCell.h"
 #include "settings/Settings.h"
@@ -29,10 +26,8 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
   PagesTest() {
     fs::remove_all(pictures());
     fs::copy(SONAVUE_PICTURES, pictures(), fs::copy_options::recursive);
-    host::uikit::export_text_view();
-    host::preferences::export_preferences();
-    host::social::export_social();
-    host::activator::export_activator();
+    constexpr std::string_view images[] = {host::process::kUIKit, host::process::kPreferences};
+    host::process::start_program(images);
     host::activator::Service::restart(host::activator::Service::Role::Guest, nullptr);
     host::social::configure({});
     if (!objc_getClass("styleController")) make_settings_classes();

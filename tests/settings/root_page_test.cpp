@@ -181,6 +181,15 @@ TEST_F(RootPage, TheShareButtonOpensTheComposer) {
   photograph("settings-share");
 }
 
+TEST_F(RootPage, WithoutTheFrameworkTheShareButtonDoesNothing) {
+  host::set_device_images({});
+  open_root();
+  const UIBarButtonItem button = page.navigationItem().rightBarButtonItem();
+  objc::send<>(button.target(), button.action());
+  advance(1);
+  EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());
+}
+
 TEST_F(RootPage, WithoutTextsEverythingIsNullAndStoredSo) {
   fs::remove(languages() / "en.plist");
   open_root();

@@ -122,6 +122,14 @@ TEST_F(StylePage, TheGesturePageNamesTheListenerWithoutItsNumber) {
   EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());
 }
 
+TEST_F(StylePage, WithoutTheGestureServiceItsRowDoesNothing) {
+  host::set_device_images({});
+  open_style();
+  EXPECT_FALSE(objc_getClass("LAListenerSettingsViewController"));
+  tap_row("Activator gesture");
+  EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());
+}
+
 TEST_F(StylePage, TheSetupRowShowsTheWizardOverIt) {
   write_dictionary(preferences(), switch_entry("firstBoot", true));
   open_style();

@@ -235,6 +235,20 @@ TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
 }
 
+TEST_F(WizardPages, WithoutTheGestureServiceItsQuestionStays) {
+  host::set_device_images({});
+  start_questions();
+  const UIViewController asked = shown_page();
+  objc::send<>(page, "showActivatorPage"_sel);
+  advance(1.5);
+  EXPECT_EQ(shown_page(), asked);
+  EXPECT_EQ(objc::send<NSInteger>(page, "presentationCountForPageViewController:"_sel, questions),
+            11);
+  objc::send<>(page, "showTutorial"_sel);
+  advance(3);
+  EXPECT_NE(shown_page(), asked);
+}
+
 TEST_F(WizardPages, TheGesturePageLeavesTheStatusBarFree) {
   start_questions();
   objc::send<>(page, "showActivatorPage"_sel);

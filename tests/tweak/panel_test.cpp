@@ -5,15 +5,12 @@
 #include <cstring>
 #include <fstream>
 
-#include "host/activator/exports.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
 #include "host/launcher/device_root.h"
-#include "host/media_player/exports.h"
 #include "host/media_player/media_service.h"
-#include "host/social/exports.h"
-#include "host/uikit/text/text_view.h"
+#include "host/process/device_images.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::test {
@@ -55,10 +52,7 @@ PanelTest::PanelTest(std::string_view model) : PanelTest(*device_model(model)) {
 
 PanelTest::PanelTest(const DeviceModel& model) : PhoneTest(model) {
   foundation::take_foundation_log();
-  media_player::export_media_player();
-  uikit::export_text_view();
-  social::export_social();
-  activator::export_activator();
+  process::start_home_screen();
   foundation::set_device_root(device.string());
   const launcher::StagingSource staging{SONAVUE_STAGING, {}};
   auto problem = launcher::prepare_device_root(device);

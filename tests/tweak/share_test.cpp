@@ -1,3 +1,4 @@
+#include "host/runtime/device_images.h"
 #include "host/springboard/system_actions.h"
 #include "host/uikit/view/responder.h"
 #include "platform/Twitter/TWTweetComposeViewController.h"
@@ -38,6 +39,28 @@ TEST_F(Share, ATapOnTheTwinComposesATextOfTitleAndArtist) {
   EXPECT_TRUE(
       presenter().presentedViewController().isKindOfClass(TWTweetComposeViewController::cls()));
   EXPECT_TRUE(is("isShow"));
+}
+
+TEST_F(Share, TheFrameworkComesInWithTheFirstText) {
+  play("Alpha");
+  advance(1.2);
+  EXPECT_FALSE(objc_getClass("TWTweetComposeViewController"));
+  tap_twin();
+  EXPECT_TRUE(objc_getClass("TWTweetComposeViewController"));
+  EXPECT_TRUE(presenter());
+}
+
+TEST_F(Share, WithoutTheFrameworkNothingIsPresented) {
+  set_device_images({});
+  play("Alpha");
+  advance(1.2);
+  tap_twin();
+  EXPECT_FALSE(presenter());
+  EXPECT_TRUE(is("isShow"));
+  // And the panel can be used as before.
+  springboard::press_home();
+  settle();
+  EXPECT_FALSE(is("isShow"));
 }
 
 TEST_F(Share, ASongWithoutAnArtworkCannotBeShared) {

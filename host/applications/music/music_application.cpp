@@ -4,6 +4,8 @@
 #include "host/applications/music/look.h"
 #include "host/applications/program/player_remote.h"
 #include "host/runtime/device_model.h"
+#include "host/springboard/surfaces/slider.h"
+#include "host/springboard/surfaces/surface_action.h"
 #include "host/springboard/view/make_view.h"
 
 namespace host::music {
@@ -55,6 +57,8 @@ void MusicApplication::player_changed() {
 
 void export_music_classes() {
   if (objc_getClass("MusicApplication")) return;
+  springboard::export_slider();
+  springboard::export_surface_action();
   export_songs_page();
   export_now_playing_page();
   objc::ClassBuilder("MusicApplication", "UIApplication")

@@ -44,8 +44,15 @@ class MusicApplication : public objc::Implementation<MusicApplication, MusicAppl
 
 void export_music_classes();
 
-inline constexpr application::Program kProgram{"com.apple.Music", "Music", "MusicApplication",
-                                               &export_music_classes,
-                                               &application::open_shared_library};
+inline constexpr std::string_view kImages[] = {process::kUIKit, process::kMediaPlayer};
+inline constexpr application::Program kProgram{
+    .bundle = "com.apple.Music",
+    .folder = "/Applications/Music.app",
+    .name = "Music",
+    .images = kImages,
+    .application_class = "MusicApplication",
+    .export_classes = &export_music_classes,
+    .prepare = &application::open_shared_library,
+};
 
 }  // namespace host::music

@@ -5,11 +5,12 @@
 
 #include "host/application/wire/listener_argument.h"
 #include "host/applications/program/running_program.h"
+#include "host/foundation/bundles.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
+#include "host/process/device_images.h"
 #include "host/process/library_globals.h"
-#include "host/process/platform_classes.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/heap.h"
@@ -61,7 +62,8 @@ void live(HomeLink& link, const Program& program) {
   RunLoop loop(hello.is_stepped ? static_cast<Clock&>(stepped) : real);
   RunLoop::set_main(&loop);
   const auto pool = std::make_unique<objc::AutoreleasePool>();
-  process::export_platform_classes();
+  process::start_program(program.images);
+  foundation::set_main_bundle(program.folder);
   foundation::take_foundation_log();
   const quartzcore::LayerService layers(loop);
   if (program.export_classes) program.export_classes();

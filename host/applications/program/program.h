@@ -2,13 +2,17 @@
 
 #include <string>
 
+#include "host/process/device_images.h"
+
 namespace host::application {
 
 /// What makes a program of an application: who it is, and how it comes to life.
 struct Program {
-  const char* bundle;             ///< Its identifier.
-  const char* name;               ///< Of its process.
-  const char* application_class;  ///< Of its application object.
+  const char* bundle;                        ///< Its identifier.
+  const char* folder;                        ///< Its bundle on the device.
+  const char* name;                          ///< Of its process.
+  std::span<const std::string_view> images;  ///< What it is linked with.
+  const char* application_class;             ///< Of its application object.
   /// Makes the classes of its own, when those of the platform are there. May be nullptr.
   void (*export_classes)();
   /// Starts what the application stands on, when there is a run loop. May be nullptr.

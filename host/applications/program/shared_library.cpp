@@ -1,19 +1,35 @@
 #include "host/applications/program/shared_library.h"
 
+#include <filesystem>
+
 #include "host/foundation/device_paths.h"
+#include "host/media/index.h"
 #include "host/media_player/media_service.h"
 #include "host/runtime/log.h"
 
 namespace host::application {
+namespace {
+
+std::string shared_index() {
+  return foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
+}
+
+}  // namespace
 
 void open_shared_library(bool is_stepped) {
   media_player::MediaOptions options;
-  options.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
+  options.index_path = shared_index();
   options.first_scan = media_player::FirstScan::kNever;
   options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   options.audio_output = "null";
   if (const auto problem = media_player::MediaService::start(std::move(options)))
     spdlog::error("there is no music: {}", *problem);
+}
+
+// Opening an index that is missing would make an empty one.
+std::size_t count_of_shared_songs() {
+  const std::string index = shared_index();
+  return std::filesystem::exists(index) ? media::Index(index).load().songs.size() : 0;
 }
 
 }  // namespace host::application

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "host/activator/strings.h"
+#include "host/applications/program/shared_library.h"
 #include "host/runtime/device_model.h"
-#include "platform/MediaPlayer/MPMediaQuery.h"
 #include "platform/UIKit/UIDevice.h"
 
 namespace host::settings {
@@ -16,13 +16,6 @@ PSSpecifier row(objc::Object target, NSString name) {
   return PSSpecifier::preferenceSpecifierNamed(
       name, target, nullptr, "valueOf:"_sel, nullptr,
       PSTableCell::cellTypeFromString("PSTitleValueCell"_ns), nullptr);
-}
-
-NSUInteger song_count() {
-  const auto query = MPMediaQuery::alloc().init();
-  const NSUInteger count = query ? query.items().count() : 0;
-  query.release();
-  return count;
 }
 
 }  // namespace
@@ -41,7 +34,8 @@ objc::Object AboutPage::value(PSSpecifier specifier) {
   const NSString name = specifier.name();
   const DeviceModel& device = current_device();
   if (name.isEqualToString("Name"_ns)) return UIDevice::currentDevice().name();
-  if (name.isEqualToString("Songs"_ns)) return to_ns(std::to_string(song_count()));
+  if (name.isEqualToString("Songs"_ns))
+    return to_ns(std::to_string(application::count_of_shared_songs()));
   if (name.isEqualToString("Version"_ns)) return UIDevice::currentDevice().systemVersion();
   if (name.isEqualToString("Model"_ns)) return to_ns(device.identifier);
   const auto pixels = [&](double points) {

@@ -4,16 +4,23 @@
 #include "host/activator/strings.h"
 #include "host/applications/settings/loader_entries.h"
 #include "host/applications/settings/row_icons.h"
+#include "host/process/device_images.h"
+#include "platform/Activator/LAListenerListViewController.h"
+#include "platform/UIKit/UINavigationController.h"
 
 namespace host::settings {
 namespace {
 
-PSSpecifier link(NSString name, const char* detail, UIImage icon) {
+PSSpecifier row(objc::Object target, NSString name, objc::Class detail, UIImage icon) {
   const auto made = PSSpecifier::preferenceSpecifierNamed(
-      name, nil, nullptr, nullptr, objc_getClass(detail),
-      PSTableCell::cellTypeFromString("PSLinkCell"_ns), nullptr);
+      name, target, nullptr, nullptr, detail, PSTableCell::cellTypeFromString("PSLinkCell"_ns),
+      nullptr);
   made.setProperty(icon, "iconImage"_ns);
   return made;
+}
+
+PSSpecifier link(NSString name, const char* detail, UIImage icon) {
+  return row(nil, name, objc_getClass(detail), icon);
 }
 
 }  // namespace
@@ -30,7 +37,9 @@ NSArray RootPage::specifiers() {
   rows.addObject(PSSpecifier::emptyGroupSpecifier());
   rows.addObject(link("Sounds"_ns, "PrefsSoundsController", row_icon(RowIcon::Sounds)));
   rows.addObject(link("Wallpaper"_ns, "PrefsWallpaperController", row_icon(RowIcon::Wallpaper)));
-  rows.addObject(link("Gestures"_ns, "LAListenerListViewController", row_icon(RowIcon::Gestures)));
+  const auto gestures = row(self, "Gestures"_ns, nullptr, row_icon(RowIcon::Gestures));
+  gestures.set_action("showGestures"_sel);
+  rows.addObject(gestures);
   const auto entries = read_loader_entries();
   if (!entries.empty()) rows.addObject(PSSpecifier::emptyGroupSpecifier());
   for (const LoaderEntry& entry : entries)
@@ -42,11 +51,19 @@ NSArray RootPage::specifiers() {
   return rows;
 }
 
+void RootPage::show_gestures() {
+  load_device_image(process::kGestureService);
+  const auto page = LAListenerListViewController::alloc().init();
+  self.navigationController().pushViewController(page, YES);
+  page.release();
+}
+
 void export_root_page() {
   objc::ClassBuilder("PrefsListController", "PSListController")
       .state<RootPage>()
       .method<&RootPage::init>("init")
       .method<&RootPage::specifiers>("specifiers")
+      .method<&RootPage::show_gestures>("showGestures")
       .finish();
 }
 

@@ -15,6 +15,8 @@ class RootPage : public objc::Implementation<RootPage, PrefsListController> {
 
   PrefsListController init();
   NSArray specifiers();
+  /// The gesture service's own page, which comes into the process with the service's library.
+  void show_gestures();
 };
 
 void export_root_page();

@@ -1,13 +1,13 @@
 #include "host/applications/settings/settings_application.h"
 
 #include "host/applications/program/player_remote.h"
-#include "host/applications/program/shared_library.h"
 #include "host/applications/settings/about_page.h"
 #include "host/applications/settings/root_page.h"
 #include "host/applications/settings/sounds_page.h"
 #include "host/applications/settings/volume_cell.h"
 #include "host/applications/settings/wallpaper_page.h"
 #include "host/social/configuration.h"
+#include "host/springboard/surfaces/slider.h"
 
 namespace host::settings {
 
@@ -37,6 +37,7 @@ void SettingsApplication::did_finish_launching(objc::Object) {
 
 void export_settings_classes() {
   if (PreferencesAppController::cls()) return;
+  springboard::export_slider();
   export_root_page();
   export_about_page();
   export_volume_cell();
@@ -55,7 +56,6 @@ void prepare_settings(bool is_stepped) {
   ways_out.desktop = is_stepped ? social::Desktop::Absent : social::desktop_of_environment();
   ways_out.share_target = social::default_share_target_file();
   social::configure(ways_out);
-  application::open_shared_library(is_stepped);
 }
 
 }  // namespace host::settings

@@ -28,12 +28,18 @@ class SettingsApplication
 };
 
 void export_settings_classes();
-/// Opens the library to count its songs, and, where the phone stands on a desktop, finds the way
-/// out to its programs.
+/// Where the phone stands on a desktop, finds the way out to its programs.
 void prepare_settings(bool is_stepped);
 
-inline constexpr application::Program kProgram{"com.apple.Preferences", "Preferences",
-                                               "PreferencesAppController", &export_settings_classes,
-                                               &prepare_settings};
+inline constexpr std::string_view kImages[] = {process::kUIKit, process::kPreferences};
+inline constexpr application::Program kProgram{
+    .bundle = "com.apple.Preferences",
+    .folder = "/Applications/Settings.app",
+    .name = "Preferences",
+    .images = kImages,
+    .application_class = "PreferencesAppController",
+    .export_classes = &export_settings_classes,
+    .prepare = &prepare_settings,
+};
 
 }  // namespace host::settings

@@ -1,12 +1,13 @@
 #include "host/launcher/home_screen/launch.h"
 
 #include "host/activator/service.h"
+#include "host/foundation/bundles.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
 #include "host/launcher/home_screen/music.h"
 #include "host/launcher/home_screen/phone_mode.h"
 #include "host/launcher/home_screen/supervised_processes.h"
-#include "host/process/platform_classes.h"
+#include "host/process/device_images.h"
 #include "host/runtime/heap.h"
 #include "host/social/configuration.h"
 #include "host/springboard/configuration.h"
@@ -43,7 +44,8 @@ void start_gesture_service() {
 
 void launch_home_screen(const ProcessOptions& options) {
   give_large_blocks_back();
-  process::export_platform_classes();
+  process::start_home_screen();
+  foundation::set_main_bundle("/System/Library/CoreServices/SpringBoard.app");
   foundation::take_foundation_log();
   springboard::Configuration configuration;
   configuration.wall_clock = &wall_clock(options.stepped);

@@ -91,6 +91,7 @@ void Slider::touches_cancelled(NSSet, UIEvent) {
 }
 
 void export_slider() {
+  if (SBSurfaceSlider::cls()) return;
   objc::ClassBuilder("SBSurfaceSlider", "UIView")
       .state<Slider>()
       .method<&Slider::touches_began>("touchesBegan:withEvent:")

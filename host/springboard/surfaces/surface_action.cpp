@@ -68,6 +68,7 @@ void SurfaceActions::on_upright_pan(UIView view, Pan act) {
 }
 
 void export_surface_action() {
+  if (SBSurfaceAction::cls()) return;
   objc::ClassBuilder("SBSurfaceAction", "NSObject")
       .state<SurfaceAction>()
       .method<&SurfaceAction::perform>("perform:")

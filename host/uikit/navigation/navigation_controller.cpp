@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/foundation/exception.h"
 #include "platform/UIKit/UIScrollView.h"
 
 namespace host::uikit {
@@ -151,7 +152,11 @@ void NavigationController::fit(UIViewController page) const {
 }
 
 void NavigationController::push(UIViewController page, BOOL animated) {
-  if (!page || page.parentViewController() == self) return;
+  if (!page)
+    foundation::raise("NSInvalidArgumentException"_ns,
+                      "Application tried to push a nil view controller on target " +
+                          foundation::plain_description(self) + ".");
+  if (page.parentViewController() == self) return;
   restore();
   Page from = pages_.empty() ? Page() : pages_.back();
   take_in(page);

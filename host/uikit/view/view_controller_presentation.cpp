@@ -1,5 +1,6 @@
 #include <memory>
 
+#include "host/foundation/exception.h"
 #include "host/uikit/view/touch_hold.h"
 #include "host/uikit/view/view_controller.h"
 
@@ -62,9 +63,13 @@ UIViewController ViewController::presenting() const {
 
 void ViewController::present(UIViewController controller, BOOL animated,
                              objc::Block<void()> completion) {
+  if (!controller)
+    foundation::raise("NSInvalidArgumentException"_ns,
+                      "Application tried to present a nil modal view controller on target " +
+                          foundation::plain_description(self) + ".");
   if (parent_) return presenter().presentViewController(controller, animated, completion);
   const UIWindow window = self.view().window();
-  if (!controller || presented_ || !window) return;
+  if (presented_ || !window) return;
   presented_.reset(controller);
   objc::state_of<ViewController>(controller).presenting_ = self;
   const UIView view = controller.view();

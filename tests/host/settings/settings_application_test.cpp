@@ -8,7 +8,7 @@
 #include "host/applications/program/player_remote.h"
 #include "host/applications/settings/loader_entries.h"
 #include "host/foundation/device_paths.h"
-#include "host/process/platform_classes.h"
+#include "host/process/device_images.h"
 #include "host/springboard/configuration.h"
 #include "host/springboard/wallpaper.h"
 #include "host/uikit/application/application.h"
@@ -28,7 +28,7 @@ class SettingsTest : public PageTest {
  protected:
   SettingsTest() {
     foundation::set_device_root(device.path());
-    process::export_platform_classes();
+    process::start_program(settings::kImages);
     settings::export_settings_classes();
     activator::Service::restart(activator::Service::Role::Guest, nullptr);
     springboard::Configuration configuration;
@@ -189,6 +189,17 @@ TEST_F(SettingsTest, AboutTellsWhatThePhoneIs) {
   EXPECT_TRUE(shows(top().view(), "iPhone7,2"_ns));
   EXPECT_TRUE(shows(top().view(), "750 × 1334"_ns));
   photograph("settings-about", clock.now());
+}
+
+TEST_F(SettingsTest, HasNoClassesOfFrameworksThatNobodyAskedFor) {
+  launch();
+  for (const char* name : {"UITableView", "PSListController"})
+    EXPECT_TRUE(objc_getClass(name)) << name;
+  for (const char* name :
+       {"SpringBoard", "SBIconController", "SBMediaController", "MPMusicPlayerController",
+        "MPUNowPlayingController", "TWTweetComposeViewController", "MFMailComposeViewController",
+        "LAActivator", "LAListenerListViewController"})
+    EXPECT_FALSE(objc_getClass(name)) << name;
 }
 
 TEST_F(SettingsTest, TheGesturesPageIsOpenedOnTheStack) {

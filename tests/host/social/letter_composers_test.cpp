@@ -39,7 +39,8 @@ class LetterComposers : public PageTest {
  protected:
   LetterComposers() {
     uikit::export_text_view();
-    social::export_social();
+    social::export_message_ui();
+    social::open_addresses();
     if (!TestComposerListener::cls()) {
       objc::ClassBuilder("TestComposerListener", "NSObject")
           .state<ComposerListener>()

@@ -49,7 +49,7 @@ class TweetComposerTest : public UIKitTest {
   TweetComposerTest() {
     uikit::export_scroll();
     uikit::export_text_view();
-    social::export_social();
+    social::export_twitter();
     social::Configuration configuration;
     configuration.outbox = folder / "Outbox";
     social::configure(configuration);

@@ -3,6 +3,7 @@
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UIScrollView.h"
 #include "tests/host/uikit_navigation/page_test.h"
+#include "tests/support/raised.h"
 
 namespace host::test {
 namespace {
@@ -268,6 +269,21 @@ TEST_F(NavigationTest, APagePresentsOverTheWholeStackEvenBeforeItIsSeen) {
   EXPECT_FALSE(card.view().window());
   EXPECT_THAT(told(), ::testing::ElementsAre("Card will disappear", "Second will appear",
                                              "Card did disappear", "Second did appear"));
+}
+
+TEST_F(NavigationTest, PushingOrPresentingNothingRaises) {
+  EXPECT_THAT(
+      raised_by([&] { navigation.pushViewController(nil, YES); }),
+      ::testing::Optional(::testing::StartsWith("Application tried to push a nil view controller "
+                                                "on target <UINavigationController: 0x")));
+  const auto present_nil = [&] { first.presentViewController(nil, YES, nullptr); };
+  EXPECT_THAT(
+      raised_by(present_nil),
+      ::testing::Optional(::testing::StartsWith(
+          "Application tried to present a nil modal view controller on target <TestToldPage: 0x")));
+  EXPECT_TRUE(raised_by([&] { first.presentModalViewController(nil, NO); }));
+  EXPECT_EQ(navigation.topViewController(), first);
+  EXPECT_FALSE(first.presentedViewController());
 }
 
 TEST_F(NavigationTest, IsGoneWithItsPagesWhenNobodyKeepsIt) {

@@ -1,0 +1,14 @@
+#include <dlfcn.h>
+
+#include "host/foundation/device_paths.h"
+#include "host/runtime/device_images.h"
+#include "host/runtime/exported.h"
+
+// A library loaded into this process, and Foundation for a bundle, asks for a framework by its path
+// on the device. The symbols of all frameworks are the program's own, so that its handle has them.
+SONAVUE_EXPORTED void* dlopen(const char* path, int mode) noexcept {
+  using Open = void* (*)(const char*, int);
+  static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "dlopen"));
+  const bool is_devices = path && host::load_device_image(path, host::foundation::device_root());
+  return next(is_devices ? nullptr : path, mode);
+}

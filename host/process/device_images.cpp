@@ -1,0 +1,76 @@
+#include "host/process/device_images.h"
+
+#include "host/activator/exports.h"
+#include "host/foundation/exports.h"
+#include "host/media_player/exports.h"
+#include "host/preferences/exports.h"
+#include "host/quartzcore/exports.h"
+#include "host/social/exports.h"
+#include "host/springboard/exports.h"
+#include "host/uikit/drawing/exports.h"
+#include "host/uikit/keyboard/exports.h"
+#include "host/uikit/navigation/exports.h"
+#include "host/uikit/scroll/exports.h"
+#include "host/uikit/text/exports.h"
+#include "host/uikit/text/text_view.h"
+#include "host/uikit/view/exports.h"
+
+namespace host::process {
+namespace {
+
+constexpr std::string_view kBelowQuartzCore[] = {kFoundation};
+constexpr std::string_view kBelowUIKit[] = {kQuartzCore};
+constexpr std::string_view kAboveUIKit[] = {kUIKit};
+constexpr std::string_view kBelowMediaPlayerUI[] = {kMediaPlayer};
+constexpr std::string_view kHomeScreenImages[] = {kUIKit, kQuartzCore, kMediaPlayer,
+                                                  kMediaPlayerUI};
+
+void export_uikit() {
+  social::open_addresses();
+  uikit::export_drawing();
+  uikit::export_views();
+  uikit::export_text();
+  uikit::export_keyboard();
+  uikit::export_scroll();
+  uikit::export_text_view();
+  uikit::export_navigation();
+}
+
+// The last ones have nothing but C functions here, which every program has: they are there to be
+// asked for.
+constexpr DeviceImage kImages[] = {
+    {kFoundation, {}, &foundation::export_foundation},
+    {kQuartzCore, kBelowQuartzCore, &quartzcore::export_quartzcore},
+    {kUIKit, kBelowUIKit, &export_uikit},
+    {kMediaPlayer, kAboveUIKit, &media_player::export_media_player},
+    {kMediaPlayerUI, kBelowMediaPlayerUI, &media_player::export_now_playing_controller},
+    {kMessageUI, kAboveUIKit, &social::export_message_ui},
+    {kTwitter, kAboveUIKit, &social::export_twitter},
+    {kPreferences, kAboveUIKit, &preferences::export_preferences},
+    {kGestureService, kAboveUIKit, &activator::export_activator},
+    {"/System/Library/Frameworks/CoreFoundation.framework/CoreFoundation", {}, nullptr},
+    {"/System/Library/Frameworks/CoreGraphics.framework/CoreGraphics", {}, nullptr},
+    {"/Library/Frameworks/CydiaSubstrate.framework/CydiaSubstrate", {}, nullptr},
+    {"/usr/lib/libSystem.B.dylib", {}, nullptr},
+    {"/usr/lib/libobjc.A.dylib", {}, nullptr},
+};
+
+}  // namespace
+
+std::span<const DeviceImage> device_images() {
+  return kImages;
+}
+
+void start_program(std::span<const std::string_view> images) {
+  set_device_images(kImages);
+  for (const std::string_view image : images)
+    load_device_image(image);
+}
+
+void start_home_screen() {
+  start_program(kHomeScreenImages);
+  media_player::export_media_controller();
+  springboard::export_springboard();
+}
+
+}  // namespace host::process
