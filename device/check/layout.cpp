@@ -5,6 +5,8 @@
 #include <iterator>
 #include <set>
 
+#include "device/check/control_fields.h"
+
 namespace sonavue::device {
 namespace {
 
@@ -97,6 +99,7 @@ void check_fields(const PackageFile& package, Findings& findings) {
   for (const char* field : {"Version", "Maintainer", "Section", "Description", "Installed-Size"})
     if (text.find(fmt::format("\n{}: ", field)) == std::string::npos)
       findings.push_back(fmt::format("control: lacks the field {}", field));
+  check_control_fields(text.substr(1), findings);
 }
 
 /// The processes that the library is loaded into.

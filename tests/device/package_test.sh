@@ -64,6 +64,10 @@ done
 for field in Version Maintainer Section Description Installed-Size; do
   broken "lacks the field $field" perl -0777 -pi -e "s/^$field:.*\\n( .*\\n)*//m" DEBIAN/control
 done
+broken "only some of Depiction, Homepage and Icon" \
+  sed -i '$a Homepage: https://plumvane.example.org/' DEBIAN/control
+broken "Icon is no address" sed -i '$a Icon: file:///Library/Icon.png' DEBIAN/control
+broken "the field \`Conflicts\` does not belong" sed -i '$a Conflicts: others' DEBIAN/control
 broken "does not name com.apple.springboard" patch "$filter" com.apple.springboard com.apple.springgoard
 broken "does not name com.apple.Preferences" patch "$filter" com.apple.Preferences com.apple.preferences
 broken "mode 600 in place of 755" chmod 600 "$library"
