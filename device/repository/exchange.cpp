@@ -1,0 +1,19 @@
+#include <fcntl.h>
+#include <fmt/core.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+// sonavue_exchange ONE OTHER lets two folders of one file system change their names in one step.
+
+int main(int count, char** arguments) {
+  constexpr int kWrongUse = 2;
+  if (count != 3) {
+    fmt::print(stderr, "Usage: sonavue_exchange ONE OTHER\n");
+    return kWrongUse;
+  }
+  if (renameat2(AT_FDCWD, arguments[1], AT_FDCWD, arguments[2], RENAME_EXCHANGE) == 0) return 0;
+  fmt::print(stderr, "{} cannot be replaced: {}.\n", arguments[2], std::strerror(errno));
+  return 1;
+}

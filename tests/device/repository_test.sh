@@ -1,0 +1,192 @@
+#!/bin/bash
+# Makes the folder that package managers read, has it read by one, and gives it what it has to refuse:
+# `repository_test.sh SOURCE BUILD`.
+set -eu
+
+. "$(dirname "$0")/test_folder.sh"
+preset=$(basename "$build")
+name=org.plumvane.sonavue2
+address=https://plumvane.example.org/sonavue
+
+# make FOLDER [ADDRESS]
+make() {
+  "$source/device/repository/make" "$preset" "$work/$1" "${@:2}"
+}
+
+make plain
+make addressed "$address"
+# Whoever makes it again, and where, does not show.
+(umask 077 && cd / && TZ=Asia/Tokyo LC_ALL=C.UTF-8 make again "$address")
+diff -r "$work/addressed" "$work/again" || fail "made twice, the folders differ"
+[ -z "$(find "$work/again" ! -perm -a+r -o -type d ! -perm -a+x)" ] || fail "not for everybody to read"
+grep -rlF -e "$source" -e "$work" "$work/again" && fail "a path of this machine is in a file"
+
+cd "$work/addressed"
+package=$(echo *.deb)
+expected="CydiaIcon.png Packages Packages.bz2 Packages.gz Release index.html $package pictures"
+[ "$(LC_ALL=C echo *)" = "$expected" ] || fail "other files: $(echo *)"
+gzip -dc Packages.gz | cmp - Packages || fail "Packages.gz is another list"
+bzip2 -dc Packages.bz2 | cmp - Packages || fail "Packages.bz2 is another list"
+date=$(LC_ALL=C date -u -d "@$(git -C "$source" log -1 --format=%ct)" '+%a, %d %b %Y %H:%M:%S UTC')
+for line in "Origin: Sonavue" "Label: Sonavue" "Suite: stable" "Version: 2.0.0" "Codename: ios" \
+  "Architectures: iphoneos-arm" "Components: main" "Description: A music player over the home screen" \
+  "Date: $date"; do
+  grep -qxF "$line" Release || fail "Release lacks: $line"
+done
+
+# Every file stands in each of the three lists, as programs that know nothing of this project hash it.
+for list in MD5Sum:md5sum SHA1:sha1sum SHA256:sha256sum; do
+  find . -type f ! -name Release -printf '%P\n' | LC_ALL=C sort | while read -r file; do
+    echo " $("${list#*:}" "$file" | cut -d' ' -f1) $(wc -c <"$file") $file"
+  done >"$work/expected"
+  sed "1,/^${list%:*}:/d" Release | sed '/^[^ ]/,$d' | cmp - "$work/expected" ||
+    fail "the list ${list%:*} differs"
+done
+
+# The addresses, and what is different without one.
+field() {
+  dpkg-deb --field "$1" "$2"
+}
+page=$(field "$package" Depiction)
+icon=$(field "$package" Icon)
+[ -f "${page#"$address/"}" ] || fail "the page is not at $page"
+[ -f "${icon#"$address/"}" ] || fail "the icon is not at $icon"
+[ "$(field "$package" Homepage)" = "$address/" ] || fail "the homepage is $(field "$package" Homepage)"
+grep -qF ">$address<" index.html || fail "the page does not name the source"
+for each in Depiction Homepage Icon; do
+  [ -z "$(field "$work/plain/$package" $each)" ] || fail "without an address there is a $each"
+done
+"$source/device/package/make" "$preset" "$work/alone"
+cmp "$work/alone/$package" "$work/plain/$package" || fail "without an address it is another package"
+grep -q '>Source<' "$work/plain/index.html" && fail "the page names a source without an address"
+
+# The page: whole, with nothing that is run or fetched from elsewhere, all it shows is there.
+for html in index.html ../plain/index.html; do
+  grep -inE '<script|javascript:|@[A-Z]+@|url\(| on[a-z]+=|(src|href)="[a-z]*:' "$html" &&
+    fail "$html has what it should not"
+  for word in 2.0.0 prefers-color-scheme '<title>Sonavue' '<h3>2.0.0</h3>'; do
+    grep -qF "$word" "$html" || fail "$html lacks $word"
+  done
+done
+shown=$(sed -n 's/.*<img src="\([^"]*\)".*/\1/p' index.html | sort)
+[ "$shown" = "$( (echo CydiaIcon.png && find pictures -type f) | sort)" ] || fail "pictures: $shown"
+items=$(grep -c '^- ' "$source/docs/CHANGELOG.md")
+[ "$(sed -n '/new<\/h2>/,/<\/section>/p' index.html | grep -c '<li>.*</li>')" -eq "$items" ] ||
+  fail "the page does not tell the $items lines of the changelog"
+
+# A package manager that knows no other source.
+apt=$work/apt
+mkdir -p "$apt"/{etc/parts,etc/sources,etc/trusted,state/lists/partial,cache/archives/partial,got}
+touch "$apt/status" "$apt/etc/preferences"
+echo "deb [trusted=yes] file:$work/addressed ./" >"$apt/etc/sources.list"
+cat >"$apt/configuration" <<END
+Dir::State "$apt/state";
+Dir::State::status "$apt/status";
+Dir::Cache "$apt/cache";
+Dir::Etc::sourcelist "$apt/etc/sources.list";
+Dir::Etc::sourceparts "$apt/etc/sources";
+Dir::Etc::parts "$apt/etc/parts";
+Dir::Etc::main "$apt/etc/none";
+Dir::Etc::preferences "$apt/etc/preferences";
+Dir::Etc::preferencesparts "$apt/etc/parts";
+Dir::Etc::trusted "$apt/etc/none";
+Dir::Etc::trustedparts "$apt/etc/trusted";
+APT::Architecture "iphoneos-arm";
+APT::Architectures { "iphoneos-arm"; };
+APT::Sandbox::User "";
+Acquire::Languages "none";
+END
+export APT_CONFIG=$apt/configuration
+cd "$apt/got"
+apt-get -o APT::Update::Error-Mode=any update >"$work/said" 2>&1 ||
+  fail "the manager cannot read the source: $(cat "$work/said")"
+grep -E '^(W|E):' "$work/said" && fail "the manager complains"
+apt-cache policy $name >"$work/said"
+grep -q "Candidate: 2.0.0" "$work/said" || fail "no version to install: $(cat "$work/said")"
+apt-cache policy | grep -qF "o=Sonavue,a=stable,n=ios,l=Sonavue,c=" || fail "another release"
+apt-cache show $name >"$work/said"
+held=$work/addressed/$package
+for line in "Size: $(wc -c <"$held")" "MD5sum: $(md5sum <"$held" | cut -d' ' -f1)" \
+  "SHA1: $(sha1sum <"$held" | cut -d' ' -f1)" "SHA256: $(sha256sum <"$held" | cut -d' ' -f1)" \
+  "Architecture: iphoneos-arm" "Name: Sonavue" "Depiction: $address/index.html"; do
+  grep -qxF "$line" "$work/said" || fail "the manager does not know: $line"
+done
+apt-get download $name >"$work/said" 2>&1 || fail "the manager cannot fetch: $(cat "$work/said")"
+cmp "$held" "$apt"/got/*.deb || fail "what the manager fetches differs"
+cd "$work"
+
+# snapshot: all that is in the test's folder but what the test itself notes there.
+snapshot() {
+  find "$work" ! -path "$work/said" ! -path "$work" -printf '%P %i %s %m\n' | sort
+}
+
+# refused STATUS EXPECTED COMMAND…: the command ends so and says so, and nothing is made, changed or lost.
+refused() {
+  before=$(snapshot)
+  result=0
+  "${@:3}" >"$work/said" 2>&1 </dev/null || result=$?
+  [ "$result" -eq "$1" ] || fail "ends with $result in place of $1: ${*:3}: $(cat "$work/said")"
+  grep -qF -- "$2" "$work/said" || fail "does not say '$2': ${*:3}: $(cat "$work/said")"
+  [ "$(snapshot)" = "$before" ] || fail "leaves something: ${*:3}"
+}
+
+# Wrong arguments are seen before anything is built.
+command=$source/package
+refused 2 "Nothing is given behind --repository" "$command" --repository
+refused 2 "Nothing is given behind --repository" "$command" --repository ""
+refused 2 "Nothing is given behind --repository" "$command" --repository --address "$address"
+refused 2 "Nothing is given behind --address" "$command" --repository new --address
+refused 2 "goes with --repository" "$command" --address "$address"
+refused 2 "no option --repo" "$command" --repo new
+refused 2 "no option new" "$command" new
+for bad in plumvane.example.org ftp://a.example file:///a http:// https:///a https:/a xhttps://a; do
+  refused 2 "begins with http" "$command" --repository new --address "$bad"
+done
+for bad in "https://a.example/a b" " https://a.example" "https://a.example " $'https://a.example/\nIcon: x' \
+  $'https://a.example/\r' $'https://a.example\t' 'https://a.example/"' 'https://a.example/<b>' \
+  'https://a.example/|' 'https://a.example/&' 'https://a.example/\' 'https://a.example/é'; do
+  refused 2 "An address " "$command" --repository new --address "$bad"
+done
+refused 0 "--repository FOLDER" "$command" --help
+
+# The checker looks once more, whoever makes the folder.
+refused 1 "Depiction is no address" "$source/device/repository/make" "$preset" new ftp://a.example
+refused 1 "Depiction is no address" "$source/device/repository/make" "$preset" new "https://a b"
+refused 1 "Depiction is no address" "$source/device/repository/make" "$preset" new \
+  $'https://a.example/\n b'
+
+# What was not made here is nobody's to replace.
+echo mine >file
+mkdir empty foreign
+echo mine >foreign/mine
+for kind in added changed lost theirs; do cp -a plain $kind; done
+echo mine >added/mine
+echo mine >>changed/index.html
+rm lost/pictures/open-panel.jpg
+sed -i 's/^Origin: .*/Origin: Others/' theirs/Release
+mkdir half
+cp plain/Release half
+refused 1 "is a file" "$command" --repository file
+for folder in foreign added changed lost theirs half /; do
+  refused 1 "holds something else" "$command" --repository $folder
+done
+refused 1 "There is no folder $work/none" "$command" --repository none/new
+refused 1 "/proc cannot be written" "$command" --repository /proc/new
+
+# Neither is what comes into an empty folder while the source is being made.
+mkdir busy programs
+printf '#!/bin/sh\necho mine >"%s/busy/mine"\nexec %s "$@"\n' "$work" "$(command -v bzip2)" >programs/bzip2
+chmod +x programs/bzip2
+(PATH=$work/programs:$PATH make busy >said 2>&1) && fail "a folder is replaced that somebody writes into"
+[ "$(echo busy*/*)" = busy/mine ] || fail "of what came meanwhile is left: $(echo busy*/*)"
+
+# An empty folder is taken, and one that was made here, by any name.
+ln -s empty link
+make link
+diff -r plain empty || fail "in an empty folder it is another source"
+[ -L link ] || fail "the link is gone"
+make empty "$address"
+diff -r addressed empty || fail "the new source has not taken the old one's place"
+ls -d ./*.new-* .*.new-* 2>/dev/null && fail "something is left beside"
+
+exit $failed
