@@ -74,6 +74,22 @@ items=$(grep -c '^- ' "$source/docs/CHANGELOG.md")
 [ "$(sed -n '/new<\/h2>/,/<\/section>/p' index.html | grep -c '<li>.*</li>')" -eq "$items" ] ||
   fail "the page does not tell the $items lines of the changelog"
 
+# page_of COMMAND…: the page of a package whose control file was changed like that.
+page_of() {
+  rm -rf "$work/tree"
+  dpkg-deb --raw-extract "$package" "$work/tree"
+  (cd "$work/tree/DEBIAN" && "$@")
+  dpkg-deb -z1 --build "$work/tree" "$work/other.deb" >"$work/said" 2>&1
+  "$source/device/repository/page" "$work/other.deb" 2>"$work/said"
+}
+page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.0), others/' control |
+  grep -qF '<td>8.0 or later</td>' || fail "the page does not tell the first system"
+page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.1), others (<< 2), firmware (<< 9.0)/' control |
+  grep -qF '<td>8.1 or later, before 9.0</td>' || fail "the page does not tell the range of systems"
+page_of sed -i 's/^Version: .*/Version: 2.0.9/' control >/dev/null && fail "a page without news"
+grep -qF "docs/CHANGELOG.md does not tell of 2.0.9" "$work/said" || fail "says: $(cat "$work/said")"
+rm -r "$work/tree" "$work/other.deb"
+
 # A package manager that knows no other source.
 apt=$work/apt
 mkdir -p "$apt"/{etc/parts,etc/sources,etc/trusted,state/lists/partial,cache/archives/partial,got}
