@@ -70,7 +70,7 @@ for html in index.html ../plain/index.html; do
 done
 shown=$(sed -n 's/.*<img src="\([^"]*\)".*/\1/p' index.html | sort)
 [ "$shown" = "$( (echo CydiaIcon.png && find pictures -type f) | sort)" ] || fail "pictures: $shown"
-items=$(grep -c '^- ' "$source/docs/CHANGELOG.md")
+items=$(grep -c '^- ' "$source/CHANGELOG.md")
 [ "$(sed -n '/new<\/h2>/,/<\/section>/p' index.html | grep -c '<li>.*</li>')" -eq "$items" ] ||
   fail "the page does not tell the $items lines of the changelog"
 
@@ -87,7 +87,7 @@ page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.0), others/' control |
 page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.1), others (<< 2), firmware (<< 9.0)/' control |
   grep -qF '<td>8.1 or later, before 9.0</td>' || fail "the page does not tell the range of systems"
 page_of sed -i 's/^Version: .*/Version: 2.0.9/' control >/dev/null && fail "a page without news"
-grep -qF "docs/CHANGELOG.md does not tell of 2.0.9" "$work/said" || fail "says: $(cat "$work/said")"
+grep -qF "CHANGELOG.md does not tell of 2.0.9" "$work/said" || fail "says: $(cat "$work/said")"
 rm -r "$work/tree" "$work/other.deb"
 
 # A package manager that knows no other source.
