@@ -6,11 +6,24 @@
 #ifdef SONAVUE_BINDING_TABLE
 #include "objc/binding_table.h"
 #endif
+#ifdef SONAVUE_MESSAGE_SYMBOLS
+#include "objc/message_text.h"
+#endif
 
 namespace objc {
 
 template <FixedString Name>
 inline constinit Class cached_class = nullptr;
+
+#ifdef SONAVUE_MESSAGE_SYMBOLS
+/// The selector of one binding: the symbol says what is sent, to which class, with which types.
+template <FixedString Message>
+inline constinit Sel cached_message = nullptr;
+
+/// The selector of a message that is asked for before it is sent.
+template <FixedString Message>
+inline constinit Sel asked_message = nullptr;
+#endif
 
 /// The class of that name, looked up when first needed; nil, and looked up again, while missing.
 template <FixedString Name>
@@ -55,23 +68,49 @@ struct Bound : Base {
   /// Sends an instance method of this class.
   template <FixedString Selector, class Result = void, class... Arguments>
   Result call(const Arguments&... arguments) const {
-    note<Selector, false, Result, Arguments...>();
-    return send<Result>(*this, selector<Selector>(), arguments...);
+    return send<Result>(*this, noted<Selector, false, Result, Arguments...>(), arguments...);
   }
 
   /// Sends a class method of this class.
   template <FixedString Selector, class Result = void, class... Arguments>
   static Result call_class(const Arguments&... arguments) {
-    note<Selector, true, Result, Arguments...>();
-    return send<Result>(Object(cls()), selector<Selector>(), arguments...);
+    return send<Result>(Object(cls()), noted<Selector, true, Result, Arguments...>(), arguments...);
+  }
+
+  /// Whether objects of this class answer a message that not every system has.
+  template <FixedString Selector>
+  bool answers() const {
+    return send<BOOL>(*this, "respondsToSelector:"_sel, asked<Selector, false>());
+  }
+
+  /// The same of a class method.
+  template <FixedString Selector>
+  static bool class_answers() {
+    return send<BOOL>(Object(cls()), "respondsToSelector:"_sel, asked<Selector, true>());
   }
 
  private:
+  template <FixedString Selector, bool OfClass>
+  static Sel asked() {
+#ifdef SONAVUE_MESSAGE_SYMBOLS
+    return cached(asked_message<message_name<Name, Selector, OfClass>>, Selector.c_str());
+#else
+    return selector<Selector>();
+#endif
+  }
+
+  /// The selector, kept where whoever asks what is sent finds it.
   template <FixedString Selector, bool OfClass, class Result, class... Arguments>
-  static void note() {
+  static Sel noted() {
 #ifdef SONAVUE_BINDING_TABLE
     static_cast<void>(
         &NotedBinding<Name, Selector, OfClass, MethodEncoding<Result, Arguments...>::text>::noted);
+#endif
+#ifdef SONAVUE_MESSAGE_SYMBOLS
+    return cached(cached_message<message_text<Name, Selector, OfClass, Result, Arguments...>>,
+                  Selector.c_str());
+#else
+    return selector<Selector>();
 #endif
   }
 };

@@ -8,15 +8,19 @@ namespace objc {
 template <FixedString Name>
 inline constinit Sel cached_selector = nullptr;
 
-/// The selector of that name, registered with the runtime at its first use and cached from then on.
-template <FixedString Name>
-inline Sel selector() {
-  Sel found = __atomic_load_n(&cached_selector<Name>, __ATOMIC_RELAXED);
+/// The selector in the cache; it is registered with the runtime at its first use.
+inline Sel cached(Sel& cache, const char* name) {
+  Sel found = __atomic_load_n(&cache, __ATOMIC_RELAXED);
   if (found) [[likely]]
     return found;
-  found = sel_registerName(Name.c_str());
-  __atomic_store_n(&cached_selector<Name>, found, __ATOMIC_RELAXED);
+  found = sel_registerName(name);
+  __atomic_store_n(&cache, found, __ATOMIC_RELAXED);
   return found;
+}
+
+template <FixedString Name>
+inline Sel selector() {
+  return cached(cached_selector<Name>, Name.c_str());
 }
 
 inline namespace literals {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "objc/class_builder.h"
+#include "objc/message_text.h"
 
 extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
                                 objc::Imp* original);
@@ -20,18 +21,26 @@ MethodRow row(const char* selector) {
           objc::MethodOf<Function>::encoding.c_str()};
 }
 
-/// The implementation that a replacement took the place of. Where the class was missing, nothing
-/// was replaced and calling it gives zero.
-template <class Signature>
+/// Where the implementation is kept that one of ours takes the place of; its symbol says which.
+template <objc::FixedString Method>
+inline constinit objc::Imp replaced_body = nullptr;
+
+/// A method of the platform that one of ours takes the place of, an object's or a class's.
+template <objc::FixedString Class, objc::FixedString Selector, class Signature,
+          bool OfClass = false>
 class Replaced;
 
-template <class Result, class Self, class... Arguments>
-class Replaced<Result(Self, Arguments...)> {
+template <objc::FixedString Class, objc::FixedString Selector, bool OfClass, class Result,
+          class Self, class... Arguments>
+class Replaced<Class, Selector, Result(Self, Arguments...), OfClass> {
  public:
-  Result operator()(Self self, objc::Sel selector, Arguments... arguments) const {
+  /// Does what the platform does. Where the class is missing nothing was replaced, and this gives
+  /// zero.
+  static Result original(Self self, Arguments... arguments) {
     using Function = objc::AbiType<Result> (*)(objc::Id, objc::Sel, objc::AbiType<Arguments>...);
-    if (!body_) return Result();
-    const auto function = reinterpret_cast<Function>(body_);
+    if (!body) return Result();
+    const auto function = reinterpret_cast<Function>(body);
+    const objc::Sel selector = objc::selector<Selector>();
     if constexpr (std::is_void_v<Result>) {
       function(self.id(), selector, objc::to_abi(arguments)...);
     } else {
@@ -39,17 +48,19 @@ class Replaced<Result(Self, Arguments...)> {
     }
   }
 
-  objc::Imp* slot() { return &body_; }
+  template <auto Function>
+  static void replace_with() {
+    static_assert(std::is_same_v<decltype(Function), Result (*)(Self, Arguments...)>);
+    objc::Class cls = objc_getClass(Class.c_str());
+    if (cls && OfClass) cls = objc::class_of(reinterpret_cast<objc::Id>(cls));
+    if (!cls) return;
+    MSHookMessageEx(cls, objc::selector<Selector>(),
+                    reinterpret_cast<objc::Imp>(&objc::MethodOf<Function>::call), &body);
+  }
 
  private:
-  objc::Imp body_ = nullptr;
+  static constexpr objc::Imp& body =
+      replaced_body<objc::message_text<Class, Selector, OfClass, Result, Arguments...>>;
 };
-
-/// Replaces the method of `cls` with `Function` and keeps the one before in `original`.
-template <auto Function, class Signature>
-void replace(objc::Class cls, const char* selector, Replaced<Signature>& original) {
-  MSHookMessageEx(cls, sel_registerName(selector),
-                  reinterpret_cast<objc::Imp>(&objc::MethodOf<Function>::call), original.slot());
-}
 
 }  // namespace sonavue

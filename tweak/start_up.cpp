@@ -16,7 +16,8 @@ constexpr double kIconWatchInterval = 0.1;
 constexpr double kRefreshInterval = 1.0;
 constexpr double kPreferencesInterval = 0.1;
 
-Replaced<void(SpringBoard, objc::Object)> did_finish_launching;
+using DidFinishLaunching =
+    Replaced<"SpringBoard", "applicationDidFinishLaunching:", void(SpringBoard, objc::Object)>;
 
 void register_gesture_listener() {
   const auto listener = SVActivatorListener::alloc().init();
@@ -29,7 +30,7 @@ void start_timer(double interval, objc::Sel action) {
 }
 
 void launched(SpringBoard self, objc::Object application) {
-  did_finish_launching(self, "applicationDidFinishLaunching:"_sel, application);
+  DidFinishLaunching::original(self, application);
   nowPlayingController = MPUNowPlayingController::alloc().init();
   register_gesture_listener();
   Spring = self;
@@ -46,8 +47,7 @@ void launched(SpringBoard self, objc::Object application) {
 }  // namespace
 
 void hook_launch() {
-  replace<&launched>(objc_getClass("SpringBoard"),
-                     "applicationDidFinishLaunching:", did_finish_launching);
+  DidFinishLaunching::replace_with<&launched>();
 }
 
 }  // namespace sonavue

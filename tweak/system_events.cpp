@@ -28,10 +28,11 @@ void close_panel_if_up() {
 // A touch on the Music icon leaves its home frame behind, before any drag begins. While the panel
 // closes the icon can be touched where it is not at home.
 
-Replaced<void(SBIconView, NSSet, UIEvent)> touches_began;
+using TouchesBegan =
+    Replaced<"SBIconView", "touchesBegan:withEvent:", void(SBIconView, NSSet, UIEvent)>;
 
 void touches_began_on_icon(SBIconView self, NSSet touches, UIEvent event) {
-  touches_began(self, "touchesBegan:withEvent:"_sel, touches, event);
+  TouchesBegan::original(self, touches, event);
   const auto touch = objc::cast<UITouch>(event.allTouches().anyObject());
   const UIView touched = touch.view();
   if (touched && touched == musicIcon && !icon_is_away()) keep_icon_home();
@@ -39,47 +40,53 @@ void touches_began_on_icon(SBIconView self, NSSet touches, UIEvent event) {
 
 // The Home button only closes the panel while it is up.
 
-Replaced<BOOL(objc::Object)> clicked_menu_button;
-Replaced<BOOL(objc::Object)> menu_double_tap;
+using ClickedMenuButton = Replaced<"SBUIController", "clickedMenuButton", BOOL(objc::Object)>;
+using MenuDoubleTap = Replaced<"SBUIController", "handleMenuDoubleTap", BOOL(objc::Object)>;
 
 BOOL home_button_clicked(objc::Object self) {
-  if (!panel_is_up()) return clicked_menu_button(self, "clickedMenuButton"_sel);
+  if (!panel_is_up()) return ClickedMenuButton::original(self);
   close_panel();
   return YES;
 }
 
 BOOL home_button_clicked_twice(objc::Object self) {
-  if (!panel_is_up()) return menu_double_tap(self, "handleMenuDoubleTap"_sel);
+  if (!panel_is_up()) return MenuDoubleTap::original(self);
   close_panel();
   return YES;
 }
 
-Replaced<void(objc::Object, objc::Object, NSInteger)> present_banner;
+using PresentBanner =
+    Replaced<"SBBannerController",
+             "_presentBannerForContext:reason:", void(objc::Object, objc::Object, NSInteger)>;
 
 void banner_presented(objc::Object self, objc::Object context, NSInteger reason) {
   close_panel_if_up();
-  present_banner(self, "_presentBannerForContext:reason:"_sel, context, reason);
+  PresentBanner::original(self, context, reason);
 }
 
 // These four let the system go first.
 
-Replaced<void(objc::Object)> display_turned_off;
-Replaced<void(objc::Object)> prepare_for_unlock;
-Replaced<void(objc::Object)> notification_center_will_present;
-Replaced<void(objc::Object)> control_center_will_present;
+using DisplayTurnedOff =
+    Replaced<"SBLockScreenViewController", "_handleDisplayTurnedOff", void(objc::Object)>;
+using PrepareForUnlock =
+    Replaced<"SBLockScreenViewController", "prepareForUIUnlock", void(objc::Object)>;
+using NotificationCenterWillPresent =
+    Replaced<"SBNotificationCenterViewController", "hostWillPresent", void(objc::Object)>;
+using ControlCenterWillPresent =
+    Replaced<"SBControlCenterContainerView", "controlCenterWillPresent", void(objc::Object)>;
 
 void display_turned_off_too(objc::Object self) {
-  display_turned_off(self, "_handleDisplayTurnedOff"_sel);
+  DisplayTurnedOff::original(self);
   close_panel_if_up();
 }
 
 void unlock_prepared(objc::Object self) {
-  prepare_for_unlock(self, "prepareForUIUnlock"_sel);
+  PrepareForUnlock::original(self);
   close_panel_if_up();
 }
 
 void notification_center_shown(objc::Object self) {
-  notification_center_will_present(self, "hostWillPresent"_sel);
+  NotificationCenterWillPresent::original(self);
   close_panel_if_up();
 }
 
@@ -90,7 +97,7 @@ void dismiss_control_center() {
 // It cannot open over the full panel, and takes the place of a banner that is fully down. A
 // banner on the move is left alone, and so is the control centre then.
 void control_center_shown(objc::Object self) {
-  control_center_will_present(self, "controlCenterWillPresent"_sel);
+  ControlCenterWillPresent::original(self);
   if (isShow) dismiss_control_center();
   if (isBanner && window.frame().origin.y == 0) {
     objc::send<>(Spring, "dismissBanner"_sel);
@@ -100,40 +107,46 @@ void control_center_shown(objc::Object self) {
 
 // Reachability moves the whole screen, so the panel goes without asking whether it is up.
 
-Replaced<BOOL(objc::Object)> reachability_supported;
-Replaced<void(objc::Object)> reachability_deactivated;
-Replaced<void(objc::Object)> reachability_activated;
-Replaced<void(objc::Object)> significant_time_changed;
-Replaced<void(objc::Object, objc::Object)> keep_alive_timer_fired;
+using ReachabilitySupported =
+    Replaced<"SBReachabilityManager", "reachabilitySupported", BOOL(objc::Object), true>;
+using ReachabilityDeactivated =
+    Replaced<"SBReachabilityManager", "_handleReachabilityDeactivated", void(objc::Object)>;
+using ReachabilityActivated =
+    Replaced<"SBReachabilityManager", "_handleReachabilityActivated", void(objc::Object)>;
+using SignificantTimeChanged =
+    Replaced<"SBReachabilityManager", "_handleSignificantTimeChanged", void(objc::Object)>;
+using KeepAliveTimerFired =
+    Replaced<"SBReachabilityManager", "_keepAliveTimerFired:", void(objc::Object, objc::Object)>;
 
 BOOL reachability_is_supported(objc::Object self) {
-  return reachability_supported(self, "reachabilitySupported"_sel);
+  return ReachabilitySupported::original(self);
 }
 
 void reachability_went_down(objc::Object self) {
-  reachability_deactivated(self, "_handleReachabilityDeactivated"_sel);
+  ReachabilityDeactivated::original(self);
   close_panel();
 }
 
 void reachability_came_up(objc::Object self) {
-  reachability_activated(self, "_handleReachabilityActivated"_sel);
+  ReachabilityActivated::original(self);
   close_panel();
 }
 
 void time_changed(objc::Object self) {
-  significant_time_changed(self, "_handleSignificantTimeChanged"_sel);
+  SignificantTimeChanged::original(self);
   close_panel();
 }
 
 void kept_alive(objc::Object self, objc::Object timer) {
-  keep_alive_timer_fired(self, "_keepAliveTimerFired:"_sel, timer);
+  KeepAliveTimerFired::original(self, timer);
   close_panel();
 }
 
 // The ring follows the volume. The system's own handler is left out on purpose: nothing else is to
 // happen on a press of the volume buttons.
 
-Replaced<void(SBMediaController, objc::Object)> system_volume_changed;
+using SystemVolumeChanged =
+    Replaced<"SBMediaController", "_systemVolumeChanged:", void(SBMediaController, objc::Object)>;
 
 void volume_changed(SBMediaController self, objc::Object) {
   if (preference_equals("play"_ns, "volume"_ns, "volume"_ns)) ring.setProgress(self.volume(), YES);
@@ -141,54 +154,41 @@ void volume_changed(SBMediaController self, objc::Object) {
 
 // Every window may show above the lock screen, so that the panel's can.
 
-Replaced<BOOL(UIWindow)> should_create_context_as_secure;
+using ShouldCreateContextAsSecure =
+    Replaced<"UIWindow", "_shouldCreateContextAsSecure", BOOL(UIWindow)>;
 
 BOOL always_secure(UIWindow) {
   return YES;
 }
 
-Replaced<void(MPMusicPlayerController, int)> playback_state_did_change;
+using PlaybackStateDidChange =
+    Replaced<"MPMusicPlayerController",
+             "_playbackStateDidChange:", void(MPMusicPlayerController, NSInteger)>;
 
-void playback_state_changed(MPMusicPlayerController self, int state) {
-  playback_state_did_change(self, "_playbackStateDidChange:"_sel, state);
-  playbackState = state;
+void playback_state_changed(MPMusicPlayerController self, NSInteger state) {
+  PlaybackStateDidChange::original(self, state);
+  playbackState = static_cast<int>(state);
 }
 
 }  // namespace
 
 void hook_system_events() {
-  const objc::Class icon_view = objc_getClass("SBIconView");
-  const objc::Class controller = objc_getClass("SBUIController");
-  const objc::Class banners = objc_getClass("SBBannerController");
-  const objc::Class lock_screen = objc_getClass("SBLockScreenViewController");
-  const objc::Class notifications = objc_getClass("SBNotificationCenterViewController");
-  const objc::Class control_center = objc_getClass("SBControlCenterContainerView");
-  const objc::Class reach = objc_getClass("SBReachabilityManager");
-  const objc::Class reach_class =
-      reach ? objc::class_of(reinterpret_cast<objc::Id>(reach)) : nullptr;
-  const objc::Class media = objc_getClass("SBMediaController");
-  const objc::Class windows = objc_getClass("UIWindow");
-  const objc::Class player = objc_getClass("MPMusicPlayerController");
-
-  replace<&touches_began_on_icon>(icon_view, "touchesBegan:withEvent:", touches_began);
-  replace<&home_button_clicked>(controller, "clickedMenuButton", clicked_menu_button);
-  replace<&home_button_clicked_twice>(controller, "handleMenuDoubleTap", menu_double_tap);
-  replace<&banner_presented>(banners, "_presentBannerForContext:reason:", present_banner);
-  replace<&display_turned_off_too>(lock_screen, "_handleDisplayTurnedOff", display_turned_off);
-  replace<&unlock_prepared>(lock_screen, "prepareForUIUnlock", prepare_for_unlock);
-  replace<&notification_center_shown>(notifications, "hostWillPresent",
-                                      notification_center_will_present);
-  replace<&control_center_shown>(control_center, "controlCenterWillPresent",
-                                 control_center_will_present);
-  replace<&reachability_is_supported>(reach_class, "reachabilitySupported", reachability_supported);
-  replace<&reachability_went_down>(reach, "_handleReachabilityDeactivated",
-                                   reachability_deactivated);
-  replace<&reachability_came_up>(reach, "_handleReachabilityActivated", reachability_activated);
-  replace<&time_changed>(reach, "_handleSignificantTimeChanged", significant_time_changed);
-  replace<&kept_alive>(reach, "_keepAliveTimerFired:", keep_alive_timer_fired);
-  replace<&volume_changed>(media, "_systemVolumeChanged:", system_volume_changed);
-  replace<&always_secure>(windows, "_shouldCreateContextAsSecure", should_create_context_as_secure);
-  replace<&playback_state_changed>(player, "_playbackStateDidChange:", playback_state_did_change);
+  TouchesBegan::replace_with<&touches_began_on_icon>();
+  ClickedMenuButton::replace_with<&home_button_clicked>();
+  MenuDoubleTap::replace_with<&home_button_clicked_twice>();
+  PresentBanner::replace_with<&banner_presented>();
+  DisplayTurnedOff::replace_with<&display_turned_off_too>();
+  PrepareForUnlock::replace_with<&unlock_prepared>();
+  NotificationCenterWillPresent::replace_with<&notification_center_shown>();
+  ControlCenterWillPresent::replace_with<&control_center_shown>();
+  ReachabilitySupported::replace_with<&reachability_is_supported>();
+  ReachabilityDeactivated::replace_with<&reachability_went_down>();
+  ReachabilityActivated::replace_with<&reachability_came_up>();
+  SignificantTimeChanged::replace_with<&time_changed>();
+  KeepAliveTimerFired::replace_with<&kept_alive>();
+  SystemVolumeChanged::replace_with<&volume_changed>();
+  ShouldCreateContextAsSecure::replace_with<&always_secure>();
+  PlaybackStateDidChange::replace_with<&playback_state_changed>();
 }
 
 }  // namespace sonavue

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "objc/encoding.h"
+
+namespace objc {
+
+// A message of the platform as one text. A variable that has it for a template argument tells, by
+// its symbol, whoever reads the finished library.
+
+/// "-[UILabel setText:]".
+template <FixedString Class, FixedString Selector, bool OfClass>
+inline constexpr auto message_name = FixedString(OfClass ? "+[" : "-[") + Class +
+                                     FixedString(" ") + Selector + FixedString("]");
+
+/// "-[UILabel setText:] v@:@".
+template <FixedString Class, FixedString Selector, bool OfClass, class Result, class... Arguments>
+inline constexpr auto message_text = message_name<Class, Selector, OfClass> +
+                                     FixedString(" ") + MethodEncoding<Result, Arguments...>::text;
+
+}  // namespace objc
