@@ -17,12 +17,6 @@ BOOL is_in_state(media::PlaybackState state) {
   return service && service->playback().state() == state ? YES : NO;
 }
 
-NSString now_playing(NSString property) {
-  MediaService* service = MediaService::current();
-  if (!service) return nil;
-  return objc::cast<NSString>(service->now_playing_item().valueForProperty(property));
-}
-
 media::EngineState engine() {
   MediaService* service = MediaService::current();
   return service ? service->playback().engine() : media::EngineState{};
@@ -57,18 +51,6 @@ BOOL MediaController::change_track(int direction) {
     playback.previous();
   }
   return YES;
-}
-
-NSString MediaController::now_playing_title() {
-  return now_playing(MPMediaItemPropertyTitle);
-}
-
-NSString MediaController::now_playing_artist() {
-  return now_playing(MPMediaItemPropertyArtist);
-}
-
-NSString MediaController::now_playing_album() {
-  return now_playing(MPMediaItemPropertyAlbumTitle);
 }
 
 float MediaController::volume() {
@@ -113,9 +95,6 @@ void export_media_controller() {
       .method<&Controller::has_track>("hasTrack")
       .method<&Controller::toggle_play_pause>("togglePlayPause")
       .method<&Controller::change_track>("changeTrack:")
-      .method<&Controller::now_playing_title>("nowPlayingTitle")
-      .method<&Controller::now_playing_artist>("nowPlayingArtist")
-      .method<&Controller::now_playing_album>("nowPlayingAlbum")
       .method<&Controller::volume>("volume")
       .method<&Controller::set_volume>("setVolume:")
       .method<&Controller::change_volume_by>("_changeVolumeBy:")

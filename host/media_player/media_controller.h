@@ -15,9 +15,6 @@ class MediaController : public objc::Implementation<MediaController, SBMediaCont
   BOOL has_track();
   BOOL toggle_play_pause();
   BOOL change_track(int direction);
-  NSString now_playing_title();
-  NSString now_playing_artist();
-  NSString now_playing_album();
   float volume();
   void set_volume(float volume);
   void change_volume_by(float step);

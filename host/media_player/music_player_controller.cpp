@@ -73,14 +73,6 @@ void MusicPlayerController::stop() {
   if (Playback* player = playback()) player->stop();
 }
 
-void MusicPlayerController::skip_to_next_item() {
-  if (Playback* player = playback()) player->next();
-}
-
-void MusicPlayerController::skip_to_previous_item() {
-  if (Playback* player = playback()) player->previous();
-}
-
 double MusicPlayerController::current_playback_time() {
   const Playback* player = playback();
   return player ? player->position() : 0;
@@ -90,9 +82,9 @@ void MusicPlayerController::set_current_playback_time(double seconds) {
   if (Playback* player = playback()) player->seek(seconds);
 }
 
-void MusicPlayerController::playback_state_did_change(int state) {
+void MusicPlayerController::playback_state_did_change(NSInteger state) {
   const NSDictionary details = NSDictionary::dictionaryWithObject(
-      NSNumber::numberWithInt(state), "MPMusicPlayerControllerPlaybackStateKey"_ns);
+      NSNumber::numberWithInteger(state), "MPMusicPlayerControllerPlaybackStateKey"_ns);
   NSNotificationCenter::defaultCenter().postNotificationName(
       MPMusicPlayerControllerPlaybackStateDidChangeNotification, self, details);
 }
@@ -115,8 +107,6 @@ void export_music_player_controller() {
       .method<&Controller::play>("play")
       .method<&Controller::pause>("pause")
       .method<&Controller::stop>("stop")
-      .method<&Controller::skip_to_next_item>("skipToNextItem")
-      .method<&Controller::skip_to_previous_item>("skipToPreviousItem")
       .method<&Controller::current_playback_time>("currentPlaybackTime")
       .method<&Controller::set_current_playback_time>("setCurrentPlaybackTime:")
       .method<&Controller::playback_state_did_change>("_playbackStateDidChange:")

@@ -20,11 +20,9 @@ class MusicPlayerController
   void play();
   void pause();
   void stop();
-  void skip_to_next_item();
-  void skip_to_previous_item();
   double current_playback_time();
   void set_current_playback_time(double seconds);
-  void playback_state_did_change(int state);
+  void playback_state_did_change(NSInteger state);
 };
 
 void export_music_player_controller();

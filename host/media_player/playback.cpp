@@ -94,7 +94,7 @@ void Playback::report() {
 
 void Playback::hear_state(media::PlaybackState state) {
   report();
-  RunLoop::main().perform([state = static_cast<int>(platform_state(state))] {
+  RunLoop::main().perform([state = platform_state(state)] {
     MPMusicPlayerController::iPodMusicPlayer()._playbackStateDidChange(state);
   });
 }

@@ -82,21 +82,16 @@ void blur(SmallPicture& picture, int radius) {
 /// one multiplication and one addition.
 class Mixer {
  public:
-  explicit Mixer(const BackdropLook& look)
-      : saturation_(same(look.saturation)), brightness_(same(look.brightness * kMost)) {
+  explicit Mixer(const BackdropLook& look) : saturation_(same(look.saturation)) {
     towards(same(look.gray_level), look.gray_alpha);
     towards(channels_of(look.tint), look.tint.alpha);
-    // Screening with a light: what is missing to white shrinks.
-    const Channels light = channels_of(look.lighten) * same(look.lighten.alpha);
-    factor_ *= same(1) - light;
-    rest_ = rest_ * (same(1) - light) + light * same(kMost);
   }
 
   Channels mix(const Channels& pixel) {
     const float luminance = 0.0722F * pixel[0] + 0.7152F * pixel[1] + 0.2126F * pixel[2];
     luminance_sum_ += static_cast<double>(luminance);
     const Channels gray = same(static_cast<double>(luminance));
-    return limited(limited(gray + (pixel - gray) * saturation_ + brightness_) * factor_ + rest_);
+    return limited(limited(gray + (pixel - gray) * saturation_) * factor_ + rest_);
   }
   double luminance_sum() const { return luminance_sum_ / static_cast<double>(kMost); }
 
@@ -115,7 +110,6 @@ class Mixer {
   }
 
   Channels saturation_;
-  Channels brightness_;
   Channels factor_ = same(1);
   Channels rest_ = same(0);
   double luminance_sum_ = 0;

@@ -9,13 +9,14 @@ namespace host::quartzcore {
 
 /// How a backdrop changes what it has blurred.
 struct BackdropLook {
+  /// Points; 0 does not blur.
   double blur_radius = 20;
+  /// 1 keeps the colours, 0 is grey, above 1 is more colourful.
   double saturation = 1;
-  double brightness = 0;
+  /// A grey over the blur, below the tint.
   double gray_alpha = 0;
   double gray_level = 0;
   Rgba tint;
-  Rgba lighten;
 
   std::uint64_t signature() const;
 };
@@ -28,29 +29,13 @@ class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer
 
   const Layer& layer() const { return objc::state_of<Layer>(self); }
   const BackdropLook& look() const { return look_; }
+  void show(const BackdropLook& look);
   void note_luminance(double luminance) { luminance_ = luminance; }
-
-  template <auto Member>
-  CGFloat number() const {
-    return look_.*Member;
-  }
-  template <auto Member>
-  void set_number(CGFloat value) {
-    look_.*Member = value;
-    note_change();
-  }
-  CGColorRef tint_color() const;
-  void set_tint_color(CGColorRef color);
-  CGColorRef lighten_tint() const;
-  void set_lighten_tint(CGColorRef color);
-  CGFloat luminance() const { return luminance_; }
+  /// Mean luminance, 0 to 1, of what was last blurred, before the tints; 0.5 before any frame.
+  double luminance() const { return luminance_; }
 
  private:
-  void note_change();
-
   BackdropLook look_;
-  objc::Ref<CGColorObject> tint_color_;
-  objc::Ref<CGColorObject> lighten_tint_;
   double luminance_ = 0.5;
 };
 

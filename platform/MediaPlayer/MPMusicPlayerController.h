@@ -33,10 +33,8 @@ struct MPMusicPlayerController
   void play() const { call<"play">(); }
   void pause() const { call<"pause">(); }
   void stop() const { call<"stop">(); }
-  void skipToNextItem() const { call<"skipToNextItem">(); }
-  void skipToPreviousItem() const { call<"skipToPreviousItem">(); }
   double currentPlaybackTime() const { return call<"currentPlaybackTime", double>(); }
   void setCurrentPlaybackTime(double seconds) const { call<"setCurrentPlaybackTime:">(seconds); }
   /// Told by the system whenever the state changes.
-  void _playbackStateDidChange(int state) const { call<"_playbackStateDidChange:">(state); }
+  void _playbackStateDidChange(NSInteger state) const { call<"_playbackStateDidChange:">(state); }
 };

@@ -22,6 +22,4 @@ struct SBIcon : objc::Bound<SBIcon, "SBIcon", NSObject> {
   UIImage generateIconImage(int format) const {
     return call<"generateIconImage:", UIImage>(format);
   }
-  /// What a tap on the icon does.
-  void launch() const { call<"launch">(); }
 };

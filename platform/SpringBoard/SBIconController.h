@@ -1,13 +1,18 @@
 #pragma once
 
 #include "platform/SpringBoard/SBIconModel.h"
-#include "platform/SpringBoard/SBIconView.h"
+#include "platform/SpringBoard/SBIconViewMap.h"
 
 struct SBIconController : objc::Bound<SBIconController, "SBIconController", NSObject> {
   static SBIconController sharedInstance() {
     return call_class<"sharedInstance", SBIconController>();
   }
   SBIconModel model() const { return call<"model", SBIconModel>(); }
+  /// The home screen's map, on systems where `SBIconViewMap` does not know it.
+  SBIconViewMap homescreenIconViewMap() const {
+    return call<"homescreenIconViewMap", SBIconViewMap>();
+  }
+  bool hasHomescreenIconViewMap() const { return answers<"homescreenIconViewMap">(); }
   BOOL isEditing() const { return call<"isEditing", BOOL>(); }
   void setIsEditing(BOOL editing) const { call<"setIsEditing:">(editing); }
   BOOL hasOpenFolder() const { return call<"hasOpenFolder", BOOL>(); }

@@ -7,11 +7,6 @@
 struct SBIconListView : objc::Bound<SBIconListView, "SBIconListView", UIView> {
   /// The icons shown, in the order of their slots.
   NSArray icons() const { return call<"icons", NSArray>(); }
-  void setIcons(NSArray icons) const { call<"setIcons:">(icons); }
-  /// Puts every icon view in its slot, by an animation of that many seconds (0: at once).
-  void setIconsNeedLayout(double duration) const {
-    call<"setIconsNeedLayoutWithDuration:">(duration);
-  }
   /// Where the slot's icon view stands, in the list's coordinates.
   CGPoint originForIconAtIndex(NSUInteger index) const {
     return call<"originForIconAtIndex:", CGPoint>(index);

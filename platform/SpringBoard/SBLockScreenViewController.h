@@ -6,5 +6,4 @@ struct SBLockScreenViewController
     : objc::Bound<SBLockScreenViewController, "SBLockScreenViewController", UIViewController> {
   void _handleDisplayTurnedOff() const { call<"_handleDisplayTurnedOff">(); }
   void prepareForUIUnlock() const { call<"prepareForUIUnlock">(); }
-  BOOL isLocked() const { return call<"isLocked", BOOL>(); }
 };

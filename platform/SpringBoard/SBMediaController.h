@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Foundation/NSString.h"
+#include "platform/Foundation/NSObject.h"
 
 /// The home screen's hand on whatever plays.
 struct SBMediaController : objc::Bound<SBMediaController, "SBMediaController", NSObject> {
@@ -16,10 +16,6 @@ struct SBMediaController : objc::Bound<SBMediaController, "SBMediaController", N
   BOOL togglePlayPause() const { return call<"togglePlayPause", BOOL>(); }
   /// 1 is the next song, -1 the one before. NO when nothing is loaded.
   BOOL changeTrack(int direction) const { return call<"changeTrack:", BOOL>(direction); }
-  /// Nil when nothing is loaded, or the song has no such text.
-  NSString nowPlayingTitle() const { return call<"nowPlayingTitle", NSString>(); }
-  NSString nowPlayingArtist() const { return call<"nowPlayingArtist", NSString>(); }
-  NSString nowPlayingAlbum() const { return call<"nowPlayingAlbum", NSString>(); }
   /// 0 to 1.
   float volume() const { return call<"volume", float>(); }
   void setVolume(float volume) const { call<"setVolume:">(volume); }

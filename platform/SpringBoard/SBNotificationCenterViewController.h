@@ -6,5 +6,4 @@ struct SBNotificationCenterViewController
     : objc::Bound<SBNotificationCenterViewController, "SBNotificationCenterViewController",
                   UIViewController> {
   void hostWillPresent() const { call<"hostWillPresent">(); }
-  BOOL isPresented() const { return call<"isPresented", BOOL>(); }
 };

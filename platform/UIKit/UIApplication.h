@@ -17,9 +17,6 @@ struct UIApplication : objc::Bound<UIApplication, "UIApplication", UIResponder> 
   }
   objc::Object delegate() const { return call<"delegate", objc::Object>(); }
   void setDelegate(objc::Object delegate) const { call<"setDelegate:">(delegate); }
-  void applicationDidFinishLaunching(objc::Object application) const {
-    call<"applicationDidFinishLaunching:">(application);
-  }
 
   UIWindow keyWindow() const { return call<"keyWindow", UIWindow>(); }
   /// The visible windows, back to front.

@@ -53,7 +53,7 @@ class EventOrder : public PanelTest {
       SBReachabilityManager::cls(), &heard_};
   MethodSpy<"_keepAliveTimerFired:", void(SBReachabilityManager, objc::Object)> kept_alive_{
       SBReachabilityManager::cls(), &heard_};
-  MethodSpy<"_playbackStateDidChange:", void(MPMusicPlayerController, int)> state_changed_{
+  MethodSpy<"_playbackStateDidChange:", void(MPMusicPlayerController, NSInteger)> state_changed_{
       MPMusicPlayerController::cls(), &heard_};
 
  private:

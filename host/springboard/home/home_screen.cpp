@@ -8,6 +8,7 @@
 #include "host/springboard/model/strings.h"
 #include "host/springboard/pictures.h"
 #include "host/springboard/screen_grid.h"
+#include "host/springboard/view/icon_list_view.h"
 #include "host/springboard/view/icon_view_map.h"
 #include "host/springboard/view/make_view.h"
 #include "host/springboard/wallpaper.h"
@@ -118,8 +119,7 @@ void HomeScreen::sync_list(SBIconListView view, const HomeLayout::List& list, do
     if (slot.is_folder) sync_folder(slot, icon);
     view_for(icon);
   }
-  view.setIcons(icons);
-  view.setIconsNeedLayout(duration);
+  objc::state_of<IconListView>(view).show(icons, duration);
 }
 
 void HomeScreen::sync_folder(const Slot& folder, SBIcon icon) {
@@ -128,8 +128,7 @@ void HomeScreen::sync_folder(const Slot& folder, SBIcon icon) {
     view_for(inside);
   auto& list = folders_[folder.id];
   if (!list) list = make_view<SBFolderIconListView>({{0, 0}, FolderMetrics(grid_).panel.size});
-  list->setIcons(contents);
-  list->setIconsNeedLayout(0);
+  objc::state_of<IconListView>(list.get()).show(contents, 0);
   const bool looks_different = objc::state_of<FolderIcon>(icon).update(folder.title, contents);
   if (looks_different) view_for(icon).setIcon(icon);
 }

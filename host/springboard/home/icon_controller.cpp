@@ -6,6 +6,7 @@
 #include "host/springboard/shared_instance.h"
 #include "host/springboard/view/icon_view.h"
 #include "host/springboard/view/icon_view_map.h"
+#include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
 namespace {
@@ -91,7 +92,7 @@ void IconController::icon_tapped(SBIconView icon_view) {
   if (icon.isFolderIcon()) {
     folders_->open(to_string(icon.nodeIdentifier()), icon.displayName(), icon_view);
   } else if (!editing_) {
-    icon.launch();
+    SBUIController::sharedInstance().activateApplicationAnimated(icon.application());
   }
 }
 

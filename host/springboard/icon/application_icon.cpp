@@ -2,7 +2,6 @@
 
 #include "host/springboard/configuration.h"
 #include "host/springboard/icon/icon_image.h"
-#include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
 
@@ -22,10 +21,6 @@ UIImage ApplicationIcon::generate_icon_image(int) {
   return image_.get();
 }
 
-void ApplicationIcon::launch() {
-  SBUIController::sharedInstance().activateApplicationAnimated(application_.get());
-}
-
 void export_application_icon() {
   objc::ClassBuilder("SBApplicationIcon", "SBIcon")
       .state<ApplicationIcon>()
@@ -33,7 +28,6 @@ void export_application_icon() {
       .method<&ApplicationIcon::application>("application")
       .method<&ApplicationIcon::display_name>("displayName")
       .method<&ApplicationIcon::generate_icon_image>("generateIconImage:")
-      .method<&ApplicationIcon::launch>("launch")
       .finish();
 }
 

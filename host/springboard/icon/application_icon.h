@@ -15,7 +15,6 @@ class ApplicationIcon : public objc::Implementation<ApplicationIcon, SBApplicati
   NSString display_name() const { return application_->displayName(); }
   /// The application's own picture, or a plain one with its initial when it has none.
   UIImage generate_icon_image(int format);
-  void launch();
 
  private:
   objc::Ref<SBApplication> application_;

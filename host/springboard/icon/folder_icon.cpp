@@ -37,7 +37,6 @@ void export_folder_icon() {
       .method<&FolderIcon::node_identifier>("nodeIdentifier")
       .method<&FolderIcon::display_name>("displayName")
       .method<&FolderIcon::is_folder_icon>("isFolderIcon")
-      .method<&FolderIcon::icons>("icons")
       .method<&FolderIcon::generate_icon_image>("generateIconImage:")
       .finish();
 }

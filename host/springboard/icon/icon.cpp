@@ -11,7 +11,6 @@ void export_icon() {
       .method<&Icon::display_name>("displayName")
       .method<&Icon::is_folder_icon>("isFolderIcon")
       .method<&Icon::generate_icon_image>("generateIconImage:")
-      .method<&Icon::launch>("launch")
       .finish();
 }
 

@@ -17,7 +17,6 @@ class Icon : public objc::Implementation<Icon, SBIcon> {
   NSString display_name() const { return ""_ns; }
   BOOL is_folder_icon() const { return NO; }
   UIImage generate_icon_image(int) { return nil; }
-  void launch() {}
 };
 
 void export_icon();

@@ -29,7 +29,7 @@ void LockScreen::handle_display_turned_off() {
     return;
   }
   take_down();
-  locked_ = YES;
+  locked_ = true;
   ++locks_;
   close_surfaces_at_once();
   window_ = make_view<UIWindow>(UIScreen::mainScreen().bounds());
@@ -54,7 +54,7 @@ void LockScreen::add(Notification message) {
 
 void LockScreen::prepare_for_unlock() {
   if (!locked_) return;
-  locked_ = NO;
+  locked_ = false;
   messages_.clear();
   set_status_bar_locked(false);
   leave();
@@ -86,7 +86,6 @@ void export_lock_screen() {
       .state<LockScreen>()
       .method<&LockScreen::handle_display_turned_off>("_handleDisplayTurnedOff")
       .method<&LockScreen::prepare_for_unlock>("prepareForUIUnlock")
-      .method<&LockScreen::is_locked>("isLocked")
       .finish();
 }
 

@@ -19,7 +19,7 @@ class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewContr
 
   void handle_display_turned_off();
   void prepare_for_unlock();
-  BOOL is_locked() const { return locked_; }
+  bool is_locked() const { return locked_; }
 
   /// The display has been turned on again.
   void wake();
@@ -34,7 +34,7 @@ class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewContr
   NotificationStore messages_;
   objc::Ref<UIWindow> window_;
   std::unique_ptr<LockScreenPanel> panel_;
-  BOOL locked_ = NO;
+  bool locked_ = false;
   int locks_ = 0;
   /// Ends with this object: an animation may outlast it.
   std::shared_ptr<void> life_ = std::make_shared<char>();

@@ -150,7 +150,6 @@ void export_notification_centre() {
   objc::ClassBuilder("SBNotificationCenterViewController", "UIViewController")
       .state<NotificationCentre>()
       .method<&NotificationCentre::host_will_present>("hostWillPresent")
-      .method<&NotificationCentre::is_presented>("isPresented")
       .finish();
   objc::ClassBuilder("SBNotificationCenterController", "NSObject")
       .class_method<&shared_instance<SBNotificationCenterController>>("sharedInstance")

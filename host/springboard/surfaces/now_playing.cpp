@@ -36,8 +36,11 @@ NowPlaying NowPlayingReader::read(double now) {
   found.has_track = media.hasTrack();
   if (!found.has_track) return found;
   found.is_playing = media.isPlaying();
-  found.title.reset(media.nowPlayingTitle());
-  found.line.reset(joined(media.nowPlayingArtist(), media.nowPlayingAlbum()));
+  const NSDictionary info = controller_->currentNowPlayingInfo();
+  const auto text = [&](NSString key) { return objc::cast<NSString>(info.objectForKey(key)); };
+  found.title.reset(text("kMRMediaRemoteNowPlayingInfoTitle"_ns));
+  found.line.reset(joined(text("kMRMediaRemoteNowPlayingInfoArtist"_ns),
+                          text("kMRMediaRemoteNowPlayingInfoAlbum"_ns)));
   found.artwork.reset(controller_->currentNowPlayingArtwork());
   found.duration = controller_->currentDuration();
   const double elapsed = elapsed_at(now, found.is_playing);

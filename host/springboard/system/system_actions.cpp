@@ -3,6 +3,7 @@
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/shared_instance.h"
+#include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/system/ui_controller.h"
 #include "platform/SpringBoard/SBApplicationController.h"
@@ -65,7 +66,7 @@ void set_editing(bool editing) {
 }
 
 Shown shown_now() {
-  if (SharedInstance<SBLockScreenViewController>::get().isLocked()) return Shown::LockScreen;
+  if (is_locked()) return Shown::LockScreen;
   const auto& user_interface =
       objc::state_of<UserInterfaceController>(SBUIController::sharedInstance());
   return user_interface.shows_application() ? Shown::Application : Shown::HomeScreen;

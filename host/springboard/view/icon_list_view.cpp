@@ -14,7 +14,8 @@ int location_of(SBIconListView list) {
 
 }  // namespace
 
-void IconListView::set_icons_need_layout(double duration) {
+void IconListView::show(NSArray icons, double duration) {
+  icons_.reset(icons);
   const int location = location_of(self);
   NSUInteger index = 0;
   for (const SBIcon icon : icons_->of<SBIcon>()) {
@@ -57,8 +58,6 @@ void export_icon_list_view() {
   objc::ClassBuilder("SBIconListView", "UIView")
       .state<IconListView>()
       .method<&IconListView::icons>("icons")
-      .method<&IconListView::set_icons>("setIcons:")
-      .method<&IconListView::set_icons_need_layout>("setIconsNeedLayoutWithDuration:")
       .method<&IconListView::origin_for_icon_at_index>("originForIconAtIndex:")
       .method<&IconListView::location>("iconLocation")
       .finish();

@@ -14,10 +14,10 @@ class IconListView : public objc::Implementation<IconListView, SBIconListView> {
   using Implementation::Implementation;
 
   NSArray icons() const { return icons_.get(); }
-  void set_icons(NSArray icons) { icons_.reset(icons); }
-  /// Takes over the views of its icons, from wherever they are, and sends each to its slot. A view
-  /// that comes from another list starts from where it is seen.
-  void set_icons_need_layout(double duration);
+  /// Takes over the views of these icons, from wherever they are, and sends each to its slot by an
+  /// animation of that many seconds (0: at once). A view that comes from another list starts from
+  /// where it is seen.
+  void show(NSArray icons, double duration);
   CGPoint origin_for_icon_at_index(NSUInteger index) const;
   int location() const { return SBIconLocationHomeScreen; }
 

@@ -100,7 +100,7 @@ UIApplication launch_application(const char* class_name) {
   const objc::Object cls(objc_getClass(class_name));
   const auto allocated = objc::send<UIApplication>(cls, "alloc"_sel);
   const auto application = objc::send<UIApplication>(allocated, "init"_sel);
-  application.applicationDidFinishLaunching(application);
+  objc::send<>(application, "applicationDidFinishLaunching:"_sel, application);
   return application;
 }
 

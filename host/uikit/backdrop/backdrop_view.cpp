@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/QuartzCore/CABackdropLayer.h"
+#include "host/quartzcore/backdrop_layer.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::uikit {
@@ -13,8 +13,8 @@ constexpr int kAfterPainting = 300;
 // Smaller changes of brightness behind cannot be seen in the tint.
 constexpr double kNoticeableChange = 0.02;
 
-CABackdropLayer layer_of(_UIBackdropView view) {
-  return objc::cast<CABackdropLayer>(view.layer());
+quartzcore::BackdropLayer& layer_of(_UIBackdropView view) {
+  return objc::state_of<quartzcore::BackdropLayer>(view.layer());
 }
 
 }  // namespace
@@ -59,13 +59,13 @@ void BackdropView::set_input_settings(_UIBackdropViewSettings settings) {
 
 void BackdropView::apply_settings(_UIBackdropViewSettings settings) {
   if (!settings) return;
-  const CABackdropLayer layer = layer_of(self);
-  layer.setBlurRadius(settings.blurRadius());
-  layer.setSaturationDeltaFactor(settings.saturationDeltaFactor());
-  layer.setGrayscaleTintLevel(settings.grayscaleTintLevel());
-  layer.setGrayscaleTintAlpha(settings.grayscaleTintAlpha());
   const BackdropLook& look = objc::state_of<BackdropSettings>(settings).look();
-  set_tint(look.tint);
+  tint_ = look.tint;
+  layer_of(self).show({.blur_radius = settings.blurRadius(),
+                       .saturation = settings.saturationDeltaFactor(),
+                       .gray_alpha = settings.grayscaleTintAlpha(),
+                       .gray_level = settings.grayscaleTintLevel(),
+                       .tint = look.tint});
   follows_brightness_ = look.tinting == BackdropTint::FollowsBrightness;
   followed_luminance_ = -1;
   watch_brightness();
@@ -73,9 +73,9 @@ void BackdropView::apply_settings(_UIBackdropViewSettings settings) {
 
 void BackdropView::set_tint(const quartzcore::Rgba& tint) {
   tint_ = tint;
-  const CGColorRef color = tint.alpha > 0 ? quartzcore::make_color(tint) : nullptr;
-  layer_of(self).setTintColor(color);
-  CGColorRelease(color);
+  quartzcore::BackdropLook look = layer_of(self).look();
+  look.tint = tint;
+  layer_of(self).show(look);
 }
 
 void BackdropView::set_autosizes(BOOL autosizes) {
@@ -112,7 +112,7 @@ void BackdropView::stop_watching() {
 }
 
 void BackdropView::follow_brightness() {
-  const double luminance = layer_of(self).backdropLuminance();
+  const double luminance = layer_of(self).luminance();
   if (std::abs(luminance - followed_luminance_) < kNoticeableChange) return;
   followed_luminance_ = luminance;
   quartzcore::Rgba tint = tint_;

@@ -57,11 +57,11 @@ TEST_F(SongsOfTheCloud, StandInEveryQueryAndSayWhatTheyAre) {
 TEST_F(SongsOfTheCloud, ArePassedOverOnTheWayForthAndBack) {
   play("Bravo");
   const media_tests::CapturedLog log;
-  player().skipToNextItem();
+  media().changeTrack(1);
   EXPECT_EQ(current_title(), "Charlie");
   EXPECT_EQ(sounding_path(), song_path("c.ogg"));
   EXPECT_EQ(log.count("\"Brume\" is only in the cloud; it is passed over"), 1);
-  player().skipToPreviousItem();
+  media().changeTrack(-1);
   EXPECT_EQ(current_title(), "Bravo");
 }
 
@@ -94,7 +94,7 @@ TEST_F(SongsOfTheCloud, AFileThatVanishesUnderTheQueueIsPassedOverWithALine) {
   play("Alpha");
   std::filesystem::remove(song_path("b.flac"));
   const media_tests::CapturedLog log;
-  player().skipToNextItem();
+  media().changeTrack(1);
   advance(0.1);
   EXPECT_EQ(current_title(), "Charlie");
   EXPECT_EQ(log.count("b.flac cannot be played"), 1);

@@ -24,9 +24,9 @@ TEST_F(MediaController, ToggleWithNothingLoadedPlaysTheFirstSongOfTheLibrary) {
   EXPECT_TRUE(media().togglePlayPause());
   EXPECT_TRUE(media().isPlaying());
   EXPECT_EQ(sounding_path(), song_path("a.flac"));
-  EXPECT_EQ(text(media().nowPlayingTitle()), "Alpha");
-  EXPECT_EQ(text(media().nowPlayingArtist()), "Xenia");
-  EXPECT_EQ(text(media().nowPlayingAlbum()), "One");
+  EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Alpha");
+  EXPECT_EQ(playing(MPMediaItemPropertyArtist), "Xenia");
+  EXPECT_EQ(playing(MPMediaItemPropertyAlbumTitle), "One");
 }
 
 TEST_F(MediaController, TogglePausesAndPlaysWhatIsLoaded) {
@@ -90,7 +90,7 @@ TEST_F(MediaController, WithoutTheServiceEverythingIsStill) {
   host::media_player::MediaService::stop();
   EXPECT_FALSE(media().togglePlayPause());
   EXPECT_FALSE(media().isPlaying());
-  EXPECT_FALSE(media().nowPlayingTitle());
+  EXPECT_EQ(playing(MPMediaItemPropertyTitle), "");
   EXPECT_EQ(media().volume(), 0);
 }
 

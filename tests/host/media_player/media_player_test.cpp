@@ -14,8 +14,8 @@ using media_player::MediaService;
 
 SystemListener* listening = nullptr;
 
-void hear_state(MPMusicPlayerController, int state) {
-  listening->states.push_back(state);
+void hear_state(MPMusicPlayerController, NSInteger state) {
+  listening->states.push_back(static_cast<int>(state));
 }
 
 void hear_volume(SBMediaController self, objc::Object) {
@@ -104,6 +104,10 @@ bool MediaPlayerTest::is_engine_paused() const {
 
 double MediaPlayerTest::sounding_position() const {
   return objc::send<double>(media(), "_playerPosition"_sel);
+}
+
+std::string MediaPlayerTest::playing(NSString property) const {
+  return text(player().nowPlayingItem().valueForProperty(property));
 }
 
 std::string text(objc::Object string) {

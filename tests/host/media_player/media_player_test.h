@@ -32,6 +32,8 @@ class MediaPlayerTest : public HostTest {
   SBMediaController media() const { return SBMediaController::sharedInstance(); }
   MPMusicPlayerController player() const { return MPMusicPlayerController::iPodMusicPlayer(); }
   MPUNowPlayingController now_playing() const { return now_playing_.get(); }
+  /// A property of the item that plays, empty where there is none.
+  std::string playing(NSString property) const;
   /// What the playing engine says of itself, empty when it holds nothing.
   std::string sounding_path() const;
   bool is_engine_paused() const;

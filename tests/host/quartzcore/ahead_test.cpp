@@ -1,4 +1,4 @@
-#include "platform/QuartzCore/CABackdropLayer.h"
+#include "host/quartzcore/backdrop_layer.h"
 #include "tests/host/quartzcore/compositor_fixture.h"
 
 // What a panel that is closed will show of its cover is blurred before it opens.
@@ -60,7 +60,7 @@ TEST_F(AheadTest, AnotherCoverBehindTheClosedPanelIsBlurredOnce) {
 TEST_F(AheadTest, AnotherLookOrSizeBehindTheClosedPanelIsBlurredAhead) {
   cover.setContents(image_of_color(8, 8, kRed));
   prepare_ahead();
-  backdrop.setTintColor(color(0, 0, 0));
+  objc::state_of<quartzcore::BackdropLayer>(backdrop).show({.tint = {0, 0, 0, 1}});
   prepare_ahead();
   EXPECT_EQ(compositor.blur_count(), 2u);
   backdrop.setFrame({0, 0, 4, 8});

@@ -1,6 +1,6 @@
+#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/context.h"
 #include "platform/CoreGraphics/CGPath.h"
-#include "platform/QuartzCore/CABackdropLayer.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
 #include "tests/host/quartzcore/compositor_fixture.h"
 
@@ -297,7 +297,7 @@ TEST_F(CompositorTest, ABackdropBlursWhatIsBehindItAndOnlyWhenThatChanges) {
   const CALayer behind = add({0, 0, 4, 8}, color(1, 0, 0));
   const CABackdropLayer backdrop = CABackdropLayer::layer();
   backdrop.setFrame({0, 0, 8, 8});
-  backdrop.setBlurRadius(4);
+  objc::state_of<quartzcore::BackdropLayer>(backdrop).show({.blur_radius = 4});
   root.addSublayer(backdrop);
   const CALayer above = add({0, 0, 1, 1}, color(0, 1, 0));
   render();
@@ -341,7 +341,7 @@ TEST_F(CompositorTest, ABackdropInAFadingGroupSeesThroughToWhatIsBehindTheGroup)
   root.addSublayer(cover);
   const CABackdropLayer backdrop = CABackdropLayer::layer();
   backdrop.setFrame({0, 0, 8, 8});
-  backdrop.setTintColor(color(1, 0, 0, 0.5));
+  objc::state_of<quartzcore::BackdropLayer>(backdrop).show({.tint = {1, 0, 0, 0.5}});
   cover.addSublayer(backdrop);
   cover.setOpacity(0.5);
   render();

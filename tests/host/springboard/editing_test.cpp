@@ -1,5 +1,5 @@
+#include "host/springboard/icon/folder_icon.h"
 #include "host/springboard/system_actions.h"
-#include "platform/SpringBoard/SBFolderIcon.h"
 #include "platform/SpringBoard/SBIconListView.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 #include "platform/SpringBoard/SBUIController.h"
@@ -229,8 +229,9 @@ TEST_F(FolderTest, TheLastIconThatLeavesTakesTheFolderAlong) {
   launch();
   SBIconController::sharedInstance().scrollToIconListAtIndex(1, NO);
   const auto folder = objc::Ref<SBIconView>::retain(first_folder());
-  for (const SBIcon inside : objc::cast<SBFolderIcon>(folder->icon()).icons().copy().of<SBIcon>())
-    EXPECT_TRUE(move_out_of_folder(inside.applicationBundleID().UTF8String()));
+  const NSArray inside = objc::state_of<FolderIcon>(folder->icon()).icons().copy().autorelease();
+  for (const SBIcon each : inside.of<SBIcon>())
+    EXPECT_TRUE(move_out_of_folder(each.applicationBundleID().UTF8String()));
   EXPECT_FALSE(folder->superview());
 }
 

@@ -1,8 +1,8 @@
 #include <set>
 #include <tuple>
 
+#include "host/quartzcore/backdrop_layer.h"
 #include "host/uikit/backdrop/backdrop_look.h"
-#include "platform/QuartzCore/CABackdropLayer.h"
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/_UIBackdropView.h"
 #include "tests/host/uikit_text/view_test.h"
@@ -11,8 +11,8 @@ namespace {
 
 class Backdrop : public host::test::TextViewTest {
  protected:
-  static CABackdropLayer layer_of(_UIBackdropView view) {
-    return objc::cast<CABackdropLayer>(view.layer());
+  static const host::quartzcore::BackdropLook& look_of(_UIBackdropView view) {
+    return objc::state_of<host::quartzcore::BackdropLayer>(view.layer()).look();
   }
 };
 
@@ -45,7 +45,7 @@ TEST_F(Backdrop, TheViewsLayerTakesTheSettings) {
 
   EXPECT_EQ(view.style(), 3900);
   EXPECT_EQ(view.inputSettings(), settings);
-  EXPECT_EQ(layer_of(view).blurRadius(), settings.blurRadius());
+  EXPECT_EQ(look_of(view).blur_radius, settings.blurRadius());
   EXPECT_EQ(view.frame(), (CGRect{0, 0, 50, 50}));
 }
 
@@ -59,8 +59,8 @@ TEST_F(Backdrop, ChangingStyleThenSettingsShowsTheSettings) {
 
   EXPECT_EQ(view.style(), 2040);
   EXPECT_EQ(view.inputSettings(), colored);
-  EXPECT_EQ(layer_of(view).saturationDeltaFactor(), colored.saturationDeltaFactor());
-  EXPECT_EQ(layer_of(view).tintColor(), nullptr) << "this look has no tint";
+  EXPECT_EQ(look_of(view).saturation, colored.saturationDeltaFactor());
+  EXPECT_EQ(look_of(view).tint.alpha, 0) << "this look has no tint";
 }
 
 TEST_F(Backdrop, FillsItsSuperviewOnlyWhenItAutosizes) {
