@@ -15,6 +15,14 @@ NSString music_identifier() {
   return "com.apple.Music"_ns;
 }
 
+// Later systems have moved it to the controller.
+SBIconViewMap home_screen_map() {
+  if (SBIconViewMap::hasHomescreenMap()) return SBIconViewMap::homescreenMap();
+  const auto controller = SBIconController::sharedInstance();
+  return controller.hasHomescreenIconViewMap() ? controller.homescreenIconViewMap()
+                                               : SBIconViewMap();
+}
+
 }  // namespace
 
 SBApplication find_music_application() {
@@ -27,7 +35,7 @@ SBApplication find_music_application() {
 SBIconView find_music_icon() {
   const SBIcon icon = SBIconController::sharedInstance().model().expectedIconForDisplayIdentifier(
       music_identifier());
-  return SBIconViewMap::homescreenMap().mappedIconViewForIcon(icon);
+  return home_screen_map().mappedIconViewForIcon(icon);
 }
 
 bool is_in_folder(SBIconView icon) {
