@@ -7,7 +7,9 @@
 #include "device/check/calls.h"
 #include "device/check/layout.h"
 #include "device/check/library.h"
-#include "device/check/names.h"
+#include "device/check/linker_stubs.h"
+#include "device/check/platform.h"
+#include "device/check/readme.h"
 #include "device/check/signature.h"
 
 namespace sonavue::device {
@@ -21,6 +23,21 @@ std::optional<Image> image_in(const PackageFile& package, const char* path, Find
   } catch (const FormatError& problem) {
     findings.push_back(fmt::format("{}: {}", path, problem.what()));
     return std::nullopt;
+  }
+}
+
+void check_platform(const PackageFile& package, const Image& library,
+                    const std::filesystem::path& source, Findings& findings) {
+  const PackagedFile* control = package.control_file("control");
+  if (!control) return;
+  const Knowledge known = read_knowledge(source);
+  try {
+    const std::string text(control->content.begin(), control->content.end());
+    const SystemRange promised = promised_range(text);
+    check_platform(platform_use(library), known, promised, findings);
+    check_readme(source, promised, findings);
+  } catch (const FormatError& problem) {
+    findings.push_back(problem.what());
   }
 }
 
@@ -40,7 +57,7 @@ Findings check_package(const PackageFile& package, const std::filesystem::path& 
   check_signature("library", *library, "org.plumvane.sonavue2", findings);
   check_signature("settings bundle", *bundle, "org.plumvane.SonavueSettings", findings);
   check_symbols(*library, *bundle, source, findings);
-  check_names(*library, source, findings);
+  check_platform(package, *library, source, findings);
   check_calls(*library, findings);
   return findings;
 }

@@ -91,11 +91,16 @@ void check_fields(const PackageFile& package, Findings& findings) {
     return;
   }
   const std::string text = "\n" + std::string(file->content.begin(), file->content.end());
+  const auto need = [&](const std::string& words, const std::string& after) {
+    if (text.find(words + after) == std::string::npos)
+      findings.push_back(
+          fmt::format("control: lacks `{}`", words.substr(words.find_first_not_of('\n'))));
+  };
   for (const char* line :
-       {"Package: org.plumvane.sonavue2", "Name: Sonavue", "Architecture: iphoneos-arm",
-        "Depends: mobilesubstrate, preferenceloader, libactivator, firmware (>= 8.0)"})
-    if (text.find(fmt::format("\n{}\n", line)) == std::string::npos)
-      findings.push_back(fmt::format("control: lacks `{}`", line));
+       {"\nPackage: org.plumvane.sonavue2", "\nName: Sonavue", "\nArchitecture: iphoneos-arm"})
+    need(line, "\n");
+  need("\nDepends: mobilesubstrate, preferenceloader, libactivator", ", firmware ");
+  need(kProcessors, "");
   for (const char* field : {"Version", "Maintainer", "Section", "Description", "Installed-Size"})
     if (text.find(fmt::format("\n{}: ", field)) == std::string::npos)
       findings.push_back(fmt::format("control: lacks the field {}", field));

@@ -38,7 +38,7 @@ broken() {
   result=0
   "$build/bin/sonavue_check" "${against:-$source}" "$work/broken.deb" >"$work/said" 2>&1 || result=$?
   [ "$result" -eq 1 ] || fail "the checker ends with $result after: $*"
-  grep -qF "$expected" "$work/said" || fail "the checker does not say '$expected' after: $*"
+  grep -qF -- "$expected" "$work/said" || fail "the checker does not say '$expected' after: $*"
 }
 
 # patch FILE OLD NEW replaces bytes by as many others.
@@ -55,9 +55,19 @@ broken "stray: does not belong" sh -c 'echo stray >Library/stray'
 broken "Info.plist: mode 600" chmod 600 "$bundle/Info.plist"
 broken "Info.plist: is empty" truncate -s 0 "$bundle/Info.plist"
 broken "is neither a file nor a folder" ln -sf en.plist "$bundle/Info.plist"
-for needed in mobilesubstrate preferenceloader libactivator 'firmware (>= 8.0)'; do
+for needed in mobilesubstrate preferenceloader libactivator; do
   broken "control: lacks \`Depends" sed -i "/^Depends/s/$needed/other/" DEBIAN/control
 done
+broken "control: lacks \`arm64" sed -i 's/arm64/every/' DEBIAN/control
+for end in '>= 8.0' '<< 9.0'; do
+  broken "promises no range of systems" sed -i "s/firmware ($end)/other/" DEBIAN/control
+done
+broken "promises the systems from 7.0" sed -i 's/firmware (>= 8.0)/firmware (>= 7.0)/' DEBIAN/control
+broken "up to and without 8.4, the facts prove" sed -i 's/(<< 9.0)/(<< 8.4)/' DEBIAN/control
+broken "up to and without 10.0, the facts prove" sed -i 's/(<< 9.0)/(<< 10.0)/' DEBIAN/control
+broken "-[SBReachabilityManager _keepAliveTimerFired:] is missing" \
+  sed -i 's/(<< 9.0)/(<< 10.0)/' DEBIAN/control
+broken "README: its table has no row" sed -i 's/(<< 9.0)/(<< 8.4)/' DEBIAN/control
 for field in Package Name Architecture; do
   broken "control: lacks \`$field: " sed -i "s/^$field: .*/$field: org.example.other/" DEBIAN/control
 done
@@ -86,15 +96,17 @@ owners='' broken "root:root" owned_by_others
 
 broken "calls itself" patch "$library" DynamicLibraries/Sonavue2 DynamicLibraries/Sonavue3
 broken "hashes do not fit" patch "$library" playNextSong playLastSong
-broken "know no selector presentBanned:" patch "$library" presentBanner: presentBanned:
+broken "the facts know no selector presentBanned:" patch "$library" presentBanner: presentBanned:
 broken "has no signature" cp "$source/build/device/Sonavue2.dylib" "$library"
 broken "another name" "$build/bin/sonavue_sign" org.example.other \
   "$source/build/device/Sonavue2.dylib" "$library"
 broken "does not bring the library in" patch "$bundle/SonavueSettings" Sonavue2.dylib Sonavue9.dylib
 broken "library: is no dynamic library" cp "$bundle/SonavueSettings" "$library"
 broken "settings bundle: is no bundle" cp "$library" "$bundle/SonavueSettings"
-broken "tell no selectors or no classes" patch "$library" 15cached_selector 15cached_selectoR
-broken "tell no selectors or no classes" patch "$library" 12cached_class 12cached_clasS
+for cache in 4objc15cached_selector 4objc14cached_message 4objc12cached_class 4objc13asked_message \
+  7sonavue13replaced_body; do
+  broken "has no symbol __ZN$cache" patch "$library" $cache "${cache%?}X"
+done
 broken "library: sends no messages" patch "$library" _objc_msgSend _objc_msgSenD
 broken "library: has no code" patch "$library" __text __texT
 broken "no 64-bit library" cp "$bundle/Info.plist" "$library"
@@ -132,8 +144,8 @@ broken "other initialisers" patch "$library" __mod_init_func __mod_term_func
 
 # Rules that compare with the source are broken in a copy of what they read.
 mkdir -p "$work/source/device/check"
-cp -a "$source/objc" "$source/platform" "$source/resources" "$work/source"
-cp -a "$source/device/stubs" "$work/source/device"
+cp -a "$source/README.md" "$source/resources" "$work/source"
+cp -a "$source/device/stubs" "$source/device/facts" "$work/source/device"
 cp "$source/device/check/own_names.txt" "$work/source/device/check"
 against=$work/source
 sed -i /_uname$/d "$against/device/stubs/libSystem.tbd"
@@ -145,6 +157,59 @@ sed -i /^Linker$/d "$against/device/check/own_names.txt"
 broken "know no class Linker" true
 sed -i /^tweet$/d "$against/device/check/own_names.txt"
 broken "know no selector tweet" true
+sed -i 's/^| phones | arm64/| phones | every/' "$against/README.md"
+broken "README: its table has no row \`| phones | arm64" true
+
+# contradicted EXPECTED FILE CHANGE: the facts are changed for this once.
+contradicted() {
+  cp "$against/device/facts/$2" "$work/facts"
+  sed -i "$3" "$against/device/facts/$2"
+  cmp -s "$against/device/facts/$2" "$work/facts" && fail "nothing changed by $3"
+  broken "$1" true
+  cp "$work/facts" "$against/device/facts/$2"
+}
+contradicted "UILabel is of /elsewhere, which is neither linked nor loaded" UIKit.facts \
+  's|^image .*|image /elsewhere|'
+contradicted "-[SBIcon application] is missing on a system, and not listed as guarded" \
+  SpringBoard.facts 's/-application @@: .*/-application @@: ?yny?/'
+contradicted "-[UILabel setText:] is bound as v@:@ and there as v@:q" UIKit.facts \
+  '/^class UILabel /,/^class/s/-setText: v@:@/-setText: v@:q/'
+contradicted "_handleDisplayTurnedOff] is bound as v@: and there as v@:I" SpringBoard.facts \
+  's/-_handleDisplayTurnedOff v@:/-_handleDisplayTurnedOff v@:I/'
+contradicted "-[SBUIController clickedMenuButton] is a message that no system has" \
+  SpringBoard.facts 's/-clickedMenuButton /-clickedMenuButtons /'
+contradicted "know no class UILabel" UIKit.facts 's/^class UILabel /class UIOther /'
+contradicted "-[NSArray count] is covered by no dump, and not listed as such" uncovered \
+  '/^-\[NSArray count\]/d'
+contradicted "uncovered: -[UILabel setText:] is not used, or the facts tell of it" uncovered \
+  '$a -[UILabel setText:]'
+contradicted "uncovered: -[NSArray reverse] is not used" uncovered '$a -[NSArray reverse]'
+contradicted "homescreenIconViewMap] is covered by no dump, and not listed as such" guarded \
+  '/^-/d'
+contradicted "guarded: -[UILabel setText:] is not used, or every system has it" guarded \
+  '$a -[UILabel setText:]: always'
+contradicted "guarded: -[UILabel setText:] is sent without asking" guarded \
+  '$a -[UILabel setText:]: always'
+
+# refused EXPECTED FILE CHANGE: facts that cannot be believed are named, and nothing is checked.
+refused() {
+  cp "$against/device/facts/$2" "$work/facts"
+  sed -i "$3" "$against/device/facts/$2"
+  result=0
+  "$build/bin/sonavue_check" "$against" "$package" >"$work/said" 2>&1 || result=$?
+  [ "$result" -eq 2 ] && grep -q "facts/$2:[0-9]*: .*$1" "$work/said" ||
+    fail "the checker ends with $result for facts changed by $3: $(cat "$work/said")"
+  cp "$work/facts" "$against/device/facts/$2"
+}
+refused "it is cut" UIKit.facts '$d'
+refused "it is cut" UIKit.facts '/-setText:/d'
+refused "-setText: is told of twice" UIKit.facts 's/^  -setText: .*/&\n  -setText: v@:q y?yy?/'
+refused "is there in 8.4, where its class is not" SpringBoard.facts \
+  's/^class SBIcon NSObject .*/class SBIcon NSObject ?ynyy/'
+refused "other systems than in the files before" UIKit.facts 's/^systems 8.0 8.2/systems 8.0 8.3/'
+refused "2 columns in place of 3" UIKit.facts 's/^  -setText: v@:@ /  -setText: v@:@/'
+refused "is no message" uncovered '$a setText:'
+refused "gives no reason" guarded 's/: sent only.*//'
 
 result=0
 echo nothing >"$work/nothing.deb"

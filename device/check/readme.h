@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+
+#include "device/check/findings.h"
+#include "device/check/system_range.h"
+
+namespace sonavue::device {
+
+/// README's table names the phones and the systems that the control file promises. `source` is the
+/// project's folder.
+void check_readme(const std::filesystem::path& source, const SystemRange& range,
+                  Findings& findings);
+
+}  // namespace sonavue::device
