@@ -27,3 +27,12 @@ set(CMAKE_CXX_FLAGS_INIT "-ffreestanding -nostdlibinc -isystem ${CMAKE_CURRENT_L
 foreach(folder IN LISTS standard_headers)
   string(APPEND CMAKE_CXX_FLAGS_INIT " -isystem ${folder}")
 endforeach()
+
+# The desktop reads only the long form of the unwind tables, which the linker leaves out for whatever
+# has the phone's compact form too.
+if(NOT SONAVUE_PHONE_PROCESSOR STREQUAL arm64)
+  find_program(SONAVUE_OBJCOPY llvm-objcopy-16 REQUIRED)
+  set(CMAKE_CXX_COMPILE_OBJECT
+      "<CMAKE_CXX_COMPILER> <DEFINES> <INCLUDES> <FLAGS> -o <OBJECT> -c <SOURCE>"
+      "${SONAVUE_OBJCOPY} --remove-section __LD,__compact_unwind <OBJECT>")
+endif()

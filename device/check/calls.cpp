@@ -2,7 +2,6 @@
 
 #include <fmt/core.h>
 
-#include <algorithm>
 #include <set>
 
 #include "device/check/instruction.h"
@@ -26,30 +25,6 @@ std::set<std::uint64_t> message_stubs(const Image& library) {
       addresses.insert(stubs->address + i * stubs->stub_size);
   }
   return addresses;
-}
-
-/// The addresses at which functions begin: a list of distances, seven bits a byte.
-std::vector<std::uint64_t> function_starts(const Image& library) {
-  std::vector<std::uint64_t> starts;
-  const LoadCommand* list = library.command(kFunctionStarts);
-  const Segment* text = library.segment("__TEXT");
-  if (!list || !text) return starts;
-  const std::size_t first = little_32(library.bytes(), list->offset + 8);
-  const std::size_t size = little_32(library.bytes(), list->offset + 12);
-  const std::uint8_t* bytes = bytes_at(library.bytes(), first, size);
-  std::uint64_t address = text->address;
-  std::uint64_t distance = 0;
-  unsigned shift = 0;
-  for (std::size_t i = 0; i < size; ++i) {
-    distance |= static_cast<std::uint64_t>(bytes[i] & 0x7f) << shift;
-    shift += 7;
-    if (bytes[i] & 0x80) continue;
-    if (distance == 0) break;
-    starts.push_back(address += distance);
-    distance = 0;
-    shift = 0;
-  }
-  return starts;
 }
 
 class Reader {
@@ -98,7 +73,7 @@ void check_calls(const Image& library, Findings& findings) {
   const Reader reader(library, *code);
   if (!reader.knows_stubs()) findings.push_back("library: sends no messages");
   const std::uint64_t end = code->address + code->size;
-  std::vector<std::uint64_t> starts = function_starts(library);
+  std::vector<std::uint64_t> starts = library.function_starts();
   std::erase_if(starts, [&](std::uint64_t each) { return each < code->address || each >= end; });
   starts.push_back(end);
   for (std::size_t i = 0; i + 1 < starts.size(); ++i)

@@ -11,6 +11,7 @@
 #include "device/check/platform.h"
 #include "device/check/readme.h"
 #include "device/check/signature.h"
+#include "device/check/unwind.h"
 
 namespace sonavue::device {
 namespace {
@@ -59,6 +60,8 @@ Findings check_package(const PackageFile& package, const std::filesystem::path& 
   check_symbols(*library, *bundle, source, findings);
   check_platform(package, *library, source, findings);
   check_calls(*library, findings);
+  check_unwinding("library", *library, findings);
+  check_unwinding("settings bundle", *bundle, findings);
   return findings;
 }
 

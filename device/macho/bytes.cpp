@@ -53,6 +53,10 @@ const std::uint8_t* bytes_at(const Bytes& bytes, std::size_t offset, std::size_t
   return bytes.data() + offset;
 }
 
+std::uint16_t little_16(const Bytes& bytes, std::size_t offset) {
+  return static_cast<std::uint16_t>(little(bytes, offset, sizeof(std::uint16_t)));
+}
+
 std::uint32_t little_32(const Bytes& bytes, std::size_t offset) {
   return static_cast<std::uint32_t>(little(bytes, offset, sizeof(std::uint32_t)));
 }

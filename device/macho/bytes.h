@@ -25,6 +25,7 @@ void write_file(const std::filesystem::path& path, const Bytes& bytes);
 /// `count` bytes from `offset` on; whatever lies outside of `bytes` is a FormatError.
 const std::uint8_t* bytes_at(const Bytes& bytes, std::size_t offset, std::size_t count);
 
+std::uint16_t little_16(const Bytes& bytes, std::size_t offset);
 std::uint32_t little_32(const Bytes& bytes, std::size_t offset);
 std::uint64_t little_64(const Bytes& bytes, std::size_t offset);
 std::uint32_t big_32(const Bytes& bytes, std::size_t offset);

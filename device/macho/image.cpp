@@ -11,6 +11,7 @@ constexpr std::size_t kSegmentCommandSize = 72;
 constexpr std::size_t kSectionSize = 80;
 constexpr std::size_t kSymbolSize = 16;
 constexpr std::size_t kShortestCommand = 8;
+constexpr unsigned kBitsOfAddress = 64;
 constexpr std::uint8_t kKindMask = 0x0e;
 constexpr std::uint8_t kExternal = 0x01;
 constexpr std::uint8_t kDebugging = 0xe0;
@@ -29,7 +30,7 @@ bool Symbol::is_external() const {
   return kind & kExternal;
 }
 
-Image::Image(Bytes bytes, Processor processor) : bytes_(std::move(bytes)) {
+Image::Image(Bytes bytes, Processor processor) : bytes_(std::move(bytes)), processor_(processor) {
   if (bytes_.size() < kHeaderSize || little_32(bytes_, 0) != kMagic)
     throw FormatError("it is no 64-bit library of the phone");
   if (little_32(bytes_, 4) != processor)
@@ -102,6 +103,11 @@ const Section* Image::section(std::string_view segment, std::string_view name) c
   return found == sections_.end() ? nullptr : &*found;
 }
 
+Bytes Image::content(const Section& section) const {
+  const std::uint8_t* first = bytes_at(bytes_, section.offset, section.size);
+  return Bytes(first, first + section.size);
+}
+
 std::string Image::library_name(const LoadCommand& command) const {
   const std::size_t name = little_32(bytes_, command.offset + 8);
   return text_at(bytes_, command.offset + name, command.offset + command.size);
@@ -134,6 +140,31 @@ std::vector<Symbol> Image::symbols() const {
                     little_64(bytes_, at + 8)});
   }
   return read;
+}
+
+// A list of distances, seven bits a byte.
+std::vector<std::uint64_t> Image::function_starts() const {
+  std::vector<std::uint64_t> starts;
+  const LoadCommand* list = command(kFunctionStarts);
+  const Segment* text = segment("__TEXT");
+  if (!list || !text) return starts;
+  const std::size_t first = little_32(bytes_, list->offset + 8);
+  const std::size_t size = little_32(bytes_, list->offset + 12);
+  const std::uint8_t* bytes = bytes_at(bytes_, first, size);
+  std::uint64_t address = text->address;
+  std::uint64_t distance = 0;
+  unsigned shift = 0;
+  for (std::size_t i = 0; i < size; ++i) {
+    if (shift >= kBitsOfAddress) throw FormatError("the list of functions is damaged");
+    distance |= static_cast<std::uint64_t>(bytes[i] & 0x7f) << shift;
+    shift += 7;
+    if (bytes[i] & 0x80) continue;
+    if (distance == 0) break;
+    starts.push_back(address += distance);
+    distance = 0;
+    shift = 0;
+  }
+  return starts;
 }
 
 std::vector<std::string> Image::strings() const {

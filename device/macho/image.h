@@ -73,6 +73,7 @@ class Image {
   explicit Image(Bytes bytes, Processor processor = kArm64);
 
   const Bytes& bytes() const { return bytes_; }
+  Processor processor() const { return processor_; }
   std::uint32_t file_kind() const;
   std::size_t end_of_commands() const;
   const std::vector<LoadCommand>& commands() const { return commands_; }
@@ -82,10 +83,13 @@ class Image {
   const LoadCommand* command(std::uint32_t kind) const;
   const Segment* segment(std::string_view name) const;
   const Section* section(std::string_view segment, std::string_view name) const;
+  Bytes content(const Section& section) const;
 
   std::string own_name() const;
   std::vector<std::string> libraries() const;
   std::vector<Symbol> symbols() const;
+  /// The addresses at which functions begin.
+  std::vector<std::uint64_t> function_starts() const;
   /// The texts of a section of C strings.
   std::vector<std::string> strings() const;
 
@@ -94,6 +98,7 @@ class Image {
   std::string library_name(const LoadCommand& command) const;
 
   Bytes bytes_;
+  Processor processor_;
   std::vector<LoadCommand> commands_;
   std::vector<Segment> segments_;
   std::vector<Section> sections_;

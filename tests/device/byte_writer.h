@@ -57,6 +57,8 @@ class ByteWriter {
     std::copy(bytes.begin(), bytes.end(), bytes_.begin() + static_cast<std::ptrdiff_t>(offset));
   }
 
+  void skip_to(std::size_t offset) { at_ = offset; }
+
   std::size_t at() const { return at_; }
   Bytes take() { return std::move(bytes_); }
 

@@ -109,6 +109,7 @@ for cache in 4objc15cached_selector 4objc14cached_message 4objc12cached_class 4o
 done
 broken "library: sends no messages" patch "$library" _objc_msgSend _objc_msgSenD
 broken "library: has no code" patch "$library" __text __texT
+broken "no exception gets through the code" patch "$library" __unwind_info __unwind_infO
 broken "no 64-bit library" cp "$bundle/Info.plist" "$library"
 
 # as_numbers FILE OLD NEW replaces a row of numbers, written as perl packs them.
@@ -130,7 +131,11 @@ broken "has chained fixups" as_numbers "$library" "0x80000022, 48" "0x80000034, 
 broken "no classic dyld" as_numbers "$bundle/SonavueSettings" "0x80000022, 48" "0x80000021, 48"
 broken "a table of exports" as_numbers "$library" "0x26, 16" "0x80000033, 16"
 broken "no identifier of its build" as_numbers "$library" "0x1b, 24" "0x2c, 24"
+broken "library: does not tell where its functions begin" as_numbers "$library" "0x26, 16" "0x29, 16"
 broken "a place for encryption" as_numbers "$library" "0x1b, 24" "0x2c, 24"
+# What finds the caller of code with one kind of frame says that nothing does.
+broken "library: no exception gets through the code" as_numbers "$library" 0x0400001f 0
+broken "library: its unwind tables are damaged" as_numbers "$library" "1, 28" "2, 28"
 # Every idle instruction becomes a store to where arguments beyond the registers go.
 broken "sends a message over the stack" as_numbers "$library" 0xd503201f 0xf90003ff
 initialisers=$(llvm-objdump-16 --macho --section=__DATA,__mod_init_func "$work/whole/$library" |

@@ -17,7 +17,7 @@ constexpr std::size_t kLibrarySize = 64;
 constexpr std::size_t kLibraryHead = 24;
 
 std::size_t size_of_commands(const ImageShape& shape) {
-  return 3 * ByteWriter::kSegmentSize + 2 * ByteWriter::kSectionSize + kInformationSize +
+  return 3 * ByteWriter::kSegmentSize + 3 * ByteWriter::kSectionSize + kInformationSize +
          shape.libraries.size() * kLibrarySize;
 }
 
@@ -46,7 +46,10 @@ Bytes image_bytes(const ImageShape& shape) {
   ByteWriter writer(end);
   writer.numbers(
       {kMagic, kX86, 3, kLibrary, 4 + shape.libraries.size(), size_of_commands(shape), 0, 0});
-  writer.segment("__TEXT", {0, kPage, 0, kPage}, kReadAndRun, 0);
+  writer.segment("__TEXT", {0, kPage, 0, kPage}, kReadAndRun, 1);
+  writer.section(
+      "__eh_frame", "__TEXT",
+      {ImageShape::kFrames, shape.frames.size(), ImageShape::kFrames, shape.frames.size()});
   write_data_segment(writer, shape);
   writer.segment("__LINKEDIT", {kTables, kPage, kTables, end - kTables}, kRead, 0);
   for (const std::string& each : shape.libraries) {
@@ -61,6 +64,7 @@ Bytes image_bytes(const ImageShape& shape) {
     at += each->size();
   }
   writer.put(shape.code, ImageShape::kCode);
+  writer.put(shape.frames, ImageShape::kFrames);
   writer.put(shape.data, kPage);
   return writer.take();
 }

@@ -10,8 +10,9 @@ using sonavue::device::Bytes;
 /// of data, and the tables, each of them given byte by byte.
 struct ImageShape {
   static constexpr std::uint64_t kPage = 0x1000;
-  static constexpr std::uint64_t kCode = 0x800;  // where the code lies in its page
-  static constexpr std::uint64_t kData = kPage;  // the address of the page of data
+  static constexpr std::uint64_t kCode = 0x800;    // where the code lies in its page
+  static constexpr std::uint64_t kFrames = 0xc00;  // and the frame table behind it
+  static constexpr std::uint64_t kData = kPage;    // the address of the page of data
   static constexpr std::size_t kDataSegment = 1;
 
   Bytes rebase = {};
@@ -20,6 +21,7 @@ struct ImageShape {
   Bytes lazy_bind = {};
   Bytes exports = {};
   Bytes code = {};
+  Bytes frames = {};
   Bytes data = {};
   std::uint64_t initialisers = 0;  // how many pointers at the start of the data are to be run
   std::string data_section = "__data";

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "tests/device/frame_bytes.h"
 #include "tests/macho/image_bytes.h"
 
 namespace macho_tests {
@@ -29,12 +30,19 @@ void second() {
   events.push_back("second");
 }
 
-/// Both functions by name; the others are nowhere.
+struct Thrown {};
+
+void throw_something() {
+  throw Thrown();
+}
+
+/// These functions by name; the others are nowhere.
 void* find(const std::string& library, const std::string& symbol) {
   if (symbol == "_first" && library == "/usr/lib/first.dylib")
     return reinterpret_cast<void*>(&first);
   if (symbol == "_second" && library == "/usr/lib/second.dylib")
     return reinterpret_cast<void*>(&second);
+  if (symbol == "_throw") return reinterpret_cast<void*>(&throw_something);
   return nullptr;
 }
 
@@ -82,6 +90,26 @@ std::string refusal(const ImageShape& shape) {
   return refusal(image_bytes(shape));
 }
 
+/// Code that makes room on the stack, calls what a pointer of the data leads to, and comes back.
+ImageShape calling(const Bytes& frames) {
+  constexpr std::size_t kBehindCall = 10;
+  ImageShape shape;
+  shape.code = {0x48, 0x83, 0xec, 8, 0xff, 0x15, 0, 0, 0, 0, 0x48, 0x83, 0xc4, 8, 0xc3};
+  sonavue::device::put_little_32(
+      shape.code, 6, static_cast<std::uint32_t>(kData + kPointer - kCode - kBehindCall));
+  shape.frames = frames;
+  shape.initialisers = 1;
+  shape.data = pointers({kCode});
+  shape.rebase = {0x11, 0x21, 0x00, 0x51, 0x00};
+  shape.bind = joined({{0x11, 0x40}, zero_ended("_throw"), {0x51, 0x71, 0x08, 0x90, 0x00}});
+  return shape;
+}
+
+/// The frame of that code: behind its first instruction there are 16 bytes of it.
+Bytes frame_of_calling(std::uint64_t code = kCode, std::uint64_t size = 15) {
+  return sonavue::device::frame_bytes(ImageShape::kFrames, code, size, {0x44, 0x0e, 16});
+}
+
 /// Memory of this process that is of nobody's file, as the system lists it.
 std::vector<std::string> mapped_memory() {
   std::vector<std::string> lines;
@@ -127,6 +155,34 @@ TEST(LoadedImage, AWeakImportMayBeMissing) {
   shape.bind = joined({{0x11, 0x41}, zero_ended("_nowhere"), {0x51, 0x71, 0x20, 0x90, 0x00}});
   const auto image = loaded(shape);
   EXPECT_EQ(*static_cast<void**>(image->exported("_t")), nullptr);
+}
+
+TEST(LoadedImage, ExceptionsGoThroughItsCode) {
+  const auto image = loaded(calling(frame_of_calling()));
+  EXPECT_THROW(image->run_initialisers(), Thrown);
+  EXPECT_THROW(image->run_initialisers(), Thrown);
+}
+
+TEST(LoadedImage, ItsFramesAreForgottenWithIt) {
+  for (int i = 0; i < 100; ++i) {
+    const auto image = loaded(calling(frame_of_calling()));
+    EXPECT_THROW(image->run_initialisers(), Thrown);
+  }
+  EXPECT_THROW(throw_something(), Thrown);
+}
+
+TEST(LoadedImageDeathTest, WithoutFramesAnExceptionEndsTheProcess) {
+  const auto image = loaded(calling({}));
+  EXPECT_EXIT(EXPECT_ANY_THROW(image->run_initialisers()), testing::KilledBySignal(SIGABRT), "");
+}
+
+TEST(LoadedImage, FramesHaveToBeOfItsOwnCode) {
+  for (const auto& [code, size] : {std::pair{0x10000u, 15u}, {0xffffff00u, 15u}, {0x2ff8u, 15u}})
+    EXPECT_EQ(refusal(calling(frame_of_calling(code, size))),
+              "the frame table speaks of code outside of the image");
+  Bytes damaged = frame_of_calling();
+  damaged[8] = 2;
+  EXPECT_EQ(refusal(calling(damaged)), "the frame table's entry at byte 0 is of another version");
 }
 
 TEST(LoadedImageDeathTest, ItsCodeCannotBeWritten) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <set>
 
+#include "device/check/unwind.h"
 #include "tests/macho/loader/loaded_image.h"
 
 // What is run here has to be what the phone gets, but for the processor.
@@ -58,6 +59,14 @@ TEST(PhoneLibrary, ShowsItsTableAndNothingElse) {
     EXPECT_THAT(exports(image_of(preset, "Sonavue2.dylib", processor)),
                 ElementsAre(Pair("_exported_globals", testing::Gt(0u))))
         << preset;
+}
+
+TEST(PhoneLibrary, ExceptionsGetThroughAllOfIt) {
+  for (const auto& [preset, processor] : {std::pair("device", kArm64), {"simulator", kX86}}) {
+    Findings findings;
+    check_unwinding(preset, image_of(preset, "Sonavue2.dylib", processor), findings);
+    EXPECT_THAT(findings, IsEmpty());
+  }
 }
 
 TEST(PhoneLibrary, TheSettingsBundleIsMappedWithoutRunningAnything) {

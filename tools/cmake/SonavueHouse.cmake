@@ -21,7 +21,8 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror
                     $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
 if(SONAVUE_PHONE)
   # The platform's C functions return its own structures; that they are C++ types here is harmless.
-  add_compile_options(-Wno-return-type-c-linkage)
+  # Exceptions of the system pass through the library, which has no handler for any.
+  add_compile_options(-Wno-return-type-c-linkage -funwind-tables)
 endif()
 if(SONAVUE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined

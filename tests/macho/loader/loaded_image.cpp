@@ -34,7 +34,10 @@ bool is_code(const Image& image, std::uint64_t address) {
 }  // namespace
 
 LoadedImage::LoadedImage(const Image& image, const FindSymbol& find)
-    : exports_(exports(image)), bindings_(macho_tests::bindings(image)), memory_(image) {
+    : exports_(exports(image)),
+      bindings_(macho_tests::bindings(image)),
+      memory_(image),
+      frames_(image, memory_) {
   check_sections(image);
   for (const auto& [name, address] : exports_)
     if (!memory_.is_inside(address)) throw FormatError(name + " lies outside of the image");

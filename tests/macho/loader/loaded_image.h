@@ -3,12 +3,14 @@
 #include <functional>
 
 #include "tests/macho/loader/memory.h"
+#include "tests/macho/loader/registered_frames.h"
 #include "tests/macho/loader/tables.h"
 
 namespace macho_tests {
 
 /// An image of the phone's file format in this process's memory: moved to where there was room,
-/// bound to others' symbols, protected. Its code stays until the object goes.
+/// bound to others' symbols, protected, with its frames known. Its code stays until the object
+/// goes.
 class LoadedImage {
  public:
   /// The address of a library's symbol as the file names it; null where there is none.
@@ -35,6 +37,7 @@ class LoadedImage {
   std::vector<Binding> bindings_;
   std::vector<std::uint64_t> initialisers_;
   Memory memory_;
+  RegisteredFrames frames_;
 };
 
 }  // namespace macho_tests

@@ -4,11 +4,16 @@
 #include <unordered_set>
 
 // Nobody knows here which of the registers that carry arguments are in use, so all of them are kept
-// while the method is looked up. Who looks it up may change those that are not for fractions.
+// while the method is looked up. Who looks it up may change those that are not for fractions, and
+// may raise an exception: a class that is asked for the first time initialises itself.
 asm(R"(
   .macro send_by finder
+    .cfi_startproc
     pushq %rbp
+    .cfi_def_cfa_offset 16
+    .cfi_offset %rbp, -16
     movq %rsp, %rbp
+    .cfi_def_cfa_register %rbp
     subq $0xc0, %rsp
     movq %rdi, 0x00(%rsp)
     movq %rsi, 0x08(%rsp)
@@ -46,7 +51,9 @@ asm(R"(
     movaps 0xa0(%rsp), %xmm6
     movaps 0xb0(%rsp), %xmm7
     leave
+    .cfi_def_cfa %rsp, 8
     jmp *%r11
+    .cfi_endproc
   .endm
 
   .macro function name

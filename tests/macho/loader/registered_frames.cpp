@@ -1,0 +1,40 @@
+#include "tests/macho/loader/registered_frames.h"
+
+#include "device/macho/frame_table.h"
+
+extern "C" {
+void __register_frame(void* table);
+void __deregister_frame(void* table);
+}
+
+namespace macho_tests {
+namespace {
+
+constexpr std::size_t kEnd = sizeof(std::uint32_t);
+
+}  // namespace
+
+// The process wants a zero behind the last entry, for which the image need not have room: what is
+// registered is a copy. Addresses in it are counted from where they stand themselves.
+RegisteredFrames::RegisteredFrames(const Image& image, const Memory& memory) {
+  const std::vector<FrameDescription> frames = frame_descriptions(image);
+  if (frames.empty()) return;
+  Bytes table = image.content(*frame_table(image));
+  table.resize(table.size() + kEnd);
+  const auto start = reinterpret_cast<std::uintptr_t>(table.data());
+  for (const FrameDescription& each : frames) {
+    if (each.size == 0 || !memory.is_inside(each.address) ||
+        !memory.is_inside(each.address + each.size - 1))
+      throw FormatError("the frame table speaks of code outside of the image");
+    const auto code = reinterpret_cast<std::uintptr_t>(memory.at(each.address));
+    put_little_64(table, each.address_place, code - (start + each.address_place));
+  }
+  table_ = std::move(table);
+  __register_frame(table_.data());
+}
+
+RegisteredFrames::~RegisteredFrames() {
+  if (!table_.empty()) __deregister_frame(table_.data());
+}
+
+}  // namespace macho_tests
