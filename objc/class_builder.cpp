@@ -26,13 +26,14 @@ Class ClassBuilder::finish() {
 }
 
 void ClassBuilder::add_storage(std::size_t size) {
-  // The runtime refuses a name that a superclass uses, and each has storage of its own.
-  if (!class_addIvar(cls_, class_getName(cls_), size, kPointerAlignment, "?")) __builtin_trap();
+  // The runtime refuses a name that a superclass uses, and each has storage of its own. What was
+  // begun is left to itself: nobody knows of a class that is not registered.
+  if (!class_addIvar(cls_, class_getName(cls_), size, kPointerAlignment, "?")) cls_ = nullptr;
 }
 
 void ClassBuilder::add_field(const char* name, const char* encoding) {
   if (cls_ && !class_addIvar(cls_, name, sizeof(void*), kPointerAlignment, encoding))
-    __builtin_trap();
+    cls_ = nullptr;
 }
 
 std::ptrdiff_t ClassBuilder::storage_offset(Class cls) {

@@ -1,7 +1,6 @@
 #include "tweak/gesture_listener.h"
 
 #include "objc/autorelease_pool.h"
-#include "objc/class_builder.h"
 #include "platform/Activator/LAActivator.h"
 #include "tweak/globals.h"
 
@@ -36,16 +35,16 @@ NSArray compatible_modes(SVActivatorListener, LAActivator, NSString) {
 }  // namespace
 
 void make_gesture_listener() {
-  objc::ClassBuilder("SVActivatorListener", "NSObject")
-      .protocol("LAListener")
-      .method<&receive_event>("activator:receiveEvent:")
-      .method<&icon>("activator:requiresIconForListenerName:scale:")
-      .method<&icon>("activator:requiresSmallIconForListenerName:scale:")
-      .method<&group>("activator:requiresLocalizedGroupForListenerName:")
-      .method<&title_text>("activator:requiresLocalizedTitleForListenerName:")
-      .method<&description_text>("activator:requiresLocalizedDescriptionForListenerName:")
-      .method<&compatible_modes>("activator:requiresCompatibleEventModesForListenerWithName:")
-      .finish();
+  objc::make_own_class<SVActivatorListener>([](objc::ClassBuilder& builder) {
+    builder.protocol("LAListener")
+        .method<&receive_event>("activator:receiveEvent:")
+        .method<&icon>("activator:requiresIconForListenerName:scale:")
+        .method<&icon>("activator:requiresSmallIconForListenerName:scale:")
+        .method<&group>("activator:requiresLocalizedGroupForListenerName:")
+        .method<&title_text>("activator:requiresLocalizedTitleForListenerName:")
+        .method<&description_text>("activator:requiresLocalizedDescriptionForListenerName:")
+        .method<&compatible_modes>("activator:requiresCompatibleEventModesForListenerWithName:");
+  });
 }
 
 }  // namespace sonavue

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/Foundation/NSObject.h"
 
 /// What the gesture service calls when the user's gesture happens.
-struct SVActivatorListener : objc::Bound<SVActivatorListener, "SVActivatorListener", NSObject> {};
+struct SVActivatorListener : objc::Own<SVActivatorListener, "SVActivatorListener", NSObject> {};
 
 namespace sonavue {
 

@@ -21,6 +21,7 @@ using DidFinishLaunching =
 
 void register_gesture_listener() {
   const auto listener = SVActivatorListener::alloc().init();
+  if (!listener) return;
   LAActivator::sharedInstance().registerListener(listener, "org.plumvane.Sonavue2"_ns);
 }
 

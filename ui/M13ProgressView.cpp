@@ -1,6 +1,5 @@
 #include "ui/M13ProgressView.h"
 
-#include "objc/class_builder.h"
 #include "objc/ref.h"
 
 namespace sonavue {
@@ -33,20 +32,20 @@ class ProgressView : public objc::Implementation<ProgressView, M13ProgressView> 
 }  // namespace
 
 void make_progress_view() {
-  objc::ClassBuilder("M13ProgressView", "UIView")
-      .state<ProgressView>()
-      .method<&ProgressView::primary_color>("primaryColor")
-      .method<&ProgressView::set_primary_color>("setPrimaryColor:")
-      .method<&ProgressView::secondary_color>("secondaryColor")
-      .method<&ProgressView::set_secondary_color>("setSecondaryColor:")
-      .method<&ProgressView::indeterminate>("indeterminate")
-      .method<&ProgressView::set_indeterminate>("setIndeterminate:")
-      .method<&ProgressView::animation_duration>("animationDuration")
-      .method<&ProgressView::set_animation_duration>("setAnimationDuration:")
-      .method<&ProgressView::progress>("progress")
-      .method<&ProgressView::set_progress>("setProgress:animated:")
-      .method<&ProgressView::perform_action>("performAction:animated:")
-      .finish();
+  objc::make_own_class<M13ProgressView>([](objc::ClassBuilder& builder) {
+    builder.state<ProgressView>()
+        .method<&ProgressView::primary_color>("primaryColor")
+        .method<&ProgressView::set_primary_color>("setPrimaryColor:")
+        .method<&ProgressView::secondary_color>("secondaryColor")
+        .method<&ProgressView::set_secondary_color>("setSecondaryColor:")
+        .method<&ProgressView::indeterminate>("indeterminate")
+        .method<&ProgressView::set_indeterminate>("setIndeterminate:")
+        .method<&ProgressView::animation_duration>("animationDuration")
+        .method<&ProgressView::set_animation_duration>("setAnimationDuration:")
+        .method<&ProgressView::progress>("progress")
+        .method<&ProgressView::set_progress>("setProgress:animated:")
+        .method<&ProgressView::perform_action>("performAction:animated:");
+  });
 }
 
 }  // namespace sonavue

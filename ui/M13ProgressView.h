@@ -1,11 +1,12 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIView.h"
 
 /// What every progress control has in common: two colours, a progress from 0 to 1, and how long a
 /// change of it takes.
-struct M13ProgressView : objc::Bound<M13ProgressView, "M13ProgressView", UIView> {
+struct M13ProgressView : objc::Own<M13ProgressView, "M13ProgressView", UIView> {
   UIColor primaryColor() const { return call<"primaryColor", UIColor>(); }
   void setPrimaryColor(UIColor color) const { call<"setPrimaryColor:">(color); }
   UIColor secondaryColor() const { return call<"secondaryColor", UIColor>(); }

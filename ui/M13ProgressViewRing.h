@@ -1,5 +1,6 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/Foundation/NSNumberFormatter.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
 #include "platform/QuartzCore/CADisplayLink.h"
@@ -10,7 +11,7 @@
 /// A thin ring with a thicker arc of progress over it, clockwise from twelve o'clock, always as
 /// high as it is wide.
 struct M13ProgressViewRing
-    : objc::Bound<M13ProgressViewRing, "M13ProgressViewRing", M13ProgressView> {
+    : objc::Own<M13ProgressViewRing, "M13ProgressViewRing", M13ProgressView> {
   M13ProgressViewRing initWithFrame(CGRect frame) const {
     return call<"initWithFrame:", M13ProgressViewRing>(frame);
   }

@@ -18,6 +18,7 @@ class Reader {
 
   PlatformUse read() {
     use_.classes = texts_of("__ZN4objc12cached_class");
+    use_.classes.merge(texts_of("__ZN4objc9own_class"));
     use_.selectors = texts_of("__ZN4objc15cached_selector");
     for (const char* cache : {"__ZN4objc14cached_message", "__ZN7sonavue13replaced_body"})
       for (const std::string& text : texts_of(cache))

@@ -14,7 +14,6 @@ struct Package {
 
 /// Somebody who made this. Texts are UTF-8.
 struct Author {
-  const char* class_name;  // of the cell
   const char* name;
   const char* role;
   const char* photo;

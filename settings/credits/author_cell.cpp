@@ -1,7 +1,6 @@
 #include "settings/credits/author_cell.h"
 
 #include "objc/block.h"
-#include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/MessageUI/MFMessageComposeViewController.h"
@@ -15,9 +14,9 @@
 namespace sonavue {
 namespace {
 
-template <const Author& author>
-class AuthorCell : public objc::Implementation<AuthorCell<author>, PSTableCell> {
-  using Base = objc::Implementation<AuthorCell<author>, PSTableCell>;
+template <const Author& author, class Cell>
+class AuthorCell : public objc::Implementation<AuthorCell<author, Cell>, Cell> {
+  using Base = objc::Implementation<AuthorCell<author, Cell>, Cell>;
 
  public:
   using Base::Base;
@@ -41,6 +40,7 @@ class AuthorCell : public objc::Implementation<AuthorCell<author>, PSTableCell> 
 
   void present() {
     contr_ = make_card(author, self);
+    if (!contr_) return;
     settings::where.presentViewController(contr_, YES, nullptr);
   }
   void dismiss() {
@@ -86,29 +86,29 @@ class AuthorCell : public objc::Implementation<AuthorCell<author>, PSTableCell> 
   UIViewController contr_;
 };
 
-template <const Author& author>
-void AuthorCell<author>::make() {
-  objc::ClassBuilder builder(author.class_name, "PSTableCell");
-  builder.state<AuthorCell>();
-  builder.method<&AuthorCell::init>("initWithSpecifier:");
-  builder.method<&AuthorCell::preferred_height>("preferredHeightForWidth:");
-  builder.method<&AuthorCell::present>("presentViewController");
-  builder.method<&AuthorCell::dismiss>("dismissViewController");
-  builder.method<&AuthorCell::add_object>("addObjectIn:withName:image:action:");
-  builder.method<&AuthorCell::email>("email");
-  builder.method<&AuthorCell::message>("message");
-  builder.method<&AuthorCell::follow_author>(author.follow_action);
-  builder.method<&AuthorCell::mail_done>("mailComposeController:didFinishWithResult:error:");
-  builder.method<&AuthorCell::message_done>("messageComposeViewController:didFinishWithResult:");
-  add_package_action<0>(builder);
-  builder.finish();
+template <const Author& author, class Cell>
+void AuthorCell<author, Cell>::make() {
+  objc::make_own_class<Cell>([](objc::ClassBuilder& builder) {
+    builder.state<AuthorCell>();
+    builder.method<&AuthorCell::init>("initWithSpecifier:");
+    builder.method<&AuthorCell::preferred_height>("preferredHeightForWidth:");
+    builder.method<&AuthorCell::present>("presentViewController");
+    builder.method<&AuthorCell::dismiss>("dismissViewController");
+    builder.method<&AuthorCell::add_object>("addObjectIn:withName:image:action:");
+    builder.method<&AuthorCell::email>("email");
+    builder.method<&AuthorCell::message>("message");
+    builder.method<&AuthorCell::follow_author>(author.follow_action);
+    builder.method<&AuthorCell::mail_done>("mailComposeController:didFinishWithResult:error:");
+    builder.method<&AuthorCell::message_done>("messageComposeViewController:didFinishWithResult:");
+    add_package_action<0>(builder);
+  });
 }
 
 }  // namespace
 
 void make_author_cells() {
-  AuthorCell<kDeveloper>::make();
-  AuthorCell<kDesigner>::make();
+  AuthorCell<kDeveloper, developerCell>::make();
+  AuthorCell<kDesigner, designerCell>::make();
 }
 
 }  // namespace sonavue

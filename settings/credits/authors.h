@@ -21,19 +21,15 @@ inline constexpr Package kDesignersPackages[] = {
 };
 
 inline constexpr Author kDeveloper = {
-    "developerCell",     "Plum (@plumcode)",
-    "Developer",         "developer",
-    "plum@example.org",  "plum@example.org",
-    "plumcode",          "followDeveloper",
-    kDevelopersPackages, 4,
+    "Plum (@plumcode)", "Developer",         "developer",
+    "plum@example.org", "plum@example.org",  "plumcode",
+    "followDeveloper",  kDevelopersPackages, 4,
 };
 
 inline constexpr Author kDesigner = {
-    "designerCell",     "Vane (@vanedraws)",
-    "Designer",         "designer",
-    "vane@example.org", "vane@example.org",
-    "vanedraws",        "followDesigner",
-    kDesignersPackages, 3,
+    "Vane (@vanedraws)", "Designer",         "designer",
+    "vane@example.org",  "vane@example.org", "vanedraws",
+    "followDesigner",    kDesignersPackages, 3,
 };
 
 }  // namespace sonavue

@@ -129,6 +129,7 @@ void add_contacts(UIView card, const Author& author, PSTableCell cell, CGFloat t
 
 UIViewController make_card(const Author& author, PSTableCell cell) {
   const auto controller = LockedUIViewController::alloc().init();
+  if (!controller) return controller;
   const UIView card = controller.view();
   card.setFrame(UIScreen::mainScreen().bounds());
   card.setBackgroundColor(UIColor::whiteColor());

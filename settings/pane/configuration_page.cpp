@@ -1,11 +1,11 @@
 #include "settings/pane/configuration_page.h"
 
-#include "objc/class_builder.h"
+#include "objc/own_class.h"
 #include "settings/pane/specifiers.h"
 #include "settings/pane/style_page.h"
 
 struct configurationController
-    : objc::Bound<configurationController, "configurationController", PSListController> {};
+    : objc::Own<configurationController, "configurationController", PSListController> {};
 
 namespace sonavue {
 namespace {
@@ -21,9 +21,8 @@ NSArray specifiers(configurationController self) {
 }  // namespace
 
 void make_configuration_page() {
-  objc::ClassBuilder("configurationController", "PSListController")
-      .method<&specifiers>("specifiers")
-      .finish();
+  objc::make_own_class<configurationController>(
+      [](objc::ClassBuilder& builder) { builder.method<&specifiers>("specifiers"); });
 }
 
 }  // namespace sonavue

@@ -1,6 +1,6 @@
 #include "settings/pane/credits_page.h"
 
-#include "objc/class_builder.h"
+#include "settings/credits/author_cell.h"
 #include "settings/globals.h"
 #include "settings/pane/specifiers.h"
 
@@ -11,8 +11,8 @@ NSArray specifiers(creatorsController self) {
   settings::set_where(self);
   if (!self.cached_specifiers()) {
     self.setSpecifiers(NSArray::arrayWithObjects(
-        PSSpecifier::emptyGroupSpecifier(), group_with_header(self, "developerCell"_ns),
-        PSSpecifier::emptyGroupSpecifier(), group_with_header(self, "designerCell"_ns)));
+        PSSpecifier::emptyGroupSpecifier(), group_with_header<developerCell>(self),
+        PSSpecifier::emptyGroupSpecifier(), group_with_header<designerCell>(self)));
   }
   return self.cached_specifiers();
 }
@@ -20,9 +20,8 @@ NSArray specifiers(creatorsController self) {
 }  // namespace
 
 void make_credits_page() {
-  objc::ClassBuilder("creatorsController", "PSListController")
-      .method<&specifiers>("specifiers")
-      .finish();
+  objc::make_own_class<creatorsController>(
+      [](objc::ClassBuilder& builder) { builder.method<&specifiers>("specifiers"); });
 }
 
 }  // namespace sonavue

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/Preferences/PSListController.h"
 
 /// The page of those who made it. A class of the extension's own.
-struct creatorsController
-    : objc::Bound<creatorsController, "creatorsController", PSListController> {};
+struct creatorsController : objc::Own<creatorsController, "creatorsController", PSListController> {
+};
 
 namespace sonavue {
 

@@ -1,13 +1,8 @@
 #include "settings/pane/header_cell.h"
 
-#include "objc/class_builder.h"
-#include "platform/Preferences/PSTableCell.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UIScreen.h"
-
-struct HeaderCellForSonavue
-    : objc::Bound<HeaderCellForSonavue, "HeaderCellForSonavue", PSTableCell> {};
 
 namespace sonavue {
 namespace {
@@ -71,11 +66,11 @@ class HeaderCell : public objc::Implementation<HeaderCell, HeaderCellForSonavue>
 }  // namespace
 
 void make_header_cell() {
-  objc::ClassBuilder("HeaderCellForSonavue", "PSTableCell")
-      .state<HeaderCell>()
-      .method<&HeaderCell::init>("initWithSpecifier:")
-      .method<&HeaderCell::preferred_height>("preferredHeightForWidth:")
-      .finish();
+  objc::make_own_class<HeaderCellForSonavue>([](objc::ClassBuilder& builder) {
+    builder.state<HeaderCell>()
+        .method<&HeaderCell::init>("initWithSpecifier:")
+        .method<&HeaderCell::preferred_height>("preferredHeightForWidth:");
+  });
 }
 
 }  // namespace sonavue

@@ -1,11 +1,12 @@
 #include "settings/pane/root_page.h"
 
-#include "objc/class_builder.h"
+#include "objc/own_class.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/Preferences/PSListController.h"
 #include "platform/Twitter/TWTweetComposeViewController.h"
 #include "settings/globals.h"
 #include "settings/pane/credits_page.h"
+#include "settings/pane/header_cell.h"
 #include "settings/pane/specifiers.h"
 #include "settings/pane/style_page.h"
 #include "settings/pictures.h"
@@ -13,14 +14,14 @@
 #include "settings/texts.h"
 
 struct SonavueSettingsController
-    : objc::Bound<SonavueSettingsController, "SonavueSettingsController", PSListController> {};
+    : objc::Own<SonavueSettingsController, "SonavueSettingsController", PSListController> {};
 
 namespace sonavue {
 namespace {
 
 NSArray make_specifiers(SonavueSettingsController self) {
   return NSArray::arrayWithObjects(
-      group_with_header(self, "HeaderCellForSonavue"_ns), PSSpecifier::emptyGroupSpecifier(),
+      group_with_header<HeaderCellForSonavue>(self), PSSpecifier::emptyGroupSpecifier(),
       with_icon(switch_row(self, "enable"_ns), "attivo"_ns), PSSpecifier::emptyGroupSpecifier(),
       with_icon(link_row(self, "configuration"_ns, styleController::cls()), "configurazione"_ns),
       PSSpecifier::emptyGroupSpecifier(),
@@ -59,7 +60,7 @@ void add_share_button(SonavueSettingsController self) {
 
 /// The wizard comes by itself once. The home screen has nothing to apply then.
 void show_wizard_the_first_time(SonavueSettingsController self) {
-  if (is_true(stored_value("firstBoot"_ns))) return;
+  if (!styleController::cls() || is_true(stored_value("firstBoot"_ns))) return;
   store_unannounced(NSNumber::numberWithBool(YES), "firstBoot"_ns);
   settings::set_where(self);
   // It lives for as long as the wizard needs it, which is until the application ends.
@@ -76,13 +77,13 @@ void view_will_appear(SonavueSettingsController self, BOOL animated) {
 }  // namespace
 
 void make_root_page() {
-  objc::ClassBuilder("SonavueSettingsController", "PSListController")
-      .method<&specifiers>("specifiers")
-      .method<&get_value>("getValue:")
-      .method<&set_value>("setValue:forSpecifier:")
-      .method<&tweet>("Tweet")
-      .method<&view_will_appear>("viewWillAppear:")
-      .finish();
+  objc::make_own_class<SonavueSettingsController>([](objc::ClassBuilder& builder) {
+    builder.method<&specifiers>("specifiers")
+        .method<&get_value>("getValue:")
+        .method<&set_value>("setValue:forSpecifier:")
+        .method<&tweet>("Tweet")
+        .method<&view_will_appear>("viewWillAppear:");
+  });
 }
 
 }  // namespace sonavue

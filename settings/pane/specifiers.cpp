@@ -32,15 +32,15 @@ PSSpecifier group_with_footer(NSString footer_identifier) {
 
 PSSpecifier group_with_header(objc::Object target, NSString class_name) {
   const PSSpecifier group = row("PSGroupCell"_ns, ""_ns, target, Stored::kNo, nullptr);
-  group.setProperty(class_name, "headerCellClass"_ns);
+  if (class_name) group.setProperty(class_name, "headerCellClass"_ns);
   return group;
 }
 
 PSSpecifier switch_row(objc::Object target, NSString identifier) {
   const PSSpecifier made =
       row("PSSwitchCell"_ns, Translator(identifier), target, Stored::kYes, nullptr);
-  made.setProperty(objc::Object(reinterpret_cast<objc::Id>(SRSwitchTableCell::cls())),
-                   "cellClass"_ns);
+  const objc::Object cell(SRSwitchTableCell::cls());
+  if (cell) made.setProperty(cell, "cellClass"_ns);
   return made;
 }
 

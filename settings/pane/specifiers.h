@@ -1,5 +1,6 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/Preferences/PSSpecifier.h"
 
 // The rows of the pages. Each is called by the text of a short English name, under which its value
@@ -8,8 +9,14 @@
 namespace sonavue {
 
 PSSpecifier group_with_footer(NSString footer_identifier);
-/// A group whose header is a view of the class of that name.
+/// A group whose header is a view of the class of that name; without a name, no header.
 PSSpecifier group_with_header(objc::Object target, NSString class_name);
+/// The same with a class of our own: the settings look it up by its name, which has to be ours.
+template <objc::OwnHandle Cell>
+PSSpecifier group_with_header(objc::Object target) {
+  return group_with_header(
+      target, Cell::cls() ? NSString::stringWithUTF8String(Cell::class_name()) : NSString());
+}
 
 /// The target answers `getValue:` and `setValue:forSpecifier:`.
 PSSpecifier switch_row(objc::Object target, NSString identifier);

@@ -1,6 +1,5 @@
 #include "settings/pane/style_page.h"
 
-#include "objc/class_builder.h"
 #include "platform/UIKit/UIAlertView.h"
 #include "platform/UIKit/UIPageViewController.h"
 #include "platform/UIKit/UIPickerView.h"
@@ -79,32 +78,32 @@ class StylePage : public objc::Implementation<StylePage, styleController> {
 }  // namespace
 
 void make_style_page() {
-  objc::ClassBuilder("styleController", "PSListController")
-      .state<StylePage>()
-      .method<&StylePage::specifiers>("specifiers")
-      .method<&StylePage::value>("getValue:")
-      .method<&StylePage::set_value>("setValue:forSpecifier:")
-      .method<&StylePage::answered>("alertView:clickedButtonAtIndex:")
-      .method<&StylePage::show_gesture_page>("activatorr")
-      .method<&StylePage::dismiss>("dismiss")
-      .method<&StylePage::components>("numberOfComponentsInPickerView:")
-      .method<&StylePage::rows>("pickerView:numberOfRowsInComponent:")
-      .method<&StylePage::row_title>("pickerView:titleForRow:forComponent:")
-      .method<&StylePage::row_chosen>("pickerView:didSelectRow:inComponent:")
-      .method<&StylePage::show_first_page>("showFirstPage")
-      .method<&StylePage::shimmer_label>("shimmerLabel")
-      .method<&StylePage::drag_first_page>("spostaPrimo:")
-      .method<&StylePage::show_setup>("showSetup")
-      .method<&StylePage::show_activator_page>("showActivatorPage")
-      .method<&StylePage::show_tutorial>("showTutorial")
-      .method<&StylePage::dismiss_intro>("dismissIntro")
-      .method<&StylePage::page_before>("pageViewController:viewControllerBeforeViewController:")
-      .method<&StylePage::page_after>("pageViewController:viewControllerAfterViewController:")
-      .method<&StylePage::presentation_count>("presentationCountForPageViewController:")
-      .method<&StylePage::presentation_index>("presentationIndexForPageViewController:")
-      .method<&StylePage::supported_orientations>(
-          "pageViewControllerSupportedInterfaceOrientations:")
-      .finish();
+  objc::make_own_class<styleController>([](objc::ClassBuilder& builder) {
+    builder.state<StylePage>()
+        .method<&StylePage::specifiers>("specifiers")
+        .method<&StylePage::value>("getValue:")
+        .method<&StylePage::set_value>("setValue:forSpecifier:")
+        .method<&StylePage::answered>("alertView:clickedButtonAtIndex:")
+        .method<&StylePage::show_gesture_page>("activatorr")
+        .method<&StylePage::dismiss>("dismiss")
+        .method<&StylePage::components>("numberOfComponentsInPickerView:")
+        .method<&StylePage::rows>("pickerView:numberOfRowsInComponent:")
+        .method<&StylePage::row_title>("pickerView:titleForRow:forComponent:")
+        .method<&StylePage::row_chosen>("pickerView:didSelectRow:inComponent:")
+        .method<&StylePage::show_first_page>("showFirstPage")
+        .method<&StylePage::shimmer_label>("shimmerLabel")
+        .method<&StylePage::drag_first_page>("spostaPrimo:")
+        .method<&StylePage::show_setup>("showSetup")
+        .method<&StylePage::show_activator_page>("showActivatorPage")
+        .method<&StylePage::show_tutorial>("showTutorial")
+        .method<&StylePage::dismiss_intro>("dismissIntro")
+        .method<&StylePage::page_before>("pageViewController:viewControllerBeforeViewController:")
+        .method<&StylePage::page_after>("pageViewController:viewControllerAfterViewController:")
+        .method<&StylePage::presentation_count>("presentationCountForPageViewController:")
+        .method<&StylePage::presentation_index>("presentationIndexForPageViewController:")
+        .method<&StylePage::supported_orientations>(
+            "pageViewControllerSupportedInterfaceOrientations:");
+  });
 }
 
 }  // namespace sonavue

@@ -1,6 +1,5 @@
 #include "settings/pane/switch_cell.h"
 
-#include "objc/class_builder.h"
 #include "settings/pictures.h"
 
 namespace sonavue {
@@ -18,9 +17,9 @@ PSTableCell init(SRSwitchTableCell self, UITableViewCellStyle style, NSString re
 }  // namespace
 
 void make_switch_cell() {
-  objc::ClassBuilder("SRSwitchTableCell", "PSSwitchTableCell")
-      .method<&init>("initWithStyle:reuseIdentifier:specifier:")
-      .finish();
+  objc::make_own_class<SRSwitchTableCell>([](objc::ClassBuilder& builder) {
+    builder.method<&init>("initWithStyle:reuseIdentifier:specifier:");
+  });
 }
 
 }  // namespace sonavue

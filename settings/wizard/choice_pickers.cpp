@@ -1,6 +1,5 @@
 #include "settings/wizard/choice_pickers.h"
 
-#include "objc/class_builder.h"
 #include "settings/choices.h"
 #include "settings/preferences.h"
 
@@ -15,15 +14,15 @@ class ChoicePicker : public objc::Implementation<ChoicePicker<Picker, choices>, 
  public:
   using Base::Base;
 
-  static void make(const char* name) {
-    objc::ClassBuilder(name, "UIPickerView")
-        .template state<ChoicePicker>()
-        .template method<&ChoicePicker::set_key>("setKey:")
-        .template method<&ChoicePicker::components>("numberOfComponentsInPickerView:")
-        .template method<&ChoicePicker::rows>("pickerView:numberOfRowsInComponent:")
-        .template method<&ChoicePicker::title>("pickerView:titleForRow:forComponent:")
-        .template method<&ChoicePicker::chosen>("pickerView:didSelectRow:inComponent:")
-        .finish();
+  static void make() {
+    objc::make_own_class<Picker>([](objc::ClassBuilder& builder) {
+      builder.state<ChoicePicker>()
+          .template method<&ChoicePicker::set_key>("setKey:")
+          .template method<&ChoicePicker::components>("numberOfComponentsInPickerView:")
+          .template method<&ChoicePicker::rows>("pickerView:numberOfRowsInComponent:")
+          .template method<&ChoicePicker::title>("pickerView:titleForRow:forComponent:")
+          .template method<&ChoicePicker::chosen>("pickerView:didSelectRow:inComponent:");
+    });
   }
 
   void set_key(NSString key) { key_ = key; }
@@ -46,8 +45,8 @@ class ChoicePicker : public objc::Implementation<ChoicePicker<Picker, choices>, 
 }  // namespace
 
 void make_choice_pickers() {
-  ChoicePicker<Tint, &color_choices>::make("Tint");
-  ChoicePicker<Play, &ring_choices>::make("Play");
+  ChoicePicker<Tint, &color_choices>::make();
+  ChoicePicker<Play, &ring_choices>::make();
 }
 
 }  // namespace sonavue

@@ -1,6 +1,5 @@
 #include "settings/wizard/linker.h"
 
-#include "objc/class_builder.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/pictures.h"
@@ -42,10 +41,10 @@ Linker init(Linker self, CGRect frame, NSString name, UIImage image, BOOL border
 }  // namespace
 
 void make_linker() {
-  objc::ClassBuilder("Linker", "UIView")
-      .method<&init>("initWithFrame:name:image:border:target:action:")
-      .method<&inizialize>("inizialize:image:border:target:action:")
-      .finish();
+  objc::make_own_class<Linker>([](objc::ClassBuilder& builder) {
+    builder.method<&init>("initWithFrame:name:image:border:target:action:")
+        .method<&inizialize>("inizialize:image:border:target:action:");
+  });
 }
 
 }  // namespace sonavue

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/UIKit/UIImage.h"
 #include "platform/UIKit/UIView.h"
 
 /// A row that leads somewhere. A class of the extension's own.
-struct Linker : objc::Bound<Linker, "Linker", UIView> {
+struct Linker : objc::Own<Linker, "Linker", UIView> {
   Linker initWithFrame(CGRect frame, NSString name, UIImage image, BOOL border, objc::Object target,
                        objc::Sel action) const {
     return call<"initWithFrame:name:image:border:target:action:", Linker>(frame, name, image,

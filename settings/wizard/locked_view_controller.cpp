@@ -1,7 +1,5 @@
 #include "settings/wizard/locked_view_controller.h"
 
-#include "objc/class_builder.h"
-
 namespace sonavue {
 namespace {
 
@@ -17,10 +15,10 @@ NSUInteger supported_orientations(LockedUIViewController) {
 }  // namespace
 
 void make_locked_view_controller() {
-  objc::ClassBuilder("LockedUIViewController", "UIViewController")
-      .method<&should_autorotate>("shouldAutorotate")
-      .method<&supported_orientations>("supportedInterfaceOrientations")
-      .finish();
+  objc::make_own_class<LockedUIViewController>([](objc::ClassBuilder& builder) {
+    builder.method<&should_autorotate>("shouldAutorotate")
+        .method<&supported_orientations>("supportedInterfaceOrientations");
+  });
 }
 
 }  // namespace sonavue

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/UIKit/UIViewController.h"
 
 /// A page that never turns with the phone. A class of the extension's own.
 struct LockedUIViewController
-    : objc::Bound<LockedUIViewController, "LockedUIViewController", UIViewController> {};
+    : objc::Own<LockedUIViewController, "LockedUIViewController", UIViewController> {};
 
 namespace sonavue {
 

@@ -29,7 +29,7 @@ void add_linker(UIView page, CGRect frame, NSString name, NSString picture, styl
                 objc::Sel action) {
   const Linker linker = Linker::alloc().initWithFrame(
       frame, name, UIImage::imageWithContentsOfFile(picture), YES, target, action);
-  page.addSubview(linker);
+  if (linker) page.addSubview(linker);
   linker.release();
 }
 

@@ -20,7 +20,7 @@ class Questions {
     const UIView page = add_text_page(pages_, {text, whole_text()});
     const Switcher row = Switcher::alloc().initWithFrame(
         row_frame(), Translator(key), UIImage::imageWithContentsOfFile(picture), YES);
-    page.addSubview(row);
+    if (row) page.addSubview(row);
     row.release();
   }
   void ask_gesture(NSString text) const {

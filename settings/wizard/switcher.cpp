@@ -1,7 +1,6 @@
 #include "settings/wizard/switcher.h"
 
 #include "objc/block.h"
-#include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
@@ -112,14 +111,14 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
 }  // namespace
 
 void make_switcher() {
-  objc::ClassBuilder("Switcher", "UIView")
-      .state<SwitcherState>()
-      .method<&SwitcherState::init>("initWithFrame:name:image:border:")
-      .method<&SwitcherState::inizialize>("inizialize:image:border:")
-      .method<&SwitcherState::value>("getValue")
-      .method<&SwitcherState::set_value>("setValue")
-      .method<&SwitcherState::animate>("animate")
-      .finish();
+  objc::make_own_class<Switcher>([](objc::ClassBuilder& builder) {
+    builder.state<SwitcherState>()
+        .method<&SwitcherState::init>("initWithFrame:name:image:border:")
+        .method<&SwitcherState::inizialize>("inizialize:image:border:")
+        .method<&SwitcherState::value>("getValue")
+        .method<&SwitcherState::set_value>("setValue")
+        .method<&SwitcherState::animate>("animate");
+  });
 }
 
 }  // namespace sonavue

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/UIKit/UIImage.h"
 #include "platform/UIKit/UIView.h"
 
 /// A row with a switch of its own drawing, bound to the setting whose text is its name. A class of
 /// the extension's own.
-struct Switcher : objc::Bound<Switcher, "Switcher", UIView> {
+struct Switcher : objc::Own<Switcher, "Switcher", UIView> {
   Switcher initWithFrame(CGRect frame, NSString name, UIImage image, BOOL border) const {
     return call<"initWithFrame:name:image:border:", Switcher>(frame, name, image, border);
   }

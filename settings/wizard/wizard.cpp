@@ -25,6 +25,7 @@ constexpr NSUInteger kGesturePageIndex = 5;
 void Wizard::show_first_page() {
   const CGRect bounds = UIScreen::mainScreen().bounds();
   main_ = LockedUIViewController::alloc().init();
+  if (!main_) return;
   main_.view().setFrame(bounds);
   main_.view().setBackgroundColor(UIColor::whiteColor());
   const UIView page = welcome_.build(main_.view().frame());

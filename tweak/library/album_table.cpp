@@ -1,6 +1,5 @@
 #include "tweak/library/album_table.h"
 
-#include "objc/class_builder.h"
 #include "tweak/globals.h"
 #include "tweak/library/song_cell.h"
 
@@ -41,16 +40,16 @@ void did_select(MusicsAlbum, UITableView, NSIndexPath path) {
 }  // namespace
 
 void make_album_table_source() {
-  objc::ClassBuilder("MusicsAlbum", "UITableView")
-      .method<&sections>("numberOfSectionsInTableView:")
-      .method<&number_of_rows>("tableView:numberOfRowsInSection:")
-      .method<&no_for_row>("tableView:canMoveRowAtIndexPath:")
-      .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
-      .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
-      .method<&indentation>("tableView:indentationLevelForRowAtIndexPath:")
-      .method<&will_select>("tableView:willSelectRowAtIndexPath:")
-      .method<&did_select>("tableView:didSelectRowAtIndexPath:")
-      .finish();
+  objc::make_own_class<MusicsAlbum>([](objc::ClassBuilder& builder) {
+    builder.method<&sections>("numberOfSectionsInTableView:")
+        .method<&number_of_rows>("tableView:numberOfRowsInSection:")
+        .method<&no_for_row>("tableView:canMoveRowAtIndexPath:")
+        .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
+        .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
+        .method<&indentation>("tableView:indentationLevelForRowAtIndexPath:")
+        .method<&will_select>("tableView:willSelectRowAtIndexPath:")
+        .method<&did_select>("tableView:didSelectRowAtIndexPath:");
+  });
 }
 
 }  // namespace sonavue

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/UIKit/UITableView.h"
 
 /// Data source and delegate of the table of the current album's other songs. Stateless.
-struct MusicsAlbum : objc::Bound<MusicsAlbum, "MusicsAlbum", UITableView> {};
+struct MusicsAlbum : objc::Own<MusicsAlbum, "MusicsAlbum", UITableView> {};
 
 namespace sonavue {
 

@@ -30,19 +30,19 @@ NSMutableArray Hits::ordinary() {
 }
 
 void make_hits() {
-  objc::ClassBuilder("SVHits", "NSMutableArray")
-      .state<Hits>()
-      .method<&Hits::init>("init")
-      .method<&Hits::count>("count")
-      .method<&Hits::object_at_index>("objectAtIndex:")
-      .method<&Hits::add_object>("addObject:")
-      .method<&Hits::insert_object>("insertObject:atIndex:")
-      .method<&Hits::replace_object>("replaceObjectAtIndex:withObject:")
-      .method<&Hits::remove_object>("removeObjectAtIndex:")
-      .method<&Hits::remove_last_object>("removeLastObject")
-      .method<&Hits::remove_all_objects>("removeAllObjects")
-      .method<&Hits::copy_with_zone>("copyWithZone:")
-      .finish();
+  objc::make_own_class<SVHits>([](objc::ClassBuilder& builder) {
+    builder.state<Hits>()
+        .method<&Hits::init>("init")
+        .method<&Hits::count>("count")
+        .method<&Hits::object_at_index>("objectAtIndex:")
+        .method<&Hits::add_object>("addObject:")
+        .method<&Hits::insert_object>("insertObject:atIndex:")
+        .method<&Hits::replace_object>("replaceObjectAtIndex:withObject:")
+        .method<&Hits::remove_object>("removeObjectAtIndex:")
+        .method<&Hits::remove_last_object>("removeLastObject")
+        .method<&Hits::remove_all_objects>("removeAllObjects")
+        .method<&Hits::copy_with_zone>("copyWithZone:");
+  });
 }
 
 }  // namespace sonavue

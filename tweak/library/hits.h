@@ -1,10 +1,10 @@
 #pragma once
 
-#include "objc/class_builder.h"
+#include "objc/own_class.h"
 #include "objc/ref.h"
 #include "tweak/library/title_index.h"
 
-struct SVHits : objc::Bound<SVHits, "SVHits", NSMutableArray> {};
+struct SVHits : objc::Own<SVHits, "SVHits", NSMutableArray> {};
 
 namespace sonavue {
 

@@ -1,6 +1,5 @@
 #include "tweak/library/scroller.h"
 
-#include "objc/class_builder.h"
 #include "platform/UIKit/UIScreen.h"
 #include "tweak/banner/controls_layout.h"
 #include "tweak/movement/geometry.h"
@@ -67,10 +66,10 @@ void did_scroll(Scroller, UIScrollView pages) {
 }  // namespace
 
 void make_scroller() {
-  objc::ClassBuilder("Scroller", "UIScrollView")
-      .method<&will_begin_dragging>("scrollViewWillBeginDragging:")
-      .method<&did_scroll>("scrollViewDidScroll:")
-      .finish();
+  objc::make_own_class<Scroller>([](objc::ClassBuilder& builder) {
+    builder.method<&will_begin_dragging>("scrollViewWillBeginDragging:")
+        .method<&did_scroll>("scrollViewDidScroll:");
+  });
 }
 
 }  // namespace sonavue

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "objc/own_class.h"
 #include "platform/UIKit/UIScrollView.h"
 
 /// Delegate of the paging scroll view.
-struct Scroller : objc::Bound<Scroller, "Scroller", UIScrollView> {};
+struct Scroller : objc::Own<Scroller, "Scroller", UIScrollView> {};
 
 namespace sonavue {
 

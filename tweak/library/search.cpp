@@ -39,10 +39,12 @@ void textDidChange(SpringBoard, UITextField field) {
     return;
   }
   isSearching = YES;
-  auto& hits = objc::state_of<Hits>(result);
-  index().follow(songItems);
-  index().find(field.text().lowercaseString(), hits.places());
-  hits.show(index().songs());
+  if (result) {
+    auto& hits = objc::state_of<Hits>(result);
+    index().follow(songItems);
+    index().find(field.text().lowercaseString(), hits.places());
+    hits.show(index().songs());
+  }
   tableView.reloadData();
 }
 

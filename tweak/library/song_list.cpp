@@ -1,6 +1,5 @@
 #include "tweak/library/song_list.h"
 
-#include "objc/class_builder.h"
 #include "tweak/globals.h"
 #include "tweak/library/search.h"
 #include "tweak/library/song_cell.h"
@@ -71,19 +70,19 @@ void did_select(Musicz, UITableView, NSIndexPath path) {
 }  // namespace
 
 void make_song_list_source() {
-  objc::ClassBuilder("Musicz", "UITableView")
-      .method<&snap_header>("scrollViewDidEndDragging:willDecelerate:")
-      .method<&sections>("numberOfSectionsInTableView:")
-      .method<&number_of_rows>("tableView:numberOfRowsInSection:")
-      .method<&no_for_row>("tableView:canMoveRowAtIndexPath:")
-      .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
-      .method<&row_height>("tableView:heightForRowAtIndexPath:")
-      .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
-      // Misspelt, and so never asked for; tables indent by nothing anyway.
-      .method<&indentation>("tableView:indentattionLevelForRowAtIndexPath:")
-      .method<&will_select>("tableView:willSelectRowAtIndexPath:")
-      .method<&did_select>("tableView:didSelectRowAtIndexPath:")
-      .finish();
+  objc::make_own_class<Musicz>([](objc::ClassBuilder& builder) {
+    builder.method<&snap_header>("scrollViewDidEndDragging:willDecelerate:")
+        .method<&sections>("numberOfSectionsInTableView:")
+        .method<&number_of_rows>("tableView:numberOfRowsInSection:")
+        .method<&no_for_row>("tableView:canMoveRowAtIndexPath:")
+        .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
+        .method<&row_height>("tableView:heightForRowAtIndexPath:")
+        .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
+        // Misspelt, and so never asked for; tables indent by nothing anyway.
+        .method<&indentation>("tableView:indentattionLevelForRowAtIndexPath:")
+        .method<&will_select>("tableView:willSelectRowAtIndexPath:")
+        .method<&did_select>("tableView:didSelectRowAtIndexPath:");
+  });
 }
 
 }  // namespace sonavue

@@ -47,6 +47,7 @@ UILabel make_text(CGFloat y, CGFloat size) {
 void make_ring(SpringBoard self) {
   const CGSize size = play.frame().size;
   ring = M13ProgressViewRing::alloc().initWithFrame({0, 0, size.width, size.height});
+  if (!ring) return;
   ring.setPrimaryColor(UIColor::whiteColor());
   ring.setSecondaryColor(UIColor::whiteColor());
   ring.setShowPercentage(NO);
