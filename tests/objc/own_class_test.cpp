@@ -65,6 +65,8 @@ TEST(OwnClass, IsNotMadeOfAStrangerThatHasTheNameOfItsBase) {
   EXPECT_FALSE(TestPickerOfTaken::alloc());
   EXPECT_EQ(objc_getClass("TestPickerOfTaken"), nullptr);
   EXPECT_EQ(messages_to_stranger, 0);
+  objc::send<objc::Object>(objc::Object(objc_getClass("TestTakenPicker")), "self"_sel);
+  EXPECT_EQ(messages_to_stranger, 1) << "it notices what it is sent";
 }
 
 struct TestCrate : objc::Own<TestCrate, "TestCrate", NSObject> {};
