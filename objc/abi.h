@@ -97,6 +97,12 @@ extern void* _NSConcreteStackBlock[];
 
 namespace objc {
 
+/// Does this home cross every call with whole words, where an integer is smaller? The phone's own
+/// compiler fills a word with a small argument or result by itself, and relies on it where it takes
+/// one. The desktop's compilers need not do the first, but may have the phone's code on the other
+/// side.
+inline constexpr bool kFillsWords = !SONAVUE_HOME_PHONE;
+
 /// The class of a non-nil object; of a class, its metaclass.
 inline Class class_of(Id object) {
 #if SONAVUE_HOME_PHONE

@@ -49,11 +49,19 @@ struct Nil {
   }
 };
 
+template <class T>
+concept SmallInteger = std::is_integral_v<T> &&(sizeof(T) < sizeof(int));
+
 /// How a C++ type crosses a message: handles as bare pointers, enumerations as their integers,
-/// everything else as it is.
+/// small integers as the home wants them, everything else as it is.
 template <class T>
 struct Abi {
   using Type = T;
+};
+
+template <SmallInteger T>
+struct Abi<T> {
+  using Type = std::conditional_t<kFillsWords, int, T>;
 };
 
 template <Handle T>
@@ -63,8 +71,7 @@ struct Abi<T> {
 
 template <class T>
 requires std::is_enum_v<T>
-struct Abi<T> {
-  using Type = std::underlying_type_t<T>;
+struct Abi<T> : Abi<std::underlying_type_t<T>> {
 };
 
 template <class T>
@@ -83,6 +90,9 @@ template <class T>
 constexpr T from_abi(AbiType<T> value) {
   if constexpr (Handle<T>) {
     return wrap<T>(value);
+  } else if constexpr (std::is_same_v<T, bool>) {
+    // What somebody else has left above the lowest byte does not count.
+    return static_cast<bool>(static_cast<unsigned char>(value));
   } else {
     return static_cast<T>(value);
   }
