@@ -50,7 +50,7 @@ void show_globals(const LoadedImage& image) {
 [[gnu::constructor]] void load() {
   const auto file = phone_library();
   try {
-    const Image image(read_file(file), kX86);
+    const Image image(read_file(file), kOwnProcessor);
     load_libraries_of(image);
     // Its methods are those of classes that stay for as long as the process does.
     static const LoadedImage* loaded = new LoadedImage(image, &find_phone_symbol);

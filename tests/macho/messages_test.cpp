@@ -92,10 +92,9 @@ const auto send_sum =
     as<double (*)(Id, Sel, int, long, signed char, unsigned, int, long, double, float, double,
                   double, double, double, double, double, double, CGPoint)>(&phone_message);
 
-// A result in memory has its place in the first argument, which is what these types say, too.
-const auto send_rect = as<CGRect* (*)(CGRect*, Id, Sel, double, CGRect, int)>(&phone_message);
+const auto send_rect = as<CGRect (*)(Id, Sel, double, CGRect, int)>(&phone_message);
 const auto send_super_rect =
-    as<CGRect* (*)(CGRect*, const SuperReceiver*, Sel, double, CGRect, int)>(&phone_super_message);
+    as<CGRect (*)(const SuperReceiver*, Sel, double, CGRect, int)>(&phone_super_message);
 
 TEST_F(Messages, IntegersFloatsAndSmallStructuresComeBackInRegisters) {
   EXPECT_EQ(send_number(object(), "answer"_known), 42);
@@ -104,15 +103,12 @@ TEST_F(Messages, IntegersFloatsAndSmallStructuresComeBackInRegisters) {
 }
 
 TEST_F(Messages, ALargeStructureComesBackInItsPlace) {
-  CGRect place{};
   const CGRect inside{{1, 2}, {3, 4}};
-  EXPECT_EQ(send_rect(&place, object(), "rectOf:inside:number:"_known, 9, inside, 7), &place);
-  EXPECT_EQ(place, (CGRect{{1, 2}, {9, -7}}));
-
-  place = {};
+  EXPECT_EQ(send_rect(object(), "rectOf:inside:number:"_known, 9, inside, 7),
+            (CGRect{{1, 2}, {9, -7}}));
   const SuperReceiver above = super();
-  EXPECT_EQ(send_super_rect(&place, &above, "rectOf:inside:number:"_known, 9, inside, 7), &place);
-  EXPECT_EQ(place, (CGRect{{9, 2}, {3, 7}}));
+  EXPECT_EQ(send_super_rect(&above, "rectOf:inside:number:"_known, 9, inside, 7),
+            (CGRect{{9, 2}, {3, 7}}));
 }
 
 TEST_F(Messages, ManyArgumentsArriveInRegistersAndOnTheStack) {
@@ -122,13 +118,10 @@ TEST_F(Messages, ManyArgumentsArriveInRegistersAndOnTheStack) {
       1 + 4 - 9 + 16 + 25 + 36 + 49 + 64 + 81 + 100 + 121 + 144 + 169 + 196 + 225 + 256 + 289);
 }
 
-TEST_F(Messages, NilAnswersWithZeroAndLeavesAPlaceAlone) {
+TEST_F(Messages, NilAnswersWithZero) {
   EXPECT_EQ(send_number(nullptr, "answer"_known), 0);
   EXPECT_EQ(send_half(nullptr, "half:"_known, 0.5f), 0.0f);
   EXPECT_EQ(send_size(nullptr, "sizeOf:height:"_known, 1.5f, -3), CGSize{});
-  CGRect place{{1, 2}, {3, 4}};
-  EXPECT_EQ(send_rect(&place, nullptr, "rectOf:inside:number:"_known, 9, {}, 7), &place);
-  EXPECT_EQ(place, (CGRect{{1, 2}, {3, 4}}));
 }
 
 TEST_F(Messages, ASelectorOfTheHostsIsSentWithoutAPlace) {

@@ -16,8 +16,7 @@ constexpr const char* kSystem = "/usr/lib/libSystem.B.dylib";
 constexpr const char* kRuntime = "/usr/lib/libobjc.A.dylib";
 
 TEST(PhoneSymbols, TheRuntimesAndTheBlocksAreThisProcesses) {
-  EXPECT_EQ(find_phone_symbol(kRuntime, "_class_addMethod"),
-            reinterpret_cast<void*>(&class_addMethod));
+  EXPECT_EQ(find_phone_symbol(kRuntime, "_class_getName"), reinterpret_cast<void*>(&class_getName));
   EXPECT_EQ(find_phone_symbol(kSystem, "__NSConcreteStackBlock"),
             static_cast<void*>(_NSConcreteStackBlock));
   EXPECT_EQ(find_phone_symbol(kSystem, "__Block_copy"), reinterpret_cast<void*>(&_Block_copy));
@@ -49,6 +48,14 @@ TEST(PhoneSymbols, SelectorsAreThoseOfThisProcess) {
   const auto register_name =
       reinterpret_cast<Function>(find_phone_symbol(kRuntime, "_sel_registerName"));
   EXPECT_EQ(register_name("aWord:"), sel_registerName("aWord:"));
+}
+
+TEST(PhoneSymbols, TheRuntimeAnswersInWholeWords) {
+  using Function = int (*)(objc::Sel, objc::Sel);
+  const auto is_equal = reinterpret_cast<Function>(find_phone_symbol(kRuntime, "_sel_isEqual"));
+  const objc::Sel word = sel_registerName("aWord:");
+  EXPECT_EQ(is_equal(word, word), 1);
+  EXPECT_EQ(is_equal(word, sel_registerName("anotherWord:")), 0);
 }
 
 TEST(PhoneSymbols, TheClassOfNothingIsNothing) {

@@ -8,6 +8,13 @@
 
 namespace macho_tests {
 
+/// The processor whose images can be run in this process.
+#if defined(__aarch64__)
+inline constexpr Processor kOwnProcessor = kArm64;
+#else
+inline constexpr Processor kOwnProcessor = kX86;
+#endif
+
 /// An image of the phone's file format in this process's memory: moved to where there was room,
 /// bound to others' symbols, protected, with its frames known. Its code stays until the object
 /// goes.

@@ -59,6 +59,9 @@ void Memory::map() {
 }
 
 void Memory::protect(const Image& image) {
+  // Not every processor runs what was just written without being told.
+  auto* begin = reinterpret_cast<char*>(base_);
+  __builtin___clear_cache(begin, begin + (end_ - lowest_));
   for (const Segment& each : image.segments())
     if (mprotect(at(each.address), each.memory_size, static_cast<int>(each.protection)) != 0)
       throw FormatError(each.name + " cannot be protected");

@@ -52,6 +52,16 @@ void* address_of(Function* function) {
   return reinterpret_cast<void*>(function);
 }
 
+template <auto Function>
+struct Whole;
+
+/// Calls a function of the runtime that answers with less than a word. The phone's code takes a
+/// whole one, which the desktop's compilers do not fill.
+template <class Small, class... Arguments, Small (*Function)(Arguments...)>
+struct Whole<Function> {
+  static int call(Arguments... arguments) { return Function(arguments...); }
+};
+
 /// Made at the first call, which may come before this file's other statics are.
 std::span<const Known> made_here() {
   static const Known known[] = {
@@ -60,6 +70,10 @@ std::span<const Known> made_here() {
       {"_sel_registerName", address_of(&phone_selector)},
       {"_object_getClass", address_of(&phone_object_class)},
       {"_uname", address_of(&phone_uname)},
+      {"_class_addIvar", address_of(&Whole<&class_addIvar>::call)},
+      {"_class_addMethod", address_of(&Whole<&class_addMethod>::call)},
+      {"_class_addProtocol", address_of(&Whole<&class_addProtocol>::call)},
+      {"_sel_isEqual", address_of(&Whole<&sel_isEqual>::call)},
       {"___stack_chk_guard", &stack_guard},
       {"dyld_stub_binder", address_of(&bind_when_called)},
   };

@@ -1,7 +1,7 @@
-#include "tests/macho/loader/messages.h"
-
 #include <mutex>
 #include <unordered_set>
+
+#include "tests/macho/loader/messages.h"
 
 // Nobody knows here which of the registers that carry arguments are in use, so all of them are kept
 // while the method is looked up. Who looks it up may change those that are not for fractions, and
