@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+#include "host/runtime/premultiply.h"
+
 namespace host::media {
 namespace {
 
@@ -62,19 +64,13 @@ void clear_rows(GdkPixbufLoader* loader, gpointer data) {
   gdk_pixbuf_fill(gdk_pixbuf_loader_get_pixbuf(loader), 0);
 }
 
-std::uint32_t premultiplied(std::uint32_t red, std::uint32_t green, std::uint32_t blue,
-                            std::uint32_t alpha) {
-  auto scaled = [alpha](std::uint32_t channel) { return (channel * alpha + 127) / 255; };
-  return alpha << 24 | scaled(red) << 16 | scaled(green) << 8 | scaled(blue);
-}
-
 void premultiply_into(const GdkPixbuf* pixbuf, Picture& picture) {
   const guint8* row = gdk_pixbuf_read_pixels(pixbuf);
   std::uint32_t* to = picture.pixels.data();
-  for (int y = 0; y < picture.height; ++y, row += gdk_pixbuf_get_rowstride(pixbuf)) {
-    const guint8* pixel = row;
-    for (int x = 0; x < picture.width; ++x, pixel += 4)
-      *to++ = premultiplied(pixel[0], pixel[1], pixel[2], pixel[3]);
+  for (int y = 0; y < picture.height; ++y) {
+    premultiply_row(row, to, picture.width);
+    row += gdk_pixbuf_get_rowstride(pixbuf);
+    to += picture.width;
   }
 }
 

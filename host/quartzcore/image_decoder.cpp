@@ -1,11 +1,11 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <libyuv/convert_argb.h>
-#include <libyuv/planar_functions.h>
 
 #include <algorithm>
 #include <memory>
 
 #include "host/quartzcore/image.h"
+#include "host/runtime/premultiply.h"
 
 namespace host::quartzcore {
 namespace {
@@ -33,8 +33,8 @@ Surface surface_of(const GdkPixbuf* pixbuf) {
   const unsigned char* from = gdk_pixbuf_read_pixels(pixbuf);
   const int from_stride = gdk_pixbuf_get_rowstride(pixbuf);
   if (gdk_pixbuf_get_has_alpha(pixbuf)) {
-    libyuv::ABGRToARGB(from, from_stride, to, to_stride, width, height);
-    libyuv::ARGBAttenuate(to, to_stride, to, to_stride, width, height);
+    for (int y = 0; y < height; ++y, from += from_stride, to += to_stride)
+      premultiply_row(from, reinterpret_cast<std::uint32_t*>(to), width);
   } else {
     libyuv::RAWToARGB(from, from_stride, to, to_stride, width, height);
   }

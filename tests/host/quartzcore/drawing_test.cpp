@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 
@@ -97,6 +98,29 @@ TEST_F(DrawingTest, DecodedFilesAreRedFirstAndWhatIsNoPictureIsNull) {
   const unsigned char noise[] = {1, 2, 3, 4, 5, 6, 7, 8};
   EXPECT_FALSE(quartzcore::decode_image_bytes(noise));
   EXPECT_FALSE(quartzcore::decode_image_file(path.c_str()));
+}
+
+TEST_F(DrawingTest, EveryTranslucentPixelComesBackFromAFileAsItWas) {
+  const auto path =
+      std::filesystem::temp_directory_path() / ("pixels-" + std::to_string(getpid()) + ".png");
+  constexpr unsigned kLevels = 256;
+  CGContextRef context =
+      quartzcore::make_bitmap_context({kLevels, kLevels}, 1, Opacity::Translucent);
+  auto* pixels = static_cast<std::uint32_t*>(CGBitmapContextGetData(context));
+  for (unsigned alpha = 0; alpha < kLevels; ++alpha)
+    for (unsigned level = 0; level <= alpha; ++level)
+      pixels[alpha * kLevels + level] =
+          alpha << 24 | level << 16 | (alpha - level) << 8 | level / 2;
+  cairo_surface_mark_dirty(context->surface.get());
+  cairo_surface_write_to_png(context->surface.get(), path.c_str());
+  CGImageRef image = quartzcore::decode_image_file(path.c_str());
+  std::filesystem::remove(path);
+  ASSERT_TRUE(image);
+  const auto* decoded = reinterpret_cast<const std::uint32_t*>(
+      cairo_image_surface_get_data(quartzcore::image_of(image)->surface().get()));
+  EXPECT_TRUE(std::equal(decoded, decoded + kLevels * kLevels, pixels));
+  CGImageRelease(image);
+  CGContextRelease(context);
 }
 
 TEST_F(DrawingTest, AGradientMaskSweepsAcrossTheLayerItMasks) {
