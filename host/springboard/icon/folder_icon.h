@@ -4,6 +4,7 @@
 
 #include "objc/class_builder.h"
 #include "objc/ref.h"
+#include "platform/Foundation/NSArray.h"
 #include "platform/SpringBoard/SBFolderIcon.h"
 
 namespace host::springboard {
