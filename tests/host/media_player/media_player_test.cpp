@@ -45,6 +45,8 @@ MediaPlayerTest::MediaPlayerTest() {
   quartzcore::export_quartzcore();
   uikit::export_drawing();
   media_player::export_media_player();
+  media_player::export_media_controller();
+  media_player::export_now_playing_controller();
   now_playing_ = objc::Ref<MPUNowPlayingController>::adopt(MPUNowPlayingController::alloc().init());
   std::filesystem::create_directories(folder_ / "music");
   using media_tests::write_song;
