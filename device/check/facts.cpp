@@ -35,8 +35,8 @@ const ClassFact* Facts::class_named(const std::string& name) const {
   return found == classes.end() ? nullptr : &found->second;
 }
 
-bool Facts::is_in_home_screen(const std::string& image) const {
-  return std::count(home_screen_images.begin(), home_screen_images.end(), image) != 0;
+bool Facts::is_in_program(const std::string& image) const {
+  return std::count(program_images.begin(), program_images.end(), image) != 0;
 }
 
 Presence presence_on(std::size_t system, const Presences& row, const ClassFact& cls) {

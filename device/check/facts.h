@@ -36,11 +36,11 @@ struct ClassFact {
 struct Facts {
   std::vector<SystemVersion> systems;
   std::map<std::string, ClassFact> classes;
-  /// The frameworks and programs that the home screen's process has by itself.
-  std::vector<std::string> home_screen_images;
+  /// What the home screen or Settings has by itself, the two programs that the library comes into.
+  std::vector<std::string> program_images;
 
   const ClassFact* class_named(const std::string& name) const;
-  bool is_in_home_screen(const std::string& image) const;
+  bool is_in_program(const std::string& image) const;
 };
 
 /// Throws FormatError, with the file and the line, for facts that are cut or contradict themselves.

@@ -98,12 +98,13 @@ class Reader {
   }
 
   void read_image(const Columns& columns) {
-    const bool in_home_screen = columns.size() == 3 && columns[2] == "home-screen";
-    if (!in_home_screen) need_columns(columns, 2);
+    const bool in_program =
+        columns.size() == 3 && (columns[2] == "home-screen" || columns[2] == "settings");
+    if (!in_program) need_columns(columns, 2);
     require(image_.empty(), "a second image");
     require(columns[1][0] == '/', "the image is no path of the device");
     image_ = columns[1];
-    if (in_home_screen) facts_.home_screen_images.push_back(image_);
+    if (in_program) facts_.program_images.push_back(image_);
   }
 
   Presences presences(const std::string& signs) const {

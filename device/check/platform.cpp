@@ -93,7 +93,7 @@ class PlatformCheck {
   }
 
   void check_image(const std::string& name, const ClassFact& cls) {
-    if (known_.facts.is_in_home_screen(cls.image) || use_.linked.count(cls.image) != 0 ||
+    if (known_.facts.is_in_program(cls.image) || use_.linked.count(cls.image) != 0 ||
         use_.has_text(cls.image))
       return;
     find("library: {} is of {}, which is neither linked nor loaded", name, cls.image);

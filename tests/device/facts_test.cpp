@@ -56,7 +56,7 @@ class Derived Base ?yy
 end 4
 )");
   const Facts facts = read_facts(folder_.path());
-  EXPECT_TRUE(facts.is_in_home_screen("/one"));
+  EXPECT_TRUE(facts.is_in_program("/one"));
   ASSERT_TRUE(facts.class_named("Derived"));
   EXPECT_EQ(facts.class_named("Derived")->superclass, "Base");
   const ClassFact& base = *facts.class_named("Base");

@@ -72,12 +72,12 @@ TEST_F(PlatformRules, AClassOfAFrameworkThatNothingLoadsIsFound) {
   EXPECT_THAT(findings(), IsEmpty());
 }
 
-TEST_F(PlatformRules, AFrameworkOfTheHomeScreenOrALinkedOneIsThere) {
+TEST_F(PlatformRules, AFrameworkOfTheProgramOrALinkedOneIsThere) {
   use_.classes.insert("Page");
   use_.linked.insert("/other");
   EXPECT_THAT(findings(), IsEmpty());
   use_.linked.erase("/other");
-  known_.facts.home_screen_images = {"/other"};
+  known_.facts.program_images = {"/other"};
   EXPECT_THAT(findings(), IsEmpty());
 }
 
