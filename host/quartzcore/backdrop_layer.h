@@ -16,7 +16,7 @@ struct BackdropLook {
   /// A grey over the blur, below the tint.
   double gray_alpha = 0;
   double gray_level = 0;
-  Rgba tint;
+  Rgba tint{};
 
   std::uint64_t signature() const;
 };
