@@ -4,6 +4,8 @@
 
 extern "C" {
 int objc_getClassList(objc::Class* buffer, int capacity);
+// The runtime's own, which its headers do not declare.
+void __objc_update_dispatch_table_for_class(objc::Class cls);
 objc::Imp class_getMethodImplementation(objc::Class cls, objc::Sel selector);
 }
 
@@ -24,6 +26,14 @@ std::vector<objc::Class> all_classes() {
 }
 
 }  // namespace
+
+void refresh_family(objc::Class cls) {
+  for (const objc::Class each : all_classes()) {
+    const objc::Class metaclass = objc::class_of(reinterpret_cast<objc::Id>(each));
+    if (descends_from(each, cls)) __objc_update_dispatch_table_for_class(each);
+    if (descends_from(metaclass, cls)) __objc_update_dispatch_table_for_class(metaclass);
+  }
+}
 
 objc::Imp replace_in_family(objc::Class cls, const char* name, objc::Imp body,
                             const char* encoding) {

@@ -9,6 +9,9 @@ namespace host {
 objc::Imp replace_in_family(objc::Class cls, const char* selector, objc::Imp body,
                             const char* encoding);
 
+/// Makes every class below `cls`, a class or a metaclass, look its inherited methods up again.
+void refresh_family(objc::Class cls);
+
 template <auto Function>
 objc::Imp replace_in_family(objc::Class cls, const char* selector) {
   return replace_in_family(cls, selector,

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "host/runtime/class_family.h"
+
 namespace {
 
 // The class's own method, not one that it inherits.
@@ -26,6 +28,9 @@ void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
   if (original) *original = before;
   if (const objc::Method own = own_method(cls, selector)) {
     method_setImplementation(own, replacement);
+    // The runtime changes the class's own dispatch table and no other. A class below has what it
+    // inherits in a table of its own, or shares a piece of this one, as chance has it.
+    host::refresh_family(cls);
   } else {
     class_addMethod(cls, selector, replacement, method_getTypeEncoding(answering));
   }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSObject.h"
 
@@ -89,6 +91,58 @@ TEST_F(HookingTest, TheOriginalIsOptional) {
   EXPECT_NE(method_getImplementation(
                 class_getInstanceMethod(objc_getClass("HookNoOriginal"), "number"_sel)),
             method_getImplementation(class_getInstanceMethod(HookBase::cls(), "number"_sel)));
+}
+
+/// Among the names that are registered around it, so that a class that has those does not share its
+/// base's piece of the dispatch table.
+struct HookCrowded : ::testing::Test {
+  static constexpr int kNeighbours = 96;
+  static objc::Sel neighbour(int index) {
+    return sel_registerName(("neighbour" + std::to_string(index)).c_str());
+  }
+
+  HookCrowded() {
+    if (objc_getClass("HookCrowd")) return;
+    for (int i = 0; i < kNeighbours; ++i) {
+      if (i == kNeighbours / 2) sel_registerName("crowded");
+      neighbour(i);
+    }
+    objc::ClassBuilder("HookAlone", "NSObject")
+        .method<&base_number>("crowded")
+        .class_method<&class_number>("crowded")
+        .finish();
+    const objc::Class crowd = objc::ClassBuilder("HookCrowd", "HookAlone").finish();
+    const objc::Class of_crowd = objc::class_of(reinterpret_cast<objc::Id>(crowd));
+    for (int i = 0; i < kNeighbours; ++i)
+      for (const objc::Class cls : {crowd, of_crowd})
+        class_addMethod(cls, neighbour(i), reinterpret_cast<objc::Imp>(&nothing), "i@:");
+    objc::ClassBuilder("HookCrowdLeaf", "HookCrowd").finish();
+  }
+
+  static int nothing(objc::Id, objc::Sel) { return 0; }
+  static int ask(objc::Object object) {
+    return objc::send<int>(object, sel_registerName("crowded"));
+  }
+};
+
+TEST_F(HookCrowded, AReplacedMethodReachesEveryClassBelow) {
+  const objc::Object leaf = objc::send<objc::Object>(objc::Object(objc_getClass("HookCrowdLeaf")),
+                                                     sel_registerName("new"));
+  ASSERT_EQ(ask(leaf), 1);
+  MSHookMessageEx(objc_getClass("HookAlone"), sel_registerName("crowded"), as_imp(), nullptr);
+  const objc::Object later =
+      objc::send<objc::Object>(objc::Object(objc_getClass("HookCrowd")), sel_registerName("new"));
+  original = reinterpret_cast<objc::Imp>(&nothing);
+  EXPECT_EQ(ask(leaf), 100);
+  EXPECT_EQ(ask(later), 100);
+}
+
+TEST_F(HookCrowded, SoDoesAReplacedMethodOfAClass) {
+  const objc::Object leaf(objc_getClass("HookCrowdLeaf"));
+  ASSERT_EQ(ask(leaf), 10);
+  MSHookMessageEx(objc_getMetaClass("HookAlone"), sel_registerName("crowded"), as_imp(), nullptr);
+  original = reinterpret_cast<objc::Imp>(&nothing);
+  EXPECT_EQ(ask(leaf), 100);
 }
 
 }  // namespace
