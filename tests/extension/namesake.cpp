@@ -7,6 +7,8 @@
 #include <string>
 
 #include "objc/class_builder.h"
+#include "objc/image.h"
+#include "platform/Activator/Activator.h"
 #include "platform/Foundation/NSString.h"
 
 namespace {
@@ -26,6 +28,8 @@ NSString disturbed_classes(objc::Object) {
 }
 
 [[gnu::constructor]] void load() {
+  // Scenarios give gestures away, whether one of ours has asked for the service or not.
+  objc::load_image(kActivatorImage.c_str());
   const char* listed = std::getenv("NAMESAKES");
   std::istringstream names(listed ? listed : "");
   for (std::string name; names >> name;)
