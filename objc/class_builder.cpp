@@ -12,12 +12,6 @@ ClassBuilder::ClassBuilder(const char* name, const char* base) {
   if (base_class) cls_ = objc_allocateClassPair(base_class, name, 0);
 }
 
-ClassBuilder& ClassBuilder::protocol(const char* name) {
-  const Protocol found = objc_getProtocol(name);
-  if (cls_ && found) class_addProtocol(cls_, found);
-  return *this;
-}
-
 Class ClassBuilder::finish() {
   if (!cls_) return nullptr;
   objc_registerClassPair(cls_);

@@ -145,8 +145,6 @@ class ClassBuilder {
     return *this;
   }
 
-  ClassBuilder& protocol(const char* name);
-
   /// Registers the class with the runtime.
   Class finish();
 

@@ -36,8 +36,7 @@ NSArray compatible_modes(SVActivatorListener, LAActivator, NSString) {
 
 void make_gesture_listener() {
   objc::make_own_class<SVActivatorListener>([](objc::ClassBuilder& builder) {
-    builder.protocol("LAListener")
-        .method<&receive_event>("activator:receiveEvent:")
+    builder.method<&receive_event>("activator:receiveEvent:")
         .method<&icon>("activator:requiresIconForListenerName:scale:")
         .method<&icon>("activator:requiresSmallIconForListenerName:scale:")
         .method<&group>("activator:requiresLocalizedGroupForListenerName:")
@@ -45,6 +44,16 @@ void make_gesture_listener() {
         .method<&description_text>("activator:requiresLocalizedDescriptionForListenerName:")
         .method<&compatible_modes>("activator:requiresCompatibleEventModesForListenerWithName:");
   });
+}
+
+void register_gesture_listener() {
+  const auto listener = SVActivatorListener::alloc().init();
+  if (!listener) return;
+  const auto service = LAActivator::sharedInstance();
+  // The protocol comes into the process with the service's library.
+  if (const objc::Protocol protocol = objc_getProtocol("LAListener"))
+    class_addProtocol(SVActivatorListener::cls(), protocol);
+  service.registerListener(listener, "org.plumvane.Sonavue2"_ns);
 }
 
 }  // namespace sonavue

@@ -10,4 +10,7 @@ namespace sonavue {
 
 void make_gesture_listener();
 
+/// Gives the service a listener, which it keeps. Without the service nothing happens.
+void register_gesture_listener();
+
 }  // namespace sonavue

@@ -1,6 +1,5 @@
 #include "tweak/start_up.h"
 
-#include "platform/Activator/LAActivator.h"
 #include "platform/Foundation/NSTimer.h"
 #include "tweak/device.h"
 #include "tweak/gesture_listener.h"
@@ -18,12 +17,6 @@ constexpr double kPreferencesInterval = 0.1;
 
 using DidFinishLaunching =
     Replaced<"SpringBoard", "applicationDidFinishLaunching:", void(SpringBoard, objc::Object)>;
-
-void register_gesture_listener() {
-  const auto listener = SVActivatorListener::alloc().init();
-  if (!listener) return;
-  LAActivator::sharedInstance().registerListener(listener, "org.plumvane.Sonavue2"_ns);
-}
 
 // These live as long as the home screen.
 void start_timer(double interval, objc::Sel action) {

@@ -65,7 +65,7 @@ TEST_F(GestureListener, SaysWhatItIs) {
 }
 
 TEST_F(GestureListener, IsKnownToBeAListener) {
-  load_extension();
+  launch();
   const objc::Object protocol(reinterpret_cast<objc::Id>(objc_getProtocol("LAListener")));
   ASSERT_TRUE(protocol);
   EXPECT_TRUE(objc::send<BOOL>(make(), "conformsToProtocol:"_sel, protocol));
