@@ -53,7 +53,6 @@ class Replaced<Class, Selector, Result(Self, Arguments...), OfClass> {
     static_assert(std::is_same_v<decltype(Function), Result (*)(Self, Arguments...)>);
     objc::Class cls = objc_getClass(Class.c_str());
     if (cls && OfClass) cls = objc::class_of(reinterpret_cast<objc::Id>(cls));
-    if (!cls) return;
     MSHookMessageEx(cls, objc::selector<Selector>(),
                     reinterpret_cast<objc::Imp>(&objc::MethodOf<Function>::call), &body);
   }

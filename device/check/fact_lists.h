@@ -15,7 +15,7 @@ struct FactLists {
   std::set<std::string> uncovered;
 };
 
-/// Throws FormatError, with the file and the line, for a row that is none or stands there twice.
+/// Throws FormatError, with the file and the line, for an invalid or a repeated row.
 FactLists read_fact_lists(const std::filesystem::path& folder);
 
 }  // namespace sonavue::device

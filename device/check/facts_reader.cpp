@@ -110,7 +110,7 @@ class Reader {
   Presences presences(const std::string& signs) const {
     require(signs.size() == systems_.size(),
             fmt::format("{} signs for {} systems", signs.size(), systems_.size()));
-    require(signs.find_first_not_of("yn?") == std::string::npos, "a sign is none of y, n and ?");
+    require(signs.find_first_not_of("yn?") == std::string::npos, "a sign is not one of y, n and ?");
     Presences presences;
     for (const char sign : signs)
       presences.push_back(static_cast<Presence>(sign));

@@ -4,7 +4,7 @@
 
 namespace sonavue::device {
 
-/// What a library asks of the platform, as its symbols and texts tell.
+/// What a library uses of the platform, read from its symbols and texts.
 struct PlatformUse {
   /// Classes that are looked up by name.
   std::set<std::string> classes;

@@ -125,7 +125,7 @@ void Service::tell_others() {
   std::vector<ListenerRecord> records;
   // A copy: a listener may register another when it is asked.
   const auto listeners = listeners_;
-  // Without listeners nobody has asked for the service's library, which has the class.
+  // Without listeners the service's library may not be loaded, and the class with it.
   const LAActivator activator = listeners.empty() ? nil : LAActivator::sharedInstance();
   for (const auto& [name, listener] : listeners) {
     records.push_back(describe(activator, listener.get(), name));

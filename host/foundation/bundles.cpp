@@ -24,13 +24,10 @@ NSBundle main_bundle(NSObject cls) {
   return found ? found : objc::cast<NSBundle>(objc::Object(original(cls.id(), "mainBundle"_sel)));
 }
 
-/// Foundation finds out where a folder really lies; whoever asks for its path is on the device.
+/// Foundation resolves a bundle's folder to its place on this machine; callers expect device paths.
 NSString device_path(objc::Id path) {
-  const auto found = objc::wrap<NSString>(path);
-  if (device_root().empty()) return found;
-  const std::string root = std::filesystem::weakly_canonical(device_root());
-  const NSString prefix = NSString::stringWithUTF8String(root.c_str());
-  return found.hasPrefix(prefix) ? found.substringFromIndex(prefix.length()) : found;
+  const char* found = objc::wrap<NSString>(path).UTF8String();
+  return found ? NSString::stringWithUTF8String(path_on_device(found).c_str()) : nil;
 }
 
 template <objc::FixedString Selector>

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
 #include "host/foundation/atomic_write.h"
 #include "host/foundation/exports.h"
@@ -14,6 +15,7 @@ namespace {
 constexpr std::array<std::string_view, 4> kDeviceFolders{"/var/mobile", "/Library", "/System",
                                                          "/Applications"};
 std::string root;
+std::string root_without_links;
 
 bool is_inside(std::string_view path, std::string_view folder) {
   return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
@@ -63,6 +65,7 @@ void set_device_root(std::string new_root) {
   while (new_root.size() > 1 && new_root.back() == '/')
     new_root.pop_back();
   root = std::move(new_root);
+  root_without_links = root.empty() ? "" : std::filesystem::weakly_canonical(root).string();
 }
 
 const std::string& device_root() {
@@ -74,6 +77,12 @@ std::string path_on_this_machine(std::string_view device_path) {
                          std::any_of(kDeviceFolders.begin(), kDeviceFolders.end(),
                                      [&](auto folder) { return is_inside(device_path, folder); });
   return of_device ? root + std::string(device_path) : std::string(device_path);
+}
+
+std::string path_on_device(std::string_view path) {
+  for (const std::string& each : {root, root_without_links})
+    if (!each.empty() && is_inside(path, each)) return std::string(path.substr(each.size()));
+  return std::string(path);
 }
 
 void export_device_paths() {

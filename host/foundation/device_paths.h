@@ -13,4 +13,8 @@ const std::string& device_root();
 /// Where a path of the device really is.
 std::string path_on_this_machine(std::string_view device_path);
 
+/// The path on the device of a file below its root, which may be named through links; any other
+/// path is unchanged.
+std::string path_on_device(std::string_view path);
+
 }  // namespace host::foundation

@@ -9,6 +9,6 @@
 SONAVUE_EXPORTED void* dlopen(const char* path, int mode) noexcept {
   using Open = void* (*)(const char*, int);
   static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "dlopen"));
-  const bool is_devices = path && host::load_device_image(path, host::foundation::device_root());
+  const bool is_devices = path && host::load_device_image(host::foundation::path_on_device(path));
   return next(is_devices ? nullptr : path, mode);
 }

@@ -6,7 +6,6 @@ extern "C" {
 int objc_getClassList(objc::Class* buffer, int capacity);
 // The runtime's own, which its headers do not declare.
 void __objc_update_dispatch_table_for_class(objc::Class cls);
-objc::Imp class_getMethodImplementation(objc::Class cls, objc::Sel selector);
 }
 
 namespace host {
@@ -42,13 +41,7 @@ objc::Imp replace_in_family(objc::Class cls, const char* name, objc::Imp body,
   if (!method) return nullptr;
   const objc::Imp before = method_getImplementation(method);
   class_replaceMethod(cls, selector, body, encoding);
-  // The runtime forgets the dispatch tables of some classes that came with their base in one
-  // library; adding the method to those outright makes them listen.
-  for (const objc::Class candidate : all_classes()) {
-    if (descends_from(candidate, cls) &&
-        class_getMethodImplementation(candidate, selector) == before)
-      class_addMethod(candidate, selector, body, encoding);
-  }
+  refresh_family(cls);
   return before;
 }
 

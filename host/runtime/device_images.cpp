@@ -19,8 +19,7 @@ void set_device_images(std::span<const DeviceImage> images) {
   device_images = images;
 }
 
-bool load_device_image(std::string_view path, std::string_view root) {
-  if (!root.empty() && path.starts_with(root)) path.remove_prefix(root.size());
+bool load_device_image(std::string_view path) {
   const auto found = std::find_if(device_images.begin(), device_images.end(),
                                   [path](const DeviceImage& image) { return image.path == path; });
   if (found == device_images.end()) return false;

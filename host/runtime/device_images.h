@@ -16,8 +16,7 @@ struct DeviceImage {
 void set_device_images(std::span<const DeviceImage> images);
 
 /// Brings the image into the process, and before it what it needs; once, however often it is asked
-/// for. False when the device has none at that path. A path of this machine below `root`, where
-/// the device's files are, means the device's.
-bool load_device_image(std::string_view path, std::string_view root = {});
+/// for. False when the device has none at that path.
+bool load_device_image(std::string_view path);
 
 }  // namespace host

@@ -94,7 +94,8 @@ TEST_F(FactFiles, WhatContradictsItselfIsRefused) {
 TEST_F(FactFiles, WhatIsNoRowIsRefused) {
   EXPECT_THAT(refusal_of("clas A - yyy\n"), EndsWith("one.facts:3: 'clas' is no kind of row"));
   EXPECT_THAT(refusal_of("class A - yy\n"), EndsWith("one.facts:3: 2 signs for 3 systems"));
-  EXPECT_THAT(refusal_of("class A - yyx\n"), EndsWith("one.facts:3: a sign is none of y, n and ?"));
+  EXPECT_THAT(refusal_of("class A - yyx\n"),
+              EndsWith("one.facts:3: a sign is not one of y, n and ?"));
   EXPECT_THAT(refusal_of("class A yyy\n"), EndsWith("one.facts:3: 3 columns in place of 4"));
   EXPECT_THAT(refusal_of("  -b v@: yyy\n"), EndsWith("one.facts:3: a message before a class"));
   EXPECT_THAT(refusal_of("class A - yyy\n  -b void yyy\n"),

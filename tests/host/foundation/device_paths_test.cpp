@@ -39,7 +39,11 @@ struct DevicePathsTest : host::test::HostTest {
 };
 
 TEST_F(DevicePathsTest, OnlyTheDevicesFoldersAreBelowTheRoot) {
+  using host::foundation::path_on_device;
   using host::foundation::path_on_this_machine;
+  EXPECT_EQ(path_on_device((root / "Library/Fonts").string()), "/Library/Fonts");
+  EXPECT_EQ(path_on_device(root.string() + "2/Library"), root.string() + "2/Library");
+  EXPECT_EQ(path_on_device("/usr/lib/x"), "/usr/lib/x");
   EXPECT_EQ(path_on_this_machine("/Library/Fonts"), (root / "Library/Fonts").string());
   EXPECT_EQ(path_on_this_machine("/var/mobile"), (root / "var/mobile").string());
   EXPECT_EQ(path_on_this_machine("/Libraryful"), "/Libraryful");
