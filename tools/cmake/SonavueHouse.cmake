@@ -32,12 +32,16 @@ endif()
 
 # `sonavue_module(objc)` gives the folder objc/ an include root of its own, so that a target sees
 # exactly the modules it links: `#include "objc/send.h"` fails where objc is not below.
-function(sonavue_module name)
+# `sonavue_module(host/media)` does the same for an area inside a folder, as `host_media_root`: the
+# root shows that area, and nothing else of host/.
+function(sonavue_module folder)
+  string(REPLACE "/" "_" name ${folder})
   # The same for every build folder, so that the compiler cache serves all of them.
   set(root ${CMAKE_SOURCE_DIR}/build/include-roots/${name})
-  file(MAKE_DIRECTORY ${root})
-  if(NOT EXISTS ${root}/${name})
-    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${name} ${root}/${name} SYMBOLIC)
+  cmake_path(GET folder PARENT_PATH above)
+  file(MAKE_DIRECTORY ${root}/${above})
+  if(NOT EXISTS ${root}/${folder})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${root}/${folder} SYMBOLIC)
   endif()
   add_library(${name}_root INTERFACE)
   target_include_directories(${name}_root INTERFACE ${root})
