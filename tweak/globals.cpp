@@ -1,7 +1,6 @@
-#include "tweak/globals.h"
-
 #include "platform/UIKit/UIScreen.h"
-#include "tweak/library/hits.h"
+#include "tweak/Sonavue2.h"
+#include "tweak/search/hits.h"
 
 namespace sonavue {
 

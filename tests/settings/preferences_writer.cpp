@@ -7,7 +7,7 @@
 #include "objc/autorelease_pool.h"
 #include "platform/Foundation/NSValue.h"
 #include "settings/preferences.h"
-#include "tweak/preferences.h"
+#include "tweak/preferences/get_pref.h"
 
 // `preferences_writer DEVICE pane|home`: writes the device's preferences file as fast as it can, as
 // the pane does or as the home screen does, until it is killed.

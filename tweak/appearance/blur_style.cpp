@@ -1,6 +1,6 @@
 #include "tweak/appearance/blur_style.h"
 
-#include "tweak/preferences.h"
+#include "tweak/preferences/get_pref.h"
 
 namespace sonavue {
 namespace {

@@ -1,7 +1,7 @@
 #include "tweak/appearance/colouring.h"
 
-#include "tweak/globals.h"
-#include "tweak/panel/pieces.h"
+#include "tweak/Sonavue2.h"
+#include "tweak/look/pieces.h"
 
 namespace sonavue {
 namespace {

@@ -1,7 +1,7 @@
 #include "tweak/appearance/legibility.h"
 
+#include "tweak/Sonavue2.h"
 #include "tweak/appearance/colouring.h"
-#include "tweak/globals.h"
 
 namespace sonavue {
 namespace {

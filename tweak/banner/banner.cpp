@@ -1,11 +1,11 @@
 #include "tweak/banner/banner.h"
 
-#include "tweak/banner/controls_layout.h"
+#include "tweak/banner/banner_layout.h"
 #include "tweak/banner/grabber.h"
-#include "tweak/library/search.h"
-#include "tweak/movement/geometry.h"
-#include "tweak/movement/movement.h"
-#include "tweak/playback/share.h"
+#include "tweak/look/geometry.h"
+#include "tweak/motion/movement.h"
+#include "tweak/search/search.h"
+#include "tweak/share/share.h"
 
 namespace sonavue {
 namespace {

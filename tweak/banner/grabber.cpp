@@ -2,10 +2,10 @@
 
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "tweak/banner/banner.h"
-#include "tweak/banner/controls_layout.h"
-#include "tweak/movement/geometry.h"
-#include "tweak/movement/movement.h"
-#include "tweak/panel/pieces.h"
+#include "tweak/banner/banner_layout.h"
+#include "tweak/look/geometry.h"
+#include "tweak/look/pieces.h"
+#include "tweak/motion/movement.h"
 
 namespace sonavue {
 namespace {

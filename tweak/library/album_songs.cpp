@@ -2,7 +2,7 @@
 
 #include "tweak/library/album_tile.h"
 #include "tweak/library/song_cell.h"
-#include "tweak/preferences.h"
+#include "tweak/preferences/get_pref.h"
 
 namespace sonavue {
 namespace {

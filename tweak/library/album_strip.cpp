@@ -3,8 +3,8 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tweak/library/album_tile.h"
 #include "tweak/library/song_cell.h"
-#include "tweak/movement/geometry.h"
-#include "tweak/panel/pieces.h"
+#include "tweak/look/geometry.h"
+#include "tweak/look/pieces.h"
 
 // The strip of album tiles: two columns, a tile for each album of the library, in the library's
 // order.

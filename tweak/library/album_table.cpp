@@ -1,6 +1,6 @@
 #include "tweak/library/album_table.h"
 
-#include "tweak/globals.h"
+#include "tweak/Sonavue2.h"
 #include "tweak/library/song_cell.h"
 
 namespace sonavue {

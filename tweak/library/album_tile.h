@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tweak/globals.h"
+#include "tweak/Sonavue2.h"
 
 // A tile of the album strip: a view with the cover first and the album's title second. The name of
 // its layer is the album's persistent id.

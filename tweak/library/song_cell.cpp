@@ -2,8 +2,8 @@
 
 #include "platform/CoreGraphics/CGAffineTransform.h"
 #include "platform/Foundation/NSTimer.h"
-#include "tweak/globals.h"
-#include "tweak/preferences.h"
+#include "tweak/Sonavue2.h"
+#include "tweak/preferences/get_pref.h"
 
 namespace sonavue {
 namespace {

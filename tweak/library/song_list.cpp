@@ -1,8 +1,8 @@
 #include "tweak/library/song_list.h"
 
-#include "tweak/globals.h"
-#include "tweak/library/search.h"
+#include "tweak/Sonavue2.h"
 #include "tweak/library/song_cell.h"
+#include "tweak/search/search.h"
 
 namespace sonavue {
 namespace {

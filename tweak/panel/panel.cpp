@@ -1,9 +1,9 @@
 #include "tweak/panel/panel.h"
 
-#include "tweak/globals.h"
-#include "tweak/panel/music_icon.h"
-#include "tweak/panel/pieces.h"
-#include "tweak/preferences.h"
+#include "tweak/Sonavue2.h"
+#include "tweak/look/music_application.h"
+#include "tweak/look/pieces.h"
+#include "tweak/preferences/get_pref.h"
 
 namespace sonavue {
 

@@ -1,8 +1,8 @@
 #include "platform/SpringBoard/SBIcon.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
-#include "tweak/movement/geometry.h"
-#include "tweak/panel/pieces.h"
+#include "tweak/look/geometry.h"
+#include "tweak/look/pieces.h"
 
 namespace sonavue {
 namespace {

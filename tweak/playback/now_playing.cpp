@@ -1,11 +1,11 @@
 #include "tweak/playback/now_playing.h"
 
 #include "platform/Foundation/NSIndexPath.h"
+#include "tweak/Sonavue2.h"
 #include "tweak/appearance/legibility.h"
-#include "tweak/globals.h"
-#include "tweak/panel/pieces.h"
-#include "tweak/playback/layout.h"
-#include "tweak/preferences.h"
+#include "tweak/look/pieces.h"
+#include "tweak/panel/idle_layout.h"
+#include "tweak/preferences/get_pref.h"
 
 namespace sonavue {
 namespace {

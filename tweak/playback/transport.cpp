@@ -1,10 +1,10 @@
 #include "tweak/playback/transport.h"
 
 #include "platform/Foundation/NSIndexPath.h"
-#include "tweak/library/album_slide.h"
 #include "tweak/library/song_cell.h"
 #include "tweak/library/song_list.h"
-#include "tweak/movement/geometry.h"
+#include "tweak/look/geometry.h"
+#include "tweak/motion/album_table_slide.h"
 
 namespace sonavue {
 namespace {

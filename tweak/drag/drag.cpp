@@ -1,0 +1,162 @@
+#include "tweak/drag/drag.h"
+
+#include "tweak/look/geometry.h"
+#include "tweak/motion/album_table_slide.h"
+#include "tweak/motion/icon_home.h"
+#include "tweak/motion/movement.h"
+#include "tweak/search/search.h"
+#include "tweak/share/share.h"
+
+namespace sonavue {
+namespace {
+
+// The animation takes a single-precision tenth of a second, widened.
+constexpr double kGlide = 0.1f;
+constexpr CGFloat kGlideShare = 10;
+// The twin stands this much aside of the icon on the frame of the release, and on that one only.
+constexpr CGFloat kReleaseAside = 5.0;
+constexpr double kContentFade = 0.7;
+constexpr double kTableSlide = 0.2;
+
+// Where something that stood at `first` when the drag began is now; the grab keeps its place
+// under the finger.
+CGPoint dragged_from(CGPoint first) {
+  return {static_cast<float>(endPoint.x - (startPoint.x - first.x)),
+          static_cast<float>(endPoint.y - (startPoint.y - first.y))};
+}
+
+CGFloat at_most_one(CGFloat alpha) {
+  return alpha > 1.0 ? 1.0 : alpha;
+}
+
+void follow_icon(CGFloat aside, CGPoint icon, CGFloat offset) {
+  move_to(music, icon.x + aside, icon.y + offset);
+}
+
+bool may_drag_out() {
+  return !musicIcon.isEditing() && !isBanner && !icon_is_away();
+}
+
+bool may_drag_back() {
+  return movement() == Movement::kNone || movement() == Movement::kOpening;
+}
+
+void begin_drag_out() {
+  begin_movement(Movement::kDragOut);
+  keep_icon_home();
+}
+
+void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
+  begin_movement(Movement::kOpening);
+  UIView::animateWithDuration(
+      kGlide, objc::block([velocity, offset] {
+        const CGPoint icon = musicIcon.frame().origin;
+        const CGPoint target{icon.x + velocity.x / kGlideShare, icon.y + velocity.y / kGlideShare};
+        move_icon(target.x, target.y);
+        follow_icon(kReleaseAside, target, offset);
+        cover.setAlpha(fade_ratio(target.y));
+      }),
+      unless_replaced([self] { objc::send<>(self, "present"_sel); }));
+}
+
+void begin_drag_back() {
+  take_composer_down();
+  end_search_typing();
+  begin_movement(Movement::kDragBack);
+  firstPos = music.frame();
+  window.setUserInteractionEnabled(NO);
+  UIView::animateWithDuration(
+      kTableSlide, objc::block([] { slide_album_table_aside(); }), objc::block([](BOOL) {
+        UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(0); }));
+      }));
+}
+
+// `to_icon` turns a screen y of the twin into a y of the icon.
+void glide_home(CGPoint velocity, CGFloat to_icon) {
+  UIView::animateWithDuration(
+      kGlide, objc::block([velocity, to_icon] {
+        const CGPoint from = music.frame().origin;
+        const CGPoint target{from.x + velocity.x / kGlideShare, from.y + velocity.y / kGlideShare};
+        move_to(music, target.x, target.y);
+        move_icon(target.x, target.y + to_icon);
+        cover.setAlpha(fade_ratio(target.y));
+      }),
+      unless_replaced([] { bring_icon_home(); }));
+}
+
+}  // namespace
+
+void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
+  const UIGestureRecognizerState state = pan.state();
+  const bool begins = state == UIGestureRecognizerStateBegan;
+  const bool ends = state == UIGestureRecognizerStateEnded;
+  // The rest of a drag that was refused, or that a button has ended, is ignored.
+  if (begins ? !may_drag_out() : movement() != Movement::kDragOut) return;
+  const bool is_disturbed = musicIcon.isEditing() || isBanner;
+  // What begins in the middle of a drag must not swallow the end of it.
+  if (is_lost(state) || (ends && is_disturbed)) {
+    go_straight_home();
+    return;
+  }
+  if (is_disturbed) return;
+  if (!grabbers.isHidden()) grabbers.setHidden(YES);
+
+  endPoint = pan.locationInView(locationWindow);
+  if (begins) {
+    begin_drag_out();
+    startPoint = endPoint;
+  }
+  const CGPoint place = dragged_from(saved.origin);
+  const CGPoint velocity = pan.velocityInView(musicIcon);
+  const CGFloat offset = icon_screen_offset();
+
+  if (ends) {
+    glide_out(self, velocity, offset);
+    return;
+  }
+  if (begins) {
+    music.setHidden(NO);
+    cover_screen_with_window();
+  }
+  move_icon(place.x, place.y);
+  follow_icon(0, musicIcon.frame().origin, offset);
+  // Not clamped below: a finger beyond the bottom edge gives a negative alpha, which is unseen.
+  cover.setAlpha(at_most_one(fade_ratio(endPoint.y)));
+}
+
+void sposta1(SpringBoard, UIPanGestureRecognizer pan) {
+  const UIGestureRecognizerState state = pan.state();
+  const bool begins = state == UIGestureRecognizerStateBegan;
+  if (begins ? !may_drag_back() : movement() != Movement::kDragBack) return;
+  if (is_lost(state)) {
+    go_straight_home();
+    return;
+  }
+  if (isBanner) return;
+  if (begins) begin_drag_back();
+  endPoint = pan.locationInView(locationWindow);
+  if (begins) startPoint = endPoint;
+  const CGPoint place = dragged_from(firstPos.origin);
+  const CGPoint velocity = pan.velocityInView(musicIcon);
+  const CGFloat to_icon = -icon_screen_offset();
+
+  if (state == UIGestureRecognizerStateEnded) {
+    glide_home(velocity, to_icon);
+    return;
+  }
+  move_to(music, place.x, place.y);
+  const CGPoint twin = music.frame().origin;
+  move_icon(twin.x, twin.y + to_icon);
+  // Only a dock icon's drag fades the backdrop before the release; a page icon's waits for it.
+  if (musicIcon.isInDock()) cover.setAlpha(at_most_one(fade_ratio(endPoint.y)));
+}
+
+BOOL gesture_should_receive_touch(SpringBoard, UIGestureRecognizer, UITouch touch) {
+  return !touch.view().isKindOfClass(UIButton::cls());
+}
+
+BOOL gestures_may_be_simultaneous(SpringBoard, UIGestureRecognizer, UIGestureRecognizer) {
+  return NO;
+}
+
+}  // namespace sonavue

@@ -1,0 +1,47 @@
+#include "tweak/motion/album_table_slide.h"
+
+#include <cstddef>
+
+#include "tweak/look/geometry.h"
+
+namespace sonavue {
+namespace {
+
+constexpr double kSlideOut = 0.2;
+
+struct Swing {
+  CGFloat x;
+  double seconds;
+};
+
+// Beyond the artwork's left edge and back, each time by less.
+constexpr Swing kBounce[] = {{-20, 0.2}, {15, 0.15}, {-10, 0.15}, {5, 0.15}, {0, 0.15}};
+constexpr std::size_t kSwings = sizeof kBounce / sizeof *kBounce;
+
+// Counts the slides: the bounce of one that has been taken back must not go on.
+unsigned slides = 0;
+
+void swing(std::size_t index, unsigned slide) {
+  if (index == kSwings || slide != slides) return;
+  UIView::animateWithDuration(kBounce[index].seconds, objc::block([index] {
+                                move_to(blurTable, kBounce[index].x, blurTable.frame().origin.y);
+                              }),
+                              objc::block([index, slide](BOOL) { swing(index + 1, slide); }));
+}
+
+}  // namespace
+
+void slide_album_table_aside() {
+  ++slides;
+  move_to(blurTable, blurTable.frame().size.width, 0);
+}
+
+void showTable(SpringBoard) {
+  if (blurTable.frame().origin.x == 0) {
+    UIView::animateWithDuration(kSlideOut, objc::block([] { slide_album_table_aside(); }));
+    return;
+  }
+  swing(0, ++slides);
+}
+
+}  // namespace sonavue

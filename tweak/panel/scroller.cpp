@@ -1,0 +1,75 @@
+#include "tweak/panel/scroller.h"
+
+#include "platform/UIKit/UIScreen.h"
+#include "tweak/banner/banner_layout.h"
+#include "tweak/look/geometry.h"
+#include "tweak/motion/icon_home.h"
+#include "tweak/motion/movement.h"
+
+namespace sonavue {
+namespace {
+
+constexpr CGFloat kSkipWidth = 40;
+constexpr int kFirstSinkingGeneration = 5;
+
+// What a rise or a fall of the square root of the distance is divided by.
+CGFloat divisor() {
+  const CGFloat width = UIScreen::mainScreen().bounds().size.width;
+  return width * 2 == 828 || width * 3 == 1080 ? 4.0 : 3.5;
+}
+
+CGFloat centred(UIView view, CGFloat offset) {
+  return offset + (screen_width() - view.frame().size.width) / 2;
+}
+
+// The controls lie on the pages and are moved along with them, so that they stand still.
+void hold_controls(CGFloat offset) {
+  const CGFloat sixth = screen_width() / 6;
+  move_to_x(next, offset + sixth + 2 * screen_width() / 3 - kSkipWidth);
+  move_to_x(play, centred(play, offset));
+  move_to_x(back, offset + sixth);
+  move_to_x(container1, centred(container1, offset));
+}
+
+// Pages that go on gliding behind a panel that is closed must not take the icon out of its slot.
+void raise_icon(CGFloat rise) {
+  if (!isBanner && !icon_is_away()) return;
+  move_icon(musicIcon.frame().origin.x, firstMusicIcon.origin.y - rise);
+  move_to_y(music, firstMusic.origin.y - rise);
+}
+
+void sink_controls(CGFloat fall) {
+  move_to_y(back, firstBack1 + fall);
+  move_to_y(play, firstPlay1 + fall);
+  move_to_y(next, firstNext1 + fall);
+  move_to_y(container1, firstContainer1 + fall);
+}
+
+// A drag that starts on another page goes on from what the last one recorded.
+void will_begin_dragging(Scroller, UIScrollView pages) {
+  if (pages.contentOffset().x != artwork_page_offset().x) return;
+  keep_resting_places();
+  firstMusic = music.frame();
+  firstMusicIcon = musicIcon.frame();
+}
+
+void did_scroll(Scroller, UIScrollView pages) {
+  const CGFloat offset = pages.contentOffset().x;
+  hold_controls(offset);
+  const CGFloat distance = offset - artwork_page_offset().x;
+  const CGFloat root = __builtin_sqrt(distance < 0 ? -distance : distance);
+  raise_icon(root / divisor());
+  const bool sinks = objc::send<int>(Spring, "deviceNumber"_sel) >= kFirstSinkingGeneration;
+  sink_controls(sinks ? divisor() * root : 0);
+}
+
+}  // namespace
+
+void make_scroller() {
+  objc::make_own_class<Scroller>([](objc::ClassBuilder& builder) {
+    builder.method<&will_begin_dragging>("scrollViewWillBeginDragging:")
+        .method<&did_scroll>("scrollViewDidScroll:");
+  });
+}
+
+}  // namespace sonavue

@@ -1,0 +1,67 @@
+#include "tweak/search/search.h"
+
+#include <new>
+
+#include "tweak/Sonavue2.h"
+#include "tweak/search/hits.h"
+#include "tweak/search/title_index.h"
+
+namespace sonavue {
+namespace {
+
+// Never destroyed: it lives as long as the home screen.
+TitleIndex& index() {
+  alignas(TitleIndex) static unsigned char place[sizeof(TitleIndex)];
+  static TitleIndex* made = nullptr;
+  if (!made) made = new (place) TitleIndex;
+  return *made;
+}
+
+void list_all_songs() {
+  isSearching = NO;
+  tableView.reloadData();
+}
+
+}  // namespace
+
+void read_titles_again() {
+  index().forget();
+}
+
+void end_search_typing() {
+  if (searchBar.isFirstResponder()) searchBar.resignFirstResponder();
+}
+
+void textDidChange(SpringBoard, UITextField field) {
+  result.removeAllObjects();
+  if (field.text().length() == 0) {
+    list_all_songs();
+    return;
+  }
+  isSearching = YES;
+  if (result) {
+    auto& hits = objc::state_of<Hits>(result);
+    index().follow(songItems);
+    index().find(field.text().lowercaseString(), hits.places());
+    hits.show(index().songs());
+  }
+  tableView.reloadData();
+}
+
+// The rows stay as they are until the first letter, which finds the titles read already.
+void textFieldDidBeginEditing(SpringBoard, UITextField) {
+  isSearching = YES;
+  index().follow(songItems);
+}
+
+void textFieldDidEndEditing(SpringBoard, UITextField field) {
+  if (field.text().length() == 0) list_all_songs();
+}
+
+BOOL textFieldShouldReturn(SpringBoard, UITextField field) {
+  if (field.isFirstResponder()) field.resignFirstResponder();
+  if (field.text().length() == 0) list_all_songs();
+  return YES;
+}
+
+}  // namespace sonavue

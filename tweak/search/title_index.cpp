@@ -1,0 +1,180 @@
+#include "tweak/search/title_index.h"
+
+#include "objc/autorelease_pool.h"
+#include "tweak/search/needle.h"
+#include "tweak/search/short_needle.h"
+
+namespace sonavue {
+namespace {
+
+// Between two titles, so that nothing is found across their border: no plain text holds it.
+constexpr unsigned char kBorder = 0;
+// Titles are read, and lists compared, in lots of this.
+constexpr NSUInteger kLot = 512;
+constexpr std::size_t kMostBytes = UINT32_MAX;
+// What may be read behind the last title, by whatever looks for a text.
+constexpr std::size_t kReadBehind =
+    Needle::kReadBehind > ShortNeedle::kReadBehind ? Needle::kReadBehind : ShortNeedle::kReadBehind;
+
+NSString title_of(MPMediaItem song) {
+  return objc::cast<NSString>(song.valueForProperty(MPMediaItemPropertyTitle));
+}
+
+/// Both in order. From the end on, so that each place is moved once.
+void merge(const Places& others, Places& found) {
+  std::size_t from = found.count();
+  std::size_t left = others.count();
+  found.resize(from + left);
+  if (found.count() != from + left) return;
+  std::uint32_t* const places = found.begin();
+  for (std::size_t to = from + left; left > 0;) {
+    const bool is_found_last = from > 0 && places[from - 1] > others[left - 1];
+    places[--to] = is_found_last ? places[--from] : others[--left];
+  }
+}
+
+}  // namespace
+
+bool title_holds(MPMediaItem song, NSString lower_case_text) {
+  const NSString title = title_of(song);
+  if (title.length() == 0) return false;
+  return title.lowercaseString().rangeOfString(lower_case_text).length != 0;
+}
+
+MPMediaItem TitleIndex::song(std::uint32_t place) const {
+  return objc::cast<MPMediaItem>(songs_->objectAtIndex(place));
+}
+
+bool TitleIndex::has_songs(NSArray songs) const {
+  const NSUInteger count = songs.count();
+  if (!songs_ || songs_->count() != count) return false;
+  objc::Object ours[kLot];
+  objc::Object theirs[kLot];
+  for (NSUInteger first = 0; first < count; first += kLot) {
+    const NSRange lot{first, count - first < kLot ? count - first : kLot};
+    songs_->getObjects(ours, lot);
+    songs.getObjects(theirs, lot);
+    if (__builtin_memcmp(ours, theirs, lot.length * sizeof *ours) != 0) return false;
+  }
+  return true;
+}
+
+void TitleIndex::follow(NSArray songs) {
+  if (has_songs(songs)) return;
+  songs_ = objc::Ref<NSArray>::adopt(songs.copy());
+  read_titles();
+}
+
+void TitleIndex::forget() {
+  songs_.reset();
+}
+
+void TitleIndex::read_titles() {
+  bytes_.clear();
+  starts_.clear();
+  not_plain_.clear();
+  const NSUInteger count = songs_->count();
+  for (NSUInteger first = 0; first < count; first += kLot) {
+    const objc::AutoreleasePool pool;
+    for (NSUInteger place = first; place < count && place < first + kLot; ++place)
+      add_title(static_cast<std::uint32_t>(place),
+                title_of(song(static_cast<std::uint32_t>(place))));
+  }
+  starts_.add(static_cast<std::uint32_t>(bytes_.count()));
+  for (std::size_t behind = 0; behind < kReadBehind; ++behind)
+    bytes_.add(kBorder);
+  bytes_.shrink();
+  starts_.shrink();
+  is_usable_ = !bytes_.has_failed() && !starts_.has_failed() && !not_plain_.has_failed() &&
+               count < UINT32_MAX && bytes_.count() < kMostBytes;
+}
+
+void TitleIndex::add_title(std::uint32_t place, NSString title) {
+  starts_.add(static_cast<std::uint32_t>(bytes_.count()));
+  if (title.length() != 0 && !writer_.add_lowercase(title, bytes_)) not_plain_.add(place);
+  bytes_.add(kBorder);
+}
+
+void TitleIndex::find(NSString lower_case_text, Places& found) {
+  found.clear();
+  wanted_.clear();
+  const bool is_plain = is_usable_ && writer_.add_lowercase(lower_case_text, wanted_);
+  if (!is_plain || wanted_.count() == 0) {
+    find_by_platform(lower_case_text, found);
+    return;
+  }
+  if (wanted_.count() > ShortNeedle::kLongest || !find_short(found)) find_long(found);
+  add_others(lower_case_text, found);
+}
+
+void TitleIndex::find_by_platform(NSString text, Places& found) const {
+  const auto count = static_cast<std::uint32_t>(songs_->count());
+  for (std::uint32_t place = 0; place < count; ++place) {
+    if (title_holds(song(place), text)) found.add(place);
+  }
+}
+
+// The last title that begins at the offset or before it, which is `from` or one behind it. Where
+// much is found it is near, so the steps begin small.
+std::uint32_t TitleIndex::place_at(std::size_t offset, std::uint32_t from) const {
+  const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
+  std::uint32_t step = 1;
+  while (step < count - from && starts_[from + step] <= offset) {
+    from += step;
+    step *= 2;
+  }
+  for (; step > 0; step /= 2) {
+    if (step < count - from && starts_[from + step] <= offset) from += step;
+  }
+  return from;
+}
+
+void TitleIndex::find_long(Places& found) const {
+  const Needle needle(wanted_.begin(), wanted_.count());
+  const auto* const begin = bytes_.begin();
+  const auto* const end = begin + starts_[starts_.count() - 1];
+  std::uint32_t place = 0;
+  for (const auto* from = begin; (from = needle.find_in(from, end));) {
+    place = place_at(static_cast<std::size_t>(from - begin), place);
+    found.add(place);
+    from = begin + starts_[place + 1];
+  }
+}
+
+// The place of each title is written down, and kept where the title holds the text. False without
+// the memory for that.
+bool TitleIndex::find_short(Places& found) const {
+  const ShortNeedle needle(wanted_.begin(), wanted_.count());
+  const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
+  found.resize(count);
+  if (found.count() != count) return false;
+  std::uint32_t* kept = found.begin();
+  std::uint32_t place = 0;
+  bool is_held = false;
+  for (const auto* block = bytes_.begin(); place < count; block += ShortNeedle::kPlaces) {
+    std::uint64_t hits = needle.places_in(block);
+    std::uint64_t borders = ShortNeedle::places_of(kBorder, block);
+    for (; borders && place < count; borders &= borders - 1) {
+      const std::uint64_t title = borders ^ (borders - 1);  // All up to the border.
+      *kept = place++;
+      kept += is_held | ((hits & title) != 0);
+      hits &= ~title;
+      is_held = false;
+    }
+    is_held |= hits != 0;
+  }
+  found.resize(static_cast<std::size_t>(kept - found.begin()));
+  return true;
+}
+
+// Puts the titles that the platform has to look at where they belong among those found.
+void TitleIndex::add_others(NSString text, Places& found) const {
+  if (not_plain_.count() == 0) return;
+  Places others;
+  for (const std::uint32_t place : not_plain_) {
+    if (title_holds(song(place), text)) others.add(place);
+  }
+  merge(others, found);
+}
+
+}  // namespace sonavue

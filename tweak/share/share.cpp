@@ -1,0 +1,53 @@
+#include "tweak/share/share.h"
+
+#include "platform/Twitter/TWTweetComposeViewController.h"
+#include "tweak/Sonavue2.h"
+
+namespace sonavue {
+namespace {
+
+NSString text_of(UILabel label) {
+  const NSString text = label.text();
+  return text ? text : ""_ns;
+}
+
+// A missing word leaves its space behind: the text is never trimmed.
+NSString share_text() {
+  return "#NowPlaying "_ns.stringByAppendingString(text_of(title))
+      .stringByAppendingString(" "_ns)
+      .stringByAppendingString(text_of(artist))
+      .stringByAppendingString(" with #Sonavue2"_ns);
+}
+
+void composer_has_ended(TWTweetComposeViewControllerResult) {
+  window.setRootViewController(nil);
+}
+
+}  // namespace
+
+void tweet(SpringBoard) {
+  // A second tap while the composer comes.
+  if (window.rootViewController()) return;
+  if (!art.image()) return;
+  const auto composer = TWTweetComposeViewController::alloc().init();
+  if (!composer) return;
+  composer.setCompletionHandler(
+      objc::block([](TWTweetComposeViewControllerResult how) { composer_has_ended(how); }));
+  composer.setInitialText(share_text());
+  // The window keeps this one until the composer is done.
+  const auto presenter = UIViewController::alloc().init();
+  window.setRootViewController(presenter);
+  presenter.presentModalViewController(composer, YES);
+  composer.release();
+  presenter.release();
+}
+
+// The composer tells its handler of its own buttons only.
+void take_composer_down() {
+  const UIViewController presenter = window.rootViewController();
+  if (!presenter) return;
+  presenter.dismissViewControllerAnimated(NO, nullptr);
+  composer_has_ended(TWTweetComposeViewControllerResultCancelled);
+}
+
+}  // namespace sonavue
