@@ -11,8 +11,8 @@ template <Handle T>
 class Ref {
  public:
   Ref() = default;
-  static Ref adopt(T object) { return Ref(object); }
-  static Ref retain(T object) {
+  [[nodiscard]] static Ref adopt(T object) { return Ref(object); }
+  [[nodiscard]] static Ref retain(T object) {
     send<Id>(object, "retain"_sel);
     return Ref(object);
   }
@@ -26,6 +26,9 @@ class Ref {
   ~Ref() { send<>(object_, "release"_sel); }
 
   T get() const { return object_; }
+  /// As a plain handle, which borrows the object.
+  operator T() const& { return object_; }
+  operator T() && = delete;
   const T* operator->() const { return &object_; }
   const T& operator*() const { return object_; }
   explicit operator bool() const { return static_cast<bool>(object_); }
@@ -33,11 +36,17 @@ class Ref {
   /// Replaces the object: the new one is retained before the old one is released.
   void reset(T object = T()) { *this = retain(object); }
   /// Gives the reference away as a +1.
-  T leak() { return std::exchange(object_, T()); }
+  [[nodiscard]] T leak() { return std::exchange(object_, T()); }
 
  private:
   explicit Ref(T object) : object_(object) {}
   T object_;
 };
+
+/// Owns what `alloc` or `copy` has made until the end of the block.
+template <Handle T>
+[[nodiscard]] Ref<T> adopt(T object) {
+  return Ref<T>::adopt(object);
+}
 
 }  // namespace objc
