@@ -1,10 +1,12 @@
 #include "settings/pictures.h"
 
+#include "ui/assets.h"
+
 namespace sonavue {
 
 UIImage imageFromFile(NSString name) {
   const NSString ending = "@2x.png"_ns;
-  const NSString path = "/Library/Application Support/Sonavue/"_ns.stringByAppendingString(name);
+  const NSString path = asset_path<"">().stringByAppendingString(name);
   return UIImage::imageWithContentsOfFile(
       name.hasSuffix(ending) ? path : path.stringByAppendingString(ending));
 }

@@ -4,13 +4,14 @@
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSFileManager.h"
 #include "platform/Foundation/NSUserDefaults.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
 
 NSString table_path(NSString language) {
-  return "/Library/Application Support/Sonavue/Languages/"_ns.stringByAppendingString(language)
-      .stringByAppendingString(".plist"_ns);
+  return asset_path<"Languages/">().stringByAppendingString(language).stringByAppendingString(
+      ".plist"_ns);
 }
 
 bool can_be_read(NSString path) {

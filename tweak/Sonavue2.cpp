@@ -1,8 +1,10 @@
 #include "tweak/Sonavue2.h"
 
 #include "objc/autorelease_pool.h"
+#include "platform/UIKit/UIScreen.h"
 #include "tweak/banner/banner.h"
 #include "tweak/banner/gesture_listener.h"
+#include "tweak/banner/grabber.h"
 #include "tweak/drag/drag.h"
 #include "tweak/drag/icon_watch.h"
 #include "tweak/drag/present.h"
@@ -10,11 +12,12 @@
 #include "tweak/library/album_table.h"
 #include "tweak/library/album_zoom.h"
 #include "tweak/library/song_list.h"
+#include "tweak/library/track_lock.h"
 #include "tweak/motion/album_table_slide.h"
 #include "tweak/panel/scroller.h"
 #include "tweak/playback/now_playing.h"
 #include "tweak/playback/transport.h"
-#include "tweak/preferences/get_pref.h"
+#include "tweak/preferences/poll.h"
 #include "tweak/search/hits.h"
 #include "tweak/search/search.h"
 #include "tweak/share/share.h"
@@ -25,50 +28,96 @@
 #include "tweak/system/system_events.h"
 #include "ui/UIImageAverageColorAddition.h"
 
-// The table of what the extension adds to the home screen, and the way it comes in: everything
-// starts from the load of this library.
+// All that the extension touches in the home screen, and the way it comes in: everything starts
+// from the load of this library.
+
+extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
+                                objc::Imp* original);
 
 namespace sonavue {
+
+#define SONAVUE_DEFINE(Type, name, ...) constinit Type name = __VA_ARGS__;
+SONAVUE_GLOBALS(SONAVUE_DEFINE)
+#undef SONAVUE_DEFINE
+
 namespace {
 
-// Names are those of the first version and are kept to the letter, since other people's extensions
-// may call them.
+struct ExportedGlobal {
+  const char* name;
+  const char* encoding;
+  void* address;
+};
+
 void add_methods() {
-  const MethodRow rows[] = {
-      row<&deviceNumber>("deviceNumber"),
-      row<&tweet>("tweet"),
-      row<&zoomInAlbum>("zoomInAlbum:"),
-      row<&zoomOutAlbum>("zoomOutAlbum:"),
-      row<&playSongInAlbum>("playSongInAlbum:"),
-      row<&presentBanner>("presentBanner:"),
-      row<&showBanner>("showBanner"),
-      row<&dismissBanner>("dismissBanner"),
-      row<&textDidChange>("textDidChange:"),
-      row<&textFieldDidBeginEditing>("textFieldDidBeginEditing:"),
-      row<&textFieldDidEndEditing>("textFieldDidEndEditing:"),
-      row<&textFieldShouldReturn>("textFieldShouldReturn:"),
-      row<&showTable>("showTable"),
-      row<&dismisWithNoAction>("dismisWithNoAction"),
-      row<&gesture_should_receive_touch>("gestureRecognizer:shouldReceiveTouch:"),
-      row<&gestures_may_be_simultaneous>(
+  // Names are those of the first version and are kept to the letter, since other people's
+  // extensions may call them.
+  const AddedMethod methods[] = {
+      adds<&deviceNumber>("deviceNumber"),
+      adds<&tweet>("tweet"),
+      adds<&zoomInAlbum>("zoomInAlbum:"),
+      adds<&zoomOutAlbum>("zoomOutAlbum:"),
+      adds<&playSongInAlbum>("playSongInAlbum:"),
+      adds<&presentBanner>("presentBanner:"),
+      adds<&showBanner>("showBanner"),
+      adds<&dismissBanner>("dismissBanner"),
+      adds<&textDidChange>("textDidChange:"),
+      adds<&textFieldDidBeginEditing>("textFieldDidBeginEditing:"),
+      adds<&textFieldDidEndEditing>("textFieldDidEndEditing:"),
+      adds<&textFieldShouldReturn>("textFieldShouldReturn:"),
+      adds<&showTable>("showTable"),
+      adds<&dismisWithNoAction>("dismisWithNoAction"),
+      adds<&gesture_should_receive_touch>("gestureRecognizer:shouldReceiveTouch:"),
+      adds<&gestures_may_be_simultaneous>(
           "gestureRecognizer:shouldRecognizeSimultaneouslyWithGestureRecognizer:"),
-      row<&playStop>("playStop"),
-      row<&playBackSong>("playBackSong"),
-      row<&playNextSong>("playNextSong"),
-      row<&change>("change:"),
-      row<&changePreferences>("changePreferences"),
-      row<&changesPrefs>("changesPrefs"),
-      row<&infoMusic>("infoMusic"),
-      row<&Loping1>("Loping1"),
-      row<&sposta>("sposta:"),
-      row<&sposta1>("sposta1:"),
-      row<&dismis>("dismis:"),
-      row<&present>("present"),
+      adds<&playStop>("playStop"),
+      adds<&playBackSong>("playBackSong"),
+      adds<&playNextSong>("playNextSong"),
+      adds<&change>("change:"),
+      adds<&changePreferences>("changePreferences"),
+      adds<&changesPrefs>("changesPrefs"),
+      adds<&infoMusic>("infoMusic"),
+      adds<&Loping1>("Loping1"),
+      adds<&sposta>("sposta:"),
+      adds<&sposta1>("sposta1:"),
+      adds<&dismis>("dismis:"),
+      adds<&present>("present"),
   };
   const objc::Class spring_board = objc_getClass("SpringBoard");
   if (!spring_board) return;
-  for (const MethodRow& method : rows) {
+  for (const AddedMethod& method : methods)
     class_addMethod(spring_board, sel_registerName(method.selector), method.body, method.types);
+}
+
+// In the order in which they are installed. What each replaces is kept in `original_of` its
+// function.
+void replace_methods() {
+  const ReplacedMethod methods[] = {
+      replaces<"SpringBoard", "applicationDidFinishLaunching:", &launched>(),
+      replaces<"SBIconView", "touchesBegan:withEvent:", &touches_began_on_icon>(),
+      replaces<"SBUIController", "clickedMenuButton", &home_button_clicked>(),
+      replaces<"SBUIController", "handleMenuDoubleTap", &home_button_clicked_twice>(),
+      replaces<"SBBannerController", "_presentBannerForContext:reason:", &banner_presented>(),
+      replaces<"SBLockScreenViewController", "_handleDisplayTurnedOff", &display_turned_off>(),
+      replaces<"SBLockScreenViewController", "prepareForUIUnlock", &unlock_prepared>(),
+      replaces<"SBNotificationCenterViewController", "hostWillPresent",
+               &notification_center_shown>(),
+      replaces<"SBControlCenterContainerView", "controlCenterWillPresent", &control_center_shown>(),
+      replaces_class_method<"SBReachabilityManager", "reachabilitySupported",
+                            &reachability_is_supported>(),
+      replaces<"SBReachabilityManager", "_handleReachabilityDeactivated",
+               &reachability_went_down>(),
+      replaces<"SBReachabilityManager", "_handleReachabilityActivated", &reachability_came_up>(),
+      replaces<"SBReachabilityManager", "_handleSignificantTimeChanged", &time_changed>(),
+      replaces<"SBReachabilityManager", "_keepAliveTimerFired:", &kept_alive>(),
+      replaces<"SBMediaController", "_systemVolumeChanged:", &volume_changed>(),
+      replaces<"UIWindow", "_shouldCreateContextAsSecure", &window_is_secure>(),
+      replaces<"MPMusicPlayerController", "_playbackStateDidChange:", &playback_state_changed>(),
+  };
+  for (const ReplacedMethod& method : methods) {
+    objc::Class cls = objc_getClass(method.cls);
+    if (cls && method.is_class_method) cls = objc::class_of(reinterpret_cast<objc::Id>(cls));
+    method.original->selector = method.selector;
+    MSHookMessageEx(cls, method.selector, method.ours, &method.original->body);
   }
 }
 
@@ -83,18 +132,30 @@ void make_classes() {
   make_gesture_listener();
 }
 
-void install_hooks() {
-  add_methods();
-  hook_launch();
-  hook_system_events();
+// Those that are ready before the home screen launches.
+void fill_globals() {
+  mc = SBMediaController::sharedInstance();
+  rect = UIScreen::mainScreen().bounds();
+  result = SVHits::alloc().init();
+  musicPlayer = MPMusicPlayerController::iPodMusicPlayer();
 }
 
 [[gnu::constructor]] void load() {
   const objc::AutoreleasePool pool;
   make_classes();
-  install_hooks();
+  add_methods();
+  replace_methods();
   fill_globals();
 }
 
 }  // namespace
 }  // namespace sonavue
+
+// Read by the console of a host that has one; on a phone nothing looks.
+extern "C" __attribute__((visibility("default"), used))
+const sonavue::ExportedGlobal exported_globals[] = {
+#define SONAVUE_EXPORT(Type, name, initial) \
+  {#name, objc::Encode<Type>::text.c_str(), &sonavue::name},
+    SONAVUE_GLOBALS(SONAVUE_EXPORT)
+#undef SONAVUE_EXPORT
+        {nullptr, nullptr, nullptr}};

@@ -30,10 +30,9 @@ class AuthorCell : public objc::Implementation<AuthorCell<author, Cell>, Cell> {
                                           UITableViewCellStyleDefault, "headerCell"_ns, specifier);
     if (!made) return made;
     fill_author_row(made, author);
-    const auto tap =
-        UITapGestureRecognizer::alloc().initWithTarget(made, "presentViewController"_sel);
+    const auto tap = objc::adopt(
+        UITapGestureRecognizer::alloc().initWithTarget(made, "presentViewController"_sel));
     made.addGestureRecognizer(tap);
-    tap.release();
     return made;
   }
   CGFloat preferred_height(CGFloat) { return kAuthorRowHeight; }
@@ -45,8 +44,7 @@ class AuthorCell : public objc::Implementation<AuthorCell<author, Cell>, Cell> {
   }
   void dismiss() {
     settings::end_shown(contr_);
-    contr_.release();
-    contr_ = nil;
+    contr_.reset();
   }
   void add_object(UIView container, NSString name, NSString picture, objc::Sel action) {
     add_tile(container, name, picture, action, self);
@@ -73,7 +71,7 @@ class AuthorCell : public objc::Implementation<AuthorCell<author, Cell>, Cell> {
   static void send_dismiss(PSTableCell cell) { objc::send<>(cell, "dismissViewController"_sel); }
   void leave_composer() {
     const auto cell = objc::Ref<PSTableCell>::retain(self);
-    contr_.dismissViewControllerAnimated(YES, objc::block([cell] { send_dismiss(*cell); }));
+    contr_->dismissViewControllerAnimated(YES, objc::block([cell] { send_dismiss(*cell); }));
   }
   template <int index>
   static void add_package_action(objc::ClassBuilder& builder) {
@@ -83,7 +81,7 @@ class AuthorCell : public objc::Implementation<AuthorCell<author, Cell>, Cell> {
     }
   }
 
-  UIViewController contr_;
+  objc::Ref<UIViewController> contr_;
 };
 
 template <const Author& author, class Cell>

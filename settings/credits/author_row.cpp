@@ -1,5 +1,6 @@
 #include "settings/credits/author_row.h"
 
+#include "objc/ref.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UIScreen.h"
@@ -17,47 +18,43 @@ constexpr CGSize kArrow = {8, 15};
 constexpr CGFloat kArrowMargin = 15;
 
 void add_photo(PSTableCell cell, const Author& author) {
-  const UIImageView photo = UIImageView::alloc().initWithFrame(
-      {kPhotoX, (kAuthorRowHeight - kPhotoSide) / 2, kPhotoSide, kPhotoSide});
-  photo.layer().setMasksToBounds(YES);
-  photo.layer().setCornerRadius(kPhotoSide / 2);
-  photo.setImage(imageFromFile(as_text(author.photo)));
+  const auto photo = objc::adopt(UIImageView::alloc().initWithFrame(
+      {kPhotoX, (kAuthorRowHeight - kPhotoSide) / 2, kPhotoSide, kPhotoSide}));
+  photo->layer().setMasksToBounds(YES);
+  photo->layer().setCornerRadius(kPhotoSide / 2);
+  photo->setImage(imageFromFile(as_text(author.photo)));
   cell.addSubview(photo);
-  photo.release();
 }
 
-/// As large as its text; +1.
-UILabel line(const char* text, UIFont font) {
-  const UILabel label = UILabel::alloc().init();
-  label.setText(as_text(text));
-  label.setFont(font);
-  label.sizeToFit();
+/// As large as its text.
+objc::Ref<UILabel> line(const char* text, UIFont font) {
+  auto label = objc::adopt(UILabel::alloc().init());
+  label->setText(as_text(text));
+  label->setFont(font);
+  label->sizeToFit();
   return label;
 }
 
 /// Both lines together stand in the middle of the row.
 void add_texts(PSTableCell cell, const Author& author) {
-  const UILabel name = line(author.name, UIFont::fontWithName("HelveticaNeue-UltraLight"_ns,
-                                                              UIFont::labelFontSize() + 1));
-  const UILabel role = line(author.role, UIFont::fontWithName("HelveticaNeue-Light"_ns, kRoleSize));
-  const CGSize name_size = name.frame().size;
-  const CGSize role_size = role.frame().size;
+  const auto name = line(author.name, UIFont::fontWithName("HelveticaNeue-UltraLight"_ns,
+                                                           UIFont::labelFontSize() + 1));
+  const auto role = line(author.role, UIFont::fontWithName("HelveticaNeue-Light"_ns, kRoleSize));
+  const CGSize name_size = name->frame().size;
+  const CGSize role_size = role->frame().size;
   const CGFloat top = (kAuthorRowHeight - name_size.height - kLineGap - role_size.height) / 2;
-  name.setFrame({{kTextX, top}, name_size});
-  role.setFrame({{kTextX, top + name_size.height + kLineGap}, role_size});
+  name->setFrame({{kTextX, top}, name_size});
+  role->setFrame({{kTextX, top + name_size.height + kLineGap}, role_size});
   cell.addSubview(name);
   cell.addSubview(role);
-  name.release();
-  role.release();
 }
 
 void add_arrow(PSTableCell cell) {
   const CGFloat width = UIScreen::mainScreen().bounds().size.width;
-  const UIImageView arrow = UIImageView::alloc().initWithFrame(
-      {{width - kArrowMargin - kArrow.width, (kAuthorRowHeight - kArrow.height) / 2}, kArrow});
-  arrow.setImage(imageFromFile("dir"_ns));
+  const auto arrow = objc::adopt(UIImageView::alloc().initWithFrame(
+      {{width - kArrowMargin - kArrow.width, (kAuthorRowHeight - kArrow.height) / 2}, kArrow}));
+  arrow->setImage(imageFromFile("dir"_ns));
   cell.addSubview(arrow);
-  arrow.release();
 }
 
 }  // namespace

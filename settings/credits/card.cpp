@@ -1,5 +1,6 @@
 #include "settings/credits/card.h"
 
+#include "objc/ref.h"
 #include "platform/UIKit/UIButton.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
@@ -8,6 +9,7 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/texts.h"
 #include "settings/wizard/locked_view_controller.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -33,8 +35,7 @@ constexpr CGFloat kTileNameHeight = 30;
 constexpr CGFloat kTileNameSize = 13.5;
 
 NSString picture_path(const char* name, NSString ending) {
-  return "/Library/Application Support/Sonavue/"_ns.stringByAppendingString(as_text(name))
-      .stringByAppendingString(ending);
+  return asset_path<"">().stringByAppendingString(as_text(name)).stringByAppendingString(ending);
 }
 
 /// Gives where it ends. On a low screen it stands so much higher that the last strip is on it, too.
@@ -42,24 +43,23 @@ CGFloat add_photo(UIView card, const Author& author) {
   const CGSize size = card.frame().size;
   const CGFloat missing = size.height < kCardHeight ? kCardHeight - size.height : 0;
   const CGFloat top = kPhotoTop - missing;
-  const UIImageView photo = UIImageView::alloc().initWithFrame(
-      {(size.width - kPhotoSide) / 2, top, kPhotoSide, kPhotoSide});
-  photo.layer().setMasksToBounds(YES);
-  photo.layer().setCornerRadius(kPhotoSide / 2);
-  photo.setImage(UIImage::imageWithContentsOfFile(picture_path(author.photo, "@2x.png"_ns)));
+  const auto photo = objc::adopt(UIImageView::alloc().initWithFrame(
+      {(size.width - kPhotoSide) / 2, top, kPhotoSide, kPhotoSide}));
+  photo->layer().setMasksToBounds(YES);
+  photo->layer().setCornerRadius(kPhotoSide / 2);
+  photo->setImage(UIImage::imageWithContentsOfFile(picture_path(author.photo, "@2x.png"_ns)));
   card.addSubview(photo);
-  photo.release();
   return top + kPhotoSide;
 }
 
 /// Gives where it ends.
 CGFloat add_line(UIView card, const char* text, CGFloat top, CGFloat height, CGFloat font_size) {
-  const UILabel label = UILabel::alloc().initWithFrame({0, top, card.frame().size.width, height});
-  label.setText(as_text(text));
-  label.setTextAlignment(NSTextAlignmentCenter);
-  label.setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, font_size));
+  const auto label =
+      objc::adopt(UILabel::alloc().initWithFrame({0, top, card.frame().size.width, height}));
+  label->setText(as_text(text));
+  label->setTextAlignment(NSTextAlignmentCenter);
+  label->setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, font_size));
   card.addSubview(label);
-  label.release();
   return top + height;
 }
 
@@ -72,19 +72,17 @@ void add_close_button(UIView card, PSTableCell cell) {
 }
 
 void add_hairline_above(UIView card, CGFloat top) {
-  const UIView line = UIView::alloc().initWithFrame(
-      {kTileMargin, top, card.frame().size.width - kTileMargin, kHairline});
-  line.setBackgroundColor(UIColor::colorWithWhite(0, 0.2));
+  const auto line = objc::adopt(UIView::alloc().initWithFrame(
+      {kTileMargin, top, card.frame().size.width - kTileMargin, kHairline}));
+  line->setBackgroundColor(UIColor::colorWithWhite(0, 0.2));
   card.addSubview(line);
-  line.release();
 }
 
-/// +1.
-UIScrollView strip(UIView card, CGFloat top) {
+objc::Ref<UIScrollView> strip(UIView card, CGFloat top) {
   add_hairline_above(card, top);
-  const UIScrollView made = UIScrollView::alloc().initWithFrame(
-      {0, top + kHairline, card.frame().size.width, kStripHeight});
-  made.setShowsHorizontalScrollIndicator(NO);
+  auto made = objc::adopt(UIScrollView::alloc().initWithFrame(
+      {0, top + kHairline, card.frame().size.width, kStripHeight}));
+  made->setShowsHorizontalScrollIndicator(NO);
   card.addSubview(made);
   return made;
 }
@@ -95,15 +93,14 @@ void fit_content(UIScrollView strip) {
 }
 
 void add_packages(UIView card, const Author& author, PSTableCell cell, CGFloat top) {
-  const UIScrollView packages = strip(card, top);
+  const auto packages = strip(card, top);
   for (int i = 0; i < author.package_count; ++i) {
     const Package& package = author.packages[i];
-    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, UIView(packages),
+    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, UIView(packages.get()),
                  as_text(package.title), picture_path(package.picture, ".png"_ns),
                  sel_registerName(package.action));
   }
   fit_content(packages);
-  packages.release();
 }
 
 void add_contacts(UIView card, const Author& author, PSTableCell cell, CGFloat top) {
@@ -115,22 +112,21 @@ void add_contacts(UIView card, const Author& author, PSTableCell cell, CGFloat t
   const Contact contacts[] = {{"Message", "Message", "message"},
                               {"Mail", "Mail", "email"},
                               {"Follow", "Twitter", author.follow_action}};
-  const UIScrollView strip_of_contacts = strip(card, top);
+  const auto strip_of_contacts = strip(card, top);
   for (const Contact& contact : contacts) {
-    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, UIView(strip_of_contacts),
+    objc::send<>(cell, "addObjectIn:withName:image:action:"_sel, UIView(strip_of_contacts.get()),
                  as_text(contact.name), picture_path(contact.picture, ".png"_ns),
                  sel_registerName(contact.action));
   }
   fit_content(strip_of_contacts);
-  strip_of_contacts.release();
 }
 
 }  // namespace
 
-UIViewController make_card(const Author& author, PSTableCell cell) {
-  const auto controller = LockedUIViewController::alloc().init();
+objc::Ref<UIViewController> make_card(const Author& author, PSTableCell cell) {
+  auto controller = objc::adopt(UIViewController(LockedUIViewController::alloc().init()));
   if (!controller) return controller;
-  const UIView card = controller.view();
+  const UIView card = controller->view();
   card.setFrame(UIScreen::mainScreen().bounds());
   card.setBackgroundColor(UIColor::whiteColor());
   const CGFloat photo_end = add_photo(card, author);
@@ -147,26 +143,22 @@ void add_tile(UIView container, NSString name, NSString picture_path, objc::Sel 
               PSTableCell cell) {
   const auto before = static_cast<CGFloat>(container.subviews().count());
   const CGFloat height = container.frame().size.height;
-  const UIView tile = UIView::alloc().initWithFrame(
-      {{kTileMargin + kTileSize.width * before, (height - kTileSize.height) / 2}, kTileSize});
-  tile.setBackgroundColor(UIColor::clearColor());
-  const UIImageView picture = UIImageView::alloc().initWithFrame(kTilePicture);
-  picture.setImage(UIImage::imageWithContentsOfFile(picture_path));
-  tile.addSubview(picture);
-  picture.release();
-  const UILabel label =
-      UILabel::alloc().initWithFrame({0, kTilePicture.max_y(), kTileSize.width, kTileNameHeight});
-  label.setText(name);
-  label.setTextAlignment(NSTextAlignmentCenter);
-  label.setFont(UIFont::fontWithName("Helvetica-Light"_ns, kTileNameSize));
-  tile.addSubview(label);
-  label.release();
-  const auto tap = UITapGestureRecognizer::alloc().initWithTarget(cell, action);
-  tap.setCancelsTouchesInView(YES);
-  tile.addGestureRecognizer(tap);
-  tap.release();
+  const auto tile = objc::adopt(UIView::alloc().initWithFrame(
+      {{kTileMargin + kTileSize.width * before, (height - kTileSize.height) / 2}, kTileSize}));
+  tile->setBackgroundColor(UIColor::clearColor());
+  const auto picture = objc::adopt(UIImageView::alloc().initWithFrame(kTilePicture));
+  picture->setImage(UIImage::imageWithContentsOfFile(picture_path));
+  tile->addSubview(picture);
+  const auto label = objc::adopt(
+      UILabel::alloc().initWithFrame({0, kTilePicture.max_y(), kTileSize.width, kTileNameHeight}));
+  label->setText(name);
+  label->setTextAlignment(NSTextAlignmentCenter);
+  label->setFont(UIFont::fontWithName("Helvetica-Light"_ns, kTileNameSize));
+  tile->addSubview(label);
+  const auto tap = objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(cell, action));
+  tap->setCancelsTouchesInView(YES);
+  tile->addGestureRecognizer(tap);
   container.addSubview(tile);
-  tile.release();
 }
 
 }  // namespace sonavue

@@ -1,5 +1,6 @@
 #include "settings/credits/contact.h"
 
+#include "objc/ref.h"
 #include "platform/Foundation/NSURL.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/MessageUI/MFMessageComposeViewController.h"
@@ -19,24 +20,22 @@ void open(NSString address) {
 }  // namespace
 
 void write_mail(const Author& author, PSTableCell cell, UIViewController card) {
-  const auto composer = MFMailComposeViewController::alloc().init();
+  const auto composer = objc::adopt(MFMailComposeViewController::alloc().init());
   if (!composer) return;
-  composer.setMailComposeDelegate(cell);
-  composer.setSubject("Sonavue"_ns);
-  composer.setMessageBody(""_ns, NO);
-  composer.setToRecipients(NSArray::arrayWithObject(as_text(author.mail)));
+  composer->setMailComposeDelegate(cell);
+  composer->setSubject("Sonavue"_ns);
+  composer->setMessageBody(""_ns, NO);
+  composer->setToRecipients(NSArray::arrayWithObject(as_text(author.mail)));
   card.presentViewController(composer, YES, nullptr);
-  composer.release();
 }
 
 void write_message(const Author& author, PSTableCell cell, UIViewController card) {
   if (!MFMessageComposeViewController::canSendText()) return;
-  const auto composer = MFMessageComposeViewController::alloc().init();
-  composer.setMessageComposeDelegate(cell);
-  composer.setRecipients(NSArray::arrayWithObject(as_text(author.number)));
-  composer.setBody("I'm using Sonavue"_ns);
+  const auto composer = objc::adopt(MFMessageComposeViewController::alloc().init());
+  composer->setMessageComposeDelegate(cell);
+  composer->setRecipients(NSArray::arrayWithObject(as_text(author.number)));
+  composer->setBody("I'm using Sonavue"_ns);
   card.presentViewController(composer, YES, nullptr);
-  composer.release();
 }
 
 void follow(const Author& author) {

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "objc/ref.h"
 #include "platform/Activator/LAListenerSettingsViewController.h"
 
 namespace sonavue {
 
-/// The service's page for our gestures, made by `new`; +1. It names a listener without the 2 of the
+/// The service's page for our gestures, made by `new`. It names a listener without the 2 of the
 /// one that is registered: existing installations have their gestures under either name.
-LAListenerSettingsViewController make_gesture_page();
+[[nodiscard]] objc::Ref<LAListenerSettingsViewController> make_gesture_page();
 
 /// Shows it over the page, with a button that sends `dismiss` to it.
 void present_gesture_page(UIViewController over);

@@ -1,8 +1,10 @@
 #include "settings/pane/header_cell.h"
 
+#include "objc/ref.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UIScreen.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -14,20 +16,19 @@ constexpr CGFloat kNameHeight = 50;
 constexpr CGFloat kNameSize = 50;
 constexpr CGFloat kHeight = 184;
 
-UIImageView logo(CGFloat width) {
-  const UIImageView view =
-      UIImageView::alloc().initWithFrame({(width - kLogoSide) / 2, kLogoTop, kLogoSide, kLogoSide});
-  view.setImage(
-      UIImage::imageWithContentsOfFile("/Library/Application Support/Sonavue/logo_setup.png"_ns));
+objc::Ref<UIImageView> logo(CGFloat width) {
+  auto view = objc::adopt(UIImageView::alloc().initWithFrame(
+      {(width - kLogoSide) / 2, kLogoTop, kLogoSide, kLogoSide}));
+  view->setImage(asset<"logo_setup.png">());
   return view;
 }
 
-UILabel name(CGFloat width) {
-  const UILabel label = UILabel::alloc().initWithFrame({0, kNameTop, width, kNameHeight});
-  label.setText("Sonavue2"_ns);
-  label.setTextAlignment(NSTextAlignmentCenter);
-  label.setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, kNameSize));
-  label.setTextColor(UIColor::redColor());
+objc::Ref<UILabel> name(CGFloat width) {
+  auto label = objc::adopt(UILabel::alloc().initWithFrame({0, kNameTop, width, kNameHeight}));
+  label->setText("Sonavue2"_ns);
+  label->setTextAlignment(NSTextAlignmentCenter);
+  label->setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, kNameSize));
+  label->setTextColor(UIColor::redColor());
   return label;
 }
 
@@ -49,13 +50,13 @@ class HeaderCell : public objc::Implementation<HeaderCell, HeaderCellForSonavue>
  private:
   void build() {
     const CGFloat width = UIScreen::mainScreen().bounds().size.width;
-    background_ = logo(width);
-    desc_ = name(width);
-    self.addSubview(background_);
-    self.addSubview(desc_);
-    objc::send<>(desc_, "startShimmering"_sel);
-    background_.release();
-    desc_.release();
+    const auto background = logo(width);
+    const auto desc = name(width);
+    self.addSubview(background);
+    self.addSubview(desc);
+    objc::send<>(*desc, "startShimmering"_sel);
+    background_ = background;
+    desc_ = desc;
   }
 
   // Both belong to the cell.

@@ -1,5 +1,6 @@
 #include "settings/pane/restart_question.h"
 
+#include "objc/ref.h"
 #include "platform/POSIX/system.h"
 #include "platform/UIKit/UIAlertView.h"
 #include "settings/globals.h"
@@ -14,17 +15,16 @@ constexpr NSInteger kYes = 1;
 
 void ask_for_restart(styleController page, objc::Object wanted) {
   settings::value1 = wanted;
-  const auto alert = UIAlertView::alloc().initWithTitle(
-      "Apex Support"_ns, "Are you sure you want to restart SpringBoard?"_ns, page, "No"_ns);
-  alert.addButtonWithTitle("Yes"_ns);
-  alert.show();
-  alert.release();
+  const auto alert = objc::adopt(UIAlertView::alloc().initWithTitle(
+      "Apex Support"_ns, "Are you sure you want to restart SpringBoard?"_ns, page, "No"_ns));
+  alert->addButtonWithTitle("Yes"_ns);
+  alert->show();
 }
 
 void restart_answered(styleController page, NSInteger button) {
   if (button != kYes) return page.reloadSpecifiers();
   // The home screen reads the file when it starts: there is nothing to announce.
-  store_unannounced(settings::value1, "apex"_ns);
+  store_unannounced(settings::value1, preference::apex());
   system("killall SpringBoard");
 }
 

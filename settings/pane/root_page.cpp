@@ -12,6 +12,7 @@
 #include "settings/pictures.h"
 #include "settings/preferences.h"
 #include "settings/texts.h"
+#include "tweak/preferences/preferences_file.h"
 
 struct SonavueSettingsController
     : objc::Own<SonavueSettingsController, "SonavueSettingsController", PSListController> {};
@@ -41,27 +42,25 @@ void set_value(SonavueSettingsController, objc::Object value, PSSpecifier row) {
 }
 
 void tweet(SonavueSettingsController self) {
-  const auto composer = TWTweetComposeViewController::alloc().init();
+  const auto composer = objc::adopt(TWTweetComposeViewController::alloc().init());
   if (!composer) return;
-  composer.setInitialText(Translator("tweet"_ns));
+  composer->setInitialText(Translator("tweet"_ns));
   self.presentModalViewController(composer, YES);
-  composer.release();
 }
 
 void add_share_button(SonavueSettingsController self) {
   const UIImage picture =
       imageFromFile("happy"_ns).imageWithRenderingMode(UIImageRenderingModeAlwaysTemplate);
-  const UIBarButtonItem button = UIBarButtonItem::alloc().initWithImage(
-      picture, UIBarButtonItemStyleBordered, self, "Tweet"_sel);
-  button.setTintColor(pattern_color());
+  const auto button = objc::adopt(UIBarButtonItem::alloc().initWithImage(
+      picture, UIBarButtonItemStyleBordered, self, "Tweet"_sel));
+  button->setTintColor(pattern_color());
   self.navigationItem().setRightBarButtonItem(button);
-  button.release();
 }
 
 /// The wizard comes by itself once. The home screen has nothing to apply then.
 void show_wizard_the_first_time(SonavueSettingsController self) {
-  if (!styleController::cls() || is_true(stored_value("firstBoot"_ns))) return;
-  store_unannounced(NSNumber::numberWithBool(YES), "firstBoot"_ns);
+  if (!styleController::cls() || is_true(stored_value(preference::firstBoot()))) return;
+  store_unannounced(NSNumber::numberWithBool(YES), preference::firstBoot());
   settings::set_where(self);
   // It lives for as long as the wizard needs it, which is until the application ends.
   styleController::alloc().init().showFirstPage();

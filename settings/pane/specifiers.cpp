@@ -22,6 +22,10 @@ PSSpecifier row(NSString kind, NSString name, objc::Object target, Stored stored
       nullptr);
 }
 
+PreferenceKey key_of(PSSpecifier row) {
+  return PreferenceKey(getNotTranslated(row.name()));
+}
+
 }  // namespace
 
 PSSpecifier group_with_footer(NSString footer_identifier) {
@@ -67,11 +71,11 @@ PSSpecifier with_icon(PSSpecifier row, NSString picture) {
 }
 
 objc::Object row_value(PSSpecifier row) {
-  return stored_value(getNotTranslated(row.name()));
+  return stored_value(key_of(row));
 }
 
 void store_row_value(objc::Object value, PSSpecifier row) {
-  store(value, getNotTranslated(row.name()));
+  store(value, key_of(row));
 }
 
 }  // namespace sonavue

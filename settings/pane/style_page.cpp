@@ -48,7 +48,7 @@ class StylePage : public objc::Implementation<StylePage, styleController> {
     return objc::cast<NSString>(wizard_.blurs().objectAtIndex(static_cast<NSUInteger>(row)));
   }
   void row_chosen(UIPickerView, NSInteger row, NSInteger) {
-    store(blur_choices().objectAtIndex(static_cast<NSUInteger>(row)), "blur"_ns);
+    store(blur_choices().objectAtIndex(static_cast<NSUInteger>(row)), preference::blur());
   }
 
   void show_first_page() { wizard_.show_first_page(); }

@@ -34,7 +34,7 @@ class ChoicePicker : public objc::Implementation<ChoicePicker<Picker, choices>, 
     return objc::cast<NSString>(translated(choices()).objectAtIndex(static_cast<NSUInteger>(row)));
   }
   void chosen(UIPickerView, NSInteger row, NSInteger) {
-    store(choices().objectAtIndex(static_cast<NSUInteger>(row)), key_);
+    store(choices().objectAtIndex(static_cast<NSUInteger>(row)), PreferenceKey(key_));
   }
 
  private:

@@ -1,5 +1,6 @@
 #include "settings/wizard/linker.h"
 
+#include "objc/ref.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/pictures.h"
@@ -13,21 +14,19 @@ constexpr CGFloat kArrowFromRight = 45;
 
 void add_arrow(UIView view) {
   const CGSize size = view.frame().size;
-  const UIImageView arrow = UIImageView::alloc().initWithFrame(
-      {size.width - kArrowFromRight, 0, kArrowWidth, size.height});
-  arrow.setContentMode(UIViewContentModeCenter);
-  arrow.setImage(imageFromFile("dir"_ns));
+  const auto arrow = objc::adopt(UIImageView::alloc().initWithFrame(
+      {size.width - kArrowFromRight, 0, kArrowWidth, size.height}));
+  arrow->setContentMode(UIViewContentModeCenter);
+  arrow->setImage(imageFromFile("dir"_ns));
   view.addSubview(arrow);
-  arrow.release();
 }
 
 void inizialize(Linker self, NSString name, UIImage image, BOOL border, objc::Object target,
                 objc::Sel action) {
   dress_as_row(self, name, image, border ? RowBorder::kHairline : RowBorder::kNone);
   add_arrow(self);
-  const auto tap = UITapGestureRecognizer::alloc().initWithTarget(target, action);
+  const auto tap = objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(target, action));
   self.addGestureRecognizer(tap);
-  tap.release();
 }
 
 Linker init(Linker self, CGRect frame, NSString name, UIImage image, BOOL border,

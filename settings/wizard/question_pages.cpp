@@ -1,9 +1,12 @@
 #include "settings/wizard/question_pages.h"
 
+#include "objc/ref.h"
 #include "settings/texts.h"
 #include "settings/wizard/choice_pickers.h"
 #include "settings/wizard/page_parts.h"
 #include "settings/wizard/switcher.h"
+#include "tweak/preferences/preference_key.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -16,33 +19,29 @@ class Questions {
   Questions(NSMutableArray pages, CGSize size, styleController target)
       : pages_(pages), size_(size), target_(target) {}
 
-  void ask_switch(NSString text, NSString key, NSString picture) const {
+  void ask_switch(NSString text, PreferenceKey key, NSString picture) const {
     const UIView page = add_text_page(pages_, {text, whole_text()});
-    const Switcher row = Switcher::alloc().initWithFrame(
-        row_frame(), Translator(key), UIImage::imageWithContentsOfFile(picture), YES);
+    const auto row = objc::adopt(Switcher::alloc().initWithFrame(
+        row_frame(), Translator(key.text()), UIImage::imageWithContentsOfFile(picture), YES));
     if (row) page.addSubview(row);
-    row.release();
   }
   void ask_gesture(NSString text) const {
     add_linker(add_text_page(pages_, {text, whole_text()}), row_frame(), "Activator"_ns,
-               "/Library/Application Support/Sonavue/Activator.png"_ns, target_,
-               "showActivatorPage"_sel);
+               asset_path<"Activator.png">(), target_, "showActivatorPage"_sel);
   }
   /// `source` fills the wheel; it is kept for as long as the wheel may ask.
   void ask_choice(NSString text, objc::Object source) const {
     const UIView page = add_text_page(pages_, {text, {0, 50, size_.width, 210}});
-    const UIPickerView wheel =
-        UIPickerView::alloc().initWithFrame({0, 300, size_.width, size_.height - 180});
-    wheel.setDataSource(source);
-    wheel.setDelegate(source);
+    const auto wheel =
+        objc::adopt(UIPickerView::alloc().initWithFrame({0, 300, size_.width, size_.height - 180}));
+    wheel->setDataSource(source);
+    wheel->setDelegate(source);
     page.addSubview(wheel);
-    wheel.release();
   }
   void offer_tutorial(NSString text) const {
     add_linker(add_text_page(pages_, {text, {0, 100, size_.width, 210}}),
                {0, size_.height / 2 + 100, size_.width, kRowHeight}, "Tutorial"_ns,
-               "/Library/Application Support/Sonavue/Finish@2x.png"_ns, target_,
-               "showTutorial"_sel);
+               asset_path<"Finish@2x.png">(), target_, "showTutorial"_sel);
   }
 
  private:
@@ -56,9 +55,9 @@ class Questions {
 
 /// A wheel does not keep who fills it, and its page may come back at any time: they stay.
 template <class Source>
-objc::Object source_for(NSString key) {
+objc::Object source_for(PreferenceKey key) {
   const Source source = Source::alloc().init();
-  source.setKey(key);
+  source.setKey(key.text());
   return source;
 }
 
@@ -68,29 +67,29 @@ void add_question_pages(NSMutableArray pages, CGRect bounds, styleController tar
   const Questions questions(pages, bounds.size, target);
   questions.ask_switch(
       "Sonavue reinvents the way of listening to your Music adding a lot of new features to your iPhone. Do you want to enable Sonavue?"_ns,
-      "enable"_ns, "/Library/Application Support/Sonavue/attivo@2x.png"_ns);
+      preference::enable(), asset_path<"attivo@2x.png">());
   questions.ask_switch(
       "Sonavue can recognize if your Music is in your iPhone or if it is from cloud. Do you want to use your Cloud's Music?"_ns,
-      "cloud"_ns, "/Library/Application Support/Sonavue/Cloud.png"_ns);
+      preference::cloud(), asset_path<"Cloud.png">());
   questions.ask_switch(
       "Sonavue brings to your Iphone a new interface that let you to interact with Music. This interface can be modified every time the current now playing song changes by blurring the Artwork of the Music. Do you want this property on?"_ns,
-      "cover"_ns, "/Library/Application Support/Sonavue/Cover.png"_ns);
+      preference::cover(), asset_path<"Cover.png">());
   questions.ask_switch(
       "The Artwork in the middle of Sonavue's interface has, by default, rounded corners. Do you want squared corners?"_ns,
-      "square"_ns, "/Library/Application Support/Sonavue/Squared.png"_ns);
+      preference::square(), asset_path<"Squared.png">());
   questions.ask_switch(
       "Do you want to use automatic color in order to make Sonavue2 interface more legible?"_ns,
-      "legibility"_ns, "/Library/Application Support/Sonavue/auto.png"_ns);
+      preference::legibility(), asset_path<"auto.png">());
   questions.ask_gesture("Set an Activator Gesture to invoke Sonavue from anywhere"_ns);
   questions.ask_choice(
       "Sonavue offers a lot of ways to customize it, for example you can choose what type of blur you want in Sonavue's interface. Which one?"_ns,
       target);
   questions.ask_choice("What do you want around the play/pause button?"_ns,
-                       source_for<Play>("play"_ns));
+                       source_for<Play>(preference::play()));
   questions.ask_choice("Which tint color you want to use for Sonavue's interface?"_ns,
-                       source_for<Tint>("tint"_ns));
+                       source_for<Tint>(preference::tint()));
   questions.ask_choice("Which Font tint color you want to use for Sonavue's interface?"_ns,
-                       source_for<Tint>("font_tint"_ns));
+                       source_for<Tint>(preference::font_tint()));
   questions.offer_tutorial(
       "You are now ready to do a small tutorial to learn how Sonavue works.\nThis will be easy!"_ns);
 }

@@ -1,5 +1,6 @@
 #include "settings/wizard/row.h"
 
+#include "objc/ref.h"
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
@@ -14,22 +15,20 @@ constexpr CGFloat kTitleGap = 15;
 /// Gives where the title begins.
 CGFloat add_icon(UIView view, UIImage image) {
   const CGFloat side = view.frame().size.height - 2 * kIconOrigin.y;
-  const UIImageView icon = UIImageView::alloc().initWithFrame({kIconOrigin, {side, side}});
-  icon.setContentMode(UIViewContentModeCenter);
-  icon.setImage(image);
+  const auto icon = objc::adopt(UIImageView::alloc().initWithFrame({kIconOrigin, {side, side}}));
+  icon->setContentMode(UIViewContentModeCenter);
+  icon->setImage(image);
   view.addSubview(icon);
-  icon.release();
   return image ? kIconOrigin.x + side + kTitleGap : kTitleGap;
 }
 
 void add_title(UIView view, NSString text, CGFloat x) {
-  const UILabel title = UILabel::alloc().init();
-  title.setText(text);
-  title.sizeToFit();
-  const CGSize size = title.frame().size;
-  title.setFrame({{x, (view.frame().size.height - size.height) / 2}, size});
+  const auto title = objc::adopt(UILabel::alloc().init());
+  title->setText(text);
+  title->sizeToFit();
+  const CGSize size = title->frame().size;
+  title->setFrame({{x, (view.frame().size.height - size.height) / 2}, size});
   view.addSubview(title);
-  title.release();
 }
 
 }  // namespace

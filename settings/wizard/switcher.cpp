@@ -8,6 +8,7 @@
 #include "settings/preferences.h"
 #include "settings/texts.h"
 #include "settings/wizard/row.h"
+#include "tweak/preferences/preferences_file.h"
 
 namespace sonavue {
 namespace {
@@ -18,10 +19,10 @@ constexpr CGFloat kTrackMargin = 5;
 constexpr CGFloat kKnobInset = 0.1;
 constexpr double kMove = 0.3;
 
-UIView round_white_view(CGRect frame) {
-  const UIView view = UIView::alloc().initWithFrame(frame);
-  view.setBackgroundColor(UIColor::whiteColor());
-  view.layer().setCornerRadius(frame.size.height / 2);
+objc::Ref<UIView> round_white_view(CGRect frame) {
+  auto view = objc::adopt(UIView::alloc().initWithFrame(frame));
+  view->setBackgroundColor(UIColor::whiteColor());
+  view->layer().setCornerRadius(frame.size.height / 2);
   add_hairline(view);
   return view;
 }
@@ -39,9 +40,9 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
   void inizialize(NSString name, UIImage image, BOOL border) {
     dress_as_row(self, name, image, border ? RowBorder::kHairline : RowBorder::kNone);
     add_track();
-    const auto tap = UITapGestureRecognizer::alloc().initWithTarget(self, "animate"_sel);
+    const auto tap =
+        objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(self, "animate"_sel));
     self.addGestureRecognizer(tap);
-    tap.release();
     // Off is how it is drawn; on is where it goes from there.
     if (is_true(self.getValue())) self.animate();
   }
@@ -66,25 +67,24 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
  private:
   static SwitcherState& state(Switcher switcher) { return objc::state_of<SwitcherState>(switcher); }
 
-  NSString key() const { return getNotTranslated(self.layer().name()); }
+  PreferenceKey key() const { return PreferenceKey(getNotTranslated(self.layer().name())); }
 
   void add_track() {
     const CGSize size = self.frame().size;
-    const UIView track = round_white_view(
+    const auto track = round_white_view(
         {size.width - kTrackFromRight, kTrackMargin, kTrackWidth, size.height - 2 * kTrackMargin});
     // The fill has corners, and the track is round.
-    track.layer().setMasksToBounds(YES);
-    const CGFloat side = track.frame().size.height - 2 * kKnobInset;
-    knob_ = round_white_view({kKnobInset, kKnobInset, side, side});
-    track.addSubview(knob_);
-    fill_ = UIView::alloc().initWithFrame({0, 0, side / 2, side});
-    fill_.setBackgroundColor(pattern_color());
-    track.addSubview(fill_);
-    track.bringSubviewToFront(knob_);
+    track->layer().setMasksToBounds(YES);
+    const CGFloat side = track->frame().size.height - 2 * kKnobInset;
+    const auto knob = round_white_view({kKnobInset, kKnobInset, side, side});
+    track->addSubview(knob);
+    const auto fill = objc::adopt(UIView::alloc().initWithFrame({0, 0, side / 2, side}));
+    fill->setBackgroundColor(pattern_color());
+    track->addSubview(fill);
+    track->bringSubviewToFront(knob);
     self.addSubview(track);
-    fill_.release();
-    knob_.release();
-    track.release();
+    knob_ = knob;
+    fill_ = fill;
   }
 
   void move_to(BOOL on) const {

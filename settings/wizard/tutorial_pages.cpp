@@ -1,6 +1,8 @@
+#include "objc/ref.h"
 #include "platform/UIKit/UIImageView.h"
 #include "settings/wizard/page_parts.h"
 #include "settings/wizard/question_pages.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -10,14 +12,12 @@ constexpr CGFloat kPictureCorner = 30;
 constexpr CGFloat kRowHeight = 45;
 
 void add_picture(UIView page, CGSize size) {
-  const UIImageView picture = UIImageView::alloc().initWithFrame(
-      {(size.width - kPictureSide) / 2, size.height / 2 + 60, kPictureSide, kPictureSide});
-  picture.layer().setMasksToBounds(YES);
-  picture.layer().setCornerRadius(kPictureCorner);
-  picture.setImage(
-      UIImage::imageWithContentsOfFile("/Library/Application Support/Sonavue/tut1.png"_ns));
+  const auto picture = objc::adopt(UIImageView::alloc().initWithFrame(
+      {(size.width - kPictureSide) / 2, size.height / 2 + 60, kPictureSide, kPictureSide}));
+  picture->layer().setMasksToBounds(YES);
+  picture->layer().setCornerRadius(kPictureCorner);
+  picture->setImage(asset<"tut1.png">());
   page.addSubview(picture);
-  picture.release();
 }
 
 }  // namespace
@@ -42,8 +42,8 @@ void add_tutorial_pages(NSMutableArray pages, CGRect bounds, styleController tar
        whole, kManyLines});
   add_linker(
       add_text_page(pages, {"Finish"_ns, {0, 30, size.width, size.height - 150}, kManyLines}),
-      {0, size.height / 2 + 100, size.width, kRowHeight}, "Done"_ns,
-      "/Library/Application Support/Sonavue/Finish@2x.png"_ns, target, "dismissIntro"_sel);
+      {0, size.height / 2 + 100, size.width, kRowHeight}, "Done"_ns, asset_path<"Finish@2x.png">(),
+      target, "dismissIntro"_sel);
 }
 
 }  // namespace sonavue

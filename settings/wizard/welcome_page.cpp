@@ -3,6 +3,7 @@
 #include "objc/block.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIImageView.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -37,13 +38,12 @@ struct Style {
   UIColor color;
 };
 
-/// +1.
-UILabel centred_label(CGRect frame, NSString text, const Style& style) {
-  const UILabel label = UILabel::alloc().initWithFrame(frame);
-  label.setText(text);
-  label.setTextAlignment(NSTextAlignmentCenter);
-  label.setFont(UIFont::fontWithName(style.font, style.size));
-  label.setTextColor(style.color);
+objc::Ref<UILabel> centred_label(CGRect frame, NSString text, const Style& style) {
+  auto label = objc::adopt(UILabel::alloc().initWithFrame(frame));
+  label->setText(text);
+  label->setTextAlignment(NSTextAlignmentCenter);
+  label->setFont(UIFont::fontWithName(style.font, style.size));
+  label->setTextColor(style.color);
   return label;
 }
 
@@ -53,37 +53,35 @@ NSString ultra_light() {
 
 void add_logo(UIView page) {
   const CGFloat x = (page.frame().size.width - kLogoSide) / 2;
-  const UIImageView logo = UIImageView::alloc().initWithFrame({x, kLogoTop, kLogoSide, kLogoSide});
-  logo.setContentMode(UIViewContentModeScaleAspectFill);
-  logo.setImage(
-      UIImage::imageWithContentsOfFile("/Library/Application Support/Sonavue/logo_setup.png"_ns));
+  const auto logo =
+      objc::adopt(UIImageView::alloc().initWithFrame({x, kLogoTop, kLogoSide, kLogoSide}));
+  logo->setContentMode(UIViewContentModeScaleAspectFill);
+  logo->setImage(asset<"logo_setup.png">());
   page.addSubview(logo);
-  logo.release();
 }
 
 void add_title(UIView page) {
-  const UILabel title = centred_label({0, kTitleTop, page.frame().size.width, kTitleHeight},
-                                      "Sonavue"_ns, {ultra_light(), 55, UIColor::redColor()});
+  const auto title = centred_label({0, kTitleTop, page.frame().size.width, kTitleHeight},
+                                   "Sonavue"_ns, {ultra_light(), 55, UIColor::redColor()});
   page.addSubview(title);
-  title.release();
 }
 
 }  // namespace
 
-UIView WelcomePage::build(CGRect bounds) {
+objc::Ref<UIView> WelcomePage::build(CGRect bounds) {
   const CGSize size = bounds.size;
-  const UIView page = UIView::alloc().initWithFrame(bounds);
+  auto page = objc::adopt(UIView::alloc().initWithFrame(bounds));
   add_logo(page);
   add_title(page);
   hello_ = centred_label(
       {kHelloMargin, kHelloTop, size.width - 2 * kHelloMargin, size.height / 2},
       "Welcome to Sonavue, a tweak that will improve the way of listening to Music! Swipe this page and set your preferences!"_ns,
       {ultra_light(), 28, UIColor::blackColor()});
-  hello_.setNumberOfLines(10);
-  page.addSubview(hello_);
+  hello_->setNumberOfLines(10);
+  page->addSubview(hello_);
   hint_[0] = centred_label({{kHintX, size.height - kMarkFromBottom}, kMarkSize}, "›"_ns,
                            {ultra_light(), 80, UIColor::blackColor()});
-  page.addSubview(hint_[0]);
+  page->addSubview(hint_[0]);
   add_letters(page, bounds);
   return page;
 }
@@ -103,7 +101,7 @@ void WelcomePage::add_letters(UIView page, CGRect bounds) {
 void WelcomePage::wave(objc::Block<void(BOOL)> at_end) const {
   for (int i = 0; i < kHintParts; ++i) {
     // The labels may be let go while the last wave is still on its way.
-    const auto part = objc::Ref<UILabel>::retain(hint_[i]);
+    const objc::Ref<UILabel> part = hint_[i];
     const bool is_last = i == kHintParts - 1;
     const objc::OwnedBlock<void(BOOL)> end(is_last ? at_end : nullptr);
     UIView::animateWithDuration(
@@ -116,12 +114,9 @@ void WelcomePage::wave(objc::Block<void(BOOL)> at_end) const {
 }
 
 void WelcomePage::release_labels() {
-  hello_.release();
-  hello_ = nil;
-  for (UILabel& part : hint_) {
-    part.release();
-    part = nil;
-  }
+  hello_.reset();
+  for (objc::Ref<UILabel>& part : hint_)
+    part.reset();
 }
 
 }  // namespace sonavue

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "objc/ref.h"
 #include "platform/UIKit/UILabel.h"
 
 namespace sonavue {
@@ -10,8 +11,8 @@ class WelcomePage {
   /// The mark that points the way, and the twelve letters behind it.
   static constexpr int kHintParts = 13;
 
-  /// A view as large as `bounds`; +1. The labels are kept until `release_labels`.
-  UIView build(CGRect bounds);
+  /// A view as large as `bounds`. The labels are kept until `release_labels`.
+  [[nodiscard]] objc::Ref<UIView> build(CGRect bounds);
 
   /// Lets every part of the hint fade and come back, one a little later than the other. `at_end`
   /// is called when the last is back.
@@ -22,8 +23,8 @@ class WelcomePage {
  private:
   void add_letters(UIView page, CGRect bounds);
 
-  UILabel hello_;
-  UILabel hint_[kHintParts];
+  objc::Ref<UILabel> hello_;
+  objc::Ref<UILabel> hint_[kHintParts];
 };
 
 }  // namespace sonavue

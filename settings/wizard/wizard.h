@@ -1,5 +1,7 @@
 #pragma once
 
+#include "objc/ref.h"
+#include "platform/Activator/LAListenerSettingsViewController.h"
 #include "platform/UIKit/UIPageViewController.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "settings/pane/style_page.h"
@@ -38,11 +40,11 @@ class Wizard {
 
   styleController owner_;
   WelcomePage welcome_;
-  UIViewController main_;
-  UIPageViewController controller_;
-  NSMutableArray controllers_;
-  NSArray blurs_;
-  UIViewController gesture_page_;
+  objc::Ref<UIViewController> main_;
+  objc::Ref<UIPageViewController> controller_;
+  objc::Ref<NSMutableArray> controllers_;
+  objc::Ref<NSArray> blurs_;
+  objc::Ref<LAListenerSettingsViewController> gesture_page_;
 };
 
 }  // namespace sonavue

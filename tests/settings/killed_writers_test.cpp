@@ -92,7 +92,7 @@ class KilledWriters : public host::test::HostTest, public SettingsDevice {
   /// What the pane wrote last, to see that it gets on.
   static std::string last_settings() {
     const objc::AutoreleasePool pool;
-    const auto value = objc::cast<NSObject>(stored_value("setting-0"_ns));
+    const auto value = objc::cast<NSObject>(stored_value(PreferenceKey("setting-0"_ns)));
     return value ? value.description().UTF8String() : "";
   }
 };
@@ -116,7 +116,7 @@ TEST_F(KilledWriters, NeverHurtTheFileNorLeaveAnother) {
   pane.reset();
   home.reset();
   EXPECT_TRUE(loads());
-  store("red"_ns, "tint"_ns);
+  store("red"_ns, preference::tint());
   EXPECT_TRUE(stands_alone());
 }
 

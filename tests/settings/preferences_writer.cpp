@@ -7,7 +7,7 @@
 #include "objc/autorelease_pool.h"
 #include "platform/Foundation/NSValue.h"
 #include "settings/preferences.h"
-#include "tweak/preferences/get_pref.h"
+#include "tweak/preferences/poll.h"
 
 // `preferences_writer DEVICE pane|home`: writes the device's preferences file as fast as it can, as
 // the pane does or as the home screen does, until it is killed.
@@ -18,7 +18,8 @@ constexpr int kKeys = 7;
 
 void change_as_pane(int turn) {
   const std::string key = "setting-" + std::to_string(turn % kKeys);
-  sonavue::store(NSNumber::numberWithInteger(turn), NSString::stringWithUTF8String(key.c_str()));
+  sonavue::store(NSNumber::numberWithInteger(turn),
+                 sonavue::PreferenceKey(NSString::stringWithUTF8String(key.c_str())));
 }
 
 }  // namespace

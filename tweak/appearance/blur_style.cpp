@@ -1,9 +1,11 @@
 #include "tweak/appearance/blur_style.h"
 
-#include "tweak/preferences/get_pref.h"
+#include "tweak/preferences/preferences.h"
 
 namespace sonavue {
 namespace {
+
+constexpr _UIBackdropViewStyle kInitialBlurStyle = 3900;
 
 struct NamedBlur {
   NSString name;
@@ -18,8 +20,12 @@ BlurStyle make(objc::Class settings, _UIBackdropViewStyle number) {
 
 }  // namespace
 
+_UIBackdropViewSettings initial_blur() {
+  return _UIBackdropViewSettingsPasscodePaddle::settingsForStyle(kInitialBlurStyle);
+}
+
 BlurStyle chosen_blur() {
-  const auto wanted = objc::cast<NSObject>(getPref("blur"_ns, "adaptive_light"_ns));
+  const auto wanted = objc::cast<NSObject>(getPref(preference::blur(), "adaptive_light"_ns));
   const NamedBlur blurs[] = {
       {"adaptive_light"_ns, _UIBackdropViewSettingsAdaptiveLight::cls(), 2060},
       {"dark"_ns, _UIBackdropViewSettingsDark::cls(), 2030},

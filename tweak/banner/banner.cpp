@@ -12,15 +12,9 @@ namespace {
 
 constexpr double kContentFade = 0.01;
 constexpr double kTravel = 0.5;
-constexpr CGFloat kAroundPlay = 25 + 15;
-constexpr CGFloat kTexts = 60;
-constexpr CGFloat kLessOnSmallScreens = 15;
-
-CGFloat banner_height() {
-  CGFloat height = play.frame().size.height + kAroundPlay;
-  if (container1.alpha() == 1) height += kTexts;
-  if (max == 0 && mc.isPlaying()) height -= kLessOnSmallScreens;
-  return height;
+// Only here is a small screen's banner longer while nothing plays.
+void come_down() {
+  hang_window(banner_height(container1.alpha() == 1, max == 0 && mc.isPlaying()));
 }
 
 void show_artwork_page() {
@@ -73,7 +67,7 @@ void showBanner(SpringBoard) {
   music.setHidden(NO);
   cover.setAlpha(1);
   container.setAlpha(1);
-  UIView::animateWithDuration(kTravel, objc::block([] { hang_window(banner_height()); }));
+  UIView::animateWithDuration(kTravel, objc::block([] { come_down(); }));
 }
 
 void dismissBanner(SpringBoard) {

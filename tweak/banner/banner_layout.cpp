@@ -1,15 +1,10 @@
 #include "tweak/banner/banner_layout.h"
 
 #include "tweak/look/geometry.h"
+#include "tweak/look/measures.h"
 
 namespace sonavue {
 namespace {
-
-constexpr CGFloat kLift = -45;
-constexpr CGFloat kTextsGap = 10;
-constexpr CGFloat kPlayGap = 10;
-constexpr CGFloat kSkipGap = 20;
-constexpr CGFloat kGapAbovePlay = 5;
 
 void stand_above_bottom(UIView view, CGFloat gap) {
   move_to_y(view, container.frame().size.height - view.frame().size.height - gap);
@@ -31,8 +26,13 @@ void rise(UIView view, float first, CGFloat distance, CGFloat bottom_above, CGFl
 
 }  // namespace
 
+CGFloat banner_height(bool with_texts, bool shortened) {
+  return play.frame().size.height + kBannerAroundPlay + (with_texts ? kBannerTexts : 0) -
+         (shortened ? kBannerLessOnSmallScreens : 0);
+}
+
 CGFloat lift_without_texts() {
-  return container1.alpha() != 0 ? 0 : kLift;
+  return container1.alpha() != 0 ? 0 : -kLift;
 }
 
 void stand_below_artwork() {
@@ -47,7 +47,7 @@ void stand_at_bottom() {
   stand_above_bottom(back, kSkipGap);
   stand_above_bottom(play, kPlayGap);
   stand_above_bottom(next, kSkipGap);
-  move_to_y(container1, play.frame().origin.y - container1.frame().size.height - kGapAbovePlay);
+  move_to_y(container1, play.frame().origin.y - container1.frame().size.height - kBannerTextsGap);
 }
 
 void keep_resting_places() {

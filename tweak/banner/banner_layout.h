@@ -6,6 +6,10 @@
 
 namespace sonavue {
 
+/// How much of the window hangs down as the banner: for what it shows besides the controls, and
+/// shortened where a small screen needs it.
+CGFloat banner_height(bool with_texts, bool shortened);
+
 /// What everything below the texts is moved by while they are hidden.
 CGFloat lift_without_texts();
 

@@ -1,11 +1,12 @@
 #include "tweak/banner/grabber.h"
 
 #include "platform/SpringBoard/SBControlCenterController.h"
-#include "tweak/banner/banner.h"
 #include "tweak/banner/banner_layout.h"
 #include "tweak/look/geometry.h"
+#include "tweak/look/measures.h"
 #include "tweak/look/pieces.h"
 #include "tweak/motion/movement.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -69,12 +70,40 @@ void give_back() {
                               }));
 }
 
+void add_grab_picture() {
+  const CGSize bar = grabbers.frame().size;
+  const auto picture = objc::adopt(UIImageView::alloc().initWithFrame(
+      {(bar.width - kGrabSize.width) / 2, (bar.height - kGrabSize.height) / 2, kGrabSize.width,
+       kGrabSize.height}));
+  grabs = picture;
+  show_grabber(Grabber::kDragging);
+  picture->setTintColor(UIColor::whiteColor());
+  grabbers.addSubview(picture);
+}
+
 }  // namespace
 
 void show_grabber(Grabber picture) {
-  grabs.setImage(template_image(picture == Grabber::kDragging
-                                    ? "/Library/Application Support/Sonavue/grab_dragging@2x.png"_ns
-                                    : "/Library/Application Support/Sonavue/grab_done@2x.png"_ns));
+  grabs.setImage(picture == Grabber::kDragging ? template_asset<"grab_dragging@2x.png">()
+                                               : template_asset<"grab_done@2x.png">());
+}
+
+void make_grabber(SpringBoard self) {
+  const CGSize around = cover.frame().size;
+  const auto strip = objc::adopt(UIView::alloc().initWithFrame(
+      {0, around.height - kGrabberHeight, around.width, kGrabberHeight}));
+  grabbers = strip;
+  add_grab_picture();
+  const auto line = make_line({0, 0, strip->frame().size.width, kGrabberLine});
+  top2 = line;
+  strip->addSubview(line);
+
+  const auto pan =
+      objc::adopt(UIPanGestureRecognizer::alloc().initWithTarget(self, "presentBanner:"_sel));
+  strip->addGestureRecognizer(pan);
+  strip->setHidden(YES);
+  // On the backdrop, and so unseen whenever that is.
+  cover.addSubview(strip);
 }
 
 void presentBanner(SpringBoard self, UIPanGestureRecognizer pan) {

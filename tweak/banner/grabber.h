@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/SpringBoard/SpringBoard.h"
+#include "platform/UIKit/UIPanGestureRecognizer.h"
+
 namespace sonavue {
 
 enum class Grabber {
@@ -7,7 +10,13 @@ enum class Grabber {
   kDone,      // once it is fully open
 };
 
+/// Makes the grabber along the lower edge of the backdrop, hidden, with its drag.
+void make_grabber(SpringBoard self);
+
 /// Chooses the picture of the grabber.
 void show_grabber(Grabber picture);
+
+/// The drag of the grabber: down opens the banner, up from where it began sends it away.
+void presentBanner(SpringBoard self, UIPanGestureRecognizer pan);
 
 }  // namespace sonavue

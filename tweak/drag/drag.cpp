@@ -1,7 +1,9 @@
 #include "tweak/drag/drag.h"
 
 #include "tweak/look/geometry.h"
+#include "tweak/look/measures.h"
 #include "tweak/motion/album_table_slide.h"
+#include "tweak/motion/durations.h"
 #include "tweak/motion/icon_home.h"
 #include "tweak/motion/movement.h"
 #include "tweak/search/search.h"
@@ -13,10 +15,6 @@ namespace {
 // The animation takes a single-precision tenth of a second, widened.
 constexpr double kGlide = 0.1f;
 constexpr CGFloat kGlideShare = 10;
-// The twin stands this much aside of the icon on the frame of the release, and on that one only.
-constexpr CGFloat kReleaseAside = 5.0;
-constexpr double kContentFade = 0.7;
-constexpr double kTableSlide = 0.2;
 
 // Where something that stood at `first` when the drag began is now; the grab keeps its place
 // under the finger.

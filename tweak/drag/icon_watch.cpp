@@ -1,22 +1,25 @@
 #include "tweak/drag/icon_watch.h"
 
-#include "platform/SpringBoard/SBIcon.h"
+#include "objc/ref.h"
+#include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "tweak/Sonavue2.h"
 #include "tweak/look/music_application.h"
+#include "tweak/preferences/preferences.h"
 
 namespace sonavue {
 namespace {
 
-bool is_music(SBIconView icon) {
-  return icon.icon().application().bundleIdentifier().isEqualToString("com.apple.Music"_ns);
-}
-
-void detach() {
+void take_drag_off() {
   remove_gesture_recognizers(musicIcon);
   added = NO;
 }
 
-// The view that we knew shows another icon now, or none.
+void put_drag_on(SpringBoard self) {
+  attach_drag(self);
+  added = YES;
+}
+
+// The view that was known shows another icon now, or none.
 void find_icon_again(SpringBoard self) {
   remove_gesture_recognizers(musicIcon);
   if (!find_music_application()) return;
@@ -25,26 +28,42 @@ void find_icon_again(SpringBoard self) {
     added = NO;
     return;
   }
-  attach_drag(self);
-  added = YES;
+  put_drag_on(self);
 }
 
 void keep_attached(SpringBoard self) {
   const bool in_folder = is_in_folder(musicIcon);
   if (!added && !in_folder) {
-    attach_drag(self);
-    added = YES;
+    put_drag_on(self);
   } else if (added && in_folder) {
-    detach();
+    take_drag_off();
   }
-  if (added && musicIcon.isEditing()) detach();
+  if (added && musicIcon.isEditing()) take_drag_off();
 }
 
 }  // namespace
 
+void remove_gesture_recognizers(UIView view) {
+  const auto recognizers = objc::adopt(view.gestureRecognizers().copy());
+  for (const auto recognizer : recognizers->of<UIGestureRecognizer>())
+    view.removeGestureRecognizer(recognizer);
+}
+
+void attach_drag(SpringBoard self) {
+  const auto pan = objc::adopt(UIPanGestureRecognizer::alloc().initWithTarget(self, "sposta:"_sel));
+  remove_gesture_recognizers(musicIcon);
+  musicIcon.addGestureRecognizer(pan);
+  musicIcon.setUserInteractionEnabled(YES);
+  pan->setCancelsTouchesInView(YES);
+}
+
+void attach_first_drag(SpringBoard self) {
+  if (!is_in_folder(musicIcon) && !preference_is_on(preference::apex(), NO)) put_drag_on(self);
+}
+
 void Loping1(SpringBoard self) {
   if (!enabled) return;
-  if (is_music(musicIcon)) {
+  if (shows_music_icon(musicIcon)) {
     keep_attached(self);
   } else {
     find_icon_again(self);

@@ -3,6 +3,7 @@
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "tweak/look/geometry.h"
 #include "tweak/motion/album_table_slide.h"
+#include "tweak/motion/durations.h"
 #include "tweak/motion/icon_home.h"
 #include "tweak/motion/movement.h"
 #include "tweak/search/search.h"
@@ -10,10 +11,6 @@
 
 namespace sonavue {
 namespace {
-
-constexpr double kIconTravel = 0.5;
-constexpr double kContentFade = 0.7;
-constexpr double kTableSlide = 0.2;
 
 // One tenth of the way down the area of the icons: that of the page, or for a dock icon the area
 // above the dock, in the dock's own coordinates.

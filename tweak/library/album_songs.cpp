@@ -1,21 +1,20 @@
 #include "tweak/library/album_songs.h"
 
+#include "tweak/appearance/color.h"
 #include "tweak/library/album_tile.h"
 #include "tweak/library/song_cell.h"
-#include "tweak/preferences/get_pref.h"
+#include "tweak/look/pieces.h"
 
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kPictureCorner = 10;
-constexpr CGFloat kPictureBorder = 1.5;
 constexpr double kFadeIn = 0.3;
 
-MPMediaQuery songs_of_album(NSString album) {
-  const MPMediaQuery query = MPMediaQuery::alloc().init();
-  query.addFilterPredicate(
+objc::Ref<MPMediaQuery> query_for_album(NSString album) {
+  auto query = objc::adopt(MPMediaQuery::alloc().init());
+  query->addFilterPredicate(
       MPMediaPropertyPredicate::predicateWithValue(album, MPMediaItemPropertyAlbumPersistentID));
-  return query.autorelease();
+  return query;
 }
 
 NSString persistent_id(MPMediaItem item) {
@@ -31,23 +30,21 @@ UIImage picture_of(MPMediaItem item, UIView tile, CGFloat side) {
 void add_picture(UIView song, UIImage image, CGFloat side) {
   const CGFloat margin = side / 6;
   const auto picture =
-      UIImageView::alloc().initWithFrame({margin, margin, 2 * side / 3, 2 * side / 3});
-  picture.setImage(image);
-  picture.layer().setMasksToBounds(YES);
-  picture.layer().setCornerRadius(kPictureCorner);
-  picture.layer().setBorderWidth(kPictureBorder);
-  picture.layer().setBorderColor((legibility ? newColor : color("tint"_ns)).CGColor());
+      objc::adopt(UIImageView::alloc().initWithFrame({margin, margin, 2 * side / 3, 2 * side / 3}));
+  picture->setImage(image);
+  picture->layer().setMasksToBounds(YES);
+  picture->layer().setCornerRadius(kSongPictureCorner);
+  picture->layer().setBorderWidth(kSongPictureBorder);
+  picture->layer().setBorderColor((legibility ? newColor : color(preference::tint())).CGColor());
   song.addSubview(picture);
-  picture.release();
 }
 
 void add_title(UIView song, MPMediaItem item, CGFloat side) {
-  const UILabel label =
+  const auto label =
       make_tile_title({0, 5 * side / 6, side, side / 6},
                       objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyTitle)));
-  label.setTextColor(legibility ? newColor : color("font_tint"_ns));
+  label->setTextColor(legibility ? newColor : color(preference::font_tint()));
   song.addSubview(label);
-  label.release();
 }
 
 void fade_in(UIView view) {
@@ -59,17 +56,15 @@ void fade_in(UIView view) {
 CGPoint add_song(SpringBoard self, UIScrollView grid, UIView tile, MPMediaItem item,
                  NSUInteger index) {
   const CGFloat side = grid_side(grid.frame().size.width);
-  const UIView song = UIView::alloc().initWithFrame(grid_frame(index, side));
+  const auto song = objc::adopt(UIView::alloc().initWithFrame(grid_frame(index, side)));
   add_picture(song, picture_of(item, tile, side), side);
   add_title(song, item, side);
-  song.layer().setName(persistent_id(item));
+  song->layer().setName(persistent_id(item));
   add_tap(song, self, "playSongInAlbum:"_sel);
-  song.setUserInteractionEnabled(YES);
+  song->setUserInteractionEnabled(YES);
   grid.addSubview(song);
   fade_in(song);
-  const CGPoint corner{song.frame().max_x(), song.frame().max_y()};
-  song.release();
-  return corner;
+  return {song->frame().max_x(), song->frame().max_y()};
 }
 
 CGFloat scrollable(CGFloat content, CGFloat visible) {
@@ -89,16 +84,17 @@ void zoom_out() {
 
 }  // namespace
 
-UIScrollView make_song_grid(SpringBoard self, UIView tile, CGFloat side) {
-  const UIScrollView grid = UIScrollView::alloc().initWithFrame({0, 0, side, side});
-  grid.setShowsHorizontalScrollIndicator(NO);
-  grid.setShowsVerticalScrollIndicator(NO);
-  grid.setBackgroundColor(UIColor::clearColor());
+objc::Ref<UIScrollView> make_song_grid(SpringBoard self, UIView tile, CGFloat side) {
+  auto grid = objc::adopt(UIScrollView::alloc().initWithFrame({0, 0, side, side}));
+  grid->setShowsHorizontalScrollIndicator(NO);
+  grid->setShowsVerticalScrollIndicator(NO);
+  grid->setBackgroundColor(UIColor::clearColor());
   NSUInteger index = 0;
   CGPoint corner{};
-  for (const auto item : songs_of_album(tile.layer().name()).items().of<MPMediaItem>())
+  const auto query = query_for_album(tile.layer().name());
+  for (const auto item : query->items().of<MPMediaItem>())
     corner = add_song(self, grid, tile, item, index++);
-  grid.setContentSize(
+  grid->setContentSize(
       {scrollable(corner.x + kTileGap, side), scrollable(corner.y + kTileGap, side)});
   return grid;
 }

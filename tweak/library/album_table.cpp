@@ -1,7 +1,9 @@
 #include "tweak/library/album_table.h"
 
+#include "objc/ref.h"
 #include "tweak/Sonavue2.h"
 #include "tweak/library/song_cell.h"
+#include "tweak/library/track_lock.h"
 
 namespace sonavue {
 namespace {
@@ -50,6 +52,17 @@ void make_album_table_source() {
         .method<&will_select>("tableView:willSelectRowAtIndexPath:")
         .method<&did_select>("tableView:didSelectRowAtIndexPath:");
   });
+}
+
+void make_album_table() {
+  const auto table = objc::adopt(UITableView::alloc().initWithFrame(blurTable.bounds()));
+  tablev = table;
+  table->setBackgroundColor(UIColor::clearColor());
+  const auto source = MusicsAlbum::alloc().init();
+  table->setDataSource(source);
+  table->setDelegate(source);
+  table->setSeparatorColor(UIColor::whiteColor());
+  blurTable.addSubview(table);
 }
 
 }  // namespace sonavue

@@ -10,4 +10,7 @@ namespace sonavue {
 
 void make_album_table_source();
 
+/// Makes the table on `blurTable`, with a source that nothing keeps and that is never released.
+void make_album_table();
+
 }  // namespace sonavue

@@ -1,19 +1,12 @@
 #pragma once
 
 #include "tweak/Sonavue2.h"
+#include "tweak/look/measures.h"
 
 // A tile of the album strip: a view with the cover first and the album's title second. The name of
 // its layer is the album's persistent id.
 
 namespace sonavue {
-
-inline constexpr CGFloat kTileGap = 10;
-inline constexpr CGFloat kCoverCorner = 15;
-inline constexpr CGFloat kTileTitleSize = 12;
-
-inline NSString tile_font() {
-  return "HelveticaNeue"_ns;
-}
 
 /// The frame of the tile with this number in a grid of two columns, in points; tiles are squares.
 inline CGRect grid_frame(NSUInteger index, CGFloat side) {
@@ -33,11 +26,5 @@ inline UIImageView cover_of(UIView tile) {
 inline UILabel title_of(UIView tile) {
   return objc::cast<UILabel>(tile.subviews().objectAtIndex(1));
 }
-
-/// A label of one centred line in the font of the tiles; +1.
-UILabel make_tile_title(CGRect frame, NSString text);
-
-/// Lets a tap on the view send `action` to `target`.
-void add_tap(UIView view, objc::Object target, objc::Sel action);
 
 }  // namespace sonavue

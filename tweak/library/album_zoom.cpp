@@ -4,6 +4,7 @@
 #include "tweak/appearance/blur_style.h"
 #include "tweak/library/album_songs.h"
 #include "tweak/library/album_tile.h"
+#include "tweak/look/pieces.h"
 
 namespace sonavue {
 namespace {
@@ -12,9 +13,6 @@ constexpr double kGrow = 0.2;
 constexpr double kShrink = 0.3;
 constexpr double kFade = 0.2;
 constexpr double kHeadingFade = 0.3;
-constexpr CGFloat kZoomedCorner = 30;
-constexpr CGFloat kHeadingHeight = 40;
-constexpr CGFloat kHeadingSize = 28;
 
 struct Zoom {
   UIView tile;
@@ -38,12 +36,12 @@ void round_cover(UIImageView cover, CGFloat from, CGFloat to) {
   cover.layer().setCornerRadius(to);
 }
 
-_UIBackdropView make_backdrop(UIView tile) {
+objc::Ref<_UIBackdropView> make_backdrop(UIView tile) {
   const CGSize size = tile.frame().size;
-  const auto backdrop = _UIBackdropView::alloc().initWithFrame({0, 0, size.width, size.height}, YES,
-                                                               chosen_blur().settings);
-  backdrop.setUserInteractionEnabled(YES);
-  backdrop.setAlpha(0);
+  auto backdrop = objc::adopt(_UIBackdropView::alloc().initWithFrame(
+      {0, 0, size.width, size.height}, YES, chosen_blur().settings));
+  backdrop->setUserInteractionEnabled(YES);
+  backdrop->setAlpha(0);
   return backdrop;
 }
 
@@ -67,9 +65,9 @@ void grow(const Zoom& zoom) {
 }
 
 void show_heading(const Zoom& zoom) {
-  zoom.title.setFrame({0, -kHeadingHeight, zoomed_side(), kHeadingHeight});
-  zoom.title.setFont(UIFont::fontWithName("HelveticaNeue-Light"_ns, kHeadingSize));
-  round_cover(zoom.cover, kCoverCorner, kZoomedCorner);
+  zoom.title.setFrame({0, -kZoomedTitleHeight, zoomed_side(), kZoomedTitleHeight});
+  zoom.title.setFont(UIFont::fontWithName("HelveticaNeue-Light"_ns, kZoomedTitleSize));
+  round_cover(zoom.cover, kCoverCorner, kZoomedCoverCorner);
   zoom.title.setAlpha(0);
   UIView::animateWithDuration(kHeadingFade,
                               objc::block([title = zoom.title] { title.setAlpha(1); }));
@@ -99,7 +97,7 @@ void take_backdrop_away(const Zoom& zoom) {
 
 void shrink(const Zoom& zoom) {
   zoom.title.setFont(UIFont::fontWithName(tile_font(), kTileTitleSize));
-  round_cover(zoom.cover, kZoomedCorner, kCoverCorner);
+  round_cover(zoom.cover, kZoomedCoverCorner, kCoverCorner);
   UIView::animateWithDuration(kShrink, objc::block([zoom] {
                                 for (const auto tile : albums.subviews().of<UIView>())
                                   tile.setAlpha(1);
@@ -118,16 +116,15 @@ void zoomInAlbum(SpringBoard self, UITapGestureRecognizer tap) {
   // It is still on its way back, and its frame is not its own yet.
   if (backdrop_of(cover_of(tile))) return;
   albums.bringSubviewToFront(tile);
-  const Zoom zoom{tile, cover_of(tile), title_of(tile), make_backdrop(tile)};
+  const auto backdrop = make_backdrop(tile);
+  const Zoom zoom{tile, cover_of(tile), title_of(tile), backdrop};
   save_places(zoom);
   // The songs lie inside the cover and are tapped there.
   zoom.cover.setUserInteractionEnabled(YES);
-  zoom.cover.addSubview(zoom.backdrop);
-  zoom.backdrop.release();
+  zoom.cover.addSubview(backdrop);
   albums.setScrollEnabled(NO);
-  const UIScrollView grid = make_song_grid(self, tile, zoomed_side());
-  zoom.backdrop.addSubview(grid);
-  grid.release();
+  const auto grid = make_song_grid(self, tile, zoomed_side());
+  backdrop->addSubview(grid);
   UIView::animateWithDuration(kGrow, objc::block([zoom] { grow(zoom); }),
                               objc::block([zoom](BOOL) { show_heading(zoom); }));
 }

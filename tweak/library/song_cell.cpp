@@ -1,9 +1,9 @@
 #include "tweak/library/song_cell.h"
 
 #include "platform/CoreGraphics/CGAffineTransform.h"
-#include "platform/Foundation/NSTimer.h"
-#include "tweak/Sonavue2.h"
-#include "tweak/preferences/get_pref.h"
+#include "tweak/appearance/color.h"
+#include "tweak/look/pieces.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -34,8 +34,7 @@ UIImage artwork_of(MPMediaItem item, CGSize size) {
 }
 
 UIImage empty_cover() {
-  return UIImage::imageWithContentsOfFile(
-      "/Library/Application Support/Sonavue/empty_cover.png"_ns);
+  return asset<"empty_cover.png">();
 }
 
 UIImage artwork_or_empty(MPMediaItem item, CGSize size) {
@@ -46,31 +45,18 @@ UIImage artwork_or_empty(MPMediaItem item, CGSize size) {
 UITableViewCell song_cell(UITableView table, MPMediaItem item) {
   const UITableViewCell cell = reusable_cell(table);
   const UILabel label = cell.textLabel();
-  label.setFont(UIFont::fontWithName("HelveticaNeue"_ns, kFontSize));
-  label.setTextColor(color("font_tint"_ns));
+  label.setFont(UIFont::fontWithName(tile_font(), kFontSize));
+  label.setTextColor(color(preference::font_tint()));
   label.setNumberOfLines(kMostLines);
   label.setText(text_of(item));
 
   cell.imageView().setTransform(CGAffineTransformMakeScale(kPictureScale, kPictureScale));
   cell.setBackgroundColor(UIColor::clearColor());
-  const UIView selected = UIView::alloc().init();
-  selected.setBackgroundColor(UIColor::colorWithWhite(1, 0.3));
+  const auto selected = objc::adopt(UIView::alloc().init());
+  selected->setBackgroundColor(UIColor::colorWithWhite(1, 0.3));
   cell.setSelectedBackgroundView(selected);
-  selected.release();
   cell.imageView().setImage(artwork_or_empty(item, kPictureSize));
   return cell;
-}
-
-NSIndexPath begin_track_change(NSIndexPath path) {
-  if (changeTrack) return nil;
-  changeTrack = YES;
-  start_track_lock();
-  return path;
-}
-
-void start_track_lock() {
-  // The fire at once is the first tick; the second, one interval later, lifts the lock.
-  NSTimer::scheduledTimerWithTimeInterval(time_wait, Spring, "change:"_sel, nil, YES).fire();
 }
 
 }  // namespace sonavue

@@ -17,11 +17,4 @@ UIImage empty_cover();
 /// One or the other.
 UIImage artwork_or_empty(MPMediaItem item, CGSize size);
 
-/// Refuses while a track change is under way; otherwise locks further changes and lets the row
-/// be selected.
-NSIndexPath begin_track_change(NSIndexPath path);
-
-/// Starts the timer that lifts the lock of a track change after one `time_wait`.
-void start_track_lock();
-
 }  // namespace sonavue

@@ -2,12 +2,15 @@
 
 #include "tweak/Sonavue2.h"
 #include "tweak/library/song_cell.h"
+#include "tweak/library/track_lock.h"
+#include "tweak/look/geometry.h"
+#include "tweak/look/measures.h"
+#include "tweak/look/pieces.h"
 #include "tweak/search/search.h"
+#include "tweak/search/search_field.h"
 
 namespace sonavue {
 namespace {
-
-constexpr CGFloat kRowHeight = 35;
 
 NSMutableArray rows() {
   return isSearching ? result : songItems;
@@ -38,7 +41,7 @@ BOOL no_for_row(Musicz, UITableView, NSIndexPath) {
   return NO;
 }
 CGFloat row_height(Musicz, UITableView, NSIndexPath) {
-  return kRowHeight;
+  return kSongRowHeight;
 }
 NSInteger indentation(Musicz, UITableView, NSIndexPath) {
   return 0;
@@ -67,6 +70,15 @@ void did_select(Musicz, UITableView, NSIndexPath path) {
   musicPlayer.play();
 }
 
+// How much shorter the list is on small screens. Twice the width is compared with numbers of
+// pixels on purpose: the second one matches no screen of two pixels a point.
+float small_screen_correction() {
+  const float for_layout = max == 0 ? -15.0f : 0.0f;
+  const float twice_the_width = static_cast<float>(2 * screen_width());
+  const float for_width = twice_the_width == 750 ? -15.0f : twice_the_width == 1080 ? -25.0f : 0.0f;
+  return for_layout + for_width;
+}
+
 }  // namespace
 
 void make_song_list_source() {
@@ -83,6 +95,30 @@ void make_song_list_source() {
         .method<&will_select>("tableView:willSelectRowAtIndexPath:")
         .method<&did_select>("tableView:didSelectRowAtIndexPath:");
   });
+}
+
+void make_song_list(SpringBoard self) {
+  const CGFloat width = screen_width() / 2;
+  const CGFloat x = 1.25 * screen_width();
+  const CGFloat height = 2 * container.frame().size.height / 3 + 10 + small_screen_correction();
+  const auto list = objc::adopt(UITableView::alloc().initWithFrame({x, 0, width, height}));
+  tableView = list;
+  list->setBackgroundColor(UIColor::clearColor());
+  const auto source = Musicz::alloc().init();
+  list->setDataSource(source);
+  list->setDelegate(source);
+
+  const auto header =
+      objc::adopt(UIView::alloc().initWithFrame({0, 0, width, kSearchHeaderHeight}));
+  searchCont = header;
+  make_search_field(self);
+  list->setTableHeaderView(header);
+  container.addSubview(list);
+  // The header starts hidden above the first row until the user pulls the list down.
+  list->setContentOffset({0, kSearchHeaderHeight});
+
+  top = add_line_to_pages({x, 0, width, kListLine});
+  bottom = add_line_to_pages({x, height - kListLine, width, kListLine});
 }
 
 }  // namespace sonavue

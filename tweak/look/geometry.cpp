@@ -1,11 +1,8 @@
 #include "tweak/look/geometry.h"
 
+#include "tweak/look/measures.h"
+
 namespace sonavue {
-namespace {
-
-constexpr CGFloat kStatusBarHeight = 20.0;
-
-}  // namespace
 
 CGFloat icon_screen_offset() {
   if (!musicIcon.isInDock()) return kStatusBarHeight;

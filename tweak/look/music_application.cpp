@@ -2,11 +2,10 @@
 
 #include "platform/Foundation/NSLog.h"
 #include "platform/SpringBoard/SBApplicationController.h"
+#include "platform/SpringBoard/SBIcon.h"
 #include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBIconModel.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
-#include "platform/UIKit/UIPanGestureRecognizer.h"
-#include "tweak/Sonavue2.h"
 
 namespace sonavue {
 namespace {
@@ -38,27 +37,14 @@ SBIconView find_music_icon() {
   return home_screen_map().mappedIconViewForIcon(icon);
 }
 
+bool shows_music_icon(SBIconView icon) {
+  return icon.icon().application().bundleIdentifier().isEqualToString(music_identifier());
+}
+
 bool is_in_folder(SBIconView icon) {
   const UIView list = icon.superview();
   return list && NSString::stringWithUTF8String(class_getName(list.classOf()))
                      .isEqualToString("SBFolderIconListView"_ns);
-}
-
-void remove_gesture_recognizers(UIView view) {
-  const NSArray recognizers = view.gestureRecognizers().copy();
-  for (const auto recognizer : recognizers.of<UIGestureRecognizer>()) {
-    view.removeGestureRecognizer(recognizer);
-  }
-  recognizers.release();
-}
-
-void attach_drag(objc::Object target) {
-  const auto pan = UIPanGestureRecognizer::alloc().initWithTarget(target, "sposta:"_sel);
-  remove_gesture_recognizers(musicIcon);
-  musicIcon.addGestureRecognizer(pan);
-  musicIcon.setUserInteractionEnabled(YES);
-  pan.setCancelsTouchesInView(YES);
-  pan.release();
 }
 
 }  // namespace sonavue

@@ -11,13 +11,10 @@ SBApplication find_music_application();
 /// The home screen's present view of the Music icon.
 SBIconView find_music_icon();
 
+/// Does the view show the Music icon at present? The home screen uses its views again.
+bool shows_music_icon(SBIconView icon);
+
 /// Does the icon stand inside a folder? Its drag stays the folder's own there.
 bool is_in_folder(SBIconView icon);
-
-void remove_gesture_recognizers(UIView view);
-
-/// Puts a new drag recogniser on `musicIcon`, in place of every recogniser that it has: the home
-/// screen's own would compete with the drag.
-void attach_drag(objc::Object target);
 
 }  // namespace sonavue

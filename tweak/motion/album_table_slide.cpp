@@ -3,11 +3,10 @@
 #include <cstddef>
 
 #include "tweak/look/geometry.h"
+#include "tweak/motion/durations.h"
 
 namespace sonavue {
 namespace {
-
-constexpr double kSlideOut = 0.2;
 
 struct Swing {
   CGFloat x;
@@ -36,9 +35,13 @@ void slide_album_table_aside() {
   move_to(blurTable, blurTable.frame().size.width, 0);
 }
 
+void hide_album_table() {
+  UIView::animateWithDuration(kTableSlide, objc::block([] { slide_album_table_aside(); }));
+}
+
 void showTable(SpringBoard) {
   if (blurTable.frame().origin.x == 0) {
-    UIView::animateWithDuration(kSlideOut, objc::block([] { slide_album_table_aside(); }));
+    hide_album_table();
     return;
   }
   swing(0, ++slides);

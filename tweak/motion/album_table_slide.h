@@ -11,4 +11,7 @@ void showTable(SpringBoard self);
 /// Puts the table of the current album out of the artwork, to the right.
 void slide_album_table_aside();
 
+/// The same as a motion.
+void hide_album_table();
+
 }  // namespace sonavue

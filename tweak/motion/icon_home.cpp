@@ -1,12 +1,11 @@
 #include "tweak/motion/icon_home.h"
 
 #include "tweak/look/geometry.h"
+#include "tweak/motion/durations.h"
 #include "tweak/motion/movement.h"
 
 namespace sonavue {
 namespace {
-
-constexpr double kIconTravel = 0.5;
 
 // In whose coordinates `saved` is. Only compared, never sent a message.
 UIView list_of_home;

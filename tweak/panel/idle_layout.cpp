@@ -2,15 +2,12 @@
 
 #include "tweak/banner/banner_layout.h"
 #include "tweak/look/geometry.h"
+#include "tweak/look/measures.h"
 
 namespace sonavue {
 namespace {
 
 constexpr double kChange = 0.3;
-constexpr CGFloat kLift = 45;
-constexpr CGFloat kBannerAroundPlay = 25 + 15;
-constexpr CGFloat kBannerTexts = 60;
-constexpr CGFloat kSmallScreenLift = -15;
 
 void move_controls(CGFloat by) {
   for (const UIButton control : {play, back, next})
@@ -39,17 +36,15 @@ bool window_is_fully_down() {
 
 void lay_out_full() {
   hide = NO;
-  UIView::animateWithDuration(
-      kChange, objc::block([] {
-        if (window_is_fully_down()) {
-          move_controls(kLift);
-        } else if (isBanner) {
-          const CGFloat small = max != 0 ? 0 : kSmallScreenLift;
-          hang_window(small + play.frame().size.height + kBannerAroundPlay + kBannerTexts);
-        }
-        container1.setAlpha(1);
-      }),
-      resting_places_moved(kLift));
+  UIView::animateWithDuration(kChange, objc::block([] {
+                                if (window_is_fully_down()) {
+                                  move_controls(kLift);
+                                } else if (isBanner) {
+                                  hang_window(banner_height(true, max == 0));
+                                }
+                                container1.setAlpha(1);
+                              }),
+                              resting_places_moved(kLift));
 }
 
 void lay_out_compact() {
@@ -58,7 +53,7 @@ void lay_out_compact() {
                                 if (window_is_fully_down()) {
                                   move_controls(-kLift);
                                 } else if (isBanner) {
-                                  hang_window(play.frame().size.height + kBannerAroundPlay);
+                                  hang_window(banner_height(false, false));
                                 }
                                 container1.setAlpha(0);
                               }),

@@ -1,21 +1,26 @@
 #include "tweak/panel/panel.h"
 
 #include "tweak/Sonavue2.h"
+#include "tweak/banner/grabber.h"
+#include "tweak/drag/icon_watch.h"
+#include "tweak/library/album_strip.h"
+#include "tweak/library/album_table.h"
+#include "tweak/library/song_list.h"
+#include "tweak/library/songs.h"
 #include "tweak/look/music_application.h"
-#include "tweak/look/pieces.h"
-#include "tweak/preferences/get_pref.h"
+#include "tweak/panel/scroller.h"
+#include "tweak/panel/song_page.h"
+#include "tweak/panel/windows.h"
 
 namespace sonavue {
 
+// Each step uses the views of the steps before it.
 BOOL build_panel(SpringBoard self) {
   make_windows();
   make_backdrop();
   if (!find_music_application()) return NO;
   musicIcon = find_music_icon();
-  if (!is_in_folder(musicIcon) && !preference_is_on("apex"_ns, NO)) {
-    attach_drag(self);
-    added = YES;
-  }
+  attach_first_drag(self);
   make_icon_twin(self);
   make_pages();
   make_artwork(self);

@@ -1,15 +1,17 @@
 #include "tweak/panel/scroller.h"
 
+#include "objc/ref.h"
 #include "platform/UIKit/UIScreen.h"
 #include "tweak/banner/banner_layout.h"
 #include "tweak/look/geometry.h"
+#include "tweak/look/measures.h"
 #include "tweak/motion/icon_home.h"
 #include "tweak/motion/movement.h"
 
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kSkipWidth = 40;
+constexpr CGFloat kPages = 3;
 constexpr int kFirstSinkingGeneration = 5;
 
 // What a rise or a fall of the square root of the distance is divided by.
@@ -25,7 +27,7 @@ CGFloat centred(UIView view, CGFloat offset) {
 // The controls lie on the pages and are moved along with them, so that they stand still.
 void hold_controls(CGFloat offset) {
   const CGFloat sixth = screen_width() / 6;
-  move_to_x(next, offset + sixth + 2 * screen_width() / 3 - kSkipWidth);
+  move_to_x(next, offset + sixth + 2 * screen_width() / 3 - kSkipSize.width);
   move_to_x(play, centred(play, offset));
   move_to_x(back, offset + sixth);
   move_to_x(container1, centred(container1, offset));
@@ -70,6 +72,23 @@ void make_scroller() {
     builder.method<&will_begin_dragging>("scrollViewWillBeginDragging:")
         .method<&did_scroll>("scrollViewDidScroll:");
   });
+}
+
+void make_pages() {
+  const auto pages = objc::adopt(UIScrollView::alloc().initWithFrame(
+      {0, screen_height() / 4, screen_width(), 3 * screen_height() / 4 - 20}));
+  container = pages;
+  pages->setBackgroundColor(UIColor::clearColor());
+  pages->setAlpha(0);
+  window.addSubview(pages);
+  window.bringSubviewToFront(music);
+}
+
+void make_page_scrolling() {
+  container.setContentSize({kPages * screen_width(), container.frame().size.height});
+  container.setPagingEnabled(YES);
+  container.setShowsHorizontalScrollIndicator(NO);
+  container.setDelegate(Scroller::alloc().init());
 }
 
 }  // namespace sonavue

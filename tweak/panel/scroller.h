@@ -10,4 +10,11 @@ namespace sonavue {
 
 void make_scroller();
 
+/// Makes the paging scroll view, which all pages lie on.
+void make_pages();
+
+/// Lets the pages be turned, once they are there. Nothing keeps their delegate, which is never
+/// released.
+void make_page_scrolling();
+
 }  // namespace sonavue

@@ -3,9 +3,9 @@
 #include "platform/Foundation/NSIndexPath.h"
 #include "tweak/Sonavue2.h"
 #include "tweak/appearance/legibility.h"
-#include "tweak/look/pieces.h"
 #include "tweak/panel/idle_layout.h"
-#include "tweak/preferences/get_pref.h"
+#include "tweak/preferences/preferences.h"
+#include "ui/assets.h"
 
 namespace sonavue {
 namespace {
@@ -14,11 +14,11 @@ namespace {
 NSString picture_for_state(int state) {
   switch (state) {
     case MPMusicPlaybackStatePlaying:
-      return "/Library/Application Support/Sonavue/Pausa.png"_ns;
+      return asset_path<"Pausa.png">();
     case MPMusicPlaybackStateStopped:
     case MPMusicPlaybackStatePaused:
     case MPMusicPlaybackStateInterrupted:
-      return "/Library/Application Support/Sonavue/Play.png"_ns;
+      return asset_path<"Play.png">();
     default:
       return nil;
   }
@@ -46,7 +46,7 @@ void follow_elapsed_time() {
 }
 
 void move_ring() {
-  if (!preference_equals("play"_ns, "volume"_ns, "time"_ns)) return;
+  if (!preference_equals(preference::play(), "volume"_ns, "time"_ns)) return;
   const double duration = nowPlayingController.currentDuration();
   if (elapsed > duration) elapsed = duration;
   ring.setProgress(static_cast<float>(elapsed / duration), YES);
@@ -55,7 +55,7 @@ void move_ring() {
 void show_artwork() {
   const UIImage artwork = nowPlayingController.currentNowPlayingArtwork();
   art.setImage(artwork);
-  cover.setImage(preference_is_on("cover"_ns, YES) ? artwork : nil);
+  cover.setImage(preference_is_on(preference::cover(), YES) ? artwork : nil);
 }
 
 /// Puts the texts into the labels and gives the album's title.
@@ -103,7 +103,7 @@ void refresh_playing() {
 }
 
 void refresh_idle() {
-  if (cover.image() && !preference_is_on("cover"_ns, YES)) cover.setImage(nil);
+  if (cover.image() && !preference_is_on(preference::cover(), YES)) cover.setImage(nil);
   if (!hide) lay_out_compact();
 }
 

@@ -1,20 +1,14 @@
 #include "tweak/playback/transport.h"
 
+#include "objc/ref.h"
 #include "platform/Foundation/NSIndexPath.h"
-#include "tweak/library/song_cell.h"
+#include "tweak/Sonavue2.h"
 #include "tweak/library/song_list.h"
-#include "tweak/look/geometry.h"
+#include "tweak/library/track_lock.h"
 #include "tweak/motion/album_table_slide.h"
 
 namespace sonavue {
 namespace {
-
-constexpr double kTableSlide = 0.2;
-constexpr unsigned kTicksOfLock = 2;
-
-void hide_album_table() {
-  UIView::animateWithDuration(kTableSlide, objc::block([] { slide_album_table_aside(); }));
-}
 
 NSInteger song_count() {
   return static_cast<NSInteger>(songItems.count());
@@ -36,15 +30,13 @@ NSInteger row_after() {
 }
 
 void change_track(NSInteger (*target_row)()) {
-  if (isGrabbing || changeTrack) return;
-  changeTrack = YES;
+  if (isGrabbing || !lock_track()) return;
   if (!mc.isPlaying()) mc.togglePlayPause();
   musicPlayer.setQueueWithQuery(fullList);
   musicPlayer.prepareToPlay();
   musicPlayer.play();
-  const auto source = Musicz::alloc().init();
-  source.didSelectRowAtIndexPath(tableView, NSIndexPath::indexPathForRow(target_row(), 0));
-  source.release();
+  const auto source = objc::adopt(Musicz::alloc().init());
+  source->didSelectRowAtIndexPath(tableView, NSIndexPath::indexPathForRow(target_row(), 0));
   start_track_lock();
 }
 
@@ -61,15 +53,6 @@ void playBackSong(SpringBoard) {
 }
 void playNextSong(SpringBoard) {
   change_track(&row_after);
-}
-
-void change(SpringBoard, NSTimer timer) {
-  ++p;
-  if (p != kTicksOfLock) return;
-  p = 0;
-  timer.invalidate();
-  changeTrack = NO;
-  hide_album_table();
 }
 
 }  // namespace sonavue

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Foundation/NSTimer.h"
 #include "platform/SpringBoard/SpringBoard.h"
 
 namespace sonavue {
@@ -11,8 +10,5 @@ void playStop(SpringBoard self);
 /// change is under way or the banner is dragged.
 void playBackSong(SpringBoard self);
 void playNextSong(SpringBoard self);
-
-/// A tick of the lock timer; the second one lifts the lock.
-void change(SpringBoard self, NSTimer timer);
 
 }  // namespace sonavue

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "objc/own_class.h"
 #include "objc/ref.h"
+#include "tweak/Sonavue2.h"
 #include "tweak/search/title_index.h"
-
-struct SVHits : objc::Own<SVHits, "SVHits", NSMutableArray> {};
 
 namespace sonavue {
 
@@ -46,5 +44,9 @@ class Hits : public objc::Implementation<Hits, SVHits> {
 };
 
 void make_hits();
+
+inline Hits& hits_of(SVHits array) {
+  return objc::state_of<Hits>(array);
+}
 
 }  // namespace sonavue

@@ -40,7 +40,7 @@ void textDidChange(SpringBoard, UITextField field) {
   }
   isSearching = YES;
   if (result) {
-    auto& hits = objc::state_of<Hits>(result);
+    auto& hits = hits_of(result);
     index().follow(songItems);
     index().find(field.text().lowercaseString(), hits.places());
     hits.show(index().songs());

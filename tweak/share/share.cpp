@@ -1,5 +1,6 @@
 #include "tweak/share/share.h"
 
+#include "objc/ref.h"
 #include "platform/Twitter/TWTweetComposeViewController.h"
 #include "tweak/Sonavue2.h"
 
@@ -29,17 +30,15 @@ void tweet(SpringBoard) {
   // A second tap while the composer comes.
   if (window.rootViewController()) return;
   if (!art.image()) return;
-  const auto composer = TWTweetComposeViewController::alloc().init();
+  const auto composer = objc::adopt(TWTweetComposeViewController::alloc().init());
   if (!composer) return;
-  composer.setCompletionHandler(
+  composer->setCompletionHandler(
       objc::block([](TWTweetComposeViewControllerResult how) { composer_has_ended(how); }));
-  composer.setInitialText(share_text());
+  composer->setInitialText(share_text());
   // The window keeps this one until the composer is done.
-  const auto presenter = UIViewController::alloc().init();
+  const auto presenter = objc::adopt(UIViewController::alloc().init());
   window.setRootViewController(presenter);
-  presenter.presentModalViewController(composer, YES);
-  composer.release();
-  presenter.release();
+  presenter->presentModalViewController(composer, YES);
 }
 
 // The composer tells its handler of its own buttons only.

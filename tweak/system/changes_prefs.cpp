@@ -2,40 +2,24 @@
 
 #include "tweak/Sonavue2.h"
 #include "tweak/appearance/blur_style.h"
+#include "tweak/appearance/color.h"
 #include "tweak/appearance/colouring.h"
+#include "tweak/drag/icon_watch.h"
+#include "tweak/library/songs.h"
+#include "tweak/look/measures.h"
 #include "tweak/look/music_application.h"
-#include "tweak/preferences/get_pref.h"
-#include "tweak/search/search.h"
+#include "tweak/preferences/preferences.h"
 
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kRoundCorner = 50.0;
-constexpr PanelColours kChosenColours{[] { return color("tint"_ns); },
-                                      [] { return color("font_tint"_ns); }};
-
-bool is_only_in_cloud(MPMediaItem item) {
-  return objc::cast<NSNumber>(item.valueForProperty(MPMediaItemPropertyIsCloudItem)).boolValue();
-}
-
-void list_songs() {
-  if (preference_is_on("cloud"_ns, NO)) {
-    songItems.release();
-    songItems = NSMutableArray::alloc().initWithArray(fullList.items());
-  } else {
-    songItems.removeAllObjects();
-    for (const auto item : fullList.items().of<MPMediaItem>()) {
-      if (!is_only_in_cloud(item)) songItems.addObject(item);
-    }
-  }
-  read_titles_again();
-  tableView.reloadData();
-}
+constexpr PanelColours kChosenColours{[] { return color(preference::tint()); },
+                                      [] { return color(preference::font_tint()); }};
 
 // Off, the icon loses the home screen's own recognisers too, until the drag is on again.
 void switch_drag(SpringBoard self) {
-  if (preference_is_on("apex"_ns, NO)) return;
-  enabled = preference_in_file("enable"_ns);
+  if (preference_is_on(preference::apex(), NO)) return;
+  enabled = preference_in_file(preference::enable());
   if (enabled && !is_in_folder(musicIcon)) {
     attach_drag(self);
   } else {
@@ -58,9 +42,9 @@ void changesPrefs(SpringBoard self) {
   list_songs();
   switch_drag(self);
   const BlurStyle blur = chosen_blur();
-  art.layer().setCornerRadius(preference_is_on("square"_ns, NO) ? 0 : kRoundCorner);
+  art.layer().setCornerRadius(preference_is_on(preference::square(), NO) ? 0 : kArtworkCorner);
   colour_content(kChosenColours);
-  legibility = preference_is_on("legibility"_ns, NO);
+  legibility = preference_is_on(preference::legibility(), NO);
   colour_edges(kChosenColours);
   apply_blur(blur);
 }

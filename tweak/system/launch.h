@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/SpringBoard/SpringBoard.h"
+
 namespace sonavue {
 
-/// Replaces the home screen's `applicationDidFinishLaunching:`, from which all else starts.
-void hook_launch();
+/// `applicationDidFinishLaunching:`, from which all else starts.
+void launched(SpringBoard self, objc::Object application);
 
 }  // namespace sonavue

@@ -3,63 +3,86 @@
 #include "objc/class_builder.h"
 #include "objc/message_text.h"
 
-extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
-                                objc::Imp* original);
+// The rows of the two tables of what the extension touches in the system: methods that it adds, and
+// methods that it replaces.
 
 namespace sonavue {
 
-/// One row of a table of methods: a selector and the function that is to answer it.
-struct MethodRow {
+struct AddedMethod {
   const char* selector;
   objc::Imp body;
   const char* types;
 };
 
 template <auto Function>
-MethodRow row(const char* selector) {
+AddedMethod adds(const char* selector) {
   return {selector, reinterpret_cast<objc::Imp>(&objc::MethodOf<Function>::call),
           objc::MethodOf<Function>::encoding.c_str()};
 }
 
-/// Where the implementation is kept that one of ours takes the place of; its symbol says which.
-template <objc::FixedString Method>
-inline constinit objc::Imp replaced_body = nullptr;
+/// What answered a selector before it was replaced. The body is null until then, and where the
+/// class is missing.
+struct Original {
+  objc::Sel selector = nullptr;
+  objc::Imp body = nullptr;
+};
 
-/// A method of the platform that one of ours takes the place of, an object's or a class's.
-template <objc::FixedString Class, objc::FixedString Selector, class Signature,
-          bool OfClass = false>
-class Replaced;
+/// Where the original is kept that the function `Ours` replaces.
+template <auto Ours>
+inline constinit Original original_of;
 
-template <objc::FixedString Class, objc::FixedString Selector, bool OfClass, class Result,
-          class Self, class... Arguments>
-class Replaced<Class, Selector, Result(Self, Arguments...), OfClass> {
- public:
-  /// Does what the platform does. Where the class is missing nothing was replaced, and this gives
-  /// zero.
-  static Result original(Self self, Arguments... arguments) {
+struct ReplacedMethod {
+  const char* cls;
+  objc::Sel selector;
+  bool is_class_method;
+  objc::Imp ours;
+  Original* original;
+};
+
+/// The selector of a replaced method, under a symbol that names its class and types, too.
+template <objc::FixedString Message>
+inline constinit objc::Sel replaced_message = nullptr;
+
+template <auto Ours>
+struct Replacement;
+
+template <class Result, class Self, class... Arguments, Result (*Ours)(Self, Arguments...)>
+struct Replacement<Ours> {
+  template <objc::FixedString Class, objc::FixedString Selector, bool IsClassMethod>
+  static ReplacedMethod row() {
+    constexpr auto& message =
+        replaced_message<objc::message_text<Class, Selector, IsClassMethod, Result, Arguments...>>;
+    return {Class.c_str(), objc::cached(message, Selector.c_str()), IsClassMethod,
+            reinterpret_cast<objc::Imp>(&objc::MethodOf<Ours>::call), &original_of<Ours>};
+  }
+
+  static Result call_original(Self self, Arguments... arguments) {
     using Function = objc::AbiType<Result> (*)(objc::Id, objc::Sel, objc::AbiType<Arguments>...);
-    if (!body) return Result();
-    const auto function = reinterpret_cast<Function>(body);
-    const objc::Sel selector = objc::selector<Selector>();
+    const Original& original = original_of<Ours>;
+    if (!original.body) return Result();
+    const auto function = reinterpret_cast<Function>(original.body);
     if constexpr (std::is_void_v<Result>) {
-      function(self.id(), selector, objc::to_abi(arguments)...);
+      function(self.id(), original.selector, objc::to_abi(arguments)...);
     } else {
-      return objc::from_abi<Result>(function(self.id(), selector, objc::to_abi(arguments)...));
+      return objc::from_abi<Result>(
+          function(self.id(), original.selector, objc::to_abi(arguments)...));
     }
   }
-
-  template <auto Function>
-  static void replace_with() {
-    static_assert(std::is_same_v<decltype(Function), Result (*)(Self, Arguments...)>);
-    objc::Class cls = objc_getClass(Class.c_str());
-    if (cls && OfClass) cls = objc::class_of(reinterpret_cast<objc::Id>(cls));
-    MSHookMessageEx(cls, objc::selector<Selector>(),
-                    reinterpret_cast<objc::Imp>(&objc::MethodOf<Function>::call), &body);
-  }
-
- private:
-  static constexpr objc::Imp& body =
-      replaced_body<objc::message_text<Class, Selector, OfClass, Result, Arguments...>>;
 };
+
+template <objc::FixedString Class, objc::FixedString Selector, auto Ours>
+ReplacedMethod replaces() {
+  return Replacement<Ours>::template row<Class, Selector, false>();
+}
+
+template <objc::FixedString Class, objc::FixedString Selector, auto Ours>
+ReplacedMethod replaces_class_method() {
+  return Replacement<Ours>::template row<Class, Selector, true>();
+}
+
+/// Does what the platform does where the function `Ours` stands. Where the class is missing nothing
+/// was replaced, and this gives zero.
+template <auto Ours>
+constexpr auto original = &Replacement<Ours>::call_original;
 
 }  // namespace sonavue
