@@ -1,12 +1,10 @@
 #include "host/uikit/text/text_field.h"
 
 namespace host::uikit {
+namespace {
 
-void export_text_field() {
-  if (objc_getClass("UITextField")) return;
-  objc::ClassBuilder("UITextField", "UIControl")
-      .state<TextField>()
-      .method<&TextField::init_with_frame>("initWithFrame:")
+void add_properties(objc::ClassBuilder& builder) {
+  builder.method<&TextField::init_with_frame>("initWithFrame:")
       .method<&TextField::text>("text")
       .method<&TextField::set_text>("setText:")
       .method<&TextField::placeholder>("placeholder")
@@ -35,8 +33,11 @@ void export_text_field() {
       .method<&TextField::right_mode>("rightViewMode")
       .method<&TextField::set_right_mode>("setRightViewMode:")
       .method<&TextField::clear_mode>("clearButtonMode")
-      .method<&TextField::set_clear_mode>("setClearButtonMode:")
-      .method<&TextField::layout_subviews>("layoutSubviews")
+      .method<&TextField::set_clear_mode>("setClearButtonMode:");
+}
+
+void add_layout_and_drawing(objc::ClassBuilder& builder) {
+  builder.method<&TextField::layout_subviews>("layoutSubviews")
       .method<&TextField::text_rect>("textRectForBounds:")
       .method<&TextField::editing_rect>("editingRectForBounds:")
       .method<&TextField::placeholder_rect>("placeholderRectForBounds:")
@@ -47,8 +48,11 @@ void export_text_field() {
       .method<&TextField::intrinsic_content_size>("intrinsicContentSize")
       .method<&TextField::draw_rect>("drawRect:")
       .method<&TextField::draw_text_in_rect>("drawTextInRect:")
-      .method<&TextField::draw_placeholder_in_rect>("drawPlaceholderInRect:")
-      .method<&TextField::can_become_first_responder>("canBecomeFirstResponder")
+      .method<&TextField::draw_placeholder_in_rect>("drawPlaceholderInRect:");
+}
+
+void add_typing(objc::ClassBuilder& builder) {
+  builder.method<&TextField::can_become_first_responder>("canBecomeFirstResponder")
       .method<&TextField::become_first_responder>("becomeFirstResponder")
       .method<&TextField::resign_first_responder>("resignFirstResponder")
       .method<&TextField::end_tracking>("endTrackingWithTouch:withEvent:")
@@ -74,8 +78,19 @@ void export_text_field() {
       .method<&TextField::return_key_type>("returnKeyType")
       .method<&TextField::set_return_key_type>("setReturnKeyType:")
       .method<&TextField::autocapitalization_type>("autocapitalizationType")
-      .method<&TextField::set_autocapitalization_type>("setAutocapitalizationType:")
-      .finish();
+      .method<&TextField::set_autocapitalization_type>("setAutocapitalizationType:");
+}
+
+}  // namespace
+
+void export_text_field() {
+  if (objc_getClass("UITextField")) return;
+  objc::ClassBuilder builder("UITextField", "UIControl");
+  builder.state<TextField>();
+  add_properties(builder);
+  add_layout_and_drawing(builder);
+  add_typing(builder);
+  builder.finish();
 }
 
 }  // namespace host::uikit
