@@ -1,5 +1,5 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
-#include "tests/tweak/album_page.h"
+#include "tests/tweak/library/album_page.h"
 #include "tests/tweak/method_spy.h"
 
 namespace host::test {

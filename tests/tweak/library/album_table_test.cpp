@@ -1,6 +1,6 @@
 #include "platform/Foundation/NSIndexPath.h"
 #include "platform/UIKit/UITableView.h"
-#include "tests/tweak/artwork_page.h"
+#include "tests/tweak/library/artwork_page.h"
 #include "tests/tweak/method_spy.h"
 
 namespace host::test {

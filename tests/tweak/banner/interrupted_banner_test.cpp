@@ -1,6 +1,6 @@
 #include "host/springboard/system_actions.h"
 #include "platform/UIKit/UITextField.h"
-#include "tests/tweak/banner_fixture.h"
+#include "tests/tweak/banner/banner_fixture.h"
 
 // Fingers, gestures and buttons that come while the banner is on its way, and what it leaves to the
 // form of the panel that comes next.

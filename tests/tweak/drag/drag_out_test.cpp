@@ -1,4 +1,4 @@
-#include "tests/tweak/drag_test.h"
+#include "tests/tweak/drag/drag_test.h"
 #include "tests/tweak/method_spy.h"
 
 namespace host::test {

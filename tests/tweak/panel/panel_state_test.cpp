@@ -1,5 +1,5 @@
 #include "host/springboard/system_actions.h"
-#include "tests/tweak/drag_test.h"
+#include "tests/tweak/drag/drag_test.h"
 
 namespace host::test {
 namespace {

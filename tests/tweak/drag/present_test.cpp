@@ -1,7 +1,7 @@
 #include "host/springboard/system_actions.h"
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
-#include "tests/tweak/drag_test.h"
+#include "tests/tweak/drag/drag_test.h"
 #include "tests/tweak/method_spy.h"
 
 namespace host::test {

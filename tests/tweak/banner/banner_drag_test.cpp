@@ -1,5 +1,5 @@
 #include "platform/SpringBoard/SBControlCenterController.h"
-#include "tests/tweak/banner_fixture.h"
+#include "tests/tweak/banner/banner_fixture.h"
 
 namespace host::test {
 namespace {

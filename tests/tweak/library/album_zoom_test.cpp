@@ -1,6 +1,6 @@
 #include "platform/Foundation/NSValue.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
-#include "tests/tweak/album_page.h"
+#include "tests/tweak/library/album_page.h"
 
 namespace host::test {
 namespace {

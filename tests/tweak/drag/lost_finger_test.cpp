@@ -1,5 +1,5 @@
 #include "platform/UIKit/UIPanGestureRecognizer.h"
-#include "tests/tweak/drag_test.h"
+#include "tests/tweak/drag/drag_test.h"
 #include "tests/tweak/method_spy.h"
 
 // Fingers that the system takes away in the middle of a drag, and drags whose end somebody else

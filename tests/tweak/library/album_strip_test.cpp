@@ -2,7 +2,7 @@
 
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
-#include "tests/tweak/album_page.h"
+#include "tests/tweak/library/album_page.h"
 #include "tests/tweak/method_spy.h"
 #include "tests/tweak/told_property.h"
 

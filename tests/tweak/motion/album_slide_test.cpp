@@ -1,4 +1,4 @@
-#include "tests/tweak/artwork_page.h"
+#include "tests/tweak/library/artwork_page.h"
 
 namespace host::test {
 namespace {
