@@ -17,6 +17,23 @@ TitleIndex& index() {
   return *made;
 }
 
+void search_by_platform(NSString lower_case_text) {
+  for (const auto song : songItems.of<MPMediaItem>()) {
+    if (title_holds(song, lower_case_text)) result.addObject(song);
+  }
+}
+
+void search(NSString lower_case_text) {
+  if (!result) return;
+  Hits& hits = hits_of(result);
+  index().follow(songItems);
+  if (index().find(lower_case_text, hits.places())) {
+    hits.show(index().songs());
+  } else {
+    search_by_platform(lower_case_text);
+  }
+}
+
 void list_all_songs() {
   isSearching = NO;
   tableView.reloadData();
@@ -39,12 +56,7 @@ void textDidChange(SpringBoard, UITextField field) {
     return;
   }
   isSearching = YES;
-  if (result) {
-    auto& hits = hits_of(result);
-    index().follow(songItems);
-    index().find(field.text().lowercaseString(), hits.places());
-    hits.show(index().songs());
-  }
+  search(field.text().lowercaseString());
   tableView.reloadData();
 }
 

@@ -1,6 +1,7 @@
 #include "tweak/search/title_index.h"
 
 #include "objc/autorelease_pool.h"
+#include "objc/ref.h"
 #include "tweak/search/needle.h"
 #include "tweak/search/short_needle.h"
 
@@ -25,7 +26,7 @@ void merge(const Places& others, Places& found) {
   std::size_t from = found.count();
   std::size_t left = others.count();
   found.resize(from + left);
-  if (found.count() != from + left) return;
+  if (found.has_failed()) return;
   std::uint32_t* const places = found.begin();
   for (std::size_t to = from + left; left > 0;) {
     const bool is_found_last = from > 0 && places[from - 1] > others[left - 1];
@@ -95,23 +96,17 @@ void TitleIndex::add_title(std::uint32_t place, NSString title) {
   bytes_.add(kBorder);
 }
 
-void TitleIndex::find(NSString lower_case_text, Places& found) {
+bool TitleIndex::find(NSString lower_case_text, Places& found) {
   found.clear();
   wanted_.clear();
   const bool is_plain = is_usable_ && writer_.add_lowercase(lower_case_text, wanted_);
-  if (!is_plain || wanted_.count() == 0) {
-    find_by_platform(lower_case_text, found);
-    return;
+  if (!is_plain || wanted_.count() == 0) return false;
+  if (wanted_.count() <= ShortNeedle::kLongest) {
+    find_short(found);
+  } else {
+    find_long(found);
   }
-  if (wanted_.count() > ShortNeedle::kLongest || !find_short(found)) find_long(found);
-  add_others(lower_case_text, found);
-}
-
-void TitleIndex::find_by_platform(NSString text, Places& found) const {
-  const auto count = static_cast<std::uint32_t>(songs_->count());
-  for (std::uint32_t place = 0; place < count; ++place) {
-    if (title_holds(song(place), text)) found.add(place);
-  }
+  return add_others(lower_case_text, found) && !found.has_failed();
 }
 
 // The last title that begins at the offset or before it, which is `from` or one behind it. Where
@@ -141,13 +136,12 @@ void TitleIndex::find_long(Places& found) const {
   }
 }
 
-// The place of each title is written down, and kept where the title holds the text. False without
-// the memory for that.
-bool TitleIndex::find_short(Places& found) const {
+// The place of each title is written down, and kept where the title holds the text.
+void TitleIndex::find_short(Places& found) const {
   const ShortNeedle needle(wanted_.begin(), wanted_.count());
   const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
   found.resize(count);
-  if (found.count() != count) return false;
+  if (found.has_failed()) return;
   std::uint32_t* kept = found.begin();
   std::uint32_t place = 0;
   bool is_held = false;
@@ -164,17 +158,18 @@ bool TitleIndex::find_short(Places& found) const {
     is_held |= hits != 0;
   }
   found.resize(static_cast<std::size_t>(kept - found.begin()));
-  return true;
 }
 
-// Puts the titles that the platform has to look at where they belong among those found.
-void TitleIndex::add_others(NSString text, Places& found) const {
-  if (not_plain_.count() == 0) return;
+// Puts the titles that the platform has to look at where they belong among those found. False
+// without the memory to list them.
+bool TitleIndex::add_others(NSString text, Places& found) const {
+  if (not_plain_.count() == 0) return true;
   Places others;
   for (const std::uint32_t place : not_plain_) {
     if (title_holds(song(place), text)) others.add(place);
   }
   merge(others, found);
+  return !others.has_failed();
 }
 
 }  // namespace sonavue

@@ -18,7 +18,7 @@ bool title_holds(MPMediaItem song, NSString lower_case_text);
 
 /// The titles of a list of songs, in lower case and one behind the other, so that a key in the
 /// search field goes through a few megabytes and not through every song. It finds what
-/// `title_holds` finds: titles that are not plain are left to that, and so is a text that is not.
+/// `title_holds` finds: titles that are not plain are left to that.
 class TitleIndex {
  public:
   /// Makes the index of these songs unless it is there already. The songs are compared one by one,
@@ -31,17 +31,17 @@ class TitleIndex {
   /// The songs of the index: a list that never changes. Borrowed.
   NSArray songs() const { return songs_.get(); }
 
-  /// Puts the places of the songs found into `found`.
-  void find(NSString lower_case_text, Places& found);
+  /// Puts the places of the songs found into `found`. False when only the platform can tell: the
+  /// text is not plain, or there is not the memory; what `found` holds then is nothing to go by.
+  bool find(NSString lower_case_text, Places& found);
 
  private:
   bool has_songs(NSArray songs) const;
   void read_titles();
   void add_title(std::uint32_t place, NSString title);
   void find_long(Places& found) const;
-  bool find_short(Places& found) const;
-  void add_others(NSString text, Places& found) const;
-  void find_by_platform(NSString text, Places& found) const;
+  void find_short(Places& found) const;
+  bool add_others(NSString text, Places& found) const;
   std::uint32_t place_at(std::size_t offset, std::uint32_t from) const;
   MPMediaItem song(std::uint32_t place) const;
 

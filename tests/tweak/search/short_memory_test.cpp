@@ -1,0 +1,38 @@
+#include "tests/tweak/search/short_memory.h"
+
+#include "tests/tweak/search/title_search.h"
+
+namespace host::test {
+namespace {
+
+/// Titles that hold an "a", every fifth of which only the platform can compare.
+std::vector<std::string> many_titles(int count) {
+  std::vector<std::string> titles;
+  for (int i = 0; i < count; ++i)
+    titles.push_back((i % 5 == 0 ? "\u200da" : "a") + std::to_string(i));
+  return titles;
+}
+
+TEST_F(TitleSearch, FindsTheSameWhereverTheMemoryEnds) {
+  const std::vector<std::string> all = many_titles(1500);
+  // A letter, and a text that is looked for in another way.
+  for (const char* typed : {"a", "a12"}) {
+    int refused = 0;
+    int times = 0;
+    do {
+      // Other songs of the same titles, so that they are read again.
+      list_titles(all);
+      const auto expected = found_one_by_one(typed);
+      {
+        const ShortMemory memory("/Sonavue2.so", times++);
+        search_for(typed);
+        refused = memory.refused();
+      }
+      EXPECT_EQ(titles("result"), expected) << typed << ", " << times;
+    } while (refused > 0);
+    EXPECT_GT(times, 3) << "The search asked for no memory.";
+  }
+}
+
+}  // namespace
+}  // namespace host::test
