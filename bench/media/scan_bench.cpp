@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "host/media/demo/audio_file.h"
+#include "host/demo_music/audio_file.h"
 #include "host/media/scan.h"
 #include "host/media/tag_writer.h"
 

@@ -11,9 +11,9 @@
 
 #include "host/foundation/device_paths.h"
 #include "host/foundation/loader.h"
+#include "host/home_screen/launch.h"
+#include "host/home_screen/music.h"
 #include "host/launcher/device_root.h"
-#include "host/launcher/home_screen/launch.h"
-#include "host/launcher/home_screen/music.h"
 #include "host/launcher/installation.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"

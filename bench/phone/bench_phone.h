@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/console/session.h"
-#include "host/launcher/home_screen/console_phone.h"
+#include "host/home_screen/console_phone.h"
 #include "host/process/phone_screen.h"
 #include "host/quartzcore/layer_service.h"
 #include "objc/autorelease_pool.h"

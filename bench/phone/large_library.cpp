@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "host/demo_music/demo_library.h"
 #include "host/launcher/installation.h"
-#include "host/media/demo/demo_library.h"
 #include "host/media/folder_walk.h"
 #include "host/media/hash.h"
 #include "host/media/picture.h"

@@ -6,7 +6,7 @@
 #include "host/launcher/installation.h"
 #include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
-#include "host/springboard/configuration.h"
+#include "host/springboard/common/configuration.h"
 #include "host/springboard/processes/process_keeper.h"
 
 namespace bench {

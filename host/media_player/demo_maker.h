@@ -5,7 +5,7 @@
 #include <string>
 #include <thread>
 
-#include "host/media/demo/demo_library.h"
+#include "host/demo_music/demo_library.h"
 #include "host/media/event_signal.h"
 #include "host/media_player/media_options.h"
 

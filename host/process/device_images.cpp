@@ -1,18 +1,18 @@
 #include "host/process/device_images.h"
 
-#include "host/activator/exports.h"
+#include "host/activator/service/exports.h"
 #include "host/foundation/exports.h"
 #include "host/media_player/exports.h"
 #include "host/preferences/exports.h"
 #include "host/quartzcore/exports.h"
-#include "host/social/exports.h"
-#include "host/springboard/exports.h"
+#include "host/social/composers/exports.h"
+#include "host/springboard/system/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/keyboard/exports.h"
 #include "host/uikit/navigation/exports.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/exports.h"
-#include "host/uikit/text/text_view.h"
+#include "host/uikit/text_view/text_view.h"
 #include "host/uikit/view/exports.h"
 
 namespace host::process {

@@ -5,7 +5,7 @@
 
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
-#include "host/uikit/view/window_list.h"
+#include "host/uikit/geometry/window_list.h"
 
 namespace host::process {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/media/demo/demo_library.h"
+#include "host/demo_music/demo_library.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,9 +11,9 @@
 #include <memory>
 #include <set>
 
+#include "host/demo_music/albums.h"
+#include "host/demo_music/piece.h"
 #include "host/media/artwork_cache.h"
-#include "host/media/demo/albums.h"
-#include "host/media/demo/piece.h"
 #include "host/media/scan.h"
 #include "tests/support/media_fixtures.h"
 

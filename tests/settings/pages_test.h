@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/activator/service.h"
+#include "host/activator/service/service.h"
 #include "host/process/device_images.h"
-#include "host/social/configuration.h"
+#include "host/social/delivery/configuration.h"
 #include "host/uikit/application/application.h"
 #include "platform/Preferences/PSListController.h"
 #include "platform/Preferences/PSSwitchTableCell.h"

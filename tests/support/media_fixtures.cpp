@@ -13,7 +13,7 @@
 #include <numbers>
 #include <stdexcept>
 
-#include "host/media/demo/audio_file.h"
+#include "host/demo_music/audio_file.h"
 #include "host/media/tag_writer.h"
 
 namespace media_tests {

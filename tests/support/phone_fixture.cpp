@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "host/quartzcore/exports.h"
-#include "host/springboard/configuration.h"
-#include "host/springboard/exports.h"
+#include "host/springboard/common/configuration.h"
 #include "host/springboard/model/strings.h"
+#include "host/springboard/system/exports.h"
 #include "host/uikit/application/application.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/scroll/exports.h"

@@ -7,7 +7,7 @@
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/springboard/model/grid_metrics.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/uikit/touch/touch_input.h"
 #include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBIconView.h"
 #include "platform/SpringBoard/SpringBoard.h"

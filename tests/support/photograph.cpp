@@ -6,7 +6,7 @@
 
 #include "host/quartzcore/compositor.h"
 #include "host/runtime/device_model.h"
-#include "host/uikit/view/window_list.h"
+#include "host/uikit/geometry/window_list.h"
 
 namespace host::test {
 

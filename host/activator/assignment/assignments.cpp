@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
 
 namespace host::activator {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
 #include "host/foundation/device_paths.h"
 #include "host/runtime/log.h"
 #include "platform/Foundation/NSPropertyListSerialization.h"

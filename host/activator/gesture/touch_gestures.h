@@ -6,7 +6,7 @@
 
 #include "host/activator/gesture/edge_slide.h"
 #include "host/runtime/run_loop.h"
-#include "host/uikit/gesture/system_gestures.h"
+#include "host/uikit/touch/system_gestures.h"
 
 namespace host::activator {
 

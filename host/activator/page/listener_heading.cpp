@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/activator/event/strings.h"
 #include "host/activator/page/page_look.h"
-#include "host/activator/strings.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
 

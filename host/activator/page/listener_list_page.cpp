@@ -1,7 +1,7 @@
 #include "host/activator/page/listener_list_page.h"
 
-#include "host/activator/service.h"
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
+#include "host/activator/service/service.h"
 #include "platform/Activator/LAListenerSettingsViewController.h"
 
 namespace host::activator {

@@ -1,9 +1,9 @@
 #include "host/activator/page/listener_page.h"
 
 #include "host/activator/event/event_kinds.h"
+#include "host/activator/event/strings.h"
 #include "host/activator/page/listener_heading.h"
-#include "host/activator/service.h"
-#include "host/activator/strings.h"
+#include "host/activator/service/service.h"
 
 namespace host::activator {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
 #include "platform/UIKit/UIBezierPath.h"
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UIGraphics.h"

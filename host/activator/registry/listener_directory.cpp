@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "host/activator/assignment/property_list_file.h"
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
 #include "host/foundation/device_paths.h"
 #include "host/quartzcore/image.h"
 #include "host/runtime/log.h"

@@ -1,7 +1,7 @@
 #include "host/activator/registry/listener_questions.h"
 
+#include "host/activator/event/strings.h"
 #include "host/activator/registry/careful_call.h"
-#include "host/activator/strings.h"
 #include "platform/UIKit/UIScreen.h"
 
 namespace host::activator {

@@ -1,7 +1,7 @@
 #include "host/applications/music/library.h"
 
 #include "host/applications/music/look.h"
-#include "host/springboard/surfaces/surface_parts.h"
+#include "host/springboard/parts/surface_parts.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/MediaPlayer/MPMediaQuery.h"
 #include "platform/UIKit/NSStringDrawing.h"

@@ -3,8 +3,8 @@
 #include "host/applications/music/library.h"
 #include "host/applications/music/look.h"
 #include "host/applications/program/player_remote.h"
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/parts/surface_parts.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::music {

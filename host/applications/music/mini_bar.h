@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "host/applications/music/player_state.h"
-#include "host/springboard/surfaces/surface_action.h"
+#include "host/springboard/parts/surface_action.h"
 #include "platform/UIKit/UIImageView.h"
 
 namespace host::music {

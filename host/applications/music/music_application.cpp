@@ -4,9 +4,9 @@
 #include "host/applications/music/look.h"
 #include "host/applications/program/player_remote.h"
 #include "host/runtime/device_model.h"
-#include "host/springboard/surfaces/slider.h"
-#include "host/springboard/surfaces/surface_action.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/parts/slider.h"
+#include "host/springboard/parts/surface_action.h"
 
 namespace host::music {
 

@@ -4,8 +4,8 @@
 
 #include "host/applications/music/player_state.h"
 #include "host/runtime/run_loop.h"
-#include "host/springboard/surfaces/slider.h"
-#include "host/springboard/surfaces/surface_action.h"
+#include "host/springboard/parts/slider.h"
+#include "host/springboard/parts/surface_action.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UIViewController.h"
 

@@ -1,6 +1,6 @@
 #include "host/applications/program/own_phone.h"
 
-#include "host/uikit/view/screen_space.h"
+#include "host/uikit/geometry/screen_space.h"
 
 namespace host::application {
 

@@ -4,8 +4,8 @@
 
 #include "host/applications/program/player_remote.h"
 #include "host/runtime/log.h"
-#include "host/uikit/text/characters.h"
 #include "host/uikit/text/key_input.h"
+#include "host/uikit/text_layout/characters.h"
 #include "objc/autorelease_pool.h"
 
 namespace host::application {

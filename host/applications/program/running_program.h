@@ -9,7 +9,7 @@
 #include "host/console/session.h"
 #include "host/process/phone_screen.h"
 #include "host/runtime/run_loop.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/uikit/touch/touch_input.h"
 
 namespace host::application {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
 #include "host/applications/program/shared_library.h"
 #include "host/runtime/device_model.h"
 #include "platform/UIKit/UIDevice.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
 #include "host/runtime/log.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSFileManager.h"

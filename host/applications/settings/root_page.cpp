@@ -1,7 +1,7 @@
 #include "host/applications/settings/root_page.h"
 
+#include "host/activator/event/strings.h"
 #include "host/activator/page/page_look.h"
-#include "host/activator/strings.h"
 #include "host/applications/settings/loader_entries.h"
 #include "host/applications/settings/row_icons.h"
 #include "host/process/device_images.h"

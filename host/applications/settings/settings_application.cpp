@@ -6,8 +6,8 @@
 #include "host/applications/settings/sounds_page.h"
 #include "host/applications/settings/volume_cell.h"
 #include "host/applications/settings/wallpaper_page.h"
-#include "host/social/configuration.h"
-#include "host/springboard/surfaces/slider.h"
+#include "host/social/delivery/configuration.h"
+#include "host/springboard/parts/slider.h"
 
 namespace host::settings {
 

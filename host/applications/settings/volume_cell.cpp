@@ -1,7 +1,7 @@
 #include "host/applications/settings/volume_cell.h"
 
 #include "host/preferences/specifier.h"
-#include "host/springboard/pictures.h"
+#include "host/springboard/common/pictures.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/UIImageView.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/springboard/surfaces/slider.h"
+#include "host/springboard/parts/slider.h"
 #include "objc/class_builder.h"
 #include "platform/Preferences/PSTableCell.h"
 

@@ -1,8 +1,8 @@
 #include "host/applications/settings/wallpaper_page.h"
 
 #include "host/activator/page/page_look.h"
-#include "host/springboard/pictures.h"
-#include "host/springboard/wallpaper.h"
+#include "host/springboard/common/pictures.h"
+#include "host/springboard/common/wallpaper.h"
 #include "platform/UIKit/UIImageView.h"
 
 namespace host::settings {

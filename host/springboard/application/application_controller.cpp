@@ -2,9 +2,9 @@
 
 #include "host/runtime/log.h"
 #include "host/springboard/application/application.h"
-#include "host/springboard/configuration.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/shared_instance.h"
 #include "platform/Foundation/NSFileManager.h"
 
 namespace host::springboard {

@@ -1,6 +1,6 @@
 #include "host/springboard/home/dock_ground.h"
 
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
 
 namespace host::springboard {
 namespace {

@@ -1,7 +1,7 @@
 #include "host/springboard/home/folder_presenter.h"
 
+#include "host/springboard/common/make_view.h"
 #include "host/springboard/view/icon_view.h"
-#include "host/springboard/view/make_view.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/pictures.h"
+#include "host/springboard/common/screen_grid.h"
+#include "host/springboard/common/wallpaper.h"
 #include "host/springboard/home/dock_ground.h"
 #include "host/springboard/icon/folder_icon.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/pictures.h"
-#include "host/springboard/screen_grid.h"
 #include "host/springboard/view/icon_list_view.h"
 #include "host/springboard/view/icon_view_map.h"
-#include "host/springboard/view/make_view.h"
-#include "host/springboard/wallpaper.h"
 
 namespace host::springboard {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/shared_instance.h"
 #include "host/springboard/view/icon_view.h"
 #include "host/springboard/view/icon_view_map.h"
 #include "platform/SpringBoard/SBUIController.h"

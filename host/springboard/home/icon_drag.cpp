@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/springboard/common/make_view.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/view/icon_view.h"
-#include "host/springboard/view/make_view.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 #include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBIconViewMap.h"

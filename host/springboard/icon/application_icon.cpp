@@ -1,6 +1,6 @@
 #include "host/springboard/icon/application_icon.h"
 
-#include "host/springboard/configuration.h"
+#include "host/springboard/common/configuration.h"
 #include "host/springboard/icon/icon_image.h"
 
 namespace host::springboard {

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "host/springboard/common/screen_grid.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/screen_grid.h"
 #include "platform/UIKit/NSStringDrawing.h"
 #include "platform/UIKit/UIBezierPath.h"
 #include "platform/UIKit/UIColor.h"

@@ -1,10 +1,10 @@
 #include "host/springboard/icon/icon_model.h"
 
-#include "host/springboard/configuration.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/screen_grid.h"
 #include "host/springboard/icon/folder_icon.h"
 #include "host/springboard/model/default_layout.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/screen_grid.h"
 #include "platform/SpringBoard/SBApplicationController.h"
 #include "platform/SpringBoard/SBApplicationIcon.h"
 

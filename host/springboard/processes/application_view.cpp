@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
 
 namespace host::springboard {
 

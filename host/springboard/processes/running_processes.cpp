@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "host/runtime/log.h"
-#include "host/springboard/configuration.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/processes/process_keeper.h"
-#include "host/springboard/shared_instance.h"
 
 namespace host::springboard {
 namespace {

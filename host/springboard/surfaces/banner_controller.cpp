@@ -1,14 +1,14 @@
 #include "host/springboard/surfaces/banner_controller.h"
 
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/screen_grid.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/screen_grid.h"
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/parts/surface_parts.h"
+#include "host/springboard/parts/surface_window.h"
+#include "host/springboard/parts/window_levels.h"
 #include "host/springboard/surfaces/notification_row.h"
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/surfaces/surfaces.h"
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/springboard/view/make_view.h"
 
 namespace host::springboard {
 namespace {

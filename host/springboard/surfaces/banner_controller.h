@@ -6,8 +6,8 @@
 #include <string>
 
 #include "host/runtime/run_loop.h"
+#include "host/springboard/parts/surface_action.h"
 #include "host/springboard/surfaces/sheet_motion.h"
-#include "host/springboard/surfaces/surface_action.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/Foundation/NSString.h"

@@ -2,16 +2,16 @@
 
 #include <algorithm>
 
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/screen_grid.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/screen_grid.h"
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/parts/surface_window.h"
+#include "host/springboard/parts/window_levels.h"
 #include "host/springboard/surfaces/display.h"
-#include "host/springboard/surfaces/surface_window.h"
 #include "host/springboard/surfaces/surfaces.h"
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/springboard/system_actions.h"
-#include "host/springboard/view/make_view.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/springboard/system/system_actions.h"
+#include "host/uikit/touch/touch_input.h"
 
 namespace host::springboard {
 namespace {

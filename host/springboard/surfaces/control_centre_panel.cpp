@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/shared_instance.h"
+#include "host/springboard/parts/surface_parts.h"
 #include "host/springboard/surfaces/display.h"
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/view/make_view.h"
 
 namespace host::springboard {
 namespace {

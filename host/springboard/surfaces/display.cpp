@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "host/springboard/surfaces/surface_window.h"
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/springboard/view/make_view.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/parts/surface_window.h"
+#include "host/springboard/parts/window_levels.h"
+#include "host/uikit/touch/touch_input.h"
 
 namespace host::springboard {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "host/uikit/gesture/system_gestures.h"
-#include "host/uikit/gesture/velocity_tracker.h"
+#include "host/uikit/touch/system_gestures.h"
+#include "host/uikit/touch/velocity_tracker.h"
 
 namespace host::springboard {
 

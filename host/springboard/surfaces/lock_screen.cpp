@@ -1,13 +1,13 @@
 #include "host/springboard/surfaces/lock_screen.h"
 
-#include "host/springboard/configuration.h"
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/shared_instance.h"
+#include "host/springboard/parts/window_levels.h"
 #include "host/springboard/surfaces/display.h"
 #include "host/springboard/surfaces/surfaces.h"
-#include "host/springboard/surfaces/window_levels.h"
 #include "host/springboard/system/spring_board_application.h"
-#include "host/springboard/system_actions.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/system/system_actions.h"
 #include "host/uikit/view/responder.h"
 
 namespace host::springboard {

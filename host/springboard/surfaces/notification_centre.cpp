@@ -1,12 +1,12 @@
 #include "host/springboard/surfaces/notification_centre.h"
 
-#include "host/springboard/configuration.h"
-#include "host/springboard/screen_grid.h"
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/screen_grid.h"
+#include "host/springboard/common/shared_instance.h"
+#include "host/springboard/parts/surface_window.h"
+#include "host/springboard/parts/window_levels.h"
 #include "host/springboard/surfaces/display.h"
-#include "host/springboard/surfaces/surface_window.h"
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/uikit/touch/touch_input.h"
 #include "platform/SpringBoard/SBControlCenterController.h"
 
 namespace host::springboard {

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "host/springboard/model/wall_clock.h"
+#include "host/springboard/parts/surface_action.h"
 #include "host/springboard/surfaces/notification_store.h"
-#include "host/springboard/surfaces/surface_action.h"
 
 namespace host::springboard {
 

@@ -1,8 +1,8 @@
 #include "host/springboard/surfaces/notification_row.h"
 
+#include "host/springboard/common/make_view.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/parts/surface_parts.h"
 #include "platform/SpringBoard/SBIconController.h"
 
 namespace host::springboard {

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/springboard/common/make_view.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/parts/surface_parts.h"
 #include "platform/SpringBoard/SBMediaController.h"
 
 namespace host::springboard {

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "host/runtime/run_loop.h"
+#include "host/springboard/parts/slider.h"
+#include "host/springboard/parts/surface_action.h"
 #include "host/springboard/surfaces/now_playing.h"
-#include "host/springboard/surfaces/slider.h"
-#include "host/springboard/surfaces/surface_action.h"
 
 namespace host::springboard {
 

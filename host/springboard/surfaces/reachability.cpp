@@ -1,13 +1,13 @@
 #include "host/springboard/surfaces/reachability.h"
 
-#include "host/springboard/screen_grid.h"
-#include "host/springboard/shared_instance.h"
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/surfaces/surface_window.h"
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/springboard/view/make_view.h"
-#include "host/uikit/gesture/touch_input.h"
-#include "host/uikit/view/window_list.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/screen_grid.h"
+#include "host/springboard/common/shared_instance.h"
+#include "host/springboard/parts/surface_parts.h"
+#include "host/springboard/parts/surface_window.h"
+#include "host/springboard/parts/window_levels.h"
+#include "host/uikit/geometry/window_list.h"
+#include "host/uikit/touch/touch_input.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::springboard {

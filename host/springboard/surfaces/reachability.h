@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/runtime/run_loop.h"
-#include "host/springboard/surfaces/surface_action.h"
+#include "host/springboard/parts/surface_action.h"
 #include "objc/class_builder.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
 #include "platform/UIKit/UIWindow.h"

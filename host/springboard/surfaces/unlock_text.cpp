@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/parts/surface_parts.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
 #include "platform/QuartzCore/CAGradientLayer.h"

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/springboard/surfaces/surface_parts.h"
-#include "host/springboard/surfaces/surface_window.h"
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/parts/surface_parts.h"
+#include "host/springboard/parts/surface_window.h"
+#include "host/springboard/parts/window_levels.h"
 
 namespace host::springboard {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/shared_instance.h"
 
 namespace host::springboard {
 

@@ -7,10 +7,10 @@
 #include "host/quartzcore/image.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/run_loop.h"
+#include "host/springboard/common/screen_grid.h"
 #include "host/springboard/home/icon_controller.h"
-#include "host/springboard/screen_grid.h"
 #include "host/springboard/system/spring_board_application.h"
-#include "host/uikit/view/window_list.h"
+#include "host/uikit/geometry/window_list.h"
 #include "platform/UIKit/UIScreen.h"
 
 namespace host::springboard {

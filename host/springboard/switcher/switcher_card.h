@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "host/springboard/surfaces/surface_action.h"
+#include "host/springboard/parts/surface_action.h"
 #include "objc/ref.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/UIKit/UIImageView.h"

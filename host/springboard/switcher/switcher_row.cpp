@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::springboard {

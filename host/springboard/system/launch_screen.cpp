@@ -1,6 +1,6 @@
 #include "host/springboard/system/launch_screen.h"
 
-#include "host/springboard/view/make_view.h"
+#include "host/springboard/common/make_view.h"
 #include "host/uikit/view/touch_hold.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"

@@ -1,7 +1,7 @@
 #include "host/springboard/system/spring_board_application.h"
 
-#include "host/springboard/configuration.h"
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/surfaces/control_centre.h"
 #include "host/springboard/surfaces/notification_centre.h"
 #include "host/springboard/system/ui_controller.h"

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "host/springboard/status_bar/status_bar.h"
 #include "host/springboard/surfaces/edge_pulls.h"
-#include "host/springboard/system/status_bar.h"
 #include "objc/class_builder.h"
 #include "platform/SpringBoard/SpringBoard.h"
 

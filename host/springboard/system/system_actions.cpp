@@ -1,8 +1,8 @@
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
-#include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/system/ui_controller.h"

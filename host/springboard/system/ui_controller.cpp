@@ -1,17 +1,17 @@
 #include "host/springboard/system/ui_controller.h"
 
 #include "host/springboard/application/application.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/processes/running_processes.h"
-#include "host/springboard/shared_instance.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/switcher/screen_picture.h"
 #include "host/springboard/system/spring_board_application.h"
 #include "host/springboard/view/icon_view.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/uikit/touch/touch_input.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
 namespace host::springboard {

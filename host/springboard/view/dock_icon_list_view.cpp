@@ -1,4 +1,4 @@
-#include "host/springboard/screen_grid.h"
+#include "host/springboard/common/screen_grid.h"
 #include "host/springboard/view/icon_list_view.h"
 #include "platform/SpringBoard/SBDockIconListView.h"
 

@@ -1,6 +1,6 @@
 #include "host/springboard/view/icon_list_view.h"
 
-#include "host/springboard/screen_grid.h"
+#include "host/springboard/common/screen_grid.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 #include "platform/UIKit/UIWindow.h"
 

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "host/springboard/pictures.h"
-#include "host/springboard/screen_grid.h"
+#include "host/springboard/common/make_view.h"
+#include "host/springboard/common/pictures.h"
+#include "host/springboard/common/screen_grid.h"
 #include "host/springboard/view/jiggle.h"
-#include "host/springboard/view/make_view.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::springboard {

@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "host/runtime/countdown.h"
 #include "host/springboard/view/icon_label.h"
-#include "host/uikit/gesture/countdown.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/SpringBoard/SBIconViewDelegate.h"
@@ -63,7 +63,7 @@ class IconView : public objc::Implementation<IconView, SBIconView> {
   std::optional<IconLabel> label_;
   CGPoint landing_point_;
   CGPoint touch_point_;
-  uikit::Countdown hold_;
+  Countdown hold_;
   bool is_held_ = false;
   bool has_strayed_ = false;
   int location_ = SBIconLocationHomeScreen;

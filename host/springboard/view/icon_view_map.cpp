@@ -1,6 +1,6 @@
 #include "host/springboard/view/icon_view_map.h"
 
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/view/icon_view.h"
 
 namespace host::springboard {

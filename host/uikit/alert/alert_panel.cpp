@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/runtime/on_pixel.h"
 #include "host/uikit/alert/alert_button.h"
 #include "host/uikit/alert/alert_view.h"
-#include "host/uikit/scroll/pixel.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/_UIBackdropView.h"
 

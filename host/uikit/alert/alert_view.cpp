@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "host/uikit/alert/alert_button.h"
-#include "host/uikit/gesture/touch_input.h"
+#include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/touch_hold.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 

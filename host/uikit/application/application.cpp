@@ -4,10 +4,10 @@
 
 #include "host/runtime/device_model.h"
 #include "host/uikit/application/address_opener.h"
+#include "host/uikit/geometry/window_list.h"
 #include "host/uikit/gesture/action_message.h"
-#include "host/uikit/gesture/event.h"
+#include "host/uikit/touch/event.h"
 #include "host/uikit/view/responder.h"
-#include "host/uikit/view/window_list.h"
 #include "objc/autorelease_pool.h"
 
 namespace host::uikit {

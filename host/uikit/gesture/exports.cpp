@@ -1,11 +1,11 @@
 #include "host/uikit/gesture/exports.h"
 
-#include "host/uikit/gesture/event.h"
 #include "host/uikit/gesture/gesture_recognizer.h"
 #include "host/uikit/gesture/long_press_gesture_recognizer.h"
 #include "host/uikit/gesture/pan_gesture_recognizer.h"
 #include "host/uikit/gesture/tap_gesture_recognizer.h"
-#include "host/uikit/gesture/touch.h"
+#include "host/uikit/touch/event.h"
+#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 

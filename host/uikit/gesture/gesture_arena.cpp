@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "host/uikit/gesture/event.h"
 #include "host/uikit/gesture/gesture_recognizer.h"
-#include "host/uikit/gesture/touch.h"
+#include "host/uikit/touch/event.h"
+#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 namespace {

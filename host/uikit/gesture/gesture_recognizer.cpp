@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/gesture/action_message.h"
 #include "host/uikit/gesture/gesture_arena.h"
-#include "host/uikit/gesture/touch.h"
-#include "host/uikit/view/screen_space.h"
+#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 

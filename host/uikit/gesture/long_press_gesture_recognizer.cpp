@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "host/uikit/gesture/touch.h"
+#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/uikit/gesture/countdown.h"
+#include "host/runtime/countdown.h"
 #include "host/uikit/gesture/gesture_recognizer.h"
 #include "platform/UIKit/UILongPressGestureRecognizer.h"
 

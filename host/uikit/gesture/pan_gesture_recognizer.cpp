@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "host/uikit/gesture/touch.h"
-#include "host/uikit/view/screen_space.h"
+#include "host/uikit/geometry/screen_space.h"
+#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/uikit/gesture/gesture_recognizer.h"
-#include "host/uikit/gesture/velocity_tracker.h"
+#include "host/uikit/touch/velocity_tracker.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 
 namespace host::uikit {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/uikit/gesture/tap_limits.h"
-#include "host/uikit/gesture/touch.h"
+#include "host/uikit/touch/tap_limits.h"
+#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 

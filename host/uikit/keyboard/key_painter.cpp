@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "host/uikit/keyboard/key_signs.h"
-#include "host/uikit/text/text_layout.h"
+#include "host/uikit/text_layout/text_layout.h"
 
 namespace host::uikit {
 namespace {

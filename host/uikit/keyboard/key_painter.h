@@ -2,9 +2,9 @@
 
 #include <cairo.h>
 
-#include "host/uikit/keyboard/board_metrics.h"
-#include "host/uikit/keyboard/key.h"
 #include "host/uikit/keyboard/keyboard_look.h"
+#include "host/uikit/keyboard_layout/board_metrics.h"
+#include "host/uikit/keyboard_layout/key.h"
 
 namespace host::uikit {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/uikit/keyboard/accents.h"
+#include "host/uikit/keyboard_layout/accents.h"
 
 namespace host::uikit {
 namespace {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "host/uikit/gesture/countdown.h"
+#include "host/runtime/countdown.h"
 #include "host/uikit/keyboard/keyboard_typing.h"
 #include "host/uikit/keyboard/keyplane_view.h"
 

@@ -1,7 +1,7 @@
 #include "host/uikit/keyboard/keyboard_typing.h"
 
-#include "host/uikit/keyboard/keyboard_layout.h"
 #include "host/uikit/keyboard/sentence.h"
+#include "host/uikit/keyboard_layout/keyboard_layout.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/text/text_context.h"
 

@@ -3,9 +3,9 @@
 #include <functional>
 #include <string>
 
-#include "host/uikit/keyboard/key.h"
-#include "host/uikit/keyboard/keyboard_traits.h"
-#include "host/uikit/keyboard/shift_state.h"
+#include "host/uikit/keyboard_layout/key.h"
+#include "host/uikit/keyboard_layout/keyboard_traits.h"
+#include "host/uikit/keyboard_layout/shift_state.h"
 
 namespace host::uikit {
 

@@ -3,8 +3,8 @@
 #include <map>
 
 #include "host/uikit/keyboard/key_view.h"
-#include "host/uikit/keyboard/keyboard_layout.h"
 #include "host/uikit/keyboard/popup_view.h"
+#include "host/uikit/keyboard_layout/keyboard_layout.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UITouch.h"
 

@@ -2,7 +2,7 @@
 
 #include <cairo.h>
 
-#include "host/uikit/keyboard/board_metrics.h"
+#include "host/uikit/keyboard_layout/board_metrics.h"
 
 namespace host::uikit {
 

@@ -1,7 +1,7 @@
 #include "host/uikit/navigation/navigation_bar.h"
 
-#include "host/uikit/navigation/navigation_item.h"
-#include "host/uikit/scroll/pixel.h"
+#include "host/runtime/on_pixel.h"
+#include "host/uikit/navigation_items/navigation_item.h"
 #include "platform/UIKit/UIApplication.h"
 #include "platform/UIKit/_UIBackdropView.h"
 

@@ -1,6 +1,6 @@
 #include "host/uikit/picker/picker_view.h"
 
-#include "host/uikit/scroll/pixel.h"
+#include "host/runtime/on_pixel.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::uikit {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/uikit/scroll/pixel.h"
+#include "host/runtime/on_pixel.h"
 #include "platform/QuartzCore/CATransaction.h"
 
 namespace host::uikit {

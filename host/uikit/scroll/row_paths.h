@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/uikit/scroll/row_layout.h"
+#include "host/uikit/scroll_physics/row_layout.h"
 #include "objc/ref.h"
 #include "platform/Foundation/NSIndexPath.h"
 

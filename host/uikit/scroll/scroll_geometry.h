@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/uikit/scroll/paging.h"
+#include "host/uikit/scroll_physics/paging.h"
 #include "platform/UIKit/UIGeometry.h"
 
 namespace host::uikit {

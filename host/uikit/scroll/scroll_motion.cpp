@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/uikit/scroll/pixel.h"
+#include "host/runtime/on_pixel.h"
 #include "objc/ref.h"
 
 namespace host::uikit {

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "host/runtime/run_loop.h"
-#include "host/uikit/scroll/axis_glide.h"
+#include "host/uikit/scroll_physics/axis_glide.h"
 #include "objc/object.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 

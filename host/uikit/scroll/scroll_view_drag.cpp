@@ -1,7 +1,7 @@
 #include <cmath>
 
+#include "host/runtime/on_pixel.h"
 #include "host/uikit/scroll/content_touch_delay.h"
-#include "host/uikit/scroll/pixel.h"
 #include "host/uikit/scroll/scroll_indicators.h"
 #include "host/uikit/scroll/scroll_view.h"
 #include "host/uikit/view/responder.h"

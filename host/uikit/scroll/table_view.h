@@ -6,7 +6,7 @@
 
 #include "host/uikit/scroll/cell_pool.h"
 #include "host/uikit/scroll/group_title.h"
-#include "host/uikit/scroll/row_layout.h"
+#include "host/uikit/scroll_physics/row_layout.h"
 #include "objc/class_builder.h"
 #include "platform/UIKit/UITableView.h"
 

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "host/uikit/scroll/pixel.h"
+#include "host/runtime/on_pixel.h"
 #include "host/uikit/scroll/table_view_cell.h"
 #include "platform/UIKit/UITableView.h"
 

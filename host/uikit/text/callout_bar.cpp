@@ -3,10 +3,10 @@
 
 #include "host/runtime/device_model.h"
 #include "host/uikit/drawing/graphics.h"
+#include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/text/edit_menu.h"
-#include "host/uikit/text/text_layout.h"
+#include "host/uikit/text_layout/text_layout.h"
 #include "host/uikit/view/responder.h"
-#include "host/uikit/view/screen_space.h"
 #include "platform/UIKit/UITouch.h"
 
 // How the menu over a text looks, and the finger that chooses from it.

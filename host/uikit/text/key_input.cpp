@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/uikit/text/characters.h"
+#include "host/uikit/text_layout/characters.h"
 #include "host/uikit/view/responder.h"
 #include "platform/UIKit/UITextField.h"
 

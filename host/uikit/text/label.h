@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/uikit/text/text_layout.h"
+#include "host/uikit/text_layout/text_layout.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UILabel.h"

@@ -6,7 +6,7 @@
 #include "host/quartzcore/color.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/drawing/graphics.h"
-#include "host/uikit/view/screen_space.h"
+#include "host/uikit/geometry/screen_space.h"
 #include "platform/UIKit/UITouch.h"
 
 namespace host::uikit {

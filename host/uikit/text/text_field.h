@@ -2,7 +2,7 @@
 
 #include "host/uikit/text/caret.h"
 #include "host/uikit/text/selection_marks.h"
-#include "host/uikit/text/text_layout.h"
+#include "host/uikit/text_layout/text_layout.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIButton.h"

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "host/uikit/text/characters.h"
 #include "host/uikit/text/edit_menu.h"
 #include "host/uikit/text/text_field.h"
+#include "host/uikit/text_layout/characters.h"
 #include "host/uikit/view/responder.h"
 
 // How a text field is typed into, and what it asks and tells its delegate on the way.

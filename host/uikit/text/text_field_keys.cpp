@@ -2,10 +2,10 @@
 #include <string_view>
 #include <utility>
 
-#include "host/uikit/text/characters.h"
 #include "host/uikit/text/edit_menu.h"
 #include "host/uikit/text/text_field.h"
-#include "host/uikit/text/words.h"
+#include "host/uikit/text_layout/characters.h"
+#include "host/uikit/text_layout/words.h"
 
 // The physical keyboard's keys that type nothing.
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 
-#include "host/uikit/text/characters.h"
+#include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/text/edit_menu.h"
 #include "host/uikit/text/text_field.h"
-#include "host/uikit/text/words.h"
-#include "host/uikit/view/screen_space.h"
+#include "host/uikit/text_layout/characters.h"
+#include "host/uikit/text_layout/words.h"
 #include "platform/UIKit/UIPasteboard.h"
 #include "platform/UIKit/UITouch.h"
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/gesture/gesture_recognizer.h"
 #include "host/uikit/view/miss_test.h"
-#include "host/uikit/view/screen_space.h"
 #include "host/uikit/view/view.h"
 
 namespace host::uikit {

@@ -1,10 +1,10 @@
 #include "host/uikit/view/window.h"
 
-#include "host/uikit/gesture/event.h"
+#include "host/uikit/geometry/screen_space.h"
+#include "host/uikit/geometry/window_list.h"
 #include "host/uikit/gesture/gesture_arena.h"
-#include "host/uikit/view/screen_space.h"
+#include "host/uikit/touch/event.h"
 #include "host/uikit/view/view_controller.h"
-#include "host/uikit/view/window_list.h"
 #include "platform/UIKit/UIApplication.h"
 
 namespace host::uikit {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "host/activator/exports.h"
-#include "host/activator/service.h"
-#include "host/activator/strings.h"
+#include "host/activator/event/strings.h"
+#include "host/activator/service/exports.h"
+#include "host/activator/service/service.h"
 #include "host/foundation/device_paths.h"
 #include "host/uikit/scroll/exports.h"
 #include "tests/host/uikit_view/uikit_test.h"

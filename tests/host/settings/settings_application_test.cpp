@@ -4,13 +4,13 @@
 
 #include <filesystem>
 
-#include "host/activator/service.h"
+#include "host/activator/service/service.h"
 #include "host/applications/program/player_remote.h"
 #include "host/applications/settings/loader_entries.h"
 #include "host/foundation/device_paths.h"
 #include "host/process/device_images.h"
-#include "host/springboard/configuration.h"
-#include "host/springboard/wallpaper.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/wallpaper.h"
 #include "host/uikit/application/application.h"
 #include "platform/Preferences/PSListController.h"
 #include "tests/host/uikit_navigation/page_test.h"

@@ -1,4 +1,4 @@
-#include "host/social/character_count.h"
+#include "host/social/composers/character_count.h"
 
 #include "tests/support/host_test.h"
 

@@ -1,4 +1,4 @@
-#include "host/social/composer_place.h"
+#include "host/social/composers/composer_place.h"
 
 #include <gtest/gtest.h>
 

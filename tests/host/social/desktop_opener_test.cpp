@@ -1,4 +1,4 @@
-#include "host/social/desktop_opener.h"
+#include "host/social/delivery/desktop_opener.h"
 
 #include <fcntl.h>
 

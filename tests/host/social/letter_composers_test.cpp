@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 
-#include "host/social/configuration.h"
-#include "host/social/exports.h"
+#include "host/social/composers/exports.h"
+#include "host/social/delivery/configuration.h"
 #include "host/uikit/application/application.h"
 #include "host/uikit/text/key_input.h"
-#include "host/uikit/text/text_view.h"
+#include "host/uikit/text_view/text_view.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/MessageUI/MFMessageComposeViewController.h"
 #include "tests/host/uikit_navigation/page_test.h"

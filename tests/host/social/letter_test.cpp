@@ -1,12 +1,12 @@
-#include "host/social/letter.h"
+#include "host/social/delivery/letter.h"
 
 #include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
 
-#include "host/social/addresses.h"
-#include "host/social/configuration.h"
+#include "host/social/delivery/addresses.h"
+#include "host/social/delivery/configuration.h"
 #include "tests/host/social/desktop.h"
 #include "tests/support/host_test.h"
 

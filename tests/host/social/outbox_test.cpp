@@ -1,4 +1,4 @@
-#include "host/social/outbox.h"
+#include "host/social/delivery/outbox.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "host/social/percent_encoding.h"
+#include "host/social/delivery/percent_encoding.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "host/social/share_target.h"
+#include "host/social/delivery/share_target.h"
 
 #include <filesystem>
 
-#include "host/social/configuration.h"
+#include "host/social/delivery/configuration.h"
 #include "tests/host/social/desktop.h"
 #include "tests/support/host_test.h"
 

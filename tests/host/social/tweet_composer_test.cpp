@@ -1,12 +1,12 @@
-#include "host/social/tweet_composer.h"
+#include "host/social/composers/tweet_composer.h"
 
 #include <memory>
 
-#include "host/social/configuration.h"
-#include "host/social/exports.h"
+#include "host/social/composers/exports.h"
+#include "host/social/delivery/configuration.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/key_input.h"
-#include "host/uikit/text/text_view.h"
+#include "host/uikit/text_view/text_view.h"
 #include "host/uikit/view/responder.h"
 #include "platform/UIKit/UIViewController.h"
 #include "tests/host/uikit_view/recording_view.h"

@@ -1,4 +1,4 @@
-#include "host/uikit/gesture/system_gestures.h"
+#include "host/uikit/touch/system_gestures.h"
 #include "tests/host/springboard/surface_fixture.h"
 #include "tests/settings/replaced_method.h"
 #include "tests/tweak/method_spy.h"

@@ -1,5 +1,5 @@
 #include "host/springboard/icon/folder_icon.h"
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "platform/SpringBoard/SBIconListView.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 #include "platform/SpringBoard/SBUIController.h"

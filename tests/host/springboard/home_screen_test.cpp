@@ -1,5 +1,5 @@
-#include "host/springboard/system/status_bar.h"
-#include "host/springboard/system_actions.h"
+#include "host/springboard/status_bar/status_bar.h"
+#include "host/springboard/system/system_actions.h"
 #include "platform/SpringBoard/SBApplicationController.h"
 #include "platform/SpringBoard/SBDockIconListView.h"
 #include "platform/SpringBoard/SBFolderIconListView.h"

@@ -1,4 +1,4 @@
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "platform/SpringBoard/SBFolderIcon.h"
 #include "platform/SpringBoard/SBIconListView.h"
 #include "platform/SpringBoard/SBIconViewMap.h"

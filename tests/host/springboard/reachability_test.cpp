@@ -1,5 +1,5 @@
-#include "host/springboard/surfaces/window_levels.h"
-#include "host/uikit/view/window_list.h"
+#include "host/springboard/parts/window_levels.h"
+#include "host/uikit/geometry/window_list.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
 #include "platform/SpringBoard/SBUIController.h"
 #include "tests/host/springboard/surface_fixture.h"

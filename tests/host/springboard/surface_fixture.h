@@ -1,12 +1,12 @@
 #pragma once
 
-#include "host/springboard/shared_instance.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/surfaces/banner_controller.h"
 #include "host/springboard/surfaces/control_centre.h"
 #include "host/springboard/surfaces/display.h"
 #include "host/springboard/surfaces/lock_screen.h"
 #include "host/springboard/surfaces/notification_centre.h"
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "tests/support/phone_fixture.h"
 
 namespace host::test {

@@ -1,4 +1,4 @@
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "platform/SpringBoard/SBBannerController.h"
 #include "platform/SpringBoard/SBControlCenterContainerView.h"
 #include "platform/SpringBoard/SBControlCenterController.h"

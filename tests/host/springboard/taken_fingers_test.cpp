@@ -1,4 +1,4 @@
-#include "host/springboard/surfaces/window_levels.h"
+#include "host/springboard/parts/window_levels.h"
 #include "host/uikit/view/responder.h"
 #include "platform/UIKit/UITextField.h"
 #include "tests/host/springboard/surface_fixture.h"

@@ -1,6 +1,6 @@
 #include "host/springboard/surfaces/volume_overlay.h"
 
-#include "host/uikit/view/window_list.h"
+#include "host/uikit/geometry/window_list.h"
 #include "tests/host/springboard/surface_fixture.h"
 
 namespace host::springboard {

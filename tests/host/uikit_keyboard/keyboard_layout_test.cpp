@@ -1,11 +1,11 @@
-#include "host/uikit/keyboard/keyboard_layout.h"
+#include "host/uikit/keyboard_layout/keyboard_layout.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <set>
 
-#include "host/uikit/keyboard/accents.h"
+#include "host/uikit/keyboard_layout/accents.h"
 
 namespace {
 

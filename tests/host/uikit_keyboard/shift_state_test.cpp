@@ -1,4 +1,4 @@
-#include "host/uikit/keyboard/shift_state.h"
+#include "host/uikit/keyboard_layout/shift_state.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "host/uikit/text/edit_menu.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/text/text_field.h"
-#include "host/uikit/text/words.h"
+#include "host/uikit/text_layout/words.h"
 #include "platform/UIKit/UIPasteboard.h"
 #include "tests/host/uikit_keyboard/keyboard_fixture.h"
 

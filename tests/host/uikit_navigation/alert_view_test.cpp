@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "host/uikit/view/window_list.h"
+#include "host/uikit/geometry/window_list.h"
 #include "platform/UIKit/UIAlertView.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"

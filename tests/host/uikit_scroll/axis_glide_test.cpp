@@ -1,4 +1,4 @@
-#include "host/uikit/scroll/axis_glide.h"
+#include "host/uikit/scroll_physics/axis_glide.h"
 
 #include <gtest/gtest.h>
 

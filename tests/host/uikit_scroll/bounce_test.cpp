@@ -1,4 +1,4 @@
-#include "host/uikit/scroll/bounce.h"
+#include "host/uikit/scroll_physics/bounce.h"
 
 #include <gtest/gtest.h>
 

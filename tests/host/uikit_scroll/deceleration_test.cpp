@@ -1,4 +1,4 @@
-#include "host/uikit/scroll/deceleration.h"
+#include "host/uikit/scroll_physics/deceleration.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/uikit/scroll/paging.h"
+#include "host/uikit/scroll_physics/paging.h"
 
 #include <gtest/gtest.h>
 

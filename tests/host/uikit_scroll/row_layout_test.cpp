@@ -1,4 +1,4 @@
-#include "host/uikit/scroll/row_layout.h"
+#include "host/uikit/scroll_physics/row_layout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "host/uikit/text/text_layout.h"
+#include "host/uikit/text_layout/text_layout.h"
 
 #include <array>
 #include <string>
 
 #include "host/uikit/drawing/graphics.h"
-#include "host/uikit/text/characters.h"
+#include "host/uikit/text_layout/characters.h"
 #include "platform/Foundation/NSValue.h"
 #include "platform/UIKit/NSAttributedStringAdditions.h"
 #include "platform/UIKit/NSStringDrawing.h"

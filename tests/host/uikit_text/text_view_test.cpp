@@ -1,4 +1,4 @@
-#include "host/uikit/text/text_view.h"
+#include "host/uikit/text_view/text_view.h"
 
 #include <optional>
 #include <string>
@@ -6,9 +6,9 @@
 
 #include "host/quartzcore/compositor.h"
 #include "host/quartzcore/layer_service.h"
-#include "host/uikit/gesture/touch_input.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/key_input.h"
+#include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/responder.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/host/uikit_text/view_test.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "host/uikit/gesture/velocity_tracker.h"
+#include "host/uikit/touch/velocity_tracker.h"
 #include "host/uikit/view/spring_curve.h"
 
 namespace {

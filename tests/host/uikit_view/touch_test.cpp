@@ -1,4 +1,4 @@
-#include "host/uikit/gesture/system_gestures.h"
+#include "host/uikit/touch/system_gestures.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "tests/host/uikit_view/recording_target.h"
 #include "tests/host/uikit_view/recording_view.h"

@@ -6,8 +6,8 @@
 
 #include "host/quartzcore/layer_service.h"
 #include "host/uikit/drawing/exports.h"
-#include "host/uikit/gesture/touch_input.h"
 #include "host/uikit/text/exports.h"
+#include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/exports.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/support/host_test.h"

@@ -1,6 +1,6 @@
 #include "host/runtime/device_model.h"
 #include "host/uikit/application/application.h"
-#include "host/uikit/view/window_list.h"
+#include "host/uikit/geometry/window_list.h"
 #include "platform/UIKit/UIDevice.h"
 #include "platform/UIKit/UIViewController.h"
 #include "tests/host/uikit_view/recording_target.h"

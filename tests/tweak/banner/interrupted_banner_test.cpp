@@ -1,4 +1,4 @@
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "platform/UIKit/UITextField.h"
 #include "tests/tweak/banner/banner_fixture.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "tests/tweak/panel_test.h"
 
 namespace host::test {

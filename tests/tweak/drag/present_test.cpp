@@ -1,4 +1,4 @@
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "platform/UIKit/UIPanGestureRecognizer.h"
 #include "tests/tweak/drag/drag_test.h"

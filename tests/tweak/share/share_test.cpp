@@ -1,5 +1,5 @@
 #include "host/runtime/device_images.h"
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "host/uikit/view/responder.h"
 #include "platform/Twitter/TWTweetComposeViewController.h"
 #include "platform/UIKit/UILabel.h"

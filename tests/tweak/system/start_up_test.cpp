@@ -1,4 +1,4 @@
-#include "host/springboard/system_actions.h"
+#include "host/springboard/system/system_actions.h"
 #include "objc/class_builder.h"
 #include "platform/Activator/LAActivator.h"
 #include "platform/MediaPlayerUI/MPUNowPlayingController.h"

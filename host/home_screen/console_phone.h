@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+
+#include "host/console/phone.h"
+#include "host/home_screen/hands.h"
+
+namespace host::launcher {
+
+/// The phone of this process, for the console's commands.
+class ConsolePhone final : public console::Phone {
+ public:
+  /// What differs between one phone and another.
+  struct Parts {
+    std::function<void(double seconds)> advance;
+    /// Draws what there is to draw and writes it to the file.
+    std::function<console::Refusal(const std::string& file)> screenshot;
+    std::filesystem::path screenshots;
+  };
+
+  ConsolePhone(Hands& hands, Parts parts) : hands_(hands), parts_(std::move(parts)) {}
+
+  void advance(double seconds) override { parts_.advance(seconds); }
+  void touch(int finger, console::TouchPhase phase, CGPoint point) override;
+  std::optional<CGPoint> centre_of(objc::Object object) override;
+  console::Refusal type(std::string_view text) override { return hands_.type(text); }
+  console::Refusal key(std::string_view name) override { return hands_.key(name); }
+  console::Refusal press(console::Button button) override { return hands_.press(button); }
+  console::Refusal button(console::Button button, console::ButtonPhase phase) override {
+    return hands_.button(button, phase);
+  }
+  console::Refusal system(console::SystemEvent event, std::string_view detail) override;
+  console::Refusal gesture(std::string_view event) override;
+  console::Refusal screenshot(const std::string& file) override;
+  console::Refusal unrest() override;
+  console::Refusal talk_to(std::string_view process) override;
+  std::optional<std::string> answer_elsewhere(const std::string& line) override;
+
+ private:
+  Hands& hands_;
+  Parts parts_;
+  /// Whom the console talks to; empty for this process.
+  std::string elsewhere_;
+};
+
+}  // namespace host::launcher

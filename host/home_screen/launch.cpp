@@ -1,0 +1,63 @@
+#include "host/home_screen/launch.h"
+
+#include "host/activator/service/service.h"
+#include "host/foundation/bundles.h"
+#include "host/foundation/foundation_log.h"
+#include "host/foundation/loader.h"
+#include "host/home_screen/music.h"
+#include "host/home_screen/phone_mode.h"
+#include "host/home_screen/supervised_processes.h"
+#include "host/process/device_images.h"
+#include "host/runtime/heap.h"
+#include "host/social/delivery/configuration.h"
+#include "host/springboard/common/configuration.h"
+#include "host/uikit/application/application.h"
+
+namespace host::launcher {
+namespace {
+
+constexpr const char* kBundleIdentifier = "com.apple.springboard";
+
+/// Pictures of a phone whose clock is stepped have to be the same tomorrow.
+const springboard::WallClock& wall_clock(bool stepped) {
+  static const springboard::FixedWallClock fixed;
+  static const springboard::SystemWallClock system;
+  if (stepped) return fixed;
+  return system;
+}
+
+/// A phone without a window belongs to no desktop, whatever runs around it.
+void configure_social(bool headless) {
+  social::Configuration configuration;
+  configuration.desktop = headless ? social::Desktop::Absent : social::desktop_of_environment();
+  configuration.share_target = social::default_share_target_file();
+  social::configure(configuration);
+}
+
+/// Before the extensions come, which register with it.
+void start_gesture_service() {
+  static const PhoneMode mode;
+  activator::Service::restart(activator::Service::Role::HomeScreen, &mode);
+}
+
+}  // namespace
+
+void launch_home_screen(const ProcessOptions& options) {
+  give_large_blocks_back();
+  process::start_home_screen();
+  foundation::set_main_bundle("/System/Library/CoreServices/SpringBoard.app");
+  foundation::take_foundation_log();
+  springboard::Configuration configuration;
+  configuration.wall_clock = &wall_clock(options.stepped);
+  configuration.has_stepped_clock = options.stepped;
+  static SupervisedProcesses processes;
+  configuration.process_keeper = &processes;
+  springboard::configure(configuration);
+  configure_social(options.headless);
+  start_gesture_service();
+  start_music(options);
+  foundation::load_libraries(kBundleIdentifier, kHomeScreen);
+  uikit::launch_application(kHomeScreen);
+}
+
+}  // namespace host::launcher

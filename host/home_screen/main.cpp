@@ -1,0 +1,112 @@
+#include <cstdio>
+#include <memory>
+
+#include "host/console/globals.h"
+#include "host/foundation/device_paths.h"
+#include "host/home_screen/console_phone.h"
+#include "host/home_screen/console_service.h"
+#include "host/home_screen/launch.h"
+#include "host/home_screen/music.h"
+#include "host/home_screen/passing_time.h"
+#include "host/home_screen/process_options.h"
+#include "host/home_screen/window_clipboard.h"
+#include "host/home_screen/window_input.h"
+#include "host/home_screen/window_service.h"
+#include "host/launcher/supervisor.h"
+#include "host/process/library_globals.h"
+#include "host/process/phone_screen.h"
+#include "host/quartzcore/layer_service.h"
+#include "host/runtime/device_model.h"
+#include "host/runtime/log.h"
+#include "objc/autorelease_pool.h"
+
+namespace {
+
+using namespace host;
+using launcher::ProcessOptions;
+
+/// The process's clock, whose time somebody makes: the machine or the console.
+class ProcessClock {
+ public:
+  explicit ProcessClock(bool stepped) {
+    if (stepped) stepped_.emplace();
+  }
+  Clock& clock() { return stepped_ ? static_cast<Clock&>(*stepped_) : real_; }
+  void advance(RunLoop& loop, double seconds) {
+    if (stepped_) {
+      loop.advance_to(*stepped_, stepped_->now() + seconds);
+    } else {
+      launcher::let_time_pass(loop, seconds);
+    }
+  }
+
+ private:
+  RealClock real_;
+  std::optional<SteppedClock> stepped_;
+};
+
+/// The window where there is one, otherwise a screen that nobody sees.
+struct Display {
+  std::unique_ptr<screen::Screen> screen;
+  std::unique_ptr<launcher::WindowService> service;
+  std::unique_ptr<launcher::WindowClipboard> clipboard;
+};
+
+std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
+                                    screen::Input& input) {
+  if (options.headless)
+    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr};
+  const DeviceModel& device = current_device();
+  std::string problem;
+  auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
+  if (!window) {
+    spdlog::error("no window can be opened: {}", problem);
+    return std::nullopt;
+  }
+  auto service = std::make_unique<launcher::WindowService>(loop, *window);
+  auto clipboard = std::make_unique<launcher::WindowClipboard>(*window);
+  return Display{std::move(window), std::move(service), std::move(clipboard)};
+}
+
+int run(const ProcessOptions& options) {
+  ProcessClock clock(options.stepped);
+  RunLoop loop(clock.clock());
+  RunLoop::set_main(&loop);
+  foundation::set_device_root(options.root);
+  set_current_device(*device_model(options.device));
+
+  const auto pool = std::make_unique<objc::AutoreleasePool>();
+  const quartzcore::LayerService layers(loop);
+  const DeviceModel& device = current_device();
+  launcher::Hands hands(loop, {device.width, device.height});
+  launcher::WindowInput input(hands, [&loop] { loop.stop(); });
+  auto display = open_display(options, loop, input);
+  if (!display) return launcher::kCannotStart;
+  launcher::launch_home_screen(options);
+  process::PhoneScreen phone_screen(loop, *display->screen);
+
+  launcher::ConsolePhone phone(
+      hands,
+      {[&](double seconds) { clock.advance(loop, seconds); },
+       [&](const std::string& file) { return phone_screen.write(file); }, options.screenshots});
+  const console::Globals globals = process::globals_of_libraries();
+  console::Session session(phone, globals);
+  std::optional<launcher::ConsoleService> service;
+  if (options.console_descriptor >= 0)
+    service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
+  loop.run();
+  launcher::stop_music();
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  start_log(launcher::kHomeScreen);
+  const auto options = launcher::read_process_options(count, arguments);
+  if (!options) {
+    std::fputs("SpringBoard is started by sonavue.\n", stderr);
+    return launcher::kCannotStart;
+  }
+  return run(*options);
+}

@@ -1,0 +1,30 @@
+#include "host/home_screen/process_options.h"
+
+#include <CLI/CLI.hpp>
+
+#include "host/launcher/supervisor.h"
+#include "host/runtime/device_model.h"
+
+namespace host::launcher {
+
+std::optional<ProcessOptions> read_process_options(int count, const char* const* arguments) {
+  ProcessOptions options;
+  CLI::App parser;
+  parser.add_option("--device", options.device)->required();
+  parser.add_option("--root", options.root)->required();
+  parser.add_option("--music", options.music)->allow_extra_args(false);
+  parser.add_option("--screenshots", options.screenshots)->required();
+  parser.add_flag("--headless", options.headless);
+  parser.add_flag("--blind", options.blind);
+  parser.add_flag("--stepped", options.stepped);
+  parser.add_option(kConsoleArgument, options.console_descriptor);
+  try {
+    parser.parse(count, arguments);
+  } catch (const CLI::ParseError&) {
+    return std::nullopt;
+  }
+  if (!device_model(options.device)) return std::nullopt;
+  return options;
+}
+
+}  // namespace host::launcher

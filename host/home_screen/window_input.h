@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+
+#include "host/home_screen/hands.h"
+
+namespace host::launcher {
+
+/// What the user does in the window, done to the phone.
+class WindowInput final : public screen::Input {
+ public:
+  WindowInput(Hands& hands, std::function<void()> on_close)
+      : hands_(hands), on_close_(std::move(on_close)) {}
+
+  void touch(int finger, screen::TouchPhase phase, CGPoint point) override {
+    hands_.touch(finger, phase, point);
+  }
+  // A key that nobody takes just now is nothing that a user has to be told.
+  void type(std::string_view text) override { hands_.type(text); }
+  void compose(std::string_view text, int caret) override { hands_.compose(text, caret); }
+  void key(std::string_view name) override { hands_.key(name); }
+  void press(screen::Button button) override { hands_.press(button); }
+  void button(screen::Button button, screen::ButtonPhase phase) override {
+    hands_.button(button, phase);
+  }
+  void shake() override { hands_.shake(); }
+  void close() override { on_close_(); }
+
+ private:
+  Hands& hands_;
+  std::function<void()> on_close_;
+};
+
+}  // namespace host::launcher

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "host/social/delivery/desktop_opener.h"
+
+namespace host::social {
+
+/// Where texts go that leave the phone. Set before the first composer is shown.
+struct Configuration {
+  Desktop desktop = Desktop::Absent;
+  /// A folder of the device.
+  std::string outbox = "/var/mobile/Library/Outbox";
+  /// A file of the user's machine; it need not be there.
+  std::filesystem::path share_target;
+};
+
+void configure(Configuration configuration);
+const Configuration& configuration();
+
+/// `sonavue/share-target` in the user's folder for settings.
+std::filesystem::path default_share_target_file();
+
+}  // namespace host::social

@@ -1,0 +1,79 @@
+#include "host/social/delivery/share_target.h"
+
+#include <algorithm>
+#include <fstream>
+
+#include "host/runtime/log.h"
+#include "host/social/delivery/configuration.h"
+#include "host/social/delivery/percent_encoding.h"
+
+namespace host::social {
+namespace {
+
+constexpr std::string_view kPlace = "{text}";
+constexpr std::string_view kMail = "mailto:";
+constexpr std::string_view kBlank = " \t\r\n";
+constexpr const char* kKind = "share";
+
+bool is_in_scheme(unsigned char sign) {
+  return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z') ||
+         (sign >= '0' && sign <= '9') || sign == '+' || sign == '-' || sign == '.';
+}
+
+bool is_letter(unsigned char sign) {
+  return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z');
+}
+
+/// Beginning with a scheme it can be taken neither for an option nor for a file.
+bool is_address_with_place(std::string_view line) {
+  const std::size_t colon = line.find(':');
+  if (colon == line.npos || colon == 0 || !is_letter(static_cast<unsigned char>(line[0])))
+    return false;
+  const std::string_view scheme = line.substr(0, colon);
+  return std::all_of(scheme.begin(), scheme.end(), is_in_scheme) &&
+         line.find(kPlace) != line.npos &&
+         std::none_of(line.begin(), line.end(),
+                      [](unsigned char sign) { return sign <= ' ' || sign == 0x7F; });
+}
+
+std::string_view trimmed(std::string_view line) {
+  const std::size_t begin = line.find_first_not_of(kBlank);
+  if (begin == line.npos) return {};
+  return line.substr(begin, line.find_last_not_of(kBlank) - begin + 1);
+}
+
+}  // namespace
+
+ShareTarget ShareTarget::read(const std::filesystem::path& file) {
+  ShareTarget target;
+  std::ifstream stream(file);
+  std::string line;
+  if (file.empty() || !std::getline(stream, line)) return target;
+  if (const std::string_view address = trimmed(line); is_address_with_place(address)) {
+    target.address_ = address;
+  } else {
+    spdlog::warn("{}: the first line is no address with {} in it: sharing by mail", file.string(),
+                 kPlace);
+  }
+  return target;
+}
+
+std::string ShareTarget::address_for(std::string_view text) const {
+  const bool is_mail = address_.starts_with(kMail);
+  const std::string encoded = percent_encoded(is_mail ? with_mail_line_ends(text) : text);
+  std::string address = address_;
+  for (std::size_t at = address.find(kPlace); at != address.npos;
+       at = address.find(kPlace, at + encoded.size())) {
+    address.replace(at, kPlace.size(), encoded);
+  }
+  return address;
+}
+
+HandedTo hand_over_share(std::string_view text) {
+  const bool has_desktop = configuration().desktop == Desktop::Present;
+  const ShareTarget target =
+      has_desktop ? ShareTarget::read(configuration().share_target) : ShareTarget();
+  return hand_over(kKind, target.address_for(text), text);
+}
+
+}  // namespace host::social

@@ -1,0 +1,161 @@
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/shared_instance.h"
+#include "host/springboard/model/strings.h"
+#include "host/springboard/surfaces/banner_controller.h"
+#include "host/springboard/surfaces/control_centre.h"
+#include "host/springboard/surfaces/display.h"
+#include "host/springboard/surfaces/lock_screen.h"
+#include "host/springboard/surfaces/notification_centre.h"
+#include "host/springboard/surfaces/surfaces.h"
+#include "host/springboard/surfaces/volume_overlay.h"
+#include "host/springboard/switcher/app_switcher.h"
+#include "host/springboard/system/system_actions.h"
+#include "host/uikit/touch/touch_input.h"
+#include "platform/SpringBoard/SBIconController.h"
+#include "platform/SpringBoard/SBMediaController.h"
+#include "platform/SpringBoard/SBReachabilityManager.h"
+#include "platform/SpringBoard/SBUIController.h"
+
+namespace host::springboard {
+namespace {
+
+// Sixteen presses from silence to the loudest.
+constexpr float kVolumeStep = 1.0f / VolumeOverlay::kSteps;
+
+SBLockScreenViewController lock_controller() {
+  return SharedInstance<SBLockScreenViewController>::get();
+}
+LockScreen& lock_screen() {
+  return objc::state_of<LockScreen>(lock_controller());
+}
+NotificationCentre& notification_centre() {
+  return objc::state_of<NotificationCentre>(
+      SharedInstance<SBNotificationCenterViewController>::get());
+}
+BannerController& banners() {
+  return objc::state_of<BannerController>(SBBannerController::sharedInstance());
+}
+Display& display() {
+  return SharedPart<Display>::get();
+}
+
+/// Whoever presses Home on a dark phone wants to see it.
+bool wake_display() {
+  if (display().is_on()) return false;
+  lock_screen().wake();
+  return true;
+}
+
+}  // namespace
+
+bool is_locked() {
+  return lock_screen().is_locked();
+}
+
+bool is_notification_centre_open() {
+  return notification_centre().is_presented();
+}
+
+void open_notification_centre() {
+  SBNotificationCenterController::sharedInstance().presentAnimated(YES);
+}
+
+bool close_top_surface() {
+  const SBControlCenterController controls = SBControlCenterController::sharedInstance();
+  if (controls.isPresented()) {
+    controls.dismissAnimated(YES);
+  } else if (is_notification_centre_open()) {
+    SBNotificationCenterController::sharedInstance().dismissAnimated(YES);
+  } else if (SBReachabilityManager::sharedInstance().reachabilityModeActive()) {
+    SBReachabilityManager::sharedInstance()._handleReachabilityDeactivated();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void close_surfaces_at_once() {
+  app_switcher().dismiss_at_once();
+  const SBControlCenterController controls = SBControlCenterController::sharedInstance();
+  if (controls.isPresented()) controls.dismissAnimated(NO);
+  notification_centre().close_at_once();
+  banners().forget_queue();
+  banners().present_banner(nil, 0);
+  SharedPart<VolumeOverlay>::get().hide_at_once();
+  const SBReachabilityManager reach = SBReachabilityManager::sharedInstance();
+  if (reach.reachabilityModeActive()) reach._handleReachabilityDeactivated();
+  if (SBIconController::sharedInstance().isEditing())
+    SBIconController::sharedInstance().setIsEditing(NO);
+}
+
+void press_home() {
+  if (!wake_display()) SBUIController::sharedInstance().clickedMenuButton();
+}
+
+void double_press_home() {
+  if (!wake_display()) SBUIController::sharedInstance().handleMenuDoubleTap();
+}
+
+bool double_touch_home() {
+  if (!SBReachabilityManager::reachabilitySupported()) return false;
+  // A dark phone is locked, too.
+  if (!is_locked() && !app_switcher().is_showing()) toggle_reachability();
+  return true;
+}
+
+void press_lock() {
+  if (!wake_display()) lock();
+}
+
+void press_volume(VolumeButton button) {
+  const SBMediaController media = SBMediaController::sharedInstance();
+  media._changeVolumeBy(button == VolumeButton::kUp ? kVolumeStep : -kVolumeStep);
+  // The control centre has a slider for it, and a dark phone is in a pocket.
+  const bool is_seen = display().is_on();
+  if (is_seen && !SBControlCenterController::sharedInstance().isPresented())
+    SharedPart<VolumeOverlay>::get().show(media.volume());
+}
+
+void present_banner(std::string_view text) {
+  const Notification message{"Messages", std::string(text),
+                             configuration().wall_clock->time_text()};
+  notification_centre().add(message);
+  if (is_locked()) {
+    lock_screen().add(message);
+  } else {
+    banners().enqueue(message.text);
+  }
+}
+
+void present_notification_centre() {
+  open_notification_centre();
+}
+
+void present_control_centre() {
+  SBControlCenterController::sharedInstance().presentAnimated(YES);
+}
+
+bool toggle_reachability() {
+  if (!SBReachabilityManager::reachabilitySupported()) return false;
+  const SBReachabilityManager manager = SBReachabilityManager::sharedInstance();
+  if (manager.reachabilityModeActive()) {
+    manager._handleReachabilityDeactivated();
+  } else {
+    manager._handleReachabilityActivated();
+  }
+  return true;
+}
+
+void lock() {
+  // Whoever hears of it finds no finger on the screen any more.
+  display().turn_off();
+  lock_controller()._handleDisplayTurnedOff();
+}
+
+void unlock() {
+  wake_display();
+  uikit::cancel_every_touch();
+  lock_controller().prepareForUIUnlock();
+}
+
+}  // namespace host::springboard

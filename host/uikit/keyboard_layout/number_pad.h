@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "host/uikit/keyboard_layout/board_metrics.h"
+#include "host/uikit/keyboard_layout/key.h"
+#include "platform/UIKit/UITextInputTraits.h"
+
+namespace host::uikit {
+
+bool is_number_pad(UIKeyboardType type);
+
+/// Twelve cells that fill the board: nine digits, what the type has left of the nought, the nought
+/// and backspace.
+std::vector<Key> make_number_pad(const BoardMetrics& metrics, UIKeyboardType type);
+
+}  // namespace host::uikit

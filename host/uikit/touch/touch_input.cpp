@@ -1,0 +1,192 @@
+#include "host/uikit/touch/touch_input.h"
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "host/runtime/run_loop.h"
+#include "host/uikit/application/application.h"
+#include "host/uikit/geometry/screen_space.h"
+#include "host/uikit/geometry/window_list.h"
+#include "host/uikit/gesture/gesture_arena.h"
+#include "host/uikit/touch/event.h"
+#include "host/uikit/touch/system_gestures.h"
+#include "host/uikit/touch/tap_limits.h"
+#include "host/uikit/touch/touch.h"
+
+namespace host::uikit {
+namespace {
+
+// Those of the process; all of them stand for one screen.
+std::vector<TouchInput*> inputs;
+bool touches_enabled = true;
+
+void take_away_from_all(TouchInput::Reach reach) {
+  const auto present = inputs;
+  for (TouchInput* input : present)
+    input->take_away(reach, RunLoop::main().now());
+}
+
+/// A view sees one finger at a time unless it asks for more, and an exclusive view shares its
+/// window with no other; recognisers see every finger all the same.
+bool view_may_take_another(const Hit& hit) {
+  for (const auto& touch : GestureArena::shared().touches()) {
+    const Touch& present = objc::state_of<Touch>(touch.get());
+    if (!present.is_down() || present.window() != hit.window) continue;
+    if (present.view() == hit.view) {
+      if (!hit.view.isMultipleTouchEnabled()) return false;
+    } else if (present.view().isExclusiveTouch() || hit.view.isExclusiveTouch()) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+TouchInput::TouchInput() {
+  inputs.push_back(this);
+}
+
+TouchInput::~TouchInput() {
+  std::erase(inputs, this);
+}
+
+NSUInteger TouchInput::count_tap(CGPoint point, double timestamp) {
+  const bool soon = timestamp - last_tap_.time <= kLongestTapInterval;
+  const bool near =
+      std::hypot(point.x - last_tap_.point.x, point.y - last_tap_.point.y) <= kTapAllowableMovement;
+  return last_tap_.count > 0 && soon && near ? last_tap_.count + 1 : 1;
+}
+
+bool TouchInput::goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_point,
+                                 double timestamp) {
+  const auto found = fingers_.find(finger);
+  if (found == fingers_.end() || found->second.owner == Owner::Nobody) return false;
+  found->second.point = screen_point;
+  const auto before = std::exchange(shown_, finger);
+  const auto claim = system_claim(finger, phase, screen_point, timestamp);
+  shown_ = before;
+  if (claim == SystemGestures::Claim::System) {
+    found->second.owner = Owner::System;
+    cancel(found->second, timestamp);
+  } else if (found->second.owner == Owner::Nobody) {
+    // It was taken away while they looked.
+    system_claim(finger, UITouchPhaseCancelled, screen_point, timestamp);
+  }
+  return found->second.owner == Owner::Windows;
+}
+
+void TouchInput::began(int finger, CGPoint screen_point, double timestamp) {
+  if (fingers_.contains(finger)) return moved(finger, screen_point, timestamp);
+  const Owner owner = touches_enabled ? Owner::Windows : Owner::Nobody;
+  fingers_[finger] = {owner, screen_point, {}};
+  if (goes_to_windows(finger, UITouchPhaseBegan, screen_point, timestamp) && !ignores_touches())
+    land(finger, screen_point, timestamp);
+}
+
+void TouchInput::land(int finger, CGPoint screen_point, double timestamp) {
+  const Hit hit = find_hit(screen_point, touches_event());
+  if (!hit.view) return;
+  const auto touch = objc::Ref<UITouch>::adopt(UITouch::alloc().init());
+  Touch& state = objc::state_of<Touch>(touch.get());
+  const NSUInteger taps = count_tap(screen_point, timestamp);
+  state.land(hit.window, hit.view, screen_point, timestamp, taps);
+  last_tap_ = {screen_point, timestamp, taps};
+  if (!view_may_take_another(hit)) state.keep_from_view();
+  fingers_[finger].touch = touch;
+  GestureArena::shared().add(touch.get());
+  send(touch.get(), timestamp);
+}
+
+void TouchInput::moved(int finger, CGPoint screen_point, double timestamp) {
+  if (goes_to_windows(finger, UITouchPhaseMoved, screen_point, timestamp))
+    move(finger, screen_point, timestamp);
+}
+
+void TouchInput::move(int finger, CGPoint screen_point, double timestamp) {
+  const auto touch = fingers_[finger].touch;
+  if (!touch) return;
+  Touch& state = objc::state_of<Touch>(touch.get());
+  if (state.is_lost() || state.screen_location() == screen_point) return;
+  state.move(screen_point, timestamp);
+  send(touch.get(), timestamp);
+  if (state.is_down()) state.stand_still();
+}
+
+void TouchInput::ended(int finger, CGPoint screen_point, double timestamp) {
+  // The way to where the finger left counts, even when nobody reported it.
+  if (goes_to_windows(finger, UITouchPhaseEnded, screen_point, timestamp))
+    move(finger, screen_point, timestamp);
+  forget(finger, UITouchPhaseEnded, timestamp);
+}
+
+void TouchInput::cancelled(int finger, CGPoint screen_point, double timestamp) {
+  const auto found = fingers_.find(finger);
+  if (found == fingers_.end()) return;
+  if (found->second.owner != Owner::Nobody)
+    system_claim(finger, UITouchPhaseCancelled, screen_point, timestamp);
+  move(finger, screen_point, timestamp);
+  forget(finger, UITouchPhaseCancelled, timestamp);
+}
+
+void TouchInput::cancel_all(double timestamp) {
+  while (!fingers_.empty())
+    cancelled(fingers_.begin()->first, fingers_.begin()->second.point, timestamp);
+}
+
+void TouchInput::take_away(Reach reach, double timestamp) {
+  for (auto& [number, finger] : fingers_) {
+    const bool is_out_of_reach = finger.owner == Owner::System && reach == Reach::Windows;
+    if (finger.owner == Owner::Nobody || is_out_of_reach) continue;
+    finger.owner = Owner::Nobody;
+    cancel(finger, timestamp);
+    // A gesture that is just looking at it says itself whether it takes it.
+    if (number != shown_) system_claim(number, UITouchPhaseCancelled, finger.point, timestamp);
+  }
+}
+
+void TouchInput::forget(int finger, UITouchPhase phase, double timestamp) {
+  const auto touch = std::exchange(fingers_[finger].touch, {});
+  fingers_.erase(finger);
+  if (touch) end(touch.get(), phase, timestamp);
+}
+
+void TouchInput::cancel(Finger& finger, double timestamp) {
+  const auto touch = std::exchange(finger.touch, {});
+  if (touch) end(touch.get(), UITouchPhaseCancelled, timestamp);
+}
+
+void TouchInput::end(UITouch touch, UITouchPhase phase, double timestamp) {
+  Touch& state = objc::state_of<Touch>(touch);
+  if (state.is_lost()) return;
+  last_tap_.time = timestamp;
+  if (phase == UITouchPhaseCancelled) last_tap_.count = 0;
+  state.lift(phase, timestamp);
+  send(touch, timestamp);
+}
+
+void TouchInput::send(UITouch touch, double timestamp) {
+  const UIEvent event = touches_event();
+  Event& state = objc::state_of<Event>(event);
+  // Whoever hears of one touch may have another cancelled there and then.
+  const UITouch before = state.changed_touch();
+  state.is_about(touch, timestamp);
+  if (const UIApplication application = UIApplication::sharedApplication()) {
+    application.sendEvent(event);
+  } else {
+    touch.window().sendEvent(event);
+  }
+  state.is_about(before, timestamp);
+}
+
+void cancel_every_touch() {
+  take_away_from_all(TouchInput::Reach::Windows);
+}
+
+void set_touches_enabled(bool enabled) {
+  touches_enabled = enabled;
+  if (!enabled) take_away_from_all(TouchInput::Reach::Everybody);
+}
+
+}  // namespace host::uikit
