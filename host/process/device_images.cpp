@@ -1,6 +1,6 @@
 #include "host/process/device_images.h"
 
-#include "host/activator/service/exports.h"
+#include "host/activator/page/exports.h"
 #include "host/foundation/exports.h"
 #include "host/media_player/exports.h"
 #include "host/preferences/exports.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/activator/event/strings.h"
-#include "host/activator/service/exports.h"
+#include "host/activator/page/exports.h"
 #include "host/activator/service/service.h"
 #include "host/foundation/device_paths.h"
 #include "host/uikit/scroll/exports.h"

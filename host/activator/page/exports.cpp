@@ -1,4 +1,4 @@
-#include "host/activator/service/exports.h"
+#include "host/activator/page/exports.h"
 
 #include "host/activator/event/event.h"
 #include "host/activator/page/listener_list_page.h"
