@@ -7,13 +7,16 @@
 #include "host/quartzcore/exports.h"
 #include "host/social/composers/exports.h"
 #include "host/springboard/system/exports.h"
+#include "host/uikit/alert/exports.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/keyboard/exports.h"
 #include "host/uikit/navigation/exports.h"
+#include "host/uikit/pages/exports.h"
+#include "host/uikit/picker/exports.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/exports.h"
 #include "host/uikit/text_view/text_view.h"
-#include "host/uikit/view/exports.h"
 
 namespace host::process {
 namespace {
@@ -28,12 +31,15 @@ constexpr std::string_view kHomeScreenImages[] = {kUIKit, kQuartzCore, kMediaPla
 void export_uikit() {
   social::open_addresses();
   uikit::export_drawing();
-  uikit::export_views();
+  uikit::export_application();
   uikit::export_text();
   uikit::export_keyboard();
   uikit::export_scroll();
   uikit::export_text_view();
+  uikit::export_alert();
   uikit::export_navigation();
+  uikit::export_pages();
+  uikit::export_picker();
 }
 
 // The last ones have nothing but C functions here, which every program has: they are there to be

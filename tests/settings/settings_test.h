@@ -4,9 +4,9 @@
 
 #include "host/quartzcore/exports.h"
 #include "host/quartzcore/layer_service.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/text/exports.h"
-#include "host/uikit/view/exports.h"
 #include "tests/settings/settings_device.h"
 #include "tests/support/host_test.h"
 
@@ -18,7 +18,7 @@ class SettingsTest : public host::test::HostTest, public SettingsDevice {
   SettingsTest() {
     host::quartzcore::export_quartzcore();
     host::uikit::export_drawing();
-    host::uikit::export_views();
+    host::uikit::export_application();
     host::uikit::export_text();
     service_.emplace(loop);
   }

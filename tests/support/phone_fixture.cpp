@@ -8,10 +8,10 @@
 #include "host/springboard/model/strings.h"
 #include "host/springboard/system/exports.h"
 #include "host/uikit/application/application.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/exports.h"
-#include "host/uikit/view/exports.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
 
 namespace host::test {
@@ -22,7 +22,7 @@ constexpr int kFinger = 1;
 void export_platform() {
   quartzcore::export_quartzcore();
   uikit::export_drawing();
-  uikit::export_views();
+  uikit::export_application();
   uikit::export_text();
   uikit::export_scroll();
   springboard::export_springboard();

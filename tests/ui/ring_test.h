@@ -4,9 +4,9 @@
 
 #include "host/quartzcore/exports.h"
 #include "host/quartzcore/layer_service.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/text/exports.h"
-#include "host/uikit/view/exports.h"
 #include "objc/ref.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "tests/support/host_test.h"
@@ -20,7 +20,7 @@ class RingTest : public host::test::HostTest {
   RingTest() {
     host::quartzcore::export_quartzcore();
     host::uikit::export_drawing();
-    host::uikit::export_views();
+    host::uikit::export_application();
     host::uikit::export_text();
     if (!M13ProgressViewRing::cls()) {
       make_progress_view();

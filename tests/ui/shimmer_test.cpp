@@ -5,8 +5,8 @@
 #include "host/quartzcore/compositor.h"
 #include "host/quartzcore/exports.h"
 #include "host/quartzcore/layer_service.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
-#include "host/uikit/view/exports.h"
 #include "objc/ref.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "platform/Foundation/NSValue.h"
@@ -25,7 +25,7 @@ class Shimmer : public host::test::HostTest {
   Shimmer() {
     host::quartzcore::export_quartzcore();
     host::uikit::export_drawing();
-    host::uikit::export_views();
+    host::uikit::export_application();
     make_shimmer();
     service_.emplace(loop);
   }

@@ -5,9 +5,8 @@
 #include "host/runtime/device_model.h"
 #include "host/uikit/application/address_opener.h"
 #include "host/uikit/geometry/window_list.h"
-#include "host/uikit/gesture/action_message.h"
 #include "host/uikit/touch/event.h"
-#include "host/uikit/view/responder.h"
+#include "host/uikit/view/action.h"
 #include "objc/autorelease_pool.h"
 
 namespace host::uikit {
@@ -21,16 +20,6 @@ AddressOpener address_opener;
 std::string text_of(NSURL url) {
   const char* text = url.absoluteString().UTF8String();
   return text ? text : "";
-}
-
-/// The first in the responder chain that understands the action.
-objc::Object taker_of(objc::Sel action, objc::Object sender) {
-  UIResponder responder = first_responder();
-  if (!responder && objc::cast<NSObject>(sender).isKindOfClass(UIResponder::cls()))
-    responder = objc::cast<UIResponder>(sender);
-  while (responder && !responder.respondsToSelector(action))
-    responder = responder.nextResponder();
-  return responder;
 }
 
 }  // namespace
@@ -102,14 +91,6 @@ UIApplication launch_application(const char* class_name) {
   const auto application = objc::send<UIApplication>(allocated, "init"_sel);
   objc::send<>(application, "applicationDidFinishLaunching:"_sel, application);
   return application;
-}
-
-bool ignores_touches() {
-  return shared_application.isIgnoringInteractionEvents() == YES;
-}
-
-bool send_action(objc::Sel action, objc::Object target, objc::Object sender, UIEvent event) {
-  return send_action_message(target ? target : taker_of(action, sender), action, sender, event);
 }
 
 void export_application_class() {

@@ -47,12 +47,6 @@ class Application : public objc::Implementation<Application, UIApplication> {
 /// nil when there is no such class. The application lives as long as the process.
 UIApplication launch_application(const char* class_name);
 
-/// Does the application want to be left alone by fingers just now?
-bool ignores_touches();
-
-/// Sends a control's action: to the target, or up the responder chain where there is none.
-bool send_action(objc::Sel action, objc::Object target, objc::Object sender, UIEvent event);
-
 void export_application_class();
 
 }  // namespace host::uikit

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "host/uikit/application/application.h"
+#include "host/uikit/view/action.h"
+#include "platform/UIKit/UIApplication.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 
 namespace host::uikit {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "host/uikit/view/view.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::uikit {

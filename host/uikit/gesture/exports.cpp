@@ -4,15 +4,11 @@
 #include "host/uikit/gesture/long_press_gesture_recognizer.h"
 #include "host/uikit/gesture/pan_gesture_recognizer.h"
 #include "host/uikit/gesture/tap_gesture_recognizer.h"
-#include "host/uikit/touch/event.h"
-#include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
 
 void export_gesture() {
   if (UIGestureRecognizer::cls()) return;
-  export_event();
-  export_touch();
   export_gesture_recognizer();
   export_tap_gesture_recognizer();
   export_pan_gesture_recognizer();

@@ -4,6 +4,7 @@
 
 #include "host/uikit/gesture/gesture_recognizer.h"
 #include "host/uikit/touch/event.h"
+#include "host/uikit/touch/present_touches.h"
 #include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
@@ -39,22 +40,16 @@ bool receives(UIGestureRecognizer recognizer, UITouch touch) {
          delegate.gestureRecognizerShouldReceiveTouch(recognizer, touch);
 }
 
+bool is_undecided(UIGestureRecognizer recognizer) {
+  return state_of(recognizer).is_undecided();
+}
+
 }  // namespace
 
 GestureArena& GestureArena::shared() {
   // Lives as long as the process: its objects must not be released after the runtime is gone.
   static GestureArena& arena = *new GestureArena;
   return arena;
-}
-
-std::vector<objc::Ref<UITouch>> GestureArena::touches_on_screen() const {
-  std::vector<objc::Ref<UITouch>> found;
-  const UITouch changed = objc::state_of<Event>(touches_event()).changed_touch();
-  for (const auto& touch : touches_) {
-    if (touch.get() == changed || objc::state_of<Touch>(touch.get()).is_down())
-      found.push_back(touch);
-  }
-  return found;
 }
 
 void GestureArena::engage(UIGestureRecognizer recognizer) {
@@ -154,7 +149,7 @@ void GestureArena::recognized(const GestureRecognizer& winner) {
     if (loses || state.waits_for(handle)) state.fail();
   }
   if (!handle.cancelsTouchesInView()) return;
-  const auto touches = touches_;
+  const auto touches = present_touches();
   for (const auto& touch : touches) {
     Touch& state = objc::state_of<Touch>(touch.get());
     if (state.is_seen_by(handle)) state.cancel_in_view(touches_event());
@@ -171,9 +166,9 @@ void GestureArena::failed(const GestureRecognizer& loser) {
 void GestureArena::settle() {
   if (dispatching_ > 0) return;
   ++dispatching_;
-  const auto touches = touches_;
+  const auto touches = present_touches();
   for (const auto& touch : touches)
-    objc::state_of<Touch>(touch.get()).deliver(touches_event());
+    objc::state_of<Touch>(touch.get()).deliver(touches_event(), &is_undecided);
   const auto engaged = engaged_;
   for (const auto& recognizer : engaged) {
     GestureRecognizer& state = state_of(recognizer.get());
@@ -183,10 +178,7 @@ void GestureArena::settle() {
     state.start_over();
   }
   --dispatching_;
-  std::erase_if(touches_, [](const auto& touch) {
-    const Touch& state = objc::state_of<Touch>(touch.get());
-    return !state.is_down() && !state.view_awaits_more();
-  });
+  drop_finished_touches();
 }
 
 }  // namespace host::uikit

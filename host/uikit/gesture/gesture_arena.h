@@ -16,10 +16,6 @@ class GestureArena {
  public:
   static GestureArena& shared();
 
-  /// The fingers on the screen, and those that lifted with the event being sent.
-  std::vector<objc::Ref<UITouch>> touches_on_screen() const;
-  const std::vector<objc::Ref<UITouch>>& touches() const { return touches_; }
-  void add(UITouch touch) { touches_.push_back(objc::Ref<UITouch>::retain(touch)); }
   void engage(UIGestureRecognizer recognizer);
   void disengage(UIGestureRecognizer recognizer);
 
@@ -42,7 +38,6 @@ class GestureArena {
   void tell_recognizers(UITouch touch, UIEvent event);
   std::vector<objc::Ref<UIGestureRecognizer>> others_than(UIGestureRecognizer recognizer) const;
 
-  std::vector<objc::Ref<UITouch>> touches_;
   std::vector<objc::Ref<UIGestureRecognizer>> engaged_;
   int dispatching_ = 0;
 };

@@ -1,6 +1,6 @@
 #include "host/uikit/navigation_items/bar_button_item.h"
 
-#include "host/uikit/application/application.h"
+#include "host/uikit/view/action.h"
 
 namespace host::uikit {
 

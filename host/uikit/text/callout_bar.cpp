@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/runtime/device_model.h"
+#include "host/runtime/on_pixel.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/text/edit_menu.h"
@@ -38,11 +38,6 @@ TextLayout layout_of(const std::string& title) {
   return {StyledText{title, {{0, title.size(), style}}, false}, TextFrame{}};
 }
 
-double to_pixel(double value) {
-  const double scale = current_device().scale;
-  return std::round(value * scale) / scale;
-}
-
 }  // namespace
 
 void CalloutBar::show(std::vector<EditMenuItem> items, CGRect text, CGRect screen) {
@@ -56,7 +51,7 @@ void CalloutBar::show(std::vector<EditMenuItem> items, CGRect text, CGRect scree
   const double top = points_down_ ? text.min_y() - kGap - height : text.max_y() + kGap;
   const double left = std::clamp(text.centre().x - width / 2, kEdge,
                                  std::max(kEdge, screen.size.width - kEdge - width));
-  self.setFrame({to_pixel(left), to_pixel(top), width, height});
+  self.setFrame({on_pixel(left), on_pixel(top), width, height});
   const double reach = kCorner + kArrowHalf;
   arrow_ = std::clamp(text.centre().x - left, reach, std::max(reach, width - reach));
   self.setOpaque(NO);
@@ -99,7 +94,7 @@ void CalloutBar::draw_rect(CGRect) {
   quartzcore::set_source(drawing, kGround);
   cairo_paint(drawing);
   const double top = points_down_ ? 0 : kArrowHeight;
-  const double line = 1 / current_device().scale;
+  const double line = hairline();
   for (std::size_t i = 0; i < items_.size(); ++i) {
     const double left = edges_[i];
     const double width = edges_[i + 1] - left;
@@ -115,8 +110,8 @@ void CalloutBar::draw_rect(CGRect) {
     }
     const TextLayout title = layout_of(items_[i].title);
     const CGSize size = title.size();
-    title.draw(drawing, {to_pixel(left + (width - size.width) / 2),
-                         to_pixel(top + (kHeight - size.height) / 2), size.width, size.height});
+    title.draw(drawing, {on_pixel(left + (width - size.width) / 2),
+                         on_pixel(top + (kHeight - size.height) / 2), size.width, size.height});
   }
   cairo_restore(drawing);
 }

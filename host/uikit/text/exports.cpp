@@ -7,6 +7,7 @@
 #include "host/uikit/text/pasteboard.h"
 #include "host/uikit/text/selection_marks.h"
 #include "host/uikit/text/text_field.h"
+#include "host/uikit/text_layout/exports.h"
 
 namespace host::uikit {
 

@@ -6,7 +6,4 @@ namespace host::uikit {
 /// made. A second call does nothing.
 void export_text();
 
-/// Names the attributes and gives strings their drawing; needs no views.
-void export_string_drawing();
-
 }  // namespace host::uikit

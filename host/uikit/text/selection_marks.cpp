@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "host/quartzcore/color.h"
-#include "host/runtime/device_model.h"
+#include "host/runtime/on_pixel.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/geometry/screen_space.h"
 #include "platform/UIKit/UITouch.h"
@@ -22,11 +22,6 @@ constexpr CGFloat kReachAlong = 18;
 // Among the observers of a turn's end: after layout, before the screen is drawn.
 constexpr int kTurnOrder = 150;
 
-CGFloat to_pixel(CGFloat value) {
-  const double scale = current_device().scale;
-  return std::round(value * scale) / scale;
-}
-
 }  // namespace
 
 void Grabber::set_up(SelectionEnd end, SelectionDrag* drag, UIColor tint) {
@@ -38,7 +33,7 @@ void Grabber::set_up(SelectionEnd end, SelectionDrag* drag, UIColor tint) {
 
 void Grabber::place(CGRect edge) {
   const CGFloat left = end_ == SelectionEnd::Start ? kReachOut : kReachIn;
-  const CGRect frame(to_pixel(edge.min_x()) - left, to_pixel(edge.min_y()) - kReachAlong,
+  const CGRect frame(on_pixel(edge.min_x()) - left, on_pixel(edge.min_y()) - kReachAlong,
                      kReachOut + kReachIn, std::round(edge.size.height) + 2 * kReachAlong);
   if (self.frame() == frame) return;
   const bool resized = self.frame().size != frame.size;

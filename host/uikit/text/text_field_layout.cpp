@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/runtime/device_model.h"
+#include "host/runtime/on_pixel.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/text/clear_button.h"
 #include "host/uikit/text/text_field.h"
@@ -22,20 +22,15 @@ CGRect centred(CGFloat left, CGSize size, CGRect bounds) {
   return {left, bounds.min_y() + (bounds.size.height - size.height) / 2, size.width, size.height};
 }
 
-CGFloat to_pixel(CGFloat value) {
-  const double scale = current_device().scale;
-  return std::round(value * scale) / scale;
-}
-
 /// The line's rectangle in `rect`: centred, on whole pixels.
 CGRect line_rect(CGRect rect, CGFloat height) {
-  const CGFloat top = to_pixel(rect.min_y() + (rect.size.height - height) / 2);
+  const CGFloat top = on_pixel(rect.min_y() + (rect.size.height - height) / 2);
   return {rect.min_x(), top, rect.size.width, height};
 }
 
 void draw_rounded_border(CGRect bounds) {
   cairo_t* drawing = current_drawing();
-  const CGFloat line = 1 / current_device().scale;
+  const CGFloat line = hairline();
   const CGRect edge(line / 2, line / 2, bounds.size.width - line, bounds.size.height - line);
   const auto path = UIBezierPath::bezierPathWithRoundedRect(edge, kBorderRadius);
   if (!drawing) return;
@@ -169,13 +164,13 @@ void TextField::update_caret() {
   const CGFloat origin = text_origin(rect, layout);
   const CGRect line = line_rect(rect, layout.size().height);
   const UIColor tint = self.tintColor() ? self.tintColor() : UIColor::blueColor();
-  const CGFloat edge = to_pixel(origin + caret_offset(layout));
+  const CGFloat edge = on_pixel(origin + caret_offset(layout));
   if (selection().length == 0) {
     marks_.hide();
     return caret_.show(self, {edge, line.min_y(), kCaretWidth, line.size.height}, tint);
   }
   caret_.hide();
-  const CGFloat other = to_pixel(origin + offset_of(layout, anchor_index_));
+  const CGFloat other = on_pixel(origin + offset_of(layout, anchor_index_));
   const CGRect selected(std::min(edge, other), line.min_y(), std::abs(edge - other),
                         line.size.height);
   marks_.show(self, selected, rect, tint, this);

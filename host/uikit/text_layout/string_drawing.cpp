@@ -3,7 +3,7 @@
 
 #include "host/quartzcore/context.h"
 #include "host/uikit/drawing/graphics.h"
-#include "host/uikit/text/exports.h"
+#include "host/uikit/text_layout/exports.h"
 #include "host/uikit/text_layout/text_layout.h"
 #include "objc/class_builder.h"
 #include "platform/UIKit/NSAttributedStringAdditions.h"

@@ -1,6 +1,6 @@
 #include "host/uikit/touch/event.h"
 
-#include "host/uikit/gesture/gesture_arena.h"
+#include "host/uikit/touch/present_touches.h"
 #include "host/uikit/touch/touch.h"
 
 namespace host::uikit {
@@ -9,7 +9,7 @@ namespace {
 template <class Wanted>
 NSSet touches_where(Wanted wanted) {
   const NSMutableSet found = NSMutableSet::set();
-  for (const auto& touch : GestureArena::shared().touches_on_screen()) {
+  for (const auto& touch : touches_on_screen()) {
     if (wanted(objc::state_of<Touch>(touch.get()))) found.addObject(touch.get());
   }
   return found;

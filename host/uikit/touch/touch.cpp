@@ -1,7 +1,7 @@
 #include "host/uikit/touch/touch.h"
 
 #include "host/uikit/geometry/screen_space.h"
-#include "host/uikit/gesture/gesture_recognizer.h"
+#include "platform/UIKit/UIGestureRecognizer.h"
 
 namespace host::uikit {
 
@@ -43,11 +43,6 @@ void Touch::lift(UITouchPhase phase, double timestamp) {
   phase_ = phase;
 }
 
-void Touch::lose(double timestamp) {
-  lift(UITouchPhaseCancelled, timestamp);
-  lost_ = true;
-}
-
 bool Touch::is_seen_by(UIGestureRecognizer recognizer) const {
   return std::any_of(recognizers_.begin(), recognizers_.end(),
                      [recognizer](const auto& seen) { return seen.get() == recognizer; });
@@ -56,13 +51,6 @@ bool Touch::is_seen_by(UIGestureRecognizer recognizer) const {
 void Touch::forget(UIGestureRecognizer recognizer) {
   std::erase_if(recognizers_,
                 [recognizer](const auto& present) { return present.get() == recognizer; });
-}
-
-bool Touch::is_held_back(bool (*holds)(UIGestureRecognizer)) const {
-  return std::any_of(recognizers_.begin(), recognizers_.end(), [holds](const auto& recognizer) {
-    const auto& state = objc::state_of<GestureRecognizer>(recognizer.get());
-    return state.is_undecided() && holds(recognizer.get());
-  });
 }
 
 void Touch::tell(UITouchPhase phase, UIEvent event) {
@@ -87,9 +75,14 @@ void Touch::tell(UITouchPhase phase, UIEvent event) {
   told_phase_ = nullptr;
 }
 
-void Touch::deliver(UIEvent event) {
+void Touch::deliver(UIEvent event, IsUndecided is_undecided) {
+  const auto any_holds_back = [&](auto delays) {
+    return std::any_of(recognizers_.begin(), recognizers_.end(), [&](const auto& recognizer) {
+      return is_undecided(recognizer.get()) && delays(recognizer.get());
+    });
+  };
   if (delivery_ == Delivery::kNothing) {
-    if (is_held_back([](UIGestureRecognizer r) { return r.delaysTouchesBegan() == YES; })) return;
+    if (any_holds_back([](UIGestureRecognizer r) { return r.delaysTouchesBegan(); })) return;
     delivery_ = Delivery::kBegan;
     tell(UITouchPhaseBegan, event);
   }
@@ -99,7 +92,7 @@ void Touch::deliver(UIEvent event) {
   }
   if (delivery_ != Delivery::kBegan || is_down()) return;
   if (phase_ == UITouchPhaseEnded &&
-      is_held_back([](UIGestureRecognizer r) { return r.delaysTouchesEnded() == YES; })) {
+      any_holds_back([](UIGestureRecognizer r) { return r.delaysTouchesEnded(); })) {
     return;
   }
   delivery_ = Delivery::kOver;

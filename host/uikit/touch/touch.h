@@ -28,9 +28,6 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   void land(UIWindow window, UIView view, CGPoint point, double timestamp, NSUInteger tap_count);
   void move(CGPoint point, double timestamp);
   void lift(UITouchPhase phase, double timestamp);
-  /// Cancelled, and nobody hears of the finger again until it lands anew.
-  void lose(double timestamp);
-  bool is_lost() const { return lost_; }
   void stand_still() { phase_ = UITouchPhaseStationary; }
   CGPoint screen_location() const { return location_; }
   CGPoint landing_point() const { return landing_point_; }
@@ -41,8 +38,10 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   bool is_seen_by(UIGestureRecognizer recognizer) const;
   void forget(UIGestureRecognizer recognizer);
 
-  /// Tells the view what it has not been told yet, as far as the recognisers allow.
-  void deliver(UIEvent event);
+  /// Is the recogniser still making up its mind?
+  using IsUndecided = bool (*)(UIGestureRecognizer);
+  /// Tells the view what it has not been told yet, as far as the undecided recognisers allow.
+  void deliver(UIEvent event, IsUndecided is_undecided);
   /// The view loses the touch: it is told so if it was told of it at all.
   void cancel_in_view(UIEvent event);
   /// The view is never told of this touch.
@@ -52,7 +51,6 @@ class Touch : public objc::Implementation<Touch, UITouch> {
  private:
   enum class Delivery { kNothing, kBegan, kOver };
 
-  bool is_held_back(bool (*holds)(UIGestureRecognizer)) const;
   void tell(UITouchPhase phase, UIEvent event);
 
   objc::Ref<UIWindow> window_;
@@ -67,7 +65,6 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   const UITouchPhase* told_phase_ = nullptr;
   Delivery delivery_ = Delivery::kNothing;
   bool move_untold_ = false;
-  bool lost_ = false;
 };
 
 void export_touch();

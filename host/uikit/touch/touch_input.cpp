@@ -5,14 +5,14 @@
 #include <vector>
 
 #include "host/runtime/run_loop.h"
-#include "host/uikit/application/application.h"
 #include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/geometry/window_list.h"
-#include "host/uikit/gesture/gesture_arena.h"
 #include "host/uikit/touch/event.h"
+#include "host/uikit/touch/present_touches.h"
 #include "host/uikit/touch/system_gestures.h"
 #include "host/uikit/touch/tap_limits.h"
 #include "host/uikit/touch/touch.h"
+#include "platform/UIKit/UIApplication.h"
 
 namespace host::uikit {
 namespace {
@@ -27,10 +27,15 @@ void take_away_from_all(TouchInput::Reach reach) {
     input->take_away(reach, RunLoop::main().now());
 }
 
+/// Does the application want to be left alone by fingers just now?
+bool ignores_touches() {
+  return UIApplication::sharedApplication().isIgnoringInteractionEvents() == YES;
+}
+
 /// A view sees one finger at a time unless it asks for more, and an exclusive view shares its
 /// window with no other; recognisers see every finger all the same.
 bool view_may_take_another(const Hit& hit) {
-  for (const auto& touch : GestureArena::shared().touches()) {
+  for (const auto& touch : present_touches()) {
     const Touch& present = objc::state_of<Touch>(touch.get());
     if (!present.is_down() || present.window() != hit.window) continue;
     if (present.view() == hit.view) {
@@ -95,7 +100,7 @@ void TouchInput::land(int finger, CGPoint screen_point, double timestamp) {
   last_tap_ = {screen_point, timestamp, taps};
   if (!view_may_take_another(hit)) state.keep_from_view();
   fingers_[finger].touch = touch;
-  GestureArena::shared().add(touch.get());
+  add_present_touch(touch.get());
   send(touch.get(), timestamp);
 }
 
@@ -108,7 +113,7 @@ void TouchInput::move(int finger, CGPoint screen_point, double timestamp) {
   const auto touch = fingers_[finger].touch;
   if (!touch) return;
   Touch& state = objc::state_of<Touch>(touch.get());
-  if (state.is_lost() || state.screen_location() == screen_point) return;
+  if (state.screen_location() == screen_point) return;
   state.move(screen_point, timestamp);
   send(touch.get(), timestamp);
   if (state.is_down()) state.stand_still();
@@ -146,6 +151,14 @@ void TouchInput::take_away(Reach reach, double timestamp) {
   }
 }
 
+void TouchInput::take_away_from(UIView view, UIGestureRecognizer but_for, double timestamp) {
+  for (auto& [number, finger] : fingers_) {
+    if (!finger.touch || !finger.touch->view().isDescendantOfView(view)) continue;
+    if (but_for && objc::state_of<Touch>(finger.touch.get()).is_seen_by(but_for)) continue;
+    cancel(finger, timestamp);
+  }
+}
+
 void TouchInput::forget(int finger, UITouchPhase phase, double timestamp) {
   const auto touch = std::exchange(fingers_[finger].touch, {});
   fingers_.erase(finger);
@@ -159,7 +172,6 @@ void TouchInput::cancel(Finger& finger, double timestamp) {
 
 void TouchInput::end(UITouch touch, UITouchPhase phase, double timestamp) {
   Touch& state = objc::state_of<Touch>(touch);
-  if (state.is_lost()) return;
   last_tap_.time = timestamp;
   if (phase == UITouchPhaseCancelled) last_tap_.count = 0;
   state.lift(phase, timestamp);
@@ -182,6 +194,12 @@ void TouchInput::send(UITouch touch, double timestamp) {
 
 void cancel_every_touch() {
   take_away_from_all(TouchInput::Reach::Windows);
+}
+
+void cancel_touches_in(UIView view, UIGestureRecognizer but_for) {
+  const auto present = inputs;
+  for (TouchInput* input : present)
+    input->take_away_from(view, but_for, RunLoop::main().now());
 }
 
 void set_touches_enabled(bool enabled) {

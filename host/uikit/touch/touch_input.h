@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "objc/ref.h"
+#include "platform/UIKit/UIGestureRecognizer.h"
 #include "platform/UIKit/UITouch.h"
 
 namespace host::uikit {
@@ -28,6 +29,9 @@ class TouchInput {
   enum class Reach { Windows, Everybody };
   /// Cancels the touches of fingers that stay where they are, and ignores these until they lift.
   void take_away(Reach reach, double timestamp);
+  /// Cancels the touches in the view that `but_for` does not see. Gestures of the system go on
+  /// seeing their fingers; windows do not until these land anew.
+  void take_away_from(UIView view, UIGestureRecognizer but_for, double timestamp);
 
  private:
   /// Whose a finger is. What it does as nobody's is ignored.
@@ -35,7 +39,7 @@ class TouchInput {
   struct Finger {
     Owner owner = Owner::Windows;
     CGPoint point;
-    /// Null where no view takes it.
+    /// Null where no view takes it, or not any more.
     objc::Ref<UITouch> touch;
   };
   struct Tap {
@@ -66,6 +70,11 @@ class TouchInput {
 /// cancelled. A finger that stays on the screen means nothing to anybody until it is lifted, but
 /// for one that a gesture of the system has taken: that stays with it.
 void cancel_every_touch();
+
+/// Takes the fingers away that lie on the view or on anything in it: views and recognisers hear
+/// that they are cancelled, and no view hears of these fingers again until they land anew. Those
+/// that `but_for` sees stay.
+void cancel_touches_in(UIView view, UIGestureRecognizer but_for = nil);
 
 /// A screen that is off feels no finger. Those that are on it are taken from everybody, and from
 /// the system's gestures as well; one that outlasts the dark is ignored until it is lifted.

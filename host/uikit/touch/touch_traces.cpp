@@ -1,7 +1,7 @@
 #include "host/uikit/touch/touch_traces.h"
 
 #include "host/uikit/geometry/window_list.h"
-#include "host/uikit/gesture/gesture_arena.h"
+#include "host/uikit/touch/present_touches.h"
 #include "platform/UIKit/UIGestureRecognizer.h"
 #include "platform/UIKit/UIImageView.h"
 #include "platform/UIKit/UILabel.h"
@@ -40,7 +40,7 @@ void look_at(UIView view, std::vector<std::string>& traces) {
 
 std::vector<std::string> touch_traces() {
   std::vector<std::string> traces;
-  for (const auto& touch : GestureArena::shared().touches())
+  for (const auto& touch : present_touches())
     traces.push_back("a finger is on " + class_of(touch->view()));
   for (const UIWindow window : visible_windows())
     look_at(window, traces);

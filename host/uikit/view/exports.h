@@ -2,8 +2,8 @@
 
 namespace host::uikit {
 
-/// Makes the classes of views, windows, touches, recognisers, controls and the application; a
-/// second call does nothing. QuartzCore and the drawing classes must have been made before.
+/// Makes the classes of views and windows; a second call does nothing. QuartzCore and the drawing
+/// classes must have been made before.
 void export_views();
 
 }  // namespace host::uikit

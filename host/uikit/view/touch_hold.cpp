@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "host/uikit/touch/touch_cancelling.h"
+#include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/view.h"
 
 namespace host::uikit {

@@ -9,13 +9,13 @@
 #include "host/quartzcore/compositor.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/device_model.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/geometry/window_list.h"
 #include "host/uikit/keyboard/exports.h"
 #include "host/uikit/keyboard/keyboard.h"
 #include "host/uikit/text/exports.h"
 #include "host/uikit/touch/touch_input.h"
-#include "host/uikit/view/exports.h"
 #include "platform/UIKit/UITextField.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/support/host_test.h"
@@ -29,7 +29,7 @@ class KeyboardTest : public HostTest {
   explicit KeyboardTest(const DeviceModel& device) {
     set_current_device(device);
     uikit::export_drawing();
-    uikit::export_views();
+    uikit::export_application();
     uikit::export_text();
     uikit::export_keyboard();
     layers.emplace(loop);

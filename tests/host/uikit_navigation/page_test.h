@@ -1,6 +1,9 @@
 #pragma once
 
+#include "host/uikit/alert/exports.h"
 #include "host/uikit/navigation/exports.h"
+#include "host/uikit/pages/exports.h"
+#include "host/uikit/picker/exports.h"
 #include "host/uikit/scroll/exports.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UINavigationController.h"
@@ -61,7 +64,10 @@ class PageTest : public UIKitTest {
 
   PageTest() {
     uikit::export_scroll();
+    uikit::export_alert();
     uikit::export_navigation();
+    uikit::export_pages();
+    uikit::export_picker();
     window.setBackgroundColor(UIColor::whiteColor());
   }
   ~PageTest() override { window.setRootViewController(nil); }

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "host/quartzcore/layer_service.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/exports.h"
 #include "host/uikit/touch/touch_input.h"
-#include "host/uikit/view/exports.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/support/host_test.h"
 
@@ -23,7 +23,7 @@ class ScrollTest : public HostTest {
 
   ScrollTest() {
     uikit::export_drawing();
-    uikit::export_views();
+    uikit::export_application();
     uikit::export_text();
     uikit::export_scroll();
     layers.emplace(loop);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/uikit/drawing/exports.h"
-#include "host/uikit/text/exports.h"
+#include "host/uikit/text_layout/exports.h"
 #include "tests/support/host_test.h"
 
 namespace host::test {

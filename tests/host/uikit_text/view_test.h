@@ -1,9 +1,7 @@
 #pragma once
 
-#include "host/uikit/control/exports.h"
-#include "host/uikit/gesture/exports.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/text/exports.h"
-#include "host/uikit/view/exports.h"
 #include "tests/host/uikit_text/drawing_test.h"
 
 namespace host::test {
@@ -12,9 +10,7 @@ namespace host::test {
 class TextViewTest : public DrawingTest {
  public:
   TextViewTest() {
-    uikit::export_views();
-    uikit::export_gesture();
-    uikit::export_control();
+    uikit::export_application();
     uikit::export_text();
   }
 };

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "host/quartzcore/layer_service.h"
+#include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/text/exports.h"
 #include "host/uikit/touch/touch_input.h"
-#include "host/uikit/view/exports.h"
 #include "platform/UIKit/UIWindow.h"
 #include "tests/support/host_test.h"
 
@@ -23,7 +23,7 @@ class UIKitTest : public HostTest {
 
   UIKitTest() {
     uikit::export_drawing();
-    uikit::export_views();
+    uikit::export_application();
     uikit::export_text();
     layers.emplace(loop);
     window = UIWindow::alloc().initWithFrame(kScreen);

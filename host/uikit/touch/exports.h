@@ -1,0 +1,7 @@
+#pragma once
+
+namespace host::uikit {
+
+void export_touches();
+
+}  // namespace host::uikit
