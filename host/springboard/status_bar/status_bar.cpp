@@ -18,6 +18,9 @@ constexpr CGFloat kGap = 5;
 constexpr CGFloat kFontSize = 12;
 constexpr CGFloat kChargeWidth = 44;
 
+/// Null before the launch.
+StatusBar* status_bar = nullptr;
+
 /// Adds a glyph centred on the bar's height and gives the x behind it.
 CGFloat add_bar_glyph(UIView bar, NSString name, CGFloat x) {
   const UIImage image = glyph(name);
@@ -50,9 +53,11 @@ StatusBar::StatusBar(const WallClock& clock)
   add_battery();
   color_contents();
   window_->setHidden(NO);
+  status_bar = this;
 }
 
 StatusBar::~StatusBar() {
+  if (status_bar == this) status_bar = nullptr;
   if (next_minute_ && RunLoop::has_main()) RunLoop::main().remove_timer(*next_minute_);
   window_->setHidden(YES);
 }
@@ -107,6 +112,14 @@ void StatusBar::show_time() {
   if (wait <= 0) return;
   RunLoop& loop = RunLoop::main();
   next_minute_ = loop.add_timer(loop.now() + wait, 0, [this] { show_time(); });
+}
+
+void set_status_bar_locked(bool locked) {
+  if (status_bar) status_bar->set_locked(locked);
+}
+
+bool set_status_bar_dark(bool dark) {
+  return status_bar && status_bar->set_dark(dark);
 }
 
 }  // namespace host::springboard

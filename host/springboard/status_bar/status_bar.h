@@ -44,4 +44,9 @@ class StatusBar {
   std::optional<RunLoop::Id> next_minute_;
 };
 
+/// The status bar lies on the lock screen while the phone is locked.
+void set_status_bar_locked(bool locked);
+/// It is dark over an application with a light screen. Gives what it was.
+bool set_status_bar_dark(bool dark);
+
 }  // namespace host::springboard

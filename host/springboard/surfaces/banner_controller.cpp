@@ -129,6 +129,10 @@ void BannerController::take_down() {
   window_.reset();
 }
 
+BannerController& banners() {
+  return objc::state_of<BannerController>(SBBannerController::sharedInstance());
+}
+
 void export_banner_controller() {
   objc::ClassBuilder("SBBannerController", "NSObject")
       .state<BannerController>()

@@ -50,6 +50,8 @@ class BannerController : public objc::Implementation<BannerController, SBBannerC
   std::optional<RunLoop::Id> leaving_;
 };
 
+BannerController& banners();
+
 void export_banner_controller();
 
 }  // namespace host::springboard

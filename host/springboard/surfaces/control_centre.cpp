@@ -10,8 +10,9 @@
 #include "host/springboard/parts/window_levels.h"
 #include "host/springboard/surfaces/display.h"
 #include "host/springboard/surfaces/surfaces.h"
-#include "host/springboard/system/system_actions.h"
 #include "host/uikit/touch/touch_input.h"
+#include "platform/SpringBoard/SBApplicationController.h"
+#include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
 namespace {
@@ -19,6 +20,12 @@ namespace {
 constexpr double kShading = 0.35;
 
 void control_centre_will_present(SBControlCenterContainerView) {}
+
+void open_application(NSString bundle) {
+  const SBApplication application =
+      SBApplicationController::sharedInstance().applicationWithBundleIdentifier(bundle);
+  SBUIController::sharedInstance().activateApplicationAnimated(application);
+}
 
 }  // namespace
 
@@ -42,7 +49,7 @@ bool ControlCentre::bring_in() {
                                          [this](UIPanGestureRecognizer pan) { panned(pan); },
                                          [this](NSString bundle) {
                                            self.dismissAnimated(YES);
-                                           if (!is_locked()) open(to_string(bundle));
+                                           if (!is_locked()) open_application(bundle);
                                          }});
   motion_.emplace(panel_->sheet(),
                   SheetMotion::Places{screen.size.height - panel_->height(), screen.size.height},

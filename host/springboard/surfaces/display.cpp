@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/springboard/common/make_view.h"
+#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/parts/surface_window.h"
 #include "host/springboard/parts/window_levels.h"
 #include "host/uikit/touch/touch_input.h"
@@ -45,6 +46,10 @@ void Display::set_brightness(double brightness) {
   brightness_ = std::clamp(brightness, 0.0, 1.0);
   veil_->setAlpha((1 - brightness_) * kDarkestVeil);
   veil_->setHidden(brightness_ == 1 ? YES : NO);
+}
+
+Display& display() {
+  return SharedPart<Display>::get();
 }
 
 }  // namespace host::springboard

@@ -29,4 +29,6 @@ class Display {
   bool is_on_ = true;
 };
 
+Display& display();
+
 }  // namespace host::springboard

@@ -4,10 +4,10 @@
 #include "host/springboard/common/make_view.h"
 #include "host/springboard/common/shared_instance.h"
 #include "host/springboard/parts/window_levels.h"
+#include "host/springboard/status_bar/status_bar.h"
 #include "host/springboard/surfaces/display.h"
 #include "host/springboard/surfaces/surfaces.h"
-#include "host/springboard/system/spring_board_application.h"
-#include "host/springboard/system/system_actions.h"
+#include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/responder.h"
 
 namespace host::springboard {
@@ -34,7 +34,8 @@ void LockScreen::handle_display_turned_off() {
   close_surfaces_at_once();
   window_ = make_view<UIWindow>(UIScreen::mainScreen().bounds());
   window_->setWindowLevel(kLockScreenLevel);
-  panel_ = std::make_unique<LockScreenPanel>(*window_, *configuration().wall_clock, &unlock);
+  panel_ = std::make_unique<LockScreenPanel>(*window_, *configuration().wall_clock,
+                                             [this] { unlock(); });
   panel_->show(messages_.all());
   window_->setHidden(NO);
   set_status_bar_locked(true);
@@ -43,6 +44,12 @@ void LockScreen::handle_display_turned_off() {
 void LockScreen::wake() {
   SharedPart<Display>::get().turn_on();
   if (locked_) panel_->wake();
+}
+
+void LockScreen::unlock() {
+  if (!display().is_on()) wake();
+  uikit::cancel_every_touch();
+  self.prepareForUIUnlock();
 }
 
 void LockScreen::add(Notification message) {
@@ -79,6 +86,10 @@ void LockScreen::take_down() {
   panel_.reset();
   if (window_) window_->setHidden(YES);
   window_.reset();
+}
+
+LockScreen& lock_screen() {
+  return objc::state_of<LockScreen>(SharedInstance<SBLockScreenViewController>::get());
 }
 
 void export_lock_screen() {

@@ -23,6 +23,8 @@ class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewContr
 
   /// The display has been turned on again.
   void wake();
+  /// As the finger that slides the screen away does it.
+  void unlock();
   /// A message that came while the phone was locked.
   void add(Notification message);
   LockScreenPanel* panel() { return panel_.get(); }
@@ -39,6 +41,8 @@ class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewContr
   /// Ends with this object: an animation may outlast it.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
+
+LockScreen& lock_screen();
 
 void export_lock_screen();
 

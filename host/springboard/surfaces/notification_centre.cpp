@@ -146,6 +146,11 @@ void NotificationCentre::settle(Rest rest, CGFloat velocity) {
   motion_->go_to(rest, velocity);
 }
 
+NotificationCentre& notification_centre() {
+  return objc::state_of<NotificationCentre>(
+      SharedInstance<SBNotificationCenterViewController>::get());
+}
+
 void export_notification_centre() {
   objc::ClassBuilder("SBNotificationCenterViewController", "UIViewController")
       .state<NotificationCentre>()

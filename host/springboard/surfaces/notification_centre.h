@@ -58,6 +58,8 @@ class NotificationCentre
   BOOL presented_ = NO;
 };
 
+NotificationCentre& notification_centre();
+
 void export_notification_centre();
 
 }  // namespace host::springboard

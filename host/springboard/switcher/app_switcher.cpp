@@ -9,9 +9,9 @@
 #include "host/springboard/parts/window_levels.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/switcher/screen_picture.h"
-#include "host/springboard/system/ui_controller.h"
 #include "platform/SpringBoard/SBApplicationController.h"
 #include "platform/SpringBoard/SBIconController.h"
+#include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
 namespace {
@@ -41,10 +41,6 @@ UIImage home_icon() {
     if (images.count() < kIconsOnHomeCard) images.addObject(icon_of(each));
   }
   return folder_image(images);
-}
-
-UserInterfaceController& user_interface() {
-  return objc::state_of<UserInterfaceController>(SBUIController::sharedInstance());
 }
 
 }  // namespace
@@ -101,7 +97,7 @@ void AppSwitcher::choose(const std::string& bundle) {
   if (bundle != recent_applications().front()) {
     // It comes up below, while the card grows over it.
     if (bundle.empty()) {
-      user_interface().leave_application();
+      recent_applications().leave();
     } else {
       SBUIController::sharedInstance().activateApplicationAnimated(application(bundle));
     }
@@ -111,7 +107,7 @@ void AppSwitcher::choose(const std::string& bundle) {
 
 void AppSwitcher::throw_away(const std::string& bundle) {
   if (!showing_) return;
-  if (bundle == recent_applications().front()) user_interface().leave_application();
+  if (bundle == recent_applications().front()) recent_applications().leave();
   row_->throw_away(bundle);
   recent_applications().close(bundle);
 }

@@ -25,6 +25,10 @@ UIImage RecentApplications::picture(const std::string& bundle) const {
   return found == pictures_.end() ? UIImage() : found->second.get();
 }
 
+void RecentApplications::leave() {
+  if (left_) left_();
+}
+
 void RecentApplications::forget(const std::string& bundle) {
   std::erase(all_, bundle);
   pictures_.erase(bundle);

@@ -16,6 +16,7 @@ namespace host::springboard {
 class RecentApplications {
  public:
   using Closed = std::function<void(const std::string& bundle)>;
+  using Left = std::function<void()>;
 
   void came_to_front(const std::string& bundle);
   void went_home() { front_.clear(); }
@@ -30,6 +31,11 @@ class RecentApplications {
   /// What the application last looked like; nil when nobody has seen it.
   UIImage picture(const std::string& bundle) const;
 
+  /// The user goes from the application in front to the home screen.
+  void leave();
+  /// Called when the user does so; the application is to leave the screen then.
+  void on_leave(Left left) { left_ = std::move(left); }
+
   /// It has ended, or is installed no more.
   void forget(const std::string& bundle);
   /// The user is done with it: it is forgotten, and its process is to end.
@@ -42,6 +48,7 @@ class RecentApplications {
   std::map<std::string, objc::Ref<UIImage>> pictures_;
   std::string front_;
   Closed closed_;
+  Left left_;
 };
 
 RecentApplications& recent_applications();

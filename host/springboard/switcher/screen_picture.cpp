@@ -9,7 +9,7 @@
 #include "host/runtime/run_loop.h"
 #include "host/springboard/common/screen_grid.h"
 #include "host/springboard/home/icon_controller.h"
-#include "host/springboard/system/spring_board_application.h"
+#include "host/springboard/status_bar/status_bar.h"
 #include "host/uikit/geometry/window_list.h"
 #include "platform/UIKit/UIScreen.h"
 

@@ -1,7 +1,6 @@
 #include "host/springboard/system/spring_board_application.h"
 
 #include "host/springboard/common/configuration.h"
-#include "host/springboard/common/shared_instance.h"
 #include "host/springboard/surfaces/control_centre.h"
 #include "host/springboard/surfaces/notification_centre.h"
 #include "host/springboard/system/ui_controller.h"
@@ -16,27 +15,8 @@ void SpringBoardApplication::application_did_finish_launching(objc::Object appli
   objc::state_of<UserInterfaceController>(user_interface).watch_processes();
   status_bar_ = std::make_unique<StatusBar>(*configuration().wall_clock);
   edge_pulls_ = std::make_unique<EdgePulls>(
-      objc::state_of<NotificationCentre>(SharedInstance<SBNotificationCenterViewController>::get()),
+      notification_centre(),
       objc::state_of<ControlCentre>(SBControlCenterController::sharedInstance()));
-}
-
-namespace {
-
-/// Null before the launch.
-StatusBar* status_bar() {
-  const UIApplication application = UIApplication::sharedApplication();
-  return application ? objc::state_of<SpringBoardApplication>(application).status_bar() : nullptr;
-}
-
-}  // namespace
-
-void set_status_bar_locked(bool locked) {
-  if (StatusBar* bar = status_bar()) bar->set_locked(locked);
-}
-
-bool set_status_bar_dark(bool dark) {
-  StatusBar* bar = status_bar();
-  return bar && bar->set_dark(dark);
 }
 
 void export_spring_board_application() {

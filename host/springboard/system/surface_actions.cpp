@@ -1,6 +1,5 @@
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/common/shared_instance.h"
-#include "host/springboard/model/strings.h"
 #include "host/springboard/surfaces/banner_controller.h"
 #include "host/springboard/surfaces/control_centre.h"
 #include "host/springboard/surfaces/display.h"
@@ -10,8 +9,6 @@
 #include "host/springboard/surfaces/volume_overlay.h"
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/system/system_actions.h"
-#include "host/uikit/touch/touch_input.h"
-#include "platform/SpringBoard/SBIconController.h"
 #include "platform/SpringBoard/SBMediaController.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
 #include "platform/SpringBoard/SBUIController.h"
@@ -22,23 +19,6 @@ namespace {
 // Sixteen presses from silence to the loudest.
 constexpr float kVolumeStep = 1.0f / VolumeOverlay::kSteps;
 
-SBLockScreenViewController lock_controller() {
-  return SharedInstance<SBLockScreenViewController>::get();
-}
-LockScreen& lock_screen() {
-  return objc::state_of<LockScreen>(lock_controller());
-}
-NotificationCentre& notification_centre() {
-  return objc::state_of<NotificationCentre>(
-      SharedInstance<SBNotificationCenterViewController>::get());
-}
-BannerController& banners() {
-  return objc::state_of<BannerController>(SBBannerController::sharedInstance());
-}
-Display& display() {
-  return SharedPart<Display>::get();
-}
-
 /// Whoever presses Home on a dark phone wants to see it.
 bool wake_display() {
   if (display().is_on()) return false;
@@ -47,46 +27,6 @@ bool wake_display() {
 }
 
 }  // namespace
-
-bool is_locked() {
-  return lock_screen().is_locked();
-}
-
-bool is_notification_centre_open() {
-  return notification_centre().is_presented();
-}
-
-void open_notification_centre() {
-  SBNotificationCenterController::sharedInstance().presentAnimated(YES);
-}
-
-bool close_top_surface() {
-  const SBControlCenterController controls = SBControlCenterController::sharedInstance();
-  if (controls.isPresented()) {
-    controls.dismissAnimated(YES);
-  } else if (is_notification_centre_open()) {
-    SBNotificationCenterController::sharedInstance().dismissAnimated(YES);
-  } else if (SBReachabilityManager::sharedInstance().reachabilityModeActive()) {
-    SBReachabilityManager::sharedInstance()._handleReachabilityDeactivated();
-  } else {
-    return false;
-  }
-  return true;
-}
-
-void close_surfaces_at_once() {
-  app_switcher().dismiss_at_once();
-  const SBControlCenterController controls = SBControlCenterController::sharedInstance();
-  if (controls.isPresented()) controls.dismissAnimated(NO);
-  notification_centre().close_at_once();
-  banners().forget_queue();
-  banners().present_banner(nil, 0);
-  SharedPart<VolumeOverlay>::get().hide_at_once();
-  const SBReachabilityManager reach = SBReachabilityManager::sharedInstance();
-  if (reach.reachabilityModeActive()) reach._handleReachabilityDeactivated();
-  if (SBIconController::sharedInstance().isEditing())
-    SBIconController::sharedInstance().setIsEditing(NO);
-}
 
 void press_home() {
   if (!wake_display()) SBUIController::sharedInstance().clickedMenuButton();
@@ -149,13 +89,11 @@ bool toggle_reachability() {
 void lock() {
   // Whoever hears of it finds no finger on the screen any more.
   display().turn_off();
-  lock_controller()._handleDisplayTurnedOff();
+  SharedInstance<SBLockScreenViewController>::get()._handleDisplayTurnedOff();
 }
 
 void unlock() {
-  wake_display();
-  uikit::cancel_every_touch();
-  lock_controller().prepareForUIUnlock();
+  lock_screen().unlock();
 }
 
 }  // namespace host::springboard

@@ -5,11 +5,11 @@
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/processes/running_processes.h"
+#include "host/springboard/status_bar/status_bar.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/switcher/app_switcher.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/switcher/screen_picture.h"
-#include "host/springboard/system/spring_board_application.h"
 #include "host/springboard/view/icon_view.h"
 #include "host/uikit/touch/touch_input.h"
 #include "platform/SpringBoard/SBIconViewMap.h"
@@ -112,6 +112,7 @@ void UserInterfaceController::watch_processes() {
     if (recent_applications().front() == bundle) launch_screen_->frame_came();
   });
   processes.on_gone([this](const std::string& bundle) { application_gone(bundle); });
+  recent_applications().on_leave([this] { leave_application(); });
   recent_applications().on_close(
       [](const std::string& bundle) { running_processes().close(bundle); });
 }
