@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "host/basics/descriptor.h"
 #include "host/launcher/control_request.h"
-#include "host/runtime/descriptor.h"
 
 namespace host::launcher {
 

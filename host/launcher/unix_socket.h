@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "host/runtime/descriptor.h"
+#include "host/basics/descriptor.h"
 
 namespace host::launcher {
 

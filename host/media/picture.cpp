@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-#include "host/runtime/premultiply.h"
+#include "host/basics/premultiply.h"
 
 namespace host::media {
 namespace {

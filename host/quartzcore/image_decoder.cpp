@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "host/basics/premultiply.h"
 #include "host/quartzcore/image.h"
-#include "host/runtime/premultiply.h"
 
 namespace host::quartzcore {
 namespace {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/launcher_e2e/running_phone.h"
 #include "tests/support/media_fixtures.h"
+#include "tests/support/running_phone.h"
 
 namespace launcher_e2e {
 

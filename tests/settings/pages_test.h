@@ -8,7 +8,7 @@
 #include "platform/Preferences/PSSwitchTableCell.h"
 #include "settings/Settings.h"
 #include "settings/globals.h"
-#include "tests/host/uikit_navigation/page_test.h"
+#include "tests/host/uikit/support/page_test.h"
 #include "tests/settings/settings_device.h"
 
 namespace sonavue::test {

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "platform/UIKit/UITapGestureRecognizer.h"
-#include "tests/host/uikit_view/recording_target.h"
+#include "tests/host/uikit/support/recording_target.h"
 #include "tests/settings/credits_page_test.h"
 #include "tests/settings/replaced_method.h"
 #include "tests/settings/wizard_pages_test.h"

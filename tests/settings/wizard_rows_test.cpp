@@ -8,8 +8,8 @@
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/wizard/linker.h"
 #include "settings/wizard/switcher.h"
-#include "tests/host/uikit_view/recording_target.h"
-#include "tests/host/uikit_view/uikit_test.h"
+#include "tests/host/uikit/support/recording_target.h"
+#include "tests/host/uikit/support/uikit_test.h"
 #include "tests/settings/settings_device.h"
 
 namespace sonavue::test {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "host/runtime/descriptor.h"
+#include "host/basics/descriptor.h"
 
 namespace host::application {
 

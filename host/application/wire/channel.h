@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/runtime/descriptor.h"
+#include "host/basics/descriptor.h"
 
 namespace host::application {
 

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "host/basics/descriptor.h"
 #include "host/launcher/supervisor.h"
-#include "host/runtime/descriptor.h"
 #include "tests/host/launcher/temporary_folder.h"
 
 namespace {

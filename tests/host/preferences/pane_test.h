@@ -7,7 +7,7 @@
 #include "platform/Foundation/NSValue.h"
 #include "platform/Preferences/PSListItemsController.h"
 #include "platform/Preferences/PSSwitchTableCell.h"
-#include "tests/host/uikit_navigation/page_test.h"
+#include "tests/host/uikit/support/page_test.h"
 
 namespace host::test {
 

@@ -1,0 +1,162 @@
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "host/runtime/device_model.h"
+#include "platform/CoreGraphics/CGImage.h"
+#include "platform/Foundation/NSIndexPath.h"
+#include "platform/UIKit/UIColor.h"
+#include "platform/UIKit/UIGraphics.h"
+#include "platform/UIKit/UIImage.h"
+#include "tests/host/uikit/drawing/png_file.h"
+#include "tests/host/uikit/support/drawing_test.h"
+
+namespace {
+
+using host::test::write_png;
+
+class Image : public host::test::DrawingTest {
+ protected:
+  Image() {
+    folder_ = std::filesystem::temp_directory_path() / ("images-" + std::to_string(getpid()));
+    std::filesystem::create_directories(folder_);
+  }
+  ~Image() override {
+    std::filesystem::remove_all(folder_);
+    use_device("iPhone7,2");
+  }
+
+  void use_device(const char* identifier) {
+    host::set_current_device(*host::device_model(identifier));
+  }
+  std::string path(const char* name) const { return folder_ / name; }
+  NSString platform_path(const char* name) const {
+    return NSString::stringWithUTF8String(path(name).c_str());
+  }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+TEST_F(Image, TakesTheVariantForTheScreen) {
+  write_png(path("Play.png"), 10, 10);
+  write_png(path("Play@2x.png"), 20, 20);
+  write_png(path("Play@3x.png"), 30, 30);
+
+  const UIImage on_two = UIImage::imageWithContentsOfFile(platform_path("Play.png"));
+  use_device("iPhone7,1");
+  const UIImage on_three = UIImage::imageWithContentsOfFile(platform_path("Play.png"));
+
+  EXPECT_EQ(on_two.scale(), 2);
+  EXPECT_EQ(on_two.size(), (CGSize{10, 10}));
+  EXPECT_EQ(on_three.scale(), 3);
+  EXPECT_EQ(on_three.size(), (CGSize{10, 10}));
+}
+
+TEST_F(Image, TakesACoarserVariantRatherThanNone) {
+  write_png(path("Play.png"), 10, 12);
+  EXPECT_EQ(UIImage::imageWithContentsOfFile(platform_path("Play.png")).size(), (CGSize{10, 12}));
+}
+
+TEST_F(Image, APathThatNamesItsScaleMeansThatFile) {
+  write_png(path("search@2x.png"), 40, 20);
+  use_device("iPhone7,1");
+
+  const UIImage image = UIImage::imageWithContentsOfFile(platform_path("search@2x.png"));
+
+  EXPECT_EQ(image.scale(), 2);
+  EXPECT_EQ(image.size(), (CGSize{20, 10}));
+}
+
+TEST_F(Image, WhatIsMissingOrNoPictureGivesNil) {
+  std::ofstream(path("text.png")) << "this is no picture";
+
+  EXPECT_FALSE(UIImage::imageWithContentsOfFile(platform_path("missing.png")));
+  EXPECT_FALSE(UIImage::imageWithContentsOfFile(platform_path("text.png")));
+  EXPECT_FALSE(UIImage::imageWithContentsOfFile(nil));
+  EXPECT_FALSE(UIImage::imageWithData(NSData::dataWithBytes("nonsense", 8)));
+  EXPECT_FALSE(UIImage::imageWithCGImage(nullptr));
+}
+
+TEST_F(Image, TheFileIsDecodedOnlyWhenItIsLookedAt) {
+  write_png(path("late.png"), 10, 10);
+  const UIImage image = UIImage::imageWithContentsOfFile(platform_path("late.png"));
+
+  std::filesystem::remove(path("late.png"));
+
+  EXPECT_EQ(image.CGImage(), nullptr);
+}
+
+TEST_F(Image, ATemplateSharesThePixels) {
+  write_png(path("Play.png"), 10, 10);
+  const UIImage image = UIImage::imageWithContentsOfFile(platform_path("Play.png"));
+
+  const UIImage stencil = image.imageWithRenderingMode(UIImageRenderingModeAlwaysTemplate);
+
+  EXPECT_EQ(stencil.renderingMode(), UIImageRenderingModeAlwaysTemplate);
+  EXPECT_EQ(image.renderingMode(), UIImageRenderingModeAutomatic);
+  EXPECT_EQ(stencil.CGImage(), image.CGImage());
+}
+
+TEST_F(Image, ASidewaysPictureHasItsSidesExchanged) {
+  write_png(path("wide.png"), 30, 10);
+  const CGImageRef pixels = UIImage::imageWithContentsOfFile(platform_path("wide.png")).CGImage();
+
+  const UIImage turned = UIImage::imageWithCGImage(pixels, 1, UIImageOrientationRight);
+
+  EXPECT_EQ(turned.size(), (CGSize{10, 30}));
+}
+
+TEST_F(Image, AnImageContextGivesWhatWasDrawn) {
+  UIGraphicsBeginImageContextWithOptions({8, 4}, NO, 2);
+  UIColor::redColor().setFill();
+  UIRectFill({0, 0, 4, 4});
+  const UIImage drawn = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+
+  EXPECT_EQ(drawn.size(), (CGSize{8, 4}));
+  EXPECT_EQ(drawn.scale(), 2);
+  EXPECT_EQ(CGImageGetWidth(drawn.CGImage()), 16u);
+  EXPECT_EQ(UIGraphicsGetCurrentContext(), nullptr);
+  EXPECT_FALSE(UIGraphicsGetImageFromCurrentImageContext());
+}
+
+TEST_F(Image, DrawnIntoOnePixelItIsItsAverage) {
+  UIGraphicsBeginImageContextWithOptions({64, 64}, YES, 1);
+  UIColor::whiteColor().setFill();
+  UIRectFill({0, 0, 64, 16});
+  const UIImage quarter_white = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+
+  UIGraphicsBeginImageContext({1, 1});
+  quarter_white.drawInRect({0, 0, 1, 1}, kCGBlendModeCopy, 1);
+  const auto* pixel =
+      static_cast<const unsigned char*>(CGBitmapContextGetData(UIGraphicsGetCurrentContext()));
+  const int blue = pixel[0];
+  UIGraphicsEndImageContext();
+
+  EXPECT_NEAR(blue, 64, 3);
+}
+
+TEST_F(Image, ContextsNest) {
+  UIGraphicsBeginImageContext({1, 1});
+  const CGContextRef outer = UIGraphicsGetCurrentContext();
+  UIGraphicsBeginImageContext({2, 2});
+  EXPECT_NE(UIGraphicsGetCurrentContext(), outer);
+  UIGraphicsEndImageContext();
+  EXPECT_EQ(UIGraphicsGetCurrentContext(), outer);
+  UIGraphicsEndImageContext();
+}
+
+TEST_F(Image, AnIndexPathNamesRowAndSection) {
+  const NSIndexPath path = NSIndexPath::indexPathForRow(7, 2);
+
+  EXPECT_EQ(path.row(), 7);
+  EXPECT_EQ(path.section(), 2);
+  EXPECT_TRUE(path.isEqual(NSIndexPath::indexPathForRow(7, 2)));
+  EXPECT_FALSE(path.isEqual(NSIndexPath::indexPathForRow(2, 7)));
+}
+
+}  // namespace
