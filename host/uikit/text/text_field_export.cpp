@@ -3,8 +3,8 @@
 namespace host::uikit {
 namespace {
 
-void add_properties(objc::ClassBuilder& builder) {
-  builder.method<&TextField::init_with_frame>("initWithFrame:")
+void add_contents(objc::ClassBuilder& field) {
+  field.method<&TextField::init_with_frame>("initWithFrame:")
       .method<&TextField::text>("text")
       .method<&TextField::set_text>("setText:")
       .method<&TextField::placeholder>("placeholder")
@@ -36,8 +36,8 @@ void add_properties(objc::ClassBuilder& builder) {
       .method<&TextField::set_clear_mode>("setClearButtonMode:");
 }
 
-void add_layout_and_drawing(objc::ClassBuilder& builder) {
-  builder.method<&TextField::layout_subviews>("layoutSubviews")
+void add_layout(objc::ClassBuilder& field) {
+  field.method<&TextField::layout_subviews>("layoutSubviews")
       .method<&TextField::text_rect>("textRectForBounds:")
       .method<&TextField::editing_rect>("editingRectForBounds:")
       .method<&TextField::placeholder_rect>("placeholderRectForBounds:")
@@ -51,8 +51,8 @@ void add_layout_and_drawing(objc::ClassBuilder& builder) {
       .method<&TextField::draw_placeholder_in_rect>("drawPlaceholderInRect:");
 }
 
-void add_typing(objc::ClassBuilder& builder) {
-  builder.method<&TextField::can_become_first_responder>("canBecomeFirstResponder")
+void add_editing(objc::ClassBuilder& field) {
+  field.method<&TextField::can_become_first_responder>("canBecomeFirstResponder")
       .method<&TextField::become_first_responder>("becomeFirstResponder")
       .method<&TextField::resign_first_responder>("resignFirstResponder")
       .method<&TextField::end_tracking>("endTrackingWithTouch:withEvent:")
@@ -85,12 +85,12 @@ void add_typing(objc::ClassBuilder& builder) {
 
 void export_text_field() {
   if (objc_getClass("UITextField")) return;
-  objc::ClassBuilder builder("UITextField", "UIControl");
-  builder.state<TextField>();
-  add_properties(builder);
-  add_layout_and_drawing(builder);
-  add_typing(builder);
-  builder.finish();
+  objc::ClassBuilder field("UITextField", "UIControl");
+  field.state<TextField>();
+  add_contents(field);
+  add_layout(field);
+  add_editing(field);
+  field.finish();
 }
 
 }  // namespace host::uikit

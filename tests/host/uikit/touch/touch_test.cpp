@@ -249,6 +249,27 @@ TEST_F(TouchTest, CountsTapsInOnePlaceThatFollowSoon) {
   uikit::cancel_every_touch();
   lift({50, 50});
   EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "a cancelled touch is no tap";
+  press({50, 50});
+  uikit::cancel_touches_in(view);
+  lift({50, 50});
+  EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "nor is one that its view has lost";
+}
+
+TEST_F(TouchTest, AFingerThatItsViewHasLostIsIgnoredUntilItLifts) {
+  const auto other = RecordingView::make("other", {100, 0, 100, 100});
+  window.addSubview(other);
+  told();
+  press({50, 50}, 0);
+  press({150, 50}, 1);
+  told();
+  uikit::cancel_touches_in(view);
+  EXPECT_EQ(told(), Events{"view cancelled"}) << "the other view keeps its own";
+  move({60, 60}, 0);
+  lift({60, 60}, 0);
+  lift({150, 50}, 1);
+  EXPECT_EQ(told(), Events{"other ended"});
+  tap({50, 50});
+  EXPECT_EQ(told(), (Events{"view began", "view ended"}));
 }
 
 }  // namespace
