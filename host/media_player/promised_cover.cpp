@@ -4,6 +4,7 @@
 
 #include "host/media_player/cover_store.h"
 #include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/scaled_copy.h"
 
 namespace host::media_player {
 namespace {

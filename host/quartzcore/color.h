@@ -3,18 +3,13 @@
 #include <cairo.h>
 
 #include "host/quartzcore/image.h"
+#include "host/quartzcore/rgba.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "platform/Foundation/NSObject.h"
 
 namespace host::quartzcore {
-
-/// Components from 0 to 1, not premultiplied.
-struct Rgba {
-  double red = 0, green = 0, blue = 0, alpha = 0;
-  friend constexpr bool operator==(const Rgba&, const Rgba&) = default;
-};
 
 /// A picture that fills an area by being repeated, `scale` of its pixels to the point.
 struct Pattern {

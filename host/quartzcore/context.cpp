@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/quartzcore/scaled_copy.h"
+
 namespace host::quartzcore {
 namespace {
 

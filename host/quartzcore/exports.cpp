@@ -7,11 +7,12 @@
 #include "host/quartzcore/gradient_layer.h"
 #include "host/quartzcore/image.h"
 #include "host/quartzcore/layer.h"
+#include "host/quartzcore/layer_service.h"
 #include "host/quartzcore/path.h"
 #include "host/quartzcore/shape_layer.h"
 #include "host/quartzcore/timing_function.h"
 #include "host/quartzcore/transaction.h"
-#include "host/quartzcore/value_categories.h"
+#include "host/quartzcore/value_objects.h"
 
 namespace host::quartzcore {
 
@@ -26,6 +27,7 @@ void export_quartzcore() {
     export_transaction();
     export_display_link();
     export_layer();
+    export_layer_flush();
     export_shape_layer();
     export_gradient_layer();
     export_backdrop_layer();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/quartzcore/scaled_copy.h"
+
 namespace host::quartzcore {
 namespace {
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "host/quartzcore/animation_delegate.h"
 #include "host/quartzcore/layer_service.h"
 
 namespace host::quartzcore {
@@ -48,7 +49,7 @@ Layer::~Layer() {
   if (in_animated_list_) forget_animated_layer(self);
   forget_own_backing_store();
   for (auto& animation : animations_)
-    stop(animation, NO, true);
+    stop_animation(animation, NO, true);
   for (const auto& child : children_)
     objc::state_of<Layer>(child.get()).superlayer_ = nil;
   if (mask_) objc::state_of<Layer>(mask_.get()).superlayer_ = nil;

@@ -223,7 +223,6 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   void drop_animations_of_tree();
   objc::Object default_action(NSString key) const;
   Value current_value(std::string_view key_path) const;
-  void stop(RunningAnimation& animation, BOOL finished, bool next_turn);
   CGAffineTransform to_root(CALayer& root) const;
 
   const std::uint64_t serial_;

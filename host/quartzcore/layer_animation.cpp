@@ -1,20 +1,17 @@
 #include <algorithm>
 #include <limits>
 
-#include "host/quartzcore/animation.h"
+#include "host/quartzcore/animation_delegate.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/media_time.h"
 #include "host/quartzcore/transaction.h"
-#include "host/runtime/run_loop.h"
+#include "host/quartzcore/value_objects.h"
 #include "platform/Foundation/NSNull.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
 
 namespace host::quartzcore {
 namespace {
-
-double now() {
-  return RunLoop::has_main() ? RunLoop::main().now() : 0;
-}
 
 std::string text_of(NSString string) {
   return string ? string.UTF8String() : "";
@@ -24,30 +21,7 @@ bool answers(objc::Object object, objc::Sel selector) {
   return object && objc::cast<NSObject>(object).respondsToSelector(selector);
 }
 
-objc::Object listener_of(const RunningAnimation& animation) {
-  return animation.object ? animation.object->delegate() : animation.listener.get();
-}
-
-bool hears_of_start(const RunningAnimation& animation) {
-  return animation.object && answers(animation.object->delegate(), "animationDidStart:"_sel);
-}
-
-/// `listener` hears of the end of `animation`, which is null where there was no object: it is one
-/// of ours then, and answers.
-void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
-  if (!animation || answers(listener, "animationDidStop:finished:"_sel))
-    objc::send<>(listener, "animationDidStop:finished:"_sel, animation.get(), finished);
-}
-
 }  // namespace
-
-void tell_starts(const std::vector<RunningAnimation>& started) {
-  for (const RunningAnimation& animation : started) {
-    const objc::Object listener = listener_of(animation);
-    if (answers(listener, "animationDidStart:"_sel))
-      objc::send<>(listener, "animationDidStart:"_sel, animation.object.get());
-  }
-}
 
 objc::Ref<objc::Object> Layer::action_before_change(NSString key) const {
   if (current_actions() == Actions::Disabled) return {};
@@ -99,7 +73,7 @@ bool Layer::is_scaling(double time) const {
 }
 
 Value Layer::current_value(std::string_view key_path) const {
-  if (const auto* access = layer_property(key_path)) return access->read(present(now()));
+  if (const auto* access = layer_property(key_path)) return access->read(present(media_time()));
   if (drawing_) return drawing_->model_value(key_path).value_or(Value());
   return {};
 }
@@ -109,7 +83,7 @@ void Layer::add_animation(CAAnimation animation, NSString key) {
   const auto copy = objc::Ref<CAAnimation>::adopt(objc::send<CAAnimation>(animation, "copy"_sel));
   if (key) self.removeAnimationForKey(key);
   RunningAnimation running =
-      prepare_animation(copy, text_of(key), now(), current_animation_duration());
+      prepare_animation(copy, text_of(key), media_time(), current_animation_duration());
   take(std::move(running));
 }
 
@@ -127,25 +101,11 @@ void Layer::take(RunningAnimation&& animation) {
   note_layer_change();
 }
 
-// The delegate may do anything to this layer, so nothing of it is touched afterwards.
-void Layer::stop(RunningAnimation& animation, BOOL finished, bool next_turn) {
-  if (std::exchange(animation.has_stopped, true)) return;
-  animation.group.reset();
-  const auto listener = objc::Ref<objc::Object>::retain(listener_of(animation));
-  if (!next_turn) {
-    tell_stop(listener.get(), animation.object, finished);
-  } else if (RunLoop::has_main()) {
-    RunLoop::main().perform([listener, object = animation.object, finished] {
-      tell_stop(listener.get(), object, finished);
-    });
-  }
-}
-
 bool Layer::start_animations(std::vector<RunningAnimation>& heard) {
   bool waits = false;
   for (RunningAnimation& animation : animations_) {
     if (animation.has_started) continue;
-    if (animation.begin > now()) {
+    if (animation.begin > media_time()) {
       waits = true;
       continue;
     }
@@ -182,7 +142,7 @@ void Layer::advance_animations(double time) {
   if (moved) forget_reach();
   note_layer_change();
   for (RunningAnimation& animation : ended)
-    stop(animation, YES, false);
+    stop_animation(animation, YES, false);
 }
 
 bool Layer::wants_frames() const {
@@ -201,7 +161,7 @@ double Layer::next_animation_end() const {
 void Layer::remove_animation_for_key(NSString key) {
   const std::string wanted = text_of(key);
   for (auto& animation : animations_) {
-    if (animation.key == wanted) stop(animation, animation.is_over(now()), true);
+    if (animation.key == wanted) stop_animation(animation, animation.is_over(media_time()), true);
   }
   if (std::erase_if(animations_, [&](const auto& animation) { return animation.key == wanted; })) {
     forget_reach();
@@ -212,7 +172,7 @@ void Layer::remove_animation_for_key(NSString key) {
 
 void Layer::remove_all_animations() {
   for (auto& animation : animations_)
-    stop(animation, animation.is_over(now()), true);
+    stop_animation(animation, animation.is_over(media_time()), true);
   animations_.clear();
   forget_reach();
   note_animations_changed();
@@ -243,7 +203,7 @@ CALayer Layer::presentation_layer() const {
   const auto copy = objc::send<CALayer>(
       objc::send<CALayer>(objc::Object(self.classOf()), "alloc"_sel), "init"_sel);
   Layer& shown = objc::state_of<Layer>(copy);
-  shown.properties_ = present(now());
+  shown.properties_ = present(media_time());
   shown.background_color_ = background_pattern()
                                 ? background_color_
                                 : objc::Ref<CGColorObject>::adopt(objc::cast<CGColorObject>(

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "host/quartzcore/color.h"
-#include "host/quartzcore/value.h"
+#include "host/quartzcore/property_access.h"
+#include "host/quartzcore/rgba.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 #include "platform/CoreGraphics/CGRect.h"
 #include "platform/QuartzCore/CATransform3D.h"
@@ -25,14 +25,6 @@ struct LayerProperties {
 
   /// From the layer's coordinates to its superlayer's; what leaves the plane is flattened.
   CGAffineTransform to_super() const;
-};
-
-/// Reads and writes one property by its key path.
-template <class Properties>
-struct PropertyAccess {
-  std::string_view key_path;
-  Value (*read)(const Properties&);
-  void (*write)(Properties&, const Value&);
 };
 
 /// Access to a layer's own property; null for a key path that it does not have.

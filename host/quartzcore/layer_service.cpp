@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/quartzcore/animation_delegate.h"
 #include "host/quartzcore/backing_stores.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/transaction.h"
@@ -38,6 +39,10 @@ void announce_starts() {
   for (CALayer layer : animated)
     starts_wait |= objc::state_of<Layer>(layer).start_animations(heard);
   tell_starts(heard);
+}
+
+void flush(objc::Object) {
+  flush_layers();
 }
 
 }  // namespace
@@ -171,6 +176,11 @@ bool any_layer_animated() {
 
 const std::vector<CALayer>& animated_layers() {
   return animated;
+}
+
+void export_layer_flush() {
+  const objc::Object transactions{reinterpret_cast<objc::Id>(CATransaction::cls())};
+  objc::add_method<&flush>(objc::class_of(transactions.id()), "flush");
 }
 
 }  // namespace host::quartzcore

@@ -61,4 +61,7 @@ void note_animations_changed();
 bool any_layer_animated();
 const std::vector<CALayer>& animated_layers();
 
+/// Adds `flush` to CATransaction.
+void export_layer_flush();
+
 }  // namespace host::quartzcore

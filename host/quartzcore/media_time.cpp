@@ -1,7 +1,17 @@
+#include "host/quartzcore/media_time.h"
+
 #include "host/runtime/exported.h"
 #include "host/runtime/run_loop.h"
 #include "platform/QuartzCore/CAMediaTiming.h"
 
+namespace host::quartzcore {
+
+double media_time() {
+  return RunLoop::has_main() ? RunLoop::main().now() : 0;
+}
+
+}  // namespace host::quartzcore
+
 SONAVUE_EXPORTED double CACurrentMediaTime() {
-  return host::RunLoop::has_main() ? host::RunLoop::main().now() : 0;
+  return host::quartzcore::media_time();
 }

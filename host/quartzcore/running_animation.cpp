@@ -7,6 +7,7 @@
 
 #include "host/quartzcore/animation.h"
 #include "host/quartzcore/timing_function.h"
+#include "host/quartzcore/value_objects.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
 
 namespace host::quartzcore {

@@ -71,9 +71,6 @@ struct RunningAnimation {
   Value last_value(const Value& underlying) const { return at_fraction(1, underlying); }
 };
 
-/// Tells the delegates that answer that their animations have started.
-void tell_starts(const std::vector<RunningAnimation>& started);
-
 /// An animation object that says the same as one that was made without; autoreleased.
 CAAnimation make_animation_object(const RunningAnimation& running);
 

@@ -51,7 +51,4 @@ inline int height_of(const Surface& surface) {
   return cairo_image_surface_get_height(surface.get());
 }
 
-/// A copy of another size. Shrinking averages all pixels, so nothing flickers or is lost.
-Surface scaled_copy(const Surface& source, int width, int height);
-
 }  // namespace host::quartzcore

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "host/quartzcore/layer_service.h"
 #include "host/runtime/run_loop.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
@@ -44,10 +43,6 @@ void commit(objc::Object) {
   } else {
     end_implicit_transaction();
   }
-}
-
-void flush(objc::Object) {
-  flush_layers();
 }
 
 BOOL disable_actions(objc::Object) {
@@ -103,7 +98,6 @@ void export_transaction() {
   objc::ClassBuilder("CATransaction", "NSObject")
       .class_method<&begin>("begin")
       .class_method<&commit>("commit")
-      .class_method<&flush>("flush")
       .class_method<&disable_actions>("disableActions")
       .class_method<&set_disable_actions>("setDisableActions:")
       .class_method<&animation_duration>("animationDuration")

@@ -30,6 +30,7 @@ std::shared_ptr<TransactionGroup> current_group();
 /// Ends the transaction that every turn of the run loop has by itself.
 void end_implicit_transaction();
 
+/// Makes CATransaction, but for `flush`, which is the layers'.
 void export_transaction();
 
 }  // namespace host::quartzcore

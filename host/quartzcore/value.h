@@ -4,8 +4,7 @@
 #include <variant>
 #include <vector>
 
-#include "host/quartzcore/color.h"
-#include "objc/object.h"
+#include "host/quartzcore/rgba.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/QuartzCore/CATransform3D.h"
 
@@ -14,11 +13,6 @@ namespace host::quartzcore {
 /// Anything that an animation can move between.
 using Value = std::variant<std::monostate, double, CGPoint, CGSize, CGRect, CATransform3D, Rgba,
                            std::vector<double>>;
-
-/// What an NSNumber, NSValue, CGColor or NSArray of NSNumbers says; nothing for other objects.
-std::optional<Value> value_from_object(objc::Object object);
-/// An autoreleased object that says the same; nil for no value.
-objc::Object object_from_value(const Value& value);
 
 /// `value` in the shape of `pattern`: two numbers may be a point or a size. Nothing when it cannot
 /// be.

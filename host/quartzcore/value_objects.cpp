@@ -1,7 +1,8 @@
+#include "host/quartzcore/value_objects.h"
+
 #include <cstring>
 
-#include "host/quartzcore/value.h"
-#include "host/quartzcore/value_categories.h"
+#include "host/quartzcore/color.h"
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSArray.h"
 #include "platform/Foundation/NSValue.h"

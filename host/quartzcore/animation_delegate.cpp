@@ -1,0 +1,52 @@
+#include "host/quartzcore/animation_delegate.h"
+
+#include <utility>
+
+#include "host/runtime/run_loop.h"
+
+namespace host::quartzcore {
+namespace {
+
+bool answers(objc::Object object, objc::Sel selector) {
+  return object && objc::cast<NSObject>(object).respondsToSelector(selector);
+}
+
+objc::Object listener_of(const RunningAnimation& animation) {
+  return animation.object ? animation.object->delegate() : animation.listener.get();
+}
+
+/// `listener` hears of the end of `animation`, which is null where there was no object: it is one
+/// of ours then, and answers.
+void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
+  if (!animation || answers(listener, "animationDidStop:finished:"_sel))
+    objc::send<>(listener, "animationDidStop:finished:"_sel, animation.get(), finished);
+}
+
+}  // namespace
+
+bool hears_of_start(const RunningAnimation& animation) {
+  return animation.object && answers(animation.object->delegate(), "animationDidStart:"_sel);
+}
+
+void tell_starts(const std::vector<RunningAnimation>& started) {
+  for (const RunningAnimation& animation : started) {
+    const objc::Object listener = listener_of(animation);
+    if (answers(listener, "animationDidStart:"_sel))
+      objc::send<>(listener, "animationDidStart:"_sel, animation.object.get());
+  }
+}
+
+void stop_animation(RunningAnimation& animation, BOOL finished, bool next_turn) {
+  if (std::exchange(animation.has_stopped, true)) return;
+  animation.group.reset();
+  const auto listener = objc::Ref<objc::Object>::retain(listener_of(animation));
+  if (!next_turn) {
+    tell_stop(listener.get(), animation.object, finished);
+  } else if (RunLoop::has_main()) {
+    RunLoop::main().perform([listener, object = animation.object, finished] {
+      tell_stop(listener.get(), object, finished);
+    });
+  }
+}
+
+}  // namespace host::quartzcore
