@@ -59,11 +59,18 @@ function(sonavue_module folder)
 endfunction()
 
 # Links all objects of static libraries, also those that nothing in the program refers to: libraries
-# loaded later bind to what they export.
+# loaded later bind to what they export. An interface library stands for the libraries that it links.
 function(sonavue_link_whole target)
   foreach(library IN LISTS ARGN)
+    get_target_property(kind ${library} TYPE)
+    if(kind STREQUAL INTERFACE_LIBRARY)
+      get_target_property(parts ${library} INTERFACE_LINK_LIBRARIES)
+      sonavue_link_whole(${target} ${parts})
+      continue()
+    endif()
+    # One option for each library: CMake leaves out an option that it has seen before.
     target_link_options(${target} PRIVATE
-      LINKER:--whole-archive $<TARGET_FILE:${library}> LINKER:--no-whole-archive)
+      LINKER:--whole-archive,$<TARGET_FILE:${library}>,--no-whole-archive)
     target_link_libraries(${target} PRIVATE ${library})
   endforeach()
 endfunction()
