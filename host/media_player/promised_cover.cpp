@@ -4,7 +4,7 @@
 
 #include "host/media_player/cover_store.h"
 #include "host/quartzcore/layer_service.h"
-#include "host/quartzcore/scaled_copy.h"
+#include "host/quartzcore/pixels/scaled_copy.h"
 
 namespace host::media_player {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/quartzcore/backdrop_layer.h"
-#include "host/quartzcore/small_picture.h"
+#include "host/quartzcore/pixels/small_picture.h"
 
 namespace host::quartzcore {
 

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <functional>
 
-#include "host/quartzcore/area_average.h"
+#include "host/quartzcore/pixels/area_average.h"
 #include "host/runtime/exported.h"
 
 namespace host::quartzcore {

@@ -7,9 +7,9 @@
 
 #include "host/quartzcore/image_cache.h"
 #include "host/quartzcore/layer_painter.h"
+#include "host/quartzcore/pixels/small_picture.h"
+#include "host/quartzcore/pixels/surface.h"
 #include "host/quartzcore/render_tree.h"
-#include "host/quartzcore/small_picture.h"
-#include "host/quartzcore/surface.h"
 
 namespace host::quartzcore {
 

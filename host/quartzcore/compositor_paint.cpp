@@ -3,7 +3,7 @@
 #include "host/quartzcore/backdrop_filter.h"
 #include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/pixel_blend.h"
+#include "host/quartzcore/pixels/pixel_blend.h"
 #include "host/quartzcore/signature.h"
 
 namespace host::quartzcore {

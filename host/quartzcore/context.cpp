@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/scaled_copy.h"
+#include "host/quartzcore/pixels/scaled_copy.h"
 
 namespace host::quartzcore {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "host/quartzcore/color.h"
 #include "host/quartzcore/image.h"
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 #include "platform/CoreGraphics/CGContext.h"
 
 /// What a CGContextRef points to: a Cairo drawing whose user space is points from the top left,

@@ -4,7 +4,7 @@
 #include <memory>
 #include <span>
 
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 #include "objc/class_builder.h"
 #include "platform/CoreGraphics/CGImage.h"
 #include "platform/Foundation/NSObject.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/quartzcore/scaled_copy.h"
+#include "host/quartzcore/pixels/scaled_copy.h"
 
 namespace host::quartzcore {
 namespace {

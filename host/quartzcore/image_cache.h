@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "host/quartzcore/image.h"
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 
 namespace host::quartzcore {
 

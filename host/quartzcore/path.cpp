@@ -1,6 +1,6 @@
 #include "host/quartzcore/path.h"
 
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 
 namespace host::quartzcore {

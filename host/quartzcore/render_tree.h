@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/quartzcore/layer.h"
-#include "host/quartzcore/pixel_rect.h"
+#include "host/quartzcore/pixels/pixel_rect.h"
 
 namespace host::quartzcore {
 

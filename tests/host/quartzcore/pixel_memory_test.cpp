@@ -1,4 +1,4 @@
-#include "host/quartzcore/pixel_memory.h"
+#include "host/quartzcore/pixels/pixel_memory.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <cstring>
 #include <vector>
 
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 
 namespace host::quartzcore {
 namespace {

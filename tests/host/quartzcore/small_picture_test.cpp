@@ -1,4 +1,4 @@
-#include "host/quartzcore/small_picture.h"
+#include "host/quartzcore/pixels/small_picture.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "host/quartzcore/backdrop_filter.h"
-#include "host/quartzcore/pixel_blend.h"
+#include "host/quartzcore/pixels/pixel_blend.h"
 
 namespace host::quartzcore {
 namespace {

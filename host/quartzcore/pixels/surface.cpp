@@ -1,10 +1,10 @@
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 
 #include <algorithm>
 #include <cstring>
 #include <memory>
 
-#include "host/quartzcore/pixel_memory.h"
+#include "host/quartzcore/pixels/pixel_memory.h"
 
 namespace host::quartzcore {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "host/quartzcore/pixel_memory.h"
-#include "host/quartzcore/pixel_rect.h"
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/pixel_memory.h"
+#include "host/quartzcore/pixels/pixel_rect.h"
+#include "host/quartzcore/pixels/surface.h"
 
 namespace host::quartzcore {
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/pixel_memory.h"
+#include "host/quartzcore/pixels/pixel_memory.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/surface.h"
 
 namespace host::quartzcore {
 

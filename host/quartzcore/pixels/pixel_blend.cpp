@@ -1,9 +1,9 @@
-#include "host/quartzcore/pixel_blend.h"
+#include "host/quartzcore/pixels/pixel_blend.h"
 
 #include <cmath>
 #include <cstring>
 
-#include "host/quartzcore/wide_loops.h"
+#include "host/quartzcore/pixels/wide_loops.h"
 
 namespace host::quartzcore {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/area_average.h"
+#include "host/quartzcore/pixels/area_average.h"
 
 #include <algorithm>
 #include <array>

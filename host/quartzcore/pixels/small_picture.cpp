@@ -1,4 +1,4 @@
-#include "host/quartzcore/small_picture.h"
+#include "host/quartzcore/pixels/small_picture.h"
 
 #include <algorithm>
 #include <array>
@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "host/quartzcore/pixel_blend.h"
-#include "host/quartzcore/wide_loops.h"
+#include "host/quartzcore/pixels/pixel_blend.h"
+#include "host/quartzcore/pixels/wide_loops.h"
 
 namespace host::quartzcore {
 namespace {

@@ -1,8 +1,8 @@
-#include "host/quartzcore/scaled_copy.h"
+#include "host/quartzcore/pixels/scaled_copy.h"
 
 #include <algorithm>
 
-#include "host/quartzcore/area_average.h"
+#include "host/quartzcore/pixels/area_average.h"
 
 namespace host::quartzcore {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "host/quartzcore/pixel_rect.h"
-#include "host/quartzcore/surface.h"
+#include "host/quartzcore/pixels/pixel_rect.h"
+#include "host/quartzcore/pixels/surface.h"
 
 namespace host::quartzcore {
 
