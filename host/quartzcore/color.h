@@ -3,7 +3,7 @@
 #include <cairo.h>
 
 #include "host/quartzcore/image.h"
-#include "host/quartzcore/rgba.h"
+#include "host/quartzcore/values/rgba.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/CoreGraphics/CGColor.h"

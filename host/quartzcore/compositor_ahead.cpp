@@ -1,6 +1,6 @@
 #include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/signature.h"
+#include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 namespace {

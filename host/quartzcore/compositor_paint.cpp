@@ -4,7 +4,7 @@
 #include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/compositor.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
-#include "host/quartzcore/signature.h"
+#include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "host/quartzcore/layer_service.h"
-#include "host/quartzcore/signature.h"
 #include "host/quartzcore/value_objects.h"
+#include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 namespace {

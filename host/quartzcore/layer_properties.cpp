@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/quartzcore/transform_parts.h"
+#include "host/quartzcore/values/transform_parts.h"
 
 namespace host::quartzcore {
 namespace {

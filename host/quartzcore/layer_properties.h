@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "host/quartzcore/property_access.h"
-#include "host/quartzcore/rgba.h"
+#include "host/quartzcore/values/rgba.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 #include "platform/CoreGraphics/CGRect.h"
 #include "platform/QuartzCore/CATransform3D.h"

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "host/quartzcore/running_animation.h"
-#include "host/quartzcore/value.h"
+#include "host/quartzcore/values/value.h"
 
 namespace host::quartzcore {
 

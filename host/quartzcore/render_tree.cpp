@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/quartzcore/backdrop_layer.h"
-#include "host/quartzcore/signature.h"
+#include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/quartzcore/timing_curve.h"
-#include "host/quartzcore/value.h"
+#include "host/quartzcore/values/timing_curve.h"
+#include "host/quartzcore/values/value.h"
 #include "objc/ref.h"
 #include "platform/QuartzCore/CAAnimation.h"
 

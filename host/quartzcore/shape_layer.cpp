@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "host/quartzcore/layer_service.h"
-#include "host/quartzcore/signature.h"
+#include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 namespace {

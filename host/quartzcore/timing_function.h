@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/timing_curve.h"
+#include "host/quartzcore/values/timing_curve.h"
 #include "objc/class_builder.h"
 #include "platform/QuartzCore/CAMediaTimingFunction.h"
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "host/quartzcore/value.h"
+#include "host/quartzcore/values/value.h"
 #include "objc/object.h"
 
 namespace host::quartzcore {

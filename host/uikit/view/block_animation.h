@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "host/quartzcore/timing_curve.h"
+#include "host/quartzcore/values/timing_curve.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIView.h"
 

@@ -4,7 +4,7 @@
 #include <variant>
 #include <vector>
 
-#include "host/quartzcore/rgba.h"
+#include "host/quartzcore/values/rgba.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/QuartzCore/CATransform3D.h"
 

@@ -1,10 +1,10 @@
-#include "host/quartzcore/value.h"
+#include "host/quartzcore/values/value.h"
 
 #include <algorithm>
 #include <span>
 #include <type_traits>
 
-#include "host/quartzcore/transform_parts.h"
+#include "host/quartzcore/values/transform_parts.h"
 
 namespace host::quartzcore {
 namespace {

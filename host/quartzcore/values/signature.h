@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "host/quartzcore/rgba.h"
+#include "host/quartzcore/values/rgba.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 
 namespace host::quartzcore {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/transform_parts.h"
+#include "host/quartzcore/values/transform_parts.h"
 
 #include <cmath>
 #include <cstring>

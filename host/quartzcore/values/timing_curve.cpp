@@ -1,4 +1,4 @@
-#include "host/quartzcore/timing_curve.h"
+#include "host/quartzcore/values/timing_curve.h"
 
 #include <cmath>
 
