@@ -1,7 +1,7 @@
 #include "host/media_player/artwork_images.h"
 
 #include "host/media_player/promised_cover.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 
 namespace host::media_player {
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/media/cover_file.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 
 namespace host::media_player {
 

@@ -4,7 +4,7 @@
 #include <map>
 #include <tuple>
 
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/pixels/surface.h"
 
 namespace host::quartzcore {

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "host/quartzcore/child_index.h"
-#include "host/quartzcore/color.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/color.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/layer_drawing.h"
 #include "host/quartzcore/layer_properties.h"
 #include "host/quartzcore/running_animation.h"

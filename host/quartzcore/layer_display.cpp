@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "host/quartzcore/backing_stores.h"
-#include "host/quartzcore/context.h"
+#include "host/quartzcore/drawing/context.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
 

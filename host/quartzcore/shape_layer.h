@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
+#include "host/quartzcore/drawing/path.h"
 #include "host/quartzcore/layer.h"
-#include "host/quartzcore/path.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
 
 namespace host::quartzcore {

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSArray.h"
 #include "platform/Foundation/NSValue.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-#include "host/quartzcore/path.h"
+#include "host/quartzcore/drawing/path.h"
 
 namespace sonavue::test {
 

@@ -10,7 +10,7 @@
 #include "host/activator/assignment/property_list_file.h"
 #include "host/activator/event/strings.h"
 #include "host/foundation/device_paths.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/runtime/log.h"
 #include "platform/Foundation/NSArray.h"
 

@@ -8,7 +8,7 @@
 #include "host/application/surface/shared_surface.h"
 #include "host/application/wire/channel.h"
 #include "host/application/wire/message_reader.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/runtime/run_loop.h"
 #include "host/springboard/processes/message_budget.h"
 #include "objc/ref.h"

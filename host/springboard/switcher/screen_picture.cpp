@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/runtime/run_loop.h"
 #include "host/springboard/common/screen_grid.h"

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 #include "platform/UIKit/_UIBackdropViewSettings.h"
 
 namespace host::uikit {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 #include "objc/class_builder.h"
 #include "platform/UIKit/UIColor.h"
 

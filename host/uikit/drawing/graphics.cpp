@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/quartzcore/context.h"
+#include "host/quartzcore/drawing/context.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/exported.h"
 

@@ -4,7 +4,7 @@
 
 #include <span>
 
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/drawing/image_orientation.h"
 #include "host/uikit/drawing/picture_file.h"

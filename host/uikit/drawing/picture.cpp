@@ -1,6 +1,6 @@
 #include "host/uikit/drawing/picture.h"
 
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/runtime/log.h"
 
 namespace host::uikit {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 #include "platform/UIKit/UITextInputTraits.h"
 
 namespace host::uikit {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 #include "host/runtime/on_pixel.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/geometry/screen_space.h"

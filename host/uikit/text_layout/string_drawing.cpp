@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/context.h"
+#include "host/quartzcore/drawing/context.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/text_layout/exports.h"
 #include "host/uikit/text_layout/text_layout.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 #include "host/uikit/drawing/font_face.h"
 #include "platform/Foundation/NSAttributedString.h"
 #include "platform/UIKit/UIColor.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "tests/host/quartzcore/quartz_test.h"
 
 namespace host::test {

@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/context.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/context.h"
+#include "host/quartzcore/drawing/image.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGImage.h"
 #include "platform/CoreGraphics/CGPath.h"

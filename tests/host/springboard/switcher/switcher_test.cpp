@@ -1,4 +1,4 @@
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/parts/window_levels.h"
 #include "host/springboard/switcher/app_switcher.h"

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "platform/CoreGraphics/CGColor.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/UIKit/UIColor.h"

@@ -1,4 +1,4 @@
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 
 #include <cstdlib>
 #include <cstring>

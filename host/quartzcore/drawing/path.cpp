@@ -1,4 +1,4 @@
-#include "host/quartzcore/path.h"
+#include "host/quartzcore/drawing/path.h"
 
 #include "host/quartzcore/pixels/surface.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"

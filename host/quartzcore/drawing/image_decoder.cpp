@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "host/basics/premultiply.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 
 namespace host::quartzcore {
 namespace {

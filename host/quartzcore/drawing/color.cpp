@@ -1,4 +1,4 @@
-#include "host/quartzcore/color.h"
+#include "host/quartzcore/drawing/color.h"
 
 #include <cstring>
 #include <functional>

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "host/quartzcore/path.h"
+#include "host/quartzcore/drawing/path.h"
 #include "host/runtime/exported.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 

@@ -1,5 +1,5 @@
-#include "host/quartzcore/context.h"
-#include "host/quartzcore/path.h"
+#include "host/quartzcore/drawing/context.h"
+#include "host/quartzcore/drawing/path.h"
 #include "host/runtime/exported.h"
 
 // The platform's C interface to drawing. A null context swallows everything, as the platform's.

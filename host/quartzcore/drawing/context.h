@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "host/quartzcore/color.h"
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/color.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/pixels/surface.h"
 #include "platform/CoreGraphics/CGContext.h"
 

@@ -2,7 +2,7 @@
 
 #include <cairo.h>
 
-#include "host/quartzcore/image.h"
+#include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/values/rgba.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"

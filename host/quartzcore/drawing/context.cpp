@@ -1,4 +1,4 @@
-#include "host/quartzcore/context.h"
+#include "host/quartzcore/drawing/context.h"
 
 #include <algorithm>
 #include <cmath>
