@@ -1,8 +1,11 @@
 #include "host/quartzcore/exports.h"
 
-#include "host/quartzcore/animation.h"
+#include "host/quartzcore/animations/animation.h"
+#include "host/quartzcore/animations/display_link.h"
+#include "host/quartzcore/animations/timing_function.h"
+#include "host/quartzcore/animations/transaction.h"
+#include "host/quartzcore/animations/value_objects.h"
 #include "host/quartzcore/backdrop_layer.h"
-#include "host/quartzcore/display_link.h"
 #include "host/quartzcore/drawing/color.h"
 #include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/drawing/path.h"
@@ -10,9 +13,6 @@
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/quartzcore/shape_layer.h"
-#include "host/quartzcore/timing_function.h"
-#include "host/quartzcore/transaction.h"
-#include "host/quartzcore/value_objects.h"
 
 namespace host::quartzcore {
 

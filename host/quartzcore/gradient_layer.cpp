@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "host/quartzcore/animations/value_objects.h"
 #include "host/quartzcore/layer_service.h"
-#include "host/quartzcore/value_objects.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "host/quartzcore/animation_delegate.h"
+#include "host/quartzcore/animations/animation_delegate.h"
 #include "host/quartzcore/layer_service.h"
 
 namespace host::quartzcore {

@@ -6,12 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include "host/quartzcore/animations/running_animation.h"
 #include "host/quartzcore/child_index.h"
 #include "host/quartzcore/drawing/color.h"
 #include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/layer_drawing.h"
 #include "host/quartzcore/layer_properties.h"
-#include "host/quartzcore/running_animation.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/QuartzCore/CALayer.h"

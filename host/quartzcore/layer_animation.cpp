@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <limits>
 
-#include "host/quartzcore/animation_delegate.h"
+#include "host/quartzcore/animations/animation_delegate.h"
+#include "host/quartzcore/animations/media_time.h"
+#include "host/quartzcore/animations/transaction.h"
+#include "host/quartzcore/animations/value_objects.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
-#include "host/quartzcore/media_time.h"
-#include "host/quartzcore/transaction.h"
-#include "host/quartzcore/value_objects.h"
 #include "platform/Foundation/NSNull.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "host/quartzcore/animations/running_animation.h"
 #include "host/quartzcore/layer_properties.h"
-#include "host/quartzcore/running_animation.h"
 
 namespace host::quartzcore {
 

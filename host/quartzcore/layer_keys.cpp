@@ -1,6 +1,6 @@
+#include "host/quartzcore/animations/value_objects.h"
 #include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
-#include "host/quartzcore/value_objects.h"
 
 // Key-value access: the parts of geometry by key path, and any key that a user of layers invents.
 

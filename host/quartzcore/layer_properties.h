@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "host/quartzcore/property_access.h"
+#include "host/quartzcore/animations/property_access.h"
 #include "host/quartzcore/values/rgba.h"
 #include "platform/CoreGraphics/CGAffineTransform.h"
 #include "platform/CoreGraphics/CGRect.h"

@@ -5,10 +5,10 @@
 #include <utility>
 #include <vector>
 
-#include "host/quartzcore/animation_delegate.h"
+#include "host/quartzcore/animations/animation_delegate.h"
+#include "host/quartzcore/animations/transaction.h"
 #include "host/quartzcore/backing_stores.h"
 #include "host/quartzcore/layer.h"
-#include "host/quartzcore/transaction.h"
 #include "host/runtime/log.h"
 
 namespace host::quartzcore {

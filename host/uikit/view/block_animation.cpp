@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/quartzcore/timing_function.h"
+#include "host/quartzcore/animations/timing_function.h"
 #include "host/uikit/view/animation_run.h"
 #include "objc/class_builder.h"
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/media_time.h"
+#include "host/quartzcore/animations/media_time.h"
 
 #include "host/runtime/exported.h"
 #include "host/runtime/run_loop.h"

@@ -1,4 +1,4 @@
-#include "host/quartzcore/animation_delegate.h"
+#include "host/quartzcore/animations/animation_delegate.h"
 
 #include <utility>
 

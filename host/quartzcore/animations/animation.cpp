@@ -1,4 +1,4 @@
-#include "host/quartzcore/animation.h"
+#include "host/quartzcore/animations/animation.h"
 
 #include "platform/QuartzCore/CALayer.h"
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/quartzcore/running_animation.h"
+#include "host/quartzcore/animations/running_animation.h"
 
 namespace host::quartzcore {
 

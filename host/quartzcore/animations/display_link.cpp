@@ -1,4 +1,4 @@
-#include "host/quartzcore/display_link.h"
+#include "host/quartzcore/animations/display_link.h"
 
 namespace host::quartzcore {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/timing_function.h"
+#include "host/quartzcore/animations/timing_function.h"
 
 #include <algorithm>
 #include <string_view>

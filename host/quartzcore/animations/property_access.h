@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/quartzcore/running_animation.h"
+#include "host/quartzcore/animations/running_animation.h"
 #include "host/quartzcore/values/value.h"
 
 namespace host::quartzcore {

@@ -1,13 +1,13 @@
-#include "host/quartzcore/running_animation.h"
+#include "host/quartzcore/animations/running_animation.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string_view>
 
-#include "host/quartzcore/animation.h"
-#include "host/quartzcore/timing_function.h"
-#include "host/quartzcore/value_objects.h"
+#include "host/quartzcore/animations/animation.h"
+#include "host/quartzcore/animations/timing_function.h"
+#include "host/quartzcore/animations/value_objects.h"
 #include "platform/QuartzCore/CABasicAnimation.h"
 
 namespace host::quartzcore {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/transaction.h"
+#include "host/quartzcore/animations/transaction.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/value_objects.h"
+#include "host/quartzcore/animations/value_objects.h"
 
 #include <cstring>
 
