@@ -1,6 +1,6 @@
 #include "host/quartzcore/backdrop_layer.h"
 
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/layer_changes.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
@@ -18,11 +18,11 @@ std::uint64_t BackdropLook::signature() const {
 }
 
 BackdropLayer::BackdropLayer(CABackdropLayer owner) : Implementation(owner) {
-  objc::state_of<Layer>(owner).set_backdrop(this);
+  layer_of(owner).backdrop = this;
   backdrops.push_back(this);
 }
 BackdropLayer::~BackdropLayer() {
-  objc::state_of<Layer>(self).set_backdrop(nullptr);
+  layer_of(self).backdrop = nullptr;
   std::erase(backdrops, this);
 }
 

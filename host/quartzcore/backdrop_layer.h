@@ -27,7 +27,7 @@ class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer
   explicit BackdropLayer(CABackdropLayer owner);
   ~BackdropLayer();
 
-  const Layer& layer() const { return objc::state_of<Layer>(self); }
+  const Layer& layer() const { return layer_of(self); }
   const BackdropLook& look() const { return look_; }
   void show(const BackdropLook& look);
   void note_luminance(double luminance) { luminance_ = luminance; }

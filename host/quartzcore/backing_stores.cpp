@@ -2,23 +2,19 @@
 
 #include <list>
 #include <unordered_map>
-
-#include "host/quartzcore/layer.h"
+#include <utility>
 
 namespace host::quartzcore {
 namespace {
 
-// What is in sight is looked at in vain; a turn of the loop has no time for all of that.
-constexpr int kMostLooks = 64;
-
-struct BackingStore {
+struct Entry {
   CALayer layer;
   std::size_t bytes;
 };
 
 struct BackingStores {
-  std::list<BackingStore> oldest_first;
-  std::unordered_map<objc::Id, std::list<BackingStore>::iterator> places;
+  std::list<Entry> oldest_first;
+  std::unordered_map<objc::Id, std::list<Entry>::iterator> places;
   std::size_t bytes = 0;
 };
 
@@ -30,36 +26,34 @@ BackingStores& stores() {
 
 }  // namespace
 
-void note_backing_store(CALayer layer, std::size_t bytes) {
-  forget_backing_store(layer);
+void BackingStore::note(std::size_t bytes) {
+  forget();
   auto& all = stores();
-  all.places[layer.id()] = all.oldest_first.insert(all.oldest_first.end(), {layer, bytes});
+  all.places[layer_.id()] = all.oldest_first.insert(all.oldest_first.end(), {layer_, bytes});
   all.bytes += bytes;
+  is_listed_ = true;
 }
 
-void forget_backing_store(CALayer layer) {
+void BackingStore::forget() {
+  if (!std::exchange(is_listed_, false)) return;
   auto& all = stores();
-  const auto found = all.places.find(layer.id());
-  if (found == all.places.end()) return;
+  const auto found = all.places.find(layer_.id());
   all.bytes -= found->second->bytes;
   all.oldest_first.erase(found->second);
   all.places.erase(found);
 }
 
-void trim_backing_stores() {
-  auto& all = stores();
-  for (int look = 0; look < kMostLooks && all.bytes > kBackingStoreBudget; ++look) {
-    const auto oldest = all.oldest_first.begin();
-    Layer& layer = objc::state_of<Layer>(oldest->layer);
-    if (layer.is_clipped_away())
-      layer.drop_backing_store();
-    else
-      all.oldest_first.splice(all.oldest_first.end(), all.oldest_first, oldest);
-  }
-}
-
 std::size_t backing_store_bytes() {
   return stores().bytes;
+}
+
+CALayer oldest_backing_store() {
+  return stores().oldest_first.front().layer;
+}
+
+void renew_oldest_backing_store() {
+  auto& layers = stores().oldest_first;
+  layers.splice(layers.end(), layers, layers.begin());
 }
 
 }  // namespace host::quartzcore

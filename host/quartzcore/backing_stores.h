@@ -6,21 +6,31 @@
 
 namespace host::quartzcore {
 
-// The pictures that layers have drawn of themselves. A scrolled list of thousands of labels would
-// keep a picture of each: so all of them together have a budget. Beyond it the pictures of layers
-// that are clipped away are let go, the oldest first, and drawn again once they come into sight.
+// The pictures that layers have drawn of themselves.
 
-/// Bytes; a few screens full of texts.
-inline constexpr std::size_t kBackingStoreBudget = 8 << 20;
+/// A layer's own picture among them. Not retained: it leaves with the layer.
+class BackingStore {
+ public:
+  explicit BackingStore(CALayer layer) : layer_(layer) {}
+  BackingStore(const BackingStore&) = delete;
+  BackingStore& operator=(const BackingStore&) = delete;
+  ~BackingStore() { forget(); }
 
-/// The layer has drawn itself anew. Not retained: it says when it ends.
-void note_backing_store(CALayer layer, std::size_t bytes);
-void forget_backing_store(CALayer layer);
+  /// The layer has drawn itself anew.
+  void note(std::size_t bytes);
+  void forget();
 
-/// Keeps to the budget, as far as the oldest pictures are out of sight.
-void trim_backing_stores();
+ private:
+  const CALayer layer_;
+  bool is_listed_ = false;
+};
 
 /// Bytes of all of them.
 std::size_t backing_store_bytes();
+
+/// The layer that drew itself first; there must be one.
+CALayer oldest_backing_store();
+/// Lets that layer count as the one that drew itself last.
+void renew_oldest_backing_store();
 
 }  // namespace host::quartzcore

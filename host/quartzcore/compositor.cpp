@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "host/quartzcore/animated_layers.h"
 #include "host/quartzcore/backdrop_layer.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/layer_changes.h"
+#include "host/quartzcore/retained_layers.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
@@ -28,7 +30,7 @@ Compositor::Compositor(int width, int height, double scale)
 Damage Compositor::render(std::span<const CALayer> roots, double now) {
   const bool same_roots =
       std::equal(roots.begin(), roots.end(), last_roots_.begin(), last_roots_.end());
-  const bool animated = any_layer_animated();
+  const bool animated = !animated_layers().empty();
   if (same_roots && !animated && !last_animated_ && last_changes_ == layer_changes()) return {};
   prepare_tree(roots, now);
   last_roots_.assign(roots.begin(), roots.end());
@@ -37,7 +39,7 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   std::vector<Entry> after;
   after.reserve(tree_.nodes().size());
   for (const RenderNode& one : tree_.nodes()) {
-    const std::uint64_t content = one.layer->backdrop() ? one.behind : one.signature;
+    const std::uint64_t content = one.layer->backdrop ? one.behind : one.signature;
     after.push_back({one.serial, mix_signature(content, one.context), one.own});
   }
   Damage damage =
@@ -60,10 +62,7 @@ void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
   for (int round = 0; round < kMostRounds; ++round) {
     tree_.prepare(roots, screen_, scale_, now);
     if (tree_.undrawn().empty()) return;
-    std::vector<objc::Ref<CALayer>> undrawn;
-    for (const CALayer layer : tree_.undrawn())
-      undrawn.push_back(objc::Ref<CALayer>::retain(layer));
-    for (const auto& layer : undrawn)
+    for (const auto& layer : retained(tree_.undrawn()))
       layer->displayIfNeeded();
   }
   tree_.prepare(roots, screen_, scale_, now);
@@ -98,7 +97,7 @@ Damage Compositor::find_damage(const std::vector<Entry>& before, const std::vect
   }
   // A blur is made from what lies under its whole place, so the whole place is painted for it.
   for (const RenderNode& one : tree_.nodes()) {
-    if (one.layer->backdrop() && !backdrop_is_ready(one)) damage.push_back(one.own);
+    if (one.layer->backdrop && !backdrop_is_ready(one)) damage.push_back(one.own);
   }
   return damage;
 }
@@ -138,7 +137,7 @@ int Compositor::first_needed(const PixelRect& damage, int group) const {
   for (int i = end - 1; i > group; --i) {
     const RenderNode& one = node(i);
     if (!one.is_opaque || !one.own.contains(damage)) continue;
-    if (one.layer->backdrop() && !backdrop_is_ready(one)) continue;
+    if (one.layer->backdrop && !backdrop_is_ready(one)) continue;
     bool in_group = one.is_group;
     for (int p = one.parent; p > group && !in_group; p = node(p).parent)
       in_group = node(p).is_group;
@@ -172,7 +171,7 @@ void Compositor::forget_unused() {
   };
   const auto is_alive = [](std::uint64_t serial) {
     return std::any_of(all_backdrops().begin(), all_backdrops().end(),
-                       [&](const auto* one) { return one->layer().serial() == serial; });
+                       [&](const auto* one) { return one->layer().serial == serial; });
   };
   std::erase_if(backdrops_, [&](const auto& one) { return !is_alive(one.first); });
   for (auto& [serial, backdrop] : backdrops_) {

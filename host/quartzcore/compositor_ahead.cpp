@@ -6,10 +6,10 @@ namespace host::quartzcore {
 namespace {
 
 std::uint64_t mix_place(std::uint64_t state, const Layer& layer) {
-  const CGAffineTransform t = layer.model().to_super();
-  state = mix_signature(mix_signature(state, layer.model().bounds), CGPoint{t.a, t.b});
+  const CGAffineTransform t = layer.model.properties.to_super();
+  state = mix_signature(mix_signature(state, layer.model.properties.bounds), CGPoint{t.a, t.b});
   state = mix_signature(mix_signature(state, CGPoint{t.c, t.d}), CGPoint{t.tx, t.ty});
-  return mix_signature(state, static_cast<std::uint64_t>(layer.hidden()));
+  return mix_signature(state, static_cast<std::uint64_t>(layer.model.hidden));
 }
 
 /// A number that changes with whatever a backdrop that lies in a picture may show of it.
@@ -17,14 +17,13 @@ std::uint64_t state_of_pictures() {
   std::uint64_t state = 1;
   for (const BackdropLayer* backdrop : all_backdrops()) {
     const Layer* layer = &backdrop->layer();
-    const CALayer holder = layer->superlayer();
-    const Image* image = holder ? objc::state_of<Layer>(holder).contents_image() : nullptr;
+    const Layer* holder = layer->superlayer();
+    const Image* image = holder ? holder->model.contents.image() : nullptr;
     if (!image) continue;
-    state = mix_signature(mix_signature(state, layer->serial()), backdrop->look().signature());
+    state = mix_signature(mix_signature(state, layer->serial), backdrop->look().signature());
     state = mix_signature(mix_signature(state, image->serial()), image->revision());
-    for (; layer->superlayer(); layer = &objc::state_of<Layer>(layer->superlayer()))
+    for (; layer; layer = layer->superlayer())
       state = mix_place(state, *layer);
-    state = mix_place(state, *layer);
   }
   return state;
 }

@@ -24,13 +24,13 @@ void Compositor::paint_contents(int index, const PixelRect& damage, int first, d
   const Canvas canvas = canvases_.back();
   cairo_save(canvas.drawing.get());
   if (index >= first && intersects(one.own, damage)) {
-    if (one.layer->backdrop()) paint_backdrop(index, damage, opacity);
+    if (one.layer->backdrop) paint_backdrop(index, damage, opacity);
     paint_layer(canvas, one, opacity, images_);
   }
   const int first_child = one.mask >= 0 ? node(one.mask).end : index + 1;
   if (first_child < one.end) {
     cairo_save(canvas.drawing.get());
-    if (one.layer->masks()) clip_to_layer(canvas, one);
+    if (one.layer->model.masks_to_bounds) clip_to_layer(canvas, one);
     for (int child = first_child; child < one.end; child = node(child).end)
       paint_node(child, damage, first);
     cairo_restore(canvas.drawing.get());
@@ -45,7 +45,7 @@ std::uint64_t Compositor::contents_of_group(int index) const {
   std::uint64_t result = 1;
   for (int i = index; i < node(index).end; ++i) {
     const RenderNode& one = node(i);
-    result = mix_signature(result, one.layer->backdrop() ? one.behind : one.signature);
+    result = mix_signature(result, one.layer->backdrop ? one.behind : one.signature);
     if (i != index) result = mix_signature(result, one.properties.opacity);
   }
   return result;
@@ -82,7 +82,7 @@ void Compositor::draw_group(int index, CachedGroup& group) {
   group.surface = prepared(std::move(group.surface), group.place.width, group.place.height);
   canvases_.push_back(make_canvas(group.surface, group.place.x, group.place.y));
   paint_contents(index, group.place, first, 1);
-  if (node(index).layer->mask_layer()) apply_mask(index);
+  if (node(index).layer->tree.mask) apply_mask(index);
   canvases_.pop_back();
   cairo_surface_flush(group.surface.get());
 }
@@ -124,9 +124,9 @@ SmallPicture Compositor::small_picture_behind(const RenderNode& backdrop, int re
 // A picture that only a backdrop sees is never brought to the size of the screen.
 SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect& place,
                                        int reduction) {
-  const Image& image = *shown.layer->contents_image();
+  const Image& image = *shown.layer->model.contents.image();
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(
-      contents_rect(*shown.layer, shown.properties.bounds), shown.to_device));
+      shown.layer->model.contents.place_in(shown.properties.bounds), shown.to_device));
   const Surface scaled =
       images_.scaled(image, std::max(1, box.width / reduction), std::max(1, box.height / reduction),
                      ImageCache::Pixels::Waited);
@@ -150,14 +150,14 @@ void Compositor::prepare_backdrops(const RenderTree& tree) {
   for (const RenderNode& one : tree.nodes()) {
     if (one.lone_picture < 0 || one.own.is_empty() || backdrop_is_ready(one)) continue;
     const RenderNode& picture = tree.nodes()[static_cast<std::size_t>(one.lone_picture)];
-    const int reduction = reduction_for(one.layer->backdrop()->look(), scale_);
+    const int reduction = reduction_for(one.layer->backdrop->look(), scale_);
     blur(one, small_copy_of(picture, one.own, reduction));
   }
 }
 
 void Compositor::blur(const RenderNode& one, SmallPicture behind) {
   ++blurs_;
-  BackdropLayer& backdrop = *one.layer->backdrop();
+  BackdropLayer& backdrop = *one.layer->backdrop;
   backdrop.note_luminance(filter_backdrop(behind, backdrop.look(), scale_));
   CachedBackdrop& cached = backdrops_[one.serial];
   cached = {one.behind, frames_, one.own, std::move(behind), std::move(cached.surface), false};
@@ -166,7 +166,7 @@ void Compositor::blur(const RenderNode& one, SmallPicture behind) {
 void Compositor::paint_backdrop(int index, const PixelRect& damage, double opacity) {
   const RenderNode& one = node(index);
   if (!backdrop_is_ready(one)) {
-    const int reduction = reduction_for(one.layer->backdrop()->look(), scale_);
+    const int reduction = reduction_for(one.layer->backdrop->look(), scale_);
     blur(one, small_picture_behind(one, reduction));
   }
   CachedBackdrop& cached = backdrops_[one.serial];

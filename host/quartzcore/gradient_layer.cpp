@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "host/quartzcore/animations/value_objects.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/layer_actions.h"
+#include "host/quartzcore/layer_changes.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
@@ -11,44 +12,32 @@ namespace {
 
 using P = GradientProperties;
 
-template <auto Member>
-constexpr PropertyAccess<P> access(std::string_view key_path) {
-  using T = std::remove_cvref_t<decltype(std::declval<P>().*Member)>;
-  return {key_path, [](const P& p) -> Value { return p.*Member; },
-          [](P& p, const Value& value) {
-            if (const T* held = std::get_if<T>(&value)) p.*Member = *held;
-          }};
-}
-
 constexpr PropertyAccess<P> kProperties[] = {
-    access<&P::start>("startPoint"),
-    access<&P::end>("endPoint"),
-    access<&P::locations>("locations"),
+    access_to<&P::start>("startPoint"),
+    access_to<&P::end>("endPoint"),
+    access_to<&P::locations>("locations"),
 };
 
 const PropertyAccess<P>* gradient_property(std::string_view key_path) {
-  const auto* found = std::find_if(std::begin(kProperties), std::end(kProperties),
-                                   [&](const auto& one) { return one.key_path == key_path; });
-  return found == std::end(kProperties) ? nullptr : found;
+  return find_access(kProperties, key_path);
 }
 
 }  // namespace
 
 GradientLayer::GradientLayer(CAGradientLayer owner) : Implementation(owner) {
-  objc::state_of<Layer>(owner).set_drawing(this);
+  layer_of(owner).set_drawing(this);
 }
 GradientLayer::~GradientLayer() {
-  objc::state_of<Layer>(self).set_drawing(nullptr);
+  layer_of(self).set_drawing(nullptr);
 }
 
 template <class T>
 void GradientLayer::change(NSString key, T GradientProperties::*member, const T& value) {
   if (model_.*member == value) return;
-  const Layer& layer = objc::state_of<Layer>(self);
-  const auto action = layer.action_before_change(key);
+  const auto action = action_before_change(self, key);
   model_.*member = value;
   note_layer_change();
-  layer.run_action(action, key);
+  run_action(action, self, key);
 }
 
 void GradientLayer::set_colors(NSArray colors) {

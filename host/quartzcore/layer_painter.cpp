@@ -94,12 +94,12 @@ void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const
 }
 
 void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
-  const Image& image = *node.layer->contents_image();
-  const CGRect place = contents_rect(*node.layer, node.properties.bounds);
+  const Image& image = *node.layer->model.contents.image();
+  const CGRect place = node.layer->model.contents.place_in(node.properties.bounds);
   if (!(place.size.width > 0) || !(place.size.height > 0)) return;
   cairo_save(canvas.drawing.get());
   // Contents may reach beyond the bounds; only a layer that clips cuts itself as well.
-  if (node.layer->masks()) clip_to_layer(canvas, node);
+  if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
   const bool own_size = box.width == image.width() && box.height == image.height();
   if (is_upright(node.to_device) && !box.is_empty() && (own_size || !node.is_scaling)) {
@@ -115,10 +115,10 @@ void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, I
 void paint_drawing(const Canvas& canvas, const RenderNode& node, double opacity) {
   cairo_t* drawing = canvas.drawing.get();
   cairo_save(drawing);
-  if (node.layer->masks()) clip_to_layer(canvas, node);
+  if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
   if (opacity < 1) cairo_push_group(drawing);
   use_layer_space(canvas, node.to_device);
-  node.layer->drawing()->paint(drawing, node.properties);
+  node.layer->drawing->paint(drawing, node.properties);
   if (opacity < 1) {
     cairo_pop_group_to_source(drawing);
     cairo_paint_with_alpha(drawing, opacity);
@@ -140,8 +140,8 @@ void clip_to_layer(const Canvas& canvas, const RenderNode& node) {
 
 void paint_layer(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
   if (!node.hides_background) paint_background(canvas, node, opacity);
-  if (node.layer->contents_image()) paint_image(canvas, node, opacity, images);
-  if (node.layer->drawing()) paint_drawing(canvas, node, opacity);
+  if (node.layer->model.contents.image()) paint_image(canvas, node, opacity, images);
+  if (node.layer->drawing) paint_drawing(canvas, node, opacity);
 }
 
 void paint_border(const Canvas& canvas, const RenderNode& node, double opacity) {

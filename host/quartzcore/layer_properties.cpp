@@ -1,7 +1,5 @@
 #include "host/quartzcore/layer_properties.h"
 
-#include <algorithm>
-
 #include "host/quartzcore/values/transform_parts.h"
 
 namespace host::quartzcore {
@@ -13,15 +11,6 @@ using Access = PropertyAccess<P>;
 double number(const Value& value) {
   const auto* held = std::get_if<double>(&value);
   return held ? *held : 0;
-}
-
-template <auto Member>
-constexpr Access whole(std::string_view key_path) {
-  using T = std::remove_cvref_t<decltype(std::declval<P>().*Member)>;
-  return {key_path, [](const P& p) -> Value { return p.*Member; },
-          [](P& p, const Value& value) {
-            if (const T* held = std::get_if<T>(&value)) p.*Member = *held;
-          }};
 }
 
 template <auto Part>
@@ -52,19 +41,19 @@ constexpr Access transform_scale() {
   }
 
 constexpr Access kProperties[] = {
-    whole<&P::position>("position"),
+    access_to<&P::position>("position"),
     SONAVUE_PART("position.x", position.x),
     SONAVUE_PART("position.y", position.y),
-    whole<&P::bounds>("bounds"),
+    access_to<&P::bounds>("bounds"),
     SONAVUE_PART("bounds.origin", bounds.origin),
     SONAVUE_PART("bounds.origin.x", bounds.origin.x),
     SONAVUE_PART("bounds.origin.y", bounds.origin.y),
     SONAVUE_PART("bounds.size", bounds.size),
     SONAVUE_PART("bounds.size.width", bounds.size.width),
     SONAVUE_PART("bounds.size.height", bounds.size.height),
-    whole<&P::anchor>("anchorPoint"),
-    whole<&P::z_position>("zPosition"),
-    whole<&P::transform>("transform"),
+    access_to<&P::anchor>("anchorPoint"),
+    access_to<&P::z_position>("zPosition"),
+    access_to<&P::transform>("transform"),
     transform_part<&TransformParts::rotation>("transform.rotation"),
     transform_part<&TransformParts::rotation>("transform.rotation.z"),
     transform_scale(),
@@ -72,11 +61,11 @@ constexpr Access kProperties[] = {
     transform_part<&TransformParts::scale_y>("transform.scale.y"),
     transform_part<&TransformParts::x>("transform.translation.x"),
     transform_part<&TransformParts::y>("transform.translation.y"),
-    whole<&P::opacity>("opacity"),
-    whole<&P::corner_radius>("cornerRadius"),
-    whole<&P::border_width>("borderWidth"),
-    whole<&P::border_color>("borderColor"),
-    whole<&P::background_color>("backgroundColor"),
+    access_to<&P::opacity>("opacity"),
+    access_to<&P::corner_radius>("cornerRadius"),
+    access_to<&P::border_width>("borderWidth"),
+    access_to<&P::border_color>("borderColor"),
+    access_to<&P::background_color>("backgroundColor"),
 };
 
 #undef SONAVUE_PART
@@ -96,11 +85,35 @@ CGAffineTransform LayerProperties::to_super() const {
   return result;
 }
 
+CGRect LayerProperties::frame() const {
+  const CGRect box = CGRectApplyAffineTransform(bounds, to_super());
+  // Without a transform the size is kept to the last bit: whoever moves a layer by its frame must
+  // not change its bounds.
+  return CATransform3DIsIdentity(transform) ? CGRect{box.origin, bounds.size} : box;
+}
+
+LayerProperties LayerProperties::placed_in(const CGRect& frame) const {
+  CGAffineTransform linear = CATransform3DGetAffineTransform(transform);
+  const CGPoint translation{linear.tx, linear.ty};
+  linear.tx = linear.ty = 0;
+  CGSize size = frame.size;
+  if (!CGAffineTransformIsIdentity(linear)) {
+    // The size whose transformed box fits the frame, exactly so without turning.
+    const CGRect box = CGRectApplyAffineTransform({0, 0, frame.size.width, frame.size.height},
+                                                  CGAffineTransformInvert(linear));
+    size = box.size;
+  }
+  const CGRect placed = CGRectApplyAffineTransform(
+      {-anchor.x * size.width, -anchor.y * size.height, size.width, size.height}, linear);
+  LayerProperties result = *this;
+  result.bounds = {bounds.origin, size};
+  result.position = {frame.origin.x - placed.origin.x - translation.x,
+                     frame.origin.y - placed.origin.y - translation.y};
+  return result;
+}
+
 const Access* layer_property(std::string_view key_path) {
-  const auto* found =
-      std::find_if(std::begin(kProperties), std::end(kProperties),
-                   [&](const Access& access) { return access.key_path == key_path; });
-  return found == std::end(kProperties) ? nullptr : found;
+  return find_access(kProperties, key_path);
 }
 
 }  // namespace host::quartzcore

@@ -25,6 +25,10 @@ struct LayerProperties {
 
   /// From the layer's coordinates to its superlayer's; what leaves the plane is flattened.
   CGAffineTransform to_super() const;
+  /// The box round the bounds in the superlayer's coordinates.
+  CGRect frame() const;
+  /// The same with bounds and position that have that frame.
+  LayerProperties placed_in(const CGRect& frame) const;
 };
 
 /// Access to a layer's own property; null for a key path that it does not have.

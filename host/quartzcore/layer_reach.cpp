@@ -1,11 +1,9 @@
+#include "host/quartzcore/layer_reach.h"
+
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "host/quartzcore/layer.h"
-#include "host/quartzcore/render_tree.h"
-
-// Where a layer and what is below it may be seen: what a frame does not show costs it nothing.
 
 namespace host::quartzcore {
 namespace {
@@ -14,10 +12,6 @@ constexpr double kHalfOfEverything = 1e9;
 constexpr CGRect kEverything{-kHalfOfEverything, -kHalfOfEverything, 2 * kHalfOfEverything,
                              2 * kHalfOfEverything};
 
-// Animations of these change how a layer looks and not where it is.
-constexpr std::array<std::string_view, 5> kUnmovingKeys = {
-    "opacity", "backgroundColor", "borderColor", "borderWidth", "cornerRadius"};
-
 bool touch(const CGRect& a, const CGRect& b) {
   return a.min_x() <= b.max_x() && b.min_x() <= a.max_x() && a.min_y() <= b.max_y() &&
          b.min_y() <= a.max_y();
@@ -25,55 +19,51 @@ bool touch(const CGRect& a, const CGRect& b) {
 
 }  // namespace
 
-bool Layer::moves(const RunningAnimation& animation) {
-  return std::find(kUnmovingKeys.begin(), kUnmovingKeys.end(), animation.key_path) ==
-         kUnmovingKeys.end();
-}
-
-bool Layer::may_move() const {
-  return std::any_of(animations_.begin(), animations_.end(), &Layer::moves);
-}
-
 // The reach is made in any case: whoever keeps the box is told only when a known reach is
 // forgotten.
-CGRect Layer::box() const {
-  const CGRect own = reach();
-  return may_move() ? kEverything : CGRectApplyAffineTransform(own, properties_.to_super());
+CGRect LayerReach::box() const {
+  const CGRect reach = in_layer();
+  return layer_.animations.may_move()
+             ? kEverything
+             : CGRectApplyAffineTransform(reach, layer_.model.properties.to_super());
 }
 
 // Shapes may be drawn anywhere, and change without the layer's knowledge.
-CGRect Layer::reach() const {
-  if (is_reach_known_) return reach_;
-  is_reach_known_ = true;
-  if (may_move() || drawing_) return reach_ = kEverything;
-  reach_ = properties_.bounds;
-  if (masks_to_bounds_) return reach_;
-  if (image_) reach_ = CGRectUnion(reach_, contents_rect(*this, properties_.bounds));
-  for (const auto& child : children_)
-    reach_ = CGRectUnion(reach_, objc::state_of<Layer>(child.get()).box());
-  return reach_;
+CGRect LayerReach::in_layer() const {
+  if (is_known_) return in_layer_;
+  is_known_ = true;
+  if (layer_.animations.may_move() || layer_.drawing) return in_layer_ = kEverything;
+  const CGRect& bounds = layer_.model.properties.bounds;
+  in_layer_ = bounds;
+  if (layer_.model.masks_to_bounds) return in_layer_;
+  const Contents& contents = layer_.model.contents;
+  if (contents.image()) in_layer_ = CGRectUnion(in_layer_, contents.place_in(bounds));
+  for (const auto& child : layer_.tree.sublayers)
+    in_layer_ = CGRectUnion(in_layer_, layer_of(child.get()).reach.box());
+  return in_layer_;
 }
 
-void Layer::forget_reach() {
-  if (!std::exchange(is_reach_known_, false)) return;
-  if (superlayer_) objc::state_of<Layer>(superlayer_).forget_reach_of_children();
+void LayerReach::forget() {
+  if (!std::exchange(is_known_, false)) return;
+  if (Layer* above = layer_.superlayer()) above->reach.forget_children();
 }
 
-void Layer::forget_reach_of_children() {
-  for (Layer* layer = this;;) {
-    layer->is_index_stale_ = true;
-    if (layer->masks_to_bounds_ || !std::exchange(layer->is_reach_known_, false)) return;
-    if (!layer->superlayer_) return;
-    layer = &objc::state_of<Layer>(layer->superlayer_);
+void LayerReach::forget_children() {
+  for (LayerReach* reach = this;;) {
+    reach->is_index_stale_ = true;
+    if (reach->layer_.model.masks_to_bounds || !std::exchange(reach->is_known_, false)) return;
+    Layer* above = reach->layer_.superlayer();
+    if (!above) return;
+    reach = &above->reach;
   }
 }
 
-std::vector<const Layer*> Layer::children_in_order() const {
+std::vector<const Layer*> LayerReach::children_in_order() const {
   std::vector<const Layer*> order;
-  order.reserve(children_.size());
-  for (const auto& child : children_)
-    order.push_back(&objc::state_of<Layer>(child.get()));
-  const auto z = [](const Layer* one) { return one->model().z_position; };
+  order.reserve(layer_.tree.sublayers.size());
+  for (const auto& child : layer_.tree.sublayers)
+    order.push_back(&layer_of(child.get()));
+  const auto z = [](const Layer* one) { return one->model.properties.z_position; };
   if (std::any_of(order.begin(), order.end(), [&](const Layer* one) { return z(one) != 0; })) {
     std::stable_sort(order.begin(), order.end(),
                      [&](const Layer* a, const Layer* b) { return z(a) < z(b); });
@@ -81,23 +71,27 @@ std::vector<const Layer*> Layer::children_in_order() const {
   return order;
 }
 
-void Layer::make_child_index() const {
+const ChildIndex* LayerReach::child_index() const {
+  if (layer_.tree.sublayers.size() < ChildIndex::kWorthwhile) return nullptr;
+  if (!is_index_stale_) return child_index_.get();
   std::vector<const Layer*> order = children_in_order();
   std::vector<CGRect> boxes;
   boxes.reserve(order.size());
   for (const Layer* child : order)
-    boxes.push_back(child->box());
+    boxes.push_back(child->reach.box());
   child_index_ = std::make_unique<ChildIndex>(std::move(order), std::move(boxes));
   is_index_stale_ = false;
+  return child_index_.get();
 }
 
-bool Layer::is_clipped_away() const {
-  CGRect place = properties_.bounds;
+bool LayerReach::is_clipped_away() const {
+  CGRect place = layer_.model.properties.bounds;
   if (CGRectIsEmpty(place)) return false;
-  for (const Layer* layer = this; layer->superlayer_;) {
-    place = CGRectApplyAffineTransform(place, layer->properties_.to_super());
-    layer = &objc::state_of<Layer>(layer->superlayer_);
-    if (layer->masks_to_bounds_ && !touch(place, layer->properties_.bounds)) return true;
+  const Layer* layer = &layer_;
+  while (const Layer* above = layer->superlayer()) {
+    place = CGRectApplyAffineTransform(place, layer->model.properties.to_super());
+    if (above->model.masks_to_bounds && !touch(place, above->model.properties.bounds)) return true;
+    layer = above;
   }
   return false;
 }

@@ -5,10 +5,15 @@
 #include <utility>
 #include <vector>
 
+#include "host/quartzcore/animated_layers.h"
 #include "host/quartzcore/animations/animation_delegate.h"
+#include "host/quartzcore/animations/media_time.h"
 #include "host/quartzcore/animations/transaction.h"
-#include "host/quartzcore/backing_stores.h"
+#include "host/quartzcore/backing_store_budget.h"
 #include "host/quartzcore/layer.h"
+#include "host/quartzcore/layer_changes.h"
+#include "host/quartzcore/marked_layers.h"
+#include "host/quartzcore/retained_layers.h"
 #include "host/runtime/log.h"
 
 namespace host::quartzcore {
@@ -18,27 +23,26 @@ namespace {
 constexpr int kMostRounds = 100;
 
 LayerService* service = nullptr;
-std::uint64_t changes = 1;
-// Layers leave these when they end, so nothing here is retained.
-std::vector<CALayer> dirty;
-std::vector<CALayer> animated;
-// Thousands of layers may be animated; they are looked through only when something may be new.
-bool starts_wait = false;
-bool ends_are_known = true;
-
-std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
-  std::vector<objc::Ref<CALayer>> result;
-  for (CALayer layer : layers)
-    result.push_back(objc::Ref<CALayer>::retain(layer));
-  return result;
-}
 
 void announce_starts() {
-  if (!std::exchange(starts_wait, false)) return;
+  AnimatedLayers::News& news = animated_layers().news();
+  if (!std::exchange(news.starts, false)) return;
   std::vector<RunningAnimation> heard;
-  for (CALayer layer : animated)
-    starts_wait |= objc::state_of<Layer>(layer).start_animations(heard);
+  for (CALayer layer : animated_layers().all())
+    news.starts |= layer_of(layer).animations.start(media_time(), heard);
   tell_starts(heard);
+}
+
+void advance(Layer& layer, double time) {
+  std::vector<RunningAnimation> heard;
+  layer.animations.start(media_time(), heard);
+  tell_starts(heard);
+  auto ended = layer.animations.take_ended(time);
+  if (ended.empty()) return;
+  if (std::any_of(ended.begin(), ended.end(), &LayerAnimations::moves)) layer.reach.forget();
+  note_layer_change();
+  for (RunningAnimation& animation : ended)
+    stop_animation(animation, YES, Telling::AtOnce);
 }
 
 void flush(objc::Object) {
@@ -50,18 +54,18 @@ void flush(objc::Object) {
 LayerService::LayerService(RunLoop& loop)
     : loop_(loop), turn_observer_(loop.add_turn_observer(kTurnOrder, [] { flush_layers(); })) {
   service = this;
-  ends_are_known = false;
-  update_frames();
+  animated_layers().news().ends = true;
+  animated_layers().ask_for_frames(loop, [this] { advance_animations(); });
 }
 
 LayerService::~LayerService() {
   loop_.remove_turn_observer(turn_observer_);
-  if (frame_observer_) loop_.remove_frame_observer(frame_observer_);
+  animated_layers().stop_frames();
   if (end_timer_) loop_.remove_timer(end_timer_);
   service = nullptr;
   // An animation keeps its listener, which keeps the layer: nobody is there to end it any more.
-  for (const auto& layer : retained(std::exchange(animated, {}))) {
-    objc::state_of<Layer>(layer.get()).set_in_animated_list(false);
+  for (const auto& layer : retained(animated_layers().take())) {
+    layer_of(layer.get()).animations.is_listed = false;
     layer->removeAllAnimations();
   }
 }
@@ -70,63 +74,53 @@ LayerService* LayerService::current() {
   return service;
 }
 
-void LayerService::update_frames() {
-  if (!animated.empty() && !frame_observer_) {
-    frame_observer_ = loop_.add_frame_observer([this](double) { advance_animations(); });
-  } else if (animated.empty() && frame_observer_) {
-    loop_.remove_frame_observer(frame_observer_);
-    frame_observer_ = 0;
-  }
-}
-
 void LayerService::wait_for_next_end() {
-  if (std::exchange(ends_are_known, true)) return;
+  if (!std::exchange(animated_layers().news().ends, false)) return;
   double end = std::numeric_limits<double>::infinity();
-  std::erase_if(animated, [&end](CALayer handle) {
-    Layer& layer = objc::state_of<Layer>(handle);
-    end = std::min(end, layer.next_animation_end());
-    if (layer.wants_frames()) return false;
-    layer.set_in_animated_list(false);
+  animated_layers().remove_if([&end](CALayer handle) {
+    LayerAnimations& animations = layer_of(handle).animations;
+    end = std::min(end, animations.next_end());
+    if (animations.wants_frames()) return false;
+    animations.is_listed = false;
     return true;
   });
-  update_frames();
   if (end_timer_ && end == end_time_) return;
   if (end_timer_) loop_.remove_timer(std::exchange(end_timer_, 0));
   end_time_ = end;
   if (end == std::numeric_limits<double>::infinity()) return;
   end_timer_ = loop_.add_timer(end, 0, [this] {
     end_timer_ = 0;
-    ends_are_known = false;
+    animated_layers().news().ends = true;
     advance_animations();
   });
 }
 
 bool LayerService::has_news() const {
-  return starts_wait || !ends_are_known || loop_.now() + kTimeTolerance >= end_time_;
+  const AnimatedLayers::News& news = animated_layers().news();
+  return news.starts || news.ends || loop_.now() + kTimeTolerance >= end_time_;
 }
 
 void LayerService::advance_animations() {
   if (!has_news()) return;
-  ends_are_known = false;
-  for (const auto& layer : retained(animated))
-    objc::state_of<Layer>(layer.get()).advance_animations(loop_.now());
+  animated_layers().news().ends = true;
+  for (const auto& layer : retained(animated_layers().all()))
+    advance(layer_of(layer.get()), loop_.now());
   wait_for_next_end();
 }
 
 void flush_layers() {
-  for (int round = 0; !dirty.empty(); ++round) {
+  for (int round = 0; marked_layer_count() > 0; ++round) {
     if (round == kMostRounds) {
-      spdlog::warn("layout did not come to rest: {} layers are still marked", dirty.size());
+      spdlog::warn("layout did not come to rest: {} layers are still marked", marked_layer_count());
       break;
     }
-    const auto marked = retained(dirty);
-    dirty.clear();
+    const auto marked = take_marked_layers();
     for (const auto& layer : marked)
-      objc::state_of<Layer>(layer.get()).leave_dirty_list();
+      layer_of(layer.get()).marks.is_listed = false;
     for (const auto& layer : marked)
       layer->layoutIfNeeded();
     for (const auto& layer : marked) {
-      if (!layer->needsDisplay() || objc::state_of<Layer>(layer.get()).is_clipped_away()) continue;
+      if (!layer->needsDisplay() || layer_of(layer.get()).reach.is_clipped_away()) continue;
       layer->displayIfNeeded();
     }
   }
@@ -134,48 +128,6 @@ void flush_layers() {
   announce_starts();
   if (service) service->wait_for_next_end();
   end_implicit_transaction();
-}
-
-std::uint64_t layer_changes() {
-  return changes;
-}
-void note_layer_change() {
-  ++changes;
-}
-
-void mark_layer_dirty(CALayer layer) {
-  dirty.push_back(layer);
-}
-
-void forget_dirty_layer(CALayer layer) {
-  std::erase(dirty, layer);
-}
-void forget_animated_layer(CALayer layer) {
-  note_animations_changed();
-  std::erase(animated, layer);
-  if (service) service->update_frames();
-}
-
-void note_animations_changed() {
-  starts_wait = true;
-  ends_are_known = false;
-}
-
-void note_animated_layer(CALayer handle) {
-  note_animations_changed();
-  Layer& layer = objc::state_of<Layer>(handle);
-  if (layer.is_in_animated_list()) return;
-  layer.set_in_animated_list(true);
-  animated.push_back(handle);
-  if (service) service->update_frames();
-}
-
-bool any_layer_animated() {
-  return !animated.empty();
-}
-
-const std::vector<CALayer>& animated_layers() {
-  return animated;
 }
 
 void export_layer_flush() {

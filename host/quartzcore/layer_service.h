@@ -1,11 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <limits>
-#include <vector>
 
 #include "host/runtime/run_loop.h"
-#include "platform/QuartzCore/CALayer.h"
 
 namespace host::quartzcore {
 
@@ -25,8 +22,6 @@ class LayerService {
   static LayerService* current();
 
   RunLoop& loop() { return loop_; }
-  /// Starts or stops asking for frames, after the set of animated layers changed.
-  void update_frames();
   /// Animations end when their time is over and not at the next frame, so that a chain of them
   /// takes as long as it says. Lets go of layers of which nothing moves any more.
   void wait_for_next_end();
@@ -37,7 +32,6 @@ class LayerService {
 
   RunLoop& loop_;
   RunLoop::Id turn_observer_;
-  RunLoop::Id frame_observer_ = 0;
   RunLoop::Id end_timer_ = 0;
   double end_time_ = std::numeric_limits<double>::infinity();
 };
@@ -45,21 +39,6 @@ class LayerService {
 /// Lays out and displays all layers that are marked, until none is. What another layer clips away
 /// stays marked for display until it comes into sight.
 void flush_layers();
-
-/// Counts every change that may change what is drawn: equal numbers mean an equal picture, as long
-/// as nothing is animated.
-std::uint64_t layer_changes();
-void note_layer_change();
-
-/// Lists that layers enter and leave by themselves.
-void mark_layer_dirty(CALayer layer);
-void forget_dirty_layer(CALayer layer);
-void forget_animated_layer(CALayer layer);
-void note_animated_layer(CALayer layer);
-/// After an animation was added to a layer or taken from it.
-void note_animations_changed();
-bool any_layer_animated();
-const std::vector<CALayer>& animated_layers();
 
 /// Adds `flush` to CATransaction.
 void export_layer_flush();

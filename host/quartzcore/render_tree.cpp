@@ -18,29 +18,6 @@ std::uint64_t mix_transform(std::uint64_t signature, const CGAffineTransform& t)
       CGPoint{t.tx, t.ty});
 }
 
-CGPoint gravity_point(Gravity gravity) {
-  switch (gravity) {
-    case Gravity::Top:
-      return {0.5, 0};
-    case Gravity::Bottom:
-      return {0.5, 1};
-    case Gravity::Left:
-      return {0, 0.5};
-    case Gravity::Right:
-      return {1, 0.5};
-    case Gravity::TopLeft:
-      return {0, 0};
-    case Gravity::TopRight:
-      return {1, 0};
-    case Gravity::BottomLeft:
-      return {0, 1};
-    case Gravity::BottomRight:
-      return {1, 1};
-    default:
-      return {0.5, 0.5};
-  }
-}
-
 /// The drawing of the layer itself, whatever stands around it.
 std::uint64_t sign_drawing(const RenderNode& node) {
   const Layer& layer = *node.layer;
@@ -54,27 +31,28 @@ std::uint64_t sign_drawing(const RenderNode& node) {
   }
   result = mix_signature(result, CGPoint{p.corner_radius, p.border_width});
   if (p.border_width > 0) result = mix_signature(result, p.border_color);
-  if (const Image* image = layer.contents_image()) {
+  if (const Image* image = layer.model.contents.image()) {
     result = mix_signature(result, image->serial());
     result = mix_signature(result, image->revision());
-    result = mix_signature(result, static_cast<std::uint64_t>(layer.gravity()));
-    result = mix_signature(result, layer.contents_scale_value());
+    result = mix_signature(result, static_cast<std::uint64_t>(layer.model.contents.gravity));
+    result = mix_signature(result, layer.model.contents.scale);
   }
-  if (layer.drawing()) result = mix_signature(result, layer.drawing()->signature());
-  if (layer.backdrop()) result = mix_signature(result, layer.backdrop()->look().signature());
+  if (layer.drawing) result = mix_signature(result, layer.drawing->signature());
+  if (layer.backdrop) result = mix_signature(result, layer.backdrop->look().signature());
   const std::uint64_t flags =
-      (layer.masks() ? 1 : 0) | (node.is_scaling ? 2 : 0) | (layer.mask_layer() ? 4 : 0);
+      (layer.model.masks_to_bounds ? 1 : 0) | (node.is_scaling ? 2 : 0) | (layer.tree.mask ? 4 : 0);
   return mix_transform(mix_signature(result, flags), node.to_device);
 }
 
 CGRect extent_of(const RenderNode& node) {
   const Layer& layer = *node.layer;
   const LayerProperties& p = node.properties;
-  const bool plain = p.background_color.alpha > 0 || p.border_width > 0 || layer.backdrop();
+  const bool plain = p.background_color.alpha > 0 || p.border_width > 0 || layer.backdrop;
   CGRect extent = plain ? p.bounds : CGRect();
-  if (layer.contents_image()) extent = CGRectUnion(extent, contents_rect(layer, p.bounds));
-  if (layer.drawing()) extent = CGRectUnion(extent, layer.drawing()->extent(p));
-  return layer.masks() ? CGRectIntersection(extent, p.bounds) : extent;
+  if (layer.model.contents.image())
+    extent = CGRectUnion(extent, layer.model.contents.place_in(p.bounds));
+  if (layer.drawing) extent = CGRectUnion(extent, layer.drawing->extent(p));
+  return layer.model.masks_to_bounds ? CGRectIntersection(extent, p.bounds) : extent;
 }
 
 bool fits_whole_pixels(const RenderNode& node) {
@@ -84,16 +62,16 @@ bool fits_whole_pixels(const RenderNode& node) {
 }
 
 bool is_filled_by_contents(const RenderNode& node) {
-  const Image* image = node.layer->contents_image();
+  const Image* image = node.layer->model.contents.image();
   if (!image || !image->is_opaque()) return false;
   const CGRect filled = CGRectApplyAffineTransform(
-      contents_rect(*node.layer, node.properties.bounds), node.to_device);
+      node.layer->model.contents.place_in(node.properties.bounds), node.to_device);
   return nearest_pixels(filled).contains(node.own);
 }
 
 bool covers_its_pixels(const RenderNode& node) {
   if (!fits_whole_pixels(node)) return false;
-  return node.layer->backdrop() ||
+  return node.layer->backdrop ||
          (node.properties.background_color.alpha >= 1 && !shown_pattern(node)) ||
          is_filled_by_contents(node);
 }
@@ -102,13 +80,13 @@ bool covers_its_pixels(const RenderNode& node) {
 int elements_of(const RenderNode& node) {
   const Layer& layer = *node.layer;
   const LayerProperties& p = node.properties;
-  return (p.background_color.alpha > 0) + (layer.contents_image() != nullptr) +
-         (layer.backdrop() != nullptr) + 2 * (layer.drawing() != nullptr) + (p.border_width > 0);
+  return (p.background_color.alpha > 0) + (layer.model.contents.image() != nullptr) +
+         (layer.backdrop != nullptr) + 2 * (layer.drawing != nullptr) + (p.border_width > 0);
 }
 
 bool draws_one_element(const RenderNode& node) {
   const Layer& layer = *node.layer;
-  if (!layer.children().empty() || layer.backdrop() || layer.mask_layer()) return false;
+  if (!layer.tree.sublayers.empty() || layer.backdrop || layer.tree.mask) return false;
   return elements_of(node) <= 1;
 }
 
@@ -126,33 +104,11 @@ CGRect shown_part(const CGAffineTransform& to_device, const PixelRect& clip) {
 }  // namespace
 
 const Pattern* shown_pattern(const RenderNode& node) {
-  const Pattern* pattern = node.layer->background_pattern();
-  return pattern && node.properties.background_color == node.layer->model().background_color
+  const Pattern* pattern = node.layer->model.background_pattern();
+  return pattern &&
+                 node.properties.background_color == node.layer->model.properties.background_color
              ? pattern
              : nullptr;
-}
-
-CGRect contents_rect(const Layer& layer, const CGRect& bounds) {
-  const Image& image = *layer.contents_image();
-  const double scale = layer.contents_scale_value();
-  CGSize size{image.width() / scale, image.height() / scale};
-  const double fit_x = bounds.size.width / size.width;
-  const double fit_y = bounds.size.height / size.height;
-  switch (layer.gravity()) {
-    case Gravity::Resize:
-      return bounds;
-    case Gravity::ResizeAspect:
-      size = {size.width * std::min(fit_x, fit_y), size.height * std::min(fit_x, fit_y)};
-      break;
-    case Gravity::ResizeAspectFill:
-      size = {size.width * std::max(fit_x, fit_y), size.height * std::max(fit_x, fit_y)};
-      break;
-    default:
-      break;
-  }
-  const CGPoint at = gravity_point(layer.gravity());
-  return {bounds.min_x() + (bounds.size.width - size.width) * at.x,
-          bounds.min_y() + (bounds.size.height - size.height) * at.y, size.width, size.height};
 }
 
 void RenderTree::prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale,
@@ -164,28 +120,30 @@ void RenderTree::prepare(std::span<const CALayer> roots, const PixelRect& screen
   around.to_device = {scale, 0, 0, scale, 0, 0};
   around.clip = screen;
   for (CALayer root : roots) {
-    if (root) add(objc::state_of<Layer>(root), around, now);
+    if (root) add(layer_of(root), around, now);
   }
   sign_backdrops();
 }
 
 void RenderTree::add(const Layer& layer, const Surroundings& around, double now) {
-  if (layer.hidden() || around.clip.is_empty()) return;
+  if (layer.model.hidden || around.clip.is_empty()) return;
   const int index = static_cast<int>(nodes_.size());
   RenderNode node;
   node.properties = layer.present(now);
   const LayerProperties& p = node.properties;
   if (p.opacity <= 0 && faded_out_ == FadedOut::Skipped) return;
   node.layer = &layer;
-  node.serial = layer.serial();
+  node.serial = layer.serial;
   node.parent = around.parent;
   node.is_mask = around.is_mask;
   node.to_device = CGAffineTransformConcat(p.to_super(), around.to_device);
   if (node.to_device.a * node.to_device.d == node.to_device.b * node.to_device.c) return;
-  if (layer.needs_display() && is_in_sight(node, around.clip)) undrawn_.push_back(layer.handle());
-  node.is_scaling = around.is_scaling || layer.is_scaling(now);
+  if (layer.marks.needs_display && is_in_sight(node, around.clip))
+    undrawn_.push_back(layer.handle());
+  node.is_scaling = around.is_scaling || layer.animations.is_scaling(now);
   node.is_simple = draws_one_element(node);
-  node.is_group = layer.mask_layer() || ((p.opacity < 1 || layer.rasterizes()) && !node.is_simple);
+  node.is_group =
+      layer.tree.mask || ((p.opacity < 1 || layer.model.should_rasterize) && !node.is_simple);
   node.opacity = node.is_group ? 1 : p.opacity;
   node.context = mix_signature(around.context, p.opacity);
   node.own = intersection(pixels_round(CGRectApplyAffineTransform(extent_of(node), node.to_device)),
@@ -194,10 +152,10 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   node.hides_background =
       !node.is_scaling && fits_whole_pixels(node) && is_filled_by_contents(node);
   node.is_plain = !around.rounded_clip && !around.is_mask && is_upright(node.to_device) &&
-                  p.corner_radius <= 0 && !layer.mask_layer();
+                  p.corner_radius <= 0 && !layer.tree.mask;
   // Inside its group a drawing is as opaque as it is; the group's opacity comes after it.
   node.is_opaque = (p.opacity >= 1 || node.is_group) && !around.rounded_clip && !around.is_mask &&
-                   !layer.mask_layer() && !node.own.is_empty() && covers_its_pixels(node);
+                   !layer.tree.mask && !node.own.is_empty() && covers_its_pixels(node);
   node.signature = mix_signature(sign_drawing(node), node.own.x + 65536.0 * node.own.y);
   node.signature = mix_signature(node.signature, node.own.width + 65536.0 * node.own.height);
   node.subtree = node.own;
@@ -207,7 +165,7 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   inner.context = node.context;
   inner.parent = index;
   inner.is_scaling = node.is_scaling;
-  if (layer.masks()) {
+  if (layer.model.masks_to_bounds) {
     const CGRect box = CGRectApplyAffineTransform(p.bounds, node.to_device);
     inner.clip = intersection(is_upright(node.to_device) ? nearest_pixels(box) : pixels_round(box),
                               around.clip);
@@ -216,7 +174,7 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
     // A clip that is no plain rectangle changes pixels of the layers inside.
     if (rounded) inner.context = mix_signature(inner.context, sign_drawing(node));
   }
-  if (layer.mask_layer()) {
+  if (layer.tree.mask) {
     inner.rounded_clip = true;
     inner.context = mix_signature(inner.context, node.serial);
   }
@@ -226,17 +184,17 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
 
 void RenderTree::add_children(int index, const Surroundings& inner, double now) {
   const Layer& layer = *nodes_[static_cast<std::size_t>(index)].layer;
-  if (layer.mask_layer()) {
+  if (layer.tree.mask) {
     Surroundings mask = inner;
     mask.is_mask = true;
     const int place = static_cast<int>(nodes_.size());
-    add(objc::state_of<Layer>(layer.mask_layer()), mask, now);
+    add(layer_of(layer.tree.mask.get()), mask, now);
     const bool added = static_cast<int>(nodes_.size()) > place;
     nodes_[static_cast<std::size_t>(index)].mask = added ? place : -1;
   }
-  if (!layer.children().empty() && !inner.clip.is_empty()) {
-    layer.visit_children(shown_part(inner.to_device, inner.clip),
-                         [&](const Layer& child) { add(child, inner, now); });
+  if (!layer.tree.sublayers.empty() && !inner.clip.is_empty()) {
+    layer.reach.visit_sublayers(shown_part(inner.to_device, inner.clip),
+                                [&](const Layer& child) { add(child, inner, now); });
   }
   RenderNode& node = nodes_[static_cast<std::size_t>(index)];
   node.end = static_cast<int>(nodes_.size());
@@ -255,7 +213,7 @@ bool RenderTree::is_within(int node, int ancestor) const {
 // painted with the layer's opacity.
 void RenderTree::dissolve_group(int index) {
   RenderNode& group = nodes_[static_cast<std::size_t>(index)];
-  if (!group.is_group || group.layer->mask_layer() || group.layer->rasterizes()) return;
+  if (!group.is_group || group.layer->tree.mask || group.layer->model.should_rasterize) return;
   int elements = 0;
   for (int i = index; i < group.end; ++i) {
     const RenderNode& node = nodes_[static_cast<std::size_t>(i)];
@@ -290,7 +248,7 @@ int RenderTree::lone_picture(int first, int index) const {
   const RenderNode& backdrop = nodes_[static_cast<std::size_t>(index)];
   const RenderNode& picture = nodes_[static_cast<std::size_t>(first)];
   const bool is_picture = picture.is_opaque && picture.own.contains(backdrop.own) &&
-                          picture.layer->contents_image() && elements_of(picture) == 1;
+                          picture.layer->model.contents.image() && elements_of(picture) == 1;
   if (!is_picture) return -1;
   for (int k = first + 1; k < index; ++k) {
     if (intersects(nodes_[static_cast<std::size_t>(k)].own, backdrop.own)) return -1;
@@ -305,7 +263,7 @@ void RenderTree::sign_backdrops() {
   const auto count = static_cast<int>(nodes_.size());
   for (int i = 0; i < count; ++i) {
     RenderNode& backdrop = nodes_[static_cast<std::size_t>(i)];
-    if (!backdrop.layer->backdrop()) continue;
+    if (!backdrop.layer->backdrop) continue;
     const int first = first_seen(i);
     backdrop.lone_picture = lone_picture(first, i);
     std::uint64_t behind = backdrop.signature;

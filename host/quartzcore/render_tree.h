@@ -51,8 +51,6 @@ struct RenderNode {
 
 /// The pattern of its background; null when that is of one colour, or on its way to or from one.
 const Pattern* shown_pattern(const RenderNode& node);
-/// Where contents of a layer lie in its coordinates.
-CGRect contents_rect(const Layer& layer, const CGRect& bounds);
 
 /// All layers of a frame that can be seen, and perhaps a few more, in drawing order.
 class RenderTree {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/layer_actions.h"
+#include "host/quartzcore/layer_changes.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
@@ -11,25 +12,14 @@ namespace {
 
 using P = ShapeProperties;
 
-template <auto Member>
-constexpr PropertyAccess<P> access(std::string_view key_path) {
-  using T = std::remove_cvref_t<decltype(std::declval<P>().*Member)>;
-  return {key_path, [](const P& p) -> Value { return p.*Member; },
-          [](P& p, const Value& value) {
-            if (const T* held = std::get_if<T>(&value)) p.*Member = *held;
-          }};
-}
-
 constexpr PropertyAccess<P> kProperties[] = {
-    access<&P::fill>("fillColor"),       access<&P::stroke>("strokeColor"),
-    access<&P::line_width>("lineWidth"), access<&P::stroke_start>("strokeStart"),
-    access<&P::stroke_end>("strokeEnd"),
+    access_to<&P::fill>("fillColor"),       access_to<&P::stroke>("strokeColor"),
+    access_to<&P::line_width>("lineWidth"), access_to<&P::stroke_start>("strokeStart"),
+    access_to<&P::stroke_end>("strokeEnd"),
 };
 
 const PropertyAccess<P>* shape_property(std::string_view key_path) {
-  const auto* found = std::find_if(std::begin(kProperties), std::end(kProperties),
-                                   [&](const auto& one) { return one.key_path == key_path; });
-  return found == std::end(kProperties) ? nullptr : found;
+  return find_access(kProperties, key_path);
 }
 
 constexpr const char* kCaps[] = {"butt", "round", "square"};
@@ -46,23 +36,20 @@ int index_of(NSString wanted, const char* const (&names)[Size], int otherwise) {
 }  // namespace
 
 ShapeLayer::ShapeLayer(CAShapeLayer owner) : Implementation(owner) {
-  fill_color_ = objc::Ref<CGColorObject>::adopt(
-      objc::cast<CGColorObject>(object_of(make_color(model_.fill))));
-  objc::state_of<Layer>(owner).set_drawing(this);
+  layer_of(owner).set_drawing(this);
 }
 
 ShapeLayer::~ShapeLayer() {
-  objc::state_of<Layer>(self).set_drawing(nullptr);
+  layer_of(self).set_drawing(nullptr);
 }
 
 template <class T>
 void ShapeLayer::change(NSString key, T ShapeProperties::*member, const T& value) {
   if (model_.*member == value) return;
-  const Layer& layer = objc::state_of<Layer>(self);
-  const auto action = layer.action_before_change(key);
+  const auto action = action_before_change(self, key);
   model_.*member = value;
   note_shape_change();
-  layer.run_action(action, key);
+  run_action(action, self, key);
 }
 
 void ShapeLayer::note_shape_change() {
@@ -80,17 +67,17 @@ void ShapeLayer::set_path(CGPathRef path) {
   note_shape_change();
 }
 CGColorRef ShapeLayer::fill_color() const {
-  return reinterpret_cast<CGColorRef>(fill_color_.get().id());
+  return fill_color_.get();
 }
 void ShapeLayer::set_fill_color(CGColorRef color) {
-  fill_color_.reset(objc::cast<CGColorObject>(object_of(color)));
+  fill_color_.reset(color);
   change("fillColor"_ns, &P::fill, rgba_of(color));
 }
 CGColorRef ShapeLayer::stroke_color() const {
-  return reinterpret_cast<CGColorRef>(stroke_color_.get().id());
+  return stroke_color_.get();
 }
 void ShapeLayer::set_stroke_color(CGColorRef color) {
-  stroke_color_.reset(objc::cast<CGColorObject>(object_of(color)));
+  stroke_color_.reset(color);
   change("strokeColor"_ns, &P::stroke, rgba_of(color));
 }
 void ShapeLayer::set_line_width(CGFloat width) {

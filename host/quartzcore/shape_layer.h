@@ -55,8 +55,8 @@ class ShapeLayer : public objc::Implementation<ShapeLayer, CAShapeLayer>, public
   ShapeProperties model_;
   ShapeProperties presented_;
   objc::Ref<CGPathObject> path_;
-  objc::Ref<CGColorObject> fill_color_;
-  objc::Ref<CGColorObject> stroke_color_;
+  KeptColor fill_color_{model_.fill};
+  KeptColor stroke_color_;
   cairo_line_cap_t cap_ = CAIRO_LINE_CAP_BUTT;
   cairo_line_join_t join_ = CAIRO_LINE_JOIN_MITER;
   cairo_fill_rule_t rule_ = CAIRO_FILL_RULE_WINDING;

@@ -2,14 +2,11 @@
 
 #include <utility>
 
+#include "host/quartzcore/animations/delegate.h"
 #include "host/runtime/run_loop.h"
 
 namespace host::quartzcore {
 namespace {
-
-bool answers(objc::Object object, objc::Sel selector) {
-  return object && objc::cast<NSObject>(object).respondsToSelector(selector);
-}
 
 objc::Object listener_of(const RunningAnimation& animation) {
   return animation.object ? animation.object->delegate() : animation.listener.get();
@@ -36,11 +33,11 @@ void tell_starts(const std::vector<RunningAnimation>& started) {
   }
 }
 
-void stop_animation(RunningAnimation& animation, BOOL finished, bool next_turn) {
+void stop_animation(RunningAnimation& animation, BOOL finished, Telling when) {
   if (std::exchange(animation.has_stopped, true)) return;
   animation.group.reset();
   const auto listener = objc::Ref<objc::Object>::retain(listener_of(animation));
-  if (!next_turn) {
+  if (when == Telling::AtOnce) {
     tell_stop(listener.get(), animation.object, finished);
   } else if (RunLoop::has_main()) {
     RunLoop::main().perform([listener, object = animation.object, finished] {

@@ -12,7 +12,8 @@ namespace host::quartzcore {
 bool hears_of_start(const RunningAnimation& animation);
 /// Tells the delegates that answer that their animations have started.
 void tell_starts(const std::vector<RunningAnimation>& started);
-/// Ends the animation, once, and tells its delegate, now or in the next turn of the run loop.
-void stop_animation(RunningAnimation& animation, BOOL finished, bool next_turn);
+enum class Telling { AtOnce, InTheNextTurn };
+/// Ends the animation, once, and tells its delegate.
+void stop_animation(RunningAnimation& animation, BOOL finished, Telling when);
 
 }  // namespace host::quartzcore

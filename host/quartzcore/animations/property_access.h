@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -15,6 +18,34 @@ struct PropertyAccess {
   Value (*read)(const Properties&);
   void (*write)(Properties&, const Value&);
 };
+
+template <auto Member>
+struct MemberAccess;
+template <class Properties, class T, T Properties::*Member>
+struct MemberAccess<Member> {
+  static Value read(const Properties& properties) { return properties.*Member; }
+  static void write(Properties& properties, const Value& value) {
+    if (const T* held = std::get_if<T>(&value)) properties.*Member = *held;
+  }
+  static constexpr PropertyAccess<Properties> under(std::string_view key_path) {
+    return {key_path, &read, &write};
+  }
+};
+
+/// Access to a member under its key path.
+template <auto Member>
+constexpr auto access_to(std::string_view key_path) {
+  return MemberAccess<Member>::under(key_path);
+}
+
+/// Null for a key path that none of them has.
+template <class Properties, std::size_t Count>
+const PropertyAccess<Properties>* find_access(const PropertyAccess<Properties> (&all)[Count],
+                                              std::string_view key_path) {
+  const auto* found = std::find_if(std::begin(all), std::end(all),
+                                   [&](const auto& one) { return one.key_path == key_path; });
+  return found == std::end(all) ? nullptr : found;
+}
 
 /// Applies to `presented` every animation whose key path `find` knows.
 template <class Properties, class Find>

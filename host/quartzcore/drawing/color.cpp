@@ -70,6 +70,11 @@ Rgba rgba_of(CGColorRef color) {
   return color ? objc::state_of<Color>(object_of(color)).rgba : Rgba{};
 }
 
+KeptColor::KeptColor(const Rgba& rgba)
+    : object_(
+          objc::Ref<CGColorObject>::adopt(objc::cast<CGColorObject>(object_of(make_color(rgba))))) {
+}
+
 bool is_color(objc::Object object) {
   return object && objc::cast<NSObject>(object).isKindOfClass(CGColorObject::cls());
 }

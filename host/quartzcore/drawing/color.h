@@ -50,6 +50,19 @@ inline objc::Object object_of(CGColorRef color) {
   return objc::Object(reinterpret_cast<objc::Id>(color));
 }
 
+/// A colour that somebody keeps, or none.
+class KeptColor {
+ public:
+  KeptColor() = default;
+  explicit KeptColor(const Rgba& rgba);
+
+  CGColorRef get() const { return reinterpret_cast<CGColorRef>(object_.get().id()); }
+  void reset(CGColorRef color) { object_.reset(objc::cast<CGColorObject>(object_of(color))); }
+
+ private:
+  objc::Ref<CGColorObject> object_;
+};
+
 inline void set_source(cairo_t* drawing, const Rgba& rgba) {
   cairo_set_source_rgba(drawing, rgba.red, rgba.green, rgba.blue, rgba.alpha);
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/animated_layers.h"
 #include "host/springboard/common/screen_grid.h"
 #include "host/springboard/common/shared_instance.h"
 #include "host/springboard/home/icon_controller.h"
@@ -146,7 +146,7 @@ std::string moving(CALayer layer) {
 
 void add_what_moves(Reasons& reasons) {
   std::vector<std::string> animated;
-  for (const CALayer layer : quartzcore::animated_layers())
+  for (const CALayer layer : quartzcore::animated_layers().all())
     animated.push_back(moving(layer));
   reasons.add_some(animated);
   reasons.add(animated.empty() && RunLoop::main().wants_frames(), "somebody asks for frames");

@@ -153,7 +153,7 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
       animation.repeat_count = std::numeric_limits<double>::infinity();
     animation.listener.reset(self);
     begin();
-    objc::state_of<quartzcore::Layer>(layer).run(std::move(animation));
+    quartzcore::layer_of(layer).run(std::move(animation));
   }
 
   bool blocks_touches() const { return !asked_.has(UIViewAnimationOptionAllowUserInteraction); }

@@ -22,7 +22,7 @@ class MissTest {
     }
     if (!is_plain_) return false;
     const CALayer layer = objc::state_of<View>(view).layer();
-    const CGRect frame = objc::state_of<quartzcore::Layer>(layer).frame();
+    const CGRect frame = quartzcore::layer_of(layer).model.properties.frame();
     return !CGRectInset(frame, -kMargin, -kMargin).contains(point_);
   }
 

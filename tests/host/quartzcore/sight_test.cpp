@@ -1,3 +1,4 @@
+#include "host/quartzcore/backing_store_budget.h"
 #include "host/quartzcore/backing_stores.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/Foundation/NSValue.h"
@@ -29,7 +30,8 @@ class Painter : public objc::Implementation<Painter, TestPainter> {
   void lay_out(CALayer) { ++laid_out; }
 };
 
-/// A window of four pixels a side on a column of many layers, two pixels each, red and then clear.
+/// A window of four pixels a side on a column of many layers, two pixels each, red and then
+/// clear.
 class SightTest : public CompositorTest {
  public:
   SightTest() : list(layer_at({0, 0, 4, 4})) {

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "host/quartzcore/drawing/image.h"
+#include "objc/ref.h"
+#include "platform/CoreGraphics/CGRect.h"
+#include "platform/Foundation/NSString.h"
+
+namespace host::quartzcore {
+
+enum class Gravity {
+  Resize,
+  ResizeAspect,
+  ResizeAspectFill,
+  Center,
+  Top,
+  Bottom,
+  Left,
+  Right,
+  TopLeft,
+  TopRight,
+  BottomLeft,
+  BottomRight,
+};
+
+NSString name_of(Gravity gravity);
+std::optional<Gravity> gravity_named(std::string_view name);
+
+/// What a layer shows besides what it draws of itself.
+class Contents {
+ public:
+  Gravity gravity = Gravity::Resize;
+  double scale = 1;
+
+  objc::Object object() const { return object_.get(); }
+  /// Null when the object is no image.
+  const Image* image() const { return image_; }
+  void show(objc::Object object);
+
+  /// Where the image lies, which must be there, in the coordinates of a layer with these bounds.
+  CGRect place_in(const CGRect& bounds) const;
+  /// May that be another place than the bounds?
+  bool has_own_place() const { return gravity != Gravity::Resize; }
+
+ private:
+  objc::Ref<objc::Object> object_;
+  const Image* image_ = nullptr;
+};
+
+}  // namespace host::quartzcore

@@ -1,0 +1,147 @@
+#include <cmath>
+#include <utility>
+
+#include "host/quartzcore/animations/delegate.h"
+#include "host/quartzcore/drawing/context.h"
+#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layer_messages.h"
+#include "host/quartzcore/marked_layers.h"
+
+namespace host::quartzcore {
+namespace {
+
+// Backing stores beyond this many pixels a side are drawn coarser, not refused.
+constexpr double kLargestBackingSide = 8192;
+
+void mark(CALayer self) {
+  if (!std::exchange(layer_of(self).marks.is_listed, true)) add_marked_layer(self);
+}
+
+BOOL needs_display(CALayer self) {
+  return layer_of(self).marks.needs_display;
+}
+
+void set_needs_display(CALayer self) {
+  layer_of(self).marks.needs_display = true;
+  mark(self);
+}
+
+BOOL needs_display_on_bounds_change(CALayer self) {
+  return layer_of(self).needs_display_on_bounds_change;
+}
+
+void set_needs_display_on_bounds_change(CALayer self, BOOL needs) {
+  layer_of(self).needs_display_on_bounds_change = needs != NO;
+}
+
+BOOL needs_layout(CALayer self) {
+  return layer_of(self).marks.needs_layout;
+}
+
+void set_needs_layout(CALayer self) {
+  layer_of(self).marks.needs_layout = true;
+  mark(self);
+  layer_of(self).announce_layout();
+}
+
+void display_if_needed(CALayer self) {
+  if (!std::exchange(layer_of(self).marks.needs_display, false)) return;
+  self.display();
+}
+
+// A layer that nobody draws must not cost a backing store.
+bool is_custom_drawn(CALayer self) {
+  const objc::Sel selector = "drawInContext:"_sel;
+  const objc::Method own = class_getInstanceMethod(objc::class_of(self.id()), selector);
+  const objc::Method plain = class_getInstanceMethod(CALayer::cls(), selector);
+  if (method_getImplementation(own) != method_getImplementation(plain)) return true;
+  return answers(layer_of(self).delegate, "drawLayer:inContext:"_sel);
+}
+
+/// The size in pixels to the point at which a layer of that size is drawn.
+double drawing_scale(double contents_scale, CGSize size) {
+  const double longest = std::max(size.width, size.height) * contents_scale;
+  return contents_scale * std::min(1.0, kLargestBackingSide / longest);
+}
+
+/// What the layer draws of itself (+1).
+CGImageRef draw(CALayer self) {
+  const LayerModel& model = layer_of(self).model;
+  const CGRect bounds = model.properties.bounds;
+  const Opacity opacity = model.opaque ? Opacity::Opaque : Opacity::Translucent;
+  CGContextRef context =
+      make_bitmap_context(bounds.size, drawing_scale(model.contents.scale, bounds.size), opacity);
+  cairo_translate(context->cairo(), -bounds.origin.x, -bounds.origin.y);
+  self.drawInContext(context);
+  // Whoever kept the context may draw on: only then the pixels must be copied.
+  CGImageRef image = context->references == 1 ? make_image(context->surface, opacity)
+                                              : CGBitmapContextCreateImage(context);
+  CGContextRelease(context);
+  return image;
+}
+
+void display(CALayer self) {
+  if (answers(layer_of(self).delegate, "displayLayer:"_sel)) {
+    objc::send<>(layer_of(self).delegate, "displayLayer:"_sel, self);
+    return;
+  }
+  if (!is_custom_drawn(self)) return;
+  const CGSize size = layer_of(self).model.properties.bounds.size;
+  if (!(size.width > 0) || !(size.height > 0)) {
+    self.setContents(objc::Object());
+    return;
+  }
+  CGImageRef image = draw(self);
+  self.setContents(image);
+  layer_of(self).backing_store.note(CGImageGetBytesPerRow(image) * CGImageGetHeight(image));
+  CGImageRelease(image);
+}
+
+void draw_in_context(CALayer self, CGContextRef context) {
+  if (answers(layer_of(self).delegate, "drawLayer:inContext:"_sel))
+    objc::send<>(layer_of(self).delegate, "drawLayer:inContext:"_sel, self, context);
+}
+
+void layout_sublayers(CALayer self) {
+  if (answers(layer_of(self).delegate, "layoutSublayersOfLayer:"_sel))
+    objc::send<>(layer_of(self).delegate, "layoutSublayersOfLayer:"_sel, self);
+}
+
+void lay_out_marked_tree(Layer& layer) {
+  if (std::exchange(layer.marks.needs_layout, false)) layer.handle().layoutSublayers();
+  if (!std::exchange(layer.marks.layout_waits_below, false)) return;
+  // Layout may add and remove layers: walk what there is when it is done.
+  std::vector<objc::Ref<CALayer>> waiting;
+  for (const auto& child : layer.tree.sublayers) {
+    if (layer_of(child.get()).marks.awaits_layout()) waiting.push_back(child);
+  }
+  for (const auto& child : waiting)
+    lay_out_marked_tree(layer_of(child.get()));
+}
+
+void layout_if_needed(CALayer self) {
+  Layer* top = &layer_of(self);
+  for (Layer* above = top->superlayer(); above; above = above->superlayer()) {
+    if (above->marks.needs_layout) top = above;
+  }
+  const auto kept = objc::Ref<CALayer>::retain(top->handle());
+  lay_out_marked_tree(*top);
+}
+
+}  // namespace
+
+void add_display_messages(objc::ClassBuilder& builder) {
+  builder.method<&needs_display>("needsDisplay")
+      .method<&set_needs_display>("setNeedsDisplay")
+      .method<&display_if_needed>("displayIfNeeded")
+      .method<&display>("display")
+      .method<&draw_in_context>("drawInContext:")
+      .method<&needs_display_on_bounds_change>("needsDisplayOnBoundsChange")
+      .method<&set_needs_display_on_bounds_change>("setNeedsDisplayOnBoundsChange:")
+      .method<&needs_layout>("needsLayout")
+      .method<&set_needs_layout>("setNeedsLayout")
+      .method<&layout_if_needed>("layoutIfNeeded")
+      .method<&layout_sublayers>("layoutSublayers");
+}
+
+}  // namespace host::quartzcore

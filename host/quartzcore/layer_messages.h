@@ -1,0 +1,20 @@
+#pragma once
+
+#include "objc/class_builder.h"
+
+namespace host::quartzcore {
+
+// The messages of CALayer: each function adds those of one subject to the class.
+
+/// What a layer says of itself.
+void add_model_messages(objc::ClassBuilder& builder);
+void add_tree_messages(objc::ClassBuilder& builder);
+/// From one layer's coordinates to another's, and which layer lies under a point.
+void add_geometry_messages(objc::ClassBuilder& builder);
+/// Display and layout.
+void add_display_messages(objc::ClassBuilder& builder);
+void add_animation_messages(objc::ClassBuilder& builder);
+/// Values by key path.
+void add_key_messages(objc::ClassBuilder& builder);
+
+}  // namespace host::quartzcore

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "host/quartzcore/contents.h"
+#include "host/quartzcore/drawing/color.h"
+#include "host/quartzcore/layer_properties.h"
+
+namespace host::quartzcore {
+
+/// What a layer says of itself.
+struct LayerModel {
+  LayerProperties properties;
+  /// The two colours as they were set.
+  KeptColor background_color;
+  KeptColor border_color{properties.border_color};
+  bool hidden = false;
+  bool opaque = false;
+  bool masks_to_bounds = false;
+  bool should_rasterize = false;
+  Contents contents;
+  objc::Ref<NSString> name;
+
+  /// Null when the background is of one colour.
+  const Pattern* background_pattern() const;
+};
+
+}  // namespace host::quartzcore

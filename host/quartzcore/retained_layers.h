@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "objc/ref.h"
+#include "platform/QuartzCore/CALayer.h"
+
+namespace host::quartzcore {
+
+/// The layers, kept alive for as long as something is done with them.
+inline std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
+  std::vector<objc::Ref<CALayer>> result;
+  result.reserve(layers.size());
+  for (CALayer layer : layers)
+    result.push_back(objc::Ref<CALayer>::retain(layer));
+  return result;
+}
+
+}  // namespace host::quartzcore
