@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "host/media_player/cover_store.h"
-#include "host/quartzcore/layer_changes.h"
+#include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/pixels/scaled_copy.h"
 
 namespace host::media_player {

@@ -1,6 +1,6 @@
 #include "host/quartzcore/backdrop_layer.h"
 
-#include "host/quartzcore/layer_changes.h"
+#include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {

@@ -1,6 +1,6 @@
 #include "host/quartzcore/backing_store_budget.h"
 
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 
 namespace host::quartzcore {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "host/quartzcore/animated_layers.h"
 #include "host/quartzcore/backdrop_layer.h"
-#include "host/quartzcore/layer_changes.h"
-#include "host/quartzcore/retained_layers.h"
+#include "host/quartzcore/layers/animated_layers.h"
+#include "host/quartzcore/layers/layer_changes.h"
+#include "host/quartzcore/layers/retained_layers.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {

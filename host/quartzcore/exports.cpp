@@ -10,8 +10,8 @@
 #include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/drawing/path.h"
 #include "host/quartzcore/gradient_layer.h"
-#include "host/quartzcore/layer.h"
 #include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/layers/layer.h"
 #include "host/quartzcore/shape_layer.h"
 
 namespace host::quartzcore {

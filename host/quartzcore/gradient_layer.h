@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 #include "platform/QuartzCore/CAGradientLayer.h"
 
 namespace host::quartzcore {

@@ -5,15 +5,15 @@
 #include <utility>
 #include <vector>
 
-#include "host/quartzcore/animated_layers.h"
 #include "host/quartzcore/animations/animation_delegate.h"
 #include "host/quartzcore/animations/media_time.h"
 #include "host/quartzcore/animations/transaction.h"
 #include "host/quartzcore/backing_store_budget.h"
-#include "host/quartzcore/layer.h"
-#include "host/quartzcore/layer_changes.h"
-#include "host/quartzcore/marked_layers.h"
-#include "host/quartzcore/retained_layers.h"
+#include "host/quartzcore/layers/animated_layers.h"
+#include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/layer_changes.h"
+#include "host/quartzcore/layers/marked_layers.h"
+#include "host/quartzcore/layers/retained_layers.h"
 #include "host/runtime/log.h"
 
 namespace host::quartzcore {

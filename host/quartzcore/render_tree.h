@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 #include "host/quartzcore/pixels/pixel_rect.h"
 
 namespace host::quartzcore {

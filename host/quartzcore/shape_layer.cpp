@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/layer_actions.h"
-#include "host/quartzcore/layer_changes.h"
+#include "host/quartzcore/layers/layer_actions.h"
+#include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {

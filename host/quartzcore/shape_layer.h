@@ -2,7 +2,7 @@
 
 #include "host/quartzcore/drawing/color.h"
 #include "host/quartzcore/drawing/path.h"
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
 
 namespace host::quartzcore {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/quartzcore/animated_layers.h"
+#include "host/quartzcore/layers/animated_layers.h"
 #include "host/springboard/common/screen_grid.h"
 #include "host/springboard/common/shared_instance.h"
 #include "host/springboard/home/icon_controller.h"

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 #include "host/runtime/run_loop.h"
 #include "host/uikit/view/animation_run.h"
 #include "host/uikit/view/block_animation.h"

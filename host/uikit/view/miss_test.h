@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 #include "host/uikit/view/view.h"
 
 namespace host::uikit {

@@ -2,10 +2,10 @@
 #include <cmath>
 #include <type_traits>
 
-#include "host/quartzcore/layer.h"
-#include "host/quartzcore/layer_actions.h"
-#include "host/quartzcore/layer_changes.h"
-#include "host/quartzcore/layer_messages.h"
+#include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/layer_actions.h"
+#include "host/quartzcore/layers/layer_changes.h"
+#include "host/quartzcore/layers/layer_messages.h"
 
 namespace host::quartzcore {
 namespace {

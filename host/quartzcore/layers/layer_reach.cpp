@@ -1,9 +1,9 @@
-#include "host/quartzcore/layer_reach.h"
+#include "host/quartzcore/layers/layer_reach.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 
 namespace host::quartzcore {
 namespace {

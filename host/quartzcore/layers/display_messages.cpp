@@ -3,9 +3,9 @@
 
 #include "host/quartzcore/animations/delegate.h"
 #include "host/quartzcore/drawing/context.h"
-#include "host/quartzcore/layer.h"
-#include "host/quartzcore/layer_messages.h"
-#include "host/quartzcore/marked_layers.h"
+#include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/layer_messages.h"
+#include "host/quartzcore/layers/marked_layers.h"
 
 namespace host::quartzcore {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_properties.h"
+#include "host/quartzcore/layers/layer_properties.h"
 
 #include "host/quartzcore/values/transform_parts.h"
 

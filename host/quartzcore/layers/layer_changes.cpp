@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_changes.h"
+#include "host/quartzcore/layers/layer_changes.h"
 
 namespace host::quartzcore {
 namespace {

@@ -1,5 +1,5 @@
-#include "host/quartzcore/layer.h"
-#include "host/quartzcore/layer_messages.h"
+#include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/layer_messages.h"
 
 namespace host::quartzcore {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_actions.h"
+#include "host/quartzcore/layers/layer_actions.h"
 
 #include "host/quartzcore/animations/transaction.h"
 

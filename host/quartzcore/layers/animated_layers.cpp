@@ -1,4 +1,4 @@
-#include "host/quartzcore/animated_layers.h"
+#include "host/quartzcore/layers/animated_layers.h"
 
 #include <utility>
 

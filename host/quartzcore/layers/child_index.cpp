@@ -1,4 +1,4 @@
-#include "host/quartzcore/child_index.h"
+#include "host/quartzcore/layers/child_index.h"
 
 #include <algorithm>
 #include <utility>

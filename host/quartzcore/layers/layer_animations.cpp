@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_animations.h"
+#include "host/quartzcore/layers/layer_animations.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
-#include "host/quartzcore/marked_layers.h"
+#include "host/quartzcore/layers/marked_layers.h"
 
 #include <utility>
 
-#include "host/quartzcore/retained_layers.h"
+#include "host/quartzcore/layers/retained_layers.h"
 
 namespace host::quartzcore {
 namespace {

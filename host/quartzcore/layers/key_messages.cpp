@@ -1,6 +1,6 @@
 #include "host/quartzcore/animations/value_objects.h"
-#include "host/quartzcore/layer.h"
-#include "host/quartzcore/layer_messages.h"
+#include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/layer_messages.h"
 
 // Key-value access: the parts of geometry by key path, and any key that a user of layers invents.
 

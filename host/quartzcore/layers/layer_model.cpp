@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_model.h"
+#include "host/quartzcore/layers/layer_model.h"
 
 namespace host::quartzcore {
 

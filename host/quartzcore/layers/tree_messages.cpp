@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "host/quartzcore/layer.h"
-#include "host/quartzcore/layer_changes.h"
-#include "host/quartzcore/layer_messages.h"
+#include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/layer_changes.h"
+#include "host/quartzcore/layers/layer_messages.h"
 
 namespace host::quartzcore {
 namespace {

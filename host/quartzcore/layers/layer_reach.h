@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "host/quartzcore/child_index.h"
+#include "host/quartzcore/layers/child_index.h"
 #include "platform/CoreGraphics/CGRect.h"
 
 namespace host::quartzcore {

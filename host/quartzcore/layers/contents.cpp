@@ -1,4 +1,4 @@
-#include "host/quartzcore/contents.h"
+#include "host/quartzcore/layers/contents.h"
 
 #include <algorithm>
 #include <utility>

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "host/quartzcore/backing_stores.h"
-#include "host/quartzcore/layer_animations.h"
-#include "host/quartzcore/layer_drawing.h"
-#include "host/quartzcore/layer_model.h"
-#include "host/quartzcore/layer_reach.h"
+#include "host/quartzcore/layers/backing_stores.h"
+#include "host/quartzcore/layers/layer_animations.h"
+#include "host/quartzcore/layers/layer_drawing.h"
+#include "host/quartzcore/layers/layer_model.h"
+#include "host/quartzcore/layers/layer_reach.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/QuartzCore/CALayer.h"

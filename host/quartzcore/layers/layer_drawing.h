@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/quartzcore/animations/running_animation.h"
-#include "host/quartzcore/layer_properties.h"
+#include "host/quartzcore/layers/layer_properties.h"
 
 namespace host::quartzcore {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/quartzcore/contents.h"
 #include "host/quartzcore/drawing/color.h"
-#include "host/quartzcore/layer_properties.h"
+#include "host/quartzcore/layers/contents.h"
+#include "host/quartzcore/layers/layer_properties.h"
 
 namespace host::quartzcore {
 

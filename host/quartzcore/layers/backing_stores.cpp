@@ -1,4 +1,4 @@
-#include "host/quartzcore/backing_stores.h"
+#include "host/quartzcore/layers/backing_stores.h"
 
 #include <list>
 #include <unordered_map>

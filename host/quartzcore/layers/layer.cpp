@@ -1,10 +1,10 @@
-#include "host/quartzcore/layer.h"
+#include "host/quartzcore/layers/layer.h"
 
 #include <utility>
 
-#include "host/quartzcore/animated_layers.h"
-#include "host/quartzcore/layer_changes.h"
-#include "host/quartzcore/marked_layers.h"
+#include "host/quartzcore/layers/animated_layers.h"
+#include "host/quartzcore/layers/layer_changes.h"
+#include "host/quartzcore/layers/marked_layers.h"
 
 namespace host::quartzcore {
 namespace {
