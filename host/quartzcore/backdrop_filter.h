@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/pixels/small_picture.h"
 
 namespace host::quartzcore {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/layers/animated_layers.h"
 #include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/layers/retained_layers.h"

@@ -1,5 +1,5 @@
-#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/compositor.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "host/quartzcore/backdrop_filter.h"
-#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/compositor.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
 #include "host/quartzcore/values/signature.h"
 

@@ -5,14 +5,14 @@
 #include "host/quartzcore/animations/timing_function.h"
 #include "host/quartzcore/animations/transaction.h"
 #include "host/quartzcore/animations/value_objects.h"
-#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/drawing/color.h"
 #include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/drawing/path.h"
-#include "host/quartzcore/gradient_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
+#include "host/quartzcore/kinds/gradient_layer.h"
+#include "host/quartzcore/kinds/shape_layer.h"
 #include "host/quartzcore/layer_service.h"
 #include "host/quartzcore/layers/layer.h"
-#include "host/quartzcore/shape_layer.h"
 
 namespace host::quartzcore {
 

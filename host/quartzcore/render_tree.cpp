@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "platform/UIKit/UIWindow.h"
 
 namespace host::uikit {

@@ -1,4 +1,4 @@
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "tests/host/quartzcore/compositor_fixture.h"
 
 // What a panel that is closed will show of its cover is blurred before it opens.

@@ -1,5 +1,5 @@
-#include "host/quartzcore/backdrop_layer.h"
 #include "host/quartzcore/drawing/context.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "platform/CoreGraphics/CGPath.h"
 #include "platform/QuartzCore/CAShapeLayer.h"
 #include "tests/host/quartzcore/compositor_fixture.h"

@@ -1,7 +1,7 @@
 #include <set>
 #include <tuple>
 
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/uikit/backdrop/backdrop_look.h"
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/_UIBackdropView.h"

@@ -1,4 +1,4 @@
-#include "host/quartzcore/shape_layer.h"
+#include "host/quartzcore/kinds/shape_layer.h"
 
 #include <algorithm>
 #include <cmath>

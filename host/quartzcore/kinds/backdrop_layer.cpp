@@ -1,4 +1,4 @@
-#include "host/quartzcore/backdrop_layer.h"
+#include "host/quartzcore/kinds/backdrop_layer.h"
 
 #include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/values/signature.h"

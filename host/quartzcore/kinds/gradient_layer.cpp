@@ -1,4 +1,4 @@
-#include "host/quartzcore/gradient_layer.h"
+#include "host/quartzcore/kinds/gradient_layer.h"
 
 #include <algorithm>
 
