@@ -10,7 +10,7 @@
 #include "host/console/session.h"
 #include "host/home_screen/console_phone.h"
 #include "host/process/phone_screen.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "objc/autorelease_pool.h"
 
 namespace bench {

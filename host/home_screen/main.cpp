@@ -15,7 +15,7 @@
 #include "host/launcher/supervisor.h"
 #include "host/process/library_globals.h"
 #include "host/process/phone_screen.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
 #include "objc/autorelease_pool.h"

@@ -4,7 +4,7 @@
 #include "host/foundation/exports.h"
 #include "host/media_player/exports.h"
 #include "host/preferences/exports.h"
-#include "host/quartzcore/exports.h"
+#include "host/quartzcore/service/exports.h"
 #include "host/social/composers/exports.h"
 #include "host/springboard/system/exports.h"
 #include "host/uikit/alert/exports.h"

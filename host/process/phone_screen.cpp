@@ -3,7 +3,7 @@
 #include <cmath>
 #include <vector>
 
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/geometry/window_list.h"
 

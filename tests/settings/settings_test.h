@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "host/quartzcore/exports.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/exports.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/text/exports.h"

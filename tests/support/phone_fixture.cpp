@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "host/quartzcore/exports.h"
+#include "host/quartzcore/service/exports.h"
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/system/exports.h"

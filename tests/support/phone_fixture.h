@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/springboard/model/grid_metrics.h"
 #include "host/uikit/touch/touch_input.h"

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "host/quartzcore/exports.h"
+#include "host/quartzcore/service/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "platform/Foundation/NSData.h"
 #include "platform/UIKit/UIGraphics.h"

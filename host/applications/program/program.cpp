@@ -11,7 +11,7 @@
 #include "host/foundation/loader.h"
 #include "host/process/device_images.h"
 #include "host/process/library_globals.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/heap.h"
 #include "host/runtime/log.h"

@@ -5,7 +5,7 @@
 
 #include "host/quartzcore/compositor.h"
 #include "host/quartzcore/drawing/image.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/run_loop.h"
 #include "host/springboard/common/screen_grid.h"
 #include "host/springboard/home/icon_controller.h"

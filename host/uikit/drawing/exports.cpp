@@ -1,6 +1,6 @@
 #include "host/uikit/drawing/exports.h"
 
-#include "host/quartzcore/exports.h"
+#include "host/quartzcore/service/exports.h"
 #include "host/uikit/drawing/bezier_path.h"
 #include "host/uikit/drawing/color.h"
 #include "host/uikit/drawing/font.h"

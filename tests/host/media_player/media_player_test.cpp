@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "host/media_player/exports.h"
-#include "host/quartzcore/exports.h"
+#include "host/quartzcore/service/exports.h"
 #include "host/runtime/hooking.h"
 #include "host/uikit/drawing/exports.h"
 

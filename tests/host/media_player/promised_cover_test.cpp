@@ -6,7 +6,7 @@
 #include "host/media/picture.h"
 #include "host/media_player/cover_store.h"
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "platform/CoreGraphics/CGImage.h"
 #include "platform/QuartzCore/CALayer.h"
 #include "tests/host/media_player/media_player_test.h"

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "host/quartzcore/exports.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/exports.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/CoreGraphics/CGColor.h"

@@ -1,5 +1,5 @@
-#include "host/quartzcore/backing_store_budget.h"
 #include "host/quartzcore/layers/backing_stores.h"
+#include "host/quartzcore/service/backing_store_budget.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/Foundation/NSValue.h"
 #include "tests/host/quartzcore/compositor_fixture.h"

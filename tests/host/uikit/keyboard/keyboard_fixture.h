@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"

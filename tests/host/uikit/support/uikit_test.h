@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/uikit/application/exports.h"
 #include "host/uikit/drawing/exports.h"
 #include "host/uikit/text/exports.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/quartzcore/compositor.h"
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/touch/touch_input.h"

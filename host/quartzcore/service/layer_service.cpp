@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_service.h"
+#include "host/quartzcore/service/layer_service.h"
 
 #include <algorithm>
 #include <limits>
@@ -8,12 +8,12 @@
 #include "host/quartzcore/animations/animation_delegate.h"
 #include "host/quartzcore/animations/media_time.h"
 #include "host/quartzcore/animations/transaction.h"
-#include "host/quartzcore/backing_store_budget.h"
 #include "host/quartzcore/layers/animated_layers.h"
 #include "host/quartzcore/layers/layer.h"
 #include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/layers/marked_layers.h"
 #include "host/quartzcore/layers/retained_layers.h"
+#include "host/quartzcore/service/backing_store_budget.h"
 #include "host/runtime/log.h"
 
 namespace host::quartzcore {

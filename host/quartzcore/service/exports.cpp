@@ -1,4 +1,4 @@
-#include "host/quartzcore/exports.h"
+#include "host/quartzcore/service/exports.h"
 
 #include "host/quartzcore/animations/animation.h"
 #include "host/quartzcore/animations/display_link.h"
@@ -11,8 +11,8 @@
 #include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/kinds/gradient_layer.h"
 #include "host/quartzcore/kinds/shape_layer.h"
-#include "host/quartzcore/layer_service.h"
 #include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/service/layer_service.h"
 
 namespace host::quartzcore {
 

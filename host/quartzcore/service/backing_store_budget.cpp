@@ -1,4 +1,4 @@
-#include "host/quartzcore/backing_store_budget.h"
+#include "host/quartzcore/service/backing_store_budget.h"
 
 #include "host/quartzcore/layers/layer.h"
 
