@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/runtime/run_loop.h"
 #include "host/screen/screen.h"
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "settings/wizard/switcher.h"
 #include "tests/settings/wizard_pages_test.h"
 

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/geometry/window_list.h"
 

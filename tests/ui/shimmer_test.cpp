@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/service/exports.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "host/uikit/application/exports.h"

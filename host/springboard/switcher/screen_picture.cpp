@@ -3,7 +3,7 @@
 #include <cmath>
 #include <vector>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/drawing/image.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/run_loop.h"

@@ -5,7 +5,7 @@
 
 #include "host/media/picture.h"
 #include "host/media_player/cover_store.h"
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "platform/CoreGraphics/CGImage.h"
 #include "platform/QuartzCore/CALayer.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/drawing/image.h"
 #include "tests/host/quartzcore/quartz_test.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/drawing/context.h"
 #include "host/quartzcore/drawing/image.h"
 #include "platform/CoreGraphics/CGContext.h"

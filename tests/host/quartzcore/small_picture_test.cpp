@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "host/quartzcore/backdrop_filter.h"
+#include "host/quartzcore/compositing/backdrop_filter.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
 
 namespace host::quartzcore {

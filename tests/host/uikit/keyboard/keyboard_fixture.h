@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/application/exports.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "host/uikit/scroll/exports.h"
 #include "host/uikit/text/key_input.h"

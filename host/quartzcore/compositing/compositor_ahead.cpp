@@ -1,4 +1,4 @@
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/values/signature.h"
 

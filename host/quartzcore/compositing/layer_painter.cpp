@@ -1,4 +1,4 @@
-#include "host/quartzcore/layer_painter.h"
+#include "host/quartzcore/compositing/layer_painter.h"
 
 #include <numbers>
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/compositor.h"
 
 #include <algorithm>
 

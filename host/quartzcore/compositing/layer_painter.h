@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/quartzcore/image_cache.h"
-#include "host/quartzcore/render_tree.h"
+#include "host/quartzcore/compositing/image_cache.h"
+#include "host/quartzcore/compositing/render_tree.h"
 
 namespace host::quartzcore {
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/image_cache.h"
+#include "host/quartzcore/compositing/image_cache.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "host/quartzcore/backdrop_filter.h"
-#include "host/quartzcore/compositor.h"
+#include "host/quartzcore/compositing/backdrop_filter.h"
+#include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
 #include "host/quartzcore/values/signature.h"

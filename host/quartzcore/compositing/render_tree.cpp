@@ -1,4 +1,4 @@
-#include "host/quartzcore/render_tree.h"
+#include "host/quartzcore/compositing/render_tree.h"
 
 #include <algorithm>
 

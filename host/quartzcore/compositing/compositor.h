@@ -5,11 +5,11 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/quartzcore/image_cache.h"
-#include "host/quartzcore/layer_painter.h"
+#include "host/quartzcore/compositing/image_cache.h"
+#include "host/quartzcore/compositing/layer_painter.h"
+#include "host/quartzcore/compositing/render_tree.h"
 #include "host/quartzcore/pixels/small_picture.h"
 #include "host/quartzcore/pixels/surface.h"
-#include "host/quartzcore/render_tree.h"
 
 namespace host::quartzcore {
 

@@ -1,4 +1,4 @@
-#include "host/quartzcore/backdrop_filter.h"
+#include "host/quartzcore/compositing/backdrop_filter.h"
 
 #include <algorithm>
 #include <cmath>
