@@ -1,56 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
 
-#include "host/quartzcore/layers/layer.h"
-#include "host/quartzcore/pixels/pixel_rect.h"
+#include "host/quartzcore/compositing/render_node.h"
 
 namespace host::quartzcore {
-
-/// One layer as it stands in one frame, in drawing order (a parent before its children).
-struct RenderNode {
-  const Layer* layer = nullptr;
-  std::uint64_t serial = 0;
-  LayerProperties properties;
-  CGAffineTransform to_device;
-  /// Pixels that its own drawing may touch, within all clips above it.
-  PixelRect own;
-  /// The same with everything below it in the tree.
-  PixelRect subtree;
-  /// Equal numbers mean that its own drawing has the same pixels, opacity aside.
-  std::uint64_t signature = 0;
-  /// The opacities above it.
-  std::uint64_t context = 0;
-  /// For a backdrop: all that it depends on.
-  std::uint64_t behind = 0;
-  /// For a backdrop: the one drawing that it sees, an upright picture that fills its place; -1 when
-  /// it sees anything else.
-  int lone_picture = -1;
-  /// What its own drawing is painted with: its opacity and that of layers above it that need no
-  /// group.
-  double opacity = 1;
-  /// One past its last descendant.
-  int end = 0;
-  int parent = -1;
-  /// The mask's place, or -1; a mask stands first among the children and is not painted as one.
-  int mask = -1;
-  bool is_mask = false;
-  bool is_group = false;
-  /// Its own drawing covers `own` completely.
-  bool is_opaque = false;
-  /// Its contents do so, and nothing of its background is seen.
-  bool hides_background = false;
-  bool is_scaling = false;
-  /// Upright, and cut by nothing but whole pixels.
-  bool is_plain = false;
-  /// Its own drawing is one element without children: opacity needs no group.
-  bool is_simple = false;
-};
-
-/// The pattern of its background; null when that is of one colour, or on its way to or from one.
-const Pattern* shown_pattern(const RenderNode& node);
 
 /// All layers of a frame that can be seen, and perhaps a few more, in drawing order.
 class RenderTree {
@@ -69,23 +26,18 @@ class RenderTree {
   bool is_within(int node, int ancestor) const;
 
  private:
-  struct Surroundings {
-    CGAffineTransform to_device;
-    PixelRect clip;
-    std::uint64_t context = 0;
-    int parent = -1;
-    bool rounded_clip = false;
-    bool is_scaling = false;
-    bool in_group = false;
-    bool is_mask = false;
-  };
-
   void add(const Layer& layer, const Surroundings& around, double now);
-  void add_children(int index, const Surroundings& inner, double now);
+  void add_mask(int index, Surroundings inner, double now);
+  void add_sublayers(const Layer& layer, const Surroundings& inner, double now);
+  void finish(int index);
   void dissolve_group(int index);
   void sign_backdrops();
   int first_seen(int backdrop) const;
   int lone_picture(int first, int backdrop) const;
+  std::uint64_t signature_behind(int backdrop, int first) const;
+  RenderNode& at(int index) { return nodes_[static_cast<std::size_t>(index)]; }
+  const RenderNode& at(int index) const { return nodes_[static_cast<std::size_t>(index)]; }
+  int count() const { return static_cast<int>(nodes_.size()); }
 
   std::vector<RenderNode> nodes_;
   std::vector<CALayer> undrawn_;
