@@ -1,8 +1,8 @@
 #include "host/quartzcore/kinds/shape_layer.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "host/quartzcore/drawing/path_part.h"
 #include "host/quartzcore/layers/layer_actions.h"
 #include "host/quartzcore/layers/layer_changes.h"
 #include "host/quartzcore/values/signature.h"
@@ -137,55 +137,6 @@ CGRect ShapeLayer::extent(const LayerProperties&) const {
   return CGRectInset(box, -reach, -reach);
 }
 
-// Adds the part of the path between the two ends, measured along it, to the current path.
-void ShapeLayer::add_stroked_part(cairo_t* drawing) const {
-  const Path& path = objc::state_of<Path>(path_.get());
-  const double start = std::clamp(presented_.stroke_start, 0.0, 1.0);
-  const double end = std::clamp(presented_.stroke_end, 0.0, 1.0);
-  if (start <= 0 && end >= 1) return path.add_to(drawing);
-  cairo_t* scratch = scratch_drawing();
-  cairo_new_path(scratch);
-  cairo_set_tolerance(scratch, 0.02);
-  path.add_to(scratch);
-  cairo_path_t* flat = cairo_copy_path_flat(scratch);
-  const auto walk = [flat](auto&& piece) {
-    CGPoint at, first;
-    for (int i = 0; i < flat->num_data; i += flat->data[i].header.length) {
-      const auto kind = flat->data[i].header.type;
-      const bool closes = kind == CAIRO_PATH_CLOSE_PATH;
-      const CGPoint to =
-          closes ? first : CGPoint{flat->data[i + 1].point.x, flat->data[i + 1].point.y};
-      if (kind == CAIRO_PATH_MOVE_TO) {
-        first = to;
-      } else {
-        piece(at, to, std::hypot(to.x - at.x, to.y - at.y));
-      }
-      at = to;
-    }
-  };
-  double length = 0;
-  walk([&](CGPoint, CGPoint, double part) { length += part; });
-  double walked = 0;
-  bool connected = false;
-  walk([&](CGPoint from, CGPoint to, double part) {
-    const double low = std::max(start * length, walked) - walked;
-    const double high = std::min(end * length, walked + part) - walked;
-    walked += part;
-    if (part <= 0 || high <= low) {
-      connected = false;
-      return;
-    }
-    const auto at = [&](double distance) {
-      return CGPoint{from.x + (to.x - from.x) * distance / part,
-                     from.y + (to.y - from.y) * distance / part};
-    };
-    if (!connected) cairo_move_to(drawing, at(low).x, at(low).y);
-    cairo_line_to(drawing, at(high).x, at(high).y);
-    connected = true;
-  });
-  cairo_path_destroy(flat);
-}
-
 void ShapeLayer::paint(cairo_t* drawing, const LayerProperties&) const {
   if (!path_) return;
   cairo_new_path(drawing);
@@ -196,7 +147,8 @@ void ShapeLayer::paint(cairo_t* drawing, const LayerProperties&) const {
     cairo_fill(drawing);
   }
   if (presented_.stroke.alpha > 0 && presented_.line_width > 0) {
-    add_stroked_part(drawing);
+    add_part(objc::state_of<Path>(path_.get()), presented_.stroke_start, presented_.stroke_end,
+             drawing);
     cairo_set_line_cap(drawing, cap_);
     cairo_set_line_join(drawing, join_);
     cairo_set_line_width(drawing, presented_.line_width);

@@ -50,7 +50,6 @@ class ShapeLayer : public objc::Implementation<ShapeLayer, CAShapeLayer>, public
   template <class T>
   void change(NSString key, T ShapeProperties::*member, const T& value);
   void note_shape_change();
-  void add_stroked_part(cairo_t* drawing) const;
 
   ShapeProperties model_;
   ShapeProperties presented_;
