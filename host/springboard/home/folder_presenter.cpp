@@ -8,13 +8,13 @@
 namespace host::springboard {
 namespace {
 
-constexpr double kOpening = 0.35;
-constexpr double kClosing = 0.3;
+constexpr double kFolderOpening = 0.35;
+constexpr double kFolderClosing = 0.3;
 constexpr CGFloat kPanelRadius = 22;
 constexpr CGFloat kPanelAlpha = 0.32;
 constexpr CGFloat kDimming = 0.3;
-constexpr CGFloat kTitleSize = 34;
-constexpr CGFloat kTitleHeight = 44;
+constexpr CGFloat kFolderTitleSize = 34;
+constexpr CGFloat kFolderTitleHeight = 44;
 constexpr CGFloat kTitleGap = 14;
 
 }  // namespace
@@ -36,7 +36,7 @@ void FolderPresenter::open(const std::string& folder, NSString title, SBIconView
   const UIView overlay = *overlay_, panel = *panel_, content = home_.content();
   overlay.setAlpha(0);
   panel.setTransform(transform_onto_icon());
-  UIView::animateWithDuration(kOpening, objc::block([=] {
+  UIView::animateWithDuration(kFolderOpening, objc::block([=] {
                                 overlay.setAlpha(1);
                                 panel.setTransform(CGAffineTransform());
                                 content.setAlpha(0);
@@ -59,7 +59,7 @@ void FolderPresenter::close(Motion motion) {
   const auto closed = objc::block([this, kept = overlay_, life = std::weak_ptr<void>(life_)](BOOL) {
     if (!life.expired() && kept.get() == overlay_.get()) take_down();
   });
-  UIView::animateWithDuration(kClosing, objc::block([=] {
+  UIView::animateWithDuration(kFolderClosing, objc::block([=] {
                                 overlay.setAlpha(0);
                                 panel.setTransform(onto_icon);
                                 content.setAlpha(1);
@@ -92,10 +92,10 @@ void FolderPresenter::add_background() {
 }
 
 void FolderPresenter::add_title(NSString title) {
-  const CGFloat top = metrics_.panel.min_y() - kTitleGap - kTitleHeight;
-  auto label = make_view<UILabel>({0, top, home_.grid().screen.width, kTitleHeight});
+  const CGFloat top = metrics_.panel.min_y() - kTitleGap - kFolderTitleHeight;
+  auto label = make_view<UILabel>({0, top, home_.grid().screen.width, kFolderTitleHeight});
   label->setText(title);
-  label->setFont(UIFont::fontWithName("HelveticaNeue-Light"_ns, kTitleSize));
+  label->setFont(UIFont::fontWithName("HelveticaNeue-Light"_ns, kFolderTitleSize));
   label->setTextColor(UIColor::whiteColor());
   label->setTextAlignment(NSTextAlignmentCenter);
   overlay_->addSubview(*label);

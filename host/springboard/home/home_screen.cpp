@@ -19,10 +19,6 @@ namespace {
 constexpr CGFloat kDotsHeight = 20;
 constexpr CGFloat kOtherDotsAlpha = 0.4;
 
-IconViewMap& view_map() {
-  return objc::state_of<IconViewMap>(SBIconViewMap::homescreenMap());
-}
-
 }  // namespace
 
 HomeScreen::HomeScreen(IconModel& model, objc::Object delegate)

@@ -13,10 +13,6 @@ namespace {
 
 constexpr double kRearranging = 0.3;
 
-IconViewMap& view_map() {
-  return objc::state_of<IconViewMap>(SBIconViewMap::homescreenMap());
-}
-
 }  // namespace
 
 SBIconController IconController::init() {

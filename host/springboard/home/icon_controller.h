@@ -50,6 +50,11 @@ class IconController final : public objc::Implementation<IconController, SBIconC
   BOOL editing_ = NO;
 };
 
+/// The shared one's state.
+inline IconController& icon_controller() {
+  return objc::state_of<IconController>(SBIconController::sharedInstance());
+}
+
 void export_icon_controller();
 
 }  // namespace host::springboard

@@ -27,8 +27,7 @@ constexpr double kRestToLeave = 0.5;
 
 // Of the icon's side: how near its middle another icon means to go into a folder with it.
 constexpr CGFloat kDropReach = 0.3;
-constexpr CGFloat kEdge = 18;
-constexpr const char* kNewFolderTitle = "New Folder";
+constexpr CGFloat kTurningEdge = 18;
 
 }  // namespace
 
@@ -74,8 +73,8 @@ void IconDrag::move(CGPoint point) {
 
 IconDrag::Aim IconDrag::aim_at(CGPoint finger, CGPoint centre) const {
   if (folders_.is_open()) return aim_in_folder(centre);
-  if (finger.x <= kEdge && home_.current_page() > 0) return {Intent::kTurnBack, {}, {}};
-  if (finger.x >= home_.grid().screen.width - kEdge) return {Intent::kTurnForward, {}, {}};
+  if (finger.x <= kTurningEdge && home_.current_page() > 0) return {Intent::kTurnBack, {}, {}};
+  if (finger.x >= home_.grid().screen.width - kTurningEdge) return {Intent::kTurnForward, {}, {}};
   return home_.grid().dock_frame().contains(centre) ? aim_in_dock(centre) : aim_on_page(centre);
 }
 

@@ -17,6 +17,9 @@ struct Slot {
   friend bool operator==(const Slot&, const Slot&) = default;
 };
 
+/// Of a folder that one icon makes by its drop on another.
+inline constexpr const char* kNewFolderTitle = "New Folder";
+
 enum class Area { kPage, kDock, kFolder };
 
 /// A position: `page` counts for pages, `folder` (an id) for folders.

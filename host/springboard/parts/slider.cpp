@@ -7,7 +7,7 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kLine = 2;
+constexpr CGFloat kTrackHeight = 2;
 constexpr CGFloat kKnob = 26;
 constexpr CGFloat kShadowGrowth = 1;
 constexpr CGFloat kShadowDrop = 1.5;
@@ -16,7 +16,7 @@ constexpr CGFloat kShadowAlpha = 0.16;
 objc::Ref<UIView> add_line(UIView slider, UIColor color) {
   auto line = make_view<UIView>({});
   line->setBackgroundColor(color);
-  line->layer().setCornerRadius(kLine / 2);
+  line->layer().setCornerRadius(kTrackHeight / 2);
   line->setUserInteractionEnabled(NO);
   slider.addSubview(*line);
   return line;
@@ -57,9 +57,9 @@ void Slider::build(const SliderColors& colors) {
 void Slider::place_knob() const {
   const CGSize size = self.bounds().size;
   const CGFloat middle = kKnob / 2 + value_ * (size.width - kKnob);
-  const CGFloat top = (size.height - kLine) / 2;
-  filled_->setFrame({0, top, middle, kLine});
-  empty_->setFrame({middle, top, size.width - middle, kLine});
+  const CGFloat top = (size.height - kTrackHeight) / 2;
+  filled_->setFrame({0, top, middle, kTrackHeight});
+  empty_->setFrame({middle, top, size.width - middle, kTrackHeight});
   knob_->setCenter({middle, size.height / 2});
 }
 

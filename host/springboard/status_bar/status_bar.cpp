@@ -14,8 +14,8 @@ namespace host::springboard {
 namespace {
 
 constexpr CGFloat kSideMargin = 6;
-constexpr CGFloat kGap = 5;
-constexpr CGFloat kFontSize = 12;
+constexpr CGFloat kItemGap = 5;
+constexpr CGFloat kStatusFontSize = 12;
 constexpr CGFloat kChargeWidth = 44;
 
 /// Null before the launch.
@@ -34,7 +34,7 @@ CGFloat add_bar_glyph(UIView bar, NSString name, CGFloat x) {
 
 objc::Ref<UILabel> add_text(UIView bar, CGRect frame, NSString font, NSTextAlignment alignment) {
   auto label = make_view<UILabel>(frame);
-  label->setFont(UIFont::fontWithName(font, kFontSize));
+  label->setFont(UIFont::fontWithName(font, kStatusFontSize));
   label->setTextColor(UIColor::whiteColor());
   label->setTextAlignment(alignment);
   bar.addSubview(*label);
@@ -64,7 +64,7 @@ StatusBar::~StatusBar() {
 
 void StatusBar::add_left_side() const {
   const CGFloat end = add_bar_glyph(*window_, "signal"_ns, kSideMargin);
-  add_bar_glyph(*window_, "wifi"_ns, end + kGap);
+  add_bar_glyph(*window_, "wifi"_ns, end + kItemGap);
 }
 
 void StatusBar::add_time() {
@@ -101,7 +101,7 @@ void StatusBar::add_battery() {
   const CGFloat x = window_->bounds().size.width - kSideMargin - outline.size().width;
   add_bar_glyph(*window_, "battery-fill"_ns, x);
   add_bar_glyph(*window_, "battery-outline"_ns, x);
-  charge_ = add_text(*window_, {x - kGap + 1 - kChargeWidth, 0, kChargeWidth, kStatusBarHeight},
+  charge_ = add_text(*window_, {x - kItemGap + 1 - kChargeWidth, 0, kChargeWidth, kStatusBarHeight},
                      "HelveticaNeue"_ns, NSTextAlignmentRight);
   charge_->setText("100%"_ns);
 }

@@ -13,11 +13,11 @@
 namespace host::springboard {
 namespace {
 
-constexpr double kStay = 5;
+constexpr double kBannerStay = 5;
 constexpr CGFloat kGrabberRoom = 8;
 constexpr CGFloat kHeight = kNotificationRowHeight + kGrabberRoom;
 // The glass goes on above the screen, for the swing beyond its place.
-constexpr CGFloat kAbove = 80;
+constexpr CGFloat kGlassAboveBanner = 80;
 constexpr CGFloat kPullToCentre = 40;
 constexpr NSInteger kNewBanner = 0;
 
@@ -49,18 +49,19 @@ void BannerController::present_banner(objc::Object context, NSInteger) {
 void BannerController::build() {
   const CGFloat width = screen_grid().screen.width;
   window_ = make_surface_window(kBannerLevel);
-  banner_ = make_view<UIView>({0, -kHeight - kAbove, width, kHeight + kAbove});
+  banner_ =
+      make_view<UIView>({0, -kHeight - kGlassAboveBanner, width, kHeight + kGlassAboveBanner});
   window_->addSubview(*banner_);
   add_backdrop(*banner_, banner_->bounds(), kInkBackdrop);
   const bool is_text = objc::cast<NSObject>(*context_).isKindOfClass(NSString::cls());
   const std::string text = is_text ? to_string(objc::cast<NSString>(*context_)) : "";
-  add_notification_row(*banner_, {0, kAbove, width, kNotificationRowHeight},
+  add_notification_row(*banner_, {0, kGlassAboveBanner, width, kNotificationRowHeight},
                        {"Messages", text, "now"});
-  add_grabber(*banner_, {width / 2, kAbove + kHeight - kGrabberRoom},
+  add_grabber(*banner_, {width / 2, kGlassAboveBanner + kHeight - kGrabberRoom},
               UIColor::colorWithWhite(1, 0.35));
   actions_ = std::make_unique<SurfaceActions>();
   actions_->on_pan(*banner_, [this](UIPanGestureRecognizer pan) { panned(pan); });
-  motion_.emplace(*banner_, SheetMotion::Places{-kAbove, -kHeight - kAbove},
+  motion_.emplace(*banner_, SheetMotion::Places{-kGlassAboveBanner, -kHeight - kGlassAboveBanner},
                   [this](Rest rest) { rested(rest); });
   window_->setHidden(NO);
 }
@@ -94,7 +95,7 @@ void BannerController::panned(UIPanGestureRecognizer pan) {
 
 void BannerController::wait_to_leave() {
   RunLoop& loop = RunLoop::main();
-  leaving_ = loop.add_timer(loop.now() + kStay, 0, [this] {
+  leaving_ = loop.add_timer(loop.now() + kBannerStay, 0, [this] {
     leaving_.reset();
     send_away(0);
   });

@@ -10,8 +10,8 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kWidest = 480;
-constexpr CGFloat kMargin = 20;
+constexpr CGFloat kWidestControls = 480;
+constexpr CGFloat kControlsMargin = 20;
 constexpr CGFloat kSwitch = 52;
 constexpr CGFloat kSwitchesTop = 26;
 constexpr CGFloat kSwitchesHeight = 78;
@@ -22,15 +22,15 @@ constexpr CGFloat kToolRadius = 11;
 constexpr CGFloat kToolsHeight = 92;
 // The glass goes on below the screen, for the swing beyond its place.
 constexpr CGFloat kBelow = 160;
-constexpr CGFloat kShade = 0.35;
+constexpr CGFloat kControlsShade = 0.35;
 constexpr CGFloat kOff = 0.13;
-constexpr CGFloat kLineAlpha = 0.16;
+constexpr CGFloat kControlsLineAlpha = 0.16;
 
 }  // namespace
 
 ControlCentrePanel::ControlCentrePanel(UIView container, Wishes wishes) {
   const CGSize screen = container.bounds().size;
-  const CGFloat width = std::min(screen.width, kWidest);
+  const CGFloat width = std::min(screen.width, kWidestControls);
   const CGFloat brightness_top = kSwitchesTop + kSwitchesHeight;
   const CGFloat playback_top = brightness_top + kBrightnessHeight;
   const CGFloat tools_top = playback_top + PlaybackView::kHeight + 2 * kPlaybackPadding;
@@ -54,8 +54,8 @@ ControlCentrePanel::ControlCentrePanel(UIView container, Wishes wishes) {
   add_line(brightness_top);
   add_brightness(brightness_top);
   add_line(playback_top);
-  const CGRect playing{kMargin, playback_top + kPlaybackPadding, width - 2 * kMargin,
-                       PlaybackView::kHeight};
+  const CGRect playing{kControlsMargin, playback_top + kPlaybackPadding,
+                       width - 2 * kControlsMargin, PlaybackView::kHeight};
   playback_.emplace(content(), playing, Ink::kDark);
   add_line(tools_top);
   add_tools(tools_top, wishes.open);
@@ -71,21 +71,21 @@ ControlCentrePanel::~ControlCentrePanel() {
 }
 
 void ControlCentrePanel::set_shade(CGFloat share) const {
-  shade_->setAlpha(kShade * share);
+  shade_->setAlpha(kControlsShade * share);
 }
 
 void ControlCentrePanel::add_line(CGFloat top) const {
   const CGFloat pixel = 1 / UIScreen::mainScreen().scale();
   add_plate(*sheet_, {0, top, sheet_->bounds().size.width, pixel},
-            UIColor::colorWithWhite(0, kLineAlpha));
+            UIColor::colorWithWhite(0, kControlsLineAlpha));
 }
 
 void ControlCentrePanel::add_switches(CGFloat top) {
   const NSString names[] = {"surface-airplane"_ns, "surface-wifi"_ns, "surface-bluetooth"_ns,
                             "surface-moon"_ns, "surface-rotation-lock"_ns};
-  const CGFloat width = content().bounds().size.width - 2 * kMargin - kSwitch;
+  const CGFloat width = content().bounds().size.width - 2 * kControlsMargin - kSwitch;
   for (int index = 0; index < 5; ++index) {
-    const CGPoint centre{kMargin + kSwitch / 2 + width * index / 4,
+    const CGPoint centre{kControlsMargin + kSwitch / 2 + width * index / 4,
                          top + (kSwitchesHeight - 8) / 2};
     add_switch(names[index], centre, index == 1);
   }
@@ -120,10 +120,11 @@ void ControlCentrePanel::add_brightness(CGFloat top) {
   const CGFloat width = content().bounds().size.width;
   const UIColor weak = UIColor::colorWithWhite(0, 0.55);
   constexpr CGFloat kSun = 26;
-  add_glyph(content(), "surface-sun-small"_ns, {kMargin, top, kSun, kBrightnessHeight}, weak);
-  add_glyph(content(), "surface-sun"_ns, {width - kMargin - kSun, top, kSun, kBrightnessHeight},
+  add_glyph(content(), "surface-sun-small"_ns, {kControlsMargin, top, kSun, kBrightnessHeight},
             weak);
-  const CGFloat left = kMargin + kSun + 6;
+  add_glyph(content(), "surface-sun"_ns,
+            {width - kControlsMargin - kSun, top, kSun, kBrightnessHeight}, weak);
+  const CGFloat left = kControlsMargin + kSun + 6;
   const SliderColors colors{objc::Ref<UIColor>::retain(UIColor::colorWithWhite(0, 0.85)),
                             objc::Ref<UIColor>::retain(UIColor::colorWithWhite(0, 0.22))};
   brightness_ =
@@ -142,10 +143,10 @@ void ControlCentrePanel::add_tools(CGFloat top, const std::function<void(NSStrin
       {"surface-calculator"_ns, "com.apple.calculator"_ns},
       {"surface-camera"_ns, "com.apple.camera"_ns},
   };
-  const CGFloat part = (content().bounds().size.width - 2 * kMargin) / 3;
+  const CGFloat part = (content().bounds().size.width - 2 * kControlsMargin) / 3;
   int index = 0;
   for (const auto& tool : tools) {
-    const CGRect frame{kMargin + part * index++ + (part - kTool) / 2,
+    const CGRect frame{kControlsMargin + part * index++ + (part - kTool) / 2,
                        top + (kToolsHeight - kTool) / 2, kTool, kTool};
     add_plate(content(), frame, UIColor::colorWithWhite(0, kOff), kToolRadius);
     const auto button =

@@ -8,7 +8,7 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kEdge = 10;
+constexpr CGFloat kPullingEdge = 10;
 constexpr CGFloat kThreshold = 8;
 
 }  // namespace
@@ -39,8 +39,8 @@ EdgePulls::Claim EdgePulls::touch(int finger, UITouchPhase phase, CGPoint screen
 void EdgePulls::watch(int finger, CGPoint point, double timestamp) {
   const CGFloat height = UIScreen::mainScreen().bounds().size.height;
   EdgePullTarget* target = nullptr;
-  if (point.y <= kEdge) target = &top_;
-  if (point.y >= height - kEdge) target = &bottom_;
+  if (point.y <= kPullingEdge) target = &top_;
+  if (point.y >= height - kPullingEdge) target = &bottom_;
   if (!target || !target->can_be_pulled()) return;
   target_ = target;
   finger_ = finger;

@@ -13,7 +13,7 @@
 namespace host::springboard {
 namespace {
 
-constexpr double kLeaving = 0.4;
+constexpr double kUnlocking = 0.4;
 
 }  // namespace
 
@@ -75,7 +75,7 @@ void LockScreen::leave() {
   const auto gone = objc::block([this, lock = locks_, life = std::weak_ptr<void>(life_)](BOOL) {
     if (!life.expired() && lock == locks_) take_down();
   });
-  UIView::animateWithDuration(kLeaving, objc::block([=] {
+  UIView::animateWithDuration(kUnlocking, objc::block([=] {
                                 view.setFrame({{screen.size.width * 0.6, 0}, screen.size});
                                 view.setAlpha(0);
                               }),

@@ -15,18 +15,18 @@ constexpr CGFloat kClockTop = 34;
 constexpr CGFloat kClockHeight = 84;
 constexpr CGFloat kClockSize = 80;
 constexpr CGFloat kDateHeight = 22;
-constexpr CGFloat kDateSize = 17;
+constexpr CGFloat kLockDateSize = 17;
 constexpr CGFloat kPlaybackTop = kClockTop + kClockHeight + kDateHeight + 18;
-constexpr CGFloat kWidest = 420;
-constexpr CGFloat kMargin = 24;
+constexpr CGFloat kWidestLockPlayback = 420;
+constexpr CGFloat kLockMargin = 24;
 constexpr CGFloat kTextHeight = 40;
 constexpr CGFloat kTextBottom = 84;
-constexpr CGFloat kGap = 18;
-constexpr CGFloat kShade = 0.28;
-constexpr CGFloat kFarEnough = 0.4;
-constexpr CGFloat kFastEnough = 500;
+constexpr CGFloat kLockGap = 18;
+constexpr CGFloat kLockShade = 0.28;
+constexpr CGFloat kFarEnoughToUnlock = 0.4;
+constexpr CGFloat kFastEnoughToUnlock = 500;
 constexpr double kReturn = 0.45;
-constexpr CGFloat kLineAlpha = 0.25;
+constexpr CGFloat kLockLineAlpha = 0.25;
 
 }  // namespace
 
@@ -56,7 +56,7 @@ LockScreenPanel::~LockScreenPanel() {
 
 void LockScreenPanel::add_wallpaper() {
   springboard::add_wallpaper(*view_);
-  shade_ = add_plate(*view_, view_->bounds(), UIColor::colorWithWhite(0, kShade));
+  shade_ = add_plate(*view_, view_->bounds(), UIColor::colorWithWhite(0, kLockShade));
 }
 
 void LockScreenPanel::add_clock() {
@@ -64,12 +64,12 @@ void LockScreenPanel::add_clock() {
   time_ = add_label(*content_, {0, kClockTop, width, kClockHeight},
                     {"HelveticaNeue-UltraLight"_ns, kClockSize, UIColor::whiteColor()});
   date_ = add_label(*content_, {0, kClockTop + kClockHeight, width, kDateHeight},
-                    {"HelveticaNeue"_ns, kDateSize, UIColor::whiteColor()});
+                    {"HelveticaNeue"_ns, kLockDateSize, UIColor::whiteColor()});
 }
 
 void LockScreenPanel::add_playback() {
   const CGFloat screen = view_->bounds().size.width;
-  const CGFloat width = std::min(screen - 2 * kMargin, kWidest);
+  const CGFloat width = std::min(screen - 2 * kLockMargin, kWidestLockPlayback);
   artwork_ = make_view<UIImageView>({});
   artwork_->setContentMode(UIViewContentModeScaleAspectFit);
   content_->addSubview(*artwork_);
@@ -92,9 +92,9 @@ void LockScreenPanel::show_playing(const NowPlaying& playing) {
 void LockScreenPanel::arrange() {
   const CGSize screen = view_->bounds().size;
   const bool plays = shows_playback();
-  const CGFloat top = kPlaybackTop + (plays ? PlaybackView::kHeight + kGap : 0);
-  const CGFloat room = screen.height - kTextBottom - kGap - top;
-  const CGFloat side = std::min({room, screen.width - 2 * kMargin, kWidest});
+  const CGFloat top = kPlaybackTop + (plays ? PlaybackView::kHeight + kLockGap : 0);
+  const CGFloat room = screen.height - kTextBottom - kLockGap - top;
+  const CGFloat side = std::min({room, screen.width - 2 * kLockMargin, kWidestLockPlayback});
   artwork_->setFrame({(screen.width - side) / 2, top + (room - side) / 2, side, side});
   artwork_->setHidden(plays && !has_messages_ ? NO : YES);
   list_->setFrame({0, top, screen.width, std::max<CGFloat>(room, 0)});
@@ -109,12 +109,12 @@ void LockScreenPanel::show(const std::vector<Notification>& messages) {
   const CGFloat width = view_->bounds().size.width;
   CGFloat top = 0;
   for (const Notification& message : messages) {
-    add_plate(*list_, {15, top, width - 15, pixel}, UIColor::colorWithWhite(1, kLineAlpha));
+    add_plate(*list_, {15, top, width - 15, pixel}, UIColor::colorWithWhite(1, kLockLineAlpha));
     add_notification_row(*list_, {0, top, width, kNotificationRowHeight}, message);
     top += kNotificationRowHeight;
   }
   if (has_messages_)
-    add_plate(*list_, {15, top, width - 15, pixel}, UIColor::colorWithWhite(1, kLineAlpha));
+    add_plate(*list_, {15, top, width - 15, pixel}, UIColor::colorWithWhite(1, kLockLineAlpha));
   arrange();
 }
 
@@ -152,7 +152,8 @@ void LockScreenPanel::slid(UIPanGestureRecognizer pan) {
       content_->setFrame({{way, 0}, view_->bounds().size});
       break;
     case UIGestureRecognizerStateEnded:
-      if (way > width * kFarEnough || (way > 0 && pan.velocityInView(nil).x > kFastEnough))
+      if (way > width * kFarEnoughToUnlock ||
+          (way > 0 && pan.velocityInView(nil).x > kFastEnoughToUnlock))
         return unlock_();
       [[fallthrough]];
     default:

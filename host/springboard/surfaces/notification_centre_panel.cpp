@@ -10,7 +10,7 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kAbove = 160;
+constexpr CGFloat kGlassAboveCentre = 160;
 constexpr CGFloat kTabsTop = 28;
 constexpr CGFloat kTabsHeight = 29;
 constexpr CGFloat kTabsWidth = 290;
@@ -18,25 +18,27 @@ constexpr CGFloat kTabSize = 13;
 constexpr CGFloat kTabRadius = 4;
 constexpr CGFloat kPageTop = 74;
 constexpr CGFloat kGrip = 34;
-constexpr CGFloat kMargin = 15;
-constexpr CGFloat kWidest = 600;
-constexpr CGFloat kDateSize = 38;
+constexpr CGFloat kPageMargin = 15;
+constexpr CGFloat kWidestPage = 600;
+constexpr CGFloat kTodaySize = 38;
 constexpr CGFloat kDateLine = 46;
 constexpr CGFloat kHeader = 34;
-constexpr CGFloat kLineAlpha = 0.2;
+constexpr CGFloat kPageLineAlpha = 0.2;
 
 }  // namespace
 
 NotificationCentrePanel::NotificationCentrePanel(UIView window, const WallClock& clock,
                                                  Wishes wishes) {
   const CGSize screen = window.bounds().size;
-  sheet_ = make_view<UIView>({0, -screen.height - kAbove, screen.width, screen.height + kAbove});
+  sheet_ = make_view<UIView>(
+      {0, -screen.height - kGlassAboveCentre, screen.width, screen.height + kGlassAboveCentre});
   window.addSubview(*sheet_);
   add_backdrop(*sheet_, sheet_->bounds(), kDarkBackdrop);
   add_tabs();
   add_today(clock);
   add_messages(std::move(wishes.clear));
-  const auto grip = make_view<UIView>({0, kAbove + screen.height - kGrip, screen.width, kGrip});
+  const auto grip =
+      make_view<UIView>({0, kGlassAboveCentre + screen.height - kGrip, screen.width, kGrip});
   sheet_->addSubview(*grip);
   add_grabber(*grip, {screen.width / 2, kGrip - 10}, UIColor::colorWithWhite(1, 0.45));
   actions_.on_pan(*sheet_, wishes.pan);
@@ -45,7 +47,7 @@ NotificationCentrePanel::NotificationCentrePanel(UIView window, const WallClock&
 
 void NotificationCentrePanel::add_tabs() {
   const CGFloat left = (sheet_->bounds().size.width - kTabsWidth) / 2;
-  const CGRect frame{left, kAbove + kTabsTop, kTabsWidth, kTabsHeight};
+  const CGRect frame{left, kGlassAboveCentre + kTabsTop, kTabsWidth, kTabsHeight};
   const auto outline = add_plate(*sheet_, frame, UIColor::clearColor(), kTabRadius);
   outline->layer().setBorderWidth(1);
   outline->layer().setBorderColor(UIColor::whiteColor().CGColor());
@@ -68,39 +70,39 @@ objc::Ref<UIButton> NotificationCentrePanel::add_tab(NSString title, CGRect fram
 
 void NotificationCentrePanel::add_today(const WallClock& clock) {
   const CGSize size = sheet_->bounds().size;
-  const CGFloat width = std::min(size.width, kWidest);
-  today_ = make_view<UIView>({(size.width - width) / 2, kAbove + kPageTop, width,
-                              size.height - kAbove - kPageTop - kGrip});
+  const CGFloat width = std::min(size.width, kWidestPage);
+  today_ = make_view<UIView>({(size.width - width) / 2, kGlassAboveCentre + kPageTop, width,
+                              size.height - kGlassAboveCentre - kPageTop - kGrip});
   sheet_->addSubview(*today_);
   const std::string date = clock.date_text();
   const std::size_t comma = date.find(", ");
-  const TextLook look{"HelveticaNeue-Thin"_ns, kDateSize, UIColor::whiteColor(),
+  const TextLook look{"HelveticaNeue-Thin"_ns, kTodaySize, UIColor::whiteColor(),
                       NSTextAlignmentLeft};
-  const auto first = add_label(*today_, {kMargin, 8, width - 2 * kMargin, kDateLine}, look);
+  const auto first = add_label(*today_, {kPageMargin, 8, width - 2 * kPageMargin, kDateLine}, look);
   const auto second =
-      add_label(*today_, {kMargin, 8 + kDateLine, width - 2 * kMargin, kDateLine}, look);
+      add_label(*today_, {kPageMargin, 8 + kDateLine, width - 2 * kPageMargin, kDateLine}, look);
   first->setText(to_ns(date.substr(0, comma) + ","));
   second->setText(to_ns(comma == std::string::npos ? "" : date.substr(comma + 2)));
   const auto line =
-      add_label(*today_, {kMargin, 22 + 2 * kDateLine, width - 2 * kMargin, 22},
+      add_label(*today_, {kPageMargin, 22 + 2 * kDateLine, width - 2 * kPageMargin, 22},
                 {"HelveticaNeue"_ns, 15, UIColor::colorWithWhite(1, 0.6), NSTextAlignmentLeft});
   line->setText("There is nothing in the calendar for today."_ns);
 }
 
 void NotificationCentrePanel::add_messages(std::function<void()> clear) {
   const CGSize size = sheet_->bounds().size;
-  const CGFloat width = std::min(size.width, kWidest);
+  const CGFloat width = std::min(size.width, kWidestPage);
   messages_ = make_view<UIView>(today_->frame());
   messages_->setClipsToBounds(YES);
   sheet_->addSubview(*messages_);
   header_ = make_view<UIView>({0, 0, width, kHeader});
   messages_->addSubview(*header_);
   const auto title =
-      add_label(*header_, {kMargin, 0, width - 2 * kMargin, kHeader},
+      add_label(*header_, {kPageMargin, 0, width - 2 * kPageMargin, kHeader},
                 {"HelveticaNeue-Medium"_ns, 17, UIColor::whiteColor(), NSTextAlignmentLeft});
   title->setText("Messages"_ns);
-  clear_ = add_glyph_button(*header_, "surface-clear"_ns, {width - kMargin - 30, 0, 40, kHeader},
-                            UIColor::whiteColor());
+  clear_ = add_glyph_button(*header_, "surface-clear"_ns,
+                            {width - kPageMargin - 30, 0, 40, kHeader}, UIColor::whiteColor());
   actions_.on_press(*clear_, std::move(clear));
   rows_ = make_view<UIView>({0, kHeader, width, messages_->bounds().size.height - kHeader});
   rows_->setUserInteractionEnabled(NO);
@@ -119,8 +121,8 @@ void NotificationCentrePanel::show(const std::vector<Notification>& messages) {
   const CGFloat pixel = 1 / UIScreen::mainScreen().scale();
   CGFloat top = 0;
   for (const Notification& message : messages) {
-    add_plate(*rows_, {kMargin, top, width - kMargin, pixel},
-              UIColor::colorWithWhite(1, kLineAlpha));
+    add_plate(*rows_, {kPageMargin, top, width - kPageMargin, pixel},
+              UIColor::colorWithWhite(1, kPageLineAlpha));
     add_notification_row(*rows_, {0, top, width, kNotificationRowHeight}, message);
     top += kNotificationRowHeight;
   }

@@ -8,14 +8,14 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kMargin = 15;
+constexpr CGFloat kRowMargin = 15;
 constexpr CGFloat kIcon = 20;
 constexpr CGFloat kTextLeft = 46;
 constexpr CGFloat kTop = 9;
-constexpr CGFloat kLine = 19;
-constexpr CGFloat kTitleSize = 14;
-constexpr CGFloat kTimeWidth = 70;
-constexpr CGFloat kTimeSize = 12;
+constexpr CGFloat kTextLine = 19;
+constexpr CGFloat kRowTitleSize = 14;
+constexpr CGFloat kAgeWidth = 70;
+constexpr CGFloat kAgeSize = 12;
 
 }  // namespace
 
@@ -26,21 +26,21 @@ objc::Ref<UIView> add_notification_row(UIView parent, CGRect frame,
   parent.addSubview(*row);
   const SBIcon icon =
       SBIconController::sharedInstance().model().expectedIconForDisplayIdentifier(to_ns(kMessages));
-  const auto image = make_view<UIImageView>({kMargin, kTop, kIcon, kIcon});
+  const auto image = make_view<UIImageView>({kRowMargin, kTop, kIcon, kIcon});
   image->setImage(icon.generateIconImage(SBIconImageFormatHomeScreen));
   row->addSubview(*image);
-  const CGFloat width = frame.size.width - kTextLeft - kMargin;
+  const CGFloat width = frame.size.width - kTextLeft - kRowMargin;
   const auto title = add_label(
-      *row, {kTextLeft, kTop, width - kTimeWidth, kLine},
-      {"HelveticaNeue-Medium"_ns, kTitleSize, UIColor::whiteColor(), NSTextAlignmentLeft});
+      *row, {kTextLeft, kTop, width - kAgeWidth, kTextLine},
+      {"HelveticaNeue-Medium"_ns, kRowTitleSize, UIColor::whiteColor(), NSTextAlignmentLeft});
   title->setText(to_ns(notification.title));
   const auto time = add_label(
-      *row, {kTextLeft + width - kTimeWidth, kTop, kTimeWidth, kLine},
-      {"HelveticaNeue"_ns, kTimeSize, UIColor::colorWithWhite(1, 0.6), NSTextAlignmentRight});
+      *row, {kTextLeft + width - kAgeWidth, kTop, kAgeWidth, kTextLine},
+      {"HelveticaNeue"_ns, kAgeSize, UIColor::colorWithWhite(1, 0.6), NSTextAlignmentRight});
   time->setText(to_ns(notification.time));
   const auto text =
-      add_label(*row, {kTextLeft, kTop + kLine, width, kLine},
-                {"HelveticaNeue"_ns, kTitleSize, UIColor::whiteColor(), NSTextAlignmentLeft});
+      add_label(*row, {kTextLeft, kTop + kTextLine, width, kTextLine},
+                {"HelveticaNeue"_ns, kRowTitleSize, UIColor::whiteColor(), NSTextAlignmentLeft});
   text->setText(to_ns(notification.text));
   return row;
 }

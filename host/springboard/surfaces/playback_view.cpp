@@ -17,10 +17,10 @@ constexpr double kLook = 0.5;
 constexpr CGFloat kTimeWidth = 46;
 constexpr CGFloat kTimeHeight = 16;
 constexpr CGFloat kTimeSize = 11;
-constexpr CGFloat kLine = 3;
+constexpr CGFloat kTimeLine = 3;
 constexpr CGFloat kTitleTop = 20;
-constexpr CGFloat kTitleHeight = 22;
-constexpr CGFloat kTitleSize = 16;
+constexpr CGFloat kSongTitleHeight = 22;
+constexpr CGFloat kSongTitleSize = 16;
 constexpr CGFloat kLineSize = 13;
 constexpr CGFloat kTransportTop = 66;
 constexpr CGFloat kButton = 44;
@@ -46,9 +46,9 @@ PlaybackView::PlaybackView(UIView parent, CGRect frame, Ink ink_of,
   const SliderColors colors{objc::Ref<UIColor>::retain(ink(0.85)),
                             objc::Ref<UIColor>::retain(ink(kEmptyAlpha))};
   add_time(colors);
-  title_ = add_label(*view_, {0, kTitleTop, width, kTitleHeight},
-                     {"HelveticaNeue-Medium"_ns, kTitleSize, ink(1)});
-  line_ = add_label(*view_, {0, kTitleTop + kTitleHeight, width, kTitleHeight - 2},
+  title_ = add_label(*view_, {0, kTitleTop, width, kSongTitleHeight},
+                     {"HelveticaNeue-Medium"_ns, kSongTitleSize, ink(1)});
+  line_ = add_label(*view_, {0, kTitleTop + kSongTitleHeight, width, kSongTitleHeight - 2},
                     {"HelveticaNeue"_ns, kLineSize, ink(kWeakAlpha + 0.15)});
   add_transport();
   add_volume(colors);
@@ -69,9 +69,9 @@ void PlaybackView::add_time(const SliderColors& colors) {
   TextLook right = look;
   right.alignment = NSTextAlignmentRight;
   remaining_ = add_label(*view_, {width - kTimeWidth, 0, kTimeWidth, kTimeHeight}, right);
-  const CGRect track{kTimeWidth, (kTimeHeight - kLine) / 2, width - 2 * kTimeWidth, kLine};
-  const auto whole = add_plate(*view_, track, *colors.empty, kLine / 2);
-  elapsed_bar_ = add_plate(*whole, {0, 0, 0, kLine}, *colors.filled, kLine / 2);
+  const CGRect track{kTimeWidth, (kTimeHeight - kTimeLine) / 2, width - 2 * kTimeWidth, kTimeLine};
+  const auto whole = add_plate(*view_, track, *colors.empty, kTimeLine / 2);
+  elapsed_bar_ = add_plate(*whole, {0, 0, 0, kTimeLine}, *colors.filled, kTimeLine / 2);
 }
 
 void PlaybackView::add_transport() {
@@ -141,7 +141,7 @@ void PlaybackView::show_time(const NowPlaying& playing) {
   const CGFloat whole = elapsed_bar_->superview().bounds().size.width;
   // Whole seconds, as the texts beside it.
   const CGFloat part = is_known ? std::floor(playing.elapsed) / playing.duration : 0;
-  const CGRect frame{0, 0, whole * std::min<CGFloat>(part, 1), kLine};
+  const CGRect frame{0, 0, whole * std::min<CGFloat>(part, 1), kTimeLine};
   if (!(CGRect(elapsed_bar_->frame()) == frame)) elapsed_bar_->setFrame(frame);
 }
 

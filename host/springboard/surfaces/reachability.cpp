@@ -14,8 +14,8 @@ namespace host::springboard {
 namespace {
 
 constexpr CGFloat kSmallestTallScreen = 667;
-constexpr CGFloat kPart = 0.4;
-constexpr double kTravel = 0.35;
+constexpr CGFloat kPartBroughtDown = 0.4;
+constexpr double kBringingDown = 0.35;
 constexpr double kKeepAlive = 8;
 
 /// Only the tall phones have it.
@@ -45,12 +45,12 @@ void Reachability::handle_activated() {
   behind_->setHidden(NO);
   const CGSize screen = screen_grid().screen;
   above_ = make_surface_window(kLockScreenLevel - 1);
-  const auto free = make_view<UIView>({0, 0, screen.width, screen.height * kPart});
+  const auto free = make_view<UIView>({0, 0, screen.width, screen.height * kPartBroughtDown});
   above_->addSubview(*free);
   actions_ = std::make_unique<SurfaceActions>();
   actions_->on_tap(*free, [this] { self._handleReachabilityDeactivated(); });
   above_->setHidden(NO);
-  move_windows(screen.height * kPart);
+  move_windows(screen.height * kPartBroughtDown);
   RunLoop& loop = RunLoop::main();
   keep_alive_ = loop.add_timer(loop.now() + kKeepAlive, 0, [this] {
     keep_alive_.reset();
@@ -72,7 +72,7 @@ void Reachability::move_windows(CGFloat way) {
       objc::block([this, way_back = ways_back_, life = std::weak_ptr<void>(life_)](BOOL) {
         if (!life.expired() && way_back == ways_back_ && !active_) take_down();
       });
-  UIView::animateWithDuration(kTravel, 0, 1, 0, UIViewAnimationOptionAllowUserInteraction,
+  UIView::animateWithDuration(kBringingDown, 0, 1, 0, UIViewAnimationOptionAllowUserInteraction,
                               objc::block([windows, way] {
                                 for (const auto& window : windows)
                                   window->setTransform(CGAffineTransformMakeTranslation(0, way));

@@ -6,11 +6,11 @@
 namespace host::springboard {
 namespace {
 
-constexpr double kTravel = 0.5;
-constexpr CGFloat kDamping = 0.85;
+constexpr double kSheetTravel = 0.5;
+constexpr CGFloat kSheetDamping = 0.85;
 constexpr CGFloat kFling = 250;
 // Of the way beyond its open place that a finger pulls the panel.
-constexpr CGFloat kGive = 0.25;
+constexpr CGFloat kSheetGive = 0.25;
 
 }  // namespace
 
@@ -35,7 +35,7 @@ void SheetMotion::follow(CGFloat way) {
   CGFloat top = grabbed_at_ + way;
   const bool opens_upwards = places_.open < places_.closed;
   const CGFloat beyond = opens_upwards ? places_.open - top : top - places_.open;
-  if (beyond > 0) top = places_.open + (opens_upwards ? -beyond : beyond) * kGive;
+  if (beyond > 0) top = places_.open + (opens_upwards ? -beyond : beyond) * kSheetGive;
   set_top(opens_upwards ? std::min(top, places_.closed) : std::max(top, places_.closed));
 }
 
@@ -54,7 +54,7 @@ void SheetMotion::go_to(Rest rest, CGFloat velocity) {
   const auto rested = objc::block([this, rest, travel, life = std::weak_ptr<void>(life_)](BOOL) {
     if (!life.expired() && travel == travels_) tell(rest);
   });
-  UIView::animateWithDuration(kTravel, 0, rest == Rest::kOpen ? kDamping : 1,
+  UIView::animateWithDuration(kSheetTravel, 0, rest == Rest::kOpen ? kSheetDamping : 1,
                               std::max<CGFloat>(pace, 0), UIViewAnimationOptionAllowUserInteraction,
                               objc::block([this, rest] { set_top(place_of(rest)); }), rested);
 }

@@ -11,7 +11,7 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kTextSize = 23;
+constexpr CGFloat kUnlockTextSize = 23;
 constexpr CGFloat kDim = 0.42;
 constexpr double kRun = 2.6;
 // Widths of the text: the light comes from beyond its left and leaves beyond its right.
@@ -27,7 +27,7 @@ UnlockText::UnlockText(UIView parent, CGRect frame) : view_(make_view<UIView>(fr
   view_->setUserInteractionEnabled(NO);
   parent.addSubview(*view_);
   const auto label = add_label(*view_, view_->bounds(),
-                               {"HelveticaNeue-Light"_ns, kTextSize, UIColor::whiteColor()});
+                               {"HelveticaNeue-Light"_ns, kUnlockTextSize, UIColor::whiteColor()});
   label->setText("\xE2\x80\xBA  slide to unlock"_ns);
   const CAGradientLayer light = CAGradientLayer::layer();
   const objc::Object colors[] = {color(kDim), color(1), color(kDim)};

@@ -13,7 +13,7 @@ namespace {
 
 constexpr CGFloat kSide = 156;
 constexpr CGFloat kRadius = 10;
-constexpr double kStay = 1.5;
+constexpr double kOverlayStay = 1.5;
 constexpr double kFade = 0.4;
 constexpr CGFloat kStepsLeft = 14;
 constexpr CGFloat kStepsTop = 134;
@@ -40,7 +40,7 @@ void VolumeOverlay::show(double volume) {
     steps_[static_cast<std::size_t>(step)]->setHidden(step < lit_ ? NO : YES);
   speaker_->setImage(glyph(lit_ > 0 ? "surface-volume"_ns : "surface-volume-mute"_ns));
   RunLoop& loop = RunLoop::main();
-  fading_ = loop.add_timer(loop.now() + kStay, 0, [this] {
+  fading_ = loop.add_timer(loop.now() + kOverlayStay, 0, [this] {
     fading_.reset();
     fade();
   });

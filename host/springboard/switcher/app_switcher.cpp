@@ -17,7 +17,7 @@ namespace host::springboard {
 namespace {
 
 constexpr double kZoom = 0.4;
-constexpr double kFading = 0.15;
+constexpr double kSwitcherFading = 0.15;
 constexpr NSUInteger kIconsOnHomeCard = 9;
 // What stands for the home screen among bundle identifiers.
 const std::string kHome;
@@ -130,7 +130,8 @@ void AppSwitcher::fade() {
   const auto faded = objc::block([this, show = shows_, life = std::weak_ptr<void>(life_)](BOOL) {
     if (!life.expired() && show == shows_) dismiss_at_once();
   });
-  UIView::animateWithDuration(kFading, objc::block([this] { window_->setAlpha(0); }), faded);
+  UIView::animateWithDuration(kSwitcherFading, objc::block([this] { window_->setAlpha(0); }),
+                              faded);
 }
 
 void AppSwitcher::dismiss_at_once() {

@@ -16,11 +16,11 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kPart = 0.5;
+constexpr CGFloat kPartOfScale = 0.5;
 
 UIImage picture_of(const std::vector<CALayer>& layers) {
   const CGSize points = screen_grid().screen;
-  const CGFloat scale = UIScreen::mainScreen().scale() * kPart;
+  const CGFloat scale = UIScreen::mainScreen().scale() * kPartOfScale;
   const auto pixels = [scale](CGFloat length) {
     return static_cast<int>(std::lround(length * scale));
   };

@@ -12,15 +12,15 @@ constexpr CGFloat kIconTop = 20;
 constexpr CGFloat kNameTop = 4;
 constexpr CGFloat kNameHeight = 18;
 constexpr CGFloat kNameSize = 13;
-constexpr CGFloat kGround = 0.13;
+constexpr CGFloat kCardGround = 0.13;
 // Of the card's height; a faster finger need not go as far.
-constexpr CGFloat kFarEnough = 0.35;
-constexpr CGFloat kFastEnough = 500;
+constexpr CGFloat kFarEnoughToClose = 0.35;
+constexpr CGFloat kFastEnoughToClose = 500;
 // Of the finger's way, for a card that does not want to go there.
-constexpr CGFloat kGive = 0.25;
-constexpr double kLeaving = 0.25;
+constexpr CGFloat kCardGive = 0.25;
+constexpr double kCardLeaving = 0.25;
 constexpr double kFalling = 0.4;
-constexpr CGFloat kDamping = 0.8;
+constexpr CGFloat kCardDamping = 0.8;
 
 }  // namespace
 
@@ -29,7 +29,7 @@ SwitcherCard::SwitcherCard(UIView row, CGRect frame, const Content& content, Wis
       wishes_(std::move(wishes)),
       home_y_(frame.centre().y),
       screen_(make_view<UIImageView>(frame)) {
-  screen_->setBackgroundColor(UIColor::colorWithWhite(kGround, 1));
+  screen_->setBackgroundColor(UIColor::colorWithWhite(kCardGround, 1));
   screen_->setImage(content.picture);
   screen_->setUserInteractionEnabled(YES);
   row.addSubview(*screen_);
@@ -83,18 +83,20 @@ void SwitcherCard::panned(UIPanGestureRecognizer pan) {
 }
 
 bool SwitcherCard::is_thrown(CGFloat way, CGFloat velocity) const {
-  if (bundle_.empty() || way >= 0 || velocity > kFastEnough) return false;
-  return velocity < -kFastEnough || -way > kFarEnough * CGRect(screen_->bounds()).size.height;
+  if (bundle_.empty() || way >= 0 || velocity > kFastEnoughToClose) return false;
+  return velocity < -kFastEnoughToClose ||
+         -way > kFarEnoughToClose * CGRect(screen_->bounds()).size.height;
 }
 
 void SwitcherCard::lift(CGFloat way) const {
   const bool free = way < 0 && !bundle_.empty();
-  const CGFloat moved = free ? way : way * kGive;
+  const CGFloat moved = free ? way : way * kCardGive;
   screen_->setCenter({CGPoint(screen_->center()).x, home_y_ + moved});
 }
 
 void SwitcherCard::fall_back() const {
-  UIView::animateWithDuration(kFalling, 0, kDamping, 0, UIViewAnimationOptionAllowUserInteraction,
+  UIView::animateWithDuration(kFalling, 0, kCardDamping, 0,
+                              UIViewAnimationOptionAllowUserInteraction,
                               objc::block([screen = *screen_, y = home_y_] {
                                 screen.setCenter({CGPoint(screen.center()).x, y});
                               }),
@@ -105,7 +107,8 @@ void SwitcherCard::fly_away(const std::function<void()>& flown) const {
   screen_->setUserInteractionEnabled(NO);
   label_->setUserInteractionEnabled(NO);
   const CGFloat above = -CGRect(screen_->bounds()).size.height / 2;
-  UIView::animateWithDuration(kLeaving, objc::block([screen = *screen_, label = *label_, above] {
+  UIView::animateWithDuration(kCardLeaving,
+                              objc::block([screen = *screen_, label = *label_, above] {
                                 screen.setCenter({CGPoint(screen.center()).x, above});
                                 label.setAlpha(0);
                               }),

@@ -12,7 +12,7 @@ namespace {
 // Of the screen's size.
 constexpr CGFloat kCardPart = 0.54;
 constexpr CGFloat kCardTop = 0.15;
-constexpr CGFloat kGap = 22;
+constexpr CGFloat kCardGap = 22;
 constexpr double kMovingUp = 0.35;
 
 }  // namespace
@@ -42,7 +42,7 @@ CGRect SwitcherRow::first_frame() const {
 }
 
 CGFloat SwitcherRow::pitch() const {
-  return first_frame().size.width + kGap;
+  return first_frame().size.width + kCardGap;
 }
 
 CGFloat SwitcherRow::centre_of(std::size_t index) const {

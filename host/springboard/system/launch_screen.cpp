@@ -8,18 +8,18 @@
 namespace host::springboard {
 namespace {
 
-constexpr double kOpening = 0.4;
-constexpr double kClosing = 0.35;
-constexpr double kFading = 0.3;
-constexpr CGFloat kGround = 0.13;
+constexpr double kScreenOpening = 0.4;
+constexpr double kScreenClosing = 0.35;
+constexpr double kLaunchFading = 0.3;
+constexpr CGFloat kFailureGround = 0.13;
 constexpr CGFloat kLaunchGround = 0.98;
 constexpr CGFloat kTextAlpha = 0.55;
-constexpr CGFloat kTitleSize = 22;
-constexpr CGFloat kTextSize = 14;
+constexpr CGFloat kLaunchTitleSize = 22;
+constexpr CGFloat kLaunchTextSize = 14;
 constexpr CGFloat kLineHeight = 28;
 constexpr CGFloat kTextGap = 4;
 constexpr CGFloat kTextLineHeight = 20;
-constexpr CGFloat kGap = 18;
+constexpr CGFloat kLaunchGap = 18;
 
 void add_line(UIView screen, NSString text, CGFloat top, UIFont font, UIColor color) {
   auto label = make_view<UILabel>({0, top, screen.bounds().size.width, kLineHeight});
@@ -48,7 +48,7 @@ void LaunchScreen::open(SBApplication application, UIImage image, CGRect from,
   screen.setAlpha(0);
   // A second tap would open what lies below.
   const auto hold = std::make_shared<uikit::TouchHold>(window_);
-  UIView::animateWithDuration(kOpening, objc::block([=] {
+  UIView::animateWithDuration(kScreenOpening, objc::block([=] {
                                 screen.setTransform(CGAffineTransform());
                                 screen.setAlpha(1);
                               }),
@@ -56,11 +56,11 @@ void LaunchScreen::open(SBApplication application, UIImage image, CGRect from,
 }
 
 void LaunchScreen::close() {
-  if (is_open()) leave(transform_onto_icon(), kClosing);
+  if (is_open()) leave(transform_onto_icon(), kScreenClosing);
 }
 
 void LaunchScreen::fade() {
-  if (is_open()) leave(CGAffineTransform(), kFading);
+  if (is_open()) leave(CGAffineTransform(), kLaunchFading);
 }
 
 void LaunchScreen::leave(CGAffineTransform transform, double duration) {
@@ -87,30 +87,30 @@ void LaunchScreen::frame_came() {
 void LaunchScreen::build(SBApplication application, UIImage image, const Process& process) {
   closing_ = false;
   screen_ = make_view<UIView>(window_.bounds());
-  screen_->setBackgroundColor(UIColor::colorWithWhite(process ? kLaunchGround : kGround, 1));
+  screen_->setBackgroundColor(UIColor::colorWithWhite(process ? kLaunchGround : kFailureGround, 1));
   screen_->setClipsToBounds(YES);
   const CGPoint middle = CGRect(window_.bounds()).centre();
 
   auto icon = objc::Ref<UIImageView>::adopt(UIImageView::alloc().initWithImage(image));
-  const CGFloat icon_bottom = middle.y - kGap;
+  const CGFloat icon_bottom = middle.y - kLaunchGap;
   icon->setCenter({middle.x, icon_bottom - icon->bounds().size.height / 2});
   screen_->addSubview(*icon);
   if (process) {
     hosted_ = ApplicationView::make(screen_->bounds(), process);
     screen_->addSubview(*hosted_);
   } else {
-    add_texts(application.displayName(), icon_bottom + kGap);
+    add_texts(application.displayName(), icon_bottom + kLaunchGap);
   }
   window_.addSubview(*screen_);
 }
 
 void LaunchScreen::add_texts(NSString name, CGFloat top) const {
-  add_line(*screen_, name, top, UIFont::fontWithName("HelveticaNeue-Light"_ns, kTitleSize),
+  add_line(*screen_, name, top, UIFont::fontWithName("HelveticaNeue-Light"_ns, kLaunchTitleSize),
            UIColor::whiteColor());
   CGFloat line_top = top + kLineHeight + kTextGap;
   for (const NSString line :
        {"Only its icon is on this phone."_ns, "Press the Home button to go back."_ns}) {
-    add_line(*screen_, line, line_top, UIFont::fontWithName("HelveticaNeue"_ns, kTextSize),
+    add_line(*screen_, line, line_top, UIFont::fontWithName("HelveticaNeue"_ns, kLaunchTextSize),
              UIColor::colorWithWhite(1, kTextAlpha));
     line_top += kTextLineHeight;
   }

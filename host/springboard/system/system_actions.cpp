@@ -13,12 +13,6 @@
 namespace host::springboard {
 namespace {
 
-constexpr const char* kNewFolderTitle = "New Folder";
-
-IconController& icon_controller() {
-  return objc::state_of<IconController>(SBIconController::sharedInstance());
-}
-
 HomeLayout& layout() {
   return icon_controller().icon_model().layout();
 }

@@ -17,10 +17,6 @@
 namespace host::springboard {
 namespace {
 
-IconController& icon_controller() {
-  return objc::state_of<IconController>(SBIconController::sharedInstance());
-}
-
 /// Where the application's icon is seen, or the middle of the screen when it is not.
 CGRect icon_on_screen(SBIcon icon, UIWindow window) {
   const SBIconView view = SBIconViewMap::homescreenMap().mappedIconViewForIcon(icon);

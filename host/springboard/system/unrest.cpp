@@ -37,10 +37,6 @@ std::string class_of(NSObject object) {
   return class_getName(objc::class_of(object.id()));
 }
 
-IconController& icon_controller() {
-  return objc::state_of<IconController>(SBIconController::sharedInstance());
-}
-
 bool near(CGPoint one, CGPoint other) {
   return std::abs(one.x - other.x) < kNearness && std::abs(one.y - other.y) < kNearness;
 }

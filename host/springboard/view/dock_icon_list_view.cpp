@@ -5,11 +5,11 @@
 namespace host::springboard {
 namespace {
 
-CGPoint origin_for_icon_at_index(SBDockIconListView self, NSUInteger index) {
+CGPoint dock_origin_for_icon(SBDockIconListView self, NSUInteger index) {
   return screen_grid().dock_origin(index, self.icons().count());
 }
 
-int location(SBDockIconListView) {
+int dock_location(SBDockIconListView) {
   return SBIconLocationDock;
 }
 
@@ -17,8 +17,8 @@ int location(SBDockIconListView) {
 
 void export_dock_icon_list_view() {
   objc::ClassBuilder("SBDockIconListView", "SBIconListView")
-      .method<&origin_for_icon_at_index>("originForIconAtIndex:")
-      .method<&location>("iconLocation")
+      .method<&dock_origin_for_icon>("originForIconAtIndex:")
+      .method<&dock_location>("iconLocation")
       .finish();
 }
 

@@ -5,11 +5,11 @@
 namespace host::springboard {
 namespace {
 
-CGPoint origin_for_icon_at_index(SBFolderIconListView, NSUInteger index) {
+CGPoint folder_origin_for_icon(SBFolderIconListView, NSUInteger index) {
   return FolderMetrics(screen_grid()).origin(index);
 }
 
-int location(SBFolderIconListView) {
+int folder_location(SBFolderIconListView) {
   return SBIconLocationFolder;
 }
 
@@ -17,8 +17,8 @@ int location(SBFolderIconListView) {
 
 void export_folder_icon_list_view() {
   objc::ClassBuilder("SBFolderIconListView", "SBIconListView")
-      .method<&origin_for_icon_at_index>("originForIconAtIndex:")
-      .method<&location>("iconLocation")
+      .method<&folder_origin_for_icon>("originForIconAtIndex:")
+      .method<&folder_location>("iconLocation")
       .finish();
 }
 

@@ -5,7 +5,7 @@
 namespace host::springboard {
 namespace {
 
-constexpr CGFloat kFontSize = 12;
+constexpr CGFloat kLabelFontSize = 12;
 constexpr CGFloat kFarShadowDrop = 1;
 constexpr CGFloat kNearShadowDrop = 0.5;
 constexpr CGFloat kFarShadowAlpha = 0.14;
@@ -14,7 +14,7 @@ constexpr CGFloat kNearShadowAlpha = 0.2;
 objc::Ref<UILabel> make_line(UIView parent, CGRect frame, CGFloat drop, UIColor color) {
   frame.origin.y += drop;
   auto label = make_view<UILabel>(frame);
-  label->setFont(UIFont::fontWithName("HelveticaNeue"_ns, kFontSize));
+  label->setFont(UIFont::fontWithName("HelveticaNeue"_ns, kLabelFontSize));
   label->setTextAlignment(NSTextAlignmentCenter);
   label->setTextColor(color);
   label->setBackgroundColor(UIColor::clearColor());

@@ -40,6 +40,11 @@ class IconViewMap : public objc::Implementation<IconViewMap, SBIconViewMap> {
   std::map<objc::Id, objc::Ref<SBIconView>> views_;
 };
 
+/// The home screen's.
+inline IconViewMap& view_map() {
+  return objc::state_of<IconViewMap>(SBIconViewMap::homescreenMap());
+}
+
 void export_icon_view_map();
 
 }  // namespace host::springboard
