@@ -16,7 +16,7 @@ namespace {
 
 objc::Imp original_init = nullptr;
 objc::Imp original_text = nullptr;
-objc::Imp original_path = nullptr;
+objc::Imp original_url_path = nullptr;
 
 constexpr bool is_ascii(char unit) {
   return static_cast<unsigned char>(unit) < 0x80;
@@ -69,7 +69,7 @@ NSString absolute_string(NSURL self) {
 
 NSString path(NSURL self) {
   if (is_mended(self)) return ""_ns;
-  return reinterpret_cast<TextOf>(original_path)(self, "path"_sel);
+  return reinterpret_cast<TextOf>(original_url_path)(self, "path"_sel);
 }
 
 }  // namespace
@@ -79,7 +79,7 @@ void export_addresses() {
   const objc::Class cls = objc_getClass("NSURL");
   original_init = replace_in_family<&init>(cls, "initWithString:relativeToURL:");
   original_text = replace_in_family<&absolute_string>(cls, "absoluteString");
-  original_path = replace_in_family<&path>(cls, "path");
+  original_url_path = replace_in_family<&path>(cls, "path");
 }
 
 }  // namespace host::foundation

@@ -31,18 +31,18 @@ NSString device_path(objc::Id path) {
 }
 
 template <objc::FixedString Selector>
-objc::Imp original_path = nullptr;
+objc::Imp original_resource_path = nullptr;
 
 template <objc::FixedString Selector>
 NSString path_of(NSBundle self) {
   using Function = objc::Id (*)(objc::Id, objc::Sel);
-  return device_path(reinterpret_cast<Function>(original_path<Selector>)(
+  return device_path(reinterpret_cast<Function>(original_resource_path<Selector>)(
       self.id(), sel_registerName(Selector.c_str())));
 }
 
 template <objc::FixedString Selector>
 void replace_path() {
-  original_path<Selector> =
+  original_resource_path<Selector> =
       replace_in_family<&path_of<Selector>>(NSBundle::cls(), Selector.c_str());
 }
 
@@ -55,7 +55,7 @@ NSString resource_path(NSBundle self) {
 
 NSString path_of_resource(NSBundle self, NSString name, NSString extension) {
   using Function = objc::Id (*)(objc::Id, objc::Sel, objc::Id, objc::Id);
-  return device_path(reinterpret_cast<Function>(original_path<"pathForResource:ofType:">)(
+  return device_path(reinterpret_cast<Function>(original_resource_path<"pathForResource:ofType:">)(
       self.id(), "pathForResource:ofType:"_sel, name.id(), extension.id()));
 }
 
@@ -78,9 +78,9 @@ void export_bundles() {
   original_main = replace_in_family<&main_bundle>(objc::class_of(reinterpret_cast<objc::Id>(cls)),
                                                   "mainBundle");
   replace_path<"bundlePath">();
-  original_path<"resourcePath"> = replace_in_family<&resource_path>(cls, "resourcePath");
+  original_resource_path<"resourcePath"> = replace_in_family<&resource_path>(cls, "resourcePath");
   replace_path<"executablePath">();
-  original_path<"pathForResource:ofType:"> =
+  original_resource_path<"pathForResource:ofType:"> =
       replace_in_family<&path_of_resource>(cls, "pathForResource:ofType:");
   original_load = replace_in_family<&load_bundle>(cls, "load");
 }

@@ -69,7 +69,7 @@ std::optional<Content> content_of(const char* path) {
   if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return std::nullopt;
   Content content{std::string(static_cast<std::size_t>(status.st_size), '\0'), status.st_mtim,
                   status.st_ino};
-  const ssize_t count = read(file.get(), content.bytes.data(), content.bytes.size());
+  const ssize_t count = ::read(file.get(), content.bytes.data(), content.bytes.size());
   if (count != status.st_size) return std::nullopt;
   return content;
 }
@@ -96,12 +96,12 @@ void keep(std::string path, Content content, NSDictionary dictionary) {
                                    objc::Ref<NSDictionary>::adopt(dictionary.copy())};
 }
 
-objc::Imp original = nullptr;
+objc::Imp original_reader = nullptr;
 
 bool is_binary(NSString path) {
   const Descriptor file(path.fileSystemRepresentation());
   char start[8];
-  return file.get() >= 0 && read(file.get(), start, sizeof start) == sizeof start &&
+  return file.get() >= 0 && ::read(file.get(), start, sizeof start) == sizeof start &&
          is_binary_property_list({start, sizeof start});
 }
 
@@ -116,7 +116,7 @@ NSDictionary parse_binary(objc::Object cls, NSString path) {
 NSDictionary parse(objc::Object cls, NSString path) {
   if (path && is_binary(path)) return parse_binary(cls, path);
   using Function = objc::Id (*)(objc::Id, objc::Sel, objc::Id);
-  const auto function = reinterpret_cast<Function>(original);
+  const auto function = reinterpret_cast<Function>(original_reader);
   return objc::cast<NSDictionary>(
       objc::Object(function(cls.id(), "dictionaryWithContentsOfFile:"_sel, path.id())));
 }
@@ -140,9 +140,9 @@ NSDictionary dictionary_with_contents(objc::Object cls, NSString path) {
 }  // namespace
 
 void export_property_list_reader() {
-  if (original) return;
+  if (original_reader) return;
   const objc::Class dictionaries = objc_getMetaClass("NSDictionary");
-  original = method_getImplementation(
+  original_reader = method_getImplementation(
       class_getInstanceMethod(dictionaries, "dictionaryWithContentsOfFile:"_sel));
   objc::replace_method<&dictionary_with_contents>(dictionaries, "dictionaryWithContentsOfFile:");
 }

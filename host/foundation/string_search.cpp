@@ -15,7 +15,7 @@
 namespace host::foundation {
 namespace {
 
-objc::Imp original = nullptr;
+objc::Imp original_search = nullptr;
 
 std::u16string units_of(NSString text) {
   static_assert(sizeof(unichar) == sizeof(char16_t));
@@ -37,7 +37,8 @@ NSRange range_of_string(NSString self, NSString wanted) {
   // No text at all is the caller's mistake, and stays one.
   if (!wanted || wanted.length() == 0) {
     using Function = NSRange (*)(objc::Id, objc::Sel, objc::Id);
-    return reinterpret_cast<Function>(original)(self.id(), "rangeOfString:"_sel, wanted.id());
+    return reinterpret_cast<Function>(original_search)(self.id(), "rangeOfString:"_sel,
+                                                       wanted.id());
   }
   const auto found = find(units_of(self), units_of(wanted));
   return found ? NSRange{found->location, found->length} : NSRange{NSNotFound, 0};
@@ -46,8 +47,9 @@ NSRange range_of_string(NSString self, NSString wanted) {
 }  // namespace
 
 void export_string_search() {
-  if (original) return;
-  original = replace_in_family<&range_of_string>(objc_getClass("NSString"), "rangeOfString:");
+  if (original_search) return;
+  original_search =
+      replace_in_family<&range_of_string>(objc_getClass("NSString"), "rangeOfString:");
 }
 
 }  // namespace host::foundation
