@@ -20,8 +20,8 @@ namespace {
 
 constexpr std::string_view cloud_suffix = ".cloud.toml";
 constexpr std::int64_t longest_entry_bytes = 64 << 10;
-constexpr double longest_seconds = 7 * 24 * 3600.0;
-constexpr std::int64_t largest_number = 9999;
+constexpr double longest_entry_seconds = 7 * 24 * 3600.0;
+constexpr std::int64_t largest_entry_number = 9999;
 
 // Takes the values out of an entry and remembers the first one that is not what it should be.
 class Entry {
@@ -40,7 +40,7 @@ class Entry {
     const toml::node* node = node_at(key);
     if (node == nullptr) return 0;
     const auto value = node->value_exact<std::int64_t>();
-    if (!value || *value < 0 || *value > largest_number) complain(key, "a number up to 9999");
+    if (!value || *value < 0 || *value > largest_entry_number) complain(key, "a number up to 9999");
     return complaint_.empty() ? static_cast<int>(*value) : 0;
   }
 
@@ -50,7 +50,7 @@ class Entry {
     const auto value = node->is_number() ? node->value<double>() : std::nullopt;
     const bool is_length = value && std::isfinite(*value) && *value >= 0;
     if (!is_length) complain(key, "a number of seconds");
-    return is_length ? std::min(*value, longest_seconds) : 0;
+    return is_length ? std::min(*value, longest_entry_seconds) : 0;
   }
 
   bool flag(std::string_view key) {
@@ -74,7 +74,7 @@ class Entry {
   std::string complaint_;
 };
 
-SongTags tags_from(Entry& entry) {
+SongTags tags_of_entry(Entry& entry) {
   SongTags tags;
   tags.title = entry.text("title");
   tags.artist = entry.text("artist");
@@ -116,15 +116,15 @@ bool find_cover(const std::string& entry_path, SongTags& tags) {
   return true;
 }
 
-TagReading refused(std::string reason) {
+TagReading refused_entry(std::string reason) {
   return {std::nullopt, std::move(reason), false};
 }
 
 TagReading read_text(const std::string& path, const std::string& text) {
   const toml::table table = toml::parse(text);
   Entry entry{table};
-  SongTags tags = tags_from(entry);
-  if (!entry.complaint().empty()) return refused(entry.complaint());
+  SongTags tags = tags_of_entry(entry);
+  if (!entry.complaint().empty()) return refused_entry(entry.complaint());
   if (tags.title.empty()) tags.title = repaired_text(name_without_suffix(path));
   const bool has_broken_picture = !find_cover(path, tags);
   return {std::move(tags), {}, has_broken_picture};
@@ -138,19 +138,20 @@ bool has_cloud_name(std::string_view name) {
 
 TagReading read_cloud_song(const std::string& path) {
   struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) return refused("cannot be reached");
-  if (!S_ISREG(status.st_mode)) return refused("is not a plain file");
-  if (status.st_size > longest_entry_bytes) return refused("is too long for an entry of a song");
+  if (::stat(path.c_str(), &status) != 0) return refused_entry("cannot be reached");
+  if (!S_ISREG(status.st_mode)) return refused_entry("is not a plain file");
+  if (status.st_size > longest_entry_bytes)
+    return refused_entry("is too long for an entry of a song");
   std::ifstream file{path, std::ios::binary};
-  if (!file) return refused("cannot be read");
+  if (!file) return refused_entry("cannot be read");
   const std::string text{std::istreambuf_iterator<char>{file}, {}};
   try {
     return read_text(path, text);
   } catch (const toml::parse_error& error) {
-    return refused(fmt::format("is no entry of a song: {} in line {}", error.description(),
-                               error.source().begin.line));
+    return refused_entry(fmt::format("is no entry of a song: {} in line {}", error.description(),
+                                     error.source().begin.line));
   } catch (const std::exception& error) {
-    return refused(std::string{"cannot be read: "} + error.what());
+    return refused_entry(std::string{"cannot be read: "} + error.what());
   }
 }
 

@@ -29,7 +29,7 @@ namespace {
 
 constexpr std::array audio_suffixes = {".flac", ".mp3", ".ogg", ".oga", ".opus", ".m4a", ".wav"};
 constexpr std::size_t largest_picture_bytes = 32u << 20;
-constexpr double longest_seconds = 7 * 24 * 3600.0;
+constexpr double longest_file_seconds = 7 * 24 * 3600.0;
 
 template <class Pictures>
 TagLib::ByteVector best_flac_picture(const Pictures& pictures) {
@@ -118,22 +118,23 @@ std::string reason_not_to_open(const std::string& path) {
   return {};
 }
 
-TagReading refused(std::string reason) {
+TagReading refused_file(std::string reason) {
   return {std::nullopt, std::move(reason), false};
 }
 
 TagReading read_opened(const std::string& path) {
   const TagLib::FileRef reference{path.c_str(), true, TagLib::AudioProperties::Average};
-  if (reference.isNull() || !reference.file()->isValid()) return refused("is no audio file");
+  if (reference.isNull() || !reference.file()->isValid()) return refused_file("is no audio file");
   const TagLib::AudioProperties* audio = reference.audioProperties();
   if (audio == nullptr || audio->sampleRate() <= 0 || audio->channels() <= 0) {
-    return refused("has no audio in it");
+    return refused_file("has no audio in it");
   }
   SongTags tags = tags_from(reference.file()->properties());
   if (tags.title.empty()) {
     tags.title = repaired_text(std::filesystem::path{path}.stem().string());
   }
-  tags.duration_seconds = std::clamp(audio->lengthInMilliseconds() / 1000.0, 0.0, longest_seconds);
+  tags.duration_seconds =
+      std::clamp(audio->lengthInMilliseconds() / 1000.0, 0.0, longest_file_seconds);
   const TagLib::ByteVector picture = picture_in(reference.file());
   if (is_usable_picture(picture)) {
     tags.own_picture = read_picture_header(bytes_of(picture));
@@ -160,11 +161,12 @@ bool has_audio_name(std::string_view name) {
 }
 
 TagReading read_tags(const std::string& path) {
-  if (auto reason = reason_not_to_open(path); !reason.empty()) return refused(std::move(reason));
+  if (auto reason = reason_not_to_open(path); !reason.empty())
+    return refused_file(std::move(reason));
   try {
     return read_opened(path);
   } catch (const std::exception& error) {
-    return refused(std::string{"cannot be read: "} + error.what());
+    return refused_file(std::string{"cannot be read: "} + error.what());
   }
 }
 

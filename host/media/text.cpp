@@ -11,7 +11,7 @@ namespace {
 
 using GText = std::unique_ptr<char, decltype(&g_free)>;
 
-constexpr int largest_number = 9999;
+constexpr int largest_track_number = 9999;
 
 bool is_control(unsigned char byte) {
   return byte < 0x20 || byte == 0x7f;
@@ -59,7 +59,7 @@ int number_in(std::string_view text) {
   text = trimmed(text);
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc{} || number < 0 || number > largest_number) return 0;
+  if (error != std::errc{} || number < 0 || number > largest_track_number) return 0;
   return number;
 }
 
