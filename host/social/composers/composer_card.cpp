@@ -10,7 +10,7 @@ namespace {
 constexpr CGFloat kCornerRadius = 7;
 constexpr CGFloat kBarHeight = 44;
 constexpr CGFloat kFooterHeight = 30;
-constexpr CGFloat kMargin = 14;
+constexpr CGFloat kCardMargin = 14;
 constexpr CGFloat kButtonWidth = 88;
 /// Brings the title down onto the line of the buttons' titles, which are rounded to pixels apart.
 constexpr CGFloat kTitleDrop = 0.5;
@@ -18,7 +18,7 @@ constexpr CGFloat kCountWidth = 64;
 constexpr CGFloat kTextSize = 17;
 constexpr CGFloat kFooterSize = 14;
 /// What a text view keeps free beside its lines by itself.
-constexpr CGFloat kLinePadding = 5;
+constexpr CGFloat kTextViewPadding = 5;
 
 UIColor tint() {
   return UIColor::colorWithRed(0, 0.478, 1, 1);
@@ -33,7 +33,7 @@ objc::Ref<UIButton> make_button(NSString title, NSString font, CGRect frame,
   const auto button = objc::Ref<UIButton>::adopt(UIButton::alloc().initWithFrame(frame));
   button->setContentHorizontalAlignment(alignment);
   const bool at_left = alignment == UIControlContentHorizontalAlignmentLeft;
-  button->setContentEdgeInsets({0, at_left ? kMargin : 0, 0, at_left ? 0 : kMargin});
+  button->setContentEdgeInsets({0, at_left ? kCardMargin : 0, 0, at_left ? 0 : kCardMargin});
   button->titleLabel().setFont(UIFont::fontWithName(font, kTextSize));
   button->setTitle(title, UIControlStateNormal);
   button->setTitleColor(tint(), UIControlStateNormal);
@@ -91,19 +91,21 @@ void ComposerCard::add_text() {
   text_->setTag(kTextTag);
   text_->setFont(UIFont::fontWithName("HelveticaNeue"_ns, kTextSize));
   text_->setTintColor(tint());
-  text_->setTextContainerInset({9, kMargin - kLinePadding, 6, kMargin - kLinePadding});
+  text_->setTextContainerInset(
+      {9, kCardMargin - kTextViewPadding, 6, kCardMargin - kTextViewPadding});
   add(text_.get());
 }
 
 void ComposerCard::add_footer() {
   const CGSize card = view_->bounds().size;
   const CGFloat top = card.height - kFooterHeight - 2;
-  count_ = make_label({card.width - kMargin - kCountWidth, top, kCountWidth, kFooterHeight},
+  count_ = make_label({card.width - kCardMargin - kCountWidth, top, kCountWidth, kFooterHeight},
                       "HelveticaNeue"_ns, kFooterSize, NSTextAlignmentRight);
   count_->setTag(kCountTag);
   add(count_.get());
-  notice_ = make_label({kMargin, top, card.width - 2 * kMargin - kCountWidth, kFooterHeight},
-                       "HelveticaNeue"_ns, kFooterSize, NSTextAlignmentLeft);
+  notice_ =
+      make_label({kCardMargin, top, card.width - 2 * kCardMargin - kCountWidth, kFooterHeight},
+                 "HelveticaNeue"_ns, kFooterSize, NSTextAlignmentLeft);
   notice_->setTag(kNoticeTag);
   notice_->setTextColor(warning());
   add(notice_.get());

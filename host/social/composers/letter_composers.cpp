@@ -3,7 +3,7 @@
 namespace host::social {
 namespace {
 
-std::string to_string(NSString text) {
+std::string text_of(NSString text) {
   const char* bytes = text.UTF8String();
   return bytes ? bytes : "";
 }
@@ -12,7 +12,7 @@ std::vector<std::string> listed(NSArray texts) {
   std::vector<std::string> list;
   if (!texts) return list;
   for (const NSString text : texts.of<NSString>())
-    list.push_back(to_string(text));
+    list.push_back(text_of(text));
   return list;
 }
 
@@ -25,7 +25,7 @@ MFMailComposeViewController MailComposer::init() {
 }
 
 void MailComposer::set_subject(NSString subject) {
-  letter().subject = to_string(subject);
+  letter().subject = text_of(subject);
 }
 
 void MailComposer::set_recipients(NSArray recipients) {
@@ -33,7 +33,7 @@ void MailComposer::set_recipients(NSArray recipients) {
 }
 
 void MailComposer::set_body(NSString body, BOOL) {
-  letter().body = to_string(body);
+  letter().body = text_of(body);
 }
 
 void MailComposer::ended(ComposePage::End end) const {
@@ -57,7 +57,7 @@ void MessageComposer::set_recipients(NSArray recipients) {
 }
 
 void MessageComposer::set_body(NSString body) {
-  letter().body = to_string(body);
+  letter().body = text_of(body);
 }
 
 void MessageComposer::ended(ComposePage::End end) const {

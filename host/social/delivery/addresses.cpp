@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array<std::string_view, 3> kAlways{"http", "https", "mailto"};
 constexpr std::string_view kTelephoneText = "sms";
-constexpr const char* kKind = "link";
+constexpr const char* kLinkKind = "link";
 
 bool is_in_scheme(unsigned char sign) {
   return std::isalnum(sign) || sign == '+' || sign == '-' || sign == '.';
@@ -42,7 +42,7 @@ bool can_open_address(const std::string& address) {
 }
 
 bool open_address(const std::string& address) {
-  return can_open_address(address) && hand_over(kKind, address, address) != HandedTo::Nobody;
+  return can_open_address(address) && hand_over(kLinkKind, address, address) != HandedTo::Nobody;
 }
 
 }  // namespace host::social

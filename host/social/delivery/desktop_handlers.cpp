@@ -19,7 +19,6 @@ namespace {
 constexpr const char* kRegistry = "xdg-mime";
 /// In milliseconds: the user is waiting for what the answer decides.
 constexpr int kPatience = 2000;
-constexpr int kFirstOfOurs = 3;
 
 /// The end of a pipe that is read.
 class Answer {
@@ -62,7 +61,7 @@ pid_t start(const std::string& kind, const Answer& answer) {
   posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
   posix_spawn_file_actions_adddup2(&files, answer.writing_end(), STDOUT_FILENO);
   posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  posix_spawn_file_actions_addclosefrom_np(&files, kFirstOfOurs);
+  posix_spawn_file_actions_addclosefrom_np(&files, STDERR_FILENO + 1);
   std::array<std::string, 4> words{kRegistry, "query", "default", kind};
   char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(),
                              nullptr};

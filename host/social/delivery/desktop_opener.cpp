@@ -17,7 +17,6 @@ namespace host::social {
 namespace {
 
 constexpr const char* kOpener = "xdg-open";
-constexpr int kFirstOfOurs = 3;
 
 bool is_set(const char* variable) {
   const char* value = std::getenv(variable);
@@ -32,7 +31,7 @@ class DetachedProcess {
     posix_spawn_file_actions_addopen(&files_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&files_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&files_, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addclosefrom_np(&files_, kFirstOfOurs);
+    posix_spawn_file_actions_addclosefrom_np(&files_, STDERR_FILENO + 1);
     posix_spawnattr_init(&attributes_);
     sigset_t signals;
     sigfillset(&signals);

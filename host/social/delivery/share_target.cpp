@@ -13,9 +13,9 @@ namespace {
 constexpr std::string_view kPlace = "{text}";
 constexpr std::string_view kMail = "mailto:";
 constexpr std::string_view kBlank = " \t\r\n";
-constexpr const char* kKind = "share";
+constexpr const char* kShareKind = "share";
 
-bool is_in_scheme(unsigned char sign) {
+bool is_scheme_sign(unsigned char sign) {
   return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z') ||
          (sign >= '0' && sign <= '9') || sign == '+' || sign == '-' || sign == '.';
 }
@@ -30,7 +30,7 @@ bool is_address_with_place(std::string_view line) {
   if (colon == line.npos || colon == 0 || !is_letter(static_cast<unsigned char>(line[0])))
     return false;
   const std::string_view scheme = line.substr(0, colon);
-  return std::all_of(scheme.begin(), scheme.end(), is_in_scheme) &&
+  return std::all_of(scheme.begin(), scheme.end(), is_scheme_sign) &&
          line.find(kPlace) != line.npos &&
          std::none_of(line.begin(), line.end(),
                       [](unsigned char sign) { return sign <= ' ' || sign == 0x7F; });
@@ -73,7 +73,7 @@ HandedTo hand_over_share(std::string_view text) {
   const bool has_desktop = configuration().desktop == Desktop::Present;
   const ShareTarget target =
       has_desktop ? ShareTarget::read(configuration().share_target) : ShareTarget();
-  return hand_over(kKind, target.address_for(text), text);
+  return hand_over(kShareKind, target.address_for(text), text);
 }
 
 }  // namespace host::social
