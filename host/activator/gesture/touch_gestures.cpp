@@ -8,7 +8,7 @@
 namespace host::activator {
 namespace {
 
-constexpr CGFloat kStatusBarHeight = 20;
+constexpr CGFloat kTapHeight = 20;
 constexpr CGFloat kStill = 10;
 // In seconds: how long a tap may last, how soon the second one follows, what is a hold.
 constexpr double kTap = 0.35;
@@ -42,7 +42,7 @@ TouchGestures::Claim TouchGestures::touch(int finger, UITouchPhase phase, CGPoin
 void TouchGestures::began(CGPoint point, double timestamp) {
   slide_ = EdgeSlide::begin(screen_, point);
   if (first_tap_ && timestamp - *first_tap_ > kBetweenTaps) first_tap_.reset();
-  if (point.y > kStatusBarHeight) {
+  if (point.y > kTapHeight) {
     first_tap_.reset();
     return;
   }

@@ -15,7 +15,6 @@ constexpr CGFloat kTop = 20;
 constexpr CGFloat kBelow = 12;
 constexpr CGFloat kTitleFont = 17;
 constexpr CGFloat kTextFont = 13;
-constexpr CGFloat kManyLines = 10000;
 
 /// Gives where the label ends.
 CGFloat add_label(UIView view, NSString text, UIFont font, UIColor color, CGPoint origin,

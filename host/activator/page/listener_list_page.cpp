@@ -7,8 +7,8 @@
 namespace host::activator {
 namespace {
 
-constexpr CGFloat kRowHeight = 60;
-constexpr CGFloat kCaptionHeight = 48;
+constexpr CGFloat kListenerRowHeight = 60;
+constexpr CGFloat kListenerCaptionHeight = 48;
 
 /// Onto the stack of whoever navigates here, or over this page.
 void open_page(UIViewController from, UIViewController page) {
@@ -44,7 +44,7 @@ void ListenerListPage::view_will_appear(BOOL animated) {
 
 void ListenerListPage::show_again() {
   records_ = Service::shared().directory().read();
-  table().setRowHeight(kRowHeight);
+  table().setRowHeight(kListenerRowHeight);
   table().reloadData();
 }
 
@@ -71,11 +71,11 @@ UITableViewCell ListenerListPage::cell(UITableView table, NSIndexPath path) {
 }
 
 CGFloat ListenerListPage::header_height(UITableView, NSInteger) {
-  return kCaptionHeight;
+  return kListenerCaptionHeight;
 }
 
 UIView ListenerListPage::header(UITableView, NSInteger) {
-  return make_caption("Actions"_ns, width(), kCaptionHeight);
+  return make_caption("Actions"_ns, width(), kListenerCaptionHeight);
 }
 
 NSString ListenerListPage::note() const {

@@ -8,8 +8,8 @@
 namespace host::activator {
 namespace {
 
-constexpr CGFloat kCaptionHeight = 38;
-constexpr CGFloat kRowHeight = 44;
+constexpr CGFloat kEventCaptionHeight = 38;
+constexpr CGFloat kEventRowHeight = 44;
 
 std::string event_of(NSIndexPath path) {
   return event_kinds()[static_cast<std::size_t>(path.row())].name;
@@ -40,7 +40,7 @@ void ListenerPage::show_again() {
   for (const ModeKind& kind : mode_kinds()) {
     if (record_.admits(kind.name)) modes_.push_back(kind);
   }
-  table().setRowHeight(kRowHeight);
+  table().setRowHeight(kEventRowHeight);
   table().setTableHeaderView(make_listener_heading(record_, width()));
   table().reloadData();
 }
@@ -82,12 +82,12 @@ UITableViewCell ListenerPage::cell(UITableView table, NSIndexPath path) {
 }
 
 CGFloat ListenerPage::header_height(UITableView, NSInteger) {
-  return kCaptionHeight;
+  return kEventCaptionHeight;
 }
 
 UIView ListenerPage::header(UITableView, NSInteger section) {
   const ModeKind& kind = modes_[static_cast<std::size_t>(section)];
-  return make_caption(to_ns(kind.title), width(), kCaptionHeight);
+  return make_caption(to_ns(kind.title), width(), kEventCaptionHeight);
 }
 
 void ListenerPage::selected(UITableView table, NSIndexPath path) {

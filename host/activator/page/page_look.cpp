@@ -17,7 +17,6 @@ constexpr CGFloat kCaptionRise = 7;  // from the rows
 constexpr CGFloat kNoteGap = 8;
 constexpr CGFloat kIconCorner = 6.5;
 constexpr CGFloat kDotSide = 13;
-constexpr CGFloat kManyLines = 10000;
 
 objc::Ref<UILabel> make_text(NSString text, CGFloat width) {
   auto label = objc::Ref<UILabel>::adopt(UILabel::alloc().initWithFrame({0, 0, width, 0}));

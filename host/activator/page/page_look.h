@@ -12,6 +12,8 @@ namespace host::activator {
 inline constexpr CGFloat kMargin = 15;
 /// The side of an icon in a row.
 inline constexpr CGFloat kIconSide = 29;
+/// Higher than any text of a page.
+inline constexpr CGFloat kManyLines = 10000;
 
 /// The grey behind the rows, and the greys of the texts on it.
 UIColor ground_color();
