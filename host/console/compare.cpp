@@ -13,7 +13,7 @@ struct Symbol {
   Comparison comparison;
 };
 
-constexpr Symbol kSymbols[] = {
+constexpr Symbol kComparisonSymbols[] = {
     {"==", Comparison::Equal},  {"!=", Comparison::NotEqual},
     {"<", Comparison::Less},    {"<=", Comparison::LessOrEqual},
     {">", Comparison::Greater}, {">=", Comparison::GreaterOrEqual},
@@ -71,7 +71,7 @@ std::optional<bool> near(const Value& boxed_left, const Value& boxed_right) {
 }  // namespace
 
 std::optional<Comparison> comparison_named(std::string_view symbol) {
-  for (const Symbol& known : kSymbols) {
+  for (const Symbol& known : kComparisonSymbols) {
     if (known.text == symbol) return known.comparison;
   }
   return std::nullopt;

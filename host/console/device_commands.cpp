@@ -143,7 +143,7 @@ Result<Answer> gesture(Session& session, LineReader& reader) {
   return answer_of(session.phone().gesture(event));
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kDeviceCommands[] = {
     {"button", &button},       {"type", &type},       {"key", &key},
     {"system", &system_event}, {"gesture", &gesture},
 };
@@ -151,7 +151,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 std::span<const Command> device_commands() {
-  return kCommands;
+  return kDeviceCommands;
 }
 
 }  // namespace host::console

@@ -102,7 +102,7 @@ Result<Answer> quit(Session&, LineReader& reader) {
   return Answer{Answer::Kind::Quit, {}};
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kInspectionCommands[] = {
     {"advance", &advance}, {"print", &print},           {"expect", &expect},
     {"where", &where},     {"screenshot", &screenshot}, {"rest", &rest},
     {"echo", &echo},       {"process", &process},       {"quit", &quit},
@@ -111,7 +111,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 std::span<const Command> inspection_commands() {
-  return kCommands;
+  return kInspectionCommands;
 }
 
 }  // namespace host::console

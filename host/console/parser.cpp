@@ -6,7 +6,7 @@ namespace host::console {
 namespace {
 
 // Deeper nesting is a mistake, and would only wear out the stack.
-constexpr int kDeepest = 64;
+constexpr int kDeepestExpression = 64;
 
 std::string shown(const Token& token) {
   switch (token.kind) {
@@ -32,7 +32,7 @@ class Parser {
   Result<Expression> expression(int depth) {
     auto token = lexer_.take();
     if (!token) return token.problem();
-    if (depth > kDeepest) return Problem{"nested too deeply", token->offset};
+    if (depth > kDeepestExpression) return Problem{"nested too deeply", token->offset};
     switch (token->kind) {
       case Token::Kind::Number:
         return whole(*token, token->number);

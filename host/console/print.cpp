@@ -11,7 +11,7 @@ namespace host::console {
 namespace {
 
 // A collection may contain itself.
-constexpr int kDeepest = 8;
+constexpr int kDeepestPrinted = 8;
 
 std::string printed(const Value& value, int depth);
 
@@ -92,7 +92,7 @@ std::string printed(objc::Object object, int depth) {
   if (const auto text = text_in(object)) return quoted(*text);
   if (const auto number = number_in(object)) return printed(*number);
   if (const auto value = value_in(object)) return printed(*value, depth + 1);
-  const bool collection = depth < kDeepest;
+  const bool collection = depth < kDeepestPrinted;
   if (collection && is_a(object, "NSDictionary")) return printed_dictionary(object, depth);
   if (collection && (is_a(object, "NSArray") || is_a(object, "NSSet"))) {
     const auto enumerator = objc::send<objc::Object>(object, "objectEnumerator"_sel);

@@ -118,12 +118,12 @@ Result<Answer> drag(Session& session, LineReader& reader) {
   return Answer{};
 }
 
-constexpr Command kCommands[] = {{"tap", &tap}, {"touch", &touch}, {"drag", &drag}};
+constexpr Command kTouchCommands[] = {{"tap", &tap}, {"touch", &touch}, {"drag", &drag}};
 
 }  // namespace
 
 std::span<const Command> touch_commands() {
-  return kCommands;
+  return kTouchCommands;
 }
 
 }  // namespace host::console
