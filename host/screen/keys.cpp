@@ -29,7 +29,7 @@ struct KeyButton {
   Button button;
 };
 
-constexpr KeyButton kButtons[] = {
+constexpr KeyButton kKeyButtons[] = {
     {SDLK_F1, Button::Home},       {SDLK_HOME, Button::Home},   {SDLK_F3, Button::Lock},
     {SDLK_F5, Button::VolumeDown}, {SDLK_F6, Button::VolumeUp},
 };
@@ -61,7 +61,7 @@ void Keys::handle(const SDL_KeyboardEvent& event) {
 void Keys::handle_button(const SDL_KeyboardEvent& event) {
   const SDL_Keycode pressed = event.keysym.sym;
   const bool down = event.type == SDL_KEYDOWN;
-  for (const auto& [key, button] : kButtons) {
+  for (const auto& [key, button] : kKeyButtons) {
     if (key != pressed) continue;
     if (down) {
       buttons_.down(button);

@@ -15,7 +15,7 @@ namespace {
 constexpr int kMouseFinger = 0;
 // Of the desktop's height, for a phone that would not fit it.
 constexpr double kLargestPart = 0.92;
-constexpr auto kAround = static_cast<Uint8>(kGroundLight * 255);
+constexpr auto kGroundShade = static_cast<Uint8>(kGroundLight * 255);
 
 CGSize first_size(CGSize phone) {
   SDL_Rect desktop{};
@@ -106,7 +106,8 @@ void Window::present() {
                          screen.size.width * box.scale, screen.size.height * box.scale};
   const SDL_FRect body_place = to_sdl(box.place);
   const SDL_FRect screen_place = to_sdl(in_window);
-  SDL_SetRenderDrawColor(renderer_.get(), kAround, kAround, kAround, SDL_ALPHA_OPAQUE);
+  SDL_SetRenderDrawColor(renderer_.get(), kGroundShade, kGroundShade, kGroundShade,
+                         SDL_ALPHA_OPAQUE);
   SDL_RenderClear(renderer_.get());
   SDL_RenderCopyF(renderer_.get(), body_texture_.get(), nullptr, &body_place);
   SDL_RenderCopyF(renderer_.get(), texture_.get(), nullptr, &screen_place);
