@@ -10,13 +10,13 @@
 namespace host::music {
 namespace {
 
-constexpr CGFloat kCoverSide = 44;
-constexpr CGFloat kCoverMargin = (kMiniBarHeight - kCoverSide) / 2;
-constexpr CGFloat kTextLeft = kCoverMargin + kCoverSide + 10;
-constexpr CGFloat kButton = 44;
+constexpr CGFloat kBarCoverSide = 44;
+constexpr CGFloat kCoverMargin = (kMiniBarHeight - kBarCoverSide) / 2;
+constexpr CGFloat kTextLeft = kCoverMargin + kBarCoverSide + 10;
+constexpr CGFloat kBarButton = 44;
 constexpr CGFloat kTitleTop = 10;
-constexpr CGFloat kTitleHeight = 20;
-constexpr CGFloat kLineHeight = 16;
+constexpr CGFloat kBarTitleHeight = 20;
+constexpr CGFloat kBarLineHeight = 16;
 constexpr double kSlide = 0.25;
 
 }  // namespace
@@ -37,26 +37,27 @@ MiniBar::MiniBar(UIView parent, const PlayerState& player, std::function<void()>
 void MiniBar::build() {
   const CGFloat width = bar_->bounds().size.width;
   springboard::add_plate(*bar_, {0, 0, width, 0.5}, separator_color());
-  cover_ =
-      springboard::make_view<UIImageView>({kCoverMargin, kCoverMargin, kCoverSide, kCoverSide});
+  cover_ = springboard::make_view<UIImageView>(
+      {kCoverMargin, kCoverMargin, kBarCoverSide, kBarCoverSide});
   bar_->addSubview(*cover_);
-  const CGFloat room = width - kTextLeft - kButton - 2 * kCoverMargin;
+  const CGFloat room = width - kTextLeft - kBarButton - 2 * kCoverMargin;
   title_ = springboard::add_label(
-      *bar_, {kTextLeft, kTitleTop, room, kTitleHeight},
+      *bar_, {kTextLeft, kTitleTop, room, kBarTitleHeight},
       {"HelveticaNeue-Medium"_ns, 15, UIColor::blackColor(), NSTextAlignmentLeft});
-  artist_ = springboard::add_label(*bar_, {kTextLeft, kTitleTop + kTitleHeight, room, kLineHeight},
-                                   {"HelveticaNeue"_ns, 12, weak_color(), NSTextAlignmentLeft});
-  play_ = springboard::add_glyph_button(
-      *bar_, "surface-play"_ns,
-      {width - kButton - kCoverMargin, (kMiniBarHeight - kButton) / 2, kButton, kButton},
-      UIColor::blackColor());
+  artist_ =
+      springboard::add_label(*bar_, {kTextLeft, kTitleTop + kBarTitleHeight, room, kBarLineHeight},
+                             {"HelveticaNeue"_ns, 12, weak_color(), NSTextAlignmentLeft});
+  play_ = springboard::add_glyph_button(*bar_, "surface-play"_ns,
+                                        {width - kBarButton - kCoverMargin,
+                                         (kMiniBarHeight - kBarButton) / 2, kBarButton, kBarButton},
+                                        UIColor::blackColor());
 }
 
 void MiniBar::player_changed() {
   if (shown_song_ != player_.song()) {
     shown_song_ = player_.song();
     const MPMediaItem song = player_.item();
-    cover_->setImage(cover_of(song, kCoverSide));
+    cover_->setImage(cover_of(song, kBarCoverSide));
     title_->setText(title_of(song));
     artist_->setText(artist_of(song));
   }

@@ -25,9 +25,9 @@ constexpr CGFloat kControls = 228;
 constexpr CGFloat kTimeWidth = 44;
 constexpr CGFloat kTimeHeight = 16;
 constexpr CGFloat kScrubberHeight = 34;
-constexpr CGFloat kTitleHeight = 24;
-constexpr CGFloat kLineHeight = 20;
-constexpr CGFloat kButton = 56;
+constexpr CGFloat kPageTitleHeight = 24;
+constexpr CGFloat kPageLineHeight = 20;
+constexpr CGFloat kPageButton = 56;
 constexpr CGFloat kButtonDistance = 96;
 constexpr CGFloat kSpeaker = 26;
 constexpr CGFloat kVolumeInset = 24;
@@ -91,17 +91,19 @@ void NowPlayingPage::add_scrubber(CGFloat top) {
 
 void NowPlayingPage::add_texts(CGFloat top) {
   const CGFloat width = self.view().bounds().size.width - 2 * kMargin;
-  title_ = springboard::add_label(self.view(), {kMargin, top, width, kTitleHeight},
+  title_ = springboard::add_label(self.view(), {kMargin, top, width, kPageTitleHeight},
                                   {"HelveticaNeue-Medium"_ns, 18, UIColor::blackColor()});
-  line_ = springboard::add_label(self.view(), {kMargin, top + kTitleHeight, width, kLineHeight},
-                                 {"HelveticaNeue"_ns, 14, weak_color()});
+  line_ =
+      springboard::add_label(self.view(), {kMargin, top + kPageTitleHeight, width, kPageLineHeight},
+                             {"HelveticaNeue"_ns, 14, weak_color()});
 }
 
 void NowPlayingPage::add_transport(CGFloat middle) {
   const CGFloat centre = self.view().bounds().size.width / 2;
   const auto add = [&](NSString name, CGFloat offset) {
     return springboard::add_glyph_button(
-        self.view(), name, {centre + offset - kButton / 2, middle - kButton / 2, kButton, kButton},
+        self.view(), name,
+        {centre + offset - kPageButton / 2, middle - kPageButton / 2, kPageButton, kPageButton},
         UIColor::blackColor());
   };
   const auto previous = add("surface-previous"_ns, -kButtonDistance);

@@ -10,7 +10,7 @@ namespace host::music {
 namespace {
 
 constexpr CGFloat kRowHeight = 57;
-constexpr CGFloat kCoverSide = 45;
+constexpr CGFloat kRowCoverSide = 45;
 constexpr CGFloat kTitleSize = 16;
 constexpr CGFloat kLineSize = 12;
 
@@ -20,7 +20,7 @@ UITableViewCell make_cell() {
   cell.textLabel().setFont(UIFont::systemFontOfSize(kTitleSize));
   cell.detailTextLabel().setFont(UIFont::systemFontOfSize(kLineSize));
   cell.detailTextLabel().setTextColor(weak_color());
-  cell.setSeparatorInset({0, kMargin + kCoverSide + kMargin, 0, 0});
+  cell.setSeparatorInset({0, kMargin + kRowCoverSide + kMargin, 0, 0});
   return cell;
 }
 
@@ -97,7 +97,7 @@ UITableViewCell SongsPage::cell(UITableView table, NSIndexPath path) {
   UITableViewCell cell = table.dequeueReusableCellWithIdentifier("song"_ns);
   if (!cell) cell = make_cell();
   const MPMediaItem song = song_at(path.row());
-  cell.imageView().setImage(cover_of(song, kCoverSide));
+  cell.imageView().setImage(cover_of(song, kRowCoverSide));
   fill(cell, song);
   return cell;
 }

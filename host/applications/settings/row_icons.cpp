@@ -11,7 +11,7 @@ namespace host::settings {
 namespace {
 
 constexpr CGRect kPlace{0, 0, 29, 29};
-constexpr CGFloat kCorner = 6.5;
+constexpr CGFloat kIconCorner = 6.5;
 constexpr CGFloat kLine = 1.75;
 constexpr CGPoint kMiddle{14.5, 14.5};
 
@@ -99,7 +99,7 @@ UIImage row_icon(RowIcon icon) {
   const Drawing drawing = drawing_of(icon);
   UIGraphicsBeginImageContextWithOptions(kPlace.size, NO, 0);
   color(drawing.red, drawing.green, drawing.blue).setFill();
-  UIBezierPath::bezierPathWithRoundedRect(kPlace, kCorner).fill();
+  UIBezierPath::bezierPathWithRoundedRect(kPlace, kIconCorner).fill();
   UIColor::whiteColor().set();
   drawing.draw();
   const UIImage image = UIGraphicsGetImageFromCurrentImageContext();

@@ -8,9 +8,9 @@
 namespace host::settings {
 namespace {
 
-constexpr CGFloat kMargin = 15;
+constexpr CGFloat kCellMargin = 15;
 constexpr CGFloat kGlyphRoom = 24;
-constexpr CGFloat kGap = 8;
+constexpr CGFloat kSliderGap = 8;
 
 void add_glyph(UIView cell, NSString name, CGFloat middle_x) {
   const UIImage picture = springboard::picture(name);
@@ -25,7 +25,7 @@ void add_glyph(UIView cell, NSString name, CGFloat middle_x) {
 }  // namespace
 
 void VolumeCell::build(CGSize size) {
-  const CGFloat left = kMargin + kGlyphRoom + kGap;
+  const CGFloat left = kCellMargin + kGlyphRoom + kSliderGap;
   slider_ = springboard::Slider::make(
       {left, 0, size.width - 2 * left, size.height},
       {objc::Ref<UIColor>::retain(self.tintColor()),
@@ -34,8 +34,8 @@ void VolumeCell::build(CGSize size) {
         preferences::state_of(self.specifier()).set_value(NSNumber::numberWithDouble(value));
       });
   self.addSubview(slider_.get());
-  add_glyph(self, "surface-speaker"_ns, kMargin + kGlyphRoom / 2);
-  add_glyph(self, "surface-speaker-loud"_ns, size.width - kMargin - kGlyphRoom / 2);
+  add_glyph(self, "surface-speaker"_ns, kCellMargin + kGlyphRoom / 2);
+  add_glyph(self, "surface-speaker-loud"_ns, size.width - kCellMargin - kGlyphRoom / 2);
   self.refreshCellContentsWithSpecifier(self.specifier());
 }
 

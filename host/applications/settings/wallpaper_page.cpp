@@ -9,9 +9,9 @@ namespace host::settings {
 namespace {
 
 constexpr std::size_t kInARow = 2;
-constexpr CGFloat kMargin = 20;
-constexpr CGFloat kGap = 15;
-constexpr CGFloat kCorner = 4;
+constexpr CGFloat kPageMargin = 20;
+constexpr CGFloat kThumbnailGap = 15;
+constexpr CGFloat kThumbnailCorner = 4;
 constexpr CGFloat kEdge = 3;
 
 }  // namespace
@@ -29,25 +29,25 @@ void WallpaperPage::view_did_load() {
     add_tile(index++, name);
   if (!tiles_.empty())
     scroll_->setContentSize(
-        {view.bounds().size.width, CGRect(tiles_.back()->frame()).max_y() + kMargin});
+        {view.bounds().size.width, CGRect(tiles_.back()->frame()).max_y() + kPageMargin});
   show_choice();
 }
 
 void WallpaperPage::add_tile(std::size_t index, NSString name) {
   const CGSize screen = UIScreen::mainScreen().bounds().size;
-  const CGFloat room = self.view().bounds().size.width - 2 * kMargin;
-  const CGFloat width = (room - (kInARow - 1) * kGap) / kInARow;
+  const CGFloat room = self.view().bounds().size.width - 2 * kPageMargin;
+  const CGFloat width = (room - (kInARow - 1) * kThumbnailGap) / kInARow;
   const CGFloat height = width * screen.height / screen.width;
   const auto column = static_cast<CGFloat>(index % kInARow);
   const auto row = static_cast<CGFloat>(index / kInARow);
-  const CGRect frame{kMargin + column * (width + kGap), kMargin + row * (height + kGap), width,
-                     height};
+  const CGRect frame{kPageMargin + column * (width + kThumbnailGap),
+                     kPageMargin + row * (height + kThumbnailGap), width, height};
   const auto tile = objc::Ref<UIImageView>::adopt(
       objc::cast<UIImageView>(UIImageView::alloc().initWithFrame(frame)));
   tile->setImage(springboard::picture(name));
   tile->setContentMode(UIViewContentModeScaleAspectFill);
   tile->setClipsToBounds(YES);
-  tile->layer().setCornerRadius(kCorner);
+  tile->layer().setCornerRadius(kThumbnailCorner);
   tile->layer().setBorderColor(tile->tintColor().CGColor());
   tile->setUserInteractionEnabled(YES);
   const auto tap = UITapGestureRecognizer::alloc().initWithTarget(self, "tileTapped:"_sel);
