@@ -19,6 +19,10 @@ endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror -fvisibility=hidden
                     $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+if(CMAKE_UNITY_BUILD)
+  # Of a batch these tell what is no fault of any of its files; the other presets look for them.
+  add_compile_options(-Wno-shadow -Wno-subobject-linkage)
+endif()
 if(SONAVUE_PHONE)
   # The platform's C functions return its own structures; that they are C++ types here is harmless.
   # Exceptions of the system pass through the library, which has no handler for any.
