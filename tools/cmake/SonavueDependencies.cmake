@@ -25,7 +25,6 @@ pkg_check_modules(libffi REQUIRED IMPORTED_TARGET libffi)
 find_library(SONAVUE_LIBYUV yuv REQUIRED)
 find_library(SONAVUE_BLOCKS_RUNTIME BlocksRuntime REQUIRED)
 find_library(SONAVUE_GNUSTEP_BASE gnustep-base REQUIRED)
-find_program(SONAVUE_RSVG_CONVERT rsvg-convert REQUIRED)
 
 # No symbol of Foundation is ever named, so the linker must be told to keep the library. It carries
 # a `_Block_copy` of its own that does not know our stack blocks: the real one must be found first.

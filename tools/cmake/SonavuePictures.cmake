@@ -1,22 +1,18 @@
-# Pictures are kept as SVG and rendered while building, each file by a command of its own, so that
-# only what changed is drawn again.
+# Pictures are kept as SVG and rendered while building, all of them by one process (tools/draw_pictures).
 
-# sonavue_picture(outputs SOURCE play.svg OUTPUT dir/Play@2x.png SIZE 100 100) renders one file and
+# sonavue_picture(outputs SOURCE play.svg OUTPUT dir/Play@2x.png SIZE 100 100) has one file rendered and
 # appends its path to the list `outputs`. SIZE is in pixels.
 function(sonavue_picture list)
   cmake_parse_arguments(ARG "" "SOURCE;OUTPUT" "SIZE" ${ARGN})
   cmake_path(ABSOLUTE_PATH ARG_SOURCE BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
   cmake_path(GET ARG_OUTPUT PARENT_PATH folder)
-  cmake_path(GET ARG_OUTPUT FILENAME file_name)
   file(MAKE_DIRECTORY "${folder}")
   list(GET ARG_SIZE 0 width)
   list(GET ARG_SIZE 1 height)
-  add_custom_command(
-    OUTPUT "${ARG_OUTPUT}"
-    COMMAND ${SONAVUE_RSVG_CONVERT} --width=${width} --height=${height} "--output=${ARG_OUTPUT}"
-            ${ARG_SOURCE}
-    DEPENDS ${ARG_SOURCE}
-    COMMENT "Drawing ${file_name}" VERBATIM)
+  set_property(GLOBAL APPEND_STRING PROPERTY SONAVUE_PICTURE_LINES
+               "${ARG_SOURCE}\t${width}\t${height}\t${ARG_OUTPUT}\n")
+  set_property(GLOBAL APPEND PROPERTY SONAVUE_PICTURE_SOURCES ${ARG_SOURCE})
+  set_property(GLOBAL APPEND PROPERTY SONAVUE_PICTURES ${ARG_OUTPUT})
   set(${list} ${${list}} "${ARG_OUTPUT}" PARENT_SCOPE)
 endfunction()
 
