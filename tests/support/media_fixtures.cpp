@@ -4,6 +4,7 @@
 #include <spdlog/sinks/base_sink.h>
 #include <spdlog/spdlog.h>
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -102,11 +103,15 @@ int CapturedLog::count(std::string_view text) const {
 }
 
 void write_tone(const std::string& path, double seconds) {
-  std::vector<float> samples(static_cast<std::size_t>(seconds * tone_rate));
-  for (std::size_t i = 0; i < samples.size(); ++i) {
+  // Eleven periods of the tone, after which it repeats itself.
+  std::array<float, tone_rate * 11 / 440> periods;
+  for (std::size_t i = 0; i < periods.size(); ++i) {
     const double phase = 2 * std::numbers::pi * 440.0 * static_cast<double>(i) / tone_rate;
-    samples[i] = static_cast<float>(0.2 * std::sin(phase));
+    periods[i] = static_cast<float>(0.2 * std::sin(phase));
   }
+  std::vector<float> samples(static_cast<std::size_t>(seconds * tone_rate));
+  for (std::size_t i = 0; i < samples.size(); ++i)
+    samples[i] = periods[i % periods.size()];
   if (!host::media::write_audio(path, samples, tone_rate)) {
     throw std::runtime_error{"cannot write " + path};
   }
