@@ -15,7 +15,7 @@ constexpr int kDeepestPrinted = 8;
 
 std::string printed(const Value& value, int depth);
 
-std::string quoted(std::string_view text) {
+std::string in_quotes(std::string_view text) {
   std::string made = "\"";
   for (const char c : text) {
     if (c == '"' || c == '\\') made += '\\';
@@ -89,7 +89,7 @@ std::string printed(objc::Object object, int depth) {
   // Proxies and the runtime's own objects answer nothing that could be asked here.
   if (!class_getInstanceMethod(objc::class_of(object.id()), "isKindOfClass:"_sel))
     return fmt::format("<{}>", class_getName(objc::class_of(object.id())));
-  if (const auto text = text_in(object)) return quoted(*text);
+  if (const auto text = text_in(object)) return in_quotes(*text);
   if (const auto number = number_in(object)) return printed(*number);
   if (const auto value = value_in(object)) return printed(*value, depth + 1);
   const bool collection = depth < kDeepestPrinted;
