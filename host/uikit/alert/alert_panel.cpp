@@ -12,14 +12,14 @@ namespace {
 
 constexpr CGFloat kWidth = 270;
 constexpr CGFloat kCorner = 7;
-constexpr CGFloat kMargin = 15;
+constexpr CGFloat kPanelMargin = 15;
 constexpr CGFloat kTop = 20;
 constexpr CGFloat kTextGap = 4;
 constexpr CGFloat kBelowTexts = 20;
 constexpr CGFloat kTitleSize = 17;
 constexpr CGFloat kMessageSize = 13;
 constexpr CGFloat kGloss = 0.5;
-constexpr CGFloat kLineAlpha = 0.2;
+constexpr CGFloat kPanelLineAlpha = 0.2;
 constexpr CGFloat kManyLines = 10000;
 /// So many buttons stand side by side.
 constexpr NSInteger kSideBySide = 2;
@@ -27,14 +27,14 @@ constexpr NSInteger kSideBySide = 2;
 /// Gives where the text ends.
 CGFloat add_text(UIView panel, NSString text, UIFont font, CGFloat top) {
   if (text.length() == 0) return top;
-  const CGFloat width = kWidth - 2 * kMargin;
+  const CGFloat width = kWidth - 2 * kPanelMargin;
   const auto label = objc::Ref<UILabel>::adopt(UILabel::alloc().initWithFrame({}));
   label->setFont(font);
   label->setNumberOfLines(0);
   label->setTextAlignment(NSTextAlignmentCenter);
   label->setText(text);
   const CGFloat height = std::ceil(label->sizeThatFits({width, kManyLines}).height);
-  label->setFrame({kMargin, top, width, height});
+  label->setFrame({kPanelMargin, top, width, height});
   panel.addSubview(label.get());
   return top + height;
 }
@@ -72,7 +72,7 @@ CGFloat AlertView::add_texts() {
 void AlertView::add_line(CGRect frame) {
   const auto line = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame(frame));
   line->setUserInteractionEnabled(NO);
-  line->setBackgroundColor(UIColor::colorWithWhite(0, kLineAlpha));
+  line->setBackgroundColor(UIColor::colorWithWhite(0, kPanelLineAlpha));
   self.addSubview(line.get());
 }
 

@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kStatusBarHeight = 20;
+constexpr CGFloat kHeightWithoutApplication = 20;
 
 UIScreen main_screen(objc::Object) {
   static const UIScreen screen = UIScreen::alloc().init();
@@ -31,7 +31,7 @@ CGRect native_bounds(UIScreen screen) {
 CGRect application_frame(UIScreen screen) {
   const CGSize size = screen.bounds().size;
   const UIApplication application = UIApplication::sharedApplication();
-  const CGFloat top = application ? application.statusBarHeight() : kStatusBarHeight;
+  const CGFloat top = application ? application.statusBarHeight() : kHeightWithoutApplication;
   return {0, top, size.width, size.height - top};
 }
 

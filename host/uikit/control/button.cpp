@@ -8,7 +8,7 @@ namespace {
 
 constexpr CGFloat kPressedAlpha = 0.5;
 constexpr CGFloat kSystemPressedAlpha = 0.2;
-constexpr CGFloat kDisabledAlpha = 0.5;
+constexpr CGFloat kDisabledButtonAlpha = 0.5;
 constexpr CGFloat kSystemTitleSize = 15;
 constexpr CGFloat kTitleSize = 18;
 // What a button without any content keeps, so that it can still be touched.
@@ -149,7 +149,7 @@ void Button::update_dimming() {
   const bool has_own_image =
       images_.contains(pressed ? UIControlStateHighlighted : UIControlStateDisabled);
   CGFloat alpha = 1;
-  if (!self.isEnabled() && adjusts_when_disabled_) alpha = kDisabledAlpha;
+  if (!self.isEnabled() && adjusts_when_disabled_) alpha = kDisabledButtonAlpha;
   if (pressed && adjusts_when_highlighted_) {
     alpha = is_system() ? kSystemPressedAlpha : kPressedAlpha;
   }

@@ -17,7 +17,7 @@ constexpr CGFloat kShadowDrop = 2;
 constexpr CGFloat kShadowGrowth = 0.5;
 constexpr CGFloat kShadowAlpha = 0.09;
 constexpr CGFloat kKnobEdgeAlpha = 0.1;
-constexpr CGFloat kDisabledAlpha = 0.5;
+constexpr CGFloat kDisabledSwitchAlpha = 0.5;
 /// A finger has to travel this far before it drags the knob and does not tap it.
 constexpr CGFloat kDragStart = 5;
 constexpr double kDuration = 0.45;
@@ -105,7 +105,7 @@ void Switch::set_thumb_tint(UIColor color) {
 
 void Switch::set_enabled(BOOL enabled) {
   super<>("setEnabled:"_sel, enabled);
-  self.setAlpha(enabled ? 1 : kDisabledAlpha);
+  self.setAlpha(enabled ? 1 : kDisabledSwitchAlpha);
 }
 
 void Switch::set_frame(CGRect frame) {

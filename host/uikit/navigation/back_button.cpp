@@ -10,15 +10,15 @@
 namespace host::uikit {
 namespace {
 
-constexpr char kClassName[] = "UINavigationBarBackButton";
-constexpr CGFloat kFontSize = 17;
+constexpr char kBackButtonClassName[] = "UINavigationBarBackButton";
+constexpr CGFloat kBackFontSize = 17;
 constexpr CGFloat kChevronLeft = 8;
 constexpr CGSize kChevronSize{13, 21};
 constexpr CGFloat kChevronLine = 3;
 /// What the line's corners need of the chevron's size.
 constexpr CGFloat kChevronEdge = 2;
-constexpr CGFloat kMargin = 8;
-constexpr CGFloat kPressedAlpha = 0.2;
+constexpr CGFloat kBackMargin = 8;
+constexpr CGFloat kPressedBackAlpha = 0.2;
 
 objc::Ref<UIView> make_chevron(UIColor color, CGFloat height) {
   const CGRect frame{kChevronLeft, (height - kChevronSize.height) / 2, kChevronSize.width,
@@ -41,7 +41,7 @@ objc::Ref<UIView> make_chevron(UIColor color, CGFloat height) {
 
 objc::Ref<UILabel> make_title(NSString title, UIColor tint, CGFloat height, CGFloat room) {
   const auto label = objc::Ref<UILabel>::adopt(UILabel::alloc().initWithFrame({}));
-  label->setFont(UIFont::systemFontOfSize(kFontSize));
+  label->setFont(UIFont::systemFontOfSize(kBackFontSize));
   label->setTextColor(tint);
   const auto width_with = [&](NSString text) {
     label->setText(text);
@@ -62,12 +62,12 @@ void BackButton::fill(NSString title, UIColor tint, CGFloat height, CGFloat room
     part.setUserInteractionEnabled(NO);
     self.addSubview(part);
   }
-  self.setFrame({0, 0, CGRect(title_->frame()).max_x() + kMargin, height});
+  self.setFrame({0, 0, CGRect(title_->frame()).max_x() + kBackMargin, height});
 }
 
 void BackButton::set_highlighted(BOOL highlighted) {
   super<>("setHighlighted:"_sel, highlighted);
-  const CGFloat alpha = highlighted ? kPressedAlpha : 1;
+  const CGFloat alpha = highlighted ? kPressedBackAlpha : 1;
   chevron_->setAlpha(alpha);
   title_->setAlpha(alpha);
 }
@@ -79,14 +79,15 @@ void BackButton::place(CGFloat position) const {
 }
 
 objc::Ref<UIControl> make_back_button(NSString title, UIColor tint, CGFloat height, CGFloat room) {
-  const auto made = objc::send<UIView>(objc::Object(objc_getClass(kClassName)), "alloc"_sel);
+  const auto made =
+      objc::send<UIView>(objc::Object(objc_getClass(kBackButtonClassName)), "alloc"_sel);
   const auto button = objc::cast<UIControl>(made.initWithFrame({}));
   objc::state_of<BackButton>(button).fill(title, tint, height, room);
   return objc::Ref<UIControl>::adopt(button);
 }
 
 void export_back_button() {
-  objc::ClassBuilder(kClassName, "UIControl")
+  objc::ClassBuilder(kBackButtonClassName, "UIControl")
       .state<BackButton>()
       .method<&BackButton::set_highlighted>("setHighlighted:")
       .finish();

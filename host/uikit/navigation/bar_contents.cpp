@@ -11,8 +11,8 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kFontSize = 17;
-constexpr CGFloat kMargin = 15;
+constexpr CGFloat kBarFontSize = 17;
+constexpr CGFloat kBarMargin = 15;
 constexpr CGFloat kButtonMargin = 8;
 constexpr CGFloat kGap = 6;
 /// A title keeps at least this much; the way back is shortened first.
@@ -21,7 +21,7 @@ constexpr CGFloat kManyPoints = 10000;
 
 objc::Ref<UILabel> make_title(NSString text, CGSize room) {
   const auto label = objc::Ref<UILabel>::adopt(UILabel::alloc().initWithFrame({}));
-  label->setFont(UIFont::fontWithName("HelveticaNeue-Medium"_ns, kFontSize));
+  label->setFont(UIFont::fontWithName("HelveticaNeue-Medium"_ns, kBarFontSize));
   label->setTextAlignment(NSTextAlignmentCenter);
   label->setText(text);
   const CGFloat width = std::ceil(label->sizeThatFits({kManyPoints, room.height}).width);
@@ -59,16 +59,17 @@ UIButton BarContents::add_button(UIBarButtonItem item, bool at_left) {
   view_->addSubview(button);
   if (item.tintColor()) button.setTintColor(item.tintColor());
   const UIFont font = item.style() == UIBarButtonItemStyleDone
-                          ? UIFont::fontWithName("HelveticaNeue-Medium"_ns, kFontSize)
-                          : UIFont::systemFontOfSize(kFontSize);
+                          ? UIFont::fontWithName("HelveticaNeue-Medium"_ns, kBarFontSize)
+                          : UIFont::systemFontOfSize(kBarFontSize);
   button.titleLabel().setFont(font);
   button.setTitle(item.title(), UIControlStateNormal);
   button.setImage(item.image(), UIControlStateNormal);
   button.setEnabled(item.isEnabled());
   button.addTarget(item, "_press"_sel, UIControlEventTouchUpInside);
   const CGFloat width = std::ceil(button.sizeThatFits(bar).width) + 2 * kButtonMargin;
-  button.setFrame({at_left ? kMargin - kButtonMargin : bar.width - width - kMargin + kButtonMargin,
-                   0, width, bar.height});
+  button.setFrame(
+      {at_left ? kBarMargin - kButtonMargin : bar.width - width - kBarMargin + kButtonMargin, 0,
+       width, bar.height});
   return button;
 }
 
@@ -82,10 +83,10 @@ void BarContents::add_back(const Way& way) {
 // In the middle of the bar, or as near to it as the buttons leave room.
 void BarContents::add_title() {
   const CGSize bar = view_->bounds().size;
-  CGFloat left = kMargin;
+  CGFloat left = kBarMargin;
   if (left_) left = CGRect(left_->frame()).max_x();
   if (back_) left = CGRect(back_->frame()).max_x();
-  const CGFloat right = right_ ? CGRect(right_->frame()).min_x() : bar.width - kMargin;
+  const CGFloat right = right_ ? CGRect(right_->frame()).min_x() : bar.width - kBarMargin;
   const CGFloat room = std::max(right - left - 2 * kGap, 0.0);
   if (const UIView own = item_->titleView()) {
     title_ = objc::Ref<UIView>::retain(own);

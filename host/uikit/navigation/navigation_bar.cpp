@@ -8,7 +8,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kLineAlpha = 0.3;
+constexpr CGFloat kBarLineAlpha = 0.3;
 constexpr CGFloat kBarTintAlpha = 0.85;
 constexpr CGFloat kUsualStatusBar = 20;
 
@@ -34,7 +34,7 @@ UIView NavigationBar::init_with_frame(CGRect frame) {
   ground_ = objc::Ref<UIView>::adopt(glass);
   tint_ground_ = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({}));
   line_ = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({}));
-  line_->setBackgroundColor(UIColor::colorWithWhite(0, kLineAlpha));
+  line_->setBackgroundColor(UIColor::colorWithWhite(0, kBarLineAlpha));
   for (const UIView part : {ground_.get(), tint_ground_.get(), line_.get()}) {
     part.setUserInteractionEnabled(NO);
     self.addSubview(part);

@@ -8,7 +8,7 @@ namespace host::uikit {
 namespace {
 
 /// The page that is shown lies in the middle of three places.
-constexpr CGFloat kMiddle = 1;
+constexpr CGFloat kMiddlePlace = 1;
 
 UIViewController first_in(NSArray pages) {
   return pages ? objc::cast<UIViewController>(pages.firstObject()) : UIViewController();
@@ -44,8 +44,8 @@ void PageViewController::did_end_animation(UIScrollView) {
 void PageViewController::settle() {
   if (sliding_ || !current_) return;
   const CGFloat place = std::round(scroll_->contentOffset().x / std::max(width(), 1.0));
-  if (place < kMiddle && before_) return become(kBefore);
-  if (place > kMiddle && after_) return become(kAfter);
+  if (place < kMiddlePlace && before_) return become(kBefore);
+  if (place > kMiddlePlace && after_) return become(kAfter);
   const Page came = std::exchange(coming_, {});
   if (!came) return;
   if (is_seen()) {

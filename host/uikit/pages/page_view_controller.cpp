@@ -7,7 +7,7 @@ namespace {
 
 constexpr CGFloat kDotsHeight = 37;
 /// The page that is shown lies in the middle of three places.
-constexpr NSInteger kMiddle = 1;
+constexpr NSInteger kMiddleIndex = 1;
 constexpr NSInteger kPlaces = 3;
 
 }  // namespace
@@ -145,7 +145,7 @@ void PageViewController::arrange() {
     const CGSize size = scroll_->bounds().size;
     scroll_->setContentSize({static_cast<CGFloat>(kPlaces) * size.width, size.height});
     scroll_->setContentInset({0, before_ ? 0 : -size.width, 0, after_ ? 0 : -size.width});
-    put(current_, kMiddle);
+    put(current_, kMiddleIndex);
     for (const Page* beside : {&before_, &after_})
       if (*beside && (*beside)->isViewLoaded() && beside->get() != current_.get())
         (*beside)->view().removeFromSuperview();
@@ -170,7 +170,7 @@ void PageViewController::show_neighbour(Side side) {
     page->viewWillAppear(YES);
   }
   UIView::performWithoutAnimation(
-      objc::block([&, this] { put(page, side == kBefore ? kMiddle - 1 : kMiddle + 1); }));
+      objc::block([&, this] { put(page, side == kBefore ? kMiddleIndex - 1 : kMiddleIndex + 1); }));
 }
 
 /// Only a data source that counts its pages has dots for them, and it may hide them again.

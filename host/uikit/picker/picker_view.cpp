@@ -8,7 +8,7 @@ namespace {
 
 constexpr CGFloat kHeights[] = {162, 180, 216};
 constexpr CGFloat kDefaultWidth = 320;
-constexpr CGFloat kLineAlpha = 0.22;
+constexpr CGFloat kPickerLineAlpha = 0.22;
 
 /// The tallest of the platform's heights that is no more than what is asked for.
 CGFloat nearest_height(CGFloat wanted) {
@@ -27,7 +27,7 @@ CGRect fitted(CGRect frame) {
 objc::Ref<UIView> add_line(UIView picker) {
   auto line = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({}));
   line->setUserInteractionEnabled(NO);
-  line->setBackgroundColor(UIColor::colorWithWhite(0, kLineAlpha));
+  line->setBackgroundColor(UIColor::colorWithWhite(0, kPickerLineAlpha));
   picker.addSubview(line.get());
   return line;
 }

@@ -5,8 +5,8 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kFontSize = 22;
-constexpr CGFloat kMargin = 10;
+constexpr CGFloat kWheelFontSize = 22;
+constexpr CGFloat kWheelMargin = 10;
 /// The wheel's edge shows a little less than half of its round.
 constexpr double kSeenShare = 0.98;
 constexpr CGFloat kFarAlpha = 0.42;
@@ -103,10 +103,10 @@ void PickerWheel::layout_subviews() {
 
 UILabel PickerWheel::label_of(NSInteger row) {
   if (const auto made = labels_.find(row); made != labels_.end()) return made->second.get();
-  const CGFloat width = self.bounds().size.width - 2 * kMargin;
-  auto label =
-      objc::Ref<UILabel>::adopt(UILabel::alloc().initWithFrame({kMargin, 0, width, kPickerRow}));
-  label->setFont(UIFont::systemFontOfSize(kFontSize));
+  const CGFloat width = self.bounds().size.width - 2 * kWheelMargin;
+  auto label = objc::Ref<UILabel>::adopt(
+      UILabel::alloc().initWithFrame({kWheelMargin, 0, width, kPickerRow}));
+  label->setFont(UIFont::systemFontOfSize(kWheelFontSize));
   label->setTextAlignment(NSTextAlignmentCenter);
   label->setText(rows_.title ? rows_.title(row) : NSString());
   self.addSubview(label.get());

@@ -6,7 +6,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr char kClassName[] = "UIScrollViewDelayedTouchesBeganGestureRecognizer";
+constexpr char kDelayClassName[] = "UIScrollViewDelayedTouchesBeganGestureRecognizer";
 
 class ContentTouchDelay : public objc::Implementation<ContentTouchDelay, UIGestureRecognizer> {
  public:
@@ -50,7 +50,7 @@ class ContentTouchDelay : public objc::Implementation<ContentTouchDelay, UIGestu
 }  // namespace
 
 objc::Ref<UIGestureRecognizer> make_content_touch_delay(UIScrollView) {
-  const objc::Object cls(objc_getClass(kClassName));
+  const objc::Object cls(objc_getClass(kDelayClassName));
   const auto made = objc::send<UIGestureRecognizer>(cls, "alloc"_sel);
   auto delay = objc::Ref<UIGestureRecognizer>::adopt(made.initWithTarget(nil, nullptr));
   delay->setDelaysTouchesBegan(YES);
@@ -60,7 +60,7 @@ objc::Ref<UIGestureRecognizer> make_content_touch_delay(UIScrollView) {
 }
 
 void export_content_touch_delay() {
-  objc::ClassBuilder(kClassName, "UIGestureRecognizer")
+  objc::ClassBuilder(kDelayClassName, "UIGestureRecognizer")
       .state<ContentTouchDelay>()
       .method<&ContentTouchDelay::touches_began>("touchesBegan:withEvent:")
       .method<&ContentTouchDelay::touches_ended>("touchesEnded:withEvent:")

@@ -8,8 +8,8 @@
 namespace host::uikit {
 namespace {
 
-constexpr double kMargin = 15;
-constexpr double kFontSize = 13;
+constexpr double kGroupMargin = 15;
+constexpr double kGroupFontSize = 13;
 /// Between the text and its rows.
 constexpr double kRise = 7;
 constexpr double kFirstGap = 35;
@@ -19,7 +19,7 @@ constexpr double kManyLines = 10000;
 
 objc::Ref<UILabel> make_label(NSString text, GroupEnd end) {
   auto label = objc::Ref<UILabel>::adopt(UILabel::alloc().initWithFrame({}));
-  label->setFont(UIFont::systemFontOfSize(kFontSize));
+  label->setFont(UIFont::systemFontOfSize(kGroupFontSize));
   label->setTextColor(UIColor::colorWithRed(109.0 / 255, 109.0 / 255, 114.0 / 255, 1));
   label->setNumberOfLines(0);
   label->setText(end == GroupEnd::Header ? text.uppercaseString() : text);
@@ -27,7 +27,7 @@ objc::Ref<UILabel> make_label(NSString text, GroupEnd end) {
 }
 
 double text_height(UILabel label, double width) {
-  return std::ceil(label.sizeThatFits({width - 2 * kMargin, kManyLines}).height);
+  return std::ceil(label.sizeThatFits({width - 2 * kGroupMargin, kManyLines}).height);
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ objc::Ref<UIView> make_group_title(NSString text, GroupEnd end, CGSize size) {
   const auto label = make_label(text, end);
   const double height = text_height(label.get(), size.width);
   const double top = end == GroupEnd::Header ? size.height - kRise - height : kRise;
-  label->setFrame({kMargin, top, size.width - 2 * kMargin, height});
+  label->setFrame({kGroupMargin, top, size.width - 2 * kGroupMargin, height});
   label->setAutoresizingMask(UIViewAutoresizingFlexibleWidth);
   ground->addSubview(label.get());
   return ground;

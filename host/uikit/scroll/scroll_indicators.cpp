@@ -9,7 +9,7 @@ namespace host::uikit {
 namespace {
 
 constexpr double kThickness = 2.5;
-constexpr double kMargin = 3.0;
+constexpr double kIndicatorMargin = 3.0;
 constexpr double kShortest = 36.0;
 /// Pushed beyond the end of the content, a bar shrinks no further than to a dot of this length.
 constexpr double kShortestBeyond = 7.0;
@@ -76,22 +76,22 @@ void ScrollIndicators::place_bar(objc::Ref<UIView>& kept, bool shown, CGRect fra
 
 void ScrollIndicators::place(const ScrollGeometry& geometry, CGPoint offset, UIEdgeInsets insets,
                              Shown shown) {
-  const double room = shown.horizontal && shown.vertical ? kThickness + kMargin : 0;
+  const double room = shown.horizontal && shown.vertical ? kThickness + kIndicatorMargin : 0;
   const CGSize view = geometry.view;
-  const double width = view.width - insets.left - insets.right - 2 * kMargin - room;
-  const double height = view.height - insets.top - insets.bottom - 2 * kMargin - room;
+  const double width = view.width - insets.left - insets.right - 2 * kIndicatorMargin - room;
+  const double height = view.height - insets.top - insets.bottom - 2 * kIndicatorMargin - room;
   const Span across = span_on_track(std::max(width, 0.0), view.width, geometry.content.width,
                                     offset.x, geometry.horizontal());
   const Span down = span_on_track(std::max(height, 0.0), view.height, geometry.content.height,
                                   offset.y, geometry.vertical());
   place_bar(horizontal_, shown.horizontal,
-            {on_pixel(offset.x + insets.left + kMargin + across.begin),
-             on_pixel(offset.y + view.height - insets.bottom - kMargin - kThickness),
+            {on_pixel(offset.x + insets.left + kIndicatorMargin + across.begin),
+             on_pixel(offset.y + view.height - insets.bottom - kIndicatorMargin - kThickness),
              on_pixel(across.length), kThickness});
-  place_bar(
-      vertical_, shown.vertical,
-      {on_pixel(offset.x + view.width - insets.right - kMargin - kThickness),
-       on_pixel(offset.y + insets.top + kMargin + down.begin), kThickness, on_pixel(down.length)});
+  place_bar(vertical_, shown.vertical,
+            {on_pixel(offset.x + view.width - insets.right - kIndicatorMargin - kThickness),
+             on_pixel(offset.y + insets.top + kIndicatorMargin + down.begin), kThickness,
+             on_pixel(down.length)});
 }
 
 void ScrollIndicators::appear() {

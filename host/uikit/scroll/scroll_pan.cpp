@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr char kClassName[] = "UIScrollViewPanGestureRecognizer";
+constexpr char kPanClassName[] = "UIScrollViewPanGestureRecognizer";
 
 class ScrollPan : public objc::Implementation<ScrollPan, UIPanGestureRecognizer> {
  public:
@@ -31,13 +31,13 @@ class ScrollPan : public objc::Implementation<ScrollPan, UIPanGestureRecognizer>
 }  // namespace
 
 objc::Ref<UIPanGestureRecognizer> make_scroll_pan(UIScrollView view) {
-  const objc::Object cls(objc_getClass(kClassName));
+  const objc::Object cls(objc_getClass(kPanClassName));
   const auto made = objc::send<UIPanGestureRecognizer>(cls, "alloc"_sel);
   return objc::Ref<UIPanGestureRecognizer>::adopt(made.initWithTarget(view, "handlePan:"_sel));
 }
 
 void export_scroll_pan() {
-  objc::ClassBuilder(kClassName, "UIPanGestureRecognizer")
+  objc::ClassBuilder(kPanClassName, "UIPanGestureRecognizer")
       .state<ScrollPan>()
       .method<&ScrollPan::touches_began>("touchesBegan:withEvent:")
       .method<&ScrollPan::reset>("reset")

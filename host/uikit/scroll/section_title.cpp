@@ -6,8 +6,8 @@
 namespace host::uikit {
 namespace {
 
-constexpr double kMargin = 15;
-constexpr double kFontSize = 14;
+constexpr double kSectionMargin = 15;
+constexpr double kSectionFontSize = 14;
 constexpr double kGrey = 247.0 / 255;
 
 }  // namespace
@@ -18,9 +18,10 @@ objc::Ref<UIView> make_section_title(NSString title) {
   constexpr double kHeight = 28;
   auto bar = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({0, 0, kWidth, kHeight}));
   bar->setBackgroundColor(UIColor::colorWithWhite(kGrey, 1));
-  const UILabel label = UILabel::alloc().initWithFrame({kMargin, 0, kWidth - 2 * kMargin, kHeight});
+  const UILabel label =
+      UILabel::alloc().initWithFrame({kSectionMargin, 0, kWidth - 2 * kSectionMargin, kHeight});
   label.setAutoresizingMask(UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight);
-  label.setFont(UIFont::boldSystemFontOfSize(kFontSize));
+  label.setFont(UIFont::boldSystemFontOfSize(kSectionFontSize));
   label.setText(title);
   bar->addSubview(label);
   label.release();

@@ -7,7 +7,7 @@ namespace host::uikit {
 namespace {
 
 constexpr CGSize kFirstSize{320, 44};
-constexpr CGFloat kFontSize = 17;
+constexpr CGFloat kCellFontSize = 17;
 constexpr CGFloat kSubtitleFontSize = 12;
 constexpr CGFloat kSelectionGrey = 217.0 / 255;
 constexpr CGFloat kDetailGrey = 142.0 / 255;
@@ -52,14 +52,14 @@ objc::Ref<UILabel> TableViewCell::make_label(CGFloat font_size) {
 }
 
 UILabel TableViewCell::text_label() {
-  if (!text_label_) text_label_ = make_label(kFontSize);
+  if (!text_label_) text_label_ = make_label(kCellFontSize);
   return text_label_.get();
 }
 
 UILabel TableViewCell::detail_text_label() {
   if (detail_text_label_ || style_ == UITableViewCellStyleDefault) return detail_text_label_.get();
   const bool is_subtitle = style_ == UITableViewCellStyleSubtitle;
-  detail_text_label_ = make_label(is_subtitle ? kSubtitleFontSize : kFontSize);
+  detail_text_label_ = make_label(is_subtitle ? kSubtitleFontSize : kCellFontSize);
   if (!is_subtitle) detail_text_label_->setTextColor(UIColor::colorWithWhite(kDetailGrey, 1));
   return detail_text_label_.get();
 }

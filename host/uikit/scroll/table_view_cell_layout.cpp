@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kMargin = 15;
+constexpr CGFloat kCellMargin = 15;
 constexpr CGFloat kAccessoryMargin = 15;
 /// Between the two texts of a row that has them side by side.
 constexpr CGFloat kTextGap = 6;
@@ -38,7 +38,7 @@ void TableViewCell::layout_subviews() {
 void TableViewCell::place_separator(CGRect bounds) {
   if (!separator_) return;
   const UITableView table = table_of(self);
-  const UIEdgeInsets own_default{0, kMargin, 0, 0};
+  const UIEdgeInsets own_default{0, kCellMargin, 0, 0};
   const UIEdgeInsets inset =
       table && separator_inset_ == own_default ? table.separatorInset() : separator_inset_;
   const CGFloat height = hairline();
@@ -54,7 +54,7 @@ CGFloat TableViewCell::separator_left(const UIEdgeInsets& inset) const {
   if (!in_group_) return inset.left;
   if (last_in_group_) return 0;
   const bool has_icon = image_view_ && image_view_->image();
-  return has_icon ? inset.left + image_view_->image().size().width + kMargin : inset.left;
+  return has_icon ? inset.left + image_view_->image().size().width + kCellMargin : inset.left;
 }
 
 CGFloat TableViewCell::place_accessory(CGRect bounds) {
@@ -69,7 +69,7 @@ CGFloat TableViewCell::place_accessory(CGRect bounds) {
 
 // By bounds and centre, since a transform of the picture's view is the owner's to keep.
 CGFloat TableViewCell::place_picture(CGRect content) {
-  const CGFloat left = content.min_x() + kMargin;
+  const CGFloat left = content.min_x() + kCellMargin;
   if (!image_view_ || !image_view_->image()) return left;
   CGSize size = image_view_->image().size();
   if (size.height > content.size.height && size.height > 0) {
@@ -78,11 +78,11 @@ CGFloat TableViewCell::place_picture(CGRect content) {
   }
   image_view_->setBounds({0, 0, size.width, size.height});
   image_view_->setCenter({on_pixel(left + size.width / 2), on_pixel(content.size.height / 2)});
-  return left + size.width + kMargin;
+  return left + size.width + kCellMargin;
 }
 
 void TableViewCell::place_texts(CGRect content, CGFloat left) {
-  const CGFloat right = std::max(left, content.max_x() - kMargin);
+  const CGFloat right = std::max(left, content.max_x() - kCellMargin);
   const CGFloat height = content.size.height;
   const CGSize room{right - left, height};
   const bool has_detail = detail_text_label_ && detail_text_label_->text();

@@ -11,7 +11,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kStandardSize = 17;
+constexpr CGFloat kLabelFontSize = 17;
 constexpr double kDisabledAlpha = 0.44;
 // Smaller than this no letter can be told from another, whatever the label allows.
 constexpr double kSmallestScale = 0.1;
@@ -42,7 +42,7 @@ void shrink(StyledText& text, double factor) {
 
 UILabel Label::init_with_frame(CGRect frame) {
   super<UILabel>("initWithFrame:"_sel, frame);
-  font_.reset(UIFont::systemFontOfSize(kStandardSize));
+  font_.reset(UIFont::systemFontOfSize(kLabelFontSize));
   text_color_.reset(UIColor::blackColor());
   self.setUserInteractionEnabled(NO);
   self.setOpaque(NO);
@@ -82,7 +82,7 @@ void Label::override_attribute(NSString name, objc::Object value) {
 }
 
 void Label::set_font(UIFont font) {
-  const UIFont wanted = font ? font : UIFont::systemFontOfSize(kStandardSize);
+  const UIFont wanted = font ? font : UIFont::systemFontOfSize(kLabelFontSize);
   if (!attributed_ && same(font_.get(), wanted)) return;
   font_.reset(wanted);
   override_attribute(NSFontAttributeName, wanted);

@@ -3,7 +3,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kStandardSize = 17;
+constexpr CGFloat kFieldFontSize = 17;
 
 UIColor placeholder_color() {
   return UIColor::colorWithRed(0.78, 0.78, 0.80, 1);
@@ -12,7 +12,7 @@ UIColor placeholder_color() {
 }  // namespace
 
 UITextField TextField::init_with_frame(CGRect frame) {
-  font_.reset(UIFont::systemFontOfSize(kStandardSize));
+  font_.reset(UIFont::systemFontOfSize(kFieldFontSize));
   text_color_.reset(UIColor::blackColor());
   super<UITextField>("initWithFrame:"_sel, frame);
   self.setOpaque(NO);
@@ -42,7 +42,7 @@ void TextField::set_attributed_placeholder(NSAttributedString text) {
 }
 
 void TextField::set_font(UIFont font) {
-  font_.reset(font ? font : UIFont::systemFontOfSize(kStandardSize));
+  font_.reset(font ? font : UIFont::systemFontOfSize(kFieldFontSize));
   self.setNeedsDisplay();
   self.setNeedsLayout();
 }

@@ -3,7 +3,7 @@
 namespace host::uikit {
 namespace {
 
-constexpr CGFloat kStandardSize = 12;
+constexpr CGFloat kTextViewFontSize = 12;
 constexpr CGFloat kStandardInset = 8;
 
 /// Shows the part of a text view's text that is in sight.
@@ -28,7 +28,7 @@ UIView make_canvas() {
 }  // namespace
 
 UITextView TextView::init_with_frame(CGRect frame) {
-  font_.reset(UIFont::systemFontOfSize(kStandardSize));
+  font_.reset(UIFont::systemFontOfSize(kTextViewFontSize));
   text_color_.reset(UIColor::blackColor());
   inset_ = {kStandardInset, 0, kStandardInset, 0};
   canvas_ = objc::Ref<UIView>::adopt(make_canvas());
@@ -53,7 +53,7 @@ void TextView::text_replaced() {
 }
 
 void TextView::set_font(UIFont font) {
-  font_.reset(font ? font : UIFont::systemFontOfSize(kStandardSize));
+  font_.reset(font ? font : UIFont::systemFontOfSize(kTextViewFontSize));
   looks_changed();
 }
 
