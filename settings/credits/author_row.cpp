@@ -9,19 +9,19 @@
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kPhotoSide = 60;
+constexpr CGFloat kRowPhotoSide = 60;
 constexpr CGFloat kPhotoX = 10;
-constexpr CGFloat kTextX = kPhotoX + kPhotoSide + 10;
-constexpr CGFloat kRoleSize = 14;
+constexpr CGFloat kTextX = kPhotoX + kRowPhotoSide + 10;
+constexpr CGFloat kRowRoleSize = 14;
 constexpr CGFloat kLineGap = 2;
 constexpr CGSize kArrow = {8, 15};
 constexpr CGFloat kArrowMargin = 15;
 
 void add_photo(PSTableCell cell, const Author& author) {
   const auto photo = objc::adopt(UIImageView::alloc().initWithFrame(
-      {kPhotoX, (kAuthorRowHeight - kPhotoSide) / 2, kPhotoSide, kPhotoSide}));
+      {kPhotoX, (kAuthorRowHeight - kRowPhotoSide) / 2, kRowPhotoSide, kRowPhotoSide}));
   photo->layer().setMasksToBounds(YES);
-  photo->layer().setCornerRadius(kPhotoSide / 2);
+  photo->layer().setCornerRadius(kRowPhotoSide / 2);
   photo->setImage(imageFromFile(as_text(author.photo)));
   cell.addSubview(photo);
 }
@@ -39,7 +39,7 @@ objc::Ref<UILabel> line(const char* text, UIFont font) {
 void add_texts(PSTableCell cell, const Author& author) {
   const auto name = line(author.name, UIFont::fontWithName("HelveticaNeue-UltraLight"_ns,
                                                            UIFont::labelFontSize() + 1));
-  const auto role = line(author.role, UIFont::fontWithName("HelveticaNeue-Light"_ns, kRoleSize));
+  const auto role = line(author.role, UIFont::fontWithName("HelveticaNeue-Light"_ns, kRowRoleSize));
   const CGSize name_size = name->frame().size;
   const CGSize role_size = role->frame().size;
   const CGFloat top = (kAuthorRowHeight - name_size.height - kLineGap - role_size.height) / 2;

@@ -14,19 +14,19 @@
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kPhotoSide = 100;
+constexpr CGFloat kCardPhotoSide = 100;
 constexpr CGFloat kPhotoTop = 70;
 constexpr CGFloat kNameGap = 5;
-constexpr CGFloat kNameHeight = 34;
-constexpr CGFloat kNameSize = 25;
+constexpr CGFloat kCardNameHeight = 34;
+constexpr CGFloat kCardNameSize = 25;
 constexpr CGFloat kRoleHeight = 24;
-constexpr CGFloat kRoleSize = 17;
+constexpr CGFloat kCardRoleSize = 17;
 constexpr CGFloat kStripGap = 28;
 constexpr CGFloat kStripHeight = 130;
-constexpr CGFloat kHairline = 0.5;
+constexpr CGFloat kStripLine = 0.5;
 constexpr CGRect kClose = {12, 26, 80, 36};
-constexpr CGFloat kCardHeight = kPhotoTop + kPhotoSide + kNameGap + kNameHeight + kRoleHeight +
-                                kStripGap + 2 * (kHairline + kStripHeight);
+constexpr CGFloat kCardHeight = kPhotoTop + kCardPhotoSide + kNameGap + kCardNameHeight +
+                                kRoleHeight + kStripGap + 2 * (kStripLine + kStripHeight);
 
 constexpr CGFloat kTileMargin = 15;
 constexpr CGSize kTileSize = {90, 110};
@@ -44,12 +44,12 @@ CGFloat add_photo(UIView card, const Author& author) {
   const CGFloat missing = size.height < kCardHeight ? kCardHeight - size.height : 0;
   const CGFloat top = kPhotoTop - missing;
   const auto photo = objc::adopt(UIImageView::alloc().initWithFrame(
-      {(size.width - kPhotoSide) / 2, top, kPhotoSide, kPhotoSide}));
+      {(size.width - kCardPhotoSide) / 2, top, kCardPhotoSide, kCardPhotoSide}));
   photo->layer().setMasksToBounds(YES);
-  photo->layer().setCornerRadius(kPhotoSide / 2);
+  photo->layer().setCornerRadius(kCardPhotoSide / 2);
   photo->setImage(UIImage::imageWithContentsOfFile(picture_path(author.photo, "@2x.png"_ns)));
   card.addSubview(photo);
-  return top + kPhotoSide;
+  return top + kCardPhotoSide;
 }
 
 /// Gives where it ends.
@@ -73,7 +73,7 @@ void add_close_button(UIView card, PSTableCell cell) {
 
 void add_hairline_above(UIView card, CGFloat top) {
   const auto line = objc::adopt(UIView::alloc().initWithFrame(
-      {kTileMargin, top, card.frame().size.width - kTileMargin, kHairline}));
+      {kTileMargin, top, card.frame().size.width - kTileMargin, kStripLine}));
   line->setBackgroundColor(UIColor::colorWithWhite(0, 0.2));
   card.addSubview(line);
 }
@@ -81,7 +81,7 @@ void add_hairline_above(UIView card, CGFloat top) {
 objc::Ref<UIScrollView> strip(UIView card, CGFloat top) {
   add_hairline_above(card, top);
   auto made = objc::adopt(UIScrollView::alloc().initWithFrame(
-      {0, top + kHairline, card.frame().size.width, kStripHeight}));
+      {0, top + kStripLine, card.frame().size.width, kStripHeight}));
   made->setShowsHorizontalScrollIndicator(NO);
   card.addSubview(made);
   return made;
@@ -131,11 +131,11 @@ objc::Ref<UIViewController> make_card(const Author& author, PSTableCell cell) {
   card.setBackgroundColor(UIColor::whiteColor());
   const CGFloat photo_end = add_photo(card, author);
   const CGFloat name_end =
-      add_line(card, author.name, photo_end + kNameGap, kNameHeight, kNameSize);
-  const CGFloat role_end = add_line(card, author.role, name_end, kRoleHeight, kRoleSize);
+      add_line(card, author.name, photo_end + kNameGap, kCardNameHeight, kCardNameSize);
+  const CGFloat role_end = add_line(card, author.role, name_end, kRoleHeight, kCardRoleSize);
   add_close_button(card, cell);
   add_packages(card, author, cell, role_end + kStripGap);
-  add_contacts(card, author, cell, role_end + kStripGap + kStripHeight + kHairline);
+  add_contacts(card, author, cell, role_end + kStripGap + kStripHeight + kStripLine);
   return controller;
 }
 

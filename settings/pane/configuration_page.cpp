@@ -10,7 +10,7 @@ struct configurationController
 namespace sonavue {
 namespace {
 
-NSArray specifiers(configurationController self) {
+NSArray configuration_rows(configurationController self) {
   if (!self.cached_specifiers()) {
     self.setSpecifiers(NSArray::arrayWithObjects(
         group_with_footer("desc_style"_ns), link_row(self, "style"_ns, styleController::cls())));
@@ -22,7 +22,7 @@ NSArray specifiers(configurationController self) {
 
 void make_configuration_page() {
   objc::make_own_class<configurationController>(
-      [](objc::ClassBuilder& builder) { builder.method<&specifiers>("specifiers"); });
+      [](objc::ClassBuilder& builder) { builder.method<&configuration_rows>("specifiers"); });
 }
 
 }  // namespace sonavue

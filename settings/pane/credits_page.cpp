@@ -7,7 +7,7 @@
 namespace sonavue {
 namespace {
 
-NSArray specifiers(creatorsController self) {
+NSArray credits_rows(creatorsController self) {
   settings::set_where(self);
   if (!self.cached_specifiers()) {
     self.setSpecifiers(NSArray::arrayWithObjects(
@@ -21,7 +21,7 @@ NSArray specifiers(creatorsController self) {
 
 void make_credits_page() {
   objc::make_own_class<creatorsController>(
-      [](objc::ClassBuilder& builder) { builder.method<&specifiers>("specifiers"); });
+      [](objc::ClassBuilder& builder) { builder.method<&credits_rows>("specifiers"); });
 }
 
 }  // namespace sonavue

@@ -9,25 +9,26 @@
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kLogoSide = 130;
-constexpr CGFloat kLogoTop = 10;
-constexpr CGFloat kNameTop = kLogoTop + kLogoSide + 5;
-constexpr CGFloat kNameHeight = 50;
-constexpr CGFloat kNameSize = 50;
+constexpr CGFloat kHeaderLogoSide = 130;
+constexpr CGFloat kHeaderLogoTop = 10;
+constexpr CGFloat kNameTop = kHeaderLogoTop + kHeaderLogoSide + 5;
+constexpr CGFloat kProductNameHeight = 50;
+constexpr CGFloat kProductNameSize = 50;
 constexpr CGFloat kHeight = 184;
 
 objc::Ref<UIImageView> logo(CGFloat width) {
   auto view = objc::adopt(UIImageView::alloc().initWithFrame(
-      {(width - kLogoSide) / 2, kLogoTop, kLogoSide, kLogoSide}));
+      {(width - kHeaderLogoSide) / 2, kHeaderLogoTop, kHeaderLogoSide, kHeaderLogoSide}));
   view->setImage(asset<"logo_setup.png">());
   return view;
 }
 
 objc::Ref<UILabel> name(CGFloat width) {
-  auto label = objc::adopt(UILabel::alloc().initWithFrame({0, kNameTop, width, kNameHeight}));
+  auto label =
+      objc::adopt(UILabel::alloc().initWithFrame({0, kNameTop, width, kProductNameHeight}));
   label->setText("Sonavue2"_ns);
   label->setTextAlignment(NSTextAlignmentCenter);
-  label->setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, kNameSize));
+  label->setFont(UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, kProductNameSize));
   label->setTextColor(UIColor::redColor());
   return label;
 }

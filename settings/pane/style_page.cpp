@@ -11,12 +11,11 @@
 #include "settings/pane/style_rows.h"
 #include "settings/preferences.h"
 #include "settings/texts.h"
+#include "settings/wizard/locked_view_controller.h"
 #include "settings/wizard/wizard.h"
 
 namespace sonavue {
 namespace {
-
-constexpr NSUInteger kPortraitOnly = 2;
 
 class StylePage : public objc::Implementation<StylePage, styleController> {
  public:

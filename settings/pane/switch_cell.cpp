@@ -5,8 +5,8 @@
 namespace sonavue {
 namespace {
 
-PSTableCell init(SRSwitchTableCell self, UITableViewCellStyle style, NSString reuse_identifier,
-                 PSSpecifier specifier) {
+PSTableCell init_switch_cell(SRSwitchTableCell self, UITableViewCellStyle style,
+                             NSString reuse_identifier, PSSpecifier specifier) {
   const auto made = objc::send_super<SRSwitchTableCell>(
       self, SRSwitchTableCell::cls(), "initWithStyle:reuseIdentifier:specifier:"_sel, style,
       reuse_identifier, specifier);
@@ -18,7 +18,7 @@ PSTableCell init(SRSwitchTableCell self, UITableViewCellStyle style, NSString re
 
 void make_switch_cell() {
   objc::make_own_class<SRSwitchTableCell>([](objc::ClassBuilder& builder) {
-    builder.method<&init>("initWithStyle:reuseIdentifier:specifier:");
+    builder.method<&init_switch_cell>("initWithStyle:reuseIdentifier:specifier:");
   });
 }
 

@@ -29,8 +29,8 @@ void inizialize(Linker self, NSString name, UIImage image, BOOL border, objc::Ob
   self.addGestureRecognizer(tap);
 }
 
-Linker init(Linker self, CGRect frame, NSString name, UIImage image, BOOL border,
-            objc::Object target, objc::Sel action) {
+Linker init_linker(Linker self, CGRect frame, NSString name, UIImage image, BOOL border,
+                   objc::Object target, objc::Sel action) {
   const auto made = objc::send_super<Linker>(self, Linker::cls(), "initWithFrame:"_sel, frame);
   objc::send<>(made, "inizialize:image:border:target:action:"_sel, name, image, border, target,
                action);
@@ -41,7 +41,7 @@ Linker init(Linker self, CGRect frame, NSString name, UIImage image, BOOL border
 
 void make_linker() {
   objc::make_own_class<Linker>([](objc::ClassBuilder& builder) {
-    builder.method<&init>("initWithFrame:name:image:border:target:action:")
+    builder.method<&init_linker>("initWithFrame:name:image:border:target:action:")
         .method<&inizialize>("inizialize:image:border:target:action:");
   });
 }

@@ -3,8 +3,6 @@
 namespace sonavue {
 namespace {
 
-constexpr NSUInteger kPortraitOnly = 2;
-
 BOOL should_autorotate(LockedUIViewController) {
   return NO;
 }

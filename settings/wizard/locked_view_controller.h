@@ -9,6 +9,9 @@ struct LockedUIViewController
 
 namespace sonavue {
 
+/// The one orientation of such a page, as a mask.
+inline constexpr NSUInteger kPortraitOnly = 2;
+
 void make_locked_view_controller();
 
 }  // namespace sonavue

@@ -11,7 +11,7 @@
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kRowHeight = 45;
+constexpr CGFloat kQuestionRowHeight = 45;
 
 /// Makes the pages one after another.
 class Questions {
@@ -40,13 +40,13 @@ class Questions {
   }
   void offer_tutorial(NSString text) const {
     add_linker(add_text_page(pages_, {text, {0, 100, size_.width, 210}}),
-               {0, size_.height / 2 + 100, size_.width, kRowHeight}, "Tutorial"_ns,
+               {0, size_.height / 2 + 100, size_.width, kQuestionRowHeight}, "Tutorial"_ns,
                asset_path<"Finish@2x.png">(), target_, "showTutorial"_sel);
   }
 
  private:
   CGRect whole_text() const { return {0, 30, size_.width, size_.height - 150}; }
-  CGRect row_frame() const { return {0, 0.75 * size_.height, size_.width, kRowHeight}; }
+  CGRect row_frame() const { return {0, 0.75 * size_.height, size_.width, kQuestionRowHeight}; }
 
   NSMutableArray pages_;
   CGSize size_;

@@ -8,7 +8,7 @@
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kHairline = 0.5;
+constexpr CGFloat kRowLine = 0.5;
 constexpr CGPoint kIconOrigin = {20, 8};
 constexpr CGFloat kTitleGap = 15;
 
@@ -34,7 +34,7 @@ void add_title(UIView view, NSString text, CGFloat x) {
 }  // namespace
 
 void add_hairline(UIView view) {
-  view.layer().setBorderWidth(kHairline);
+  view.layer().setBorderWidth(kRowLine);
   view.layer().setBorderColor(UIColor::grayColor().CGColor());
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr CGFloat kPictureSide = 100;
 constexpr CGFloat kPictureCorner = 30;
-constexpr CGFloat kRowHeight = 45;
+constexpr CGFloat kTutorialRowHeight = 45;
 
 void add_picture(UIView page, CGSize size) {
   const auto picture = objc::adopt(UIImageView::alloc().initWithFrame(
@@ -42,8 +42,8 @@ void add_tutorial_pages(NSMutableArray pages, CGRect bounds, styleController tar
        whole, kManyLines});
   add_linker(
       add_text_page(pages, {"Finish"_ns, {0, 30, size.width, size.height - 150}, kManyLines}),
-      {0, size.height / 2 + 100, size.width, kRowHeight}, "Done"_ns, asset_path<"Finish@2x.png">(),
-      target, "dismissIntro"_sel);
+      {0, size.height / 2 + 100, size.width, kTutorialRowHeight}, "Done"_ns,
+      asset_path<"Finish@2x.png">(), target, "dismissIntro"_sel);
 }
 
 }  // namespace sonavue

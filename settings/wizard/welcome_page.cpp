@@ -8,9 +8,9 @@
 namespace sonavue {
 namespace {
 
-constexpr CGFloat kLogoSide = 130;
-constexpr CGFloat kLogoTop = 50;
-constexpr CGFloat kTitleTop = kLogoTop + kLogoSide + 25;
+constexpr CGFloat kWelcomeLogoSide = 130;
+constexpr CGFloat kWelcomeLogoTop = 50;
+constexpr CGFloat kTitleTop = kWelcomeLogoTop + kWelcomeLogoSide + 25;
 constexpr CGFloat kTitleHeight = 50;
 constexpr CGFloat kHelloTop = kTitleTop + kTitleHeight - 20;
 constexpr CGFloat kHelloMargin = 15;
@@ -19,7 +19,7 @@ constexpr CGSize kMarkSize = {20, 70};
 constexpr CGFloat kMarkFromBottom = 80;
 constexpr CGSize kLetterSize = {15, 50};
 constexpr CGFloat kLetterFromBottom = 65;
-constexpr double kFade = 0.8;
+constexpr double kPartsFade = 0.8;
 constexpr double kFadeStep = 0.08;
 
 struct Letter {
@@ -52,9 +52,9 @@ NSString ultra_light() {
 }
 
 void add_logo(UIView page) {
-  const CGFloat x = (page.frame().size.width - kLogoSide) / 2;
-  const auto logo =
-      objc::adopt(UIImageView::alloc().initWithFrame({x, kLogoTop, kLogoSide, kLogoSide}));
+  const CGFloat x = (page.frame().size.width - kWelcomeLogoSide) / 2;
+  const auto logo = objc::adopt(
+      UIImageView::alloc().initWithFrame({x, kWelcomeLogoTop, kWelcomeLogoSide, kWelcomeLogoSide}));
   logo->setContentMode(UIViewContentModeScaleAspectFill);
   logo->setImage(asset<"logo_setup.png">());
   page.addSubview(logo);
@@ -105,9 +105,9 @@ void WelcomePage::wave(objc::Block<void(BOOL)> at_end) const {
     const bool is_last = i == kHintParts - 1;
     const objc::OwnedBlock<void(BOOL)> end(is_last ? at_end : nullptr);
     UIView::animateWithDuration(
-        kFade, kFadeStep * i, UIViewAnimationOptions{}, objc::block([part] { part->setAlpha(0); }),
-        objc::block([part, end](BOOL) {
-          UIView::animateWithDuration(kFade, 0, UIViewAnimationOptions{},
+        kPartsFade, kFadeStep * i, UIViewAnimationOptions{},
+        objc::block([part] { part->setAlpha(0); }), objc::block([part, end](BOOL) {
+          UIView::animateWithDuration(kPartsFade, 0, UIViewAnimationOptions{},
                                       objc::block([part] { part->setAlpha(1); }), end.get());
         }));
   }

@@ -14,7 +14,7 @@ namespace sonavue {
 namespace {
 
 constexpr double kSlide = 0.3;
-constexpr double kFade = 1.0;
+constexpr double kWizardFade = 1.0;
 // A pull to the left is stiff: there is nothing on that side.
 constexpr CGFloat kStiffness = 3;
 // The service's page stands before the question that led to it.
@@ -88,7 +88,7 @@ void Wizard::show_setup() {
   show_page(0);
   view.setAlpha(0);
   main_->view().addSubview(view);
-  UIView::animateWithDuration(kFade, objc::block([view] { view.setAlpha(1); }));
+  UIView::animateWithDuration(kWizardFade, objc::block([view] { view.setAlpha(1); }));
 }
 
 void Wizard::show_page(NSUInteger index) const {
@@ -107,11 +107,12 @@ void Wizard::show_tutorial() {
   const UIView view = controller_->view();
   const auto owner = objc::Ref<styleController>::retain(owner_);
   UIView::animateWithDuration(
-      kFade, objc::block([view] { view.setAlpha(0); }), objc::block([this, owner, view](BOOL) {
+      kWizardFade, objc::block([view] { view.setAlpha(0); }),
+      objc::block([this, owner, view](BOOL) {
         controllers_->removeAllObjects();
         add_tutorial_pages(controllers_, UIScreen::mainScreen().bounds(), owner_);
         show_page(0);
-        UIView::animateWithDuration(kFade, objc::block([view] { view.setAlpha(1); }));
+        UIView::animateWithDuration(kWizardFade, objc::block([view] { view.setAlpha(1); }));
       }));
 }
 
