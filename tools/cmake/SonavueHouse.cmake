@@ -11,6 +11,16 @@ set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 option(SONAVUE_CHECKS "Compare every message with the encoding of the method that answers it" ON)
 option(SONAVUE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 
+option(SONAVUE_LLD "Link with lld" OFF)
+
+# GCC looks for a linker by its bare name, which Debian gives with the version only.
+if(SONAVUE_LLD)
+  find_program(SONAVUE_LLD_PROGRAM ld.lld-16 REQUIRED)
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/linker)
+  file(CREATE_LINK ${SONAVUE_LLD_PROGRAM} ${CMAKE_BINARY_DIR}/linker/ld.lld SYMBOLIC)
+  add_link_options(-fuse-ld=lld -B${CMAKE_BINARY_DIR}/linker)
+endif()
+
 find_program(SONAVUE_CCACHE ccache)
 if(SONAVUE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER
@@ -27,6 +37,9 @@ if(SONAVUE_PHONE)
   # The platform's C functions return its own structures; that they are C++ types here is harmless.
   # Exceptions of the system pass through the library, which has no handler for any.
   add_compile_options(-Wno-return-type-c-linkage -funwind-tables)
+else()
+  # Some libraries ask for it, and precompiled headers are shared by sources that agree on it.
+  add_compile_options(-pthread)
 endif()
 if(SONAVUE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
