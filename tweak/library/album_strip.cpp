@@ -11,9 +11,9 @@ namespace sonavue {
 namespace {
 
 constexpr int kMusic = 1;
-constexpr CGSize kPictureSize{120, 120};
+constexpr CGSize kTilePictureSize{120, 120};
 
-void add_picture(UIView tile, MPMediaItem item, CGFloat side) {
+void add_tile_picture(UIView tile, MPMediaItem item, CGFloat side) {
   const CGFloat extent = side - kTileTitleHeight;
   const auto picture =
       objc::adopt(UIImageView::alloc().initWithFrame({kCoverInset, 0, extent, extent}));
@@ -21,11 +21,11 @@ void add_picture(UIView tile, MPMediaItem item, CGFloat side) {
   picture->layer().setCornerRadius(kCoverCorner);
   picture->layer().setBorderWidth(kCoverBorder);
   picture->layer().setBorderColor(UIColor::whiteColor().CGColor());
-  picture->setImage(artwork_or_empty(item, kPictureSize));
+  picture->setImage(artwork_or_empty(item, kTilePictureSize));
   tile.addSubview(picture);
 }
 
-void add_title(UIView tile, MPMediaItem item, CGFloat side) {
+void add_tile_title(UIView tile, MPMediaItem item, CGFloat side) {
   const auto label =
       make_tile_title({0, side - kTileTitleHeight, side, kTileTitleHeight},
                       objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyAlbumTitle)));
@@ -36,8 +36,8 @@ void add_title(UIView tile, MPMediaItem item, CGFloat side) {
 void add_tile(SpringBoard self, MPMediaItem item, NSString album, NSUInteger index) {
   const CGFloat side = grid_side(albums.frame().size.width);
   const auto tile = objc::adopt(UIView::alloc().initWithFrame(grid_frame(index, side)));
-  add_picture(tile, item, side);
-  add_title(tile, item, side);
+  add_tile_picture(tile, item, side);
+  add_tile_title(tile, item, side);
   tile->layer().setName(album);
   add_tap(tile, self, "zoomInAlbum:"_sel);
   albums.addSubview(tile);

@@ -8,49 +8,49 @@
 namespace sonavue {
 namespace {
 
-MPMediaItem item_of(NSIndexPath path) {
+MPMediaItem album_song_of(NSIndexPath path) {
   return objc::cast<MPMediaItem>(songArtist.objectAtIndex(static_cast<NSUInteger>(path.row())));
 }
 
-NSInteger sections(MusicsAlbum, UITableView) {
+NSInteger album_sections(MusicsAlbum, UITableView) {
   return 1;
 }
-NSInteger number_of_rows(MusicsAlbum, UITableView, NSInteger) {
+NSInteger album_row_count(MusicsAlbum, UITableView, NSInteger) {
   return static_cast<NSInteger>(songArtist.count());
 }
-BOOL no_for_row(MusicsAlbum, UITableView, NSIndexPath) {
+BOOL no_for_album_row(MusicsAlbum, UITableView, NSIndexPath) {
   return NO;
 }
-NSInteger indentation(MusicsAlbum, UITableView, NSIndexPath) {
+NSInteger album_indentation(MusicsAlbum, UITableView, NSIndexPath) {
   return 0;
 }
 
-UITableViewCell cell_for_row(MusicsAlbum, UITableView table, NSIndexPath path) {
-  return song_cell(table, item_of(path));
+UITableViewCell album_cell_for_row(MusicsAlbum, UITableView table, NSIndexPath path) {
+  return song_cell(table, album_song_of(path));
 }
 
-NSIndexPath will_select(MusicsAlbum, UITableView, NSIndexPath path) {
+NSIndexPath will_select_album_song(MusicsAlbum, UITableView, NSIndexPath path) {
   return begin_track_change(path);
 }
 
 // The queue stays what it was: the songs of an album are all in it.
-void did_select(MusicsAlbum, UITableView, NSIndexPath path) {
+void did_select_album_song(MusicsAlbum, UITableView, NSIndexPath path) {
   if (!mc.isPlaying()) mc.togglePlayPause();
-  musicPlayer.setNowPlayingItem(item_of(path));
+  musicPlayer.setNowPlayingItem(album_song_of(path));
 }
 
 }  // namespace
 
 void make_album_table_source() {
   objc::make_own_class<MusicsAlbum>([](objc::ClassBuilder& builder) {
-    builder.method<&sections>("numberOfSectionsInTableView:")
-        .method<&number_of_rows>("tableView:numberOfRowsInSection:")
-        .method<&no_for_row>("tableView:canMoveRowAtIndexPath:")
-        .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
-        .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
-        .method<&indentation>("tableView:indentationLevelForRowAtIndexPath:")
-        .method<&will_select>("tableView:willSelectRowAtIndexPath:")
-        .method<&did_select>("tableView:didSelectRowAtIndexPath:");
+    builder.method<&album_sections>("numberOfSectionsInTableView:")
+        .method<&album_row_count>("tableView:numberOfRowsInSection:")
+        .method<&no_for_album_row>("tableView:canMoveRowAtIndexPath:")
+        .method<&no_for_album_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
+        .method<&album_cell_for_row>("tableView:cellForRowAtIndexPath:")
+        .method<&album_indentation>("tableView:indentationLevelForRowAtIndexPath:")
+        .method<&will_select_album_song>("tableView:willSelectRowAtIndexPath:")
+        .method<&did_select_album_song>("tableView:didSelectRowAtIndexPath:");
   });
 }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr CGFloat kFontSize = 10;
 constexpr NSInteger kMostLines = 4;
 constexpr CGFloat kPictureScale = 0.6;
-constexpr CGSize kPictureSize{30, 30};
+constexpr CGSize kCellPictureSize{30, 30};
 
 UITableViewCell reusable_cell(UITableView table) {
   const auto reused = table.dequeueReusableCellWithIdentifier("Cell"_ns);
@@ -19,7 +19,7 @@ UITableViewCell reusable_cell(UITableView table) {
   return UITableViewCell::alloc().initWithFrame({0, 0, 100, 400}, "Cell"_ns).autorelease();
 }
 
-NSString text_of(MPMediaItem item) {
+NSString cell_text_of(MPMediaItem item) {
   const auto name = objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyTitle));
   if (name) return name;
   const auto by = objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyArtist));
@@ -48,14 +48,14 @@ UITableViewCell song_cell(UITableView table, MPMediaItem item) {
   label.setFont(UIFont::fontWithName(tile_font(), kFontSize));
   label.setTextColor(color(preference::font_tint()));
   label.setNumberOfLines(kMostLines);
-  label.setText(text_of(item));
+  label.setText(cell_text_of(item));
 
   cell.imageView().setTransform(CGAffineTransformMakeScale(kPictureScale, kPictureScale));
   cell.setBackgroundColor(UIColor::clearColor());
   const auto selected = objc::adopt(UIView::alloc().init());
   selected->setBackgroundColor(UIColor::colorWithWhite(1, 0.3));
   cell.setSelectedBackgroundView(selected);
-  cell.imageView().setImage(artwork_or_empty(item, kPictureSize));
+  cell.imageView().setImage(artwork_or_empty(item, kCellPictureSize));
   return cell;
 }
 

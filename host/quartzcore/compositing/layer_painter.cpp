@@ -5,10 +5,6 @@
 namespace host::quartzcore {
 namespace {
 
-bool is_upright(const CGAffineTransform& t) {
-  return t.b == 0 && t.c == 0 && t.a > 0 && t.d > 0;
-}
-
 void use_layer_space(const Canvas& canvas, const CGAffineTransform& t) {
   const cairo_matrix_t matrix{t.a, t.b, t.c, t.d, t.tx - canvas.x, t.ty - canvas.y};
   cairo_set_matrix(canvas.drawing.get(), &matrix);

@@ -6,10 +6,6 @@
 namespace host::quartzcore {
 namespace {
 
-bool is_upright(const CGAffineTransform& t) {
-  return t.b == 0 && t.c == 0 && t.a > 0 && t.d > 0;
-}
-
 std::uint64_t mix_transform(std::uint64_t signature, const CGAffineTransform& t) {
   return mix_signature(
       mix_signature(mix_signature(signature, CGPoint{t.a, t.b}), CGPoint{t.c, t.d}),
@@ -92,6 +88,10 @@ void clip_to_bounds(const RenderNode& node, Surroundings& inner) {
 }
 
 }  // namespace
+
+bool is_upright(const CGAffineTransform& t) {
+  return t.b == 0 && t.c == 0 && t.a > 0 && t.d > 0;
+}
 
 void place(RenderNode& node, const Surroundings& around) {
   node.parent = around.parent;

@@ -71,6 +71,9 @@ void sign(RenderNode& node, const Surroundings& around);
 /// What the node, which is at `index`, is to its sublayers and its mask.
 Surroundings inside(const RenderNode& node, int index, const Surroundings& around);
 
+/// Does it only move and scale, without turning or mirroring?
+bool is_upright(const CGAffineTransform& transform);
+
 /// Does its transform leave nothing of it?
 bool is_flat(const RenderNode& node);
 bool is_in_sight(const RenderNode& node, const PixelRect& clip);

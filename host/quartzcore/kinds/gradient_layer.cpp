@@ -10,16 +10,14 @@
 namespace host::quartzcore {
 namespace {
 
-using P = GradientProperties;
-
-constexpr PropertyAccess<P> kProperties[] = {
-    access_to<&P::start>("startPoint"),
-    access_to<&P::end>("endPoint"),
-    access_to<&P::locations>("locations"),
+constexpr PropertyAccess<GradientProperties> kGradientProperties[] = {
+    access_to<&GradientProperties::start>("startPoint"),
+    access_to<&GradientProperties::end>("endPoint"),
+    access_to<&GradientProperties::locations>("locations"),
 };
 
-const PropertyAccess<P>* gradient_property(std::string_view key_path) {
-  return find_access(kProperties, key_path);
+const PropertyAccess<GradientProperties>* gradient_property(std::string_view key_path) {
+  return find_access(kGradientProperties, key_path);
 }
 
 }  // namespace
@@ -54,14 +52,15 @@ void GradientLayer::set_locations(NSArray locations) {
   locations_ = objc::Ref<NSArray>::adopt(locations.copy());
   const auto read = value_from_object(locations);
   const auto* numbers = read ? std::get_if<std::vector<double>>(&*read) : nullptr;
-  change("locations"_ns, &P::locations, numbers ? *numbers : std::vector<double>());
+  change("locations"_ns, &GradientProperties::locations,
+         numbers ? *numbers : std::vector<double>());
 }
 
 void GradientLayer::set_start_point(CGPoint point) {
-  change("startPoint"_ns, &P::start, point);
+  change("startPoint"_ns, &GradientProperties::start, point);
 }
 void GradientLayer::set_end_point(CGPoint point) {
-  change("endPoint"_ns, &P::end, point);
+  change("endPoint"_ns, &GradientProperties::end, point);
 }
 
 void GradientLayer::present(const std::vector<RunningAnimation>& animations, double now) {

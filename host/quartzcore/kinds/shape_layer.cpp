@@ -10,16 +10,16 @@
 namespace host::quartzcore {
 namespace {
 
-using P = ShapeProperties;
-
-constexpr PropertyAccess<P> kProperties[] = {
-    access_to<&P::fill>("fillColor"),       access_to<&P::stroke>("strokeColor"),
-    access_to<&P::line_width>("lineWidth"), access_to<&P::stroke_start>("strokeStart"),
-    access_to<&P::stroke_end>("strokeEnd"),
+constexpr PropertyAccess<ShapeProperties> kShapeProperties[] = {
+    access_to<&ShapeProperties::fill>("fillColor"),
+    access_to<&ShapeProperties::stroke>("strokeColor"),
+    access_to<&ShapeProperties::line_width>("lineWidth"),
+    access_to<&ShapeProperties::stroke_start>("strokeStart"),
+    access_to<&ShapeProperties::stroke_end>("strokeEnd"),
 };
 
-const PropertyAccess<P>* shape_property(std::string_view key_path) {
-  return find_access(kProperties, key_path);
+const PropertyAccess<ShapeProperties>* shape_property(std::string_view key_path) {
+  return find_access(kShapeProperties, key_path);
 }
 
 constexpr const char* kCaps[] = {"butt", "round", "square"};
@@ -71,23 +71,23 @@ CGColorRef ShapeLayer::fill_color() const {
 }
 void ShapeLayer::set_fill_color(CGColorRef color) {
   fill_color_.reset(color);
-  change("fillColor"_ns, &P::fill, rgba_of(color));
+  change("fillColor"_ns, &ShapeProperties::fill, rgba_of(color));
 }
 CGColorRef ShapeLayer::stroke_color() const {
   return stroke_color_.get();
 }
 void ShapeLayer::set_stroke_color(CGColorRef color) {
   stroke_color_.reset(color);
-  change("strokeColor"_ns, &P::stroke, rgba_of(color));
+  change("strokeColor"_ns, &ShapeProperties::stroke, rgba_of(color));
 }
 void ShapeLayer::set_line_width(CGFloat width) {
-  change("lineWidth"_ns, &P::line_width, width);
+  change("lineWidth"_ns, &ShapeProperties::line_width, width);
 }
 void ShapeLayer::set_stroke_start(CGFloat start) {
-  change("strokeStart"_ns, &P::stroke_start, start);
+  change("strokeStart"_ns, &ShapeProperties::stroke_start, start);
 }
 void ShapeLayer::set_stroke_end(CGFloat end) {
-  change("strokeEnd"_ns, &P::stroke_end, end);
+  change("strokeEnd"_ns, &ShapeProperties::stroke_end, end);
 }
 NSString ShapeLayer::line_cap() const {
   return NSString::stringWithUTF8String(kCaps[cap_]);

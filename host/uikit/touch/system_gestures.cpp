@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-std::vector<SystemGestures*>& all() {
+std::vector<SystemGestures*>& system_gestures() {
   static std::vector<SystemGestures*> gestures;
   return gestures;
 }
@@ -27,18 +27,18 @@ void hand_over(int finger, SystemGestures* owner, CGPoint screen_point, double t
 }  // namespace
 
 void add_system_gestures(SystemGestures* gestures) {
-  all().push_back(gestures);
+  system_gestures().push_back(gestures);
 }
 
 void remove_system_gestures(SystemGestures* gestures) {
-  std::erase(all(), gestures);
+  std::erase(system_gestures(), gestures);
   std::erase_if(owners(), [gestures](const auto& owned) { return owned.second == gestures; });
 }
 
 SystemGestures::Claim system_claim(int finger, UITouchPhase phase, CGPoint screen_point,
                                    double timestamp) {
   auto claim = SystemGestures::Claim::Windows;
-  const auto present = all();
+  const auto present = system_gestures();
   for (SystemGestures* gestures : present) {
     const auto answer = gestures->touch(finger, phase, screen_point, timestamp);
     if (answer != SystemGestures::Claim::System) continue;
