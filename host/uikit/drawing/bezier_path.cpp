@@ -62,7 +62,7 @@ void BezierPath::replace(CGMutablePathRef path) {
   handed_out_ = false;
 }
 
-// Whoever was given the path, a shape layer for one, keeps what it was at that time.
+// A caller that was given the path, such as a shape layer, keeps it as it was at that time.
 CGMutablePathRef BezierPath::changeable() {
   if (handed_out_) replace(copy_of(path_));
   return path_;
@@ -87,7 +87,7 @@ void BezierPath::quad_curve_to(CGPoint end, CGPoint control) {
 
 void BezierPath::add_arc(CGPoint center, CGFloat radius, CGFloat start, CGFloat end,
                          BOOL clockwise) {
-  // UIKit means clockwise as seen on the screen, CoreGraphics as seen with y pointing up.
+  // In UIKit, clockwise is as seen on the screen; in CoreGraphics, as seen with y pointing up.
   CGPathAddArc(changeable(), nullptr, center.x, center.y, radius, start, end, !clockwise);
 }
 

@@ -13,7 +13,7 @@
 namespace host::uikit {
 namespace {
 
-// The platform keeps components as they are given, except these, which it clamps.
+// The platform clamps these components; all others it keeps as given.
 double clamped(double component) {
   return std::clamp(component, 0.0, 1.0);
 }
@@ -36,7 +36,7 @@ UIColor color_with_hue(objc::Object, CGFloat hue, CGFloat saturation, CGFloat br
   return UIColor::colorWithRed(rgb.red, rgb.green, rgb.blue, alpha);
 }
 
-/// Takes over the reference.
+/// Takes ownership of the reference.
 UIColor color_of_pattern(CGColorRef pattern) {
   const UIColor color = UIColor::alloc().init().autorelease();
   objc::state_of<Color>(color).take_pattern(pattern);
@@ -55,7 +55,7 @@ UIColor color_with_pattern(objc::Object, UIImage image) {
   return pattern ? color_of_pattern(pattern) : UIColor();
 }
 
-// Named colours are made once and kept for the life of the process.
+// Named colours are created once and live as long as the process.
 template <int Red, int Green, int Blue>
 UIColor named_color(objc::Object) {
   static const UIColor color =

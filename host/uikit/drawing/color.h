@@ -8,7 +8,7 @@ namespace host::uikit {
 
 using quartzcore::Rgba;
 
-/// The components of a colour; nil is opaque black.
+/// Returns the components of a colour; nil counts as opaque black.
 Rgba components_of(UIColor color);
 
 class Color : public objc::Implementation<Color, UIColor> {
@@ -18,7 +18,7 @@ class Color : public objc::Implementation<Color, UIColor> {
 
   UIColor init_with_white(CGFloat white, CGFloat alpha);
   UIColor init_with_rgba(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha);
-  /// Takes over the reference.
+  /// Takes ownership of the reference.
   void take_pattern(CGColorRef pattern);
   UIColor with_alpha(CGFloat alpha) const;
   BOOL get_rgba(CGFloat* red, CGFloat* green, CGFloat* blue, CGFloat* alpha) const;
@@ -28,7 +28,7 @@ class Color : public objc::Implementation<Color, UIColor> {
   BOOL is_equal(objc::Object other) const;
   NSUInteger hash() const;
   NSString description() const;
-  /// Colours never change, so a copy is the colour itself.
+  /// Colours are immutable, so a copy is the colour itself.
   UIColor copy_with_zone(void*) const;
 
   void set();

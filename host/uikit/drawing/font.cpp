@@ -56,7 +56,7 @@ CGFloat small_system_size(objc::Object) {
 
 void Font::prepare(const FontFace& face, CGFloat size) {
   face_ = face;
-  // The platform answers a size that is no size with its standard one.
+  // For an invalid size the platform falls back to its standard size.
   size_ = size > 0 ? size : kSystemSize;
 }
 

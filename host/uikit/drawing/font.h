@@ -23,7 +23,7 @@ class Font : public objc::Implementation<Font, UIFont> {
   BOOL is_equal(objc::Object other) const;
   NSUInteger hash() const;
   NSString description() const;
-  /// Fonts never change, so a copy is the font itself.
+  /// Fonts are immutable, so a copy is the font itself.
   UIFont copy_with_zone(void*) const;
 
   const FontFace& face() const { return face_; }

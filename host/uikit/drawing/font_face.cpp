@@ -8,12 +8,12 @@ namespace host::uikit {
 namespace {
 
 constexpr const char* kSans = "Inter";
-// The same letters drawn for large sizes, where thin strokes stand.
+// The same typeface drawn for large sizes, where thin strokes hold up.
 constexpr const char* kDisplaySans = "Inter Display";
 constexpr const char* kMonospaced = "DejaVu Sans Mono";
 
-// The drawn letters stand taller and set wider than the platform's. Their x-heights agree at this
-// size, and the tracking of each weight takes away what is then left of the extra width.
+// The drawn letters are taller and wider than the platform's. The x-heights agree at this size, and
+// the tracking of each weight removes the remaining extra width.
 constexpr double kSansSize = 0.965;
 constexpr double kUltraLightTracking = -0.015;
 constexpr double kThinTracking = 0.004;
@@ -50,17 +50,17 @@ constexpr std::array kFaces{
     FontFace{"Menlo-Regular", "Menlo", kMonospaced, 400, false, kMonospacedSize, 0},
 };
 
-// The platform's own, so that a label of one line is as tall here as there: 20.5 points at 17.
+// The platform's own metrics: a label of one line is as tall here as there, 20.5 points at 17.
 constexpr FaceMetrics kRegularMetrics{0.952, -0.213, 0.028, 0.714, 0.523};
 constexpr FaceMetrics kBoldMetrics{0.975, -0.217, 0.029, 0.714, 0.523};
 constexpr int kRegularWeight = 400;
 constexpr int kBoldWeight = 700;
-// The older family stands lower, and asks for nothing between its lines.
+// The older family is less tall and has no leading.
 constexpr FaceMetrics kHelveticaMetrics{0.92, -0.23, 0.0, 0.72, 0.523};
 constexpr FaceMetrics kMonospacedMetrics{0.928, -0.236, 0.0, 0.729, 0.547};
 
-// Only the regular and the bold are published. Every other weight is taken to lie on the line
-// through the two: the thinner the strokes, the less room they take above and below.
+// Metrics are published for regular and bold only. Every other weight is assumed to lie on the line
+// through these two: the thinner the strokes, the less room they need above and below.
 FaceMetrics neue_metrics(int weight) {
   const double share =
       static_cast<double>(weight - kRegularWeight) / (kBoldWeight - kRegularWeight);
@@ -93,7 +93,7 @@ const FontFace& system_face() {
 }
 
 const FontFace& bold_system_face() {
-  // The platform's bold system font is the medium weight: its bold would shout in a title.
+  // The platform's bold system font is the medium weight; true bold would be too heavy in a title.
   return face_at("HelveticaNeue-Medium");
 }
 

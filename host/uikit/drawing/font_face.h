@@ -5,20 +5,20 @@
 
 namespace host::uikit {
 
-/// A face of the platform, and how it is drawn with the fonts of this machine.
+/// A typeface of the platform, and how it is drawn with the fonts of this machine.
 struct FontFace {
-  std::string_view name;    // of the platform: HelveticaNeue-Light
-  std::string_view family;  // of the platform: Helvetica Neue
+  std::string_view name;    // the platform's, such as HelveticaNeue-Light
+  std::string_view family;  // the platform's, such as Helvetica Neue
   const char* drawn_family;
   int weight;  // 100 to 900
   bool italic;
-  /// Size of the drawn font to the asked size, and points added after each character per point of
-  /// size: together they give the widths of the platform's own letters.
+  /// The drawn font's size divided by the requested size, and the points added after each character
+  /// per point of size. Together they reproduce the widths of the platform's own letters.
   double size_factor;
   double tracking;
 };
 
-/// Every size of a face, in points a point of size.
+/// The metrics of a face at any size, in points per point of size.
 struct FaceMetrics {
   double ascender;
   double descender;

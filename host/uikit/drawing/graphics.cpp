@@ -10,7 +10,7 @@ namespace {
 
 struct Drawing {
   CGContextRef context = nullptr;
-  /// Pixels in a point of an image context, 0 for a context that was pushed.
+  /// Pixels per point of an image context; 0 for a context that was pushed.
   double image_scale = 0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace host::uikit {
 
-/// The current context as Cairo's, for text; null when nothing can be drawn on.
+/// Returns the current context as Cairo's, for drawing text; null when there is no current context.
 cairo_t* current_drawing();
 
 }  // namespace host::uikit

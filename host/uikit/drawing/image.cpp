@@ -38,7 +38,7 @@ UIImage image_with_oriented_cg_image(objc::Object, CGImageRef image, CGFloat sca
 }
 
 UIImage image_named(objc::Object, NSString name) {
-  // Named pictures are kept: the platform promises that asking again costs nothing.
+  // Named images are cached: the platform promises that repeated requests are cheap.
   static const NSMutableDictionary kept = NSMutableDictionary::alloc().init();
   if (!name) return nil;
   if (const auto known = objc::cast<UIImage>(kept.objectForKey(name))) return known;
@@ -51,7 +51,7 @@ UIImage image_named(objc::Object, NSString name) {
 
 }  // namespace
 
-// A failed init lets its object go and answers nil.
+// A failed initializer releases its object and returns nil.
 UIImage Image::refuse() {
   self.release();
   return nil;

@@ -25,7 +25,7 @@ class Image : public objc::Implementation<Image, UIImage> {
   UIImageRenderingMode rendering_mode() const { return rendering_mode_; }
   UIImage with_rendering_mode(UIImageRenderingMode mode) const;
   NSString description();
-  /// Images never change, so a copy is the image itself.
+  /// Images are immutable, so a copy is the image itself.
   UIImage copy_with_zone(void*) const;
 
   void draw_at_point(CGPoint point);
@@ -37,7 +37,7 @@ class Image : public objc::Implementation<Image, UIImage> {
  private:
   UIImage refuse();
 
-  /// Shared with the copies of other rendering modes, so that it is decoded once.
+  /// Shared with copies in other rendering modes: the file is decoded once.
   std::shared_ptr<Picture> picture_;
   double scale_ = 1;
   UIImageOrientation orientation_ = UIImageOrientationUp;

@@ -45,7 +45,7 @@ CGAffineTransform turned_into(CGRect rect, UIImageOrientation orientation) {
   const CGPoint centre = rect.centre();
   CGAffineTransform transform = CGAffineTransformMakeTranslation(centre.x, centre.y);
   transform = CGAffineTransformRotate(transform, angle_of(orientation));
-  // Mirroring happens in the picture's own space, before it is turned.
+  // Mirroring happens in the picture's own space, before the rotation.
   if (is_mirrored(orientation)) transform = CGAffineTransformScale(transform, -1, 1);
   return CGAffineTransformTranslate(transform, -centre.x, -centre.y);
 }

@@ -3,13 +3,13 @@
 #include "platform/CoreGraphics/CGAffineTransform.h"
 #include "platform/UIKit/UIImage.h"
 
-// How a picture that was taken sideways or mirrored is turned upright when it is drawn.
+// How a picture that was taken sideways or mirrored is turned upright when drawn.
 namespace host::uikit {
 
-/// Are width and height exchanged?
+/// Returns whether the orientation swaps width and height.
 bool is_sideways(UIImageOrientation orientation);
 
-/// The transform under which the pixels, drawn into `unturned(rect, orientation)`, stand upright
+/// Returns the transform under which pixels drawn into `unturned(rect, orientation)` appear upright
 /// in `rect`.
 CGAffineTransform turned_into(CGRect rect, UIImageOrientation orientation);
 CGRect unturned(CGRect rect, UIImageOrientation orientation);

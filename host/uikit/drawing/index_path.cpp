@@ -2,7 +2,7 @@
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSIndexPath.h"
 
-// What UIKit adds to Foundation's index paths: the names of a table's two positions.
+// What UIKit adds to Foundation's index paths: names for the two positions in a table.
 
 namespace host::uikit {
 namespace {

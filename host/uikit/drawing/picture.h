@@ -6,17 +6,17 @@
 
 namespace host::uikit {
 
-/// The pixels behind an image: those of a file are decoded when they are first asked for.
+/// The pixels of an image. Those of a file are decoded on first use.
 class Picture {
  public:
   explicit Picture(std::string path) : path_(std::move(path)) {}
-  /// Shares `pixels`.
+  /// Retains `pixels`.
   explicit Picture(CGImageRef pixels) : pixels_(CGImageRetain(pixels)) {}
   ~Picture();
   Picture(const Picture&) = delete;
   Picture& operator=(const Picture&) = delete;
 
-  /// Null when the file turned out to be no picture.
+  /// Returns null when the file is not a picture.
   CGImageRef pixels();
 
  private:

@@ -10,7 +10,7 @@ namespace host::uikit {
 namespace {
 
 std::optional<PictureFile> readable(const std::string& device_path, double scale) {
-  // Through Foundation, since a path of the device lies elsewhere on this machine.
+  // Through Foundation, which maps a path of the device to one of this machine.
   const char* path = NSString::stringWithUTF8String(device_path.c_str()).fileSystemRepresentation();
   if (!path || access(path, R_OK) != 0) return std::nullopt;
   return PictureFile{path, scale};

@@ -30,7 +30,7 @@ CGPoint from_superlayer(CALayer layer, CGPoint point) {
   const double x = point.x - position.x - t.tx;
   const double y = point.y - position.y - t.ty;
   const double determinant = t.a * t.d - t.b * t.c;
-  // A view scaled away to nothing has no inverse; its anchor stands for all of it.
+  // A view scaled to nothing has no inverse; every point maps to its anchor.
   if (determinant == 0) return anchor;
   return {(t.d * x - t.c * y) / determinant + anchor.x,
           (t.a * y - t.b * x) / determinant + anchor.y};

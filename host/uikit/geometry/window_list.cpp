@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-// In the order in which they were shown. Not retained: whoever made a window keeps it.
+// In the order in which they were shown. Not retained: the owner of a window keeps it alive.
 std::vector<UIWindow> shown;
 UIWindow key;
 

@@ -13,7 +13,7 @@ bool send_action_message(objc::Object target, objc::Sel action, objc::Object sen
   if (!target || !action) return false;
   const std::string_view name = sel_getName(action);
   if (!objc::cast<NSObject>(target).respondsToSelector(action)) {
-    spdlog::error("an action went to {}, which has no {}",
+    spdlog::error("an action was sent to {}, which has no method {}",
                   class_getName(objc::class_of(target.id())), name);
     return false;
   }

@@ -14,8 +14,8 @@ GestureRecognizer& state_of(UIGestureRecognizer recognizer) {
   return objc::state_of<GestureRecognizer>(recognizer);
 }
 
-/// One delegate's yes is enough, whichever of the two asked.
-bool go_together(UIGestureRecognizer first, UIGestureRecognizer second) {
+/// The consent of one delegate is enough, whichever recogniser it belongs to.
+bool may_go_together(UIGestureRecognizer first, UIGestureRecognizer second) {
   const auto agrees = [](UIGestureRecognizer one, UIGestureRecognizer other) {
     const auto delegate = objc::cast<UIGestureRecognizerDelegate>(one.delegate());
     return delegate.respondsToSelector(
@@ -26,7 +26,7 @@ bool go_together(UIGestureRecognizer first, UIGestureRecognizer second) {
 }
 
 bool prevents(UIGestureRecognizer winner, UIGestureRecognizer loser) {
-  return !go_together(winner, loser) && winner.canPreventGestureRecognizer(loser) &&
+  return !may_go_together(winner, loser) && winner.canPreventGestureRecognizer(loser) &&
          loser.canBePreventedByGestureRecognizer(winner);
 }
 
@@ -47,7 +47,7 @@ bool is_undecided(UIGestureRecognizer recognizer) {
 }  // namespace
 
 GestureArena& GestureArena::shared() {
-  // Lives as long as the process: its objects must not be released after the runtime is gone.
+  // Never destroyed: its objects must not be released after the runtime is gone.
   static GestureArena& arena = *new GestureArena;
   return arena;
 }
@@ -89,10 +89,10 @@ void GestureArena::tell_recognizers(UITouch touch, UIEvent event) {
   const auto recognizers = objc::state_of<Touch>(touch).recognizers();
   const UITouchPhase phase = touch.phase();
   for (const auto& recognizer : recognizers) {
-    // One of them may have had the touch cancelled, which they have all heard by now.
+    // A recogniser may have had the touch cancelled; by now all of them have been told.
     if (touch.phase() != phase) return;
     if (state_of(recognizer.get()).is_over()) continue;
-    // Or switched another one off, which has no part in the touch any more.
+    // Another recogniser may have been disabled meanwhile; it no longer takes part in the touch.
     if (!objc::state_of<Touch>(touch).is_seen_by(recognizer.get())) continue;
     switch (phase) {
       case UITouchPhaseBegan:
@@ -118,7 +118,7 @@ void GestureArena::dispatch(UITouch touch, UIEvent event) {
   ++dispatching_;
   if (touch.phase() == UITouchPhaseBegan) collect_recognizers(objc::state_of<Touch>(touch));
   tell_recognizers(touch, event);
-  // This is never held back, not even in the middle of another event.
+  // A cancellation is never delayed, not even during another event.
   if (touch.phase() == UITouchPhaseCancelled) objc::state_of<Touch>(touch).cancel_in_view(event);
   --dispatching_;
   settle();

@@ -10,8 +10,8 @@ namespace host::uikit {
 class GestureRecognizer;
 class Touch;
 
-/// Where the recognisers that watch the same touches settle which of them wins, and where views
-/// learn of touches that no recogniser claims.
+/// Decides which of the recognisers that watch the same touches wins, and delivers touches that no
+/// recogniser claims to their views.
 class GestureArena {
  public:
   static GestureArena& shared();
@@ -19,18 +19,20 @@ class GestureArena {
   void engage(UIGestureRecognizer recognizer);
   void disengage(UIGestureRecognizer recognizer);
 
-  /// Takes one changed touch through recognisers and views.
+  /// Passes one changed touch through recognisers and views.
   void dispatch(UITouch touch, UIEvent event);
 
-  /// Is there one among the others, already recognised, that does not let this one begin?
+  /// Returns whether another recogniser has already recognised and keeps this one from beginning.
   bool is_prevented(const GestureRecognizer& recognizer) const;
-  /// Is there one still undecided that this one has to wait for?
+  /// Returns whether this recogniser has to wait for another that is still undecided.
   bool has_to_wait(const GestureRecognizer& recognizer) const;
-  /// It has begun: the undecided ones that it excludes fail, and its touches leave their views.
+  /// The recogniser has begun: undecided ones that it excludes fail, and its touches leave their
+  /// views.
   void recognized(const GestureRecognizer& recognizer);
-  /// It has failed: those that waited for it may go on.
+  /// The recogniser has failed: those that waited for it may go on.
   void failed(const GestureRecognizer& recognizer);
-  /// A gesture ended outside of an event, by a timer perhaps: views and recognisers catch up.
+  /// Brings views and recognisers up to date after a gesture ended outside of an event, for example
+  /// by a timer.
   void settle();
 
  private:

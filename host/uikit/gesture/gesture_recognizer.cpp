@@ -118,8 +118,8 @@ void GestureRecognizer::reconsider() {
   if (is_waiting()) settle_recognition();
 }
 
-/// Asks the touched view and those above it up to the recogniser's own, then the delegate: a
-/// control keeps the taps on itself from the recognisers above it this way.
+/// Asks the touched view and its ancestors up to the recogniser's own view, then the delegate. This
+/// lets a control keep taps on itself from recognisers of its ancestors.
 bool GestureRecognizer::may_begin() const {
   UIView asked = touches_.empty() ? view_ : touches_.front()->view();
   if (!asked.isDescendantOfView(view_)) asked = view_;
@@ -175,7 +175,7 @@ void GestureRecognizer::take(UITouch touch) {
 }
 
 void GestureRecognizer::drop_lifted_touches() {
-  // One that waits for another's failure still has to say where it was.
+  // A recogniser that waits for another to fail must still report its location.
   if (is_waiting()) return;
   last_location_ = screen_location();
   std::erase_if(touches_,

@@ -9,8 +9,8 @@
 
 namespace host::uikit {
 
-/// The state machine that all recognisers share. A subclass watches touches and asks for states
-/// through `setState:`; whether it gets them is settled with the other recognisers of its touches.
+/// The state machine shared by all recognisers. A subclass watches touches and requests states with
+/// `setState:`; whether it gets them is decided together with the other recognisers of its touches.
 class GestureRecognizer : public objc::Implementation<GestureRecognizer, UIGestureRecognizer> {
  public:
   explicit GestureRecognizer(UIGestureRecognizer owner) : Implementation(owner) {}
@@ -49,21 +49,21 @@ class GestureRecognizer : public objc::Implementation<GestureRecognizer, UIGestu
   BOOL can_prevent(UIGestureRecognizer) { return YES; }
   BOOL can_be_prevented_by(UIGestureRecognizer) { return YES; }
 
-  // For the rest of this house.
+  // For the rest of the host.
   const std::vector<objc::Ref<UITouch>>& touches() const { return touches_; }
-  /// The middle of the touches, in points of the screen; of the last ones when all have lifted.
+  /// The middle of the touches in screen coordinates; of the last touches when all have lifted.
   CGPoint screen_location() const;
   void set_view(UIView view) { view_ = view; }
-  /// The view lets go of the recogniser: a gesture under way is cancelled, then the view forgotten.
+  /// Detaches the recogniser from its view: cancels a gesture under way, then forgets the view.
   void leave_view();
-  /// Has it seen touches, and is it still making up its mind?
+  /// Returns whether it has seen touches but has not decided yet.
   bool is_undecided() const { return engaged_ && state_ == UIGestureRecognizerStatePossible; }
   bool is_under_way() const {
     return state_ == UIGestureRecognizerStateBegan || state_ == UIGestureRecognizerStateChanged;
   }
   bool is_over() const { return !is_under_way() && state_ != UIGestureRecognizerStatePossible; }
 
-  // For the arena alone.
+  // For the arena only.
   void take(UITouch touch);
   void drop_lifted_touches();
   bool is_ready_to_reset() const { return is_over() && touches_.empty(); }
@@ -71,7 +71,7 @@ class GestureRecognizer : public objc::Implementation<GestureRecognizer, UIGestu
   bool shares_touch_with(const GestureRecognizer& other) const;
   bool waits_for(UIGestureRecognizer other) const;
   bool is_waiting() const { return wanted_.has_value(); }
-  /// Another recogniser has failed: takes the state that it was kept waiting for, if it may now.
+  /// Called when another recogniser has failed: enters the state that was delayed, if it may now.
   void reconsider();
   void fail();
   UIGestureRecognizer handle() const { return self; }
@@ -95,7 +95,7 @@ class GestureRecognizer : public objc::Implementation<GestureRecognizer, UIGestu
   std::vector<objc::Ref<UITouch>> touches_;
   CGPoint last_location_;
   UIGestureRecognizerState state_ = UIGestureRecognizerStatePossible;
-  // Recognised, but another one must fail first; and how it ended meanwhile.
+  // The state delayed until another recogniser fails, and whether the gesture has ended meanwhile.
   std::optional<UIGestureRecognizerState> wanted_;
   bool ended_while_waiting_ = false;
   bool engaged_ = false;

@@ -6,7 +6,7 @@
 
 namespace host::uikit {
 
-/// Begins when the fingers have rested for long enough, and then follows them.
+/// Begins when the fingers have rested long enough, and then follows them.
 class LongPressGestureRecognizer
     : public objc::Implementation<LongPressGestureRecognizer, UILongPressGestureRecognizer> {
  public:

@@ -27,8 +27,9 @@ bool PanGestureRecognizer::is_under_way() const {
   return objc::state_of<GestureRecognizer>(self).is_under_way();
 }
 
-/// Another number of fingers has another middle: the gesture goes on from there without a jump.
-void PanGestureRecognizer::go_on_from(CGPoint middle, double time) {
+/// When the number of fingers changes, their middle jumps: continues the gesture from the new
+/// middle without a jump.
+void PanGestureRecognizer::continue_from(CGPoint middle, double time) {
   if (has_start_) {
     start_ = {start_.x + middle.x - latest_.x, start_.y + middle.y - latest_.y};
   } else {
@@ -66,7 +67,7 @@ void PanGestureRecognizer::touches_began(NSSet touches, UIEvent event) {
     }
     return;
   }
-  go_on_from(fingers_down().middle, touch.timestamp());
+  continue_from(fingers_down().middle, touch.timestamp());
 }
 
 void PanGestureRecognizer::touches_moved(NSSet touches, UIEvent) {
@@ -83,8 +84,8 @@ void PanGestureRecognizer::touches_moved(NSSet touches, UIEvent) {
 void PanGestureRecognizer::touches_ended(NSSet touches, UIEvent) {
   const double time = objc::cast<UITouch>(touches.anyObject()).timestamp();
   const Fingers left = fingers_down();
-  if (left.count > 0 && left.count >= minimum_touches_) return go_on_from(left.middle, time);
-  if (!is_under_way() && left.count > 0) return go_on_from(left.middle, time);
+  if (left.count > 0 && left.count >= minimum_touches_) return continue_from(left.middle, time);
+  if (!is_under_way() && left.count > 0) return continue_from(left.middle, time);
   latest_time_ = time;
   self.setState(is_under_way() ? UIGestureRecognizerStateEnded : UIGestureRecognizerStateFailed);
 }

@@ -6,13 +6,13 @@
 
 namespace host::uikit {
 
-/// How far, in points, fingers travel before a pan begins. Once it has begun every movement counts,
-/// a release after one more point as much as after a hundred; a finger that lifts before has not
-/// panned at all.
+/// How far fingers travel before a pan begins, in points. After that every movement counts, whether
+/// the fingers lift one point later or a hundred. A finger that lifts earlier has not panned at
+/// all.
 inline constexpr double kPanThreshold = 10;
 
 /// Begins when its fingers have travelled, and then follows them. The translation counts from where
-/// they landed, so the way to the threshold is part of it.
+/// they landed, so it includes the way to the threshold.
 class PanGestureRecognizer
     : public objc::Implementation<PanGestureRecognizer, UIPanGestureRecognizer> {
  public:
@@ -39,12 +39,12 @@ class PanGestureRecognizer
   };
 
   Fingers fingers_down() const;
-  void go_on_from(CGPoint middle, double time);
+  void continue_from(CGPoint middle, double time);
   bool is_under_way() const;
 
   NSUInteger minimum_touches_ = 1;
   NSUInteger maximum_touches_ = ~NSUInteger{0};
-  // In points of the screen.
+  // In screen coordinates.
   CGPoint start_;
   CGPoint latest_;
   double latest_time_ = 0;

@@ -62,8 +62,8 @@ void TapGestureRecognizer::reset() {
 }
 
 BOOL TapGestureRecognizer::can_prevent(UIGestureRecognizer other) {
-  // A tap is heard on the way to a double tap; whoever wants only one of the two says which must
-  // fail.
+  // A single tap is recognised on the way to a double tap; a caller that wants only one of the two
+  // makes the other fail.
   const bool is_tap = other.isKindOfClass(UITapGestureRecognizer::cls());
   if (is_tap && objc::cast<UITapGestureRecognizer>(other).numberOfTapsRequired() > taps_required_)
     return NO;

@@ -6,7 +6,7 @@
 
 namespace host::uikit {
 
-/// Waits for its count of taps, each short, in one place and with the right number of fingers.
+/// Waits for its number of taps: each short, all in one place, with the required number of fingers.
 class TapGestureRecognizer
     : public objc::Implementation<TapGestureRecognizer, UITapGestureRecognizer> {
  public:

@@ -5,8 +5,8 @@
 
 namespace host::uikit {
 
-/// The event of touches: one object for the process that always shows the fingers on the screen,
-/// as the platform's does.
+/// The touch event: one object per process that always reflects the fingers on the screen, as on
+/// the platform.
 class Event : public objc::Implementation<Event, UIEvent> {
  public:
   explicit Event(UIEvent owner) : Implementation(owner) {}
@@ -18,9 +18,9 @@ class Event : public objc::Implementation<Event, UIEvent> {
   NSSet touches_for_view(UIView view) const;
   NSSet touches_for_gesture_recognizer(UIGestureRecognizer recognizer) const;
 
-  /// The touch that this sending of the event is about.
+  /// The touch for which the event is being sent.
   UITouch changed_touch() const { return changed_touch_; }
-  void is_about(UITouch touch, double timestamp) {
+  void set_changed_touch(UITouch touch, double timestamp) {
     changed_touch_ = touch;
     timestamp_ = timestamp;
   }

@@ -7,7 +7,7 @@ namespace host::uikit {
 namespace {
 
 std::vector<objc::Ref<UITouch>>& all() {
-  // Lives as long as the process: its objects must not be released after the runtime is gone.
+  // Never destroyed: its objects must not be released after the runtime is gone.
   static auto& touches = *new std::vector<objc::Ref<UITouch>>;
   return touches;
 }

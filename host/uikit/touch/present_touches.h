@@ -7,14 +7,15 @@
 
 namespace host::uikit {
 
-/// The touches of the process: of the fingers on the screen, and of those that have lifted while a
-/// view still waits to hear of it.
+/// The touches of the process: those of fingers on the screen, and those of lifted fingers that a
+/// view has not been told about yet.
 const std::vector<objc::Ref<UITouch>>& present_touches();
-/// The fingers on the screen, and those that lifted with the event being sent.
+/// Returns the touches of fingers on the screen, and of those that lifted with the event being
+/// sent.
 std::vector<objc::Ref<UITouch>> touches_on_screen();
 
 void add_present_touch(UITouch touch);
-/// Forgets those that have lifted and that no view waits for.
+/// Removes touches that have lifted and that no view still waits for.
 void drop_finished_touches();
 
 }  // namespace host::uikit

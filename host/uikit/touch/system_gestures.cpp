@@ -12,7 +12,7 @@ std::vector<SystemGestures*>& system_gestures() {
   return gestures;
 }
 
-/// Who has taken which finger.
+/// The gestures that have claimed each finger.
 std::map<int, SystemGestures*>& owners() {
   static std::map<int, SystemGestures*> owners;
   return owners;

@@ -5,24 +5,24 @@
 
 namespace host::uikit {
 
-/// Sees every finger before any window does: gestures that begin at the screen's edge, whatever is
-/// shown there. Points are of the screen, timestamps seconds of the clock.
+/// Sees every finger before any window does, for gestures that begin at the screen's edge, whatever
+/// is shown there. Points are in screen coordinates, timestamps in seconds of the clock.
 class SystemGestures {
  public:
-  /// Whose the finger is from now on. A finger that is taken leaves the view that it was on, which
-  /// is told so, and comes to no window any more; the gestures see it to its end. When another
-  /// takes it later, the one that had it is shown that it is cancelled.
+  /// Who owns the finger from now on. A claimed finger leaves its view, which is told that the
+  /// touch is cancelled, and no window sees it again; the gestures follow it to its end. When other
+  /// gestures claim it later, the previous owner sees it cancelled.
   enum class Claim { Windows, System };
 
   virtual ~SystemGestures() = default;
   virtual Claim touch(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp) = 0;
 };
 
-/// Each of them sees every finger, in the order of being added. Not owned.
+/// All registered gestures see every finger, in the order in which they were added. Not owned.
 void add_system_gestures(SystemGestures* gestures);
 void remove_system_gestures(SystemGestures* gestures);
 
-/// Shows all of them one change of a finger; does one of them take it?
+/// Shows one change of a finger to all of them. Returns `System` when one of them claims it.
 SystemGestures::Claim system_claim(int finger, UITouchPhase phase, CGPoint screen_point,
                                    double timestamp);
 

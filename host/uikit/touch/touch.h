@@ -9,8 +9,8 @@
 
 namespace host::uikit {
 
-/// One finger from landing to lifting. It keeps the view that it landed on for life, and knows what
-/// that view has been told, since recognisers may hold the news back or call it off.
+/// One finger from landing to lifting. It keeps the view it landed on until its end, and records
+/// what that view has been told: recognisers may delay or cancel the delivery.
 class Touch : public objc::Implementation<Touch, UITouch> {
  public:
   explicit Touch(UITouch owner) : Implementation(owner) {}
@@ -24,7 +24,7 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   CGPoint location_in_view(UIView view) const;
   CGPoint previous_location_in_view(UIView view) const;
 
-  // For the input and the recognisers; points are of the screen.
+  // For touch input and recognisers; points are in screen coordinates.
   void land(UIWindow window, UIView view, CGPoint point, double timestamp, NSUInteger tap_count);
   void move(CGPoint point, double timestamp);
   void lift(UITouchPhase phase, double timestamp);
@@ -38,13 +38,13 @@ class Touch : public objc::Implementation<Touch, UITouch> {
   bool is_seen_by(UIGestureRecognizer recognizer) const;
   void forget(UIGestureRecognizer recognizer);
 
-  /// Is the recogniser still making up its mind?
+  /// Returns whether the recogniser is still undecided.
   using IsUndecided = bool (*)(UIGestureRecognizer);
-  /// Tells the view what it has not been told yet, as far as the undecided recognisers allow.
+  /// Tells the view what it has not been told yet, as far as undecided recognisers allow.
   void deliver(UIEvent event, IsUndecided is_undecided);
-  /// The view loses the touch: it is told so if it was told of it at all.
+  /// Takes the touch away from its view, which is told so if it was told of the touch at all.
   void cancel_in_view(UIEvent event);
-  /// The view is never told of this touch.
+  /// Ensures that the view is never told of this touch.
   void keep_from_view() { delivery_ = Delivery::kOver; }
   bool view_awaits_more() const { return delivery_ != Delivery::kOver; }
 

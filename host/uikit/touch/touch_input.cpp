@@ -17,7 +17,7 @@
 namespace host::uikit {
 namespace {
 
-// Those of the process; all of them stand for one screen.
+// All inputs of the process; together they serve one screen.
 std::vector<TouchInput*> inputs;
 bool touches_enabled = true;
 
@@ -27,13 +27,13 @@ void take_away_from_all(TouchInput::Reach reach) {
     input->take_away(reach, RunLoop::main().now());
 }
 
-/// Does the application want to be left alone by fingers just now?
+/// Returns whether the application currently ignores fingers.
 bool ignores_touches() {
   return UIApplication::sharedApplication().isIgnoringInteractionEvents() == YES;
 }
 
-/// A view sees one finger at a time unless it asks for more, and an exclusive view shares its
-/// window with no other; recognisers see every finger all the same.
+/// A view sees one finger at a time unless it enables multiple touch, and an exclusive view shares
+/// its window with no other view. Recognisers see every finger regardless.
 bool view_may_take_another(const Hit& hit) {
   for (const auto& touch : present_touches()) {
     const Touch& present = objc::state_of<Touch>(touch.get());
@@ -76,7 +76,7 @@ bool TouchInput::goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_
     found->second.owner = Owner::System;
     cancel(found->second, timestamp);
   } else if (found->second.owner == Owner::Nobody) {
-    // It was taken away while they looked.
+    // It was taken away while the gestures saw it.
     system_claim(finger, UITouchPhaseCancelled, screen_point, timestamp);
   }
   return found->second.owner == Owner::Windows;
@@ -120,7 +120,7 @@ void TouchInput::move(int finger, CGPoint screen_point, double timestamp) {
 }
 
 void TouchInput::ended(int finger, CGPoint screen_point, double timestamp) {
-  // The way to where the finger left counts, even when nobody reported it.
+  // The path to the point of lifting counts even when that movement was never reported.
   if (goes_to_windows(finger, UITouchPhaseEnded, screen_point, timestamp))
     move(finger, screen_point, timestamp);
   forget(finger, UITouchPhaseEnded, timestamp);
@@ -146,7 +146,7 @@ void TouchInput::take_away(Reach reach, double timestamp) {
     if (finger.owner == Owner::Nobody || is_out_of_reach) continue;
     finger.owner = Owner::Nobody;
     cancel(finger, timestamp);
-    // A gesture that is just looking at it says itself whether it takes it.
+    // Gestures that are seeing the finger right now decide themselves whether they claim it.
     if (number != shown_) system_claim(number, UITouchPhaseCancelled, finger.point, timestamp);
   }
 }
@@ -181,15 +181,15 @@ void TouchInput::end(UITouch touch, UITouchPhase phase, double timestamp) {
 void TouchInput::send(UITouch touch, double timestamp) {
   const UIEvent event = touches_event();
   Event& state = objc::state_of<Event>(event);
-  // Whoever hears of one touch may have another cancelled there and then.
+  // A receiver of one touch may cause another to be cancelled before it returns.
   const UITouch before = state.changed_touch();
-  state.is_about(touch, timestamp);
+  state.set_changed_touch(touch, timestamp);
   if (const UIApplication application = UIApplication::sharedApplication()) {
     application.sendEvent(event);
   } else {
     touch.window().sendEvent(event);
   }
-  state.is_about(before, timestamp);
+  state.set_changed_touch(before, timestamp);
 }
 
 void cancel_every_touch() {
@@ -204,7 +204,7 @@ void cancel_touches_in(UIView view, UIGestureRecognizer but_for) {
 
 void set_touches_enabled(bool enabled) {
   touches_enabled = enabled;
-  if (!enabled) take_away_from_all(TouchInput::Reach::Everybody);
+  if (!enabled) take_away_from_all(TouchInput::Reach::All);
 }
 
 }  // namespace host::uikit

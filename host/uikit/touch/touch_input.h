@@ -9,8 +9,8 @@
 
 namespace host::uikit {
 
-/// Where fingers come in: makes touches of them, finds the window and the view that they land on,
-/// and sends the event. Points are of the screen, in points from its top left corner; timestamps
+/// The entry point for fingers: creates their touches, finds the window and view on which they
+/// land, and sends the event. Points are in points from the screen's top left corner; timestamps
 /// are seconds of the clock.
 class TouchInput {
  public:
@@ -22,24 +22,24 @@ class TouchInput {
   void began(int finger, CGPoint screen_point, double timestamp);
   void moved(int finger, CGPoint screen_point, double timestamp);
   void ended(int finger, CGPoint screen_point, double timestamp);
-  /// Whoever reports the finger has lost it: it is not on the screen any more.
+  /// The source of the finger has lost it: it is no longer on the screen.
   void cancelled(int finger, CGPoint screen_point, double timestamp);
   void cancel_all(double timestamp);
 
-  enum class Reach { Windows, Everybody };
-  /// Cancels the touches of fingers that stay where they are, and ignores these until they lift.
+  enum class Reach { Windows, All };
+  /// Cancels the touches of fingers that stay on the screen, and ignores these until they lift.
   void take_away(Reach reach, double timestamp);
-  /// Cancels the touches in the view that `but_for` does not see. Gestures of the system go on
-  /// seeing their fingers; windows do not until these land anew.
+  /// Cancels the touches in the view, except those that `but_for` sees. System gestures keep seeing
+  /// these fingers; windows do not until they land again.
   void take_away_from(UIView view, UIGestureRecognizer but_for, double timestamp);
 
  private:
-  /// Whose a finger is. What it does as nobody's is ignored.
+  /// The owner of a finger. Changes of a finger without an owner are ignored.
   enum class Owner { Windows, System, Nobody };
   struct Finger {
     Owner owner = Owner::Windows;
     CGPoint point;
-    /// Null where no view takes it, or not any more.
+    /// Null when no view takes the finger, or no longer takes it.
     objc::Ref<UITouch> touch;
   };
   struct Tap {
@@ -48,7 +48,8 @@ class TouchInput {
     NSUInteger count = 0;
   };
 
-  /// Shows the change to the gestures of the system. Is the finger still one for the windows then?
+  /// Shows the change to the system gestures. Returns whether the finger still belongs to the
+  /// windows afterwards.
   bool goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp);
   void land(int finger, CGPoint screen_point, double timestamp);
   void move(int finger, CGPoint screen_point, double timestamp);
@@ -61,23 +62,23 @@ class TouchInput {
 
   /// Every finger on the screen.
   std::map<int, Finger> fingers_;
-  /// The one that the system's gestures are just looking at.
+  /// The finger that the system gestures are seeing right now.
   std::optional<int> shown_;
   Tap last_tap_;
 };
 
-/// Takes every touch away from the views and recognisers that have it; they hear that it is
-/// cancelled. A finger that stays on the screen means nothing to anybody until it is lifted, but
-/// for one that a gesture of the system has taken: that stays with it.
+/// Cancels every touch for its view and recognisers, which are told so. A finger that stays on the
+/// screen is then ignored until it lifts, unless a system gesture has claimed it: that one keeps
+/// it.
 void cancel_every_touch();
 
-/// Takes the fingers away that lie on the view or on anything in it: views and recognisers hear
-/// that they are cancelled, and no view hears of these fingers again until they land anew. Those
-/// that `but_for` sees stay.
+/// Cancels the touches that are on the view or on anything in it, except those that `but_for` sees;
+/// views and recognisers are told so. No view sees these fingers until they land again.
 void cancel_touches_in(UIView view, UIGestureRecognizer but_for = nil);
 
-/// A screen that is off feels no finger. Those that are on it are taken from everybody, and from
-/// the system's gestures as well; one that outlasts the dark is ignored until it is lifted.
+/// Disabled, the screen feels no fingers. Those already on it are taken from all views, recognisers
+/// and system gestures; a finger that stays until touches are enabled again is ignored until it
+/// lifts.
 void set_touches_enabled(bool enabled);
 
 }  // namespace host::uikit

@@ -13,20 +13,21 @@ std::string class_of(NSObject object) {
   return class_getName(objc::class_of(object.id()));
 }
 
-/// Of whichever class it is.
-bool says_yes(UIView view, objc::Sel question) {
+/// Sends the question to any view, whatever its class.
+bool returns_yes(UIView view, objc::Sel question) {
   return view.respondsToSelector(question) && objc::send<BOOL>(view, question);
 }
 
-/// What is selected looks highlighted without a finger, and so do the texts and images in it.
+/// A selected view looks highlighted without a finger, and so do the texts and images in it.
 bool is_highlighted(UIView view) {
   const bool only_looks_so =
       view.isKindOfClass(UILabel::cls()) || view.isKindOfClass(UIImageView::cls());
-  return !only_looks_so && says_yes(view, "isHighlighted"_sel) && !says_yes(view, "isSelected"_sel);
+  return !only_looks_so && returns_yes(view, "isHighlighted"_sel) &&
+         !returns_yes(view, "isSelected"_sel);
 }
 
 void look_at(UIView view, std::vector<std::string>& traces) {
-  if (says_yes(view, "isTracking"_sel)) traces.push_back(class_of(view) + " is held");
+  if (returns_yes(view, "isTracking"_sel)) traces.push_back(class_of(view) + " is held");
   if (is_highlighted(view)) traces.push_back(class_of(view) + " is highlighted");
   for (const auto recognizer : view.gestureRecognizers().of<UIGestureRecognizer>()) {
     if (recognizer.state() != UIGestureRecognizerStatePossible)

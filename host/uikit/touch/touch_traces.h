@@ -5,8 +5,9 @@
 
 namespace host::uikit {
 
-/// What believes that a finger is on the screen: touches that have not ended, recognisers under
-/// way, and controls, icons and scroll views that are held. Empty while no finger is there.
+/// Returns a description of everything that believes a finger to be on the screen: touches that
+/// have not ended, recognisers under way, and held controls, icons and scroll views. Empty while no
+/// finger is down.
 std::vector<std::string> touch_traces();
 
 }  // namespace host::uikit

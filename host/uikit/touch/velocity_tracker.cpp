@@ -8,7 +8,7 @@ namespace {
 constexpr double kHistory = 0.1;
 // A finger that lifts between two reports of the screen was still moving.
 constexpr double kReportInterval = 0.02;
-// Reports at the same moment, and a division by nothing.
+// Avoids a division by zero for reports with equal times.
 constexpr double kLeastInterval = 1e-6;
 
 }  // namespace
@@ -19,7 +19,7 @@ void VelocityTracker::add(CGPoint point, double time) {
     return;
   }
   samples_.push_back({point, time});
-  // One sample older than the history stays: the movement into the history starts there.
+  // One sample older than the history is kept: the movement into the history starts there.
   while (samples_.size() > 2 && samples_[1].time < time - kHistory)
     samples_.pop_front();
 }
@@ -36,7 +36,7 @@ CGPoint VelocityTracker::velocity(double time) const {
     const Sample& to = samples_[i];
     if (to.time <= oldest) continue;
     const double seconds = to.time - from.time;
-    // Weighed by how long it lasted within the history, and by how lately.
+    // Weighted by its duration within the history and by how recent it is.
     const double within = to.time - std::max(from.time, oldest);
     const double weight = within * (to.time - oldest);
     sum.x += weight * (to.point.x - from.point.x) / seconds;

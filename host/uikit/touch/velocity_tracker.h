@@ -6,14 +6,14 @@
 
 namespace host::uikit {
 
-/// How fast a finger is, from where it was in the last tenth of a second: later movement counts
-/// for more, and a finger that has rested for that long stands still.
+/// Computes the velocity of a finger from its positions in the last tenth of a second. Later
+/// movement counts for more; a finger that has rested for that long has no velocity.
 class VelocityTracker {
  public:
-  /// Times in seconds, in order.
+  /// Times are in seconds and must not decrease.
   void add(CGPoint point, double time);
   void clear() { samples_.clear(); }
-  /// Points a second, as of `time`.
+  /// Returns the velocity at `time`, in points per second.
   CGPoint velocity(double time) const;
 
  private:

@@ -6,8 +6,8 @@
 namespace host::uikit {
 namespace {
 
-/// The first in the responder chain that understands the action.
-objc::Object taker_of(objc::Sel action, objc::Object sender) {
+/// Returns the first object in the responder chain that understands the action; nil when none does.
+objc::Object responder_for(objc::Sel action, objc::Object sender) {
   UIResponder responder = first_responder();
   if (!responder && objc::cast<NSObject>(sender).isKindOfClass(UIResponder::cls()))
     responder = objc::cast<UIResponder>(sender);
@@ -19,7 +19,8 @@ objc::Object taker_of(objc::Sel action, objc::Object sender) {
 }  // namespace
 
 bool send_action(objc::Sel action, objc::Object target, objc::Object sender, UIEvent event) {
-  return send_action_message(target ? target : taker_of(action, sender), action, sender, event);
+  return send_action_message(target ? target : responder_for(action, sender), action, sender,
+                             event);
 }
 
 }  // namespace host::uikit

@@ -27,8 +27,8 @@ constexpr double kSpringSamplesPerSecond = 60;
 struct UIViewAnimationAction
     : objc::Bound<UIViewAnimationAction, "_UIViewAnimationAction", NSObject> {};
 
-// Geometry adds up, so that a change in the middle of a movement bends it instead of cutting it
-// off; everything else starts anew from its old value.
+// Geometry is animated additively: a change during a movement bends the path instead of cutting it
+// off. Every other property restarts from its old value.
 using OldValue =
     std::variant<CGPoint, CGRect, std::unique_ptr<CATransform3D>, objc::Ref<objc::Object>, double>;
 
@@ -47,7 +47,7 @@ objc::Object boxed(CGRect rect) {
   return CAValue::valueWithCGRect(rect);
 }
 
-/// What a fade moves between. Views that fade together mostly do so between the same two ends, and
+/// The two ends of a fade. Views that fade together mostly fade between the same two values, and
 /// share them then.
 std::shared_ptr<const quartzcore::AnimatedValues> fade_between(double from, double to) {
   static std::shared_ptr<const quartzcore::AnimatedValues> last;
@@ -63,8 +63,8 @@ std::shared_ptr<const quartzcore::AnimatedValues> fade_between(double from, doub
   return last;
 }
 
-/// Does nobody hear of the animations that this layer is given?
-bool takes_animations_plainly(CALayer layer) {
+/// Returns whether no override observes the animations added to this layer.
+bool inherits_add_animation(CALayer layer) {
   const objc::Sel selector = "addAnimation:forKey:"_sel;
   static const objc::Imp plain =
       method_getImplementation(class_getInstanceMethod(CALayer::cls(), selector));
@@ -92,15 +92,15 @@ CAPropertyAnimation make_offset_animation(NSString key, Geometry offset,
   return animation;
 }
 
-/// The characters of a property's name. The one that changes by the thousand is known by sight,
-/// since making characters of it would take as long as all the rest.
+/// The characters of a property's name. `opacity`, which changes by the thousand, is compared by
+/// identity: converting it would take as long as everything else.
 std::string_view characters_of(NSString key) {
   return key == "opacity"_ns ? "opacity" : key.UTF8String();
 }
 
 }  // namespace
 
-/// Runs once, for one change of one property, and then hears of its animation's end.
+/// Runs once, for one change of one property, and is then told when its animation ends.
 class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnimationAction> {
  public:
   explicit AnimationAction(UIViewAnimationAction owner) : Implementation(owner) {}
@@ -114,7 +114,7 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
   void run_action(NSString key, objc::Object object, NSDictionary) {
     const CALayer layer = objc::cast<CALayer>(object);
     const auto* opacity = std::get_if<double>(&old_value_);
-    if (opacity && takes_animations_plainly(layer)) return fade(layer, *opacity);
+    if (opacity && inherits_add_animation(layer)) return fade(layer, *opacity);
     const CAPropertyAnimation animation = make_animation(layer, key);
     if (!animation) return;
     time(animation);
@@ -137,7 +137,7 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
     if (blocks_touches()) objc::state_of<View>(view_.get()).begin_untouchable_animation();
   }
 
-  // Whole screens of views are faded in one block, so this goes without objects.
+  // Whole screens of views fade in one block, so this avoids creating objects.
   void fade(CALayer layer, double from) {
     const double to = layer.opacity();
     if (from == to) return;
@@ -158,7 +158,7 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
 
   bool blocks_touches() const { return !asked_.has(UIViewAnimationOptionAllowUserInteraction); }
 
-  /// nil when the property did not change.
+  /// Returns nil when the property did not change.
   CAPropertyAnimation make_animation(CALayer layer, NSString key) const {
     CAPropertyAnimation animation;
     if (const auto* point = std::get_if<CGPoint>(&old_value_)) {

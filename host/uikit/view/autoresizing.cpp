@@ -21,7 +21,7 @@ Span autoresized(Span span, double old_total, double new_total, Flexible flexibl
   const double flexible_length = (flexible.before ? span.start : 0) +
                                  (flexible.length ? span.length : 0) + (flexible.after ? after : 0);
   const double change = new_total - old_total;
-  // Lengths of zero have no proportions to keep, so they share alike.
+  // Lengths of zero have no proportions to keep, so they share equally.
   const auto share = [&](double length) {
     return flexible_length == 0 ? change / count : change * length / flexible_length;
   };

@@ -5,8 +5,8 @@
 
 namespace host::uikit {
 
-/// The frame that a subview takes when its superview's size changes. Along each axis the change is
-/// shared among the flexible lengths (margin, size, margin) in proportion to what they had.
+/// Returns the frame of a subview after its superview's size has changed. Along each axis the
+/// flexible lengths (margin, size, margin) share the change in proportion to their old values.
 CGRect autoresized_frame(CGRect frame, CGSize old_size, CGSize new_size, UIViewAutoresizing mask);
 
 }  // namespace host::uikit

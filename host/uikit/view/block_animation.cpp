@@ -15,7 +15,7 @@ constexpr UIViewAnimationOptions kKeyboardCurve = UIViewAnimationCurveKeyboard <
 std::vector<BlockAnimation> running_blocks;
 BOOL animations_enabled = YES;
 
-/// A block inside another one goes at the pace of the outer one, unless it insists on its own.
+/// A nested block takes the timing of the outer one, unless its options override it.
 BlockAnimation inherited(BlockAnimation asked) {
   if (running_blocks.empty()) return asked;
   const BlockAnimation& outer = running_blocks.back();
@@ -98,7 +98,7 @@ CAMediaTimingFunction timing_function(UIViewAnimationOptions options) {
     case UIViewAnimationOptionCurveLinear:
       return CAMediaTimingFunction::functionWithName("linear"_ns);
     case kKeyboardCurve:
-      // Off at once and gently home, as a spring without a swing goes.
+      // Starts at once and arrives gently, like a spring that does not swing.
       return CAMediaTimingFunction::functionWithControlPoints(0.38f, 0.7f, 0.125f, 1);
     default:
       return CAMediaTimingFunction::functionWithName("easeInEaseOut"_ns);

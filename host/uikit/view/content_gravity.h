@@ -5,8 +5,8 @@
 
 namespace host::uikit {
 
-/// How a layer places its contents for a view's content mode. Views count y downwards where layers
-/// speak of the bottom, so top and bottom change places.
+/// Returns how a layer places its contents for a view's content mode. Views count y downwards,
+/// while a layer's gravity counts it upwards: top and bottom are swapped.
 NSString contents_gravity(UIViewContentMode mode);
 
 }  // namespace host::uikit

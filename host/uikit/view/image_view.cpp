@@ -21,7 +21,7 @@ UIImage tinted_image(UIImage shape, UIColor color) {
 
 UIView ImageView::init_with_frame(CGRect frame) {
   if (!super<UIView>("initWithFrame:"_sel, frame)) return nil;
-  // Pictures are looked at, not touched.
+  // Images take no touches by default.
   self.setUserInteractionEnabled(NO);
   return self;
 }

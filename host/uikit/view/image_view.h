@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// Shows a picture as its layer's contents. A template is shown as its shape in the tint colour,
-/// drawn once for each picture and colour.
+/// Shows an image as its layer's contents. A template is shown as its shape in the tint colour,
+/// drawn once for each pair of image and colour.
 class ImageView : public objc::Implementation<ImageView, UIImageView> {
  public:
   explicit ImageView(UIImageView owner) : Implementation(owner) {}
@@ -31,13 +31,13 @@ class ImageView : public objc::Implementation<ImageView, UIImageView> {
   objc::Ref<UIImage> image_;
   objc::Ref<UIImage> highlighted_image_;
   BOOL highlighted_ = NO;
-  // The tinted picture, what it was made of and in which colour.
+  // The tinted image, and the image and colour it was made from.
   objc::Ref<UIImage> tinted_;
   objc::Ref<UIImage> tinted_from_;
   objc::Ref<UIColor> tinted_in_;
 };
 
-/// The shape of a template filled with the colour.
+/// Returns the shape of a template filled with the colour.
 UIImage tinted_image(UIImage shape, UIColor color);
 
 void export_image_view();

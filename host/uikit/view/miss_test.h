@@ -5,11 +5,11 @@
 
 namespace host::uikit {
 
-/// Tells which of many subviews need not be asked whether they are hit at a point. Views whose
-/// class has its own idea of that are always to be asked.
+/// Finds out which of many subviews are certainly not hit at a point, so that they need not be
+/// asked. Views whose class overrides hit-testing must always be asked.
 class MissTest {
  public:
-  /// The point is in the coordinates of the subviews' superview.
+  /// `point` is in the coordinates of the subviews' superview.
   explicit MissTest(CGPoint point) : point_(point) {}
 
   bool misses(UIView view) {
@@ -27,7 +27,7 @@ class MissTest {
   }
 
  private:
-  // What is turned or mirrored keeps other edges, and rounds.
+  // Turned or mirrored views have other edges, and rounding errors.
   static constexpr CGFloat kMargin = 1;
 
   static bool is_inherited(objc::Class cls, objc::Sel selector) {

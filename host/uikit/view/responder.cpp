@@ -5,12 +5,12 @@
 namespace host::uikit {
 namespace {
 
-// One screen with one keyboard: one first responder in the process, not one a window.
+// One screen with one keyboard: one first responder per process, not one per window.
 UIResponder current_first_responder;
 UIResponder announced;
 void (*first_responder_observer)() = nullptr;
 int changes_under_way = 0;
-bool everybody_must_resign = false;
+bool resignation_is_forced = false;
 
 }  // namespace
 
@@ -35,13 +35,13 @@ UIResponder first_responder() {
 }
 
 void end_text_input() {
-  const bool before = std::exchange(everybody_must_resign, true);
+  const bool before = std::exchange(resignation_is_forced, true);
   current_first_responder.resignFirstResponder();
-  everybody_must_resign = before;
+  resignation_is_forced = before;
 }
 
 bool must_resign() {
-  return everybody_must_resign;
+  return resignation_is_forced;
 }
 
 Responder::~Responder() {

@@ -5,7 +5,8 @@
 
 namespace host::uikit {
 
-/// The base of all that takes touches and keys. A touch that it does not want goes on to the next.
+/// The base of everything that takes touches and keys. A touch that it does not handle is passed on
+/// to the next responder.
 class Responder : public objc::Implementation<Responder, UIResponder> {
  public:
   explicit Responder(UIResponder owner) : Implementation(owner) {}
@@ -25,21 +26,22 @@ class Responder : public objc::Implementation<Responder, UIResponder> {
   void touches_cancelled(NSSet touches, UIEvent event);
 };
 
-/// Who gets the keys; nil when nobody does.
+/// Returns the responder that receives keys, or nil.
 UIResponder first_responder();
 
-/// Nobody has the keys any more: whoever has them must give them up, and is not asked.
+/// Ends text input: the first responder must resign without being asked.
 void end_text_input();
-/// Is that why the first responder resigns? Then there is nobody to ask whether it may.
+/// Returns whether the first responder resigns because of `end_text_input`; it cannot refuse then.
 bool must_resign();
 
-/// Calls `observer` whenever somebody else gets the keys than before, or nobody.
+/// Calls `observer` whenever the first responder changes, also to nil.
 void observe_first_responder(void (*observer)());
-/// Calls it also when it is the same one, whose wishes have changed.
+/// Calls the observer even when the first responder is the same, because its traits have changed.
 void announce_first_responder();
 
-/// While one lives, changes of the first responder are not announced; what has come of them is
-/// announced when the last one goes. So one who gives the keys to the next is one change, not two.
+/// While an instance lives, changes of the first responder are not announced; the final state is
+/// announced when the last instance is destroyed. Handing the keys from one responder to the next
+/// is then one change, not two.
 class FirstResponderChange {
  public:
   FirstResponderChange();

@@ -5,7 +5,7 @@
 namespace host::uikit {
 namespace {
 
-// The swing counts as at rest when this share of the distance is left: below half a pixel on a
+// The spring counts as at rest when this share of the distance remains: less than half a pixel on a
 // screen of two thousand.
 constexpr double kLogOfRest = 8.3;
 

@@ -6,9 +6,9 @@
 
 namespace host::uikit {
 
-/// Keeps touches from what is in a view, for as long as pages come and go there: fingers that land
-/// meet the view itself and nothing in it, and those that are down are cancelled. The one that a
-/// page follows, seen by `but_for`, stays.
+/// Keeps touches from the contents of a view while pages come and go there. New fingers reach the
+/// view itself and nothing in it; fingers already down are cancelled, except the one that `but_for`
+/// sees because a page follows it.
 class TouchHold {
  public:
   explicit TouchHold(UIView view, UIGestureRecognizer but_for = nil);

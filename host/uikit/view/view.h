@@ -10,9 +10,10 @@
 
 namespace host::uikit {
 
-/// A view: geometry and looks are its layer's, kept nowhere else; the tree, touches and layout are
-/// its own. A subclass made here derives its implementation from `objc::Implementation` as usual
-/// and reaches this state through `objc::state_of<View>(self)` when a message does not do.
+/// A view. Its layer holds geometry and looks, which are stored nowhere else; the view holds the
+/// tree, touches and layout. A subclass in the host derives its implementation from
+/// `objc::Implementation` as usual and reaches this state through `objc::state_of<View>(self)`
+/// where no message does.
 class View : public objc::Implementation<View, UIView> {
  public:
   explicit View(UIView owner) : Implementation(owner) {}
@@ -120,17 +121,17 @@ class View : public objc::Implementation<View, UIView> {
 
   objc::Object action_for_layer(CALayer layer, NSString key);
 
-  // For the rest of this house.
+  // For the rest of the host.
   const std::vector<objc::Ref<UIView>>& children() const { return subviews_; }
   const std::vector<objc::Ref<UIGestureRecognizer>>& recognizers() const { return recognizers_; }
   UIViewController controller() const { return controller_; }
   void set_controller(UIViewController controller) { controller_ = controller; }
-  /// Does the class draw? Only such a view has a backing store.
+  /// Returns whether the class draws. Only such a view has a backing store.
   bool draws() const { return draws_; }
-  /// Animations that take the view out of the reach of touches while they run.
+  /// Animations during which the view takes no touches.
   void begin_untouchable_animation() { ++untouchable_animations_; }
   void end_untouchable_animation() { --untouchable_animations_; }
-  /// Nothing in the view takes touches meanwhile; the view itself does.
+  /// During a hold nothing in the view takes touches, only the view itself.
   void begin_touch_hold() { ++touch_holds_; }
   void end_touch_hold() { --touch_holds_; }
 

@@ -7,7 +7,7 @@
 
 namespace host::uikit {
 
-/// Owns a view, made when it is first asked for, and shows others over it.
+/// Owns a view, created on first use, and presents other controllers over it.
 class ViewController : public objc::Implementation<ViewController, UIViewController> {
  public:
   explicit ViewController(UIViewController owner) : Implementation(owner) {}
@@ -54,12 +54,13 @@ class ViewController : public objc::Implementation<ViewController, UIViewControl
   void dismiss(BOOL animated, objc::Block<void()> completion);
   void present_modal(UIViewController controller, BOOL animated);
   void dismiss_modal(BOOL animated);
-  /// How the view stands before it is presented and once it is dismissed, and how in between;
-  /// `place` is the window's room. Overridden by those that do not come from below.
+  /// The view's place before it is presented and after it is dismissed, and while it is presented.
+  /// `place` is the area available in the window. Controllers that do not slide in from below
+  /// override these.
   void place_off_screen(CGRect place);
   void place_on_screen(CGRect place);
 
-  /// Takes down, at once, whatever is presented: its window has no place for it any more.
+  /// Removes, without animation, whatever is presented: its window no longer has a place for it.
   void end_presentation();
 
  private:

@@ -13,7 +13,7 @@ CGRect below(CGRect rect) {
   return {rect.origin.x, rect.max_y(), rect.size.width, rect.size.height};
 }
 
-// By messages: there are controllers that come another way than from below.
+// As a message: some controllers do not slide in from below.
 void put_off_screen(UIViewController controller, CGRect place) {
   objc::send<>(controller, "_placeOffScreen:"_sel, place);
 }
@@ -21,8 +21,8 @@ void put_on_screen(UIViewController controller, CGRect place) {
   objc::send<>(controller, "_placeOnScreen:"_sel, place);
 }
 
-/// Runs the changes as an animation, or at once; `done` afterwards in either case. No page in the
-/// window takes touches meanwhile: a second tap would ask one that goes, or one behind it.
+/// Runs the changes, animated or at once, and then `done` in either case. Meanwhile no page in the
+/// window takes touches: a second tap would reach one that is leaving, or one behind it.
 template <class Changes, class Done>
 void change(UIWindow window, BOOL animated, Changes changes, Done done) {
   if (!animated) {
@@ -37,14 +37,15 @@ void change(UIWindow window, BOOL animated, Changes changes, Done done) {
                               }));
 }
 
-/// Who hides all that is behind it: those behind then disappear, and appear again afterwards.
+/// Returns whether the controller hides everything behind it. Controllers behind then disappear,
+/// and appear again afterwards.
 bool covers(UIViewController controller) {
   return controller.modalPresentationStyle() == UIModalPresentationFullScreen;
 }
 
 }  // namespace
 
-/// Pages inside of others leave presenting to the outermost: what comes covers all of it.
+/// Nested controllers leave presenting to the outermost one: the presented view covers all of it.
 UIViewController ViewController::presenter() const {
   UIViewController outermost = self;
   while (const UIViewController parent = outermost.parentViewController())
@@ -83,7 +84,7 @@ void ViewController::present(UIViewController controller, BOOL animated,
       window, animated, [controller, place] { put_on_screen(controller, place); },
       [this, behind = objc::Ref<UIViewController>::retain(self), kept = presented_, animated,
        hides_self, completion = objc::OwnedBlock<void()>(completion)] {
-        // It may have been sent away again on its way.
+        // It may have been dismissed before it arrived.
         if (kept->presentingViewController() && presented_.get() == kept.get()) {
           kept->viewDidAppear(animated);
           if (hides_self) self.viewDidDisappear(animated);

@@ -6,7 +6,8 @@ namespace host::uikit {
 
 objc::Object View::action_for_layer(CALayer layer, NSString key) {
   if (const objc::Object action = make_animation_action(self, layer, key)) return action;
-  // A view's layer changes at once outside of animation blocks, unlike a bare one.
+  // Outside of animation blocks, a view's layer changes without animation, unlike a standalone
+  // layer.
   return NSNull::null();
 }
 

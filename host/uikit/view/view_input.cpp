@@ -8,10 +8,10 @@
 namespace host::uikit {
 namespace {
 
-// A view that can hardly be seen takes no touches.
+// An almost invisible view takes no touches.
 constexpr CGFloat kLeastTouchableAlpha = 0.01;
 
-/// nil stands for the window that the view is in, or the root of the tree it is in.
+/// For nil, returns the window that the view is in, or the root of its tree.
 UIView or_root(UIView asked, UIView view) {
   if (asked) return asked;
   if (const UIWindow window = view.window()) return window;
@@ -27,7 +27,7 @@ UIView View::hit_test(CGPoint point, UIEvent event) {
   if (self.alpha() < kLeastTouchableAlpha || untouchable_animations_ > 0) return nil;
   if (!self.pointInside(point, event)) return nil;
   if (touch_holds_ > 0) return self;
-  // Among thousands of subviews few have to be asked.
+  // Of thousands of subviews only a few have to be asked.
   MissTest test(point);
   std::vector<objc::Ref<UIView>> candidates;
   for (const auto& child : subviews_) {
@@ -92,7 +92,7 @@ void View::remove_gesture_recognizer(UIGestureRecognizer recognizer) {
       std::find_if(recognizers_.begin(), recognizers_.end(),
                    [recognizer](const auto& present) { return present.get() == recognizer; });
   if (found == recognizers_.end()) return;
-  // Its targets hear of the end while it still knows its view.
+  // Its targets are told of the end while it still has its view.
   const auto kept = *found;
   recognizers_.erase(found);
   objc::state_of<GestureRecognizer>(recognizer).leave_view();

@@ -5,7 +5,7 @@
 namespace host::uikit {
 namespace {
 
-// What a view that has no size of its own answers along an axis.
+// The intrinsic size, along an axis, of a view that has none.
 constexpr CGFloat kNoIntrinsicMetric = -1;
 
 }  // namespace
@@ -63,7 +63,7 @@ void View::size_to_fit() {
   const CGRect bounds = self.bounds();
   const CGRect frame = self.frame();
   const CGSize size = self.sizeThatFits(bounds.size);
-  // Grows from its top left corner, which keeps its place.
+  // Grows from its top left corner, which stays in place.
   if (size != bounds.size) self.setFrame({frame.origin, size});
 }
 

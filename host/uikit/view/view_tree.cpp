@@ -76,7 +76,7 @@ std::size_t View::index_of(UIView view) const {
 void View::insert(UIView view, std::size_t index) {
   if (!view) return;
   if (is_descendant_of_view(view)) {
-    spdlog::error("a view cannot be added to itself or to one of its own subviews");
+    spdlog::error("a view cannot be added to itself or to one of its subviews");
     return;
   }
   const std::size_t present = index_of(view);
@@ -93,7 +93,7 @@ void View::insert(UIView view, std::size_t index) {
   if (changes_window) child.announce_window(window);
   view.willMoveToSuperview(self);
   if (child.superview_) objc::state_of<View>(child.superview_).detach_quietly(view);
-  // What was asked while it moved may have changed the children.
+  // The messages sent during the move may have changed the children.
   index = std::min(index, subviews_.size());
   subviews_.insert(subviews_.begin() + static_cast<std::ptrdiff_t>(index), kept);
   child.superview_ = self;
@@ -157,7 +157,8 @@ void View::announce_window(UIWindow window) {
 
 void View::settle_in_window(UIWindow window) {
   window_ = window;
-  // What is on no screen does not move: whoever waits for the end hears that it was cut short.
+  // A view off screen does not move: observers of the animation's end are told that it was cut
+  // short.
   if (!window) layer_->removeAllAnimations();
   self.didMoveToWindow();
   const auto children = subviews_;

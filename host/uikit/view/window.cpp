@@ -71,7 +71,7 @@ void Window::install_root_view() {
   if (!view || view.superview() == self) return;
   view.setFrame(self.bounds());
   view.setAutoresizingMask(UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight);
-  // Below what the window holds already.
+  // Below the existing contents of the window.
   self.insertSubview(view, 0);
 }
 

@@ -7,8 +7,8 @@
 
 namespace host::uikit {
 
-/// The root of a tree of views on the screen. It is hidden when it is made and stands in no list
-/// until it is shown.
+/// The root of a tree of views on the screen. A new window is hidden, and is listed only once
+/// shown.
 class Window : public objc::Implementation<Window, UIWindow> {
  public:
   explicit Window(UIWindow owner) : Implementation(owner) {}
@@ -40,7 +40,7 @@ class Window : public objc::Implementation<Window, UIWindow> {
 
   UIWindowLevel level_ = UIWindowLevelNormal;
   objc::Ref<UIViewController> root_controller_;
-  // Asked for once, when the window is first shown: a context cannot change its kind.
+  // Asked once, when the window is first shown: a context cannot change its kind afterwards.
   std::optional<BOOL> secure_;
 };
 
