@@ -4,13 +4,13 @@
 
 namespace host::uikit {
 
-/// Whom the application asks to open addresses: views know nothing of the desktop around the phone.
+/// Opens addresses for the application: views know nothing of the desktop around the phone.
 struct AddressOpener {
   bool (*can_open)(const std::string& address) = nullptr;
   bool (*open)(const std::string& address) = nullptr;
 };
 
-/// Without one nothing can be opened.
+/// Until an opener is set, no address can be opened.
 void set_address_opener(AddressOpener opener);
 
 }  // namespace host::uikit

@@ -84,7 +84,8 @@ CGRect Application::status_bar_frame() const {
 }
 
 UIApplication launch_application(const char* class_name) {
-  // The launch is a turn of its own: what it borrowed on the way is not kept for life.
+  // The launch has its own pool: objects autoreleased on the way do not live as long as the
+  // process.
   const objc::AutoreleasePool pool;
   const objc::Object cls(objc_getClass(class_name));
   const auto allocated = objc::send<UIApplication>(cls, "alloc"_sel);

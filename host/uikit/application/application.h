@@ -5,8 +5,8 @@
 
 namespace host::uikit {
 
-/// The one application of the process: where events come in, and where actions that nobody was
-/// named for go looking for somebody.
+/// The only application of the process. Events come in here, and actions without a target are
+/// routed from here along the responder chain.
 class Application : public objc::Implementation<Application, UIApplication> {
  public:
   explicit Application(UIApplication owner) : Implementation(owner) {}
@@ -43,8 +43,9 @@ class Application : public objc::Implementation<Application, UIApplication> {
   BOOL status_bar_hidden_ = NO;
 };
 
-/// Makes the process's application, of the class of that name, and tells it that it has launched;
-/// nil when there is no such class. The application lives as long as the process.
+/// Creates the process's application, an instance of the named class, and tells it that it has
+/// launched. Returns nil when the class does not exist. The application lives as long as the
+/// process.
 UIApplication launch_application(const char* class_name);
 
 void export_application_class();

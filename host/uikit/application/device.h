@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// The device that the process runs on, by its chosen model.
+/// Exports the device class; it describes the chosen device model.
 void export_device();
 
 }  // namespace host::uikit

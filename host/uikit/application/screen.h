@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// The main screen, as large as the device model's.
+/// Exports the screen class; the main screen is as large as the device model's.
 void export_screen();
 
 }  // namespace host::uikit

@@ -17,33 +17,33 @@ constexpr _UIBackdropViewStyle kFallbackStyle = 2060;
 
 // name, style, blur, saturation, grey level and alpha, tint
 constexpr std::array kLooks{
-    // Milk glass that watches what is behind it: thin over bright pictures, thicker over dark ones.
+    // Milk glass that adapts to the background: thin over bright pictures, thicker over dark ones.
     BackdropLook{"_UIBackdropViewSettingsAdaptiveLight", 2060, 30, 1.8, 1, 0, white(1, 0.38),
                  BackdropTint::FollowsBrightness},
-    // Smoked glass: colours glow through, white text stands on it.
+    // Smoked glass: colours glow through, and white text is readable on it.
     BackdropLook{"_UIBackdropViewSettingsDark", 2030, 20, 1.8, 0, 0, white(0.11, 0.73)},
-    // Nearly paper: a hint of the colours behind.
+    // Almost paper: only a hint of the colours behind.
     BackdropLook{"_UIBackdropViewSettingsUltraLight", 2010, 20, 1.8, 1, 0, white(0.97, 0.82)},
-    // A light veil on a shallow blur: shapes can still be told.
+    // A light veil over a shallow blur: shapes remain recognisable.
     BackdropLook{"_UIBackdropViewSettingsLightLow", 2029, 9, 1.4, 1, 0, white(1, 0.22)},
-    // The same in the dark.
+    // The dark counterpart.
     BackdropLook{"_UIBackdropViewSettingsDarkLow", 2039, 9, 1.4, 0, 0, white(0.05, 0.42)},
     // Ink: only the strongest colours come through.
     BackdropLook{"_UIBackdropViewSettingsUltraDark", 2050, 24, 1.6, 0, 0, white(0.02, 0.86)},
-    // The deepest blur, lifted by a little grey before it is darkened: even, calm, behind digits.
+    // The deepest blur, lifted by a little grey and then darkened: an even, calm ground for digits.
     BackdropLook{"_UIBackdropViewSettingsPasscodePaddle", 3900, 44, 1.5, 0.6, 0.14, white(0, 0.40)},
-    // The plain milk glass.
+    // Plain milk glass.
     BackdropLook{"_UIBackdropViewSettingsLight", 2020, 30, 1.8, 1, 0, white(1, 0.34)},
-    // Nothing but colour: strong saturation and no tint at all.
+    // Colour only: strong saturation without a tint.
     BackdropLook{"_UIBackdropViewSettingsColored", 2040, 24, 2.4, 1, 0, kNoTint},
     // Between light and paper.
     BackdropLook{"_UIBackdropViewSettingsSemiLight", 2070, 24, 1.8, 1, 0, white(0.97, 0.58)},
-    // The same without its glow: colours as they are, a matt grey over them.
+    // The same without the glow: unchanged colours under a matt grey.
     BackdropLook{"_UIBackdropViewSettingsFlatSemiLight", 2071, 24, 0.9, 0.5, 0.12,
                  white(0.92, 0.52)},
-    // Colour turned up all the way, darkened a touch so that it does not glare.
+    // Maximum saturation, slightly darkened against glare.
     BackdropLook{"_UIBackdropViewSettingsUltraColored", 2080, 34, 3.4, 0, 0, white(0, 0.14)},
-    // The cool grey of the keys' background.
+    // The cool grey behind the keys of the keyboard.
     BackdropLook{"_UIBackdropViewSettingsLightKeyboard", 3901, 20, 1.3, 1, 0,
                  quartzcore::Rgba{0.82, 0.84, 0.87, 0.76}},
 };

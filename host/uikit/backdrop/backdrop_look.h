@@ -9,16 +9,16 @@ namespace host::uikit {
 
 enum class BackdropTint {
   Fixed,
-  /// The tint grows stronger the darker it is behind, so that dark text stays readable.
+  /// The darker the background, the stronger the tint, so dark text stays readable.
   FollowsBrightness,
 };
 
-/// One look of a backdrop: blur, then saturation, then a grey, then a colour, in this order.
+/// One look of a backdrop. Blur, saturation, grey and tint are applied in this order.
 struct BackdropLook {
   const char* class_name;
   _UIBackdropViewStyle style;
   double blur_radius;  // points
-  double saturation;   // 1 keeps the colours
+  double saturation;   // 1 keeps the colours as they are
   double gray_level;
   double gray_alpha;
   quartzcore::Rgba tint;
@@ -27,12 +27,12 @@ struct BackdropLook {
 
 std::span<const BackdropLook> backdrop_looks();
 
-/// The look of that number, the adaptive light one where there is none.
+/// Returns the look with that number; the adaptive light one when no such look exists.
 const BackdropLook& look_of_style(_UIBackdropViewStyle style);
-/// The look of that settings class; null for a class without one.
+/// Returns the look of that settings class; null when the class has none.
 const BackdropLook* look_of_class(objc::Class cls);
 
-/// How strong the adaptive tint is over something of this brightness, 0 to 1.
+/// Returns the alpha of the adaptive tint, 0 to 1, over a background of this brightness.
 double adaptive_tint_alpha(double luminance);
 
 }  // namespace host::uikit

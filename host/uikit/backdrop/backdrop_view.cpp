@@ -8,9 +8,9 @@
 namespace host::uikit {
 namespace {
 
-// After the screen has painted, since only then is it known what is behind.
+// After the screen has painted: only then is the background known.
 constexpr int kAfterPainting = 300;
-// Smaller changes of brightness behind cannot be seen in the tint.
+// Smaller changes of the background's brightness would not be visible in the tint.
 constexpr double kNoticeableChange = 0.02;
 
 quartzcore::BackdropLayer& layer_of(_UIBackdropView view) {
@@ -118,7 +118,7 @@ void BackdropView::follow_brightness() {
   quartzcore::Rgba tint = tint_;
   tint.alpha = adaptive_tint_alpha(luminance);
   set_tint(tint);
-  // This turn has painted already: another one shows the new tint.
+  // This turn has already painted; the new tint needs another turn.
   RunLoop::main().perform([] {});
 }
 

@@ -48,7 +48,7 @@ class BackdropView : public objc::Implementation<BackdropView, _UIBackdropView> 
 
 void export_backdrop_view();
 
-/// Makes backdrop views and their settings; views must have been made. A second call does nothing.
+/// Exports backdrop views and their settings; requires `export_view`. Idempotent.
 void export_backdrop();
 
 }  // namespace host::uikit

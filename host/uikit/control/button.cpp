@@ -11,7 +11,7 @@ constexpr CGFloat kSystemPressedAlpha = 0.2;
 constexpr CGFloat kDisabledButtonAlpha = 0.5;
 constexpr CGFloat kSystemTitleSize = 15;
 constexpr CGFloat kTitleSize = 18;
-// What a button without any content keeps, so that it can still be touched.
+// The size of a button without content, large enough to be touched.
 constexpr CGSize kEmptySize{30, 34};
 
 CGRect inset(CGRect rect, const UIEdgeInsets& insets) {
@@ -87,7 +87,7 @@ UILabel Button::title_label() {
 UIImageView Button::image_view() {
   if (!image_view_) {
     image_view_ = objc::Ref<UIImageView>::adopt(UIImageView::alloc().initWithFrame({}));
-    // The picture keeps its size inside a larger button and is not stretched to it.
+    // The image keeps its size inside a larger button instead of being stretched.
     image_view_->setContentMode(UIViewContentModeScaleToFill);
     self.addSubview(image_view_.get());
   }
@@ -128,7 +128,7 @@ void Button::tint_color_did_change() {
   update();
 }
 
-/// Shows what the present state asks for.
+/// Shows the content for the current state.
 void Button::update() {
   const UIImage image = self.currentImage();
   if (image || image_view_) self.imageView().setImage(is_system() ? as_template(image) : image);
@@ -143,7 +143,7 @@ void Button::update() {
   self.setNeedsLayout();
 }
 
-/// A pressed or disabled button fades, unless it has a look of its own for that.
+/// A pressed or disabled button fades, unless it has its own content for that state.
 void Button::update_dimming() {
   const bool pressed = self.isHighlighted();
   const bool has_own_image =
@@ -179,7 +179,7 @@ CGFloat Button::content_left(CGRect content) {
 CGRect Button::image_rect(CGRect content) {
   const CGRect room = inset(content, image_insets_);
   const CGSize wanted = image_size();
-  // A picture larger than the button shrinks to it; a smaller one is not enlarged.
+  // An image larger than the button is scaled down; a smaller one is not enlarged.
   const CGSize size{std::min(wanted.width, room.size.width),
                     std::min(wanted.height, room.size.height)};
   const CGFloat y = room.min_y() + (room.size.height - size.height) / 2;

@@ -8,7 +8,7 @@
 
 namespace host::uikit {
 
-/// A picture, a title, or both, by the control's state.
+/// Shows an image, a title, or both, depending on the control's state.
 class Button : public objc::Implementation<Button, UIButton> {
  public:
   explicit Button(UIButton owner) : Implementation(owner) {}

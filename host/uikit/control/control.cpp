@@ -9,7 +9,7 @@
 namespace host::uikit {
 namespace {
 
-// A finger that has pressed a control may stray this far, in points, and is still on it.
+// How far, in points, a finger that has pressed a control may stray and still count as on it.
 constexpr CGFloat kTrackingSlack = 70;
 
 }  // namespace
@@ -161,7 +161,8 @@ void Control::stop_tracking() {
 }
 
 BOOL Control::gesture_recognizer_should_begin(UIGestureRecognizer recognizer) {
-  // One tap with one finger is what the control itself is for; recognisers above it leave it alone.
+  // A single tap with one finger is the control's own; recognisers of its ancestors must not take
+  // it.
   const bool above = recognizer.view() != self;
   if (above && enabled_ && recognizer.isKindOfClass(UITapGestureRecognizer::cls())) {
     const auto tap = objc::cast<UITapGestureRecognizer>(recognizer);

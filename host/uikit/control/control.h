@@ -8,7 +8,7 @@
 
 namespace host::uikit {
 
-/// Turns a finger into events and events into actions.
+/// Turns fingers into control events, and control events into actions.
 class Control : public objc::Implementation<Control, UIControl> {
  public:
   explicit Control(UIControl owner) : Implementation(owner) {}

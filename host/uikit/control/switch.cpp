@@ -11,18 +11,18 @@ namespace {
 constexpr CGSize kSize{51, 31};
 constexpr CGFloat kRim = 1.5;
 constexpr CGFloat kKnob = 28;
-/// A pressed knob reaches towards the other side.
+/// A pressed knob stretches towards the other side.
 constexpr CGFloat kPressedKnob = 35;
 constexpr CGFloat kShadowDrop = 2;
 constexpr CGFloat kShadowGrowth = 0.5;
 constexpr CGFloat kShadowAlpha = 0.09;
 constexpr CGFloat kKnobEdgeAlpha = 0.1;
 constexpr CGFloat kDisabledSwitchAlpha = 0.5;
-/// A finger has to travel this far before it drags the knob and does not tap it.
+/// A finger that travels this far drags the knob instead of tapping it.
 constexpr CGFloat kDragStart = 5;
 constexpr double kDuration = 0.45;
 constexpr CGFloat kDamping = 0.78;
-/// What is shrunk away keeps a trace of a size, so that it can grow again.
+/// A shrunk view keeps a trace of its size, since a singular transform could not be animated back.
 constexpr CGFloat kShrunk = 0.001;
 
 UIColor rim_color() {
@@ -70,7 +70,7 @@ void Switch::place() const {
   shadow_->setFrame(
       CGRectOffset(CGRectInset(knob, -kShadowGrowth, -kShadowGrowth), 0, kShadowDrop));
   fill_->setAlpha(shown_on_ ? 1 : 0);
-  // Under a finger the empty track closes in on the knob's side and is grey all over.
+  // While pressed, the empty track shrinks to nothing and the whole switch is grey.
   const CGFloat scale = shown_on_ || pressed_ ? kShrunk : 1;
   well_->setTransform(CGAffineTransformMakeScale(scale, scale));
 }

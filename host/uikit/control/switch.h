@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// A knob in a track. A tap moves it to the other side, and so does a finger that takes it there;
-/// the action is sent when the finger lifts, and only when something has changed.
+/// A knob in a track. It moves to the other side by a tap or by a drag. The action is sent when the
+/// finger lifts, and only when the value has changed.
 class Switch : public objc::Implementation<Switch, UISwitch> {
  public:
   explicit Switch(UISwitch owner) : Implementation(owner) {}
@@ -43,7 +43,7 @@ class Switch : public objc::Implementation<Switch, UISwitch> {
   objc::Ref<UIColor> on_tint_;
   objc::Ref<UIColor> thumb_tint_;
   BOOL on_ = NO;
-  /// The side that the knob is on, which a finger may have taken it to.
+  /// The side on which the knob is shown; a finger may have dragged it there.
   BOOL shown_on_ = NO;
   bool pressed_ = false;
   bool dragged_ = false;

@@ -31,9 +31,9 @@ class BarButtonItem : public objc::Implementation<BarButtonItem, UIBarButtonItem
   UIColor tint_color() const { return tint_.get(); }
   void set_tint_color(UIColor color);
 
-  /// Called after every change of its looks. One watches at a time.
+  /// Sets the function called after every change of the item's looks, replacing the previous one.
   void watch(std::function<void()> watcher) { watcher_ = std::move(watcher); }
-  /// Sends the action, as the button that stands for it does.
+  /// Sends the action, as the item's button does when tapped.
   void press();
 
  private:
@@ -42,7 +42,7 @@ class BarButtonItem : public objc::Implementation<BarButtonItem, UIBarButtonItem
   objc::Ref<NSString> title_;
   objc::Ref<UIImage> image_;
   objc::Ref<UIColor> tint_;
-  // Not retained, as the platform has it.
+  // Not retained, as on the platform.
   objc::Object target_;
   objc::Sel action_ = nullptr;
   UIBarButtonItemStyle style_ = UIBarButtonItemStylePlain;

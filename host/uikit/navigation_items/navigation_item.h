@@ -26,8 +26,8 @@ class NavigationItem : public objc::Implementation<NavigationItem, UINavigationI
   BOOL hides_back_button() const { return hides_back_button_; }
   void set_hides_back_button(BOOL hides);
 
-  /// Called after every change of what is to be shown, its buttons' included. One watches at a
-  /// time.
+  /// Sets the function called after every change of what is shown, including the items' buttons. It
+  /// replaces the previous one.
   void watch(std::function<void()> watcher) { watcher_ = std::move(watcher); }
 
  private:

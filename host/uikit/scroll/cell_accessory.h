@@ -5,7 +5,7 @@
 
 namespace host::uikit {
 
-/// The mark at the right of a row, in its natural size; nothing for a type without one.
+/// Returns the mark at the right of a row, in its natural size; null for a type without a mark.
 objc::Ref<UIView> make_cell_accessory(UITableViewCellAccessoryType type);
 
 }  // namespace host::uikit

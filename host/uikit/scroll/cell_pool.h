@@ -9,10 +9,10 @@
 
 namespace host::uikit {
 
-/// Cells that have scrolled out of sight and wait to show another row, by their identifiers.
+/// Cells that have scrolled out of sight and wait to be reused, by identifier.
 class CellPool {
  public:
-  /// A cell without identifier is let go.
+  /// A cell without an identifier is discarded.
   void keep(UITableViewCell cell) {
     const NSString identifier = cell.reuseIdentifier();
     if (!identifier) return;
@@ -20,7 +20,7 @@ class CellPool {
     if (waiting.size() < kMost) waiting.push_back(objc::Ref<UITableViewCell>::retain(cell));
   }
 
-  /// Autoreleased, so that it outlives the pool's hold on it until the caller has shown it; nil
+  /// Returns a waiting cell, autoreleased so that it stays alive until the caller has shown it; nil
   /// when none waits.
   UITableViewCell take(NSString identifier) {
     if (!identifier) return nil;
@@ -32,7 +32,7 @@ class CellPool {
   }
 
  private:
-  /// More than a screen ever shows are no use.
+  /// More cells than a screen ever shows are useless.
   static constexpr std::size_t kMost = 64;
   std::unordered_map<std::string, std::vector<objc::Ref<UITableViewCell>>> waiting_;
 };

@@ -5,12 +5,12 @@
 
 namespace host::uikit {
 
-/// Seconds for which a touch on a scroll view's content is held back, since it may turn out to be
-/// the beginning of a drag.
+/// How long a touch on a scroll view's content is delayed, in seconds, since it may turn into a
+/// drag.
 inline constexpr double kContentTouchDelay = 0.15;
 
-/// The recogniser that holds touches back and never recognises anything: it fails when the time is
-/// over or the finger has left, and the content then gets what was held.
+/// Returns the recogniser that delays touches and never recognises anything. It fails when the time
+/// is over or the finger has lifted; the content then gets the delayed touches.
 objc::Ref<UIGestureRecognizer> make_content_touch_delay(UIScrollView view);
 
 void export_content_touch_delay();

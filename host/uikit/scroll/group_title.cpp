@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kGroupMargin = 15;
 constexpr double kGroupFontSize = 13;
-/// Between the text and its rows.
+/// The gap between the text and its rows.
 constexpr double kRise = 7;
 constexpr double kFirstGap = 35;
 constexpr double kGap = 17.5;

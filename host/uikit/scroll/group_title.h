@@ -5,13 +5,15 @@
 
 namespace host::uikit {
 
-/// Small capitals over a group of rows, near to it; words on as many lines as they take below it.
+/// A header shows small capitals close above its rows; a footer shows sentences below them, on as
+/// many lines as they need.
 enum class GroupEnd { Header, Footer };
 
-/// The grey that groups of rows lie on.
+/// Returns the grey behind groups of rows.
 UIColor group_ground_color();
 
-/// With a nil text, what keeps two groups apart. The first group stands a little lower.
+/// Returns the height of a header or footer; for a nil text, the gap between two groups. The first
+/// group starts a little lower.
 double group_title_height(NSString text, GroupEnd end, bool is_first, double width);
 objc::Ref<UIView> make_group_title(NSString text, GroupEnd end, CGSize size);
 

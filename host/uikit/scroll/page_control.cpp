@@ -13,7 +13,7 @@ constexpr CGFloat kDotDistance = 16;
 constexpr CGFloat kHeight = 37;
 constexpr CGFloat kDimAlpha = 0.2;
 
-/// Changes layers that have no view to say that nothing is to be animated.
+/// Changes standalone layers, which have no view to disable their animations.
 class WithoutActions {
  public:
   WithoutActions() {

@@ -9,7 +9,7 @@
 
 namespace host::uikit {
 
-/// A row of dots, one for each page. A tap beside the current one turns a page that way.
+/// A row of dots, one per page. A tap beside the current dot turns a page in that direction.
 class PageControl : public objc::Implementation<PageControl, UIPageControl> {
  public:
   explicit PageControl(UIPageControl owner) : Implementation(owner) {}

@@ -13,7 +13,7 @@ NSIndexPath RowPaths::path(RowPlace place) {
 }
 
 RowPaths& row_paths() {
-  // Never destroyed: the runtime may be gone before the end of the process.
+  // Never destroyed: the runtime may be gone before the process ends.
   static auto* const paths = new RowPaths;
   return *paths;
 }

@@ -8,22 +8,22 @@
 
 namespace host::uikit {
 
-/// The index paths of rows. Who measures a table asks for all of them, with every reload anew, so
-/// those of the first section are kept; to make one costs far more than to hand it out.
+/// The index paths of rows. Measuring a table asks for all of them, on every reload, so those of
+/// the first section are cached: creating a path costs far more than returning it.
 class RowPaths {
  public:
-  /// Rows beyond this number are made anew each time. A kept one costs some seventy bytes, a small
-  /// part of what its row's song takes.
+  /// Rows beyond this number are not cached. A cached path takes some seventy bytes, a small part
+  /// of what the row's song takes.
   static constexpr long kMostKept = 2'000'000;
 
-  /// Borrowed, or autoreleased.
+  /// Returns a cached or an autoreleased path; the caller does not own it.
   NSIndexPath path(RowPlace place);
 
  private:
   std::vector<objc::Ref<NSIndexPath>> first_section_;
 };
 
-/// The one of this process: paths of equal rows are the same for all tables.
+/// Returns the cache of this process: all tables share the paths of equal rows.
 RowPaths& row_paths();
 
 }  // namespace host::uikit

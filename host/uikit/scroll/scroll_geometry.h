@@ -7,8 +7,8 @@
 
 namespace host::uikit {
 
-/// Which offsets a scroll view may rest at. The smallest is the inset before the content, negated;
-/// content smaller than the view rests there.
+/// The offsets at which a scroll view may rest. The smallest is the negated inset before the
+/// content; content smaller than the view rests there.
 struct ScrollGeometry {
   CGSize view;
   CGSize content;

@@ -11,7 +11,7 @@ namespace {
 constexpr double kThickness = 2.5;
 constexpr double kIndicatorMargin = 3.0;
 constexpr double kShortest = 36.0;
-/// Pushed beyond the end of the content, a bar shrinks no further than to a dot of this length.
+/// Pushed beyond the end of the content, a bar shrinks to a dot of this length at most.
 constexpr double kShortestBeyond = 7.0;
 constexpr double kFadeDelay = 0.5;
 constexpr double kFadeDuration = 0.25;
@@ -23,7 +23,7 @@ struct Span {
   double length;
 };
 
-/// Where a bar stands on a track of `track` points.
+/// Returns a bar's place on a track of `track` points.
 Span span_on_track(double track, double view, double content, double offset, OffsetRange range) {
   const double whole = std::max(content, view);
   double length = std::clamp(track * view / whole, std::min(kShortest, track), track);

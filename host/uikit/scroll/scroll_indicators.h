@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// The two slim bars that tell where in its content a scroll view is. Only their layers join the
-/// view: whoever walks its subviews finds content alone.
+/// The two slim bars that show the position of a scroll view in its content. Only their layers are
+/// added to the view, so a walk over its subviews finds nothing but content.
 class ScrollIndicators {
  public:
   struct Shown {
@@ -19,7 +19,7 @@ class ScrollIndicators {
   ~ScrollIndicators();
 
   void set_style(UIScrollViewIndicatorStyle style);
-  /// Puts them where `offset` in `geometry` belongs, `insets` from the view's edges.
+  /// Positions the bars for `offset` in `geometry`, `insets` away from the view's edges.
   void place(const ScrollGeometry& geometry, CGPoint offset, UIEdgeInsets insets, Shown shown);
   void appear();
   void fade();

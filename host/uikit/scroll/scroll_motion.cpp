@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kSetAnimationDuration = 0.3;
 
-/// Gathers speed at first and loses it at last.
+/// Eases in and out.
 double eased(double share) {
   return share * share * (3 - 2 * share);
 }
@@ -75,7 +75,7 @@ void ScrollMotion::frame(double now) {
   }
   const Kind ended = kind_;
   move_(end());
-  // Whoever heard of the last offset may have started another motion.
+  // An observer of the last offset may have started another motion.
   if (kind_ != ended || started_ + duration_ > now) return;
   stop();
   finish_(ended);

@@ -9,14 +9,14 @@
 
 namespace host::uikit {
 
-/// What moves an offset without a finger: a glide after a release, or the animation to an offset
-/// that was set. It asks the loop for frames only while it runs.
+/// Moves an offset without a finger: a glide after a release, or the animation to an offset that
+/// was set. It requests frames from the loop only while it runs.
 class ScrollMotion {
  public:
   enum class Kind { None, Glide, Animation };
 
-  /// `owner` holds this motion, and is kept alive through each frame. `move` gets every new offset,
-  /// `finish` what came to its end by itself.
+  /// `owner` holds this motion and is kept alive during each frame. `move` receives every new
+  /// offset, `finish` the kind of a motion that has come to its own end.
   ScrollMotion(objc::Object owner, std::function<void(CGPoint)> move,
                std::function<void(Kind)> finish);
   ScrollMotion(const ScrollMotion&) = delete;
@@ -25,14 +25,14 @@ class ScrollMotion {
 
   void glide(AxisGlide horizontal, AxisGlide vertical);
   void animate(CGPoint from, CGPoint to);
-  /// Ends the motion where it is; nobody is told.
+  /// Ends the motion where it is, without calling `finish`.
   void stop();
 
   Kind kind() const { return kind_; }
   bool runs() const { return kind_ != Kind::None; }
-  /// In points a second, of a glide.
+  /// The velocity of a glide, in points per second.
   CGPoint velocity() const;
-  /// Where it is going to rest.
+  /// Where the motion is going to rest.
   CGPoint end() const;
 
  private:

@@ -5,8 +5,8 @@
 
 namespace host::uikit {
 
-/// The pan recogniser of a scroll view. A finger that lands on moving content holds it fast and
-/// drags from its first point on.
+/// Returns the pan recogniser of a scroll view. A finger that lands on moving content stops it and
+/// drags it from the first point on.
 objc::Ref<UIPanGestureRecognizer> make_scroll_pan(UIScrollView view);
 
 void export_scroll_pan();

@@ -93,8 +93,8 @@ void ScrollView::set_content_size(CGSize size) {
   const CGPoint allowed_before = geometry().clamp(offset);
   content_size_ = size;
   size_changed();
-  // Content that was in its place must not be left hanging when it shrinks; an offset that was set
-  // ahead of its content waits for it.
+  // Content that was in place must not end up beyond its edge when it shrinks; an offset set ahead
+  // of its content waits for it.
   if (dragging_ || motion_.runs()) return;
   const CGPoint allowed = geometry().clamp(offset);
   const CGPoint kept{allowed_before.x == offset.x ? allowed.x : offset.x,

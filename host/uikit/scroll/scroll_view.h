@@ -12,7 +12,7 @@ namespace host::uikit {
 
 class ScrollIndicators;
 
-/// A window on content larger than itself. The offset is the origin of its bounds and is kept
+/// A view of content larger than itself. The offset is the origin of its bounds and is stored
 /// nowhere else.
 class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
  public:
@@ -85,13 +85,13 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
 
   // For the recognisers of this view.
   enum class Caught { Still, Moving };
-  /// A finger is down on the content. Moving content is caught: it stands still from now on.
+  /// A finger is down on the content. Moving content is caught: it stops.
   Caught finger_down(UIView touched);
   void finger_gone();
 
  private:
   enum class Axis { Horizontal, Vertical };
-  /// The axes along which the present drag moves the content.
+  /// The axes along which the current drag moves the content.
   struct Axes {
     bool horizontal = false;
     bool vertical = false;
@@ -111,7 +111,7 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
   void begin_pull();
   void drag();
   void end_drag(CGPoint finger_velocity);
-  /// Where the finger has pulled the content, were it without edges.
+  /// Where the finger has pulled the content, ignoring edges.
   CGPoint pull() const;
   CGPoint dragged_offset(CGPoint pulled) const;
   CGPoint velocity_of_content(CGPoint finger_velocity) const;
@@ -138,10 +138,10 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
   CGPoint drag_translation_;
   CGPoint drag_pull_;
   double touch_time_ = 0;
-  /// Counts the offsets that were asked for with `setContentOffset:animated:`.
+  /// Counts the offsets set with `setContentOffset:animated:`.
   unsigned settings_ = 0;
   bool moving_by_motion_ = false;
-  /// The finger that is down has landed on moving content.
+  /// Whether the finger that is down has landed on moving content.
   bool caught_ = false;
 
   BOOL paging_ = NO;

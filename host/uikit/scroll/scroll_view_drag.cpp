@@ -11,11 +11,11 @@ namespace host::uikit {
 namespace {
 
 constexpr double kMillisecondsPerSecond = 1000.0;
-/// With the directional lock on, a drag this much steeper along one axis keeps to it.
+/// With directional lock, a drag this much steeper along one axis is locked to it.
 constexpr double kLockSteepness = 1.5;
 
-/// Where content goes that is pulled to `pulled`: beyond an edge it follows less and less, or not
-/// at all.
+/// Returns the position of content pulled to `pulled`: beyond an edge it follows less and less, or
+/// not at all.
 double resisted(double pulled, OffsetRange range, double extent, Edges edges) {
   const double inside = range.clamp(pulled);
   return edges == Edges::Bounce ? inside + rubber_band(pulled - inside, extent) : inside;
@@ -55,7 +55,7 @@ BOOL ScrollView::gesture_recognizer_should_begin(UIGestureRecognizer recognizer)
     if (!can_cancel_content_touches_) return NO;
     if (!self.touchesShouldCancelInContentView(touched_)) return NO;
   }
-  // A drag across the way this view scrolls belongs to whatever view scrolls that way.
+  // A drag across this view's scrolling direction belongs to another view that scrolls that way.
   if (axes.horizontal && axes.vertical) return YES;
   const CGPoint moved = pan_->translationInView(self);
   const bool is_horizontal = std::abs(moved.x) > std::abs(moved.y);
@@ -114,8 +114,8 @@ void ScrollView::begin_drag() {
   listener("scrollViewWillBeginDragging:"_sel).scrollViewWillBeginDragging(self);
 }
 
-// What the finger had to move before it counted as a drag is not made up for: content that jumped
-// that far under the finger would feel loose.
+// The distance that the finger had to move before it counted as a drag is not made up for: content
+// that jumped that far under the finger would feel loose.
 void ScrollView::begin_pull() {
   const ScrollGeometry now = geometry();
   const CGPoint offset = self.contentOffset();
@@ -150,8 +150,8 @@ void ScrollView::drag() {
 }
 
 CGPoint ScrollView::velocity_of_content(CGPoint finger_velocity) const {
-  // Beyond an edge the content is slower than the finger, by what the rubber band gives of the next
-  // moment's pull.
+  // Beyond an edge the content is slower than the finger: the rubber band passes on only part of
+  // the next moment's pull.
   constexpr double kMoment = 0.001;
   const CGPoint pulled = pull();
   const CGPoint now = dragged_offset(pulled);
@@ -203,7 +203,7 @@ void ScrollView::end_drag(CGPoint finger_velocity) {
   dragging_ = NO;
   listener("scrollViewDidEndDragging:willDecelerate:"_sel)
       .scrollViewDidEndDragging(self, glides ? YES : NO);
-  // A listener that has sent the content somewhere has had the last word.
+  // A delegate that has set another offset takes precedence.
   if (settings_ != settings_before) return;
   if (!glides) {
     indicators_->fade();
@@ -214,8 +214,8 @@ void ScrollView::end_drag(CGPoint finger_velocity) {
   listener("scrollViewWillBeginDecelerating:"_sel).scrollViewWillBeginDecelerating(self);
 }
 
-// The content was put elsewhere, or its size has changed, while it was gliding: it keeps its speed,
-// and a page that it was turning to.
+// The content was moved, or its size has changed, during a glide: the glide keeps its speed and the
+// page it was turning to.
 void ScrollView::continue_glide() {
   const CGPoint offset = self.contentOffset();
   const CGPoint velocity = motion_.velocity();

@@ -13,7 +13,7 @@ constexpr double kGrey = 247.0 / 255;
 }  // namespace
 
 objc::Ref<UIView> make_section_title(NSString title) {
-  // Any size does: the label follows the bar to the one that the table gives it.
+  // An arbitrary size: the label resizes with the bar when the table sets its frame.
   constexpr double kWidth = 320;
   constexpr double kHeight = 28;
   auto bar = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({0, 0, kWidth, kHeight}));

@@ -5,7 +5,7 @@
 
 namespace host::uikit {
 
-/// The grey bar with a bold title that stands over or under a section of a plain table.
+/// Returns the grey bar with a bold title for a section's header or footer in a plain table.
 objc::Ref<UIView> make_section_title(NSString title);
 
 }  // namespace host::uikit

@@ -12,7 +12,7 @@
 
 namespace host::uikit {
 
-/// A column of rows of which only those in sight have cells.
+/// A column of rows, of which only the visible ones have cells.
 class TableView : public objc::Implementation<TableView, UITableView> {
  public:
   explicit TableView(UITableView owner) : Implementation(owner) {}
@@ -95,7 +95,7 @@ class TableView : public objc::Implementation<TableView, UITableView> {
   RowSpan visible_span() const;
   CGRect rect_of(RowSpan span) const;
 
-  // Cells in sight.
+  // Visible cells.
   void show_rows_in_sight();
   void show_row(RowPlace place);
   void put_away(RowPlace place, UITableViewCell cell);

@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// One row of a table: picture, text and accessory from left to right. Whatever of these is never
-/// asked for is never made.
+/// One row of a table: image, text and accessory from left to right. Parts that are never requested
+/// are never created.
 class TableViewCell : public objc::Implementation<TableViewCell, UITableViewCell> {
  public:
   explicit TableViewCell(UITableViewCell owner) : Implementation(owner) {}
@@ -48,9 +48,9 @@ class TableViewCell : public objc::Implementation<TableViewCell, UITableViewCell
   void set_highlighted(BOOL highlighted);
   void set_highlighted_animated(BOOL highlighted, BOOL animated);
 
-  /// In a group, lines run from side to side above its first row and below its last.
+  /// In a group, lines run across the full width above the first row and below the last.
   void set_place_in_group(bool is_first, bool is_last);
-  /// The line below the row, as its table wants it.
+  /// Sets the line below the row, as the table specifies it.
   void set_separator(UIColor color, UITableViewCellSeparatorStyle style);
 
  private:

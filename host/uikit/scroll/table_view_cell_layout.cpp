@@ -9,7 +9,7 @@ namespace {
 
 constexpr CGFloat kCellMargin = 15;
 constexpr CGFloat kAccessoryMargin = 15;
-/// Between the two texts of a row that has them side by side.
+/// The gap between the texts of a row that shows them side by side.
 constexpr CGFloat kTextGap = 6;
 
 UITableView table_of(UITableViewCell cell) {
@@ -34,7 +34,7 @@ void TableViewCell::layout_subviews() {
   place_texts(content, place_picture(content));
 }
 
-// The table's inset counts, beyond what the cell has been given of its own.
+// The table's inset applies unless the cell has an inset of its own.
 void TableViewCell::place_separator(CGRect bounds) {
   if (!separator_) return;
   const UITableView table = table_of(self);
@@ -67,7 +67,7 @@ CGFloat TableViewCell::place_accessory(CGRect bounds) {
   return left;
 }
 
-// By bounds and centre, since a transform of the picture's view is the owner's to keep.
+// By bounds and centre: the transform of the image's view belongs to the cell's owner.
 CGFloat TableViewCell::place_picture(CGRect content) {
   const CGFloat left = content.min_x() + kCellMargin;
   if (!image_view_ || !image_view_->image()) return left;
@@ -99,7 +99,7 @@ void TableViewCell::place_texts(CGRect content, CGFloat left) {
     detail_text_label_->setFrame({left, top + text.height, room.width, detail.height});
     return;
   }
-  // The text comes first: what is left of the row is the detail's.
+  // The text comes first; the detail gets the rest of the row.
   const CGFloat text_width =
       text_label_ ? std::min(text_label_->sizeThatFits(room).width, room.width) : 0;
   const CGFloat gap = text_width > 0 ? kTextGap : 0;

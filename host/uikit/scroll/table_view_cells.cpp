@@ -13,8 +13,7 @@ RowSpan TableView::visible_span() const {
 
 void TableView::layout_subviews() {
   super("layoutSubviews"_sel);
-  // A data source that asks the table to lay itself out while it makes a cell is not to be sent
-  // round in circles.
+  // Guards against recursion: a data source may lay out the table while it creates a cell.
   if (showing_) return;
   showing_ = true;
   load_if_needed();
@@ -61,7 +60,7 @@ void TableView::show_row(RowPlace place) {
         place.row == 0, place.row + 1 == layout_.row_count(place.section));
   if (const auto indenting = listener("tableView:indentationLevelForRowAtIndexPath:"_sel))
     cell.setIndentationLevel(indenting.indentationLevelForRowAtIndexPath(self, shown_path));
-  // A row that comes into sight during an animation is simply there.
+  // A row that comes into sight during an animation appears without one.
   UIView::performWithoutAnimation(objc::block([&, this] {
     cell.setFrame(rect_of(layout_.row(place)));
     cell.setSelected(selected_ == place ? YES : NO, NO);

@@ -10,7 +10,7 @@ namespace host::uikit {
 namespace {
 
 constexpr double kTitleHeight = 28;
-/// Index paths are made by the thousand while rows are measured; they go again in lots of this.
+/// Measuring creates index paths by the thousand; they are released in batches of this size.
 constexpr NSInteger kMeasuredTogether = 1024;
 
 }  // namespace
@@ -56,7 +56,7 @@ void TableView::arrange_again() {
   if (loaded_) arrange(layout_.sections());
 }
 
-// Everything may have moved: cells are kept, and put where they belong at the next layout.
+// Everything may have moved: keeps the cells and repositions them at the next layout.
 void TableView::measure_again() {
   if (loaded_) load();
 }

@@ -14,7 +14,7 @@ void TableView::set_selected(std::optional<RowPlace> place, BOOL animated) {
   if (selected_) shown_cell(*selected_).setSelected(YES, animated);
 }
 
-// Asked for by the program and not by a finger, so nobody is told.
+// Requested by the program rather than a finger, so the delegate is not told.
 void TableView::select_row(NSIndexPath path, BOOL animated, UITableViewScrollPosition position) {
   load_if_needed();
   if (!path) {
@@ -70,7 +70,7 @@ void TableView::choose(RowPlace touched) {
   NSIndexPath chosen = path(touched);
   if (const auto asked = listener("tableView:willSelectRowAtIndexPath:"_sel))
     chosen = asked.willSelectRowAtIndexPath(self, chosen);
-  // The delegate may have refused, sent us to another row, or reloaded the table meanwhile.
+  // The delegate may have refused, chosen another row, or reloaded the table meanwhile.
   const auto where = place(chosen);
   if (!where) return;
   if (selected_ && selected_ != where) {

@@ -6,7 +6,7 @@
 namespace host::uikit {
 namespace {
 
-/// A fling through both edges and back would need more phases than anybody can throw.
+/// More phases would take a fling through both edges and back, faster than any finger.
 constexpr std::size_t kMostPhases = 4;
 
 }  // namespace
@@ -38,7 +38,7 @@ AxisGlide AxisGlide::to(double position, double target, OffsetRange range, doubl
 AxisGlide AxisGlide::to_page(double position, double velocity, double target) {
   AxisGlide glide(position);
   const double displacement = position - target;
-  // Any faster, and the page would run past its place and come back.
+  // At any higher speed the page would overshoot its target and come back.
   const double fastest = Spring::kPageFrequency * std::abs(displacement);
   const double tamed = std::clamp(velocity, -fastest, fastest);
   const Spring spring{target, displacement, tamed, Spring::kPageFrequency};
@@ -85,7 +85,7 @@ void AxisGlide::add_spring_to_edge(double position, double velocity, double edge
     end_ = edge;
     return;
   }
-  // Thrown back inside fast enough: the edge lets go of the content as it comes past.
+  // Thrown back inside fast enough, the content passes the edge and glides on freely.
   add(spring, crossing);
   add_free(edge, spring.velocity_at(crossing), range, rate, edges);
 }

@@ -11,17 +11,17 @@ namespace host::uikit {
 
 enum class Edges { Bounce, Stop };
 
-/// What one axis of a scroll view does from the release of the finger until it rests: it slows
-/// down, runs over an edge and springs back, or springs to a page. A function of the time alone.
+/// The motion of one axis of a scroll view from the release of the finger until it rests: it slows
+/// down, runs over an edge and springs back, or springs to a page. A pure function of time.
 class AxisGlide {
  public:
   /// At rest at `position`.
   explicit AxisGlide(double position = 0) : end_(position) {}
 
-  /// Free motion from `position` with `velocity` (points a second).
+  /// Free motion from `position` with `velocity`, in points per second.
   static AxisGlide free(double position, double velocity, OffsetRange range, double rate,
                         Edges edges);
-  /// Slows down so as to rest at `target`, or springs there from beyond an edge.
+  /// Slows down to rest at `target`, or springs there from beyond an edge.
   static AxisGlide to(double position, double target, OffsetRange range, double rate);
   /// Springs to the page at `target`.
   static AxisGlide to_page(double position, double velocity, double target);

@@ -5,7 +5,7 @@
 namespace host::uikit {
 namespace {
 
-/// The share of the first points of a pull that the content follows.
+/// The initial ratio of the content's movement to the finger's beyond the edge.
 constexpr double kFollowedShare = 0.55;
 
 /// The critically damped spring is (displacement + slope * time) * exp(-frequency * time).
@@ -44,7 +44,7 @@ double Spring::duration() const {
   const auto envelope = [&](double time) {
     return (std::abs(displacement) + std::abs(slope(*this)) * time) * std::exp(-frequency * time);
   };
-  // Past one period the envelope only falls, so the end can be boxed in and halved down to.
+  // After one period the envelope only falls, so the end can be bracketed and bisected.
   double before = 1 / frequency;
   if (envelope(before) < kRestDistance) return before;
   double after = before * 2;

@@ -7,8 +7,8 @@ namespace {
 
 constexpr double kMillisecondsPerSecond = 1000.0;
 
-/// How far a velocity of one point a second carries, in points: the sum of what is left of it after
-/// one millisecond, two, three, without end.
+/// How far a velocity of one point per second carries, in points: the infinite sum of the
+/// velocities left after one millisecond, two, three and so on.
 double reach(double rate) {
   return rate / (1 - rate) / kMillisecondsPerSecond;
 }
@@ -47,7 +47,7 @@ double Deceleration::time_at(double position) const {
 Deceleration Deceleration::toward(double start, double target, double rate) {
   const double distance = target - start;
   if (distance == 0) return {start, 0, rate};
-  // The last stretch, below the stop velocity, is never travelled and has to be made up for.
+  // The last stretch, below the stop velocity, is never travelled; the velocity makes up for it.
   return {start, distance / reach(rate) + std::copysign(kStopVelocity, distance), rate};
 }
 

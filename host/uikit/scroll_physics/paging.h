@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// One axis of the offsets that a scroll view may rest at, in points.
+/// The offsets at which a scroll view may rest, along one axis, in points.
 struct OffsetRange {
   double minimum = 0;
   double maximum = 0;
@@ -13,9 +13,9 @@ struct OffsetRange {
   bool contains(double offset) const { return offset >= minimum && offset <= maximum; }
 };
 
-/// The page at which a paging view comes to rest: the one nearest to where the content would have
-/// come to rest by itself, `predicted_end`, but never further than the next page of `offset`, where
-/// the finger left it.
+/// Returns the page at which a paging view comes to rest: the one nearest to `predicted_end`, where
+/// the content would stop without pages, but at most one page away from `offset`, where the finger
+/// left it.
 double page_target(double offset, double predicted_end, double page_length, OffsetRange range);
 
 }  // namespace host::uikit

@@ -20,20 +20,20 @@ struct RowSpan {
   double length() const { return end - begin; }
 };
 
-/// How tall the rows of one section are. Rows of one height cost nothing to keep, others a sum
-/// each.
+/// The heights of the rows of one section. Rows of equal height take no memory; others take one sum
+/// per row.
 class RowHeights {
  public:
   static RowHeights uniform(long count, double height);
 
-  /// One more row at the end.
+  /// Adds a row at the end.
   void add(double height);
 
   long count() const { return count_; }
   double total() const { return begin_of(count_); }
-  /// From the first row's top; `row` may be the count.
+  /// Returns the distance of a row from the first row's top; `row` may be the count.
   double begin_of(long row) const;
-  /// The row that `distance` from the first row's top falls into, between 0 and the last.
+  /// Returns the row at `distance` from the first row's top, clamped to the existing rows.
   long row_at(double distance) const;
 
  private:
@@ -42,8 +42,8 @@ class RowHeights {
   std::vector<double> ends_;
 };
 
-/// Where everything in a table stands from top to bottom: the table's header, for each section its
-/// header, rows and footer, then the table's footer. Finding a row takes a search at most.
+/// The layout of a table from top to bottom: the table's header, for each section its header, rows
+/// and footer, then the table's footer. Finding a row takes a search at most.
 class RowLayout {
  public:
   struct Section {
@@ -67,21 +67,21 @@ class RowLayout {
   RowSpan row(RowPlace place) const;
   RowSpan table_footer() const { return {height_ - table_footer_, height_}; }
 
-  /// The row at `y`; nothing at a header, a footer or outside.
+  /// Returns the row at `y`; nothing at a header, a footer or outside the table.
   std::optional<RowPlace> row_at(double y) const;
-  /// The rows that touch `span`, in order.
+  /// Returns the rows that overlap `span`, in order.
   std::vector<RowPlace> rows_in(RowSpan span) const;
-  /// The sections that touch `span`, in order.
+  /// Returns the sections that overlap `span`, in order.
   std::vector<long> sections_in(RowSpan span) const;
 
  private:
   const Section& at(long section) const { return sections_[static_cast<std::size_t>(section)]; }
   double top(long section) const { return tops_[static_cast<std::size_t>(section)]; }
-  /// The last section that begins at `y` or above it; -1 above the first.
+  /// Returns the last section that begins at or above `y`; -1 above the first.
   long section_at(double y) const;
 
   std::vector<Section> sections_;
-  /// Where each section begins; one more for the end of the last.
+  /// The top of each section, followed by the end of the last.
   std::vector<double> tops_;
   double table_footer_ = 0;
   double height_ = 0;

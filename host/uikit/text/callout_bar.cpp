@@ -9,7 +9,7 @@
 #include "host/uikit/view/responder.h"
 #include "platform/UIKit/UITouch.h"
 
-// How the menu over a text looks, and the finger that chooses from it.
+// Drawing of the menu over a text, and the finger that chooses from it.
 
 namespace host::uikit {
 namespace {
@@ -28,7 +28,7 @@ constexpr Rgba kGround{0.11, 0.11, 0.12, 0.96};
 constexpr Rgba kPressed{0.36, 0.36, 0.38, 1};
 constexpr Rgba kLine{0.45, 0.45, 0.47, 1};
 constexpr Rgba kText{1, 1, 1, 1};
-// Below this the status bar is.
+// The status bar lies above this.
 constexpr double kTop = 20;
 
 TextLayout layout_of(const std::string& title) {

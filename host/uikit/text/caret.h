@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// The bar that shows where typed text goes. It blinks on the loop's clock while it is shown and
-/// wants nothing of the loop while it is not.
+/// The bar that shows where typed text goes. While shown, it blinks on the loop's clock; while
+/// hidden, it keeps no timer.
 class Caret {
  public:
   Caret() = default;
@@ -15,7 +15,7 @@ class Caret {
   Caret(const Caret&) = delete;
   Caret& operator=(const Caret&) = delete;
 
-  /// Shows the caret in `parent`, at once and for a full period: typing keeps it lit.
+  /// Shows the caret in `parent` at once and for a full period: typing keeps it lit.
   void show(UIView parent, CGRect frame, UIColor color);
   void hide();
   bool is_shown() const { return blink_ != 0; }

@@ -5,7 +5,7 @@
 
 namespace host::uikit {
 
-/// The round button with a cross that empties `field`; autoreleased.
+/// Returns the round button with a cross that empties `field`; autoreleased.
 UIButton make_clear_button(UITextField field);
 
 }  // namespace host::uikit

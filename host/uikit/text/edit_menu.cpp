@@ -2,7 +2,7 @@
 
 #include "host/uikit/view/responder.h"
 
-// Which menu is shown and for whom.
+// Which menu is shown, and for which target.
 
 namespace host::uikit {
 namespace {
@@ -13,7 +13,7 @@ struct Shown {
 };
 
 Shown& shown() {
-  // Lives as long as the process: its objects must not be released after the runtime is gone.
+  // Never destroyed: its objects must not be released after the runtime is gone.
   static Shown& menu = *new Shown;
   return menu;
 }
@@ -50,7 +50,7 @@ void show_edit_menu(NSObject target, CGRect text_on_screen) {
 void hide_edit_menu() {
   Shown& menu = shown();
   if (!menu.bar) return;
-  // What is being touched may end here: it stays until this turn is over.
+  // The touched view may be removed here: it is kept until this turn is over.
   const auto window = std::move(menu.window);
   const auto bar = std::move(menu.bar);
   menu = {};

@@ -18,16 +18,16 @@ struct EditMenuItem {
   objc::Sel action;
 };
 
-/// The dark bubble with what can be done with selected text. It points at the text from above, or
-/// from below where there is no room.
+/// The dark bubble with the actions for the selected text. It points at the text from above, or
+/// from below when there is no room above.
 class CalloutBar : public objc::Implementation<CalloutBar, UICalloutBar> {
  public:
   explicit CalloutBar(UICalloutBar owner) : Implementation(owner) {}
 
-  /// `text` is on the screen.
+  /// `text` is in screen coordinates.
   void show(std::vector<EditMenuItem> items, CGRect text, CGRect screen);
   const std::vector<EditMenuItem>& items() const { return items_; }
-  /// On the screen.
+  /// In screen coordinates.
   CGPoint centre_of(std::size_t item) const;
 
   void draw_rect(CGRect);
@@ -42,17 +42,18 @@ class CalloutBar : public objc::Implementation<CalloutBar, UICalloutBar> {
   void add_outline(cairo_t* drawing) const;
 
   std::vector<EditMenuItem> items_;
-  /// Where items begin and the last one ends, from the view's left.
+  /// The left edges of the items and the right edge of the last, from the view's left.
   std::vector<double> edges_;
   std::optional<std::size_t> pressed_;
   double arrow_ = 0;
   bool points_down_ = true;
 };
 
-/// Shows the menu for `target`, with those items that it can do now; nothing when it can do none.
+/// Shows the menu for `target`, with the items whose actions it can perform now; does nothing when
+/// it can perform none.
 void show_edit_menu(NSObject target, CGRect text_on_screen);
 void hide_edit_menu();
-/// The menu that is shown, or nullptr.
+/// Returns the menu that is shown, or nullptr.
 CalloutBar* shown_edit_menu();
 
 void export_edit_menu();

@@ -9,8 +9,8 @@
 namespace host::uikit {
 namespace {
 
-/// The first responder, if it takes text; the binding serves every class that does.
-UITextField text_taker() {
+/// Returns the first responder if it takes text; the binding fits every class that does.
+UITextField text_responder() {
   const UIResponder responder = first_responder();
   if (!responder.respondsToSelector("insertText:"_sel)) return nil;
   return objc::cast<UITextField>(responder);
@@ -18,7 +18,7 @@ UITextField text_taker() {
 
 void (*typing_observer)() = nullptr;
 
-bool taken() {
+bool report_typing() {
   if (typing_observer) typing_observer();
   return true;
 }
@@ -31,25 +31,25 @@ NSString text_of(std::string_view name) {
 
 bool type_text(NSString text) {
   for (NSUInteger at = 0; at < text.length();) {
-    // Asked for anew each time: a return may have sent the first responder away.
-    const UITextField taker = text_taker();
+    // Looked up for each character: a return may have made the first responder resign.
+    const UITextField taker = text_responder();
     if (!taker) return false;
     const NSUInteger end = character_end(text, at);
     taker.insertText(text.substringWithRange({at, end - at}));
     at = end;
   }
-  return taken();
+  return report_typing();
 }
 
 bool compose_text(NSString text, NSUInteger caret) {
-  const UITextField taker = text_taker();
+  const UITextField taker = text_responder();
   if (!taker.respondsToSelector("setMarkedText:selectedRange:"_sel)) return false;
   taker.setMarkedText(text, {caret, 0});
-  return taken();
+  return report_typing();
 }
 
 bool press_key(std::string_view name) {
-  const UITextField taker = text_taker();
+  const UITextField taker = text_responder();
   if (!taker) return false;
   if (name == "return") {
     taker.insertText("\n"_ns);
@@ -58,11 +58,11 @@ bool press_key(std::string_view name) {
   } else if (name == "escape") {
     taker.resignFirstResponder();
   } else if (taker.respondsToSelector("_pressKey:"_sel)) {
-    return objc::send<BOOL>(taker, "_pressKey:"_sel, text_of(name)) && taken();
+    return objc::send<BOOL>(taker, "_pressKey:"_sel, text_of(name)) && report_typing();
   } else {
     return false;
   }
-  return taken();
+  return report_typing();
 }
 
 void observe_typing(void (*observer)()) {

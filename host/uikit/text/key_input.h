@@ -4,25 +4,27 @@
 
 #include "platform/Foundation/NSString.h"
 
-// The physical keyboard: what is typed goes to the first responder, as the on-screen one's would.
+// The physical keyboard: typed text goes to the first responder, as that of the on-screen keyboard
+// does.
 namespace host::uikit {
 
-/// Types the text, one whole character after the other; a line feed is the return key. False when
-/// nobody takes text.
+/// Types the text one whole character at a time; a line feed acts as the return key. Returns false
+/// when no responder takes text.
 bool type_text(NSString text);
 
-/// Text that an input method is still composing, in place of what it composed before; `caret` in
-/// UTF-16 units from its start. Typing then replaces it.
+/// Replaces the text that an input method is still composing; `caret` is in UTF-16 units from its
+/// start. Typing then replaces the composed text.
 bool compose_text(NSString text, NSUInteger caret);
 
-/// Presses `return`, `backspace` or `escape`, or a key that moves the caret or works on what is
-/// selected: `left`, `right`, `home`, `end`, in text of several lines `up` or `down`; also behind
-/// `shift-` and `control-`, and `control-a`, `-c`, `-x` and `-v`. False when the key has another
-/// name, or nobody takes it. A class answers `_pressKey:` with whether the key did something.
+/// Presses `return`, `backspace`, `escape`, or a key that moves the caret or acts on the selection:
+/// `left`, `right`, `home`, `end`, and in text of several lines `up` or `down`, optionally prefixed
+/// with `shift-` or `control-`; and `control-a`, `-c`, `-x` and `-v`. Returns false for an unknown
+/// key, or when no responder handles it. A class implements `_pressKey:`, which returns whether the
+/// key did something.
 bool press_key(std::string_view name);
 
-/// Calls `observer` whenever one of these has been taken: the on-screen keyboard follows what is
-/// typed on the physical one.
+/// Calls `observer` after each successful call of one of these functions: the on-screen keyboard
+/// follows what is typed on the physical one.
 void observe_typing(void (*observer)());
 
 }  // namespace host::uikit

@@ -13,14 +13,14 @@ namespace {
 
 constexpr CGFloat kLabelFontSize = 17;
 constexpr double kDisabledAlpha = 0.44;
-// Smaller than this no letter can be told from another, whatever the label allows.
+// Below this scale letters are illegible, whatever the label allows.
 constexpr double kSmallestScale = 0.1;
 
 bool same(objc::Object left, objc::Object right) {
   return left == right || (left && objc::cast<NSObject>(left).isEqual(right));
 }
 
-/// Up to the next whole pixel.
+/// Rounds up to the next whole pixel.
 CGFloat pixel_ceil(CGFloat value) {
   const double scale = current_device().scale;
   return std::ceil(value * scale - 1e-6) / scale;
@@ -51,7 +51,7 @@ UILabel Label::init_with_frame(CGRect frame) {
 }
 
 void Label::set_text(NSString text) {
-  // Titles are set again and again by those who poll; only a new one is worth drawing.
+  // Polling callers set the same title over and over; only a new one has to be drawn.
   if (!attributed_ && same(text_.get(), text)) return;
   attributed_.reset();
   text_ = objc::Ref<NSString>::adopt(text.copy());
@@ -73,7 +73,7 @@ void Label::set_attributed_text(NSAttributedString text) {
   self.setNeedsDisplay();
 }
 
-// A plain property set after attributed text applies to all of it.
+// A plain property set after attributed text applies to all of the text.
 void Label::override_attribute(NSString name, objc::Object value) {
   if (!attributed_ || !value) return;
   const auto text = NSMutableAttributedString::alloc().initWithAttributedString(attributed_.get());
@@ -146,7 +146,7 @@ CGSize Label::intrinsic_content_size() {
 
 CGRect Label::text_rect(CGRect bounds, NSInteger lines) {
   if (!text_.get().length() || bounds.size.width <= 0) return CGRect(bounds.origin, {});
-  // The one line of a label is shown even where the label is lower than it.
+  // A single line is shown even when the label is lower than the line.
   const CGFloat height = lines == 1 ? kUnlimited : bounds.size.height;
   const CGFloat text_height = layout_in({bounds.size.width, height}, lines).size().height;
   const CGFloat top = bounds.min_y() + (bounds.size.height - text_height) / 2;

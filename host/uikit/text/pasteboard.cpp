@@ -5,7 +5,7 @@
 namespace host::uikit {
 
 UIPasteboard Pasteboard::general(objc::Object) {
-  // The clipboard outlives everybody who copies, and so does this.
+  // Never released: the clipboard outlives every object that copies to it.
   static const UIPasteboard shared = UIPasteboard::alloc().init();
   return shared;
 }

@@ -5,7 +5,7 @@
 
 namespace host::uikit {
 
-/// The platform's view of the clipboard: the general pasteboard, of which there is one.
+/// The platform's interface to the clipboard: the one general pasteboard.
 class Pasteboard : public objc::Implementation<Pasteboard, UIPasteboard> {
  public:
   explicit Pasteboard(UIPasteboard owner) : Implementation(owner) {}

@@ -15,7 +15,7 @@ namespace {
 constexpr CGFloat kVeilAlpha = 0.2;
 constexpr CGFloat kStem = 2;
 constexpr CGFloat kDot = 11;
-// For a finger, away from the selection and towards it.
+// The touchable margin of a grabber: away from the selection, towards it, and along its edge.
 constexpr CGFloat kReachOut = 30;
 constexpr CGFloat kReachIn = 8;
 constexpr CGFloat kReachAlong = 18;
@@ -46,7 +46,7 @@ void Grabber::draw_rect(CGRect) {
   if (!drawing) return;
   const bool is_start = end_ == SelectionEnd::Start;
   const CGFloat edge = is_start ? kReachOut : kReachIn;
-  // Stems stand outside of what is selected.
+  // Stems lie outside of the selection.
   const CGFloat left = is_start ? edge - kStem : edge;
   const CGFloat height = self.bounds().size.height - 2 * kReachAlong;
   quartzcore::set_source(drawing, quartzcore::rgba_of(tint_->CGColor()));

@@ -8,24 +8,24 @@ namespace host::uikit {
 
 enum class SelectionEnd { Start, End };
 
-/// Who is told of a finger that drags one end of a selection; points are of the screen.
+/// Is told of a finger that drags one end of a selection; points are in screen coordinates.
 class SelectionDrag {
  public:
   virtual ~SelectionDrag() = default;
   virtual void selection_dragged(SelectionEnd end, CGPoint on_screen) = 0;
-  /// `taps` tells a finger that only tapped, and how often.
+  /// `taps` is the tap count of the finger that lifted.
   virtual void selection_drag_ended(NSUInteger taps) = 0;
 };
 
 struct UISelectionGrabber : objc::Bound<UISelectionGrabber, "UISelectionGrabber", UIView> {};
 
-/// A stem as high as the line with a dot on top or at its foot, and room for a finger around.
+/// A stem as tall as the line with a dot at its top or foot, and a touchable margin around it.
 class Grabber : public objc::Implementation<Grabber, UISelectionGrabber> {
  public:
   explicit Grabber(UISelectionGrabber owner) : Implementation(owner) {}
 
   void set_up(SelectionEnd end, SelectionDrag* drag, UIColor tint);
-  /// `edge` is the selection's edge on the screen, without width.
+  /// `edge` is the selection's edge in screen coordinates; its width is 0.
   void place(CGRect edge);
   void draw_rect(CGRect);
   void touches_moved(NSSet touches, UIEvent event);
@@ -37,9 +37,9 @@ class Grabber : public objc::Implementation<Grabber, UISelectionGrabber> {
   objc::Ref<UIColor> tint_;
 };
 
-/// How selected text is shown: a tinted veil in the field and a grabber at each end. Grabbers stand
-/// in a window above all others, since a field is no higher than its line, and follow the field
-/// wherever it is moved to.
+/// Shows selected text: a tinted veil in the field and a grabber at each end. Grabbers are in a
+/// window above all others, since a field is no taller than its line, and follow the field wherever
+/// it moves.
 class SelectionMarks {
  public:
   SelectionMarks() = default;
@@ -47,12 +47,12 @@ class SelectionMarks {
   SelectionMarks(const SelectionMarks&) = delete;
   SelectionMarks& operator=(const SelectionMarks&) = delete;
 
-  /// `selected` is the selected part of the line in `field`, of which only `visible` can be seen.
+  /// `selected` is the selected part of the line in `field`, of which only `visible` is in sight.
   void show(UIView field, CGRect selected, CGRect visible, UIColor tint, SelectionDrag* drag);
   void hide();
   bool is_shown() const { return static_cast<bool>(veil_); }
   CGRect frame() const { return veil_ ? veil_->frame() : CGRect(); }
-  /// On the screen, where a finger takes hold of it.
+  /// The point on the screen at which a finger takes hold of the grabber.
   CGPoint grabber_centre(SelectionEnd end) const;
 
  private:

@@ -4,8 +4,8 @@
 
 namespace host::uikit {
 
-/// What stands before the caret of the first responder; nil when nobody takes text or it cannot be
-/// known. A class answers `_textBeforeCaret`, or `hasText` at least.
+/// Returns the text before the caret of the first responder; nil when no responder takes text or
+/// the text is unknown. A class implements `_textBeforeCaret`, or at least `hasText`.
 NSString text_before_caret();
 
 }  // namespace host::uikit

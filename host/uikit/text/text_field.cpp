@@ -81,7 +81,7 @@ void TextField::set_mode(UITextFieldViewMode& mode, UITextFieldViewMode wanted) 
 StyledText TextField::styled_contents() const {
   StyledText text = styled_text(text_.get(), style_of(font_.get(), text_color_.get()));
   if (!marked_.length) return text;
-  // What is still being composed is underlined.
+  // The text still being composed is underlined.
   const TextStyle plain = text.runs.front().style;
   TextStyle composed = plain;
   composed.underline = true;

@@ -11,8 +11,8 @@
 
 namespace host::uikit {
 
-/// One line of text that can be edited. Typing goes to the caret, or takes the place of what is
-/// selected; a stretch that an input method is still composing is marked and underlined.
+/// One line of editable text. Typing inserts at the caret or replaces the selection; the stretch
+/// that an input method is still composing is marked and underlined.
 class TextField : public objc::Implementation<TextField, UITextField>, private SelectionDrag {
  public:
   explicit TextField(UITextField owner) : Implementation(owner), text_(kEmpty()) {}
@@ -67,7 +67,7 @@ class TextField : public objc::Implementation<TextField, UITextField>, private S
   void draw_text_in_rect(CGRect rect);
   void draw_placeholder_in_rect(CGRect rect);
 
-  // Being edited.
+  // Editing.
   BOOL is_editing() const { return editing_; }
   BOOL can_become_first_responder();
   BOOL become_first_responder();
@@ -80,7 +80,7 @@ class TextField : public objc::Implementation<TextField, UITextField>, private S
   void unmark_text();
   void clear_from_button();
 
-  // What it asks of the on-screen keyboard.
+  // Traits for the on-screen keyboard.
   UIKeyboardType keyboard_type() const { return keyboard_type_; }
   void set_keyboard_type(UIKeyboardType type) { keyboard_type_ = type; }
   UIKeyboardAppearance keyboard_appearance() const { return keyboard_appearance_; }
@@ -93,9 +93,9 @@ class TextField : public objc::Implementation<TextField, UITextField>, private S
   }
   NSString text_before_caret() const { return text_->substringToIndex(selection().location); }
 
-  // What is selected, in UTF-16 units; of no length where there is only a caret.
+  // The selection, in UTF-16 units; its length is 0 when there is only a caret.
   NSRange selection() const;
-  /// Grows to whole characters, and no further than the text.
+  /// Selects `range`, grown to whole characters and limited to the text.
   void select(NSRange range);
   BOOL can_perform_action(objc::Sel action, objc::Object sender);
   void cut(objc::Object sender);
@@ -105,8 +105,8 @@ class TextField : public objc::Implementation<TextField, UITextField>, private S
   void select_all(objc::Object sender);
   void long_pressed(UILongPressGestureRecognizer recognizer);
 
-  /// A key of the physical keyboard: `left`, `right`, `home`, `end`, perhaps behind `shift-` or
-  /// `control-`, and `control-` with a, c, x or v. NO when it is none of these.
+  /// Handles a key of the physical keyboard: `left`, `right`, `home`, `end`, optionally prefixed
+  /// with `shift-` or `control-`, and `control-` with a, c, x or v. Returns NO for any other key.
   BOOL press_key(NSString name);
 
   const Caret& caret() const { return caret_; }
@@ -158,11 +158,11 @@ class TextField : public objc::Implementation<TextField, UITextField>, private S
   UITextFieldDelegate delegate_;
   Caret caret_;
   SelectionMarks marks_;
-  /// The end of the selection that moves, and the one that stays.
+  /// The end of the selection that moves, and the end that stays.
   std::size_t caret_index_ = 0;
   std::size_t anchor_index_ = 0;
   NSRange marked_;
-  /// How far the text is moved to the left so that the caret is in sight.
+  /// How far the text is shifted to the left to keep the caret in sight.
   double scrolled_ = 0;
   NSTextAlignment alignment_ = NSTextAlignmentLeft;
   UITextBorderStyle border_style_ = UITextBorderStyleNone;

@@ -5,7 +5,7 @@
 #include "host/uikit/text_layout/characters.h"
 #include "host/uikit/view/responder.h"
 
-// How a text field is typed into, and what it asks and tells its delegate on the way.
+// Typing into a text field, and the messages to its delegate.
 
 namespace host::uikit {
 
@@ -26,7 +26,7 @@ BOOL TextField::become_first_responder() {
   if (self.isFirstResponder()) return YES;
   if (!self.canBecomeFirstResponder()) return NO;
   if (!delegate_agrees("textFieldShouldBeginEditing:"_sel)) return NO;
-  // The keyboard comes when the field and its delegate are ready for it.
+  // The keyboard appears once the field and its delegate are ready for it.
   const FirstResponderChange change;
   if (!super<BOOL>("becomeFirstResponder"_sel)) return NO;
   editing_ = YES;
@@ -104,7 +104,7 @@ void TextField::delete_backward() {
 
 void TextField::set_marked_text(NSString text, NSRange selected) {
   const NSString composed = text ? text : ""_ns;
-  // Nothing in place of nothing: what is selected is not to be lost by it.
+  // Nothing replaces nothing: the selection must not be lost.
   if (!marked_.length && !composed.length()) return;
   const NSRange range = typing_range();
   replace(range, composed);

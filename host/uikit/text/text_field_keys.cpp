@@ -7,7 +7,7 @@
 #include "host/uikit/text_layout/characters.h"
 #include "host/uikit/text_layout/words.h"
 
-// The physical keyboard's keys that type nothing.
+// The keys of the physical keyboard that type nothing.
 
 namespace host::uikit {
 namespace {

@@ -7,7 +7,7 @@
 #include "host/uikit/text/text_field.h"
 #include "platform/UIKit/UIBezierPath.h"
 
-// Where the parts of a text field stand, and how they are drawn.
+// Where the parts of a text field are, and how they are drawn.
 
 namespace host::uikit {
 namespace {
@@ -22,7 +22,7 @@ CGRect centred(CGFloat left, CGSize size, CGRect bounds) {
   return {left, bounds.min_y() + (bounds.size.height - size.height) / 2, size.width, size.height};
 }
 
-/// The line's rectangle in `rect`: centred, on whole pixels.
+/// Returns the line's rectangle in `rect`: vertically centred, on whole pixels.
 CGRect line_rect(CGRect rect, CGFloat height) {
   const CGFloat top = on_pixel(rect.min_y() + (rect.size.height - height) / 2);
   return {rect.min_x(), top, rect.size.width, height};

@@ -8,7 +8,7 @@
 #include "platform/UIKit/UIPasteboard.h"
 #include "platform/UIKit/UITouch.h"
 
-// What is selected in a text field: by fingers, by grabbers and by the menu over it.
+// The selection of a text field: by fingers, by grabbers and by the menu over it.
 
 namespace host::uikit {
 namespace {
@@ -27,7 +27,7 @@ void TextField::select(NSRange range) {
   const std::size_t start = std::min<std::size_t>(range.location, length);
   const std::size_t end = std::min<std::size_t>(start + std::min(range.length, length), length);
   anchor_index_ = character_start(text_.get(), start);
-  // Where the last character has been cut in two, all of it is meant.
+  // A range that ends inside a character selects the whole character.
   const std::size_t last = character_start(text_.get(), end);
   caret_index_ = last == end ? end : character_end(text_.get(), last);
   selection_changed();
@@ -39,7 +39,7 @@ void TextField::put_caret(std::size_t index) {
 }
 
 void TextField::selection_changed() {
-  // What was being composed stays as it is.
+  // The composed text stays as it is.
   marked_ = {};
   self.setNeedsDisplay();
   self.setNeedsLayout();
@@ -71,7 +71,7 @@ void TextField::end_tracking(UITouch touch, UIEvent event) {
     const bool again = was_editing && selection().length == 0 && index == caret_index_;
     const bool had_menu = shown_edit_menu() != nullptr;
     put_caret(index);
-    // A tap on the caret itself asks what can be done there.
+    // A tap on the caret itself opens the menu.
     if (again && !had_menu) show_menu();
   }
 }
@@ -91,7 +91,7 @@ void TextField::selection_dragged(SelectionEnd end, CGPoint on_screen) {
   const NSRange range = selection();
   const std::size_t last = range.location + range.length;
   const std::size_t index = index_at(from_screen(self, on_screen));
-  // At least one character stays selected: the ends do not pass each other.
+  // At least one character stays selected: the ends cannot pass each other.
   if (end == SelectionEnd::Start) {
     anchor_index_ = last;
     caret_index_ = std::min(index, last > 0 ? character_start(text_.get(), last - 1) : 0);
@@ -103,7 +103,7 @@ void TextField::selection_dragged(SelectionEnd end, CGPoint on_screen) {
 }
 
 void TextField::selection_drag_ended(NSUInteger taps) {
-  // A grabber that came under the finger between taps must not swallow the third.
+  // A grabber that appeared under the finger between taps must not swallow the third tap.
   if (taps >= 3) return select_all(nil);
   show_menu();
 }
@@ -143,7 +143,7 @@ void TextField::copy(objc::Object) {
 void TextField::paste(objc::Object) {
   const NSString held = UIPasteboard::generalPasteboard().string();
   if (!held) return;
-  // A field has one line: the others of what is pasted follow on it.
+  // A field has one line: line breaks in pasted text become spaces.
   const NSString line = held.componentsSeparatedByString("\n"_ns).componentsJoinedByString(" "_ns);
   const NSRange range = typing_range();
   if (!may_replace(range, line)) return;

@@ -15,7 +15,7 @@ bool is_low(unichar unit) {
 constexpr unichar kJoiner = 0x200D;
 constexpr std::size_t kLongestCharacter = 64;
 
-// Does the unit belong to the character before it?
+// Returns whether the unit continues the character before it.
 bool continues_character(unichar unit, unichar before) {
   const bool combining = (unit >= 0x0300 && unit < 0x0370) || (unit >= 0x1AB0 && unit < 0x1B00) ||
                          (unit >= 0x20D0 && unit < 0x2100);

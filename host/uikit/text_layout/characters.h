@@ -9,17 +9,17 @@
 
 namespace host::uikit {
 
-/// Appends the UTF-16 units as valid UTF-8. Halves of a pair that stand alone and zero units become
-/// U+FFFD: neither may reach the shaper.
+/// Appends the UTF-16 units as valid UTF-8. Unpaired surrogates and zero units become U+FFFD:
+/// neither may reach the shaper.
 void append_utf8(std::string& bytes, std::span<const unichar> units);
 
-/// The nearest index at or before `index` at which a whole character begins: pairs, combining marks
-/// and joined emoji are not taken apart, unless they go on absurdly long.
+/// Returns the nearest index at or before `index` at which a whole character begins. Surrogate
+/// pairs, combining marks and joined emoji are kept together, unless the sequence is absurdly long.
 std::size_t character_start(NSString text, std::size_t index);
-/// Where the character that begins at `index` ends.
+/// Returns the end of the character that begins at `index`.
 std::size_t character_end(NSString text, std::size_t index);
 
-/// How many UTF-16 units the first code points of UTF-8 make.
+/// Returns the number of UTF-16 units in the first `code_points` code points of the UTF-8 text.
 NSUInteger utf16_units(std::string_view text, int code_points);
 
 }  // namespace host::uikit

@@ -5,9 +5,9 @@
 
 namespace host::uikit {
 
-/// Text under a caret: what typing and deleting make of it, without a view. Places are counted in
-/// UTF-16 units and stand between whole characters. A stretch that an input method is still
-/// composing is marked; whatever is typed next takes its place.
+/// Text with a caret: applies typing and deleting, without a view. Positions count UTF-16 units and
+/// lie between whole characters. The stretch that an input method is still composing is marked; the
+/// next typed text replaces it.
 class EditableText {
  public:
   EditableText() : text_(objc::Ref<NSString>::retain(""_ns)) {}
@@ -17,25 +17,25 @@ class EditableText {
   std::size_t caret() const { return caret_; }
   NSRange marked() const { return marked_; }
 
-  /// Other text, the caret behind it; nil means none.
+  /// Replaces the text and puts the caret at its end; nil means empty.
   void set(NSString text);
   /// Where the next typed text goes.
   NSRange insertion_range() const;
-  /// What the next press of backspace takes away: a whole character, or what is being composed.
+  /// What the next backspace deletes: a whole character, or the composed text.
   NSRange backspace_range() const;
-  /// The caret goes behind what was put in.
+  /// Moves the caret behind the inserted text.
   void replace(NSRange range, NSString text);
-  /// `selected` is the caret within the composed text.
+  /// Replaces the composed text; `selected` is the caret within it.
   void compose(NSString text, NSRange selected);
-  /// What was composed stays. False when nothing was.
+  /// Keeps the composed text as it is. Returns false when there was none.
   bool end_composing();
 
-  /// To the nearest place between whole characters, at or before `index`.
+  /// Moves to the nearest position between whole characters, at or before `index`.
   void move_to(std::size_t index);
   void move_to_previous();
   void move_to_next();
 
-  /// The text in one style, with what is being composed underlined.
+  /// Returns the text in one style, with the composed text underlined.
   StyledText styled(const TextStyle& style) const;
 
  private:

@@ -63,7 +63,7 @@ void add_color(AttributeList& list, const TextRun& run) {
   const auto& color = run.style.color;
   list.add(pango_attr_foreground_new(channel(color.red), channel(color.green), channel(color.blue)),
            run);
-  // Pango takes an alpha of 0 for "none given".
+  // To Pango, an alpha of 0 means that none was given.
   list.add(pango_attr_foreground_alpha_new(std::max<guint16>(channel(color.alpha), 1)), run);
   const auto& behind = run.style.background;
   if (behind.alpha <= 0) return;
@@ -73,8 +73,8 @@ void add_color(AttributeList& list, const TextRun& run) {
   list.add(pango_attr_background_alpha_new(channel(behind.alpha)), run);
 }
 
-// The platform's digits are all of one width, so that a clock does not jitter. Only the digits are
-// asked for it: the font would set a colon as wide as them, too.
+// The platform's digits all have one width, which keeps a clock from jittering. The feature applies
+// to digits only: the font would also widen a colon.
 void add_tabular_digits(AttributeList& list, std::string_view bytes, const TextRun& run) {
   constexpr std::string_view kDigits = "0123456789";
   std::size_t begin = bytes.find_first_of(kDigits, run.begin);
@@ -112,7 +112,7 @@ LayoutPointer make_pango_layout(const StyledText& text) {
   }
   pango_layout_set_attributes(layout.get(), attributes.get());
   if (!text.runs.empty()) {
-    // Lines without a character, and ellipses, take the first style.
+    // Lines without characters, and ellipses, take the first style.
     PangoFontDescription* font = describe(text.runs.front().style);
     pango_layout_set_font_description(layout.get(), font);
     pango_font_description_free(font);

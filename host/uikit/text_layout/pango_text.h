@@ -7,8 +7,8 @@
 
 namespace host::uikit {
 
-/// A layout of the text alone, with its fonts and colours and without limits of width or lines.
-/// Glyphs stand where their outlines say, so that what is measured is what is drawn at any scale.
+/// Creates a layout of the text with its fonts and colours, without limits on width or lines. Glyph
+/// positions are not rounded, so measured and drawn sizes agree at any scale.
 LayoutPointer make_pango_layout(const StyledText& text);
 
 inline double points_from(int units) {

@@ -9,7 +9,7 @@
 #include "platform/UIKit/NSAttributedStringAdditions.h"
 #include "platform/UIKit/NSStringDrawing.h"
 
-// What UIKit adds to Foundation's strings: measuring and drawing, and the attributes' names.
+// What UIKit adds to Foundation's strings: measuring, drawing, and the names of the attributes.
 
 __attribute__((visibility("default"), used)) NSString NSFontAttributeName;
 __attribute__((visibility("default"), used)) NSString NSForegroundColorAttributeName;
@@ -20,7 +20,7 @@ __attribute__((visibility("default"), used)) NSString NSUnderlineStyleAttributeN
 namespace host::uikit {
 namespace {
 
-// Without a font of their own strings are drawn as the platform does it.
+// Without a font attribute, strings are drawn in the platform's default size.
 constexpr double kDefaultSize = 12;
 
 StyledText with_attributes(NSString text, NSDictionary attributes) {

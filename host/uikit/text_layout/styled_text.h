@@ -13,7 +13,7 @@
 
 namespace host::uikit {
 
-/// How a stretch of text looks. Colours with alpha 0 are not drawn.
+/// The style of a stretch of text. Colours with alpha 0 are not drawn.
 struct TextStyle {
   FontFace face = system_face();
   double size = 17;
@@ -24,34 +24,33 @@ struct TextStyle {
   bool underline = false;
 };
 
-/// A stretch of bytes of one style.
+/// A stretch of bytes in one style.
 struct TextRun {
   std::size_t begin = 0;
   std::size_t end = 0;
   TextStyle style;
 };
 
-/// UTF-8 that is always valid, cut into runs that follow each other without gaps. What could not
-/// be a character in the source stands as U+FFFD.
+/// Valid UTF-8, divided into contiguous runs. Invalid characters of the source appear as U+FFFD.
 struct StyledText {
   std::string bytes;
   std::vector<TextRun> runs;
-  /// Was the source longer than asked for?
+  /// Whether the source was longer than the requested limit.
   bool is_cut = false;
 };
 
 inline constexpr std::size_t kWholeText = std::numeric_limits<std::size_t>::max();
 
-/// The style of a font and colour; nil means the system font at 17 points, and black.
+/// Returns the style for a font and colour; nil means the system font at 17 points, and black.
 TextStyle style_of(UIFont font, UIColor color);
 
-/// At most about `limit` UTF-16 units of the text, cut between whole characters.
+/// Returns at most about `limit` UTF-16 units of the text, cut between whole characters.
 StyledText styled_text(NSString text, const TextStyle& style, std::size_t limit = kWholeText);
-/// `base` is the style where an attribute is missing.
+/// `base` supplies the style where an attribute is missing.
 StyledText styled_text(NSAttributedString text, const TextStyle& base,
                        std::size_t limit = kWholeText);
 
-/// As UTF-8, alone.
+/// Returns the text as UTF-8.
 std::string utf8_of(NSString text);
 
 }  // namespace host::uikit

@@ -10,14 +10,15 @@
 namespace host::uikit {
 namespace {
 
-// No letter of a text is narrower on average; beyond this many nothing can be seen.
+// The smallest average width of a letter, in font sizes: more letters than fit at this width are
+// not visible.
 constexpr double kNarrowestAverage = 0.2;
-// Room for characters that take several units or no width at all.
+// Allows for characters that take several units or have no width.
 constexpr std::size_t kUnitsPerCharacter = 4;
 constexpr std::size_t kFewestUnits = 64;
-// Widths are compared after rounding to Pango's units.
+// Tolerance for comparing widths rounded to Pango's units.
 constexpr double kRoundingRoom = 1.0 / 512;
-// What an ellipsized line may be wider than was asked for, since its letters end on whole pixels.
+// How much wider than requested an ellipsized line may be, since its letters end on whole pixels.
 constexpr double kEllipsisRoom = 1;
 
 double line_height_of(const TextStyle& style) {
@@ -42,7 +43,7 @@ PangoEllipsizeMode ellipsize_mode(NSLineBreakMode mode) {
   }
 }
 
-/// The lines that the frame has room for; 0 for as many as there are.
+/// Returns how many lines fit the frame; 0 for no limit.
 int line_limit(const StyledText& text, const TextFrame& frame) {
   int limit = frame.lines;
   if (!text.runs.empty() && std::isfinite(frame.height)) {
@@ -66,8 +67,8 @@ void set_limits(PangoLayout* layout, const TextFrame& frame, int limit) {
   pango_layout_set_height(layout, -limit);
 }
 
-/// Where not even the ellipsis has room it would say less than the text does: then the text is
-/// drawn as it is, as far as it can be seen.
+/// An ellipsis that does not fit would show less than the text itself. The text is then drawn as it
+/// is, as far as it is visible.
 void drop_ellipsis_that_does_not_fit(PangoLayout* layout, const TextFrame& frame, int limit) {
   if (limit != 1 || !pango_layout_is_ellipsized(layout)) return;
   PangoRectangle extents;
@@ -171,7 +172,7 @@ std::size_t visible_limit(const TextStyle& style, const TextFrame& frame) {
   if (lines <= 0 || !std::isfinite(frame.width)) return kWholeText;
   const double a_line = std::max(frame.width, 0.0) / (kNarrowestAverage * style.size);
   const double units = a_line * lines * kUnitsPerCharacter;
-  // The end of the text is wanted when it is the head that is cut away.
+  // Truncating the head or the middle needs the end of the text.
   const bool needs_end = frame.break_mode == NSLineBreakByTruncatingHead ||
                          frame.break_mode == NSLineBreakByTruncatingMiddle;
   if (needs_end || units > 1e9) return kWholeText;

@@ -21,7 +21,7 @@ using LayoutPointer = std::unique_ptr<PangoLayout, UnreferenceLayout>;
 
 inline constexpr double kUnlimited = std::numeric_limits<double>::infinity();
 
-/// How text fills the room that it is given, in points.
+/// How text fills the available space; lengths are in points.
 struct TextFrame {
   double width = kUnlimited;
   double height = kUnlimited;
@@ -31,37 +31,37 @@ struct TextFrame {
   NSLineBreakMode break_mode = NSLineBreakByWordWrapping;
 };
 
-/// The first and the last byte before which a caret can stand on one line.
+/// The first and the last byte of a line before which a caret can be.
 struct LinePlaces {
   std::size_t first = 0;
   std::size_t last = 0;
 };
 
-/// Text that was shaped and broken into lines. Lines are as tall as their fonts say, on the
-/// platform's metrics, whatever fonts fill in for characters that they lack.
+/// Text that has been shaped and broken into lines. Lines have the height of their own fonts, by
+/// the platform's metrics, whatever fallback fonts supply missing characters.
 class TextLayout {
  public:
   TextLayout(const StyledText& text, const TextFrame& frame);
 
-  /// Of the lines together, in points, not rounded; at least one line tall.
+  /// The size of all lines together, in points, not rounded; at least one line tall.
   CGSize size() const { return size_; }
   int line_count() const { return static_cast<int>(lines_.size()); }
   bool is_truncated() const { return truncated_; }
 
-  /// Draws with the first line's top at `rect`'s top, aligned within its width.
+  /// Draws the first line at the top of `rect`, aligned within its width.
   void draw(cairo_t* drawing, CGRect rect) const;
-  /// The same, without the lines that stand wholly above `from` or below `to`.
+  /// The same, but skips lines that lie wholly above `from` or below `to`.
   void draw_between(cairo_t* drawing, CGRect rect, double from, double to) const;
 
-  /// Where the caret stands before the byte, from the line's left; for text of one line.
+  /// Returns the caret's distance from the left of the line, before the byte; for text of one line.
   double caret_position(std::size_t byte) const;
-  /// The byte before which a caret at this distance from the left stands.
+  /// Returns the byte before which a caret at this distance from the left is.
   std::size_t byte_at(double x) const;
 
-  /// Where the caret stands before the byte in text of several lines that were drawn with this
-  /// width: its left edge, and the top and the height of its line. Without width of its own.
+  /// Returns the caret's place before the byte, in text of several lines drawn with this width: its
+  /// left edge, and the top and height of its line. The rectangle has no width.
   CGRect caret_rect(std::size_t byte, double width) const;
-  /// The byte before which the caret stands that is nearest to a point of such text.
+  /// Returns the byte of the caret position nearest to a point of such text.
   std::size_t byte_near(CGPoint point, double width) const;
   LinePlaces line_of(std::size_t byte) const;
 
@@ -85,7 +85,8 @@ class TextLayout {
   bool truncated_ = false;
 };
 
-/// How many UTF-16 units can be seen at most in such a frame: what is longer need not be shaped.
+/// Returns how many UTF-16 units can be visible at most in such a frame; the rest need not be
+/// shaped.
 std::size_t visible_limit(const TextStyle& style, const TextFrame& frame);
 
 }  // namespace host::uikit

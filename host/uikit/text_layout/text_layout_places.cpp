@@ -5,13 +5,13 @@
 #include "host/uikit/text_layout/pango_text.h"
 #include "host/uikit/text_layout/text_layout.h"
 
-// Which place of a text stands where, when it has several lines.
+// Positions in text of several lines.
 
 namespace host::uikit {
 namespace {
 
-/// The last place of a line for the caret. Behind a line that was broken off is the next one's
-/// first place, so that the one before its last character is the last of its own.
+/// Returns the last caret position of a line. The position behind a soft line break is the next
+/// line's first one, so the last of this line is before its last character.
 const char* last_place(const PangoLayoutLine* line, const char* text) {
   const char* end = text + line->start_index + line->length;
   const bool broken_off = *end != '\0' && *end != '\n' && *end != '\r';
@@ -31,7 +31,7 @@ CGRect TextLayout::caret_rect(std::size_t byte, double width) const {
   return {left_of(line, width) + caret_position(byte) - left_in_layout(line), top, 0, line.height};
 }
 
-// Pango puts lines that run to the left to the right of its own width.
+// Pango places right-to-left lines to the right of the layout's own width.
 double TextLayout::left_in_layout(const Line& line) const {
   if (!line.right_to_left) return 0;
   const int width = pango_layout_get_width(layout_.get());

@@ -10,7 +10,7 @@
 namespace host::uikit {
 namespace {
 
-/// Where words begin and end, for every place of a text in UTF-16 units.
+/// Where words begin and end, for every position of a text in UTF-16 units.
 class WordPlaces {
  public:
   explicit WordPlaces(NSString text) : starts_(text.length() + 1), ends_(text.length() + 1) {

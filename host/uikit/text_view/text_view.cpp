@@ -6,7 +6,7 @@ namespace {
 constexpr CGFloat kTextViewFontSize = 12;
 constexpr CGFloat kStandardInset = 8;
 
-/// Shows the part of a text view's text that is in sight.
+/// Shows the visible part of a text view's text.
 class TextCanvas : public objc::Implementation<TextCanvas, UIView> {
  public:
   using Implementation::Implementation;

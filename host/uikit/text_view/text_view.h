@@ -11,9 +11,9 @@
 
 namespace host::uikit {
 
-/// Text of several lines that can be edited, in a scroll view as tall as wanted. What is in sight
-/// is drawn on a canvas that moves along, so that a long text costs no more memory than a short
-/// one; lines are broken anew only when the text, its looks or the width have changed.
+/// Editable text of several lines, in a scroll view of any height. The visible part is drawn on a
+/// canvas that moves along, so a long text costs no more memory than a short one. Lines are broken
+/// again only when the text, its looks or the width have changed.
 class TextView : public objc::Implementation<TextView, UITextView> {
  public:
   explicit TextView(UITextView owner) : Implementation(owner) {}
@@ -36,10 +36,10 @@ class TextView : public objc::Implementation<TextView, UITextView> {
   void layout_subviews();
   CGSize size_that_fits(CGSize size);
   void scroll_range_to_visible(NSRange range);
-  /// Draws what is in sight onto the current context, whose origin is at `visible`'s.
+  /// Draws the visible part onto the current context, whose origin is at `visible`'s.
   void draw_visible(CGRect visible);
 
-  // Being edited.
+  // Editing.
   BOOL is_editable() const { return editable_; }
   void set_editable(BOOL editable);
   BOOL can_become_first_responder() { return editable_; }
@@ -51,7 +51,7 @@ class TextView : public objc::Implementation<TextView, UITextView> {
   void delete_backward();
   void set_marked_text(NSString text, NSRange selected);
   void unmark_text();
-  /// A key of the physical keyboard that moves the caret; NO when it does not.
+  /// Handles a key of the physical keyboard that moves the caret; returns NO for any other key.
   BOOL press_key(NSString name);
 
   const Caret& caret() const { return caret_; }
@@ -88,7 +88,7 @@ class TextView : public objc::Implementation<TextView, UITextView> {
   Caret caret_;
   std::optional<TextLayout> layout_;
   double layout_width_ = 0;
-  /// Where moving up and down aims at, while short lines on the way hold the caret back.
+  /// The target position of up and down while short lines on the way hold the caret back.
   std::optional<double> aimed_x_;
   UIEdgeInsets inset_;
   NSTextAlignment alignment_ = NSTextAlignmentNatural;
@@ -98,7 +98,7 @@ class TextView : public objc::Implementation<TextView, UITextView> {
   BOOL editing_ = NO;
 };
 
-/// Makes the class; scroll views must have been made. A second call does nothing.
+/// Exports the class; requires the scroll views' classes. Idempotent.
 void export_text_view();
 
 }  // namespace host::uikit

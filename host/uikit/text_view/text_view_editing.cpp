@@ -4,7 +4,7 @@
 #include "host/uikit/text_view/text_view.h"
 #include "host/uikit/view/responder.h"
 
-// How a text view is typed into, and what it asks and tells its delegate on the way.
+// Typing into a text view, and the messages to its delegate.
 
 namespace host::uikit {
 
@@ -39,7 +39,7 @@ BOOL TextView::resign_first_responder() {
   if (!self.isFirstResponder()) return super<BOOL>("resignFirstResponder"_sel);
   if (!must_resign() && !delegate_agrees("textViewShouldEndEditing:"_sel)) return NO;
   if (!super<BOOL>("resignFirstResponder"_sel)) return NO;
-  // Whoever hears of it may let go of the view.
+  // A receiver of this message may release the view.
   const auto alive = objc::Ref<UITextView>::retain(self);
   unmark_text();
   editing_ = NO;

@@ -5,13 +5,13 @@
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/text_view/text_view.h"
 
-// Where the lines of a text view stand, and which of them are drawn.
+// Where the lines of a text view are, and which of them are drawn.
 
 namespace host::uikit {
 namespace {
 
 constexpr CGFloat kCaretWidth = 2;
-/// What every line keeps free on its left and right.
+/// The padding on the left and right of every line.
 constexpr CGFloat kLinePadding = 5;
 
 TextLayout break_lines(const EditableText& text, const TextStyle& style, double width,
@@ -101,7 +101,7 @@ void TextView::scroll_range_to_visible(NSRange range) {
   const CGRect begin = caret_rect(std::min<std::size_t>(range.location, text_.length()));
   const CGRect end =
       caret_rect(std::min<std::size_t>(range.location + range.length, text_.length()));
-  // The margins above the first line and below the last come into sight with them.
+  // The margins above the first line and below the last come into sight with those lines.
   const double top = begin.min_y() - inset_.top;
   const double bottom = end.max_y() + inset_.bottom;
   self.scrollRectToVisible({0, top, 1, bottom - top}, NO);
