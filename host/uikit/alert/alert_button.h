@@ -8,7 +8,7 @@ namespace host::uikit {
 
 enum class AlertButtonKind { Cancel, Other };
 
-/// A button of an alert: blue words on a ground that darkens under a finger.
+/// A button of an alert: a blue title on a ground that darkens while pressed.
 class AlertButton : public objc::Implementation<AlertButton, UIControl> {
  public:
   explicit AlertButton(UIControl owner) : Implementation(owner) {}
@@ -19,7 +19,7 @@ class AlertButton : public objc::Implementation<AlertButton, UIControl> {
 
 inline constexpr CGFloat kAlertButtonHeight = 44;
 
-/// Its tag is the button's index.
+/// The view's tag is the button's index.
 objc::Ref<UIControl> make_alert_button(NSString title, AlertButtonKind kind, NSInteger index,
                                        CGRect frame);
 

@@ -21,10 +21,10 @@ constexpr CGFloat kMessageSize = 13;
 constexpr CGFloat kGloss = 0.5;
 constexpr CGFloat kPanelLineAlpha = 0.2;
 constexpr CGFloat kManyLines = 10000;
-/// So many buttons stand side by side.
+/// This many buttons are placed side by side.
 constexpr NSInteger kSideBySide = 2;
 
-/// Gives where the text ends.
+/// Returns the bottom of the text.
 CGFloat add_text(UIView panel, NSString text, UIFont font, CGFloat top) {
   if (text.length() == 0) return top;
   const CGFloat width = kWidth - 2 * kPanelMargin;
@@ -51,7 +51,7 @@ void AlertView::build() {
   const auto glass = objc::Ref<UIView>::adopt(_UIBackdropView::alloc().initWithFrame(
       {}, NO, _UIBackdropViewSettingsUltraLight::settingsForStyle(0)));
   self.addSubview(glass.get());
-  // The screen is dimmed behind it, and it is not to be as dull.
+  // The dimmed screen behind would make the panel look dull; the gloss lightens it.
   const auto gloss = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({}));
   gloss->setBackgroundColor(UIColor::colorWithWhite(1, kGloss));
   self.addSubview(gloss.get());
@@ -83,8 +83,8 @@ void AlertView::add_button_at(NSInteger index, CGRect frame) {
   self.addSubview(button.get());
 }
 
-/// Side by side where there are two, else below each other with the way out as the last. Gives
-/// where they end.
+/// Places two buttons side by side; otherwise stacks them, with the cancel button last. Returns
+/// their bottom.
 CGFloat AlertView::add_buttons(CGFloat top) {
   const NSInteger count = number_of_buttons();
   if (count == kSideBySide) {

@@ -19,13 +19,13 @@ constexpr double kComing = 0.4;
 constexpr CGFloat kComingDamping = 0.9;
 constexpr double kGoing = 0.25;
 
-/// Those that are up, the last one on top.
+/// The alerts that are up, the newest last.
 std::vector<UIAlertView>& shown_alerts() {
   static std::vector<UIAlertView> alerts;
   return alerts;
 }
 
-/// The message is variadic: of the other titles only the first has a name, and nil ends them.
+/// The method is variadic: only the first of the other titles is named, and nil ends the list.
 objc::Id init_with_titles(objc::Id self, objc::Sel, objc::Id title, objc::Id message,
                           objc::Id delegate, objc::Id cancel, objc::Id first_other, ...) {
   AlertView& state = objc::state_of<AlertView>(objc::Object(self));
@@ -82,7 +82,7 @@ void AlertView::show() {
   window_->addSubview(dim_.get());
   build();
   self.setCenter(screen.centre());
-  // The window keeps the alert while it is up.
+  // The window retains the alert while it is up.
   window_->addSubview(self);
   if (!shown_alerts().empty()) shown_alerts().back().window().setHidden(YES);
   shown_alerts().push_back(self);

@@ -11,8 +11,8 @@
 
 namespace host::uikit {
 
-/// A question in the middle of the screen that has to be answered: the screen behind is dimmed and
-/// takes no touches. Of several only the last one is seen.
+/// A question in the middle of the screen that must be answered: the screen behind is dimmed and
+/// takes no touches. Of several alerts only the newest is visible.
 class AlertView : public objc::Implementation<AlertView, UIAlertView> {
  public:
   explicit AlertView(UIAlertView owner) : Implementation(owner) {}
@@ -48,7 +48,7 @@ class AlertView : public objc::Implementation<AlertView, UIAlertView> {
   objc::Ref<NSString> title_;
   objc::Ref<NSString> message_;
   std::vector<objc::Ref<NSString>> titles_;
-  // Not retained, as the platform has it.
+  // Not retained, as on the platform.
   objc::Object delegate_;
   NSInteger cancel_index_ = -1;
   objc::Ref<UIWindow> window_;

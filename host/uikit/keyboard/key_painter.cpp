@@ -13,7 +13,7 @@ using quartzcore::Rgba;
 constexpr double kCorner = 5;
 constexpr double kShadowHeight = 1;
 constexpr double kSignSize = 17;
-// Letters with a stroke as fine as the platform's, and words in its standard one.
+// Letters in a stroke as thin as the platform's, words in its standard face.
 constexpr std::string_view kLetterFace = "HelveticaNeue-Light";
 constexpr double kDigitSize = 28;
 constexpr double kSublabelSize = 10;

@@ -11,22 +11,22 @@ namespace host::uikit {
 enum class KeyState {
   Resting,
   Pressed,
-  /// A shift key that makes the next letter a capital, or every letter.
+  /// A shift key that is on for the next letter, or locked.
   Engaged,
   Locked,
 };
 
-/// Draws single keys, on a context in points of the keyboard.
+/// Draws single keys on a context in the keyboard's points.
 class KeyPainter {
  public:
   KeyPainter(cairo_t* drawing, const BoardMetrics& metrics, const KeyboardLook& look)
       : drawing_(drawing), metrics_(metrics), look_(look) {}
 
   void paint(const Key& key, KeyState state) const;
-  /// A key of a number pad, which fills its cell.
+  /// Draws a key of a number pad, which fills its cell.
   void paint_cell(const Key& key, KeyState state) const;
 
-  /// A line of text with the middle of its capitals at `centre`.
+  /// Draws a line of text with the middle of its capitals at `centre`.
   void paint_text(std::string_view text, CGPoint centre, double size,
                   const KeyboardLook::Rgba& color) const;
 
@@ -41,7 +41,7 @@ class KeyPainter {
   const KeyboardLook& look_;
 };
 
-/// Adds to the context's path.
+/// Adds a rounded rectangle to the context's path.
 void add_rounded_rect(cairo_t* drawing, CGRect rect, double radius);
 
 }  // namespace host::uikit

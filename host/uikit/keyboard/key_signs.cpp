@@ -13,7 +13,7 @@ struct Corner {
   double x, y;
 };
 
-/// Corners are in parts of the sign's size from its centre.
+/// Corners are relative to the centre, in units of the symbol's size.
 template <std::size_t Count>
 void add_outline(cairo_t* drawing, CGPoint centre, double size,
                  const std::array<Corner, Count>& corners) {
@@ -40,7 +40,7 @@ void add_cross(cairo_t* drawing, CGPoint centre, double reach) {
 }  // namespace
 
 void paint_shift_sign(cairo_t* drawing, CGPoint centre, double size, Ink ink) {
-  // An arrow with a broad stem; locked, it stands on a line.
+  // An arrow with a broad stem; when locked, it has a line below.
   static constexpr std::array<Corner, 7> kArrow{{{0, -0.5},
                                                  {0.56, 0.06},
                                                  {0.26, 0.06},
@@ -68,7 +68,7 @@ void paint_backspace_sign(cairo_t* drawing, CGPoint centre, double size, Ink ink
       {{-0.74, 0}, {-0.26, -0.5}, {0.72, -0.5}, {0.72, 0.5}, {-0.26, 0.5}}};
   const CGPoint cross{centre.x + 0.2 * size, centre.y};
   cairo_save(drawing);
-  // In a group of its own the cross can be cut out of what is filled.
+  // In a group, the cross can be cut out of the filled shape.
   cairo_push_group(drawing);
   add_outline(drawing, centre, size, kTag);
   if (ink == Ink::Filled) {

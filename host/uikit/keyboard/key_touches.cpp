@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-// Seconds.
+// In seconds.
 constexpr double kHold = 0.5;
 constexpr double kRepeat = 0.1;
 
@@ -106,7 +106,7 @@ void KeyTouches::offer_accents(UITouch touch) {
 
 void KeyTouches::repeat_backspace() {
   typing_.press_backspace();
-  // Whoever took the text may have gone with it, and the keyboard's fingers too.
+  // The text input may have gone, and with it the keyboard's fingers.
   if (presses_.empty()) return;
   hold_.start(kRepeat, [this] { repeat_backspace(); });
 }
@@ -121,7 +121,7 @@ void KeyTouches::moved(UITouch touch, CGPoint point) {
   const auto index = view_->layout().key_at(point);
   if (!index) return;
   if (press->kind == KeyKind::Backspace || press->kind == KeyKind::Dismiss) {
-    // Such a key is left for good, and nothing is typed on the way.
+    // Once left, such a key does nothing more, and no key on the way types.
     if (index != press->key) put_on(*press, std::nullopt);
     return;
   }
@@ -168,7 +168,8 @@ void KeyTouches::commit(Press press) {
 }
 
 void KeyTouches::commit_others() {
-  // A shift key may be held for the next finger; every other press is done when the next one comes.
+  // A held shift key applies to the next finger; every other press completes when the next one
+  // lands.
   const auto others = presses_;
   std::erase_if(presses_, [](const Press& press) { return press.kind != KeyKind::Shift; });
   for (const Press& press : others) {

@@ -9,9 +9,9 @@
 
 namespace host::uikit {
 
-/// From fingers on a keyboard to keys: balloons above pressed letters, sliding from key to key,
-/// backspace that repeats, letters behind a long press, and fast typists' next finger before the
-/// last one has left.
+/// Turns fingers on a keyboard into key presses: balloons above pressed letters, sliding from key
+/// to key, repeating backspace, accents on a long press, and fast typing, where the next finger
+/// lands before the previous one lifts.
 class KeyTouches final : public KeyplaneFingers {
  public:
   KeyTouches(KeyboardTyping& typing, std::function<void()> on_dismiss)
@@ -19,9 +19,9 @@ class KeyTouches final : public KeyplaneFingers {
 
   /// The keys that are touched; not retained.
   void set_view(KeyplaneView* view) { view_ = view; }
-  /// Other keys are shown: what was under the fingers is no more.
+  /// Other keys are shown: the keys under the fingers no longer exist.
   void keys_changed();
-  /// Forgets all fingers: nothing more is typed by them.
+  /// Forgets all fingers: they type nothing more.
   void stop();
 
   void began(UITouch touch, CGPoint point) override;
@@ -32,11 +32,11 @@ class KeyTouches final : public KeyplaneFingers {
  private:
   struct Press {
     UITouch touch;
-    /// What the finger landed on.
+    /// The key that the finger landed on.
     KeyKind kind = KeyKind::Nothing;
-    /// The key that the finger is on, if lifting it would do something.
+    /// The key that the finger is on, if lifting it there has an effect.
     std::optional<std::size_t> key;
-    /// The plane from before the finger landed on the key that changes it.
+    /// The plane shown before the finger landed on a plane key.
     std::optional<KeyPlane> plane_before;
     bool chooses_accent = false;
   };
@@ -56,7 +56,7 @@ class KeyTouches final : public KeyplaneFingers {
   std::function<void()> on_dismiss_;
   KeyplaneView* view_ = nullptr;
   std::vector<Press> presses_;
-  /// For the newest press alone.
+  /// For the newest press only.
   Countdown hold_;
 };
 

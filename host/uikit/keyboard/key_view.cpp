@@ -5,7 +5,7 @@
 namespace host::uikit {
 namespace {
 
-// For the shadow below the key.
+// Space for the shadow below the key.
 constexpr double kRoomBelow = 2;
 
 }  // namespace

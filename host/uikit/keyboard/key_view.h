@@ -8,8 +8,8 @@ namespace host::uikit {
 
 struct UIKBKeyView : objc::Bound<UIKBKeyView, "UIKBKeyView", UIView> {};
 
-/// One key over the keyboard's picture, for as long as it looks different: the keyboard itself need
-/// not be drawn anew.
+/// One key drawn over the keyboard's picture while it looks different, so the keyboard itself is
+/// not redrawn.
 class KeyView : public objc::Implementation<KeyView, UIKBKeyView> {
  public:
   explicit KeyView(UIKBKeyView owner) : Implementation(owner) {}

@@ -9,7 +9,7 @@ namespace host::uikit {
 namespace {
 
 std::unique_ptr<Keyboard>& the_keyboard() {
-  // Lives as long as the process: its objects must not be released after the runtime is gone.
+  // Never destroyed: its objects must not be released after the runtime is gone.
   static auto& keyboard = *new std::unique_ptr<Keyboard>;
   return keyboard;
 }
@@ -60,7 +60,7 @@ void Keyboard::first_responder_changed() {
     touches_.stop();
     return slide_.hide();
   }
-  // In whatever block this happens, the keys themselves do not move.
+  // The keys must not move, even when an enclosing animation block is running.
   UIView::performWithoutAnimation(objc::block([this, taker] { typing_.begin(traits_of(taker)); }));
   slide_.show();
 }

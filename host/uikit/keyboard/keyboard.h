@@ -5,8 +5,8 @@
 
 namespace host::uikit {
 
-/// The on-screen keyboard of this process: it comes for whoever takes text and goes with the last
-/// one.
+/// The on-screen keyboard of this process: it appears when a responder takes text and goes when
+/// none does.
 class Keyboard {
  public:
   Keyboard();
@@ -15,7 +15,7 @@ class Keyboard {
   Keyboard& operator=(const Keyboard&) = delete;
 
   void first_responder_changed();
-  /// By whatever keyboard.
+  /// Text has been typed, on either keyboard.
   void text_typed();
 
   bool is_shown() const { return slide_.is_shown(); }
@@ -33,11 +33,11 @@ class Keyboard {
   KeyTouches touches_;
 };
 
-/// The keyboard, once somebody has needed one; else nullptr.
+/// Returns the keyboard once one has been needed, otherwise nullptr.
 Keyboard* present_keyboard();
-/// A test's screen ends: the keyboard goes with it.
+/// Destroys the keyboard when a test's screen ends.
 void forget_keyboard();
-/// From now on a keyboard comes when it is needed.
+/// From now on the keyboard appears when it is needed.
 void watch_first_responder();
 
 }  // namespace host::uikit

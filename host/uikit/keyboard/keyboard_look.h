@@ -16,14 +16,14 @@ struct KeyboardLook {
   Rgba shadow;
   Rgba text;
   Rgba action_text;
-  /// The cell under the finger among a letter's relatives, and its letter.
+  /// The cell under the finger among a letter's accents, and the letter in it.
   Rgba chosen;
   Rgba chosen_text;
-  /// Between the cells of a number pad.
+  /// The lines between the cells of a number pad.
   Rgba line;
 };
 
-/// The light look unless the dark one is asked for.
+/// Returns the dark look when `appearance` requests it, otherwise the light one.
 const KeyboardLook& look_of(UIKeyboardAppearance appearance);
 
 }  // namespace host::uikit

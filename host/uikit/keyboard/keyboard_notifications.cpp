@@ -15,7 +15,7 @@
 
 namespace host::uikit {
 
-void post_keyboard_news(NSString name, const KeyboardMove& move) {
+void post_keyboard_notification(NSString name, const KeyboardMove& move) {
   const NSMutableDictionary info = NSMutableDictionary::dictionary();
   info.setObject(CAValue::valueWithCGRect(move.begin), UIKeyboardFrameBeginUserInfoKey);
   info.setObject(CAValue::valueWithCGRect(move.end), UIKeyboardFrameEndUserInfoKey);

@@ -5,16 +5,16 @@
 
 namespace host::uikit {
 
-/// One move of the keyboard, in points of the screen and seconds.
+/// One movement of the keyboard, in screen coordinates and seconds.
 struct KeyboardMove {
   CGRect begin;
   CGRect end;
   double duration = 0;
 };
 
-void post_keyboard_news(NSString name, const KeyboardMove& move);
+void post_keyboard_notification(NSString name, const KeyboardMove& move);
 
-/// Gives the platform's constants their values.
+/// Sets the values of the platform's constants.
 void name_keyboard_notifications();
 
 }  // namespace host::uikit

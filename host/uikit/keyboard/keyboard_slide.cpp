@@ -4,7 +4,7 @@ namespace host::uikit {
 namespace {
 
 constexpr double kDuration = 0.25;
-// Whatever block the first responder is changed in, the keyboard keeps its own pace.
+// The keyboard keeps its own timing, whatever animation block the first responder changes in.
 constexpr UIViewAnimationOptions kOptions =
     UIViewAnimationOptionAllowUserInteraction | UIViewAnimationOptionBeginFromCurrentState |
     UIViewAnimationOptionOverrideInheritedDuration | UIViewAnimationOptionOverrideInheritedCurve |
@@ -48,8 +48,8 @@ void KeyboardSlide::hide() {
 void KeyboardSlide::move(bool shown, NSString will, NSString did) {
   const KeyboardMove asked{content_->frame(), place(shown), kDuration};
   const int number = ++moves_;
-  post_keyboard_news(will, asked);
-  // Whoever heard of it may have sent it back already.
+  post_keyboard_notification(will, asked);
+  // An observer may have reversed the move already.
   if (number != moves_) return;
   UIView::animateWithDuration(
       kDuration, 0, kOptions,
@@ -61,7 +61,7 @@ void KeyboardSlide::move(bool shown, NSString will, NSString did) {
 
 void KeyboardSlide::arrived(const KeyboardMove& done, NSString did) {
   if (!is_shown_) window_->setHidden(YES);
-  post_keyboard_news(did, done);
+  post_keyboard_notification(did, done);
 }
 
 }  // namespace host::uikit

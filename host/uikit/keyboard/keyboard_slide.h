@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// Brings a view up from below the screen in a window of its own, and takes it away again, and
-/// tells everybody.
+/// Slides a view in from below the screen in its own window and out again, and posts the
+/// notifications of both.
 class KeyboardSlide {
  public:
   explicit KeyboardSlide(UIView content);
@@ -17,7 +17,7 @@ class KeyboardSlide {
 
   void show();
   void hide();
-  /// From the moment it begins to come until it begins to go.
+  /// From the moment the view begins to slide in until it begins to slide out.
   bool is_shown() const { return is_shown_; }
   UIWindow window() const { return window_.get(); }
 
@@ -29,7 +29,7 @@ class KeyboardSlide {
   objc::Ref<UIView> content_;
   objc::Ref<UITextEffectsWindow> window_;
   bool is_shown_ = false;
-  /// Counts the moves: one that was overtaken by the next has no end of its own.
+  /// Counts the moves: a move overtaken by the next one has no end of its own.
   int moves_ = 0;
 };
 

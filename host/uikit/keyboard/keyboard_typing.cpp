@@ -33,17 +33,17 @@ void KeyboardTyping::look_at_text() {
 }
 
 std::string KeyboardTyping::in_case(const std::string& text) const {
-  // Only letters stand on this plane, and what looks like an address is none.
+  // Longer texts on the letter plane, such as `.com`, are not letters.
   if (plane_ != KeyPlane::Letters || !shift_.makes_capitals() || text.size() > 2) return text;
   const NSString capital = string_of(text).uppercaseString();
-  // A letter that has no capital of its own stays as it is.
+  // A letter without a single-character capital stays as it is.
   return capital.length() == 1 ? capital.UTF8String() : text;
 }
 
 void KeyboardTyping::type(const std::string& text) {
   type_text(string_of(text));
   if (plane_ == KeyPlane::Letters && text != " ") shift_.typed();
-  // After a word's end and within a word nobody goes on with signs.
+  // After the end of a word, or within one, typing continues with letters rather than symbols.
   const bool back = text == " " || (text == "'" && plane_ == KeyPlane::Numbers);
   if (back && first_plane(traits_.type) == KeyPlane::Letters) plane_ = KeyPlane::Letters;
   look_at_text();

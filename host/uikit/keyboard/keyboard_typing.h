@@ -9,25 +9,25 @@
 
 namespace host::uikit {
 
-/// What the keys of the on-screen keyboard do. It types through the same door as a physical
+/// What the keys of the on-screen keyboard do. It types by the same functions as the physical
 /// keyboard.
 class KeyboardTyping {
  public:
-  /// `on_change` is called when other keys have to be shown than before, or shift has changed.
+  /// `on_change` is called when other keys have to be shown, or shift has changed.
   explicit KeyboardTyping(std::function<void()> on_change) : on_change_(std::move(on_change)) {}
 
-  /// Somebody new takes the text.
+  /// Another responder takes the text.
   void begin(const KeyboardTraits& traits);
-  /// The text has changed by other means, and with it whether a capital is due.
+  /// The text has changed by other means: checks again whether a capital is due.
   void look_at_text();
 
   KeyPlane plane() const { return plane_; }
   ShiftState::Value shift() const { return shift_.value(); }
   const KeyboardTraits& traits() const { return traits_; }
 
-  /// The text of a character key as it would be typed now: in capitals, perhaps.
+  /// Returns the text of a character key as it would be typed now, possibly capitalized.
   std::string in_case(const std::string& text) const;
-  /// Types it as it is.
+  /// Types the text unchanged.
   void type(const std::string& text);
   void press_return();
   void press_backspace();

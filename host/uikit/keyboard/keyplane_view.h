@@ -12,7 +12,7 @@ namespace host::uikit {
 
 struct UIKBKeyplaneView : objc::Bound<UIKBKeyplaneView, "UIKBKeyplaneView", UIView> {};
 
-/// Who is told of the fingers on a keyboard; points are in the keyboard's.
+/// Is told of the fingers on a keyboard; points are in the keyboard's coordinates.
 class KeyplaneFingers {
  public:
   virtual ~KeyplaneFingers() = default;
@@ -22,24 +22,24 @@ class KeyplaneFingers {
   virtual void cancelled(UITouch touch) = 0;
 };
 
-/// The picture of one plane of keys, drawn once, and over it what fingers change.
+/// The picture of one plane of keys, drawn once, with the changes made by fingers on top.
 class KeyplaneView : public objc::Implementation<KeyplaneView, UIKBKeyplaneView> {
  public:
   explicit KeyplaneView(UIKBKeyplaneView owner) : Implementation(owner) {}
 
   void set_up(const BoardMetrics& metrics, KeyplaneFingers* fingers);
-  /// Shows these keys; the same ones again are not drawn again, and the answer is false.
+  /// Shows these keys. Returns false, without redrawing, when they are shown already.
   bool show(KeyPlane plane, const KeyboardTraits& traits);
 
   const KeyboardLayout& layout() const { return layout_; }
   const BoardMetrics& metrics() const { return metrics_; }
-  /// Where it is drawn just now, in the window.
+  /// Returns where it is currently drawn, in the window.
   CGRect drawn_frame() const { return self.layer().presentationLayer().frame(); }
   /// How often the keys have been drawn.
   int drawings() const { return drawings_; }
 
   void set_state(std::size_t key, KeyState state);
-  /// A balloon with these letters, the first of them chosen; an empty list takes it away.
+  /// Shows a balloon with these letters, the first of them chosen; an empty list removes it.
   void show_popup(const PopupShape& shape, std::vector<std::string> letters);
   void hide_popup();
   PopupView* popup();

@@ -7,7 +7,7 @@ namespace host::uikit {
 namespace {
 
 constexpr double kEdge = 2;
-// Beyond the key on both sides, in parts of its width.
+// How far the head extends beyond the key on each side, relative to the key's width.
 constexpr double kOverhang = 0.4;
 constexpr double kNeck = 12;
 constexpr double kTallerThanKey = 8;
@@ -27,7 +27,7 @@ CGRect head_above(const BoardMetrics& metrics, CGRect key, double left, double w
 }
 
 /// One side of the balloon from its head down to its key; `out` is 1 for the right side and -1 for
-/// the left one, whose path is walked upwards.
+/// the left side, whose path runs upwards.
 struct Side {
   double head, key, top, neck, bottom, out;
 

@@ -5,13 +5,13 @@
 namespace host::uikit {
 namespace {
 
-// For the shadow around the balloon.
+// Space for the shadow around the balloon.
 constexpr double kMargin = 6;
 constexpr double kPreviewSize = 1.6;
 constexpr double kAccentSize = 1.05;
 constexpr double kChosenCorner = 5;
 constexpr double kChosenInset = 5;
-// The shadow is a few faint lines of growing width.
+// The shadow consists of a few faint lines of growing width.
 constexpr int kShadowLines = 4;
 constexpr double kShadowAlpha = 0.045;
 constexpr double kEdgeAlpha = 0.16;
@@ -49,7 +49,7 @@ void PopupView::paint_balloon(cairo_t* drawing) const {
   cairo_set_line_width(drawing, 1);
   cairo_stroke_preserve(drawing);
   cairo_new_path(drawing);
-  // The line below the key stays where it is at rest.
+  // The key's lower line stays where it is when not pressed.
   cairo_translate(drawing, 0, 1);
   quartzcore::set_source(drawing, look->shadow);
   shape_.add_outline(drawing);

@@ -12,8 +12,7 @@ namespace host::uikit {
 
 struct UIKBKeyPopupView : objc::Bound<UIKBKeyPopupView, "UIKBKeyPopupView", UIView> {};
 
-/// The letter under the finger where the finger does not hide it, or the letter's relatives to
-/// choose from.
+/// Shows the letter above the finger that covers it, or the letter's accents to choose from.
 class PopupView : public objc::Implementation<PopupView, UIKBKeyPopupView> {
  public:
   explicit PopupView(UIKBKeyPopupView owner) : Implementation(owner) {}

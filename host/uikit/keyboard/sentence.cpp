@@ -11,7 +11,7 @@ bool ends_sentence(unichar unit) {
   return unit == '.' || unit == '!' || unit == '?';
 }
 
-/// How much of the text is left without the spaces at its end.
+/// Returns the text's length without trailing spaces.
 NSUInteger length_without_spaces(NSString text) {
   NSUInteger length = text.length();
   while (length > 0 && is_space(text.characterAtIndex(length - 1)))

@@ -5,7 +5,7 @@
 
 namespace host::uikit {
 
-/// Is the letter typed after this text to be a capital?
+/// Returns whether a letter typed after this text should be a capital.
 bool capital_is_due(NSString before, UITextAutocapitalizationType type);
 
 }  // namespace host::uikit

@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-// Each begins with the letter on the key.
+// Each entry begins with the letter on the key.
 constexpr std::string_view kFamilies[] = {"aàáâäæãåā", "eèéêëēėę", "iîïíīįì", "oôöòóœøōõ",
                                           "uûüùúū",    "nñń",      "cçćč",    "sßśš",
                                           "lł",        "zžźż",     "yÿ"};

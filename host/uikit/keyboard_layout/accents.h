@@ -6,8 +6,8 @@
 
 namespace host::uikit {
 
-/// The letter itself and its relatives that a long press offers, nearest first; nothing for a
-/// letter that has none. All in lower case.
+/// Returns the letter itself and the variants that a long press offers, nearest first; nothing for
+/// a letter without variants. All in lower case.
 std::vector<std::string> accents_of(std::string_view letter);
 
 }  // namespace host::uikit

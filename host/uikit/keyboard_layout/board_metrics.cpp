@@ -5,7 +5,7 @@
 namespace host::uikit {
 namespace {
 
-/// The looks of the phones of 2014 by the width of their screens, and of the tablet.
+/// The keyboards of the phones of 2014, by screen width, and of the tablet.
 struct Form {
   double widest_screen;
   double height, columns, gap, side, top, key_height, row_pitch, edge_key_columns;
@@ -52,7 +52,7 @@ BoardMetrics metrics_of(const DeviceModel& device) {
   made.gap = form.gap;
   const double room = device.width - 2 * form.side + form.gap;
   made.pitch = std::floor(room / form.columns * device.scale) / device.scale;
-  // What does not go into whole pixels is left at both edges.
+  // The remainder that does not fit whole pixels is left at both edges.
   made.side = (device.width + form.gap - form.columns * made.pitch) / 2;
   made.top = form.top;
   made.key_height = form.key_height;

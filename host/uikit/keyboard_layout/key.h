@@ -6,7 +6,7 @@
 
 namespace host::uikit {
 
-/// The keys that are shown at one time.
+/// The sets of keys, of which one is shown at a time.
 enum class KeyPlane { Letters, Numbers, Symbols };
 
 enum class KeyKind { Character, Space, Return, Backspace, Shift, Plane, Dismiss, Nothing };
@@ -15,18 +15,18 @@ struct Key {
   KeyKind kind = KeyKind::Character;
   /// What a character key types, in lower case, as UTF-8.
   std::string text;
-  /// What stands on the key; empty for those that are drawn as signs.
+  /// The text on the key; empty for keys drawn as symbols.
   std::string label;
-  /// The small letters under a digit of a number pad.
+  /// The small letters below a digit of a number pad.
   std::string sublabel;
-  /// Where a plane key leads.
+  /// The plane that a plane key shows.
   KeyPlane plane = KeyPlane::Letters;
   int row = 0;
-  /// Does it stand out because it does what the user has come for?
+  /// Whether the key is highlighted because it performs the action that the user came for.
   bool is_action = false;
   CGRect frame;
 
-  /// Is what it does done by a finger that has slid here from another key?
+  /// Returns whether a finger that has slid here from another key activates the key.
   bool takes_sliding_finger() const {
     return kind == KeyKind::Character || kind == KeyKind::Space || kind == KeyKind::Return;
   }

@@ -10,7 +10,7 @@
 namespace host::uikit {
 namespace {
 
-/// The characters of a plane by rows; the lowest row is the same for all.
+/// The characters of a plane by row; the lowest row is the same for all.
 struct PlaneRows {
   std::string_view first, second, third, tablet_third;
 };
@@ -46,7 +46,7 @@ void add_third_row_begin(RowBuilder& rows, KeyPlane plane, double columns) {
   }
 }
 
-/// Space, and what a type of text needs close at hand.
+/// Adds the space key, and the keys that a type of text often needs.
 void add_middle(RowBuilder& rows, UIKeyboardType type) {
   switch (type) {
     case UIKeyboardTypeURL:
@@ -95,7 +95,7 @@ void lay_out_tablet(RowBuilder& rows, KeyPlane plane, const KeyboardTraits& trai
   rows.begin(0, 0);
   rows.characters(texts.first);
   rows.key(KeyKind::Backspace, "", 1);
-  // Nine keys stand in from the edge, and the longer rows of signs do not.
+  // Nine keys are indented by half a column; the longer rows of symbols are not.
   const double letters = 9;
   rows.begin(1, plane == KeyPlane::Letters ? 0.5 : 0);
   const double wide = plane == KeyPlane::Letters ? 1 : (letters + 0.5) / 10;
@@ -138,7 +138,7 @@ KeyboardLayout make_layout(const BoardMetrics& metrics, KeyPlane plane,
 
 std::optional<std::size_t> KeyboardLayout::key_at(CGPoint point) const {
   std::optional<std::size_t> nearest;
-  // The row counts first: a finger at the end of a short row means that row's last key.
+  // The row counts first: a finger beyond the end of a short row means that row's last key.
   double least_down = 0;
   double least_across = 0;
   for (std::size_t i = 0; i < keys.size(); ++i) {

@@ -9,14 +9,15 @@
 
 namespace host::uikit {
 
-/// The keys of one plane and where they stand, in points from the keyboard's top left.
+/// The keys of one plane and their frames, in points from the keyboard's top left.
 struct KeyboardLayout {
   CGSize size;
   std::vector<Key> keys;
-  /// Digits in a grid without gaps, as for telephone numbers.
+  /// Digits in a grid without gaps, as for phone numbers.
   bool is_number_pad = false;
 
-  /// The key that a finger means: the whole board is divided among the keys, gaps and margins too.
+  /// Returns the key for a finger at this point. The whole board is divided among the keys,
+  /// including gaps and margins.
   std::optional<std::size_t> key_at(CGPoint point) const;
   const Key* first_of(KeyKind kind) const;
 };
@@ -24,12 +25,12 @@ struct KeyboardLayout {
 KeyboardLayout make_layout(const BoardMetrics& metrics, KeyPlane plane,
                            const KeyboardTraits& traits);
 
-/// The plane that the keyboard comes with.
+/// Returns the plane that the keyboard shows first.
 KeyPlane first_plane(UIKeyboardType type);
 
-/// What stands on the return key.
+/// Returns the title of the return key.
 const char* return_title(UIReturnKeyType type);
-/// Does return do something that stands out, so that the key does too?
+/// Returns whether the return key performs an action for which it is highlighted.
 bool return_acts(UIReturnKeyType type);
 
 }  // namespace host::uikit

@@ -5,7 +5,7 @@
 
 namespace host::uikit {
 
-/// What whoever takes text asks of the keyboard.
+/// What a text input requests of the keyboard.
 struct KeyboardTraits {
   UIKeyboardType type = UIKeyboardTypeDefault;
   UIKeyboardAppearance appearance = UIKeyboardAppearanceDefault;
@@ -15,10 +15,10 @@ struct KeyboardTraits {
   friend constexpr bool operator==(const KeyboardTraits&, const KeyboardTraits&) = default;
 };
 
-/// What a responder does not answer keeps its standard value.
+/// Returns the responder's traits; any that it does not implement keep their defaults.
 KeyboardTraits traits_of(UIResponder taker);
 
-/// Does the responder take text, so that a keyboard comes for it?
+/// Returns whether the responder takes text and so needs a keyboard.
 bool takes_text(UIResponder responder);
 
 }  // namespace host::uikit

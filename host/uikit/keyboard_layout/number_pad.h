@@ -10,8 +10,8 @@ namespace host::uikit {
 
 bool is_number_pad(UIKeyboardType type);
 
-/// Twelve cells that fill the board: nine digits, what the type has left of the nought, the nought
-/// and backspace.
+/// Returns twelve cells that fill the board: nine digits, the key that the type puts left of the
+/// zero, the zero and backspace.
 std::vector<Key> make_number_pad(const BoardMetrics& metrics, UIKeyboardType type);
 
 }  // namespace host::uikit

@@ -42,7 +42,7 @@ void RowBuilder::characters(std::string_view text, double columns) {
 void RowBuilder::character(std::string_view text, double columns) {
   Key& key = add(columns);
   key.text = key.label = text;
-  // Letters stand on the keys as capitals, whatever they type.
+  // Keys show their letters as capitals, whatever they type.
   if (text.size() == 1 && text[0] >= 'a' && text[0] <= 'z')
     key.label[0] = static_cast<char>(text[0] - 'a' + 'A');
 }

@@ -11,7 +11,7 @@ void ShiftState::press(double time) {
   } else {
     value_ = value_ == Value::Off ? Value::Once : Value::Off;
   }
-  // A third press is the first of a new pair.
+  // A third press starts a new pair.
   last_press_ = again ? std::nullopt : std::optional(time);
   is_held_ = true;
   typed_while_held_ = false;

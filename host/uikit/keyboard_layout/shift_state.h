@@ -4,7 +4,7 @@
 
 namespace host::uikit {
 
-/// What the shift key has been told: the next letter as a capital, or all of them.
+/// The state of shift: off, on for the next letter, or locked.
 class ShiftState {
  public:
   enum class Value { Off, Once, Locked };
@@ -12,13 +12,14 @@ class ShiftState {
   Value value() const { return value_; }
   bool makes_capitals() const { return value_ != Value::Off; }
 
-  /// Pressed at `time` (seconds): twice quickly locks.
+  /// The key was pressed at `time`, in seconds; two quick presses lock.
   void press(double time);
-  /// The finger has left the key; capitals typed meanwhile were all that it was held for.
+  /// The finger has left the key. When it was held to type capitals, shift ends with it.
   void release();
   /// A letter has been typed.
   void typed();
-  /// What the text asks for when nobody presses: a capital at the start of a sentence.
+  /// Sets what the text calls for, such as a capital at the start of a sentence. Ignored while
+  /// shift is held or locked.
   void suggest(bool capital);
   void reset() { *this = ShiftState(); }
 

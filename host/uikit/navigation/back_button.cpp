@@ -15,7 +15,7 @@ constexpr CGFloat kBackFontSize = 17;
 constexpr CGFloat kChevronLeft = 8;
 constexpr CGSize kChevronSize{13, 21};
 constexpr CGFloat kChevronLine = 3;
-/// What the line's corners need of the chevron's size.
+/// How far the line's corners extend beyond the chevron.
 constexpr CGFloat kChevronEdge = 2;
 constexpr CGFloat kBackMargin = 8;
 constexpr CGFloat kPressedBackAlpha = 0.2;
@@ -73,7 +73,7 @@ void BackButton::set_highlighted(BOOL highlighted) {
 }
 
 void BackButton::place(CGFloat position) const {
-  // Along with the title of its page, which comes from, or goes to, the middle of the bar.
+  // Moves with the title of its page, which comes from or goes to the middle of the bar.
   const CGFloat middle = (self.superview().bounds().size.width - title_->bounds().size.width) / 2;
   title_->setTransform(CGAffineTransformMakeTranslation(position * (middle - kBackTitleLeft), 0));
 }

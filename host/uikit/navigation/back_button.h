@@ -6,17 +6,17 @@
 
 namespace host::uikit {
 
-/// Where the title behind the chevron begins.
+/// The left edge of the title beside the chevron.
 inline constexpr CGFloat kBackTitleLeft = 27;
 
-/// A chevron and the title of the page that it leads back to. Both fade under a finger.
+/// A chevron and the title of the previous page. Both fade while pressed.
 class BackButton : public objc::Implementation<BackButton, UIControl> {
  public:
   explicit BackButton(UIControl owner) : Implementation(owner) {}
 
   void fill(NSString title, UIColor tint, CGFloat height, CGFloat room);
   void set_highlighted(BOOL highlighted);
-  /// The title moves against the chevron as its page comes (1) or goes (-1).
+  /// Offsets the title from the chevron while its page comes (1) or goes (-1).
   void place(CGFloat position) const;
 
  private:
@@ -24,7 +24,7 @@ class BackButton : public objc::Implementation<BackButton, UIControl> {
   objc::Ref<UIView> title_;
 };
 
-/// Where the title does not fit into `room` it says that it leads back, and nothing more.
+/// A title that does not fit into `room` is replaced by "Back".
 objc::Ref<UIControl> make_back_button(NSString title, UIColor tint, CGFloat height, CGFloat room);
 
 void export_back_button();

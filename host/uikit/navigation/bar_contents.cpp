@@ -15,7 +15,7 @@ constexpr CGFloat kBarFontSize = 17;
 constexpr CGFloat kBarMargin = 15;
 constexpr CGFloat kButtonMargin = 8;
 constexpr CGFloat kGap = 6;
-/// A title keeps at least this much; the way back is shortened first.
+/// The minimum width of the title; the back button is shortened first.
 constexpr CGFloat kLeastTitle = 100;
 constexpr CGFloat kManyPoints = 10000;
 
@@ -80,7 +80,7 @@ void BarContents::add_back(const Way& way) {
   view_->addSubview(back_.get());
 }
 
-// In the middle of the bar, or as near to it as the buttons leave room.
+// In the middle of the bar, or as near to it as the buttons allow.
 void BarContents::add_title() {
   const CGSize bar = view_->bounds().size;
   CGFloat left = kBarMargin;
@@ -106,7 +106,8 @@ void BarContents::add_title() {
 void BarContents::place(CGFloat position) const {
   const CGFloat width = view_->bounds().size.width;
   const CGFloat shown = std::max(1 - std::abs(position), 0.0);
-  // A title leaves for the place of the way back to it, and comes from the other side.
+  // A leaving title moves to the place of the back button; an arriving one comes from the other
+  // side.
   const CGFloat to_back =
       CGPoint(title_->center()).x - kBackTitleLeft - title_->bounds().size.width / 2;
   shift(title_.get(), position * (position > 0 ? width / 2 : to_back));

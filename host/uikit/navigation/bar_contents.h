@@ -6,12 +6,12 @@
 
 namespace host::uikit {
 
-/// What a navigation bar shows for one item: its title, the way back or a left button, and a right
-/// button. While one item takes the other's place both are shown, each at a position of its own.
+/// What a navigation bar shows for one item: its title, a back or left button, and a right button.
+/// During a transition the contents of both items are shown, each at its own position.
 class BarContents {
  public:
   struct Way {
-    /// The title of the page behind; nil where there is none.
+    /// The title of the previous page; nil when there is none.
     NSString back_title;
     objc::Object target;
     objc::Sel back_action;
@@ -23,7 +23,7 @@ class BarContents {
   BarContents& operator=(const BarContents&) = delete;
 
   UINavigationItem item() const { return item_.get(); }
-  /// 0 is in place, 1 where the next page's contents come from, -1 where the last page's go to.
+  /// 0 is in place, 1 is where the next page's contents come from, -1 where the previous page's go.
   void place(CGFloat position) const;
 
  private:

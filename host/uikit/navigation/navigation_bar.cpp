@@ -50,7 +50,7 @@ void NavigationBar::layout_subviews() {
   ground_->setFrame(ground);
   tint_ground_->setFrame(ground);
   line_->setFrame({0, bounds.size.height, bounds.size.width, hairline()});
-  // What is shown is made for one width.
+  // The contents are laid out for one width.
   if (bounds.size.width == laid_out_width_) return;
   laid_out_width_ = bounds.size.width;
   if (!leaving_) show_top();
@@ -116,7 +116,7 @@ std::unique_ptr<BarContents> NavigationBar::make_contents() const {
   return std::make_unique<BarContents>(self, top_item(), way);
 }
 
-// Made anew: that is rare, and cheaper than keeping all of it in step.
+// Recreates the contents: this is rare, and cheaper than keeping everything up to date.
 void NavigationBar::show_top() {
   UIView::performWithoutAnimation(objc::block([this] {
     shown_.reset();

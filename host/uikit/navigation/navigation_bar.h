@@ -8,8 +8,8 @@
 
 namespace host::uikit {
 
-/// The bar over a stack of pages. It reaches up behind the status bar, lets what is behind it shine
-/// through, and ends in a hair line.
+/// The bar over a stack of pages. It extends behind the status bar, is translucent, and ends in a
+/// hairline.
 class NavigationBar : public objc::Implementation<NavigationBar, UINavigationBar> {
  public:
   explicit NavigationBar(UINavigationBar owner) : Implementation(owner) {}
@@ -25,16 +25,16 @@ class NavigationBar : public objc::Implementation<NavigationBar, UINavigationBar
   void tint_color_did_change();
   void layout_subviews();
 
-  /// Who is told that the way back was tapped.
+  /// Sets the object that is told of taps on the back button.
   void set_back_target(objc::Object target, objc::Sel action);
 
   enum class Direction { Forwards, Backwards };
-  /// Brings the items of another page in beside the present ones, which leave.
+  /// Begins to replace the current items with those of another page.
   void begin_change(NSArray items, Direction direction);
-  /// From 0, where the change began, to 1.
+  /// Shows the change at `progress`, from 0, where it began, to 1.
   void show_change(CGFloat progress);
   void finish_change();
-  /// Back to where it began.
+  /// Returns to where the change began.
   void abandon_change();
 
  private:
@@ -59,7 +59,7 @@ class NavigationBar : public objc::Implementation<NavigationBar, UINavigationBar
   objc::Sel back_action_ = nullptr;
 };
 
-/// What of the screen's top belongs to the status bar, in points.
+/// Returns the height of the status bar at the top of the screen, in points.
 CGFloat status_bar_height();
 
 inline constexpr CGFloat kNavigationBarHeight = 44;

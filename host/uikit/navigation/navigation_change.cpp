@@ -8,9 +8,10 @@ namespace {
 
 constexpr double kDuration = 0.4;
 constexpr CGFloat kCritically = 1;
-/// A finger that lands this near to the left edge may take the page away.
+/// A finger that lands within this distance of the left edge may drag the page away.
 constexpr CGFloat kEdge = 20;
-/// Points a second from which on a finger that lifts decides by its direction, not by its place.
+/// From this speed on, in points per second, a lifting finger decides by its direction rather than
+/// by its position.
 constexpr CGFloat kFling = 300;
 constexpr CGFloat kHalf = 0.5;
 
@@ -49,7 +50,7 @@ void NavigationController::begin_change(Change change) {
   to.view();
   change_->from->viewWillDisappear(YES);
   to.viewWillAppear(YES);
-  // Either may have sent the stack elsewhere.
+  // Either page may have changed the stack.
   if (!change_ || change_->to.get() != to) return;
   const bool forwards = change_->direction == NavigationBar::Direction::Forwards;
   const UIView upper = (forwards ? change_->to : change_->from)->view();
@@ -95,7 +96,7 @@ void NavigationController::finish_change() {
   dismiss_pages(done->leaving);
 }
 
-// The finger has let the page go again: it slides back, and both pages are where they were.
+// The finger has released the page: it slides back, and both pages are where they were.
 void NavigationController::abandon_change(CGFloat velocity) {
   const auto kept = objc::Ref<UINavigationController>::retain(self);
   for (const Page& page : change_->leaving)
@@ -114,11 +115,11 @@ void NavigationController::abandon_change(CGFloat velocity) {
                               objc::block([this] { show_change(0); }), objc::block(done));
 }
 
-/// Brings a change that is under way to its end at once.
+/// Ends a change that is under way at once.
 void NavigationController::restore() {
   if (!change_) return;
   if (change_->by_finger && pan_) {
-    // Nobody follows the finger any more.
+    // The drag no longer controls the page.
     pan_->setEnabled(NO);
     pan_->setEnabled(YES);
   }

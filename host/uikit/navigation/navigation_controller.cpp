@@ -10,7 +10,8 @@ namespace {
 
 constexpr double kBarDuration = 0.25;
 
-/// The scroll view that a page is, or begins with: what bars cover of others is theirs to see to.
+/// Returns the scroll view that a page is or begins with; any other page handles bars that cover it
+/// itself.
 UIScrollView scroll_view_of(UIView view) {
   const auto is_scroll_view = [](UIView one) { return one.isKindOfClass(UIScrollView::cls()); };
   if (is_scroll_view(view)) return objc::cast<UIScrollView>(view);
@@ -85,7 +86,7 @@ void NavigationController::view_will_appear(BOOL animated) {
   if (change_ || pages_.empty()) return;
   top().view();
   top().viewWillAppear(animated);
-  // The stack may have changed while nobody saw it.
+  // The stack may have changed while it was off screen.
   for (const UIView view : objc::Ref<NSArray>::retain(container_->subviews())->of<UIView>())
     if (view != top().view()) view.removeFromSuperview();
   install(top());
@@ -131,7 +132,7 @@ void NavigationController::show_items() {
   if (self.isViewLoaded()) bar().setItems(items());
 }
 
-void NavigationController::take_in(UIViewController page) {
+void NavigationController::add_page(UIViewController page) {
   self.addChildViewController(page);
   page.didMoveToParentViewController(self);
 }
@@ -159,7 +160,7 @@ void NavigationController::push(UIViewController page, BOOL animated) {
   if (page.parentViewController() == self) return;
   restore();
   Page from = pages_.empty() ? Page() : pages_.back();
-  take_in(page);
+  add_page(page);
   pages_.push_back(Page::retain(page));
   change_to_top(std::move(from), NavigationBar::Direction::Forwards, {}, animated);
 }
@@ -195,7 +196,7 @@ void NavigationController::set_pages(NSArray pages, BOOL animated) {
   std::vector<Page> before = std::exchange(pages_, {});
   if (pages) {
     for (const UIViewController page : pages.of<UIViewController>()) {
-      take_in(page);
+      add_page(page);
       pages_.push_back(Page::retain(page));
     }
   }

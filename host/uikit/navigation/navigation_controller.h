@@ -11,9 +11,9 @@
 
 namespace host::uikit {
 
-/// A stack of pages, of which the top one is seen, under a bar. A page that is put on slides in
-/// from the right, and goes that way again: by its way back, or with a finger that comes in over
-/// the left edge.
+/// A stack of pages under a bar, of which the top one is visible. A pushed page slides in from the
+/// right, and leaves the same way: by the back button, or with a finger that comes in over the left
+/// edge.
 class NavigationController
     : public objc::Implementation<NavigationController, UINavigationController> {
  public:
@@ -42,7 +42,7 @@ class NavigationController
   void set_bar_hidden_animated(BOOL hidden, BOOL animated);
   UIGestureRecognizer pop_gesture();
 
-  // For the bar and the finger.
+  // For the bar and the drag.
   void back_pressed();
   void handle_pan(UIPanGestureRecognizer recognizer);
   BOOL should_receive_touch(UIGestureRecognizer recognizer, UITouch touch);
@@ -51,22 +51,22 @@ class NavigationController
 
  private:
   using Page = objc::Ref<UIViewController>;
-  /// A page on its way to another's place.
+  /// A transition between two pages.
   struct Change {
     Page from;
     Page to;
     NavigationBar::Direction direction;
     bool by_finger = false;
     std::unique_ptr<PageSlide> slide;
-    /// Taken off the stack, and told so at the end.
+    /// Already removed from the stack; told so at the end.
     std::vector<Page> leaving;
-    /// Neither page takes touches on its way, nor the bar.
+    /// During the transition neither the pages nor the bar take touches.
     std::unique_ptr<TouchHold> hold = nullptr;
   };
 
   NavigationBar& bar_state() { return objc::state_of<NavigationBar>(bar()); }
   NSArray items() const;
-  void take_in(UIViewController page);
+  void add_page(UIViewController page);
   void install(UIViewController page);
   void fit(UIViewController page) const;
   void show_items();
@@ -85,7 +85,7 @@ class NavigationController
   objc::Ref<UIView> container_;
   objc::Ref<UIPanGestureRecognizer> pan_;
   std::unique_ptr<Change> change_;
-  /// Counts the changes, so that the end of an animation knows whether it is still meant.
+  /// Counts the changes: the end of an animation is ignored when another change has begun since.
   unsigned changes_ = 0;
   BOOL bar_hidden_ = NO;
   bool visible_ = false;

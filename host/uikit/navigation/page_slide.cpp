@@ -17,7 +17,7 @@ objc::Ref<UIView> make_shade(CGRect place) {
   return shade;
 }
 
-/// The shadow that the upper page throws to its left.
+/// The shadow that the upper page casts to its left.
 objc::Ref<UIView> make_edge(CGFloat height) {
   auto edge = objc::Ref<UIView>::adopt(UIView::alloc().initWithFrame({0, 0, kEdgeWidth, height}));
   const CAGradientLayer fade = CAGradientLayer::layer();

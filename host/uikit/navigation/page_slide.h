@@ -6,7 +6,7 @@
 namespace host::uikit {
 
 /// Two pages of a stack while one slides over the other: the upper one comes from the right, the
-/// lower one makes way a third as far and lies in a shade.
+/// lower one moves a third as far and is shaded.
 class PageSlide {
  public:
   PageSlide(UIView container, UIView upper, UIView lower);
@@ -14,7 +14,7 @@ class PageSlide {
   PageSlide(const PageSlide&) = delete;
   PageSlide& operator=(const PageSlide&) = delete;
 
-  /// 0 has the upper page off the screen, 1 in its place.
+  /// At 0 the upper page is off screen, at 1 it is in place.
   void show(CGFloat share) const;
 
  private:

@@ -7,7 +7,7 @@
 namespace host::uikit {
 namespace {
 
-/// The page that is shown lies in the middle of three places.
+/// The shown page is in the middle of three places.
 constexpr CGFloat kMiddlePlace = 1;
 
 UIViewController first_in(NSArray pages) {
@@ -18,7 +18,7 @@ UIViewController first_in(NSArray pages) {
 
 void PageViewController::will_begin_dragging(UIScrollView) {
   if (sliding_) return;
-  // What there is beside the page may have changed since it came.
+  // The neighbours may have changed since the page came.
   if (!coming_) arrange();
 }
 
@@ -99,7 +99,7 @@ void PageViewController::set_pages(NSArray pages, UIPageViewControllerNavigation
     const objc::OwnedBlock<void(BOOL)> done(completion);
     done.get()(YES);
   }
-  ask_for_dots();
+  update_dots();
 }
 
 void PageViewController::show_at_once(Page page) {
@@ -108,7 +108,7 @@ void PageViewController::show_at_once(Page page) {
   if (leaving && leaving.get() != current_.get()) {
     if (is_seen()) leaving->viewWillDisappear(NO);
     const Page told = leaving;
-    let_go(leaving);
+    remove_page(leaving);
     if (is_seen()) told->viewDidDisappear(NO);
   }
   if (!current_) return;
@@ -125,7 +125,7 @@ void PageViewController::slide_to(Page page, Side side, objc::Block<void(BOOL)> 
   coming_ = {};
   completion_ = objc::OwnedBlock<void(BOOL)>(completion);
   Page& place = side == kBefore ? before_ : after_;
-  if (place.get() != page.get()) let_go(place);
+  if (place.get() != page.get()) remove_page(place);
   place = std::move(page);
   UIView::performWithoutAnimation(objc::block([this] {
     scroll_->setContentInset({});

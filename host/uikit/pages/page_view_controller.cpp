@@ -6,7 +6,7 @@ namespace host::uikit {
 namespace {
 
 constexpr CGFloat kDotsHeight = 37;
-/// The page that is shown lies in the middle of three places.
+/// The shown page is in the middle of three places.
 constexpr NSInteger kMiddleIndex = 1;
 constexpr NSInteger kPlaces = 3;
 
@@ -22,12 +22,12 @@ UIPageViewController PageViewController::init() {
                                       UIPageViewControllerNavigationOrientationHorizontal, nil);
 }
 
-// Pages always lie side by side: there is no other style here.
+// Pages always lie side by side: other styles are not implemented.
 UIPageViewController PageViewController::init_with_style(UIPageViewControllerTransitionStyle,
                                                          UIPageViewControllerNavigationOrientation,
                                                          NSDictionary) {
   if (!super<UIPageViewController>("init"_sel)) return nil;
-  // The scroll view of the pages is not theirs, and bars are not to move it.
+  // The scroll view belongs to the container rather than to a page; bars must not shift it.
   self.setAutomaticallyAdjustsScrollViewInsets(NO);
   return self;
 }
@@ -50,7 +50,7 @@ void PageViewController::view_did_load() {
 
 void PageViewController::view_did_layout_subviews() {
   super<>("viewDidLayoutSubviews"_sel);
-  note_that_page_is_seen();
+  report_appearance();
   const CGSize size = self.view().bounds().size;
   const bool has_dots = dots_ && !dots_->isHidden();
   const CGFloat height = size.height - (has_dots ? kDotsHeight : 0);
@@ -91,8 +91,8 @@ void PageViewController::set_data_source(objc::Object source) {
   if (current_ && scroll_ && !sliding_) arrange();
 }
 
-/// The view may have been put on the screen by somebody who does not tell its controller.
-void PageViewController::note_that_page_is_seen() {
+/// The view may have been put on the screen without its controller being told.
+void PageViewController::report_appearance() {
   if (is_seen() || !current_ || !self.view().window()) return;
   seen_ = current_;
   current_->viewWillAppear(NO);
@@ -106,13 +106,13 @@ UIViewController PageViewController::neighbour(Side side) const {
                          : source.viewControllerAfter(self, current_.get());
 }
 
-void PageViewController::take_in(const Page& page) {
+void PageViewController::add_page(const Page& page) {
   if (!page || page->parentViewController() == self) return;
   self.addChildViewController(page.get());
   page->didMoveToParentViewController(self);
 }
 
-void PageViewController::let_go(Page& page) {
+void PageViewController::remove_page(Page& page) {
   const Page leaving = std::exchange(page, {});
   if (!leaving || leaving.get() == current_.get()) return;
   if (leaving->isViewLoaded()) leaving->view().removeFromSuperview();
@@ -120,11 +120,11 @@ void PageViewController::let_go(Page& page) {
   leaving->removeFromParentViewController();
 }
 
-void PageViewController::ask_for_neighbours() {
+void PageViewController::update_neighbours() {
   Page before = Page::retain(neighbour(kBefore));
   Page after = Page::retain(neighbour(kAfter));
-  if (before.get() != before_.get()) let_go(before_);
-  if (after.get() != after_.get()) let_go(after_);
+  if (before.get() != before_.get()) remove_page(before_);
+  if (after.get() != after_.get()) remove_page(after_);
   before_ = std::move(before);
   after_ = std::move(after);
 }
@@ -136,11 +136,11 @@ void PageViewController::put(const Page& page, NSInteger slot) const {
   if (view.superview() != scroll_.get()) scroll_->addSubview(view);
 }
 
-/// The shown page in the middle, and no room to scroll to where there is no neighbour.
+/// Puts the shown page in the middle, and leaves no room to scroll towards a missing neighbour.
 void PageViewController::arrange() {
   arranging_ = true;
-  ask_for_neighbours();
-  take_in(current_);
+  update_neighbours();
+  add_page(current_);
   UIView::performWithoutAnimation(objc::block([this] {
     const CGSize size = scroll_->bounds().size;
     scroll_->setContentSize({static_cast<CGFloat>(kPlaces) * size.width, size.height});
@@ -163,7 +163,7 @@ void PageViewController::show_neighbour(Side side) {
   }
   const bool is_first = !coming_;
   coming_ = page;
-  take_in(page);
+  add_page(page);
   page->view();
   if (is_seen()) {
     if (is_first) current_->viewWillDisappear(YES);
@@ -173,8 +173,8 @@ void PageViewController::show_neighbour(Side side) {
       objc::block([&, this] { put(page, side == kBefore ? kMiddleIndex - 1 : kMiddleIndex + 1); }));
 }
 
-/// Only a data source that counts its pages has dots for them, and it may hide them again.
-void PageViewController::ask_for_dots() {
+/// Only a data source that counts its pages gets dots, and it may remove them again.
+void PageViewController::update_dots() {
   const auto source = objc::cast<UIPageViewControllerDataSource>(data_source_);
   if (!source || !source.respondsToSelector("presentationCountForPageViewController:"_sel) ||
       !source.respondsToSelector("presentationIndexForPageViewController:"_sel))
@@ -196,7 +196,7 @@ void PageViewController::show_dot(NSInteger dot) {
   if (dots_) dots_->setCurrentPage(dot);
 }
 
-/// The control has moved its dot already; the page follows, where there is one.
+/// The control has already moved its dot; the page follows if it exists.
 void PageViewController::dot_tapped(UIPageControl dots) {
   const NSInteger wanted = dots.currentPage();
   const bool after = wanted > shown_dot_;

@@ -11,8 +11,8 @@
 
 namespace host::uikit {
 
-/// One page that fills the view, with its neighbours beside it: a finger brings the next in, as far
-/// as the data source has one, and beyond the ends the page comes back.
+/// One page that fills the view, with its neighbours beside it. A drag brings in the next page that
+/// the data source provides; beyond the ends the page springs back.
 class PageViewController : public objc::Implementation<PageViewController, UIPageViewController> {
  public:
   explicit PageViewController(UIPageViewController owner) : Implementation(owner) {}
@@ -37,7 +37,7 @@ class PageViewController : public objc::Implementation<PageViewController, UIPag
   void view_will_disappear(BOOL animated);
   void view_did_disappear(BOOL animated);
 
-  // What the scroll view tells.
+  // The scroll view's delegate messages.
   void will_begin_dragging(UIScrollView view);
   void did_scroll(UIScrollView view);
   void did_end_dragging(UIScrollView view, BOOL decelerates);
@@ -51,21 +51,21 @@ class PageViewController : public objc::Implementation<PageViewController, UIPag
 
   UIViewController neighbour(Side side) const;
   CGFloat width() const { return scroll_->bounds().size.width; }
-  void take_in(const Page& page);
-  void let_go(Page& page);
-  void ask_for_neighbours();
+  void add_page(const Page& page);
+  void remove_page(Page& page);
+  void update_neighbours();
   void arrange();
   void put(const Page& page, NSInteger slot) const;
   void show_neighbour(Side side);
   void settle();
-  void note_that_page_is_seen();
+  void report_appearance();
   bool is_seen() const { return static_cast<bool>(seen_); }
   void become(Side side);
   void tell_turned(const Page& previous, bool completed);
   void slide_to(Page page, Side side, objc::Block<void(BOOL)> completion);
   void show_at_once(Page page);
   void finish_slide();
-  void ask_for_dots();
+  void update_dots();
   void show_dot(NSInteger dot);
 
   objc::Object data_source_;
@@ -75,13 +75,13 @@ class PageViewController : public objc::Implementation<PageViewController, UIPag
   Page current_;
   Page before_;
   Page after_;
-  /// The neighbour that has been told that it comes into sight.
+  /// The neighbour that has been told that it is about to appear.
   Page coming_;
   objc::OwnedBlock<void(BOOL)> completion_;
   bool sliding_ = false;
   std::unique_ptr<TouchHold> hold_;
   bool arranging_ = false;
-  /// The page that knows that it is seen.
+  /// The page that has been told that it has appeared.
   Page seen_;
   NSInteger shown_dot_ = 0;
 };

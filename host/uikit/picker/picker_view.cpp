@@ -10,7 +10,8 @@ constexpr CGFloat kHeights[] = {162, 180, 216};
 constexpr CGFloat kDefaultWidth = 320;
 constexpr CGFloat kPickerLineAlpha = 0.22;
 
-/// The tallest of the platform's heights that is no more than what is asked for.
+/// Returns the tallest of the platform's heights that is not taller than `wanted`; the shortest
+/// when all are taller.
 CGFloat nearest_height(CGFloat wanted) {
   CGFloat height = kHeights[0];
   for (const CGFloat one : kHeights)
@@ -34,7 +35,7 @@ objc::Ref<UIView> add_line(UIView picker) {
 
 }  // namespace
 
-// A wheel may still turn when its picker has gone.
+// A wheel may still turn after its picker is gone.
 PickerView::~PickerView() {
   for (const auto& one : wheels_)
     objc::state_of<PickerWheel>(one.get()).forget_picker();

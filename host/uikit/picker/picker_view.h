@@ -7,8 +7,8 @@
 
 namespace host::uikit {
 
-/// Wheels side by side, between two lines in the middle the chosen rows. It is as tall as the
-/// platform's, whatever it is given.
+/// Wheels side by side; the chosen rows are between two lines in the middle. The height is always
+/// one of the platform's, whatever frame is set.
 class PickerView : public objc::Implementation<PickerView, UIPickerView> {
  public:
   explicit PickerView(UIPickerView owner) : Implementation(owner) {}
@@ -38,7 +38,7 @@ class PickerView : public objc::Implementation<PickerView, UIPickerView> {
   std::vector<objc::Ref<UIPickerWheel>> wheels_;
   objc::Ref<UIView> upper_line_;
   objc::Ref<UIView> lower_line_;
-  // Not retained, as the platform has it.
+  // Not retained, as on the platform.
   objc::Object data_source_;
   objc::Object delegate_;
   bool loaded_ = false;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr CGFloat kWheelFontSize = 22;
 constexpr CGFloat kWheelMargin = 10;
-/// The wheel's edge shows a little less than half of its round.
+/// The wheel shows slightly less than its front half.
 constexpr double kSeenShare = 0.98;
 constexpr CGFloat kFarAlpha = 0.42;
 constexpr CGFloat kNarrowing = 0.1;
@@ -52,7 +52,7 @@ void PickerWheel::forget_picker() {
   on_choice_ = {};
 }
 
-// Inset so that the first and the last row can come to the middle.
+// The inset lets the first and the last row reach the middle.
 void PickerWheel::set_frame(CGRect frame) {
   super<>("setFrame:"_sel, frame);
   const CGFloat edge = (frame.size.height - kPickerRow) / 2;
@@ -121,7 +121,7 @@ void PickerWheel::place(UILabel label, double distance) const {
   label.setCenter(
       {bounds.size.width / 2, bounds.min_y() + bounds.size.height / 2 + wheel.height_of(distance)});
   label.setTransform(CGAffineTransformMakeScale(1 - (1 - shortening) * kNarrowing, shortening));
-  // What is not in the middle is grey, and greyer the further the rim turns it away.
+  // Rows outside of the middle are grey, and fade as the rim turns them away.
   label.setAlpha((1 - from_middle * (1 - kFarAlpha)) * shortening);
 }
 
@@ -141,7 +141,7 @@ void PickerWheel::did_end_animation(UIScrollView) {
   settle();
 }
 
-// What the program chooses is known from the first: any other row is a finger's doing.
+// A row chosen by the program is already recorded: any other comes from a finger.
 void PickerWheel::settle() {
   const NSInteger row = row_near(self.contentOffset().y);
   if (rows_.count == 0 || row == chosen_) return;

@@ -14,8 +14,8 @@ namespace host::uikit {
 
 struct UIPickerWheel : objc::Bound<UIPickerWheel, "UIPickerWheel", UIScrollView> {};
 
-/// One wheel of a picker: rows on its rim, of which the one in the middle is chosen. A finger turns
-/// it, and it comes to rest on a row; a tap on a row brings that to the middle.
+/// One wheel of a picker: rows on a rim, of which the middle one is chosen. A finger turns the
+/// wheel, and it comes to rest on a row; a tap on a row brings that row to the middle.
 class PickerWheel : public objc::Implementation<PickerWheel, UIPickerWheel> {
  public:
   explicit PickerWheel(UIPickerWheel owner) : Implementation(owner) {}
@@ -25,13 +25,13 @@ class PickerWheel : public objc::Implementation<PickerWheel, UIPickerWheel> {
     NSInteger count = 0;
     std::function<NSString(NSInteger)> title;
   };
-  /// `on_choice` hears of what a finger has chosen, once the wheel rests.
+  /// `on_choice` is called with the row that a finger has chosen, once the wheel rests.
   static objc::Ref<UIPickerWheel> make(std::function<void(NSInteger)> on_choice);
 
   void load(Rows rows);
   void forget_picker();
   NSInteger count() const { return rows_.count; }
-  /// -1 where there is none.
+  /// -1 when there are no rows.
   NSInteger chosen() const { return rows_.count > 0 ? chosen_ : -1; }
   void choose(NSInteger row, bool animated);
 
