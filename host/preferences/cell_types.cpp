@@ -6,7 +6,7 @@
 namespace host::preferences {
 namespace {
 
-// In the order of their numbers.
+// In the order of the enumeration.
 constexpr std::array<std::string_view, kEditTextViewCell + 1> kNames{
     "PSGroupCell",          "PSLinkCell",    "PSLinkListCell",     "PSListItemCell",
     "PSTitleValueCell",     "PSSliderCell",  "PSSwitchCell",       "PSStaticTextCell",

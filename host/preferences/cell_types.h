@@ -22,10 +22,10 @@ enum : PSCellType {
   kEditTextViewCell,
 };
 
-/// A group for a name that nobody knows.
+/// Returns the type with that name; a group for an unknown name.
 PSCellType cell_type_named(NSString name);
 
-/// How a row of the kind is laid out, and by which class where its specifier names none.
+/// The layout of a row of that type, and the class used when its specifier names none.
 UITableViewCellStyle cell_style(PSCellType type);
 const char* cell_class_name(PSCellType type);
 

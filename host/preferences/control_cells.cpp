@@ -6,7 +6,7 @@
 namespace host::preferences {
 
 ControlCell::~ControlCell() {
-  let_go_of_control();
+  detach_control();
 }
 
 PSTableCell ControlCell::init(UITableViewCellStyle style, NSString reuse_identifier,
@@ -19,12 +19,12 @@ PSTableCell ControlCell::init(UITableViewCellStyle style, NSString reuse_identif
   return self;
 }
 
-void ControlCell::let_go_of_control() {
+void ControlCell::detach_control() {
   if (control_) control_->removeTarget(self, "controlChanged:"_sel, UIControlEventValueChanged);
 }
 
 void ControlCell::set_control(UIControl control) {
-  let_go_of_control();
+  detach_control();
   control_.reset(control);
   self.setAccessoryView(control);
   control.addTarget(self, "controlChanged:"_sel, UIControlEventValueChanged);
@@ -42,7 +42,7 @@ objc::Object SwitchCell::control_value() {
   return NSNumber::numberWithBool(self.switch_control().isOn());
 }
 
-// A value that nobody has set yet is off.
+// A value that has never been set counts as off.
 void SwitchCell::refresh(PSSpecifier specifier) {
   super<>("refreshCellContentsWithSpecifier:"_sel, specifier);
   if (!specifier || !self.control()) return;

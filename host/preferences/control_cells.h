@@ -6,7 +6,7 @@
 
 namespace host::preferences {
 
-/// A row whose control hands what it says to the specifier's setter.
+/// A row whose control passes its value to the specifier's setter.
 class ControlCell : public objc::Implementation<ControlCell, PSControlTableCell> {
  public:
   explicit ControlCell(PSControlTableCell owner) : Implementation(owner) {}
@@ -20,7 +20,7 @@ class ControlCell : public objc::Implementation<ControlCell, PSControlTableCell>
   void control_changed(UIControl sender);
 
  private:
-  void let_go_of_control();
+  void detach_control();
 
   objc::Ref<UIControl> control_;
 };

@@ -9,8 +9,8 @@
 namespace host::preferences {
 namespace {
 
-/// A property that is a class, or the name of one. Null where there is none, and where its objects
-/// could not be begun in the way that they have to.
+/// Returns the class in a property that holds a class or the name of one. Null when the property is
+/// missing, or when the class does not implement `initializer`.
 objc::Class class_in(PSSpecifier specifier, NSString key, objc::Sel initializer) {
   const objc::Object value = specifier.propertyForKey(key);
   if (!value) return nullptr;
@@ -18,7 +18,7 @@ objc::Class class_in(PSSpecifier specifier, NSString key, objc::Sel initializer)
   const char* name = is_name ? objc::cast<NSString>(value).UTF8String() : nullptr;
   const auto cls = is_name ? objc_getClass(name) : reinterpret_cast<objc::Class>(value.id());
   if (cls && class_getInstanceMethod(cls, initializer)) return cls;
-  spdlog::warn("a row of the settings wants {} {}, which is no such class", key.UTF8String(),
+  spdlog::warn("a settings row has {} {}, which is not a usable class", key.UTF8String(),
                is_name ? name : "");
   return nullptr;
 }
@@ -30,7 +30,7 @@ T allocated(objc::Class cls) {
 
 }  // namespace
 
-// A table does not keep its delegate, and others may keep the table.
+// A table does not retain its delegate, and others may retain the table.
 ListController::~ListController() {
   if (table_) {
     table_->setDataSource(nil);
@@ -53,7 +53,7 @@ void ListController::set_specifiers(NSArray specifiers) {
   if (table_) table_->reloadData();
 }
 
-// A subclass makes specifiers where none are kept.
+// A subclass creates the specifiers when none are cached.
 void ListController::show_rows() {
   const NSArray specifiers = self.specifiers();
   groups_ = SpecifierGroups(specifiers);
@@ -114,7 +114,7 @@ void ListController::view_did_load() {
   table_->setDelegate(self);
 }
 
-// The rows may have been changed by the page that was in front of this one.
+// The page in front of this one may have changed the values shown.
 void ListController::view_will_appear(BOOL animated) {
   super<>("viewWillAppear:"_sel, animated);
   self.view();
@@ -152,7 +152,7 @@ UITableViewCell ListController::cell(UITableView table, NSIndexPath path) {
   objc::Class cls =
       class_in(specifier, "cellClass"_ns, "initWithStyle:reuseIdentifier:specifier:"_sel);
   if (!cls) cls = objc_getClass(cell_class_name(type));
-  // Cells of one class and layout can stand for each other.
+  // Cells of the same class and layout are interchangeable.
   const auto reuse = NSString::stringWithUTF8String(
       (std::string(class_getName(cls)) + " " + std::to_string(type)).c_str());
   const auto waiting = objc::cast<PSTableCell>(table.dequeueReusableCellWithIdentifier(reuse));
@@ -179,7 +179,7 @@ NSString ListController::footer_title(UITableView, NSInteger section) {
   return objc::cast<NSString>(group_at(section).propertyForKey("footerText"_ns));
 }
 
-/// The view of a class of the group's own, made once for as long as the specifiers stay.
+/// Returns the view of the group's header class, created once and kept as long as the specifiers.
 PSHeaderViewDelegate ListController::own_header(NSInteger section) {
   if (const auto made = headers_.find(section); made != headers_.end()) return made->second.get();
   const PSSpecifier group = group_at(section);

@@ -8,7 +8,7 @@
 
 namespace host::preferences {
 
-/// A page of settings: the specifiers that its subclass makes, as the rows of a grouped table.
+/// A page of settings: the specifiers that its subclass creates, as the rows of a grouped table.
 class ListController : public objc::Implementation<ListController, PSListController> {
  public:
   explicit ListController(PSListController owner) : Implementation(owner) {}
@@ -31,7 +31,7 @@ class ListController : public objc::Implementation<ListController, PSListControl
   void view_did_load();
   void view_will_appear(BOOL animated);
 
-  // The table's questions.
+  // The table's data source and delegate messages.
   NSInteger sections(UITableView table);
   NSInteger rows(UITableView table, NSInteger section);
   UITableViewCell cell(UITableView table, NSIndexPath path);
@@ -56,7 +56,7 @@ class ListController : public objc::Implementation<ListController, PSListControl
   std::map<NSInteger, objc::Ref<PSHeaderViewDelegate>> headers_;
   objc::Ref<UITableView> table_;
   objc::Ref<PSSpecifier> specifier_;
-  // Not retained: it keeps this one.
+  // Not retained: the parent retains this controller.
   UIViewController parent_;
 };
 

@@ -42,7 +42,7 @@ UITableViewCell ListItemsController::cell(UITableView table, NSIndexPath path) {
 void ListItemsController::selected(UITableView table, NSIndexPath path) {
   table.deselectRowAtIndexPath(path, YES);
   state_of(self.specifier()).set_value(value_at(path));
-  // What is stored now, whatever became of the value.
+  // Shows what is stored now, whatever the setter did with the value.
   const auto shown = objc::Ref<NSArray>::retain(table.visibleCells());
   for (const UITableViewCell cell : shown->of<UITableViewCell>())
     show_mark(cell, table.indexPathForCell(cell));

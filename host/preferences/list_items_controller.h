@@ -5,7 +5,7 @@
 
 namespace host::preferences {
 
-/// All that a list offers, with a check mark at what is chosen. A tap hands the value to the setter
+/// All items of a list, with a check mark at the chosen one. A tap passes the value to the setter
 /// of the specifier that opened the page.
 class ListItemsController
     : public objc::Implementation<ListItemsController, PSListItemsController> {

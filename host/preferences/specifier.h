@@ -31,7 +31,7 @@ class Specifier : public objc::Implementation<Specifier, PSSpecifier> {
   PSCellType cell_type() const { return cell_; }
   objc::Class detail() const { return detail_; }
   objc::Sel action() const;
-  /// What the target says; nil where there is none to ask.
+  /// Returns the value that the target's getter returns; nil when there is no target or getter.
   objc::Object value() const;
   void set_value(objc::Object value) const;
   void send_action() const;
@@ -41,7 +41,7 @@ class Specifier : public objc::Implementation<Specifier, PSSpecifier> {
   objc::Ref<NSMutableDictionary> properties_;
   objc::Ref<NSArray> values_;
   objc::Ref<NSDictionary> titles_;
-  // Not retained, as the platform has it.
+  // Not retained, as on the platform.
   objc::Object target_;
   objc::Sel set_ = nullptr;
   objc::Sel get_ = nullptr;

@@ -8,7 +8,7 @@
 
 namespace host::preferences {
 
-/// A flat list of specifiers, in which groups begin rows, as sections and rows.
+/// Converts a flat list of specifiers, in which a group precedes its rows, into sections and rows.
 class SpecifierGroups {
  public:
   struct Place {
@@ -21,7 +21,7 @@ class SpecifierGroups {
 
   std::size_t count() const { return groups_.size(); }
   std::size_t rows_in(std::size_t group) const { return groups_[group].rows.size(); }
-  /// Nil for rows that no group begins.
+  /// Nil for rows that precede the first group.
   PSSpecifier group(std::size_t index) const { return groups_[index].head.get(); }
   PSSpecifier row(std::size_t group, std::size_t row) const {
     return groups_[group].rows[row].get();

@@ -10,7 +10,8 @@ bool leads_on(PSCellType type) {
   return type == kLinkCell || type == kLinkListCell;
 }
 
-/// What stands in a row for a value: its title in a list, else itself if it is text.
+/// Returns what a row shows for a value: its title in a list, the value itself when it is text,
+/// otherwise its description.
 NSString title_of(objc::Object value, PSSpecifier specifier) {
   if (!value) return nil;
   if (const NSDictionary titles = specifier.titleDictionary())
