@@ -9,7 +9,7 @@
 namespace host::media_player {
 namespace {
 
-// Nothing on a screen is larger, and a size may come from a computation gone wrong.
+// No screen shows anything larger, and a requested size may be the result of a wrong computation.
 constexpr double kLongestSide = 4096;
 
 }  // namespace

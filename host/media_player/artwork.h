@@ -8,12 +8,12 @@
 
 namespace host::media_player {
 
-/// The cover of one song, decoded only when a picture of it is asked for.
+/// The cover of one song, decoded only when an image of it is requested.
 class Artwork : public objc::Implementation<Artwork, MPMediaItemArtwork> {
  public:
   explicit Artwork(MPMediaItemArtwork owner) : Implementation(owner) {}
 
-  /// A new object (+1) for a track of the shelf's library.
+  /// Returns a new object for a track of the shelf's library; the caller owns it.
   static MPMediaItemArtwork make(std::shared_ptr<Shelf> shelf, const media::Track& track);
 
   UIImage image_with_size(CGSize size);

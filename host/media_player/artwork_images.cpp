@@ -52,7 +52,7 @@ const ArtworkImages::Entry& ArtworkImages::make(const media::Track& track, const
 void ArtworkImages::make_room() {
   while (entries_.size() > kMostImages) {
     by_key_.erase(entries_.back().key);
-    // Somebody may have been given it in this turn.
+    // A caller may have been given it during this turn.
     entries_.back().image.leak().autorelease();
     entries_.pop_back();
   }

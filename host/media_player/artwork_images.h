@@ -10,9 +10,9 @@
 
 namespace host::media_player {
 
-/// Covers as images that know their size at once and have their pixels decoded when they are first
-/// drawn. The same cover at the same size is the same object while it is kept, so that whatever the
-/// screen has computed from it stays good. Main thread only.
+/// Covers as images whose size is known at once and whose pixels are decoded when they are first
+/// drawn. While cached, the same cover at the same size is the same object, so anything that the
+/// screen has computed from it stays valid. Main thread only.
 class ArtworkImages {
  public:
   explicit ArtworkImages(CoverStore::Pace pace) : store_(std::make_shared<CoverStore>(pace)) {}
@@ -20,11 +20,11 @@ class ArtworkImages {
   ArtworkImages(const ArtworkImages&) = delete;
   ArtworkImages& operator=(const ArtworkImages&) = delete;
 
-  /// The cover with its longer side at most `longest_side` pixels, at `scale` pixels a point. Lives
-  /// at least to the end of the turn; nil when there is none, or it is known that it cannot be
-  /// decoded.
+  /// Returns the cover with its longer side at most `longest_side` pixels, at `scale` pixels per
+  /// point. It lives at least until the end of the turn. Returns nil when there is no cover, or it
+  /// is known not to be decodable.
   UIImage image(const media::Track& track, int longest_side, double scale);
-  /// The same for the cover that the whole screen shows: its pixels are asked for at once, and stay
+  /// The same, for the cover that fills the screen: requests its pixels at once, and keeps them
   /// until another is shown.
   UIImage shown_image(const media::Track& track, int longest_side, double scale);
 
@@ -32,7 +32,7 @@ class ArtworkImages {
   std::size_t bytes_kept() const { return store_->cache().bytes_kept(); }
 
  private:
-  /// The tiles of a large library, and the rows of it that were seen last.
+  /// Enough for the tiles of a large library and its most recently shown rows.
   static constexpr std::size_t kMostImages = 8'000;
 
   struct Key {
@@ -47,13 +47,13 @@ class ArtworkImages {
     std::shared_ptr<PromisedCover> cover;
   };
 
-  /// Null when there is none.
+  /// Returns null when the track has no cover.
   const Entry* entry(const media::Track& track, int longest_side, double scale);
   const Entry& make(const media::Track& track, const Key& key);
   void make_room();
 
   std::shared_ptr<CoverStore> store_;
-  std::list<Entry> entries_;  // The latest asked for first.
+  std::list<Entry> entries_;  // Most recently requested first.
   std::map<Key, std::list<Entry>::iterator> by_key_;
 };
 

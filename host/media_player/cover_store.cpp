@@ -48,7 +48,7 @@ bool CoverStore::keeps(const PromisedCover& cover) const {
 void CoverStore::request(const std::shared_ptr<PromisedCover>& cover) {
   if (!decoder_) {
     decoder_ = std::make_unique<media::CoverDecoder>();
-    watch_ = RunLoop::main().watch(decoder_->descriptor(), [this] { hear(); });
+    watch_ = RunLoop::main().watch(decoder_->descriptor(), [this] { receive_decoded(); });
   }
   auto& covers = waiting_[key_of(*cover)];
   if (covers.empty()) decoder_->request({cover->cover(), cover->longest_side()});
@@ -62,8 +62,8 @@ void CoverStore::pin(const PromisedCover& cover) {
   pinned_key_ = key;
 }
 
-void CoverStore::hear() {
-  // A cover that arrives may be the last that keeps the store.
+void CoverStore::receive_decoded() {
+  // A cover that arrives may hold the last reference to the store.
   const auto self = shared_from_this();
   while (decoder_) {
     auto decoded = decoder_->take();

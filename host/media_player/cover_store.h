@@ -13,15 +13,16 @@ namespace host::media_player {
 
 class PromisedCover;
 
-/// The pixels of covers: the latest used within a fixed number of bytes, the others decoded when
-/// they are needed. Main thread only.
+/// The pixels of covers: the most recently used are kept within a fixed number of bytes, others are
+/// decoded when they are needed. Main thread only.
 class CoverStore : public std::enable_shared_from_this<CoverStore> {
  public:
   using PicturePtr = media::ArtworkCache::PicturePtr;
 
   enum class Pace {
-    Waits,       // A frame has all pictures, whatever that takes: a stepped clock stands meanwhile.
-    NeverWaits,  // They are decoded beside the screen and shown when they are there.
+    Waits,       // A frame waits for all its pictures, however long; a stepped clock does not
+                 // advance meanwhile.
+    NeverWaits,  // Decoded in the background and shown when ready.
   };
   static constexpr std::size_t kMostBytes = 8 << 20;
 
@@ -31,16 +32,16 @@ class CoverStore : public std::enable_shared_from_this<CoverStore> {
   CoverStore& operator=(const CoverStore&) = delete;
 
   Pace pace() const { return pace_; }
-  /// From here on everything is decoded when it is asked for. Before the run loop goes.
+  /// From now on every picture is decoded on demand. Call before the run loop is destroyed.
   void stop();
 
   PicturePtr picture_now(const PromisedCover& cover);
   PicturePtr picture_if_kept(const PromisedCover& cover);
   bool keeps(const PromisedCover& cover) const;
   bool is_broken(std::uint64_t key) const { return cache_.is_broken(key); }
-  /// The cover hears when its pixels are there.
+  /// Decodes in the background, and tells the cover when its pixels are ready.
   void request(const std::shared_ptr<PromisedCover>& cover);
-  /// This cover's pixels, once made, stay until another is pinned.
+  /// Keeps this cover's pixels, once decoded, until another cover is pinned.
   void pin(const PromisedCover& cover);
 
   const media::ArtworkCache& cache() const { return cache_; }
@@ -48,7 +49,7 @@ class CoverStore : public std::enable_shared_from_this<CoverStore> {
  private:
   using Key = std::pair<std::uint64_t, int>;
 
-  void hear();
+  void receive_decoded();
   void take(media::CoverDecoder::Decoded decoded);
 
   Pace pace_;

@@ -11,8 +11,8 @@
 
 namespace host::media_player {
 
-/// Makes the demo music beside the screen, on a thread of its own. All members are for the main
-/// thread, which watches `descriptor()`. Destroying it stops the work, and nothing half made stays.
+/// Makes the demo music on its own thread. All members are for the main thread, which watches
+/// `descriptor()`. Destroying it stops the work; no incomplete files remain.
 class DemoMaker {
  public:
   struct News {
@@ -24,7 +24,7 @@ class DemoMaker {
   explicit DemoMaker(DemoMusic demo);
 
   int descriptor() const { return signal_.descriptor(); }
-  /// How things stand now.
+  /// Returns the current state.
   News take_news();
 
  private:

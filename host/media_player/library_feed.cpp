@@ -68,27 +68,27 @@ void LibraryFeed::make_demo_now() {
   const DemoMusic* demo = missing_demo();
   if (!demo) return;
   const auto failure = media::make_demo_library(
-      demo->folder, demo->covers, [this](media::DemoProgress progress) { tell_demo(progress); });
+      demo->folder, demo->covers, [this](media::DemoProgress progress) { report_demo(progress); });
   if (failure) media::log_warning("the demo music cannot be made: " + *failure);
 }
 
 void LibraryFeed::scan_now() {
   media::Index index{index_path_};
   auto outcome = media::scan_folders(index, roots_, [this](const ScanProgress& files) {
-    tell_files(MediaProgress::Stage::kReadingFiles, files);
+    report_files(MediaProgress::Stage::kReadingFiles, files);
   });
   deliver(std::move(outcome.library));
-  tell_files(MediaProgress::Stage::kReady, outcome.progress);
+  report_files(MediaProgress::Stage::kReady, outcome.progress);
 }
 
 void LibraryFeed::start_demo() {
   demo_maker_ = std::make_unique<DemoMaker>(*demo_);
-  demo_watch_ = RunLoop::main().watch(demo_maker_->descriptor(), [this] { hear_demo(); });
+  demo_watch_ = RunLoop::main().watch(demo_maker_->descriptor(), [this] { receive_demo_news(); });
 }
 
-void LibraryFeed::hear_demo() {
+void LibraryFeed::receive_demo_news() {
   const DemoMaker::News news = demo_maker_->take_news();
-  tell_demo(news.progress);
+  report_demo(news.progress);
   if (!news.is_over) return;
   if (news.failure) media::log_warning("the demo music cannot be made: " + *news.failure);
   RunLoop::main().unwatch(std::exchange(demo_watch_, 0));
@@ -99,17 +99,17 @@ void LibraryFeed::hear_demo() {
 void LibraryFeed::start_scan() {
   scanner_ = std::make_unique<media::Scanner>(index_path_);
   scanner_->start(roots_);
-  // What the last scan left is a matter of a moment, and a screen that begins without it would have
-  // to be filled a second time.
+  // Loading what the last scan left takes a moment only, and a screen that begins without it would
+  // have to be filled twice.
   while (!library_) {
     pollfd waiting{scanner_->descriptor(), POLLIN, 0};
     ::poll(&waiting, 1, -1);
     if (const auto update = scanner_->take_update()) take(*update);
   }
-  scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { hear_scan(); });
+  scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { receive_scan_updates(); });
 }
 
-void LibraryFeed::hear_scan() {
+void LibraryFeed::receive_scan_updates() {
   while (const auto update = scanner_->take_update())
     take(*update);
 }
@@ -117,8 +117,8 @@ void LibraryFeed::hear_scan() {
 void LibraryFeed::take(const ScanUpdate& update) {
   if (update.library) deliver(update.library);
   const bool is_ready = update.stage == ScanStage::finished;
-  tell_files(is_ready ? MediaProgress::Stage::kReady : MediaProgress::Stage::kReadingFiles,
-             update.progress);
+  report_files(is_ready ? MediaProgress::Stage::kReady : MediaProgress::Stage::kReadingFiles,
+               update.progress);
 }
 
 void LibraryFeed::deliver(std::shared_ptr<const media::Library> library) {
@@ -127,7 +127,7 @@ void LibraryFeed::deliver(std::shared_ptr<const media::Library> library) {
   listener_.on_library(library_);
 }
 
-void LibraryFeed::tell_demo(media::DemoProgress progress) {
+void LibraryFeed::report_demo(media::DemoProgress progress) {
   MediaProgress news;
   news.stage = MediaProgress::Stage::kMakingMusic;
   news.made = progress.made;
@@ -135,7 +135,7 @@ void LibraryFeed::tell_demo(media::DemoProgress progress) {
   listener_.on_progress(news);
 }
 
-void LibraryFeed::tell_files(MediaProgress::Stage stage, const ScanProgress& files) {
+void LibraryFeed::report_files(MediaProgress::Stage stage, const ScanProgress& files) {
   MediaProgress news;
   news.stage = stage;
   news.files = files;

@@ -13,8 +13,8 @@
 
 namespace host::media_player {
 
-/// Brings the library: makes the demo music where it is wanted, then looks at the folders. Speaks
-/// on the main thread only, and costs it nothing but the news.
+/// Provides the library: makes the demo music if it is wanted, then scans the folders. Calls its
+/// listener on the main thread only, and does the work elsewhere.
 class LibraryFeed {
  public:
   struct Listener {
@@ -27,8 +27,7 @@ class LibraryFeed {
   LibraryFeed(const LibraryFeed&) = delete;
   LibraryFeed& operator=(const LibraryFeed&) = delete;
 
-  /// Before it returns the listener has a library: the whole one, or the one that the last scan
-  /// left.
+  /// When this returns, the listener has a library: the complete one, or what the last scan left.
   void start();
 
  private:
@@ -36,12 +35,12 @@ class LibraryFeed {
   void scan_now();
   void start_demo();
   void start_scan();
-  void hear_demo();
-  void hear_scan();
+  void receive_demo_news();
+  void receive_scan_updates();
   void take(const media::ScanUpdate& update);
   void deliver(std::shared_ptr<const media::Library> library);
-  void tell_demo(media::DemoProgress progress);
-  void tell_files(MediaProgress::Stage stage, const media::ScanProgress& files);
+  void report_demo(media::DemoProgress progress);
+  void report_files(MediaProgress::Stage stage, const media::ScanProgress& files);
 
   const DemoMusic* missing_demo() const;
   std::vector<std::string> roots_;

@@ -14,10 +14,10 @@
 namespace host::media_player {
 namespace {
 
-/// The text that was last looked for. A search asks every title for the same one.
+/// The text of the latest search. A search looks for the same text in every title.
 class Wanted {
  public:
-  /// Null for a text that has to be looked for letter by letter.
+  /// Returns null for a text that must be searched for letter by letter.
   static const Wanted* for_string(NSString string) {
     thread_local Wanted wanted;
     if (!string) return nullptr;
@@ -25,8 +25,8 @@ class Wanted {
     return wanted.is_text_ ? &wanted : nullptr;
   }
 
-  /// Where it stands first in `text`, which is plain; null when it does not. In a plain text every
-  /// letter is of one piece, and so must those be that are found there.
+  /// Returns the first occurrence in `text`, which must be plain; null when there is none. In plain
+  /// text every letter is a single code point, and so must be every letter that is found there.
   const char* find_in(std::string_view text) const {
     if (!is_plain_ || text.size() < bytes_.size()) return nullptr;
     const void* found = bytes_.size() == 1
@@ -41,7 +41,7 @@ class Wanted {
     const char* text = string.UTF8String();
     bytes_ = text ? text : "";
     TextShape shape = shape_of(bytes_);
-    // A text that UTF-8 cannot hold, or that goes on after a zero, is shorter now than it was.
+    // A text that UTF-8 cannot represent, or that contains a zero, is now shorter than the string.
     is_text_ = shape.length > 0 && shape.length == string.length();
     if (is_text_ && shape.kind == TextKind::other) {
       bytes_ = foundation::composed(bytes_);
@@ -49,7 +49,7 @@ class Wanted {
     }
     length_ = shape.length;
     is_plain_ = shape.kind <= TextKind::plain;
-    // One that may change has to be read every time.
+    // A mutable string has to be read every time.
     const bool may_change = string.isKindOfClass(objc_getClass("NSMutableString"));
     string_.reset(may_change ? NSString() : string);
   }
@@ -94,7 +94,7 @@ NSString LibraryText::make(std::string_view text, std::shared_ptr<const void> ke
 
 LibraryText::~LibraryText() {
   delete[] units_.load();
-  // Whoever was given it in this turn was promised that it lives to the turn's end.
+  // A caller that was given it during this turn relies on it until the turn ends.
   if (const auto lower = objc::wrap<NSString>(lowercase_.load()); lower != self)
     lower.autorelease();
 }
@@ -125,7 +125,7 @@ void LibraryText::get_characters(unichar* characters, NSRange range) {
   }
 }
 
-// Foundation's own, so that equal strings of all kinds have one.
+// Foundation's hash, so that equal strings of all classes share one.
 NSUInteger LibraryText::hash() {
   NSUInteger known = hash_.load(std::memory_order_relaxed);
   if (known == 0) {
@@ -182,7 +182,7 @@ NSString LibraryText::lowercase_string() {
   return objc::wrap<NSString>(known);
 }
 
-// This object itself, or +1.
+// Returns this object itself, or a new one that the caller owns.
 NSString LibraryText::make_lowercase() {
   if (kind_ == TextKind::ascii) {
     if (!has_capitals(bytes())) return self;

@@ -13,15 +13,15 @@ namespace host::media_player {
 
 struct MPLibraryText : objc::Bound<MPLibraryText, "MPLibraryText", NSString> {};
 
-/// A string over the bytes of a library's text, which are not copied. It answers as every string of
-/// Foundation does; what a search asks of a hundred thousand titles costs nothing the second time.
+/// A string over the bytes of a library's text, without copying them. It behaves like every string
+/// of Foundation; results that a search needs of a hundred thousand titles are cached.
 class LibraryText : public objc::Implementation<LibraryText, MPLibraryText> {
  public:
   explicit LibraryText(MPLibraryText owner) : Implementation(owner) {}
   ~LibraryText();
 
-  /// A new string (+1) over `text`, behind which `keeper` keeps a zero byte as well. Bytes that are
-  /// no UTF-8 give what Foundation makes of them.
+  /// Returns a new string over `text`; the caller owns it. `keeper` keeps the bytes alive, and a
+  /// zero byte behind them. Invalid UTF-8 becomes what Foundation makes of it.
   static NSString make(std::string_view text, std::shared_ptr<const void> keeper);
 
   NSUInteger length() const { return length_; }
@@ -42,15 +42,15 @@ class LibraryText : public objc::Implementation<LibraryText, MPLibraryText> {
   BOOL equals_foreign(NSString other);
   NSString make_lowercase();
 
-  // What a search reads stands first, where it shares a line of the processor's memory.
+  // What a search reads comes first, to share one cache line.
   std::atomic<objc::Id> lowercase_ = nullptr;  // Owned unless it is this object.
   std::uint32_t length_ = 0;                   // In UTF-16 units.
   std::uint32_t size_ = 0;
   const char* bytes_ = nullptr;
   TextKind kind_ = TextKind::ascii;
-  // Made when they are first asked for, as the lower-case text is, on whichever thread that is.
+  // Computed on first use, like the lower-case text, on any thread.
   std::atomic<NSUInteger> hash_ = 0;
-  std::atomic<unichar*> units_ = nullptr;  // Of a text that is not ASCII.
+  std::atomic<unichar*> units_ = nullptr;  // For a text that is not ASCII.
   std::shared_ptr<const void> keeper_;
 };
 

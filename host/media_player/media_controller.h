@@ -5,7 +5,7 @@
 
 namespace host::media_player {
 
-/// The home screen's hand on whatever plays.
+/// The home screen's controls for whatever plays.
 class MediaController : public objc::Implementation<MediaController, SBMediaController> {
  public:
   explicit MediaController(SBMediaController owner) : Implementation(owner) {}
@@ -20,8 +20,8 @@ class MediaController : public objc::Implementation<MediaController, SBMediaCont
   void change_volume_by(float step);
   void system_volume_changed(objc::Object notification);
 
-  /// What the playing engine says of itself, so that the console can compare what is shown with
-  /// what sounds. The path is nil when nothing is loaded; the position is in seconds.
+  /// The state that the playing engine itself reports, for the console to compare with what is
+  /// shown. The path is nil when nothing is loaded; the position is in seconds.
   NSString player_path();
   BOOL player_is_paused();
   double player_position();

@@ -45,7 +45,7 @@ constexpr Property kProperties[] = {
     {&MPMediaItemPropertyArtwork, "artwork", &value<&MediaItem::artwork>},
 };
 
-// Nearly every caller names a property by its constant, so the address is tried first: the song
+// Almost every caller names a property by its constant, so its address is compared first: the song
 // list asks for one property of every song at once.
 const Property* property_named(NSString name) {
   for (const Property& property : kProperties) {
@@ -67,7 +67,7 @@ MPMediaItem MediaItem::make(std::shared_ptr<Shelf> shelf, const media::Track& tr
   return item;
 }
 
-// Whoever was given them in this turn was promised that they live to the turn's end.
+// Callers that were given them during this turn rely on them until the turn ends.
 MediaItem::~MediaItem() {
   title_.autorelease();
   persistent_id_.autorelease();
@@ -75,7 +75,7 @@ MediaItem::~MediaItem() {
 
 objc::Object MediaItem::value_for_property(NSString name) {
   if (!track_) return nil;
-  // What a search asks of every song.
+  // The property that a search asks for on every song.
   if (name == MPMediaItemPropertyTitle) return title();
   const Property* property = property_named(name);
   return property ? property->value(*this) : nil;

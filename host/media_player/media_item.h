@@ -9,20 +9,20 @@
 
 namespace host::media_player {
 
-/// One song. It keeps its library, so it goes on answering after another has taken the place.
+/// One song. It retains its library, so it stays valid after another library has replaced it.
 class MediaItem : public objc::Implementation<MediaItem, MPMediaItem> {
  public:
   explicit MediaItem(MPMediaItem owner) : Implementation(owner) {}
   ~MediaItem();
 
-  /// A new item (+1) for a track of the shelf's library.
+  /// Returns a new item for a track of the shelf's library; the caller owns it.
   static MPMediaItem make(std::shared_ptr<Shelf> shelf, const media::Track& track);
 
-  /// Null for an item that nobody got from a library.
+  /// Null for an item that does not come from a library.
   const media::Track* track() const { return track_; }
 
   objc::Object value_for_property(NSString property);
-  /// Items are the same when their songs are, whichever library they came from.
+  /// Items are equal when their songs are, whichever library they came from.
   BOOL is_equal(objc::Object other);
   NSUInteger hash();
   NSString description();
@@ -40,8 +40,7 @@ class MediaItem : public objc::Implementation<MediaItem, MPMediaItem> {
  private:
   std::shared_ptr<Shelf> shelf_;
   const media::Track* track_ = nullptr;
-  // Found when they are first asked for. Only the title and the number are this item's own, and so
-  // are retained.
+  // Looked up on first use. Only the title and the number belong to this item, and so are retained.
   NSString title_;
   NSNumber persistent_id_;
   NSString artist_;
@@ -49,7 +48,7 @@ class MediaItem : public objc::Implementation<MediaItem, MPMediaItem> {
   NSNumber album_id_;
 };
 
-/// Gives the names of the properties their values and makes the class.
+/// Sets the names of the properties and creates the class.
 void export_media_item();
 
 }  // namespace host::media_player

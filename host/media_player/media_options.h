@@ -11,48 +11,49 @@
 
 namespace host::media_player {
 
-/// When the files are first looked at.
+/// When the files are first scanned.
 enum class FirstScan {
-  kBeforeStart,  // The library is whole when the service has started.
-  kBeside,       // What the last scan left is there at once; the rest follows beside the screen.
-  kNever,        // What the last scan left is all: another process looks at the files.
+  kBeforeStart,  // The library is complete when the service has started.
+  kBeside,       // The result of the last scan is available at once; the new scan runs in the
+                 // background.
+  kNever,        // The result of the last scan is used as it is: another process scans the files.
 };
 
-/// Music that is made when the user has given none.
+/// Music to make when the user has none.
 struct DemoMusic {
   std::string folder;  // Where it is kept from the first run on.
-  std::string covers;  // Holds `cover-1.png` and so on.
+  std::string covers;  // Contains `cover-1.png` and so on.
 };
 
 struct MediaProgress {
   enum class Stage { kMakingMusic, kReadingFiles, kReady };
 
   Stage stage = Stage::kReady;
-  int made = 0;  // Songs made, of `to_make`.
+  int made = 0;  // The number of songs made so far, out of `to_make`.
   int to_make = 0;
   media::ScanProgress files;
   std::size_t songs = 0;  // In the library at this moment.
 };
 
-/// All paths are of this machine.
+/// All paths are paths of this machine.
 struct MediaOptions {
   std::vector<std::string> music_folders;
-  /// Made first, and played besides the folders, when it is given.
+  /// If set, made first and played in addition to the folders.
   std::optional<DemoMusic> demo;
   std::string index_path;
-  /// On a stepped clock the first scan always comes before the start, and every turn of the loop
-  /// brings the player up to the clock.
+  /// With a stepped clock the first scan always precedes the start, and every turn of the loop
+  /// advances the player to the clock's time.
   media::PlayerPace pace = media::PlayerPace::real;
   FirstScan first_scan = FirstScan::kBeside;
   /// Empty lets the engine choose; "null" plays in real time without a sound device.
   std::string audio_output;
-  /// Where queue, song and volume are kept from one process to the next; empty forgets them.
+  /// Where queue, song and volume are stored between processes; empty means nowhere.
   std::string memory_path;
   /// Called on the main thread.
   std::function<void(const MediaProgress&)> on_progress;
 };
 
-/// Where the demo music belongs when nobody says otherwise: in the user's data folder.
+/// Returns the default folder for the demo music, in the user's data folder.
 std::string default_demo_folder();
 
 }  // namespace host::media_player

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kFirstVolume = 0.75;
 
-// Never destroyed behind the end of `main`, when the loop that it stands on is gone.
+// Never destroyed after the end of `main`, when the loop it depends on is gone.
 std::unique_ptr<MediaService>& running() {
   static auto* const service = new std::unique_ptr<MediaService>;
   return *service;
@@ -35,12 +35,12 @@ std::optional<std::string> MediaService::start(MediaOptions options) {
   if (!player) return "the playing engine cannot be started";
   running().reset(new MediaService{std::move(options), std::move(player)});
   running()->feed_.start();
-  running()->recall();
+  running()->restore_playback();
   return std::nullopt;
 }
 
 void MediaService::stop() {
-  if (running()) running()->remember();
+  if (running()) running()->save_playback();
   running().reset();
 }
 
@@ -59,14 +59,14 @@ MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> 
                          if (options_.on_progress) options_.on_progress(progress);
                        }}) {
   playback_.set_volume(kFirstVolume);
-  playback_.on_change = [this] { remember_soon(); };
+  playback_.on_change = [this] { save_playback_soon(); };
 }
 
 MediaService::~MediaService() = default;
 
 media::SongFile MediaService::file_of(std::uint64_t id) const {
   const media::Track* track = items_->library().find(id);
-  if (!track) return {{}, "a song of the queue is not in the library any more"};
+  if (!track) return {{}, "a song of the queue is no longer in the library"};
   if (!media::has_cloud_name(track->path)) return {std::string{track->path}, {}};
   return {{}, fmt::format("\"{}\" is only in the cloud", track->title)};
 }
@@ -97,7 +97,7 @@ bool MediaService::toggle() {
   return playback_.state() == media::PlaybackState::playing;
 }
 
-void MediaService::recall() {
+void MediaService::restore_playback() {
   if (options_.memory_path.empty()) return;
   const RememberedPlayback memory = read_playback(options_.memory_path);
   if (memory.volume) playback_.set_volume(*memory.volume);
@@ -109,26 +109,27 @@ void MediaService::recall() {
 }
 
 // Several things change together when a song ends; they are written once, after the turn.
-void MediaService::remember_soon() {
-  if (std::exchange(is_memory_old_, true)) return;
+void MediaService::save_playback_soon() {
+  if (std::exchange(needs_saving_, true)) return;
   RunLoop::main().perform([] {
-    if (MediaService* service = current(); service && service->is_memory_old_) service->remember();
+    if (MediaService* service = current(); service && service->needs_saving_)
+      service->save_playback();
   });
 }
 
-void MediaService::remember() {
-  is_memory_old_ = false;
+void MediaService::save_playback() {
+  needs_saving_ = false;
   if (options_.memory_path.empty()) return;
   RememberedPlayback memory;
   memory.song = playback_.song().value_or(0);
   memory.position_seconds = playback_.position();
   memory.volume = playback_.volume();
-  // The whole library is by far the most usual queue, and is not written out song by song.
+  // The whole library is by far the most common queue, and is not written out song by song.
   const media::SongList& queue = playback_.queue().list();
   const media::SongList& all = items_->library().songs();
   if (queue != all && *queue != *all) memory.queue = *queue;
   if (!write_playback(options_.memory_path, memory)) {
-    media::log_warning("what plays cannot be remembered in " + options_.memory_path);
+    media::log_warning("the playback state cannot be saved to " + options_.memory_path);
     options_.memory_path.clear();
   }
 }

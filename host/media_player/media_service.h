@@ -13,33 +13,33 @@
 namespace host::media_player {
 
 /// The music of a process: the library, the player and the covers behind the system's media
-/// classes. Started once by the process that plays, on its main loop; without it the classes show
-/// an empty library and play nothing.
+/// classes. The process that plays starts it once, on its main loop; without it the classes show an
+/// empty library and play nothing.
 class MediaService {
  public:
-  /// Needs the process's run loop and the exported classes. Gives the reason when there can be no
-  /// music at all.
+  /// Starts the service. Requires the process's run loop and the exported classes. Returns the
+  /// reason when music is not possible at all, otherwise nothing.
   static std::optional<std::string> start(MediaOptions options);
-  /// Remembers what plays and lets go of everything. Before the run loop goes.
+  /// Saves the playback state and releases everything. Call before the run loop is destroyed.
   static void stop();
-  /// Null when the service is not running.
+  /// Returns null when the service is not running.
   static MediaService* current();
 
   ~MediaService();
   MediaService(const MediaService&) = delete;
   MediaService& operator=(const MediaService&) = delete;
 
-  /// Another store after the library has changed.
+  /// Replaced by another store when the library changes.
   const std::shared_ptr<ItemStore>& items() const { return items_; }
   Playback& playback() { return playback_; }
   ArtworkImages& artwork() { return artwork_; }
 
-  /// The song that is loaded; null when there is none, or the library does not hold it any more.
+  /// Returns the loaded song; null when there is none, or the library no longer contains it.
   const media::Track* now_playing() const;
   MPMediaItem now_playing_item();
 
-  /// Plays or pauses. With nothing loaded it plays the queue, or the whole library when there is no
-  /// queue. False when there is nothing to play.
+  /// Plays or pauses. With nothing loaded it plays the queue, or the whole library when the queue
+  /// is empty. Returns false when there is nothing to play.
   bool toggle();
 
  private:
@@ -47,16 +47,16 @@ class MediaService {
 
   void take(std::shared_ptr<const media::Library> library);
   media::SongFile file_of(std::uint64_t id) const;
-  void recall();
-  void remember_soon();
-  void remember();
+  void restore_playback();
+  void save_playback_soon();
+  void save_playback();
 
   MediaOptions options_;
   std::shared_ptr<ItemStore> items_;
   ArtworkImages artwork_;
   Playback playback_;
   LibraryFeed feed_;
-  bool is_memory_old_ = false;
+  bool needs_saving_ = false;
 };
 
 }  // namespace host::media_player

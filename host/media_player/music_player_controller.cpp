@@ -26,7 +26,7 @@ Playback* playback() {
   return service ? &service->playback() : nullptr;
 }
 
-// One for the life of the process: whoever loads early may keep it.
+// One for the life of the process: a library loaded early may keep it.
 MPMusicPlayerController ipod_music_player(objc::Object) {
   static const MPMusicPlayerController player = MPMusicPlayerController::alloc().init();
   return player;

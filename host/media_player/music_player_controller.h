@@ -5,7 +5,7 @@
 
 namespace host::media_player {
 
-/// The system's music player, a view of the process's media service.
+/// The system's music player, an interface to the process's media service.
 class MusicPlayerController
     : public objc::Implementation<MusicPlayerController, MPMusicPlayerController> {
  public:
@@ -13,7 +13,7 @@ class MusicPlayerController
 
   void set_queue_with_query(MPMediaQuery query);
   MPMediaItem now_playing_item();
-  /// Nothing happens when the item is not in the queue.
+  /// Ignored when the item is not in the queue.
   void set_now_playing_item(MPMediaItem item);
   MPMusicPlaybackState playback_state();
   void prepare_to_play();

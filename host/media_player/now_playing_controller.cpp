@@ -5,7 +5,7 @@
 namespace host::media_player {
 namespace {
 
-// Enough for a cover across the screen of a phone; the panel also blurs it over all of it, which
+// Enough for a cover across a phone's screen. The panel also blurs it over the whole screen, which
 // needs less.
 constexpr int kArtworkPixels = 800;
 
@@ -37,7 +37,7 @@ double NowPlayingController::current_elapsed() {
   return service ? service->playback().reported_elapsed() : 0;
 }
 
-// Until the engine has opened the file its tags know best.
+// Until the engine has opened the file, the duration comes from its tags.
 double NowPlayingController::current_duration() {
   MediaService* service = MediaService::current();
   if (!service) return 0;

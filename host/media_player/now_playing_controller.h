@@ -5,14 +5,14 @@
 
 namespace host::media_player {
 
-/// What plays now, as the player last reported it.
+/// What is playing, as the player last reported it.
 class NowPlayingController
     : public objc::Implementation<NowPlayingController, MPUNowPlayingController> {
  public:
   explicit NowPlayingController(MPUNowPlayingController owner) : Implementation(owner) {}
 
   UIImage current_now_playing_artwork();
-  /// Nil when nothing is loaded; a text that the song lacks is not in it.
+  /// Returns nil when nothing is loaded; texts that the song lacks are missing from the dictionary.
   NSDictionary current_now_playing_info();
   double current_elapsed();
   double current_duration();

@@ -11,16 +11,17 @@
 namespace host::media_player {
 namespace {
 
-// Before views are laid out, so that what they show is what the player has come to.
+// Before views are laid out, so they show the player's latest state.
 constexpr int kTurnOrder = 50;
-// Sums of times meet only up to rounding; a song must be over when its end is looked for.
+// Sums of times agree only up to rounding; a song must count as over when its end is checked.
 constexpr double kEndSlack = 1e-6;
-// Tells one report from the next, and is far below anything that a person sees or hears.
+// Makes each report differ from the previous one, far below anything that can be seen or heard.
 constexpr double kReportStep = 1e-6;
 constexpr std::uint32_t kReportSteps = 1000;
 
-// News reaches the objects of the system in the next turn, as it comes from another process there.
-void tell_volume() {
+// The system's objects are told in the next turn, since on the phone the notification comes from
+// another process.
+void post_volume_change() {
   RunLoop::main().perform([] {
     const auto news = objc::send<objc::Object>(
         objc::Object(objc_getClass("NSNotification")), "notificationWithName:object:"_sel,
@@ -34,8 +35,8 @@ void tell_volume() {
 Playback::Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace,
                    media::QueuePlayer::FileOf file_of)
     : player_(std::move(player)), pace_(pace), queue_(*player_, std::move(file_of)) {
-  queue_.on_state_change = [this](media::PlaybackState state) { hear_state(state); };
-  queue_.on_song_change = [this] { hear_song(); };
+  queue_.on_state_change = [this](media::PlaybackState state) { state_changed(state); };
+  queue_.on_song_change = [this] { song_changed(); };
   watch_ = RunLoop::main().watch(player_->descriptor(), [this] { player_->pump(); });
   if (pace_ == media::PlayerPace::stepped) {
     turn_ = RunLoop::main().add_turn_observer(kTurnOrder, [this] { player_->pump(); });
@@ -81,7 +82,7 @@ void Playback::set_volume(double volume) {
   const double before = player_->volume();
   player_->set_volume(volume);
   if (player_->volume() == before) return;
-  tell_volume();
+  post_volume_change();
   changed();
 }
 
@@ -92,14 +93,14 @@ void Playback::report() {
   changed();
 }
 
-void Playback::hear_state(media::PlaybackState state) {
+void Playback::state_changed(media::PlaybackState state) {
   report();
   RunLoop::main().perform([state = platform_state(state)] {
     MPMusicPlayerController::iPodMusicPlayer()._playbackStateDidChange(state);
   });
 }
 
-void Playback::hear_song() {
+void Playback::song_changed() {
   report();
   RunLoop::main().perform([] {
     NSNotificationCenter::defaultCenter().postNotificationName(
@@ -108,7 +109,7 @@ void Playback::hear_song() {
   });
 }
 
-// On a stepped clock nothing else would wake the loop at the moment a song is over.
+// With a stepped clock nothing else would wake the loop when a song ends.
 void Playback::follow_end() {
   if (pace_ != media::PlayerPace::stepped) return;
   RunLoop& loop = RunLoop::main();

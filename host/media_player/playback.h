@@ -12,8 +12,8 @@
 
 namespace host::media_player {
 
-/// The player on the main loop: keeps the engine going, tells the system's objects what changed,
-/// and knows what was last reported.
+/// The player on the main loop: drives the engine, tells the system's objects of changes, and
+/// records what was last reported.
 class Playback {
  public:
   Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace,
@@ -22,7 +22,7 @@ class Playback {
   Playback(const Playback&) = delete;
   Playback& operator=(const Playback&) = delete;
 
-  /// Called after queue, song, state, position or volume was changed.
+  /// Called after a change of queue, song, state, position or volume.
   std::function<void()> on_change;
 
   void set_queue(media::SongList songs);
@@ -37,29 +37,29 @@ class Playback {
   void seek(double seconds);
 
   media::PlaybackState state() const { return queue_.state(); }
-  /// The song that is loaded, playing or not.
+  /// The loaded song, playing or not.
   std::optional<std::uint64_t> song() const { return queue_.loaded(); }
   const media::PlayQueue& queue() const { return queue_.queue(); }
-  /// Seconds, at this moment.
+  /// The position at this moment, in seconds.
   double position() const { return song() ? queue_.position() : 0; }
-  /// Seconds; 0 until the engine knows.
+  /// The duration in seconds; 0 until the engine knows it.
   double duration() const { return song() ? queue_.duration() : 0; }
 
-  /// Where the song was when the player last reported something. Two reports are never the same
-  /// number, as two measurements of a sounding player never are: whoever compares them sees that
-  /// there was news even when one song follows another from its start.
+  /// The song's position when the player last reported something. No two reports have the same
+  /// value, as no two measurements of a real player do: by comparing values, an observer notices a
+  /// report even when one song follows another from its start.
   double reported_elapsed() const { return reported_elapsed_; }
 
   double volume() const { return player_->volume(); }
-  /// Cut to 0 and 1.
+  /// Sets the volume, clamped to 0 and 1.
   void set_volume(double volume);
 
   media::EngineState engine() { return player_->engine(); }
 
  private:
   void report();
-  void hear_state(media::PlaybackState state);
-  void hear_song();
+  void state_changed(media::PlaybackState state);
+  void song_changed();
   void follow_end();
   void changed() const {
     if (on_change) on_change();

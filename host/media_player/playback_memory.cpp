@@ -20,7 +20,7 @@ NSString string_from(const std::string& text) {
   return NSString::stringWithUTF8String(text.c_str());
 }
 
-// Identifiers are kept as text: a property list may hold a number of their size as something else.
+// Identifiers are stored as text: a property list may change the type of such large numbers.
 NSString text_of(std::uint64_t id) {
   return string_from(std::to_string(id));
 }

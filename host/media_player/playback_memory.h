@@ -7,7 +7,7 @@
 
 namespace host::media_player {
 
-/// What one process leaves to the next.
+/// The playback state that one process leaves to the next.
 struct RememberedPlayback {
   std::optional<std::vector<std::uint64_t>> queue;  // Nothing means the whole library.
   std::uint64_t song = 0;                           // 0 when none was loaded.
@@ -15,10 +15,10 @@ struct RememberedPlayback {
   std::optional<double> volume;
 };
 
-/// A property list at a path of this machine. What is missing or malformed is as if nothing had
-/// been remembered.
+/// Reads a property list at a path of this machine. Missing or malformed entries are treated as if
+/// nothing had been stored.
 RememberedPlayback read_playback(const std::string& path);
-/// False when it cannot be written.
+/// Returns false when it cannot be written.
 bool write_playback(const std::string& path, const RememberedPlayback& playback);
 
 }  // namespace host::media_player

@@ -5,7 +5,7 @@
 
 namespace host::media_player {
 
-/// The player's state as the system's classes name it.
+/// Returns the player's state as a constant of the platform.
 constexpr MPMusicPlaybackState platform_state(media::PlaybackState state) {
   switch (state) {
     case media::PlaybackState::playing:

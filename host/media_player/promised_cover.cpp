@@ -14,7 +14,7 @@ using PicturePtr = std::shared_ptr<const media::Picture>;
 // The surface shares the picture's pixels and keeps them alive.
 quartzcore::Surface shared_surface(const PicturePtr& picture) {
   static const cairo_user_data_key_t owner{};
-  // Cairo has no surface that promises not to be drawn on; an image is never drawn on.
+  // Cairo has no read-only surfaces; an image's surface is never drawn on.
   auto* pixels =
       reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(picture->pixels.data()));
   auto surface = quartzcore::Surface::adopt(cairo_image_surface_create_for_data(
@@ -46,7 +46,7 @@ quartzcore::Surface PromisedCover::pixels_for_frame() {
     return surface_of(kept);
   }
   const PicturePtr picture = store_->picture_now(*this);
-  // What the frame left out behind the picture has to be drawn after all.
+  // What the frame skipped behind the picture must be drawn after all.
   if (!picture && !was_broken) arrived();
   return surface_of(picture);
 }
@@ -67,7 +67,7 @@ void PromisedCover::arrived() {
   quartzcore::note_layer_change();
 }
 
-// A file that was exchanged since it was last looked at may have another shape than was promised.
+// A file replaced since the last scan may have another aspect ratio than was promised.
 quartzcore::Surface PromisedCover::surface_of(const PicturePtr& picture) const {
   if (!picture) return {};
   const quartzcore::Surface surface = shared_surface(picture);

@@ -9,11 +9,11 @@ namespace host::media_player {
 
 class CoverStore;
 
-/// A cover at one size, of which the size is known and the pixels are made when they are drawn.
+/// A cover at one size. The size is known from the start; the pixels are made when they are drawn.
 class PromisedCover final : public quartzcore::PixelSource,
                             public std::enable_shared_from_this<PromisedCover> {
  public:
-  /// `size` is what the cover has when its longer side is at most `longest_side` pixels.
+  /// `size` is the cover's size with its longer side at most `longest_side` pixels.
   PromisedCover(std::shared_ptr<CoverStore> store, media::CoverFile cover, int longest_side,
                 media::PictureSize size, quartzcore::Opacity opacity);
 
@@ -25,9 +25,9 @@ class PromisedCover final : public quartzcore::PixelSource,
   const media::CoverFile& cover() const { return cover_; }
   int longest_side() const { return longest_side_; }
 
-  /// Asks for the pixels before anything is drawn.
+  /// Requests the pixels before anything is drawn.
   void prefetch();
-  /// The pixels are there, or it is known that they cannot be made.
+  /// The pixels are ready, or are known not to be decodable.
   void arrived();
 
  private:

@@ -31,7 +31,7 @@ std::uint64_t album_of(const Track& track) {
   return track.album_id;
 }
 
-// Length and cover tell no songs apart, so nothing is found by them.
+// Length and cover do not identify songs, so they cannot be compared.
 constexpr Comparison kComparisons[] = {
     {&MPMediaItemPropertyPersistentID, &song_of},
     {&MPMediaItemPropertyAlbumPersistentID, &album_of},
@@ -126,7 +126,7 @@ std::vector<std::uint32_t> Query::find_places(const media::Library& library) con
   const auto add = [&](std::uint32_t place) {
     if (matches(tracks[place])) places.push_back(place);
   };
-  // One album or one song of a hundred thousand is found without a look at the others.
+  // One album or one song of a hundred thousand is found without looking at the others.
   for (const auto& kept : predicates_) {
     const auto& predicate = objc::state_of<Predicate>(kept.get());
     if (const auto song = predicate.only_song()) {

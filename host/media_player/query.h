@@ -13,18 +13,19 @@
 
 namespace host::media_player {
 
-/// A property and the value that it has to have.
+/// A property and its required value.
 class Predicate : public objc::Implementation<Predicate, MPMediaPropertyPredicate> {
  public:
   explicit Predicate(MPMediaPropertyPredicate owner) : Implementation(owner) {}
 
-  /// A new predicate (+1). A number may be given as an NSNumber or as its decimal digits.
+  /// Returns a new predicate; the caller owns it. A number may be an NSNumber or its decimal
+  /// digits.
   static MPMediaPropertyPredicate make(objc::Object value, NSString property);
 
-  /// False for every song when songs cannot be told apart by the property, or no song has such a
+  /// Returns false for every song when the property cannot be compared, or when no song has such a
   /// value.
   bool matches(const media::Track& track) const;
-  /// The only album, or the only song, that can match; nothing when others may.
+  /// Returns the only album, or the only song, that can match; nothing when others may match too.
   std::optional<std::uint64_t> only_album() const;
   std::optional<std::uint64_t> only_song() const;
 
@@ -43,20 +44,20 @@ class Query : public objc::Implementation<Query, MPMediaQuery> {
   explicit Query(MPMediaQuery owner) : Implementation(owner) {}
 
   void add_filter_predicate(MPMediaPropertyPredicate predicate);
-  /// The same array until the library changes or a predicate is added.
+  /// Returns the same array until the library changes or a predicate is added.
   NSArray items();
 
-  /// The songs that `items` holds, without making an object for any of them.
+  /// Returns the songs in `items` without creating an object for any of them.
   media::SongList songs() const;
 
  private:
   bool matches(const media::Track& track) const;
-  /// Where the songs stand in the library, in its order.
+  /// Returns the positions of the songs in the library, in its order.
   std::vector<std::uint32_t> find_places(const media::Library& library) const;
   NSArray find_items(const std::shared_ptr<ItemStore>& store) const;
 
   std::vector<objc::Ref<MPMediaPropertyPredicate>> predicates_;
-  std::weak_ptr<ItemStore> asked_;  // Where `items_` came from.
+  std::weak_ptr<ItemStore> asked_;  // The store that `items_` came from.
   objc::Ref<NSArray> items_;
 };
 

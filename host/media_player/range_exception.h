@@ -4,7 +4,7 @@
 
 namespace host::media_player {
 
-/// Throws the exception of this system for what lies beyond an end. Does not return.
+/// Throws the platform's range exception. Does not return.
 void raise_range_exception(const char* what, NSUInteger index, NSUInteger count);
 
 }  // namespace host::media_player

@@ -4,7 +4,7 @@
 
 namespace host::media_player {
 
-// Whoever was given them in this turn was promised that they live to the turn's end.
+// Callers that were given them during this turn rely on them until the turn ends.
 Shelf::~Shelf() {
   for (auto& [address, text] : texts_)
     text.leak().autorelease();
@@ -19,8 +19,7 @@ NSString Shelf::shared_text(std::string_view text) {
   return known.get();
 }
 
-// Songs are ordered by their titles, and equal titles are one text: those that share one are
-// neighbours.
+// Songs are ordered by title, and equal titles are one text: songs that share one are neighbours.
 NSString Shelf::make_title(const media::Track& track) {
   if (track.title.empty()) return nil;
   const auto tracks = library_->tracks();
@@ -40,7 +39,7 @@ NSNumber Shelf::album_number(std::uint64_t album_id) {
 }
 
 NSString make_string(std::string_view text) {
-  constexpr unsigned utf8 = 4;  // This Foundation's encodings are shorter than the platform's.
+  constexpr unsigned utf8 = 4;  // GNUstep's encoding constants are shorter than the platform's.
   const void* bytes = text.data();
   return objc::send<NSString>(NSString::alloc(), "initWithBytes:length:encoding:"_sel, bytes,
                               static_cast<NSUInteger>(text.size()), utf8);

@@ -11,7 +11,7 @@
 
 namespace host::media_player {
 
-/// A library as the runtime's objects share it: an artist of a thousand songs is one string.
+/// A library as shared by the runtime's objects: an artist of a thousand songs is one string.
 class Shelf {
  public:
   explicit Shelf(std::shared_ptr<const media::Library> library) : library_(std::move(library)) {}
@@ -20,23 +20,23 @@ class Shelf {
 
   const media::Library& library() const { return *library_; }
 
-  /// The string of one of the library's texts, one for all songs that have it. It lives as long as
-  /// the shelf; nil for an empty text.
+  /// Returns the string for one of the library's texts, shared by all songs that have it; nil for
+  /// an empty text. It lives as long as the shelf.
   NSString shared_text(std::string_view text);
-  /// A new string (+1) of a title that no other song has, or +1 on the one that they share; nil for
-  /// an empty title.
+  /// Returns a new string for a title that no other song has, otherwise the shared one, retained;
+  /// either way the caller owns it. Returns nil for an empty title.
   NSString make_title(const media::Track& track);
-  /// The number of an album, one for all its songs, which lives as long as the shelf.
+  /// Returns the number of an album, shared by all its songs; it lives as long as the shelf.
   NSNumber album_number(std::uint64_t album_id);
 
  private:
   std::shared_ptr<const media::Library> library_;
-  // Equal texts of a library are one text, so their address says which they are.
+  // Equal texts of a library are one text, so the address identifies it.
   std::unordered_map<const char*, objc::Ref<NSString>> texts_;
   std::unordered_map<std::uint64_t, objc::Ref<NSNumber>> album_numbers_;
 };
 
-/// A new string (+1).
+/// Returns a new string; the caller owns it.
 NSString make_string(std::string_view text);
 
 }  // namespace host::media_player

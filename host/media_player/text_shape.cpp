@@ -9,7 +9,7 @@ namespace {
 
 struct Letter {
   char32_t code = 0;
-  std::size_t bytes = 0;  // 0 for what is no letter.
+  std::size_t bytes = 0;  // 0 when it is not a letter.
 };
 
 bool is_continuation(char byte) {

@@ -8,11 +8,11 @@ namespace host::media_player {
 
 enum class TextKind : std::uint8_t {
   ascii,
-  // Letters that `foundation::is_plain_letter` knows: two such texts are equal, and one is found in
-  // the other, exactly when their bytes say so.
+  // Letters known to `foundation::is_plain_letter`: two such texts are equal, and one contains the
+  // other, exactly when this holds for their bytes.
   plain,
   other,
-  broken,  // No UTF-8, or it holds a zero.
+  broken,  // Invalid UTF-8, or it contains a zero.
 };
 
 struct TextShape {
@@ -22,10 +22,11 @@ struct TextShape {
 
 TextShape shape_of(std::string_view utf8);
 
-/// Writes the `shape_of(utf8).length` UTF-16 units of a text that is not broken.
+/// Writes the `shape_of(utf8).length` UTF-16 units of a text that is not `broken`.
 void widen(std::string_view utf8, std::uint16_t* units);
 
-/// The UTF-16 units of the first `bytes` bytes of a text of kind `ascii` or `plain`.
+/// Returns the number of UTF-16 units in the first `bytes` bytes of a text of kind `ascii` or
+/// `plain`.
 std::size_t units_before(std::string_view utf8, std::size_t bytes);
 
 }  // namespace host::media_player
