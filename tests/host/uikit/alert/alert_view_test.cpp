@@ -59,7 +59,7 @@ class AlertTest : public PageTest {
   objc::Ref<TestAlertListener> listener;
 };
 
-TEST_F(AlertTest, StandsInTheMiddleAboveEverything) {
+TEST_F(AlertTest, IsCentredAboveEverything) {
   const auto alert = show({"Yes"});
   EXPECT_EQ(alert.window().windowLevel(), 2000);
   EXPECT_EQ(alert.center(), kScreen.centre());
@@ -73,7 +73,7 @@ TEST_F(AlertTest, StandsInTheMiddleAboveEverything) {
   advance(1);
 }
 
-TEST_F(AlertTest, AButtonTellsWhichAndTakesItDown) {
+TEST_F(AlertTest, AButtonReportsItsIndexAndDismissesTheAlert) {
   const auto alert = objc::Ref<UIAlertView>::retain(show({"Yes"}));
   tap(middle_of_button(alert.get(), 1));
   EXPECT_EQ(told(), Events{"clicked 1"});
@@ -84,7 +84,7 @@ TEST_F(AlertTest, AButtonTellsWhichAndTakesItDown) {
   EXPECT_EQ(uikit::visible_windows().size(), 1u);
 }
 
-TEST_F(AlertTest, OfTwoFingersOnItsButtonsTheFirstThatLiftsDecides) {
+TEST_F(AlertTest, OfTwoFingersOnButtonsTheFirstToLiftDecides) {
   const auto alert = show({"Yes"});
   const CGPoint no = middle_of_button(alert, 0);
   const CGPoint yes = middle_of_button(alert, 1);
@@ -97,17 +97,17 @@ TEST_F(AlertTest, OfTwoFingersOnItsButtonsTheFirstThatLiftsDecides) {
   EXPECT_EQ(told(), (Events{"clicked 1", "dismissed 1"}));
 }
 
-TEST_F(AlertTest, WhatIsBehindTakesNoTouches) {
+TEST_F(AlertTest, ViewsBehindTakeNoTouches) {
   const auto alert = show({"Yes"});
   tap({20, 100});
   advance(1);
   EXPECT_TRUE(alert.isVisible());
   EXPECT_EQ(told(), Events{});
   alert.dismissWithClickedButtonIndex(0, NO);
-  EXPECT_EQ(told(), Events{"dismissed 0"}) << "a program's dismissal is no click";
+  EXPECT_EQ(told(), Events{"dismissed 0"}) << "a dismissal by program is not a click";
 }
 
-TEST_F(AlertTest, TakesAwayTheFingersBehindIt) {
+TEST_F(AlertTest, CancelsTheFingersBehindIt) {
   const auto behind = RecordingView::make("behind", kScreen);
   window.addSubview(behind);
   press({20, 100});
@@ -119,7 +119,7 @@ TEST_F(AlertTest, TakesAwayTheFingersBehindIt) {
   alert.dismissWithClickedButtonIndex(0, NO);
 }
 
-TEST_F(AlertTest, TakesNoTouchesOnItsWayAndLetsNoneThrough) {
+TEST_F(AlertTest, TakesNoTouchesWhileFadingAndLetsNoneThrough) {
   const auto target = RecordingTarget::make("behind");
   const UIView behind = add_view(kScreen);
   RecordingTarget::add<UITapGestureRecognizer>(behind, target.get());
@@ -141,7 +141,7 @@ TEST_F(AlertTest, TakesNoTouchesOnItsWayAndLetsNoneThrough) {
   EXPECT_EQ(told(), Events{"behind ended"});
 }
 
-TEST_F(AlertTest, TakesTheFingersThatAreOnTheScreen) {
+TEST_F(AlertTest, CancelsTheFingersThatAreOnTheScreen) {
   const auto target = RecordingTarget::make("pan");
   RecordingTarget::add<UIPanGestureRecognizer>(add_view(kScreen), *target);
   press({50, 50});
@@ -155,7 +155,7 @@ TEST_F(AlertTest, TakesTheFingersThatAreOnTheScreen) {
   alert.dismissWithClickedButtonIndex(0, NO);
 }
 
-TEST_F(AlertTest, ManyButtonsStandBelowEachOtherAndTheWayOutIsTheLast) {
+TEST_F(AlertTest, ManyButtonsAreStackedWithCancelLast) {
   const auto alert = show({"One", "Two"});
   EXPECT_LT(middle_of_button(alert, 1).y, middle_of_button(alert, 2).y);
   EXPECT_LT(middle_of_button(alert, 2).y, middle_of_button(alert, 0).y);
@@ -163,7 +163,7 @@ TEST_F(AlertTest, ManyButtonsStandBelowEachOtherAndTheWayOutIsTheLast) {
   alert.dismissWithClickedButtonIndex(0, NO);
 }
 
-// As compiled code sends it: every title of the list is an argument of its own, and nil ends it.
+// As compiled code sends it: every title of the list is a separate argument, and nil ends the list.
 TEST_F(AlertTest, TakesAListOfOtherTitles) {
   using Init =
       objc::Id (*)(objc::Id, objc::Sel, objc::Id, objc::Id, objc::Id, objc::Id, objc::Id, ...);
@@ -190,7 +190,7 @@ TEST_F(AlertTest, TakesAListOfOtherTitles) {
   EXPECT_THAT(titles(init_with(end, "Never"_ns, end)), ElementsAre("No"));
 }
 
-TEST_F(AlertTest, OfTwoTheLaterIsSeenAndThenTheOther) {
+TEST_F(AlertTest, OfTwoAlertsTheNewerIsShownFirst) {
   const auto first = show({"Yes"});
   const auto second = show({});
   EXPECT_TRUE(first.window().isHidden());

@@ -16,7 +16,7 @@ class Backdrop : public host::test::TextViewTest {
   }
 };
 
-TEST_F(Backdrop, EveryStyleHasALookOfItsOwn) {
+TEST_F(Backdrop, EveryStyleHasItsOwnLook) {
   std::set<std::tuple<double, double, double, double, double, double>> looks;
   for (const auto& look : host::uikit::backdrop_looks()) {
     looks.insert({look.blur_radius, look.saturation, look.gray_alpha, look.tint.red, look.tint.blue,

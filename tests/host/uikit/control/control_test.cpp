@@ -38,7 +38,7 @@ TEST_F(ControlTest, ATapSendsTouchUpInside) {
   EXPECT_EQ(told(), Events{"button pressed"});
 }
 
-TEST_F(ControlTest, ActionsGetWhatTheyAskFor) {
+TEST_F(ControlTest, ActionsGetTheirArguments) {
   hear(UIControlEventTouchUpInside, "press:"_sel);
   hear(UIControlEventTouchUpInside, "press:event:"_sel);
   tap({150, 120});
@@ -63,7 +63,7 @@ TEST_F(ControlTest, AFingerMayStraySeventyPointsAndIsStillInside) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(ControlTest, LeavingAndComingBackAreHeard) {
+TEST_F(ControlTest, LeavingAndComingBackAreReported) {
   hear(UIControlEventTouchDragExit);
   hear(UIControlEventTouchDragEnter, "press:"_sel);
   press({150, 120});
@@ -74,14 +74,14 @@ TEST_F(ControlTest, LeavingAndComingBackAreHeard) {
   EXPECT_EQ(told(), (Events{"button pressed", "button pressed by sender"}));
 }
 
-TEST_F(ControlTest, ADisabledControlIsDeaf) {
+TEST_F(ControlTest, ADisabledControlSendsNothing) {
   hear(UIControlEventAllTouchEvents);
   button.setEnabled(NO);
   tap({150, 120});
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(ControlTest, ATargetMayBeTakenAway) {
+TEST_F(ControlTest, ATargetMayBeRemoved) {
   hear(UIControlEventTouchUpInside | UIControlEventTouchDown);
   button.removeTarget(target.get(), "press"_sel, UIControlEventTouchDown);
   tap({150, 120});
@@ -92,7 +92,7 @@ TEST_F(ControlTest, ATargetMayBeTakenAway) {
   EXPECT_EQ(button.allControlEvents(), 0u);
 }
 
-TEST_F(ControlTest, ATapRecognizerAboveLeavesTheButtonItsTaps) {
+TEST_F(ControlTest, ATapRecognizerOnAnAncestorLeavesTapsToTheButton) {
   hear(UIControlEventTouchUpInside);
   const auto above = RecordingTarget::make("above");
   RecordingTarget::add<UITapGestureRecognizer>(window, above.get());
@@ -112,7 +112,7 @@ TEST_F(ControlTest, ATapRecognizerOnAViewInTheButtonWinsOverIt) {
   EXPECT_EQ(told(), Events{"ring ended"});
 }
 
-TEST_F(ControlTest, AButtonShowsWhatItsStateAsksFor) {
+TEST_F(ControlTest, AButtonShowsTheContentOfItsState) {
   button.setTitle("play"_ns, UIControlStateNormal);
   button.setTitle("pressed"_ns, UIControlStateHighlighted);
   EXPECT_STREQ(button.titleLabel().text().UTF8String(), "play");
@@ -122,7 +122,7 @@ TEST_F(ControlTest, AButtonShowsWhatItsStateAsksFor) {
   EXPECT_STREQ(button.currentTitle().UTF8String(), "play");
 }
 
-TEST_F(ControlTest, AButtonsPictureIsCentredShrunkAndDimmed) {
+TEST_F(ControlTest, AButtonsImageIsCentredScaledDownAndDimmed) {
   button.setImage(make_square(20), UIControlStateNormal);
   button.layoutIfNeeded();
   EXPECT_EQ(button.imageView().frame(), CGRect(40, 10, 20, 20));

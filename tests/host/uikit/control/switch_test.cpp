@@ -31,7 +31,7 @@ class SwitchTest : public UIKitTest {
   objc::Ref<TestTarget> target;
 };
 
-TEST_F(SwitchTest, HasOneSizeWhateverItIsGiven) {
+TEST_F(SwitchTest, HasAFixedSize) {
   EXPECT_EQ(control.frame(), (CGRect{100, 100, 51, 31}));
   control.setFrame({10, 20, 300, 200});
   EXPECT_EQ(control.frame(), (CGRect{10, 20, 51, 31}));
@@ -48,7 +48,7 @@ TEST_F(SwitchTest, ATapTurnsItOnAndAnotherOff) {
   EXPECT_EQ(told(), Events{"switch pressed"});
 }
 
-TEST_F(SwitchTest, AFingerTakesTheKnobAcrossAndLetsTheActionGoWhenItLifts) {
+TEST_F(SwitchTest, ADragMovesTheKnobAndSendsTheActionWhenTheFingerLifts) {
   press(kLeft);
   glide(kLeft, kRight, 0.2);
   EXPECT_FALSE(control.isOn()) << "not before the finger lifts";
@@ -77,7 +77,7 @@ TEST_F(SwitchTest, ACancelledTouchLeavesItAsItWas) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(SwitchTest, TheProgramTurnsItWithoutAnAction) {
+TEST_F(SwitchTest, SettingItByProgramSendsNoAction) {
   control.setOn(YES, YES);
   EXPECT_TRUE(control.isOn());
   advance(1);
@@ -93,7 +93,7 @@ TEST_F(SwitchTest, ADisabledOneCannotBeTurned) {
   EXPECT_FALSE(control.isOn());
 }
 
-TEST_F(SwitchTest, ThePressedKnobReachesTowardsTheOtherSide) {
+TEST_F(SwitchTest, ThePressedKnobStretchesTowardsTheOtherSide) {
   press(kLeft);
   advance(1);
   EXPECT_GT(knob(control).bounds().size.width, 30);
@@ -102,7 +102,7 @@ TEST_F(SwitchTest, ThePressedKnobReachesTowardsTheOtherSide) {
   EXPECT_EQ(knob(control).bounds().size.width, 28);
 }
 
-TEST_F(SwitchTest, TheFillIsOfTheTintAndGreenWithoutOne) {
+TEST_F(SwitchTest, TheFillHasTheTintOrIsGreenWithoutOne) {
   UIGraphicsBeginImageContextWithOptions({8, 8}, YES, 2);
   UIColor::orangeColor().setFill();
   UIRectFill({0, 0, 8, 8});

@@ -30,7 +30,7 @@ TEST_F(BezierPath, ACounterclockwiseArcFromTheTopGoesTheLongWay) {
   EXPECT_NEAR(path.bounds().min_x(), 10, 0.1);
 }
 
-TEST_F(BezierPath, WhoWasGivenThePathKeepsWhatItWas) {
+TEST_F(BezierPath, AReturnedPathDoesNotChangeLater) {
   const UIBezierPath path = UIBezierPath::bezierPathWithRect({0, 0, 10, 10});
   const CGPathRef given = CGPathRetain(path.CGPath());
 
@@ -47,7 +47,7 @@ TEST_F(BezierPath, TransformsItsPoints) {
   EXPECT_EQ(path.bounds(), (CGRect{5, 7, 20, 30}));
 }
 
-TEST_F(BezierPath, ContainsByItsFillRule) {
+TEST_F(BezierPath, ContainsPointsByItsFillRule) {
   const UIBezierPath path = UIBezierPath::bezierPathWithRect({0, 0, 30, 30});
   path.appendPath(UIBezierPath::bezierPathWithRect({10, 10, 10, 10}));
 

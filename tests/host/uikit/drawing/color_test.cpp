@@ -37,11 +37,11 @@ TEST_F(Color, ANamedColourIsAlwaysTheSameObject) {
   EXPECT_EQ(UIColor::blackColor(), UIColor::blackColor());
 }
 
-TEST_F(Color, ComponentsAreKeptBetweenNoneAndFull) {
+TEST_F(Color, ComponentsAreClamped) {
   EXPECT_EQ(components(UIColor::colorWithRed(-1, 2, 0.25, 7)), (Components{0, 1, 0.25, 1}));
 }
 
-TEST_F(Color, OnlyAGreyHasAWhite) {
+TEST_F(Color, OnlyGreyHasAWhiteComponent) {
   double white = -1, alpha = -1;
 
   EXPECT_FALSE(UIColor::redColor().getWhite(&white, &alpha));
@@ -52,7 +52,7 @@ TEST_F(Color, OnlyAGreyHasAWhite) {
   EXPECT_EQ(alpha, -1);
 }
 
-TEST_F(Color, HueGoesThereAndBack) {
+TEST_F(Color, HueConvertsBothWays) {
   const UIColor made = UIColor::colorWithHue(0.6, 0.5, 0.8, 1);
   double hue = 0, saturation = 0, brightness = 0;
 
@@ -81,7 +81,7 @@ TEST_F(Color, CrossesCoreGraphicsUnchanged) {
   EXPECT_DOUBLE_EQ(CGColorGetAlpha(made.CGColor()), 0.4);
 }
 
-/// Two points wide at two pixels a point: the left half red, the right half blue.
+/// Two points wide at two pixels per point: the left half red, the right half blue.
 UIImage striped_picture() {
   UIGraphicsBeginImageContextWithOptions({2, 1}, YES, 2);
   UIColor::redColor().setFill();
@@ -93,7 +93,7 @@ UIImage striped_picture() {
   return picture;
 }
 
-TEST_F(Color, APatternFillsWithItsPictureOverAndOver) {
+TEST_F(Color, APatternTilesItsImage) {
   const UIColor pattern = UIColor::colorWithPatternImage(striped_picture());
   UIGraphicsBeginImageContextWithOptions({5, 1}, YES, 1);
   pattern.setFill();
@@ -108,14 +108,14 @@ TEST_F(Color, APatternFillsWithItsPictureOverAndOver) {
               ::testing::ElementsAre(0xffff0000, 0xff0000ff, 0xffff0000, 0xff0000ff, 0xffff0000));
 }
 
-TEST_F(Color, APatternIsItsMeanWhereOneColourIsAsked) {
+TEST_F(Color, APatternIsItsMeanWhereASingleColourIsNeeded) {
   const Components mean = components(UIColor::colorWithPatternImage(striped_picture()));
   EXPECT_NEAR(mean.red, 0.5, 0.01);
   EXPECT_NEAR(mean.blue, 0.5, 0.01);
   EXPECT_EQ(mean.alpha, 1);
 }
 
-TEST_F(Color, PatternsOfOnePictureAreEqualAndCrossCoreGraphics) {
+TEST_F(Color, PatternsOfOneImageAreEqualAndCrossCoreGraphics) {
   const UIImage picture = striped_picture();
   const UIColor pattern = UIColor::colorWithPatternImage(picture);
   EXPECT_TRUE(pattern.isEqual(UIColor::colorWithPatternImage(picture)));
@@ -123,7 +123,7 @@ TEST_F(Color, PatternsOfOnePictureAreEqualAndCrossCoreGraphics) {
   EXPECT_TRUE(pattern.isEqual(UIColor::colorWithCGColor(pattern.CGColor())));
 }
 
-TEST_F(Color, WithoutAPictureThereIsNoPattern) {
+TEST_F(Color, WithoutAnImageThereIsNoPattern) {
   EXPECT_FALSE(UIColor::colorWithPatternImage(nil));
 }
 

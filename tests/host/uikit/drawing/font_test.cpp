@@ -11,7 +11,7 @@ class Font : public host::test::DrawingTest {
   }
 };
 
-TEST_F(Font, AnUnknownNameGivesNoFont) {
+TEST_F(Font, AnUnknownNameReturnsNoFont) {
   EXPECT_FALSE(UIFont::fontWithName("NoSuchFace-Bold"_ns, 12));
   EXPECT_FALSE(UIFont::fontWithName(nil, 12));
 }
@@ -25,7 +25,8 @@ TEST_F(Font, KeepsThePlatformsNameAndSize) {
 }
 
 TEST_F(Font, ALineIsAsTallAsOnThePlatform) {
-  // A label of the standard size is 20.5 points tall there: this, rounded up to half a point.
+  // A label of the standard size is 20.5 points tall on the platform: this value rounded up to half
+  // a point.
   EXPECT_NEAR(UIFont::systemFontOfSize(17).lineHeight(), 20.28, 0.01);
 }
 
@@ -49,20 +50,20 @@ TEST_F(Font, EveryWeightHasThePlatformsMetrics) {
   }
 }
 
-TEST_F(Font, HeavierWeightsSetWiderAndLighterOnesNarrower) {
+TEST_F(Font, HeavierWeightsAreWiderAndLighterOnesNarrower) {
   const NSString text = "Here Comes The Sun"_ns;
   const double regular = size_of(text, UIFont::fontWithName("HelveticaNeue"_ns, 15)).width;
 
   EXPECT_GT(size_of(text, UIFont::fontWithName("HelveticaNeue-Bold"_ns, 15)).width, regular);
   EXPECT_LT(size_of(text, UIFont::fontWithName("HelveticaNeue-Thin"_ns, 15)).width, regular);
-  // The thinnest letters stand about an eighth closer than the regular ones.
+  // The thinnest letters are about an eighth narrower than the regular ones.
   const double thinnest =
       size_of(text, UIFont::fontWithName("HelveticaNeue-UltraLight"_ns, 15)).width;
   EXPECT_NEAR(thinnest / regular, 0.87, 0.03);
 }
 
-TEST_F(Font, LettersAreAboutAsWideAsThePlatformsOwn) {
-  // From the widths published for the platform's typeface: 19.8 em for this sentence.
+TEST_F(Font, LettersAreAboutAsWideAsThePlatforms) {
+  // Computed from the published widths of the platform's typeface: 19.8 em for this sentence.
   const NSString text = "The quick brown fox jumps over the lazy dog"_ns;
 
   const double width = size_of(text, UIFont::fontWithName("HelveticaNeue"_ns, 100)).width;
@@ -70,7 +71,7 @@ TEST_F(Font, LettersAreAboutAsWideAsThePlatformsOwn) {
   EXPECT_NEAR(width, 1980, 40);
 }
 
-TEST_F(Font, DigitsAreAllOfOneWidth) {
+TEST_F(Font, DigitsAllHaveOneWidth) {
   const UIFont font = UIFont::systemFontOfSize(12);
   EXPECT_DOUBLE_EQ(size_of("11:11"_ns, font).width, size_of("20:48"_ns, font).width);
 }

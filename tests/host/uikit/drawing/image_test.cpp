@@ -70,7 +70,7 @@ TEST_F(Image, APathThatNamesItsScaleMeansThatFile) {
   EXPECT_EQ(image.size(), (CGSize{20, 10}));
 }
 
-TEST_F(Image, WhatIsMissingOrNoPictureGivesNil) {
+TEST_F(Image, AMissingOrInvalidFileReturnsNil) {
   std::ofstream(path("text.png")) << "this is no picture";
 
   EXPECT_FALSE(UIImage::imageWithContentsOfFile(platform_path("missing.png")));
@@ -80,7 +80,7 @@ TEST_F(Image, WhatIsMissingOrNoPictureGivesNil) {
   EXPECT_FALSE(UIImage::imageWithCGImage(nullptr));
 }
 
-TEST_F(Image, TheFileIsDecodedOnlyWhenItIsLookedAt) {
+TEST_F(Image, TheFileIsDecodedOnFirstUse) {
   write_png(path("late.png"), 10, 10);
   const UIImage image = UIImage::imageWithContentsOfFile(platform_path("late.png"));
 
@@ -100,7 +100,7 @@ TEST_F(Image, ATemplateSharesThePixels) {
   EXPECT_EQ(stencil.CGImage(), image.CGImage());
 }
 
-TEST_F(Image, ASidewaysPictureHasItsSidesExchanged) {
+TEST_F(Image, ASidewaysPictureHasWidthAndHeightSwapped) {
   write_png(path("wide.png"), 30, 10);
   const CGImageRef pixels = UIImage::imageWithContentsOfFile(platform_path("wide.png")).CGImage();
 
@@ -109,7 +109,7 @@ TEST_F(Image, ASidewaysPictureHasItsSidesExchanged) {
   EXPECT_EQ(turned.size(), (CGSize{10, 30}));
 }
 
-TEST_F(Image, AnImageContextGivesWhatWasDrawn) {
+TEST_F(Image, AnImageContextReturnsWhatWasDrawn) {
   UIGraphicsBeginImageContextWithOptions({8, 4}, NO, 2);
   UIColor::redColor().setFill();
   UIRectFill({0, 0, 4, 4});

@@ -6,7 +6,7 @@
 
 namespace host::test {
 
-/// Writes an opaque grey picture of that many pixels.
+/// Writes an opaque grey picture of `width` by `height` pixels.
 inline void write_png(const std::string& path, int width, int height) {
   cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
   cairo_t* drawing = cairo_create(surface);

@@ -27,7 +27,7 @@ class GestureConflictTest : public UIKitTest {
   objc::Ref<TestTarget> inner_target;
 };
 
-TEST_F(GestureConflictTest, OneOfTwoPansWinsTheInnerOne) {
+TEST_F(GestureConflictTest, OfTwoPansTheInnerOneWins) {
   RecordingTarget::add<UIPanGestureRecognizer>(outer, outer_target.get());
   RecordingTarget::add<UIPanGestureRecognizer>(inner, inner_target.get());
   drag();
@@ -36,7 +36,7 @@ TEST_F(GestureConflictTest, OneOfTwoPansWinsTheInnerOne) {
   EXPECT_EQ(told(), (Events{"inner began", "inner ended"})) << "and again";
 }
 
-TEST_F(GestureConflictTest, OneDelegatesYesLetsBothGoTogether) {
+TEST_F(GestureConflictTest, OneConsentingDelegateLetsBothRecognise) {
   const auto pan = RecordingTarget::add<UIPanGestureRecognizer>(outer, outer_target.get());
   const auto other = RecordingTarget::add<UIPanGestureRecognizer>(inner, inner_target.get());
   pan.setDelegate(outer_target.get());
@@ -46,7 +46,7 @@ TEST_F(GestureConflictTest, OneDelegatesYesLetsBothGoTogether) {
   EXPECT_EQ(told(), (Events{"inner began", "outer began", "inner ended", "outer ended"}));
 }
 
-TEST_F(GestureConflictTest, APanThatBeginsEndsTheChancesOfATap) {
+TEST_F(GestureConflictTest, APanThatBeginsMakesATapFail) {
   RecordingTarget::add<UITapGestureRecognizer>(outer, outer_target.get());
   RecordingTarget::add<UIPanGestureRecognizer>(inner, inner_target.get());
   drag();
@@ -55,7 +55,7 @@ TEST_F(GestureConflictTest, APanThatBeginsEndsTheChancesOfATap) {
   EXPECT_EQ(told(), Events{"outer ended"});
 }
 
-TEST_F(GestureConflictTest, OneThatATapSwitchesOffIsAsNewWhenItIsOnAgain) {
+TEST_F(GestureConflictTest, ARecognizerDisabledByATapStartsOverWhenEnabledAgain) {
   const auto pan = RecordingTarget::add<UIPanGestureRecognizer>(outer, outer_target.get());
   RecordingTarget::add<UITapGestureRecognizer>(inner, inner_target.get());
   auto& taps = objc::state_of<RecordingTarget>(inner_target.get());
@@ -68,7 +68,7 @@ TEST_F(GestureConflictTest, OneThatATapSwitchesOffIsAsNewWhenItIsOnAgain) {
   EXPECT_EQ(told(), (Events{"outer began", "outer ended"}));
 }
 
-TEST_F(GestureConflictTest, ALongPressKeepsThePanOut) {
+TEST_F(GestureConflictTest, ALongPressPreventsThePan) {
   RecordingTarget::add<UIPanGestureRecognizer>(outer, outer_target.get());
   RecordingTarget::add<UILongPressGestureRecognizer>(inner, inner_target.get());
   press({50, 50});
@@ -112,7 +112,7 @@ TEST_F(GestureConflictTest, ARecognizerMovesWithItsViewAndBelongsToOneViewOnly) 
   EXPECT_EQ(pan.view(), outer);
 }
 
-TEST_F(GestureConflictTest, AnActionMayTakeEveryRecognizerAway) {
+TEST_F(GestureConflictTest, AnActionMayRemoveEveryRecognizer) {
   RecordingTarget::add<UIPanGestureRecognizer>(inner, inner_target.get());
   objc::state_of<RecordingTarget>(inner_target.get()).on_gesture = [this](UIGestureRecognizer) {
     inner.setGestureRecognizers(nil);

@@ -38,7 +38,7 @@ TEST_F(PanTest, BeginsOnlyPastItsThreshold) {
   EXPECT_EQ(translation, (CGPoint{10, 0})) << "the way to the threshold counts";
 }
 
-TEST_F(PanTest, AMovementOfOnePointAfterItHasBegunIsHeardAndSoIsItsEnd) {
+TEST_F(PanTest, AMovementOfOnePointAfterItHasBegunIsReportedAndSoIsItsEnd) {
   press({50, 50});
   move({60, 50});
   move({61, 50});
@@ -49,7 +49,7 @@ TEST_F(PanTest, AMovementOfOnePointAfterItHasBegunIsHeardAndSoIsItsEnd) {
   EXPECT_EQ(pan.state(), UIGestureRecognizerStatePossible) << "ready for the next one";
 }
 
-TEST_F(PanTest, ATouchThatHardlyMovesIsLeftToTheView) {
+TEST_F(PanTest, ATouchThatHardlyMovesReachesTheView) {
   press({50, 50});
   move({53, 50});
   lift({53, 50});
@@ -78,7 +78,7 @@ TEST_F(PanTest, APauseBeforeReleaseLeavesNoVelocity) {
   EXPECT_EQ(velocity, CGPoint{});
 }
 
-TEST_F(PanTest, SettingTheTranslationStartsCountingFromThere) {
+TEST_F(PanTest, SettingTheTranslationRestartsItFromThere) {
   press({50, 50});
   move({70, 50});
   pan.setTranslation({5, 5}, window);
@@ -86,7 +86,7 @@ TEST_F(PanTest, SettingTheTranslationStartsCountingFromThere) {
   EXPECT_EQ(translation, (CGPoint{6, 7}));
 }
 
-TEST_F(PanTest, MeasuresInTheViewThatAsks) {
+TEST_F(PanTest, MeasuresInTheGivenView) {
   press({50, 50});
   move({70, 50});
   view.setTransform({2, 0, 0, 2, 0, 0});
@@ -120,7 +120,7 @@ TEST_F(PanTest, FingersBeyondItsMaximumAreNotItsOwn) {
   lift({70, 50}, 0);
 }
 
-TEST_F(PanTest, WaitsForItsMinimumOfFingers) {
+TEST_F(PanTest, WaitsForItsMinimumNumberOfFingers) {
   pan.setMinimumNumberOfTouches(2);
   press({50, 50}, 0);
   move({90, 50}, 0);
@@ -133,7 +133,7 @@ TEST_F(PanTest, WaitsForItsMinimumOfFingers) {
   lift({90, 50}, 0);
 }
 
-TEST_F(PanTest, LeavingItsViewInTheMiddleCancelsIt) {
+TEST_F(PanTest, LeavingItsViewDuringTheGestureCancelsIt) {
   press({50, 50});
   move({70, 50});
   told();
@@ -144,7 +144,7 @@ TEST_F(PanTest, LeavingItsViewInTheMiddleCancelsIt) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(PanTest, DisablingItInTheMiddleCancelsIt) {
+TEST_F(PanTest, DisablingItDuringTheGestureCancelsIt) {
   press({50, 50});
   move({70, 50});
   told();
@@ -165,7 +165,7 @@ TEST_F(PanTest, TheSystemsInterruptionCancelsIt) {
   EXPECT_EQ(told(), Events{"pan cancelled"});
 }
 
-TEST_F(PanTest, LeavesTheViewItsTouchesWhenToldTo) {
+TEST_F(PanTest, LeavesTouchesToTheViewWhenConfiguredTo) {
   pan.setCancelsTouchesInView(NO);
   press({50, 50});
   move({70, 50});

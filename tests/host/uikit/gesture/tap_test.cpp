@@ -21,14 +21,14 @@ class TapTest : public UIKitTest {
   UITapGestureRecognizer recognizer;
 };
 
-TEST_F(TapTest, IsHeardOnceAndTakesTheTouchFromTheView) {
+TEST_F(TapTest, IsReportedOnceAndCancelsTheTouchInTheView) {
   tap({50, 50});
   EXPECT_EQ(told(), (Events{"view began", "view cancelled", "tap ended"}));
   advance(1);
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(TapTest, TellsWhereItWas) {
+TEST_F(TapTest, ReportsItsLocation) {
   CGPoint location;
   objc::state_of<RecordingTarget>(target.get()).on_gesture = [&](UIGestureRecognizer tap) {
     location = tap.locationInView(window);
@@ -54,7 +54,7 @@ TEST_F(TapTest, AFingerThatStraysDoesNotTap) {
 TEST_F(TapTest, ADoubleTapWaitsForItsCount) {
   recognizer.setNumberOfTapsRequired(2);
   tap({50, 50});
-  EXPECT_EQ(told(), Events{"view began"}) << "the end is held back: it may become a double tap";
+  EXPECT_EQ(told(), Events{"view began"}) << "the end is delayed: it may become a double tap";
   advance(0.2);
   tap({50, 50});
   EXPECT_EQ(told(), (Events{"view began", "view cancelled", "view cancelled", "tap ended"}));
@@ -70,7 +70,7 @@ TEST_F(TapTest, ADoubleTapThatComesTooLateIsTwoTaps) {
   EXPECT_EQ(told(), (Events{"view began", "view ended"}));
 }
 
-TEST_F(TapTest, ASingleTapIsHeardOnTheWayToADoubleTapUnlessItWaits) {
+TEST_F(TapTest, ASingleTapIsReportedBeforeADoubleTapUnlessItWaits) {
   const auto twice_target = RecordingTarget::make("double");
   const auto twice = RecordingTarget::add<UITapGestureRecognizer>(view, twice_target.get());
   twice.setNumberOfTapsRequired(2);
@@ -112,7 +112,7 @@ TEST_F(TapTest, TwoFingersTapTogether) {
   EXPECT_EQ(events().back(), "tap ended");
 }
 
-TEST_F(TapTest, ADelegateMayKeepATouchFromIt) {
+TEST_F(TapTest, ADelegateMayRefuseATouch) {
   recognizer.setDelegate(target.get());
   objc::state_of<RecordingTarget>(target.get()).receives_touches = NO;
   tap({50, 50});
@@ -143,7 +143,7 @@ TEST_F(LongPressTest, BeginsAfterHalfASecondAndFollowsTheFinger) {
   EXPECT_EQ(told(), (Events{"press changed", "press ended"}));
 }
 
-TEST_F(LongPressTest, AFingerThatStraysOrLeavesIsNoPress) {
+TEST_F(LongPressTest, AFingerThatStraysOrLiftsDoesNotPress) {
   press({50, 50});
   move({61, 50});
   advance(1);

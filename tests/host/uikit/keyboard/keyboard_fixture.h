@@ -22,7 +22,7 @@
 
 namespace host::test {
 
-/// A phone's screen with a window, a text field in it, fingers and a keyboard that comes by itself.
+/// A phone's screen with a window that holds a text field, with fingers and an automatic keyboard.
 class KeyboardTest : public HostTest {
  public:
   KeyboardTest() : KeyboardTest(*device_model(kDefaultDevice)) {}
@@ -59,7 +59,7 @@ class KeyboardTest : public HostTest {
     return made;
   }
 
-  /// The keyboard comes for the field and has arrived.
+  /// Makes the field the first responder and waits until the keyboard has arrived.
   void open() {
     field.becomeFirstResponder();
     advance(1);
@@ -68,7 +68,7 @@ class KeyboardTest : public HostTest {
   uikit::Keyboard& keyboard() const { return *uikit::present_keyboard(); }
   bool is_up() const { return uikit::present_keyboard() && keyboard().is_shown(); }
 
-  /// The middle, on the screen, of the key that types this text or bears this label.
+  /// Returns the centre, on the screen, of the key with this text or label.
   CGPoint key(const std::string& name) const {
     for (const uikit::Key& one : keyboard().keys().layout().keys) {
       if (one.text == name || one.label == name) return on_screen(one.frame.centre());
@@ -99,7 +99,7 @@ class KeyboardTest : public HostTest {
   }
   std::string text() const { return field.text().UTF8String(); }
 
-  /// Every view and window as it looks now, painted afresh.
+  /// Paints every view and window in its current state.
   quartzcore::Damage paint() {
     quartzcore::flush_layers();
     const DeviceModel& device = current_device();

@@ -52,7 +52,7 @@ struct KeyboardSlideTest : host::test::KeyboardTest {
       all.push_back(one.name);
     return all;
   }
-  /// Where the keys' top is drawn just now.
+  /// Returns where the top of the keys is currently drawn.
   double drawn_top() const { return keyboard().keys().drawn_frame().min_y(); }
 
   objc::Ref<NSObject> listener;
@@ -77,7 +77,7 @@ TEST_F(KeyboardSlideTest, ComesForAFieldAndGoesWithIt) {
   EXPECT_TRUE(keyboard().window().isHidden());
 }
 
-TEST_F(KeyboardSlideTest, TellsFromWhereToWhereItMovesAndHow) {
+TEST_F(KeyboardSlideTest, PostsWhereItMovesAndHow) {
   open();
   ASSERT_EQ(news.size(), 2U);
   for (const News& one : news) {
@@ -117,7 +117,7 @@ TEST_F(KeyboardSlideTest, StaysForTheNextField) {
   EXPECT_FALSE(is_up());
 }
 
-TEST_F(KeyboardSlideTest, TurnsBackOnTheWayAndTellsOfNoArrivalThatWasNone) {
+TEST_F(KeyboardSlideTest, AReversedSlidePostsNoArrival) {
   field.becomeFirstResponder();
   advance(0.1);
   field.resignFirstResponder();
@@ -142,7 +142,7 @@ TEST_F(KeyboardSlideTest, GoesWhenTheFieldLeavesTheScreenOrDies) {
   window->addSubview(field);
 }
 
-TEST_F(KeyboardSlideTest, LiesAboveEveryOtherWindowAndLeavesThemTheRestOfTheScreen) {
+TEST_F(KeyboardSlideTest, IsAboveEveryOtherWindowAndLeavesThemTheRestOfTheScreen) {
   const auto high = objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame(window->bounds()));
   high->setWindowLevel(UIWindowLevelAlert + 5000);
   high->setHidden(NO);
@@ -154,7 +154,7 @@ TEST_F(KeyboardSlideTest, LiesAboveEveryOtherWindowAndLeavesThemTheRestOfTheScre
   high->setHidden(YES);
 }
 
-TEST_F(KeyboardSlideTest, KeepsItsPaceInsideAnotherAnimation) {
+TEST_F(KeyboardSlideTest, KeepsItsTimingInsideAnotherAnimation) {
   UIView::animateWithDuration(3, objc::block([this] { field.becomeFirstResponder(); }));
   advance(0.3);
   EXPECT_EQ(names().size(), 2U);
@@ -173,17 +173,17 @@ TEST_F(KeyboardSlideTest, NeverRedrawsItsKeysOnTheWay) {
   EXPECT_EQ(keyboard().keys().drawings(), before);
 }
 
-TEST_F(KeyboardSlideTest, AtRestPaintsNothingAndAsksForNoFrames) {
+TEST_F(KeyboardSlideTest, AtRestPaintsNothingAndRequestsNoFrames) {
   open();
   paint();
   EXPECT_FALSE(loop.wants_frames());
   advance(0.3);
   EXPECT_FALSE(loop.wants_frames());
   for (const auto& part : paint())
-    EXPECT_LT(part.y + part.height, 451 * 2) << "the keyboard is not painted anew";
+    EXPECT_LT(part.y + part.height, 451 * 2) << "the keyboard is not painted again";
 }
 
-TEST_F(KeyboardSlideTest, LooksAsTheFieldWants) {
+TEST_F(KeyboardSlideTest, LooksAsTheFieldRequests) {
   open();
   const int light = keyboard().keys().drawings();
   field.setKeyboardAppearance(UIKeyboardAppearanceDark);

@@ -14,13 +14,13 @@ struct KeyboardKeys : host::test::KeyboardTest {
   bool has_popup() const { return keyboard().keys().popup() != nullptr; }
 };
 
-TEST_F(KeyboardKeys, TypeIntoWhoeverIsFirstResponder) {
+TEST_F(KeyboardKeys, TypeIntoTheFirstResponder) {
   open();
   tap_keys({"l", "e", "t", " ", "i", "t"});
   EXPECT_EQ(text(), "let it");
 }
 
-TEST_F(KeyboardKeys, AreTypedWhenTheFingerLeaves) {
+TEST_F(KeyboardKeys, AreTypedWhenTheFingerLifts) {
   open();
   press(key("k"));
   EXPECT_EQ(text(), "");
@@ -28,7 +28,7 @@ TEST_F(KeyboardKeys, AreTypedWhenTheFingerLeaves) {
   EXPECT_EQ(text(), "k");
 }
 
-TEST_F(KeyboardKeys, AFingerMaySlideToAnotherKeyBeforeItLeaves) {
+TEST_F(KeyboardKeys, AFingerMaySlideToAnotherKeyBeforeItLifts) {
   open();
   press(key("k"));
   slide(key("j"));
@@ -64,7 +64,7 @@ TEST_F(KeyboardKeys, ACancelledTouchTypesNothing) {
   EXPECT_FALSE(has_popup());
 }
 
-TEST_F(KeyboardKeys, ShiftIsForOneLetterAndTwiceForAll) {
+TEST_F(KeyboardKeys, ShiftAppliesToOneLetterAndLocksWhenPressedTwice) {
   open();
   tap(key(KeyKind::Shift));
   advance(1);
@@ -93,7 +93,7 @@ TEST_F(KeyboardKeys, ShiftCanBeHeldWithAnotherFinger) {
   EXPECT_EQ(text(), "ABc");
 }
 
-TEST_F(KeyboardKeys, ASentenceBeginsWithACapitalWhereThatIsAskedFor) {
+TEST_F(KeyboardKeys, ASentenceBeginsWithACapitalWhenRequested) {
   field.setAutocapitalizationType(UITextAutocapitalizationTypeSentences);
   open();
   tap_keys({"y", "e", "s"});
@@ -115,20 +115,20 @@ TEST_F(KeyboardKeys, FollowWhatAPhysicalKeyboardTypes) {
   EXPECT_EQ(text(), "Bc");
 }
 
-TEST_F(KeyboardKeys, NoCapitalComesByItselfWhereItIsNotAskedFor) {
+TEST_F(KeyboardKeys, NothingIsCapitalizedUnlessRequested) {
   open();
   EXPECT_EQ(shift(), ShiftState::Value::Off);
   tap(key("y"));
   EXPECT_EQ(text(), "y");
 }
 
-TEST_F(KeyboardKeys, LeadToFiguresAndSignsAndSpaceLeadsBack) {
+TEST_F(KeyboardKeys, SwitchToDigitsAndSymbolsAndSpaceSwitchesBack) {
   open();
   tap_keys({"123", "4", "#+=", "€", "123", "2", " ", "q"});
   EXPECT_EQ(text(), "4€2 q");
 }
 
-TEST_F(KeyboardKeys, SlidingFromThePlaneKeyIsForOneSign) {
+TEST_F(KeyboardKeys, SlidingFromThePlaneKeyTypesOneSymbol) {
   open();
   press(key("123"));
   slide(key("7"));
@@ -153,7 +153,7 @@ TEST_F(KeyboardKeys, BackspaceRepeatsAfterHalfASecondEveryTenth) {
   EXPECT_EQ(text(), "012345");
 }
 
-TEST_F(KeyboardKeys, BackspaceLeavesOffWhenTheFingerSlidesAway) {
+TEST_F(KeyboardKeys, BackspaceStopsWhenTheFingerSlidesAway) {
   open();
   field.setText("0123456789"_ns);
   press(key(KeyKind::Backspace));
@@ -175,14 +175,14 @@ TEST_F(KeyboardKeys, AHeldBackspaceEndsWithTheFieldThatItDeletesFrom) {
   EXPECT_EQ(text(), left);
 }
 
-TEST_F(KeyboardKeys, ReturnAsksTheFieldAsAPhysicalOneDoes) {
+TEST_F(KeyboardKeys, ReturnAsksTheFieldAsOnAPhysicalKeyboard) {
   open();
   field.setText("a"_ns);
   tap(key(KeyKind::Return));
   EXPECT_EQ(text(), "a");
 }
 
-TEST_F(KeyboardKeys, APressedLetterStandsAboveTheFinger) {
+TEST_F(KeyboardKeys, APressedLetterIsShownAboveTheFinger) {
   open();
   press(key("g"));
   ASSERT_TRUE(has_popup());
@@ -204,13 +204,13 @@ TEST_F(KeyboardKeys, PopupsStayWithinTheScreen) {
   }
 }
 
-TEST_F(KeyboardKeys, ALongPressOffersTheLettersRelatives) {
+TEST_F(KeyboardKeys, ALongPressOffersTheLettersAccents) {
   open();
   press(key("e"));
   advance(0.55);
   const PopupView& popup = *keyboard().keys().popup();
   ASSERT_EQ(popup.shape().count, 8U);
-  // The second one lies to the right of the key.
+  // The second letter is to the right of the key.
   slide(on_screen(popup.shape().cell(2).centre()));
   lift(on_screen(popup.shape().cell(2).centre()));
   EXPECT_EQ(text(), "é");
@@ -224,7 +224,7 @@ TEST_F(KeyboardKeys, ALongPressThatChoosesNothingElseTypesTheLetter) {
   EXPECT_EQ(text(), "o");
 }
 
-TEST_F(KeyboardKeys, RelativesOfLettersNearTheEdgeStayOnTheScreen) {
+TEST_F(KeyboardKeys, AccentsOfLettersNearTheEdgeStayOnTheScreen) {
   open();
   for (const char* name : {"a", "o", "e", "u", "i", "n", "c", "s"}) {
     press(key(name));
@@ -234,12 +234,12 @@ TEST_F(KeyboardKeys, RelativesOfLettersNearTheEdgeStayOnTheScreen) {
     EXPECT_LE(shape.head.max_x(), 375) << name;
     EXPECT_TRUE(shape.cell(0).min_x() < shape.key.centre().x &&
                 shape.key.centre().x < shape.cell(0).max_x())
-        << name << ": the letter itself stands above its key";
+        << name << ": the letter itself is above its key";
     input.cancelled(1, key(name), clock.now());
   }
 }
 
-TEST_F(KeyboardKeys, ShiftMakesCapitalsOfRelativesToo) {
+TEST_F(KeyboardKeys, ShiftCapitalizesAccentsToo) {
   open();
   tap(key(KeyKind::Shift));
   advance(1);

@@ -24,7 +24,7 @@ TEST_F(Sentence, BeginsWithACapital) {
   EXPECT_FALSE(due("Y", type));
 }
 
-TEST_F(Sentence, HasWordsWithCapitalsWhenTheyAreAskedFor) {
+TEST_F(Sentence, CapitalizesWordsWhenRequested) {
   EXPECT_TRUE(due("Let ", UITextAutocapitalizationTypeWords));
   EXPECT_FALSE(due("Let", UITextAutocapitalizationTypeWords));
   EXPECT_TRUE(due("LET", UITextAutocapitalizationTypeAllCharacters));

@@ -32,7 +32,7 @@ struct TextSelection : host::test::KeyboardTest {
     for (const std::string& name : names)
       EXPECT_TRUE(press_key(name)) << name;
   }
-  /// On the screen, at the middle of the line, so far from the text's left.
+  /// Returns a point of the screen in the middle of the line, `x` points from the text's left.
   CGPoint in_field(double x) const { return {27 + x, 115}; }
   void tap_times(CGPoint point, int count) {
     for (int i = 0; i < count; ++i)
@@ -68,7 +68,7 @@ TEST_F(TextSelection, ShiftAndArrowsSelectWholeCharacters) {
   EXPECT_EQ(selected(), "\U0001F468\u200D\U0001F469\u200D\U0001F467!");
 }
 
-TEST_F(TextSelection, AnArrowAloneLeavesTheSelectionAtItsEnd) {
+TEST_F(TextSelection, AnArrowAlonePutsTheCaretAtTheSelectionsEnd) {
   write("abcd");
   press_keys({"left", "shift-left", "shift-left", "left"});
   type_text("1"_ns);
@@ -78,7 +78,7 @@ TEST_F(TextSelection, AnArrowAloneLeavesTheSelectionAtItsEnd) {
   EXPECT_EQ(text(), "a1bc2d");
 }
 
-TEST_F(TextSelection, ControlAndArrowsGoByWords) {
+TEST_F(TextSelection, ControlAndArrowsMoveByWords) {
   write("let it be");
   press_keys({"control-left"});
   type_text("_"_ns);
@@ -89,7 +89,7 @@ TEST_F(TextSelection, ControlAndArrowsGoByWords) {
   EXPECT_EQ(selected(), "let it");
 }
 
-TEST_F(TextSelection, TypingReplacesWhatIsSelected) {
+TEST_F(TextSelection, TypingReplacesTheSelection) {
   write("abc");
   press_keys({"control-a"});
   type_text("x"_ns);
@@ -109,7 +109,7 @@ TEST_F(TextSelection, CutsCopiesAndPastesByTheKeyboard) {
   EXPECT_EQ(text(), "cabcab");
 }
 
-TEST_F(TextSelection, WhatIsPastedGoesOnOneLine) {
+TEST_F(TextSelection, PastedTextGoesOnOneLine) {
   write("");
   UIPasteboard::generalPasteboard().setString("one\ntwo"_ns);
   press_keys({"control-v"});
@@ -137,7 +137,7 @@ TEST_F(TextSelection, ADelegateMayForbidCuttingAndPasting) {
   field.setDelegate(nil);
 }
 
-TEST_F(TextSelection, AComposedTextReplacesTheSelectionAndAnEmptyOneLeavesIt) {
+TEST_F(TextSelection, ComposedTextReplacesTheSelectionUnlessItIsEmpty) {
   write("abc");
   press_keys({"control-a"});
   compose_text(""_ns, 0);
@@ -148,7 +148,7 @@ TEST_F(TextSelection, AComposedTextReplacesTheSelectionAndAnEmptyOneLeavesIt) {
   EXPECT_EQ(text(), "");
 }
 
-TEST_F(TextSelection, ADoubleTapSelectsTheWordAndOffersWhatCanBeDone) {
+TEST_F(TextSelection, ADoubleTapSelectsTheWordAndShowsTheMenu) {
   write("let it be");
   tap_times(in_field(5), 2);
   EXPECT_EQ(selected(), "let");
@@ -253,7 +253,7 @@ TEST_F(TextSelection, WordsAreFoundInAnyScript) {
   EXPECT_EQ(word("...", 1), ".");
 }
 
-TEST_F(TextSelection, SelectingBeyondTheTextSelectsWhatIsThere) {
+TEST_F(TextSelection, SelectingBeyondTheTextSelectsToItsEnd) {
   write("a\U0001F600");
   state().select({1, 99});
   EXPECT_EQ(selected(), "\U0001F600");

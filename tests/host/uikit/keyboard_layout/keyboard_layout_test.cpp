@@ -41,7 +41,7 @@ TEST(KeyboardLayout, IsAsTallAsOnTheDevice) {
   EXPECT_EQ(layout_on(*device_model("iPhone7,1")).size, (CGSize{414, 226}));
 }
 
-TEST(KeyboardLayout, LettersOfAPhoneHaveTheirPlatformsPlaces) {
+TEST(KeyboardLayout, LettersOfAPhoneAreWhereThePlatformHasThem) {
   const KeyboardLayout layout = layout_on(*device_model("iPhone7,2"));
   EXPECT_EQ(find(layout, "q")->frame, (CGRect{3, 8, 31.5, 42}));
   EXPECT_EQ(find(layout, "p")->frame, (CGRect{340.5, 8, 31.5, 42}));
@@ -98,14 +98,14 @@ TEST(KeyboardLayout, AFingerBetweenKeysMeansTheNearestOne) {
   const auto text_at = [&](CGPoint point) { return layout.keys[*layout.key_at(point)].text; };
   EXPECT_EQ(text_at({0, 0}), "q");
   EXPECT_EQ(text_at({374, 30}), "p");
-  EXPECT_EQ(text_at({1, 80}), "a") << "the margin left of a short row is its first key's";
+  EXPECT_EQ(text_at({1, 80}), "a") << "the margin left of a short row belongs to its first key";
   EXPECT_EQ(text_at({374, 80}), "l");
   EXPECT_EQ(text_at({187, 215}), " ");
   EXPECT_EQ(text_at({36, 30}), "q");
   EXPECT_EQ(text_at({39, 30}), "w");
 }
 
-TEST(KeyboardLayout, WhatIsTypedDecidesWhichKeysThereAre) {
+TEST(KeyboardLayout, TheKeyboardTypeDecidesWhichKeysExist) {
   const DeviceModel phone = *device_model("iPhone7,2");
   KeyboardTraits traits;
   traits.type = UIKeyboardTypeURL;
@@ -120,7 +120,7 @@ TEST(KeyboardLayout, WhatIsTypedDecidesWhichKeysThereAre) {
   EXPECT_EQ(first_plane(UIKeyboardTypeDefault), KeyPlane::Letters);
 }
 
-TEST(KeyboardLayout, TheReturnKeySaysWhatItDoes) {
+TEST(KeyboardLayout, TheReturnKeyIsNamedAfterItsAction) {
   const DeviceModel phone = *device_model("iPhone7,2");
   KeyboardTraits traits;
   const auto return_key = [&] {
@@ -139,7 +139,7 @@ TEST(KeyboardLayout, TheReturnKeySaysWhatItDoes) {
   EXPECT_EQ(return_key().label, "return");
 }
 
-TEST(KeyboardLayout, ATabletHasTwoShiftKeysAndOneThatPutsTheKeyboardAway) {
+TEST(KeyboardLayout, ATabletHasTwoShiftKeysAndADismissKey) {
   const KeyboardLayout layout = layout_on(*device_model("iPad4,1"));
   int shifts = 0;
   for (const Key& key : layout.keys)

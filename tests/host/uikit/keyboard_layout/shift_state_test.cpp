@@ -7,7 +7,7 @@ namespace {
 using host::uikit::ShiftState;
 using Value = ShiftState::Value;
 
-TEST(ShiftState, IsForOneLetter) {
+TEST(ShiftState, AppliesToOneLetter) {
   ShiftState shift;
   shift.press(0);
   shift.release();
@@ -38,7 +38,7 @@ TEST(ShiftState, TwoSlowPressesTurnItOnAndOff) {
   EXPECT_EQ(shift.value(), Value::Off);
 }
 
-TEST(ShiftState, HeldItIsForAllThatIsTypedMeanwhile) {
+TEST(ShiftState, WhileHeldAppliesToEveryLetter) {
   ShiftState shift;
   shift.press(0);
   shift.typed();

@@ -38,7 +38,7 @@ TEST_F(NavigationTest, ShowsItsRootUnderABarWithItsTitle) {
   EXPECT_EQ(navigation.navigationBar().frame(), (CGRect{0, 20, 375, 44}));
 }
 
-TEST_F(NavigationTest, APushedPageSlidesInWhileTheOtherMakesWay) {
+TEST_F(NavigationTest, APushedPageSlidesInWhileTheOtherMovesAside) {
   navigation.pushViewController(second, YES);
   EXPECT_EQ(told(), (Events{"First will disappear", "Second will appear"}));
   advance(0.1);
@@ -52,11 +52,11 @@ TEST_F(NavigationTest, APushedPageSlidesInWhileTheOtherMakesWay) {
   EXPECT_EQ(told(), (Events{"First did disappear", "Second did appear"}));
   EXPECT_FALSE(first.view().window());
   EXPECT_TRUE(bar_shows("Second"_ns));
-  EXPECT_TRUE(bar_shows("First"_ns)) << "the way back";
+  EXPECT_TRUE(bar_shows("First"_ns)) << "the back button";
   photograph("navigation-second", clock.now());
 }
 
-TEST_F(NavigationTest, TheWayBackLeadsBack) {
+TEST_F(NavigationTest, TheBackButtonPopsThePage) {
   push(second);
   told();
   tap(kBack);
@@ -69,14 +69,14 @@ TEST_F(NavigationTest, TheWayBackLeadsBack) {
   EXPECT_FALSE(bar_shows("Second"_ns));
 }
 
-TEST_F(NavigationTest, NothingIsBehindTheRoot) {
+TEST_F(NavigationTest, TheRootCannotBePopped) {
   tap(kBack);
   advance(1);
   EXPECT_EQ(navigation.topViewController(), first);
   EXPECT_FALSE(navigation.popViewControllerAnimated(YES));
 }
 
-TEST_F(NavigationTest, AFingerOverTheLeftEdgeTakesThePageAway) {
+TEST_F(NavigationTest, ADragFromTheLeftEdgePopsThePage) {
   push(second);
   told();
   press(kEdge);
@@ -92,7 +92,7 @@ TEST_F(NavigationTest, AFingerOverTheLeftEdgeTakesThePageAway) {
   EXPECT_EQ(navigation.topViewController(), first);
 }
 
-TEST_F(NavigationTest, AFingerThatLetsGoBeforeTheMiddleLeavesThePage) {
+TEST_F(NavigationTest, ADragReleasedBeforeTheMiddleKeepsThePage) {
   push(second);
   told();
   press(kEdge);
@@ -121,7 +121,7 @@ TEST_F(NavigationTest, AFlingDecidesByItsDirection) {
   EXPECT_EQ(navigation.topViewController(), first);
 }
 
-TEST_F(NavigationTest, AFingerElsewhereTakesNothing) {
+TEST_F(NavigationTest, ADragElsewherePopsNothing) {
   push(second);
   press({100, 300});
   glide({100, 300}, {350, 300}, 0.3);
@@ -145,7 +145,7 @@ TEST_F(NavigationTest, ATableUnderTheEdgeStillScrolls) {
   EXPECT_EQ(navigation.topViewController(), second);
 }
 
-TEST_F(NavigationTest, APageMayRefuseThatItsScrollViewIsMoved) {
+TEST_F(NavigationTest, APageMayKeepItsScrollViewFromBeingInset) {
   second.setAutomaticallyAdjustsScrollViewInsets(NO);
   const UIScrollView scroll = UIScrollView::alloc().initWithFrame(kScreen).autorelease();
   second.view().addSubview(scroll);
@@ -167,7 +167,7 @@ TEST_F(NavigationTest, AnotherPushDoesNotWaitForTheFirst) {
                             "Second did disappear", "Third did appear"}));
 }
 
-TEST_F(NavigationTest, PoppingToTheRootTakesAllOff) {
+TEST_F(NavigationTest, PoppingToTheRootRemovesAllOtherPages) {
   const auto third = ToldPage::make("Third");
   navigation.pushViewController(second, NO);
   navigation.pushViewController(third, NO);
@@ -190,7 +190,7 @@ TEST_F(NavigationTest, TheWholeStackMayBeReplaced) {
   EXPECT_FALSE(first.parentViewController());
 }
 
-TEST_F(NavigationTest, AButtonOfThePageStandsAtTheRightAndFollowsItsChanges) {
+TEST_F(NavigationTest, AButtonOfThePageIsAtTheRightAndFollowsItsChanges) {
   const auto target = RecordingTarget::make("button");
   const auto item =
       UIBarButtonItem::alloc()
@@ -209,7 +209,7 @@ TEST_F(NavigationTest, AButtonOfThePageStandsAtTheRightAndFollowsItsChanges) {
   EXPECT_TRUE(bar_shows("Other"_ns));
 }
 
-TEST_F(NavigationTest, APictureTakesTheTintOfItsItemWhichMayBeAPattern) {
+TEST_F(NavigationTest, AnImageTakesTheTintOfItsItemWhichMayBeAPattern) {
   UIGraphicsBeginImageContextWithOptions({22, 22}, NO, 2);
   UIColor::blackColor().setFill();
   UIRectFill({2, 2, 18, 18});
@@ -236,7 +236,7 @@ TEST_F(NavigationTest, APictureTakesTheTintOfItsItemWhichMayBeAPattern) {
   EXPECT_TRUE(button.tintColor().isEqual(pattern));
 }
 
-TEST_F(NavigationTest, ALongTitleLeavesTheWayBackItsRoom) {
+TEST_F(NavigationTest, ALongTitleLeavesRoomForTheBackButton) {
   first.setTitle("A title that is far too long for a way back"_ns);
   push(second);
   EXPECT_TRUE(bar_shows("Back"_ns));
@@ -252,7 +252,7 @@ TEST_F(NavigationTest, AHiddenBarLeavesItsRoomToThePage) {
   EXPECT_EQ(scroll.contentInset().top, 20);
 }
 
-TEST_F(NavigationTest, APagePresentsOverTheWholeStackEvenBeforeItIsSeen) {
+TEST_F(NavigationTest, APagePresentsOverTheWholeStackEvenBeforeItAppears) {
   const auto card = ToldPage::make("Card");
   objc::state_of<ToldPage>(second).on_appear = [&] {
     objc::state_of<ToldPage>(second).on_appear = nullptr;
@@ -286,7 +286,7 @@ TEST_F(NavigationTest, PushingOrPresentingNothingRaises) {
   EXPECT_FALSE(first.presentedViewController());
 }
 
-TEST_F(NavigationTest, IsGoneWithItsPagesWhenNobodyKeepsIt) {
+TEST_F(NavigationTest, IsReleasedWithItsPages) {
   push(second);
   window.setRootViewController(nil);
   advance(1);

@@ -2,7 +2,7 @@
 #include "tests/host/uikit/support/page_test.h"
 #include "tests/host/uikit/support/recording_view.h"
 
-// What fingers can reach while one page makes way for another.
+// What fingers can reach while one page replaces another.
 
 namespace host::test {
 namespace {
@@ -40,7 +40,7 @@ class PushedPages : public PageTest {
   UINavigationController navigation;
 };
 
-TEST_F(PushedPages, NeitherTakesTouchesOnItsWay) {
+TEST_F(PushedPages, TakeNoTouchesDuringTheTransition) {
   push();
   EXPECT_EQ(after_tap(kPoint), Events{});
   advance(0.2);
@@ -53,7 +53,7 @@ TEST_F(PushedPages, NeitherTakesTouchesOnItsWay) {
   EXPECT_EQ(after_tap(kPoint), (Events{"first began", "first ended"}));
 }
 
-TEST_F(PushedPages, TheBarTakesNoneEither) {
+TEST_F(PushedPages, TheBarTakesNoTouchesEither) {
   const auto taker = RecordingTarget::make("button");
   give_button(second, taker.get());
   give_button(first, taker.get());
@@ -69,7 +69,7 @@ TEST_F(PushedPages, TheBarTakesNoneEither) {
   advance(1);
 }
 
-TEST_F(PushedPages, AFingerOnTheBarIsTakenAway) {
+TEST_F(PushedPages, AFingerOnTheBarIsCancelled) {
   const auto taker = RecordingTarget::make("button");
   give_button(first, taker.get());
   press(kRightButton);
@@ -80,7 +80,7 @@ TEST_F(PushedPages, AFingerOnTheBarIsTakenAway) {
   EXPECT_EQ(RecordingView::told_of_touches(), Events{});
 }
 
-TEST_F(PushedPages, AFingerOnThePageIsTakenAway) {
+TEST_F(PushedPages, AFingerOnThePageIsCancelled) {
   press(kPoint);
   advance(0.05);
   told();
@@ -91,7 +91,7 @@ TEST_F(PushedPages, AFingerOnThePageIsTakenAway) {
   EXPECT_EQ(RecordingView::told_of_touches(), Events{});
 }
 
-TEST_F(PushedPages, TheFingerThatTakesAPageAwayKeepsItAndOthersLoseTheirs) {
+TEST_F(PushedPages, TheFingerThatDragsAPageKeepsItsTouchAndOthersAreCancelled) {
   const auto taker = RecordingTarget::make("button");
   give_button(first, taker.get());
   give_button(second, taker.get());
@@ -117,7 +117,7 @@ TEST_F(PushedPages, TheFingerThatTakesAPageAwayKeepsItAndOthersLoseTheirs) {
   EXPECT_EQ(after_tap(kPoint), (Events{"first began", "first ended"}));
 }
 
-TEST_F(PushedPages, AChangeThatIsOvertakenGivesTouchesBack) {
+TEST_F(PushedPages, AnInterruptedTransitionEnablesTouchesAgain) {
   push();
   advance(0.1);
   navigation.popToRootViewControllerAnimated(NO);

@@ -8,7 +8,7 @@ namespace {
 
 struct TestBook : objc::Bound<TestBook, "TestBook", NSObject> {};
 
-/// Pages in an order that may change, with dots or without.
+/// A data source of pages in a changeable order, with or without dots.
 class Book : public objc::Implementation<Book, TestBook> {
  public:
   using Implementation::Implementation;
@@ -87,7 +87,7 @@ class PageViewTest : public PageTest {
     pages.setDelegate(book.get());
     pages.setViewControllers(NSArray::arrayWithObject(page(0)),
                              UIPageViewControllerNavigationDirectionForward, YES, nullptr);
-    // As extensions do, without a word to the controller.
+    // As extensions do it, without telling the controller.
     window.addSubview(pages.view());
     advance(0.1);
     told();
@@ -115,7 +115,7 @@ class PageViewTest : public PageTest {
   UIPageViewController pages;
 };
 
-TEST_F(PageViewTest, ThePageThatIsShownFillsTheViewAndKnowsIt) {
+TEST_F(PageViewTest, TheShownPageFillsTheViewAndIsToldThatItAppears) {
   pages.setDataSource(book.get());
   pages.setViewControllers(NSArray::arrayWithObject(page(0)),
                            UIPageViewControllerNavigationDirectionForward, NO, nullptr);
@@ -126,7 +126,7 @@ TEST_F(PageViewTest, ThePageThatIsShownFillsTheViewAndKnowsIt) {
   EXPECT_EQ(page(0).parentViewController(), pages);
 }
 
-TEST_F(PageViewTest, AFingerBringsTheNextPageAndTheOneBefore) {
+TEST_F(PageViewTest, AFingerBringsTheNextAndThePreviousPage) {
   show();
   swipe(300, 60);
   EXPECT_EQ(shown(), page(1));
@@ -141,7 +141,7 @@ TEST_F(PageViewTest, AFingerBringsTheNextPageAndTheOneBefore) {
   EXPECT_EQ(shown(), page(0));
 }
 
-TEST_F(PageViewTest, BothPagesAreSeenOnTheWay) {
+TEST_F(PageViewTest, BothPagesAreVisibleDuringADrag) {
   show();
   press({300, 300});
   glide({300, 300}, {120, 300}, 0.3);
@@ -165,7 +165,7 @@ TEST_F(PageViewTest, AFingerThatTurnsBackTurnsNothing) {
                     "One will appear", "Two did disappear", "One did appear", "not turned"}));
 }
 
-TEST_F(PageViewTest, BeyondTheEndsThePageComesBack) {
+TEST_F(PageViewTest, BeyondTheEndsThePageSpringsBack) {
   show();
   press({60, 300});
   glide({60, 300}, {300, 300}, 0.15);
@@ -178,7 +178,7 @@ TEST_F(PageViewTest, BeyondTheEndsThePageComesBack) {
   EXPECT_EQ(page(0).view().convertPointToView({0, 0}, nil).x, 0);
 }
 
-TEST_F(PageViewTest, TheProgramTurnsToAPageAndIsToldAtTheEnd) {
+TEST_F(PageViewTest, TurningByProgramCallsItsCompletionAtTheEnd) {
   show();
   bool finished = false;
   pages.setViewControllers(NSArray::arrayWithObject(page(2)),
@@ -192,7 +192,7 @@ TEST_F(PageViewTest, TheProgramTurnsToAPageAndIsToldAtTheEnd) {
   EXPECT_EQ(shown(), page(1)) << "its neighbour, not the page that it came from";
 }
 
-TEST_F(PageViewTest, TheProgramsTurningTakesAPageFromTheFingerThatTurnsIt) {
+TEST_F(PageViewTest, TurningByProgramCancelsTheFingerThatDragsAPage) {
   show();
   press({300, 300});
   glide({300, 300}, {200, 300}, 0.2);
@@ -206,7 +206,7 @@ TEST_F(PageViewTest, TheProgramsTurningTakesAPageFromTheFingerThatTurnsIt) {
   EXPECT_EQ(shown(), page(1)) << "fingers turn pages again";
 }
 
-TEST_F(PageViewTest, PagesTakeNoTouchesWhileTheProgramTurnsThem) {
+TEST_F(PageViewTest, PagesTakeNoTouchesWhileTurnedByProgram) {
   state().has_dots = true;
   show();
   for (const UIViewController each : state().pages)
@@ -223,7 +223,7 @@ TEST_F(PageViewTest, PagesTakeNoTouchesWhileTheProgramTurnsThem) {
   EXPECT_EQ(told(), (Events{"page began", "page ended"}));
 }
 
-TEST_F(PageViewTest, APageThatIsInsertedIsFoundByTheNextSwipe) {
+TEST_F(PageViewTest, AnInsertedPageIsFoundByTheNextSwipe) {
   show();
   state().pages.insert(state().pages.begin() + 1, make_page("New"));
   swipe(300, 60);
@@ -244,7 +244,7 @@ TEST_F(PageViewTest, DotsCountThePagesAndFollowThem) {
   EXPECT_EQ(dots().currentPage(), 2);
 }
 
-TEST_F(PageViewTest, DotsThatAreHiddenTakeNoRoom) {
+TEST_F(PageViewTest, HiddenDotsTakeNoRoom) {
   state().has_dots = true;
   state().hides_dots = true;
   show();

@@ -67,7 +67,7 @@ TEST_F(PickerTest, IsAsTallAsPickersAreAndBeginsWithItsFirstRow) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(PickerTest, AFingerTurnsTheWheelWhichRestsOnARowAndTellsItOnce) {
+TEST_F(PickerTest, AFingerTurnsTheWheelWhichRestsOnARowAndReportsItOnce) {
   press(middle);
   glide(middle, {187, 300}, 0.5);
   EXPECT_EQ(told(), Events{});
@@ -100,13 +100,13 @@ TEST_F(PickerTest, ATapBringsARowToTheMiddle) {
   EXPECT_EQ(told(), Events{"row 1 of 0"});
   tap({187, 408});
   advance(1);
-  EXPECT_EQ(told(), Events{}) << "it is there already";
+  EXPECT_EQ(told(), Events{}) << "it is chosen already";
   tap({187, 408 - 95});
   advance(1);
   EXPECT_EQ(told(), Events{}) << "there is no row";
 }
 
-TEST_F(PickerTest, RowsLieOnARimThatTurnsAway) {
+TEST_F(PickerTest, RowsLieOnARoundRim) {
   picker.selectRow(5, 0, NO);
   advance(0.1);
   std::map<std::string, CGFloat> heights;
@@ -123,10 +123,10 @@ TEST_F(PickerTest, RowsLieOnARimThatTurnsAway) {
   EXPECT_LT(far, near - 4) << "foreshortened";
   tap({187, heights["Row 8"]});
   advance(1);
-  EXPECT_EQ(picker.selectedRowInComponent(0), 8) << "what is seen there is what is touched";
+  EXPECT_EQ(picker.selectedRowInComponent(0), 8) << "the row seen there is the row touched";
 }
 
-TEST_F(PickerTest, TheProgramTurnsItWithoutBeingTold) {
+TEST_F(PickerTest, SelectingByProgramTellsNoDelegate) {
   picker.selectRow(9, 0, YES);
   EXPECT_EQ(picker.selectedRowInComponent(0), 9);
   advance(2);
@@ -140,7 +140,7 @@ TEST_F(PickerTest, TheProgramTurnsItWithoutBeingTold) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(PickerTest, BeyondItsEndsTheWheelComesBack) {
+TEST_F(PickerTest, BeyondItsEndsTheWheelSpringsBack) {
   press(middle);
   glide(middle, {187, 520}, 0.4);
   advance(0.3);
@@ -150,7 +150,7 @@ TEST_F(PickerTest, BeyondItsEndsTheWheelComesBack) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(PickerTest, WheelsStandSideBySideAndTurnByThemselves) {
+TEST_F(PickerTest, WheelsAreSideBySideAndTurnIndependently) {
   objc::state_of<PickerRows>(rows.get()).component_count = 2;
   picker.reloadAllComponents();
   advance(0.1);

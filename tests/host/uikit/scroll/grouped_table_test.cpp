@@ -85,8 +85,8 @@ class GroupedTable : public ScrollTest {
   UITableViewCell cell(NSInteger row, NSInteger section) {
     return table.cellForRowAtIndexPath(NSIndexPath::indexPathForRow(row, section));
   }
-  /// The hair lines of a cell that are seen, by where they begin, and above which is the row's
-  /// bottom line.
+  /// Returns the frames of a cell's visible hairlines: the line below the row first, then the line
+  /// above it.
   static std::vector<CGRect> lines(UITableViewCell of) {
     of.layoutIfNeeded();
     std::vector<CGRect> found;
@@ -100,7 +100,7 @@ class GroupedTable : public ScrollTest {
   UITableView table;
 };
 
-TEST_F(GroupedTable, StandsOnGreyWithRoomBetweenItsGroups) {
+TEST_F(GroupedTable, IsOnGreyWithGapsBetweenItsGroups) {
   EXPECT_FALSE(table.backgroundColor().isEqual(UIColor::whiteColor()));
   EXPECT_EQ(table.rectForHeaderInSection(0).size.height, 35);
   EXPECT_EQ(table.rectForRowAtIndexPath(NSIndexPath::indexPathForRow(0, 0)).origin.y, 35);
@@ -109,7 +109,7 @@ TEST_F(GroupedTable, StandsOnGreyWithRoomBetweenItsGroups) {
   photograph("grouped-table", clock.now());
 }
 
-TEST_F(GroupedTable, TextsAtTheEndsTakeTheRoomThatTheyNeed) {
+TEST_F(GroupedTable, HeadersAndFootersAreAsTallAsTheirTexts) {
   EXPECT_GT(table.rectForHeaderInSection(1).size.height, 35);
   const double two_lines = table.rectForFooterInSection(1).size.height;
   EXPECT_GT(two_lines, 40);
@@ -117,7 +117,7 @@ TEST_F(GroupedTable, TextsAtTheEndsTakeTheRoomThatTheyNeed) {
   EXPECT_GT(table.rectForFooterInSection(1).size.height, two_lines + 20);
 }
 
-TEST_F(GroupedTable, LinesBeginBehindTheIconsAndRunAllAlongTheGroupsEnds) {
+TEST_F(GroupedTable, LinesBeginBehindTheIconsAndSpanTheWidthAtTheGroupsEnds) {
   const auto first = lines(cell(0, 0));
   ASSERT_EQ(first.size(), 2u);
   EXPECT_EQ(first[0].origin.x, 15 + 29 + 15) << "between rows";
@@ -130,7 +130,7 @@ TEST_F(GroupedTable, LinesBeginBehindTheIconsAndRunAllAlongTheGroupsEnds) {
   EXPECT_EQ(lines(cell(0, 2)).size(), 2u);
 }
 
-TEST_F(GroupedTable, ASwitchInARowIsTurnedByItsOwnTouches) {
+TEST_F(GroupedTable, ASwitchInARowTakesItsOwnTouches) {
   const auto control = objc::cast<UISwitch>(cell(0, 1).accessoryView());
   const CGPoint middle = control.convertPointToView({25, 15}, nil);
   press(middle);

@@ -35,7 +35,7 @@ TEST_F(PageControlTest, ThereIsADotForEachPageCentredInTheRow) {
   EXPECT_EQ(dots().count(), 2u);
 }
 
-TEST_F(PageControlTest, TheCurrentPageStaysAmongThePages) {
+TEST_F(PageControlTest, TheCurrentPageIsClampedToThePages) {
   control.setCurrentPage(9);
   EXPECT_EQ(control.currentPage(), 3);
   control.setNumberOfPages(2);
@@ -44,7 +44,7 @@ TEST_F(PageControlTest, TheCurrentPageStaysAmongThePages) {
   EXPECT_EQ(control.currentPage(), 0);
 }
 
-TEST_F(PageControlTest, TheCurrentDotHasAColourOfItsOwn) {
+TEST_F(PageControlTest, TheCurrentDotHasItsOwnColour) {
   control.setCurrentPageIndicatorTintColor(UIColor::redColor());
   control.setCurrentPage(1);
   const auto current = objc::cast<CALayer>(dots().objectAtIndex(1));
@@ -59,7 +59,7 @@ TEST_F(PageControlTest, ASinglePageMayHideItsDot) {
   EXPECT_EQ(dots().count(), 0u);
 }
 
-TEST_F(PageControlTest, ATapBesideTheMiddleTurnsOnePageAndSaysSo) {
+TEST_F(PageControlTest, ATapBesideTheCurrentDotTurnsOnePageAndSendsTheAction) {
   if (!objc_getClass("TestPageTarget"))
     objc::ClassBuilder("TestPageTarget", "NSObject").method<&count_change>("changed:").finish();
   const objc::Object cls(objc_getClass("TestPageTarget"));

@@ -11,7 +11,7 @@ namespace host::test {
 struct TestScrollListener
     : objc::Bound<TestScrollListener, "TestScrollListener", UIScrollViewDelegate> {};
 
-/// Hears everything that a scroll view tells and writes it down.
+/// Records every delegate message of a scroll view.
 class ScrollListener : public objc::Implementation<ScrollListener, TestScrollListener> {
  public:
   explicit ScrollListener(TestScrollListener owner) : Implementation(owner) {}

@@ -15,7 +15,7 @@
 
 namespace host::test {
 
-/// A phone's screen with one empty window, fingers, and what listeners of scroll views were told.
+/// A phone's screen with one empty window, fingers, and a record of the delegate messages.
 class ScrollTest : public HostTest {
  public:
   static constexpr CGRect kScreen{0, 0, 375, 667};
@@ -38,12 +38,12 @@ class ScrollTest : public HostTest {
     layers.reset();
   }
 
-  /// What the listener of this test was told, in order.
+  /// The delegate messages of this test, in order.
   static std::vector<std::string>& events() {
     static std::vector<std::string> told;
     return told;
   }
-  /// The same without the many `didScroll`.
+  /// The same without the many `didScroll` messages.
   static std::vector<std::string> milestones() {
     std::vector<std::string> told = events();
     std::erase(told, "didScroll");
@@ -52,7 +52,7 @@ class ScrollTest : public HostTest {
 
   void press(CGPoint point) { input.began(0, point, clock.now()); }
   void lift(CGPoint point) { input.ended(0, point, clock.now()); }
-  /// Moves the finger steadily, reporting as often as the screen does.
+  /// Moves the finger steadily, with one report per frame.
   void move(CGPoint from, CGPoint to, double seconds) {
     const int reports = std::max(1, static_cast<int>(seconds / kReport + 0.5));
     for (int report = 1; report <= reports; ++report) {
@@ -62,7 +62,7 @@ class ScrollTest : public HostTest {
                   clock.now());
     }
   }
-  /// Presses, moves steadily, and stands still before it lifts: no fling.
+  /// Presses, moves steadily, and pauses before lifting, so there is no fling.
   void drag_and_pause(CGPoint from, CGPoint to) {
     press(from);
     move(from, to, 0.3);

@@ -1,7 +1,7 @@
 #include "platform/UIKit/UIButton.h"
 #include "tests/host/uikit/scroll/scroll_view_fixture.h"
 
-// Whose a finger is: the scroll view's, that of another one around it, or the content's.
+// Who gets a finger: the scroll view, an enclosing scroll view, or the content.
 
 namespace {
 
@@ -24,13 +24,13 @@ class NestedScrollViewTest : public ScrollViewTest {
   UIScrollView inner;
 };
 
-TEST_F(NestedScrollViewTest, AVerticalDragIsTheInnerOnes) {
+TEST_F(NestedScrollViewTest, AVerticalDragBelongsToTheInnerView) {
   drag_and_pause({200, 500}, {205, 300});
   EXPECT_GT(inner.contentOffset().y, 150);
   EXPECT_EQ(scroll.contentOffset(), CGPoint{});
 }
 
-TEST_F(NestedScrollViewTest, AHorizontalDragIsTheOuterOnes) {
+TEST_F(NestedScrollViewTest, AHorizontalDragBelongsToTheOuterView) {
   drag_and_pause({300, 500}, {50, 505});
   EXPECT_EQ(inner.contentOffset(), CGPoint{});
   advance(1);
@@ -75,7 +75,7 @@ TEST_F(ContentTouchTest, ATouchReachesTheContentAfterAMoment) {
   EXPECT_EQ(touched, (Strings{"began", "ended"}));
 }
 
-TEST_F(ContentTouchTest, AQuickTapReachesTheContentWhenTheFingerLeaves) {
+TEST_F(ContentTouchTest, AQuickTapReachesTheContentWhenTheFingerLifts) {
   press({100, 100});
   advance(0.05);
   lift({100, 100});
@@ -88,7 +88,7 @@ TEST_F(ContentTouchTest, AQuickDragNeverReachesTheContent) {
   EXPECT_TRUE(touched.empty());
 }
 
-TEST_F(ContentTouchTest, ALateDragTakesTheTouchAwayFromTheContent) {
+TEST_F(ContentTouchTest, ALateDragCancelsTheTouchOnTheContent) {
   press({100, 500});
   advance(0.3);
   move({100, 500}, {100, 300}, 0.2);
@@ -114,7 +114,7 @@ TEST_F(ContentTouchTest, ContentThatMustNotLoseItsTouchKeepsIt) {
   EXPECT_EQ(y(), 0);
 }
 
-TEST_F(ContentTouchTest, ATouchThatCatchesMovingContentIsNotForTheContent) {
+TEST_F(ContentTouchTest, ATouchThatCatchesMovingContentDoesNotReachIt) {
   fling({100, 500}, {100, 300}, 0.1);
   advance(0.2);
   press({100, 300});
@@ -123,7 +123,7 @@ TEST_F(ContentTouchTest, ATouchThatCatchesMovingContentIsNotForTheContent) {
   EXPECT_TRUE(touched.empty());
 }
 
-TEST_F(ScrollViewTest, ADragThatStartsLateOnAButtonIsTheButtons) {
+TEST_F(ScrollViewTest, ADragThatStartsLateOnAButtonBelongsToTheButton) {
   const UIButton button =
       objc::cast<UIButton>(UIButton::alloc().UIView::initWithFrame({0, 400, 375, 200}));
   scroll.addSubview(button);

@@ -4,7 +4,7 @@
 
 namespace host::test {
 
-/// A scroll view over the whole screen, with content of six screens' height and a listener.
+/// A scroll view over the whole screen, with content six screens tall and a delegate.
 class ScrollViewTest : public ScrollTest {
  public:
   ScrollViewTest() {

@@ -15,7 +15,7 @@ TEST_F(ScrollViewTest, TheContentOffsetIsTheOriginOfTheBounds) {
   EXPECT_EQ(scroll.frame(), kScreen);
 }
 
-TEST_F(ScrollViewTest, ScrollRectToVisibleMovesNoFurtherThanNeededAndKeepsToTheInsets) {
+TEST_F(ScrollViewTest, ScrollRectToVisibleMovesNoFurtherThanNeededAndRespectsTheInsets) {
   scroll.setContentInset({64, 0, 0, 0});
   EXPECT_EQ(y(), -64);
   scroll.scrollRectToVisible({0, 1000, 10, 50}, NO);
@@ -34,7 +34,7 @@ TEST_F(ScrollViewTest, ReleasedBeyondTheBeginningItRestsAtTheInset) {
   EXPECT_EQ(y(), -64);
 }
 
-TEST_F(ScrollViewTest, EachChangeOfTheOffsetIsToldOnce) {
+TEST_F(ScrollViewTest, EachChangeOfTheOffsetIsReportedOnce) {
   scroll.setContentOffset({0, 10});
   scroll.setContentOffset({0, 10});
   EXPECT_EQ(events(), Strings{"didScroll"});
@@ -55,7 +55,7 @@ TEST_F(ScrollViewTest, ADragMovesTheContentWithTheFinger) {
   EXPECT_EQ(scroll.isTracking(), NO);
 }
 
-TEST_F(ScrollViewTest, AFlingIsToldInOrderAndEndsByItself) {
+TEST_F(ScrollViewTest, AFlingIsReportedInOrderAndEndsByItself) {
   fling({100, 500}, {100, 300}, 0.1);
   EXPECT_EQ(scroll.isDecelerating(), YES);
   EXPECT_EQ(milestones(), (Strings{"willBeginDragging", "willEndDragging",
@@ -67,7 +67,7 @@ TEST_F(ScrollViewTest, AFlingIsToldInOrderAndEndsByItself) {
   EXPECT_GT(y(), 500);
 }
 
-TEST_F(ScrollViewTest, TheVelocityIsInPointsAMillisecondAndTheTargetIsWhereItRests) {
+TEST_F(ScrollViewTest, TheVelocityIsInPointsPerMillisecondAndTheTargetIsWhereItRests) {
   fling({100, 500}, {100, 300}, 0.1);
   EXPECT_NEAR(heard().velocity.y, 2.0, 0.2);
   EXPECT_EQ(heard().velocity.x, 0);
@@ -84,14 +84,14 @@ TEST_F(ScrollViewTest, APauseBeforeTheReleaseDoesNotFling) {
   EXPECT_EQ(y(), released);
 }
 
-TEST_F(ScrollViewTest, TheListenerMayMoveTheTarget) {
+TEST_F(ScrollViewTest, TheDelegateMayMoveTheTarget) {
   heard().wanted_target = CGPoint{0, 444};
   fling({100, 500}, {100, 300}, 0.1);
   advance(6);
   EXPECT_EQ(y(), 444);
 }
 
-TEST_F(ScrollViewTest, AtRestItWantsNoFrames) {
+TEST_F(ScrollViewTest, AtRestItRequestsNoFrames) {
   fling({100, 500}, {100, 300}, 0.1);
   EXPECT_TRUE(loop.wants_frames());
   advance(6);
@@ -117,7 +117,7 @@ TEST_F(ScrollViewTest, SettingTheOffsetAsAPropertyLetsTheContentGlideOnFromThere
   EXPECT_GT(y(), 2050);
 }
 
-TEST_F(ScrollViewTest, AnAnimatedOffsetArrivesAndIsToldWithoutWordsOfDeceleration) {
+TEST_F(ScrollViewTest, AnAnimatedOffsetArrivesAndIsNotReportedAsDeceleration) {
   scroll.setContentOffset({0, 600}, YES);
   EXPECT_EQ(y(), 0);
   advance(0.15);
@@ -130,7 +130,7 @@ TEST_F(ScrollViewTest, AnAnimatedOffsetArrivesAndIsToldWithoutWordsOfDeceleratio
   EXPECT_FALSE(loop.wants_frames());
 }
 
-TEST_F(ScrollViewTest, AnAnimatedOffsetSetAtTheReleaseWinsOverTheDeceleration) {
+TEST_F(ScrollViewTest, AnAnimatedOffsetSetAtTheReleaseReplacesTheDeceleration) {
   heard().on_end_dragging = [](UIScrollView view) { view.setContentOffset({0, 31}, YES); };
   fling({100, 500}, {100, 300}, 0.1);
   advance(3);
@@ -153,7 +153,7 @@ TEST_F(ScrollViewTest, BeyondTheEdgeTheContentFollowsLessAndSpringsBack) {
   EXPECT_EQ(milestones().back(), "didEndDecelerating");
 }
 
-TEST_F(ScrollViewTest, WithoutBounceItStopsDeadAtTheEdge) {
+TEST_F(ScrollViewTest, WithoutBounceItStopsAtTheEdge) {
   scroll.setBounces(NO);
   press({100, 200});
   move({100, 200}, {100, 500}, 0.2);
@@ -236,7 +236,7 @@ TEST_F(ScrollViewTest, ASlowShortDragLetsThePageFallBack) {
   EXPECT_EQ(scroll.contentOffset().x, 0);
 }
 
-TEST_F(ScrollViewTest, ShrinkingContentIsNotLeftHangingBeyondItsEnd) {
+TEST_F(ScrollViewTest, ShrinkingContentIsNotLeftBeyondItsEnd) {
   scroll.setContentOffset({0, 3000});
   scroll.setContentSize({375, 1000});
   EXPECT_EQ(y(), 1000 - 667);
@@ -250,7 +250,7 @@ TEST_F(ScrollViewTest, AnOffsetSetAheadOfItsContentIsKept) {
   early.release();
 }
 
-TEST_F(ScrollViewTest, ItsSubviewsAreItsContentAlone) {
+TEST_F(ScrollViewTest, ItsSubviewsAreItsContentOnly) {
   fling({100, 500}, {100, 300}, 0.1);
   advance(0.1);
   EXPECT_EQ(scroll.subviews().count(), 0u);
@@ -295,7 +295,7 @@ TEST_F(ScrollViewTest, ChangingTheOffsetDoesNotLayOutTheSuperview) {
   holder.release();
 }
 
-TEST_F(ScrollViewTest, AListenerMayLetGoOfTheScrollViewWhileItGlides) {
+TEST_F(ScrollViewTest, ADelegateMayReleaseTheScrollViewDuringAGlide) {
   const UIScrollView brief = UIScrollView::alloc().initWithFrame(kScreen);
   brief.setContentSize({375, 4000});
   brief.setDelegate(listener);

@@ -9,7 +9,7 @@ namespace host::test {
 struct TestTableListener
     : objc::Bound<TestTableListener, "TestTableListener", UITableViewDelegate> {};
 
-/// Data source and delegate of a table in one, that counts what it is asked.
+/// A table's data source and delegate, which counts the messages it gets.
 class TableListener : public objc::Implementation<TableListener, TestTableListener> {
  public:
   explicit TableListener(TestTableListener owner) : Implementation(owner) {}

@@ -30,13 +30,13 @@ TEST_F(TableViewCellTest, ItHasAContentViewOfItsOwnSize) {
   EXPECT_EQ(cell.contentView().superview(), cell);
 }
 
-TEST_F(TableViewCellTest, TheTextStandsFifteenPointsIn) {
+TEST_F(TableViewCellTest, TheTextIsIndentedByFifteenPoints) {
   cell.textLabel().setText("Song"_ns);
   cell.layoutIfNeeded();
   EXPECT_EQ(cell.textLabel().frame(), CGRect(15, 0, 170, 35));
 }
 
-TEST_F(TableViewCellTest, ThePictureComesBeforeTheTextAndMovesIt) {
+TEST_F(TableViewCellTest, TheImageComesBeforeTheTextAndMovesIt) {
   cell.textLabel().setText("Song"_ns);
   cell.imageView().setImage(image({30, 30}));
   cell.layoutIfNeeded();
@@ -44,7 +44,7 @@ TEST_F(TableViewCellTest, ThePictureComesBeforeTheTextAndMovesIt) {
   EXPECT_EQ(cell.textLabel().frame().origin.x, 60);
 }
 
-TEST_F(TableViewCellTest, AScaledPictureKeepsItsScale) {
+TEST_F(TableViewCellTest, AScaledImageViewKeepsItsTransform) {
   cell.imageView().setImage(image({30, 30}));
   cell.imageView().setTransform({0.6, 0, 0, 0.6, 0, 0});
   cell.layoutIfNeeded();
@@ -54,7 +54,7 @@ TEST_F(TableViewCellTest, AScaledPictureKeepsItsScale) {
   EXPECT_NEAR(cell.imageView().frame().size.width, 18, 1e-9);
 }
 
-TEST_F(TableViewCellTest, ATallPictureIsFittedIntoTheRow) {
+TEST_F(TableViewCellTest, ATallImageIsFittedIntoTheRow) {
   cell.imageView().setImage(image({140, 70}));
   cell.layoutIfNeeded();
   EXPECT_EQ(cell.imageView().bounds().size, (CGSize{70, 35}));
@@ -66,7 +66,7 @@ TEST_F(TableViewCellTest, OnlyStylesWithADetailHaveItsLabel) {
   EXPECT_TRUE(cell.detailTextLabel());
 }
 
-TEST_F(TableViewCellTest, ASubtitleStandsBelowTheText) {
+TEST_F(TableViewCellTest, ASubtitleIsBelowTheText) {
   use(UITableViewCellStyleSubtitle);
   cell.textLabel().setText("Song"_ns);
   cell.detailTextLabel().setText("Artist"_ns);
@@ -75,7 +75,7 @@ TEST_F(TableViewCellTest, ASubtitleStandsBelowTheText) {
   EXPECT_EQ(cell.detailTextLabel().frame().min_x(), 15);
 }
 
-TEST_F(TableViewCellTest, AValueStandsAtTheRightAndTheTextComesFirst) {
+TEST_F(TableViewCellTest, AValueIsAtTheRightAndTheTextTakesPrecedence) {
   use(UITableViewCellStyleValue1);
   cell.textLabel().setText("Blur"_ns);
   cell.detailTextLabel().setText("Dark"_ns);

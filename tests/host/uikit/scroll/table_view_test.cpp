@@ -47,7 +47,7 @@ TEST_F(TableViewTest, CellsTakeTheFrameOfTheirRow) {
   EXPECT_EQ(table.cellForRowAtIndexPath(row(3)).frame(), CGRect(0, 180, 375, 60));
 }
 
-TEST_F(TableViewTest, TheDelegateSaysHowTallEachRowIs) {
+TEST_F(TableViewTest, TheDelegateSetsTheHeightOfEachRow) {
   source().height = [](NSInteger number) { return number % 2 ? 50.0 : 30.0; };
   table.reloadData();
   EXPECT_EQ(table.rectForRowAtIndexPath(row(3)), CGRect(0, 110, 375, 50));
@@ -55,7 +55,7 @@ TEST_F(TableViewTest, TheDelegateSaysHowTallEachRowIs) {
   EXPECT_EQ(table.indexPathForRowAtPoint({10, 160}).row(), 4);
 }
 
-TEST_F(TableViewTest, AHundredThousandRowsAreMeasuredOnceAndMadeAsTheyComeIntoSight) {
+TEST_F(TableViewTest, AHundredThousandRowsAreMeasuredOnceAndCreatedAsTheyComeIntoSight) {
   source().rows = {100000};
   source().height = [](NSInteger number) { return number == 5 ? 70.0 : 35.0; };
   table.reloadData();
@@ -67,7 +67,7 @@ TEST_F(TableViewTest, AHundredThousandRowsAreMeasuredOnceAndMadeAsTheyComeIntoSi
   EXPECT_LE(source().cells_made, 40);
 }
 
-TEST_F(TableViewTest, TheHeaderStandsAboveTheFirstRowAndTheFooterBelowTheLast) {
+TEST_F(TableViewTest, TheHeaderIsAboveTheFirstRowAndTheFooterBelowTheLast) {
   const UIView header = UIView::alloc().initWithFrame({0, 0, 100, 31});
   const UIView footer = UIView::alloc().initWithFrame({0, 0, 100, 50});
   table.setTableHeaderView(header);
@@ -103,7 +103,7 @@ TEST_F(TableViewTest, ARefusedSelectionChangesNothing) {
   EXPECT_EQ(table.cellForRowAtIndexPath(row(2)).isHighlighted(), NO);
 }
 
-TEST_F(TableViewTest, ARowIsHighlightedAfterAMomentAndNoLongerWhenItIsDragged) {
+TEST_F(TableViewTest, ARowIsHighlightedAfterAMomentUntilItIsDragged) {
   press({100, 100});
   advance(0.1);
   EXPECT_EQ(table.cellForRowAtIndexPath(row(2)).isHighlighted(), NO);
@@ -121,7 +121,7 @@ TEST_F(TableViewTest, WithoutSelectionATapDoesNothing) {
   EXPECT_TRUE(events().empty());
 }
 
-TEST_F(TableViewTest, SelectingByProgramTellsNobodyAndScrollsOnlyWhenAsked) {
+TEST_F(TableViewTest, SelectingByProgramTellsNoDelegateAndScrollsOnlyOnRequest) {
   table.selectRowAtIndexPath(row(50), NO, UITableViewScrollPositionNone);
   EXPECT_EQ(table.contentOffset().y, 0);
   EXPECT_EQ(table.indexPathForSelectedRow().row(), 50);
@@ -170,7 +170,7 @@ TEST_F(TableViewTest, ReloadingShowsOtherRows) {
   EXPECT_FALSE(table.indexPathForRowAtPoint({10, 10}));
 }
 
-TEST_F(TableViewTest, ScrollToRowPutsItWhereItIsWantedAndKeepsToTheEnds) {
+TEST_F(TableViewTest, ScrollToRowPutsItWhereRequestedAndClampsToTheEnds) {
   table.scrollToRowAtIndexPath(row(50), UITableViewScrollPositionTop, NO);
   EXPECT_EQ(table.contentOffset().y, 2200);
   table.scrollToRowAtIndexPath(row(50), UITableViewScrollPositionBottom, NO);
@@ -216,7 +216,7 @@ TEST_F(TableViewTest, TheBackgroundStaysBehindTheRowsAndDoesNotScroll) {
   background.release();
 }
 
-TEST_F(TableViewTest, ATableUsedAsAListenerOfAnotherHearsOnlyWhatItImplements) {
+TEST_F(TableViewTest, ATableUsedAsAnothersDelegateIsSentOnlyWhatItImplements) {
   const UITableView listening = UITableView::alloc().initWithFrame({}, UITableViewStylePlain);
   table.setDelegate(listening);
   table.reloadData();

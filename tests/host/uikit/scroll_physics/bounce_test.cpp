@@ -10,13 +10,13 @@ TEST(RubberBand, TheFirstPointsFollowByFiftyFivePercent) {
   EXPECT_NEAR(rubber_band(-1, 600), -0.55, 0.001);
 }
 
-TEST(RubberBand, ItNeverGivesAWholeExtent) {
+TEST(RubberBand, ItNeverReachesAWholeExtent) {
   EXPECT_LT(rubber_band(1e6, 600), 600);
   EXPECT_GT(rubber_band(1e6, 600), 590);
   EXPECT_LT(rubber_band(200, 600), 2 * rubber_band(100, 600));
 }
 
-TEST(RubberBand, UndoingFindsThePullAgain) {
+TEST(RubberBand, UndoingReturnsThePull) {
   for (const double pull : {-300.0, -12.0, 0.0, 40.0, 900.0})
     EXPECT_NEAR(undo_rubber_band(rubber_band(pull, 480), 480), pull, 1e-6);
 }
@@ -25,7 +25,7 @@ TEST(RubberBand, AViewWithoutExtentDoesNotFollow) {
   EXPECT_EQ(rubber_band(50, 0), 0);
 }
 
-TEST(Spring, FromRestItComesHomeWithoutSwingingPast) {
+TEST(Spring, FromRestItReachesItsTargetWithoutSwingingPast) {
   const Spring spring{100, -60, 0, Spring::kBounceFrequency};
   double last = spring.position(0);
   EXPECT_EQ(last, 40);
@@ -46,7 +46,7 @@ TEST(Spring, TheVelocityIsTheSlopeOfThePosition) {
   }
 }
 
-TEST(Spring, RunningOverAnEdgeItGoesOutAndReturns) {
+TEST(Spring, ThrownOverAnEdgeItGoesOutAndReturns) {
   const Spring spring{500, 0, 2000, Spring::kBounceFrequency};
   EXPECT_GT(spring.position(0.09), 530);
   EXPECT_NEAR(spring.position(spring.duration()), 500, Spring::kRestDistance);

@@ -13,7 +13,7 @@ TEST(Deceleration, TheRateIsTheShareLeftAfterOneMillisecond) {
   EXPECT_NEAR(motion.velocity_at(1.0), 1000 * std::pow(0.998, 1000), 1e-9);
 }
 
-TEST(Deceleration, APositionIsTheSumOfWhatEveryMillisecondLeaves) {
+TEST(Deceleration, APositionIsTheSumOfTheVelocitiesOfEachMillisecond) {
   const Deceleration motion{100, 1000, 0.998};
   double expected = 100;
   double velocity = 1000;
@@ -43,7 +43,7 @@ TEST(Deceleration, SlowerThanTheStopVelocityItDoesNotMoveAtAll) {
   EXPECT_EQ(motion.end(), 42);
 }
 
-TEST(Deceleration, TimeAtIsWhenAPositionIsReachedAndNegativeForOneThatIsNot) {
+TEST(Deceleration, TimeAtIsWhenAPositionIsReachedOrNegativeWhenItNeverIs) {
   const Deceleration motion{10, 1000, 0.998};
   const double time = motion.time_at(200);
   ASSERT_GT(time, 0);

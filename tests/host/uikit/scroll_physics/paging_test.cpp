@@ -34,7 +34,7 @@ TEST(Paging, BeyondTheLastPageItStaysInRange) {
   EXPECT_EQ(page_target(-40, -900, kPage, kThreePages), 0);
 }
 
-TEST(Paging, WithoutAPageLengthItOnlyKeepsToTheRange) {
+TEST(Paging, WithoutAPageLengthItOnlyClampsToTheRange) {
   EXPECT_EQ(page_target(30, 90, 0, {0, 20}), 20);
 }
 

@@ -16,7 +16,7 @@ RowLayout two_sections() {
   return RowLayout(31, {{20, RowHeights::uniform(3, 44), 0}, {0, heights_of({10, 30, 50}), 12}}, 5);
 }
 
-TEST(RowLayout, EverythingStandsBelowWhatComesBeforeIt) {
+TEST(RowLayout, EverythingIsBelowWhatPrecedesIt) {
   const RowLayout layout = two_sections();
   EXPECT_EQ(layout.section_header(0).begin, 31);
   EXPECT_EQ(layout.row({0, 0}).begin, 51);
@@ -28,7 +28,7 @@ TEST(RowLayout, EverythingStandsBelowWhatComesBeforeIt) {
   EXPECT_EQ(layout.table_footer().length(), 5);
 }
 
-TEST(RowLayout, ARowIsFoundByEachPointOfItAndNotByHeadersAndFooters) {
+TEST(RowLayout, ARowIsFoundAtEachOfItsPointsAndNotAtHeadersAndFooters) {
   const RowLayout layout = two_sections();
   EXPECT_EQ(layout.row_at(30), std::nullopt);
   EXPECT_EQ(layout.row_at(40), std::nullopt);
@@ -42,7 +42,7 @@ TEST(RowLayout, ARowIsFoundByEachPointOfItAndNotByHeadersAndFooters) {
   EXPECT_EQ(layout.row_at(-1), std::nullopt);
 }
 
-TEST(RowLayout, RowsInASpanAreThoseThatTouchIt) {
+TEST(RowLayout, RowsInASpanAreThoseThatOverlapIt) {
   const RowLayout layout = two_sections();
   const std::vector<RowPlace> expected{{0, 2}, {1, 0}, {1, 1}};
   EXPECT_EQ(layout.rows_in({139, 200}), expected);
@@ -51,7 +51,7 @@ TEST(RowLayout, RowsInASpanAreThoseThatTouchIt) {
   EXPECT_EQ(layout.rows_in({-100, 1000}).size(), 6u);
 }
 
-TEST(RowLayout, ATableOfNothingHasNoRows) {
+TEST(RowLayout, AnEmptyTableHasNoRows) {
   const RowLayout layout(0, {}, 0);
   EXPECT_EQ(layout.height(), 0);
   EXPECT_EQ(layout.row_at(0), std::nullopt);
@@ -59,7 +59,7 @@ TEST(RowLayout, ATableOfNothingHasNoRows) {
   EXPECT_FALSE(layout.contains({0, 0}));
 }
 
-TEST(RowLayout, AnEmptySectionIsPassedOver) {
+TEST(RowLayout, AnEmptySectionIsSkipped) {
   const RowLayout layout(
       0, {{0, RowHeights::uniform(0, 44), 0}, {0, RowHeights::uniform(2, 44), 0}}, 0);
   EXPECT_EQ(layout.row_at(0), (RowPlace{1, 0}));
@@ -82,7 +82,7 @@ TEST(RowHeights, RowsOfDifferentHeightsAreFoundAmongAHundredThousand) {
   EXPECT_EQ(rows.row_at(8 * 35 + 55), 8);
 }
 
-TEST(RowHeights, TheFirstRowOfAnotherHeightMovesNoneBeforeIt) {
+TEST(RowHeights, TheFirstRowOfAnotherHeightMovesNoPrecedingRow) {
   const RowHeights rows = heights_of({35, 35, 35, 20, 35});
   EXPECT_EQ(rows.count(), 5);
   EXPECT_EQ(rows.begin_of(3), 105);
@@ -95,7 +95,7 @@ TEST(RowHeights, RowsOfOneHeightAreOnlyCounted) {
   EXPECT_EQ(heights_of({0, 44}).total(), 44);
 }
 
-TEST(RowHeights, ANegativeCountIsNone) {
+TEST(RowHeights, ANegativeCountMeansNoRows) {
   EXPECT_EQ(RowHeights::uniform(-3, 44).count(), 0);
 }
 

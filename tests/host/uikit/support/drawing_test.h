@@ -6,7 +6,7 @@
 
 namespace host::test {
 
-/// A process that can draw colours, pictures and text.
+/// A process that can draw colours, images and text.
 class DrawingTest : public HostTest {
  public:
   DrawingTest() {

@@ -14,7 +14,7 @@
 
 namespace host::test {
 
-/// A page that says by its title what it is told.
+/// A page that records the messages it gets under its title.
 class ToldPage : public objc::Implementation<ToldPage, UIViewController> {
  public:
   using Implementation::Implementation;
@@ -54,10 +54,10 @@ class ToldPage : public objc::Implementation<ToldPage, UIViewController> {
   }
 };
 
-/// A phone's screen on which pages are turned.
+/// A phone's screen on which pages are pushed and popped.
 class PageTest : public UIKitTest {
  public:
-  // On a bar, and where a finger takes a page away.
+  // Points on a bar, and where a finger drags a page away.
   static constexpr CGPoint kBack{30, 42};
   static constexpr CGPoint kRightButton{350, 42};
   static constexpr CGPoint kEdge{3, 300};

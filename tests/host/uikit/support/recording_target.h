@@ -11,7 +11,8 @@ namespace host::test {
 
 struct TestTarget : objc::Bound<TestTarget, "TestTarget", NSObject> {};
 
-/// Target of actions and delegate of recognisers: writes down each action with its name and state.
+/// A target of actions and delegate of recognisers that records each action with its name and
+/// state.
 class RecordingTarget : public objc::Implementation<RecordingTarget, TestTarget> {
  public:
   explicit RecordingTarget(TestTarget owner) : Implementation(owner) {}
@@ -44,7 +45,7 @@ class RecordingTarget : public objc::Implementation<RecordingTarget, TestTarget>
     return target;
   }
 
-  /// A recogniser of that class on the view, which sends its action to `target`.
+  /// Adds a recogniser of that class to the view, which sends its action to `target`.
   template <class Recognizer>
   static Recognizer add(UIView view, TestTarget target) {
     const auto recognizer =

@@ -8,7 +8,7 @@ namespace host::test {
 
 struct TestRecordingView : objc::Bound<TestRecordingView, "TestRecordingView", UIView> {};
 
-/// A view that writes down what it is told, with its name in front.
+/// A view that records the messages it gets, prefixed with its name.
 class RecordingView : public objc::Implementation<RecordingView, TestRecordingView> {
  public:
   explicit RecordingView(TestRecordingView owner) : Implementation(owner) {}
@@ -31,7 +31,7 @@ class RecordingView : public objc::Implementation<RecordingView, TestRecordingVi
   void tint_color_did_change() { tell("tint"); }
   void layout_subviews() { ++layouts; }
 
-  /// What was told of fingers since the last call, and of nothing else.
+  /// Returns only the touch messages recorded since the last call.
   static UIKitTest::Events told_of_touches() {
     auto told = UIKitTest::told();
     std::erase_if(told, [](const std::string& what) {

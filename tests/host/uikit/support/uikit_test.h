@@ -14,7 +14,8 @@
 
 namespace host::test {
 
-/// A phone's screen with one empty window, a finger or two, and a list of what was told to whom.
+/// A phone's screen with one empty window, up to two fingers, and a record of messages and
+/// receivers.
 class UIKitTest : public HostTest {
  public:
   static constexpr CGRect kScreen{0, 0, 375, 667};
@@ -30,7 +31,7 @@ class UIKitTest : public HostTest {
     window.setHidden(NO);
     events().clear();
   }
-  // Here and not in the destructor: the targets that the end of a gesture is told to still live.
+  // Here rather than in the destructor: the targets told of the gestures' end must still be alive.
   void TearDown() override { input.cancel_all(clock.now()); }
   ~UIKitTest() override {
     window.setHidden(YES);
@@ -43,10 +44,10 @@ class UIKitTest : public HostTest {
     static Events told;
     return told;
   }
-  /// What was told since the last call.
+  /// Returns the messages recorded since the last call.
   static Events told() { return std::exchange(events(), {}); }
 
-  /// A plain view in the window, released by the superview.
+  /// Returns a plain view in the window, owned by its superview.
   UIView add_view(CGRect frame) {
     const UIView view = UIView::alloc().initWithFrame(frame).autorelease();
     window.addSubview(view);
@@ -61,7 +62,7 @@ class UIKitTest : public HostTest {
     advance(0.05);
     lift(point);
   }
-  /// Moves the finger steadily, reporting as often as the screen does.
+  /// Moves the finger steadily, with one report per frame.
   void glide(CGPoint from, CGPoint to, double seconds) {
     const int reports = std::max(1, static_cast<int>(seconds / kReport + 0.5));
     for (int report = 1; report <= reports; ++report) {

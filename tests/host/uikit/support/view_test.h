@@ -6,7 +6,7 @@
 
 namespace host::test {
 
-/// A process that has views, controls and text.
+/// A process with views, controls and text.
 class TextViewTest : public DrawingTest {
  public:
   TextViewTest() {

@@ -14,7 +14,7 @@ class Label : public host::test::TextViewTest {
  protected:
   UILabel label_in(CGRect frame) { return UILabel::alloc().initWithFrame(frame).autorelease(); }
 
-  /// Where a label's drawing leaves ink, by halves.
+  /// Measures where a label's drawing leaves ink, by halves.
   static Ink ink_of(UILabel label) {
     const CGSize size = label.bounds().size;
     UIGraphicsBeginImageContext(size);
@@ -60,7 +60,7 @@ TEST_F(Label, LinesFollowEachOtherAtTheLineHeightOfTheirFont) {
   const struct {
     NSString font;
     double height;
-  } six_lines[] = {{"HelveticaNeue"_ns, 215},             // 6 times 35.79, up to the pixel
+  } six_lines[] = {{"HelveticaNeue"_ns, 215},             // 6 times 35.79, rounded up
                    {"HelveticaNeue-Bold"_ns, 220},        // 6 times 36.63
                    {"HelveticaNeue-UltraLight"_ns, 210},  // 6 times 34.95
                    {"Helvetica-Light"_ns, 207}};          // 6 times 34.5
@@ -70,7 +70,7 @@ TEST_F(Label, LinesFollowEachOtherAtTheLineHeightOfTheirFont) {
   }
 }
 
-TEST_F(Label, NoTextNeedsNoRoom) {
+TEST_F(Label, AnEmptyTextHasNoSize) {
   EXPECT_EQ(label_in({0, 0, 50, 50}).sizeThatFits({}), (CGSize{0, 0}));
 }
 
@@ -101,7 +101,7 @@ TEST_F(Label, AlignsItsTextWithinItsBounds) {
   EXPECT_GT(centred.right, 0);
 }
 
-TEST_F(Label, StandsInTheMiddleOfItsHeight) {
+TEST_F(Label, CentresItsTextVertically) {
   const UILabel label = label_in({0, 0, 60, 100});
   label.setText("HHH"_ns);
 
@@ -110,7 +110,7 @@ TEST_F(Label, StandsInTheMiddleOfItsHeight) {
   EXPECT_NEAR(place.centre().y, 50, 0.5);
 }
 
-TEST_F(Label, IsDrawnEvenWhereItIsLowerThanItsText) {
+TEST_F(Label, IsDrawnEvenWhenItIsLowerThanItsText) {
   const UILabel label = label_in({0, 0, 60, 8});
   label.setText("HHH"_ns);
   EXPECT_GT(ink_of(label).all, 0);
@@ -139,7 +139,7 @@ TEST_F(Label, ShrinksItsFontToFitOnlyWhenAsked) {
   EXPECT_LT(label.textRectForBounds(label.bounds(), 1).size.height, full);
 }
 
-TEST_F(Label, AttributedTextGivesItsPlainText) {
+TEST_F(Label, AttributedTextProvidesThePlainText) {
   const UILabel label = label_in({0, 0, 100, 20});
   const auto attributes =
       NSDictionary::dictionaryWithObject(UIColor::redColor(), NSForegroundColorAttributeName);
@@ -157,7 +157,7 @@ void count_redraw(objc::Object) {
 }
 
 TEST_F(Label, RedrawsOnlyWhenSomethingChanged) {
-  // Given a label whose requests to be redrawn are counted.
+  // Given a label that counts its requests to be redrawn.
   if (!objc_getClass("RedrawCountingLabel")) {
     objc::ClassBuilder("RedrawCountingLabel", "UILabel")
         .method<&count_redraw>("setNeedsDisplay")
@@ -169,7 +169,7 @@ TEST_F(Label, RedrawsOnlyWhenSomethingChanged) {
   label.setText("Let It Be"_ns);
   redraws = 0;
 
-  // When it is told what it already shows.
+  // When it is set to what it already shows.
   label.setText(NSString::stringWithUTF8String("Let It Be"));
   label.setTextColor(UIColor::colorWithWhite(0, 1));
   label.setFont(UIFont::systemFontOfSize(17));

@@ -106,12 +106,12 @@ TEST_F(TextField, TypingTellsDelegateAndTargetOfEveryCharacter) {
                                             "changed to be"}));
 }
 
-TEST_F(TextField, NobodyHearsAboutTextThatIsSet) {
+TEST_F(TextField, SettingTheTextNotifiesNoObserver) {
   field.setText("set"_ns);
   EXPECT_TRUE(news.empty());
 }
 
-TEST_F(TextField, MayKeepTheKeysUntilTheSystemEndsAllInput) {
+TEST_F(TextField, MayRefuseToResignUntilTheSystemEndsAllInput) {
   field.becomeFirstResponder();
   news.clear();
   answer_to_end = NO;
@@ -165,7 +165,7 @@ TEST_F(TextField, ReturnAsksTheDelegateAndTypesNothing) {
   EXPECT_TRUE(field.isFirstResponder()) << "leaving is the delegate's to decide";
 }
 
-TEST_F(TextField, BackspaceTakesAwayAWholeCharacter) {
+TEST_F(TextField, BackspaceDeletesAWholeCharacter) {
   field.becomeFirstResponder();
   field.setText(NSString::stringWithUTF8String("a\U0001F600e\u0301"));
 
@@ -178,7 +178,7 @@ TEST_F(TextField, BackspaceTakesAwayAWholeCharacter) {
   EXPECT_EQ(text(), "");
 }
 
-TEST_F(TextField, TypingGoesWhereTheCaretIs) {
+TEST_F(TextField, TypingInsertsAtTheCaret) {
   field.becomeFirstResponder();
   type_text("ac"_ns);
   press_key("left");
@@ -192,7 +192,7 @@ TEST_F(TextField, TypingGoesWhereTheCaretIs) {
   EXPECT_EQ(text(), "_abc!");
 }
 
-TEST_F(TextField, ComposedTextIsReplacedByWhatIsChosen) {
+TEST_F(TextField, ComposedTextIsReplacedByTheChosenText) {
   field.becomeFirstResponder();
   type_text("x"_ns);
 
@@ -230,7 +230,7 @@ TEST_F(TextField, TheCaretFollowsTheText) {
   EXPECT_GT(caret().frame().min_x(), at_start + 40);
 }
 
-TEST_F(TextField, LongTextScrollsSoThatTheCaretStaysInSight) {
+TEST_F(TextField, LongTextScrollsToKeepTheCaretInSight) {
   field.becomeFirstResponder();
   type_text("a text that is very much longer than this small field can ever show"_ns);
   field.layoutIfNeeded();
@@ -241,7 +241,7 @@ TEST_F(TextField, LongTextScrollsSoThatTheCaretStaysInSight) {
   EXPECT_NEAR(caret().frame().min_x(), 0, 0.5);
 }
 
-TEST_F(TextField, TheTextStandsBesideItsLeftView) {
+TEST_F(TextField, TheTextBeginsBesideTheLeftView) {
   const UIView icon = UIView::alloc().initWithFrame({0, 0, 30, 20}).autorelease();
   field.setLeftView(icon);
   EXPECT_EQ(field.textRectForBounds(field.bounds()).min_x(), 0);

@@ -54,7 +54,7 @@ TEST_F(Text, TruncatesTheTailToOneLine) {
   EXPECT_LT(layout.size().width, 60.5);
 }
 
-TEST_F(Text, WhereNotEvenTheEllipsisFitsTheTextIsDrawnAsItIs) {
+TEST_F(Text, WhenNotEvenTheEllipsisFitsTheTextIsDrawnAsItIs) {
   const auto text = styled_text("W"_ns, style);
   const double width = TextLayout(text, {}).size().width;
   const TextLayout layout(text,
@@ -87,7 +87,7 @@ TEST_F(Text, OnlyLinesThatFitTheHeightAreKept) {
   EXPECT_EQ(layout.line_count(), 2);
 }
 
-TEST_F(Text, WhatCannotBeSeenIsNotShaped) {
+TEST_F(Text, InvisibleTextIsNotShaped) {
   const TextFrame frame{.width = 300, .lines = 1, .break_mode = NSLineBreakByTruncatingTail};
   const NSString title = string_of(std::string(1 << 20, 'i'));
 
@@ -99,7 +99,7 @@ TEST_F(Text, WhatCannotBeSeenIsNotShaped) {
   EXPECT_NEAR(layout.size().width, 300, 10);
 }
 
-TEST_F(Text, HalvesOfPairsThatStandAloneAreReplaced) {
+TEST_F(Text, UnpairedSurrogatesAreReplaced) {
   const std::array<unichar, 4> units{0xD800, 'a', 0xDC00, 0};
   std::string bytes;
 
@@ -108,8 +108,8 @@ TEST_F(Text, HalvesOfPairsThatStandAloneAreReplaced) {
   EXPECT_EQ(bytes, "\uFFFDa\uFFFD\uFFFD");
 }
 
-TEST_F(Text, CuttingDoesNotTakeCharactersApart) {
-  // A clef (a pair), an e with an accent of its own.
+TEST_F(Text, CuttingKeepsCharactersWhole) {
+  // A clef (a surrogate pair), and an e with a combining accent.
   const NSString text = string_of("\U0001D11Ee\u0301x");
   ASSERT_EQ(text.length(), 5u);
 
@@ -144,7 +144,7 @@ TEST_F(Text, KerningWidensEveryGapByItsAmount) {
   EXPECT_NEAR(kerned - plain, 6, 0.1);
 }
 
-TEST_F(Text, CaretAndByteAnswerEachOther) {
+TEST_F(Text, CaretAndByteConvertBothWays) {
   const TextLayout layout(styled_text("Search"_ns, style), {});
   for (std::size_t byte = 0; byte <= 6; ++byte)
     EXPECT_EQ(layout.byte_at(layout.caret_position(byte) + 0.01), byte);

@@ -20,7 +20,7 @@ using host::uikit::type_text;
 
 constexpr CGFloat kWidth = 200;
 constexpr CGFloat kHeight = 100;
-constexpr CGFloat kLine = 20;  // about, at 17 points
+constexpr CGFloat kLine = 20;  // approximately, at 17 points
 
 std::vector<std::string> news;
 BOOL answer_to_begin = YES;
@@ -118,7 +118,7 @@ class TextView : public host::test::TextViewTest {
     input_.ended(0, point, clock.now());
     advance(0.5);
   }
-  /// How dark the screen is within a rectangle in points: 0 where nothing is drawn on white.
+  /// Returns how dark the screen is within a rectangle in points: 0 when nothing is drawn on white.
   long ink_in(CGRect rect) {
     view.setBackgroundColor(UIColor::whiteColor());
     window_->setBackgroundColor(UIColor::whiteColor());
@@ -146,7 +146,7 @@ class TextView : public host::test::TextViewTest {
   host::uikit::TouchInput input_;
 };
 
-TEST_F(TextView, MayKeepTheKeysUntilTheSystemEndsAllInput) {
+TEST_F(TextView, MayRefuseToResignUntilTheSystemEndsAllInput) {
   edit("abc");
   answer_to_end = NO;
   EXPECT_FALSE(view.resignFirstResponder());
@@ -171,7 +171,7 @@ TEST_F(TextView, TypingTellsTheDelegateOfEveryCharacter) {
                                             "changed to be"}));
 }
 
-TEST_F(TextView, NobodyHearsAboutTextThatIsSet) {
+TEST_F(TextView, SettingTheTextNotifiesNoObserver) {
   view.setText("set"_ns);
   EXPECT_TRUE(news.empty());
 }
@@ -187,10 +187,10 @@ TEST_F(TextView, ADelegateCanForbidEditingAndEveryChange) {
   EXPECT_EQ(text(), "kept");
 }
 
-TEST_F(TextView, WhatIsNotEditableTakesNoText) {
+TEST_F(TextView, ANonEditableViewTakesNoText) {
   edit("kept");
   view.setEditable(NO);
-  EXPECT_FALSE(view.isFirstResponder()) << "whoever was editing stops";
+  EXPECT_FALSE(view.isFirstResponder()) << "editing stops";
   EXPECT_FALSE(view.becomeFirstResponder());
   view.insertText("x"_ns);
   view.deleteBackward();
@@ -203,7 +203,7 @@ TEST_F(TextView, EditingBeginsAndEndsInOrder) {
   EXPECT_EQ(news, (std::vector<std::string>{"should begin", "did begin", "did end"}));
 }
 
-TEST_F(TextView, ReturnBeginsALine) {
+TEST_F(TextView, ReturnBeginsANewLine) {
   edit("one");
   press_key("return");
   EXPECT_NEAR(caret().min_y(), 8 + kLine, 2) << "the caret goes there before anything is typed";
@@ -222,7 +222,7 @@ TEST_F(TextView, LongTextIsWrappedAtTheWidth) {
   view.setFrame({0, 0, 2 * kWidth, kHeight});
   const CGFloat narrow = view.contentSize().height;
   view.layoutIfNeeded();
-  EXPECT_LT(view.contentSize().height, narrow) << "wrapped anew for the new width";
+  EXPECT_LT(view.contentSize().height, narrow) << "wrapped again for the new width";
 }
 
 TEST_F(TextView, AWordLongerThanTheWidthIsBroken) {
@@ -247,7 +247,7 @@ TEST_F(TextView, TypingKeepsTheCaretInSight) {
   EXPECT_EQ(view.contentOffset().y, 0) << "the margin above the first line comes along";
 }
 
-TEST_F(TextView, ScrollingAwayFromTheCaretIsLeftInPeace) {
+TEST_F(TextView, ScrollingAwayFromTheCaretIsNotUndone) {
   edit(repeated("a\n", 20));
   ASSERT_GT(view.contentOffset().y, 0);
   view.setContentOffset({0, 0});
@@ -256,7 +256,7 @@ TEST_F(TextView, ScrollingAwayFromTheCaretIsLeftInPeace) {
   EXPECT_EQ(view.contentOffset().y, 0);
 }
 
-TEST_F(TextView, UpAndDownAimAtTheSamePlaceAcrossAShortLine) {
+TEST_F(TextView, UpAndDownKeepTheirColumnAcrossAShortLine) {
   edit("a long line\nb\na long line");
   press_key("up");
   EXPECT_EQ(caret_index(), 13u) << "behind the b";
@@ -279,7 +279,7 @@ TEST_F(TextView, HomeAndEndGoToTheEndsOfTheLine) {
   EXPECT_EQ(caret_index(), 7u);
 }
 
-TEST_F(TextView, EndOfABrokenLineStaysOnIt) {
+TEST_F(TextView, EndOfAWrappedLineStaysOnIt) {
   edit(repeated("word ", 12));
   for (int line = 0; line < 5; ++line)
     press_key("up");
@@ -290,7 +290,7 @@ TEST_F(TextView, EndOfABrokenLineStaysOnIt) {
   EXPECT_GT(caret().min_x(), kWidth / 2);
 }
 
-TEST_F(TextView, KeysWithOtherNamesAreLeftToOthers) {
+TEST_F(TextView, UnknownKeysAreNotHandled) {
   edit("text");
   EXPECT_FALSE(press_key("tab"));
   EXPECT_EQ(caret_index(), 4u);
@@ -303,7 +303,7 @@ TEST_F(TextView, EscapeEndsEditing) {
   EXPECT_FALSE(state().caret().is_shown());
 }
 
-TEST_F(TextView, BackspaceTakesAwayAWholeCharacter) {
+TEST_F(TextView, BackspaceDeletesAWholeCharacter) {
   edit("a\U0001F468\u200D\U0001F469\u200D\U0001F467e\u0301");
   press_key("backspace");
   EXPECT_EQ(text(), "a\U0001F468\u200D\U0001F469\u200D\U0001F467");
@@ -334,7 +334,7 @@ TEST_F(TextView, ATapBeginsEditing) {
   EXPECT_TRUE(state().caret().is_shown());
 }
 
-TEST_F(TextView, RightToLeftTextStandsAtTheRightAndIsTypedToTheLeft) {
+TEST_F(TextView, RightToLeftTextBeginsAtTheRightAndIsTypedToTheLeft) {
   edit("שלום");
   const CGFloat behind = caret().min_x();
   EXPECT_GT(behind, kWidth / 2);
@@ -345,7 +345,7 @@ TEST_F(TextView, RightToLeftTextStandsAtTheRightAndIsTypedToTheLeft) {
   EXPECT_EQ(ink_in({0, 0, kWidth / 2, kHeight}), 0);
 }
 
-TEST_F(TextView, ComposedTextIsReplacedByWhatIsChosen) {
+TEST_F(TextView, ComposedTextIsReplacedByTheChosenText) {
   edit("x");
   host::uikit::compose_text("ni"_ns, 2);
   EXPECT_EQ(text(), "xni");
@@ -355,7 +355,7 @@ TEST_F(TextView, ComposedTextIsReplacedByWhatIsChosen) {
   EXPECT_EQ(text(), "x日");
 }
 
-TEST_F(TextView, WhatIsInSightIsDrawnWhereverTheTextIsScrolledTo) {
+TEST_F(TextView, TheVisiblePartIsDrawnWhereverTheTextIsScrolledTo) {
   edit("at the top");
   EXPECT_GT(ink_in({0, 8, kWidth - 10, kLine}), 1000);
   edit(repeated("\n", 40) + "at the end");
@@ -368,7 +368,7 @@ TEST_F(TextView, WhatIsInSightIsDrawnWhereverTheTextIsScrolledTo) {
   EXPECT_GT(ink_in({0, kHeight - 8 - kLine, kWidth - 10, kLine}), 1000);
 }
 
-TEST_F(TextView, ATextOfTenThousandCharactersCostsNoMoreToShowThanItsView) {
+TEST_F(TextView, ALongTextNeedsNoMoreMemoryThanItsView) {
   edit(repeated("\U0001F600e\u0301 ab ", 1250));
   EXPECT_GT(view.contentSize().height, 5000);
   EXPECT_LE(caret().max_y(), view.bounds().max_y());
@@ -380,7 +380,7 @@ TEST_F(TextView, ATextOfTenThousandCharactersCostsNoMoreToShowThanItsView) {
   EXPECT_TRUE(view.text().hasSuffix("!"_ns));
 }
 
-TEST_F(TextView, HalfACharacterIsDrawnAsAReplacement) {
+TEST_F(TextView, HalfACharacterIsDrawnAsAReplacementCharacter) {
   const NSString broken = from_utf8("\U0001F600").substringToIndex(1);
   edit("");
   view.setText(broken);

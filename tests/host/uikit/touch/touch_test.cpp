@@ -25,7 +25,7 @@ TEST_F(TouchTest, GoesToTheViewUnderTheFinger) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(TouchTest, KeepsItsFirstViewForLife) {
+TEST_F(TouchTest, KeepsItsFirstViewUntilItEnds) {
   const auto other = RecordingView::make("other", {100, 0, 100, 100});
   window.addSubview(other);
   told();
@@ -47,13 +47,13 @@ TEST_F(TouchTest, WhereTheFingerLiftedIsReportedAsAMovementFirst) {
   EXPECT_EQ(told(), (Events{"view began", "view moved", "view ended"}));
 }
 
-TEST_F(TouchTest, TheSystemMayTakeItAway) {
+TEST_F(TouchTest, TheSystemMayCancelIt) {
   press({50, 50});
   input.cancel_all(clock.now());
   EXPECT_EQ(told(), (Events{"view began", "view cancelled"}));
 }
 
-TEST_F(TouchTest, AFingerThatWasTakenAwayIsIgnoredUntilItLifts) {
+TEST_F(TouchTest, ACancelledFingerIsIgnoredUntilItLifts) {
   press({50, 50});
   uikit::cancel_every_touch();
   EXPECT_EQ(told(), (Events{"view began", "view cancelled"}));
@@ -64,7 +64,7 @@ TEST_F(TouchTest, AFingerThatWasTakenAwayIsIgnoredUntilItLifts) {
   EXPECT_EQ(told(), (Events{"view began", "view ended"}));
 }
 
-TEST_F(TouchTest, OnlyTheFingersThatWereDownAreTakenAway) {
+TEST_F(TouchTest, OnlyFingersThatAreDownAreCancelled) {
   press({50, 50}, 0);
   uikit::cancel_every_touch();
   told();
@@ -88,7 +88,7 @@ TEST_F(TouchTest, ARecognizerThatHasBegunIsCancelledAndAnotherFails) {
   EXPECT_EQ(pan.state(), UIGestureRecognizerStatePossible) << "and is ready for the next";
 }
 
-TEST_F(TouchTest, AnActionMayTakeItsOwnTouchAway) {
+TEST_F(TouchTest, AnActionMayCancelItsOwnTouch) {
   const auto first = RecordingTarget::make("first");
   const auto second = RecordingTarget::make("second");
   for (const auto& target : {first, second}) {
@@ -106,7 +106,7 @@ TEST_F(TouchTest, AnActionMayTakeItsOwnTouchAway) {
   EXPECT_EQ(told(), Events{});
 }
 
-TEST_F(TouchTest, AScreenThatIsOffFeelsNoFinger) {
+TEST_F(TouchTest, AScreenThatIsOffIgnoresFingers) {
   press({50, 50}, 0);
   uikit::set_touches_enabled(false);
   EXPECT_EQ(told(), (Events{"view began", "view cancelled"}));
@@ -115,12 +115,12 @@ TEST_F(TouchTest, AScreenThatIsOffFeelsNoFinger) {
   move({20, 20}, 1);
   lift({20, 20}, 1);
   lift({50, 50}, 0);
-  EXPECT_EQ(told(), Events{}) << "they were down in the dark";
+  EXPECT_EQ(told(), Events{}) << "they were down while the screen was off";
   tap({50, 50});
   EXPECT_EQ(told(), (Events{"view began", "view ended"}));
 }
 
-/// Takes a finger as soon as it moves, and writes down what it is shown.
+/// Claims a finger as soon as it moves, and records what it sees.
 class GreedyGestures final : public uikit::SystemGestures {
  public:
   explicit GreedyGestures(std::string name, UITouchPhase taken_at)
@@ -146,7 +146,7 @@ class GreedyGestures final : public uikit::SystemGestures {
   bool has_ = false;
 };
 
-TEST_F(TouchTest, WhatTheSystemHasTakenStaysWithIt) {
+TEST_F(TouchTest, AFingerThatTheSystemHasClaimedStaysWithIt) {
   GreedyGestures edge("edge", UITouchPhaseMoved);
   press({50, 50});
   move({60, 60});
@@ -157,7 +157,7 @@ TEST_F(TouchTest, WhatTheSystemHasTakenStaysWithIt) {
   EXPECT_EQ(told(), (Events{"edge moved", "edge ended"}));
 }
 
-TEST_F(TouchTest, AGestureMayTakeTheOthersAwayAsItTakesItsOwn) {
+TEST_F(TouchTest, AGestureMayCancelOtherTouchesAsItClaimsItsOwn) {
   GreedyGestures edge("edge", UITouchPhaseMoved);
   press({50, 50}, 0);
   press({200, 200}, 1);
@@ -167,10 +167,10 @@ TEST_F(TouchTest, AGestureMayTakeTheOthersAwayAsItTakesItsOwn) {
   };
   move({60, 60}, 0);
   EXPECT_EQ(told(), (Events{"edge moved", "view cancelled", "edge cancelled"}))
-      << "the other finger is nobody's";
+      << "the other finger has no owner";
 }
 
-TEST_F(TouchTest, TheDarkTakesFingersFromTheSystemToo) {
+TEST_F(TouchTest, TurningTheScreenOffCancelsFingersOfTheSystemToo) {
   GreedyGestures edge("edge", UITouchPhaseMoved);
   press({50, 50});
   move({60, 60});
@@ -184,7 +184,7 @@ TEST_F(TouchTest, TheDarkTakesFingersFromTheSystemToo) {
   EXPECT_EQ(told(), Events{"edge cancelled"});
 }
 
-TEST_F(TouchTest, WhoeverHadTheFingerHearsThatAnotherHasTakenIt) {
+TEST_F(TouchTest, ThePreviousOwnerOfAFingerSeesItCancelled) {
   GreedyGestures early("early", UITouchPhaseBegan);
   GreedyGestures late("late", UITouchPhaseMoved);
   press({50, 50});
@@ -195,7 +195,7 @@ TEST_F(TouchTest, WhoeverHadTheFingerHearsThatAnotherHasTakenIt) {
             (Events{"early moved", "late moved", "early cancelled", "early ended", "late ended"}));
 }
 
-TEST_F(TouchTest, AViewSeesOneFingerUnlessItAsksForMore) {
+TEST_F(TouchTest, AViewSeesOneFingerUnlessItEnablesMultipleTouch) {
   press({10, 10}, 0);
   press({20, 20}, 1);
   EXPECT_EQ(told(), Events{"view began"});
@@ -233,7 +233,7 @@ TEST_F(TouchTest, GoesToTheWindowOfTheHighestLevelThatTakesIt) {
   high.release();
 }
 
-TEST_F(TouchTest, CountsTapsInOnePlaceThatFollowSoon) {
+TEST_F(TouchTest, CountsQuickTapsInOnePlace) {
   const auto count_after = [this](double pause, CGPoint point) {
     advance(pause);
     press(point);
@@ -248,14 +248,14 @@ TEST_F(TouchTest, CountsTapsInOnePlaceThatFollowSoon) {
   press({50, 50});
   uikit::cancel_every_touch();
   lift({50, 50});
-  EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "a cancelled touch is no tap";
+  EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "a cancelled touch is not a tap";
   press({50, 50});
   uikit::cancel_touches_in(view);
   lift({50, 50});
-  EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "nor is one that its view has lost";
+  EXPECT_EQ(count_after(0.1, {50, 50}), 1u) << "nor is one cancelled in its view";
 }
 
-TEST_F(TouchTest, AFingerThatItsViewHasLostIsIgnoredUntilItLifts) {
+TEST_F(TouchTest, AFingerCancelledInItsViewIsIgnoredUntilItLifts) {
   const auto other = RecordingView::make("other", {100, 0, 100, 100});
   window.addSubview(other);
   told();

@@ -44,7 +44,7 @@ TEST(VelocityTracker, LaterMovementCountsForMore) {
   EXPECT_LT(tracker.velocity(0.1).x, 200);
 }
 
-TEST(VelocityTracker, OneReportIsNoMovement) {
+TEST(VelocityTracker, OneReportHasNoVelocity) {
   VelocityTracker tracker;
   tracker.add({5, 5}, 1);
   EXPECT_EQ(tracker.velocity(1), CGPoint{});

@@ -27,12 +27,12 @@ TEST(Autoresizing, AFlexibleMarginBeforeMovesTheView) {
 TEST(Autoresizing, SeveralFlexibleLengthsShareInProportion) {
   const auto mask = UIViewAutoresizingFlexibleLeftMargin | UIViewAutoresizingFlexibleRightMargin;
   const CGRect frame = autoresized_frame(kFrame, kOld, kNew, mask);
-  // Left 10 and right 50 share a hundred points.
+  // Left (10) and right (50) share a hundred points.
   EXPECT_NEAR(frame.origin.x, 10 + 100.0 * 10 / 60, 1e-9);
   EXPECT_EQ(frame.size.width, 40);
 }
 
-TEST(Autoresizing, FlexibleLengthsOfNothingShareAlike) {
+TEST(Autoresizing, FlexibleLengthsOfZeroShareEqually) {
   const auto mask = UIViewAutoresizingFlexibleLeftMargin | UIViewAutoresizingFlexibleRightMargin;
   const CGRect frame = autoresized_frame({0, 0, 100, 10}, kOld, kNew, mask);
   EXPECT_EQ(frame, CGRect(50, 0, 100, 10));

@@ -12,7 +12,7 @@ class BlockAnimationTest : public UIKitTest {
  protected:
   BlockAnimationTest() : view(add_view({0, 0, 100, 100})) { advance(0); }
 
-  /// Notes the time since the test began, and whether the animation finished.
+  /// Records the time since the test began, and whether the animation finished.
   auto note_end() {
     return objc::block([this](BOOL finished) {
       ends.push_back(clock.now() - start);
@@ -56,7 +56,7 @@ TEST_F(BlockAnimationTest, CompletionComesInTheNextTurnWhenThereIsNothingToAnima
   EXPECT_THAT(finishes, ElementsAre(true));
 }
 
-TEST_F(BlockAnimationTest, WithoutDurationTheChangeIsAtOnceAndCompletionInTheNextTurn) {
+TEST_F(BlockAnimationTest, WithoutDurationTheChangeIsImmediateAndCompletionComesInTheNextTurn) {
   UIView::animateWithDuration(0, objc::block([this] { view.setAlpha(0.5); }), note_end());
   EXPECT_FALSE(view.layer().animationKeys());
   advance(0);
@@ -127,7 +127,7 @@ TEST_F(BlockAnimationTest, ADelayHoldsTheOldStateAndTheCompletion) {
   EXPECT_NEAR(ends[0], 1.0, 1.0 / 60 + 1e-6);
 }
 
-TEST_F(BlockAnimationTest, AnInnerBlockGoesAtThePaceOfTheOuterOne) {
+TEST_F(BlockAnimationTest, AnInnerBlockTakesTheTimingOfTheOuterOne) {
   UIView::animateWithDuration(0.5, objc::block([this] {
                                 UIView::animateWithDuration(
                                     3.0, objc::block([this] { view.setAlpha(0); }), note_end());
@@ -136,7 +136,7 @@ TEST_F(BlockAnimationTest, AnInnerBlockGoesAtThePaceOfTheOuterOne) {
   EXPECT_EQ(ends.size(), 1u);
 }
 
-TEST_F(BlockAnimationTest, AnInnerBlockMayInsistOnItsOwnDuration) {
+TEST_F(BlockAnimationTest, AnInnerBlockMayOverrideTheDuration) {
   UIView::animateWithDuration(0.5, objc::block([this] {
                                 UIView::animateWithDuration(
                                     1.0, 0.0, UIViewAnimationOptionOverrideInheritedDuration,
@@ -208,7 +208,7 @@ TEST_F(BlockAnimationTest, ASpringSwingsPastItsEndAndRestsThere) {
   EXPECT_EQ(ends.size(), 1u);
 }
 
-TEST_F(BlockAnimationTest, AfterTheLastAnimationNothingWantsFrames) {
+TEST_F(BlockAnimationTest, AfterTheLastAnimationNoFramesAreRequested) {
   UIView::animateWithDuration(0.5, objc::block([this] { view.setAlpha(0); }));
   advance(0.1);
   EXPECT_TRUE(loop.wants_frames());

@@ -6,7 +6,7 @@
 namespace host::test {
 namespace {
 
-/// A controller that says what it is told, and comes and goes by fading.
+/// A controller that records the messages it gets, and fades in and out.
 class FadingController : public objc::Implementation<FadingController, UIViewController> {
  public:
   using Implementation::Implementation;
@@ -52,7 +52,7 @@ class PresentationTest : public UIKitTest {
   UIViewController root() const { return window.rootViewController(); }
 };
 
-TEST_F(PresentationTest, AControllerMayComeAndGoInAWayOfItsOwn) {
+TEST_F(PresentationTest, AControllerMayComeAndGoInItsOwnWay) {
   const auto shown = make_fading();
   root().presentViewController(shown.get(), YES, nullptr);
   EXPECT_EQ(shown->view().frame(), kScreen) << "not from below";
@@ -69,7 +69,7 @@ TEST_F(PresentationTest, AControllerMayComeAndGoInAWayOfItsOwn) {
   EXPECT_EQ(told(), (Events{"will disappear", "did disappear"}));
 }
 
-TEST_F(PresentationTest, WhatARootPresentsGoesWithIt) {
+TEST_F(PresentationTest, APresentationGoesWithItsRoot) {
   const auto shown = make_fading();
   const auto shown_by_it = make_fading();
   root().presentViewController(shown.get(), NO, nullptr);
@@ -81,10 +81,10 @@ TEST_F(PresentationTest, WhatARootPresentsGoesWithIt) {
   EXPECT_EQ(window.subviews().count(), 0u);
   EXPECT_FALSE(shown->presentingViewController());
   EXPECT_FALSE(shown_by_it->presentingViewController());
-  EXPECT_EQ(told().size(), 4u) << "both hear that they go";
+  EXPECT_EQ(told().size(), 4u) << "both are told that they disappear";
 }
 
-TEST_F(PresentationTest, WhatADismissedControllerPresentsGoesWithIt) {
+TEST_F(PresentationTest, APresentationGoesWithItsDismissedController) {
   const auto shown = make_fading();
   const auto shown_by_it = make_fading();
   root().presentViewController(shown.get(), NO, nullptr);
@@ -94,7 +94,7 @@ TEST_F(PresentationTest, WhatADismissedControllerPresentsGoesWithIt) {
   EXPECT_EQ(window.subviews().count(), 1u) << "the root's own view";
 }
 
-TEST_F(PresentationTest, WhatIsDismissedOnItsWayHasNeverAppeared) {
+TEST_F(PresentationTest, AControllerDismissedOnItsWayNeverAppears) {
   const auto shown = make_fading();
   root().presentViewController(shown.get(), YES, nullptr);
   advance(0.1);
@@ -103,7 +103,7 @@ TEST_F(PresentationTest, WhatIsDismissedOnItsWayHasNeverAppeared) {
   EXPECT_EQ(told(), (Events{"will appear", "will disappear", "did disappear"}));
 }
 
-/// A page over another, each with something in it that says what fingers do on it.
+/// A page over another; each contains a view that records touches.
 class TouchesInTransition : public PresentationTest {
  protected:
   TouchesInTransition() {
@@ -133,13 +133,13 @@ class TouchesInTransition : public PresentationTest {
       objc::Ref<UIViewController>::adopt(UIViewController::alloc().init());
 };
 
-TEST_F(TouchesInTransition, NeitherPageTakesThemWhileOneComes) {
+TEST_F(TouchesInTransition, NeitherPageTakesTouchesWhileOneComes) {
   present();
   expect_no_touches_on_its_way();
   EXPECT_EQ(after_tap(), (Events{"front began", "front ended"}));
 }
 
-TEST_F(TouchesInTransition, NeitherPageTakesThemWhileOneGoes) {
+TEST_F(TouchesInTransition, NeitherPageTakesTouchesWhileOneGoes) {
   present();
   advance(1);
   dismiss();
@@ -147,7 +147,7 @@ TEST_F(TouchesInTransition, NeitherPageTakesThemWhileOneGoes) {
   EXPECT_EQ(after_tap(), (Events{"behind began", "behind ended"}));
 }
 
-TEST_F(TouchesInTransition, PagesFurtherBehindTakeNoneEither) {
+TEST_F(TouchesInTransition, PagesFurtherBehindTakeNoTouchesEither) {
   const auto last = make_fading();
   present();
   advance(1);
@@ -155,7 +155,7 @@ TEST_F(TouchesInTransition, PagesFurtherBehindTakeNoneEither) {
   EXPECT_EQ(after_tap(), Events{});
 }
 
-TEST_F(TouchesInTransition, AFingerThatIsDownIsCancelledAndSaysNoMore) {
+TEST_F(TouchesInTransition, AFingerThatIsDownIsCancelledForGood) {
   press(kPoint);
   advance(0.05);
   told();
@@ -165,18 +165,18 @@ TEST_F(TouchesInTransition, AFingerThatIsDownIsCancelledAndSaysNoMore) {
   advance(1);
   move({140, 320});
   lift({140, 320});
-  EXPECT_EQ(RecordingView::told_of_touches(), Events{}) << "until it lands anew";
+  EXPECT_EQ(RecordingView::told_of_touches(), Events{}) << "until it lands again";
   EXPECT_EQ(after_tap(), (Events{"front began", "front ended"}));
 }
 
-TEST_F(TouchesInTransition, OneWithoutAnimationTakesNothingFromThem) {
+TEST_F(TouchesInTransition, ATransitionWithoutAnimationCancelsNothing) {
   root().presentViewController(shown.get(), NO, nullptr);
   EXPECT_EQ(after_tap(), (Events{"front began", "front ended"}));
   root().dismissViewControllerAnimated(NO, nullptr);
   EXPECT_EQ(after_tap(), (Events{"behind began", "behind ended"}));
 }
 
-TEST_F(TouchesInTransition, OneThatIsCutShortGivesThemBack) {
+TEST_F(TouchesInTransition, AnInterruptedTransitionEnablesTouchesAgain) {
   present();
   advance(0.1);
   dismiss();
@@ -189,7 +189,7 @@ TEST_F(TouchesInTransition, OneThatIsCutShortGivesThemBack) {
   EXPECT_EQ(after_tap(), (Events{"next began", "next ended"}));
 }
 
-TEST_F(TouchesInTransition, ItsEndMayPresentTheNextAndTouchesComeAfterThat) {
+TEST_F(TouchesInTransition, ItsEndMayPresentTheNextAndTouchesWaitForThat) {
   const auto last = make_fading();
   fill(last.get(), "last");
   root().presentViewController(shown.get(), YES, objc::block([&] {

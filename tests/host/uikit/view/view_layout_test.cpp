@@ -25,7 +25,7 @@ TEST_F(ViewLayoutTest, HappensOnceAtTheEndOfTheTurn) {
   EXPECT_EQ(layouts(), 1);
 }
 
-TEST_F(ViewLayoutTest, HappensAtOnceWhenAskedFor) {
+TEST_F(ViewLayoutTest, HappensImmediatelyWhenRequested) {
   view.setNeedsLayout();
   view.layoutIfNeeded();
   EXPECT_EQ(layouts(), 1);
@@ -33,7 +33,7 @@ TEST_F(ViewLayoutTest, HappensAtOnceWhenAskedFor) {
   EXPECT_EQ(layouts(), 1);
 }
 
-TEST_F(ViewLayoutTest, AnotherSizeAsksForLayoutAndAnotherPlaceDoesNot) {
+TEST_F(ViewLayoutTest, ANewSizeRequestsLayoutAndANewPlaceDoesNot) {
   view.setFrame({50, 50, 100, 100});
   advance(0);
   EXPECT_EQ(layouts(), 0);

@@ -58,7 +58,7 @@ TEST_F(ViewTest, AViewWithoutDrawingNeverGetsContents) {
   EXPECT_FALSE(view.layer().contents());
 }
 
-TEST_F(ViewTest, AViewThatDrawsIsAskedOnceATurnForItsBounds) {
+TEST_F(ViewTest, AViewThatDrawsIsDrawnOncePerTurn) {
   times_drawn = 0;
   const UIView view = make_drawing_view({10, 10, 40, 30});
   window.addSubview(view);
@@ -90,7 +90,7 @@ TEST_F(ViewTest, TintIsInheritedUntilItIsSet) {
   inner.setTintColor(UIColor::greenColor());
   EXPECT_EQ(told(), Events{"inner tint"});
   outer.setTintColor(UIColor::blueColor());
-  EXPECT_EQ(told(), Events{}) << "a view with a tint of its own does not mind";
+  EXPECT_EQ(told(), Events{}) << "a view with its own tint is not affected";
   EXPECT_TRUE(inner.tintColor().isEqual(UIColor::greenColor()));
 }
 
@@ -108,7 +108,7 @@ TEST_F(ViewTest, PointsConvertThroughTransformsAndScrolledBounds) {
   EXPECT_EQ(inner.convertRectToView({0, 0, 20, 20}, outer), CGRect(10, 60, 20, 20));
 }
 
-TEST_F(ViewTest, PointsConvertBetweenWindowsByWhereTheyStandOnTheScreen) {
+TEST_F(ViewTest, PointsConvertBetweenWindowsThroughTheScreen) {
   const UIWindow other = UIWindow::alloc().initWithFrame({0, -100, 375, 667}).autorelease();
   EXPECT_EQ(other.convertPointFromView({10, 20}, window), (CGPoint{10, 120}));
 }

@@ -42,7 +42,7 @@ class FourViewsTest : public ViewTreeTest {
   UIView views[4];
 };
 
-TEST_F(FourViewsTest, ViewsAndTheirLayersStandInTheSameOrder) {
+TEST_F(FourViewsTest, ViewsAndTheirLayersAreInTheSameOrder) {
   auto& [a, b, c, d] = views;
   expect_order({a, b, c});
   parent.insertSubview(d, 1);
@@ -81,7 +81,7 @@ TEST_F(FourViewsTest, ViewsAreFoundByTagDownTheTree) {
   EXPECT_FALSE(window.viewWithTag(8));
 }
 
-TEST_F(ViewTreeTest, AViewHearsOfItsWayInAndOut) {
+TEST_F(ViewTreeTest, AViewIsToldWhenItEntersAndLeaves) {
   const auto view = RecordingView::make("view", {0, 0, 10, 10});
   window.addSubview(view);
   EXPECT_EQ(told(), (Events{"view will enter window", "view will enter view", "view entered window",
@@ -93,7 +93,7 @@ TEST_F(ViewTreeTest, AViewHearsOfItsWayInAndOut) {
   EXPECT_FALSE(view.window());
 }
 
-TEST_F(ViewTreeTest, ASuperviewKeepsItsSubviewsAndLetsThemGo) {
+TEST_F(ViewTreeTest, ASuperviewRetainsItsSubviewsAndReleasesThem) {
   const UIView parent = UIView::alloc().initWithFrame({});
   const UIView child = UIView::alloc().initWithFrame({});
   const NSUInteger before = child.retainCount();

@@ -34,7 +34,7 @@ TEST_F(WindowTest, IsHiddenUntilItIsShown) {
   EXPECT_EQ(uikit::visible_windows(), (std::vector<UIWindow>{window, other.get()}));
 }
 
-TEST_F(WindowTest, StandsByItsLevelAndThenByWhenItWasShown) {
+TEST_F(WindowTest, IsOrderedByLevelAndThenByWhenItWasShown) {
   const auto high = make_window(UIWindowLevelStatusBar + 527);
   const auto alert = make_window(UIWindowLevelAlert);
   const auto plain = make_window(UIWindowLevelNormal);
@@ -49,7 +49,7 @@ TEST_F(WindowTest, StandsByItsLevelAndThenByWhenItWasShown) {
   EXPECT_EQ(uikit::visible_windows()[0], alert.get());
 }
 
-TEST_F(WindowTest, IsForgottenWhenItIsGone) {
+TEST_F(WindowTest, IsForgottenWhenItIsReleased) {
   {
     const auto other = make_window(0);
     other->makeKeyAndVisible();
@@ -80,7 +80,7 @@ TEST_F(WindowTest, IsAskedOnceWhetherItIsSecureWhenFirstShown) {
   EXPECT_FALSE(window._isSecure());
 }
 
-TEST_F(WindowTest, TheRootControllersViewFillsItFromBelow) {
+TEST_F(WindowTest, TheRootControllersViewFillsItBelowOtherViews) {
   const UIView present = add_view({0, 0, 10, 10});
   const auto controller = objc::Ref<UIViewController>::adopt(UIViewController::alloc().init());
   window.setRootViewController(controller.get());
@@ -136,13 +136,13 @@ class ApplicationTest : public WindowTest {
   UIApplication application;
 };
 
-TEST_F(ApplicationTest, IsSharedAndHearsThatItHasLaunched) {
+TEST_F(ApplicationTest, IsSharedAndIsToldThatItHasLaunched) {
   EXPECT_EQ(UIApplication::sharedApplication(), application);
   EXPECT_EQ(told(), Events{"launched"});
   EXPECT_FALSE(uikit::launch_application("NoSuchApplication"));
 }
 
-TEST_F(ApplicationTest, AnActionForNobodyClimbsTheResponderChain) {
+TEST_F(ApplicationTest, AnActionWithoutATargetClimbsTheResponderChain) {
   told();
   const UIView view = add_view({0, 0, 10, 10});
   EXPECT_TRUE(application.sendAction("press"_sel, nil, view, nil));
@@ -172,7 +172,7 @@ TEST_F(ApplicationTest, KnowsItsWindowsAndItsStatusBar) {
   EXPECT_EQ(UIScreen::mainScreen().applicationFrame(), kScreen);
 }
 
-TEST_F(WindowTest, ScreenAndDeviceAreThoseOfTheChosenModel) {
+TEST_F(WindowTest, ScreenAndDeviceMatchTheChosenModel) {
   const DeviceModel before = current_device();
   set_current_device(*device_model("iPad4,1"));
   EXPECT_EQ(UIScreen::mainScreen().bounds(), CGRect(0, 0, 768, 1024));
