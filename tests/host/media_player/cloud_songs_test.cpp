@@ -11,10 +11,10 @@ using host::test::text;
 using host::test::titles;
 using testing::ElementsAre;
 
-// Between Bravo and Charlie stands a song of the cloud.
-class SongsOfTheCloud : public host::test::MediaPlayerTest {
+// With a song from the cloud between Bravo and Charlie.
+class LibraryCloudSongs : public host::test::MediaPlayerTest {
  protected:
-  SongsOfTheCloud() {
+  LibraryCloudSongs() {
     media_tests::write_bytes(folder_ / "music/far.png",
                              media_tests::as_text(media_tests::png_picture(8, 8, 0x00ff00)));
     media_tests::write_bytes(song_path("c.cloud.toml"),
@@ -34,7 +34,7 @@ class SongsOfTheCloud : public host::test::MediaPlayerTest {
   }
 };
 
-TEST_F(SongsOfTheCloud, StandInEveryQueryAndSayWhatTheyAre) {
+TEST_F(LibraryCloudSongs, AreInEveryQueryAndMarkedAsCloudSongs) {
   const MPMediaQuery all = MPMediaQuery::alloc().init().autorelease();
   EXPECT_THAT(titles(all.items()), ElementsAre("Alpha", "Bravo", "Brume", "Charlie", "Delta"));
   const MPMediaItem brume = item("Brume");
@@ -54,18 +54,18 @@ TEST_F(SongsOfTheCloud, StandInEveryQueryAndSayWhatTheyAre) {
               ElementsAre("Brume"));
 }
 
-TEST_F(SongsOfTheCloud, ArePassedOverOnTheWayForthAndBack) {
+TEST_F(LibraryCloudSongs, AreSkippedInBothDirections) {
   play("Bravo");
   const media_tests::CapturedLog log;
   media().changeTrack(1);
   EXPECT_EQ(current_title(), "Charlie");
-  EXPECT_EQ(sounding_path(), song_path("c.ogg"));
+  EXPECT_EQ(engine_path(), song_path("c.ogg"));
   EXPECT_EQ(log.count("\"Brume\" is only in the cloud; it is passed over"), 1);
   media().changeTrack(-1);
   EXPECT_EQ(current_title(), "Bravo");
 }
 
-TEST_F(SongsOfTheCloud, GiveTheirTurnToTheNextWhenTheyAreChosen) {
+TEST_F(LibraryCloudSongs, AreReplacedByTheNextSongWhenChosen) {
   const media_tests::CapturedLog log;
   play("Brume");
   EXPECT_EQ(current_title(), "Charlie");
@@ -73,7 +73,7 @@ TEST_F(SongsOfTheCloud, GiveTheirTurnToTheNextWhenTheyAreChosen) {
   EXPECT_EQ(log.count("is only in the cloud"), 1);
 }
 
-TEST_F(SongsOfTheCloud, AChosenSongThatIsRemovedMeanwhileIsSaidAndPassedOver) {
+TEST_F(LibraryCloudSongs, AChosenSongThatWasRemovedIsLoggedAndSkipped) {
   play("Alpha");
   const auto bravo = objc::Ref<MPMediaItem>::retain(item("Bravo"));
   std::filesystem::remove(song_path("b.flac"));
@@ -90,7 +90,7 @@ TEST_F(SongsOfTheCloud, AChosenSongThatIsRemovedMeanwhileIsSaidAndPassedOver) {
   EXPECT_EQ(current_title(), "Alpha");
 }
 
-TEST_F(SongsOfTheCloud, AFileThatVanishesUnderTheQueueIsPassedOverWithALine) {
+TEST_F(LibraryCloudSongs, AQueuedFileThatVanishesIsLoggedAndSkipped) {
   play("Alpha");
   std::filesystem::remove(song_path("b.flac"));
   const media_tests::CapturedLog log;

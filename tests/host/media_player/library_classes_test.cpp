@@ -30,11 +30,11 @@ class MediaLibraryClasses : public host::test::MediaPlayerTest {
   objc::Ref<MPMediaQuery> query_;
 };
 
-TEST_F(MediaLibraryClasses, AQueryWithoutPredicatesHoldsAllSongsInTheOrderOfTheLibrary) {
+TEST_F(MediaLibraryClasses, AQueryWithoutPredicatesReturnsAllSongsInLibraryOrder) {
   EXPECT_THAT(titles(query_->items()), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
 }
 
-TEST_F(MediaLibraryClasses, TheItemOfASongIsOneObjectHoweverItIsFound) {
+TEST_F(MediaLibraryClasses, ASongHasOneItemHoweverItIsFound) {
   const MPMediaItem bravo = item("Bravo");
   EXPECT_EQ(query_->items().objectAtIndex(1), bravo);
   EXPECT_EQ(found("Bravo"_ns, MPMediaItemPropertyTitle).objectAtIndex(0), bravo);
@@ -60,12 +60,12 @@ TEST_F(MediaLibraryClasses, AnItemAnswersEveryProperty) {
             number(item("Charlie"), MPMediaItemPropertyAlbumPersistentID));
 }
 
-TEST_F(MediaLibraryClasses, APropertyIsKnownByItsTextAsWell) {
+TEST_F(MediaLibraryClasses, APropertyIsAlsoFoundByAnEqualString) {
   const NSString spelt = NSString::stringWithUTF8String("albumTitle");
   EXPECT_EQ(text(item("Charlie").valueForProperty(spelt)), "Two");
 }
 
-TEST_F(MediaLibraryClasses, WhatASongDoesNotHaveIsNil) {
+TEST_F(MediaLibraryClasses, APropertyThatASongLacksIsNil) {
   const MPMediaItem delta = item("Delta");
   EXPECT_FALSE(delta.valueForProperty(MPMediaItemPropertyArtist));
   EXPECT_FALSE(delta.valueForProperty(MPMediaItemPropertyAlbumTitle));
@@ -73,7 +73,7 @@ TEST_F(MediaLibraryClasses, WhatASongDoesNotHaveIsNil) {
   EXPECT_FALSE(delta.valueForProperty("no such property"_ns));
 }
 
-TEST_F(MediaLibraryClasses, AnAlbumIsFoundByItsIdentifierWrittenOutAsText) {
+TEST_F(MediaLibraryClasses, AnAlbumIsFoundByItsIdentifierAsDecimalDigits) {
   const auto album =
       objc::cast<NSNumber>(item("Alpha").valueForProperty(MPMediaItemPropertyAlbumPersistentID));
   EXPECT_THAT(titles(found(album.stringValue(), MPMediaItemPropertyAlbumPersistentID)),
@@ -82,7 +82,7 @@ TEST_F(MediaLibraryClasses, AnAlbumIsFoundByItsIdentifierWrittenOutAsText) {
               ElementsAre("Alpha", "Bravo"));
 }
 
-TEST_F(MediaLibraryClasses, TheSongsOfAnAlbumComeInTheOrderOfTheLibrary) {
+TEST_F(MediaLibraryClasses, TheSongsOfAnAlbumAreInLibraryOrder) {
   host::media::SongTags last;
   last.title = "Aardvark";
   last.artist = "Xenia";
@@ -95,7 +95,7 @@ TEST_F(MediaLibraryClasses, TheSongsOfAnAlbumComeInTheOrderOfTheLibrary) {
               ElementsAre("Aardvark", "Alpha", "Bravo"));
 }
 
-TEST_F(MediaLibraryClasses, ATextThatIsNoWholeNumberIdentifiesNothing) {
+TEST_F(MediaLibraryClasses, ATextThatIsNotAWholeNumberIdentifiesNothing) {
   const auto number =
       objc::cast<NSNumber>(item("Alpha").valueForProperty(MPMediaItemPropertyAlbumPersistentID));
   for (const char* more : {" ", ".0", "x"}) {
@@ -121,7 +121,7 @@ TEST_F(MediaLibraryClasses, AnAlbumOrASongHasToSatisfyTheOtherPredicatesToo) {
   EXPECT_THAT(both(MPMediaItemPropertyPersistentID, "Alpha"), ElementsAre());
 }
 
-TEST_F(MediaLibraryClasses, TextsAndNumbersOfAnItemAreMadeOnce) {
+TEST_F(MediaLibraryClasses, TextsAndNumbersOfAnItemAreCreatedOnce) {
   const MPMediaItem alpha = item("Alpha");
   for (const NSString property :
        {MPMediaItemPropertyTitle, MPMediaItemPropertyArtist, MPMediaItemPropertyAlbumTitle,
@@ -133,7 +133,7 @@ TEST_F(MediaLibraryClasses, TextsAndNumbersOfAnItemAreMadeOnce) {
             item("Bravo").valueForProperty(MPMediaItemPropertyAlbumTitle));
 }
 
-TEST_F(MediaLibraryClasses, SongsOfOneTitleShareTheText) {
+TEST_F(MediaLibraryClasses, SongsWithEqualTitlesShareTheText) {
   add_song("e.flac", "Alpha");
   start();
   const NSArray songs = query_->items();
@@ -152,11 +152,11 @@ TEST_F(MediaLibraryClasses, ASongHasToSatisfyEveryPredicate) {
   EXPECT_THAT(titles(query.items()), ElementsAre("Bravo"));
 }
 
-TEST_F(MediaLibraryClasses, NothingIsFoundByAPropertyThatTellsNoSongsApart) {
+TEST_F(MediaLibraryClasses, NothingIsFoundByAPropertyThatDoesNotIdentifySongs) {
   EXPECT_EQ(found("8"_ns, MPMediaItemPropertyPlaybackDuration).count(), 0u);
 }
 
-TEST_F(MediaLibraryClasses, TheArtworkKeepsItsShapeAndFitsTheSizeAskedFor) {
+TEST_F(MediaLibraryClasses, TheArtworkKeepsItsAspectRatioAndFitsTheRequestedSize) {
   const auto artwork =
       objc::cast<MPMediaItemArtwork>(item("Alpha").valueForProperty(MPMediaItemPropertyArtwork));
   const UIImage picture = artwork.imageWithSize({16, 16});
@@ -180,14 +180,14 @@ TEST_F(MediaLibraryClasses, TheSameCoverAtTheSameSizeIsOneObject) {
   EXPECT_NE(image({16, 16}), image({8, 8}));
 }
 
-TEST_F(MediaLibraryClasses, ASizeOfNothingHasNoPicture) {
+TEST_F(MediaLibraryClasses, AnEmptySizeHasNoImage) {
   const auto artwork =
       objc::cast<MPMediaItemArtwork>(item("Alpha").valueForProperty(MPMediaItemPropertyArtwork));
   EXPECT_FALSE(artwork.imageWithSize({0, 0}));
   EXPECT_FALSE(artwork.imageWithSize({-1, -1}));
 }
 
-TEST_F(MediaLibraryClasses, AQueryAnswersTheSameArrayUntilTheLibraryChanges) {
+TEST_F(MediaLibraryClasses, AQueryReturnsTheSameArrayUntilTheLibraryChanges) {
   const NSArray before = query_->items();
   EXPECT_EQ(query_->items(), before);
   add_song("e.flac", "Echo");
@@ -216,7 +216,7 @@ TEST_F(MediaLibraryClasses, WithoutTheServiceTheLibraryIsEmpty) {
   EXPECT_EQ(query_->items().count(), 0u);
 }
 
-TEST_F(MediaLibraryClasses, AnItemIsMadeOnlyWhenItIsAskedFor) {
+TEST_F(MediaLibraryClasses, AnItemIsCreatedOnFirstUse) {
   std::vector<host::media::SongRecord> songs(3);
   for (std::size_t i = 0; i < songs.size(); ++i) {
     songs[i].id = i + 1;

@@ -78,8 +78,8 @@ std::vector<std::string> random_texts(int count, std::uint32_t seed) {
   return made;
 }
 
-// Foundation itself raises an exception over a few marks that stand where no letter is: nothing
-// then.
+// Foundation itself raises an exception for some combining marks without a letter; the result is
+// then nothing.
 std::optional<std::pair<NSUInteger, NSUInteger>> range_in(NSString text, NSString wanted) {
   try {
     const NSRange range = text.rangeOfString(wanted);
@@ -94,7 +94,7 @@ class LibraryTexts : public host::test::HostTest {
   LibraryTexts() { host::media_player::export_media_player(); }
 };
 
-TEST_F(LibraryTexts, AreStringsOfFoundation) {
+TEST_F(LibraryTexts, AreFoundationStrings) {
   for (const std::string& text : texts()) {
     const NSString string = ours(text);
     ASSERT_TRUE(string.isKindOfClass(MPLibraryText::cls())) << text;
@@ -104,7 +104,7 @@ TEST_F(LibraryTexts, AreStringsOfFoundation) {
   }
 }
 
-TEST_F(LibraryTexts, HaveTheLettersOfAnOrdinaryString) {
+TEST_F(LibraryTexts, HaveTheCharactersOfAnOrdinaryString) {
   for (const std::string& text : texts()) {
     const NSString one = ours(text);
     const NSString other = ordinary(text);
@@ -112,7 +112,7 @@ TEST_F(LibraryTexts, HaveTheLettersOfAnOrdinaryString) {
     for (NSUInteger i = 0; i < one.length(); ++i)
       ASSERT_EQ(one.characterAtIndex(i), other.characterAtIndex(i)) << text << " at " << i;
     if (one.length() > 3) {
-      // Behind whole characters: half of one is no text.
+      // At the end of the first three characters, since half a character is not valid text.
       const NSRange third = one.rangeOfComposedCharacterSequenceAtIndex(2);
       const NSUInteger from = third.location + third.length;
       EXPECT_EQ(utf8(one.substringFromIndex(from)), utf8(other.substringFromIndex(from))) << text;
@@ -120,7 +120,7 @@ TEST_F(LibraryTexts, HaveTheLettersOfAnOrdinaryString) {
   }
 }
 
-TEST_F(LibraryTexts, AreEqualToOrdinaryOnesBothWaysWithTheSameHash) {
+TEST_F(LibraryTexts, AreEqualToOrdinaryStringsBothWaysWithTheSameHash) {
   auto all = texts();
   for (auto& made : random_texts(60, 1))
     all.push_back(std::move(made));
@@ -145,7 +145,7 @@ TEST_F(LibraryTexts, AreEqualToOrdinaryOnesBothWaysWithTheSameHash) {
   EXPECT_FALSE(ours("a").isEqual(NSArray::array()));
 }
 
-TEST_F(LibraryTexts, AreLoweredAsFoundationLowersOnceAndForAll) {
+TEST_F(LibraryTexts, AreLowercasedLikeFoundationAndOnlyOnce) {
   auto all = texts();
   for (auto& made : random_texts(200, 2))
     all.push_back(std::move(made));
@@ -161,7 +161,7 @@ TEST_F(LibraryTexts, AreLoweredAsFoundationLowersOnceAndForAll) {
   EXPECT_EQ(already.lowercaseString(), already);
 }
 
-TEST_F(LibraryTexts, ALoweredTextOutlivesItsTextToTheEndOfTheTurn) {
+TEST_F(LibraryTexts, ALowercaseTextOutlivesItsTextUntilTheTurnEnds) {
   const auto kept = std::make_shared<std::string>("Title");
   const NSString string = LibraryText::make(*kept, kept);
   const NSString lower = string.lowercaseString();
@@ -187,7 +187,7 @@ TEST_F(LibraryTexts, FindWhatAnOrdinaryStringFinds) {
   }
 }
 
-TEST_F(LibraryTexts, AreFoundThoughTheWantedTextChangesUnderWay) {
+TEST_F(LibraryTexts, AreSearchedForAMutableStringThatChangesMeanwhile) {
   const NSString title = ours("one two");
   const auto wanted = objc::cast<NSString>(
       objc::send<objc::Object>(objc::Object(objc_getClass("NSMutableString")),
@@ -197,7 +197,7 @@ TEST_F(LibraryTexts, AreFoundThoughTheWantedTextChangesUnderWay) {
   EXPECT_EQ(title.rangeOfString(wanted).location, 4u);
 }
 
-TEST_F(LibraryTexts, AreKeysAndMembersAsOrdinaryOnes) {
+TEST_F(LibraryTexts, AreKeysAndMembersLikeOrdinaryStrings) {
   const NSMutableDictionary by_name = NSMutableDictionary::dictionary();
   for (const std::string& text : texts())
     by_name.setObject(ours(text), ours(text));
@@ -231,7 +231,7 @@ TEST_F(LibraryTexts, AreJoinedSplitReplacedAndWrapped) {
   EXPECT_TRUE(ours("title").hasSuffix(ours("le")));
 }
 
-TEST_F(LibraryTexts, AreWrittenToAPropertyListAndReadAgain) {
+TEST_F(LibraryTexts, AreWrittenToAPropertyListAndReadBack) {
   const media_tests::TemporaryFolder folder;
   const NSString path = ordinary(folder / "texts.plist");
   const NSMutableDictionary list = NSMutableDictionary::dictionary();
@@ -244,13 +244,13 @@ TEST_F(LibraryTexts, AreWrittenToAPropertyListAndReadAgain) {
     EXPECT_EQ(utf8(objc::cast<NSString>(read.objectForKey(ordinary("key " + text)))), text);
 }
 
-TEST_F(LibraryTexts, NothingLiesBeyondTheirEnd) {
+TEST_F(LibraryTexts, AccessBeyondTheirEndRaises) {
   EXPECT_ANY_THROW(ours("abc").characterAtIndex(3));
   EXPECT_ANY_THROW(ours("éa").characterAtIndex(2));
   EXPECT_ANY_THROW(ours("abc").substringFromIndex(4));
 }
 
-TEST_F(LibraryTexts, BytesThatAreNoTextAreWhatFoundationMakesOfThem) {
+TEST_F(LibraryTexts, InvalidBytesBecomeWhatFoundationMakesOfThem) {
   for (const std::string text : {"\xff", "a\xc3", "\xed\xa0\x80", "\xc0\x80", "\xf4\x90\x80\x80"}) {
     const auto kept = std::make_shared<std::string>(text);
     EXPECT_EQ(utf8(LibraryText::make(*kept, kept)), utf8(ordinary(text)));

@@ -23,7 +23,7 @@ TEST_F(MediaController, ToggleWithNothingLoadedPlaysTheFirstSongOfTheLibrary) {
   EXPECT_FALSE(media().isPlaying());
   EXPECT_TRUE(media().togglePlayPause());
   EXPECT_TRUE(media().isPlaying());
-  EXPECT_EQ(sounding_path(), song_path("a.flac"));
+  EXPECT_EQ(engine_path(), song_path("a.flac"));
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Alpha");
   EXPECT_EQ(playing(MPMediaItemPropertyArtist), "Xenia");
   EXPECT_EQ(playing(MPMediaItemPropertyAlbumTitle), "One");
@@ -36,7 +36,7 @@ TEST_F(MediaController, TogglePausesAndPlaysWhatIsLoaded) {
   EXPECT_TRUE(media().isPaused());
   EXPECT_TRUE(is_engine_paused());
   EXPECT_TRUE(media().togglePlayPause());
-  EXPECT_EQ(sounding_path(), song_path("b.flac"));
+  EXPECT_EQ(engine_path(), song_path("b.flac"));
   EXPECT_FALSE(is_engine_paused());
 }
 
@@ -52,12 +52,12 @@ TEST_F(MediaController, ChangesTheTrackInBothDirections) {
   EXPECT_FALSE(media().changeTrack(1));
   play("Bravo");
   EXPECT_TRUE(media().changeTrack(1));
-  EXPECT_EQ(sounding_path(), song_path("c.ogg"));
+  EXPECT_EQ(engine_path(), song_path("c.ogg"));
   EXPECT_TRUE(media().changeTrack(-1));
-  EXPECT_EQ(sounding_path(), song_path("b.flac"));
+  EXPECT_EQ(engine_path(), song_path("b.flac"));
 }
 
-TEST_F(MediaController, EveryChangeOfVolumeIsToldToItself) {
+TEST_F(MediaController, EveryVolumeChangeIsReportedToItself) {
   SystemListener listener;
   advance(0.1);
   listener.volumes.clear();
@@ -69,7 +69,7 @@ TEST_F(MediaController, EveryChangeOfVolumeIsToldToItself) {
   EXPECT_THAT(listener.volumes, ElementsAre(FloatNear(0.25F, 1e-6F), FloatNear(0.75F, 1e-6F)));
 }
 
-TEST_F(MediaController, TheVolumeStaysBetweenSilenceAndFull) {
+TEST_F(MediaController, TheVolumeIsClamped) {
   media().setVolume(0.9F);
   media()._changeVolumeBy(0.5F);
   EXPECT_EQ(media().volume(), 1);
@@ -77,7 +77,7 @@ TEST_F(MediaController, TheVolumeStaysBetweenSilenceAndFull) {
   EXPECT_EQ(media().volume(), 0);
 }
 
-TEST_F(MediaController, AtTheLoudestAStepUpIsNoNews) {
+TEST_F(MediaController, AtFullVolumeAStepUpIsNotReported) {
   media().setVolume(1);
   advance(0.1);
   SystemListener listener;
@@ -86,7 +86,7 @@ TEST_F(MediaController, AtTheLoudestAStepUpIsNoNews) {
   EXPECT_THAT(listener.volumes, ElementsAre());
 }
 
-TEST_F(MediaController, WithoutTheServiceEverythingIsStill) {
+TEST_F(MediaController, WithoutTheServiceNothingPlays) {
   host::media_player::MediaService::stop();
   EXPECT_FALSE(media().togglePlayPause());
   EXPECT_FALSE(media().isPlaying());

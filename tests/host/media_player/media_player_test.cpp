@@ -96,7 +96,7 @@ void MediaPlayerTest::add_song(const std::string& file, const char* title) const
   media_tests::write_song(song_path(file), tags(title, "Zoe", "Three", 1));
 }
 
-std::string MediaPlayerTest::sounding_path() const {
+std::string MediaPlayerTest::engine_path() const {
   return text(objc::send<NSString>(media(), "_playerPath"_sel));
 }
 
@@ -104,7 +104,7 @@ bool MediaPlayerTest::is_engine_paused() const {
   return objc::send<BOOL>(media(), "_playerIsPaused"_sel) != NO;
 }
 
-double MediaPlayerTest::sounding_position() const {
+double MediaPlayerTest::engine_position() const {
   return objc::send<double>(media(), "_playerPosition"_sel);
 }
 

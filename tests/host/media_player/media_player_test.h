@@ -14,13 +14,13 @@ namespace host::test {
 
 /// The media classes over four real songs, on a clock that the test steps:
 /// Alpha and Bravo by Xenia on "One" (8 and 20 seconds, Alpha with a red cover 64 by 32), Charlie
-/// by Yves on "Two", and Delta, which has a title and nothing else.
+/// by Yves on "Two", and Delta, which has only a title.
 class MediaPlayerTest : public HostTest {
  protected:
   MediaPlayerTest();
   ~MediaPlayerTest() override;
 
-  /// Starts the service, or starts it again as another process would.
+  /// Starts the service, or restarts it as another process would.
   void start();
   media_player::MediaOptions options() const;
 
@@ -32,12 +32,12 @@ class MediaPlayerTest : public HostTest {
   SBMediaController media() const { return SBMediaController::sharedInstance(); }
   MPMusicPlayerController player() const { return MPMusicPlayerController::iPodMusicPlayer(); }
   MPUNowPlayingController now_playing() const { return now_playing_.get(); }
-  /// A property of the item that plays, empty where there is none.
+  /// Returns a property of the playing item; empty when it is missing.
   std::string playing(NSString property) const;
-  /// What the playing engine says of itself, empty when it holds nothing.
-  std::string sounding_path() const;
+  /// Returns the path that the playing engine reports; empty when nothing is loaded.
+  std::string engine_path() const;
   bool is_engine_paused() const;
-  double sounding_position() const;
+  double engine_position() const;
 
   media_tests::TemporaryFolder folder_;
 
@@ -48,8 +48,8 @@ class MediaPlayerTest : public HostTest {
 std::string text(objc::Object string);
 std::vector<std::string> titles(NSArray items);
 
-/// Hears the two messages that the system sends of its own accord, in place of whoever answered
-/// them before.
+/// Receives the two messages that the system sends on its own, in place of their previous
+/// receivers.
 class SystemListener {
  public:
   SystemListener();

@@ -18,21 +18,21 @@ class MusicPlayer : public host::test::MediaPlayerTest {
 TEST_F(MusicPlayer, NothingPlaysAtFirst) {
   EXPECT_FALSE(player().nowPlayingItem());
   EXPECT_EQ(player().playbackState(), MPMusicPlaybackStateStopped);
-  EXPECT_EQ(sounding_path(), "");
+  EXPECT_EQ(engine_path(), "");
 }
 
 TEST_F(MusicPlayer, TheChosenSongIsWhatTheEnginePlays) {
   play("Bravo");
   EXPECT_EQ(current_title(), "Bravo");
   EXPECT_EQ(player().playbackState(), MPMusicPlaybackStatePlaying);
-  EXPECT_EQ(sounding_path(), song_path("b.flac"));
+  EXPECT_EQ(engine_path(), song_path("b.flac"));
   EXPECT_FALSE(is_engine_paused());
   advance(2);
   EXPECT_NEAR(player().currentPlaybackTime(), 2, 1e-6);
-  EXPECT_NEAR(sounding_position(), 2, 0.002);
+  EXPECT_NEAR(engine_position(), 2, 0.002);
 }
 
-TEST_F(MusicPlayer, PauseKeepsThePlaceAndPlayGoesOn) {
+TEST_F(MusicPlayer, PauseKeepsThePositionAndPlayContinues) {
   play("Bravo");
   advance(2);
   player().pause();
@@ -47,33 +47,33 @@ TEST_F(MusicPlayer, PauseKeepsThePlaceAndPlayGoesOn) {
 TEST_F(MusicPlayer, NextAndPreviousGoThroughTheQueue) {
   play("Bravo");
   media().changeTrack(1);
-  EXPECT_EQ(sounding_path(), song_path("c.ogg"));
+  EXPECT_EQ(engine_path(), song_path("c.ogg"));
   media().changeTrack(-1);
   media().changeTrack(-1);
-  EXPECT_EQ(sounding_path(), song_path("a.flac"));
+  EXPECT_EQ(engine_path(), song_path("a.flac"));
   EXPECT_EQ(current_title(), "Alpha");
 }
 
-TEST_F(MusicPlayer, ASongEndsAtItsOwnTimeThoughNothingElseRuns) {
+TEST_F(MusicPlayer, ASongEndsInTimeEvenWhenNothingElseRuns) {
   play("Alpha");
   advance(7.5);
   EXPECT_EQ(current_title(), "Alpha");
   advance(1);
   EXPECT_EQ(current_title(), "Bravo");
-  EXPECT_EQ(sounding_path(), song_path("b.flac"));
+  EXPECT_EQ(engine_path(), song_path("b.flac"));
   EXPECT_NEAR(player().currentPlaybackTime(), 0.5, 0.05);
 }
 
-TEST_F(MusicPlayer, SeekingMovesWhatSounds) {
+TEST_F(MusicPlayer, SeekingMovesThePlayback) {
   play("Bravo");
   player().setCurrentPlaybackTime(12.5);
-  EXPECT_NEAR(sounding_position(), 12.5, 0.002);
+  EXPECT_NEAR(engine_position(), 12.5, 0.002);
 }
 
 TEST_F(MusicPlayer, PreparingLoadsTheFirstSongWithoutPlayingIt) {
   player().setQueueWithQuery(MPMediaQuery::alloc().init().autorelease());
   player().prepareToPlay();
-  EXPECT_EQ(sounding_path(), song_path("a.flac"));
+  EXPECT_EQ(engine_path(), song_path("a.flac"));
   EXPECT_TRUE(is_engine_paused());
   EXPECT_EQ(player().playbackState(), MPMusicPlaybackStateStopped);
 }
@@ -92,10 +92,10 @@ TEST_F(MusicPlayer, StoppingUnloadsTheSong) {
   play("Bravo");
   player().stop();
   EXPECT_FALSE(player().nowPlayingItem());
-  EXPECT_EQ(sounding_path(), "");
+  EXPECT_EQ(engine_path(), "");
 }
 
-TEST_F(MusicPlayer, EveryChangeOfStateIsSentToThePlayer) {
+TEST_F(MusicPlayer, EveryStateChangeIsSentToThePlayer) {
   SystemListener listener;
   play("Bravo");
   EXPECT_THAT(listener.states, ElementsAre());
@@ -112,7 +112,7 @@ TEST_F(MusicPlayer, EveryChangeOfStateIsSentToThePlayer) {
   EXPECT_THAT(listener.states, ElementsAre(1, 2, 0));
 }
 
-TEST_F(MusicPlayer, ASongThatCannotBePlayedIsPassedOver) {
+TEST_F(MusicPlayer, ASongThatCannotBePlayedIsSkipped) {
   media_tests::write_bytes(song_path("b.flac"), "no music any more");
   play("Bravo");
   advance(0.1);

@@ -23,7 +23,7 @@ TEST_F(NowPlaying, IsNothingWhenNothingIsLoaded) {
   EXPECT_EQ(now_playing().currentDuration(), 0);
 }
 
-TEST_F(NowPlaying, TellsTheTextsOfTheSong) {
+TEST_F(NowPlaying, ContainsTheTextsOfTheSong) {
   play("Charlie");
   EXPECT_EQ(info("kMRMediaRemoteNowPlayingInfoTitle"_ns), "Charlie");
   EXPECT_EQ(info("kMRMediaRemoteNowPlayingInfoArtist"_ns), "Yves");
@@ -31,12 +31,12 @@ TEST_F(NowPlaying, TellsTheTextsOfTheSong) {
   EXPECT_NEAR(now_playing().currentDuration(), 20, 0.1);
 }
 
-TEST_F(NowPlaying, LeavesOutWhatTheSongDoesNotSay) {
+TEST_F(NowPlaying, LeavesOutWhatTheSongLacks) {
   play("Delta");
   EXPECT_EQ(now_playing().currentNowPlayingInfo().count(), 1u);
 }
 
-TEST_F(NowPlaying, TheArtworkIsOneImageForAsLongAsTheSongPlays) {
+TEST_F(NowPlaying, TheArtworkIsOneImageWhileTheSongPlays) {
   play("Alpha");
   const UIImage artwork = now_playing().currentNowPlayingArtwork();
   ASSERT_TRUE(artwork);
@@ -47,7 +47,7 @@ TEST_F(NowPlaying, TheArtworkIsOneImageForAsLongAsTheSongPlays) {
   EXPECT_FALSE(now_playing().currentNowPlayingArtwork());
 }
 
-TEST_F(NowPlaying, TheElapsedTimeStandsWhileTheSongJustPlays) {
+TEST_F(NowPlaying, TheElapsedTimeDoesNotChangeWithoutAReport) {
   play("Bravo");
   const double reported = now_playing().currentElapsed();
   EXPECT_NEAR(reported, 0, kTold);
@@ -61,7 +61,7 @@ TEST_F(NowPlaying, ASeekIsReported) {
   EXPECT_NEAR(now_playing().currentElapsed(), 7, kTold);
 }
 
-TEST_F(NowPlaying, AResumeIsReportedThoughThePlaceIsTheSame) {
+TEST_F(NowPlaying, AResumeIsReportedAtTheSamePosition) {
   play("Bravo");
   advance(6);
   player().pause();
@@ -74,12 +74,12 @@ TEST_F(NowPlaying, AResumeIsReportedThoughThePlaceIsTheSame) {
   EXPECT_NE(now_playing().currentElapsed(), paused);
 }
 
-TEST_F(NowPlaying, TheFirstSongIsNewsComparedWithNothing) {
+TEST_F(NowPlaying, TheFirstSongIsReported) {
   play("Bravo");
   EXPECT_NE(now_playing().currentElapsed(), 0);
 }
 
-TEST_F(NowPlaying, ANewSongIsNewsThoughBothBeginAtTheirStart) {
+TEST_F(NowPlaying, ANewSongIsReportedEvenAtTheSamePosition) {
   play("Alpha");
   const double alpha = now_playing().currentElapsed();
   media().changeTrack(1);

@@ -23,7 +23,7 @@ class PlaybackMemory : public host::test::MediaPlayerTest {
   }
 };
 
-TEST_F(PlaybackMemory, KeepsWhatItWasGiven) {
+TEST_F(PlaybackMemory, KeepsWhatWasWritten) {
   RememberedPlayback kept;
   kept.queue = {0x7fffffffffffffff, 2};
   kept.song = 0x7fffffffffffffff;
@@ -38,7 +38,7 @@ TEST_F(PlaybackMemory, KeepsWhatItWasGiven) {
   EXPECT_EQ(read.volume, 0.5);
 }
 
-TEST_F(PlaybackMemory, ADamagedFileIsAsNone) {
+TEST_F(PlaybackMemory, ADamagedFileCountsAsMissing) {
   for (const char* bytes : {"", "this is no property list", "(1, 2)",
                             "{song = (1); position = x; volume = {}; queue = 3;}"}) {
     leave(bytes);
@@ -50,12 +50,12 @@ TEST_F(PlaybackMemory, ADamagedFileIsAsNone) {
   }
 }
 
-TEST_F(PlaybackMemory, AFolderInItsPlaceIsAsNone) {
+TEST_F(PlaybackMemory, AFolderInItsPlaceCountsAsMissing) {
   std::filesystem::create_directories(file());
   EXPECT_EQ(read_playback(file()).song, 0u);
 }
 
-TEST_F(PlaybackMemory, TheSongGoesOnPausedAfterARestart) {
+TEST_F(PlaybackMemory, TheSongIsPausedAtItsPositionAfterARestart) {
   start();
   play("Bravo");
   media().setVolume(0.25F);
@@ -64,7 +64,7 @@ TEST_F(PlaybackMemory, TheSongGoesOnPausedAfterARestart) {
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Bravo");
   EXPECT_TRUE(media().isPaused());
   EXPECT_TRUE(is_engine_paused());
-  EXPECT_NEAR(sounding_position(), 5, 0.01);
+  EXPECT_NEAR(engine_position(), 5, 0.01);
   EXPECT_FLOAT_EQ(media().volume(), 0.25F);
   media().togglePlayPause();
   media().changeTrack(1);
@@ -79,7 +79,7 @@ TEST_F(PlaybackMemory, IsWrittenWhileTheProcessLives) {
   EXPECT_FALSE(read_playback(file()).queue);
 }
 
-TEST_F(PlaybackMemory, AQueueOfItsOwnIsKept) {
+TEST_F(PlaybackMemory, ACustomQueueIsKept) {
   start();
   const MPMediaQuery query = MPMediaQuery::alloc().init().autorelease();
   query.addFilterPredicate(

@@ -71,7 +71,7 @@ class PromisedCovers : public host::test::MediaPlayerTest {
   objc::Ref<CALayer> root_;
 };
 
-TEST_F(PromisedCovers, AskingForAPictureDecodesNothingUntilItIsDrawn) {
+TEST_F(PromisedCovers, RequestingAnImageDecodesNothingUntilItIsDrawn) {
   start();
   const UIImage image = cover_of(item("Alpha"), 16);
   EXPECT_EQ(image.size().width, 16);
@@ -100,7 +100,7 @@ TEST_F(PromisedCovers, HaveThePixelsOfThePictureDecodedAtOnce) {
   CFRelease(data);
 }
 
-TEST_F(PromisedCovers, StayWithinTheirBytesAndAreDecodedAgain) {
+TEST_F(PromisedCovers, StayWithinTheirMemoryLimitAndAreDecodedAgain) {
   constexpr int covers = 12;
   for (int i = 0; i < covers; ++i) {
     host::media::SongTags tags;
@@ -129,7 +129,7 @@ TEST_F(PromisedCovers, StayWithinTheirBytesAndAreDecodedAgain) {
   EXPECT_EQ(images().decode_count(), static_cast<std::size_t>(covers) + 1);
 }
 
-TEST_F(PromisedCovers, ThatTurnOutBrokenShowWhatLiesBehindAndAreSaidOnce) {
+TEST_F(PromisedCovers, BrokenOnesShowWhatIsBehindAndAreLoggedOnce) {
   media_tests::write_bytes(folder_ / "music/cover.jpg",
                            media_tests::as_text(media_tests::jpeg_picture(64, 64, 0xff)));
   start();
@@ -147,7 +147,7 @@ TEST_F(PromisedCovers, ThatTurnOutBrokenShowWhatLiesBehindAndAreSaidOnce) {
   EXPECT_EQ(log.count("cover.jpg cannot be shown"), 1);
 }
 
-TEST_F(PromisedCovers, KeepTheirPromisedShapeThoughTheFileIsExchanged) {
+TEST_F(PromisedCovers, KeepTheirAspectRatioWhenTheFileIsReplaced) {
   media_tests::write_bytes(folder_ / "music/cover.jpg",
                            media_tests::as_text(media_tests::jpeg_picture(64, 64, 0xff)));
   start();
@@ -159,7 +159,7 @@ TEST_F(PromisedCovers, KeepTheirPromisedShapeThoughTheFileIsExchanged) {
   CFRelease(data);
 }
 
-TEST_F(PromisedCovers, OutliveTheMusicThatTheyCameFrom) {
+TEST_F(PromisedCovers, OutliveTheirMediaService) {
   start();
   const auto image = objc::Ref<UIImage>::retain(cover_of(item("Alpha"), 16));
   MediaService::stop();
@@ -182,7 +182,7 @@ TEST_F(PromisedCovers, InRealTimeAFrameDoesNotWaitAndTheLayerIsRepaintedOnce) {
   EXPECT_EQ(draw(), 0u);
 }
 
-TEST_F(PromisedCovers, InRealTimeTheBytesThemselvesAreWaitedFor) {
+TEST_F(PromisedCovers, InRealTimeAReadOfTheBytesWaits) {
   start_in_real_time();
   const UIImage image = cover_of(item("Alpha"), 16);
   const auto data = CGDataProviderCopyData(CGImageGetDataProvider(image.CGImage()));
@@ -190,7 +190,7 @@ TEST_F(PromisedCovers, InRealTimeTheBytesThemselvesAreWaitedFor) {
   CFRelease(data);
 }
 
-TEST_F(PromisedCovers, InRealTimeTheSongsOwnIsUnderWayBeforeItIsDrawnAndStays) {
+TEST_F(PromisedCovers, InRealTimeTheSongsCoverIsPrefetchedAndKept) {
   start_in_real_time();
   play("Alpha");
   ASSERT_TRUE(now_playing().currentNowPlayingArtwork());
@@ -200,7 +200,7 @@ TEST_F(PromisedCovers, InRealTimeTheSongsOwnIsUnderWayBeforeItIsDrawnAndStays) {
   EXPECT_NEAR(pixel_in_the_middle() >> 16, 0xff, 3);
 }
 
-TEST_F(PromisedCovers, StoppingWithPicturesUnderWayLosesNone) {
+TEST_F(PromisedCovers, StoppingDuringDecodingLosesNoPicture) {
   start_in_real_time();
   show(cover_of(item("Alpha"), 16));
   draw();

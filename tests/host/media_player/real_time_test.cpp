@@ -19,9 +19,9 @@ using testing::ElementsAre;
 
 constexpr int kLongestWaitMilliseconds = 60'000;
 
-// The library while its files are read beside the screen; the test waits for its news as the
+// The library while its files are scanned in the background; the test waits for updates as the
 // screen does.
-class MusicBesideTheScreen : public host::test::MediaPlayerTest {
+class RealTimeMusic : public host::test::MediaPlayerTest {
  protected:
   MediaOptions beside() {
     MediaOptions options = this->options();
@@ -49,7 +49,7 @@ class MusicBesideTheScreen : public host::test::MediaPlayerTest {
   std::vector<MediaProgress> news_;
 };
 
-TEST_F(MusicBesideTheScreen, TheSongsOfTheFirstScanComeWhenItIsOver) {
+TEST_F(RealTimeMusic, TheSongsOfTheFirstScanArriveWhenItIsOver) {
   ASSERT_FALSE(MediaService::start(beside()));
   wait_until_ready();
   EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
@@ -57,7 +57,7 @@ TEST_F(MusicBesideTheScreen, TheSongsOfTheFirstScanComeWhenItIsOver) {
   EXPECT_EQ(news_.back().songs, 4u);
 }
 
-TEST_F(MusicBesideTheScreen, WhatTheLastScanLeftIsThereAtOnceAndWhatIsNewComesLater) {
+TEST_F(RealTimeMusic, TheLastScanIsAvailableAtOnceAndNewSongsFollow) {
   ASSERT_FALSE(MediaService::start(options()));
   add_song("e.flac", "Echo");
   ASSERT_FALSE(MediaService::start(beside()));
@@ -66,7 +66,7 @@ TEST_F(MusicBesideTheScreen, WhatTheLastScanLeftIsThereAtOnceAndWhatIsNewComesLa
   EXPECT_THAT(songs(), Contains("Echo"));
 }
 
-TEST_F(MusicBesideTheScreen, TheDemoMusicIsMadeOnceAndItsCountIsTold) {
+TEST_F(RealTimeMusic, TheDemoMusicIsMadeOnceAndItsProgressIsReported) {
   MediaOptions options = beside();
   options.music_folders.clear();
   options.demo = {folder_ / "demo-music", folder_ / "no-covers"};
@@ -86,7 +86,7 @@ TEST_F(MusicBesideTheScreen, TheDemoMusicIsMadeOnceAndItsCountIsTold) {
   EXPECT_TRUE(std::ranges::none_of(news_, making));
 }
 
-TEST_F(MusicBesideTheScreen, StoppingWhileTheDemoMusicIsMadeLeavesNothing) {
+TEST_F(RealTimeMusic, StoppingWhileTheDemoMusicIsMadeLeavesNothing) {
   { host::media_player::DemoMaker maker{{folder_ / "demo-music", folder_ / "no-covers"}}; }
   EXPECT_FALSE(std::filesystem::exists(folder_ / "demo-music"));
 }

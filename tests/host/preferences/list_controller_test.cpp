@@ -24,7 +24,7 @@ TEST_F(ListControllerTest, GroupsAreSectionsWithTheirTextsAndHeaders) {
 
 TEST_F(ListControllerTest, ASwitchShowsAndSetsTheValueOfItsSpecifier) {
   const auto control = objc::cast<UISwitch>(cell(0, kSwitches).accessoryView());
-  EXPECT_FALSE(control.isOn()) << "nobody has set it";
+  EXPECT_FALSE(control.isOn()) << "it has never been set";
   tap_switch(0, kSwitches);
   EXPECT_EQ(told(), Events{"set Enabled"});
   EXPECT_TRUE(objc::cast<NSNumber>(stored()["Enabled"].get()).boolValue());
@@ -32,7 +32,7 @@ TEST_F(ListControllerTest, ASwitchShowsAndSetsTheValueOfItsSpecifier) {
   EXPECT_EQ(told(), Events{}) << "beside the switch nothing happens";
 }
 
-TEST_F(ListControllerTest, ReloadingMakesSpecifiersAnewAndTakesARefusedSwitchBack) {
+TEST_F(ListControllerTest, ReloadingRecreatesSpecifiersAndRevertsARefusedSwitch) {
   TestPane::refuses_values() = true;
   const auto control = objc::cast<UISwitch>(cell(0, kSwitches).accessoryView());
   tap_switch(0, kSwitches);
@@ -44,7 +44,7 @@ TEST_F(ListControllerTest, ReloadingMakesSpecifiersAnewAndTakesARefusedSwitchBac
   EXPECT_FALSE(objc::cast<UISwitch>(cell(0, kSwitches).accessoryView()).isOn());
 }
 
-TEST_F(ListControllerTest, AListOpensItsItemsAndStoresWhatIsChosen) {
+TEST_F(ListControllerTest, AListOpensItsItemsAndStoresTheChoice) {
   tap_row(0, kLooks);
   ASSERT_TRUE(shown().isKindOfClass(PSListItemsController::cls()));
   EXPECT_STREQ(shown().title().UTF8String(), "Colour");
@@ -66,7 +66,7 @@ TEST_F(ListControllerTest, AListOpensItsItemsAndStoresWhatIsChosen) {
   EXPECT_FALSE(pane.table().indexPathForSelectedRow());
 }
 
-TEST_F(ListControllerTest, ALinkOpensItsDetailAndComingBackMakesNothingAnew) {
+TEST_F(ListControllerTest, ALinkOpensItsDetailAndComingBackRecreatesNothing) {
   tap_row(1, kLooks);
   ASSERT_NE(shown(), pane);
   EXPECT_STREQ(shown().title().UTF8String(), "More");
@@ -78,7 +78,7 @@ TEST_F(ListControllerTest, ALinkOpensItsDetailAndComingBackMakesNothingAnew) {
   EXPECT_EQ(times_made(), 2);
 }
 
-TEST_F(ListControllerTest, AnActionGoesToTheTargetWithAsMuchAsItAsksFor) {
+TEST_F(ListControllerTest, AnActionGoesToTheTargetWithItsArguments) {
   tap_row(0, kActions);
   tap_row(1, kActions);
   EXPECT_EQ(told(), (Events{"acted", "acted on Press"}));
@@ -93,7 +93,7 @@ TEST_F(ListControllerTest, ASpecifierIsFoundByItsNameOrItsIdentifier) {
   EXPECT_FALSE(pane.specifierForID("Colour"_ns));
 }
 
-TEST_F(ListControllerTest, ACellsClassMayBeTheSpecifiersChoice) {
+TEST_F(ListControllerTest, ASpecifierMayChooseItsCellsClass) {
   const auto specifier = pane.specifierForID("Enabled"_ns);
   specifier.setProperty(objc::Object(objc_getClass("TestPaneHeader")), "cellClass"_ns);
   pane.reload();
@@ -101,7 +101,7 @@ TEST_F(ListControllerTest, ACellsClassMayBeTheSpecifiersChoice) {
   EXPECT_TRUE(cell(0, kSwitches).isKindOfClass(objc_getClass("TestPaneHeader")));
 }
 
-TEST_F(ListControllerTest, AClassThatIsNoCellOrNotThereIsPassedOver) {
+TEST_F(ListControllerTest, AnUnsuitableOrMissingClassIsIgnored) {
   const auto specifier = pane.specifierForID("Enabled"_ns);
   for (const objc::Object cls : {objc::Object("NoSuchClass"_ns), objc::Object("NSArray"_ns)}) {
     specifier.setProperty(cls, "cellClass"_ns);
@@ -116,7 +116,7 @@ TEST_F(ListControllerTest, AClassThatIsNoCellOrNotThereIsPassedOver) {
   EXPECT_EQ(pane.table().rectForHeaderInSection(0).size.height, 35);
 }
 
-TEST_F(ListControllerTest, AnIconStandsInItsRow) {
+TEST_F(ListControllerTest, AnIconIsShownInItsRow) {
   UIGraphicsBeginImageContextWithOptions({29, 29}, YES, 2);
   const UIImage icon = UIGraphicsGetImageFromCurrentImageContext();
   UIGraphicsEndImageContext();
@@ -128,7 +128,7 @@ TEST_F(ListControllerTest, AnIconStandsInItsRow) {
   EXPECT_FALSE(cell(0, kLooks).imageView().image());
 }
 
-TEST_F(ListControllerTest, KindsOfRowsAreKnownByTheirNames) {
+TEST_F(ListControllerTest, CellTypesAreFoundByTheirNames) {
   EXPECT_EQ(PSTableCell::cellTypeFromString("PSGroupCell"_ns), 0);
   EXPECT_EQ(PSTableCell::cellTypeFromString("PSLinkCell"_ns), 1);
   EXPECT_EQ(PSTableCell::cellTypeFromString("PSSwitchCell"_ns), 6);

@@ -11,7 +11,7 @@
 
 namespace host::test {
 
-/// What the panes of the tests read and write.
+/// The values that the panes of the tests read and write.
 inline std::map<std::string, objc::Ref<NSObject>>& stored() {
   static std::map<std::string, objc::Ref<NSObject>> values;
   return values;
@@ -22,7 +22,7 @@ inline int& times_made() {
   return times;
 }
 
-/// A header of a group that is a view of a class of its own.
+/// A group's header with its own view class.
 class TestHeader : public objc::Implementation<TestHeader, PSTableCell> {
  public:
   using Implementation::Implementation;
@@ -39,7 +39,7 @@ class TestHeader : public objc::Implementation<TestHeader, PSTableCell> {
   CGFloat height(CGFloat) { return 120; }
 };
 
-/// A pane with a row of every kind.
+/// A pane with a row of every type.
 class TestPane : public objc::Implementation<TestPane, PSListController> {
  public:
   using Implementation::Implementation;
@@ -93,7 +93,7 @@ class TestPane : public objc::Implementation<TestPane, PSListController> {
   }
 };
 
-/// Settings on the screen, with one pane on their stack.
+/// Settings on the screen, with one pane on the navigation stack.
 class PaneTest : public PageTest {
  public:
   PaneTest() {

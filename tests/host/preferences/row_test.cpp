@@ -1,7 +1,7 @@
 #include "objc/autorelease_pool.h"
 #include "tests/host/preferences/pane_test.h"
 
-// Single rows of a pane, and what they are made of.
+// Single rows of a pane, and their parts.
 
 namespace host::test {
 namespace {
@@ -12,17 +12,17 @@ constexpr NSInteger kActions = 3;
 
 class RowTest : public PaneTest {};
 
-TEST_F(RowTest, OnlyRowsThatAnswerAreHighlighted) {
+TEST_F(RowTest, OnlyRowsWithAnEffectAreHighlighted) {
   const auto highlights = [&](NSInteger row, NSInteger section) {
     return objc::send<BOOL>(pane, "tableView:shouldHighlightRowAtIndexPath:"_sel, pane.table(),
                             NSIndexPath::indexPathForRow(row, section));
   };
   EXPECT_FALSE(highlights(0, kSwitches));
-  EXPECT_TRUE(highlights(0, kLooks)) << "it leads on";
-  EXPECT_TRUE(highlights(0, kActions)) << "it acts";
+  EXPECT_TRUE(highlights(0, kLooks)) << "it opens a page";
+  EXPECT_TRUE(highlights(0, kActions)) << "it has an action";
 }
 
-TEST_F(RowTest, ARowMayHaveAHeightOfItsOwn) {
+TEST_F(RowTest, ARowMayHaveItsOwnHeight) {
   pane.specifierForID("More"_ns).setProperty(NSNumber::numberWithDouble(70), "height"_ns);
   pane.reload();
   advance(0.1);
@@ -30,20 +30,20 @@ TEST_F(RowTest, ARowMayHaveAHeightOfItsOwn) {
   EXPECT_EQ(cell(0, kLooks).frame().size.height, 44);
 }
 
-TEST_F(RowTest, ASingleRowIsShownAnew) {
+TEST_F(RowTest, ASingleRowIsReloaded) {
   stored()["Enabled"] = objc::Ref<NSObject>::retain(NSNumber::numberWithBool(YES));
   pane.reloadSpecifier(pane.specifierForID("Enabled"_ns));
   EXPECT_TRUE(objc::cast<UISwitch>(cell(0, kSwitches).accessoryView()).isOn());
   EXPECT_EQ(times_made(), 1);
 }
 
-TEST_F(RowTest, AValueOfAStrangeKindIsOff) {
+TEST_F(RowTest, AValueOfAnotherTypeIsOff) {
   stored()["Enabled"] = objc::Ref<NSObject>::retain(NSArray::array());
   pane.reloadSpecifier(pane.specifierForID("Enabled"_ns));
   EXPECT_FALSE(objc::cast<UISwitch>(cell(0, kSwitches).accessoryView()).isOn());
 }
 
-TEST_F(RowTest, AControlThatWasReplacedIsHeardNoMore) {
+TEST_F(RowTest, AReplacedControlIsIgnored) {
   const UITableViewCell row = cell(0, kSwitches);
   const auto before = objc::Ref<UIControl>::retain(objc::cast<UIControl>(row.accessoryView()));
   const UISwitch other = UISwitch::alloc().init().autorelease();
@@ -58,12 +58,12 @@ TEST_F(RowTest, ADetailMayBeAnyPage) {
   const auto row = TestPane::row(pane, "Plain"_ns, "PSLinkCell"_ns, "UIViewController");
   pane.setSpecifiers(NSArray::arrayWithObject(row));
   advance(0.1);
-  EXPECT_EQ(pane.table().numberOfSections(), 1) << "rows without a group have one all the same";
+  EXPECT_EQ(pane.table().numberOfSections(), 1) << "rows without a group still get a section";
   tap_row(0, 0);
   EXPECT_STREQ(navigation.topViewController().title().UTF8String(), "Plain");
 }
 
-TEST_F(RowTest, APageKeepsATitleOfItsOwn) {
+TEST_F(RowTest, APageKeepsItsOwnTitle) {
   const auto own = make("TestPane");
   own.setTitle("Own"_ns);
   own.setSpecifier(pane.specifierForID("More"_ns));
@@ -73,7 +73,7 @@ TEST_F(RowTest, APageKeepsATitleOfItsOwn) {
   EXPECT_STREQ(other.title().UTF8String(), "More");
 }
 
-TEST_F(RowTest, ATitleStandsBesideItsValue) {
+TEST_F(RowTest, ATitleIsShownBesideItsValue) {
   stored()["Version"] = objc::Ref<NSObject>::retain("8.1"_ns);
   const auto row = TestPane::row(pane, "Version"_ns, "PSTitleValueCell"_ns, nullptr);
   pane.setSpecifiers(NSArray::arrayWithObject(row));
@@ -82,7 +82,7 @@ TEST_F(RowTest, ATitleStandsBesideItsValue) {
   EXPECT_STREQ(cell(0, 0).detailTextLabel().text().UTF8String(), "8.1");
 }
 
-TEST_F(RowTest, ItsTableForgetsAPageThatIsNoMore) {
+TEST_F(RowTest, ItsTableForgetsAReleasedPage) {
   objc::Ref<UITableView> table;
   {
     const objc::AutoreleasePool pool;
@@ -93,7 +93,7 @@ TEST_F(RowTest, ItsTableForgetsAPageThatIsNoMore) {
   EXPECT_FALSE(table->delegate());
 }
 
-TEST_F(RowTest, APropertyIsTakenAway) {
+TEST_F(RowTest, APropertyIsRemoved) {
   const auto specifier = pane.specifierForID("More"_ns);
   specifier.setProperty("one"_ns, "key"_ns);
   EXPECT_TRUE(specifier.propertyForKey("key"_ns));
@@ -101,7 +101,7 @@ TEST_F(RowTest, APropertyIsTakenAway) {
   EXPECT_FALSE(specifier.propertyForKey("key"_ns));
 }
 
-TEST_F(RowTest, OfValuesWithoutTitlesOnlyTheRestHasOnes) {
+TEST_F(RowTest, ValuesBeyondTheTitlesHaveNone) {
   const auto specifier = pane.specifierForID("Colour"_ns);
   specifier.setValues(NSArray::arrayWithObjects("a"_ns, "b"_ns, "c"_ns),
                       NSArray::arrayWithObjects("A"_ns, "B"_ns));
@@ -115,7 +115,7 @@ TEST_F(RowTest, OnlyAButtonIsTinted) {
   EXPECT_EQ(cell(0, kActions).textLabel().textColor(), UIColor::blackColor());
 }
 
-TEST_F(RowTest, OnlyRowsThatAnswerCanBeSeenChosen) {
+TEST_F(RowTest, OnlyRowsWithAnEffectAreSelectedVisibly) {
   EXPECT_EQ(cell(0, kSwitches).selectionStyle(), UITableViewCellSelectionStyleNone);
   EXPECT_EQ(cell(0, kLooks).selectionStyle(), UITableViewCellSelectionStyleDefault);
   EXPECT_EQ(cell(1, kActions).selectionStyle(), UITableViewCellSelectionStyleDefault);
