@@ -3,7 +3,7 @@
 #include <signal.h>
 #include <sys/resource.h>
 
-/// While it lives no file of this process can grow beyond so many bytes, as on a full disk.
+/// While an instance lives, no file of this process can grow beyond `bytes`, as on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {

@@ -10,8 +10,8 @@
 
 namespace host::test {
 
-/// A process's surroundings for one test: a clock that stands still, a run loop on it, Foundation
-/// made ready, and an autorelease pool around the test's body.
+/// The environment of one test: a stopped clock, a run loop on it, an initialised Foundation, and
+/// an autorelease pool around the test's body.
 class HostTest : public ::testing::Test {
  public:
   HostTest() : loop(clock) {
@@ -24,7 +24,7 @@ class HostTest : public ::testing::Test {
     RunLoop::set_main(nullptr);
   }
 
-  /// Moves the clock, running all that is due on the way.
+  /// Advances the clock and runs everything that becomes due.
   void advance(double seconds) { loop.advance_to(clock, clock.now() + seconds); }
 
  protected:

@@ -61,7 +61,8 @@ void append_chunk(std::string& bytes, std::string_view type, std::string_view co
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = (std::filesystem::temp_directory_path() / "media-test-XXXXXX").string();
-  if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error{"no temporary folder"};
+  if (::mkdtemp(name.data()) == nullptr)
+    throw std::runtime_error{"cannot create a temporary folder"};
   path_ = name;
 }
 

@@ -11,7 +11,7 @@
 
 namespace media_tests {
 
-// A folder of its own for one test, gone afterwards.
+// A temporary folder for one test, removed afterwards.
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -26,13 +26,13 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-// Collects what is logged while it lives.
+// Collects everything that is logged while it lives.
 class CapturedLog {
  public:
   CapturedLog();
   ~CapturedLog();
 
-  // How many lines hold `text`.
+  // Returns how many lines contain `text`.
   int count(std::string_view text) const;
 
  private:
@@ -40,7 +40,7 @@ class CapturedLog {
   State* state_;
 };
 
-// A quiet tone in the format that the name of the file says.
+// Writes a quiet tone, in the format named by the file's extension.
 void write_tone(const std::string& path, double seconds = 1.0);
 void write_song(const std::string& path, const host::media::SongTags& tags,
                 const std::vector<std::uint8_t>& jpeg = {}, double seconds = 1.0);
@@ -48,10 +48,10 @@ void write_bytes(const std::string& path, std::string_view bytes);
 std::string read_bytes(const std::string& path);
 void truncate_file(const std::string& path, std::uintmax_t size);
 
-// Encoded pictures of one colour.
+// Return encoded pictures of one colour.
 std::vector<std::uint8_t> jpeg_picture(int width, int height, std::uint32_t rgb);
 std::vector<std::uint8_t> png_picture(int width, int height, std::uint32_t rgb);
-// A well-formed PNG header that promises a picture of this size and holds nothing of it.
+// Returns a well-formed PNG header for a picture of this size, without its pixels.
 std::vector<std::uint8_t> png_promise(std::uint32_t width, std::uint32_t height);
 
 inline std::string_view as_text(const std::vector<std::uint8_t>& bytes) {

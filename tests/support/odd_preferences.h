@@ -5,8 +5,8 @@
 
 namespace host::test {
 
-/// The entries of preferences that somebody has damaged: for each type that a property list has,
-/// every key with a value of it.
+/// Returns the entries of damaged preferences: for each type that a property list supports, one
+/// string with a value of that type for every key.
 inline std::vector<std::string> odd_preferences() {
   const char* const keys[] = {"enable",  "apex",      "cover",  "square", "legibility",
                               "cloud",   "blur",      "play",   "tint",   "font_tint",

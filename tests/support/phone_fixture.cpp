@@ -63,7 +63,7 @@ void PhoneTest::launch() {
 void PhoneTest::end() {
   objc::AutoreleasePool pool;
   std::exchange(application, SpringBoard()).release();
-  // Its shared objects are there as soon as somebody asks for one, launched or not.
+  // Its shared objects exist from their first use, launched or not.
   springboard::forget_springboard();
 }
 

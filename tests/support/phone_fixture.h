@@ -21,22 +21,22 @@ inline constexpr const char* kCalendar = "com.apple.mobilecal";
 inline constexpr const char* kPhotos = "com.apple.mobileslideshow";
 inline constexpr const char* kCalculator = "com.apple.calculator";
 
-/// A whole home screen with the applications that every phone comes with, copied to a device of the
-/// test's own, and a finger to use it.
+/// A complete home screen with the preinstalled applications, copied to a device for this test, and
+/// a finger to use it.
 class PhoneTest : public host::test::HostTest {
  public:
   explicit PhoneTest(std::string_view model = kDefaultDevice);
   explicit PhoneTest(const DeviceModel& model);
   ~PhoneTest() override;
 
-  /// Reads the device and shows the home screen; a second call is a restart.
+  /// Reads the device and shows the home screen; another call restarts it.
   void launch();
-  /// Removes an installed application's folder, before the launch.
+  /// Removes an installed application's folder; call it before the launch.
   void remove_application(const std::string& name) const;
 
   SBIcon icon(const std::string& bundle) const;
   SBIconView icon_view(const std::string& bundle) const;
-  /// Where the middle of the icon's image is on the screen.
+  /// Returns the centre of the icon's image on the screen.
   CGPoint on_screen(SBIconView view) const;
   CGPoint on_screen(const std::string& bundle) const { return on_screen(icon_view(bundle)); }
 
@@ -44,9 +44,10 @@ class PhoneTest : public host::test::HostTest {
   void move(CGPoint point);
   void lift();
   void tap(CGPoint point);
-  /// Presses, moves there in so many seconds, frame by frame, and rests there for `rest` seconds.
+  /// Presses at `from`, moves to `to` in `seconds`, frame by frame, and rests there for `rest`
+  /// seconds; the finger stays down.
   void drag(CGPoint from, CGPoint to, double seconds, double rest = 0);
-  /// Lets every animation come to its end.
+  /// Lets every animation finish.
   void settle() { advance(2); }
 
   std::filesystem::path device;

@@ -8,8 +8,8 @@
 
 namespace host::test {
 
-/// The reason of the platform's exception that `call` raises; nothing when it raises none. Of a
-/// foreign exception C++ sees no more than that there is one, so `raise` itself is listened to.
+/// Returns the reason of the platform exception that `call` raises; nothing when it raises none.
+/// C++ sees no more of a foreign exception than that it exists, so this intercepts `raise` itself.
 template <class Call>
 std::optional<std::string> raised_by(Call call) {
   static objc::Imp original = nullptr;

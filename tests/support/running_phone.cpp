@@ -33,18 +33,18 @@ struct Pipe {
 
 void suffer(Hardship hardship) {
   if (hardship == Hardship::kFullDisk) {
-    // A write that does not fit then fails, in place of ending the process.
+    // A write that does not fit then fails instead of ending the process.
     signal(SIGXFSZ, SIG_IGN);
     const rlimit nothing{0, 0};
     setrlimit(RLIMIT_FSIZE, &nothing);
   } else if (hardship == Hardship::kOrdinaryUser) {
-    // Who is no administrator does not have these in the first place.
+    // Ordinary users do not have these capabilities in the first place.
     prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
     prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
   }
 }
 
-/// A process as the system lists it: `number (name) state parent …`.
+/// `listed` is the process's folder in /proc, whose `stat` reads `number (name) state parent …`.
 bool is_child_of(pid_t launcher, std::string_view program, const std::filesystem::path& listed) {
   std::string text;
   std::getline(std::ifstream(listed / "stat"), text);
@@ -120,7 +120,7 @@ void RunningPhone::close_input() {
 }
 
 std::string RunningPhone::ask(std::string_view line) {
-  return say(line) ? next_answer() : "(nobody listens)";
+  return say(line) ? next_answer() : "(the phone is not listening)";
 }
 
 bool RunningPhone::say(std::string_view line) {
@@ -200,7 +200,7 @@ bool RunningPhone::pump_until(const std::function<bool()>& done) {
   return true;
 }
 
-/// Waits a moment for something to be printed. False when there was nothing.
+/// Waits a moment for output. Returns false when there was none.
 bool RunningPhone::take_output() {
   pollfd waiting[] = {{output_end_, POLLIN, 0}, {errors_end_, POLLIN, 0}};
   if (poll(waiting, std::size(waiting), kLookEvery) <= 0) return false;

@@ -10,16 +10,15 @@
 
 namespace launcher_e2e {
 
-/// What a phone may have to live with.
+/// Adverse conditions for a phone.
 enum class Hardship {
   kNone,
-  kFullDisk,      // no file can grow, as when the disk has no room
-  kOrdinaryUser,  // the permissions of files count, even where the tests are run by root
+  kFullDisk,      // no file can grow, as on a full disk
+  kOrdinaryUser,  // file permissions apply even when the tests are run by root
 };
 
-/// The built phone as its user meets it: a process with a command line, standard streams and an
-/// end. Everything that is waited for has a deadline, behind which the answer is that it did not
-/// come.
+/// The built phone as its user runs it: a process with a command line, standard streams and an exit
+/// status. Every wait has a deadline; after that it returns that the event did not happen.
 class RunningPhone {
  public:
   static constexpr std::chrono::seconds kDeadline{90};
@@ -30,28 +29,29 @@ class RunningPhone {
   RunningPhone(const RunningPhone&) = delete;
   RunningPhone& operator=(const RunningPhone&) = delete;
 
-  /// The console's answer to one line; needs `--console`.
+  /// Returns the console's answer to one line; requires `--console`.
   std::string ask(std::string_view line);
-  /// The same in two steps, for a phone that will not answer soon.
+  /// The same in two steps, for a phone that will take time to answer.
   bool say(std::string_view line);
   std::string next_answer();
   void close_input();
 
-  /// The status that the launcher ended with; -1 when it did not end, or not by itself.
+  /// Returns the launcher's exit status; -1 when it did not exit, or was killed.
   int wait_for_end();
 
-  /// The phone's process with this program; 0 when there is none at this moment.
+  /// Returns the phone's process that runs this program; 0 when there is none at this moment.
   pid_t child(std::string_view program) const;
   pid_t home_screen() const { return child("SpringBoard"); }
-  /// The process that takes the place of `before`; 0 when none came. Begin with 0.
+  /// Returns the process that replaces `before`; 0 when none appeared. Pass 0 first.
   pid_t wait_for_home_screen_after(pid_t before);
 
-  /// What was printed so far.
+  /// The output so far.
   const std::string& output() const { return output_; }
   const std::string& errors() const { return errors_; }
   std::vector<std::string> error_lines() const;
   int count_of_errors_with(std::string_view text) const;
-  /// Has `text` been printed on the error stream, or is it before long?
+  /// Returns whether `text` has been printed on the error stream `times` times, or is before the
+  /// deadline.
   bool waits_for_error(std::string_view text, int times = 1);
 
  private:
@@ -64,7 +64,7 @@ class RunningPhone {
   int errors_end_ = -1;
   std::string output_;
   std::string errors_;
-  std::size_t answered_ = 0;  // how much of the output was given as answers
+  std::size_t answered_ = 0;  // how much of the output has been returned as answers
 };
 
 }  // namespace launcher_e2e
