@@ -2,14 +2,14 @@
 
 namespace host::media_player {
 
-/// Makes the classes of the MediaPlayer framework and gives their constants values. Foundation and
-/// the drawing classes come first. Asking again does nothing.
+/// Registers the classes of the MediaPlayer framework and sets its constants. Requires Foundation
+/// and the drawing classes. Idempotent.
 void export_media_player();
 
-/// The class of MediaPlayerUI.
+/// Registers the class of MediaPlayerUI.
 void export_now_playing_controller();
 
-/// The home screen's own view of what plays.
+/// Registers the home screen's interface to what is playing.
 void export_media_controller();
 
 }  // namespace host::media_player

@@ -48,7 +48,7 @@ class MediaItem : public objc::Implementation<MediaItem, MPMediaItem> {
   NSNumber album_id_;
 };
 
-/// Sets the names of the properties and creates the class.
+/// Sets the names of the properties and registers the class.
 void export_media_item();
 
 }  // namespace host::media_player

@@ -2,7 +2,7 @@
 
 namespace host::preferences {
 
-/// Registers the pages of settings and what they are made of; stacks of pages come first.
+/// Registers settings pages and their parts. Requires navigation controllers.
 void export_preferences();
 
 }  // namespace host::preferences
