@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Makes alerts and their buttons; the classes of views and scrolling come first.
+/// Registers alerts and their buttons. Requires the classes of views and scrolling.
 void export_alert();
 
 }  // namespace host::uikit

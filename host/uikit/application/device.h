@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Exports the device class; it describes the chosen device model.
+/// Registers the device class, which describes the chosen device model.
 void export_device();
 
 }  // namespace host::uikit

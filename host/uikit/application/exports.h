@@ -2,8 +2,8 @@
 
 namespace host::uikit {
 
-/// Makes the classes of touches, recognisers, views, controls and the application; a second call
-/// does nothing. The drawing classes must have been made before.
+/// Registers the classes of touches, recognisers, views, controls and the application. Requires the
+/// drawing classes. Idempotent.
 void export_application();
 
 }  // namespace host::uikit

@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Exports the screen class; the main screen is as large as the device model's.
+/// Registers the screen class. The main screen is as large as the device model's.
 void export_screen();
 
 }  // namespace host::uikit

@@ -48,7 +48,7 @@ class BackdropView : public objc::Implementation<BackdropView, _UIBackdropView> 
 
 void export_backdrop_view();
 
-/// Exports backdrop views and their settings; requires `export_view`. Idempotent.
+/// Registers backdrop views and their settings. Requires the classes of views. Idempotent.
 void export_backdrop();
 
 }  // namespace host::uikit

@@ -70,7 +70,7 @@ void Switch::place() const {
   shadow_->setFrame(
       CGRectOffset(CGRectInset(knob, -kShadowGrowth, -kShadowGrowth), 0, kShadowDrop));
   fill_->setAlpha(shown_on_ ? 1 : 0);
-  // While pressed, the empty track shrinks to nothing and the whole switch is grey.
+  // While pressed, the inside of the empty track shrinks towards the knob: the track turns grey.
   const CGFloat scale = shown_on_ || pressed_ ? kShrunk : 1;
   well_->setTransform(CGAffineTransformMakeScale(scale, scale));
 }

@@ -2,8 +2,7 @@
 
 namespace host::uikit {
 
-/// Makes colours, fonts, images, paths and the index path's rows in this process; a second call
-/// does nothing.
+/// Registers colours, fonts, images, paths, and the row and section of index paths. Idempotent.
 void export_drawing();
 
 void export_index_path();

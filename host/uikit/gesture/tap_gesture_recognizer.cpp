@@ -63,7 +63,7 @@ void TapGestureRecognizer::reset() {
 
 BOOL TapGestureRecognizer::can_prevent(UIGestureRecognizer other) {
   // A single tap is recognised on the way to a double tap; a caller that wants only one of the two
-  // makes the other fail.
+  // declares which must fail first.
   const bool is_tap = other.isKindOfClass(UITapGestureRecognizer::cls());
   if (is_tap && objc::cast<UITapGestureRecognizer>(other).numberOfTapsRequired() > taps_required_)
     return NO;

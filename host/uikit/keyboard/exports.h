@@ -2,7 +2,8 @@
 
 namespace host::uikit {
 
-/// Makes the keyboard's classes and has it come for whoever takes text; after the views and text.
+/// Registers the keyboard's classes, and from then on shows the keyboard for responders that take
+/// text. Requires the classes of views and text.
 void export_keyboard();
 
 }  // namespace host::uikit

@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Registers stacks of pages and their bars; the classes of views and scrolling come first.
+/// Registers navigation controllers and their bars. Requires the classes of views and scrolling.
 void export_navigation();
 
 }  // namespace host::uikit

@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Makes what a page says of its bar, and of the buttons on it.
+/// Registers navigation items and bar button items.
 void export_navigation_items();
 
 }  // namespace host::uikit

@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Makes controllers of pages that are turned sideways; the classes of views come first.
+/// Registers page view controllers. Requires the classes of views and scrolling.
 void export_pages();
 
 }  // namespace host::uikit

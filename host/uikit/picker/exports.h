@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Makes wheels of rows to choose from; the classes of views and scrolling come first.
+/// Registers pickers and their wheels. Requires the classes of views and scrolling.
 void export_picker();
 
 }  // namespace host::uikit

@@ -2,8 +2,8 @@
 
 namespace host::uikit {
 
-/// Gives the process its scroll views, tables and page controls; views, text and recognisers must
-/// have been given before. Calling it twice is harmless.
+/// Registers scroll views, tables and page controls. Requires views, text and recognisers.
+/// Idempotent.
 void export_scroll();
 
 }  // namespace host::uikit

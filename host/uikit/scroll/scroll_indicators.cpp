@@ -11,7 +11,7 @@ namespace {
 constexpr double kThickness = 2.5;
 constexpr double kIndicatorMargin = 3.0;
 constexpr double kShortest = 36.0;
-/// Pushed beyond the end of the content, a bar shrinks to a dot of this length at most.
+/// Pushed beyond the end of the content, a bar shrinks no further than to a dot of this length.
 constexpr double kShortestBeyond = 7.0;
 constexpr double kFadeDelay = 0.5;
 constexpr double kFadeDuration = 0.25;

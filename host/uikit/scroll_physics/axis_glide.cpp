@@ -6,7 +6,7 @@
 namespace host::uikit {
 namespace {
 
-/// More phases would take a fling through both edges and back, faster than any finger.
+/// Only a fling through both edges and back would need more, and no finger is that fast.
 constexpr std::size_t kMostPhases = 4;
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 namespace host::uikit {
 
-/// Makes labels, text fields and backdrops, and gives strings their drawing; views must have been
-/// made. A second call does nothing.
+/// Registers labels, text fields and backdrops, and adds drawing to strings. Requires the classes
+/// of views. Idempotent.
 void export_text();
 
 }  // namespace host::uikit

@@ -104,7 +104,7 @@ void TextField::delete_backward() {
 
 void TextField::set_marked_text(NSString text, NSRange selected) {
   const NSString composed = text ? text : ""_ns;
-  // Nothing replaces nothing: the selection must not be lost.
+  // Composing nothing must not delete the selection.
   if (!marked_.length && !composed.length()) return;
   const NSRange range = typing_range();
   replace(range, composed);

@@ -2,7 +2,7 @@
 
 namespace host::uikit {
 
-/// Names the attributes and gives strings their drawing; needs no views.
+/// Sets the names of the attributes and adds drawing to strings. Requires no views.
 void export_string_drawing();
 
 }  // namespace host::uikit

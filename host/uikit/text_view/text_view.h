@@ -98,7 +98,7 @@ class TextView : public objc::Implementation<TextView, UITextView> {
   BOOL editing_ = NO;
 };
 
-/// Exports the class; requires the scroll views' classes. Idempotent.
+/// Registers the class. Requires the classes of scroll views. Idempotent.
 void export_text_view();
 
 }  // namespace host::uikit

@@ -10,8 +10,8 @@
 namespace host::uikit {
 
 /// The entry point for fingers: creates their touches, finds the window and view on which they
-/// land, and sends the event. Points are in points from the screen's top left corner; timestamps
-/// are seconds of the clock.
+/// land, and sends the event. Locations are in points from the screen's top left corner,
+/// timestamps in seconds of the clock.
 class TouchInput {
  public:
   TouchInput();

@@ -2,8 +2,8 @@
 
 namespace host::uikit {
 
-/// Makes the classes of views and windows; a second call does nothing. QuartzCore and the drawing
-/// classes must have been made before.
+/// Registers the classes of views and windows. Requires QuartzCore and the drawing classes.
+/// Idempotent.
 void export_views();
 
 }  // namespace host::uikit
