@@ -10,33 +10,32 @@
 
 namespace host::media {
 
-// Keeps the covers that were used last within a fixed number of bytes. A picture that cannot be
-// decoded is logged once and remembered as missing. Main thread only.
+// Keeps the most recently used covers within a fixed number of bytes. A picture that cannot be
+// decoded is logged once and remembered as broken. Main thread only.
 class ArtworkCache {
  public:
   using PicturePtr = std::shared_ptr<const Picture>;
 
   explicit ArtworkCache(std::size_t byte_budget) : byte_budget_(byte_budget) {}
 
-  // The cover with its longer side at most `longest_side` pixels, decoded now when it is not kept;
-  // null when there is none. A picture larger than the whole budget is still answered, and not
-  // kept.
+  // The cover with its longer side at most `longest_side` pixels, decoded now if it is not cached;
+  // null when there is none. A picture larger than the whole budget is returned but not cached.
   PicturePtr picture(const CoverFile& cover, int longest_side);
   PicturePtr picture(const Track& track, int longest_side) {
     return picture(cover_of(track), longest_side);
   }
 
-  // The same when it is kept, and null otherwise.
+  // The cached picture, or null; never decodes.
   PicturePtr kept(std::uint64_t key, int longest_side);
   bool keeps(std::uint64_t key, int longest_side) const {
     return by_key_.contains({key, longest_side});
   }
-  // Takes what was decoded elsewhere; null means that it cannot be.
+  // Adds a picture that was decoded elsewhere; null means that it cannot be decoded.
   void put(const CoverFile& cover, int longest_side, PicturePtr picture);
   bool is_broken(std::uint64_t key) const { return broken_.contains(key); }
 
   std::size_t bytes_kept() const { return bytes_kept_; }
-  // How many pictures were decoded, here or elsewhere.
+  // The number of pictures decoded so far, here or elsewhere.
   std::size_t decode_count() const { return decode_count_; }
 
  private:
@@ -56,7 +55,7 @@ class ArtworkCache {
   std::size_t byte_budget_;
   std::size_t bytes_kept_ = 0;
   std::size_t decode_count_ = 0;
-  std::list<Entry> entries_;  // The latest used first.
+  std::list<Entry> entries_;  // Most recently used first.
   std::map<Key, std::list<Entry>::iterator> by_key_;
   std::unordered_set<std::uint64_t> broken_;  // Artworks that cannot be decoded at any size.
 };

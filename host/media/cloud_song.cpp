@@ -23,7 +23,7 @@ constexpr std::int64_t longest_entry_bytes = 64 << 10;
 constexpr double longest_entry_seconds = 7 * 24 * 3600.0;
 constexpr std::int64_t largest_entry_number = 9999;
 
-// Takes the values out of an entry and remembers the first one that is not what it should be.
+// Reads the values of an entry and remembers the first invalid one.
 class Entry {
  public:
   explicit Entry(const toml::table& table) : table_(table) {}
@@ -96,7 +96,7 @@ std::string name_without_suffix(const std::string& path) {
   return name.substr(0, name.size() - cloud_suffix.size());
 }
 
-// The key names this very state of the picture, as it does for a folder's.
+// As for a folder's picture, the key changes with the file.
 std::uint64_t key_of(const std::string& picture_path) {
   struct stat status {};
   if (::stat(picture_path.c_str(), &status) != 0) return 0;
@@ -104,7 +104,7 @@ std::uint64_t key_of(const std::string& picture_path) {
   return identifier_from(stable_hash(picture_path, seed));
 }
 
-// False when the picture that the entry names cannot be shown.
+// Returns false when the picture that the entry names cannot be shown.
 bool find_cover(const std::string& entry_path, SongTags& tags) {
   if (tags.own_picture_path.empty()) return true;
   const std::filesystem::path folder = std::filesystem::path{entry_path}.parent_path();
@@ -140,8 +140,7 @@ TagReading read_cloud_song(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return refused_entry("cannot be reached");
   if (!S_ISREG(status.st_mode)) return refused_entry("is not a plain file");
-  if (status.st_size > longest_entry_bytes)
-    return refused_entry("is too long for an entry of a song");
+  if (status.st_size > longest_entry_bytes) return refused_entry("is too long for a song entry");
   std::ifstream file{path, std::ios::binary};
   if (!file) return refused_entry("cannot be read");
   const std::string text{std::istreambuf_iterator<char>{file}, {}};

@@ -7,10 +7,10 @@
 
 namespace host::media {
 
-// A song of which the user has only the entry: its sound lies in the cloud, out of reach. It stands
-// in the music folders as a text file `NAME.cloud.toml`:
+// A song whose sound exists only in the cloud, out of reach. In the music folders it is a text file
+// `NAME.cloud.toml`:
 //
-//   title = "A song"            no key is needed; without a title the name of the file serves
+//   title = "A song"            every key is optional; the default title is the name of the file
 //   artist = "Somebody"
 //   album = "An album"
 //   album_artist = "Somebody"
@@ -20,17 +20,17 @@ namespace host::media {
 //   disc = 1
 //   duration = 215.5            seconds
 //   compilation = false
-//   cover = "picture.jpg"       beside this file, or by its whole path; without it the folder's own
-//                               picture serves, as for any song
+//   cover = "picture.jpg"       relative to this file, or an absolute path; the default is the
+//                               folder's picture, as for any song
 //
-// The picture is looked at when the entry has changed.
+// The picture is read again only when the entry changes.
 bool has_cloud_name(std::string_view name);
 
-// Reads any file without throwing. What is no TOML, or has a value of another kind than above, is
+// Reads any file without throwing. A file that is not TOML, or has a value of the wrong type, is
 // refused with the reason.
 TagReading read_cloud_song(const std::string& path);
 
-// A song or an entry, whichever the name says.
+// Reads a song or an entry, depending on the file's name.
 TagReading read_song(const std::string& path);
 
 }  // namespace host::media

@@ -13,10 +13,10 @@
 
 namespace host::media {
 
-// Decodes covers beside the screen, on a thread of its own that begins with the first request. What
-// was asked for last comes first, since that is what the user looks at. All members are for the
-// main thread, which watches `descriptor()` and then takes the pictures one by one. Destroying it
-// ends with the picture under way.
+// Decodes covers in the background, on its own thread, which starts with the first request. The
+// latest request is served first, since that is what the user looks at. All members are for the
+// main thread, which watches `descriptor()` and then takes the pictures one by one. The destructor
+// waits for the picture being decoded.
 class CoverDecoder {
  public:
   struct Request {
@@ -40,7 +40,7 @@ class CoverDecoder {
   std::condition_variable_any has_work_;
   std::vector<Request> waiting_;
   std::deque<Decoded> done_;
-  std::jthread thread_;  // Last, so that it ends before what it uses.
+  std::jthread thread_;  // Last, so it stops before the members that it uses are destroyed.
 };
 
 }  // namespace host::media

@@ -35,8 +35,8 @@ Statement::Statement(sqlite3* database, const char* sql) {
   const int code =
       sqlite3_prepare_v3(database, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
   statement_.reset(statement);
-  // The texts of the statements are ours and right, so a general error means that the tables are
-  // not those that this version made.
+  // Our statements are valid, so a general error means that the tables are not those of this
+  // version.
   prepared_ = code == SQLITE_ERROR ? DatabaseStatus::damaged : status_from(code);
 }
 
@@ -63,7 +63,7 @@ Statement& Statement::bind_bytes(int parameter, std::string_view bytes) {
 }
 
 DatabaseStatus Statement::step() {
-  // A statement that could not be prepared says so on its first use.
+  // A statement that could not be prepared reports it on its first use.
   if (!statement_) return prepared_;
   return status_from(sqlite3_step(statement_.get()));
 }

@@ -12,8 +12,8 @@ namespace host::media {
 
 enum class DatabaseStatus { ok, row, full, damaged, failed };
 
-// One prepared statement. Parameters count from 1, columns from 0, as SQLite counts them. Bound
-// texts must live until the step.
+// One prepared statement. As in SQLite, parameters count from 1 and columns from 0. Bound texts
+// must live until the step.
 class Statement {
  public:
   Statement(sqlite3* database, const char* sql);
@@ -25,7 +25,7 @@ class Statement {
 
   // `row` while there are rows, then `ok`.
   DatabaseStatus step();
-  // Steps a statement that answers nothing and makes it ready for the next use.
+  // Executes a statement that returns no rows and resets it for the next use.
   DatabaseStatus run();
 
   std::int64_t integer(int column) const;
@@ -42,7 +42,7 @@ class Statement {
 
 class Database {
  public:
-  // Opens or makes the file; an empty path is a database in memory.
+  // Opens or creates the file; an empty path means a database in memory.
   explicit Database(const std::string& path);
 
   DatabaseStatus status() const { return status_; }

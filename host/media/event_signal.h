@@ -2,7 +2,7 @@
 
 namespace host::media {
 
-// A file descriptor that becomes readable when something waits for the main thread. Raising it is
+// A file descriptor that becomes readable when there is work for the main thread. Raising it is
 // safe from any thread and never blocks.
 class EventSignal {
  public:

@@ -28,7 +28,7 @@ struct CloseDirectory {
 };
 using DirectoryRef = std::unique_ptr<DIR, CloseDirectory>;
 
-// The smaller, the better; `not_a_picture` for any other name.
+// The lower the rank, the better the picture; `not_a_picture` for any other name.
 int picture_rank(std::string_view name) {
   std::string lower{name};
   for (char& letter : lower) {

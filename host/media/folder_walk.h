@@ -17,7 +17,7 @@ struct WalkedFile {
 
 struct WalkedFolder {
   std::string path;
-  FolderPicture picture;  // Key 0 when no picture lies here.
+  FolderPicture picture;  // Key 0 when the folder has no picture.
   std::vector<WalkedFile> songs;
 };
 
@@ -26,8 +26,8 @@ struct WalkVisitor {
   std::function<void(const std::string& path, const std::string& reason)> on_unreadable;
 };
 
-// Visits every folder below `roots` once, however many symbolic links lead to it, and looks at the
-// names of songs and pictures only. Hidden files and folders are left out. Opens no file.
+// Visits every folder below `roots` once, however many symbolic links lead to it, and reports songs
+// and pictures by their names, without opening a file. Skips hidden files and folders.
 void walk_folders(std::span<const std::string> roots, const WalkVisitor& visitor,
                   std::stop_token stop);
 

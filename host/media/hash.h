@@ -6,8 +6,8 @@
 
 namespace host::media {
 
-// A fixed 64-bit hash. Identifiers made from it are stored on disk, so it must answer the same in
-// every build and on every machine; that is why it is not std::hash.
+// A fixed 64-bit hash. Identifiers made from it are stored on disk, so it must return the same
+// value in every build and on every machine, which std::hash does not promise.
 inline std::uint64_t stable_hash(std::string_view bytes, std::uint64_t seed = 0) {
   constexpr std::uint64_t odd = 0x9e3779b97f4a7c15ULL;
   std::uint64_t hash = seed ^ (bytes.size() * odd);
@@ -29,7 +29,7 @@ inline std::uint64_t stable_hash(std::string_view bytes, std::uint64_t seed = 0)
   return hash ^ hash >> 32;
 }
 
-// Identifiers are positive as signed and as unsigned 64-bit numbers, and never 0, which means none.
+// Returns an identifier: positive as a signed 64-bit number, and never 0, which means none.
 inline std::uint64_t identifier_from(std::uint64_t hash) {
   const std::uint64_t positive = hash & 0x7fffffffffffffffULL;
   return positive == 0 ? 1 : positive;

@@ -10,7 +10,7 @@
 namespace host::media {
 namespace {
 
-// Raise it with every change of the tables: an index of another version is made anew.
+// Raise it with every change to the tables: an index of another version is rebuilt.
 constexpr int schema_version = 2;
 
 constexpr char schema[] = R"(
@@ -135,13 +135,13 @@ DatabaseStatus Index::prepare_schema() {
   const std::string commit = fmt::format("PRAGMA user_version={}; COMMIT", schema_version);
   const DatabaseStatus status = database_->execute(schema);
   if (status == DatabaseStatus::ok) return database_->execute(commit.c_str());
-  // Nothing is rolled back here: that would replace the reason that is still to be told, and a
-  // database that fails is closed, which undoes what was begun.
+  // No rollback here: it would overwrite the error that is still to be reported, and closing the
+  // failed database undoes the transaction anyway.
   return status;
 }
 
-// Only a file that is really damaged is set aside; one that is locked or on a full disk is left as
-// it is, and this run does without it.
+// Only a damaged file is set aside; one that is locked or on a full disk is left as it is, and this
+// run does without it.
 void Index::recover(DatabaseStatus status) {
   if (status == DatabaseStatus::ok) return;
   if (status == DatabaseStatus::damaged) return set_aside();
@@ -157,8 +157,7 @@ void Index::set_aside() {
   std::filesystem::remove(path_ + "-wal", ignored);
   std::filesystem::remove(path_ + "-shm", ignored);
   if (!error && open(path_) == DatabaseStatus::ok) {
-    log_warning(
-        fmt::format("the music index was damaged; it is kept as {} and made anew", damaged));
+    log_warning(fmt::format("the music index was damaged; it is kept as {} and rebuilt", damaged));
     return;
   }
   work_in_memory(error ? error.message() : database_->message());
@@ -166,7 +165,7 @@ void Index::set_aside() {
 
 void Index::work_in_memory(const std::string& reason) {
   log_warning(
-      fmt::format("the music index {} cannot be kept ({}); the music is read again at the "
+      fmt::format("the music index {} cannot be kept ({}); the music will be read again at the "
                   "next start",
                   path_, reason));
   store_ = IndexStore::in_memory;
@@ -222,8 +221,8 @@ bool Index::apply(const IndexChanges& changes) {
   if (is_kept) return true;
   if (!has_complained_) {
     log_warning(
-        fmt::format("the music index cannot be written ({}); the songs are there, and are "
-                    "read again at the next start",
+        fmt::format("the music index cannot be written ({}); the songs are available now, and "
+                    "will be read again at the next start",
                     database_->message()));
     has_complained_ = true;
   }

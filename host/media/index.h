@@ -12,7 +12,7 @@ namespace host::media {
 class Database;
 enum class DatabaseStatus;
 
-// What tells whether a file has to be read again, and nothing of what was read.
+// What decides whether a file must be read again, without its tags.
 struct KnownFile {
   std::uint64_t id = 0;
   std::string path;
@@ -30,7 +30,7 @@ struct IndexContents {
   std::vector<RefusedFile> refused;
 };
 
-// What one transaction changes. Forgotten paths go first, so that a moved song keeps its
+// The changes of one transaction. Forgotten paths are removed first, so a moved song keeps its
 // identifier.
 struct IndexChanges {
   std::vector<std::string> forgotten;
@@ -42,22 +42,22 @@ struct IndexChanges {
 
 enum class IndexStore { on_disk, in_memory };
 
-// What is known of the user's files from one start to the next. It can be made again from the files
-// at any time, so a damaged index is set aside and an index that cannot be kept works in memory;
-// either is one line in the log. Used by one thread at a time.
+// Remembers the user's files from one start to the next. It can be rebuilt from the files at any
+// time: a damaged index is set aside, and an index that cannot be stored works in memory. Either
+// is one line in the log. Used by one thread at a time.
 class Index {
  public:
-  // `most_pages` bounds the file, in SQLite's pages of 4 KiB; 0 leaves it to the disk.
+  // `most_pages` limits the file's size, in SQLite pages of 4 KiB; 0 means no limit.
   explicit Index(std::string path, std::int64_t most_pages = 0);
   ~Index();
 
-  // Everything, with one query a table.
+  // Loads everything, with one query per table.
   IndexContents load();
-  // The same songs without their tags, at a fraction of the time.
+  // Loads the same songs without their tags, in a fraction of the time.
   KnownFiles load_files();
 
-  // All or nothing. False when the changes could not be kept, most likely because the disk is full;
-  // said once in the log.
+  // Applies all changes or none. Returns false when they could not be stored, most likely because
+  // the disk is full; this is logged once.
   bool apply(const IndexChanges& changes);
 
   IndexStore store() const { return store_; }

@@ -11,7 +11,7 @@
 namespace host::media {
 namespace {
 
-// What separates the parts of a key can occur in none of them, since tags hold no control bytes.
+// Separates the parts of a key. It occurs in none of them, since tags hold no control characters.
 constexpr char separator = '\x01';
 
 std::string sort_key(const SongRecord& record) {
@@ -76,7 +76,7 @@ Track Library::track_from(const SongRecord& record) {
   Track track;
   track.id = record.id;
   track.album_id = album_identifier(tags);
-  // Songs come in the order of their titles, so no look-up is needed to find an equal one.
+  // Songs come in the order of their titles, so an equal title can only be the previous one.
   const bool is_known = !tracks_.empty() && tracks_.back().title == tags.title;
   track.title = is_known ? tracks_.back().title : texts_.store(tags.title);
   track.artist = texts_.keep(tags.artist);

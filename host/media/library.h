@@ -11,8 +11,8 @@
 
 namespace host::media {
 
-// The songs at one moment, never changed once made, and so shared between threads without a lock.
-// Songs come ordered by title without regard to case, then artist, album, disc and number.
+// An immutable snapshot of the songs, shared between threads without a lock. Songs are ordered by
+// title, ignoring case, then by artist, album, disc and number.
 class Library {
  public:
   static std::shared_ptr<const Library> build(std::span<const SongRecord> records);
@@ -30,7 +30,7 @@ class Library {
 
   // The songs of one album in the order of their discs and numbers.
   std::vector<const Track*> album(std::uint64_t album_id) const;
-  // The same as places in `tracks()`.
+  // The same songs as indices into `tracks()`.
   std::span<const std::uint32_t> places_of_album(std::uint64_t album_id) const;
 
  private:
@@ -42,11 +42,11 @@ class Library {
   std::vector<Track> tracks_;
   SongList songs_;
   std::vector<std::uint32_t> by_id_;     // Indices into tracks_, ordered by identifier.
-  std::vector<std::uint32_t> by_album_;  // Likewise by album, disc and number.
+  std::vector<std::uint32_t> by_album_;  // The same, ordered by album, disc and number.
 };
 
-// Songs belong to the same album when its name and its artist are the same without regard to case;
-// a compilation needs only the name.
+// Songs belong to the same album when the album's name and artist are equal, ignoring case; for a
+// compilation the name alone counts.
 std::uint64_t album_identifier(const SongTags& tags);
 
 }  // namespace host::media

@@ -4,8 +4,8 @@
 
 namespace host::media {
 
-// The media folder speaks to the one log through this small door, so that only one of its files
-// pays for the logging headers.
+// The media folder writes to the common log through these two functions, so only one of its files
+// compiles the logging headers.
 void log_note(std::string_view text);
 void log_warning(std::string_view text);
 

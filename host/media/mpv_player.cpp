@@ -16,7 +16,7 @@ namespace {
 
 constexpr double longest_wait_seconds = 5;
 constexpr double loudest_percent = 100;
-// Closer than this the engine need not be moved: nothing that looks at it shows less.
+// Within this distance the engine is not moved: no display shows a smaller difference.
 constexpr double unseen_drift_seconds = 0.05;
 
 struct Option {
@@ -39,9 +39,9 @@ constexpr Option engine_options[] = {
     {"cache", "no"},
 };
 
-// A device of one sample that never takes another: what the engine calls its position is then the
-// position it was sought to, to the sample, playing or paused. The clock says when a song is over;
-// left alone, the engine would unload a file as soon as its last moments were in its hands.
+// An audio device with a buffer of one sample that never accepts another: the engine's position is
+// then exactly the last seek target, playing or paused. The clock decides when a song is over; on
+// its own, the engine would unload a file as soon as it had decoded the end.
 constexpr Option stepped_options[] = {
     {"ao", "null"},
     {"ao-null-speed", "0"},
@@ -74,12 +74,12 @@ void MpvPlayer::Destroy::operator()(mpv_handle* engine) const {
 std::unique_ptr<MpvPlayer> MpvPlayer::create(MpvOptions options) {
   std::unique_ptr<MpvPlayer> player{new MpvPlayer{std::move(options)}};
   if (player->prepare()) return player;
-  log_warning("the playing engine cannot be started");
+  log_warning("the playback engine cannot be started");
   return nullptr;
 }
 
 MpvPlayer::MpvPlayer(MpvOptions options) : options_(std::move(options)) {
-  // The engine refuses to exist while numbers are written with a decimal comma.
+  // The engine cannot be created while the locale writes numbers with a decimal comma.
   std::setlocale(LC_NUMERIC, "C");
   engine_.reset(mpv_create());
 }
@@ -114,7 +114,7 @@ void MpvPlayer::load(const std::string& path) {
   mpv_node answer{};
   if (mpv_command_ret(engine_.get(), command, &answer) < 0) {
     loading_ = Loading::nothing;
-    failures_.push_back({path, "was refused by the playing engine"});
+    failures_.push_back({path, "was refused by the playback engine"});
     signal_.raise();
     return;
   }
@@ -125,8 +125,8 @@ void MpvPlayer::load(const std::string& path) {
   }
   mpv_free_node_contents(&answer);
   if (!is_stepped()) return;
-  // Opening takes real time, of which a stepped clock knows nothing: it has to be over before the
-  // next step.
+  // Opening takes real time, which does not advance a stepped clock: wait for it before the next
+  // step.
   wait_until([this] { return loading_ != Loading::pending; });
   stepped_.jump(0, now());
   if (loading_ != Loading::loaded) return;
@@ -177,7 +177,7 @@ void MpvPlayer::seek(double seconds) {
 void MpvPlayer::seek_engine(double seconds) {
   sought_ = seconds;
   engine_position_ = seconds;
-  // A file that is still being opened cannot be sought; it is sent there when it is loaded.
+  // A file that is still being opened cannot seek; the seek follows when it is loaded.
   if (loading_ != Loading::loaded) return;
   const std::string target = fmt::format("{:.6f}", seconds);
   const char* command[] = {"seek", target.c_str(), "absolute+exact", nullptr};
@@ -254,8 +254,8 @@ void MpvPlayer::handle_end_of_file(const mpv_event& event) {
 }
 
 void MpvPlayer::wait_until(const std::function<bool()>& is_done) {
-  // The wait is bounded by the engine's own timer; a file that cannot be opened in this time, such
-  // as one on a disk that is gone, goes on being opened and simply stays silent.
+  // The wait is measured with the engine's own timer. A file that does not open in this time, such
+  // as one on a disconnected disk, keeps opening and stays silent until then.
   constexpr double slice_seconds = 0.05;
   for (double waited = 0; !is_done() && waited < longest_wait_seconds;) {
     const mpv_event* event = mpv_wait_event(engine_.get(), slice_seconds);
@@ -271,7 +271,7 @@ void MpvPlayer::follow_clock() {
   if (loading_ != Loading::loaded) return;
   const double length = duration();
   if (!is_paused_ && length > 0 && stepped_.at(now()) >= length) {
-    // The clock goes on after the end, so the next song begins when it is loaded.
+    // The clock runs on after the end, so the next song starts when it is loaded.
     loading_ = Loading::nothing;
     has_ended_ = true;
     return;

@@ -18,27 +18,27 @@ namespace host::media {
 
 enum class PlayerPace {
   real,     // The sound device sets the pace.
-  stepped,  // The given clock does; pump after each step.
+  stepped,  // The given clock sets it; pump after each step.
 };
 
 struct MpvOptions {
-  // "null" plays in real time without a sound device; empty lets the engine choose one.
+  // "null" plays in real time without a sound device; if empty, the engine chooses one.
   std::string audio_output;
   PlayerPace pace = PlayerPace::real;
-  // Seconds; only asked when stepped.
+  // The time in seconds; only called when stepped.
   std::function<double()> clock;
 };
 
 // Plays through libmpv, sound only.
 //
-// On a stepped clock the engine still opens, decodes and plays, but its null device is told to run
-// at speed 0. So the engine is not paused, its own `path` and `pause` mean what they say, and its
-// `time-pos` moves only when it is sought, which is exact and takes about a millisecond. Each pump
-// seeks it to where the clock says the song is. Pausing it instead would have made its `pause` a
-// lie, and playing untimed cannot be stopped at a given moment.
+// On a stepped clock the engine still opens, decodes and plays, but its null device runs at
+// speed 0. The engine is therefore not paused, its `path` and `pause` stay truthful, and its
+// `time-pos` changes only on a seek, which is exact and takes about a millisecond. Each pump seeks
+// to the song's position on the clock. Pausing the engine instead would make `pause` wrong, and
+// untimed playback cannot be stopped at a given moment.
 class MpvPlayer final : public Player {
  public:
-  // Null when the engine cannot be made; the log says why.
+  // Null when the engine cannot be created; the log says why.
   static std::unique_ptr<MpvPlayer> create(MpvOptions options);
   ~MpvPlayer() override;
 
@@ -88,15 +88,15 @@ class MpvPlayer final : public Player {
 
   std::string path_;
   Loading loading_ = Loading::nothing;
-  // The engine's own names of the file and of the one it last began, to tell late news of an
-  // earlier file from news of this one.
+  // The engine's identifiers of this file and of the one it last started, to distinguish late
+  // events of an earlier file from events of this one.
   std::int64_t entry_ = 0;
   std::int64_t started_entry_ = 0;
   bool is_paused_ = true;
   double volume_ = 1;
   SteppedPosition stepped_;
-  std::optional<double> sought_;  // Where the engine was last sent and has not yet arrived.
-  double engine_position_ = 0;    // Where it was last sent.
+  std::optional<double> sought_;  // The target of a seek that has not finished.
+  double engine_position_ = 0;    // The target of the last seek.
 
   bool has_ended_ = false;
   std::vector<Failure> failures_;

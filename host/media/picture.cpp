@@ -26,8 +26,8 @@ constexpr char cover_quality[] = "88";
 constexpr std::size_t header_piece_bytes = 16 << 10;
 constexpr std::size_t most_header_bytes = 4 << 20;
 
-// The bytes choose between two decoders and no others: a picture inside a song is somebody else's
-// input, and most of the decoders of a desktop were never meant for that.
+// Only these two decoders are used, chosen by the picture's first bytes: a picture inside a song is
+// untrusted input, and most of a desktop's decoders were not made for that.
 const char* decoder_for(std::span<const std::uint8_t> bytes) {
   constexpr std::uint8_t jpeg[] = {0xff, 0xd8, 0xff};
   constexpr std::uint8_t png[] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
@@ -48,7 +48,7 @@ struct Decoding {
 void choose_size(GdkPixbufLoader* loader, int width, int height, gpointer data) {
   const auto& decoding = *static_cast<const Decoding*>(data);
   if (static_cast<std::int64_t>(width) * height > most_picture_pixels) {
-    // Both decoders take a size of zero as the order to give up, before they allocate.
+    // A size of zero makes both decoders stop before they allocate.
     gdk_pixbuf_loader_set_size(loader, 0, 0);
     return;
   }
@@ -57,8 +57,8 @@ void choose_size(GdkPixbufLoader* loader, int width, int height, gpointer data) 
   gdk_pixbuf_loader_set_size(loader, wanted_width, wanted_height);
 }
 
-// A picture that breaks off leaves its last rows as they were; without this they would show
-// whatever the memory held before.
+// A truncated picture leaves its last rows untouched; without this they would show uninitialised
+// memory.
 void clear_rows(GdkPixbufLoader* loader, gpointer data) {
   if (std::exchange(static_cast<Decoding*>(data)->has_begun, true)) return;
   gdk_pixbuf_fill(gdk_pixbuf_loader_get_pixbuf(loader), 0);
@@ -95,7 +95,7 @@ void note_size(GdkPixbufLoader* loader, int width, int height, gpointer data) {
   gdk_pixbuf_loader_set_size(loader, 0, 0);
 }
 
-// Transparency is announced by the kind of the pixels, or by a chunk before them.
+// A PNG has transparency if its colour type says so, or a chunk before the pixels.
 bool is_opaque_png(std::span<const std::uint8_t> bytes) {
   constexpr std::size_t first_chunk = 8;
   constexpr std::size_t kind_of_pixels = 25;
@@ -132,7 +132,7 @@ PictureHeader read_picture_header(std::span<const std::uint8_t> bytes) {
     if (!gdk_pixbuf_loader_write(loader.get(), piece.data(), piece.size(), nullptr)) break;
     rest = rest.subspan(piece.size());
   }
-  // It was told to give up, and does so with an error that says nothing of the picture.
+  // The decoder was told to stop; the error that it reports says nothing about the picture.
   gdk_pixbuf_loader_close(loader.get(), nullptr);
   const bool is_jpeg = decoder == std::string_view{"jpeg"};
   return {size.width, size.height, size.width > 0 && (is_jpeg || is_opaque_png(bytes))};
@@ -143,7 +143,7 @@ PictureHeader read_picture_file_header(const std::string& path) {
   if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
   std::ifstream file{path, std::ios::binary};
   std::vector<std::uint8_t> bytes;
-  // A photograph may carry a preview and a colour profile before its size.
+  // A photograph may have a preview and a colour profile before its size.
   for (std::size_t wanted = header_piece_bytes; wanted <= most_header_bytes; wanted *= 4) {
     const std::size_t before = bytes.size();
     bytes.resize(wanted);

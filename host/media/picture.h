@@ -11,7 +11,7 @@
 namespace host::media {
 
 // A decoded picture: premultiplied 0xAARRGGBB words, rows without padding, top row first. This is
-// what Cairo's ARGB32 surfaces hold, so it can be drawn without conversion.
+// the format of Cairo's ARGB32 surfaces, so it can be drawn without conversion.
 struct Picture {
   int width = 0;
   int height = 0;
@@ -20,29 +20,29 @@ struct Picture {
   std::size_t byte_count() const { return pixels.size() * sizeof(std::uint32_t); }
 };
 
-// No cover needs more; decoding this much already takes 144 MB for a moment.
+// No cover needs more; decoding this much already takes 144 MB temporarily.
 constexpr std::int64_t most_picture_pixels = 6000LL * 6000LL;
 
 // Decodes a JPEG or PNG so that its longer side is at most `longest_side` pixels; a smaller picture
-// keeps its size. Empty for anything else, for damaged bytes and for pictures of more than
-// `most_picture_pixels`, which are refused before any memory is taken for them.
+// keeps its size. Empty for other formats, for damaged bytes and for pictures of more than
+// `most_picture_pixels`, which are refused before any memory is allocated for them.
 std::optional<Picture> decode_picture(std::span<const std::uint8_t> bytes, int longest_side);
 
-// The size of a picture once its longer side is at most `longest_side` pixels, never enlarged. This
-// is the size that `decode_picture` answers.
+// The size of a picture scaled down so that its longer side is at most `longest_side` pixels, never
+// enlarged: the size of what `decode_picture` returns.
 struct PictureSize {
   int width = 0;
   int height = 0;
 };
 PictureSize fitted_size(int width, int height, int longest_side);
 
-// What a picture says of itself, without decoding it. Not usable when `decode_picture` would refuse
-// it for its kind or its size.
+// Reads a picture's header without decoding it. The result is not usable when `decode_picture`
+// would refuse the picture for its format or its size.
 PictureHeader read_picture_header(std::span<const std::uint8_t> bytes);
-// The same of a plain file, of which only the beginning is read.
+// The same for a regular file; reads only its beginning.
 PictureHeader read_picture_file_header(const std::string& path);
 
-// JPEG bytes of a picture file, scaled down to `longest_side`; empty when it cannot be read.
+// A picture file as JPEG bytes, scaled down to `longest_side`; empty when it cannot be read.
 std::vector<std::uint8_t> jpeg_from_file(const std::string& path, int longest_side);
 
 }  // namespace host::media

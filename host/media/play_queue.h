@@ -8,25 +8,25 @@
 
 namespace host::media {
 
-// Songs by their identifiers, in an order. Shared, so that a queue of a whole library costs
-// nothing.
+// An ordered list of song identifiers. Shared, so queueing a whole library copies nothing.
 using SongList = std::shared_ptr<const std::vector<std::uint64_t>>;
 SongList make_song_list(std::vector<std::uint64_t> ids);
 
-// The songs to play, in order, and the one that is now playing. Nothing repeats: after the last
-// song nothing is selected, and the song before the first is the first.
+// The songs to play, in order, and the one that is playing. The queue does not repeat: after the
+// last song nothing is selected, and going back from the first song stays at the first.
 class PlayQueue {
  public:
-  // Replaces the songs. The song that plays now stays selected when the new songs hold it, as the
-  // queue may be replaced under a song that goes on playing.
+  // Replaces the songs. The playing song stays selected if the new list contains it, since the
+  // queue may be replaced while a song keeps playing.
   void set_tracks(SongList ids);
 
-  // Selects the first occurrence of the song; false, changing nothing, when it is not queued.
+  // Selects the first occurrence of the song; returns false and changes nothing when it is not
+  // queued.
   bool select(std::uint64_t id);
   bool select_first();
   void clear_selection() { index_.reset(); }
 
-  // The song that is selected afterwards; empty at the end, or when nothing was selected.
+  // Return the newly selected song; empty at the end, or when nothing was selected.
   std::optional<std::uint64_t> next();
   std::optional<std::uint64_t> previous();
 

@@ -4,7 +4,7 @@
 
 namespace host::media {
 
-// What a player tells, always from inside `pump()`, never from inside another call.
+// Receives a player's events, always from inside `pump()`, never from inside another call.
 class PlayerListener {
  public:
   virtual ~PlayerListener() = default;
@@ -12,7 +12,7 @@ class PlayerListener {
   virtual void player_did_fail(const std::string& path, const std::string& reason) = 0;
 };
 
-// What the playing engine says of itself, for those who check that music really plays.
+// The playback engine's own state, for tests that check that music really plays.
 struct EngineState {
   std::string path;  // Empty when nothing is loaded.
   bool is_paused = false;
@@ -27,25 +27,25 @@ class Player {
 
   virtual void set_listener(PlayerListener* listener) = 0;
 
-  // Replaces the file from its start; it plays or waits as the player did before. A file that
-  // cannot be played is told to the listener.
+  // Replaces the file, at its start; the player keeps playing or stays paused as before. The
+  // listener is told of a file that cannot be played.
   virtual void load(const std::string& path) = 0;
   virtual void play() = 0;
   virtual void pause() = 0;
   // Unloads the file and pauses.
   virtual void stop() = 0;
-  // Cut to the length of the file; ignored when nothing is loaded.
+  // Clamped to the length of the file; ignored when nothing is loaded.
   virtual void seek(double seconds) = 0;
   // From 0 to 1.
   virtual void set_volume(double volume) = 0;
 
   virtual double volume() const = 0;
   virtual double position() const = 0;
-  // 0 until it is known.
+  // 0 while unknown.
   virtual double duration() const = 0;
   virtual bool is_paused() const = 0;
 
-  // Readable when `pump()` has something to do.
+  // Readable when `pump()` has work.
   virtual int descriptor() const = 0;
   virtual void pump() = 0;
 

@@ -9,11 +9,11 @@
 namespace host::media {
 namespace {
 
-// A thousand songs in a row are one line.
-void log_passed_over(const std::string& first_refusal, std::size_t songs) {
-  if (songs == 1) log_warning(fmt::format("{}; it is passed over", first_refusal));
+// Any number of skipped songs in a row is one line.
+void log_skipped(const std::string& first_refusal, std::size_t songs) {
+  if (songs == 1) log_warning(fmt::format("{}; it is skipped", first_refusal));
   if (songs > 1) {
-    log_warning(fmt::format("{}; it and {} more are passed over", first_refusal, songs - 1));
+    log_warning(fmt::format("{}; it and {} more are skipped", first_refusal, songs - 1));
   }
 }
 
@@ -31,7 +31,7 @@ QueuePlayer::~QueuePlayer() {
 void QueuePlayer::set_queue(SongList ids) {
   queue_.set_tracks(std::move(ids));
   if (queue_.current() || !loaded_) return;
-  // The song that plays is not in the new queue: it is over.
+  // The playing song is not in the new queue, so it ends.
   stop();
   tell_song_change();
 }
@@ -92,12 +92,12 @@ void QueuePlayer::player_did_reach_end() {
 }
 
 void QueuePlayer::player_did_fail(const std::string& path, const std::string& reason) {
-  log_warning(fmt::format("{} cannot be played ({}); the next song follows", path, reason));
+  log_warning(fmt::format("{} cannot be played ({}); the next song starts", path, reason));
   next();
 }
 
-// There is nothing before the first song, so a way back that found none that can be played ends at
-// the one that it came from.
+// No song comes before the first, so a search backwards that found no playable song turns around
+// and ends at the song where it started.
 std::optional<std::uint64_t> QueuePlayer::step(Way& way) {
   if (way == Way::backwards && queue_.index() == 0u) way = Way::forwards;
   return way == Way::forwards ? queue_.next() : queue_.previous();
@@ -117,7 +117,7 @@ void QueuePlayer::load_current(Way way) {
       id = step(way);
     }
   }
-  log_passed_over(first_refusal, refused);
+  log_skipped(first_refusal, refused);
   if (!path) return come_to_the_end();
   player_.load(*path);
   tell_song_change();

@@ -13,15 +13,15 @@ namespace host::media {
 
 enum class PlaybackState { stopped, playing, paused };
 
-// Where a song's sound is to be had.
+// Where to read a song's sound from.
 struct SongFile {
   std::string path;
-  std::string refusal;  // Why it cannot be played, said of the song; empty when it can.
+  std::string refusal;  // Why it cannot be played, naming the song; empty when it can.
 };
 
-// Plays a queue: one song after the other, songs that cannot be played passed over in the direction
-// of the way, with one line in the log, stopped at the end. This is what the system's music player
-// speaks to. Main thread only; the player must outlive it.
+// Plays a queue, one song after the other, and stops at the end. Songs that cannot be played are
+// skipped in the direction of travel, with one line in the log. The system's music player is built
+// on this class. Main thread only; the player must outlive it.
 class QueuePlayer final : private PlayerListener {
  public:
   using FileOf = std::function<SongFile(std::uint64_t)>;
@@ -31,28 +31,27 @@ class QueuePlayer final : private PlayerListener {
   QueuePlayer(const QueuePlayer&) = delete;
   QueuePlayer& operator=(const QueuePlayer&) = delete;
 
-  // Called after the change, only when there is one.
+  // Called after a change, and only if something changed.
   std::function<void()> on_song_change;
   std::function<void(PlaybackState)> on_state_change;
 
   void set_queue(SongList ids);
-  // Makes the song, or the first after it that can be played, the current one and goes on playing
-  // or waiting. False when it is not queued.
+  // Makes the song, or the next playable one after it, current and keeps playing or paused. Returns
+  // false when it is not queued.
   bool set_current(std::uint64_t id);
 
-  // Makes ready what `play` would play: the first song when none is current.
+  // Loads what `play` would play: the first song when none is current.
   void prepare();
-  // Makes the song the current one, paused at `seconds`: how an earlier process left it. False when
-  // it is not queued or the library does not hold it any more.
+  // Makes the song current, paused at `seconds`, as an earlier process left it. Returns false when
+  // it is not queued or no longer in the library.
   bool resume_paused(std::uint64_t id, double seconds);
-  // Begins with the first song when none is current.
+  // Starts with the first song when none is current.
   void play();
   void pause();
   void stop();
-  // Past the last song everything stops.
+  // Stops after the last song.
   void next();
-  // The song before the first is the first, from its start; the same is true of the first that can
-  // be played.
+  // From the first song, or the first playable one, starts it again.
   void previous();
   void restart() { player_.seek(0); }
   void seek(double seconds) { player_.seek(seconds); }
@@ -82,7 +81,7 @@ class QueuePlayer final : private PlayerListener {
   PlayQueue queue_;
   PlaybackState state_ = PlaybackState::stopped;
   std::optional<std::uint64_t> loaded_;
-  std::optional<std::uint64_t> told_;  // The song that was last told.
+  std::optional<std::uint64_t> told_;  // The song that was last reported.
 };
 
 }  // namespace host::media

@@ -37,7 +37,7 @@ bool has_vanished(const std::string& path) {
   return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
-// What became of a song that the index knew: not met yet, as it was, or read anew.
+// The state of a song from the index: not found yet, unchanged, or read again.
 enum class Fate : char { unseen, unchanged, replaced };
 
 class Scan {
@@ -112,7 +112,7 @@ class Scan {
     }
   }
 
-  // A picture whose key is known has not changed since it was last looked at.
+  // A picture whose key is known has not changed since it was last read.
   void find_header(FolderPicture& picture) {
     if (picture.key == 0) return;
     const auto [known, is_new] = headers_.try_emplace(picture.key);
@@ -156,8 +156,8 @@ class Scan {
     changes_.songs.push_back(*record);
   }
 
-  // The tags of the songs that stay are needed as soon as anything differs from the last scan, and
-  // have to be loaded before the first change is written.
+  // The tags of unchanged songs are needed as soon as anything differs from the last scan, and must
+  // be loaded before the first change is written.
   void prepare_for_changes() {
     if (std::exchange(has_changes_, true)) return;
     load_records();
@@ -195,7 +195,7 @@ class Scan {
     if (reading.has_broken_picture) complain_of_cover(file.path);
     if (!reading.tags) {
       ++progress_.skipped;
-      log_warning(fmt::format("{} {}; it is left out", file.path, reading.refusal));
+      log_warning(fmt::format("{} {}; it is skipped", file.path, reading.refusal));
       changes_.forgotten.push_back(file.path);
       changes_.refused.push_back({std::move(file.path), file.stamp});
       return;
@@ -206,8 +206,8 @@ class Scan {
     found_.push_back(std::move(record));
   }
 
-  // A new path is either a new song or a song that was moved: one of the same size and time whose
-  // old path is gone. Only a move that is beyond doubt keeps its identifier.
+  // A new path is either a new song or a moved one: same size and time, and the old path is gone.
+  // Only an unambiguous move keeps its identifier.
   std::uint64_t identifier_for(const WalkedFile& file) {
     prepare_for_new_files();
     std::size_t moved = known_.size();
@@ -225,7 +225,7 @@ class Scan {
     return known_[moved].id;
   }
 
-  // Most scans meet no new file, and need not pay for this.
+  // Most scans find no new file and skip this work.
   void prepare_for_new_files() {
     if (is_prepared_) return;
     is_prepared_ = true;
@@ -262,11 +262,11 @@ class Scan {
   ScanProgress progress_;
   std::vector<KnownFile> known_;
   std::vector<Fate> fates_;          // One for each of known_.
-  std::vector<SongRecord> records_;  // Likewise, once they are loaded.
+  std::vector<SongRecord> records_;  // The same, once they are loaded.
   bool are_records_loaded_ = false;
   bool has_changes_ = false;
   std::unordered_map<std::string_view, std::size_t> known_by_path_;
-  std::unordered_map<std::uint64_t, PictureHeader> headers_;  // Of folders' pictures, by their key.
+  std::unordered_map<std::uint64_t, PictureHeader> headers_;  // Of folders' pictures, by key.
   bool is_prepared_ = false;
   std::multimap<FileStamp, std::size_t> known_by_stamp_;
   std::unordered_set<std::uint64_t> used_ids_;
@@ -274,8 +274,8 @@ class Scan {
   std::unordered_set<std::string_view> is_refusal_seen_;
   std::vector<SongRecord> found_;
   IndexChanges changes_;
-  std::vector<WalkedFolder> waiting_;  // Walked, and not yet compared with the index.
-  std::future<void> loading_;          // Last, so that it ends before what it fills goes.
+  std::vector<WalkedFolder> waiting_;  // Walked, but not yet compared with the index.
+  std::future<void> loading_;          // Last, so it ends before the members that it fills.
 };
 
 }  // namespace

@@ -12,7 +12,7 @@
 
 namespace host::media {
 
-// Files with the name of a song: all seen, those opened in this scan, those without a song in them.
+// Counts files with the name of a song: found, opened in this scan, and not containing a song.
 struct ScanProgress {
   std::size_t seen = 0;
   std::size_t read = 0;
@@ -27,13 +27,13 @@ struct ScanOutcome {
 
 using ScanReport = std::function<void(const ScanProgress&)>;
 
-// The songs that the index remembers below `roots`, without a look at the disk.
+// Returns the songs below `roots` that the index remembers, without looking at the music folders.
 std::shared_ptr<const Library> remembered_library(Index& index, std::span<const std::string> roots);
 
-// Brings the index up to date with the folders and answers the library. Only files whose size or
-// time has changed are opened. A scan that is stopped keeps what it has read, forgets nothing, and
-// answers the songs that it has seen. When nothing at all has changed since `remembered` was made
-// from the index, that very library is the answer, and neither tags nor texts are looked at.
+// Updates the index from the folders and returns the library. Only files whose size or time has
+// changed are opened. A stopped scan keeps what it has read, forgets nothing, and returns the songs
+// found so far. When nothing has changed since `remembered` was made from the index, returns that
+// same library without loading tags or texts.
 ScanOutcome scan_folders(Index& index, std::span<const std::string> roots, const ScanReport& report,
                          std::stop_token stop = {},
                          std::shared_ptr<const Library> remembered = nullptr);

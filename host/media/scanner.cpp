@@ -8,7 +8,7 @@
 namespace host::media {
 
 void Scanner::start(std::vector<std::string> roots) {
-  thread_ = {};  // Stops and joins, so that two scans never share the index.
+  thread_ = {};  // Stops and joins: two scans must not share the index.
   thread_ = std::jthread{
       [this, roots = std::move(roots)](const std::stop_token& stop) { run(roots, stop); }};
 }
@@ -38,14 +38,14 @@ void Scanner::run(const std::vector<std::string>& roots, const std::stop_token& 
                        outcome.library->tracks().size(), counts.read, counts.skipped,
                        counts.unreadable_folders));
   publish({ScanStage::finished, counts, std::move(outcome.library)});
-  // What was read of a hundred thousand songs is now kept once; the rest is given back.
+  // The library now holds the only copy of what was read; return the rest to the system.
   ::malloc_trim(0);
 }
 
 void Scanner::publish(ScanUpdate update) {
   const std::lock_guard lock{mutex_};
-  // A count that nobody has taken yet is replaced by the newer one, so a busy screen never works
-  // through a backlog.
+  // A newer count replaces one that has not been taken, so a busy screen never works through a
+  // backlog.
   const bool is_count = update.stage == ScanStage::reading;
   if (is_count && !updates_.empty() && updates_.back().stage == ScanStage::reading) {
     updates_.back() = std::move(update);

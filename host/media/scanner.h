@@ -15,21 +15,21 @@ namespace host::media {
 
 enum class ScanStage { remembered, reading, finished };
 
-// One message of a running scan. `library` is there in the stages `remembered` (what the last scan
-// left) and `finished`.
+// One message of a running scan. `library` is set in the stages `remembered` (the result of the
+// last scan) and `finished`.
 struct ScanUpdate {
   ScanStage stage = ScanStage::reading;
   ScanProgress progress;
   std::shared_ptr<const Library> library;
 };
 
-// Scans beside the screen, on a thread of its own. All members are for the main thread, which
-// watches `descriptor()` and then takes the updates one by one. Destroying it stops the scan.
+// Scans in the background, on its own thread. All members are for the main thread, which watches
+// `descriptor()` and then takes the updates one by one. The destructor stops the scan.
 class Scanner {
  public:
   explicit Scanner(std::string index_path) : index_path_(std::move(index_path)) {}
 
-  // Begins a scan; one that is running is stopped first.
+  // Starts a scan; stops a running one first.
   void start(std::vector<std::string> roots);
 
   int descriptor() const { return signal_.descriptor(); }
@@ -43,7 +43,7 @@ class Scanner {
   EventSignal signal_;
   std::mutex mutex_;
   std::deque<ScanUpdate> updates_;
-  std::jthread thread_;  // Last, so that it ends before what it uses.
+  std::jthread thread_;  // Last, so it stops before the members that it uses are destroyed.
 };
 
 }  // namespace host::media

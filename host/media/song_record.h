@@ -7,7 +7,8 @@
 
 namespace host::media {
 
-// How a file looked when it was last read. The same stamp means that nothing has to be read again.
+// Identifies the state of a file when it was last read. A file with the same stamp is not read
+// again.
 struct FileStamp {
   std::int64_t size = 0;
   std::int64_t modified_ns = 0;
@@ -15,18 +16,18 @@ struct FileStamp {
   auto operator<=>(const FileStamp&) const = default;
 };
 
-// The picture that lies beside the songs of a folder. The key changes with the file.
+// The picture beside the songs of a folder. The key changes with the file.
 struct FolderPicture {
   std::string path;
   std::uint64_t key = 0;
-  PictureHeader header;  // Not known to a walk, which opens no file.
+  PictureHeader header;  // Not set by a walk, which opens no file.
 
   bool operator==(const FolderPicture& other) const {
     return path == other.path && key == other.key;
   }
 };
 
-// One song as the index keeps it.
+// One song as the index stores it.
 struct SongRecord {
   std::uint64_t id = 0;
   std::string path;
@@ -35,7 +36,7 @@ struct SongRecord {
   SongTags tags;
 };
 
-// A file that was opened and holds no song, remembered so that it is not opened again.
+// A file that turned out to contain no song, remembered in order not to open it again.
 struct RefusedFile {
   std::string path;
   FileStamp stamp;

@@ -7,7 +7,7 @@
 
 namespace host::media {
 
-// What one file says about itself, already repaired: every text is short, valid UTF-8.
+// The tags of one file, already repaired: every text is short, valid UTF-8.
 struct SongTags {
   std::string title;
   std::string artist;
@@ -20,10 +20,10 @@ struct SongTags {
   double duration_seconds = 0;
   bool is_compilation = false;
   bool is_cloud = false;
-  // Names the song's own picture by its content; 0 when there is none that can be shown.
+  // Identifies the song's own picture by its content; 0 when no picture can be shown.
   std::uint64_t own_artwork = 0;
   PictureHeader own_picture;
-  // The file that holds it; empty when the picture is inside the song.
+  // The file of the picture; empty when it is inside the song.
   std::string own_picture_path;
 
   bool operator==(const SongTags&) const = default;

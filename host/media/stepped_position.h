@@ -4,7 +4,7 @@
 
 namespace host::media {
 
-// Where a song is on a clock that is stepped by hand. `now` is that clock's time, in seconds.
+// The position in a song on a stepped clock. `now` is that clock's time, in seconds.
 class SteppedPosition {
  public:
   void start(double now) {

@@ -89,7 +89,7 @@ bool is_usable_picture(const TagLib::ByteVector& bytes) {
 std::string text_of(const TagLib::PropertyMap& properties, const char* key) {
   const auto found = properties.find(key);
   if (found == properties.end() || found->second.isEmpty()) return {};
-  // A megabyte of text is cut before it is converted, so that it costs nothing.
+  // Long text is cut before the conversion, which then costs little.
   const auto first = found->second.front().substr(0, longest_text_bytes);
   return repaired_text(first.to8Bit(true));
 }
@@ -109,7 +109,7 @@ SongTags tags_from(const TagLib::PropertyMap& properties) {
   return tags;
 }
 
-// Opening a pipe would wait for its other end for ever, so only plain files are let through.
+// Opening a pipe would block until its other end opens, so only regular files are accepted.
 std::string reason_not_to_open(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return "cannot be reached";

@@ -13,19 +13,19 @@ namespace host::media {
 struct TagReading {
   std::optional<SongTags> tags;
   std::string refusal;  // Why there are no tags; empty when there are.
-  // The song names a picture that cannot be shown; it is as if it had none.
+  // The song names a picture that cannot be shown; it counts as having none.
   bool has_broken_picture = false;
 };
 
 // Whether a file of this name is worth opening: FLAC, MP3, Ogg Vorbis, Opus, M4A and WAV.
 bool has_audio_name(std::string_view name);
 
-// Reads any file without throwing. A file with audio in it but without a title is named after
-// itself; a file without audio is refused with the reason.
+// Reads any file without throwing. An audio file without a title gets the file's name as its title;
+// a file without audio is refused with the reason.
 TagReading read_tags(const std::string& path);
 
-// The encoded picture (JPEG or PNG) inside the file, the front cover when there are several; empty
-// when there is none or when it is absurdly large.
+// Returns the encoded picture (JPEG or PNG) inside the file, the front cover if there are several;
+// empty when there is none or when it is absurdly large.
 std::vector<std::uint8_t> read_embedded_picture(const std::string& path);
 
 }  // namespace host::media

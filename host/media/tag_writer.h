@@ -9,7 +9,7 @@
 namespace host::media {
 
 // Writes `tags` into the audio file at `path`, and `jpeg` as its front cover unless it is empty.
-// False when the file cannot be written.
+// Returns false when the file cannot be written.
 bool write_tags(const std::string& path, const SongTags& tags, std::span<const std::uint8_t> jpeg);
 
 }  // namespace host::media

@@ -26,8 +26,8 @@ std::string_view trimmed(std::string_view text) {
 }  // namespace
 
 std::string repaired_text(std::string_view text) {
-  // Cut before repairing: a megabyte of rubbish need not be walked. One replaced byte grows to
-  // three, hence the second cut below.
+  // Cut before repairing, to avoid walking a megabyte of garbage. A replaced byte becomes three,
+  // hence the second cut below.
   text = text.substr(0, longest_text_bytes * 2);
   const GText valid{g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())), &g_free};
   std::string result{valid.get()};

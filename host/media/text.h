@@ -6,14 +6,14 @@
 
 namespace host::media {
 
-// No label shows more than this, and a tag that is longer is a mistake or an attack.
+// No label shows more than this; a longer tag is a mistake or an attack.
 constexpr std::size_t longest_text_bytes = 1024;
 
 // Valid UTF-8 without control characters or outer spaces, cut at a character boundary. Broken bytes
 // become U+FFFD, so that a damaged title is still recognisable.
 std::string repaired_text(std::string_view text);
 
-// A key that sorts and compares without regard to case, the same in every locale.
+// Returns a key that sorts and compares ignoring case, the same in every locale.
 std::string folded_text(std::string_view text);
 
 // The leading number of "3", "3/12" or " 07 "; 0 for anything negative, absurd or not a number.

@@ -7,8 +7,8 @@
 
 namespace host::media {
 
-// Keeps each different text once, at an address that never changes: a hundred thousand songs share
-// a few thousand artists, albums and genres. Behind each stands a zero byte.
+// Stores each distinct text once, at an address that never changes: a hundred thousand songs share
+// a few thousand artists, albums and genres. Every text is followed by a zero byte.
 class TextPool {
  public:
   std::string_view keep(std::string_view text) {
@@ -16,7 +16,7 @@ class TextPool {
     return *kept_.insert(store(text)).first;
   }
 
-  // For texts that are hardly ever equal, such as paths: no look-up is spent on them.
+  // Stores without a lookup, for texts that are hardly ever equal, such as paths.
   std::string_view store(std::string_view text) {
     const std::size_t needed = text.size() + 1;
     if (needed > room_) {
@@ -33,7 +33,7 @@ class TextPool {
     return {start, text.size()};
   }
 
-  // Once everything is in, the set of known texts is only weight.
+  // Frees the set of known texts, which is not needed once everything is stored.
   void close() { kept_ = {}; }
 
  private:

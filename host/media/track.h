@@ -9,8 +9,8 @@ namespace host::media {
 
 enum class MediaType : std::uint32_t { music = 1 };
 
-// One song of a library. The texts belong to the library that the track came from, and have a zero
-// byte behind them.
+// One song of a library. The texts belong to the library that the track came from, and each is
+// followed by a zero byte.
 struct Track {
   std::uint64_t id = 0;
   std::uint64_t album_id = 0;
@@ -21,11 +21,11 @@ struct Track {
   std::string_view genre;
   std::string_view composer;
   std::string_view path;
-  // The picture file beside the song; empty when the picture is inside the song, or there is none.
+  // The picture file beside the song; empty when the picture is inside the song or missing.
   std::string_view picture_path;
-  // The same picture has the same key, whichever song it is asked for; 0 when there is none.
+  // The same picture has the same key in every song; 0 means no picture.
   std::uint64_t artwork_key = 0;
-  // The whole picture's size in pixels, and whether none of them can be seen through.
+  // The full picture's size in pixels, and whether it is opaque.
   PictureHeader artwork;
   double duration_seconds = 0;
   int track_number = 0;

@@ -32,7 +32,7 @@ std::optional<std::string> MediaService::start(MediaOptions options) {
   stop();
   auto player = media::MpvPlayer::create(
       {options.audio_output, options.pace, [] { return RunLoop::main().now(); }});
-  if (!player) return "the playing engine cannot be started";
+  if (!player) return "the playback engine cannot be started";
   running().reset(new MediaService{std::move(options), std::move(player)});
   running()->feed_.start();
   running()->restore_playback();

@@ -38,7 +38,7 @@ TEST(Picture, IsScaledDownToTheRequestedSideAndNeverUp) {
   EXPECT_EQ(small->pixels[0], 0xff4080c0u);
 }
 
-TEST(Picture, OfTwentyThousandSquaredIsRefusedWithoutTakingMemory) {
+TEST(Picture, OfTwentyThousandSquaredIsRefusedWithoutAllocating) {
   const auto promise = png_promise(20000, 20000);
   const long before = peak_memory_kib();
   EXPECT_FALSE(decode_picture(promise, 600));
@@ -52,7 +52,7 @@ TEST(Picture, DamagedBytesAreRefused) {
       decode_picture({reinterpret_cast<const std::uint8_t*>(letter.data()), letter.size()}, 100));
 }
 
-TEST(Picture, ThatBreaksOffIsShownAsFarAsItCame) {
+TEST(Picture, ATruncatedOneIsShownUpToTheBreak) {
   const auto whole = png_picture(64, 64, 0x808080);
   int shown = 0;
   for (std::size_t size = 0; size < whole.size(); ++size) {
@@ -110,7 +110,7 @@ TEST(ArtworkCache, ForgetsTheLeastRecentlyUsedWhenTheBudgetIsSpent) {
   EXPECT_EQ(cache.decode_count(), 4u);
 }
 
-TEST(ArtworkCache, APictureLargerThanTheBudgetIsAnsweredAndNotKept) {
+TEST(ArtworkCache, ReturnsAPictureLargerThanTheBudgetWithoutKeepingIt) {
   const TemporaryFolder folder;
   const std::string path = folder / "cover.png";
   write_bytes(path, as_text(png_picture(50, 50, 0x112233)));

@@ -86,13 +86,13 @@ TEST_F(CloudSongs, AnEmptyEntryIsNamedAfterItsFile) {
   EXPECT_TRUE(reading.tags->is_cloud);
 }
 
-TEST_F(CloudSongs, WholeSecondsAreALengthToo) {
+TEST_F(CloudSongs, AcceptWholeSecondsAsADuration) {
   EXPECT_DOUBLE_EQ(read("duration = 90").tags->duration_seconds, 90);
 }
 
-TEST_F(CloudSongs, WhatIsNoEntryIsRefusedWithTheReason) {
+TEST_F(CloudSongs, AnInvalidEntryIsRefusedWithTheReason) {
   EXPECT_THAT(refusal("title = "), HasSubstr("in line 1"));
-  EXPECT_THAT(refusal("\xff\xfe rubbish"), HasSubstr("is no entry of a song"));
+  EXPECT_THAT(refusal("\xff\xfe rubbish"), HasSubstr("is not a song entry"));
   EXPECT_THAT(refusal("title = 7"), HasSubstr("title"));
   EXPECT_THAT(refusal("track = \"one\""), HasSubstr("track"));
   EXPECT_THAT(refusal("track = -1"), HasSubstr("track"));
@@ -100,7 +100,7 @@ TEST_F(CloudSongs, WhatIsNoEntryIsRefusedWithTheReason) {
   EXPECT_THAT(refusal("duration = -5"), HasSubstr("duration"));
   EXPECT_THAT(refusal("compilation = 1"), HasSubstr("compilation"));
   EXPECT_THAT(refusal(std::string(70'000, '#')), HasSubstr("too long"));
-  EXPECT_THAT(refusal(std::string(60'000, '[')), HasSubstr("is no entry of a song"));
+  EXPECT_THAT(refusal(std::string(60'000, '[')), HasSubstr("is not a song entry"));
 }
 
 TEST_F(CloudSongs, OnlyPlainFilesAreOpened) {
@@ -111,7 +111,7 @@ TEST_F(CloudSongs, OnlyPlainFilesAreOpened) {
   EXPECT_TRUE(read("cover = \"cover.pipe\"").has_broken_picture);
 }
 
-TEST_F(CloudSongs, StandInTheLibraryBesideTheOthers) {
+TEST_F(CloudSongs, AreInTheLibraryBesideTheOthers) {
   write_song(at("near.flac"), {}, {}, 0.1);
   write_bytes(at("far.cloud.toml"), "title = 'Far'\nartist = 'X'");
   write_bytes(at("cover.png"), as_text(png_picture(8, 6, 1)));
@@ -144,10 +144,10 @@ TEST_F(CloudSongs, ADamagedEntryIsCountedAndLoggedOnce) {
   const CapturedLog log;
   EXPECT_EQ(scan().progress.skipped, 1u);
   EXPECT_EQ(scan().progress.skipped, 1u);
-  EXPECT_EQ(log.count("bad.cloud.toml is no entry of a song"), 1);
+  EXPECT_EQ(log.count("bad.cloud.toml is not a song entry"), 1);
 }
 
-TEST_F(CloudSongs, ACoverThatIsNoneIsLoggedAndTheFoldersServes) {
+TEST_F(CloudSongs, AnInvalidCoverIsLoggedAndTheFoldersIsUsed) {
   write_bytes(at("cover.png"), as_text(png_picture(8, 6, 1)));
   write_bytes(at("far.cloud.toml"), "cover = 'missing.png'");
   const CapturedLog log;
@@ -156,7 +156,7 @@ TEST_F(CloudSongs, ACoverThatIsNoneIsLoggedAndTheFoldersServes) {
   EXPECT_EQ(log.count("far.cloud.toml cannot be shown"), 1);
 }
 
-TEST(CloudName, IsTheWholeEnding) {
+TEST(CloudName, IsTheWholeExtension) {
   EXPECT_TRUE(has_cloud_name("a.cloud.toml"));
   EXPECT_FALSE(has_cloud_name(".cloud.toml"));
   EXPECT_FALSE(has_cloud_name("a.toml"));

@@ -10,7 +10,7 @@ using namespace media_tests;
 
 namespace {
 
-// After the header: how many bytes, the name, the contents, and no checksum worth the name.
+// Inserts a chunk after the header: its length, name and contents, and a dummy checksum.
 std::vector<std::uint8_t> png_with_chunk(std::vector<std::uint8_t> png, const char* name) {
   constexpr std::size_t end_of_header = 33;
   std::vector<std::uint8_t> chunk = {0, 0, 0, 2};
@@ -22,7 +22,7 @@ std::vector<std::uint8_t> png_with_chunk(std::vector<std::uint8_t> png, const ch
 
 }  // namespace
 
-TEST(PictureHeader, SaysTheSizeOfTheWholePicture) {
+TEST(PictureHeader, HasTheSizeOfTheWholePicture) {
   EXPECT_EQ(read_picture_header(jpeg_picture(300, 200, 1)), (PictureHeader{300, 200, true}));
   EXPECT_EQ(read_picture_header(png_picture(30, 20, 1)), (PictureHeader{30, 20, true}));
 }
@@ -36,7 +36,7 @@ TEST(PictureHeader, IsReadFromTheBeginningOfAFile) {
 TEST(PictureHeader, MayComeAfterAPreviewOfManyBytes) {
   const TemporaryFolder folder;
   std::vector<std::uint8_t> bytes = jpeg_picture(30, 20, 1);
-  // Segments of an application's own, 60 KB each, before everything else.
+  // Application segments of 60 KB each, before everything else.
   std::vector<std::uint8_t> segment(60'002, 0);
   segment[0] = 0xff;
   segment[1] = 0xe5;
@@ -52,7 +52,7 @@ TEST(PictureHeader, ATransparentColourMakesAPictureTranslucent) {
   EXPECT_FALSE(read_picture_header(png_with_chunk(png_picture(30, 20, 1), "tRNS")).is_opaque);
 }
 
-TEST(PictureHeader, WhatCannotBeShownHasNone) {
+TEST(PictureHeader, AnUndecodablePictureHasNone) {
   EXPECT_FALSE(read_picture_header({}).is_usable());
   EXPECT_FALSE(read_picture_header(png_promise(20'000, 20'000)).is_usable());
   const auto whole = jpeg_picture(200, 200, 0x808080);
@@ -79,7 +79,7 @@ TEST(PictureHeader, FittedSizeIsTheSizeOfTheDecodedPicture) {
   }
 }
 
-TEST(PictureHeader, ABrokenPictureOfTheSongGivesWayToTheFolders) {
+TEST(PictureHeader, ABrokenPictureInTheSongFallsBackToTheFolders) {
   const TemporaryFolder folder;
   write_song(folder / "a.flac", {}, {'n', 'o', 'n', 'e'}, 0.1);
   write_bytes(folder / "cover.png", as_text(png_picture(8, 8, 1)));

@@ -38,7 +38,7 @@ TEST(PlayQueue, BeforeTheFirstSongIsTheFirst) {
   EXPECT_EQ(queue.previous(), 1u);
 }
 
-TEST(PlayQueue, AStrangeSongChangesNothing) {
+TEST(PlayQueue, AnUnknownSongChangesNothing) {
   PlayQueue queue;
   queue.set_tracks(make_song_list({1, 2}));
   queue.select(2);

@@ -67,7 +67,7 @@ class SteppedQueue : public testing::Test {
 
 }  // namespace
 
-TEST_F(SteppedQueue, PlayAndPauseAreWhatTheEngineDoes) {
+TEST_F(SteppedQueue, PlayAndPauseReachTheEngine) {
   queue_->set_queue(make_song_list({1, 2}));
   EXPECT_EQ(player_->engine().path, "");
   queue_->play();
@@ -81,7 +81,7 @@ TEST_F(SteppedQueue, PlayAndPauseAreWhatTheEngineDoes) {
               ElementsAre(PlaybackState::playing, PlaybackState::paused, PlaybackState::playing));
 }
 
-TEST_F(SteppedQueue, PositionIsExactOnTheClockAndTheEngineIsThere) {
+TEST_F(SteppedQueue, PositionIsExactOnTheClockAndTheEngineFollows) {
   queue_->set_queue(make_song_list({1}));
   queue_->play();
   EXPECT_DOUBLE_EQ(queue_->position(), 0);
@@ -101,12 +101,12 @@ TEST_F(SteppedQueue, PositionIsExactOnTheClockAndTheEngineIsThere) {
   EXPECT_NEAR(queue_->duration(), 30, 0.05);
 }
 
-TEST_F(SteppedQueue, TheEngineStandsStillWhileTheClockDoes) {
+TEST_F(SteppedQueue, TheEngineIsStillWhileTheClockIs) {
   queue_->set_queue(make_song_list({3}));
   queue_->play();
   step(1);
   const double before = player_->engine().position_seconds;
-  // Real time passes here, more than the rest of the song would need if the engine ran by itself.
+  // Wait in real time, longer than the rest of the song would take if the engine ran by itself.
   pollfd nothing{-1, 0, 0};
   ::poll(&nothing, 1, 300);
   player_->pump();
@@ -152,7 +152,7 @@ TEST_F(SteppedQueue, NextAndPreviousChangeWhatTheEnginePlays) {
   EXPECT_EQ(queue_->state(), PlaybackState::stopped);
 }
 
-TEST_F(SteppedQueue, ASongThatCannotBePlayedIsPassedOver) {
+TEST_F(SteppedQueue, ASongThatCannotBePlayedIsSkipped) {
   const CapturedLog log;
   queue_->set_queue(make_song_list({4, 9, 2}));
   queue_->play();
@@ -173,20 +173,20 @@ TEST_F(SteppedQueue, AQueueOfNothingPlayableStops) {
   EXPECT_EQ(queue_->state(), PlaybackState::stopped);
 }
 
-TEST_F(SteppedQueue, SongsOutOfReachArePassedOverBothWaysWithOneLine) {
+TEST_F(SteppedQueue, SongsOutOfReachAreSkippedBothWaysWithOneLine) {
   queue_->set_queue(make_song_list({1, 8, 9, 3}));
   queue_->play();
   const CapturedLog log;
   queue_->next();
   EXPECT_EQ(queue_->current(), 3u);
-  EXPECT_EQ(log.count("song 8 is out of reach; it and 1 more are passed over"), 1);
+  EXPECT_EQ(log.count("song 8 is out of reach; it and 1 more are skipped"), 1);
   queue_->previous();
   EXPECT_EQ(queue_->current(), 1u);
-  EXPECT_EQ(log.count("song 9 is out of reach; it and 1 more are passed over"), 1);
+  EXPECT_EQ(log.count("song 9 is out of reach; it and 1 more are skipped"), 1);
   EXPECT_EQ(player_->engine().path, path(1));
 }
 
-TEST_F(SteppedQueue, WithNothingBeforeItInReachASongBeginsAnew) {
+TEST_F(SteppedQueue, WithNoPlayableSongBeforeItASongStartsAgain) {
   queue_->set_queue(make_song_list({8, 9, 1}));
   queue_->play();
   step(4);
@@ -195,10 +195,10 @@ TEST_F(SteppedQueue, WithNothingBeforeItInReachASongBeginsAnew) {
   EXPECT_EQ(queue_->current(), 1u);
   EXPECT_DOUBLE_EQ(queue_->position(), 0);
   EXPECT_EQ(player_->engine().path, path(1));
-  EXPECT_EQ(log.count("passed over"), 1);
+  EXPECT_EQ(log.count("skipped"), 1);
 }
 
-TEST_F(SteppedQueue, ASongOutOfReachGivesItsTurnToTheNext) {
+TEST_F(SteppedQueue, ASongOutOfReachIsReplacedByTheNext) {
   queue_->set_queue(make_song_list({1, 9, 3}));
   EXPECT_TRUE(queue_->set_current(9));
   EXPECT_EQ(queue_->current(), 3u);
@@ -227,7 +227,7 @@ TEST_F(SteppedQueue, ReplacingTheQueueGoesOnWithASongThatIsInBoth) {
   EXPECT_EQ(player_->engine().path, "");
 }
 
-TEST_F(SteppedQueue, VolumeIsTheEngines) {
+TEST_F(SteppedQueue, VolumeReachesTheEngine) {
   player_->set_volume(0.25);
   EXPECT_NEAR(player_->engine().volume_percent, 25, 1e-9);
   player_->set_volume(7);

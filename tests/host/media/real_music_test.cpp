@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The songs of a package, in the folder that the environment names.
+// The songs of a package, in the folder that an environment variable names.
 class RealMusic : public testing::Test {
  protected:
   void SetUp() override {
@@ -60,9 +60,8 @@ TEST_F(RealMusic, ATaggedSongSaysWhoMadeIt) {
   EXPECT_GE(outcome_.library->album(palace->album_id).size(), 1u);
 }
 
-// A few of them are written in a way that the playing engine does not know. They must not hold up
-// the others.
-TEST_F(RealMusic, EverySongPlaysOrIsSaidAndPassedOver) {
+// The playback engine does not know the format of a few of them. They must not hold up the others.
+TEST_F(RealMusic, EverySongPlaysOrIsLoggedAndSkipped) {
   constexpr std::size_t most_unknown = 3;
   double now = 100;
   const auto player = MpvPlayer::create({"null", PlayerPace::stepped, [&now] { return now; }});
@@ -74,7 +73,7 @@ TEST_F(RealMusic, EverySongPlaysOrIsSaidAndPassedOver) {
   const CapturedLog log;
   std::size_t played = 0;
   for (queue.play(); queue.state() == PlaybackState::playing; queue.next()) {
-    // A song that cannot be played gives its turn to the next, which may be another such.
+    // A song that cannot be played is replaced by the next, which may be unplayable too.
     for (auto song = queue.loaded(); player->pump(), queue.loaded() != song;)
       song = queue.loaded();
     if (!queue.loaded()) break;

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A second look at folders of which a library is already in hand.
+// A second scan of folders whose library is already in hand.
 class Rescanning : public testing::Test {
  protected:
   Rescanning() {
@@ -44,7 +44,7 @@ class Rescanning : public testing::Test {
   std::shared_ptr<const Library> known_;
 };
 
-TEST_F(Rescanning, AnswersTheLibraryInHandWhenNothingHasChanged) {
+TEST_F(Rescanning, ReturnsTheLibraryInHandWhenNothingHasChanged) {
   const ScanOutcome outcome = scan(known_);
   EXPECT_EQ(outcome.library, known_);
   EXPECT_EQ(outcome.progress.seen, 3u);
@@ -52,7 +52,7 @@ TEST_F(Rescanning, AnswersTheLibraryInHandWhenNothingHasChanged) {
   EXPECT_EQ(outcome.progress.skipped, 1u);
 }
 
-TEST_F(Rescanning, MakesTheLibraryAnewWhenNoneIsInHand) {
+TEST_F(Rescanning, RebuildsTheLibraryWhenNoneIsInHand) {
   const ScanOutcome outcome = scan(nullptr);
   ASSERT_EQ(outcome.library->tracks().size(), 2u);
   EXPECT_EQ(outcome.library->tracks()[0].title, "A");
@@ -76,7 +76,7 @@ TEST_F(Rescanning, ASongThatChangedIsReadAndTheOthersKeepTheirTags) {
   EXPECT_EQ(outcome.library->tracks()[1].album, "Album");
 }
 
-TEST_F(Rescanning, APictureThatAppearsReachesTheSongsThoughNoneIsOpened) {
+TEST_F(Rescanning, ANewPictureReachesTheSongsWithoutOpeningThem) {
   write_bytes(at("cover.png"), as_text(png_picture(4, 4, 0x00ff00)));
   const ScanOutcome outcome = scan(known_);
   EXPECT_EQ(outcome.progress.read, 0u);
@@ -86,7 +86,7 @@ TEST_F(Rescanning, APictureThatAppearsReachesTheSongsThoughNoneIsOpened) {
   EXPECT_EQ(scan(outcome.library).library, outcome.library);
 }
 
-TEST_F(Rescanning, ALibraryThatIsNotTheOneOfTheIndexIsNotTrusted) {
+TEST_F(Rescanning, ALibraryFromAnotherIndexIsNotTrusted) {
   const ScanOutcome outcome = scan(Library::build({}));
   EXPECT_EQ(outcome.library->tracks().size(), 2u);
 }

@@ -64,7 +64,7 @@ class Scanning : public testing::Test {
 
 }  // namespace
 
-TEST_F(Scanning, FindsSongsInEveryFolderAndLeavesOutHiddenOnes) {
+TEST_F(Scanning, FindsSongsInEveryFolderAndSkipsHiddenOnes) {
   fs::create_directories(at("a/b"));
   fs::create_directories(at(".trash"));
   write_song(at("two.flac"), titled("Two"));
@@ -146,7 +146,7 @@ TEST_F(Scanning, ADamagedFileIsSkippedCountedAndLoggedOnce) {
   EXPECT_EQ(log.count("bad.mp3"), 1);
 }
 
-TEST_F(Scanning, ADamagedFileThatIsMendedJoinsTheLibrary) {
+TEST_F(Scanning, ADamagedFileThatIsRepairedJoinsTheLibrary) {
   write_bytes(at("song.flac"), "no music");
   EXPECT_EQ(scan().progress.skipped, 1u);
   write_song(at("song.flac"), titled("Mended"));
@@ -166,7 +166,7 @@ TEST_F(Scanning, ASongThatBecomesDamagedLeavesTheLibrary) {
   EXPECT_EQ(third.progress.skipped, 1u);
 }
 
-TEST_F(Scanning, LinksThatLeadInACircleEnd) {
+TEST_F(Scanning, CyclicLinksAreFollowedOnce) {
   fs::create_directories(at("a/b"));
   fs::create_directory_symlink(music(), at("a/b/up"));
   fs::create_directory_symlink(at("a"), at("again"));
@@ -228,7 +228,7 @@ TEST_F(Scanning, AStoppedScanKeepsWhatItReadAndForgetsNothing) {
   EXPECT_EQ(scan().progress.read, 0u);
 }
 
-TEST_F(Scanning, RemembersTheSongsOfTheAskedFoldersOnly) {
+TEST_F(Scanning, RemembersTheSongsOfTheRequestedFoldersOnly) {
   fs::create_directories(at("x"));
   fs::create_directories(at("xy"));
   write_song(at("x/a.flac"), titled("A"));
@@ -239,7 +239,7 @@ TEST_F(Scanning, RemembersTheSongsOfTheAskedFoldersOnly) {
   EXPECT_THAT(titles(*remembered_library(index, roots)), ElementsAre("A"));
 }
 
-TEST_F(Scanning, NamesThatAreNotUtf8AreCarriedThrough) {
+TEST_F(Scanning, NamesThatAreNotUtf8ArePreserved) {
   write_song(at("odd.flac"), titled("Odd"));
   const std::string odd = at("od\xff\xfe.flac");
   fs::rename(at("odd.flac"), odd);
@@ -249,7 +249,7 @@ TEST_F(Scanning, NamesThatAreNotUtf8AreCarriedThrough) {
   EXPECT_EQ(only(second).path, odd);
 }
 
-TEST_F(Scanning, ADamagedIndexIsSetAsideAndMadeAnewWithTheSameIdentifiers) {
+TEST_F(Scanning, ADamagedIndexIsSetAsideAndRebuiltWithTheSameIdentifiers) {
   write_song(at("a.flac"), titled("A"));
   const std::uint64_t id = only(scan()).id;
   write_bytes(index_path(), std::string(20000, 'x'));

@@ -52,7 +52,7 @@ TEST(Scanner, WakesTheMainLoopWithTheRememberedAndThenTheFinishedLibrary) {
   EXPECT_FALSE(becomes_readable(scanner.descriptor(), 0));
 }
 
-TEST(Scanner, IsStoppedByItsEndInTheMiddleOfAScan) {
+TEST(Scanner, StopsARunningScanWhenDestroyed) {
   const TemporaryFolder folder;
   for (int i = 0; i < 200; ++i)
     write_tone(folder / (std::to_string(i) + ".wav"), 0.01);

@@ -114,7 +114,7 @@ TEST(TagReader, InvalidUtf8IsRepairedAndTheRestOfTheTagsKept) {
   EXPECT_EQ(reading.tags->artist, "The Artist");
 }
 
-TEST(TagReader, ANegativeTrackNumberIsNone) {
+TEST(TagReader, ANegativeTrackNumberIsIgnored) {
   const TemporaryFolder folder;
   SongTags tags = sample_tags();
   tags.track_number = 77;
@@ -128,7 +128,7 @@ TEST(TagReader, ANegativeTrackNumberIsNone) {
   EXPECT_EQ(read_tags(folder / "negative.flac").tags->track_number, 0);
 }
 
-TEST(TagReader, WhatIsNoAudioIsRefusedWithAReason) {
+TEST(TagReader, AFileWithoutAudioIsRefusedWithAReason) {
   const TemporaryFolder folder;
   write_bytes(folder / "empty.mp3", "");
   ::mkdir((folder / "folder.mp3").c_str(), 0700);

@@ -24,7 +24,7 @@ TEST(MediaText, ControlCharactersAndOuterSpacesAreNotShown) {
   EXPECT_EQ(repaired_text("   "), "");
 }
 
-TEST(MediaText, FoldingForgetsCaseInEveryScript) {
+TEST(MediaText, FoldingIgnoresCaseInEveryScript) {
   EXPECT_EQ(folded_text("ÄRGER Straße"), folded_text("ärger STRASSE"));
   EXPECT_NE(folded_text("a"), folded_text("ä"));
 }
