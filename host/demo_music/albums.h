@@ -5,7 +5,7 @@
 
 namespace host::media {
 
-// How the songs of an album sound; each song varies key, tempo and patterns.
+// The style of an album's songs; each song varies key, tempo and patterns.
 enum class DemoMood { glassy, nocturnal, playful, slow, bright, warm, electric, plain };
 
 enum class CoverPlace { inside_the_songs, in_the_folder };
@@ -14,7 +14,7 @@ struct DemoAlbum {
   const char* title;
   const char* artist;
   const char* genre;
-  const char* suffix;  // The format of its files.
+  const char* suffix;  // Of its files; determines their format.
   DemoMood mood;
   CoverPlace cover_place;
   int cover_number;  // Its picture is `cover-<number>.png`.

@@ -19,7 +19,7 @@ constexpr std::array<std::pair<std::string_view, int>, 5> formats = {{
     {".wav", SF_FORMAT_WAV | SF_FORMAT_PCM_16},
 }};
 
-// The encoder for Vorbis keeps a whole write on the stack; small writes keep it small.
+// The Vorbis encoder keeps a whole write on the stack, so writes are small.
 constexpr std::size_t samples_per_write = 4096;
 
 int format_for(std::string_view path) {

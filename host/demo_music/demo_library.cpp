@@ -100,7 +100,7 @@ bool make_song(const DemoSong& song, const std::vector<std::uint8_t>& cover) {
   return write_tags(song.path.string(), tags, is_inside ? cover : std::vector<std::uint8_t>{});
 }
 
-// Hands the songs to a few threads and counts them in the calling one.
+// Distributes the songs among a few threads and reports progress from the calling one.
 class Studio {
  public:
   Studio(const std::vector<DemoSong>& songs, const Covers& covers)
@@ -160,8 +160,8 @@ bool is_running(pid_t process) {
   return ::kill(process, 0) == 0 || errno == EPERM;
 }
 
-// Folders that a killed run left behind; they are of no use to anybody. Another phone may be making
-// its music at this moment, and its folder is left alone.
+// Removes folders that a killed run left behind. The folder of a running process, which may be
+// another phone making its music, is left alone.
 void remove_leftovers(const fs::path& folder) {
   const std::string prefix = folder.filename().string() + ".making-";
   std::error_code error;
@@ -196,7 +196,7 @@ std::optional<std::string> make_demo_library(const std::string& folder, const st
   if (is_whole && !error) return std::nullopt;
   std::error_code ignored;
   fs::remove_all(workshop, ignored);
-  // Another process may have been quicker; its music is as good.
+  // Another process may have finished first; its music is just as good.
   if (is_whole && fs::exists(target, ignored)) return std::nullopt;
   if (stop.stop_requested()) return "the demo music was stopped";
   return fmt::format("the demo music cannot be written to {}", folder);

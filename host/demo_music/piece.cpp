@@ -13,7 +13,7 @@ struct Style {
   double slowest_bpm;
   double fastest_bpm;
   bool is_minor;
-  int steps_per_beat;  // Of the arpeggio.
+  int steps_per_beat;  // Notes of the arpeggio.
   Drums drums;
   Timbre pad;
   Timbre lead;
@@ -68,7 +68,7 @@ constexpr double shortest_seconds = 32;
 constexpr double tail_seconds = 2.5;
 constexpr int octave = 12;
 
-// Roots of four chords as degrees of the scale; each of these comes home by itself.
+// Roots of four chords as degrees of the scale; each progression resolves when it repeats.
 constexpr std::array<std::array<int, 4>, 6> progressions = {
     {{0, 5, 3, 4}, {0, 3, 4, 3}, {5, 3, 0, 4}, {0, 4, 5, 3}, {0, 2, 3, 4}, {3, 0, 4, 5}}};
 
@@ -80,7 +80,7 @@ class Piece {
         key_(dice_.roll(octave)),
         beat_(60 / dice_.between(style_.slowest_bpm, style_.fastest_bpm)),
         chords_(progressions[static_cast<std::size_t>(dice_.roll(progressions.size()))]),
-        // Whole rounds of the four chords, so that every piece ends where its harmony does.
+        // Whole rounds of the four chords, to end every piece together with its harmony.
         rounds_(1 + static_cast<int>(shortest_seconds / (4 * beats_per_bar * beat_))),
         tape_(length() + tail_seconds, demo_sample_rate) {}
 
@@ -128,7 +128,7 @@ class Piece {
     return notes;
   }
 
-  // A pattern of chord tones that is the song's own, with a rest here and there.
+  // A pattern of chord tones, different in each song, with occasional rests.
   std::vector<Note> lead() {
     std::array<int, 16> pattern{};
     for (int& tone : pattern)
@@ -151,7 +151,7 @@ class Piece {
   void play_drums() {
     if (style_.drums == Drums::none) return;
     const bool is_driving = style_.drums == Drums::driving;
-    // The first round belongs to the melody.
+    // The first round has no drums.
     for (int beat = 4 * beats_per_bar; beat < bars() * beats_per_bar; ++beat) {
       const double start = beat * beat_;
       if (is_driving || beat % 2 == 0) tape_.strike(Drum::kick, start, 0.5f);

@@ -30,7 +30,7 @@ Table table_for(const Timbre& timbre) {
   return table;
 }
 
-// Exponential falls are made by repeated multiplication: one step keeps this much.
+// An exponential decay is made by repeated multiplication; this is the factor of one step.
 float kept_per_sample(double time_constant, int rate) {
   if (time_constant <= 0) return 1;
   return static_cast<float>(std::exp(-1.0 / (time_constant * rate)));
@@ -77,7 +77,7 @@ void Tape::strike(Drum drum, double start, float level) {
     const float tone = static_cast<float>(std::sin(phase));
     phase += 2 * std::numbers::pi * hertz / rate_;
     if (drum == Drum::kick) hertz = 45 + (hertz - 45) * 0.9985;
-    // The difference of neighbours is what a cymbal keeps of noise: the high part.
+    // The difference of neighbouring samples keeps the high part of the noise, as a cymbal has it.
     const float bright = (hiss - previous) * 0.5f;
     previous = hiss;
     const float sound = drum == Drum::kick    ? tone

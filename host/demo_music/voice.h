@@ -13,26 +13,26 @@ struct Note {
   float level;
 };
 
-// What a voice sounds like.
+// The sound of a voice.
 struct Timbre {
   std::vector<float> harmonics;  // Strength of each harmonic, the fundamental first.
   double attack_seconds;
-  double decay_seconds;  // Time constant of the fall while the note is held; 0 holds the level.
+  double decay_seconds;  // Time constant of the decay while the note is held; 0 holds the level.
   double release_seconds;
 };
 
 enum class Drum { kick, snare, hat };
 
-// A strip of tape that voices play onto.
+// A buffer into which voices are mixed.
 class Tape {
  public:
   Tape(double seconds, int rate);
 
   void play(const Timbre& timbre, const std::vector<Note>& notes);
   void strike(Drum drum, double start, float level);
-  // Repeats everything `seconds` later, weaker by `level`, again and again.
+  // Adds an echo after `seconds`, scaled by `level`, and the echoes of that echo.
   void add_echo(double seconds, float level);
-  // Brings the loudest sample to `peak` and fades the last seconds out.
+  // Scales the loudest sample to `peak` and fades out the last `fade_seconds`.
   std::vector<float> finish(float peak, double fade_seconds);
 
  private:

@@ -4,11 +4,11 @@
 
 namespace host::music {
 
-/// The application's own red: what can be touched, and the song that plays.
+/// The application's red, for controls and the playing song.
 inline UIColor accent_color() {
   return UIColor::colorWithRed(1, 45.0 / 255, 85.0 / 255, 1);
 }
-/// Of second lines.
+/// The colour of second lines.
 inline UIColor weak_color() {
   return UIColor::colorWithWhite(0.56, 1);
 }
@@ -17,7 +17,7 @@ inline UIColor separator_color() {
 }
 
 inline constexpr CGFloat kMargin = 15;
-/// Of the bar at the bottom of the list.
+/// The height of the bar at the bottom of the list.
 inline constexpr CGFloat kMiniBarHeight = 56;
 
 }  // namespace host::music

@@ -8,8 +8,8 @@
 
 namespace host::music {
 
-/// What plays, at the bottom of the list: its cover, its texts and a button that plays or pauses.
-/// Away while nothing is loaded, or while the whole screen shows what plays.
+/// The playing song at the bottom of the list: its cover, its texts and a play or pause button.
+/// Hidden while nothing is loaded, or while the playing song has the whole screen.
 class MiniBar {
  public:
   MiniBar(UIView parent, const PlayerState& player, std::function<void()> tapped);
@@ -17,7 +17,7 @@ class MiniBar {
   MiniBar& operator=(const MiniBar&) = delete;
 
   void player_changed();
-  /// Is the list below it to be seen?
+  /// Pass true while the list below the bar is visible.
   void set_wanted(bool wanted);
   UIView view() const { return bar_.get(); }
 

@@ -14,8 +14,8 @@ namespace host::music {
 struct MusicApplicationObject
     : objc::Bound<MusicApplicationObject, "MusicApplication", UIApplication> {};
 
-/// The Music application: the list of songs, the page of what plays, and the bar between them. The
-/// home screen's process plays.
+/// The Music application: the list of songs, the page of the playing song, and the bar between
+/// them. The home screen's process plays the music.
 class MusicApplication : public objc::Implementation<MusicApplication, MusicApplicationObject> {
  public:
   using Implementation::Implementation;
@@ -23,7 +23,7 @@ class MusicApplication : public objc::Implementation<MusicApplication, MusicAppl
 
   void application_did_finish_launching(objc::Object application);
 
-  // For whoever looks in from outside.
+  // For tests.
   UITableView songs_table() const;
   UIView mini_bar() const { return mini_bar_->view(); }
   MusicNowPlayingController now_playing() const { return now_playing_.get(); }

@@ -18,9 +18,9 @@ using application::PlayerRemote;
 namespace {
 
 constexpr double kTick = 0.5;
-/// Of the status bar and the bar of pages.
+/// The height of the status bar and the navigation bar.
 constexpr CGFloat kTop = 64;
-/// What the controls need below the cover.
+/// The height that the controls need below the cover.
 constexpr CGFloat kControls = 228;
 constexpr CGFloat kTimeWidth = 44;
 constexpr CGFloat kTimeHeight = 16;
@@ -57,7 +57,7 @@ objc::Ref<MusicNowPlayingController> NowPlayingPage::make(const PlayerState& pla
   return made;
 }
 
-// Whatever room the cover leaves is shared out among the four rows of controls.
+// The room that the cover leaves is divided among the four rows of controls.
 void NowPlayingPage::view_did_load() {
   super("viewDidLoad"_sel);
   const CGSize size = self.view().bounds().size;

@@ -14,7 +14,7 @@ namespace host::music {
 struct MusicNowPlayingController
     : objc::Bound<MusicNowPlayingController, "MusicNowPlayingController", UIViewController> {};
 
-/// The song that plays, on the whole screen: its cover, where it is, its texts, and the buttons and
+/// The playing song on the whole screen: its cover, its position, its texts, and the buttons and
 /// the volume below.
 class NowPlayingPage : public objc::Implementation<NowPlayingPage, MusicNowPlayingController> {
  public:

@@ -4,10 +4,10 @@
 
 namespace host::music {
 
-/// What the phone plays, as this application last heard of it and reckons it to be now.
+/// The phone's playback state, extrapolated from the last report to now.
 class PlayerState {
  public:
-  /// Takes over what the phone has said.
+  /// Takes over the phone's latest report.
   void refresh();
 
   bool has_song() const { return song_ != 0; }

@@ -54,7 +54,7 @@ void SongsPage::view_did_load() {
   table_->setSeparatorColor(separator_color());
   table_->setDataSource(self);
   table_->setDelegate(self);
-  // The last song is not to lie below the bar.
+  // Keeps the last song clear of the bar.
   const auto room =
       UIView::alloc().initWithFrame({0, 0, self.view().bounds().size.width, kMiniBarHeight});
   table_->setTableFooterView(room.autorelease());

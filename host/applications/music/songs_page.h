@@ -14,13 +14,13 @@ namespace host::music {
 struct MusicSongsController
     : objc::Bound<MusicSongsController, "MusicSongsController", UIViewController> {};
 
-/// The list of all songs. A tap plays one; the one that plays is red.
+/// The list of all songs. A tap plays one; the playing one is red.
 class SongsPage : public objc::Implementation<SongsPage, MusicSongsController> {
  public:
   using Implementation::Implementation;
   ~SongsPage();
 
-  /// `chosen` is told of the song that the user has tapped.
+  /// `chosen` is called with the song that the user taps.
   static objc::Ref<MusicSongsController> make(const PlayerState& player,
                                               std::function<void(MPMediaItem)> chosen);
   std::function<void(bool)> on_visible;
@@ -28,9 +28,9 @@ class SongsPage : public objc::Implementation<SongsPage, MusicSongsController> {
   void view_did_load();
   void view_will_appear(BOOL animated);
   void view_will_disappear(BOOL animated);
-  /// Another song plays.
+  /// Call when another song plays.
   void player_changed();
-  /// The library is another one.
+  /// The library was replaced.
   void library_changed(objc::Object);
 
   NSInteger rows(UITableView table, NSInteger section);

@@ -8,23 +8,23 @@
 
 namespace host::application {
 
-/// The application's end of the wire. Home screens come and go: the socket that they connect to
-/// stays, and the latest one counts.
+/// The application's end of the wire. Home screens come and go: the listening socket stays, and the
+/// latest connection replaces the previous one.
 class HomeLink {
  public:
   explicit HomeLink(Descriptor listener) : listener_(std::move(listener)) {}
 
-  /// What to wait for: the home screen's messages, or a home screen.
+  /// The descriptor to wait on: the connection if a home screen is connected, else the listener.
   int awaited() const { return channel_ ? channel_.descriptor() : listener_.get(); }
   int listener() const { return listener_.get(); }
   bool is_connected() const { return static_cast<bool>(channel_); }
 
-  /// Waits for whatever comes next, and takes it in.
+  /// Blocks until something arrives, and reads it.
   void wait();
-  /// Takes in what is there now: a new home screen, or what the present one says.
+  /// Reads without waiting: accepts a new home screen, or reads the current one's messages.
   void take_in();
   std::optional<ToApplication> next();
-  /// What was read and could not be dealt with yet comes first again.
+  /// Puts messages that cannot be handled yet back at the front.
   void put_back(std::deque<ToApplication> messages);
   /// The memory that came with the last `Hello`.
   Descriptor take_memory() { return channel_.take_descriptor(); }

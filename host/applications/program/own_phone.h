@@ -4,8 +4,8 @@
 
 namespace host::application {
 
-/// The phone, for the console's lines that are carried out in an application: they ask and expect.
-/// Fingers, buttons and time are the home screen's.
+/// The phone, for console lines that run in an application, such as `print` and `expect`. Fingers,
+/// buttons and time belong to the home screen.
 class OwnPhone final : public console::Phone {
  public:
   void advance(double) override {}

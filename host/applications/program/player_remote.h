@@ -6,10 +6,10 @@
 
 namespace host::application {
 
-/// The phone's player, as an application sees and steers it: the home screen's process plays.
+/// The phone's player, as an application sees and controls it: the home screen's process plays.
 class PlayerRemote {
  public:
-  /// The one of this process.
+  /// The instance of this process.
   static PlayerRemote& shared();
 
   const PlaybackIs& playback() const { return playback_; }
@@ -22,7 +22,7 @@ class PlayerRemote {
 
   /// Called after every change.
   std::function<void()> on_change;
-  /// Where commands go; whoever runs the application sets it.
+  /// Sends a command to the home screen; set by the running program.
   std::function<void(const SteerPlayer&)> send;
   void take(const PlaybackIs& playback);
 

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kCannotStart = 2;
 
-/// What the supervisor tells the process, which trusts it.
+/// The options from the supervisor, which are trusted.
 struct Options {
   std::string device;
   std::string root;
@@ -45,7 +45,7 @@ std::optional<Options> read_options(int count, const char* const* arguments) {
   return options;
 }
 
-/// The first home screen decides how time passes here.
+/// The first home screen decides whether the clock here is real or stepped.
 Hello wait_for_home(HomeLink& link) {
   for (;;) {
     link.wait();
@@ -83,7 +83,7 @@ int run_program(int count, char** arguments, const Program& program) {
   give_large_blocks_back();
   const auto options = read_options(count, arguments);
   if (!options) {
-    spdlog::error("{} is started by sonavue", program.name);
+    spdlog::error("{} can only be started by sonavue", program.name);
     return kCannotStart;
   }
   set_current_device(*device_model(options->device));

@@ -6,22 +6,22 @@
 
 namespace host::application {
 
-/// What makes a program of an application: who it is, and how it comes to life.
+/// Describes an application's program: its identity, and how it starts.
 struct Program {
   const char* bundle;                        ///< Its identifier.
   const char* folder;                        ///< Its bundle on the device.
   const char* name;                          ///< Of its process.
-  std::span<const std::string_view> images;  ///< What it is linked with.
+  std::span<const std::string_view> images;  ///< The frameworks that it is linked with.
   const char* application_class;             ///< Of its application object.
-  /// Makes the classes of its own, when those of the platform are there. May be nullptr.
+  /// Registers its own classes, after those of the platform. May be nullptr.
   void (*export_classes)();
-  /// Starts what the application stands on, when there is a run loop. May be nullptr.
+  /// Starts the services that the application uses, after the run loop exists. May be nullptr.
   void (*prepare)(bool is_stepped);
 };
 
-/// The body of an application's `main`: waits for a home screen, comes to life, and serves until
-/// its supervisor ends it. Extensions that are meant for it are loaded before its application
-/// object is made.
+/// The body of an application's `main`: waits for a home screen, starts, and serves until its
+/// supervisor ends it. Extensions whose filter admits it are loaded before its application object
+/// is made.
 int run_program(int count, char** arguments, const Program& program);
 
 }  // namespace host::application

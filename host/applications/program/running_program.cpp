@@ -11,7 +11,7 @@
 namespace host::application {
 namespace {
 
-/// What the wire has for "nothing is due".
+/// The time that means "nothing is due" on the wire.
 constexpr double kVeryLate = 1e15;
 
 NSString to_ns(const std::string& text) {
@@ -58,7 +58,7 @@ void RunningProgram::watch() {
   const auto serve = [this] {
     link_.take_in();
     handle_messages();
-    // Another home screen has another descriptor.
+    // A new home screen has a new descriptor.
     watch();
   };
   home_watch_ = loop_.watch(link_.listener(), serve);
@@ -77,7 +77,7 @@ void RunningProgram::take(const Hello& hello) {
   auto surface =
       SharedSurface::open(link_.take_memory(), {hello.width, hello.height, hello.stride});
   if (!surface) {
-    spdlog::error("the home screen gave no surface to draw on");
+    spdlog::error("the home screen sent no surface to draw on");
     link_.close();
     return;
   }
@@ -102,7 +102,7 @@ void RunningProgram::take(const FingerChange& change) {
   }
 }
 
-// What nobody takes just now is dropped, as on the home screen.
+// Text is dropped while no field accepts it, as on the home screen.
 void RunningProgram::take(const TypedText& typed) {
   if (const NSString text = to_ns(typed.text)) uikit::type_text(text);
 }
@@ -144,7 +144,7 @@ void RunningProgram::move_to(double own_time) {
   if (stepped_) loop_.advance_to(*stepped_, own_time);
 }
 
-// The picture of a moment belongs to that moment: whoever steps the clock waits for it.
+// On a stepped clock the home screen waits until the frame of the current time is complete.
 void RunningProgram::finish_frame() {
   std::deque<ToApplication> others;
   while (link_.is_connected() && screen_.waits_for_buffer()) {

@@ -13,10 +13,10 @@
 
 namespace host::application {
 
-/// An application that has come to life: does what the home screen tells it, and draws for it.
+/// A running application: carries out the home screen's messages, and draws for it.
 class RunningProgram {
  public:
-  /// `stepped` is the clock when the home screen moves it; otherwise it is nullptr.
+  /// `stepped` is the clock if the home screen steps it; otherwise it is nullptr.
   RunningProgram(HomeLink& link, RunLoop& loop, SteppedClock* stepped,
                  const console::Globals& globals);
   ~RunningProgram();
@@ -24,7 +24,7 @@ class RunningProgram {
   RunningProgram& operator=(const RunningProgram&) = delete;
 
   void take(const Hello& hello);
-  /// Never ends by itself.
+  /// Does not return.
   void serve();
 
  private:
@@ -55,7 +55,7 @@ class RunningProgram {
   console::Session session_;
   std::optional<RunLoop::Id> message_watch_;
   std::optional<RunLoop::Id> home_watch_;
-  /// Of the home screen's clock, whose beginning a restart moves.
+  /// How far this clock is ahead of the home screen's, which starts again with a restart.
   double ahead_ = 0;
 };
 

@@ -26,7 +26,7 @@ void open_shared_library(bool is_stepped) {
     spdlog::error("there is no music: {}", *problem);
 }
 
-// Opening an index that is missing would make an empty one.
+// Opening a missing index would create an empty one.
 std::size_t count_of_shared_songs() {
   const std::string index = shared_index();
   return std::filesystem::exists(index) ? media::Index(index).load().songs.size() : 0;

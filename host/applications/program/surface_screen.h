@@ -10,9 +10,8 @@
 
 namespace host::application {
 
-/// The screen of an application: a picture goes into the buffer that the home screen does not show.
-/// While both are taken what changes is remembered, and what the home screen has not asked for is
-/// not copied.
+/// The screen of an application: frames are copied into the buffer that the home screen does not
+/// show. While both buffers are in use, damage is collected without copying.
 class SurfaceScreen final : public screen::Screen {
  public:
   using Announce = std::function<void(const NewFrame&)>;
@@ -21,17 +20,17 @@ class SurfaceScreen final : public screen::Screen {
 
   void show(const screen::Picture& picture, std::span<const screen::PixelRect> damage) override;
 
-  /// A home screen to draw for, which has seen nothing yet.
+  /// Starts drawing for a new home screen, which gets the whole picture.
   void attach(std::shared_ptr<SharedSurface> surface);
   void detach() { surface_.reset(); }
   void set_in_front(bool is_in_front);
-  /// The home screen shows the frame that was announced last.
+  /// Call when the home screen shows the last announced frame.
   void frame_taken();
-  /// Is there something to see that only waits for a buffer?
+  /// Returns true when a change is waiting for a free buffer.
   bool waits_for_buffer() const { return is_busy_ && !waiting_.is_empty(); }
 
  private:
-  /// Of pixels; the smallest that holds all that was added.
+  /// A rectangle of pixels: the bounds of everything added.
   struct Part {
     int left = 0, top = 0, right = 0, bottom = 0;
     bool is_empty() const { return right <= left || bottom <= top; }
@@ -45,7 +44,7 @@ class SurfaceScreen final : public screen::Screen {
   Announce announce_;
   std::shared_ptr<SharedSurface> surface_;
   std::optional<screen::Picture> picture_;
-  /// What each buffer lacks, and what the home screen has not heard of.
+  /// The damage that each buffer lacks, and the damage not yet announced.
   Part missing_[SharedSurface::kBuffers];
   Part waiting_;
   int next_buffer_ = 0;

@@ -8,7 +8,7 @@ namespace host::settings {
 struct PrefsAboutController
     : objc::Bound<PrefsAboutController, "PrefsAboutController", PSListController> {};
 
-/// What the phone is, and how much music is on it.
+/// Shows the phone's model and system, and the number of its songs.
 class AboutPage : public objc::Implementation<AboutPage, PrefsAboutController> {
  public:
   using Implementation::Implementation;

@@ -27,7 +27,7 @@ std::string text_in(NSDictionary list, const char* key) {
   return to_string(list.objectForKey(to_ns(key)));
 }
 
-/// In the entry's bundle, or beside the list.
+/// Returns the icon's path, in the entry's bundle or beside the list.
 std::string icon_file(NSDictionary entry) {
   const std::string name = text_in(entry, "icon");
   if (name.empty() || name.starts_with('/')) return name;

@@ -5,7 +5,7 @@
 
 namespace host::settings {
 
-/// A row of the root list that an extension has asked for by a property list.
+/// A row of the root list that an extension adds with a property list.
 struct LoaderEntry {
   std::string label;
   /// The class of its page.
@@ -17,7 +17,7 @@ struct LoaderEntry {
 inline constexpr const char* kLoaderFolder = "/Library/PreferenceLoader/Preferences";
 inline constexpr const char* kBundleFolder = "/Library/PreferenceBundles";
 
-/// By their labels. A file that is no such list is passed over, and the log says why.
+/// Returns the entries, ordered by label. An invalid file is skipped, and the log says why.
 std::vector<LoaderEntry> read_loader_entries();
 
 }  // namespace host::settings

@@ -8,14 +8,14 @@ namespace host::settings {
 struct PrefsListController
     : objc::Bound<PrefsListController, "PrefsListController", PSListController> {};
 
-/// The first page: what belongs to the phone, what extensions have added, and what it is.
+/// The first page: the phone's own pages, those of extensions, and About.
 class RootPage : public objc::Implementation<RootPage, PrefsListController> {
  public:
   using Implementation::Implementation;
 
   PrefsListController init();
   NSArray specifiers();
-  /// The gesture service's own page, which comes into the process with the service's library.
+  /// Shows the gesture service's own page, whose class is loaded with the service's library.
   void show_gestures();
 };
 

@@ -44,7 +44,7 @@ void draw_sounds() {
   stroke_arc({13, kMiddle.y}, 8.5, kSpread);
 }
 
-/// A flower: six petals round a middle.
+/// A flower: six petals around a centre.
 void draw_wallpaper() {
   constexpr int kPetals = 6;
   for (int petal = 0; petal < kPetals; ++petal) {
@@ -59,7 +59,7 @@ void draw_wallpaper() {
   UIBezierPath::bezierPathWithOvalInRect({kMiddle.x - 2, kMiddle.y - 2, 4, 4}).fill();
 }
 
-/// A finger's spot and the way that it goes.
+/// A fingertip and its path.
 void draw_gestures() {
   UIBezierPath::bezierPathWithOvalInRect({6, 11, 7, 7}).fill();
   path_through({{14.5, kMiddle.y}, {23, kMiddle.y}}).stroke();

@@ -6,7 +6,7 @@ namespace host::settings {
 
 enum class RowIcon { Sounds, Wallpaper, Gestures, About };
 
-/// A white sign on a rounded square, in the size of a row's icon.
+/// A white symbol on a rounded square, in the size of a row's icon.
 UIImage row_icon(RowIcon icon);
 
 }  // namespace host::settings

@@ -11,7 +11,7 @@ namespace host::settings {
 struct PreferencesAppController
     : objc::Bound<PreferencesAppController, "PreferencesAppController", UIApplication> {};
 
-/// The application object of Settings: a stack of pages that begins with the root list.
+/// The application object of Settings: a stack of pages with the root list at the bottom.
 class SettingsApplication
     : public objc::Implementation<SettingsApplication, PreferencesAppController> {
  public:
@@ -28,7 +28,7 @@ class SettingsApplication
 };
 
 void export_settings_classes();
-/// Where the phone stands on a desktop, finds the way out to its programs.
+/// Detects the desktop, if there is one, for opening addresses in its programs.
 void prepare_settings(bool is_stepped);
 
 inline constexpr std::string_view kImages[] = {process::kUIKit, process::kPreferences};

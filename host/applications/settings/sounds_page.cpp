@@ -22,7 +22,7 @@ NSArray SoundsPage::specifiers() {
 
 void SoundsPage::view_did_load() {
   super<>("viewDidLoad"_sel);
-  // The slider is to go with the finger from its first point on.
+  // The slider must follow the finger from the first point.
   self.table().setDelaysContentTouches(NO);
 }
 

@@ -8,7 +8,7 @@ namespace host::settings {
 struct PrefsSoundsController
     : objc::Bound<PrefsSoundsController, "PrefsSoundsController", PSListController> {};
 
-/// How loud the phone plays.
+/// Sets the phone's volume.
 class SoundsPage : public objc::Implementation<SoundsPage, PrefsSoundsController> {
  public:
   using Implementation::Implementation;

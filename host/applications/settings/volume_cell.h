@@ -8,7 +8,7 @@ namespace host::settings {
 
 struct PrefsVolumeCell : objc::Bound<PrefsVolumeCell, "PrefsVolumeCell", PSTableCell> {};
 
-/// A row that is one slider, between a silent speaker and a loud one.
+/// A row with one slider, between the symbols of a silent and a loud speaker.
 class VolumeCell : public objc::Implementation<VolumeCell, PrefsVolumeCell> {
  public:
   using Implementation::Implementation;

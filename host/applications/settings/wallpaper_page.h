@@ -13,7 +13,7 @@ namespace host::settings {
 struct PrefsWallpaperController
     : objc::Bound<PrefsWallpaperController, "PrefsWallpaperController", UIViewController> {};
 
-/// The phone's wallpapers beside each other; a tap chooses one.
+/// The phone's wallpapers side by side; a tap chooses one.
 class WallpaperPage : public objc::Implementation<WallpaperPage, PrefsWallpaperController> {
  public:
   using Implementation::Implementation;

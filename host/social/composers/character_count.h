@@ -6,11 +6,11 @@
 
 namespace host::social {
 
-/// How many characters a post can have.
+/// The maximum number of characters in a post.
 inline constexpr std::ptrdiff_t kMostCharacters = 140;
 
-/// What a reader would count: an emoji of several parts, or a letter with its marks, is one, as it
-/// is one press of backspace.
+/// Counts characters as a reader would: an emoji of several parts, or a letter with its marks, is
+/// one, and one press of backspace deletes it.
 std::size_t character_count(NSString text);
 
 }  // namespace host::social

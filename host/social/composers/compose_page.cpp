@@ -15,7 +15,7 @@ constexpr CGFloat kFontSize = 16;
 constexpr CGFloat kNameGap = 6;
 constexpr CGFloat kLineGrey = 200.0 / 255;
 constexpr CGFloat kNameGrey = 142.0 / 255;
-/// What a text view keeps free beside its lines by itself.
+/// The padding that a text view adds beside its lines.
 constexpr CGFloat kLinePadding = 5;
 constexpr CGFloat kTextTop = 12;
 
@@ -56,7 +56,7 @@ objc::Ref<MFComposePage> ComposePage::make(LetterKind kind, std::function<void(E
 void ComposePage::view_did_load() {
   super<>("viewDidLoad"_sel);
   self.view().setBackgroundColor(UIColor::whiteColor());
-  // The text is the page's to place, below the rows.
+  // The page itself places the text, below the rows.
   self.setAutomaticallyAdjustsScrollViewInsets(NO);
   const bool is_mail = letter_.kind == LetterKind::Mail;
   const auto cancel = UIBarButtonItem::alloc().initWithTitle("Cancel"_ns, UIBarButtonItemStylePlain,
@@ -87,7 +87,7 @@ void ComposePage::view_did_load() {
   self.view().addSubview(body_.get());
 }
 
-/// Gives where the row ends.
+/// Returns the bottom of the row.
 CGFloat ComposePage::add_row(CGFloat top, NSString name, UIView contents) {
   const CGFloat width = self.view().bounds().size.width;
   const auto label = make_label(name, UIColor::colorWithWhite(kNameGrey, 1));
@@ -127,7 +127,7 @@ void ComposePage::send() {
   end(send_letter(letter_) == HandedTo::Nobody ? End::Failed : End::Sent);
 }
 
-// Whoever hears of it may take the page down at once; nobody hears twice.
+// The handler may dismiss the page at once, and is called only once.
 void ComposePage::end(End end) {
   const auto kept = objc::Ref<MFComposePage>::retain(self);
   subject_->resignFirstResponder();

@@ -13,8 +13,8 @@ namespace host::social {
 
 struct MFComposePage : objc::Bound<MFComposePage, "MFComposePage", UIViewController> {};
 
-/// A letter before it is sent: to whom, in a mail about what, and the text, between a button that
-/// gives it up and one that sends it.
+/// Edits a letter: its recipients, the subject of a mail, and the text, with a button to cancel and
+/// one to send.
 class ComposePage : public objc::Implementation<ComposePage, MFComposePage> {
  public:
   enum class End { Cancelled, Sent, Failed };
@@ -22,7 +22,7 @@ class ComposePage : public objc::Implementation<ComposePage, MFComposePage> {
   explicit ComposePage(MFComposePage owner) : Implementation(owner) {}
 
   static objc::Ref<MFComposePage> make(LetterKind kind, std::function<void(End)> on_end);
-  /// What is shown; it is the user's once it is.
+  /// The letter to show. Once the page is visible, only the user changes it.
   Letter& letter() { return letter_; }
 
   void view_did_load();

@@ -12,12 +12,12 @@ constexpr CGFloat kBarHeight = 44;
 constexpr CGFloat kFooterHeight = 30;
 constexpr CGFloat kCardMargin = 14;
 constexpr CGFloat kButtonWidth = 88;
-/// Brings the title down onto the line of the buttons' titles, which are rounded to pixels apart.
+/// Lowers the title to the baseline of the buttons' titles, which are rounded to pixels separately.
 constexpr CGFloat kTitleDrop = 0.5;
 constexpr CGFloat kCountWidth = 64;
 constexpr CGFloat kTextSize = 17;
 constexpr CGFloat kFooterSize = 14;
-/// What a text view keeps free beside its lines by itself.
+/// The padding that a text view adds beside its lines.
 constexpr CGFloat kTextViewPadding = 5;
 
 UIColor tint() {
@@ -27,7 +27,7 @@ UIColor warning() {
   return UIColor::colorWithRed(0.86, 0.16, 0.12, 1);
 }
 
-/// A button whose title stands at the card's margin, with all of the bar's height to touch.
+/// A button with its title at the card's margin and a touch area as high as the bar.
 objc::Ref<UIButton> make_button(NSString title, NSString font, CGRect frame,
                                 UIControlContentHorizontalAlignment alignment) {
   const auto button = objc::Ref<UIButton>::adopt(UIButton::alloc().initWithFrame(frame));

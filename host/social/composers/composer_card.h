@@ -6,11 +6,11 @@
 
 namespace host::social {
 
-/// By these tags the parts of a card are found in its view.
+/// Tags of a card's parts, for finding them in its view.
 enum ComposerTag : NSInteger { kCancelTag = 1, kPostTag, kTextTag, kCountTag, kNoticeTag };
 
-/// The card of a composer: a bar with Cancel, a title and Post above a text, and below it how much
-/// of the text's length is left.
+/// The card of a composer: a bar with Cancel, a title and Post, then the text, then the number of
+/// characters left.
 class ComposerCard {
  public:
   ComposerCard(CGRect frame, NSString title);
@@ -21,7 +21,7 @@ class ComposerCard {
   UITextView text() const { return text_.get(); }
 
   void show_characters_left(std::ptrdiff_t left);
-  /// One line beside the count that says what is wrong; nil takes it away.
+  /// Shows an error in one line beside the count; nil removes it.
   void show_notice(NSString notice);
 
  private:

@@ -9,7 +9,7 @@ namespace {
 struct Look {
   CGSize card;
   CGFloat keyboard;
-  /// However much room there is, the card does not go further down than this.
+  /// The maximum distance from the status bar, on however tall a screen.
   CGFloat most_above;
 };
 
@@ -17,7 +17,7 @@ constexpr Look kPhone{{304, 172}, 216, 64};
 constexpr Look kTablet{{480, 204}, 264, 150};
 constexpr CGFloat kStatusBar = 20;
 constexpr CGFloat kSideMargin = 8;
-/// Of what a wider phone has more in width, the card takes this share.
+/// The card's share of the additional width of a wider phone.
 constexpr CGFloat kShareOfWidth = 0.5;
 constexpr CGFloat kNarrowestPhone = 320;
 

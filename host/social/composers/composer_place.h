@@ -6,8 +6,8 @@ namespace host::social {
 
 enum class ScreenKind { Phone, Tablet };
 
-/// Where a composer's card stands on a screen of that size, in points: near the top, clear of the
-/// status bar and of the keyboard, on whole points.
+/// Returns the frame of a composer's card on a screen of that size, in whole points: near the top,
+/// clear of the status bar and of the keyboard.
 CGRect composer_place(CGSize screen, ScreenKind kind);
 
 }  // namespace host::social

@@ -2,12 +2,12 @@
 
 namespace host::social {
 
-/// The classes of the Twitter framework, and of MessageUI; views and text views must have been
-/// made. A second call does nothing.
+/// Register the classes of the Twitter framework and of MessageUI, after those of views and text
+/// views. Idempotent.
 void export_twitter();
 void export_message_ui();
 
-/// Every process opens addresses in the ways that texts leave the phone.
+/// Makes this process open addresses through the same delivery as texts.
 void open_addresses();
 
 }  // namespace host::social

@@ -6,12 +6,12 @@
 
 namespace host::social {
 
-/// A mail that its user may still change. Its delegate hears how it ended, and takes it down.
+/// Lets the user edit and send a mail. The delegate receives the result and dismisses the composer.
 class MailComposer : public objc::Implementation<MailComposer, MFMailComposeViewController> {
  public:
   explicit MailComposer(MFMailComposeViewController owner) : Implementation(owner) {}
 
-  /// Always: without a desktop there is still the outbox.
+  /// Always YES: without a desktop, mail goes to the outbox.
   static BOOL can_send(objc::Object) { return YES; }
   MFMailComposeViewController init();
   objc::Object delegate() const { return delegate_; }
@@ -25,11 +25,11 @@ class MailComposer : public objc::Implementation<MailComposer, MFMailComposeView
   void ended(ComposePage::End end) const;
 
   objc::Ref<MFComposePage> page_;
-  // Not retained, as the platform has it.
+  // Not retained, as on the platform.
   objc::Object delegate_;
 };
 
-/// The same for a message by telephone.
+/// The same for a text message.
 class MessageComposer
     : public objc::Implementation<MessageComposer, MFMessageComposeViewController> {
  public:

@@ -14,7 +14,7 @@ namespace {
 
 constexpr CGFloat kDimAlpha = 0.4;
 constexpr double kLeavingDuration = 0.3;
-/// The card comes from above the screen, by this much more than its height.
+/// The card starts above the screen, at this distance from its top edge.
 constexpr CGFloat kBeyondEdge = 20;
 
 ScreenKind screen_kind() {
@@ -23,15 +23,15 @@ ScreenKind screen_kind() {
              : ScreenKind::Phone;
 }
 
-/// Blanks alone are nothing to send.
+/// A text of blanks only cannot be sent.
 bool is_blank(const std::string& text) {
   return text.find_first_not_of(" \t\r\n") == text.npos;
 }
 
 }  // namespace
 
-// A text that is too long is taken as well: on the card it can be cut down to what fits, refused it
-// would be lost.
+// A text that is too long is accepted, too: the user can shorten it on the card; refused, it would
+// be lost.
 BOOL TweetComposer::set_initial_text(NSString text) {
   if (shown_) return NO;
   initial_text_ = objc::Ref<NSString>::adopt(text.copy());
@@ -75,7 +75,7 @@ void TweetComposer::place_off_screen(CGRect place) {
   card_->view().setFrame(above);
 }
 
-// The keyboard comes together with the card, not after it.
+// The keyboard appears together with the card, not after it.
 void TweetComposer::place_on_screen(CGRect place) {
   self.view().setFrame(place);
   dim_->setAlpha(kDimAlpha);
@@ -89,7 +89,7 @@ void TweetComposer::text_changed(UITextView) {
   self.view().setNeedsLayout();
 }
 
-// Once a turn, and not at every one of the thousand characters of a text that is pasted.
+// Updates the count once per turn, not for each of the thousand characters of a pasted text.
 void TweetComposer::view_did_layout() {
   super<>("viewDidLayoutSubviews"_sel);
   if (!std::exchange(count_is_old_, false)) return;
@@ -126,7 +126,7 @@ void TweetComposer::leave(Result result) {
 
 void TweetComposer::finish(Result result) {
   hold_.reset();
-  // A handler that keeps the composer would otherwise keep it for ever.
+  // Breaks the cycle with a handler that retains the composer.
   const auto handler = std::exchange(handler_, {});
   handler.get()(result);
   if (self.presentingViewController()) self.dismissViewControllerAnimated(NO, nullptr);

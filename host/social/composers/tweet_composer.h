@@ -10,26 +10,26 @@
 
 namespace host::social {
 
-/// Shows a short text on a card, lets it be edited, and gives it away or not. The screen behind is
-/// dimmed and takes no touches meanwhile.
+/// Lets the user edit a short text on a card, and post or cancel it. The screen behind is dimmed
+/// and takes no touches meanwhile.
 ///
-/// At its end the card leaves first, then the handler is called while the composer is still
-/// presented, then the composer takes itself down. So a handler may dismiss it, clear its window or
-/// do nothing at all, and the user sees the same in each case.
+/// At the end the card leaves first, then the handler is called while the composer is still
+/// presented, then the composer dismisses itself. A handler may therefore dismiss it, clear its
+/// window or do nothing, and the user sees the same in each case.
 class TweetComposer : public objc::Implementation<TweetComposer, TWTweetComposeViewController> {
  public:
   using Implementation::Implementation;
   using Result = TWTweetComposeViewControllerResult;
   using Handler = TWTweetComposeViewController::Handler;
 
-  /// Always: without a desktop there is still the outbox.
+  /// Always YES: without a desktop, the text goes to the outbox.
   static BOOL can_send(objc::Object) { return YES; }
   BOOL set_initial_text(NSString text);
   void set_completion_handler(Handler handler) {
     handler_ = objc::OwnedBlock<void(Result)>(handler);
   }
 
-  /// A card: whatever is behind it stays in sight, and does not disappear.
+  /// The card keeps the page behind it visible, which does not disappear.
   UIModalPresentationStyle presentation_style() const { return UIModalPresentationOverFullScreen; }
   void load_view();
   void view_will_appear(BOOL animated);
@@ -53,7 +53,7 @@ class TweetComposer : public objc::Implementation<TweetComposer, TWTweetComposeV
   CGRect card_place_;
   bool shown_ = false;
   bool leaving_ = false;
-  /// While it leaves, nothing behind it takes touches either.
+  /// Blocks touches behind the card while it leaves.
   std::unique_ptr<uikit::TouchHold> hold_;
   bool count_is_old_ = true;
 };

@@ -5,16 +5,16 @@
 
 namespace host::social {
 
-/// What comes before the colon, in small letters; empty for what is no address.
+/// Returns the part before the colon, in lower case; empty if the text is not an address.
 std::string scheme_of(std::string_view address);
 
-/// Is there somebody for addresses of this kind? The web and letters always find a way; for any
-/// other scheme the desktop is asked whether one of its programs has said that it is for it.
-/// Without a desktop texts for the telephone go to the outbox, too, and nothing else does.
+/// Returns whether the address can be opened. Web and mail addresses always can; for any other
+/// scheme the desktop is asked whether one of its programs handles it. Without a desktop, text
+/// messages go to the outbox, too, and nothing else is opened.
 bool can_open_address(const std::string& address);
 
-/// Opens it on the desktop, or leaves it in the outbox. False for a scheme that nobody is there
-/// for.
+/// Opens the address on the desktop, or puts it into the outbox. Returns false for a scheme without
+/// a handler.
 bool open_address(const std::string& address);
 
 }  // namespace host::social

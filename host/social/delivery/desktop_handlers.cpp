@@ -17,10 +17,10 @@ namespace host::social {
 namespace {
 
 constexpr const char* kRegistry = "xdg-mime";
-/// In milliseconds: the user is waiting for what the answer decides.
+/// In milliseconds; short, since the user is waiting for the answer.
 constexpr int kPatience = 2000;
 
-/// The end of a pipe that is read.
+/// The read end of a pipe.
 class Answer {
  public:
   Answer() {
@@ -38,7 +38,7 @@ class Answer {
     close(ends_[1]);
     ends_[1] = -1;
   }
-  /// Is there anything but blanks before the end, or before patience is over?
+  /// Returns whether anything but blanks arrives before the end of the stream or the time-out.
   bool says_something() const {
     std::array<char, 256> bytes{};
     pollfd waiting{ends_[0], POLLIN, 0};
@@ -81,7 +81,7 @@ bool desktop_handles(const std::string& scheme) {
   if (!process) return false;
   answer.leave_writing_to_others();
   const bool handled = answer.says_something();
-  // It has nothing more to say; one that hangs is not to stay.
+  // Its output is no longer needed, and a hanging process must not remain.
   kill(process, SIGKILL);
   while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
   }

@@ -4,8 +4,8 @@
 
 namespace host::social {
 
-/// Has a program of the desktop said that it is for addresses of this scheme? Asked of `xdg-mime`,
-/// which no shell comes between; no, when it does not answer within a moment.
+/// Returns whether a program of the desktop is registered for addresses of this scheme. Asks
+/// `xdg-mime`, without a shell; returns false when it does not answer within two seconds.
 bool desktop_handles(const std::string& scheme);
 
 }  // namespace host::social

@@ -23,7 +23,7 @@ bool is_set(const char* variable) {
   return value && *value;
 }
 
-/// A process that takes nothing of ours along: no descriptor, no signal setting, not our session.
+/// A process that inherits nothing of ours: no descriptors, no signal settings, not our session.
 class DetachedProcess {
  public:
   DetachedProcess() {
@@ -48,7 +48,7 @@ class DetachedProcess {
   DetachedProcess(const DetachedProcess&) = delete;
   DetachedProcess& operator=(const DetachedProcess&) = delete;
 
-  /// 0, or why it could not be started.
+  /// Returns 0, or the error number when it could not be started.
   int start(const char* program, std::string argument, pid_t& process) const {
     std::string name = program;
     char* const arguments[] = {name.data(), argument.data(), nullptr};
@@ -60,7 +60,7 @@ class DetachedProcess {
   posix_spawnattr_t attributes_;
 };
 
-/// Takes note of the process's end, so that it does not stay in the table of processes.
+/// Reaps the process when it ends, and calls `on_failure` if it failed.
 void await_end(pid_t process, std::function<void()> on_failure) {
   const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, process, 0));
   if (descriptor < 0) return;

@@ -11,7 +11,7 @@ HandedTo put_into_outbox(std::string_view kind, std::string_view text) {
   const Outbox outbox(foundation::path_on_this_machine(configuration().outbox));
   const Outbox::Result result = outbox.put(kind, text);
   if (!result) return HandedTo::Nobody;
-  spdlog::info("a text of the kind {} waits in {}", kind, result.file.string());
+  spdlog::info("a text of kind {} is in the outbox: {}", kind, result.file.string());
   return HandedTo::Outbox;
 }
 
@@ -21,7 +21,7 @@ HandedTo hand_over(std::string_view kind, const std::string& address, std::strin
       address,
       [kind = std::string(kind), text = std::string(text)] { put_into_outbox(kind, text); });
   if (!problem) return HandedTo::Desktop;
-  spdlog::warn("the desktop does not take a text of the kind {}: {}", kind, *problem);
+  spdlog::warn("the desktop does not accept a text of kind {}: {}", kind, *problem);
   return put_into_outbox(kind, text);
 }
 

@@ -15,7 +15,7 @@ std::string joined(const std::vector<std::string>& parts, std::string_view betwe
   return all;
 }
 
-/// An address or a number is to be read as one: what has a meaning inside of it stays.
+/// Percent-encodes a recipient, except for characters with a meaning in an address or a number.
 std::string encoded_recipient(const std::string& recipient) {
   std::string encoded;
   for (const char sign : recipient)

@@ -9,22 +9,22 @@ namespace host::social {
 
 enum class LetterKind { Mail, Message };
 
-/// A text for somebody, by mail or by telephone.
+/// A text with recipients: a mail or a text message.
 struct Letter {
   LetterKind kind = LetterKind::Mail;
   std::vector<std::string> recipients;
-  /// Of mail alone.
+  /// Only for mail.
   std::string subject;
   std::string body;
 
-  /// With all of it, for the program that the user has for such letters.
+  /// An address with the whole letter in it, for the user's program for such letters.
   std::string address() const;
-  /// To be read by people.
+  /// The letter in a human-readable form.
   std::string text() const;
 };
 
-/// To the desktop's program, or to the outbox; a message goes there as well when the desktop has
-/// nobody for it.
+/// Sends the letter to the desktop's program, or to the outbox. A text message also goes to the
+/// outbox when the desktop has no program for it.
 HandedTo send_letter(const Letter& letter);
 
 }  // namespace host::social

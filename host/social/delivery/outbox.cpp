@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kSuffix = ".txt";
 
-/// A file without a name that others could see, until it is whole.
+/// An unnamed file, invisible to others until it is complete.
 class Draft {
  public:
   explicit Draft(const std::filesystem::path& folder)
@@ -29,7 +29,7 @@ class Draft {
   Draft(const Draft&) = delete;
   Draft& operator=(const Draft&) = delete;
 
-  /// False leaves the reason in `errno`, as the others do.
+  /// Returns false with the reason in `errno`, as the other members do.
   bool write(std::string_view bytes) const {
     while (descriptor_ >= 0 && !bytes.empty()) {
       const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
@@ -39,7 +39,7 @@ class Draft {
     }
     return descriptor_ >= 0;
   }
-  /// What is not on the disk yet may fail there, too.
+  /// Flushes to the disk, where writing may still fail.
   bool settle() const { return fsync(descriptor_) == 0; }
   /// Fails with EEXIST where another file has the name.
   bool take_name(const std::filesystem::path& name) const {

@@ -6,21 +6,21 @@
 
 namespace host::social {
 
-/// A folder of texts that wait to be sent by somebody else, one file a text.
+/// A folder of texts that are still to be sent by other means, one file per text.
 class Outbox {
  public:
   struct Result {
-    /// Where the text is now; empty when it could not be put anywhere.
+    /// The file with the text; empty on failure.
     std::filesystem::path file;
-    /// Why not.
+    /// The reason for a failure.
     std::string problem;
     explicit operator bool() const { return !file.empty(); }
   };
 
   explicit Outbox(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// Puts the text, with a line feed behind it, into `kind-N.txt`, where N is one more than the
-  /// highest there is. The file is there whole or not at all, and never takes another one's place.
+  /// Writes the text, followed by a line feed, to `kind-N.txt`, where N is one more than the
+  /// highest existing number. The file appears complete or not at all, and never replaces another.
   Result put(std::string_view kind, std::string_view text) const;
 
  private:

@@ -24,7 +24,7 @@ bool is_letter(unsigned char sign) {
   return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z');
 }
 
-/// Beginning with a scheme it can be taken neither for an option nor for a file.
+/// An address must begin with a scheme: it cannot be mistaken for an option or a file then.
 bool is_address_with_place(std::string_view line) {
   const std::size_t colon = line.find(':');
   if (colon == line.npos || colon == 0 || !is_letter(static_cast<unsigned char>(line[0])))
@@ -52,7 +52,7 @@ ShareTarget ShareTarget::read(const std::filesystem::path& file) {
   if (const std::string_view address = trimmed(line); is_address_with_place(address)) {
     target.address_ = address;
   } else {
-    spdlog::warn("{}: the first line is no address with {} in it: sharing by mail", file.string(),
+    spdlog::warn("{}: the first line is not an address with {}: sharing by mail", file.string(),
                  kPlace);
   }
   return target;

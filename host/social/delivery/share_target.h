@@ -8,28 +8,27 @@
 
 namespace host::social {
 
-/// The address that a text is shared at, with `{text}` where the text goes. By default that is a
-/// new letter of the user's mail program. Who wants another service writes one line with its
-/// address into `$XDG_CONFIG_HOME/sonavue/share-target`, such as
-/// `https://example.org/share?text={text}`.
+/// The address for sharing a text, with `{text}` as the placeholder. The default is a new letter in
+/// the user's mail program. To use another service, users write one line with its address into
+/// `$XDG_CONFIG_HOME/sonavue/share-target`, such as `https://example.org/share?text={text}`.
 class ShareTarget {
  public:
   static constexpr std::string_view kDefault = "mailto:?subject=Now%20playing&body={text}";
 
   ShareTarget() = default;
-  /// What the file says. A file that is missing, or whose first line is no such address, means the
-  /// default; the latter is logged.
+  /// Reads the file's address. If the file is missing, or its first line is not such an address,
+  /// returns the default; the latter case is logged.
   static ShareTarget read(const std::filesystem::path& file);
 
-  /// The text is percent-encoded, so that no sign of it is taken for one of the address.
+  /// Inserts the text, percent-encoded.
   std::string address_for(std::string_view text) const;
 
  private:
   std::string address_{kDefault};
 };
 
-/// Gives a text away: to the share target where there is a desktop, otherwise, or when the desktop
-/// does not take it, to the device's outbox. When nobody takes it the reason is in the log.
+/// Delivers a text: to the share target if there is a desktop, otherwise, or when the desktop does
+/// not accept it, to the device's outbox. If both fail, the log gives the reason.
 HandedTo hand_over_share(std::string_view text);
 
 }  // namespace host::social

@@ -31,7 +31,7 @@ std::string ended_process() {
   return std::to_string(child);
 }
 
-// Making the music takes seconds, so that all tests look at the same.
+// Making the music takes seconds, so all tests share one library.
 class DemoLibrary : public testing::Test {
  protected:
   static void SetUpTestSuite() {
@@ -110,7 +110,7 @@ TEST_F(DemoLibrary, ReportsEveryCountOnce) {
   }
 }
 
-TEST_F(DemoLibrary, LeavesNoWorkshopBehindButThatOfAProcessWhichIsAtWork) {
+TEST_F(DemoLibrary, LeavesOnlyTheTemporaryFolderOfARunningProcess) {
   std::vector<std::string> workshops;
   for (const auto& entry : fs::directory_iterator{folder_->path()}) {
     const std::string name = entry.path().filename();
@@ -137,19 +137,19 @@ TEST_F(DemoLibrary, StoppedHalfWayLeavesNothing) {
   }
 }
 
-TEST_F(DemoLibrary, SaysWhyItCannotBeMade) {
+TEST_F(DemoLibrary, ReportsWhyItCannotBeMade) {
   write_bytes(*folder_ / "file", "in the way");
   EXPECT_TRUE(make_demo_library(*folder_ / "file/Music", *folder_ / "covers", [](DemoProgress) {}));
 }
 
-TEST(DemoPiece, TheSameSeedIsTheSameMusicAndAnotherSeedIsNot) {
+TEST(DemoPiece, ChangesWithTheSeedAndOnlyWithIt) {
   const auto one = play_piece(DemoMood::bright, 7);
   EXPECT_EQ(one, play_piece(DemoMood::bright, 7));
   EXPECT_NE(one, play_piece(DemoMood::bright, 8));
   EXPECT_NE(one, play_piece(DemoMood::slow, 7));
 }
 
-TEST(DemoPiece, IsHeardThroughoutAndNeverTooLoud) {
+TEST(DemoPiece, IsAudibleThroughoutAndNeverTooLoud) {
   for (const DemoMood mood : {DemoMood::glassy, DemoMood::electric, DemoMood::plain}) {
     const auto samples = play_piece(mood, 3);
     const auto [lowest, highest] = std::ranges::minmax(samples);

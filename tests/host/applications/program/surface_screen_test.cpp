@@ -52,7 +52,7 @@ TEST_F(SurfaceScreens, AnnounceOnlyWhatHasChanged) {
   EXPECT_EQ(shown(frames_[0].buffer, 3, 2), 0xFF0000FFu);
 }
 
-TEST_F(SurfaceScreens, WaitWithTheSecondFrameUntilTheFirstIsTaken) {
+TEST_F(SurfaceScreens, HoldTheSecondFrameUntilTheFirstIsTaken) {
   attach();
   screen_.set_in_front(true);
   draw(0, 0, 1);
@@ -79,7 +79,7 @@ TEST_F(SurfaceScreens, NeverLeaveAnOldPixelInEitherBuffer) {
   }
 }
 
-TEST_F(SurfaceScreens, SendNothingWhileNobodySeesThem) {
+TEST_F(SurfaceScreens, SendNothingWhileHidden) {
   attach();
   draw(0, 0, 1);
   EXPECT_TRUE(frames_.empty());
@@ -88,7 +88,7 @@ TEST_F(SurfaceScreens, SendNothingWhileNobodySeesThem) {
   EXPECT_EQ(shown(frames_[0].buffer, 0, 0), 1u);
 }
 
-TEST_F(SurfaceScreens, GiveANewHomeScreenTheWholePicture) {
+TEST_F(SurfaceScreens, SendANewHomeScreenTheWholePicture) {
   attach();
   screen_.set_in_front(true);
   draw(2, 2, 5);

@@ -111,7 +111,7 @@ TEST_F(SettingsTest, ExtensionsAddRowsThatOpenTheirPages) {
   EXPECT_STREQ(top().title().UTF8String(), "Zebra");
 }
 
-TEST_F(SettingsTest, EntriesThatAreDamagedAreLeftOutAndLogged) {
+TEST_F(SettingsTest, DamagedEntriesAreSkippedAndLogged) {
   write(settings::kLoaderFolder + std::string("/broken.plist"), "no property list");
   write_entry("nameless.plist", text("detail", "TestSettingsPane"));
   write_entry("lost.plist", text("label", "Lost") + text("detail", "NoSuchClass"));
@@ -135,7 +135,7 @@ TEST_F(SettingsTest, AnIconIsFoundInTheBundleOrBesideTheList) {
   EXPECT_EQ(settings::read_loader_entries().at(0).icon, icon);
 }
 
-TEST_F(SettingsTest, TheVolumeIsMovedByAFingerAndFollowsTheButtons) {
+TEST_F(SettingsTest, TheVolumeSliderFollowsTheFingerAndTheButtons) {
   std::vector<double> volumes;
   PlayerRemote::shared().send = [&](const SteerPlayer& command) {
     volumes.push_back(command.value);
@@ -174,7 +174,7 @@ TEST_F(SettingsTest, AWallpaperIsChosenByATapAndKept) {
   EXPECT_TRUE(kept.objectForKey("Other"_ns));
 }
 
-TEST_F(SettingsTest, AWallpaperThatIsNotThereAnyMoreIsTheFirstAgain) {
+TEST_F(SettingsTest, AMissingWallpaperFallsBackToTheFirst) {
   std::filesystem::create_directories(device.path() + "/var/mobile/Library/Preferences");
   springboard::choose_wallpaper("wallpaper-2"_ns);
   EXPECT_STREQ(springboard::chosen_wallpaper().UTF8String(), "wallpaper-2");
@@ -182,7 +182,7 @@ TEST_F(SettingsTest, AWallpaperThatIsNotThereAnyMoreIsTheFirstAgain) {
   EXPECT_STREQ(springboard::chosen_wallpaper().UTF8String(), "wallpaper-1");
 }
 
-TEST_F(SettingsTest, AboutTellsWhatThePhoneIs) {
+TEST_F(SettingsTest, AboutDescribesThePhone) {
   launch();
   open("About");
   EXPECT_TRUE(shows(top().view(), "iPhone 6"_ns));
@@ -191,7 +191,7 @@ TEST_F(SettingsTest, AboutTellsWhatThePhoneIs) {
   photograph("settings-about", clock.now());
 }
 
-TEST_F(SettingsTest, HasNoClassesOfFrameworksThatNobodyAskedFor) {
+TEST_F(SettingsTest, HasNoClassesOfUnrequestedFrameworks) {
   launch();
   for (const char* name : {"UITableView", "PSListController"})
     EXPECT_TRUE(objc_getClass(name)) << name;

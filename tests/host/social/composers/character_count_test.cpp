@@ -16,12 +16,12 @@ TEST_F(CharacterCount, OfNothingIsNothing) {
   EXPECT_EQ(host::social::character_count(nil), 0u);
 }
 
-TEST_F(CharacterCount, TakesAnEmojiOfSeveralPartsForOne) {
+TEST_F(CharacterCount, CountsAnEmojiOfSeveralPartsAsOne) {
   EXPECT_EQ(count("\U0001F600"), 1u);
   EXPECT_EQ(count("a\U0001F468\u200D\U0001F469\u200D\U0001F467z"), 3u);
 }
 
-TEST_F(CharacterCount, TakesALetterAndItsMarksForOne) {
+TEST_F(CharacterCount, CountsALetterAndItsMarksAsOne) {
   EXPECT_EQ(count("e\u0301\u0323"), 1u);
   EXPECT_EQ(count("e\u0301e\u0301"), count("éé"));
 }

@@ -28,7 +28,7 @@ TEST_P(ComposerPlace, IsClearOfTheStatusBarAndOfTheKeyboard) {
   EXPECT_LE(place.max_y(), size.height - keyboard);
 }
 
-TEST_P(ComposerPlace, IsInTheMiddleOfTheWidthOnWholePoints) {
+TEST_P(ComposerPlace, IsCentredHorizontallyOnWholePoints) {
   const auto& [size, kind, keyboard] = GetParam();
   const CGRect place = composer_place(size, kind);
   EXPECT_NEAR(place.centre().x, size.width / 2, 0.5);
@@ -37,7 +37,7 @@ TEST_P(ComposerPlace, IsInTheMiddleOfTheWidthOnWholePoints) {
   EXPECT_EQ(place.min_y(), std::floor(place.min_y()));
 }
 
-TEST(ComposerPlaceOnALowScreen, IsBelowTheStatusBarAllTheSame) {
+TEST(ComposerPlaceOnALowScreen, IsStillBelowTheStatusBar) {
   EXPECT_EQ(composer_place({480, 320}, ScreenKind::Phone).min_y(), 20);
 }
 
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(Screens, ComposerPlace,
                                            Screen{{414, 736}, ScreenKind::Phone, 216},
                                            Screen{{768, 1024}, ScreenKind::Tablet, 264}));
 
-TEST(ComposerPlaceOnAPhone, IsInTheMiddleOfWhatIsFreeOnTheShortestOne) {
+TEST(ComposerPlaceOnAPhone, IsCentredInTheFreeHeightOfTheShortest) {
   const CGRect place = composer_place({320, 480}, ScreenKind::Phone);
   EXPECT_NEAR(place.min_y() - 20, 480 - 216 - place.max_y(), 1);
 }

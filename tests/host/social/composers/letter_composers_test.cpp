@@ -118,7 +118,7 @@ TEST_F(LetterComposers, TheSubjectMayBeChanged) {
   EXPECT_THAT(sent("mail-1.txt"), testing::HasSubstr("\nSubject: Sonavue!\n"));
 }
 
-TEST_F(LetterComposers, TheEndIsToldOnce) {
+TEST_F(LetterComposers, TheEndIsReportedOnce) {
   show_mail();
   const auto composer = objc::cast<UINavigationController>(
       objc::cast<NSObject>(window.rootViewController().presentedViewController()));
@@ -131,7 +131,7 @@ TEST_F(LetterComposers, TheEndIsToldOnce) {
             (Events{"mail ended with 0", "Behind will appear", "Behind did appear", "gone"}));
 }
 
-TEST_F(LetterComposers, AMailThatNobodyTakesHasFailed) {
+TEST_F(LetterComposers, AMailThatCannotBeDeliveredHasFailed) {
   media_tests::write_bytes(folder / "Outbox", "a file where the folder would be");
   show_mail();
   tap(send);
@@ -153,7 +153,7 @@ TEST_F(LetterComposers, AMessageHasNoSubject) {
   EXPECT_EQ(sent("message-1.txt"), "To: +123\n\nI'm here\n");
 }
 
-TEST_F(LetterComposers, WithoutADelegateItTakesItselfDown) {
+TEST_F(LetterComposers, WithoutADelegateItDismissesItself) {
   show(MFMailComposeViewController::alloc().init());
   tap(cancel);
   advance(1);

@@ -24,7 +24,7 @@ constexpr Result kDone = TWTweetComposeViewControllerResultDone;
 
 int living = 0;
 
-/// State that counts its objects.
+/// Counts the living instances of a class.
 template <class Handle>
 struct Counted : objc::Implementation<Counted<Handle>, Handle> {
   explicit Counted(Handle owner) : objc::Implementation<Counted<Handle>, Handle>(owner) {
@@ -57,7 +57,7 @@ class TweetComposerTest : public UIKitTest {
   }
   ~TweetComposerTest() override { social::configure({}); }
 
-  /// Presents a composer as an extension does, which keeps neither of the controllers.
+  /// Presents a composer as an extension does, retaining neither of the controllers.
   void show(const std::string& text, BOOL animated = YES) {
     composer =
         made<TWTweetComposeViewController>("CountedComposer", "TWTweetComposeViewController");
@@ -148,7 +148,7 @@ TEST_F(TweetComposerTest, PostingSendsTheEditedTextAndTellsTheHandler) {
   expect_all_gone();
 }
 
-TEST_F(TweetComposerTest, TakesItselfDownWhenItsHandlerDoesNothing) {
+TEST_F(TweetComposerTest, DismissesItselfWhenItsHandlerDoesNothing) {
   show("text");
   tap_on(social::kCancelTag);
   advance(1);
@@ -189,7 +189,7 @@ TEST_F(TweetComposerTest, NeedsNoHandler) {
   expect_all_gone();
 }
 
-TEST_F(TweetComposerTest, CountsWhatIsLeftInCharactersThatAreSeen) {
+TEST_F(TweetComposerTest, CountsTheRemainingVisibleCharacters) {
   show(std::string(138, 'x'));
   EXPECT_EQ(counted(), "2");
   type_text(from_utf8("e\u0301"));
@@ -217,7 +217,7 @@ TEST_F(TweetComposerTest, ATextThatIsTooLongIsCountedInRedAndCannotBePosted) {
   EXPECT_TRUE(post().isEnabled());
 }
 
-TEST_F(TweetComposerTest, TakesATextOfTenThousandCharactersToBeCut) {
+TEST_F(TweetComposerTest, AcceptsATextOfTenThousandCharactersForEditing) {
   show(std::string(10000, 'x'));
   EXPECT_EQ(counted(), "-9860");
   EXPECT_FALSE(post().isEnabled());
@@ -250,7 +250,7 @@ TEST_F(TweetComposerTest, StaysWhenTheTextCouldNotBeSentAnywhere) {
   EXPECT_EQ(sent("share-1.txt"), "text\n");
 }
 
-TEST_F(TweetComposerTest, TheNoticeGoesWithTheNextEdit) {
+TEST_F(TweetComposerTest, TheNextEditRemovesTheNotice) {
   show("text");
   media_tests::write_bytes(folder / "Outbox", "");
   tap_on(social::kPostTag);

@@ -15,7 +15,7 @@
 
 namespace host::test {
 
-/// A variable of the environment that is as it was afterwards.
+/// Sets an environment variable and restores it afterwards.
 class Variable {
  public:
   Variable(const char* name, const std::string& value) : name_(name) {
@@ -37,10 +37,10 @@ class Variable {
   std::optional<std::string> before_;
 };
 
-/// A desktop whose opener tells what it was given through a pipe and ends with a chosen status.
-class PretendedDesktop {
+/// A desktop whose opener reports its arguments through a pipe and ends with a chosen status.
+class FakeDesktop {
  public:
-  explicit PretendedDesktop(int status = 0)
+  explicit FakeDesktop(int status = 0)
       : path_("PATH", folder_.path() + ":/usr/bin:/bin"), pipe_(folder_ / "pipe") {
     mkfifo(pipe_.c_str(), 0600);
     const std::string script = folder_ / "xdg-open";
@@ -49,12 +49,12 @@ class PretendedDesktop {
     chmod(script.c_str(), 0700);
   }
 
-  /// Waits for the opener: the number of its arguments and each of them, with a `|` behind it.
+  /// Waits for the opener; returns the number of its arguments and each of them, followed by `|`.
   std::string given() const {
     std::ifstream pipe(pipe_);
     return {std::istreambuf_iterator<char>(pipe), {}};
   }
-  /// Waits until the opener has ended and lets the loop hear of it.
+  /// Waits until the opener has ended and delivers that to the loop.
   void let_end(RunLoop& loop) const {
     siginfo_t info;
     waitid(P_ALL, 0, &info, WEXITED | WNOWAIT);

@@ -10,7 +10,7 @@ namespace {
 using host::social::Desktop;
 using host::social::desktop_of_environment;
 using host::social::open_on_desktop;
-using host::test::PretendedDesktop;
+using host::test::FakeDesktop;
 using host::test::Variable;
 using media_tests::CapturedLog;
 
@@ -28,16 +28,16 @@ TEST_F(DesktopOpener, FindsADesktopByItsDisplay) {
   EXPECT_EQ(desktop_of_environment(), Desktop::Present);
 }
 
-TEST_F(DesktopOpener, HandsTheAddressOverAsOneArgumentThatNoShellSees) {
-  const PretendedDesktop desktop;
+TEST_F(DesktopOpener, PassesTheAddressAsOneArgumentWithoutAShell) {
+  const FakeDesktop desktop;
   const std::string address = "https://example.org/?a='$(touch x)';`b` \"c\" & d\n*";
   EXPECT_EQ(open_on_desktop(address), std::nullopt);
   EXPECT_EQ(desktop.given(), "1|" + address + "|");
   desktop.let_end(loop);
 }
 
-TEST_F(DesktopOpener, LeavesNoProcessBehindAndIsSilentWhenAllIsWell) {
-  const PretendedDesktop desktop;
+TEST_F(DesktopOpener, LeavesNoProcessBehindAndIsSilentOnSuccess) {
+  const FakeDesktop desktop;
   const CapturedLog log;
   bool failed = false;
   open_on_desktop("mailto:", [&] { failed = true; });
@@ -48,20 +48,20 @@ TEST_F(DesktopOpener, LeavesNoProcessBehindAndIsSilentWhenAllIsWell) {
   EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is still to be waited for";
 }
 
-TEST_F(DesktopOpener, TellsOfAnOpenerThatFails) {
-  const PretendedDesktop desktop(3);
+TEST_F(DesktopOpener, ReportsAnOpenerThatFails) {
+  const FakeDesktop desktop(3);
   const CapturedLog log;
   int failures = 0;
   open_on_desktop("mailto:", [&] { ++failures; });
   desktop.given();
-  EXPECT_EQ(failures, 0) << "nobody waits for it";
+  EXPECT_EQ(failures, 0) << "the call must not wait for it";
   desktop.let_end(loop);
   loop.run_ready();
   EXPECT_EQ(failures, 1);
   EXPECT_EQ(log.count("status 3"), 1);
 }
 
-TEST_F(DesktopOpener, SaysWhenThereIsNone) {
+TEST_F(DesktopOpener, ReportsAMissingOpener) {
   const media_tests::TemporaryFolder empty;
   const Variable path("PATH", empty.path());
   const auto problem = open_on_desktop("mailto:");
@@ -69,8 +69,8 @@ TEST_F(DesktopOpener, SaysWhenThereIsNone) {
   EXPECT_NE(problem->find("xdg-open"), std::string::npos);
 }
 
-TEST_F(DesktopOpener, SaysWhenAnAddressIsTooLongForAnyProgram) {
-  const PretendedDesktop desktop;
+TEST_F(DesktopOpener, ReportsAnAddressThatIsTooLongForAnyProgram) {
+  const FakeDesktop desktop;
   EXPECT_TRUE(open_on_desktop(std::string(10'000'000, 'x')));
 }
 

@@ -13,21 +13,21 @@
 namespace {
 
 using namespace host::social;
-using host::test::PretendedDesktop;
+using host::test::FakeDesktop;
 using host::test::Variable;
 using media_tests::read_bytes;
 using media_tests::TemporaryFolder;
 
 /// A desktop's registry that knows one kind of address, or hangs.
-class PretendedRegistry {
+class FakeRegistry {
  public:
-  explicit PretendedRegistry(const std::string& known)
+  explicit FakeRegistry(const std::string& known)
       : path_("PATH", folder_.path() + ":" + std::getenv("PATH")) {
     const std::string script = folder_ / "xdg-mime";
     std::ofstream(script) << "#!/bin/sh\n[ \"$*\" = 'query default " << known
                           << "' ] && echo some.desktop\nexit 0\n";
     chmod(script.c_str(), 0700);
-    // An opener that would take everything.
+    // An opener that accepts everything.
     const std::string opener = folder_ / "xdg-open";
     std::ofstream(opener) << "#!/bin/sh\nexit 0\n";
     chmod(opener.c_str(), 0700);
@@ -58,13 +58,13 @@ class Letters : public host::test::HostTest {
   TemporaryFolder folder;
 };
 
-TEST_F(Letters, AreAddressesOfAllThatIsInThem) {
+TEST_F(Letters, PutEverythingIntoTheAddress) {
   EXPECT_EQ(mail().address(),
             "mailto:a@example.org,b%20c@example.org?subject=Song%20%26%20dance&body=1%0D%0A2");
   EXPECT_EQ(message().address(), "sms:+123?body=I%27m%20here");
 }
 
-TEST_F(Letters, LieInTheOutboxToBeReadWithoutADesktop) {
+TEST_F(Letters, GoToTheOutboxInReadableFormWithoutADesktop) {
   configure_desktop(Desktop::Absent);
   EXPECT_EQ(send_letter(mail()), HandedTo::Outbox);
   EXPECT_EQ(in_outbox("mail-1.txt"),
@@ -74,21 +74,21 @@ TEST_F(Letters, LieInTheOutboxToBeReadWithoutADesktop) {
 }
 
 TEST_F(Letters, GoToTheDesktopsProgram) {
-  const PretendedDesktop desktop;
+  const FakeDesktop desktop;
   configure_desktop(Desktop::Present);
   EXPECT_EQ(send_letter(mail()), HandedTo::Desktop);
   EXPECT_EQ(desktop.given(), "1|" + mail().address() + "|");
   desktop.let_end(loop);
 }
 
-TEST_F(Letters, AMessageThatTheDesktopHasNobodyForGoesToTheOutbox) {
-  const PretendedRegistry registry("x-scheme-handler/other");
+TEST_F(Letters, AMessageWithoutADesktopHandlerGoesToTheOutbox) {
+  const FakeRegistry registry("x-scheme-handler/other");
   configure_desktop(Desktop::Present);
   EXPECT_EQ(send_letter(message()), HandedTo::Outbox);
 }
 
-TEST_F(Letters, TheDesktopIsAskedWhoseAddressesItKnows) {
-  const PretendedRegistry registry("x-scheme-handler/known");
+TEST_F(Letters, TheDesktopIsAskedForTheHandlerOfAScheme) {
+  const FakeRegistry registry("x-scheme-handler/known");
   configure_desktop(Desktop::Present);
   EXPECT_TRUE(can_open_address("known://anything"));
   EXPECT_TRUE(can_open_address("KNOWN:x"));
@@ -97,14 +97,14 @@ TEST_F(Letters, TheDesktopIsAskedWhoseAddressesItKnows) {
   EXPECT_TRUE(can_open_address("https://example.org/"));
 }
 
-TEST_F(Letters, TheDesktopIsNotAskedAboutWhatIsNoAddress) {
-  const PretendedRegistry registry("x-scheme-handler/");
+TEST_F(Letters, TheDesktopIsNotAskedAboutInvalidAddresses) {
+  const FakeRegistry registry("x-scheme-handler/");
   configure_desktop(Desktop::Present);
   for (const char* address : {"", ":x", "no address", "/usr/bin/x", "--help:x"})
     EXPECT_FALSE(can_open_address(address)) << address;
 }
 
-TEST_F(Letters, WithoutADesktopOnlyTheWebLettersAndTextsAreOpened) {
+TEST_F(Letters, WithoutADesktopOnlyTheWebMailAndTextsAreOpened) {
   configure_desktop(Desktop::Absent);
   for (const char* address : {"http://example.org/", "https://example.org/", "mailto:a", "sms:1"})
     EXPECT_TRUE(can_open_address(address)) << address;

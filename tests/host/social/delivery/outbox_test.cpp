@@ -37,7 +37,7 @@ TEST(Outbox, MakesItsFolderAndNumbersItsFiles) {
 TEST(Outbox, NeverWritesOverAnEarlierText) {
   const TemporaryFolder folder;
   write_bytes(folder / "share-7.txt", "earlier");
-  // Names that are no numbers of its own do not count.
+  // Names that do not match its pattern do not count.
   write_bytes(folder / "share-99.txt.bak", "");
   write_bytes(folder / "share-98x.txt", "");
   write_bytes(folder / "share--1.txt", "");
@@ -47,7 +47,7 @@ TEST(Outbox, NeverWritesOverAnEarlierText) {
   EXPECT_EQ(read_bytes(folder / "share-7.txt"), "earlier");
 }
 
-TEST(Outbox, LosesNothingWhenManyPutAtOnce) {
+TEST(Outbox, LosesNothingWithManySimultaneousWriters) {
   constexpr int kTogether = 8;
   constexpr int kEach = 25;
   const TemporaryFolder folder;
@@ -66,7 +66,7 @@ TEST(Outbox, LosesNothingWhenManyPutAtOnce) {
   EXPECT_EQ(texts.size(), static_cast<std::size_t>(kTogether * kEach));
 }
 
-TEST(Outbox, KeepsWhatItIsGivenToTheByteAndToItsUser) {
+TEST(Outbox, KeepsTextsByteForByteAndPrivate) {
   const TemporaryFolder folder;
   std::string text;
   for (int i = 0; i < 2500; ++i)
@@ -78,7 +78,7 @@ TEST(Outbox, KeepsWhatItIsGivenToTheByteAndToItsUser) {
   EXPECT_EQ(status.st_mode & 0777, 0600u);
 }
 
-TEST(Outbox, OnAFullDiskSaysSoOnceAndLeavesNothingHalfWritten) {
+TEST(Outbox, OnAFullDiskReportsItOnceAndLeavesNoPartialFile) {
   const TemporaryFolder folder;
   const CapturedLog log;
   Outbox::Result result;
@@ -94,7 +94,7 @@ TEST(Outbox, OnAFullDiskSaysSoOnceAndLeavesNothingHalfWritten) {
   EXPECT_TRUE(Outbox(folder.path()).put("share", "room again"));
 }
 
-TEST(Outbox, WhereNoFolderCanBeSaysSo) {
+TEST(Outbox, ReportsAFolderThatCannotBeMade) {
   const TemporaryFolder folder;
   write_bytes(folder / "file", "");
   const CapturedLog log;

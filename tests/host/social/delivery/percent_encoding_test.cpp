@@ -7,17 +7,17 @@ namespace {
 using host::social::percent_encoded;
 using host::social::with_mail_line_ends;
 
-TEST(PercentEncoding, LeavesLettersDigitsAndFourMarksAlone) {
+TEST(PercentEncoding, KeepsLettersDigitsAndFourMarks) {
   EXPECT_EQ(percent_encoded("AZaz09-._~"), "AZaz09-._~");
 }
 
-TEST(PercentEncoding, HidesEverySignThatMeansSomethingInAnAddress) {
+TEST(PercentEncoding, EncodesEveryReservedCharacter) {
   EXPECT_EQ(percent_encoded(":/?#[]@"), "%3A%2F%3F%23%5B%5D%40");
   EXPECT_EQ(percent_encoded("!$&'()*+,;="), "%21%24%26%27%28%29%2A%2B%2C%3B%3D");
   EXPECT_EQ(percent_encoded("% \"<>\\^`{|}"), "%25%20%22%3C%3E%5C%5E%60%7B%7C%7D");
 }
 
-TEST(PercentEncoding, HidesControlsAndEveryByteBeyondAscii) {
+TEST(PercentEncoding, EncodesControlsAndEveryByteBeyondAscii) {
   EXPECT_EQ(percent_encoded(std::string_view("\0\n\x7F", 3)), "%00%0A%7F");
   EXPECT_EQ(percent_encoded("é"), "%C3%A9");
   EXPECT_EQ(percent_encoded("e\u0301"), "e%CC%81");
@@ -31,7 +31,7 @@ TEST(PercentEncoding, OfTenThousandCharactersLosesNone) {
   EXPECT_EQ(encoded.find_first_not_of("%23"), encoded.npos);
 }
 
-TEST(MailLineEnds, AreReturnAndLineFeedHoweverTheyWere) {
+TEST(MailLineEnds, AreNormalisedToReturnAndLineFeed) {
   EXPECT_EQ(with_mail_line_ends("a\nb\r\nc\rd\n\n"), "a\r\nb\r\nc\r\nd\r\n\r\n");
 }
 

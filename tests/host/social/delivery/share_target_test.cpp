@@ -9,7 +9,7 @@
 namespace {
 
 using namespace host::social;
-using host::test::PretendedDesktop;
+using host::test::FakeDesktop;
 using host::test::Variable;
 using media_tests::CapturedLog;
 using media_tests::read_bytes;
@@ -38,14 +38,14 @@ class ShareTargets : public host::test::HostTest {
   TemporaryFolder folder;
 };
 
-TEST_F(ShareTargets, AreANewLetterUnlessSomebodySaysOtherwise) {
+TEST_F(ShareTargets, AreANewMailByDefault) {
   const ShareTarget target = ShareTarget::read(folder / "missing");
   EXPECT_EQ(target.address_for("#a b&c=d?"),
             "mailto:?subject=Now%20playing&body=%23a%20b%26c%3Dd%3F");
   EXPECT_EQ(ShareTarget::read({}).address_for(""), "mailto:?subject=Now%20playing&body=");
 }
 
-TEST_F(ShareTargets, GiveLettersTheLineEndsOfMail) {
+TEST_F(ShareTargets, UseMailLineEndsInLetters) {
   EXPECT_EQ(ShareTarget().address_for("a\nb"), "mailto:?subject=Now%20playing&body=a%0D%0Ab");
   EXPECT_EQ(target_of("https://example.org/{text}").address_for("a\nb"),
             "https://example.org/a%0Ab");
@@ -56,7 +56,7 @@ TEST_F(ShareTargets, PutTheTextWhereverTheFileSays) {
   EXPECT_EQ(target.address_for("{text}"), "https://example.org/?q=%7Btext%7D&again=%7Btext%7D");
 }
 
-TEST_F(ShareTargets, TakeNothingForAnAddressThatIsNone) {
+TEST_F(ShareTargets, RejectInvalidAddresses) {
   for (const char* line :
        {"\n", "{text}", "https://example.org/", "--help {text}", "-x:{text}", "/usr/bin/x:{text}",
         ":{text}", "a b:{text}", "a/b:{text}", "https://a b/{text}"}) {
@@ -77,7 +77,7 @@ TEST_F(ShareTargets, AreFoundWhereTheUserKeepsSettings) {
 }
 
 TEST_F(ShareTargets, WithoutADesktopTheTextGoesToTheOutbox) {
-  const PretendedDesktop desktop;
+  const FakeDesktop desktop;
   configure_desktop(Desktop::Absent);
   EXPECT_EQ(hand_over_share("text"), HandedTo::Outbox);
   EXPECT_EQ(in_outbox("share-1.txt"), "text\n");
@@ -85,7 +85,7 @@ TEST_F(ShareTargets, WithoutADesktopTheTextGoesToTheOutbox) {
 }
 
 TEST_F(ShareTargets, ADesktopOpensTheAddress) {
-  const PretendedDesktop desktop;
+  const FakeDesktop desktop;
   configure_desktop(Desktop::Present);
   target_of("https://example.org/?q={text}");
   EXPECT_EQ(hand_over_share("שלום #1"), HandedTo::Desktop);
@@ -94,7 +94,7 @@ TEST_F(ShareTargets, ADesktopOpensTheAddress) {
   EXPECT_FALSE(std::filesystem::exists(folder / "Outbox"));
 }
 
-TEST_F(ShareTargets, WhatADesktopDoesNotTakeGoesToTheOutboxToo) {
+TEST_F(ShareTargets, ATextThatTheDesktopRefusesGoesToTheOutbox) {
   const TemporaryFolder empty;
   const Variable path("PATH", empty.path());
   configure_desktop(Desktop::Present);
@@ -102,8 +102,8 @@ TEST_F(ShareTargets, WhatADesktopDoesNotTakeGoesToTheOutboxToo) {
   EXPECT_EQ(in_outbox("share-1.txt"), "text\n");
 }
 
-TEST_F(ShareTargets, WhatADesktopTookAndLostGoesToTheOutboxToo) {
-  const PretendedDesktop desktop(4);
+TEST_F(ShareTargets, ATextThatTheDesktopAcceptsAndLosesGoesToTheOutbox) {
+  const FakeDesktop desktop(4);
   configure_desktop(Desktop::Present);
   EXPECT_EQ(hand_over_share("text"), HandedTo::Desktop);
   desktop.given();
@@ -111,7 +111,7 @@ TEST_F(ShareTargets, WhatADesktopTookAndLostGoesToTheOutboxToo) {
   EXPECT_EQ(in_outbox("share-1.txt"), "text\n");
 }
 
-TEST_F(ShareTargets, WhatNobodyTakesIsStillTheCallers) {
+TEST_F(ShareTargets, AnUndeliverableTextStaysWithTheCaller) {
   write_bytes(folder / "Outbox", "a file where the folder would be");
   configure_desktop(Desktop::Absent);
   const CapturedLog log;
