@@ -11,16 +11,16 @@ namespace host::activator {
 inline constexpr const char* kAssignmentsPath =
     "/var/mobile/Library/Preferences/gesture-assignments.plist";
 
-/// The assignments as their file has them. Another process may change it at any time: each look
-/// asks whether the file is still the same, each change is made to what the file holds then.
+/// The assignments in their file. Another process may change it at any time: each lookup checks
+/// whether the file has changed, and each change is applied to the file's current contents.
 class AssignmentStore {
  public:
   explicit AssignmentStore(std::string device_path = kAssignmentsPath)
       : file_(std::move(device_path)) {}
 
-  /// A damaged file is set aside, and nothing is assigned.
+  /// A damaged file is set aside and counts as empty.
   const Assignments& current();
-  /// False, and nothing has changed, when the file cannot be written.
+  /// Return false, with nothing changed, when the file cannot be written.
   bool assign(const std::string& event, const std::string& mode, const std::string& listener);
   bool unassign(const std::string& event, const std::string& mode, const std::string& listener);
 

@@ -9,23 +9,23 @@
 
 namespace host::activator {
 
-/// Which listeners the user has given an event to. Names are kept as they stand, also those of
-/// listeners that are not registered just now.
+/// The listeners that the user has assigned to each event. Names are kept unchanged, including
+/// those of listeners that are not registered at the moment.
 class Assignments {
  public:
   using Listeners = std::vector<std::string>;
 
-  /// In the order of their assignment; empty for what is assigned to nobody.
+  /// In the order of their assignment; empty when nothing is assigned.
   const Listeners& listeners(const std::string& event, const std::string& mode) const;
   bool contains(const std::string& event, const std::string& mode,
                 const std::string& listener) const;
-  /// False when it was so already.
+  /// Return false when nothing changed.
   bool add(const std::string& event, const std::string& mode, const std::string& listener);
   bool remove(const std::string& event, const std::string& mode, const std::string& listener);
 
   /// A property list of the form {mode: {event: [listener…]}}.
   NSDictionary property_list() const;
-  /// Nothing for what has another form.
+  /// Empty when the list has another form.
   static std::optional<Assignments> from(NSDictionary list);
 
  private:

@@ -29,7 +29,7 @@ NSDictionary PropertyListFile::read() const {
   try {
     return NSDictionary::dictionaryWithContentsOfFile(to_ns(path_));
   } catch (...) {
-    // Foundation's parser raises over some of what is broken, and gives nil for the rest.
+    // Foundation's parser raises for some broken files, and returns nil for others.
     return nil;
   }
 }

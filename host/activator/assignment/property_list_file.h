@@ -8,7 +8,7 @@
 
 namespace host::activator {
 
-/// Tells one content of a file from the next without reading it.
+/// Identifies a version of a file without reading it.
 struct FileStamp {
   std::uint64_t file = 0;
   std::int64_t changed = 0;  // nanoseconds
@@ -16,21 +16,20 @@ struct FileStamp {
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
-/// A property list of the device that two processes use: whoever changes it puts a whole new file
-/// in the place of the old one, so that a reader sees one or the other.
+/// A property list on the device that two processes use. A writer replaces the whole file
+/// atomically, so a reader sees either the old version or the new one.
 class PropertyListFile {
  public:
   explicit PropertyListFile(std::string device_path) : path_(std::move(device_path)) {}
 
   const std::string& path() const { return path_; }
-  /// Nothing when there is no file.
+  /// Empty when the file does not exist.
   std::optional<FileStamp> stamp() const;
-  /// Nil for what is no property list with a dictionary at its top, or is no file at all.
+  /// Nil when the file does not exist or is not a property list with a dictionary at its root.
   NSDictionary read() const;
-  /// Makes the folder where it is missing; false, and logged, when it cannot be written.
+  /// Creates the folder if it is missing. Returns false, and logs, when the file cannot be written.
   bool write(NSDictionary list) const;
-  /// Puts a file that cannot be understood out of the way, where it can still be looked at, with
-  /// one line of the log.
+  /// Renames a damaged file, which keeps it for inspection, and logs one line.
   void set_aside() const;
 
  private:

@@ -5,7 +5,7 @@
 
 namespace host::activator {
 
-// The names that assignments are kept under: a name once given stays.
+// Assignments are stored under these names, so they must never change.
 inline constexpr const char* kSlideInLeft = "slide-in-left";
 inline constexpr const char* kSlideInRight = "slide-in-right";
 inline constexpr const char* kSlideInTop = "slide-in-top";
@@ -27,9 +27,9 @@ struct EventKind {
   const char* title;
 };
 
-/// In the order in which pages list them.
+/// All events, in the order in which pages list them.
 std::span<const EventKind> event_kinds();
-/// nullptr when there is none of that name.
+/// nullptr for an unknown name.
 const EventKind* event_named(std::string_view name);
 
 }  // namespace host::activator

@@ -35,13 +35,13 @@ bool HangWatch::begin(const std::string& name) {
   if (std::exchange(watching_, true)) return false;
   name_ = name;
   due_ = std::chrono::steady_clock::now() + limit_;
-  // Most phones never have a gesture: the thread is made for the first.
-  if (!thread_.joinable()) thread_ = std::thread([this] { look_on(); });
+  // The first call starts the thread: on most phones no gesture is ever made.
+  if (!thread_.joinable()) thread_ = std::thread([this] { watch_calls(); });
   changed_.notify_one();
   return true;
 }
 
-void HangWatch::look_on() {
+void HangWatch::watch_calls() {
   std::unique_lock lock(mutex_);
   while (!ending_) {
     if (!watching_) {

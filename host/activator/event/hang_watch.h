@@ -9,26 +9,26 @@
 
 namespace host::activator {
 
-/// Looks on, from a thread of its own, while other people's code runs: whoever has not come back
-/// after the limit is named, while it still hangs. Time is the machine's, since the run loop's
-/// stands still meanwhile.
+/// Watches, on its own thread, while other people's code runs: a call that has not returned within
+/// the limit is reported while it still hangs. The limit is in real time, since the run loop's
+/// clock stops during the call.
 class HangWatch {
  public:
   using Report = std::function<void(const std::string& name)>;
 
-  /// `report` is called from the watch's thread, once for each call that takes too long.
+  /// `report` is called on the watch's thread, once for each call that takes too long.
   HangWatch(std::chrono::milliseconds limit, Report report);
   ~HangWatch();
   HangWatch(const HangWatch&) = delete;
   HangWatch& operator=(const HangWatch&) = delete;
 
-  /// Runs `call`. One inside another is part of the outer one.
+  /// Runs `call`. A nested call counts as part of the outer one.
   void during(const std::string& name, const std::function<void()>& call);
 
  private:
-  /// False when a call is looked at already.
+  /// Returns false when a call is already being watched.
   bool begin(const std::string& name);
-  void look_on();
+  void watch_calls();
 
   const std::chrono::milliseconds limit_;
   const Report report_;

@@ -19,7 +19,7 @@ std::span<const ModeKind> mode_kinds();
 const char* name_of(Mode mode);
 std::optional<Mode> mode_named(std::string_view name);
 
-/// Whoever knows what the phone shows.
+/// Knows what the phone shows.
 class ModeProvider {
  public:
   virtual ~ModeProvider() = default;

@@ -7,7 +7,7 @@
 
 namespace host::activator {
 
-/// Empty for nil and for what is no string: other people's objects are looked at first.
+/// Empty for nil and for objects that are not strings: other people's objects are checked first.
 inline std::string to_string(objc::Object object) {
   const auto text = objc::cast<NSString>(object);
   if (!text.isKindOfClass(NSString::cls())) return {};

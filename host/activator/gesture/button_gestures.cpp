@@ -10,7 +10,8 @@ namespace {
 // In seconds.
 constexpr double kHomeHoldTime = 0.6;
 constexpr double kLockHoldTime = 1;
-/// Nobody presses two buttons at the very same moment, and light presses may not even overlap.
+/// Two buttons are never pressed at exactly the same moment, and light presses may not even
+/// overlap.
 constexpr double kTogether = 0.15;
 
 }  // namespace
@@ -56,7 +57,7 @@ void ButtonGestures::watch_pair(Button button, Button other) {
   State& first = state(other);
   const bool together = first.is_down || loop_.now() - first.pressed <= kTogether;
   if (first.pressed < 0 || !together) return;
-  // Each press is part of one pair at most.
+  // Each press is part of at most one pair.
   first.pressed = -1;
   state(button).pressed = -1;
   state(button).is_heard = recognized_(kVolumeBoth);

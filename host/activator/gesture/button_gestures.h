@@ -7,13 +7,13 @@
 
 namespace host::activator {
 
-/// The events that buttons make: a hold of Home or of the lock button, and both volume buttons at
+/// Recognises the events of buttons: holding Home or the lock button, and both volume buttons at
 /// once.
 class ButtonGestures {
  public:
   enum class Button { Home, Lock, VolumeUp, VolumeDown };
-  /// What is left of a press when the button comes up: what the button does by itself, or nothing,
-  /// since the press has been an event that somebody heard.
+  /// The result of a press when the button comes up: the button's own action, or nothing, because a
+  /// listener received the press as an event.
   enum class Press { Plain, Heard };
 
   ButtonGestures(RunLoop& loop, Recognized recognized)
@@ -22,7 +22,7 @@ class ButtonGestures {
   ButtonGestures(const ButtonGestures&) = delete;
   ButtonGestures& operator=(const ButtonGestures&) = delete;
 
-  /// A button that is down already stays as it is.
+  /// A no-op for a button that is already down.
   void down(Button button);
   Press up(Button button);
 

@@ -8,17 +8,18 @@
 namespace host::activator {
 namespace {
 
-/// So near to an edge a finger may land that comes from outside, in points.
+/// A finger that lands within this distance of an edge, in points, comes from outside.
 constexpr CGFloat kEdge = 15;
-/// What belongs to a corner, along both of its edges.
+/// The length of a corner along both of its edges.
 constexpr CGFloat kCorner = 50;
-/// The way after which it is decided.
+/// The distance after which the slide is decided.
 constexpr CGFloat kWay = 40;
-/// A slide from a corner goes inwards along both edges, by at least this much of the longer way.
+/// A slide from a corner moves inwards along both axes: the shorter distance is at least this share
+/// of the longer one.
 constexpr CGFloat kSlant = 0.35;
 
 struct Side {
-  bool is_near_start;  // the left or the top one
+  bool is_near_start;  // the left or the top edge
   CGFloat distance;
 };
 

@@ -6,16 +6,16 @@
 
 namespace host::activator {
 
-/// One finger that came in over an edge or a corner of the screen, until it is known to slide in or
-/// to do something else.
+/// Follows one finger that came in over an edge or a corner of the screen, until it is clear
+/// whether it slides in.
 class EdgeSlide {
  public:
-  /// Nothing when the finger lands too far inside.
+  /// Empty when the finger lands too far inside.
   static std::optional<EdgeSlide> begin(CGSize screen, CGPoint point);
 
   enum class Verdict { Undecided, SlidIn, Other };
   Verdict move(CGPoint point);
-  /// The event's name, once it has slid in.
+  /// The event's name, once the finger has slid in.
   const char* event() const { return event_; }
 
  private:

@@ -10,7 +10,7 @@ namespace {
 
 constexpr CGFloat kTapHeight = 20;
 constexpr CGFloat kStill = 10;
-// In seconds: how long a tap may last, how soon the second one follows, what is a hold.
+// In seconds: the longest tap, the longest time between two taps, the shortest hold.
 constexpr double kTap = 0.35;
 constexpr double kBetweenTaps = 0.35;
 constexpr double kHold = 0.6;

@@ -10,12 +10,12 @@
 
 namespace host::activator {
 
-/// Told of an event that a finger or a button made; true when somebody hears it, and what made it
-/// is then nobody else's.
+/// Called with an event that a finger or a button made. Returns true when a listener receives it;
+/// the finger or press is consumed then.
 using Recognized = std::function<bool(const char* event)>;
 
-/// The events that one finger makes on the screen: slides over its edges, and taps and holds of the
-/// status bar. A second finger ends them all.
+/// Recognises the events of one finger on the screen: slides over its edges, and taps and holds of
+/// the status bar. A second finger ends them all.
 class TouchGestures final : public uikit::SystemGestures {
  public:
   TouchGestures(RunLoop& loop, CGSize screen, Recognized recognized)
@@ -40,7 +40,7 @@ class TouchGestures final : public uikit::SystemGestures {
   const Recognized recognized_;
   std::set<int> fingers_;
   std::optional<EdgeSlide> slide_;
-  /// Where the finger that may tap or hold the status bar has landed, and when.
+  /// Where and when the finger landed that may tap or hold the status bar.
   std::optional<CGPoint> bar_press_;
   double pressed_ = 0;
   std::optional<double> first_tap_;

@@ -2,8 +2,7 @@
 
 namespace host::activator {
 
-/// Makes the classes of the gesture service; views and tables must have been made. A second call
-/// does nothing.
+/// Registers the classes of the gesture service, after those of views and tables. Idempotent.
 void export_activator();
 
 }  // namespace host::activator

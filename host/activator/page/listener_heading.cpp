@@ -16,7 +16,7 @@ constexpr CGFloat kBelow = 12;
 constexpr CGFloat kTitleFont = 17;
 constexpr CGFloat kTextFont = 13;
 
-/// Gives where the label ends.
+/// Returns the bottom of the label.
 CGFloat add_label(UIView view, NSString text, UIFont font, UIColor color, CGPoint origin,
                   CGFloat width) {
   if (text.length() == 0) return origin.y;

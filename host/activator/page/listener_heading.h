@@ -5,8 +5,7 @@
 
 namespace host::activator {
 
-/// The top of a listener's page: its icon, its title and what it does, on as many lines as that
-/// takes.
+/// The top of a listener's page: its icon, its title and its description on any number of lines.
 UIView make_listener_heading(const ListenerRecord& record, CGFloat width);
 
 }  // namespace host::activator

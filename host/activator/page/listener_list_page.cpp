@@ -10,7 +10,7 @@ namespace {
 constexpr CGFloat kListenerRowHeight = 60;
 constexpr CGFloat kListenerCaptionHeight = 48;
 
-/// Onto the stack of whoever navigates here, or over this page.
+/// Pushes the page onto the navigation stack, if there is one, or presents it.
 void open_page(UIViewController from, UIViewController page) {
   const objc::Object navigation = from.respondsToSelector("navigationController"_sel)
                                       ? objc::send<objc::Object>(from, "navigationController"_sel)
@@ -38,7 +38,7 @@ void ListenerListPage::view_did_load() {
 void ListenerListPage::view_will_appear(BOOL animated) {
   super("viewWillAppear:"_sel, animated);
   keep_top_free();
-  // Another process may have changed what is shown.
+  // Another process may have changed the contents.
   show_again();
 }
 

@@ -8,7 +8,7 @@
 
 namespace host::activator {
 
-/// Every registered listener, with its icon, its title and what it does. A tap opens its page.
+/// Lists every registered listener, with its icon, title and description. A tap opens its page.
 class ListenerListPage final : public TablePage<ListenerListPage, LAListenerListViewController> {
  public:
   using TablePage::TablePage;

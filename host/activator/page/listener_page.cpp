@@ -30,7 +30,7 @@ void ListenerPage::view_did_load() {
 void ListenerPage::view_will_appear(BOOL animated) {
   super("viewWillAppear:"_sel, animated);
   keep_top_free();
-  // Another process may have changed what is shown.
+  // Another process may have changed the contents.
   show_again();
 }
 
@@ -93,7 +93,7 @@ UIView ListenerPage::header(UITableView, NSInteger section) {
 void ListenerPage::selected(UITableView table, NSIndexPath path) {
   table.deselectRowAtIndexPath(path, YES);
   toggle(path);
-  // What the file holds now, whatever became of the change.
+  // Shows the file's current contents, whether or not the change succeeded.
   table.cellForRowAtIndexPath(path).setAccessoryType(
       is_assigned(path) ? UITableViewCellAccessoryCheckmark : UITableViewCellAccessoryNone);
 }

@@ -10,9 +10,9 @@
 
 namespace host::activator {
 
-/// The gestures of one listener: a section for each mode that it is for, a row for each event, a
-/// check mark at those that are the listener's. A listener that nobody knows is shown by its name
-/// and may be given gestures all the same: it may be registered later.
+/// The gestures of one listener: a section for each of its modes, a row for each event, and a check
+/// mark at its assigned events. An unknown listener is shown by its name and can still be assigned
+/// events: it may be registered later.
 class ListenerPage final : public TablePage<ListenerPage, LAListenerSettingsViewController> {
  public:
   using TablePage::TablePage;

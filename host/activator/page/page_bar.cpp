@@ -37,7 +37,7 @@ void add_button(UIView bar, UIViewController page, objc::Sel close, CGFloat widt
   bar.addSubview(button);
 }
 
-// The home screen's status bar is white, for wallpapers: it needs something darker behind it.
+// The home screen's status bar is white, for wallpapers, and needs a darker background.
 void add_status_ground(UIView bar, CGFloat width) {
   const UIView ground = UIView::alloc().initWithFrame({0, 0, width, kStatusBarHeight});
   ground.setBackgroundColor(caption_color());

@@ -4,10 +4,10 @@
 
 namespace host::activator {
 
-/// What a navigation bar is to a page that stands by itself: its title and a button that closes it.
+/// Replaces the navigation bar of a stand-alone page: its title and a button that closes it.
 UIView make_page_bar(UIViewController page, NSString title, objc::Sel close, CGFloat width);
 
-/// Does the page stand by itself, or does somebody else put a bar over it?
+/// Returns true when the page is presented by itself, so that no container puts a bar over it.
 inline bool stands_alone(UIViewController page) {
   return page.presentingViewController() && !page.parentViewController();
 }

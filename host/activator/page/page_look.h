@@ -15,20 +15,20 @@ inline constexpr CGFloat kIconSide = 29;
 /// Higher than any text of a page.
 inline constexpr CGFloat kManyLines = 10000;
 
-/// The grey behind the rows, and the greys of the texts on it.
+/// The grey background behind the rows, and the greys of the texts on it.
 UIColor ground_color();
 UIColor caption_color();
 
-/// A table of the settings' look that fills `bounds` and follows them.
+/// A table in the style of the settings that fills `bounds` and resizes with its superview.
 objc::Ref<UITableView> make_table(CGRect bounds, objc::Object source);
 
-/// What stands over a section: small capitals near the rows, on `height` points.
+/// A section's caption, `height` points high: small capitals near the rows.
 UIView make_caption(NSString text, CGFloat width, CGFloat height);
-/// A few words under the rows, at their width.
+/// A note under the rows, as wide as they are.
 UIView make_note(NSString text, CGFloat width);
 CGFloat note_height(NSString text, CGFloat width);
 
-/// The picture of the file in the size of a row's icon, or a neutral one when there is none.
+/// The file's picture in the size of a row's icon, or a neutral one if it cannot be read.
 UIImage row_icon(const std::string& file);
 
 }  // namespace host::activator

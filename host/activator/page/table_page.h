@@ -7,15 +7,15 @@
 
 namespace host::activator {
 
-/// What the pages share: a table that fills the page, under a bar where the page stands by itself,
-/// and under the status bar where it is a part of a page without bars.
+/// The base of the pages: a table that fills the page, under a bar if the page is stand-alone, or
+/// under the status bar if it is nested in a page without bars.
 template <class Derived, class Self>
 class TablePage : public objc::Implementation<Derived, Self> {
  public:
   using Base = objc::Implementation<Derived, Self>;
   using Base::Base;
 
-  // A table does not keep its delegate, and others may keep the table.
+  // A table does not retain its delegate, and others may retain the table.
   ~TablePage() {
     if (!table_) return;
     table_->setDataSource(nil);

@@ -17,7 +17,7 @@
 namespace host::activator {
 namespace {
 
-/// A file name for any name, and different ones for different names.
+/// Converts any name to a file name; different names get different file names.
 std::string file_name(std::string_view name) {
   std::string made;
   for (const char byte : name) {
@@ -95,7 +95,7 @@ bool ListenerDirectory::write(const std::vector<ListenerRecord>& records) const 
 std::string ListenerDirectory::keep_icon(const std::string& listener, UIImage icon) const {
   const quartzcore::Image* image = quartzcore::image_of(icon.CGImage());
   if (!image) return {};
-  // The scale stands in the name, as in those of all pictures of the platform.
+  // The file name contains the scale, as for all pictures on the platform.
   const long scale = std::lround(icon.scale());
   const std::string suffix = scale > 1 ? fmt::format("@{}x", scale) : "";
   const std::string path = fmt::format("{}/icons/{}{}.png", path_.substr(0, path_.rfind('/')),

@@ -7,10 +7,10 @@
 namespace host::activator {
 namespace {
 
-/// Nil for a listener that does not take the question.
+/// Nil for a listener that does not implement the question.
 template <class Ask>
 objc::Object answer(LAListener listener, const std::string& name, objc::Sel question, Ask ask) {
-  return call_carefully(name, "asked about itself", [&]() -> objc::Object {
+  return call_catching(name, "asked about itself", [&]() -> objc::Object {
     if (!listener.respondsToSelector(question)) return nil;
     return ask();
   });

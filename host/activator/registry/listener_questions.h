@@ -8,11 +8,11 @@
 
 namespace host::activator {
 
-/// Asks a listener about itself. It may answer some of the questions, none, with something of
-/// another kind, or throw. The icon is left out.
+/// Queries a listener about itself, except for its icon. It may answer only some questions or none,
+/// return objects of the wrong class, or throw.
 ListenerRecord describe(LAActivator activator, LAListener listener, const std::string& name);
 
-/// The listener's small icon, or else its large one; nil when it has none.
+/// The listener's small icon, or else its large one; nil when it has neither.
 UIImage icon_of(LAActivator activator, LAListener listener, const std::string& name);
 
 }  // namespace host::activator

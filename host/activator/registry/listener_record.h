@@ -9,16 +9,16 @@
 
 namespace host::activator {
 
-/// What is known of a listener without asking it.
+/// What is known of a listener without querying it.
 struct ListenerRecord {
   std::string name;
-  /// Empty where the listener says none: pages then show its name.
+  /// Empty when the listener has none: pages then show its name.
   std::string title;
   std::string description;
   std::string group;
   /// A picture file of the device; empty for none.
   std::string icon;
-  /// The modes that the listener is for; every mode where it does not say.
+  /// The modes that the listener supports; nothing means every mode.
   std::optional<std::vector<std::string>> modes;
 
   const std::string& shown_title() const { return title.empty() ? name : title; }

@@ -7,11 +7,11 @@
 
 namespace host::activator {
 
-/// Turns what is done to the phone into events of the service: whoever holds the phone tells it of
-/// buttons and of keys, fingers it sees for itself.
+/// Turns input into events of the service. The caller reports buttons and keys; fingers are
+/// observed directly.
 class PhoneGestures {
  public:
-  /// The key that makes the event of the keyboard, by its name.
+  /// The name of the key that makes the keyboard's event.
   static constexpr std::string_view kChord = "control-g";
 
   PhoneGestures(RunLoop& loop, CGSize screen);
@@ -20,7 +20,7 @@ class PhoneGestures {
   PhoneGestures& operator=(const PhoneGestures&) = delete;
 
   ButtonGestures& buttons() { return buttons_; }
-  /// False when nobody hears it: the key may mean something else then.
+  /// Returns false when no listener receives it; the key may have another meaning then.
   bool press_key(std::string_view name);
   void shake();
 
@@ -29,8 +29,8 @@ class PhoneGestures {
   ButtonGestures buttons_;
 };
 
-/// Makes an event happen in the present mode, heard or not; false, and nothing, for an unknown
-/// name.
+/// Makes an event happen in the current mode, with or without a listener. Returns false, and does
+/// nothing, for an unknown name.
 bool perform_event(std::string_view name);
 
 }  // namespace host::activator

@@ -11,7 +11,7 @@
 namespace host::activator {
 namespace {
 
-// Never destroyed at the end of the process: listeners must not be released behind the runtime.
+// Never destroyed at exit: listeners must not be released after the runtime has shut down.
 Service* present = nullptr;
 
 void report_hang(const std::string& name) {
@@ -32,18 +32,18 @@ void Service::restart(Role role, const ModeProvider* modes) {
 
 Service::Service(Role role, const ModeProvider* modes)
     : role_(role), modes_(modes), watch_(kLongestCall, &report_hang) {
-  // Others must not go on seeing those of a life before.
-  tell_others_later();
+  // Other processes must not keep seeing the listeners of an earlier process.
+  write_directory_later();
 }
 
 void Service::add(LAListener listener, const std::string& name) {
   if (!listener || name.empty()) return;
   listeners_[name] = objc::Ref<LAListener>::retain(listener);
-  tell_others_later();
+  write_directory_later();
 }
 
 void Service::remove(const std::string& name) {
-  if (listeners_.erase(name) > 0) tell_others_later();
+  if (listeners_.erase(name) > 0) write_directory_later();
 }
 
 LAListener Service::listener(const std::string& name) const {
@@ -92,10 +92,10 @@ void Service::send(LAEvent event) {
 }
 
 void Service::tell(const std::string& name, LAEvent event) {
-  // It may be unregistered by what it does.
+  // The listener may unregister itself during the call.
   const auto listener = objc::Ref<LAListener>::retain(this->listener(name));
   watch_.during(name, [&] {
-    call_carefully(name, "given an event", [&] {
+    call_catching(name, "given an event", [&] {
       if (listener->respondsToSelector("activator:receiveEvent:"_sel))
         listener->receiveEvent(LAActivator::sharedInstance(), event);
     });
@@ -104,7 +104,7 @@ void Service::tell(const std::string& name, LAEvent event) {
 
 bool Service::recognized(const std::string& event) {
   if (!is_heard(event)) return false;
-  // What a listener does may change the very windows whose touch is being looked at.
+  // A listener may change the windows whose touch is being delivered.
   const Mode mode = present_mode();
   RunLoop::main().perform([this, event, mode, life = std::weak_ptr(life_)] {
     if (!life.expired()) send(LAEvent::eventWithName(to_ns(event), to_ns(name_of(mode))));
@@ -112,20 +112,20 @@ bool Service::recognized(const std::string& event) {
   return true;
 }
 
-// In the next turn: listeners are registered while they are still being made, and several at once.
-void Service::tell_others_later() {
-  if (role_ != Role::HomeScreen || std::exchange(will_tell_others_, true)) return;
+// In the next turn, since listeners may register during their construction, and several at once.
+void Service::write_directory_later() {
+  if (role_ != Role::HomeScreen || std::exchange(will_write_directory_, true)) return;
   RunLoop::main().perform([this, life = std::weak_ptr(life_)] {
     if (!life.expired()) tell_others();
   });
 }
 
 void Service::tell_others() {
-  will_tell_others_ = false;
+  will_write_directory_ = false;
   std::vector<ListenerRecord> records;
-  // A copy: a listener may register another when it is asked.
+  // A copy: a listener may register another when it is queried.
   const auto listeners = listeners_;
-  // Without listeners the service's library may not be loaded, and the class with it.
+  // Without listeners, the service's library, and with it the class, may not be loaded.
   const LAActivator activator = listeners.empty() ? nil : LAActivator::sharedInstance();
   for (const auto& [name, listener] : listeners) {
     records.push_back(describe(activator, listener.get(), name));

@@ -15,22 +15,22 @@
 
 namespace host::activator {
 
-/// Behind the shared object: who is registered, what is assigned to whom, and what happens when an
-/// event does. There is one a process.
+/// The implementation behind the shared object: the registered listeners, their assignments, and
+/// the delivery of events. Each process has one.
 class Service {
  public:
   static constexpr std::chrono::milliseconds kLongestCall{1000};
 
-  /// Does the service tell other processes who is registered? The home screen's does.
+  /// Whether the service publishes its listeners to other processes. The home screen's does.
   enum class Role { HomeScreen, Guest };
 
   static Service& shared();
-  /// Forgets everybody, and begins anew as another process would.
+  /// Forgets all listeners and starts again as a new process would.
   static void restart(Role role, const ModeProvider* modes);
 
   Service(Role role, const ModeProvider* modes);
 
-  /// A second one of the same name takes the place of the first. Nil is nobody.
+  /// A second listener of the same name replaces the first. Nil is ignored.
   void add(LAListener listener, const std::string& name);
   void remove(const std::string& name);
   LAListener listener(const std::string& name) const;
@@ -39,23 +39,23 @@ class Service {
   Mode present_mode() const;
   AssignmentStore& assignments() { return assignments_; }
   const ListenerDirectory& directory() const { return directory_; }
-  /// What the registered listener says of itself, or, of one that is not, what was last said.
+  /// Queries the listener if it is registered, or else returns its last known record.
   ListenerRecord record(const std::string& name);
-  /// False for an unknown event or mode, for a mode that is not the listener's, and when it cannot
-  /// be kept.
+  /// Returns false for an unknown event or mode, for a mode that the listener does not support, and
+  /// when the assignment cannot be stored.
   bool assign(const std::string& event, const std::string& mode, const std::string& listener);
 
-  /// Would anybody hear of the event now?
+  /// Returns whether any listener would receive the event now.
   bool is_heard(const std::string& event);
-  /// Tells all listeners that the event is assigned to, in the order of the assignments.
+  /// Calls all listeners that the event is assigned to, in the order of the assignments.
   void send(LAEvent event);
-  /// Sends the event in the present mode with the loop's next turn; false, and nothing, when
-  /// nobody hears it.
+  /// Sends the event for the current mode in the loop's next turn. Returns false, and does nothing,
+  /// when no listener would receive it.
   bool recognized(const std::string& event);
 
  private:
   void tell(const std::string& name, LAEvent event);
-  void tell_others_later();
+  void write_directory_later();
   void tell_others();
 
   const Role role_;
@@ -64,8 +64,8 @@ class Service {
   AssignmentStore assignments_;
   ListenerDirectory directory_;
   HangWatch watch_;
-  bool will_tell_others_ = false;
-  /// Ends with the service: work for the loop's next turn may outlast it.
+  bool will_write_directory_ = false;
+  /// Released with the service, which work queued for the loop's next turn may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

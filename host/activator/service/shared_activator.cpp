@@ -18,7 +18,7 @@ NSArray array_of(const Names& names) {
 }  // namespace
 
 LAActivator SharedActivator::shared_instance(objc::Object) {
-  // A bare handle: nothing is to be released behind the end of `main`.
+  // A bare handle: nothing must be released after `main` has ended.
   static const LAActivator instance = LAActivator::alloc().init();
   return instance;
 }

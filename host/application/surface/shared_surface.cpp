@@ -18,7 +18,7 @@ std::size_t bytes_of(const SurfaceSize& size) {
   return size.buffer_bytes() * SharedSurface::kBuffers;
 }
 
-/// Is it memory of that size, which nobody can change any more?
+/// Returns whether the memory has that size, sealed against changes.
 bool is_as_promised(const Descriptor& memory, const SurfaceSize& size) {
   struct stat status;
   const int seals = fcntl(memory.get(), F_GET_SEALS);

@@ -8,7 +8,7 @@
 
 namespace host::application {
 
-/// Of one buffer, in pixels; `stride` in bytes.
+/// The size of one buffer in pixels, and `stride` in bytes.
 struct SurfaceSize {
   int width = 0;
   int height = 0;
@@ -24,17 +24,17 @@ struct SurfaceSize {
   }
 };
 
-/// Two buffers of pixels in memory that the home screen and an application share: while one is on
-/// the screen, the other is drawn on. The home screen makes the memory, so that its size is nobody
-/// else's to say, and seals it: who could make it shorter could make its reader fault.
+/// Two pixel buffers in memory that the home screen and an application share: one is on the screen
+/// while the application draws into the other. The home screen allocates the memory, so it alone
+/// decides the size, and seals it: shrinking the memory would make its reader fault.
 class SharedSurface {
  public:
   static constexpr int kBuffers = 2;
 
-  /// The home screen's end, which only reads. Nothing when there is no memory.
+  /// The home screen's end, which only reads. Null when out of memory.
   static std::shared_ptr<const SharedSurface> make(const SurfaceSize& size);
-  /// The application's end, which also writes. Nothing when the memory is not as large as it
-  /// should be, or its size can still change.
+  /// The application's end, which also writes. Null when the memory has the wrong size, or its size
+  /// is not sealed.
   static std::shared_ptr<SharedSurface> open(Descriptor memory, const SurfaceSize& size);
 
   ~SharedSurface();

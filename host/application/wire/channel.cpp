@@ -28,7 +28,7 @@ void attach(msghdr& message, DescriptorSpace& space, int descriptor) {
   std::memcpy(CMSG_DATA(header), &descriptor, sizeof descriptor);
 }
 
-/// The first descriptor that came along; what else did is closed.
+/// Returns the message's first descriptor and closes the others.
 Descriptor descriptor_of(msghdr& message) {
   Descriptor first;
   for (cmsghdr* header = CMSG_FIRSTHDR(&message); header; header = CMSG_NXTHDR(&message, header)) {

@@ -7,8 +7,8 @@
 
 namespace host::application {
 
-/// One end of the connection between the home screen and an application: bytes, and with some of
-/// them a descriptor.
+/// One end of the connection between the home screen and an application: a stream of bytes, some
+/// accompanied by a descriptor.
 class Channel {
  public:
   Channel() = default;
@@ -18,15 +18,15 @@ class Channel {
   explicit operator bool() const { return static_cast<bool>(socket_); }
   void close() { socket_.reset(); }
 
-  /// Whoever does not wait gives up an end that reads nothing.
+  /// With `NeverWaits`, sending fails when the other end does not read.
   enum class Patience { Waits, NeverWaits };
-  /// Anything but `Done` leaves the channel without use: the other end does not read, or is gone. A
-  /// descriptor that is not -1 goes with the bytes.
+  /// After any result but `Done` the channel is unusable: the other end does not read, or is gone.
+  /// A descriptor other than -1 is sent with the bytes.
   enum class Sending { Done, Full, Gone };
   Sending send(std::string_view bytes, Patience patience, int descriptor = -1) const;
 
   enum class Reading { Some, Nothing, End };
-  /// Appends what is there now. A descriptor that came along is kept for `take_descriptor`.
+  /// Appends the bytes that are available now. A received descriptor is kept for `take_descriptor`.
   Reading read_into(std::string& bytes);
   Descriptor take_descriptor() { return std::move(received_); }
 
@@ -35,10 +35,10 @@ class Channel {
   Descriptor received_;
 };
 
-/// Connects to the socket with this path; an empty channel when nobody is there.
+/// Connects to the socket at this path; returns an empty channel when no one listens there.
 Channel connect_to(const std::string& path);
 
-/// Waits until the descriptor can be read; false after `seconds` of the machine's time.
+/// Waits until the descriptor is readable; returns false after `seconds` of real time.
 bool wait_until_readable(int descriptor, double seconds);
 
 }  // namespace host::application

@@ -40,8 +40,8 @@ class Encoder {
   std::string bytes_;
 };
 
-/// Takes values out of a message that anybody may have written. After the first value that is not
-/// there, or is none of its kind, it has failed for good.
+/// Reads values from an untrusted message. After the first missing or invalid value it has failed
+/// for good.
 class Decoder {
  public:
   explicit Decoder(std::string_view bytes) : rest_(bytes) {}
@@ -50,7 +50,7 @@ class Decoder {
   void operator()(Values&... values) {
     (take(values), ...);
   }
-  /// Was everything there, and nothing besides?
+  /// Returns whether every value was valid and no bytes are left.
   bool is_whole() const { return !failed_ && rest_.empty(); }
 
  private:
@@ -78,7 +78,7 @@ class Decoder {
     } else if constexpr (std::is_enum_v<Value>) {
       std::underlying_type_t<Value> number{};
       take(number);
-      // Enumerations of the wire name their last value.
+      // Enumerations on the wire have a `Last`.
       if (number > static_cast<std::underlying_type_t<Value>>(Value::Last)) failed_ = true;
       if (!failed_) value = static_cast<Value>(number);
     } else if constexpr (std::is_same_v<Value, bool>) {

@@ -10,11 +10,11 @@
 
 namespace host::application {
 
-// A message is its length, its kind and its fields; the length counts what follows it.
+// A message is its length, its kind and its fields; the length counts the bytes after it.
 using MessageLength = std::uint32_t;
 using MessageKind = std::uint16_t;
 inline constexpr std::size_t kLongestMessage = 64 * 1024;
-/// A text that any message can carry.
+/// The longest text that fits into any message.
 inline constexpr std::size_t kLongestText = kLongestMessage - 64;
 
 /// The bytes of one message.
@@ -28,8 +28,8 @@ std::string encoded(Messages message) {
   return whole.bytes() + fields.bytes();
 }
 
-/// Makes messages of bytes that come in pieces and that nobody vouches for. What is no message ends
-/// the reading for good.
+/// Reads messages from untrusted bytes that arrive in pieces. An invalid message ends the reading
+/// for good.
 template <class Messages>
 class MessageReader {
  public:
@@ -37,7 +37,7 @@ class MessageReader {
     if (!failed_) pending_ += bytes;
   }
 
-  /// The next whole message; nothing while it has not come, and after a failure.
+  /// The next complete message; empty until it has arrived, and after a failure.
   std::optional<Messages> next() {
     MessageLength length = 0;
     const std::string_view unread = std::string_view(pending_).substr(read_);
@@ -54,7 +54,7 @@ class MessageReader {
     return made;
   }
 
-  /// Did something come that is no message?
+  /// Returns whether an invalid message has arrived.
   bool has_failed() const { return failed_; }
   std::size_t pending_bytes() const { return pending_.size() - read_; }
 

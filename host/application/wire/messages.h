@@ -4,14 +4,14 @@
 #include <string>
 #include <variant>
 
-// What the home screen and an application tell each other. Every message lists its fields once, for
-// both directions of the wire.
+// The messages between the home screen and an application. Every message lists its fields once, for
+// encoding and decoding.
 namespace host::application {
 
 /// The first message of a connection; the surface's memory comes with it.
 struct Hello {
   bool is_stepped = false;
-  double now = 0;  ///< Of the home screen's clock, which all times are of.
+  double now = 0;  ///< On the home screen's clock, like all times.
   std::int32_t width = 0;
   std::int32_t height = 0;
   std::int32_t stride = 0;  ///< In bytes; the second buffer follows the first.
@@ -60,7 +60,7 @@ struct PressedKey {
   }
 };
 
-/// Is the application what the user sees?
+/// Whether the application is in front of the user.
 struct Visibility {
   bool is_in_front = false;
   template <class Fields>
@@ -69,7 +69,7 @@ struct Visibility {
   }
 };
 
-/// On a stepped clock: bring everything up to this time, then say `ReachedTime`.
+/// On a stepped clock: advance to this time, then reply `ReachedTime`.
 struct TimeIs {
   double time = 0;
   template <class Fields>
@@ -94,13 +94,13 @@ struct Ping {
   }
 };
 
-/// The last frame is on the screen: the buffer before it is the application's again.
+/// The last frame is on the screen: the previous buffer belongs to the application again.
 struct FrameTaken {
   template <class Fields>
   void list(Fields&) {}
 };
 
-/// What the phone's player does, for applications that steer it.
+/// The state of the phone's player, for applications that control it.
 struct PlaybackIs {
   std::uint64_t song = 0;  ///< 0 for none.
   bool is_playing = false;
@@ -115,7 +115,7 @@ struct PlaybackIs {
 
 struct NewFrame {
   std::uint8_t buffer = 0;
-  // What differs from the frame before, in pixels.
+  // The damage since the previous frame, in pixels.
   std::int32_t x = 0;
   std::int32_t y = 0;
   std::int32_t width = 0;
@@ -128,7 +128,7 @@ struct NewFrame {
 
 struct ReachedTime {
   double time = 0;
-  /// Without anything happening to the application, nothing happens in it before this.
+  /// Without further messages, the application has nothing to do before this time.
   double next_due = 0;
   template <class Fields>
   void list(Fields& fields) {
@@ -152,7 +152,7 @@ struct Pong {
   }
 };
 
-/// The application ends in good order.
+/// The application exits normally.
 struct Closing {
   template <class Fields>
   void list(Fields&) {}
@@ -178,7 +178,7 @@ struct SteerPlayer {
   }
 };
 
-// A message's kind on the wire is its place in these lists.
+// A message's kind on the wire is its index in these lists.
 using ToApplication = std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey,
                                    Visibility, TimeIs, ConsoleLine, Ping, FrameTaken, PlaybackIs>;
 using ToHome = std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer>;

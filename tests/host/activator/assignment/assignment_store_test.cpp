@@ -28,7 +28,7 @@ TEST_F(AssignmentStores, OutliveTheProcess) {
   EXPECT_FALSE(later.current().contains("home-hold", "springboard", "a"));
 }
 
-TEST_F(AssignmentStores, AreSeenByWhoeverHasReadThemBefore) {
+TEST_F(AssignmentStores, AreVisibleToEarlierReaders) {
   AssignmentStore one;
   AssignmentStore other;
   EXPECT_THAT(shake(one), IsEmpty());
@@ -39,7 +39,7 @@ TEST_F(AssignmentStores, AreSeenByWhoeverHasReadThemBefore) {
   EXPECT_THAT(shake(one), ElementsAre("b"));
 }
 
-TEST_F(AssignmentStores, AssigningTwiceIsOnce) {
+TEST_F(AssignmentStores, AssigningTwiceHasNoFurtherEffect) {
   AssignmentStore store;
   EXPECT_TRUE(store.assign("shake", "springboard", "a"));
   EXPECT_TRUE(store.assign("shake", "springboard", "a"));
@@ -82,7 +82,7 @@ TEST_F(AssignmentStores, AFolderInTheirPlaceIsSetAsideToo) {
   EXPECT_THAT(shake(store), ElementsAre("a"));
 }
 
-TEST_F(AssignmentStores, WhatCannotBeWrittenIsNotAssigned) {
+TEST_F(AssignmentStores, AnAssignmentThatCannotBeWrittenFails) {
   media_tests::write_bytes(device / "var", "a file where a folder should be");
   AssignmentStore store;
   EXPECT_FALSE(store.assign("shake", "springboard", "a"));

@@ -10,9 +10,9 @@ namespace {
 using activator::HangWatch;
 using namespace std::chrono_literals;
 
-// Each hanging call ends when it has been named, so that nothing here depends on how long that
-// took.
-TEST(HangWatches, NameWhoHangsWhileItStillHangs) {
+// Each hanging call ends when it has been named, so the test does not depend on the time that
+// takes.
+TEST(HangWatches, NameAHangingCallWhileItStillHangs) {
   std::promise<std::string> named;
   HangWatch watch(1ms, [&](const std::string& name) { named.set_value(name); });
   std::string seen;
@@ -36,7 +36,7 @@ TEST(HangWatches, NameEachCallThatHangs) {
   EXPECT_THAT(names, testing::ElementsAre("one", "two"));
 }
 
-TEST(HangWatches, LookAtTheOuterOfTwoCalls) {
+TEST(HangWatches, WatchTheOuterOfTwoCalls) {
   std::promise<std::string> named;
   HangWatch watch(1ms, [&](const std::string& name) { named.set_value(name); });
   std::string seen;
@@ -47,7 +47,7 @@ TEST(HangWatches, LookAtTheOuterOfTwoCalls) {
   EXPECT_EQ(seen, "outer");
 }
 
-TEST(HangWatches, SayNothingOfWhoComesBack) {
+TEST(HangWatches, IgnoreCallsThatReturnInTime) {
   int reports = 0;
   {
     HangWatch watch(1h, [&](const std::string&) { ++reports; });

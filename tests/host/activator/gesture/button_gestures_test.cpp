@@ -52,7 +52,7 @@ TEST_F(ButtonGesturesTest, AButtonThatIsDownAlreadyIsNotPressedAgain) {
   EXPECT_THAT(recognized, ElementsAre("home-hold"));
 }
 
-TEST_F(ButtonGesturesTest, AHoldThatNobodyHearsIsAPress) {
+TEST_F(ButtonGesturesTest, AHoldWithoutAListenerIsAPress) {
   is_heard = false;
   buttons.down(Button::Home);
   advance(0.7);
@@ -77,7 +77,7 @@ TEST_F(ButtonGesturesTest, VolumeButtonsThatAreDownTogetherAreAPair) {
   EXPECT_THAT(recognized, ElementsAre("volume-both"));
 }
 
-TEST_F(ButtonGesturesTest, LightPressesAtOnceAreAPairToo) {
+TEST_F(ButtonGesturesTest, SimultaneousLightPressesAreAPairToo) {
   press(Button::VolumeDown);
   advance(0.1);
   press(Button::VolumeUp);
@@ -91,14 +91,14 @@ TEST_F(ButtonGesturesTest, EachPressIsInOnePairOnly) {
   EXPECT_THAT(recognized, ElementsAre("volume-both"));
 }
 
-TEST_F(ButtonGesturesTest, AHeldButtonOfAPairMakesNoOther) {
+TEST_F(ButtonGesturesTest, AHeldButtonOfAPairMakesNoSecondPair) {
   buttons.down(Button::VolumeUp);
   press(Button::VolumeDown);
   press(Button::VolumeDown);
   EXPECT_THAT(recognized, ElementsAre("volume-both"));
 }
 
-TEST_F(ButtonGesturesTest, OneAfterTheOtherIsNoPair) {
+TEST_F(ButtonGesturesTest, SuccessivePressesAreNotAPair) {
   press(Button::VolumeUp);
   advance(0.2);
   press(Button::VolumeDown);

@@ -11,7 +11,7 @@ using activator::EdgeSlide;
 
 constexpr CGSize kScreen{375, 667};
 
-/// The event that a straight way makes; "" while undecided, "-" for none.
+/// Returns the event of a straight slide; "" while undecided, "-" for none.
 std::string slide(CGPoint from, CGPoint to) {
   auto finger = EdgeSlide::begin(kScreen, from);
   if (!finger) return "-";
@@ -34,7 +34,7 @@ TEST(EdgeSlides, ComeInOverEachCorner) {
   EXPECT_EQ(slide({374, 640}, {330, 600}), "slide-in-bottom-right");
 }
 
-TEST(EdgeSlides, StraightOutOfACornerBelongToTheEdge) {
+TEST(EdgeSlides, PerpendicularFromACornerBelongToTheEdge) {
   EXPECT_EQ(slide({2, 5}, {60, 8}), "slide-in-left");
   EXPECT_EQ(slide({2, 5}, {5, 60}), "slide-in-top");
 }
@@ -45,18 +45,18 @@ TEST(EdgeSlides, BeginAtTheEdge) {
   EXPECT_EQ(slide({16, 16}, {60, 60}), "-");
 }
 
-TEST(EdgeSlides, ComeOutOfACornerOnlyNearToIt) {
+TEST(EdgeSlides, BelongToACornerOnlyNearIt) {
   EXPECT_EQ(slide({5, 50}, {50, 95}), "slide-in-top-left");
   EXPECT_EQ(slide({5, 51}, {50, 80}), "slide-in-left");
   EXPECT_EQ(slide({51, 5}, {80, 50}), "slide-in-top");
 }
 
-TEST(EdgeSlides, WaitForSomeWay) {
+TEST(EdgeSlides, NeedAMinimumDistance) {
   EXPECT_EQ(slide({0, 300}, {39, 300}), "");
   EXPECT_EQ(slide({0, 300}, {40, 300}), "slide-in-left");
 }
 
-TEST(EdgeSlides, AlongTheEdgeAreNone) {
+TEST(EdgeSlides, AlongTheEdgeAreNotRecognised) {
   EXPECT_EQ(slide({2, 300}, {10, 360}), "-");
   EXPECT_EQ(slide({2, 300}, {12, 240}), "-");
   EXPECT_EQ(slide({2, 30}, {3, 90}), "-");

@@ -48,7 +48,7 @@ TEST_F(TouchGesturesTest, ASlideLeavesTheViewThatTheFingerWasOn) {
   EXPECT_THAT(all.back(), testing::HasSubstr("cancelled"));
 }
 
-TEST_F(TouchGesturesTest, ASlideThatNobodyHearsIsAnOrdinaryTouch) {
+TEST_F(TouchGesturesTest, ASlideWithoutAListenerIsAnOrdinaryTouch) {
   is_heard = false;
   press({0, 300});
   glide({0, 300}, {80, 300}, 0.1);
@@ -83,7 +83,7 @@ TEST_F(TouchGesturesTest, TwoTapsOnTheStatusBar) {
   EXPECT_THAT(recognized, ElementsAre("status-bar-double-tap"));
 }
 
-TEST_F(TouchGesturesTest, TapsThatAreLateOrBelowTheStatusBarAreNoDoubleTap) {
+TEST_F(TouchGesturesTest, TapsThatAreLateOrBelowTheStatusBarAreNotADoubleTap) {
   tap({180, 10});
   advance(0.5);
   tap({180, 10});
@@ -105,7 +105,7 @@ TEST_F(TouchGesturesTest, AHoldOfTheStatusBarIsRecognizedWhileTheFingerIsDown) {
   EXPECT_THAT(told().back(), testing::HasSubstr("cancelled"));
 }
 
-TEST_F(TouchGesturesTest, AFingerThatHoldsTheStatusBarSlidesNoMore) {
+TEST_F(TouchGesturesTest, AFingerThatHeldTheStatusBarCannotSlide) {
   press({180, 10});
   advance(0.7);
   glide({180, 10}, {180, 90}, 0.1);
@@ -113,7 +113,7 @@ TEST_F(TouchGesturesTest, AFingerThatHoldsTheStatusBarSlidesNoMore) {
   EXPECT_THAT(recognized, ElementsAre("status-bar-hold"));
 }
 
-TEST_F(TouchGesturesTest, AHoldEndsWithWhoWatchesIt) {
+TEST_F(TouchGesturesTest, AHoldEndsWithItsRecogniser) {
   {
     TouchGestures others(loop, kScreen.size, [this](const char* event) {
       recognized.emplace_back(event);
@@ -135,7 +135,7 @@ TEST_F(TouchGesturesTest, AMovingOrLiftedFingerHoldsNothing) {
   EXPECT_THAT(recognized, IsEmpty());
 }
 
-TEST_F(TouchGesturesTest, ACancelledFingerIsNoGesture) {
+TEST_F(TouchGesturesTest, ACancelledFingerMakesNoGesture) {
   press({180, 10});
   input.cancelled(0, {180, 10}, clock.now());
   advance(1);

@@ -78,7 +78,7 @@ TEST_F(Pages, AListenerHasASectionForEachOfItsModes) {
   EXPECT_TRUE(shows(page.view(), "AT HOME SCREEN"_ns));
 }
 
-TEST_F(Pages, ATapAssignsTheEventAndAnotherTakesItBack) {
+TEST_F(Pages, ATapAssignsTheEventAndAnotherUnassignsIt) {
   add(plain_listener(), "a");
   loop.run_ready();
   const auto page = show_listener("a");
@@ -92,7 +92,7 @@ TEST_F(Pages, ATapAssignsTheEventAndAnotherTakesItBack) {
   EXPECT_EQ(script().events.size(), 1u);
 }
 
-TEST_F(Pages, AnUnknownListenerIsShownByItsNameAndWorksAllTheSame) {
+TEST_F(Pages, AnUnknownListenerIsShownByNameAndCanBeAssigned) {
   const auto page = show_listener("org.example.absent");
   EXPECT_TRUE(shows(page.view(), "org.example.absent"_ns));
   EXPECT_EQ(table(page).numberOfSections(), 3);
@@ -103,7 +103,7 @@ TEST_F(Pages, AnUnknownListenerIsShownByItsNameAndWorksAllTheSame) {
   EXPECT_EQ(script().events.size(), 1u);
 }
 
-TEST_F(Pages, AGuestsPageChangesWhatTheHomeScreenHears) {
+TEST_F(Pages, AGuestsPageChangesTheHomeScreensAssignments) {
   add(plain_listener(), "a");
   loop.run_ready();
   start_again(Service::Role::Guest);
@@ -114,7 +114,7 @@ TEST_F(Pages, AGuestsPageChangesWhatTheHomeScreenHears) {
   EXPECT_EQ(script().events.size(), 1u);
 }
 
-TEST_F(Pages, WhatAnotherProcessAssignedIsCheckedWhenThePageComes) {
+TEST_F(Pages, AppearingShowsAssignmentsOfOtherProcesses) {
   const auto page = LAListenerSettingsViewController::alloc().init();
   page.setListenerName("a"_ns);
   page.view();
@@ -152,7 +152,7 @@ TEST_F(Pages, TheListHasARowForEachListenerAndOpensItsPage) {
                "a");
 }
 
-TEST_F(Pages, TheListSaysThatThereIsNobody) {
+TEST_F(Pages, AnEmptyListSaysSo) {
   const auto list = show(LAListenerListViewController::alloc().init());
   EXPECT_EQ(table(list).numberOfRowsInSection(0), 0);
   EXPECT_TRUE(shows(list.view(), "No installed extension can be called by a gesture."_ns));
@@ -165,7 +165,7 @@ TEST_F(Pages, DoneClosesAPageThatStandsAlone) {
   EXPECT_FALSE(root.presentedViewController());
 }
 
-TEST_F(Pages, APageInsideAnotherHasNoBarOfItsOwn) {
+TEST_F(Pages, ANestedPageHasNoBar) {
   const auto page = LAListenerSettingsViewController::alloc().init();
   root.addChildViewController(page);
   page.release();

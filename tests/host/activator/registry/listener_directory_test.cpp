@@ -20,7 +20,7 @@ class Directories : public ActivatorTest {
   std::vector<ListenerRecord> records() const { return ListenerDirectory().read(); }
 };
 
-TEST_F(Directories, TellOtherProcessesWhatListenersSayOfThemselves) {
+TEST_F(Directories, ShareListenersAnswersWithOtherProcesses) {
   script().on_question = [this](const std::string& question) -> objc::Object {
     if (question == "title") return "A Tïtle"_ns;
     if (question == "description") return "Does things"_ns;
@@ -43,7 +43,7 @@ TEST_F(Directories, TellOtherProcessesWhatListenersSayOfThemselves) {
   EXPECT_EQ(icon.size(), (CGSize{10, 5}));
 }
 
-TEST_F(Directories, AListenerThatAnswersNothingHasItsNameAndEveryMode) {
+TEST_F(Directories, AListenerWithoutAnswersHasItsNameAndEveryMode) {
   add(plain_listener(), "plain");
   loop.run_ready();
   ASSERT_EQ(records().size(), 1u);
@@ -52,7 +52,7 @@ TEST_F(Directories, AListenerThatAnswersNothingHasItsNameAndEveryMode) {
   EXPECT_TRUE(records().front().admits("application"));
 }
 
-TEST_F(Directories, AnswersOfAnotherKindAreNoAnswers) {
+TEST_F(Directories, AnswersOfTheWrongTypeAreIgnored) {
   script().on_question = [](const std::string&) -> objc::Object {
     return NSDictionary::dictionary();
   };
@@ -78,7 +78,7 @@ TEST_F(Directories, AListenerThatThrowsIsListedByItsName) {
   EXPECT_GE(log.count("gesture listener thrower threw"), 1);
 }
 
-TEST_F(Directories, AskEachListenerOnceHoweverManyCameInOneTurn) {
+TEST_F(Directories, QueryEachListenerOncePerTurn) {
   int titles = 0;
   script().on_question = [&](const std::string& question) -> objc::Object {
     titles += question == "title" ? 1 : 0;
@@ -93,7 +93,7 @@ TEST_F(Directories, AskEachListenerOnceHoweverManyCameInOneTurn) {
   EXPECT_EQ(titles, 3 + 4);
 }
 
-TEST_F(Directories, AListenerMayUnregisterItselfWhenItIsAsked) {
+TEST_F(Directories, AListenerMayUnregisterItselfWhenQueried) {
   script().on_question = [&](const std::string& question) -> objc::Object {
     if (question == "title") service().unregisterListenerWithName("a"_ns);
     return nil;
@@ -105,7 +105,7 @@ TEST_F(Directories, AListenerMayUnregisterItselfWhenItIsAsked) {
   EXPECT_EQ(records().front().name, "b");
 }
 
-TEST_F(Directories, ForgetWhoIsUnregisteredAndWhoWasThereInALifeBefore) {
+TEST_F(Directories, ForgetUnregisteredListenersAndThoseOfAnEarlierProcess) {
   add(plain_listener(), "a");
   add(plain_listener(), "b");
   loop.run_ready();
@@ -117,7 +117,7 @@ TEST_F(Directories, ForgetWhoIsUnregisteredAndWhoWasThereInALifeBefore) {
   EXPECT_THAT(records(), IsEmpty());
 }
 
-TEST_F(Directories, AreWrittenByTheHomeScreenAlone) {
+TEST_F(Directories, AreWrittenByTheHomeScreenOnly) {
   add(plain_listener(), "a");
   loop.run_ready();
   start_again(Service::Role::Guest);
@@ -128,7 +128,7 @@ TEST_F(Directories, AreWrittenByTheHomeScreenAlone) {
   EXPECT_EQ(records().size(), 1u);
 }
 
-TEST_F(Directories, AGuestRefusesModesByWhatTheDirectorySays) {
+TEST_F(Directories, AGuestRefusesModesAccordingToTheDirectory) {
   script().on_question = [](const std::string& question) -> objc::Object {
     return question == "modes" ? NSArray::arrayWithObject("lockscreen"_ns) : NSArray();
   };
@@ -139,7 +139,7 @@ TEST_F(Directories, AGuestRefusesModesByWhatTheDirectorySays) {
   EXPECT_TRUE(assign("shake", "a", "lockscreen"));
 }
 
-TEST_F(Directories, BrokenFilesListNobody) {
+TEST_F(Directories, BrokenFilesAreEmpty) {
   const std::string file = device.path() + activator::kDirectoryPath;
   for (const char* bytes : {"", "<", "<plist><array/></plist>",
                             "<plist><dict><key>listeners</key><array><true/><dict/></array>"

@@ -10,14 +10,14 @@ using ::testing::IsEmpty;
 
 class Registry : public ActivatorTest {};
 
-TEST_F(Registry, TellsTheListenerThatTheEventIsAssignedTo) {
+TEST_F(Registry, CallsTheListenerThatTheEventIsAssignedTo) {
   add(plain_listener(), "a");
   ASSERT_TRUE(assign("shake", "a"));
   send("shake");
   EXPECT_THAT(script().events, ElementsAre("shake springboard"));
 }
 
-TEST_F(Registry, TellsNobodyInAnotherModeOrOfAnotherEvent) {
+TEST_F(Registry, CallsNoListenerForAnotherModeOrEvent) {
   add(plain_listener(), "a");
   ASSERT_TRUE(assign("shake", "a"));
   send("shake", "lockscreen");
@@ -25,7 +25,7 @@ TEST_F(Registry, TellsNobodyInAnotherModeOrOfAnotherEvent) {
   EXPECT_THAT(script().events, IsEmpty());
 }
 
-TEST_F(Registry, TellsSeveralListenersInTheOrderOfTheirAssignment) {
+TEST_F(Registry, CallsSeveralListenersInTheOrderOfTheirAssignment) {
   add(plain_listener(), "a");
   add(plain_listener(), "b");
   ASSERT_TRUE(assign("shake", "b"));
@@ -36,7 +36,7 @@ TEST_F(Registry, TellsSeveralListenersInTheOrderOfTheirAssignment) {
   EXPECT_EQ(script().events.size(), 2u);
 }
 
-TEST_F(Registry, OneEventIsHandedFromListenerToListener) {
+TEST_F(Registry, PassesTheSameEventToEveryListener) {
   add(plain_listener(), "a");
   add(plain_listener(), "b");
   assign("shake", "a");
@@ -50,7 +50,7 @@ TEST_F(Registry, OneEventIsHandedFromListenerToListener) {
   EXPECT_THAT(handled, ElementsAre(NO, YES));
 }
 
-TEST_F(Registry, AListenerThatItsOwnerReleasedIsStillTold) {
+TEST_F(Registry, AListenerThatItsOwnerReleasedIsStillCalled) {
   add(plain_listener(), "a");
   assign("shake", "a");
   EXPECT_EQ(script().living, 1);
@@ -58,7 +58,7 @@ TEST_F(Registry, AListenerThatItsOwnerReleasedIsStillTold) {
   EXPECT_EQ(script().events.size(), 1u);
 }
 
-TEST_F(Registry, LetsGoOfWhoIsUnregistered) {
+TEST_F(Registry, ReleasesUnregisteredListeners) {
   add(plain_listener(), "a");
   assign("shake", "a");
   service().unregisterListenerWithName("a"_ns);
@@ -68,7 +68,7 @@ TEST_F(Registry, LetsGoOfWhoIsUnregistered) {
   EXPECT_THAT(script().events, IsEmpty());
 }
 
-TEST_F(Registry, ASecondListenerOfTheNameTakesThePlaceOfTheFirst) {
+TEST_F(Registry, ASecondListenerOfTheSameNameReplacesTheFirst) {
   add(plain_listener(), "a");
   const LAListener second = plain_listener();
   add(second, "a");
@@ -90,7 +90,7 @@ TEST_F(Registry, AListenerMayUnregisterItselfFromItsEvent) {
   EXPECT_EQ(script().living, 0);
 }
 
-TEST_F(Registry, TellsAllWhoWereAssignedWhateverTheFirstOneChanges) {
+TEST_F(Registry, CallsAllAssignedListenersWhateverTheFirstOneChanges) {
   const auto names = {"the first listener", "the second listener", "the third listener"};
   for (const char* name : names) {
     add(plain_listener(), name);
@@ -104,7 +104,7 @@ TEST_F(Registry, TellsAllWhoWereAssignedWhateverTheFirstOneChanges) {
   EXPECT_EQ(script().events.size(), 3u);
 }
 
-TEST_F(Registry, ThrowingKeepsNobodyElseFromTheEvent) {
+TEST_F(Registry, AnExceptionDoesNotKeepOthersFromTheEvent) {
   add(plain_listener(), "first");
   add(plain_listener(), "second");
   assign("shake", "first");
@@ -118,7 +118,7 @@ TEST_F(Registry, ThrowingKeepsNobodyElseFromTheEvent) {
   EXPECT_EQ(log.count("gesture listener first threw"), 1);
 }
 
-TEST_F(Registry, NilNamelessAndDeafListenersAreHarmless) {
+TEST_F(Registry, NilUnnamedAndUnresponsiveListenersAreHarmless) {
   service().registerListener(nil, "nobody"_ns);
   service().registerListener(plain_listener().autorelease(), nil);
   EXPECT_EQ(service().availableListenerNames().count(), 0u);
@@ -129,7 +129,7 @@ TEST_F(Registry, NilNamelessAndDeafListenersAreHarmless) {
   EXPECT_EQ(service().availableListenerNames().count(), 1u);
 }
 
-TEST_F(Registry, RefusesWhatIsUnknownAndModesThatAreNotTheListeners) {
+TEST_F(Registry, RefusesUnknownNamesAndModesThatTheListenerLacks) {
   script().on_question = [](const std::string& question) -> objc::Object {
     return question == "modes" ? NSArray::arrayWithObjects("lockscreen"_ns, "application"_ns)
                                : NSArray();
@@ -142,7 +142,7 @@ TEST_F(Registry, RefusesWhatIsUnknownAndModesThatAreNotTheListeners) {
   EXPECT_TRUE(assign("shake", "a", "lockscreen"));
 }
 
-TEST_F(Registry, AGestureIsHeardWithTheNextTurnInThePresentMode) {
+TEST_F(Registry, AGestureIsSentInTheNextTurnInTheCurrentMode) {
   add(plain_listener(), "a");
   assign("shake", "a", "lockscreen");
   EXPECT_FALSE(Service::shared().recognized("shake"));
@@ -157,7 +157,7 @@ TEST_F(Registry, AGestureEndsWithTheServiceThatRecognizedIt) {
   add(plain_listener(), "a");
   assign("shake", "a");
   EXPECT_TRUE(Service::shared().recognized("shake"));
-  // Twice, so that another service may lie where the first one was.
+  // Twice, since the second service may get the address of the first.
   start_again();
   start_again();
   add(plain_listener(), "a");
@@ -165,7 +165,7 @@ TEST_F(Registry, AGestureEndsWithTheServiceThatRecognizedIt) {
   EXPECT_THAT(script().events, IsEmpty());
 }
 
-TEST_F(Registry, AGestureOfAnAbsentListenerIsNotHeard) {
+TEST_F(Registry, AGestureOfAnAbsentListenerIsNotSent) {
   EXPECT_TRUE(assign("shake", "not there"));
   EXPECT_FALSE(Service::shared().recognized("shake"));
 }

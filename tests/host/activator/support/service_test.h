@@ -19,7 +19,7 @@ using activator::Service;
 using activator::to_ns;
 using activator::to_string;
 
-/// What the listener of a test does when it is given an event or asked about itself.
+/// What a test's listener does when it receives an event or is queried.
 struct ListenerScript {
   std::function<void(LAEvent)> on_event;
   std::function<objc::Object(const std::string& question)> on_question;
@@ -28,8 +28,8 @@ struct ListenerScript {
 };
 ListenerScript& script();
 
-/// +1: of a class that takes events only, one that also answers every question by the script, or
-/// one that is no listener at all.
+/// Owned by the caller (+1): an instance of a class that receives events only, of one that also
+/// answers every question by the script, or of one that is not a listener at all.
 LAListener plain_listener();
 LAListener answering_listener();
 LAListener deaf_listener();
@@ -42,7 +42,7 @@ class FixedMode final : public activator::ModeProvider {
   Mode mode = Mode::SpringBoard;
 };
 
-/// The service of a home screen on a device of the test's own.
+/// The service of a home screen on the test's own device.
 class ActivatorTest : public UIKitTest {
  protected:
   ActivatorTest() {
@@ -61,7 +61,7 @@ class ActivatorTest : public UIKitTest {
     Service::restart(role, &mode);
   }
   LAActivator service() const { return LAActivator::sharedInstance(); }
-  /// Registers one and leaves it to the service.
+  /// Registers a listener and transfers its ownership to the service.
   void add(LAListener listener, const char* name) const {
     service().registerListener(listener, to_ns(name));
     listener.release();

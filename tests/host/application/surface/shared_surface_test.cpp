@@ -29,7 +29,7 @@ TEST(SharedSurface, ShowsTheHomeScreenWhatTheApplicationDraws) {
   EXPECT_EQ(home->buffer(1)[5], 0);
 }
 
-TEST(SharedSurface, CannotBeMadeShorterOrLongerByAnybody) {
+TEST(SharedSurface, CannotBeResized) {
   const auto home = SharedSurface::make(kSize);
   const Descriptor theirs = memory_of(*home);
   EXPECT_EQ(ftruncate(theirs.get(), 0), -1);

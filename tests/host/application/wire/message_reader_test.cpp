@@ -25,7 +25,7 @@ bool is_refused(const std::string& bytes) {
   return !reader.next() && reader.has_failed();
 }
 
-TEST(MessageReader, GivesWhatWasWritten) {
+TEST(MessageReader, ReturnsWhatWasWritten) {
   MessageReader<ToApplication> reader;
   reader.append(encoded(ToApplication(FingerChange{3, FingerPhase::Ended, 1.5, -2, 77})));
   reader.append(encoded(ToApplication(ComposedText{"caf\xC3\xA9", 2})));
@@ -59,39 +59,39 @@ TEST(MessageReader, WaitsForTheRestOfAMessageThatComesByteByByte) {
   EXPECT_EQ(reader.pending_bytes(), 0u);
 }
 
-TEST(MessageReader, RefusesAKindThatThereIsNot) {
+TEST(MessageReader, RefusesAnUnknownKind) {
   EXPECT_TRUE(is_refused(message(std::variant_size_v<ToHome>, "")));
   EXPECT_TRUE(is_refused(message(0xFFFF, "")));
 }
 
-TEST(MessageReader, RefusesLengthsThatNoMessageHas) {
+TEST(MessageReader, RefusesInvalidLengths) {
   EXPECT_TRUE(is_refused(raw(MessageLength{0})));
   EXPECT_TRUE(is_refused(raw(MessageLength{1}) + "x"));
   EXPECT_TRUE(is_refused(raw(static_cast<MessageLength>(kLongestMessage + 1))));
   EXPECT_TRUE(is_refused(raw(std::numeric_limits<MessageLength>::max())));
 }
 
-TEST(MessageReader, RefusesFieldsThatAreTooFewOrTooMany) {
+TEST(MessageReader, RefusesTooFewOrTooManyFields) {
   const MessageKind pong = ToHome(Pong{}).index();
   EXPECT_TRUE(is_refused(message(pong, "1234567")));
   EXPECT_TRUE(is_refused(message(pong, "123456789")));
   EXPECT_FALSE(is_refused(message(pong, "12345678")));
 }
 
-TEST(MessageReader, RefusesATextThatSaysItIsLongerThanTheMessage) {
+TEST(MessageReader, RefusesATextThatClaimsToBeLongerThanTheMessage) {
   const MessageKind answer = ToHome(ConsoleAnswer{}).index();
   EXPECT_TRUE(is_refused(message(answer, raw(std::uint32_t{5}) + "four")));
   EXPECT_TRUE(is_refused(message(answer, raw(std::uint32_t{0xFFFFFFFF}) + "four")));
 }
 
-TEST(MessageReader, RefusesNumbersThatAreNone) {
+TEST(MessageReader, RefusesNumbersThatAreNotFinite) {
   const double nothing = std::numeric_limits<double>::quiet_NaN();
   const double endless = std::numeric_limits<double>::infinity();
   EXPECT_TRUE(is_refused(encoded(ToHome(ReachedTime{nothing, 1}))));
   EXPECT_TRUE(is_refused(encoded(ToHome(ReachedTime{1, endless}))));
 }
 
-TEST(MessageReader, RefusesAnEnumeratorThatThereIsNot) {
+TEST(MessageReader, RefusesAnUnknownEnumerator) {
   const MessageKind steer = ToHome(SteerPlayer{}).index();
   const auto fields = [](std::uint8_t command) {
     return raw(command) + raw(std::uint64_t{1}) + raw(0.5);
@@ -101,7 +101,7 @@ TEST(MessageReader, RefusesAnEnumeratorThatThereIsNot) {
       is_refused(message(steer, fields(static_cast<std::uint8_t>(PlayerCommand::Last) + 1))));
 }
 
-TEST(MessageReader, ReadsNothingMoreBehindWhatIsNoMessage) {
+TEST(MessageReader, ReadsNothingAfterAnInvalidMessage) {
   HomeReader reader;
   reader.append(message(0xFFFF, ""));
   reader.append(encoded(ToHome(Pong{1})));
