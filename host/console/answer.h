@@ -4,11 +4,11 @@
 
 namespace host::console {
 
-/// What the console says to one line.
+/// The console's answer to one line.
 struct Answer {
   enum class Kind { Done, Value, Error, Quit };
   Kind kind = Kind::Done;
-  std::string text;  // of a value or an error
+  std::string text;  // the value or the error
 
   /// The line of the protocol: `ok`, the value, or `error: …`.
   std::string line() const;

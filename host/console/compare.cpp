@@ -20,7 +20,7 @@ constexpr Symbol kComparisonSymbols[] = {
     {"~=", Comparison::Near},
 };
 
-/// The value without the NSNumber or NSValue around it.
+/// Returns the value, unwrapped if it is an NSNumber or NSValue.
 Value plain(const Value& value) {
   const auto* object = value.as<objc::Object>();
   if (!object) return value;

@@ -9,15 +9,15 @@ namespace host::console {
 
 enum class Comparison { Equal, NotEqual, Less, LessOrEqual, Greater, GreaterOrEqual, Near };
 
-/// How far apart two numbers may be that are near each other.
+/// The largest difference of two numbers for `~=`.
 inline constexpr long double kNearness = 0.01L;
 
 /// `==`, `!=`, `<`, `<=`, `>`, `>=` or `~=`.
 std::optional<Comparison> comparison_named(std::string_view symbol);
 
-/// Does the comparison hold? Nothing when the two have no order (only numbers have one) or no
-/// distance (only numbers and structures of them do). A number in an NSNumber counts as that
-/// number; nil equals nothing but nil, so that a view that is missing never passes for zero.
+/// Returns whether the comparison holds. Empty when the values have no order (only numbers have
+/// one) or no distance (only numbers and structures of them do). An NSNumber counts as its number.
+/// Nil equals only nil, so a missing view never compares equal to zero.
 std::optional<bool> holds(const Value& left, Comparison comparison, const Value& right);
 
 }  // namespace host::console

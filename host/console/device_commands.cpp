@@ -24,14 +24,14 @@ constexpr ButtonName kButtons[] = {
 constexpr std::string_view kKeys[] = {"return", "delete", "escape", "tab",  "space", "left",
                                       "right",  "up",     "down",   "home", "end"};
 
-// Those that work on text, or are a gesture, with the control key; without it they type.
+// With the control key, these letters edit text or make a gesture; without it they are typed.
 constexpr std::string_view kControlKeys[] = {"a", "c", "g", "v", "x"};
 
 enum class Detail { None, Text, BundleIdentifier };
 
 struct SystemName {
   std::string_view name;
-  std::string_view direction;  // the second word, where there is one
+  std::string_view direction;  // the second word, if any
   SystemEvent event;
   Detail detail;
 };
@@ -71,7 +71,7 @@ Result<Answer> button(Session& session, LineReader& reader) {
   return answer_of(session.phone().press(found->button));
 }
 
-// The text is taken as it stands, `#` included: a search may begin with one.
+// The text is taken literally, including `#`: a search may begin with one.
 Result<Answer> type(Session& session, LineReader& reader) {
   const auto text = reader.rest();
   if (text.empty()) return reader.problem("a text to type is missing");
@@ -83,7 +83,7 @@ bool is_one_of(const std::string_view (&names)[Count], std::string_view name) {
   return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-/// Is it a key, alone or behind the keys that are held with it?
+/// Returns whether this names a key, with or without modifier keys before it.
 bool is_key(std::string_view name) {
   constexpr std::string_view kControl = "control-";
   constexpr std::string_view kShift = "shift-";

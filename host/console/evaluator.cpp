@@ -8,7 +8,7 @@
 #include "host/console/marshal.h"
 #include "platform/Foundation/NSString.h"
 
-// Every class that implements a selector registers it with the types of its method.
+// Every class that implements a selector registers it with its method's type encoding.
 extern "C" objc::Sel* sel_copyTypedSelectorList(const char* name, unsigned* count);
 
 namespace host::console {
@@ -27,7 +27,7 @@ std::optional<Value> constant(std::string_view name) {
   return std::nullopt;
 }
 
-/// Converted arguments, each in room of its own.
+/// Converted arguments, each in its own storage.
 class Arguments {
  public:
   std::optional<std::string> add(const Value& value, const Type& type) {
@@ -48,7 +48,7 @@ Check Evaluator::check(const Expression& expression) const {
   if (const auto* name = std::get_if<Name>(&expression.content)) {
     if (constant(name->text) || globals_.has(name->text) || objc_getClass(name->text.c_str()))
       return std::nullopt;
-    return Problem{fmt::format("nothing is called {}", name->text), expression.offset};
+    return Problem{fmt::format("unknown name: {}", name->text), expression.offset};
   }
   if (const auto* braces = std::get_if<Braces>(&expression.content)) {
     for (const Expression& element : braces->elements) {
@@ -58,7 +58,7 @@ Check Evaluator::check(const Expression& expression) const {
   if (const auto* message = std::get_if<Message>(&expression.content)) {
     if (auto problem = check(*message->receiver)) return problem;
     if (!anyone_implements(message->selector)) {
-      return Problem{fmt::format("no class answers {}", message->selector),
+      return Problem{fmt::format("no class implements {}", message->selector),
                      message->selector_offset};
     }
     for (const Expression& argument : message->arguments) {
@@ -89,7 +89,7 @@ Result<Value> Evaluator::value_of(const Expression& expression, const Name& name
     return Problem{fmt::format("{} has a type that cannot be read", name.text), expression.offset};
   }
   if (const objc::Class cls = objc_getClass(name.text.c_str())) return Value{cls};
-  return Problem{fmt::format("nothing is called {}", name.text), expression.offset};
+  return Problem{fmt::format("unknown name: {}", name.text), expression.offset};
 }
 
 Result<Value> Evaluator::value_of(const Expression& expression, const TextLiteral& literal) const {
@@ -114,7 +114,7 @@ Result<Value> Evaluator::value_of(const Message& message) const {
   if (receiver->as<NilValue>()) return Value{NilValue{}};
   if (const auto* object = receiver->as<objc::Object>()) return send(*object, message);
   if (const auto* cls = receiver->as<objc::Class>()) return send(objc::Object(*cls), message);
-  return Problem{"only objects and classes answer messages", message.receiver->offset};
+  return Problem{"only objects and classes receive messages", message.receiver->offset};
 }
 
 Result<Value> Evaluator::send(objc::Object receiver, const Message& message) const {
@@ -122,7 +122,7 @@ Result<Value> Evaluator::send(objc::Object receiver, const Message& message) con
   const objc::Sel selector = sel_registerName(message.selector.c_str());
   const objc::Method method = class_getInstanceMethod(cls, selector);
   if (!method) {
-    return Problem{fmt::format("{} does not answer {}", class_getName(cls), message.selector),
+    return Problem{fmt::format("{} does not respond to {}", class_getName(cls), message.selector),
                    message.selector_offset};
   }
   const auto types = parse_method_types(method_getTypeEncoding(method));

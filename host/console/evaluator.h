@@ -10,11 +10,11 @@ class Evaluator {
  public:
   explicit Evaluator(const Globals& globals) : globals_(globals) {}
 
-  /// Is every name and every selector of the expression known? Sends nothing.
+  /// Checks that every name and every selector in the expression is known. Sends nothing.
   Check check(const Expression& expression) const;
 
-  /// The value of an expression that was checked. A message is sent only when its receiver answers
-  /// it and all its arguments fit; a message to nil gives nil.
+  /// Evaluates a checked expression. A message is sent only when its receiver responds to it and
+  /// all its arguments fit; a message to nil returns nil.
   Result<Value> evaluate(const Expression& expression) const;
 
  private:

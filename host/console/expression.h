@@ -32,7 +32,7 @@ struct Message {
   std::vector<Expression> arguments;
 };
 
-/// One expression as it was written; `offset` and `end` are bytes of its line.
+/// One expression as it was written; `offset` and `end` are byte offsets in its line.
 struct Expression {
   std::size_t offset = 0;
   std::size_t end = 0;

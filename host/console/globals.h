@@ -9,24 +9,24 @@
 
 namespace host::console {
 
-/// One variable that a loaded library shows to the console. A library exports an array of these
-/// under the C name `exported_globals`, closed by an entry without a name.
+/// One variable that a loaded library exposes to the console. A library exports an array of these
+/// under the C name `exported_globals`, terminated by an entry without a name.
 struct ExportedGlobal {
   const char* name;
   const char* encoding;
   void* address;
 };
 
-/// The shared variables of all libraries, by name. They are read where they are, at each use.
+/// The exported variables of all libraries, by name. They are read in place at each use.
 class Globals {
  public:
   static constexpr const char* kTableSymbol = "exported_globals";
 
-  /// Adds a library's table; a name that is there already keeps its first meaning.
+  /// Adds a library's table; a name that exists already keeps its first meaning.
   void add_table(const ExportedGlobal* table);
 
   bool has(std::string_view name) const;
-  /// The present value of a variable that is there; nothing when its type cannot be read.
+  /// The current value of an existing variable; empty when its type cannot be read.
   std::optional<Value> value(std::string_view name) const;
 
  private:

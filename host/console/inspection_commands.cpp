@@ -7,7 +7,7 @@
 namespace host::console {
 namespace {
 
-// A slip of the keyboard must not keep the console busy for hours.
+// A typing error must not keep the console busy for hours.
 constexpr double kLongestAdvance = 24 * 60 * 60;
 
 Result<Answer> advance(Session& session, LineReader& reader) {
@@ -64,7 +64,7 @@ Result<Answer> expect(Session& session, LineReader& reader) {
                             symbol->text, text_of(*wanted))};
 }
 
-/// The middle of a view, as a finger would have to know it.
+/// Returns the centre of a view on the screen, where a finger would touch it.
 Result<Answer> where(Session& session, LineReader& reader) {
   const auto point = session.point_on_view(reader);
   if (!point) return point.problem();
@@ -80,7 +80,7 @@ Result<Answer> screenshot(Session& session, LineReader& reader) {
   return answer_of(session.phone().screenshot(std::string(file)));
 }
 
-/// For whoever wants to know what a finger has left behind.
+/// Checks that input has left nothing open or under way.
 Result<Answer> rest(Session& session, LineReader& reader) {
   if (const auto problem = reader.end()) return *problem;
   return answer_of(session.phone().unrest());

@@ -57,7 +57,7 @@ class CallTypes {
   std::deque<ffi_type> structures_;
 };
 
-// libffi widens a small integer result to a whole register; this brings it back to its own size.
+// libffi widens a small integer result to a whole register; this narrows it to its own size.
 void narrow(const Type& type, void* result) {
   if (!type.is_integer() || type.size >= sizeof(ffi_arg)) return;
   ffi_arg whole;
@@ -92,7 +92,7 @@ Result<Value> invoke(objc::Id receiver, objc::Sel selector, const MethodTypes& t
   try {
     ffi_call(&call, objc::message_function(receiver, selector), result.data(), values.data());
   } catch (...) {
-    // The platform's exceptions are not C++ objects, so there is nothing more to read of them.
+    // The platform's exceptions are not C++ objects, so no details can be read.
     return Problem{"the message raised an exception", 0};
   }
   narrow(types.result, result.data());

@@ -8,9 +8,9 @@
 
 namespace host::console {
 
-/// Sends `selector`, whose method has these types, to a non-nil receiver. The arguments have been
-/// converted already: each entry points to a value of its type. Gives the problem when the message
-/// raised an exception.
+/// Sends `selector`, whose method has these types, to a non-nil receiver. The arguments are already
+/// converted: each entry points to a value of its type. Returns a problem when the message raises
+/// an exception.
 Result<Value> invoke(objc::Id receiver, objc::Sel selector, const MethodTypes& types,
                      std::span<void* const> arguments);
 

@@ -87,7 +87,7 @@ Result<Token> Lexer::read(std::size_t& at) const {
     at += token.text.size();
     return token;
   }
-  return Problem{fmt::format("{} begins no expression", shown(first)), at};
+  return Problem{fmt::format("an expression cannot begin with {}", shown(first)), at};
 }
 
 Result<Token> Lexer::read_text(std::size_t& at) const {

@@ -12,21 +12,21 @@ struct Token {
   enum class Kind { Number, Text, Name, Symbol, Comparison, End };
   Kind kind = Kind::End;
   std::size_t offset = 0;
-  std::string text;  // a text's content, a name, a symbol or a comparison as written
+  std::string text;  // the content of a text, or a name, symbol or comparison as written
   Number number;
 };
 
-/// Cuts a line into tokens, one at a time, with one token of foresight. Whatever stands after the
-/// tokens that were taken is left alone, so commands can read the rest in their own way.
+/// Splits a line into tokens, one at a time, with one token of lookahead. The rest of the line is
+/// left untouched, so commands can read it in their own way.
 class Lexer {
  public:
   explicit Lexer(std::string_view line, std::size_t start = 0) : line_(line), position_(start) {}
 
-  /// The token at the position, which stays where it is.
+  /// Returns the next token without taking it.
   Result<Token> peek();
   Result<Token> take();
 
-  /// The byte after the last token taken.
+  /// The byte offset after the last token taken.
   std::size_t position() const { return position_; }
   std::string_view line() const { return line_; }
 

@@ -71,7 +71,7 @@ Result<Token> LineReader::comparison() {
 
 Check LineReader::end() {
   if (at_end()) return std::nullopt;
-  return problem(fmt::format("nothing more belongs here: {}", line_.substr(position_)));
+  return problem(fmt::format("unexpected text: {}", line_.substr(position_)));
 }
 
 }  // namespace host::console

@@ -8,8 +8,8 @@
 
 namespace host::console {
 
-/// Reads the parts of one command line from left to right. Each problem names the place where the
-/// part was looked for.
+/// Reads the parts of one command line from left to right. Each problem has the position where the
+/// part was expected.
 class LineReader {
  public:
   explicit LineReader(std::string_view line) : line_(line) {}
@@ -17,20 +17,20 @@ class LineReader {
   std::string_view line() const { return line_; }
   std::size_t position() const { return position_; }
 
-  /// Is nothing left but blanks and a comment?
+  /// Returns whether only blanks and a comment are left.
   bool at_end();
-  /// Up to the next blank; empty at the end.
+  /// Takes the text up to the next blank; empty at the end.
   std::string_view word();
   /// The next word without taking it.
   std::string_view peek_word();
-  /// Everything that is left, without the blanks around it.
+  /// Takes the rest of the line, without the blanks around it.
   std::string_view rest();
 
   Result<double> number(std::string_view what);
   Result<Expression> expression();
   /// `==`, `<=`, …
   Result<Token> comparison();
-  /// A problem when anything is left.
+  /// Returns a problem when anything is left.
   Check end();
 
   Problem problem(std::string text) const { return {std::move(text), position_}; }

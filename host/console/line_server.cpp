@@ -49,7 +49,7 @@ void LineServer::answer(const Answer& answer) {
   std::size_t sent = 0;
   while (sent < line.size()) {
     const auto count = send(descriptor_, line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
-    if (count <= 0) return;  // the other end is gone, which the next read finds out
+    if (count <= 0) return;  // the other end is gone; the next read detects that
     sent += static_cast<std::size_t>(count);
   }
 }

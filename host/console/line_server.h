@@ -7,20 +7,20 @@
 
 namespace host::console {
 
-/// Serves the line protocol on a descriptor: every line is carried out by the session and answered
-/// with one line, in the order in which they come.
+/// Serves the line protocol on a descriptor: the session executes every line, in order, and answers
+/// it with one line.
 class LineServer {
  public:
-  // Longer lines are answered with an error, without being kept.
+  // Longer lines are discarded and answered with an error.
   static constexpr std::size_t kLongestLine = 64 * 1024;
 
-  /// `on_quit` is called once `quit` has been answered, or when the other end is gone.
+  /// `on_quit` is called after `quit` has been answered, or when the other end is gone.
   LineServer(int descriptor, Session& session, std::function<void()> on_quit);
 
   int descriptor() const { return descriptor_; }
 
-  /// Reads what is there and carries out every whole line of it. To be called when the descriptor
-  /// can be read. A call from inside a line that is being carried out does nothing.
+  /// Reads the available bytes and executes every complete line. Call it when the descriptor is
+  /// readable. A nested call, while a line is being executed, does nothing.
   void serve();
 
  private:

@@ -27,7 +27,7 @@ T get(const void* source) {
   return value;
 }
 
-/// Calls `use` with a zero of the C type that the letter stands for.
+/// Calls `use` with a zero of the C type that the letter encodes.
 template <class Use>
 auto with_number_type(char code, Use use) {
   switch (code) {
@@ -111,7 +111,7 @@ Refusal store_object(const Value& value, void* destination) {
   return std::nullopt;
 }
 
-/// The text of a value that is an NSString; nullptr for any other.
+/// The text of an NSString; nullptr for any other value.
 const char* utf8_of(const Value& value) {
   const auto* object = value.as<objc::Object>();
   if (!object) return nullptr;
@@ -162,7 +162,7 @@ Value load_number(const Type& type, const void* source) {
     const auto value = static_cast<long double>(get<T>(source));
     if constexpr (std::is_same_v<T, float>) return {Number{value, Number::Form::Single}};
     if constexpr (std::is_same_v<T, double>) return {Number{value, Number::Form::Double}};
-    // One byte is how the platform's BOOL travels.
+    // The platform's BOOL is passed as one byte.
     const bool boolean = sizeof(T) == 1 && (value == 0 || value == 1);
     return {Number{value, boolean ? Number::Form::Boolean : Number::Form::Integer}};
   });

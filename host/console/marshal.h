@@ -8,14 +8,14 @@
 
 namespace host::console {
 
-/// Writes `value` as a `type` to `destination`, which has room for it. Gives the reason when the
-/// value cannot be one; then nothing that matters was written.
+/// Converts `value` to `type` and writes it to `destination`, which has room for it. Returns the
+/// reason when it cannot be converted; the contents of `destination` are undefined then.
 ///
-/// A number given for an object becomes an NSNumber, a text given for a selector or a C string
-/// becomes that, and braces become a structure with as many members.
+/// A number becomes an NSNumber for an object, a text becomes a selector or a C string, and braces
+/// become a structure with the same number of members.
 std::optional<std::string> store(const Value& value, const Type& type, void* destination);
 
-/// The value of the `type` at `source`.
+/// Reads a value of this type at `source`.
 Value load(const Type& type, const void* source);
 
 }  // namespace host::console

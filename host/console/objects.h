@@ -7,11 +7,11 @@
 
 namespace host::console {
 
-/// What an NSNumber holds; nothing for every other object.
+/// The number in an NSNumber; empty for any other object.
 std::optional<Number> number_in(objc::Object object);
-/// What an NSString holds, as UTF-8; nothing for every other object.
+/// The text of an NSString, as UTF-8; empty for any other object.
 std::optional<std::string> text_in(objc::Object object);
-/// The structure or pointer that an NSValue holds; nothing for every other object.
+/// The structure or pointer in an NSValue; empty for any other object.
 std::optional<Value> value_in(objc::Object object);
 
 }  // namespace host::console

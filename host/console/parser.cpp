@@ -5,7 +5,7 @@
 namespace host::console {
 namespace {
 
-// Deeper nesting is a mistake, and would only wear out the stack.
+// Deeper nesting is a mistake, and could overflow the stack.
 constexpr int kDeepestExpression = 64;
 
 std::string shown(const Token& token) {
@@ -45,7 +45,7 @@ class Parser {
     }
     if (is_symbol(*token, '{')) return whole(*token, braces(depth));
     if (is_symbol(*token, '[')) return whole(*token, message(depth));
-    return Problem{fmt::format("{} begins no expression", shown(*token)), token->offset};
+    return Problem{fmt::format("an expression cannot begin with {}", shown(*token)), token->offset};
   }
 
  private:
@@ -69,7 +69,7 @@ class Parser {
       if (!next) return next.problem();
       if (is_symbol(*next, '}')) return made;
       if (!is_symbol(*next, ',')) {
-        return Problem{fmt::format("',' or '}}' instead of {}", shown(*next)), next->offset};
+        return Problem{fmt::format("expected ',' or '}}', not {}", shown(*next)), next->offset};
       }
     }
   }
@@ -80,7 +80,7 @@ class Parser {
     const auto first = lexer_.take();
     if (!first) return first.problem();
     if (first->kind != Token::Kind::Name) {
-      return Problem{fmt::format("a message instead of {}", shown(*first)), first->offset};
+      return Problem{fmt::format("expected a message, not {}", shown(*first)), first->offset};
     }
     Message made;
     made.receiver = std::make_unique<Expression>(std::move(*receiver));
@@ -90,13 +90,13 @@ class Parser {
     if (!next) return next.problem();
     if (is_symbol(*next, ']')) return made;
     if (!is_symbol(*next, ':')) {
-      return Problem{fmt::format("':' or ']' instead of {}", shown(*next)), next->offset};
+      return Problem{fmt::format("expected ':' or ']', not {}", shown(*next)), next->offset};
     }
     if (const Check problem = message_arguments(made, depth)) return *problem;
     return made;
   }
 
-  // The first piece of the selector and its colon have been taken.
+  // The first part of the selector and its colon have already been read.
   Check message_arguments(Message& made, int depth) {
     for (;;) {
       made.selector += ':';
@@ -106,14 +106,14 @@ class Parser {
       auto piece = lexer_.take();
       if (!piece) return piece.problem();
       if (is_symbol(*piece, ']')) return std::nullopt;
-      // A piece of a selector may be empty: `[timing initWithControlPoints:0 :0 :1 :1]`.
+      // A part of a selector may be empty: `[timing initWithControlPoints:0 :0 :1 :1]`.
       if (piece->kind == Token::Kind::Name) {
         made.selector += piece->text;
         piece = lexer_.take();
         if (!piece) return piece.problem();
       }
       if (!is_symbol(*piece, ':')) {
-        return Problem{fmt::format("':' or ']' instead of {}", shown(*piece)), piece->offset};
+        return Problem{fmt::format("expected ':' or ']', not {}", shown(*piece)), piece->offset};
       }
     }
   }

@@ -5,7 +5,7 @@
 
 namespace host::console {
 
-/// Takes one expression from the lexer; what follows it on the line is left to the caller.
+/// Takes one expression from the lexer and leaves the rest of the line to the caller.
 Result<Expression> parse_expression(Lexer& lexer);
 
 }  // namespace host::console

@@ -86,7 +86,7 @@ std::string printed_by_description(objc::Object object) {
 }
 
 std::string printed(objc::Object object, int depth) {
-  // Proxies and the runtime's own objects answer nothing that could be asked here.
+  // Proxies and the runtime's own objects do not respond to the messages below.
   if (!class_getInstanceMethod(objc::class_of(object.id()), "isKindOfClass:"_sel))
     return fmt::format("<{}>", class_getName(objc::class_of(object.id())));
   if (const auto text = text_in(object)) return in_quotes(*text);

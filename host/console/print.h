@@ -6,7 +6,8 @@
 
 namespace host::console {
 
-/// A value on one line: `YES`, `3.5`, `"text"`, `{{x, y}, {w, h}}`, `nil`, `<Class …>`, `(…)`.
+/// Formats a value on one line: `YES`, `3.5`, `"text"`, `{{x, y}, {w, h}}`, `nil`, `<Class …>`,
+/// `(…)`.
 std::string text_of(const Value& value);
 
 }  // namespace host::console

@@ -9,13 +9,13 @@
 
 namespace host::console {
 
-/// Why a line was not carried out, and the byte of the line where the reason stands.
+/// Why a line failed, and the byte offset of the cause in the line.
 struct Problem {
   std::string text;
   std::size_t offset = 0;
 };
 
-/// A value, or the problem that stood in its way.
+/// A value, or the problem that prevented it.
 template <class T>
 class Result {
  public:
@@ -33,10 +33,10 @@ class Result {
   std::variant<T, Problem> content_;
 };
 
-/// Nothing when all went well, otherwise the problem.
+/// Empty on success, otherwise the problem.
 using Check = std::optional<Problem>;
 
-/// `text (column N)`. Columns are counted from 1 in characters, not bytes, as an editor does.
+/// Returns `text (column N)`. As in an editor, columns count characters from 1, not bytes.
 std::string describe(const Problem& problem, std::string_view line);
 
 }  // namespace host::console

@@ -28,7 +28,7 @@ Answer Session::execute(std::string_view line) {
   const auto name = reader.word();
   const Command* command = command_named(name);
   if (!command) {
-    const Problem unknown{fmt::format("no command is called {}", name), start.offset};
+    const Problem unknown{fmt::format("unknown command: {}", name), start.offset};
     return {Answer::Kind::Error, describe(unknown, line)};
   }
   auto answer = command->carry_out(*this, reader);
@@ -67,7 +67,7 @@ Result<CGPoint> Session::point(LineReader& reader) {
 
 Result<CGPoint> Session::point_on_view(LineReader& reader) {
   const std::size_t start = reader.position();
-  // Which names there are is for the process to say that holds the view.
+  // Only the process that owns the view knows its names.
   LineReader ahead = reader;
   if (const auto whole = ahead.expression()) {
     const auto text = reader.line().substr(whole->offset, whole->end - whole->offset);
@@ -86,7 +86,7 @@ Result<CGPoint> Session::point_on_view(LineReader& reader) {
   if (!view) return view.problem();
   const auto* object = view->as<objc::Object>();
   const auto centre = object ? phone_.centre_of(*object) : std::nullopt;
-  if (!centre) return Problem{"this is no view on the screen", made->offset};
+  if (!centre) return Problem{"this is not a view on the screen", made->offset};
   return *centre;
 }
 

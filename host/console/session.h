@@ -12,24 +12,23 @@
 
 namespace host::console {
 
-/// Carries out the lines of one console, one after the other. A line that cannot be understood
-/// changes nothing.
+/// Executes the lines of one console, one after the other. An invalid line changes nothing.
 class Session {
  public:
   Session(Phone& phone, const Globals& globals) : phone_(phone), evaluator_(globals) {}
 
   Answer execute(std::string_view line);
 
-  // What the commands are made of.
+  // Used by the commands.
 
   Phone& phone() { return phone_; }
   bool is_down(int finger) const { return fingers_.contains(finger); }
   void touch(int finger, TouchPhase phase, CGPoint point);
 
-  /// A checked expression whose value can be asked for later.
+  /// Reads and checks an expression for later evaluation.
   Result<Expression> expression(LineReader& reader) const;
   const Evaluator& evaluator() const { return evaluator_; }
-  /// The answer of the process that the console has turned to; nothing while that is this one.
+  /// The other process's answer to a line; empty while the console is in this process.
   std::optional<Answer> elsewhere(const std::string& line);
   /// `X Y`, or `on EXPR`: the centre of that view.
   Result<CGPoint> point(LineReader& reader);

@@ -10,12 +10,12 @@ namespace host::console {
 namespace {
 
 constexpr double kFrame = 1.0 / 60;
-// A quick finger: well within what counts as a tap, and within the time between two of them.
+// A quick finger: well within the limits of a tap, and of the time between two taps.
 constexpr double kTapHold = 0.05;
 constexpr double kTapPause = 0.08;
 constexpr int kMostTaps = 10;
 constexpr double kLongestDrag = 60;
-// The finger that taps and drags, and that is meant where none is named.
+// The finger that taps and drags, and the default for touches.
 constexpr int kFirstFinger = 1;
 constexpr int kLastFinger = 5;
 
@@ -39,7 +39,7 @@ Result<Answer> tap(Session& session, LineReader& reader) {
   if (!point) return point.problem();
   int count = 1;
   if (!reader.at_end()) {
-    const Problem wrong = reader.problem(fmt::format("taps are counted from 1 to {}", kMostTaps));
+    const Problem wrong = reader.problem(fmt::format("the number of taps is 1 to {}", kMostTaps));
     const auto given = reader.number("the number of taps");
     if (!given) return given.problem();
     if (*given != std::floor(*given) || *given < 1 || *given > kMostTaps) return wrong;
@@ -56,12 +56,12 @@ Result<Answer> tap(Session& session, LineReader& reader) {
   return Answer{};
 }
 
-/// The finger's number, where one is given.
+/// Reads the finger's number, if one is given.
 Result<int> finger_of(LineReader& reader) {
   const auto word = reader.peek_word();
   if (word.empty() || !std::isdigit(static_cast<unsigned char>(word.front()))) return kFirstFinger;
   const Problem wrong =
-      reader.problem(fmt::format("fingers are counted from 1 to {}", kLastFinger));
+      reader.problem(fmt::format("fingers are numbered from 1 to {}", kLastFinger));
   const auto number = reader.number("the number of a finger");
   if (!number) return number.problem();
   if (*number != std::floor(*number) || *number < kFirstFinger || *number > kLastFinger)
@@ -89,7 +89,7 @@ Result<Answer> touch(Session& session, LineReader& reader) {
   return Answer{};
 }
 
-// One touch a frame, as a screen reports them, so that recognisers see the speed that was meant.
+// Reports one touch per frame, as a screen does, so recognisers see the intended speed.
 void move_finger(Session& session, CGPoint from, CGPoint to, double seconds) {
   const int frames = std::max(1, static_cast<int>(std::lround(seconds / kFrame)));
   session.touch(kFirstFinger, TouchPhase::Began, from);

@@ -12,7 +12,7 @@ struct Scalar {
   std::size_t size;
 };
 
-// On both homes a simple type is aligned to its size.
+// On both platforms a simple type is aligned to its size.
 constexpr Scalar kScalars[] = {
     {'v', 0},
     {'c', 1},
@@ -83,7 +83,7 @@ class Reader {
     skip_quoted();
   }
 
-  // What it points to is of no interest, and may be a type that could not be handled.
+  // The pointed-to type is ignored: it may be one that is not supported.
   std::optional<Type> pointer() {
     skip("0123456789+-rnNoORVA^");
     int depth = 0;

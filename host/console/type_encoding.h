@@ -20,13 +20,13 @@ struct Type {
   bool is_integer() const;
 };
 
-/// What a method takes and gives; the receiver and the selector are not counted as arguments.
+/// A method's result and argument types, without the receiver and the selector.
 struct MethodTypes {
   Type result;
   std::vector<Type> arguments;
 };
 
-/// Nothing for types that the console cannot handle: unions, bit fields and arrays.
+/// Empty for types that the console cannot handle: unions, bit fields and arrays.
 std::optional<Type> parse_type(const char* encoding);
 std::optional<MethodTypes> parse_method_types(const char* encoding);
 

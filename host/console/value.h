@@ -8,21 +8,21 @@
 
 namespace host::console {
 
-/// A number as it was written or returned. Every integer and every floating-point number of the
-/// platform fits `value` exactly; `form` remembers how it wants to be printed.
+/// A number as it was written or returned. `value` represents every integer and floating-point
+/// number of the platform exactly; `form` determines how it is printed.
 struct Number {
   enum class Form { Boolean, Integer, Single, Double };
   long double value = 0;
   Form form = Form::Double;
 };
 
-/// The result of a method that has none.
+/// The result of a method that returns nothing.
 struct Void {};
 
 /// nil of any kind: an object, a class, a pointer.
 struct NilValue {};
 
-/// An address that the console hands on without looking behind it.
+/// An address that the console passes on without dereferencing it.
 struct Pointer {
   void* address = nullptr;
 };
@@ -30,8 +30,8 @@ struct Pointer {
 struct Value;
 using Structure = std::vector<Value>;
 
-/// The value of an expression. Objects are borrowed: they live as long as the autorelease pool
-/// around the line.
+/// The value of an expression. Objects are borrowed: they live as long as the line's autorelease
+/// pool.
 struct Value {
   std::variant<NilValue, Void, Number, objc::Object, objc::Class, Pointer, Structure> content;
 

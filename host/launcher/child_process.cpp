@@ -38,7 +38,7 @@ std::vector<char*> pointers_to(std::vector<std::string>& texts) {
 }  // namespace
 
 std::optional<pid_t> start_child(const ChildCommand& command, int kept) {
-  // Everything is made ready before the fork: between it and exec hardly anything is allowed.
+  // Everything is prepared before the fork: between fork and exec hardly anything is allowed.
   std::vector<std::string> arguments = {command.program.filename().string()};
   arguments.insert(arguments.end(), command.arguments.begin(), command.arguments.end());
   std::vector<std::string> environment = merged_environment(command);

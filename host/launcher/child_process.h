@@ -16,9 +16,9 @@ struct ChildCommand {
   std::vector<std::pair<std::string, std::string>> environment;  // besides this process's own
 };
 
-/// Starts a program that ends when this process does, whose name is that of its file. It inherits
-/// `kept`, a descriptor that is otherwise closed on exec; -1 for none. Nothing when it could not
-/// even be forked; a program that is not there ends at once with status 127.
+/// Starts a program that ends when this process does and is named after its file. It inherits
+/// `kept`, a close-on-exec descriptor; -1 for none. Returns nothing when the fork failed; the child
+/// of a missing program exits at once with status 127.
 std::optional<pid_t> start_child(const ChildCommand& command, int kept);
 
 }  // namespace host::launcher

@@ -14,7 +14,7 @@ constexpr const char* kQuit = "quit";
 constexpr std::string_view kPlay = "play ";
 constexpr int kDeepest = 8;
 
-/// Appends what can be read now; false at the end of the input.
+/// Appends the available bytes; returns false at the end of the input.
 bool append_from(int descriptor, std::string& text) {
   char bytes[4096];
   const auto count = read(descriptor, bytes, sizeof bytes);
@@ -23,7 +23,7 @@ bool append_from(int descriptor, std::string& text) {
   return true;
 }
 
-/// Takes the first whole line out of `text`.
+/// Removes the first complete line from `text` and returns it.
 std::optional<std::string> take_line(std::string& text) {
   const auto end = text.find('\n');
   if (end == std::string::npos) return std::nullopt;
@@ -81,9 +81,9 @@ bool ConsoleFront::play(const std::string& line, const std::string& beside, int 
     put_first(*script, depth + 1);
     return true;
   }
-  // The process is asked for nothing, so that this is answered when all before it is done.
+  // An empty line goes to the process, to report the refusal only after all earlier answers.
   refusal_ = depth < kDeepest ? "error: " + file.string() + " cannot be read"
-                              : "error: too many scripts play each other";
+                              : "error: the scripts are nested too deeply";
   send_line("");
   return true;
 }
@@ -120,7 +120,7 @@ void ConsoleFront::send_line(std::string line) {
   }
 }
 
-/// A script ends with its first failure, and with it the console; not for somebody who types.
+/// The first failure ends the script, and the console with it, unless the script was typed in.
 void ConsoleFront::fail(const std::string& answer) {
   std::fprintf(errors_, "%s:%zu: %s\n", line_.script.c_str(), line_.number, answer.c_str());
   script_.clear();
@@ -143,7 +143,7 @@ void ConsoleFront::answered(const std::string& given) {
 
 void ConsoleFront::read_answer() {
   if (!append_from(process_, answer_part_)) {
-    process_ = -1;  // whoever supervises it will say how it ended
+    process_ = -1;  // the supervisor reports how it ended
     return;
   }
   while (const auto line = take_line(answer_part_)) {

@@ -8,66 +8,66 @@
 
 namespace host::launcher {
 
-/// The lines of a script and where they come from, for messages.
+/// The lines of a script, and its name for messages.
 struct Script {
   std::string name;
   std::vector<std::string> lines;
 };
 
-/// Nothing when the file cannot be read.
+/// Empty when the file cannot be read.
 std::optional<Script> read_script(const std::string& file);
 
-/// The user's end of the console. `play FILE` stands for the lines of another script; a relative
-/// name is looked for beside the script that says it. It hands the lines of a script, then those of
-/// standard input, to the process that the phone's console runs in, one at a time, and passes its
-/// answers on. It outlives that process: after a restart the next line goes to the new one.
+/// The user's end of the console. It sends the lines of a script, then those of standard input, one
+/// at a time to the process that runs the phone's console, and prints its answers. `play FILE` is
+/// replaced by the lines of another script; a relative name is looked up beside the script that
+/// contains it. The front outlives the process: after a restart the next line goes to the new one.
 class ConsoleFront {
  public:
   static constexpr int kFailed = 1;
 
-  /// `input` is read after the script, -1 for a console that ends with its script. Answers are
-  /// printed to `output`; what fails in a script ends the console and is told to `errors`.
+  /// `input` is read after the script; -1 means a console that ends with its script. Answers are
+  /// printed to `output`; a failure in a script ends the console and is printed to `errors`.
   ConsoleFront(Script script, int input, std::FILE* output, std::FILE* errors);
 
-  /// A process listens at this descriptor from now on.
+  /// Connects the front to a process.
   void attach(int descriptor);
   enum class Departure { Asked, Unexpected };
-  /// The process is gone; a line that it had not answered is answered for it.
+  /// Call when the process has ended; a line that it has not answered gets an answer here.
   void detach(Departure departure);
 
-  /// The descriptors to wait at; -1 when there is nothing to wait for.
+  /// The descriptors to wait on; -1 when there is nothing to wait for.
   int awaited_answer() const { return process_; }
   int awaited_input() const;
 
   void read_answer();
   void read_input();
 
-  /// The status to end with, once a line of the script failed.
+  /// The exit status, once a line of the script has failed.
   std::optional<int> verdict() const { return verdict_; }
 
  private:
-  /// A line that waits for its turn, and where it stands.
+  /// A pending line and its position.
   struct Line {
     std::string text;
     std::string script;
     std::size_t number;
-    int depth;  // how many scripts have played each other
+    int depth;  // the nesting depth of scripts
   };
 
   void send_next();
   void send_line(std::string line);
   void answered(const std::string& given);
   void put_first(const Script& script, int depth);
-  /// True when the line was one to play another script, which has been put in its place or refused.
+  /// Returns true if the line plays another script, which has then been inserted or refused.
   bool play(const std::string& line, const std::string& beside, int depth);
   void fail(const std::string& answer);
 
   std::deque<Line> script_;
-  /// What a line is answered that the process knows nothing of.
+  /// The answer to a `play` line that failed, which the process does not know.
   std::optional<std::string> refusal_;
-  Line line_;  // of a script, the one that was sent last
+  Line line_;  // the script line that was sent last
   int input_;
-  const bool answers_all_;  // whoever types sees every answer
+  const bool answers_all_;  // typed lines show every answer
   std::FILE* output_;
   std::FILE* errors_;
   int process_ = -1;
@@ -77,7 +77,7 @@ class ConsoleFront {
   bool waiting_ = false;
   bool typing_ = false;  // the first script is over
   bool from_script_ = false;
-  bool quitting_ = false;  // whatever was typed behind it has nobody to go to
+  bool quitting_ = false;  // lines after `quit` are not sent
   std::optional<int> verdict_;
 };
 

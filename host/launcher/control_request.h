@@ -6,21 +6,21 @@
 
 namespace host::launcher {
 
-/// What a process of the device asks of its supervisor.
+/// A request from a process of the device to its supervisor.
 struct ControlRequest {
   enum class Kind { Restart, Open, Close };
   Kind kind = Kind::Restart;
-  std::string bundle;   // of the application
-  std::string program;  // the file to open it with
+  std::string bundle;   // the application's identifier
+  std::string program;  // the name of its program
 
   friend bool operator==(const ControlRequest&, const ControlRequest&) = default;
 };
 
-/// The request's line, with its end.
+/// Returns the request as a line, including the line feed.
 std::string line_of(const ControlRequest& request);
 
-/// Nothing when the line is no request. Names that are given become names of files, and are
-/// therefore plain: letters, digits, dots, hyphens and underscores, no dot first.
+/// Empty when the line is not a valid request. The names become file names and must be plain:
+/// letters, digits, dots, hyphens and underscores, not beginning with a dot.
 std::optional<ControlRequest> read_request(std::string_view line);
 
 }  // namespace host::launcher

@@ -16,12 +16,12 @@ namespace fs = std::filesystem;
 constexpr std::string_view kDone = "ok\n";
 constexpr std::string_view kRefused = "no\n";
 constexpr std::size_t kLongestRequest = 256;
-// An asker that says nothing must not hold up the phone.
+// A silent client must not hold up the phone.
 constexpr int kPatienceMilliseconds = 500;
-// A supervisor has little to do but to answer; on a busy machine even that can take a while.
+// A supervisor does little else than answer, but on a busy machine even that can take a while.
 constexpr int kAskersPatienceMilliseconds = 5000;
 
-/// A new folder that only this user may enter; empty when none can be made.
+/// Makes a new folder that only this user may enter; returns an empty path on failure.
 fs::path new_folder() {
   std::error_code error;
   const char* runtime = std::getenv("XDG_RUNTIME_DIR");
@@ -42,7 +42,7 @@ std::string read_some(int descriptor, int patience) {
 }
 
 void write_all(int descriptor, std::string_view text) {
-  // These few bytes always fit a fresh socket's buffer.
+  // These few bytes always fit into a new socket's buffer.
   static_cast<void>(!send(descriptor, text.data(), text.size(), MSG_NOSIGNAL));
 }
 

@@ -9,11 +9,11 @@
 
 namespace host::launcher {
 
-/// The environment's name of the socket.
+/// The environment variable with the socket's path.
 inline constexpr const char* kControlSocketVariable = "SONAVUE_CONTROL_SOCKET";
 
-/// Where the processes of one device reach their supervisor: a socket in a folder of its own that
-/// nobody else may enter. Both are removed at the end.
+/// The socket through which the processes of one device reach their supervisor, in a separate
+/// folder that only this user may enter. The destructor removes both.
 class ControlSocket {
  public:
   ControlSocket();
@@ -26,7 +26,7 @@ class ControlSocket {
   const std::filesystem::path& path() const { return path_; }
   const std::filesystem::path& folder() const { return folder_; }
 
-  /// Takes one waiting request and tells the asker what `serve` says of it: was it done?
+  /// Reads one pending request, calls `serve`, and replies with its result: whether it was done.
   void serve(const std::function<bool(const ControlRequest&)>& serve) const;
 
  private:
@@ -35,7 +35,7 @@ class ControlSocket {
   Descriptor listener_;
 };
 
-/// Asks the supervisor at `path`. False when it could not do it, or nobody answered.
+/// Sends a request to the supervisor at `path`. Returns false when it was not done or not answered.
 bool ask_supervisor(const std::filesystem::path& path, const ControlRequest& request);
 
 }  // namespace host::launcher

@@ -12,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 using Failure = std::optional<std::string>;
 
-/// In the root of a device until its first files are laid.
+/// This mark is in a device's root until its first files are complete.
 constexpr const char* kBeingMade = ".being-made";
 
 constexpr const char* kFolders[] = {
@@ -65,7 +65,7 @@ Failure copy_tree(const fs::path& from, const fs::path& to,
   return std::nullopt;
 }
 
-/// The identifier in a property list that the build wrote; empty when there is none.
+/// The identifier in a property list that the build wrote; empty when it has none.
 std::string identifier_in(const fs::path& info) {
   std::ifstream file(info);
   const std::string text(std::istreambuf_iterator<char>(file), {});

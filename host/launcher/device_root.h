@@ -7,29 +7,29 @@
 
 namespace host::launcher {
 
-/// Makes the folders that every device has. Gives the reason when the root cannot be written.
+/// Makes the folders that every device has. Returns the reason when the root cannot be written.
 std::optional<std::string> prepare_device_root(const std::filesystem::path& root);
 
-/// Lays `first_files` over a device that is just being made: the root is missing or empty, or an
-/// earlier start was cut short here. What lies there stays. Never again afterwards, so that what
-/// the user removes is gone for good. Gives the first file that failed; the next start goes on
-/// then.
+/// Copies `first_files` to a new device: its root is missing or empty, or an earlier start was
+/// interrupted during the copy. Existing files stay. A complete device is never changed again, so
+/// files that the user removes stay removed. Returns the error of the first file that failed; the
+/// next start then continues.
 std::optional<std::string> lay_first_files(const std::filesystem::path& first_files,
                                            const std::filesystem::path& root);
 
-/// Where the build keeps what belongs on the device.
+/// The build's files for the device.
 struct StagingSource {
-  std::filesystem::path overlay;       // laid over the root as it is
+  std::filesystem::path overlay;       // copied over the root as it is
   std::filesystem::path applications;  // `<Name>.app` folders
 };
 
-/// Brings the device's root up to date with what was built: files that changed are replaced, each
-/// in one step, so that a process that reads or runs the old one is not disturbed. Applications
-/// whose identifier is in `without` are taken off the device. Gives the first file that failed.
+/// Updates the device's root from the build: changed files are replaced atomically, without
+/// disturbing a process that reads or runs the old version. Applications whose identifier is in
+/// `without` are removed from the device. Returns the error of the first file that failed.
 std::optional<std::string> stage(const StagingSource& source, const std::filesystem::path& root,
                                  std::span<const std::string> without);
 
-/// Copies `from` to `to` unless the two have one size and time already.
+/// Copies `from` to `to` unless both have the same size and time. Returns the error, if any.
 std::optional<std::string> copy_if_changed(const std::filesystem::path& from,
                                            const std::filesystem::path& to);
 

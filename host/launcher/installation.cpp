@@ -4,7 +4,7 @@ namespace host::launcher {
 
 Installation find_installation() {
   std::error_code error;
-  // <build>/bin/sonavue, beside it SpringBoard and the device's tools.
+  // <build>/bin/sonavue, with SpringBoard and the device's tools beside it.
   const auto programs = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
   const auto build = programs.parent_path();
   return {programs / "SpringBoard",

@@ -7,13 +7,13 @@
 
 namespace host::launcher {
 
-/// Where the pieces of this build lie, seen from the running program.
+/// The locations of this build's parts, derived from the running program's.
 struct Installation {
   std::filesystem::path home_screen;  // the program SpringBoard
-  std::filesystem::path tools;        // programs that stand first on the device's path
+  std::filesystem::path tools;        // programs that come first on the device's PATH
   std::filesystem::path covers;       // pictures for the demo music
   StagingSource staging;
-  std::filesystem::path first_files;  // of a new device that is set up already
+  std::filesystem::path first_files;  // for a new device that is already set up
 };
 
 Installation find_installation();

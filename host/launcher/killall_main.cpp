@@ -8,16 +8,16 @@
 
 #include "host/launcher/control_socket.h"
 
-// Stands first on the path of the device's processes. `killall SpringBoard` means the home screen
-// of this device, and no process of that name elsewhere on the machine; everything else is the
-// machine's own business.
+// Comes first on the PATH of the device's processes. `killall SpringBoard` restarts this device's
+// home screen and affects no other process of that name on the machine; any other call goes to the
+// system's killall.
 
 namespace {
 
 namespace fs = std::filesystem;
 
-/// The next `killall` on the path that is not this program.
-fs::path machines_own() {
+/// The first `killall` on the PATH that is not this program.
+fs::path system_killall() {
   const char* variable = std::getenv("PATH");
   std::string_view rest = variable ? variable : "/usr/bin:/bin";
   std::error_code error;
@@ -32,7 +32,7 @@ fs::path machines_own() {
   return {};
 }
 
-/// Is the home screen the one process that is named? Options, as `-9`, do not matter.
+/// Returns whether only the home screen is named. Options such as `-9` are ignored.
 bool means_home_screen(int count, char** arguments) {
   int named = 0;
   for (int i = 1; i < count; ++i) {
@@ -53,7 +53,7 @@ int main(int count, char** arguments) {
     std::fputs("SpringBoard: no process found\n", stderr);
     return 1;
   }
-  const fs::path program = machines_own();
+  const fs::path program = system_killall();
   if (!program.empty()) execv(program.c_str(), arguments);
   std::fputs("killall: not found\n", stderr);
   return 127;

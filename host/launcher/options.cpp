@@ -33,7 +33,7 @@ std::string check_device(const std::string& identifier) {
     if (!known.empty()) known += ", ";
     known += model.identifier;
   }
-  return "no device is called " + identifier + "; there are " + known;
+  return "unknown device " + identifier + "; known devices are " + known;
 }
 
 std::string all_devices() {
@@ -41,7 +41,7 @@ std::string all_devices() {
   for (const DeviceModel& model : device_models()) {
     if (!names.empty()) names += ", ";
     names += model.identifier;
-    if (model.identifier == kDefaultDevice) names += " (at first)";
+    if (model.identifier == kDefaultDevice) names += " (default)";
   }
   return names;
 }
@@ -82,16 +82,16 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   CLI::App parser(kDescription, "sonavue");
   parser.footer(kKeys);
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
-  parser.add_option("--device", options.device, "Which phone or tablet to be: " + all_devices())
+  parser.add_option("--device", options.device, "The phone or tablet to show: " + all_devices())
       ->check(check_device);
   auto* root = parser.add_option("--root", options.root,
                                  "Folder that holds the device's own files; a script without it "
-                                 "plays on a new device that is thrown away");
+                                 "plays on a new device that is deleted afterwards");
   bool new_phone = false;
   parser
       .add_flag("--new-phone", new_phone,
-                "An untouched device, which asks for its settings itself and is thrown away; "
-                "without it a new device is set up already")
+                "An untouched device, which asks for its settings itself and is deleted "
+                "afterwards; without it a new device is already set up")
       ->excludes(root);
   parser.add_option("--music", options.music, "Folder of music; may be given more than once")
       ->check(check_music)

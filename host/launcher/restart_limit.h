@@ -4,13 +4,14 @@
 
 namespace host::launcher {
 
-/// A process that keeps ending is not started for ever: at most five times within a minute.
+/// Limits the restarts of a process that keeps ending: at most five within a minute.
 class RestartLimit {
  public:
   static constexpr std::size_t kMostRestarts = 5;
   static constexpr double kWithinSeconds = 60;
 
-  /// May the process be started again at `now`, in seconds? If so the restart is counted.
+  /// Returns whether the process may be started again at `now`, in seconds, and counts the restart
+  /// if so.
   bool allow(double now) {
     while (!restarts_.empty() && restarts_.front() <= now - kWithinSeconds)
       restarts_.pop_front();

@@ -10,27 +10,28 @@
 
 namespace host::launcher {
 
-/// The applications' processes. Each listens on a socket that has its bundle's name, which is there
-/// before the process is, so that whoever opened it can connect at once. One that ends is just
-/// gone; all of them end with this object.
+/// The applications' processes. Each listens on a socket with its bundle's name, which exists
+/// before the process starts, so the caller can connect at once. An application that ends is not
+/// restarted; the destructor ends all of them.
 class RunningApplications {
  public:
   struct Places {
-    std::filesystem::path programs;  // the folder of all that can be opened
+    std::filesystem::path programs;  // the folder of the applications' programs
     std::filesystem::path sockets;   // a folder that only this user may enter
   };
 
-  /// `common` is what all processes are started with; its program is not looked at.
+  /// `common` has the arguments and environment of all processes; its program is ignored.
   RunningApplications(Places places, ChildCommand common);
   ~RunningApplications();
   RunningApplications(const RunningApplications&) = delete;
   RunningApplications& operator=(const RunningApplications&) = delete;
 
-  /// True when it runs, from now on or already. False when there is no such program.
+  /// Returns true if the application is running now, newly started or not; false for a missing
+  /// program.
   bool open(const std::string& bundle, const std::string& program);
-  /// Ends it at once; true when it is not running any more.
+  /// Kills the application; returns true when it is no longer running.
   bool close(const std::string& bundle);
-  /// Notices those that have ended.
+  /// Forgets the applications that have ended.
   void reap();
   bool is_running(const std::string& bundle) const { return running_.contains(bundle); }
   /// 0 when it is not running.
@@ -45,7 +46,7 @@ class RunningApplications {
   std::map<std::string, pid_t> running_;
 };
 
-/// Where the application with this bundle listens, in the folder of sockets.
+/// The path of the socket on which the application with this bundle listens.
 std::filesystem::path application_socket(const std::filesystem::path& folder,
                                          const std::string& bundle);
 

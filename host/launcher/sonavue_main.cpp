@@ -27,7 +27,7 @@ bool has_display() {
   return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("SDL_VIDEODRIVER");
 }
 
-/// Nothing when the options name a script that cannot be read.
+/// Empty when the options name a script that cannot be read.
 std::optional<ConsoleFront> console_for(const Options& options) {
   Script script;
   if (!options.script.empty()) {
@@ -38,7 +38,7 @@ std::optional<ConsoleFront> console_for(const Options& options) {
   return ConsoleFront(std::move(script), options.console ? STDIN_FILENO : -1, stdout, stderr);
 }
 
-/// Gives the reason when the device cannot be started.
+/// Returns the reason when the device cannot be started.
 std::optional<std::string> prepare(const Options& options, const Installation& installation) {
   std::optional<std::string> reason;
   if (options.is_set_up) reason = lay_first_files(installation.first_files, options.root);

@@ -11,11 +11,11 @@
 namespace host::launcher {
 namespace {
 
-// How long a process may take to end in good order.
+// How long a process may take to exit by itself, in seconds.
 constexpr double kPatience = 2.0;
 constexpr int kWakeWhileImpatient = 50;  // milliseconds
 
-/// Blocks the signals that are read from a descriptor, and lets them through again at the end.
+/// Blocks the signals that are read from a descriptor, and unblocks them at the end.
 class BlockedSignals {
  public:
   BlockedSignals() {
@@ -40,7 +40,7 @@ std::string how_it_ended(int status) {
   return fmt::format("ended with status {}", WEXITSTATUS(status));
 }
 
-/// With the way to reach the supervisor.
+/// Adds the control socket's path to the command's environment.
 ChildCommand reaching(ChildCommand command, const ControlSocket& control) {
   if (control) command.environment.emplace_back(kControlSocketVariable, control.path());
   return command;
@@ -58,7 +58,7 @@ Supervisor::Supervisor(Commands commands, const Clock& clock, ConsoleFront* fron
 int Supervisor::run() {
   const BlockedSignals blocked;
   signals_ = blocked.descriptor();
-  if (!control_) spdlog::warn("no socket could be made: `killall SpringBoard` will do nothing");
+  if (!control_) spdlog::warn("no socket could be made: `killall SpringBoard` will have no effect");
   start();
   while (!status_)
     wait_for_something();
@@ -88,7 +88,7 @@ void Supervisor::start() {
 }
 
 void Supervisor::wait_for_something() {
-  // poll passes over negative descriptors.
+  // poll ignores negative descriptors.
   pollfd waiting[] = {
       {signals_.get(), POLLIN, 0},
       {control_.descriptor(), POLLIN, 0},
@@ -96,7 +96,7 @@ void Supervisor::wait_for_something() {
       {front_ ? front_->awaited_input() : -1, POLLIN, 0},
   };
   poll(waiting, std::size(waiting), patience_ends_ ? kWakeWhileImpatient : -1);
-  // Answers first: the last one may lie there although its process is gone.
+  // Answers first: the last one may still be unread although its process is gone.
   if (waiting[2].revents) front_->read_answer();
   if (waiting[0].revents) take_signal();
   if (waiting[1].revents) control_.serve([this](const auto& request) { return serve(request); });

@@ -13,30 +13,30 @@
 
 namespace host::launcher {
 
-/// The status by which the home screen says that it cannot start at all, having said why.
+/// The exit status of a home screen that cannot start at all and has logged the reason.
 inline constexpr int kCannotStart = 2;
-/// The status of a supervisor that has given up.
+/// The exit status of a supervisor that has given up.
 inline constexpr int kGaveUp = 3;
-/// The argument before the number of the console's descriptor.
+/// Precedes the number of the console's descriptor.
 inline constexpr const char* kConsoleArgument = "--console-descriptor";
 
-/// Keeps one home screen running: starts it again when it ends unexpectedly or when somebody on the
-/// device asks for it, and ends with it when it ends in good order. Applications are its children
-/// too, so that they outlive a home screen.
+/// Keeps one home screen running: restarts it when it ends unexpectedly or when a process of the
+/// device requests it, and ends when the home screen exits normally. Applications are children of
+/// the supervisor, too, so they outlive a home screen.
 class Supervisor {
  public:
-  /// What the processes are started with: applications lie beside the home screen's program, which
-  /// is the only one that is named.
+  /// The commands for starting the processes. Only the home screen's program is named; those of
+  /// applications are in the same folder.
   struct Commands {
     ChildCommand home_screen;
     ChildCommand applications;
   };
 
-  /// `front` may be nullptr, then the process gets no console.
+  /// If `front` is nullptr, the process gets no console.
   Supervisor(Commands commands, const Clock& clock, ConsoleFront* front);
 
-  /// Serves until the phone is off. Gives the status to end with: 0, the verdict of a script,
-  /// `kCannotStart`, `kGaveUp`, or 128 and the number of the signal that ended it.
+  /// Serves until the phone is off. Returns the exit status: 0, the verdict of a script,
+  /// `kCannotStart`, `kGaveUp`, or 128 plus the number of the signal that ended it.
   int run();
 
  private:

@@ -7,13 +7,13 @@
 
 namespace host::launcher {
 
-/// A new folder among the temporary files, gone with everything in it when this goes.
+/// A new temporary folder, which the destructor removes with all its contents.
 class ThrowawayFolder {
  public:
   ThrowawayFolder() {
     std::error_code error;
     std::string name = std::filesystem::temp_directory_path(error) / "sonavue-XXXXXX";
-    // Where none can be made there is only the name, and using it will say why.
+    // On failure only the name remains, and using it will report the reason.
     [[maybe_unused]] const char* made = mkdtemp(name.data());
     path_ = name;
   }

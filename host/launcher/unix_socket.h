@@ -6,11 +6,11 @@
 
 namespace host::launcher {
 
-// Sockets that are files. None is made or reached where the path is too long for one.
+// Unix sockets. Both functions return an empty descriptor when the path is too long for one.
 
-/// A socket at `path` that others can connect to from now on.
+/// Makes a socket at `path` that accepts connections.
 Descriptor listening_socket(const std::filesystem::path& path);
-/// A connection to whoever listens there.
+/// Connects to the socket at `path`.
 Descriptor connected_socket(const std::filesystem::path& path);
 
 }  // namespace host::launcher

@@ -27,7 +27,7 @@ TEST_F(BadCommandLines, MusicThatNamesNothing) {
 }
 
 TEST_F(BadCommandLines, ADeviceThatNobodyKnows) {
-  expect_refusal(headless({"--device", "iPhone99,9"}), "no device is called iPhone99,9");
+  expect_refusal(headless({"--device", "iPhone99,9"}), "unknown device iPhone99,9");
 }
 
 TEST_F(BadCommandLines, ARootThatIsAFileOrBelowOne) {

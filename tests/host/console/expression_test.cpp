@@ -15,7 +15,7 @@ using namespace host::console;
 
 struct Lamp : objc::Bound<Lamp, "ConsoleTestLamp", NSObject> {};
 
-/// An object with one method of every kind of type.
+/// An object with one method for every kind of type.
 class LampImplementation : public objc::Implementation<LampImplementation, Lamp> {
  public:
   using Implementation::Implementation;
@@ -110,7 +110,7 @@ class Expressions : public testing::Test {
     shared_lamp = nil;
   }
 
-  /// What the console would print for the line.
+  /// Returns what the console would print for the line.
   std::string print(std::string_view line) {
     Lexer lexer(line);
     const auto expression = parse_expression(lexer);
@@ -153,14 +153,14 @@ TEST_F(Expressions, SharedGlobalsAreReadAtEachUse) {
   EXPECT_TRUE(print("lamp").starts_with("<ConsoleTestLamp"));
 }
 
-TEST_F(Expressions, AGlobalThatIsNilPrintsNilAndAnswersNil) {
+TEST_F(Expressions, ANilGlobalPrintsNilAndReturnsNil) {
   const Lamp kept = std::exchange(shared_lamp, Lamp());
   EXPECT_EQ(print("lamp"), "nil");
   EXPECT_EQ(print("[lamp frame]"), "nil");
   shared_lamp = kept;
 }
 
-TEST_F(Expressions, StructuresGoInAndComeOut) {
+TEST_F(Expressions, StructuresArePassedAndReturned) {
   EXPECT_EQ(print("[lamp setFrame:{{1, 2}, {3.5, 4}}]"), "void");
   EXPECT_EQ(print("[lamp frame]"), "{{1, 2}, {3.5, 4}}");
   EXPECT_EQ(print("[lamp transform]"), "{1, 2, 3, 4, 5, 6}");
@@ -215,22 +215,22 @@ TEST_F(Expressions, CollectionsPrintWhatTheyHold) {
   EXPECT_EQ(print("[NSDictionary dictionaryWithObject:3 forKey:@\"k\"]"), "{\"k\" = 3}");
 }
 
-TEST_F(Expressions, MistakesNameTheirColumn) {
-  EXPECT_EQ(print(""), "the end of the line begins no expression (column 1)");
-  EXPECT_EQ(print("[lamp frame"), "':' or ']' instead of the end of the line (column 12)");
-  EXPECT_EQ(print("[lamp 3]"), "a message instead of a number (column 7)");
-  EXPECT_EQ(print("{1; 2}"), "';' begins no expression (column 3)");
-  EXPECT_EQ(print("{1 2}"), "',' or '}' instead of a number (column 4)");
+TEST_F(Expressions, ErrorsNameTheirColumn) {
+  EXPECT_EQ(print(""), "an expression cannot begin with the end of the line (column 1)");
+  EXPECT_EQ(print("[lamp frame"), "expected ':' or ']', not the end of the line (column 12)");
+  EXPECT_EQ(print("[lamp 3]"), "expected a message, not a number (column 7)");
+  EXPECT_EQ(print("{1; 2}"), "an expression cannot begin with ';' (column 3)");
+  EXPECT_EQ(print("{1 2}"), "expected ',' or '}', not a number (column 4)");
   EXPECT_EQ(print("@\"open"), "text is not closed (column 1)");
   EXPECT_EQ(print("@\"a\\q\""), "unknown escape in text (column 4)");
   EXPECT_EQ(print("12abc"), "not a number (column 1)");
   EXPECT_EQ(print("1.2.3"), "not a number (column 1)");
-  EXPECT_EQ(print("  nowhere"), "nothing is called nowhere (column 3)");
-  EXPECT_EQ(print("[lamp setFrame:]"), "']' begins no expression (column 16)");
+  EXPECT_EQ(print("  nowhere"), "unknown name: nowhere (column 3)");
+  EXPECT_EQ(print("[lamp setFrame:]"), "an expression cannot begin with ']' (column 16)");
 }
 
 TEST_F(Expressions, ColumnsCountCharactersAndNotBytes) {
-  EXPECT_EQ(print("{@\"Größe\", nowhere}"), "nothing is called nowhere (column 12)");
+  EXPECT_EQ(print("{@\"Größe\", nowhere}"), "unknown name: nowhere (column 12)");
 }
 
 TEST_F(Expressions, ArgumentsThatDoNotFitAreRefusedAndNothingIsSent) {
@@ -251,12 +251,12 @@ TEST_F(Expressions, ArgumentsThatDoNotFitAreRefusedAndNothingIsSent) {
 TEST_F(Expressions, UnknownSelectorsAreRefusedBeforeAnythingIsSent) {
   EXPECT_EQ(print("[lamp setOn:NO]"), "void");
   EXPECT_EQ(print("[[lamp setOn:YES] noClassHasThisOne]"),
-            "no class answers noClassHasThisOne (column 19)");
+            "no class implements noClassHasThisOne (column 19)");
   EXPECT_EQ(print("[lamp isOn]"), "NO");
   EXPECT_EQ(print("[lamp uppercaseString]"),
-            "ConsoleTestLamp does not answer uppercaseString (column 7)");
-  EXPECT_EQ(print("[lamp setFrame]"), "no class answers setFrame (column 7)");
-  EXPECT_EQ(print("[3 description]"), "only objects and classes answer messages (column 2)");
+            "ConsoleTestLamp does not respond to uppercaseString (column 7)");
+  EXPECT_EQ(print("[lamp setFrame]"), "no class implements setFrame (column 7)");
+  EXPECT_EQ(print("[3 description]"), "only objects and classes receive messages (column 2)");
 }
 
 TEST_F(Expressions, AnExceptionIsAProblemAndTheNextLineStillWorks) {
@@ -267,7 +267,7 @@ TEST_F(Expressions, AnExceptionIsAProblemAndTheNextLineStillWorks) {
   EXPECT_EQ(print("[[NSArray array] count]"), "0");
 }
 
-TEST_F(Expressions, EndlessNestingIsRefused) {
+TEST_F(Expressions, ExcessiveNestingIsRefused) {
   EXPECT_TRUE(print(std::string(100'000, '[')).starts_with("nested too deeply"));
   EXPECT_TRUE(print(std::string(100'000, '{')).starts_with("nested too deeply"));
 }

@@ -8,7 +8,7 @@
 #include "host/console/phone.h"
 #include "platform/Foundation/NSString.h"
 
-/// Writes down what it is asked to do. Texts stand for views.
+/// Records all requests. Texts represent views.
 class FakePhone : public host::console::Phone {
  public:
   using Refusal = host::console::Refusal;

@@ -25,7 +25,7 @@ class LineServers : public testing::Test {
     ASSERT_EQ(::write(ends_[0], text.data(), text.size()), static_cast<ssize_t>(text.size()));
     server_->serve();
   }
-  /// What has been answered so far.
+  /// Returns the new answers.
   std::string answers() {
     char bytes[4096];
     const auto count = recv(ends_[0], bytes, sizeof bytes, MSG_DONTWAIT);
@@ -42,10 +42,10 @@ class LineServers : public testing::Test {
 
 TEST_F(LineServers, EveryLineHasOneAnswerInOrder) {
   write("advance 1\necho two\njump\n\n");
-  EXPECT_EQ(answers(), "ok\ntwo\nerror: no command is called jump (column 1)\nok\n");
+  EXPECT_EQ(answers(), "ok\ntwo\nerror: unknown command: jump (column 1)\nok\n");
 }
 
-TEST_F(LineServers, APartOfALineWaitsForItsEnd) {
+TEST_F(LineServers, APartialLineWaitsForItsEnd) {
   write("adva");
   EXPECT_EQ(answers(), "");
   write("nce 1\nec");
@@ -65,7 +65,7 @@ TEST_F(LineServers, TheOtherEndGoingAwayEndsTheConsole) {
   EXPECT_EQ(quits_, 1);
 }
 
-TEST_F(LineServers, AnEndlessLineIsRefusedAndTheNextOneServed) {
+TEST_F(LineServers, AnOverlongLineIsRefusedAndTheNextOneServed) {
   const std::string part(4096, 'x');
   for (std::size_t sent = 0; sent <= 2 * LineServer::kLongestLine; sent += part.size())
     write(part);
@@ -75,7 +75,7 @@ TEST_F(LineServers, AnEndlessLineIsRefusedAndTheNextOneServed) {
   EXPECT_EQ(answers(), "still here\n");
 }
 
-TEST_F(LineServers, BytesThatAreNoTextAreAnError) {
+TEST_F(LineServers, BytesThatAreNotTextAreAnError) {
   write(std::string_view("\0\xff\x01\n", 4));
   EXPECT_TRUE(answers().starts_with("error: "));
 }

@@ -40,7 +40,7 @@ TEST_F(Sessions, AdvanceMovesTheClock) {
   EXPECT_EQ(say("advance 1e9"), "error: the clock advances by 0 to 86400 seconds (column 9)");
   EXPECT_EQ(say("advance"), "error: the number of seconds is missing (column 8)");
   EXPECT_EQ(say("advance nan"), "error: the number of seconds is missing (column 9)");
-  EXPECT_EQ(say("advance 1 2"), "error: nothing more belongs here: 2 (column 11)");
+  EXPECT_EQ(say("advance 1 2"), "error: unexpected text: 2 (column 11)");
   EXPECT_THAT(phone_.done, ElementsAre("advance 0.25"));
 }
 
@@ -53,16 +53,16 @@ TEST_F(Sessions, TapsAreRepeatedWithAPauseBetween) {
   EXPECT_EQ(say("tap 1 2 2"), "ok");
   EXPECT_THAT(phone_.done, ElementsAre("began 1 2", "advance 0.05", "ended 1 2", "advance 0.08",
                                        "began 1 2", "advance 0.05", "ended 1 2"));
-  EXPECT_EQ(say("tap 1 2 0"), "error: taps are counted from 1 to 10 (column 9)");
-  EXPECT_EQ(say("tap 1 2 1.5"), "error: taps are counted from 1 to 10 (column 9)");
+  EXPECT_EQ(say("tap 1 2 0"), "error: the number of taps is 1 to 10 (column 9)");
+  EXPECT_EQ(say("tap 1 2 1.5"), "error: the number of taps is 1 to 10 (column 9)");
 }
 
 TEST_F(Sessions, TapFindsTheCentreOfAView) {
   EXPECT_EQ(say("tap on @\"stands for a view\" 1"), "ok");
   EXPECT_THAT(phone_.done, ElementsAre("began 30 40", "advance 0.05", "ended 30 40"));
-  EXPECT_EQ(say("tap on [NSArray array]"), "error: this is no view on the screen (column 8)");
-  EXPECT_EQ(say("tap on nil"), "error: this is no view on the screen (column 8)");
-  EXPECT_EQ(say("tap on nowhere"), "error: nothing is called nowhere (column 8)");
+  EXPECT_EQ(say("tap on [NSArray array]"), "error: this is not a view on the screen (column 8)");
+  EXPECT_EQ(say("tap on nil"), "error: this is not a view on the screen (column 8)");
+  EXPECT_EQ(say("tap on nowhere"), "error: unknown name: nowhere (column 8)");
 }
 
 TEST_F(Sessions, TouchGoesThroughItsPhasesInOrder) {
@@ -87,19 +87,19 @@ TEST_F(Sessions, FingersAreTouchedByTheirNumbers) {
   EXPECT_EQ(say("touch 1 ended 3 4"), "ok");
   EXPECT_EQ(say("touch 2 ended 5 6"), "ok");
   for (const char* wrong : {"touch 0 began 1 2", "touch 6 began 1 2", "touch 1.5 began 1 2"})
-    EXPECT_EQ(say(wrong), "error: fingers are counted from 1 to 5 (column 7)") << wrong;
+    EXPECT_EQ(say(wrong), "error: fingers are numbered from 1 to 5 (column 7)") << wrong;
   EXPECT_THAT(phone_.done,
               ElementsAre("finger 2 began 1 2", "began 3 4", "ended 3 4", "finger 2 ended 5 6"));
 }
 
-TEST_F(Sessions, RestSaysWhatKeepsThePhoneFromIt) {
+TEST_F(Sessions, RestReportsWhatKeepsThePhoneBusy) {
   EXPECT_EQ(say("rest"), "ok");
   phone_.refusal = "the phone is locked";
   EXPECT_EQ(say("rest"), "error: the phone is locked");
-  EXPECT_THAT(say("rest now"), StartsWith("error: nothing more belongs here"));
+  EXPECT_THAT(say("rest now"), StartsWith("error: unexpected text"));
 }
 
-TEST_F(Sessions, DragMovesOnceAFrameAtASteadySpeed) {
+TEST_F(Sessions, DragMovesOncePerFrameAtASteadySpeed) {
   EXPECT_EQ(say("drag 0 0 30 60 0.05"), "ok");
   EXPECT_THAT(phone_.done,
               ElementsAre("began 0 0", "advance 0.01667", "moved 10 20", "advance 0.01667",
@@ -107,7 +107,7 @@ TEST_F(Sessions, DragMovesOnceAFrameAtASteadySpeed) {
   EXPECT_NEAR(phone_.now, 0.05, 1e-12);
 }
 
-TEST_F(Sessions, DragBetweenViewsAndPointsMixes) {
+TEST_F(Sessions, DragAcceptsViewsAndPoints) {
   EXPECT_EQ(say("drag on @\"view\" 30 80 0"), "ok");
   EXPECT_THAT(phone_.done, ElementsAre("began 30 40", "advance 0", "moved 30 80", "ended 30 80"));
   EXPECT_EQ(say("drag 1 2 3"), "error: Y of a point is missing (column 11)");
@@ -115,7 +115,7 @@ TEST_F(Sessions, DragBetweenViewsAndPointsMixes) {
   EXPECT_EQ(say("drag 1 2 3 4"), "error: the number of seconds is missing (column 13)");
 }
 
-TEST_F(Sessions, KeyboardTakesTextAsItStandsAndKnownKeys) {
+TEST_F(Sessions, KeyboardTakesLiteralTextAndKnownKeys) {
   EXPECT_EQ(say("type  #1 hit & more  "), "ok");
   EXPECT_EQ(say("key return"), "ok");
   EXPECT_THAT(phone_.done, ElementsAre("type #1 hit & more", "key return"));
@@ -134,7 +134,7 @@ TEST_F(Sessions, ButtonsArePressed) {
 TEST_F(Sessions, ButtonsAreHeldDown) {
   EXPECT_EQ(say("button lock down"), "ok");
   EXPECT_EQ(say("button lock up"), "ok");
-  EXPECT_EQ(say("button lock sideways"), "error: nothing more belongs here: sideways (column 13)");
+  EXPECT_EQ(say("button lock sideways"), "error: unexpected text: sideways (column 13)");
   EXPECT_THAT(phone_.done, ElementsAre("push 2", "let go 2"));
 }
 
@@ -157,12 +157,12 @@ TEST_F(Sessions, SystemEventsThatAreIncompleteAreRefused) {
   EXPECT_EQ(say("system dance"), "error: an event of the system is missing (column 8)");
   EXPECT_EQ(say("system edit"), "error: an event of the system is missing (column 8)");
   EXPECT_EQ(say("system dock in"), "error: a bundle identifier is missing (column 15)");
-  EXPECT_EQ(say("system lock now"), "error: nothing more belongs here: now (column 13)");
+  EXPECT_EQ(say("system lock now"), "error: unexpected text: now (column 13)");
   EXPECT_EQ(say("system banner"), "error: a text is missing (column 14)");
   EXPECT_THAT(phone_.done, IsEmpty());
 }
 
-TEST_F(Sessions, WhatThePhoneRefusesIsAnError) {
+TEST_F(Sessions, ARefusalOfThePhoneIsAnError) {
   phone_.refusal = "not available yet";
   EXPECT_EQ(say("gesture shake"), "error: not available yet");
   EXPECT_EQ(say("process Settings"), "error: not available yet");
@@ -172,8 +172,8 @@ TEST_F(Sessions, WhatThePhoneRefusesIsAnError) {
 TEST_F(Sessions, PrintAnswersWithTheValue) {
   EXPECT_EQ(say("print counter"), "3");
   EXPECT_EQ(say("print [@\"a\" uppercaseString]"), "\"A\"");
-  EXPECT_EQ(say("print counter counter"), "error: nothing more belongs here: counter (column 15)");
-  EXPECT_EQ(say("print"), "error: the end of the line begins no expression (column 6)");
+  EXPECT_EQ(say("print counter counter"), "error: unexpected text: counter (column 15)");
+  EXPECT_EQ(say("print"), "error: an expression cannot begin with the end of the line (column 6)");
   EXPECT_EQ(say("echo one  two"), "one  two");
 }
 
@@ -205,8 +205,8 @@ TEST_F(Sessions, QuitAsksForTheEnd) {
 }
 
 TEST_F(Sessions, UnknownCommandsAreErrorsWithTheirColumn) {
-  EXPECT_EQ(say("  jump 3"), "error: no command is called jump (column 3)");
-  EXPECT_EQ(say("[counter]"), "error: no command is called [counter] (column 1)");
+  EXPECT_EQ(say("  jump 3"), "error: unknown command: jump (column 3)");
+  EXPECT_EQ(say("[counter]"), "error: unknown command: [counter] (column 1)");
 }
 
 }  // namespace

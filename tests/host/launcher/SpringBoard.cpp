@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-// A home screen with hardly anything in it. Its first argument is the file in which every start is
-// one line, `NAME PID`; its second says what to do then.
+// A minimal home screen. Its first argument names a file to which every start appends one line,
+// `NAME PID`; its second selects its behaviour.
 
 namespace {
 
@@ -30,7 +30,7 @@ void record(std::string_view line) {
     pause();
 }
 
-/// Answers each line of the console with itself; `crash` and `quit` do what they say.
+/// Echoes each line of the console, except for `crash` and `quit`, which it executes.
 int echo(int descriptor) {
   std::string line;
   for (char byte = 0; read(descriptor, &byte, 1) == 1;) {

@@ -29,7 +29,7 @@ class CommandLine : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(CommandLine, MusicThatIsNotThereIsOneLineAndStatusTwo) {
+TEST_F(CommandLine, AMissingMusicFolderIsOneLineAndStatusTwo) {
   const auto outcome = run("--headless --music /nowhere/music");
   EXPECT_EQ(outcome.status, 2);
   ASSERT_THAT(outcome.errors, SizeIs(1));
@@ -51,7 +51,7 @@ TEST_F(CommandLine, ARootThatCannotBeWrittenIsOneLineAndStatusTwo) {
   EXPECT_THAT(outcome.errors[0], HasSubstr("/dev/null/root"));
 }
 
-TEST_F(CommandLine, AScriptThatIsNotThereIsOneLineAndStatusTwo) {
+TEST_F(CommandLine, AMissingScriptIsOneLineAndStatusTwo) {
   const auto outcome = run("--headless --script /nowhere/a.scn");
   EXPECT_EQ(outcome.status, 2);
   ASSERT_THAT(outcome.errors, SizeIs(1));
@@ -64,7 +64,7 @@ TEST_F(CommandLine, UnknownOptionsAreOneLineAndStatusTwo) {
   EXPECT_THAT(outcome.errors, SizeIs(1));
 }
 
-TEST_F(CommandLine, WithoutADisplayTheUserIsToldHowToLook) {
+TEST_F(CommandLine, WithoutADisplayTheErrorNamesHeadless) {
   const auto outcome = run("");
   EXPECT_EQ(outcome.status, 2);
   ASSERT_THAT(outcome.errors, SizeIs(1));
@@ -78,7 +78,7 @@ TEST_F(CommandLine, HelpAndVersionSucceedWithNothingOnTheErrorStream) {
   EXPECT_THAT(version.errors, SizeIs(0));
 }
 
-TEST(Options, RepeatedOnesAddUpAndPathsBecomeAbsolute) {
+TEST(Options, RepeatedOnesAccumulateAndPathsBecomeAbsolute) {
   const char* arguments[] = {"sonavue", "--music",   "/usr", "--music", "/etc",     "--without",
                              "a.b",     "--without", "c.d",  "--root",  "relative", "--headless"};
   const auto read = read_options(std::size(arguments), arguments);
@@ -89,7 +89,7 @@ TEST(Options, RepeatedOnesAddUpAndPathsBecomeAbsolute) {
   EXPECT_EQ(options.device, "iPhone7,2");
 }
 
-TEST(Options, OnlyADeviceThatNobodyNamesIsSetUp) {
+TEST(Options, OnlyTheDefaultDeviceIsSetUp) {
   const auto read = [](std::vector<const char*> arguments) {
     arguments.insert(arguments.begin(), "sonavue");
     return std::get<Options>(read_options(static_cast<int>(arguments.size()), arguments.data()));
@@ -103,7 +103,7 @@ TEST(Options, OnlyADeviceThatNobodyNamesIsSetUp) {
   EXPECT_TRUE(read({"--new-phone"}).root.empty());
 }
 
-TEST(Options, ANamedDeviceIsNoNewPhone) {
+TEST(Options, ANamedRootExcludesANewPhone) {
   const char* arguments[] = {"sonavue", "--new-phone", "--root", "/tmp/phone"};
   const auto read = read_options(std::size(arguments), arguments);
   const auto& ending = std::get<Ending>(read);
@@ -112,7 +112,7 @@ TEST(Options, ANamedDeviceIsNoNewPhone) {
   EXPECT_THAT(ending.text, HasSubstr("--root"));
 }
 
-TEST(Options, HelpTellsHowToGetAnUntouchedDevice) {
+TEST(Options, HelpSaysHowToGetAnUntouchedDevice) {
   const char* arguments[] = {"sonavue", "--help"};
   const auto read = read_options(std::size(arguments), arguments);
   EXPECT_THAT(std::get<Ending>(read).text, HasSubstr("--new-phone "));
@@ -126,7 +126,7 @@ TEST(Options, HelpListsTheKeysOfTheWindow) {
     EXPECT_THAT(help, HasSubstr(std::string("  ") + key + " ")) << key;
 }
 
-TEST(Options, TheClockIsSteppedOnlyWhenSomebodyStepsIt) {
+TEST(Options, TheClockIsSteppedOnlyUnderAConsoleOrScript) {
   Options options;
   options.headless = true;
   EXPECT_FALSE(options.has_stepped_clock());
@@ -136,7 +136,7 @@ TEST(Options, TheClockIsSteppedOnlyWhenSomebodyStepsIt) {
   EXPECT_FALSE(options.has_stepped_clock());
 }
 
-TEST(Options, TheDeviceLivesInTheUsersDataFolder) {
+TEST(Options, TheDeviceIsInTheUsersDataFolder) {
   setenv("XDG_DATA_HOME", "/data", 1);
   EXPECT_EQ(default_device_root(), "/data/sonavue/device");
   unsetenv("XDG_DATA_HOME");

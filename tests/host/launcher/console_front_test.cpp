@@ -12,7 +12,7 @@ namespace {
 using namespace host::launcher;
 using host::Descriptor;
 
-/// What is printed to a file of the C library, for reading it back.
+/// A C stream whose output can be read back.
 class Printed {
  public:
   explicit Printed(std::filesystem::path path)
@@ -74,17 +74,17 @@ TEST_F(ConsoleFronts, EveryTypedLineIsAnswered) {
   EXPECT_EQ(output_.lines(), Lines({"one", "error: two", "three", "ok"}));
 }
 
-TEST_F(ConsoleFronts, ALastLineWithoutItsEndIsAnsweredToo) {
+TEST_F(ConsoleFronts, AnUnterminatedLastLineIsAnsweredToo) {
   EXPECT_EQ(run_typed("one"), 0);
   EXPECT_EQ(output_.lines(), Lines({"one", "ok"}));
 }
 
-TEST_F(ConsoleFronts, NothingIsSentBehindQuit) {
+TEST_F(ConsoleFronts, NothingIsSentAfterQuit) {
   EXPECT_EQ(run_typed("one\nquit\ntwo\n"), 0);
   EXPECT_EQ(output_.lines(), Lines({"one", "ok"}));
 }
 
-TEST_F(ConsoleFronts, AScriptGoesOnInTheRestartedProcess) {
+TEST_F(ConsoleFronts, AScriptContinuesInTheRestartedProcess) {
   EXPECT_EQ(run({"a.scn", {"before", "killall", "after"}}), 0);
   EXPECT_EQ(output_.lines(), Lines({"before", "after"}));
   EXPECT_EQ(starts(), 2u);
@@ -102,7 +102,7 @@ TEST_F(ConsoleFronts, ATypedLineThatCrashesIsAnErrorAndTheNextIsServed) {
   EXPECT_EQ(starts(), 2u);
 }
 
-TEST_F(ConsoleFronts, AScriptPlaysAnotherThatLiesBesideIt) {
+TEST_F(ConsoleFronts, AScriptPlaysAnotherBesideIt) {
   write_file(folder_.path() / "more/b.scn", "2\nplay c.scn\n");
   write_file(folder_.path() / "more/c.scn", "3\n");
   EXPECT_EQ(run({folder_.path() / "a.scn", {"1", "play more/b.scn", "4"}}), 0);
@@ -123,10 +123,10 @@ TEST_F(ConsoleFronts, AScriptThatIsMissingOrPlaysItselfIsAnError) {
   EXPECT_EQ(run({a, {"play a.scn"}}), 1);
   EXPECT_EQ(errors_.lines(),
             Lines({a + ":1: error: " + (folder_.path() / "b.scn").string() + " cannot be read",
-                   a + ":1: error: too many scripts play each other"}));
+                   a + ":1: error: the scripts are nested too deeply"}));
 }
 
-TEST_F(ConsoleFronts, WhoTypesMayPlayAScriptAndGoOnAfterItsFailure) {
+TEST_F(ConsoleFronts, ATypedPlayCanFailAndTypingContinues) {
   const std::string b = folder_.path() / "b.scn";
   write_file(b, "2\nerror: no\n3\n");
   EXPECT_EQ(run_typed("1\nplay " + b + "\n4\nplay " + b + "5\n"), 0);
@@ -134,7 +134,7 @@ TEST_F(ConsoleFronts, WhoTypesMayPlayAScriptAndGoOnAfterItsFailure) {
   EXPECT_EQ(errors_.lines(), Lines({b + ":2: error: no"}));
 }
 
-TEST(Scripts, AreReadByLineAndMissingOnesAreNot) {
+TEST(Scripts, AreReadByLineUnlessMissing) {
   const TemporaryFolder folder;
   write_file(folder.path() / "a.scn", "one\n\n# two");
   const auto script = read_script(folder.path() / "a.scn");

@@ -10,14 +10,14 @@ namespace {
 using namespace host::launcher;
 using Kind = ControlRequest::Kind;
 
-TEST(ControlRequests, AreReadAsTheyWereWritten) {
+TEST(ControlRequests, RoundTrip) {
   for (const ControlRequest& request :
        {ControlRequest{}, ControlRequest{Kind::Open, "com.apple.Music", "Music"},
         ControlRequest{Kind::Close, "com.apple.Music", {}}})
     EXPECT_EQ(read_request(line_of(request)), request);
 }
 
-TEST(ControlRequests, AreTheWholeLineAndNothingElse) {
+TEST(ControlRequests, MustFillTheWholeLine) {
   for (const char* line :
        {"", "\n", "restart SpringBoard", "restart\n", "restart SpringBoard now\n", "open\n",
         "open com.apple.Music\n", "open com.apple.Music Music more\n", "close\n",
@@ -25,7 +25,7 @@ TEST(ControlRequests, AreTheWholeLineAndNothingElse) {
     EXPECT_EQ(read_request(line), std::nullopt) << line;
 }
 
-TEST(ControlRequests, NameNoFileOutsideTheirFolders) {
+TEST(ControlRequests, CannotNameFilesOutsideTheirFolders) {
   const std::vector<std::string> names = {"../Music", "/bin/sh", "..", ".hidden",           "a/b",
                                           "a b",      "a\nb",    "ü",  std::string(65, 'a')};
   for (const std::string& name : names) {

@@ -64,7 +64,7 @@ TEST_F(DeviceRoot, KeepsFilesThatAreUpToDate) {
   EXPECT_EQ(file_number(root() / "a"), before);
 }
 
-TEST_F(DeviceRoot, ReplacesAChangedFileSoThatItsReadersKeepTheOldOne) {
+TEST_F(DeviceRoot, ReplacesAChangedFileWhileReadersKeepTheOldOne) {
   write_file(build() / "staging/a", "one");
   stage_all();
   std::ifstream reader(root() / "a");
@@ -83,7 +83,7 @@ TEST_F(DeviceRoot, LeavesTheUsersOwnFilesAlone) {
   EXPECT_EQ(lines_of(root() / "Library/own").at(0), "mine");
 }
 
-TEST_F(DeviceRoot, LosesAnApplicationThatIsLeftOutAndGetsItBack) {
+TEST_F(DeviceRoot, LosesAnExcludedApplicationAndGetsItBack) {
   make_application("Music", "com.apple.Music");
   make_application("Mail", "com.apple.mobilemail");
   stage_all();
@@ -116,13 +116,13 @@ class FirstFiles : public DeviceRoot {
   }
 };
 
-TEST_F(FirstFiles, AreLaidOverADeviceThatIsNotThereYet) {
+TEST_F(FirstFiles, AreCopiedToAMissingDevice) {
   EXPECT_EQ(lay(), std::nullopt);
   EXPECT_EQ(text("a"), "first");
   EXPECT_EQ(text("b"), "a longer one");
 }
 
-TEST_F(FirstFiles, AreLaidIntoAnEmptyFolder) {
+TEST_F(FirstFiles, AreCopiedIntoAnEmptyFolder) {
   fs::create_directories(root());
   EXPECT_EQ(lay(), std::nullopt);
   EXPECT_EQ(text("a"), "first");
@@ -134,20 +134,20 @@ TEST_F(FirstFiles, LeaveNothingElseBehind) {
   EXPECT_EQ(in_root, std::vector<fs::path>{root() / "var"});
 }
 
-TEST_F(FirstFiles, AreNothingForADeviceThatIsInUse) {
+TEST_F(FirstFiles, AreNotCopiedToADeviceInUse) {
   prepare_device_root(root());
   EXPECT_EQ(lay(), std::nullopt);
   EXPECT_FALSE(fs::exists(root() / "var/a"));
 }
 
-TEST_F(FirstFiles, AreNotLaidAgainWhenTheUserHasRemovedThem) {
+TEST_F(FirstFiles, AreNotCopiedAgainAfterTheUserRemovesThem) {
   lay();
   ASSERT_TRUE(fs::remove(root() / "var/a"));
   EXPECT_EQ(lay(), std::nullopt);
   EXPECT_FALSE(fs::exists(root() / "var/a"));
 }
 
-TEST_F(FirstFiles, GoOnAfterAStartThatWasCutShortAndOverNoFile) {
+TEST_F(FirstFiles, CompleteAnInterruptedStartWithoutOverwriting) {
   {
     const FullDisk disk(8);
     const auto reason = lay();
@@ -160,20 +160,20 @@ TEST_F(FirstFiles, GoOnAfterAStartThatWasCutShortAndOverNoFile) {
   EXPECT_EQ(lay(), std::nullopt);
   EXPECT_EQ(text("a"), "mine");
   EXPECT_EQ(text("b"), "a longer one");
-  // Now the device is made.
+  // Now the device is complete.
   fs::remove(root() / "var/b");
   lay();
   EXPECT_FALSE(fs::exists(root() / "var/b"));
 }
 
-TEST_F(FirstFiles, GiveTheReasonWhenThereCanBeNoDevice) {
+TEST_F(FirstFiles, ReportWhyTheDeviceCannotBeMade) {
   write_file(folder_.path() / "root", "");
   const auto reason = lay();
   ASSERT_TRUE(reason);
   EXPECT_TRUE(reason->starts_with(root().string()));
 }
 
-TEST_F(FirstFiles, AreNothingInABuildWithoutAny) {
+TEST_F(FirstFiles, AreOptionalInABuild) {
   fs::remove_all(first_files());
   EXPECT_EQ(lay(), std::nullopt);
 }

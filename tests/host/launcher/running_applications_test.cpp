@@ -17,7 +17,7 @@ constexpr const char* kBundle = "org.example.Sleeper";
 
 constexpr const char* kProgram = "sleeper";
 
-/// The programs of a test: one that runs until it is ended, whatever it is told.
+/// The programs of a test: one runs until it is killed, whatever its arguments.
 class Programs : public TemporaryFolder {
  public:
   Programs() {
@@ -68,7 +68,7 @@ TEST_F(Applications, AreGoneOnceTheyAreClosed) {
   EXPECT_TRUE(applications_.close(kBundle));
 }
 
-TEST_F(Applications, OpenAnewWhenTheyHadEnded) {
+TEST_F(Applications, OpenAgainAfterTheyHaveEnded) {
   ASSERT_TRUE(open());
   const pid_t process = applications_.process(kBundle);
   kill(process, SIGKILL);
@@ -79,7 +79,7 @@ TEST_F(Applications, OpenAnewWhenTheyHadEnded) {
   EXPECT_TRUE(can_be_reached());
 }
 
-TEST_F(Applications, EndWithWhomTheyBelongTo) {
+TEST_F(Applications, EndWithTheirOwner) {
   pid_t process = 0;
   {
     RunningApplications others({programs_.path(), sockets_.path()}, {});

@@ -24,7 +24,7 @@ TEST(RestartLimit, AllowsFiveWithinAMinuteAndMoreLater) {
 
 class Supervisors : public testing::Test {
  protected:
-  // A supervisor that is killed leaves its socket behind: then it is removed with the folder.
+  // A killed supervisor leaves its socket behind, which is then removed with the folder.
   Supervisors() { setenv("XDG_RUNTIME_DIR", folder_.path().c_str(), 1); }
   ~Supervisors() override { unsetenv("XDG_RUNTIME_DIR"); }
 
@@ -41,11 +41,11 @@ class Supervisors : public testing::Test {
   std::vector<std::string> recorded() const { return lines_of(record()); }
 
   TemporaryFolder folder_;
-  // It stands still: all that happens is within one minute.
+  // Never advanced: everything happens within one minute.
   host::SteppedClock clock_;
 };
 
-TEST_F(Supervisors, EndWithAProcessThatEndsInGoodOrder) {
+TEST_F(Supervisors, EndWithAProcessThatExitsNormally) {
   EXPECT_EQ(run("end"), 0);
   EXPECT_EQ(recorded().size(), 1u);
 }
@@ -70,7 +70,7 @@ TEST_F(Supervisors, CountAFailureAsACrash) {
   EXPECT_EQ(recorded().size(), 6u);
 }
 
-TEST_F(Supervisors, DoNotRetryWhatCannotStart) {
+TEST_F(Supervisors, DoNotRetryAProcessThatCannotStart) {
   EXPECT_EQ(run("cannot-start"), kCannotStart);
   EXPECT_EQ(recorded().size(), 1u);
 }
@@ -101,8 +101,8 @@ pid_t wait_for_recorded_process(const std::filesystem::path& record) {
   return std::stoi(lines.at(0).substr(lines.at(0).find(' ')));
 }
 
-TEST_F(Supervisors, TakeTheirProcessWithThemWhenTheyAreKilled) {
-  // The orphan comes to this process, so that its end can be waited for.
+TEST_F(Supervisors, EndTheirProcessWhenTheyAreKilled) {
+  // This process adopts the orphan and can wait for its end.
   prctl(PR_SET_CHILD_SUBREAPER, 1);
   const pid_t supervisor = fork();
   if (supervisor == 0) _exit(run("wait"));

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// A folder of one test's own, removed with all that is in it.
+/// A test's own folder, removed with all its contents.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
