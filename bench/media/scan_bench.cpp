@@ -1,5 +1,5 @@
-// How much faster a scan is when no file has changed. Every time is the best of a few runs with the
-// files in memory, and every run is checked to have found all songs.
+// Measures how much faster a scan is when no file has changed. Every time is the best of a few runs
+// with the files in memory, and every run is checked to find all songs.
 
 #include <fmt/core.h>
 

@@ -7,8 +7,8 @@
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSObject.h"
 
-// What a message through the bridge costs, against a call of a C++ virtual function that does the
-// same.
+// Measures the cost of a message through the bridge, relative to a call of a C++ virtual function
+// that does the same.
 
 namespace {
 
@@ -39,7 +39,7 @@ struct VirtualCounter final : Adder {
   long total = 0;
 };
 
-// With one class alone the compiler knows whom it calls, and puts the sum into the loop.
+// With only one class the compiler would devirtualise the call and inline the sum into the loop.
 struct DecreasingCounter final : Adder {
   long add(long amount) override { return total -= amount; }
   long total = 0;

@@ -4,8 +4,8 @@
 #include "bench/phone/frame_series.h"
 #include "bench/phone/own_programs.h"
 
-// What a frame of the banner costs the home screen while an application runs below it, at rest and
-// while its list glides, against a plain copy of one frame.
+// Measures the home screen's cost for a frame of the banner while an application runs below it, at
+// rest and with a gliding list, relative to a plain copy of one frame.
 
 namespace {
 
@@ -17,7 +17,7 @@ using host::screen::TouchPhase;
 constexpr int kRounds = 5;
 constexpr int kDragFrames = 60;
 constexpr CGFloat kDragStep = 6;
-/// Where the panel's top is while it hangs.
+/// The panel's top while the banner hangs.
 constexpr CGFloat kHangs = -517;
 
 enum class Below { kAtRest, kGliding };
@@ -48,7 +48,7 @@ void drag_banner(BenchPhone& phone, Series& series, Below below, int round) {
   double top = 0;
   const auto frame = phone.run("print [window frame]");
   bench::require(std::sscanf(frame.c_str(), "{{0, %lf}", &top) == 1, frame);
-  // Less what a finger moves before it is known to drag.
+  // Minus the distance that a finger moves before the drag begins.
   bench::require(std::abs(top - (kHangs + kDragFrames * kDragStep)) <= 2.5 * kDragStep,
                  "the banner does not follow: " + frame);
   phone.touch(TouchPhase::Ended, finger);

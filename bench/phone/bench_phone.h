@@ -15,7 +15,7 @@
 
 namespace bench {
 
-/// What is on the phone's screen after a frame.
+/// A screen whose last frame can be read.
 class WatchedScreen final : public host::screen::Screen {
  public:
   void show(const host::screen::Picture& picture,
@@ -31,57 +31,58 @@ class WatchedScreen final : public host::screen::Screen {
   int frames_ = 0;
 };
 
-/// The model that the phone is.
+/// The phone's model.
 inline constexpr const char* kBenchDevice = "iPhone7,2";
 
 enum class Pace {
   kStepped,
   kReal,
-  /// The screen is stepped; music plays and covers are decoded beside it, in their own time.
+  /// The screen is stepped; music plays and covers are decoded in real time.
   kSteppedScreen,
 };
 
-/// The music of a phone: folders of this machine, and what puts them into the new device's index
-/// before anything is started. None is the demo music.
+/// The music of a phone: folders of this machine, and a function that adds them to the new device's
+/// index before anything is started. Without folders, the phone has the demo music.
 struct Music {
   std::vector<std::filesystem::path> folders;
   std::function<void(const std::filesystem::path& index)> remember;
 };
 
-/// A whole phone in this process, on a new device, with the extension loaded. One lives at a time.
+/// A whole phone in this process, on a new device, with the extension loaded. Only one may exist at
+/// a time.
 class BenchPhone {
  public:
-  /// The preferences are the text of a property list, there before the extension is.
+  /// The preferences are the text of a property list, written before the extension is loaded.
   BenchPhone(Pace pace, std::string_view preferences, const Music& music = {});
   ~BenchPhone();
   BenchPhone(const BenchPhone&) = delete;
   BenchPhone& operator=(const BenchPhone&) = delete;
 
   void write_preferences(std::string_view text) const;
-  /// Carries out a line of the console; ends the program if that is refused.
+  /// Executes a line of the console; ends the program if it fails.
   std::string run(std::string_view line);
   /// The object in one of the extension's shared variables.
   objc::Object global(std::string_view name) const;
   /// Stepped: serves what is ready without moving the clock.
   void turn() { loop_.advance_to(stepped_, stepped_.now()); }
-  /// Stepped: moves the clock on by one frame of the screen and serves all that is due until then.
+  /// Stepped: advances the clock by one frame of the screen and serves everything that is due.
   void frame();
-  /// Stepped screen: serves what threads beside the screen have brought, until they rest.
+  /// Stepped screen: serves the results of background threads until they are idle.
   void settle();
-  /// Real: serves the loop for so long.
+  /// Real: serves the loop for that time.
   void live(double seconds);
   void touch(host::screen::TouchPhase phase, CGPoint point) { hands_.touch(kFinger, phase, point); }
 
-  /// Of the device's own files.
+  /// The root folder of the device's files.
   const std::filesystem::path& root() const { return root_; }
   const WatchedScreen& screen() const { return screen_; }
   const host::quartzcore::Compositor& compositor() const { return phone_screen_->compositor(); }
-  /// A copy of what is on the screen, row by row without gaps.
+  /// A copy of the screen's pixels, row by row without gaps.
   std::vector<std::uint32_t> pixels() const;
 
  private:
   static constexpr int kFinger = 1;
-  /// Of the default device, in points.
+  /// The default device's screen, in points.
   static constexpr CGSize kScreen{375, 667};
 
   std::filesystem::path root_;
@@ -98,7 +99,7 @@ class BenchPhone {
   std::unique_ptr<host::console::Session> session_;
 };
 
-/// Ends the program with the reason when what was measured is not what was meant to be.
+/// Ends the program with the reason when the benchmark did not measure what it should.
 void require(bool is_so, std::string_view what);
 
 }  // namespace bench

@@ -5,8 +5,8 @@
 
 #include "bench/phone/frame_series.h"
 
-// What a frame of the phone costs, from the touch to the finished picture, against a plain copy of
-// one frame.
+// Measures the cost of a frame of the phone, from the touch to the finished picture, relative to a
+// plain copy of one frame.
 
 namespace {
 
@@ -18,15 +18,15 @@ using Pixels = std::vector<std::uint32_t>;
 
 constexpr int kRounds = 5;
 constexpr int kDragFrames = 45;
-// A glide, the icon's way and the fade of the contents.
+// The glide, the icon's flight and the fade of the contents.
 constexpr int kPresentFrames = 84;
 constexpr int kOpenFrames = 100;
-// The player starts in its own time, and so the status bar says that it plays.
+// The player starts asynchronously, so the status bar may or may not show that it plays.
 constexpr double kStatusBarSign = 0.0005;
 constexpr useconds_t kCoverTime = 100'000;
 constexpr CGPoint kDragStep{1, -5};
 
-/// Share of the pixels in which two pictures differ noticeably.
+/// The share of pixels in which two pictures differ noticeably.
 double difference(const Pixels& a, const Pixels& b) {
   std::size_t count = 0;
   for (std::size_t i = 0; i < a.size(); ++i) {
@@ -39,7 +39,7 @@ double difference(const Pixels& a, const Pixels& b) {
   return static_cast<double>(count) / static_cast<double>(a.size());
 }
 
-/// The pixels round a point of the screen, in points.
+/// The pixels around a point of the screen, in points.
 Pixels patch(const BenchPhone& phone, const Pixels& pixels, CGPoint centre) {
   constexpr int kHalf = 20;
   const int width = phone.screen().picture().width;
@@ -73,7 +73,7 @@ struct Pictures {
   Pixels panel;
 };
 
-// The middle of an icon's picture, from its view's corner.
+// The centre of an icon's picture, relative to its view's corner.
 constexpr CGPoint kIconMiddle{30, 30};
 
 void drag_out(BenchPhone& phone, Stopwatch& watch, Series& series, const Pixels& home) {
@@ -101,7 +101,7 @@ void drag_out(BenchPhone& phone, Stopwatch& watch, Series& series, const Pixels&
 
 Pictures open_and_close(BenchPhone& phone, Figures& figures, Behind behind) {
   Stopwatch watch(phone);
-  // A song whose cover has not been on the screen yet.
+  // A song whose cover has not been shown yet.
   phone.run("print [[SBMediaController sharedInstance] changeTrack:1]");
   phone.run("advance 1");
   phone.settle();
@@ -111,22 +111,22 @@ Pictures open_and_close(BenchPhone& phone, Figures& figures, Behind behind) {
   const std::uint64_t blurs = phone.compositor().blur_count();
   drag_out(phone, watch, figures.drag, pictures.home);
   watch.frames(figures.present, kPresentFrames);
-  // The new cover was blurred when it came, not while the panel was fading in over it.
+  // The new cover was blurred when it arrived, not while the panel was fading in over it.
   if (behind == Behind::kArtwork)
     bench::require(phone.compositor().blur_count() == blurs, "a frame of the opening blurred");
   phone.run("expect isShow == YES");
   pictures.panel = phone.pixels();
-  bench::require(difference(pictures.home, pictures.panel) > 0.5, "the panel is not to be seen");
-  // Texts fade and controls move down and up again, another cover comes, the ring runs.
+  bench::require(difference(pictures.home, pictures.panel) > 0.5, "the panel is not visible");
+  // Texts fade, controls move down and up again, the cover changes, the ring runs.
   for (const char* line : {"tap on play", "tap on play", "tap on next"}) {
     phone.run(line);
     watch.frames(figures.open, kOpenFrames / 2);
-    // Frames are painted faster here than they are shown: meanwhile the cover is decoded.
+    // Frames are painted faster here than on a screen; give the cover time to be decoded.
     usleep(kCoverTime);
     watch.frames(figures.open, kOpenFrames / 2);
   }
   if (behind == Behind::kArtwork)
-    bench::require(difference(pictures.panel, phone.pixels()) > 0.3, "no other cover came");
+    bench::require(difference(pictures.panel, phone.pixels()) > 0.3, "the cover did not change");
   phone.run("button home");
   phone.run("advance 2");
   phone.settle();

@@ -9,8 +9,8 @@
 
 namespace bench {
 
-/// Times of the frames of one movement, and of copies of a frame made in between. Both are times of
-/// this thread on its core, so that other programs do not count.
+/// Times of the frames of one movement, and of copies of a frame made in between. Both are this
+/// thread's CPU time, which excludes other programs.
 struct Series {
   std::vector<double> frames;
   std::vector<double> copies;
@@ -20,8 +20,8 @@ class Stopwatch {
  public:
   explicit Stopwatch(BenchPhone& phone) : phone_(phone) {}
 
-  /// One frame that begins with `work`, which is a touch or nothing. A frame in which nothing was
-  /// painted is left out: it would only flatter.
+  /// Runs one frame that begins with `work`, a touch or nothing. A frame in which nothing was
+  /// painted is not counted: it would improve the result.
   template <class Work>
   void frame(Series& series, Work work) {
     const int before = phone_.screen().frames();
@@ -44,7 +44,7 @@ class Stopwatch {
   std::vector<unsigned char> copy_;
 };
 
-/// Two lines: the median frame and the worst one, against the median copy of a frame.
+/// Prints two lines: the median and the worst frame, relative to the median copy of a frame.
 void print_frames(std::string_view what, const Series& series);
 
 }  // namespace bench

@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace host;
 
-// As many as there are pictures to tell apart; the files are all different ones.
+// The number of different pictures; each album still has its own file.
 constexpr int kPictures = 40;
 constexpr int kCoverSide = 300;
 
@@ -29,7 +29,7 @@ void write_file(const fs::path& file, std::string_view bytes) {
   std::ofstream(file, std::ios::binary) << bytes;
 }
 
-/// Stripes in colours of their own, light ones and dark ones.
+/// Makes a cover with stripes in its own light and dark colours.
 Bytes make_cover(const fs::path& scratch, int number) {
   std::string drawing = fmt::format("P6 {} {} 255\n", kCoverSide, kCoverSide);
   for (int y = 0; y < kCoverSide; ++y) {
@@ -114,7 +114,7 @@ void LargeLibrary::remember(const fs::path& path) const {
                                    [](const std::string&, const std::string&) {}};
   media::walk_folders({roots.data(), 1}, visitor, {});
   require(changes.songs.size() == kSongs && index.apply(changes), "the songs in the index");
-  // The demo music is read as ever, and nothing else has to be.
+  // Only the demo music is read, as usual.
   const auto outcome = media::scan_folders(index, roots, [](const media::ScanProgress&) {});
   require(outcome.progress.read < kSongs / 100, "the index knows the songs");
   require(outcome.library->tracks().size() == kSongs + outcome.progress.read, "the whole library");

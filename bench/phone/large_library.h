@@ -6,9 +6,9 @@
 
 namespace bench {
 
-/// A library of 100,000 songs in 5,000 albums, each with a cover of its own, besides the demo
-/// music: real folders and files, of which only the demo music can be played. The files are removed
-/// again at the end.
+/// A library of 100,000 songs in 5,000 albums, each with its own cover, besides the demo music:
+/// real folders and files, of which only the demo music can be played. The destructor removes the
+/// files.
 class LargeLibrary {
  public:
   static constexpr int kAlbums = 5000;
@@ -20,7 +20,7 @@ class LargeLibrary {
   LargeLibrary(const LargeLibrary&) = delete;
   LargeLibrary& operator=(const LargeLibrary&) = delete;
 
-  /// What a phone is started with: it finds the library as an earlier start would have left it.
+  /// The music to start a phone with, which finds the library as if from an earlier start.
   Music music() const;
 
  private:

@@ -6,8 +6,8 @@
 #include "bench/phone/large_library.h"
 #include "bench/phone/own_programs.h"
 
-// Music as a process of its own, on the phone of somebody who has 100,000 songs: how long it takes
-// to open, and what a frame of its gliding list costs both processes together.
+// Measures Music as a separate process on a phone with 100,000 songs: the time to open it, and the
+// cost of a frame of its gliding list for both processes together.
 
 namespace {
 
@@ -24,7 +24,7 @@ constexpr int kFlingFrames = 7;
 constexpr double kFlingStep = 45;
 constexpr int kGlideFrames = 60;
 
-/// Seconds that a whole process has run on the machine's cores.
+/// The CPU time of a whole process, in seconds.
 class ProcessTime {
  public:
   explicit ProcessTime(pid_t process) {
@@ -55,7 +55,7 @@ double offset(BenchPhone& phone) {
   return y;
 }
 
-/// What a frame costs here and there, less what a copy of one costs for comparison.
+/// The cost of a frame in both processes, and the cost of a copy of a frame for comparison.
 class SharedFrames {
  public:
   SharedFrames(BenchPhone& phone, pid_t music) : watch_(phone), music_(music) {}

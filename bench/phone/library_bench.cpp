@@ -12,8 +12,8 @@
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UITableView.h"
 
-// The phone of somebody who has 100,000 songs and 5,000 albums: how it scrolls, zooms, starts, and
-// what a new song and new preferences cost it.
+// Measures a phone with 100,000 songs and 5,000 albums: scrolling, zooming, starting, and the cost
+// of a new song and of new preferences.
 
 namespace {
 
@@ -66,7 +66,7 @@ void open_page(BenchPhone& phone, int page) {
   phone.run("advance 1");
 }
 
-/// Presses, drags and lets go at full speed, and watches until it stands still.
+/// Presses, drags and releases at full speed, and watches until the view is at rest.
 void fling(BenchPhone& phone, Stopwatch& watch, Series& series, const char* view) {
   CGPoint finger = kMiddle;
   watch.frame(series, [&] { phone.touch(TouchPhase::Began, finger); });
@@ -154,7 +154,7 @@ void tap(BenchPhone& phone, Stopwatch& watch, Series& series, CGPoint point) {
 
 void measure_zoom(BenchPhone& phone) {
   constexpr CGPoint kTile{130, 330};
-  // Below the zoomed tile, still in the strip.
+  // Below the zoomed tile, but inside the strip.
   constexpr CGPoint kBeside{187, 465};
   Stopwatch watch(phone);
   Series in, out;
@@ -172,7 +172,7 @@ void measure_zoom(BenchPhone& phone) {
   bench::print_frames("zooming an album out", out);
 }
 
-/// How many parts of the tiles wear these colours.
+/// The number of tile parts that have these colours.
 int coloured_parts(BenchPhone& phone, UIColor border, UIColor text) {
   const objc::AutoreleasePool pool;
   int count = 0;
@@ -188,7 +188,7 @@ int coloured_parts(BenchPhone& phone, UIColor border, UIColor text) {
   return count;
 }
 
-/// Songs that can be played, one of each of two albums.
+/// Returns two playable songs from different albums.
 std::vector<NSUInteger> playable_songs(BenchPhone& phone) {
   std::vector<NSUInteger> found;
   NSString last_album;

@@ -11,7 +11,7 @@
 
 namespace bench {
 
-/// Applications as processes of a phone that has no supervisor.
+/// Applications as processes on a phone without a supervisor.
 class OwnPrograms final : public host::springboard::ProcessKeeper {
  public:
   explicit OwnPrograms(const BenchPhone& phone)

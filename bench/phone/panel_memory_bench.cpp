@@ -8,9 +8,9 @@
 #include "host/launcher/throwaway_folder.h"
 #include "platform/UIKit/UIScrollView.h"
 
-// How much more memory a phone keeps in use with 100,000 songs and 5,000 covers than one with an
-// empty library: the panel was opened, every row of the list and every tile of the strip was on the
-// screen, and every title was searched. Each phone is a process of its own.
+// Measures how much more memory a phone with 100,000 songs and 5,000 covers keeps than one with an
+// empty library, after opening the panel, showing every row of the list and every tile of the
+// strip, and searching every title. Each phone is a separate process.
 
 namespace {
 
@@ -21,7 +21,7 @@ using bench::require;
 constexpr double kMostMegabytes = 150;
 constexpr const char* kPreferences = "{ enable = 1; cover = 1; checked = 1; }";
 constexpr double kPageWidth = 375;
-// Covers are decoded beside the screen: now and then somebody has to wait for them.
+// Covers are decoded in the background, so the benchmark waits for them at intervals.
 constexpr int kScreensBetweenWaits = 8;
 constexpr useconds_t kWait = 2000;
 
@@ -47,7 +47,7 @@ void in_a_process(Work work) {
   require(::waitpid(child, &status, 0) == child && status == 0, "a process of the benchmark");
 }
 
-/// Shows every part of what a scroll view of the panel holds.
+/// Scrolls through the whole contents of a scroll view of the panel. Returns the number of screens.
 int scroll_past_all(BenchPhone& phone, const char* name) {
   const auto view = objc::cast<UIScrollView>(phone.global(name));
   const double screen = view.bounds().size.height;
@@ -108,7 +108,7 @@ double megabytes_in_a_process(const bench::Music& music, std::size_t songs) {
 int main() {
   const LargeLibrary library;
   bench::Music large = library.music();
-  // What filling the index takes is not the phone's.
+  // The memory for filling the index must not count as the phone's.
   large.remember = [remember = large.remember](const std::filesystem::path& index) {
     in_a_process([&] { remember(index); });
   };

@@ -5,8 +5,8 @@
 #include "platform/Foundation/NSValue.h"
 #include "platform/SpringBoard/SpringBoard.h"
 
-// What a look at the preferences costs when nothing has changed, ten times a second for as long as
-// the phone lives. The reference is the time that it may take.
+// Measures a poll of unchanged preferences, which happens ten times a second for as long as the
+// phone runs. The reference is the time that it may take.
 
 namespace {
 
@@ -61,7 +61,7 @@ int main() {
   const double poll = seconds_of_one([&] { objc::send<>(springboard, "changePreferences"_sel); });
   const double read = seconds_of_one(loaded);
   const double watch = seconds_of_one([&] { objc::send<>(springboard, "Loping1"_sel); });
-  // It must have looked, and must still look: a cleared mark is set again by the next poll.
+  // Check that polling really happens: the next poll must set a cleared mark again.
   phone.write_preferences(property_list(kCleared));
   bench::require(loaded().count() == 1, "a change is not seen");
   objc::send<>(springboard, "changePreferences"_sel);

@@ -6,13 +6,13 @@
 #include "bench/phone/bench_phone.h"
 #include "bench/support/ratio.h"
 
-// What a phone costs that nobody touches, panel closed, in real time: `rest_bench [SECONDS]`. All
-// threads of the process count, in user and system time.
+// Measures an untouched phone with its panel closed, in real time: `rest_bench [SECONDS]`. The cost
+// is the user and system time of all threads of the process.
 
 namespace {
 
 constexpr double kSeconds = 60;
-// Until the music has been read and the home screen stands still.
+// The time until the music has been read and the home screen is at rest.
 constexpr double kWarmUp = 5;
 constexpr double kAllowedShare = 0.01;
 constexpr double kSecondsInMinute = 60;

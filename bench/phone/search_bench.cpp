@@ -1,5 +1,5 @@
-// One key in the search field of the open panel, until the table shows what was found, beside a
-// pass of case-folding `memmem` over the same titles, and beside SQLite's `LIKE`. All three must
+// Measures one key in the search field of the open panel, until the table shows the results,
+// relative to a case-folding `memmem` over the same titles, and to SQLite's `LIKE`. All three must
 // find the same songs.
 
 #include <fmt/core.h>
@@ -29,7 +29,7 @@ constexpr double kMostToMemmem = 2;
 constexpr double kMostToLike = 0.1;
 constexpr const char* kQueries[] = {"a", "lov", "zanzibar", "no such title"};
 
-// Titles as songs have them: a few words, capitals, now and then a number or a letter beyond ASCII.
+// Realistic titles: a few words, capitals, occasionally a number or a letter beyond ASCII.
 std::string make_title(std::mt19937& random) {
   static constexpr const char* words[] = {
       "Love",   "Night", "Blue",  "the",  "of",   "Dance",    "River", "In",   "Heart",
@@ -87,7 +87,7 @@ std::size_t search_table(Database& database, const std::string& wanted) {
   return hits;
 }
 
-// The panel with other songs in its list than the phone's own.
+// Replaces the songs in the panel's list.
 class SongList {
  public:
   SongList(BenchPhone& phone, const std::shared_ptr<const Library>& library)
@@ -102,9 +102,9 @@ class SongList {
     key();
   }
 
-  // What the finger on the field sets off.
+  // Does what a finger on the field triggers.
   void begin() { objc::send<>(springboard_, "textFieldDidBeginEditing:"_sel, field_); }
-  // One key: the field has another text, and in the end the table has other rows.
+  // Types one key: changes the field's text and updates the table. Returns the number of rows.
   std::size_t type(NSString typed) {
     const objc::AutoreleasePool pool;
     field_.setText(typed);

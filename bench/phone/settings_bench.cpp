@@ -2,9 +2,9 @@
 #include "platform/UIKit/UINavigationController.h"
 #include "platform/UIKit/UIWindow.h"
 
-// What a frame of the settings' pages costs while something moves on them, against a plain copy of
-// one frame. The pages are shown in a window of the home screen's process: they are drawn there as
-// in their own.
+// Measures a frame of the settings' pages while something moves on them, relative to a plain copy
+// of one frame. The pages are shown in a window of the home screen's process, which draws them like
+// their own process.
 
 namespace {
 
@@ -14,7 +14,7 @@ using bench::Stopwatch;
 using host::screen::TouchPhase;
 
 constexpr CGRect kScreen{0, 0, 375, 667};
-// Above all that the home screen shows.
+// Above everything that the home screen shows.
 constexpr CGFloat kLevel = 1500;
 constexpr int kShimmerFrames = 300;
 constexpr int kWaveFrames = 320;
@@ -23,7 +23,7 @@ constexpr int kFingerFrames = 15;
 constexpr int kGlideFrames = 45;
 constexpr CGFloat kFingerStep = 18;
 
-/// A new object of a class that the extension brings.
+/// A new object of one of the extension's classes.
 template <class T>
 T make(const char* name) {
   const objc::Class cls = objc_getClass(name);
@@ -31,7 +31,7 @@ T make(const char* name) {
   return objc::send<T>(objc::send<NSObject>(objc::Object(cls), "alloc"_sel), "init"_sel);
 }
 
-/// The settings' first page on the screen, and what is opened from it.
+/// The settings' first page on the screen, and the pages that it opens.
 class SettingsPages {
  public:
   explicit SettingsPages(BenchPhone& phone)

@@ -4,7 +4,7 @@
 
 namespace bench {
 
-/// Seconds that this thread has run on its core: what other programs do meanwhile does not count.
+/// This thread's CPU time in seconds, which excludes other programs.
 inline double core_seconds() {
   timespec time;
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);

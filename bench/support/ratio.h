@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <vector>
 
-// A benchmark here is a pair: what is measured and a reference that is run beside it, in turns, so
-// that a slow moment of the machine falls on both. What is printed is their ratio.
+// A benchmark here is a pair: the measured work and a reference, run in turns to share slow moments
+// of the machine. Their ratio is printed.
 
 namespace bench {
 
@@ -32,7 +32,7 @@ struct Pair {
   Times reference;
 };
 
-/// Runs both `rounds` times in turns, after one round that does not count.
+/// Runs both `rounds` times in turns, after one uncounted round.
 template <class Work, class Reference>
 Pair in_turns(int rounds, Work work, Reference reference) {
   work();
@@ -46,14 +46,14 @@ Pair in_turns(int rounds, Work work, Reference reference) {
   return {summary(std::move(measured)), summary(std::move(referred))};
 }
 
-/// One line: the median, the reference's median, their ratio, and the ratio that is aimed at.
+/// Prints one line: the median, the reference's median, their ratio, and the target ratio.
 inline void print_ratio(const char* name, double measured, double reference, double aim) {
   const double ratio = measured / reference;
   std::printf("%-46s %12.3f us / %12.3f us = %8.2f   (aim: at most %g)%s\n", name, measured * 1e6,
               reference * 1e6, ratio, aim, ratio <= aim ? "" : "   MISSED");
 }
 
-/// Keeps the compiler from seeing through a value.
+/// Hides a value from the optimiser.
 template <class T>
 inline void keep(T& value) {
   asm volatile("" : "+m"(value) : : "memory");

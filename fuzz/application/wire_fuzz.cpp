@@ -6,7 +6,7 @@ using namespace host::application;
 
 namespace {
 
-/// What was read is written as the same bytes, wherever the pieces were cut.
+/// Checks that messages, read in pieces of any size, are encoded as the same bytes again.
 template <class Messages>
 void read_in_pieces(std::string_view bytes, std::size_t piece) {
   MessageReader<Messages> reader;
@@ -22,7 +22,7 @@ void read_in_pieces(std::string_view bytes, std::size_t piece) {
 
 }  // namespace
 
-// The first byte says how large the pieces are that the rest comes in.
+// The first byte is the size of the pieces in which the rest is read.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size < 2) return 0;
   const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1);

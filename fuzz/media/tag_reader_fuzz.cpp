@@ -7,7 +7,7 @@
 #include "host/media/tag_reader.h"
 #include "host/media/text.h"
 
-// The first byte chooses the kind of file, since the reader goes by the name first.
+// The first byte selects the file's suffix, since the reader looks at the name first.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static constexpr const char* suffixes[] = {".flac", ".mp3", ".ogg", ".opus", ".m4a", ".wav"};
   if (size < 2) return 0;

@@ -6,8 +6,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-// Runs a fuzz target over the files named on the command line, with any compiler. Ends with status
-// 0 when none of them brought it down, and 2 when a file cannot be read.
+// Runs a fuzz target over the files named on the command line, with any compiler. Exits with status
+// 0 if none of them crashes it, and 2 if a file cannot be read.
 int main(int count, char** names) {
   for (int i = 1; i < count; ++i) {
     std::ifstream file{names[i], std::ios::binary};

@@ -12,13 +12,13 @@
 #include "ui/M13ProgressView.h"
 #include "ui/M13ProgressViewRing.h"
 
-// Every binding is held against what this process really implements: the class is there, it answers
-// the selector, and with the same types. And against what is known of the phone's systems: one of
-// them has it, with the same types.
+// Every binding is compared with this process: the class exists and responds to the selector, with
+// the same types. It is also compared with the facts about the phone's systems: one of them has it,
+// with the same types.
 
 namespace {
 
-// Handles for what a delegate may answer; no class implements them.
+// Handles for delegate protocols, which no class implements.
 bool is_protocol(std::string_view name) {
   return name.ends_with("Delegate") || name.ends_with("DataSource") || name == "LAListener";
 }
@@ -33,7 +33,7 @@ const sonavue::device::Knowledge& knowledge() {
   return known;
 }
 
-/// What is asked for before it is sent need not be there.
+/// A message whose existence is checked before it is sent may be missing.
 bool is_guarded(const objc::Binding& binding) {
   return knowledge().lists.guarded.count(message_of(binding).name()) != 0;
 }
@@ -66,7 +66,7 @@ struct AuditTest : ::testing::Test {
   host::RunLoop loop;
 };
 
-TEST_F(AuditTest, EveryBindingIsAnsweredWithTheSameTypes) {
+TEST_F(AuditTest, EveryBindingIsImplementedWithTheSameTypes) {
   int checked = 0;
   for (const objc::Binding* at = objc::Binding::first; at; at = at->next) {
     if (is_protocol(at->class_name) || is_guarded(*at)) continue;
@@ -76,7 +76,7 @@ TEST_F(AuditTest, EveryBindingIsAnsweredWithTheSameTypes) {
   EXPECT_GT(checked, 500) << "the table of bindings is not what it should be";
 }
 
-TEST(Facts, TellOfEveryBinding) {
+TEST(Facts, ListEveryBinding) {
   const auto& known = knowledge();
   for (const objc::Binding* at = objc::Binding::first; at; at = at->next) {
     if (known.own.count(at->class_name) != 0) continue;

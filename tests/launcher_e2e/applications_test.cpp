@@ -6,7 +6,7 @@ namespace {
 
 using namespace launcher_e2e;
 
-/// A phone with its applications as processes of their own.
+/// A phone with its applications as separate processes.
 class Applications : public PhoneTest {
  protected:
   Applications() : phone_(headless({"--console"})) {}
@@ -37,7 +37,7 @@ TEST_F(Applications, MusicIsAProcessBesideTheHomeScreenAndListsItsSongs) {
       "ok");
 }
 
-TEST_F(Applications, ARestartOfTheHomeScreenLeavesMusicRunningAsItWas) {
+TEST_F(Applications, MusicSurvivesARestartOfTheHomeScreen) {
   open_music();
   const pid_t music = phone_.child("Music");
   ASSERT_NE(music, 0);
@@ -56,13 +56,13 @@ TEST_F(Applications, ARestartOfTheHomeScreenLeavesMusicRunningAsItWas) {
   open_music();
   EXPECT_EQ(phone_.child("Music"), music);
   EXPECT_EQ(ask_music(top), before);
-  // It still does what fingers want of it, with a clock that has begun anew.
+  // It still reacts to fingers, with a clock that has started again.
   ASSERT_EQ(phone_.ask("drag 2 300 350 300 0.3"), "ok");
   ASSERT_EQ(phone_.ask("advance 1"), "ok");
   EXPECT_NE(ask_music(top), before);
 }
 
-TEST_F(Applications, ACrashIsALineInTheLogAndTheHomeScreenIsThere) {
+TEST_F(Applications, ACrashIsOneLogLineAndTheHomeScreenAppears) {
   open_music();
   const pid_t music = phone_.child("Music");
   kill(music, SIGSEGV);

@@ -21,7 +21,7 @@ SongTags titled(std::string title) {
   return tags;
 }
 
-/// Replaces one text in a file by another of its length.
+/// Replaces one text in a file with another of the same length.
 void patch(const std::string& path, std::string_view old, std::string_view text) {
   std::string bytes = read_bytes(path);
   const auto place = bytes.find(old);
@@ -31,7 +31,7 @@ void patch(const std::string& path, std::string_view old, std::string_view text)
   write_bytes(path, bytes);
 }
 
-/// A folder of music as found on an old disk. What it says about a file is one line in the log.
+/// A folder of music as found on an old disk. Each bad file is one line in the log.
 class BadMusic : public PhoneTest {
  protected:
   BadMusic() {
@@ -93,7 +93,7 @@ class BadMusic : public PhoneTest {
   }
 };
 
-// Songs with a title, seven of them, and a cut one where enough of it is left.
+// Seven songs with a title; a truncated one may count, too, if enough of it is left.
 constexpr int kFewestSongs = 7;
 
 int number_in(const std::string& answer) {
@@ -119,7 +119,7 @@ TEST_F(BadMusic, IsSkippedOrShownAndCountedAndLoggedOnceEach) {
   EXPECT_EQ(again.count_of_errors_with("files skipped"), 1);
 }
 
-TEST_F(BadMusic, EverySongOfItPlaysOrIsPassedOverInTheOpenPanel) {
+TEST_F(BadMusic, EverySongPlaysOrIsSkippedInTheOpenPanel) {
   switch_drag_on();
   RunningPhone phone(headless({"--console", "--screenshots", folder() / "screenshots"}),
                      Hardship::kOrdinaryUser);
@@ -137,7 +137,7 @@ TEST_F(BadMusic, EverySongOfItPlaysOrIsPassedOverInTheOpenPanel) {
     phone.ask("print [musicPlayer setNowPlayingItem:[[" + query +
               " items] objectAtIndex:" + std::to_string(song) + "]]");
     phone.ask("print [musicPlayer play]");
-    // The panel looks once a second, before the song of a second is over.
+    // The panel refreshes once a second, and must do so before the one-second song is over.
     phone.ask("advance 0.6");
     phone.ask("print [[SpringBoard sharedApplication] infoMusic]");
     titles.insert(phone.ask("print [title text]"));
@@ -154,7 +154,7 @@ TEST_F(BadMusic, EverySongOfItPlaysOrIsPassedOverInTheOpenPanel) {
 
 using NoMusic = PhoneTest;
 
-TEST_F(NoMusic, IsAPhoneWhosePanelOpensAllTheSame) {
+TEST_F(NoMusic, StillOpensThePanel) {
   switch_drag_on();
   fs::remove(music() / "tone.flac");
   RunningPhone phone(headless({"--console"}));
@@ -173,7 +173,7 @@ TEST_F(NoMusic, IsAPhoneWhosePanelOpensAllTheSame) {
   EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
 }
 
-TEST_F(NoMusic, IsReadBesideARunningScreenAsWell) {
+TEST_F(NoMusic, IsScannedBesideARunningScreen) {
   RunningPhone phone(headless());
   EXPECT_TRUE(phone.waits_for_error("1 songs (0 files skipped)"));
 }

@@ -19,14 +19,14 @@ class BadCommandLines : public PhoneTest {
   }
 };
 
-TEST_F(BadCommandLines, MusicThatNamesNothing) {
+TEST_F(BadCommandLines, AMissingMusicFolder) {
   expect_refusal({"--headless", "--root", root(), "--music", folder() / "nothing"},
                  (folder() / "nothing is not a folder of music").string());
   expect_refusal({"--headless", "--root", root(), "--music", music() / "tone.flac"},
                  "is not a folder of music");
 }
 
-TEST_F(BadCommandLines, ADeviceThatNobodyKnows) {
+TEST_F(BadCommandLines, AnUnknownDevice) {
   expect_refusal(headless({"--device", "iPhone99,9"}), "unknown device iPhone99,9");
 }
 

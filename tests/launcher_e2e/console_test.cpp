@@ -24,7 +24,7 @@ std::vector<std::string> state_of(RunningPhone& phone) {
   return state;
 }
 
-TEST_F(Console, LinesThatCannotBeUnderstoodNameTheColumnAndChangeNothing) {
+TEST_F(Console, InvalidLinesNameTheColumnAndChangeNothing) {
   RunningPhone phone(headless({"--console"}));
   ASSERT_EQ(phone.ask("advance 1"), "ok");
   const auto before = state_of(phone);
@@ -75,7 +75,7 @@ TEST_F(Console, LinesOfAbsurdSizeAreRefusedAndTheNextIsServed) {
   EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
 }
 
-TEST_F(Console, MessagesThatRaiseAreErrorsAndThePhoneGoesOn) {
+TEST_F(Console, MessagesThatRaiseAreErrorsAndThePhoneContinues) {
   RunningPhone phone(headless({"--console"}));
   const pid_t process = phone.wait_for_home_screen_after(0);
   EXPECT_THAT(phone.ask("print [@\"abc\" substringFromIndex:99]"), StartsWith("error: "));

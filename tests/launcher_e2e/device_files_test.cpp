@@ -36,7 +36,7 @@ TEST_F(PreferencesFile, IsMadeAtTheFirstStart) {
   EXPECT_EQ(phone.ask(kChecked), "YES");
 }
 
-TEST_F(PreferencesFile, ThatIsMalformedIsWrittenAnewAndComplainedAboutOnce) {
+TEST_F(PreferencesFile, IsRewrittenIfMalformedWithOneComplaint) {
   media_tests::write_bytes(preferences(), "<plist><dict><key>cover</key>");
   RunningPhone phone(headless({"--console"}));
   expect_life(phone);
@@ -44,7 +44,7 @@ TEST_F(PreferencesFile, ThatIsMalformedIsWrittenAnewAndComplainedAboutOnce) {
   EXPECT_LE(phone.count_of_errors_with("warning: File NSDictionary.m"), 1);
 }
 
-TEST_F(PreferencesFile, ThatIsAFolderStaysOneAndIsComplainedAboutOnceAPlace) {
+TEST_F(PreferencesFile, StaysIfItIsAFolderWithOneComplaintPerPlace) {
   fs::create_directories(preferences());
   RunningPhone phone(headless({"--console"}));
   expect_life(phone);
@@ -54,13 +54,13 @@ TEST_F(PreferencesFile, ThatIsAFolderStaysOneAndIsComplainedAboutOnceAPlace) {
   EXPECT_EQ(phone.count_of_errors_with("Is a directory"), 1);
 }
 
-TEST_F(PreferencesFile, ThatMayNotBeReadIsWrittenAnew) {
+TEST_F(PreferencesFile, IsRewrittenIfUnreadable) {
   std::ofstream(preferences()) << "{ cover = NO; }";
   chmod(preferences().c_str(), 0);
   RunningPhone phone(headless({"--console"}), Hardship::kOrdinaryUser);
   expect_life(phone);
   EXPECT_EQ(phone.ask("quit"), "ok");
-  // Its permissions are the user's own and stay as they are.
+  // The file's permissions are the user's and stay as they are.
   chmod(preferences().c_str(), 0600);
   const std::string text = media_tests::read_bytes(preferences());
   EXPECT_THAT(text, HasSubstr("checked"));
@@ -69,7 +69,7 @@ TEST_F(PreferencesFile, ThatMayNotBeReadIsWrittenAnew) {
 
 using FullDisk = PhoneTest;
 
-TEST_F(FullDisk, LeavesAPhoneThatWorksAndSaysOnceWhatCannotBeKept) {
+TEST_F(FullDisk, LeavesAWorkingPhoneAndReportsEachLossOnce) {
   run_once();
   fs::remove(preferences());
   fs::remove_all(root() / "var/mobile/Media");
@@ -83,7 +83,7 @@ TEST_F(FullDisk, LeavesAPhoneThatWorksAndSaysOnceWhatCannotBeKept) {
   EXPECT_EQ(phone.count_of_errors_with("File too large"), 1);
 }
 
-TEST_F(FullDisk, GivesAScreenshotThatCannotBeWrittenAsAnError) {
+TEST_F(FullDisk, ReportsAScreenshotThatCannotBeWritten) {
   run_once();
   fs::create_directories(folder() / "screenshots");
   RunningPhone phone(headless({"--console", "--screenshots", folder() / "screenshots"}),

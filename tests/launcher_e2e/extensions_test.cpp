@@ -16,7 +16,7 @@ class Extensions : public PhoneTest {
   }
 };
 
-TEST_F(Extensions, OneThatCrashesFiveTimesAtLoadIsLeftOutAndThePhoneStartsWithTheOthers) {
+TEST_F(Extensions, OneThatCrashesFiveTimesWhileLoadingIsSkippedAndThePhoneStarts) {
   install("Crasher", TEST_CRASHING_EXTENSION);
   RunningPhone phone(headless());
   ASSERT_TRUE(phone.waits_for_error("loaded Sonavue2"));
@@ -25,7 +25,7 @@ TEST_F(Extensions, OneThatCrashesFiveTimesAtLoadIsLeftOutAndThePhoneStartsWithTh
   EXPECT_EQ(phone.count_of_errors_with("loaded Crasher"), 0);
 }
 
-TEST_F(Extensions, OneThatWasLeftOutStaysSoAtTheNextStart) {
+TEST_F(Extensions, ASkippedOneIsSkippedAgainAtTheNextStart) {
   install("Crasher", TEST_CRASHING_EXTENSION);
   {
     RunningPhone phone(headless());
@@ -37,7 +37,7 @@ TEST_F(Extensions, OneThatWasLeftOutStaysSoAtTheNextStart) {
   EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
 }
 
-TEST_F(Extensions, AnotherOneOfAnotherShapeWorksBesideOurs) {
+TEST_F(Extensions, AnUnrelatedOneWorksBesideOurs) {
   install("Whisper", TEST_EXTENSION);
   RunningPhone phone(headless({"--console"}));
   EXPECT_EQ(phone.ask("print [@\"hello\" uppercaseString]"), "\"HELLO (whispered)\"");
@@ -46,7 +46,7 @@ TEST_F(Extensions, AnotherOneOfAnotherShapeWorksBesideOurs) {
   EXPECT_EQ(phone.count_of_errors_with("loaded Whisper"), 1);
 }
 
-TEST_F(Extensions, AnotherOneHearsTheTapsOnTheIconThatOursDrags) {
+TEST_F(Extensions, AnotherOneReceivesTheTapsOnTheIconThatOursDrags) {
   install("Eavesdropper", TEST_LISTENING_EXTENSION);
   switch_drag_on();
   RunningPhone phone(headless({"--console"}));
@@ -66,7 +66,7 @@ TEST_F(Extensions, AnotherOneHearsTheTapsOnTheIconThatOursDrags) {
   EXPECT_EQ(phone.ask("print [Eavesdropper tappedIcons]"), "1");
 }
 
-TEST_F(Extensions, AFileThatIsNoLibraryIsOneLineAndNoCrash) {
+TEST_F(Extensions, AnInvalidLibraryIsOneLineAndNoCrash) {
   fs::create_directories(libraries());
   media_tests::write_bytes(libraries() / "Nonsense.so", "this is no library");
   std::ofstream(libraries() / "Nonsense.plist")

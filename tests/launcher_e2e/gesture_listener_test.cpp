@@ -23,8 +23,8 @@ class GestureListeners : public PhoneTest {
   ~GestureListeners() override { unsetenv("LINGERER_PIPE"); }
 
   fs::path pipe() const { return folder() / "pipe"; }
-  /// The listener comes back as soon as there is somebody at this end.
-  void let_it_go_on() const {
+  /// Makes the listener return, by opening the other end of its pipe.
+  void release_listener() const {
     const int end = open(pipe().c_str(), O_WRONLY | O_CLOEXEC);
     if (end >= 0) close(end);
   }
@@ -33,13 +33,13 @@ class GestureListeners : public PhoneTest {
       "mode:@\"springboard\"] toListenerWithName:@\"test.lingerer\"]";
 };
 
-TEST_F(GestureListeners, OneThatHangsIsNamedWhileItHangsAndThePhoneGoesOnAfterIt) {
+TEST_F(GestureListeners, OneThatHangsIsNamedWhileItHangsAndThePhoneContinues) {
   RunningPhone phone(headless({"--console"}));
   ASSERT_EQ(phone.ask(kAssign), "YES");
   phone.say("gesture shake");
-  // It hangs in the home screen's process until it is let go, so that this is said meanwhile.
+  // The listener hangs the home screen until it is released, so this line is logged meanwhile.
   EXPECT_TRUE(phone.waits_for_error("gesture listener test.lingerer hangs"));
-  let_it_go_on();
+  release_listener();
   EXPECT_EQ(phone.next_answer(), "ok");
   EXPECT_EQ(phone.ask("print isShow"), "NO");
   EXPECT_EQ(phone.count_of_errors_with("gesture listener test.lingerer hangs"), 1);

@@ -9,7 +9,7 @@ namespace {
 using namespace launcher_e2e;
 using testing::HasSubstr;
 
-/// The user's own phone: nobody says where it lies.
+/// The default phone, started without naming a root.
 class NewDevice : public PhoneTest {
  protected:
   NewDevice() { setenv("XDG_DATA_HOME", data().c_str(), 1); }
@@ -36,7 +36,7 @@ class NewDevice : public PhoneTest {
   static void hold_status_bar(RunningPhone& phone) {
     play(phone, {"touch began 187 8", "advance 0.7", "touch ended 187 8", "advance 1"});
   }
-  /// What the settings answer to a message.
+  /// Sends a message to the settings' dictionary and returns the answer.
   static std::string of_settings(RunningPhone& phone, const std::string& message) {
     return phone.ask(
         "print [[NSDictionary dictionaryWithContentsOfFile:@\"/var/mobile/Library/Preferences/"
@@ -50,7 +50,7 @@ class NewDevice : public PhoneTest {
   static constexpr const char* kPresented =
       "print [[[[UIApplication sharedApplication] keyWindow] rootViewController] "
       "presentedViewController]";
-  /// Opens the extension's page; what it presents then, or nil.
+  /// Opens the extension's page; returns what it presents then, or nil.
   static std::string presented_by_its_page(RunningPhone& phone) {
     play(phone, {"advance 1", "system open com.apple.Preferences", "advance 2", "tap 100 293",
                  "advance 2", "process Preferences"});
@@ -58,17 +58,17 @@ class NewDevice : public PhoneTest {
   }
 };
 
-TEST_F(NewDevice, OpensThePanelByItsFirstDrag) {
+TEST_F(NewDevice, OpensThePanelOnTheFirstDrag) {
   RunningPhone phone(started());
   drag_icon(phone);
   EXPECT_EQ(phone.ask("print isShow"), "YES");
   EXPECT_EQ(phone.ask("expect [[title textColor] isEqual:[UIColor whiteColor]] == YES"), "ok");
   EXPECT_EQ(phone.ask("expect [[play tintColor] isEqual:[UIColor whiteColor]] == YES"), "ok");
-  // A tap where the banner's gesture begins still closes it.
+  // A tap where the banner's gesture begins still closes the panel.
   play(phone, {"tap 187 8", "advance 1.5", "expect isShow == NO"});
 }
 
-TEST_F(NewDevice, HasASettingUnderEveryKey) {
+TEST_F(NewDevice, HasAValueForEverySetting) {
   RunningPhone phone(started());
   ASSERT_EQ(phone.ask("advance 1"), "ok");
   const std::pair<const char*, const char*> kept_values[] = {
@@ -103,7 +103,7 @@ TEST_F(NewDevice, HasGoneThroughTheWizard) {
   EXPECT_EQ(presented_by_its_page(phone), "nil");
 }
 
-TEST_F(NewDevice, KeepsWhatTheUserHasRemoved) {
+TEST_F(NewDevice, DoesNotRestoreWhatTheUserHasRemoved) {
   { RunningPhone(started()).ask("quit"); }
   ASSERT_TRUE(fs::remove(settings()));
   ASSERT_TRUE(fs::remove(gestures()));
@@ -113,7 +113,7 @@ TEST_F(NewDevice, KeepsWhatTheUserHasRemoved) {
   EXPECT_FALSE(fs::exists(gestures()));
 }
 
-TEST_F(NewDevice, IsMadeByTheNextStartWhenTheDiskHadNoRoom) {
+TEST_F(NewDevice, IsCompletedByTheNextStartAfterAFullDisk) {
   {
     RunningPhone phone(started(), Hardship::kFullDisk);
     EXPECT_EQ(phone.wait_for_end(), 2);
@@ -126,7 +126,7 @@ TEST_F(NewDevice, IsMadeByTheNextStartWhenTheDiskHadNoRoom) {
   EXPECT_TRUE(fs::exists(gestures()));
 }
 
-TEST_F(NewDevice, InAFolderThatMayNotBeWrittenIsRefused) {
+TEST_F(NewDevice, IsRefusedInAnUnwritableFolder) {
   fs::create_directories(device());
   chmod(device().c_str(), 0500);
   RunningPhone phone(started(), Hardship::kOrdinaryUser);
@@ -150,7 +150,7 @@ class UntouchedDevice : public NewDevice {
   }
 };
 
-TEST_F(UntouchedDevice, IsANewPhoneOfWhichNothingIsKept) {
+TEST_F(UntouchedDevice, IsANewPhoneThatIsDeletedAfterwards) {
   const fs::path temporary = folder() / "temporary";
   fs::create_directories(temporary);
   setenv("TMPDIR", temporary.c_str(), 1);
@@ -163,12 +163,12 @@ TEST_F(UntouchedDevice, IsANewPhoneOfWhichNothingIsKept) {
   EXPECT_FALSE(fs::exists(device()));
 }
 
-TEST_F(UntouchedDevice, LiesInARootThatIsNamed) {
+TEST_F(UntouchedDevice, IsMadeInANamedRoot) {
   RunningPhone phone(headless({"--console"}));
   expect_untouched(phone);
 }
 
-TEST_F(UntouchedDevice, IsWhatAScriptPlaysOn) {
+TEST_F(UntouchedDevice, IsUsedForAScript) {
   const fs::path script = folder() / "first.scn";
   std::ofstream(script) << "advance 1\nexpect enabled == NO\n";
   RunningPhone phone({"--headless", "--music", music(), "--script", script});

@@ -22,7 +22,7 @@ class PhoneTest : public testing::Test {
   PhoneTest() {
     fs::create_directories(music());
     media_tests::write_tone(music() / "tone.flac");
-    // Sockets of a device that was ended by force go with the folder.
+    // Sockets that a killed device leaves behind are removed with the folder.
     setenv("XDG_RUNTIME_DIR", folder_.path().c_str(), 1);
   }
   ~PhoneTest() override { unsetenv("XDG_RUNTIME_DIR"); }
@@ -41,7 +41,7 @@ class PhoneTest : public testing::Test {
     return made;
   }
 
-  /// Lets the icon's drag open the panel, as somebody does in the settings of a new phone.
+  /// Enables opening the panel by dragging the icon, as users do in the settings of a new phone.
   void switch_drag_on() const {
     fs::create_directories(preferences().parent_path());
     media_tests::write_bytes(
@@ -50,7 +50,7 @@ class PhoneTest : public testing::Test {
         "<plist version=\"1.0\"><dict><key>enable</key><true/></dict></plist>");
   }
 
-  /// A device that has run once and was switched off in good order.
+  /// Runs the device once and switches it off normally.
   void run_once() {
     RunningPhone phone(headless({"--console"}));
     ASSERT_EQ(phone.ask("quit"), "ok");

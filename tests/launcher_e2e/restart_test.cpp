@@ -13,7 +13,7 @@ using namespace launcher_e2e;
 
 using Restarts = PhoneTest;
 
-/// Runs a command as a process of this device would.
+/// Runs a command in the environment of this device's processes.
 int run_on_device_of(pid_t home_screen, const char* command) {
   std::ifstream file("/proc/" + std::to_string(home_screen) + "/environ", std::ios::binary);
   std::string text(std::istreambuf_iterator<char>(file), {});
@@ -47,7 +47,7 @@ TEST_F(Restarts, AKilledHomeScreenComesBackWithTheExtensionAndItsConsole) {
   EXPECT_EQ(phone.wait_for_end(), 0);
 }
 
-TEST_F(Restarts, KillallOnTheDeviceRestartsThisDeviceAndNoOther) {
+TEST_F(Restarts, KillallOnTheDeviceRestartsOnlyThisDevice) {
   RunningPhone phone(headless({"--console"}));
   RunningPhone other({"--headless", "--root", folder() / "other", "--music", music(), "--console"});
   ASSERT_EQ(phone.ask("print isShow"), "NO");

@@ -42,16 +42,15 @@ TEST_P(TemplateGlyph, IsRenderedForEveryScale) {
   }
 }
 
-TEST_P(TemplateGlyph, IsAShapeOnATransparentGround) {
+TEST_P(TemplateGlyph, IsAShapeOnATransparentBackground) {
   const auto picture = extension_picture(GetParam().name);
   ASSERT_TRUE(picture);
   EXPECT_GT(picture->visible_share(), 0.05);
   EXPECT_LT(picture->visible_share(), 0.7);
 }
 
-// A tint replaces the colour and keeps the alpha, so colour in a template would be lost without a
-// word.
-TEST_P(TemplateGlyph, HoldsNoColour) {
+// A tint replaces the colour and keeps the alpha, so colour in a template would be lost silently.
+TEST_P(TemplateGlyph, HasNoColour) {
   const auto picture = extension_picture(std::string(GetParam().name) + "@2x");
   ASSERT_TRUE(picture);
   for (const Pixel& pixel : picture->pixels) {
@@ -77,9 +76,8 @@ TEST(PlayAndPause, KeepClearOfTheRingAroundThem) {
   }
 }
 
-// The rasteriser counts coverage in fifteenths of a pixel from the left, so mirrored edges may
-// differ by one such step of alpha, and an edge that lay a tenth of a pixel off would differ by
-// more.
+// The rasteriser measures coverage in fifteenths of a pixel from the left, so mirrored edges may
+// differ by one such step of alpha; an edge that is a tenth of a pixel off would differ by more.
 TEST(PreviousAndNext, AreMirrorImages) {
   constexpr int rounding = 17;
   const auto previous = extension_picture("indietro@3x");

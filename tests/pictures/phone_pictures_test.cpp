@@ -76,7 +76,7 @@ TEST_P(Icon, FillsItsOutlineAndNothingElse) {
   }
 }
 
-TEST_P(Icon, ShowsMoreThanItsGround) {
+TEST_P(Icon, ShowsMoreThanItsBackground) {
   const auto picture = phone_picture(std::string("icons/") + GetParam() + "@2x");
   ASSERT_TRUE(picture);
   const Pixel left_edge = picture->at(3, 60);
@@ -115,7 +115,7 @@ TEST_P(StatusBarGlyph, IsRenderedForEveryScale) {
   }
 }
 
-TEST_P(StatusBarGlyph, IsWhiteWhereverItIsSeen) {
+TEST_P(StatusBarGlyph, IsWhiteWhereVisible) {
   const auto picture = phone_picture(std::string("status/") + GetParam().name + "@3x");
   ASSERT_TRUE(picture);
   EXPECT_GT(picture->visible_share(), 0.1);

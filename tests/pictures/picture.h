@@ -25,14 +25,14 @@ struct Picture {
 
   const Pixel& at(int x, int y) const { return pixels[static_cast<std::size_t>(y) * width + x]; }
 
-  /// The share of pixels, 0 to 1, of which anything can be seen.
+  /// The share of pixels, 0 to 1, that are not fully transparent.
   double visible_share() const;
 
   bool is_opaque() const;
 };
 
-/// Reads a picture that the build rendered, by its path below the build folder; nothing when the
-/// file is missing or no picture.
+/// Reads a picture that the build rendered, by its path below the build folder; empty when the file
+/// is missing or not a picture.
 std::optional<Picture> rendered_picture(const std::string& path);
 
 }  // namespace sonavue::test
