@@ -1,6 +1,6 @@
-# Phones on which somebody else has classes of the names that ours are to have.
+# Phones on which another extension has already registered classes under our names.
 
-# Our classes as the package's checker knows them.
+# Our classes, from the list of the package's checker.
 set(own_names ${CMAKE_SOURCE_DIR}/device/check/own_names.txt)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${own_names})
 file(STRINGS ${own_names} lines)
@@ -13,7 +13,7 @@ foreach(line IN LISTS lines)
   endif()
 endforeach()
 
-# The settings open it by its name: without it there are no pages to go through.
+# Excluded: Settings opens this class by name, and without it no page could be tested.
 set(first_page SonavueSettingsController)
 list(REMOVE_ITEM own_classes ${first_page})
 
