@@ -148,15 +148,15 @@ refused() {
 
 # Wrong arguments are seen before anything is built.
 command=$source/package
-refused 2 "Nothing is given behind --repository" "$command" --repository
-refused 2 "Nothing is given behind --repository" "$command" --repository ""
-refused 2 "Nothing is given behind --repository" "$command" --repository --address "$address"
-refused 2 "Nothing is given behind --address" "$command" --repository new --address
-refused 2 "goes with --repository" "$command" --address "$address"
-refused 2 "no option --repo" "$command" --repo new
-refused 2 "no option new" "$command" new
+refused 2 "--repository needs a value" "$command" --repository
+refused 2 "--repository needs a value" "$command" --repository ""
+refused 2 "--repository needs a value" "$command" --repository --address "$address"
+refused 2 "--address needs a value" "$command" --repository new --address
+refused 2 "--address needs --repository" "$command" --address "$address"
+refused 2 "Unknown option --repo" "$command" --repo new
+refused 2 "Unknown option new" "$command" new
 for bad in plumvane.example.org ftp://a.example file:///a http:// https:///a https:/a xhttps://a; do
-  refused 2 "begins with http" "$command" --repository new --address "$bad"
+  refused 2 "must begin with http" "$command" --repository new --address "$bad"
 done
 for bad in "https://a.example/a b" " https://a.example" "https://a.example " $'https://a.example/\nIcon: x' \
   $'https://a.example/\r' $'https://a.example\t' 'https://a.example/"' 'https://a.example/<b>' \
