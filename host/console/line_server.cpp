@@ -18,11 +18,11 @@ void LineServer::serve() {
   }
   pending_.append(bytes, static_cast<std::size_t>(count));
   busy_ = true;
-  carry_out_lines();
+  execute_lines();
   busy_ = false;
 }
 
-void LineServer::carry_out_lines() {
+void LineServer::execute_lines() {
   for (auto end = pending_.find('\n'); end != std::string::npos; end = pending_.find('\n')) {
     const std::string line = pending_.substr(0, end);
     pending_.erase(0, end + 1);

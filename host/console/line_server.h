@@ -24,7 +24,7 @@ class LineServer {
   void serve();
 
  private:
-  void carry_out_lines();
+  void execute_lines();
   void answer(const Answer& answer);
 
   int descriptor_;

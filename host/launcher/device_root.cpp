@@ -90,7 +90,7 @@ Failure prepare_device_root(const fs::path& root) {
   return std::nullopt;
 }
 
-Failure lay_first_files(const fs::path& first_files, const fs::path& root) {
+Failure copy_first_files(const fs::path& first_files, const fs::path& root) {
   if (!is_being_made(root)) return std::nullopt;
   std::error_code error;
   fs::create_directories(root, error);

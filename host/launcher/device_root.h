@@ -14,8 +14,8 @@ std::optional<std::string> prepare_device_root(const std::filesystem::path& root
 /// interrupted during the copy. Existing files stay. A complete device is never changed again, so
 /// files that the user removes stay removed. Returns the error of the first file that failed; the
 /// next start then continues.
-std::optional<std::string> lay_first_files(const std::filesystem::path& first_files,
-                                           const std::filesystem::path& root);
+std::optional<std::string> copy_first_files(const std::filesystem::path& first_files,
+                                            const std::filesystem::path& root);
 
 /// The build's files for the device.
 struct StagingSource {

@@ -41,7 +41,7 @@ std::optional<ConsoleFront> console_for(const Options& options) {
 /// Returns the reason when the device cannot be started.
 std::optional<std::string> prepare(const Options& options, const Installation& installation) {
   std::optional<std::string> reason;
-  if (options.is_set_up) reason = lay_first_files(installation.first_files, options.root);
+  if (options.is_set_up) reason = copy_first_files(installation.first_files, options.root);
   if (!reason) reason = prepare_device_root(options.root);
   if (!reason) reason = stage(installation.staging, options.root, options.without);
   return reason;

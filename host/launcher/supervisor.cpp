@@ -41,7 +41,7 @@ std::string how_it_ended(int status) {
 }
 
 /// Adds the control socket's path to the command's environment.
-ChildCommand reaching(ChildCommand command, const ControlSocket& control) {
+ChildCommand with_control_socket(ChildCommand command, const ControlSocket& control) {
   if (control) command.environment.emplace_back(kControlSocketVariable, control.path());
   return command;
 }
@@ -49,11 +49,11 @@ ChildCommand reaching(ChildCommand command, const ControlSocket& control) {
 }  // namespace
 
 Supervisor::Supervisor(Commands commands, const Clock& clock, ConsoleFront* front)
-    : command_(reaching(std::move(commands.home_screen), control_)),
+    : command_(with_control_socket(std::move(commands.home_screen), control_)),
       clock_(clock),
       front_(front),
       applications_({command_.program.parent_path(), control_.folder()},
-                    reaching(std::move(commands.applications), control_)) {}
+                    with_control_socket(std::move(commands.applications), control_)) {}
 
 int Supervisor::run() {
   const BlockedSignals blocked;
@@ -101,8 +101,8 @@ void Supervisor::wait_for_something() {
   if (waiting[0].revents) take_signal();
   if (waiting[1].revents) control_.serve([this](const auto& request) { return serve(request); });
   if (waiting[3].revents && !status_) front_->read_input();
-  if (front_ && front_->verdict() && child_ && !patience_ends_) ask_child_to_end(SIGTERM);
-  end_impatiently();
+  if (front_ && front_->verdict() && child_ && !patience_ends_) signal_child(SIGTERM);
+  kill_overdue_child();
 }
 
 bool Supervisor::serve(const ControlRequest& request) {
@@ -116,7 +116,7 @@ bool Supervisor::serve(const ControlRequest& request) {
   }
   if (child_ && !ending_signal_) {
     restart_asked_ = true;
-    ask_child_to_end(SIGTERM);
+    signal_child(SIGTERM);
   }
   return true;
 }
@@ -130,7 +130,7 @@ void Supervisor::take_signal() {
     return;
   }
   ending_signal_ = signal;
-  ask_child_to_end(signal);
+  signal_child(signal);
 }
 
 void Supervisor::reap() {
@@ -176,13 +176,13 @@ void Supervisor::start_again() {
   status_ = kGaveUp;
 }
 
-void Supervisor::ask_child_to_end(int signal) {
+void Supervisor::signal_child(int signal) {
   if (child_ == 0) return;
   kill(child_, signal);
   patience_ends_ = clock_.now() + kPatience;
 }
 
-void Supervisor::end_impatiently() {
+void Supervisor::kill_overdue_child() {
   if (!patience_ends_ || child_ == 0 || clock_.now() < *patience_ends_) return;
   kill(child_, SIGKILL);
 }

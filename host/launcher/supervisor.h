@@ -47,8 +47,8 @@ class Supervisor {
   void reap();
   void child_ended(int status);
   void start_again();
-  void ask_child_to_end(int signal);
-  void end_impatiently();
+  void signal_child(int signal);
+  void kill_overdue_child();
 
   ControlSocket control_;
   ChildCommand command_;

@@ -33,7 +33,7 @@ void QueuePlayer::set_queue(SongList ids) {
   if (queue_.current() || !loaded_) return;
   // The playing song is not in the new queue, so it ends.
   stop();
-  tell_song_change();
+  report_song_change();
 }
 
 bool QueuePlayer::set_current(std::uint64_t id) {
@@ -79,7 +79,7 @@ void QueuePlayer::next() {
   if (queue_.next()) {
     load_current();
   } else {
-    come_to_the_end();
+    finish_queue();
   }
 }
 
@@ -118,23 +118,23 @@ void QueuePlayer::load_current(Way way) {
     }
   }
   log_skipped(first_refusal, refused);
-  if (!path) return come_to_the_end();
+  if (!path) return finish_queue();
   player_.load(*path);
-  tell_song_change();
+  report_song_change();
 }
 
-void QueuePlayer::come_to_the_end() {
+void QueuePlayer::finish_queue() {
   queue_.clear_selection();
   stop();
-  tell_song_change();
+  report_song_change();
 }
 
 void QueuePlayer::set_state(PlaybackState state) {
   if (std::exchange(state_, state) != state && on_state_change) on_state_change(state);
 }
 
-void QueuePlayer::tell_song_change() {
-  if (std::exchange(told_, queue_.current()) != queue_.current() && on_song_change) {
+void QueuePlayer::report_song_change() {
+  if (std::exchange(reported_, queue_.current()) != queue_.current() && on_song_change) {
     on_song_change();
   }
 }

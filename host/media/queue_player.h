@@ -73,15 +73,15 @@ class QueuePlayer final : private PlayerListener {
   void load_current(Way way = Way::forwards);
   std::optional<std::uint64_t> step(Way& way);
   void set_state(PlaybackState state);
-  void come_to_the_end();
-  void tell_song_change();
+  void finish_queue();
+  void report_song_change();
 
   Player& player_;
   FileOf file_of_;
   PlayQueue queue_;
   PlaybackState state_ = PlaybackState::stopped;
   std::optional<std::uint64_t> loaded_;
-  std::optional<std::uint64_t> told_;  // The song that was last reported.
+  std::optional<std::uint64_t> reported_;  // The song that was last reported.
 };
 
 }  // namespace host::media

@@ -29,11 +29,11 @@ std::optional<Assignments::Listeners> read_listeners(objc::Object object) {
 
 const Assignments::Listeners& Assignments::listeners(const std::string& event,
                                                      const std::string& mode) const {
-  static const Listeners nobody;
+  static const Listeners none;
   const auto events = modes_.find(mode);
-  if (events == modes_.end()) return nobody;
+  if (events == modes_.end()) return none;
   const auto found = events->second.find(event);
-  return found == events->second.end() ? nobody : found->second;
+  return found == events->second.end() ? none : found->second;
 }
 
 bool Assignments::contains(const std::string& event, const std::string& mode,

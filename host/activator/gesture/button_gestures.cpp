@@ -25,7 +25,7 @@ ButtonGestures::~ButtonGestures() {
 void ButtonGestures::down(Button button) {
   State& pressed = state(button);
   if (std::exchange(pressed.is_down, true)) return;
-  pressed.is_heard = false;
+  pressed.is_consumed = false;
   pressed.pressed = loop_.now();
   switch (button) {
     case Button::Home:
@@ -43,13 +43,13 @@ ButtonGestures::Press ButtonGestures::up(Button button) {
   State& released = state(button);
   if (released.hold != 0) loop_.remove_timer(std::exchange(released.hold, 0));
   released.is_down = false;
-  return released.is_heard ? Press::Heard : Press::Plain;
+  return released.is_consumed ? Press::Consumed : Press::Plain;
 }
 
 void ButtonGestures::watch_hold(Button button, const char* event, double duration) {
   state(button).hold = loop_.add_timer(loop_.now() + duration, 0, [this, button, event] {
     state(button).hold = 0;
-    state(button).is_heard = recognized_(event);
+    state(button).is_consumed = recognized_(event);
   });
 }
 
@@ -60,7 +60,7 @@ void ButtonGestures::watch_pair(Button button, Button other) {
   // Each press is part of at most one pair.
   first.pressed = -1;
   state(button).pressed = -1;
-  state(button).is_heard = recognized_(kVolumeBoth);
+  state(button).is_consumed = recognized_(kVolumeBoth);
 }
 
 }  // namespace host::activator

@@ -14,7 +14,7 @@ class ButtonGestures {
   enum class Button { Home, Lock, VolumeUp, VolumeDown };
   /// The result of a press when the button comes up: the button's own action, or nothing, because a
   /// listener received the press as an event.
-  enum class Press { Plain, Heard };
+  enum class Press { Plain, Consumed };
 
   ButtonGestures(RunLoop& loop, Recognized recognized)
       : loop_(loop), recognized_(std::move(recognized)) {}
@@ -29,7 +29,7 @@ class ButtonGestures {
  private:
   struct State {
     bool is_down = false;
-    bool is_heard = false;
+    bool is_consumed = false;
     double pressed = -1;
     RunLoop::Id hold = 0;
   };

@@ -34,7 +34,7 @@ bool perform_event(std::string_view name) {
   const EventKind* kind = event_named(name);
   if (!kind) return false;
   Service& service = Service::shared();
-  if (service.is_heard(kind->name))
+  if (service.has_listener(kind->name))
     service.send(LAEvent::eventWithName(to_ns(kind->name), to_ns(name_of(service.present_mode()))));
   return true;
 }

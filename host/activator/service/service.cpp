@@ -76,7 +76,7 @@ bool Service::assign(const std::string& event, const std::string& mode,
   return assignments_.assign(event, mode, listener);
 }
 
-bool Service::is_heard(const std::string& event) {
+bool Service::has_listener(const std::string& event) {
   for (const std::string& name : assignments_.current().listeners(event, name_of(present_mode()))) {
     if (listeners_.contains(name)) return true;
   }
@@ -88,10 +88,10 @@ void Service::send(LAEvent event) {
   const auto names =
       assignments_.current().listeners(to_string(event.name()), to_string(event.mode()));
   for (const std::string& name : names)
-    tell(name, event);
+    deliver(name, event);
 }
 
-void Service::tell(const std::string& name, LAEvent event) {
+void Service::deliver(const std::string& name, LAEvent event) {
   // The listener may unregister itself during the call.
   const auto listener = objc::Ref<LAListener>::retain(this->listener(name));
   watch_.during(name, [&] {
@@ -103,7 +103,7 @@ void Service::tell(const std::string& name, LAEvent event) {
 }
 
 bool Service::recognized(const std::string& event) {
-  if (!is_heard(event)) return false;
+  if (!has_listener(event)) return false;
   // A listener may change the windows whose touch is being delivered.
   const Mode mode = present_mode();
   RunLoop::main().perform([this, event, mode, life = std::weak_ptr(life_)] {
@@ -116,11 +116,11 @@ bool Service::recognized(const std::string& event) {
 void Service::write_directory_later() {
   if (role_ != Role::HomeScreen || std::exchange(will_write_directory_, true)) return;
   RunLoop::main().perform([this, life = std::weak_ptr(life_)] {
-    if (!life.expired()) tell_others();
+    if (!life.expired()) write_directory();
   });
 }
 
-void Service::tell_others() {
+void Service::write_directory() {
   will_write_directory_ = false;
   std::vector<ListenerRecord> records;
   // A copy: a listener may register another when it is queried.

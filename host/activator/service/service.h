@@ -46,7 +46,7 @@ class Service {
   bool assign(const std::string& event, const std::string& mode, const std::string& listener);
 
   /// Returns whether any listener would receive the event now.
-  bool is_heard(const std::string& event);
+  bool has_listener(const std::string& event);
   /// Calls all listeners that the event is assigned to, in the order of the assignments.
   void send(LAEvent event);
   /// Sends the event for the current mode in the loop's next turn. Returns false, and does nothing,
@@ -54,9 +54,9 @@ class Service {
   bool recognized(const std::string& event);
 
  private:
-  void tell(const std::string& name, LAEvent event);
+  void deliver(const std::string& name, LAEvent event);
   void write_directory_later();
-  void tell_others();
+  void write_directory();
 
   const Role role_;
   const ModeProvider* modes_;

@@ -9,7 +9,7 @@ inline UIColor accent_color() {
   return UIColor::colorWithRed(1, 45.0 / 255, 85.0 / 255, 1);
 }
 /// The colour of second lines.
-inline UIColor weak_color() {
+inline UIColor second_line_color() {
   return UIColor::colorWithWhite(0.56, 1);
 }
 inline UIColor separator_color() {

@@ -46,7 +46,7 @@ void MiniBar::build() {
       {"HelveticaNeue-Medium"_ns, 15, UIColor::blackColor(), NSTextAlignmentLeft});
   artist_ =
       springboard::add_label(*bar_, {kTextLeft, kTitleTop + kBarTitleHeight, room, kBarLineHeight},
-                             {"HelveticaNeue"_ns, 12, weak_color(), NSTextAlignmentLeft});
+                             {"HelveticaNeue"_ns, 12, second_line_color(), NSTextAlignmentLeft});
   play_ = springboard::add_glyph_button(*bar_, "surface-play"_ns,
                                         {width - kBarButton - kCoverMargin,
                                          (kMiniBarHeight - kBarButton) / 2, kBarButton, kBarButton},

@@ -77,7 +77,8 @@ void NowPlayingPage::view_did_load() {
 void NowPlayingPage::add_scrubber(CGFloat top) {
   const CGFloat width = self.view().bounds().size.width;
   const CGFloat time_top = top + (kScrubberHeight - kTimeHeight) / 2;
-  const springboard::TextLook look{"HelveticaNeue"_ns, 11, weak_color(), NSTextAlignmentRight};
+  const springboard::TextLook look{"HelveticaNeue"_ns, 11, second_line_color(),
+                                   NSTextAlignmentRight};
   elapsed_ = springboard::add_label(self.view(), {4, time_top, kTimeWidth - 6, kTimeHeight}, look);
   springboard::TextLook right = look;
   right.alignment = NSTextAlignmentLeft;
@@ -95,7 +96,7 @@ void NowPlayingPage::add_texts(CGFloat top) {
                                   {"HelveticaNeue-Medium"_ns, 18, UIColor::blackColor()});
   line_ =
       springboard::add_label(self.view(), {kMargin, top + kPageTitleHeight, width, kPageLineHeight},
-                             {"HelveticaNeue"_ns, 14, weak_color()});
+                             {"HelveticaNeue"_ns, 14, second_line_color()});
 }
 
 void NowPlayingPage::add_transport(CGFloat middle) {
@@ -118,10 +119,10 @@ void NowPlayingPage::add_volume(CGFloat middle) {
   const CGFloat width = self.view().bounds().size.width;
   const CGFloat top = middle - kScrubberHeight / 2;
   springboard::add_glyph(self.view(), "surface-speaker"_ns,
-                         {kVolumeInset, top, kSpeaker, kScrubberHeight}, weak_color());
+                         {kVolumeInset, top, kSpeaker, kScrubberHeight}, second_line_color());
   springboard::add_glyph(self.view(), "surface-speaker-loud"_ns,
                          {width - kVolumeInset - kSpeaker, top, kSpeaker, kScrubberHeight},
-                         weak_color());
+                         second_line_color());
   const CGFloat left = kVolumeInset + kSpeaker + 6;
   volume_ =
       springboard::Slider::make({left, top, width - 2 * left, kScrubberHeight},

@@ -14,10 +14,10 @@ bool HomeLink::is_waiting(int descriptor) const {
 void HomeLink::wait() {
   pollfd waiting[] = {{listener_.get(), POLLIN, 0}, {channel_.descriptor(), POLLIN, 0}};
   poll(waiting, std::size(waiting), -1);
-  take_in();
+  receive();
 }
 
-void HomeLink::take_in() {
+void HomeLink::receive() {
   if (is_waiting(listener_.get())) accept_home();
   if (!is_waiting(channel_.descriptor())) return;
   std::string bytes;

@@ -22,7 +22,7 @@ class HomeLink {
   /// Blocks until something arrives, and reads it.
   void wait();
   /// Reads without waiting: accepts a new home screen, or reads the current one's messages.
-  void take_in();
+  void receive();
   std::optional<ToApplication> next();
   /// Puts messages that cannot be handled yet back at the front.
   void put_back(std::deque<ToApplication> messages);

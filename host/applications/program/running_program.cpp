@@ -56,7 +56,7 @@ void RunningProgram::watch() {
     watch->reset();
   }
   const auto serve = [this] {
-    link_.take_in();
+    link_.receive();
     handle_messages();
     // A new home screen has a new descriptor.
     watch();

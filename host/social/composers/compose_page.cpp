@@ -124,7 +124,7 @@ void ComposePage::cancel() {
 void ComposePage::send() {
   if (subject_) letter_.subject = to_string(subject_->text());
   letter_.body = to_string(body_->text());
-  end(send_letter(letter_) == HandedTo::Nobody ? End::Failed : End::Sent);
+  end(send_letter(letter_) == HandedTo::Failed ? End::Failed : End::Sent);
 }
 
 // The handler may dismiss the page at once, and is called only once.

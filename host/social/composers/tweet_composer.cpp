@@ -106,7 +106,7 @@ void TweetComposer::cancel() {
 void TweetComposer::post() {
   if (leaving_) return;
   card_->text().unmarkText();
-  if (hand_over_share(uikit::utf8_of(card_->text().text())) == HandedTo::Nobody) {
+  if (hand_over_share(uikit::utf8_of(card_->text().text())) == HandedTo::Failed) {
     card_->show_notice("Not sent. Please try again."_ns);
     return;
   }

@@ -10,7 +10,7 @@ namespace host::social {
 HandedTo put_into_outbox(std::string_view kind, std::string_view text) {
   const Outbox outbox(foundation::path_on_this_machine(configuration().outbox));
   const Outbox::Result result = outbox.put(kind, text);
-  if (!result) return HandedTo::Nobody;
+  if (!result) return HandedTo::Failed;
   spdlog::info("a text of kind {} is in the outbox: {}", kind, result.file.string());
   return HandedTo::Outbox;
 }

@@ -5,7 +5,7 @@
 
 namespace host::social {
 
-enum class HandedTo { Desktop, Outbox, Nobody };
+enum class HandedTo { Desktop, Outbox, Failed };
 
 /// Delivers a text: as an address to the desktop if there is one, otherwise, or when the desktop
 /// does not accept it, as a file in the device's outbox, named after its kind. If both fail, the

@@ -108,7 +108,7 @@ class FirstFiles : public DeviceRoot {
     write_file(first_files() / "var/a", "first");
     write_file(first_files() / "var/b", "a longer one");
   }
-  std::optional<std::string> lay() { return lay_first_files(first_files(), root()); }
+  std::optional<std::string> lay() { return copy_first_files(first_files(), root()); }
   fs::path first_files() const { return build() / "first-files"; }
   std::string text(const std::string& name) const {
     const auto lines = lines_of(root() / "var" / name);

@@ -21,10 +21,10 @@ class ButtonGesturesTest : public HostTest {
   }
 
   std::vector<std::string> recognized;
-  bool is_heard = true;
+  bool has_listener = true;
   ButtonGestures buttons{loop, [this](const char* event) {
                            recognized.emplace_back(event);
-                           return is_heard;
+                           return has_listener;
                          }};
 };
 
@@ -40,7 +40,7 @@ TEST_F(ButtonGesturesTest, AHoldOfHomeTakesThePress) {
   buttons.down(Button::Home);
   advance(0.7);
   EXPECT_THAT(recognized, ElementsAre("home-hold"));
-  EXPECT_EQ(buttons.up(Button::Home), Press::Heard);
+  EXPECT_EQ(buttons.up(Button::Home), Press::Consumed);
   EXPECT_EQ(press(Button::Home), Press::Plain);
 }
 
@@ -53,7 +53,7 @@ TEST_F(ButtonGesturesTest, AButtonThatIsDownAlreadyIsNotPressedAgain) {
 }
 
 TEST_F(ButtonGesturesTest, AHoldWithoutAListenerIsAPress) {
-  is_heard = false;
+  has_listener = false;
   buttons.down(Button::Home);
   advance(0.7);
   EXPECT_EQ(buttons.up(Button::Home), Press::Plain);
@@ -65,7 +65,7 @@ TEST_F(ButtonGesturesTest, TheLockButtonIsHeldLonger) {
   EXPECT_THAT(recognized, IsEmpty());
   advance(0.2);
   EXPECT_THAT(recognized, ElementsAre("lock-hold"));
-  EXPECT_EQ(buttons.up(Button::Lock), Press::Heard);
+  EXPECT_EQ(buttons.up(Button::Lock), Press::Consumed);
 }
 
 TEST_F(ButtonGesturesTest, VolumeButtonsThatAreDownTogetherAreAPair) {

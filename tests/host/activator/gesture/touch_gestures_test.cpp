@@ -17,7 +17,7 @@ class TouchGesturesTest : public UIKitTest {
   TouchGesturesTest()
       : gestures(loop, kScreen.size, [this](const char* event) {
           recognized.emplace_back(event);
-          return is_heard;
+          return has_listener;
         }) {
     uikit::add_system_gestures(&gestures);
     view = add_recording_view();
@@ -33,7 +33,7 @@ class TouchGesturesTest : public UIKitTest {
 
   TouchGestures gestures;
   std::vector<std::string> recognized;
-  bool is_heard = true;
+  bool has_listener = true;
   UIView view;
 };
 
@@ -49,7 +49,7 @@ TEST_F(TouchGesturesTest, ASlideLeavesTheViewThatTheFingerWasOn) {
 }
 
 TEST_F(TouchGesturesTest, ASlideWithoutAListenerIsAnOrdinaryTouch) {
-  is_heard = false;
+  has_listener = false;
   press({0, 300});
   glide({0, 300}, {80, 300}, 0.1);
   lift({80, 300});

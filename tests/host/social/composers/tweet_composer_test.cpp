@@ -310,7 +310,7 @@ TEST_F(TweetComposerTest, NothingIsLeftWhenTheRootGoesWhileItIsUp) {
   show("text");
   window.setRootViewController(nil);
   expect_all_gone();
-  EXPECT_TRUE(results.empty()) << "nobody has decided anything";
+  EXPECT_TRUE(results.empty()) << "no decision has been made";
 }
 
 TEST_F(TweetComposerTest, NothingIsLeftWhenTheRootGoesWhileItComes) {

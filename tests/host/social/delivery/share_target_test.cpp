@@ -115,7 +115,7 @@ TEST_F(ShareTargets, AnUndeliverableTextStaysWithTheCaller) {
   write_bytes(folder / "Outbox", "a file where the folder would be");
   configure_desktop(Desktop::Absent);
   const CapturedLog log;
-  EXPECT_EQ(hand_over_share("text"), HandedTo::Nobody);
+  EXPECT_EQ(hand_over_share("text"), HandedTo::Failed);
   EXPECT_EQ(log.count(""), 1);
 }
 
