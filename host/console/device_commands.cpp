@@ -96,7 +96,7 @@ bool is_key(std::string_view name) {
 Result<Answer> key(Session& session, LineReader& reader) {
   reader.at_end();
   const Problem unknown =
-      reader.problem(fmt::format("a key is one of {}, or one of them or of {} behind control- or "
+      reader.problem(fmt::format("a key is one of {}, or one of them or of {} after control- or "
                                  "shift-",
                                  fmt::join(kKeys, ", "), fmt::join(kControlKeys, ", ")));
   const auto name = reader.word();
@@ -119,7 +119,7 @@ const SystemName* read_system_name(LineReader& reader) {
 
 Result<Answer> system_event(Session& session, LineReader& reader) {
   reader.at_end();
-  const Problem unknown = reader.problem("an event of the system is missing");
+  const Problem unknown = reader.problem("a system event is missing");
   const SystemName* found = read_system_name(reader);
   if (!found) return unknown;
   std::string_view detail;

@@ -75,7 +75,7 @@ int main(int count, char** arguments) {
   const auto& options = std::get<Options>(read);
   if (!options.headless && !has_display()) {
     return complain(
-        "there is no display to open a window on. Start it on a desktop, or look without one: "
+        "there is no display for a window. Start it on a desktop, or without a window: "
         "--headless --console, then `screenshot FILE.png`.");
   }
   return run_phone(options);

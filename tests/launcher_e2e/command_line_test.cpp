@@ -59,7 +59,7 @@ TEST_F(BadCommandLines, AnOptionWithoutItsValue) {
   expect_refusal({"--headless", "--root"}, "--root");
 }
 
-TEST_F(BadCommandLines, ADiskWithoutRoomForTheDevice) {
+TEST_F(BadCommandLines, ADiskTooFullForTheDevice) {
   RunningPhone phone(headless(), Hardship::kFullDisk);
   EXPECT_EQ(phone.wait_for_end(), 2);
   ASSERT_THAT(phone.error_lines(), SizeIs(1)) << phone.errors();

@@ -10,9 +10,9 @@ namespace host::application {
 struct Program {
   const char* bundle;                        ///< Its identifier.
   const char* folder;                        ///< Its bundle on the device.
-  const char* name;                          ///< Of its process.
+  const char* name;                          ///< The name of its process.
   std::span<const std::string_view> images;  ///< The frameworks that it is linked with.
-  const char* application_class;             ///< Of its application object.
+  const char* application_class;             ///< The class of its application object.
   /// Registers its own classes, after those of the platform. May be nullptr.
   void (*export_classes)();
   /// Starts the services that the application uses, after the run loop exists. May be nullptr.

@@ -15,7 +15,8 @@ std::string joined(const std::vector<std::string>& parts, std::string_view betwe
   return all;
 }
 
-/// Percent-encodes a recipient, except for characters with a meaning in an address or a number.
+/// Percent-encodes a recipient, except for characters that have a meaning in mail addresses and
+/// telephone numbers.
 std::string encoded_recipient(const std::string& recipient) {
   std::string encoded;
   for (const char sign : recipient)

@@ -62,7 +62,7 @@ TEST_F(Compare, NilEqualsNothingButNil) {
   EXPECT_EQ(compare(nothing, "==", point(0, 0)), false);
 }
 
-TEST_F(Compare, StructuresOfAnotherShapeDiffer) {
+TEST_F(Compare, StructuresOfDifferentShapesDiffer) {
   EXPECT_EQ(compare(point(1, 2), "==", point(1, 2)), true);
   EXPECT_EQ(compare(point(1, 2), "==", Value{Structure{number_value(1)}}), false);
 }

@@ -153,9 +153,9 @@ TEST_F(Sessions, SystemEventsCarryTheirDetail) {
 }
 
 TEST_F(Sessions, SystemEventsThatAreIncompleteAreRefused) {
-  EXPECT_EQ(say("system"), "error: an event of the system is missing (column 7)");
-  EXPECT_EQ(say("system dance"), "error: an event of the system is missing (column 8)");
-  EXPECT_EQ(say("system edit"), "error: an event of the system is missing (column 8)");
+  EXPECT_EQ(say("system"), "error: a system event is missing (column 7)");
+  EXPECT_EQ(say("system dance"), "error: a system event is missing (column 8)");
+  EXPECT_EQ(say("system edit"), "error: a system event is missing (column 8)");
   EXPECT_EQ(say("system dock in"), "error: a bundle identifier is missing (column 15)");
   EXPECT_EQ(say("system lock now"), "error: unexpected text: now (column 13)");
   EXPECT_EQ(say("system banner"), "error: a text is missing (column 14)");

@@ -215,7 +215,7 @@ TEST_F(SteppedQueue, AnEmptyQueueDoesNothing) {
   EXPECT_THAT(heard_, ElementsAre());
 }
 
-TEST_F(SteppedQueue, ReplacingTheQueueGoesOnWithASongThatIsInBoth) {
+TEST_F(SteppedQueue, ReplacingTheQueueContinuesASongThatIsInBoth) {
   queue_->set_queue(make_song_list({1, 2}));
   queue_->play();
   step(5);

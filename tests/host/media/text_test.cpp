@@ -29,7 +29,7 @@ TEST(MediaText, FoldingIgnoresCaseInEveryScript) {
   EXPECT_NE(folded_text("a"), folded_text("ä"));
 }
 
-TEST(MediaText, AbsurdNumbersAreNoNumbers) {
+TEST(MediaText, AbsurdNumbersAreZero) {
   EXPECT_EQ(number_in("3/12"), 3);
   EXPECT_EQ(number_in(" 07 "), 7);
   EXPECT_EQ(number_in("-4"), 0);

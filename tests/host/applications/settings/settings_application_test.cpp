@@ -89,7 +89,7 @@ class SettingsTest : public PageTest {
   UIApplication application;
 };
 
-TEST_F(SettingsTest, TheRootListsWhatBelongsToThePhone) {
+TEST_F(SettingsTest, TheRootListsThePhonesOwnPages) {
   launch();
   EXPECT_STREQ(top().title().UTF8String(), "Settings");
   EXPECT_THAT(rows(), ::testing::ElementsAre("Sounds", "Wallpaper", "Gestures", "About"));

@@ -11,7 +11,7 @@ class CharacterCount : public host::test::HostTest {
   }
 };
 
-TEST_F(CharacterCount, OfNothingIsNothing) {
+TEST_F(CharacterCount, OfAnEmptyTextIsZero) {
   EXPECT_EQ(count(""), 0u);
   EXPECT_EQ(host::social::character_count(nil), 0u);
 }

@@ -126,7 +126,7 @@ TEST_F(TweetComposerTest, TheTextIsTheUsersOnceItIsShown) {
   EXPECT_STREQ(text_view().text().UTF8String(), "first");
 }
 
-TEST_F(TweetComposerTest, CancellingTellsTheHandlerAndSendsNothing) {
+TEST_F(TweetComposerTest, CancellingCallsTheHandlerAndSendsNothing) {
   show("text");
   clear_window_at_the_end();
   tap_on(social::kCancelTag);
@@ -137,7 +137,7 @@ TEST_F(TweetComposerTest, CancellingTellsTheHandlerAndSendsNothing) {
   expect_all_gone();
 }
 
-TEST_F(TweetComposerTest, PostingSendsTheEditedTextAndTellsTheHandler) {
+TEST_F(TweetComposerTest, PostingSendsTheEditedTextAndCallsTheHandler) {
   show("שלום\U0001F600e\u0301");
   type_text("\n#1"_ns);
   clear_window_at_the_end();
@@ -271,7 +271,7 @@ TEST_F(TweetComposerTest, ASecondTapWhileItLeavesDoesNothing) {
   EXPECT_FALSE(std::filesystem::exists(folder / "Outbox/share-2.txt"));
 }
 
-TEST_F(TweetComposerTest, WhatIsBehindIsDimmedAndTakesNoTouches) {
+TEST_F(TweetComposerTest, ThePageBehindIsDimmedAndTakesNoTouches) {
   const auto behind = RecordingView::make("behind", kScreen);
   window.addSubview(behind);
   show("text");
@@ -291,7 +291,7 @@ TEST_F(TweetComposerTest, WhatIsBehindIsDimmedAndTakesNoTouches) {
   behind.removeFromSuperview();
 }
 
-TEST_F(TweetComposerTest, WhatIsBehindTakesNoTouchesBeforeItHasLeft) {
+TEST_F(TweetComposerTest, ThePageBehindTakesNoTouchesUntilItHasLeft) {
   const auto behind = RecordingView::make("behind", kScreen);
   window.addSubview(behind);
   show("text");
@@ -306,14 +306,14 @@ TEST_F(TweetComposerTest, WhatIsBehindTakesNoTouchesBeforeItHasLeft) {
   behind.removeFromSuperview();
 }
 
-TEST_F(TweetComposerTest, NothingIsLeftWhenTheRootGoesWhileItIsUp) {
+TEST_F(TweetComposerTest, NothingRemainsWhenTheRootIsRemovedWhileItIsUp) {
   show("text");
   window.setRootViewController(nil);
   expect_all_gone();
   EXPECT_TRUE(results.empty()) << "no decision has been made";
 }
 
-TEST_F(TweetComposerTest, NothingIsLeftWhenTheRootGoesWhileItComes) {
+TEST_F(TweetComposerTest, NothingRemainsWhenTheRootIsRemovedWhileItAppears) {
   show("text", NO);
   window.setRootViewController(nil);
   show("text", NO);
@@ -327,7 +327,7 @@ TEST_F(TweetComposerTest, NothingIsLeftWhenTheRootGoesWhileItComes) {
   EXPECT_FALSE(uikit::first_responder());
 }
 
-TEST_F(TweetComposerTest, TheHandlerIsCalledOnceWhenTheRootGoesWhileItLeaves) {
+TEST_F(TweetComposerTest, TheHandlerIsCalledOnceWhenTheRootIsRemovedWhileItLeaves) {
   show("text");
   clear_window_at_the_end();
   tap_on(social::kPostTag);
@@ -337,7 +337,7 @@ TEST_F(TweetComposerTest, TheHandlerIsCalledOnceWhenTheRootGoesWhileItLeaves) {
   EXPECT_EQ(results, std::vector<Result>{kDone});
 }
 
-TEST_F(TweetComposerTest, ItsWindowMayGoWhileItIsUp) {
+TEST_F(TweetComposerTest, ItsWindowMayBeReleasedWhileItIsUp) {
   {
     objc::AutoreleasePool pool;
     const UIWindow own = window;
