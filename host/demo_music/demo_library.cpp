@@ -184,18 +184,18 @@ std::optional<std::string> make_demo_library(const std::string& folder, const st
   std::error_code error;
   if (fs::exists(target, error)) return std::nullopt;
   remove_leftovers(target);
-  const fs::path workshop = target.string() + fmt::format(".making-{}", ::getpid());
-  fs::create_directories(workshop, error);
+  const fs::path staging = target.string() + fmt::format(".making-{}", ::getpid());
+  fs::create_directories(staging, error);
   if (error) return fmt::format("{} cannot be made: {}", folder, error.message());
 
   const Covers pictures = read_covers(covers);
-  const std::vector<DemoSong> songs = songs_below(workshop);
+  const std::vector<DemoSong> songs = songs_below(staging);
   const bool is_whole =
-      make_folders(workshop, pictures) && Studio{songs, pictures}.run(report, stop);
-  if (is_whole) fs::rename(workshop, target, error);
+      make_folders(staging, pictures) && Studio{songs, pictures}.run(report, stop);
+  if (is_whole) fs::rename(staging, target, error);
   if (is_whole && !error) return std::nullopt;
   std::error_code ignored;
-  fs::remove_all(workshop, ignored);
+  fs::remove_all(staging, ignored);
   // Another process may have finished first; its music is just as good.
   if (is_whole && fs::exists(target, ignored)) return std::nullopt;
   if (stop.stop_requested()) return "the demo music was stopped";

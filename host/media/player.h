@@ -12,7 +12,7 @@ class PlayerListener {
   virtual void player_did_fail(const std::string& path, const std::string& reason) = 0;
 };
 
-// The playback engine's own state, for tests that check that music really plays.
+// The playback engine's own state, for checks that music really plays.
 struct EngineState {
   std::string path;  // Empty when nothing is loaded.
   bool is_paused = false;

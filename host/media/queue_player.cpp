@@ -84,7 +84,7 @@ void QueuePlayer::next() {
 }
 
 void QueuePlayer::previous() {
-  if (queue_.previous()) load_current(Way::backwards);
+  if (queue_.previous()) load_current(Direction::backwards);
 }
 
 void QueuePlayer::player_did_reach_end() {
@@ -98,12 +98,12 @@ void QueuePlayer::player_did_fail(const std::string& path, const std::string& re
 
 // No song comes before the first, so a search backwards that found no playable song turns around
 // and ends at the song where it started.
-std::optional<std::uint64_t> QueuePlayer::step(Way& way) {
-  if (way == Way::backwards && queue_.index() == 0u) way = Way::forwards;
-  return way == Way::forwards ? queue_.next() : queue_.previous();
+std::optional<std::uint64_t> QueuePlayer::step(Direction& direction) {
+  if (direction == Direction::backwards && queue_.index() == 0u) direction = Direction::forwards;
+  return direction == Direction::forwards ? queue_.next() : queue_.previous();
 }
 
-void QueuePlayer::load_current(Way way) {
+void QueuePlayer::load_current(Direction direction) {
   std::string first_refusal;
   std::size_t refused = 0;
   std::optional<std::string> path;
@@ -114,7 +114,7 @@ void QueuePlayer::load_current(Way way) {
       path = std::move(file.path);
     } else {
       if (refused++ == 0) first_refusal = std::move(file.refusal);
-      id = step(way);
+      id = step(direction);
     }
   }
   log_skipped(first_refusal, refused);

@@ -68,10 +68,10 @@ class QueuePlayer final : private PlayerListener {
   void player_did_reach_end() override;
   void player_did_fail(const std::string& path, const std::string& reason) override;
 
-  enum class Way { forwards, backwards };
+  enum class Direction { forwards, backwards };
 
-  void load_current(Way way = Way::forwards);
-  std::optional<std::uint64_t> step(Way& way);
+  void load_current(Direction direction = Direction::forwards);
+  std::optional<std::uint64_t> step(Direction& direction);
   void set_state(PlaybackState state);
   void finish_queue();
   void report_song_change();

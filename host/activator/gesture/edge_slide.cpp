@@ -13,7 +13,7 @@ constexpr CGFloat kEdge = 15;
 /// The length of a corner along both of its edges.
 constexpr CGFloat kCorner = 50;
 /// The distance after which the slide is decided.
-constexpr CGFloat kWay = 40;
+constexpr CGFloat kDecisiveDistance = 40;
 /// A slide from a corner moves inwards along both axes: the shorter distance is at least this share
 /// of the longer one.
 constexpr CGFloat kSlant = 0.35;
@@ -39,7 +39,7 @@ std::optional<EdgeSlide> EdgeSlide::begin(CGSize screen, CGPoint point) {
 
 EdgeSlide::Verdict EdgeSlide::move(CGPoint point) {
   CGPoint inwards{point.x - start_.x, point.y - start_.y};
-  if (std::hypot(inwards.x, inwards.y) < kWay) return Verdict::Undecided;
+  if (std::hypot(inwards.x, inwards.y) < kDecisiveDistance) return Verdict::Undecided;
   if (!side_of(start_.x, screen_.width).is_near_start) inwards.x = -inwards.x;
   if (!side_of(start_.y, screen_.height).is_near_start) inwards.y = -inwards.y;
   event_ = corner(inwards);

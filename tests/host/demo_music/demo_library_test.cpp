@@ -111,12 +111,12 @@ TEST_F(DemoLibrary, ReportsEveryCountOnce) {
 }
 
 TEST_F(DemoLibrary, LeavesOnlyTheTemporaryFolderOfARunningProcess) {
-  std::vector<std::string> workshops;
+  std::vector<std::string> staging_folders;
   for (const auto& entry : fs::directory_iterator{folder_->path()}) {
     const std::string name = entry.path().filename();
-    if (name.find("making") != name.npos) workshops.push_back(name);
+    if (name.find("making") != name.npos) staging_folders.push_back(name);
   }
-  EXPECT_THAT(workshops, testing::ElementsAre("Music.making-" + std::to_string(::getppid())));
+  EXPECT_THAT(staging_folders, testing::ElementsAre("Music.making-" + std::to_string(::getppid())));
 }
 
 TEST_F(DemoLibrary, IsMadeOnlyOnce) {
