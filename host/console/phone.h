@@ -52,7 +52,7 @@ class Phone {
   virtual Refusal type(std::string_view text) = 0;
   virtual Refusal key(std::string_view name) = 0;
   virtual Refusal press(Button button) = 0;
-  /// Presses or releases a button, or both; a pressed button stays down until it is released.
+  /// Presses or releases a button, which stays down in between.
   virtual Refusal button(Button button, ButtonPhase phase) = 0;
   /// `detail` is the banner's text or the application's bundle identifier.
   virtual Refusal system(SystemEvent event, std::string_view detail) = 0;

@@ -11,7 +11,7 @@ namespace host::launcher {
 std::optional<std::string> prepare_device_root(const std::filesystem::path& root);
 
 /// Copies `first_files` to a new device: its root is missing or empty, or an earlier start was
-/// interrupted during the copy. Existing files stay. A complete device is never changed again, so
+/// interrupted during the copy. Existing files stay. Nothing is copied to a complete device, so
 /// files that the user removes stay removed. Returns the error of the first file that failed; the
 /// next start then continues.
 std::optional<std::string> copy_first_files(const std::filesystem::path& first_files,

@@ -8,8 +8,8 @@
 
 namespace host::activator {
 
-/// Queries a listener about itself, except for its icon. It may answer only some questions or none,
-/// return objects of the wrong class, or throw.
+/// Queries a listener about itself, except for its icon. The listener may answer only some
+/// questions or none, return objects of the wrong class, or throw.
 ListenerRecord describe(LAActivator activator, LAListener listener, const std::string& name);
 
 /// The listener's small icon, or else its large one; nil when it has neither.

@@ -11,7 +11,8 @@
 namespace host::application {
 
 /// The screen of an application: frames are copied into the buffer that the home screen does not
-/// show. While both buffers are in use, damage is collected without copying.
+/// show. Until the home screen has taken the last frame, and while the application is not in front,
+/// damage is collected without copying.
 class SurfaceScreen final : public screen::Screen {
  public:
   using Announce = std::function<void(const NewFrame&)>;

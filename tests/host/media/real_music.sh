@@ -1,7 +1,7 @@
 #!/bin/sh
-# Lists and plays music that people made, tagged and shipped: the songs of a Debian package, which is
-# fetched once into the folder given second when it is not installed. Status 77, which means skipped,
-# when it cannot be had.
+# Lists and plays real music: the songs of a Debian package. If the package is not installed, it is
+# downloaded once into the folder in the second argument. Exits with status 77, which means skipped,
+# when it is not available.
 set -eu
 
 program=$1
