@@ -1,7 +1,8 @@
 #pragma once
 
-// The object runtime as this house uses it: a dozen C functions, declared here so that no runtime
-// header is included. This is the one header that knows which home it is compiled for.
+// The parts of the object runtime that this project uses, declared here so that no runtime header
+// needs to be included. This is the only header that knows its home: the target it is compiled
+// for, the phone or the desktop.
 
 #include <cstddef>
 #include <cstdint>
@@ -29,7 +30,7 @@ using Ivar = objc_ivar*;
 using Protocol = objc_protocol*;
 using Imp = void (*)();
 
-/// The receiver of a super send: the object and the class at which the search begins.
+/// The receiver of a super send: the object, and the class where the method lookup starts.
 struct SuperReceiver {
   Id receiver;
   Class first_searched;
@@ -37,12 +38,12 @@ struct SuperReceiver {
 
 }  // namespace objc
 
-/// One byte, 0 or 1, as the platform's method encodings have it.
+/// One byte, 0 or 1, as in the platform's method encodings.
 using BOOL = signed char;
 inline constexpr BOOL YES = 1;
 inline constexpr BOOL NO = 0;
 
-/// Bytes in each field of what `uname` fills in.
+/// Size in bytes of each field that `uname` fills in.
 inline constexpr std::size_t kSystemNameLength = SONAVUE_HOME_PHONE ? 256 : 65;
 
 using CGFloat = double;
@@ -56,7 +57,8 @@ objc::Class objc_getMetaClass(const char* name);
 objc::Protocol objc_getProtocol(const char* name);
 objc::Sel sel_registerName(const char* name);
 const char* sel_getName(objc::Sel selector);
-// Selectors of one name but other types are different pointers here: compare with this, never ==.
+// Selectors with the same name but different types are different pointers: compare them with this,
+// never with ==.
 signed char sel_isEqual(objc::Sel left, objc::Sel right);
 
 const char* class_getName(objc::Class cls);
@@ -97,13 +99,13 @@ extern void* _NSConcreteStackBlock[];
 
 namespace objc {
 
-/// Does this home cross every call with whole words, where an integer is smaller? The phone's own
-/// compiler fills a word with a small argument or result by itself, and relies on it where it takes
-/// one. The desktop's compilers need not do the first, but may have the phone's code on the other
-/// side.
+/// Whether integers smaller than a word are passed and returned as whole words. The phone's
+/// compiler extends a small argument or result to a word, and expects the other side to do the
+/// same. The desktop's compilers need not extend it, but the phone's code may be on the other side
+/// of the call.
 inline constexpr bool kFillsWords = !SONAVUE_HOME_PHONE;
 
-/// The class of a non-nil object; of a class, its metaclass.
+/// The class of a non-nil object; for a class, its metaclass.
 inline Class class_of(Id object) {
 #if SONAVUE_HOME_PHONE
   return object_getClass(object);
@@ -112,7 +114,7 @@ inline Class class_of(Id object) {
 #endif
 }
 
-/// The function to call, cast to the message's type, for a non-nil receiver.
+/// The function to call for a non-nil receiver, to be cast to the message's type.
 inline Imp message_function([[maybe_unused]] Id receiver, [[maybe_unused]] Sel selector) {
 #if SONAVUE_HOME_PHONE
   return &objc_msgSend;

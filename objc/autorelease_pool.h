@@ -4,7 +4,7 @@
 
 namespace objc {
 
-/// Objects autoreleased while it lives are released at the end of its scope.
+/// Releases, at the end of its scope, the objects that were autoreleased while it existed.
 class AutoreleasePool {
  public:
   AutoreleasePool()

@@ -4,7 +4,7 @@
 
 namespace objc {
 
-/// One method that the bindings promise: a test walks the list and asks the runtime for each.
+/// One method that the bindings declare. A test walks the list and looks each up in the runtime.
 struct Binding {
   const char* class_name;
   const char* selector;

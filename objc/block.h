@@ -33,7 +33,7 @@ struct Header {
 
 }  // namespace block_abi
 
-/// A borrowed pointer to a block, or nil. Whoever keeps one beyond the call holds an `OwnedBlock`.
+/// A borrowed pointer to a block, or nil. To keep a block beyond the call, use `OwnedBlock`.
 template <class Result, class... Arguments>
 class Block<Result(Arguments...)> {
  public:
@@ -44,7 +44,7 @@ class Block<Result(Arguments...)> {
   const void* get() const { return block_; }
   explicit operator bool() const { return block_ != nullptr; }
 
-  /// Runs the block; nil does nothing and gives a zero value.
+  /// Runs the block. On nil it does nothing and returns a zero value.
   Result operator()(Arguments... arguments) const {
     if (!block_) return Result();
     using Function = AbiType<Result> (*)(const void*, AbiType<Arguments>...);
@@ -95,8 +95,8 @@ class OwnedBlock {
   const void* block_ = nullptr;
 };
 
-/// A block on the stack made from a C++ callable. It lives to the end of the full expression;
-/// a receiver that keeps it copies it, and the callable is copied and destroyed with it.
+/// A block on the stack made from a C++ callable. As a temporary it lives until the end of the full
+/// expression. A receiver that keeps it copies it; the callable is copied and destroyed with it.
 template <class Callable, class Signature>
 class StackBlock;
 
@@ -151,7 +151,7 @@ struct CallSignature<R (F::*)(A...) const> {
 
 }  // namespace block_abi
 
-/// `block([=](BOOL finished) { … })`: the block of a lambda that changes none of its captures.
+/// `block([=](BOOL finished) { … })`: makes a block from a lambda that is not `mutable`.
 template <class Callable>
 auto block(Callable callable) {
   using Signature = typename block_abi::CallSignature<decltype(&Callable::operator())>::Type;

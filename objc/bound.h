@@ -16,16 +16,17 @@ template <FixedString Name>
 inline constinit Class cached_class = nullptr;
 
 #ifdef SONAVUE_MESSAGE_SYMBOLS
-/// The selector of one binding: the symbol says what is sent, to which class, with which types.
+/// The selector of one binding. The symbol names the message, its class and its types.
 template <FixedString Message>
 inline constinit Sel cached_message = nullptr;
 
-/// The selector of a message that is asked for before it is sent.
+/// The selector of a message whose receiver is first asked whether it responds.
 template <FixedString Message>
 inline constinit Sel asked_message = nullptr;
 #endif
 
-/// The class of that name, looked up when first needed; nil, and looked up again, while missing.
+/// The class with that name. It is looked up at the first use and cached; while it is missing, the
+/// result is nil and every call looks it up again.
 template <FixedString Name>
 inline Class class_named() {
   if (!cached_class<Name>) [[unlikely]]
@@ -33,8 +34,8 @@ inline Class class_named() {
   return cached_class<Name>;
 }
 
-/// The same for a class whose framework or library may not be in the process yet: while the class
-/// is missing, each look-up first loads the file at the path `Image`.
+/// As `class_named`, for a class whose framework or library may not be loaded yet: while the class
+/// is missing, each lookup also loads the file at the path `Image`.
 template <FixedString Name, FixedString Image>
 inline Class class_of_image() {
   if (!class_named<Name>()) [[unlikely]]
@@ -43,8 +44,8 @@ inline Class class_of_image() {
 }
 
 /// Base of a typed view of the platform's class `Name`: `struct UILabel : Bound<UILabel, "UILabel",
-/// UIView>`. It adds names to a pointer and nothing else. `Image` is named for the classes that no
-/// process of the phone is sure to have.
+/// UIView>`. It adds method names to a pointer and nothing else. `Image` is given for classes that
+/// a process on the phone may not have loaded.
 template <class Self, FixedString Name, Handle Base, FixedString Image = "">
 struct Bound : Base {
   using Superclass = Base;
@@ -65,25 +66,25 @@ struct Bound : Base {
   void release() const { send<>(*this, "release"_sel); }
 
  protected:
-  /// Sends an instance method of this class.
+  /// Sends a message to the object.
   template <FixedString Selector, class Result = void, class... Arguments>
   Result call(const Arguments&... arguments) const {
     return send<Result>(*this, noted<Selector, false, Result, Arguments...>(), arguments...);
   }
 
-  /// Sends a class method of this class.
+  /// Sends a message to the class.
   template <FixedString Selector, class Result = void, class... Arguments>
   static Result call_class(const Arguments&... arguments) {
     return send<Result>(Object(cls()), noted<Selector, true, Result, Arguments...>(), arguments...);
   }
 
-  /// Whether objects of this class answer a message that not every system has.
+  /// Whether the object responds to a message that some systems lack.
   template <FixedString Selector>
   bool answers() const {
     return send<BOOL>(*this, "respondsToSelector:"_sel, asked<Selector, false>());
   }
 
-  /// The same of a class method.
+  /// Whether the class responds to a message that some systems lack.
   template <FixedString Selector>
   static bool class_answers() {
     return send<BOOL>(Object(cls()), "respondsToSelector:"_sel, asked<Selector, true>());
@@ -99,7 +100,7 @@ struct Bound : Base {
 #endif
   }
 
-  /// The selector, kept where whoever asks what is sent finds it.
+  /// The selector, recorded for the check that lists which messages are sent.
   template <FixedString Selector, bool OfClass, class Result, class... Arguments>
   static Sel noted() {
 #ifdef SONAVUE_BINDING_TABLE

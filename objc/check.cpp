@@ -3,8 +3,8 @@
 
 #include "objc/send.h"
 
-// Only builds with checks on contain this file: it names the wrong call before the call corrupts
-// anything.
+// Compiled only into builds with checks. It reports a call with wrong types before the call can
+// corrupt memory.
 
 namespace objc {
 namespace {
@@ -29,7 +29,7 @@ void check(Class cls, Sel selector, const char* encoding) {
   Verified& slot = slot_of(cls, selector, encoding);
   if (slot.cls == cls && slot.selector == selector && slot.encoding == encoding) return;
   const Method method = class_getInstanceMethod(cls, selector);
-  if (!method) return;  // The runtime has its own word for an unknown selector.
+  if (!method) return;  // The runtime reports unknown selectors itself.
   const char* answered_by = method_getTypeEncoding(method);
   if (answered_by && !same_encoding(answered_by, encoding)) {
     std::fprintf(stderr, "message %s to %s: called as %s, implemented as %s\n",

@@ -20,8 +20,9 @@ Class ClassBuilder::finish() {
 }
 
 void ClassBuilder::add_storage(std::size_t size) {
-  // The runtime refuses a name that a superclass uses, and each has storage of its own. What was
-  // begun is left to itself: nobody knows of a class that is not registered.
+  // The runtime rejects an instance variable whose name a superclass already uses, and every class
+  // here names its storage after itself. The unfinished class is abandoned: a class that is not
+  // registered cannot be found.
   if (!class_addIvar(cls_, class_getName(cls_), size, kPointerAlignment, "?")) cls_ = nullptr;
 }
 

@@ -6,8 +6,8 @@
 
 namespace objc {
 
-/// The C++ state behind one class: an ordinary object that lives in an instance variable, is
-/// constructed at `alloc` and destroyed at `dealloc`. `self` is the object that holds it.
+/// The C++ state behind one class: an ordinary object that is stored in an instance variable,
+/// constructed at `alloc` and destroyed at `dealloc`. `self` is the object that contains it.
 template <class Derived, Handle Self>
 class Implementation {
  public:
@@ -17,14 +17,14 @@ class Implementation {
   Implementation& operator=(const Implementation&) = delete;
 
  protected:
-  /// Sends a message as the superclass of the class that `Derived` implements answers it.
+  /// Sends a message to `self`, starting at the superclass of the class that `Derived` implements.
   template <class Result = void, class... Arguments>
   Result super(Sel selector, const Arguments&... arguments) const;
 
   const Self self;
 };
 
-/// Where the state of class `T` stands in its objects; filled in when the class is made.
+/// The offset of the state `T` within its objects, and its class; set when the class is made.
 template <class T>
 struct StatePlace {
   static inline Class cls = nullptr;
@@ -43,8 +43,8 @@ Result Implementation<Derived, Self>::super(Sel selector, const Arguments&... ar
   return send_super<Result>(self, StatePlace<Derived>::cls, selector, arguments...);
 }
 
-/// Makes a C function that the runtime can call out of a member function or a free function whose
-/// first parameter is the receiver, and deduces its encoding.
+/// Wraps a member function, or a free function whose first parameter is the receiver, in a C
+/// function that the runtime can call, and deduces its encoding.
 template <auto Function>
 struct MethodOf;
 
@@ -97,7 +97,7 @@ bool add_method(Class cls, const char* selector) {
                                 MethodOf<Function>::encoding.c_str());
 }
 
-/// Gives `cls` its own implementation of the selector, in place of one it may have had.
+/// Gives `cls` this implementation of the selector and replaces its own, if it has one.
 template <auto Function>
 void replace_method(Class cls, const char* selector) {
   if (!cls) return;
@@ -106,13 +106,14 @@ void replace_method(Class cls, const char* selector) {
                       MethodOf<Function>::encoding.c_str());
 }
 
-/// Makes a class. A class whose base is missing in this process is simply not made: every call on
-/// the builder then does nothing, and `finish` gives nil.
+/// Makes a class. If its base is missing in this process or its name is taken, no class is made:
+/// the builder's methods then do nothing, and `finish` returns nil.
 class ClassBuilder {
  public:
   ClassBuilder(const char* name, const char* base);
 
-  /// Gives every object a `T`: constructed with its handle at alloc, destroyed at dealloc.
+  /// Gives every object a `T`, constructed with the object's handle at `alloc` and destroyed at
+  /// `dealloc`.
   template <class T>
   ClassBuilder& state() {
     static_assert(alignof(T) <= alignof(void*), "objects are aligned to a pointer");
@@ -125,7 +126,7 @@ class ClassBuilder {
     return *this;
   }
 
-  /// Gives every object an instance variable that others find by its name; zero at first.
+  /// Gives every object an instance variable, initially zero, that other code looks up by name.
   template <class T>
   ClassBuilder& field(const char* name) {
     static_assert(sizeof(T) == sizeof(void*), "a pointer of some kind");
@@ -145,7 +146,7 @@ class ClassBuilder {
     return *this;
   }
 
-  /// Registers the class with the runtime.
+  /// Registers the class with the runtime and returns it.
   Class finish();
 
  private:

@@ -15,7 +15,7 @@ class Letters {
  public:
   explicit Letters(const char* text) : at_(text) {}
 
-  /// The next letter that tells two calls apart, or 0 at the end.
+  /// The next letter that matters to a call, or 0 at the end.
   char next() {
     skip_insignificant();
     const char letter = *at_;
@@ -69,7 +69,7 @@ class Letters {
     }
   }
 
-  // What a pointer points to is skipped: one simple letter, or a whole bracketed type.
+  // Skips the type that a pointer points to: one letter, or a whole bracketed type.
   void skip_type() {
     skip_insignificant();
     int depth = 0;

@@ -8,8 +8,8 @@ namespace objc {
 template <class Signature>
 class Block;
 
-/// The runtime's type code of `T` in `Encode<T>::text`, deduced and never typed at a method.
-/// Structures of the platform specialise it beside their definition.
+/// `Encode<T>::text` is the runtime's type code of `T`. Methods deduce it, so none is written out.
+/// The platform's structures specialise it next to their definition.
 template <class T>
 struct Encode;
 
@@ -63,8 +63,8 @@ struct MethodEncoding {
                                 Encode<std::remove_cvref_t<Arguments>>::text);
 };
 
-/// Do two encodings describe the same call? Offsets, qualifiers and structure names do not count;
-/// the one-byte booleans of the two runtimes are one type, and so are all pointers.
+/// Whether two encodings describe the same call. Offsets, qualifiers and structure names are
+/// ignored. The one-byte booleans of the two runtimes count as one type, and so do all pointers.
 bool same_encoding(const char* left, const char* right);
 
 }  // namespace objc

@@ -4,8 +4,8 @@
 
 namespace objc {
 
-/// An instance variable by its name, for the few that classes of the platform leave to others to
-/// read and write. Null for nil, and where the object's class has none of that name.
+/// Returns a pointer to the object's instance variable with that name, for the few that other code
+/// reads and writes directly. Null if the object is nil or its class has no such variable.
 template <class T>
 T* field(Object object, const char* name) {
   if (!object) return nullptr;

@@ -4,7 +4,7 @@
 
 namespace objc {
 
-/// A string literal that can be a template argument; `size` does not count the closing zero.
+/// A string literal that can be a template argument. `size` excludes the terminating zero.
 template <std::size_t Size>
 struct FixedString {
   char text[Size + 1] = {};

@@ -10,7 +10,7 @@ constexpr int kBindLazily = 1;
 
 }  // namespace
 
-// The image stays for as long as the process does, as its classes have to.
+// The image is never unloaded, since its classes cannot be.
 void load_image(const char* path) {
   dlopen(path, kBindLazily);
 }

@@ -2,8 +2,8 @@
 
 namespace objc {
 
-/// Brings a framework or library of the device into the process, with the classes that it has:
-/// `path` is that of its file. Nothing happens where it is loaded already, or where there is none.
+/// Loads the framework or library in the file `path`, with its classes, into the process. A no-op
+/// if it is already loaded or the file is missing.
 void load_image(const char* path);
 
 }  // namespace objc

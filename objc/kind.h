@@ -4,8 +4,8 @@
 
 namespace objc {
 
-/// The object where it is of that class, else nil: for what somebody else has written, which may be
-/// anything.
+/// Returns the object if it is of that class, otherwise nil. For objects that come from outside and
+/// may be of any class, such as those read from a file.
 template <Handle T>
 T kind_of(Object object) {
   return send<BOOL>(object, "isKindOfClass:"_sel, T::cls()) ? cast<T>(object) : T();

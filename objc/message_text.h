@@ -4,8 +4,8 @@
 
 namespace objc {
 
-// A message of the platform as one text. A variable that has it for a template argument tells, by
-// its symbol, whoever reads the finished library.
+// A message of the platform as one string. A variable that takes it as a template argument carries
+// it in its symbol, where the checker of the finished library reads it.
 
 /// "-[UILabel setText:]".
 template <FixedString Class, FixedString Selector, bool OfClass>

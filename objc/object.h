@@ -7,7 +7,7 @@
 
 namespace objc {
 
-/// One pointer to an object of the runtime, or nil. Copying it is free and retains nothing.
+/// A pointer to an object of the runtime, or nil. Copying it costs nothing and does not retain.
 class Object {
  public:
   constexpr Object() = default;
@@ -35,7 +35,7 @@ constexpr T wrap(Id id) {
   return handle;
 }
 
-/// The same object seen as another class; the caller knows that it is one.
+/// The same object as a handle of another class. Unchecked: the caller knows the object's class.
 template <Handle To>
 constexpr To cast(Object object) {
   return wrap<To>(object.id());
@@ -52,8 +52,8 @@ struct Nil {
 template <class T>
 concept SmallInteger = std::is_integral_v<T> &&(sizeof(T) < sizeof(int));
 
-/// How a C++ type crosses a message: handles as bare pointers, enumerations as their integers,
-/// small integers as the home wants them, everything else as it is.
+/// The type that a C++ type has when it is passed in a message: handles become bare pointers,
+/// enumerations their integers, small integers what `kFillsWords` says; other types stay.
 template <class T>
 struct Abi {
   using Type = T;
@@ -91,7 +91,7 @@ constexpr T from_abi(AbiType<T> value) {
   if constexpr (Handle<T>) {
     return wrap<T>(value);
   } else if constexpr (std::is_same_v<T, bool>) {
-    // What somebody else has left above the lowest byte does not count.
+    // The other side may leave anything above the lowest byte.
     return static_cast<bool>(static_cast<unsigned char>(value));
   } else {
     return static_cast<T>(value);

@@ -5,13 +5,14 @@
 
 namespace objc {
 
-/// The class that was made here under that name. Nil where it was not: another may have the name.
+/// The class that this library made under that name. Nil if it could not be made, as when another
+/// library has taken the name.
 template <FixedString Name>
 inline constinit Class own_class = nullptr;
 
-/// Base of a typed view of a class of our own, as `Bound` is of the platform's: `struct Row :
-/// Own<Row, "Row", UIView>`. Nothing is ever sent to whatever else has its name; where the
-/// class was not made, all that is sent to it or to its objects is sent to nil.
+/// Base of a typed view of one of our own classes, as `Bound` is for the platform's: `struct Row :
+/// Own<Row, "Row", UIView>`. A foreign class with the same name never receives a message through
+/// it; if our class was not made, messages to it and to its objects go to nil.
 template <class Self, FixedString Name, Handle Base>
 struct Own : Bound<Self, Name, Base> {
   static Class cls() { return own_class<Name>; }
@@ -28,8 +29,8 @@ concept OwnHandle = Handle<T> && requires {
   T::keep(Class());
 };
 
-/// Makes the class of a handle: under its name, with its base, and with what `describe` gives to
-/// the builder. Neither happens where the name is taken or the base is missing.
+/// Makes the class of a handle, with the handle's name and base; `describe` adds the rest to the
+/// builder. No class is made if the name is taken or the base is missing.
 template <OwnHandle Self, class Describe>
 void make_own_class(Describe describe) {
   using Base = typename Self::Superclass;

@@ -26,16 +26,16 @@ class Ref {
   ~Ref() { send<>(object_, "release"_sel); }
 
   T get() const { return object_; }
-  /// As a plain handle, which borrows the object.
+  /// A plain handle that borrows the object.
   operator T() const& { return object_; }
   operator T() && = delete;
   const T* operator->() const { return &object_; }
   const T& operator*() const { return object_; }
   explicit operator bool() const { return static_cast<bool>(object_); }
 
-  /// Replaces the object: the new one is retained before the old one is released.
+  /// Replaces the object. The new one is retained before the old one is released.
   void reset(T object = T()) { *this = retain(object); }
-  /// Gives the reference away as a +1.
+  /// Returns the object and empties this `Ref`. Ownership of the +1 passes to the caller.
   [[nodiscard]] T leak() { return std::exchange(object_, T()); }
 
  private:
@@ -43,7 +43,7 @@ class Ref {
   T object_;
 };
 
-/// Owns what `alloc` or `copy` has made until the end of the block.
+/// Owns an object that `alloc` or `copy` returned until the end of the scope.
 template <Handle T>
 [[nodiscard]] Ref<T> adopt(T object) {
   return Ref<T>::adopt(object);

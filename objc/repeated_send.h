@@ -4,12 +4,12 @@
 
 namespace objc {
 
-/// A message that one receiver gets again and again: the method that answers it is looked up once.
-/// For as long as nobody replaces that method.
+/// Sends one message to one receiver repeatedly and looks the method up only once. Use it only
+/// where the method cannot be replaced in between.
 template <class Result, class... Arguments>
 class RepeatedSend {
  public:
-  /// The receiver is an object, not nil.
+  /// The receiver is not nil.
   RepeatedSend(Object receiver, Sel selector) : receiver_(receiver), selector_(selector) {
 #ifdef SONAVUE_CHECKS
     check_call(receiver.id(), selector, MethodEncoding<Result, Arguments...>::text.c_str());

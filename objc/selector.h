@@ -8,7 +8,7 @@ namespace objc {
 template <FixedString Name>
 inline constinit Sel cached_selector = nullptr;
 
-/// The selector in the cache; it is registered with the runtime at its first use.
+/// The cached selector. The first use registers it with the runtime.
 inline Sel cached(Sel& cache, const char* name) {
   Sel found = __atomic_load_n(&cache, __ATOMIC_RELAXED);
   if (found) [[likely]]

@@ -7,12 +7,12 @@
 namespace objc {
 
 #ifdef SONAVUE_CHECKS
-/// Stops with both signatures printed when the method that would answer has another encoding.
+/// Prints both signatures and aborts if the method that would be called has a different encoding.
 void check_call(Id receiver, Sel selector, const char* encoding);
 void check_super_call(SuperReceiver target, Sel selector, const char* encoding);
 #endif
 
-/// Sends `selector` to `receiver`. Nil answers every message with a zero value.
+/// Sends `selector` to `receiver`. A message to nil returns a zero value.
 template <class Result = void, class... Arguments>
 inline Result send(Object receiver, Sel selector, const Arguments&... arguments) {
   using Function = AbiType<Result> (*)(Id, Sel, AbiType<Arguments>...);
@@ -34,7 +34,7 @@ inline Result send(Object receiver, Sel selector, const Arguments&... arguments)
   }
 }
 
-/// Sends `selector` as the superclass of `cls` implements it.
+/// Sends `selector` to `receiver`, starting at the superclass of `cls`.
 template <class Result = void, class... Arguments>
 inline Result send_super(Object receiver, Class cls, Sel selector, const Arguments&... arguments) {
   using Function = AbiType<Result> (*)(Id, Sel, AbiType<Arguments>...);

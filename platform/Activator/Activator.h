@@ -2,5 +2,5 @@
 
 #include "objc/fixed_string.h"
 
-/// The file that has the classes of this folder. No process is sure to have loaded it.
+/// The library with the classes of this folder. A process may not have loaded it.
 inline constexpr objc::FixedString kActivatorImage = "/usr/lib/libactivator.dylib";

@@ -8,7 +8,7 @@
 struct LAActivator : objc::Bound<LAActivator, "LAActivator", NSObject, kActivatorImage> {
   /// Nil on a phone without the service.
   static LAActivator sharedInstance() { return call_class<"sharedInstance", LAActivator>(); }
-  /// The service keeps the listener until another is registered under the name or it is taken out.
+  /// Retains the listener until it is unregistered or another is registered under the same name.
   void registerListener(objc::Object listener, NSString name) const {
     call<"registerListener:forName:">(listener, name);
   }
@@ -24,9 +24,10 @@ struct LAActivator : objc::Bound<LAActivator, "LAActivator", NSObject, kActivato
   NSArray availableEventModes() const { return call<"availableEventModes", NSArray>(); }
   NSString currentEventMode() const { return call<"currentEventMode", NSString>(); }
 
-  /// To every listener that the event is assigned to.
+  /// Sends the event to every listener that it is assigned to.
   void sendEventToListener(LAEvent event) const { call<"sendEventToListener:">(event); }
-  /// NO, and nothing is assigned, for an unknown event and for a mode that is not the listener's.
+  /// Returns NO and assigns nothing if the event is unknown or the listener does not support its
+  /// mode.
   BOOL assignEvent(LAEvent event, NSString listener) const {
     return call<"assignEvent:toListenerWithName:", BOOL>(event, listener);
   }

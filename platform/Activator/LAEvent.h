@@ -2,7 +2,7 @@
 
 #include "platform/Foundation/NSString.h"
 
-/// One occurrence of a gesture, or, where something is assigned, any occurrence of it in that mode.
+/// One occurrence of a gesture; in an assignment, every occurrence of that gesture in that mode.
 struct LAEvent : objc::Bound<LAEvent, "LAEvent", NSObject> {
   static LAEvent eventWithName(NSString name, NSString mode) {
     return call_class<"eventWithName:mode:", LAEvent>(name, mode);
@@ -12,7 +12,7 @@ struct LAEvent : objc::Bound<LAEvent, "LAEvent", NSObject> {
   }
   NSString name() const { return call<"name", NSString>(); }
   NSString mode() const { return call<"mode", NSString>(); }
-  /// Has a listener done something about it?
+  /// Whether a listener has handled the event.
   BOOL isHandled() const { return call<"isHandled", BOOL>(); }
   void setHandled(BOOL handled) const { call<"setHandled:">(handled); }
 };

@@ -6,8 +6,8 @@
 
 struct LAActivator;
 
-/// What the gesture service tells and asks a listener. Only the event is expected to be taken;
-/// each question is optional.
+/// The messages that the gesture service sends to a listener. Only `receiveEvent` is required; the
+/// others are optional.
 struct LAListener : objc::Bound<LAListener, "LAListener", NSObject> {
   void receiveEvent(objc::Object activator, LAEvent event) const {
     call<"activator:receiveEvent:">(activator, event);

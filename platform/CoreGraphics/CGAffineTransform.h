@@ -20,7 +20,7 @@ inline CGAffineTransform CGAffineTransformMakeRotation(CGFloat angle) {
   return {cosine, sine, -sine, cosine, 0, 0};
 }
 
-/// First `first`, then `second`.
+/// Applies `first`, then `second`.
 constexpr CGAffineTransform CGAffineTransformConcat(const CGAffineTransform& first,
                                                     const CGAffineTransform& second) {
   return {first.a * second.a + first.b * second.c,
@@ -50,7 +50,7 @@ constexpr bool CGAffineTransformEqualToTransform(const CGAffineTransform& left,
   return left == right;
 }
 
-/// The inverse; a transform that has none is given back unchanged.
+/// The inverse. A transform that has no inverse is returned unchanged.
 constexpr CGAffineTransform CGAffineTransformInvert(const CGAffineTransform& t) {
   const CGFloat determinant = t.a * t.d - t.b * t.c;
   if (determinant == 0) return t;
@@ -66,7 +66,7 @@ constexpr CGPoint CGPointApplyAffineTransform(CGPoint point, const CGAffineTrans
   return {t.a * point.x + t.c * point.y + t.tx, t.b * point.x + t.d * point.y + t.ty};
 }
 
-/// The smallest upright rectangle round the transformed one.
+/// The smallest axis-aligned rectangle that contains the transformed one.
 constexpr CGRect CGRectApplyAffineTransform(CGRect rect, const CGAffineTransform& t) {
   const CGPoint corners[] = {CGPointApplyAffineTransform({rect.min_x(), rect.min_y()}, t),
                              CGPointApplyAffineTransform({rect.max_x(), rect.min_y()}, t),

@@ -4,7 +4,7 @@
 
 #include "platform/CoreGraphics/CGTypes.h"
 
-// A colour is an object of the runtime as well, as on the platform: it may stand in an array.
+// A colour is also an object of the runtime, as on the platform, so it can be put into an array.
 extern "C" {
 /// A new colour (+1). Components from 0 to 1, not premultiplied.
 CGColorRef CGColorCreateGenericRGB(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha);

@@ -26,7 +26,7 @@ enum CGInterpolationQuality : int {
   kCGInterpolationMedium = 4,
 };
 
-// Contexts of this host have their origin at the top left and y pointing down, as UIKit sets them
+// In this host, contexts have their origin at the top left and y pointing down, as UIKit sets them
 // up. User space is in points.
 extern "C" {
 CGContextRef CGContextRetain(CGContextRef context);
@@ -73,11 +73,11 @@ void CGContextFillEllipseInRect(CGContextRef context, CGRect rect);
 /// Draws the whole image into `rect`, upright in this host's coordinates.
 void CGContextDrawImage(CGContextRef context, CGRect rect, CGImageRef image);
 
-/// The pixels: blue, green, red, alpha premultiplied; null for a context without a bitmap.
+/// The pixels, as blue, green, red, alpha (premultiplied); null for a context without a bitmap.
 void* CGBitmapContextGetData(CGContextRef context);
 std::size_t CGBitmapContextGetWidth(CGContextRef context);
 std::size_t CGBitmapContextGetHeight(CGContextRef context);
 std::size_t CGBitmapContextGetBytesPerRow(CGContextRef context);
-/// The pixels of this moment as an image (+1).
+/// An image of the current pixels (+1).
 CGImageRef CGBitmapContextCreateImage(CGContextRef context);
 }

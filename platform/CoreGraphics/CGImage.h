@@ -10,7 +10,7 @@ using CGDataProviderRef = CGDataProvider*;
 struct __CFData;
 using CFDataRef = const __CFData*;
 
-// An image is an object of the runtime as well: it may be a layer's contents. Its bytes are blue,
+// An image is also an object of the runtime, so it can be a layer's contents. Its bytes are blue,
 // green, red, alpha (premultiplied).
 extern "C" {
 CGImageRef CGImageRetain(CGImageRef image);
@@ -21,8 +21,8 @@ std::size_t CGImageGetHeight(CGImageRef image);
 std::size_t CGImageGetBytesPerRow(CGImageRef image);
 std::size_t CGImageGetBitsPerPixel(CGImageRef image);
 std::size_t CGImageGetBitsPerComponent(CGImageRef image);
-/// The part of the image inside `rect`, in pixels from the top left (+1); null when they do not
-/// meet.
+/// The part of the image inside `rect`, in pixels from the top left (+1); null if they do not
+/// overlap.
 CGImageRef CGImageCreateWithImageInRect(CGImageRef image, CGRect rect);
 /// Borrowed: it lives as long as the image.
 CGDataProviderRef CGImageGetDataProvider(CGImageRef image);

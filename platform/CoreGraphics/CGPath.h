@@ -8,7 +8,7 @@ using CGMutablePathRef = CGPath*;
 enum CGLineCap : int { kCGLineCapButt, kCGLineCapRound, kCGLineCapSquare };
 enum CGLineJoin : int { kCGLineJoinMiter, kCGLineJoinRound, kCGLineJoinBevel };
 
-// Every `transform` may be null and is applied to the points that the call adds.
+// `transform` is applied to the points that the call adds. It may be null.
 extern "C" {
 CGMutablePathRef CGPathCreateMutable();
 CGPathRef CGPathCreateCopy(CGPathRef path);
@@ -30,8 +30,8 @@ void CGPathAddQuadCurveToPoint(CGMutablePathRef path, const CGAffineTransform* t
                                CGFloat cpx, CGFloat cpy, CGFloat x, CGFloat y);
 void CGPathAddRect(CGMutablePathRef path, const CGAffineTransform* transform, CGRect rect);
 void CGPathAddEllipseInRect(CGMutablePathRef path, const CGAffineTransform* transform, CGRect rect);
-/// Angles in radians from the x axis; the y axis points down here, so an arc that is not
-/// `clockwise` in the platform's sense runs clockwise on the screen.
+/// Angles are in radians from the x axis. The y axis points down, so an arc that is not `clockwise`
+/// in the platform's sense runs clockwise on the screen.
 void CGPathAddArc(CGMutablePathRef path, const CGAffineTransform* transform, CGFloat x, CGFloat y,
                   CGFloat radius, CGFloat start_angle, CGFloat end_angle, bool clockwise);
 void CGPathAddPath(CGMutablePathRef path, const CGAffineTransform* transform, CGPathRef other);
@@ -39,7 +39,7 @@ void CGPathCloseSubpath(CGMutablePathRef path);
 
 bool CGPathIsEmpty(CGPathRef path);
 CGPoint CGPathGetCurrentPoint(CGPathRef path);
-/// The rectangle round the curve itself, without control points.
+/// The bounds of the curve itself, without its control points.
 CGRect CGPathGetPathBoundingBox(CGPathRef path);
 CGRect CGPathGetBoundingBox(CGPathRef path);
 bool CGPathContainsPoint(CGPathRef path, const CGAffineTransform* transform, CGPoint point,

@@ -29,7 +29,7 @@ constexpr CGRect CGRectOffset(CGRect rect, CGFloat dx, CGFloat dy) {
   return {rect.origin.x + dx, rect.origin.y + dy, rect.size.width, rect.size.height};
 }
 
-/// What both cover; empty (zero) where they do not meet.
+/// The area that both cover; `CGRectZero` if they do not overlap.
 constexpr CGRect CGRectIntersection(CGRect left, CGRect right) {
   const CGFloat x = CGGreater(left.min_x(), right.min_x());
   const CGFloat y = CGGreater(left.min_y(), right.min_y());
@@ -42,7 +42,7 @@ constexpr bool CGRectIntersectsRect(CGRect left, CGRect right) {
   return !CGRectIsEmpty(CGRectIntersection(left, right));
 }
 
-/// The smallest rectangle round both; an empty one adds nothing.
+/// The smallest rectangle that contains both. An empty one is ignored.
 constexpr CGRect CGRectUnion(CGRect left, CGRect right) {
   if (CGRectIsEmpty(left)) return right;
   if (CGRectIsEmpty(right)) return left;
@@ -52,7 +52,7 @@ constexpr CGRect CGRectUnion(CGRect left, CGRect right) {
           CGGreater(left.max_y(), right.max_y()) - y};
 }
 
-/// The smallest rectangle with whole coordinates round `rect`.
+/// The smallest rectangle with integral coordinates that contains `rect`.
 inline CGRect CGRectIntegral(CGRect rect) {
   const CGFloat x = __builtin_floor(rect.min_x());
   const CGFloat y = __builtin_floor(rect.min_y());

@@ -2,7 +2,7 @@
 
 #include "objc/encoding.h"
 
-// Opaque drawing objects of the platform's C interface. Retained and released by C functions.
+// Opaque drawing objects of the platform's C interface, retained and released by C functions.
 struct CGColor;
 struct CGContext;
 struct CGImage;

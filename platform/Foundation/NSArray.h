@@ -5,7 +5,7 @@
 
 struct NSArray;
 
-/// Walks an array by index, so that `for (UIView view : views.of<UIView>())` needs no casts.
+/// Iterates over an array by index: `for (UIView view : views.of<UIView>())` needs no casts.
 template <objc::Handle T, class Array>
 class NSArrayElements {
  public:
@@ -42,7 +42,7 @@ struct NSArray : objc::Bound<NSArray, "NSArray", NSObject> {
   static NSArray arrayWithObjects(const objc::Object* objects, NSUInteger count) {
     return call_class<"arrayWithObjects:count:", NSArray>(objects, count);
   }
-  /// The objects of the list, none of which may be nil.
+  /// An array of the given objects, none of which may be nil.
   template <objc::Handle... Objects>
   static NSArray arrayWithObjects(objc::Object first, Objects... others) {
     const objc::Object objects[] = {first, others...};
@@ -60,18 +60,18 @@ struct NSArray : objc::Bound<NSArray, "NSArray", NSObject> {
   objc::Object objectAtIndex(NSUInteger index) const {
     return call<"objectAtIndex:", objc::Object>(index);
   }
-  /// Writes the objects of the range, none of which is retained.
+  /// Copies the objects in the range to `objects` without retaining them.
   void getObjects(objc::Object* objects, NSRange range) const {
     call<"getObjects:range:">(objects, range);
   }
   objc::Object firstObject() const { return call<"firstObject", objc::Object>(); }
   objc::Object lastObject() const { return call<"lastObject", objc::Object>(); }
   BOOL containsObject(objc::Object object) const { return call<"containsObject:", BOOL>(object); }
-  /// By `isEqual:`; NSNotFound when it is not there.
+  /// Compares by `isEqual:`. Returns NSNotFound if there is no such object.
   NSUInteger indexOfObject(objc::Object object) const {
     return call<"indexOfObject:", NSUInteger>(object);
   }
-  /// By identity; NSNotFound when it is not there.
+  /// Compares by identity. Returns NSNotFound if there is no such object.
   NSUInteger indexOfObjectIdenticalTo(objc::Object object) const {
     return call<"indexOfObjectIdenticalTo:", NSUInteger>(object);
   }
@@ -101,11 +101,11 @@ struct NSArray : objc::Bound<NSArray, "NSArray", NSObject> {
   BOOL writeToFile(NSString path, BOOL atomically) const {
     return call<"writeToFile:atomically:", BOOL>(path, atomically);
   }
-  /// A copy that does not change; +1.
+  /// An immutable copy (+1).
   NSArray copy() const { return call<"copy", NSArray>(); }
 
-  /// The elements as handles of one class. The array must not change while they are walked: walk
-  /// a copy where it may.
+  /// The elements as handles of one class. The array must not change during the iteration; iterate
+  /// over a copy if it might.
   template <objc::Handle T = objc::Object>
   NSArrayElements<T, NSArray> of() const {
     return NSArrayElements<T, NSArray>(*this);

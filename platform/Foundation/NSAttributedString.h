@@ -12,7 +12,7 @@ struct NSAttributedString : objc::Bound<NSAttributedString, "NSAttributedString"
 
   NSUInteger length() const { return call<"length", NSUInteger>(); }
   NSString string() const { return call<"string", NSString>(); }
-  /// The attributes at `index`, and through `range` (unless null) how far they reach.
+  /// The attributes at `index`. If `range` is not null, it receives the range they apply to.
   NSDictionary attributesAtIndex(NSUInteger index, NSRange* range) const {
     return call<"attributesAtIndex:effectiveRange:", NSDictionary>(index, range);
   }
@@ -25,7 +25,7 @@ struct NSAttributedString : objc::Bound<NSAttributedString, "NSAttributedString"
   BOOL isEqualToAttributedString(NSAttributedString other) const {
     return call<"isEqualToAttributedString:", BOOL>(other);
   }
-  /// A copy that does not change; +1.
+  /// An immutable copy (+1).
   NSAttributedString copy() const { return call<"copy", NSAttributedString>(); }
 };
 

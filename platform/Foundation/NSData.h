@@ -7,7 +7,7 @@ struct NSData : objc::Bound<NSData, "NSData", NSObject> {
   static NSData dataWithBytes(const void* bytes, NSUInteger length) {
     return call_class<"dataWithBytes:length:", NSData>(bytes, length);
   }
-  /// Nil when the file cannot be read.
+  /// Returns nil if the file cannot be read.
   static NSData dataWithContentsOfFile(NSString path) {
     return call_class<"dataWithContentsOfFile:", NSData>(path);
   }

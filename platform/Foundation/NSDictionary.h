@@ -14,7 +14,7 @@ struct NSDictionary : objc::Bound<NSDictionary, "NSDictionary", NSObject> {
   static NSDictionary dictionaryWithDictionary(NSDictionary other) {
     return call_class<"dictionaryWithDictionary:", NSDictionary>(other);
   }
-  /// Nil when the file is missing or holds no dictionary.
+  /// Returns nil if the file is missing or does not contain a dictionary.
   static NSDictionary dictionaryWithContentsOfFile(NSString path) {
     return call_class<"dictionaryWithContentsOfFile:", NSDictionary>(path);
   }
@@ -40,7 +40,7 @@ struct NSDictionary : objc::Bound<NSDictionary, "NSDictionary", NSObject> {
   BOOL writeToFile(NSString path, BOOL atomically) const {
     return call<"writeToFile:atomically:", BOOL>(path, atomically);
   }
-  /// A copy that does not change; +1.
+  /// An immutable copy (+1).
   NSDictionary copy() const { return call<"copy", NSDictionary>(); }
 };
 
@@ -61,7 +61,7 @@ struct NSMutableDictionary : objc::Bound<NSMutableDictionary, "NSMutableDictiona
   void setObject(objc::Object object, objc::Object key) const {
     call<"setObject:forKey:">(object, key);
   }
-  /// As `setObject`, and nil removes the key.
+  /// As `setObject`, but nil removes the key.
   void setValue(objc::Object value, NSString key) const { call<"setValue:forKey:">(value, key); }
   void addEntriesFromDictionary(NSDictionary other) const {
     call<"addEntriesFromDictionary:">(other);

@@ -19,7 +19,7 @@ struct NSFileManager : objc::Bound<NSFileManager, "NSFileManager", NSObject> {
     return call<"fileSystemRepresentationWithPath:", const char*>(path);
   }
   NSData contentsAtPath(NSString path) const { return call<"contentsAtPath:", NSData>(path); }
-  /// Nil, with the error told through `error` unless that is null, when it cannot be read.
+  /// Returns nil if the folder cannot be read, and then sets `*error` unless `error` is null.
   NSArray contentsOfDirectoryAtPath(NSString path, objc::Id* error) const {
     return call<"contentsOfDirectoryAtPath:error:", NSArray>(path, error);
   }

@@ -2,5 +2,5 @@
 
 #include "objc/abi.h"
 
-/// Variadic on the platform too: the format and every object are passed as bare pointers (`.id()`).
+/// Variadic, as on the platform: pass the format and every object as bare pointers (`.id()`).
 extern "C" void NSLog(objc::Id format, ...);

@@ -13,7 +13,7 @@ struct NSNotificationCenter : objc::Bound<NSNotificationCenter, "NSNotificationC
     return call_class<"defaultCenter", NSNotificationCenter>();
   }
 
-  /// The observer is not retained: it removes itself before it goes.
+  /// Does not retain the observer, which has to remove itself before it is deallocated.
   void addObserver(objc::Object observer, objc::Sel selector, NSString name,
                    objc::Object object) const {
     call<"addObserver:selector:name:object:">(observer, selector, name, object);

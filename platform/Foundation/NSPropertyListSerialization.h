@@ -10,7 +10,8 @@ enum NSPropertyListFormat : NSUInteger {
 
 struct NSPropertyListSerialization
     : objc::Bound<NSPropertyListSerialization, "NSPropertyListSerialization", NSObject> {
-  /// Nil, with the reason in `error` unless that is null, for what no property list can hold.
+  /// Returns nil if `list` contains an object that a property list cannot hold, and then sets
+  /// `*error` unless `error` is null.
   static NSData dataFromPropertyList(objc::Object list, NSPropertyListFormat format,
                                      objc::Id* error) {
     return call_class<"dataFromPropertyList:format:errorDescription:", NSData>(list, format, error);

@@ -45,7 +45,7 @@ struct NSString : objc::Bound<NSString, "NSString", NSObject> {
     return call<"stringByReplacingCharactersInRange:withString:", NSString>(range, replacement);
   }
   NSRange rangeOfString(NSString other) const { return call<"rangeOfString:", NSRange>(other); }
-  /// The whole character, in UTF-16 units, that the unit at `index` is part of.
+  /// The range, in UTF-16 units, of the whole character that contains the unit at `index`.
   NSRange rangeOfComposedCharacterSequenceAtIndex(NSUInteger index) const {
     return call<"rangeOfComposedCharacterSequenceAtIndex:", NSRange>(index);
   }
@@ -81,7 +81,7 @@ struct NSString : objc::Bound<NSString, "NSString", NSObject> {
   }
   NSString lastPathComponent() const { return call<"lastPathComponent", NSString>(); }
   NSString pathExtension() const { return call<"pathExtension", NSString>(); }
-  /// A copy that does not change; +1.
+  /// An immutable copy (+1).
   NSString copy() const { return call<"copy", NSString>(); }
 };
 
@@ -99,7 +99,7 @@ inline constinit Id cached_string = nullptr;
 
 inline namespace literals {
 
-/// A constant string: made at its first use and kept for the life of the process.
+/// A constant string. It is made at its first use and never released.
 template <FixedString Text>
 inline NSString operator""_ns() {
   if (!cached_string<Text>) [[unlikely]]

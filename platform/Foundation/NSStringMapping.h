@@ -2,9 +2,9 @@
 
 #include "platform/Foundation/NSString.h"
 
-// The spellings of one text, which Foundation adds to its strings.
+// Unicode normalisation, which Foundation adds to its strings.
 struct NSStringMapping : objc::Bound<NSStringMapping, "NSString", NSString> {
-  /// With every letter in one piece with its marks, where there is such a letter.
+  /// Each letter and its marks composed into one character, where such a character exists.
   NSString precomposedStringWithCanonicalMapping() const {
     return call<"precomposedStringWithCanonicalMapping", NSString>();
   }

@@ -3,7 +3,7 @@
 #include "platform/Foundation/NSDate.h"
 
 struct NSTimer : objc::Bound<NSTimer, "NSTimer", NSObject> {
-  /// The run loop keeps the timer, and the timer its target, until it is invalidated.
+  /// The run loop retains the timer, and the timer its target, until the timer is invalidated.
   static NSTimer scheduledTimerWithTimeInterval(NSTimeInterval interval, objc::Object target,
                                                 objc::Sel selector, objc::Object user_info,
                                                 BOOL repeats) {

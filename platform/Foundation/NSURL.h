@@ -3,7 +3,7 @@
 #include "platform/Foundation/NSString.h"
 
 struct NSURL : objc::Bound<NSURL, "NSURL", NSObject> {
-  /// Nil when the text is no address.
+  /// Returns nil if the text is not a valid URL.
   static NSURL URLWithString(NSString text) { return call_class<"URLWithString:", NSURL>(text); }
   static NSURL fileURLWithPath(NSString path) {
     return call_class<"fileURLWithPath:", NSURL>(path);

@@ -3,7 +3,7 @@
 #include "platform/Foundation/NSString.h"
 #include "platform/UIKit/UIImage.h"
 
-// Names of an item's properties; values as noted.
+// Names of an item's properties, each with the type of its value.
 extern "C" {
 extern NSString MPMediaItemPropertyPersistentID;       // NSNumber, 64 bits
 extern NSString MPMediaItemPropertyAlbumPersistentID;  // NSNumber, 64 bits
@@ -17,13 +17,13 @@ extern NSString MPMediaItemPropertyIsCloudItem;        // NSNumber, boolean
 }
 
 struct MPMediaItem : objc::Bound<MPMediaItem, "MPMediaItem", NSObject> {
-  /// Nil for a property that the item does not have.
+  /// Returns nil if the item does not have the property.
   objc::Object valueForProperty(NSString property) const {
     return call<"valueForProperty:", objc::Object>(property);
   }
 };
 
 struct MPMediaItemArtwork : objc::Bound<MPMediaItemArtwork, "MPMediaItemArtwork", NSObject> {
-  /// The picture scaled to `size` points; nil when it cannot be decoded.
+  /// The picture, scaled to `size` points; nil if it cannot be decoded.
   UIImage imageWithSize(CGSize size) const { return call<"imageWithSize:", UIImage>(size); }
 };

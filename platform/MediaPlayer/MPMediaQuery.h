@@ -3,7 +3,7 @@
 #include "platform/Foundation/NSArray.h"
 #include "platform/MediaPlayer/MPMediaItem.h"
 
-// Posted after the library has changed; queries answer anew from then on.
+// Posted after the library has changed. From then on queries return the new contents.
 extern "C" {
 extern NSString MPMediaLibraryDidChangeNotification;
 }
@@ -15,7 +15,7 @@ struct MPMediaPropertyPredicate
   }
 };
 
-/// A query without predicates holds the whole library, in the library's order.
+/// A query without predicates returns the whole library, in the library's order.
 struct MPMediaQuery : objc::Bound<MPMediaQuery, "MPMediaQuery", NSObject> {
   void addFilterPredicate(MPMediaPropertyPredicate predicate) const {
     call<"addFilterPredicate:">(predicate);

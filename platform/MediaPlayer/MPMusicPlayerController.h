@@ -2,7 +2,7 @@
 
 #include "platform/MediaPlayer/MPMediaQuery.h"
 
-// Posted by the system's player after its state or its song has changed.
+// Posted after the system player's state or its song has changed.
 extern "C" {
 extern NSString MPMusicPlayerControllerPlaybackStateDidChangeNotification;
 extern NSString MPMusicPlayerControllerNowPlayingItemDidChangeNotification;
@@ -35,6 +35,6 @@ struct MPMusicPlayerController
   void stop() const { call<"stop">(); }
   double currentPlaybackTime() const { return call<"currentPlaybackTime", double>(); }
   void setCurrentPlaybackTime(double seconds) const { call<"setCurrentPlaybackTime:">(seconds); }
-  /// Told by the system whenever the state changes.
+  /// Sent by the system whenever the state changes.
   void _playbackStateDidChange(NSInteger state) const { call<"_playbackStateDidChange:">(state); }
 };

@@ -4,7 +4,7 @@
 #include "platform/MediaPlayerUI/MediaPlayerUI.h"
 #include "platform/UIKit/UIImage.h"
 
-/// What plays now, as the system's own controls show it.
+/// The song that is playing now, as the system's own controls show it.
 struct MPUNowPlayingController : objc::Bound<MPUNowPlayingController, "MPUNowPlayingController",
                                              NSObject, kMediaPlayerUIImage> {
   UIImage currentNowPlayingArtwork() const { return call<"currentNowPlayingArtwork", UIImage>(); }
@@ -12,8 +12,8 @@ struct MPUNowPlayingController : objc::Bound<MPUNowPlayingController, "MPUNowPla
   NSDictionary currentNowPlayingInfo() const {
     return call<"currentNowPlayingInfo", NSDictionary>();
   }
-  /// Seconds; moves only when the player reports something: a new song, a seek, a resume.
+  /// In seconds. It changes only when the player reports a new song, a seek or a resume.
   double currentElapsed() const { return call<"currentElapsed", double>(); }
-  /// Seconds; 0 when unknown.
+  /// In seconds; 0 when unknown.
   double currentDuration() const { return call<"currentDuration", double>(); }
 };

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Runs a command of the shell and waits for it. Its status as `wait` gives it; -1 when no process
-/// could be made.
+/// Runs a shell command and waits for it. Returns its status as `wait` does, or -1 if no process
+/// could be created.
 extern "C" int system(const char* command);

@@ -2,15 +2,15 @@
 
 #include "objc/abi.h"
 
-/// What the system says of itself. Declared here since its layout is the home's, not that of the
-/// machine that compiles.
+/// The struct that `uname` fills in. It is declared here because its layout is the target's, not
+/// that of the machine that compiles.
 struct SystemName {
   char sysname[kSystemNameLength];
   char nodename[kSystemNameLength];
   char release[kSystemNameLength];
   char version[kSystemNameLength];
   char machine[kSystemNameLength];
-  char domain[kSystemNameLength];  // Unused, and beyond the end of what a phone writes.
+  char domain[kSystemNameLength];  // Unused. A phone's `uname` does not write this far.
 };
 
 extern "C" int uname(SystemName* name);

@@ -2,6 +2,6 @@
 
 #include "platform/Preferences/PSListController.h"
 
-/// The page of a list: all that it offers, a check mark at what is chosen.
+/// The page of a list: it shows all choices, with a check mark at the current one.
 struct PSListItemsController
     : objc::Bound<PSListItemsController, "PSListItemsController", PSListController> {};

@@ -4,11 +4,11 @@
 #include "platform/Foundation/NSArray.h"
 #include "platform/Foundation/NSDictionary.h"
 
-/// The kinds of row, as `+[PSTableCell cellTypeFromString:]` gives them.
+/// The kind of a row, as `+[PSTableCell cellTypeFromString:]` returns it.
 using PSCellType = NSInteger;
 
-/// One row of a settings page, or the beginning of a group of rows: what it is called, how it looks
-/// and whom it asks for its value.
+/// One row of a settings page, or the start of a group of rows: its name, its look, and the target
+/// that gets and sets its value.
 struct PSSpecifier : objc::Bound<PSSpecifier, "PSSpecifier", NSObject> {
   /// The target is not retained. `set` takes the value and the specifier, `get` the specifier.
   static PSSpecifier preferenceSpecifierNamed(NSString name, objc::Object target, objc::Sel set,
@@ -26,7 +26,7 @@ struct PSSpecifier : objc::Bound<PSSpecifier, "PSSpecifier", NSObject> {
 
   NSString name() const { return call<"name", NSString>(); }
   void setName(NSString name) const { call<"setName:">(name); }
-  /// The property "id", or the name where there is none.
+  /// The property "id", or the name if there is none.
   NSString identifier() const { return call<"identifier", NSString>(); }
   void setIdentifier(NSString identifier) const { call<"setIdentifier:">(identifier); }
   objc::Object target() const { return call<"target", objc::Object>(); }
@@ -38,7 +38,7 @@ struct PSSpecifier : objc::Bound<PSSpecifier, "PSSpecifier", NSObject> {
   void setProperty(objc::Object value, NSString key) const {
     call<"setProperty:forKey:">(value, key);
   }
-  /// What a list offers: values and, in the same order, what they are called.
+  /// The choices of a list: values and, in the same order, their titles.
   void setValues(NSArray values, NSArray titles) const {
     call<"setValues:titles:">(values, titles);
   }
@@ -46,7 +46,8 @@ struct PSSpecifier : objc::Bound<PSSpecifier, "PSSpecifier", NSObject> {
   /// Titles by value.
   NSDictionary titleDictionary() const { return call<"titleDictionary", NSDictionary>(); }
 
-  /// What a tap sends to the target. It has no message of its own: it is the field `action`.
+  /// Sets the message that a tap sends to the target. There is no setter for it, only the field
+  /// `action`.
   void set_action(objc::Sel action) const {
     if (objc::Sel* field = objc::field<objc::Sel>(*this, "action")) *field = action;
   }

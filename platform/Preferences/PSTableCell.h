@@ -5,8 +5,8 @@
 #include "platform/UIKit/UITableViewCell.h"
 
 struct PSTableCell : objc::Bound<PSTableCell, "PSTableCell", UITableViewCell> {
-  /// From "PSGroupCell", "PSLinkCell", "PSLinkListCell", "PSSwitchCell", "PSButtonCell" and others;
-  /// of an unknown name, a group.
+  /// Accepts "PSGroupCell", "PSLinkCell", "PSLinkListCell", "PSSwitchCell", "PSButtonCell" and
+  /// others. An unknown name gives a group.
   static PSCellType cellTypeFromString(NSString name) {
     return call_class<"cellTypeFromString:", PSCellType>(name);
   }
@@ -18,14 +18,14 @@ struct PSTableCell : objc::Bound<PSTableCell, "PSTableCell", UITableViewCell> {
   }
   PSSpecifier specifier() const { return call<"specifier", PSSpecifier>(); }
   void setSpecifier(PSSpecifier specifier) const { call<"setSpecifier:">(specifier); }
-  /// Shows what the specifier says now.
+  /// Updates the cell from the specifier's current state.
   void refreshCellContentsWithSpecifier(PSSpecifier specifier) const {
     call<"refreshCellContentsWithSpecifier:">(specifier);
   }
 };
 
-/// What the header of a group may answer: a class of views, or of cells, that its property
-/// "headerCellClass" names.
+/// The messages that a group's header may answer: a view or cell of the class that the group's
+/// property "headerCellClass" names.
 struct PSHeaderViewDelegate : objc::Bound<PSHeaderViewDelegate, "PSHeaderViewDelegate", UIView> {
   PSHeaderViewDelegate initWithSpecifier(PSSpecifier specifier) const {
     return call<"initWithSpecifier:", PSHeaderViewDelegate>(specifier);

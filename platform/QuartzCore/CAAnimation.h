@@ -29,8 +29,8 @@ struct CAAnimation : objc::Bound<CAAnimation, "CAAnimation", NSObject> {
   void setTimingFunction(CAMediaTimingFunction function) const {
     call<"setTimingFunction:">(function);
   }
-  /// Retained by the animation, as on the platform. It may answer `animationDidStart:` and
-  /// `animationDidStop:finished:`; both get the layer's copy of the animation.
+  /// Retained by the animation, as on the platform. It may implement `animationDidStart:` and
+  /// `animationDidStop:finished:`; both receive the layer's copy of the animation.
   objc::Object delegate() const { return call<"delegate", objc::Object>(); }
   void setDelegate(objc::Object delegate) const { call<"setDelegate:">(delegate); }
 

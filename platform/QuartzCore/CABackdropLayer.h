@@ -2,7 +2,7 @@
 
 #include "platform/QuartzCore/CALayer.h"
 
-/// Draws a blurred copy of everything painted behind it. What it looks like is its view's to say.
+/// Draws a blurred copy of everything behind it. Its view determines the look.
 struct CABackdropLayer : objc::Bound<CABackdropLayer, "CABackdropLayer", CALayer> {
   static CABackdropLayer layer() { return call_class<"layer", CABackdropLayer>(); }
 };

@@ -10,7 +10,7 @@ struct CAKeyframeAnimation
   }
   NSArray values() const { return call<"values", NSArray>(); }
   void setValues(NSArray values) const { call<"setValues:">(values); }
-  /// Fractions of the duration, one for each value; without them the values are spread evenly.
+  /// Fractions of the duration, one for each value; nil spreads the values evenly.
   NSArray keyTimes() const { return call<"keyTimes", NSArray>(); }
   void setKeyTimes(NSArray times) const { call<"setKeyTimes:">(times); }
 };

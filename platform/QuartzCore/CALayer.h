@@ -5,7 +5,7 @@
 #include "platform/QuartzCore/CAAnimation.h"
 #include "platform/QuartzCore/CATransform3D.h"
 
-// The delegate of a layer may answer displayLayer:, drawLayer:inContext:, layoutSublayersOfLayer:
+// A layer's delegate may implement displayLayer:, drawLayer:inContext:, layoutSublayersOfLayer:
 // and actionForLayer:forKey:.
 
 struct CALayer : objc::Bound<CALayer, "CALayer", NSObject> {
@@ -53,7 +53,7 @@ struct CALayer : objc::Bound<CALayer, "CALayer", NSObject> {
   void setContents(CGImageRef image) const {
     setContents(objc::Object(reinterpret_cast<objc::Id>(image)));
   }
-  /// "resize" (at first), "resizeAspect", "resizeAspectFill", "center", "top", "bottom", "left",
+  /// "resize" (the default), "resizeAspect", "resizeAspectFill", "center", "top", "bottom", "left",
   /// "right", "topLeft", "topRight", "bottomLeft", "bottomRight".
   NSString contentsGravity() const { return call<"contentsGravity", NSString>(); }
   void setContentsGravity(NSString gravity) const { call<"setContentsGravity:">(gravity); }
@@ -106,7 +106,7 @@ struct CALayer : objc::Bound<CALayer, "CALayer", NSObject> {
     return call<"animationForKey:", CAAnimation>(key);
   }
   NSArray animationKeys() const { return call<"animationKeys", NSArray>(); }
-  /// A copy whose properties are what is drawn now; it has no sublayers.
+  /// A copy with the values that are on the screen now. It has no sublayers.
   CALayer presentationLayer() const { return call<"presentationLayer", CALayer>(); }
 
   CGPoint convertPointFromLayer(CGPoint point, CALayer layer) const {

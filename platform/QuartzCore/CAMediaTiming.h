@@ -2,10 +2,10 @@
 
 #include "platform/Foundation/NSString.h"
 
-/// Seconds on the media clock: the clock on which animations and display links run.
+/// The time in seconds on the media clock, which animations and display links run on.
 extern "C" double CACurrentMediaTime();
 
-// The platform's string constants; on this side they are plain constant strings.
+// The platform's string constants, written out here.
 inline NSString kCAFillModeRemoved() {
   return "removed"_ns;
 }

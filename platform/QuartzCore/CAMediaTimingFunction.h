@@ -11,7 +11,8 @@ extern NSString kCAMediaTimingFunctionEaseInEaseOut;
 extern NSString kCAMediaTimingFunctionDefault;
 }
 
-/// A curve from (0, 0) to (1, 1): "linear", "easeIn", "easeOut", "easeInEaseOut", "default".
+/// A timing curve from (0, 0) to (1, 1). Its names are "linear", "easeIn", "easeOut",
+/// "easeInEaseOut" and "default".
 struct CAMediaTimingFunction
     : objc::Bound<CAMediaTimingFunction, "CAMediaTimingFunction", NSObject> {
   static CAMediaTimingFunction functionWithName(NSString name) {
@@ -23,7 +24,7 @@ struct CAMediaTimingFunction
   CAMediaTimingFunction initWithControlPoints(float x1, float y1, float x2, float y2) const {
     return call<"initWithControlPoints::::", CAMediaTimingFunction>(x1, y1, x2, y2);
   }
-  /// Writes x and y of control point `index` (0 to 3).
+  /// Writes x and y of control point `index` (0 to 3) to `values`.
   void getControlPointAtIndex(NSUInteger index, float* values) const {
     call<"getControlPointAtIndex:values:">(index, values);
   }

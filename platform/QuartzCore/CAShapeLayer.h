@@ -7,7 +7,7 @@ struct CAShapeLayer : objc::Bound<CAShapeLayer, "CAShapeLayer", CALayer> {
 
   CGPathRef path() const { return call<"path", CGPathRef>(); }
   void setPath(CGPathRef path) const { call<"setPath:">(path); }
-  /// Opaque black at first; null fills nothing.
+  /// Opaque black by default; null fills nothing.
   CGColorRef fillColor() const { return call<"fillColor", CGColorRef>(); }
   void setFillColor(CGColorRef color) const { call<"setFillColor:">(color); }
   CGColorRef strokeColor() const { return call<"strokeColor", CGColorRef>(); }
@@ -18,13 +18,13 @@ struct CAShapeLayer : objc::Bound<CAShapeLayer, "CAShapeLayer", CALayer> {
   void setStrokeStart(CGFloat start) const { call<"setStrokeStart:">(start); }
   CGFloat strokeEnd() const { return call<"strokeEnd", CGFloat>(); }
   void setStrokeEnd(CGFloat end) const { call<"setStrokeEnd:">(end); }
-  /// "butt" (at first), "round", "square".
+  /// "butt" (the default), "round", "square".
   NSString lineCap() const { return call<"lineCap", NSString>(); }
   void setLineCap(NSString cap) const { call<"setLineCap:">(cap); }
-  /// "miter" (at first), "round", "bevel".
+  /// "miter" (the default), "round", "bevel".
   NSString lineJoin() const { return call<"lineJoin", NSString>(); }
   void setLineJoin(NSString join) const { call<"setLineJoin:">(join); }
-  /// "non-zero" (at first), "even-odd".
+  /// "non-zero" (the default), "even-odd".
   NSString fillRule() const { return call<"fillRule", NSString>(); }
   void setFillRule(NSString rule) const { call<"setFillRule:">(rule); }
 };

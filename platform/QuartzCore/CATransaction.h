@@ -6,7 +6,8 @@
 struct CATransaction : objc::Bound<CATransaction, "CATransaction", NSObject> {
   static void begin() { call_class<"begin">(); }
   static void commit() { call_class<"commit">(); }
-  /// Lays out and displays what is marked; the end of a turn of the run loop does so by itself.
+  /// Lays out and displays every layer that needs it. The run loop does this at the end of each
+  /// turn.
   static void flush() { call_class<"flush">(); }
 
   static BOOL disableActions() { return call_class<"disableActions", BOOL>(); }
@@ -19,8 +20,8 @@ struct CATransaction : objc::Bound<CATransaction, "CATransaction", NSObject> {
   static void setAnimationTimingFunction(CAMediaTimingFunction function) {
     call_class<"setAnimationTimingFunction:">(function);
   }
-  /// Runs once when every animation added in this transaction has ended; in the next turn of the
-  /// run loop when there was none.
+  /// The block runs once, when every animation that was added in this transaction has ended; in the
+  /// next turn of the run loop if none was added.
   static void setCompletionBlock(objc::Block<void()> completion) {
     call_class<"setCompletionBlock:">(completion);
   }

@@ -2,7 +2,7 @@
 
 #include "platform/CoreGraphics/CGGeometry.h"
 
-/// Row vectors times this matrix; m41, m42, m43 translate.
+/// Points are row vectors, multiplied by this matrix from the right; m41, m42, m43 translate.
 struct CATransform3D {
   CGFloat m11 = 1, m12 = 0, m13 = 0, m14 = 0;
   CGFloat m21 = 0, m22 = 1, m23 = 0, m24 = 0;
@@ -55,7 +55,7 @@ constexpr CGAffineTransform CATransform3DGetAffineTransform(const CATransform3D&
   return {transform.m11, transform.m12, transform.m21, transform.m22, transform.m41, transform.m42};
 }
 
-/// Rotates round the axis (x, y, z); an axis of no length gives the identity.
+/// Rotates by `angle` radians around the axis (x, y, z). A zero axis gives the identity.
 inline CATransform3D CATransform3DMakeRotation(CGFloat angle, CGFloat x, CGFloat y, CGFloat z) {
   CATransform3D made;
   const CGFloat length = __builtin_sqrt(x * x + y * y + z * z);
@@ -78,7 +78,7 @@ inline CATransform3D CATransform3DMakeRotation(CGFloat angle, CGFloat x, CGFloat
   return made;
 }
 
-/// First `first`, then `second`.
+/// Applies `first`, then `second`.
 inline CATransform3D CATransform3DConcat(const CATransform3D& first, const CATransform3D& second) {
   CGFloat left[4][4], right[4][4], product[4][4] = {};
   __builtin_memcpy(left, &first, sizeof left);
@@ -107,7 +107,7 @@ inline CATransform3D CATransform3DRotate(const CATransform3D& transform, CGFloat
   return CATransform3DConcat(CATransform3DMakeRotation(angle, x, y, z), transform);
 }
 
-/// The inverse of a transform within the plane; one that has none is given back unchanged.
+/// The inverse of a transform within the plane. One that has no inverse is returned unchanged.
 constexpr CATransform3D CATransform3DInvert(const CATransform3D& transform) {
   const CGFloat determinant = transform.m11 * transform.m22 - transform.m12 * transform.m21;
   if (determinant == 0) return transform;

@@ -3,7 +3,7 @@
 #include "platform/Foundation/NSValue.h"
 #include "platform/QuartzCore/CATransform3D.h"
 
-/// Geometry as values of animations: `CAValue::valueWithCGPoint(point)`.
+/// Wraps geometry as values for animations: `CAValue::valueWithCGPoint(point)`.
 struct CAValue : objc::Bound<CAValue, "NSValue", NSValue> {
   static CAValue valueWithCGPoint(CGPoint point) {
     return call_class<"valueWithCGPoint:", CAValue>(point);

@@ -8,7 +8,7 @@ struct SBApplicationController
   static SBApplicationController sharedInstance() {
     return call_class<"sharedInstance", SBApplicationController>();
   }
-  /// Nil when no such application is installed.
+  /// Returns nil if no such application is installed.
   SBApplication applicationWithBundleIdentifier(NSString identifier) const {
     return call<"applicationWithBundleIdentifier:", SBApplication>(identifier);
   }

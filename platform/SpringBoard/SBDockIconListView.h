@@ -2,6 +2,6 @@
 
 #include "platform/SpringBoard/SBIconListView.h"
 
-/// The row of icons in the dock; it fills the dock.
+/// The row of icons in the dock. It fills the dock.
 struct SBDockIconListView : objc::Bound<SBDockIconListView, "SBDockIconListView", SBIconListView> {
 };

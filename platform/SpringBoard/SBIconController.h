@@ -8,7 +8,7 @@ struct SBIconController : objc::Bound<SBIconController, "SBIconController", NSOb
     return call_class<"sharedInstance", SBIconController>();
   }
   SBIconModel model() const { return call<"model", SBIconModel>(); }
-  /// The home screen's map, on systems where `SBIconViewMap` does not know it.
+  /// The home screen's map, on systems whose `SBIconViewMap` does not have it.
   SBIconViewMap homescreenIconViewMap() const {
     return call<"homescreenIconViewMap", SBIconViewMap>();
   }
@@ -18,7 +18,7 @@ struct SBIconController : objc::Bound<SBIconController, "SBIconController", NSOb
   BOOL hasOpenFolder() const { return call<"hasOpenFolder", BOOL>(); }
   void closeFolderAnimated(BOOL animated) const { call<"closeFolderAnimated:">(animated); }
   NSInteger currentIconListIndex() const { return call<"currentIconListIndex", NSInteger>(); }
-  /// NO when that page is the one that shows already.
+  /// Returns NO if that page is already shown.
   BOOL scrollToIconListAtIndex(NSInteger index, BOOL animated) const {
     return call<"scrollToIconListAtIndex:animate:", BOOL>(index, animated);
   }

@@ -7,7 +7,7 @@
 struct SBIconListView : objc::Bound<SBIconListView, "SBIconListView", UIView> {
   /// The icons shown, in the order of their slots.
   NSArray icons() const { return call<"icons", NSArray>(); }
-  /// Where the slot's icon view stands, in the list's coordinates.
+  /// The origin of the slot's icon view, in the list's coordinates.
   CGPoint originForIconAtIndex(NSUInteger index) const {
     return call<"originForIconAtIndex:", CGPoint>(index);
   }

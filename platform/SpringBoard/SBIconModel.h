@@ -3,9 +3,9 @@
 #include "platform/Foundation/NSArray.h"
 #include "platform/SpringBoard/SBIcon.h"
 
-/// Every icon of the home screen and where it stands.
+/// Every icon of the home screen and its position.
 struct SBIconModel : objc::Bound<SBIconModel, "SBIconModel", NSObject> {
-  /// The icon of the application with that identifier; nil when it is not installed.
+  /// The icon of the application with that identifier; nil if it is not installed.
   SBIcon expectedIconForDisplayIdentifier(NSString identifier) const {
     return call<"expectedIconForDisplayIdentifier:", SBIcon>(identifier);
   }

@@ -3,13 +3,13 @@
 #include "platform/SpringBoard/SBIconView.h"
 #include "platform/UIKit/UITouch.h"
 
-/// Whoever an icon's view tells of its touches.
+/// The messages that an icon's view sends about its touches.
 struct SBIconViewDelegate : objc::Bound<SBIconViewDelegate, "SBIconViewDelegate", NSObject> {
   void iconTouchBegan(SBIconView icon_view) const { call<"iconTouchBegan:">(icon_view); }
   void iconTouchMoved(SBIconView icon_view, UITouch touch) const {
     call<"icon:touchMoved:">(icon_view, touch);
   }
-  /// `lifted` is NO when the touch was taken away.
+  /// `lifted` is NO if the touch was cancelled.
   void iconTouchEnded(SBIconView icon_view, BOOL lifted) const {
     call<"icon:touchEnded:">(icon_view, lifted);
   }

@@ -7,9 +7,9 @@ struct SBUIController : objc::Bound<SBUIController, "SBUIController", NSObject> 
   static SBUIController sharedInstance() { return call_class<"sharedInstance", SBUIController>(); }
   /// The window of the home screen.
   UIWindow window() const { return call<"window", UIWindow>(); }
-  /// The Home button; YES when the press did something.
+  /// A press of the Home button. Returns YES if it did something.
   BOOL clickedMenuButton() const { return call<"clickedMenuButton", BOOL>(); }
-  /// The Home button pressed twice; YES when it did something.
+  /// A double press of the Home button. Returns YES if it did something.
   BOOL handleMenuDoubleTap() const { return call<"handleMenuDoubleTap", BOOL>(); }
   BOOL isAppSwitcherShowing() const { return call<"isAppSwitcherShowing", BOOL>(); }
   void activateApplicationAnimated(SBApplication application) const {

@@ -9,15 +9,15 @@ enum TWTweetComposeViewControllerResult : NSInteger {
   TWTweetComposeViewControllerResultDone,
 };
 
-/// A short text that is shown for editing and then sent or cancelled.
+/// A composer: the user edits a short text, then sends or cancels it.
 struct TWTweetComposeViewController
     : objc::Bound<TWTweetComposeViewController, "TWTweetComposeViewController", UIViewController,
                   kTwitterImage> {
   using Handler = objc::Block<void(TWTweetComposeViewControllerResult)>;
 
   static BOOL canSendTweet() { return call_class<"canSendTweet", BOOL>(); }
-  /// NO once the composer has been shown: from then on the text is the user's.
+  /// Returns NO once the composer has been shown: from then on the text belongs to the user.
   BOOL setInitialText(NSString text) const { return call<"setInitialText:", BOOL>(text); }
-  /// Called once, at the end.
+  /// The handler is called once, when the composer ends.
   void setCompletionHandler(Handler handler) const { call<"setCompletionHandler:">(handler); }
 };

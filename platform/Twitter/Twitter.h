@@ -2,6 +2,6 @@
 
 #include "objc/fixed_string.h"
 
-/// The file that has the classes of this folder. No process is sure to have loaded it.
+/// The framework with the classes of this folder. A process may not have loaded it.
 inline constexpr objc::FixedString kTwitterImage =
     "/System/Library/Frameworks/Twitter.framework/Twitter";

@@ -2,7 +2,7 @@
 
 #include "platform/Foundation/NSAttributedString.h"
 
-// Names of the attributes that are drawn.
+// Names of the attributes that affect drawing.
 extern "C" {
 /// A UIFont.
 extern NSString NSFontAttributeName;
@@ -12,6 +12,6 @@ extern NSString NSForegroundColorAttributeName;
 extern NSString NSBackgroundColorAttributeName;
 /// A number: points added between characters.
 extern NSString NSKernAttributeName;
-/// A number; not 0 means a line below the text.
+/// A number: other than 0, the text is underlined.
 extern NSString NSUnderlineStyleAttributeName;
 }

@@ -5,8 +5,8 @@
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UITextEnumerations.h"
 
-/// What UIKit adds to a string: `objc::cast<NSStringDrawing>(title).sizeWithFont(font)`. Sizes are
-/// in points; drawing goes to the current context of `UIGraphics`.
+/// The methods that UIKit adds to strings: `objc::cast<NSStringDrawing>(title).sizeWithFont(font)`.
+/// Sizes are in points; drawing goes to the current context of `UIGraphics`.
 struct NSStringDrawing : objc::Bound<NSStringDrawing, "NSString", NSString> {
   CGSize sizeWithFont(UIFont font) const { return call<"sizeWithFont:", CGSize>(font); }
   CGSize sizeWithFont(UIFont font, CGSize limit, NSLineBreakMode mode) const {

@@ -3,14 +3,14 @@
 #include "platform/UIKit/UIView.h"
 
 struct UIAlertView : objc::Bound<UIAlertView, "UIAlertView", UIView> {
-  /// The message takes a list of other titles that a typed call cannot pass: the list is empty
-  /// here, and `addButtonWithTitle` adds them. The delegate is not retained.
+  /// The message takes a variadic list of other titles, which a typed call cannot pass. Here the
+  /// list is empty; add the titles with `addButtonWithTitle`. The delegate is not retained.
   UIAlertView initWithTitle(NSString title, NSString message, objc::Object delegate,
                             NSString cancel) const {
     return call<"initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:", UIAlertView>(
         title, message, delegate, cancel, NSString());
   }
-  /// Its index.
+  /// Returns the button's index.
   NSInteger addButtonWithTitle(NSString title) const {
     return call<"addButtonWithTitle:", NSInteger>(title);
   }
@@ -25,13 +25,13 @@ struct UIAlertView : objc::Bound<UIAlertView, "UIAlertView", UIView> {
   NSString buttonTitleAtIndex(NSInteger index) const {
     return call<"buttonTitleAtIndex:", NSString>(index);
   }
-  /// -1 where there is none.
+  /// -1 if there is none.
   NSInteger cancelButtonIndex() const { return call<"cancelButtonIndex", NSInteger>(); }
 
   BOOL isVisible() const { return call<"isVisible", BOOL>(); }
-  /// Above everything but the keyboard; it keeps itself until it is dismissed.
+  /// Shows the alert above everything but the keyboard. It stays retained until it is dismissed.
   void show() const { call<"show">(); }
-  /// As if the button had been tapped, except that no click is told.
+  /// As a tap on the button, but the delegate's `clickedButtonAtIndex` is not called.
   void dismissWithClickedButtonIndex(NSInteger index, BOOL animated) const {
     call<"dismissWithClickedButtonIndex:animated:">(index, animated);
   }

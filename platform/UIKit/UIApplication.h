@@ -22,13 +22,13 @@ struct UIApplication : objc::Bound<UIApplication, "UIApplication", UIResponder> 
   /// The visible windows, back to front.
   NSArray windows() const { return call<"windows", NSArray>(); }
   void sendEvent(UIEvent event) const { call<"sendEvent:">(event); }
-  /// A nil target asks the responder chain, from the sender up; the answer says whether anybody
+  /// A nil target searches the responder chain, from the sender up. Returns whether any responder
   /// took the action.
   BOOL sendAction(objc::Sel action, objc::Object target, objc::Object sender, UIEvent event) const {
     return call<"sendAction:to:from:forEvent:", BOOL>(action, target, sender, event);
   }
 
-  /// Is there somebody for addresses of this kind?
+  /// Whether anything handles URLs of this kind.
   BOOL canOpenURL(NSURL url) const { return call<"canOpenURL:", BOOL>(url); }
   BOOL openURL(NSURL url) const { return call<"openURL:", BOOL>(url); }
 
@@ -38,7 +38,7 @@ struct UIApplication : objc::Bound<UIApplication, "UIApplication", UIResponder> 
 
   BOOL isStatusBarHidden() const { return call<"isStatusBarHidden", BOOL>(); }
   void setStatusBarHidden(BOOL hidden) const { call<"setStatusBarHidden:">(hidden); }
-  /// Points; 0 while the status bar is hidden.
+  /// In points; 0 while the status bar is hidden.
   CGFloat statusBarHeight() const { return call<"statusBarHeight", CGFloat>(); }
   CGRect statusBarFrame() const { return call<"statusBarFrame", CGRect>(); }
   UIInterfaceOrientation statusBarOrientation() const {

@@ -9,9 +9,9 @@ enum UIBarButtonItemStyle : NSInteger {
   UIBarButtonItemStyleDone = 2,
 };
 
-/// What a bar shows as one of its buttons; no view itself.
+/// Describes one button of a bar. It is not a view.
 struct UIBarButtonItem : objc::Bound<UIBarButtonItem, "UIBarButtonItem", NSObject> {
-  /// The target is not retained; nil asks the responder chain.
+  /// The target is not retained; nil searches the responder chain.
   UIBarButtonItem initWithTitle(NSString title, UIBarButtonItemStyle style, objc::Object target,
                                 objc::Sel action) const {
     return call<"initWithTitle:style:target:action:", UIBarButtonItem>(title, style, target,
@@ -35,7 +35,7 @@ struct UIBarButtonItem : objc::Bound<UIBarButtonItem, "UIBarButtonItem", NSObjec
   void setAction(objc::Sel action) const { call<"setAction:">(action); }
   BOOL isEnabled() const { return call<"isEnabled", BOOL>(); }
   void setEnabled(BOOL enabled) const { call<"setEnabled:">(enabled); }
-  /// Nil for the bar's.
+  /// Nil means the bar's tint colour.
   UIColor tintColor() const { return call<"tintColor", UIColor>(); }
   void setTintColor(UIColor color) const { call<"setTintColor:">(color); }
 };

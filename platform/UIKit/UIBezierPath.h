@@ -15,7 +15,7 @@ struct UIBezierPath : objc::Bound<UIBezierPath, "UIBezierPath", NSObject> {
   static UIBezierPath bezierPathWithRoundedRect(CGRect rect, CGFloat radius) {
     return call_class<"bezierPathWithRoundedRect:cornerRadius:", UIBezierPath>(rect, radius);
   }
-  /// Angles in radians, 0 to the right, growing clockwise on the screen.
+  /// Angles are in radians; 0 points right, and they grow clockwise on the screen.
   static UIBezierPath bezierPathWithArcCenter(CGPoint center, CGFloat radius, CGFloat start,
                                               CGFloat end, BOOL clockwise) {
     return call_class<"bezierPathWithArcCenter:radius:startAngle:endAngle:clockwise:",
@@ -47,7 +47,7 @@ struct UIBezierPath : objc::Bound<UIBezierPath, "UIBezierPath", NSObject> {
   CGRect bounds() const { return call<"bounds", CGRect>(); }
   CGPoint currentPoint() const { return call<"currentPoint", CGPoint>(); }
   BOOL containsPoint(CGPoint point) const { return call<"containsPoint:", BOOL>(point); }
-  /// Lives until the path next changes.
+  /// Borrowed: valid until the path changes.
   CGPathRef CGPath() const { return call<"CGPath", CGPathRef>(); }
   void setCGPath(CGPathRef path) const { call<"setCGPath:">(path); }
 
@@ -60,9 +60,9 @@ struct UIBezierPath : objc::Bound<UIBezierPath, "UIBezierPath", NSObject> {
   BOOL usesEvenOddFillRule() const { return call<"usesEvenOddFillRule", BOOL>(); }
   void setUsesEvenOddFillRule(BOOL uses) const { call<"setUsesEvenOddFillRule:">(uses); }
 
-  /// With the current fill or stroke colour of the current context.
+  /// Both use the fill or stroke colour of the current context.
   void fill() const { call<"fill">(); }
   void stroke() const { call<"stroke">(); }
-  /// Cuts all later drawing of the current context to the path.
+  /// Clips all later drawing in the current context to the path.
   void addClip() const { call<"addClip">(); }
 };

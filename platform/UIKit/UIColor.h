@@ -22,7 +22,7 @@ struct UIColor : objc::Bound<UIColor, "UIColor", NSObject> {
   static UIColor brownColor() { return call_class<"brownColor", UIColor>(); }
   static UIColor clearColor() { return call_class<"clearColor", UIColor>(); }
 
-  /// Components are 0 to 1.
+  /// Components are from 0 to 1.
   static UIColor colorWithWhite(CGFloat white, CGFloat alpha) {
     return call_class<"colorWithWhite:alpha:", UIColor>(white, alpha);
   }
@@ -37,7 +37,7 @@ struct UIColor : objc::Bound<UIColor, "UIColor", NSObject> {
     return call_class<"colorWithCGColor:", UIColor>(color);
   }
 
-  /// Fills with copies of the picture, side by side; nil without one. Body in UIImage.h.
+  /// Fills by tiling the picture; returns nil for a nil picture. Body in UIImage.h.
   static UIColor colorWithPatternImage(UIImage image);
 
   UIColor initWithWhite(CGFloat white, CGFloat alpha) const {
@@ -50,21 +50,21 @@ struct UIColor : objc::Bound<UIColor, "UIColor", NSObject> {
     return call<"colorWithAlphaComponent:", UIColor>(alpha);
   }
 
-  /// Fills in what is not null.
+  /// Writes the components whose pointers are not null.
   BOOL getRed(CGFloat* red, CGFloat* green, CGFloat* blue, CGFloat* alpha) const {
     return call<"getRed:green:blue:alpha:", BOOL>(red, green, blue, alpha);
   }
-  /// NO, and nothing filled in, when the colour is no grey.
+  /// Returns NO and writes nothing if the colour is not a grey.
   BOOL getWhite(CGFloat* white, CGFloat* alpha) const {
     return call<"getWhite:alpha:", BOOL>(white, alpha);
   }
   BOOL getHue(CGFloat* hue, CGFloat* saturation, CGFloat* brightness, CGFloat* alpha) const {
     return call<"getHue:saturation:brightness:alpha:", BOOL>(hue, saturation, brightness, alpha);
   }
-  /// Lives as long as the colour.
+  /// Borrowed: lives as long as the colour.
   CGColorRef CGColor() const { return call<"CGColor", CGColorRef>(); }
 
-  /// Into the current context of `UIGraphics`.
+  /// Sets the fill and stroke colour of the current context of `UIGraphics`.
   void set() const { call<"set">(); }
   void setFill() const { call<"setFill">(); }
   void setStroke() const { call<"setStroke">(); }

@@ -35,8 +35,8 @@ enum UIControlContentHorizontalAlignment : NSInteger {
 };
 
 struct UIControl : objc::Bound<UIControl, "UIControl", UIView> {
-  /// The target is not retained; nil asks the responder chain. The action takes no argument, the
-  /// sender, or the sender and the event.
+  /// The target is not retained; nil searches the responder chain. The action takes no argument,
+  /// the sender, or the sender and the event.
   void addTarget(objc::Object target, objc::Sel action, UIControlEvents events) const {
     call<"addTarget:action:forControlEvents:">(target, action, events);
   }

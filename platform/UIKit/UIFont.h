@@ -4,7 +4,7 @@
 #include "platform/Foundation/NSString.h"
 
 struct UIFont : objc::Bound<UIFont, "UIFont", NSObject> {
-  /// Nil when no font has that name.
+  /// Returns nil if no font has that name.
   static UIFont fontWithName(NSString name, CGFloat size) {
     return call_class<"fontWithName:size:", UIFont>(name, size);
   }
@@ -27,7 +27,7 @@ struct UIFont : objc::Bound<UIFont, "UIFont", NSObject> {
   NSString familyName() const { return call<"familyName", NSString>(); }
   CGFloat pointSize() const { return call<"pointSize", CGFloat>(); }
 
-  // In points; the descender lies below the baseline and is negative.
+  // In points. The descender lies below the baseline and is negative.
   CGFloat ascender() const { return call<"ascender", CGFloat>(); }
   CGFloat descender() const { return call<"descender", CGFloat>(); }
   CGFloat capHeight() const { return call<"capHeight", CGFloat>(); }

@@ -31,7 +31,7 @@ struct UIGestureRecognizer : objc::Bound<UIGestureRecognizer, "UIGestureRecogniz
   objc::Object delegate() const { return call<"delegate", objc::Object>(); }
   void setDelegate(objc::Object delegate) const { call<"setDelegate:">(delegate); }
   BOOL isEnabled() const { return call<"isEnabled", BOOL>(); }
-  /// Disabling a recogniser in the middle of its gesture cancels it.
+  /// Disabling a recogniser during its gesture cancels the gesture.
   void setEnabled(BOOL enabled) const { call<"setEnabled:">(enabled); }
   BOOL cancelsTouchesInView() const { return call<"cancelsTouchesInView", BOOL>(); }
   void setCancelsTouchesInView(BOOL cancels) const { call<"setCancelsTouchesInView:">(cancels); }
@@ -44,7 +44,7 @@ struct UIGestureRecognizer : objc::Bound<UIGestureRecognizer, "UIGestureRecogniz
   }
 
   NSUInteger numberOfTouches() const { return call<"numberOfTouches", NSUInteger>(); }
-  /// The middle of the gesture's touches; nil asks in the coordinates of the window.
+  /// The centre of the gesture's touches; for a nil view, in the window's coordinates.
   CGPoint locationInView(UIView view) const { return call<"locationInView:", CGPoint>(view); }
   CGPoint locationOfTouch(NSUInteger index, UIView view) const {
     return call<"locationOfTouch:inView:", CGPoint>(index, view);

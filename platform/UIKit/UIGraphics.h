@@ -3,12 +3,12 @@
 #include "platform/UIKit/UIImage.h"
 
 extern "C" {
-/// The context that drawing goes to: the last one pushed or begun; null when there is none.
+/// The context that drawing goes to: the last one pushed or begun; null if there is none.
 CGContextRef UIGraphicsGetCurrentContext();
 void UIGraphicsPushContext(CGContextRef context);
 void UIGraphicsPopContext();
 
-/// A transparent picture of `size` points, one pixel a point.
+/// Begins a transparent picture of `size` points, with one pixel per point.
 void UIGraphicsBeginImageContext(CGSize size);
 /// A `scale` of 0 means the screen's.
 void UIGraphicsBeginImageContextWithOptions(CGSize size, BOOL opaque, CGFloat scale);
@@ -21,7 +21,7 @@ namespace objc::c {
 extern "C" Id UIGraphicsGetImageFromCurrentImageContext();
 }
 
-/// What was drawn so far; nil outside an image context.
+/// A picture of what has been drawn so far; nil outside an image context.
 inline UIImage UIGraphicsGetImageFromCurrentImageContext() {
   return objc::wrap<UIImage>(objc::c::UIGraphicsGetImageFromCurrentImageContext());
 }

@@ -23,9 +23,9 @@ enum UIImageRenderingMode : NSInteger {
 };
 
 struct UIImage : objc::Bound<UIImage, "UIImage", NSObject> {
-  /// A picture of the main bundle, for the screen's scale; nil when there is none.
+  /// A picture from the main bundle, for the screen's scale; nil if it does not exist.
   static UIImage imageNamed(NSString name) { return call_class<"imageNamed:", UIImage>(name); }
-  /// Prefers the variant for the screen's scale beside the path; nil when the file is missing.
+  /// Prefers the file next to `path` for the screen's scale. Returns nil if the file is missing.
   static UIImage imageWithContentsOfFile(NSString path) {
     return call_class<"imageWithContentsOfFile:", UIImage>(path);
   }
@@ -52,9 +52,9 @@ struct UIImage : objc::Bound<UIImage, "UIImage", NSObject> {
 
   /// In points.
   CGSize size() const { return call<"size", CGSize>(); }
-  /// Pixels in a point.
+  /// Pixels per point.
   CGFloat scale() const { return call<"scale", CGFloat>(); }
-  /// Lives as long as the image; null when the picture cannot be decoded.
+  /// Borrowed: lives as long as the image. Null if the picture cannot be decoded.
   CGImageRef CGImage() const { return call<"CGImage", CGImageRef>(); }
   UIImageOrientation imageOrientation() const {
     return call<"imageOrientation", UIImageOrientation>();

@@ -3,17 +3,17 @@
 #include "platform/Foundation/NSString.h"
 
 extern "C" {
-// Posted by the keyboard, without an object.
+// Posted by the keyboard; the notification's object is nil.
 extern NSString UIKeyboardWillShowNotification;
 extern NSString UIKeyboardDidShowNotification;
 extern NSString UIKeyboardWillHideNotification;
 extern NSString UIKeyboardDidHideNotification;
 
-// What their userInfo holds.
-/// Values with a CGRect, in points of the screen.
+// Keys of their userInfo.
+/// An NSValue with a CGRect, in screen points.
 extern NSString UIKeyboardFrameBeginUserInfoKey;
 extern NSString UIKeyboardFrameEndUserInfoKey;
-/// A number: seconds.
+/// A number, in seconds.
 extern NSString UIKeyboardAnimationDurationUserInfoKey;
 /// A number: a UIViewAnimationCurve.
 extern NSString UIKeyboardAnimationCurveUserInfoKey;

@@ -26,7 +26,7 @@ struct UILabel : objc::Bound<UILabel, "UILabel", UIView> {
   void setTextAlignment(NSTextAlignment alignment) const { call<"setTextAlignment:">(alignment); }
   NSLineBreakMode lineBreakMode() const { return call<"lineBreakMode", NSLineBreakMode>(); }
   void setLineBreakMode(NSLineBreakMode mode) const { call<"setLineBreakMode:">(mode); }
-  /// 0 means as many as there is room for.
+  /// 0 means as many as fit.
   NSInteger numberOfLines() const { return call<"numberOfLines", NSInteger>(); }
   void setNumberOfLines(NSInteger lines) const { call<"setNumberOfLines:">(lines); }
   BOOL adjustsFontSizeToFitWidth() const { return call<"adjustsFontSizeToFitWidth", BOOL>(); }

@@ -15,10 +15,10 @@ struct UILongPressGestureRecognizer
   void setNumberOfTouchesRequired(NSUInteger count) const {
     call<"setNumberOfTouchesRequired:">(count);
   }
-  /// Seconds.
+  /// In seconds.
   double minimumPressDuration() const { return call<"minimumPressDuration", double>(); }
   void setMinimumPressDuration(double seconds) const { call<"setMinimumPressDuration:">(seconds); }
-  /// Points that the finger may stray before the press is recognised.
+  /// How far, in points, the finger may move before the press is recognised.
   CGFloat allowableMovement() const { return call<"allowableMovement", CGFloat>(); }
   void setAllowableMovement(CGFloat points) const { call<"setAllowableMovement:">(points); }
 };

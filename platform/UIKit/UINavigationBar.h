@@ -9,7 +9,7 @@ struct UINavigationBar : objc::Bound<UINavigationBar, "UINavigationBar", UIView>
     return call<"initWithFrame:", UINavigationBar>(frame);
   }
 
-  /// From the first to the one that is shown.
+  /// From the root's item to the one that is shown.
   NSArray items() const { return call<"items", NSArray>(); }
   void setItems(NSArray items) const { call<"setItems:">(items); }
   UINavigationItem topItem() const { return call<"topItem", UINavigationItem>(); }

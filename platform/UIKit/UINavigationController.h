@@ -17,14 +17,14 @@ struct UINavigationController
   UIViewController topViewController() const {
     return call<"topViewController", UIViewController>();
   }
-  /// The top one, or what is presented over it.
+  /// The top view controller, or the one presented over it.
   UIViewController visibleViewController() const {
     return call<"visibleViewController", UIViewController>();
   }
   void pushViewController(UIViewController controller, BOOL animated) const {
     call<"pushViewController:animated:">(controller, animated);
   }
-  /// What was taken off, nil when there is nothing below it.
+  /// Returns the controller that was popped, or nil if it is the root.
   UIViewController popViewControllerAnimated(BOOL animated) const {
     return call<"popViewControllerAnimated:", UIViewController>(animated);
   }
@@ -41,7 +41,7 @@ struct UINavigationController
   void setNavigationBarHidden(BOOL hidden, BOOL animated) const {
     call<"setNavigationBarHidden:animated:">(hidden, animated);
   }
-  /// The finger that comes in over the left edge and takes the page with it.
+  /// The swipe from the left edge that drags the page away.
   UIGestureRecognizer interactivePopGestureRecognizer() const {
     return call<"interactivePopGestureRecognizer", UIGestureRecognizer>();
   }

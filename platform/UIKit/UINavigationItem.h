@@ -4,7 +4,7 @@
 
 struct UIView;
 
-/// What a page has the navigation bar show while it is on top.
+/// What the navigation bar shows for a page while that page is on top.
 struct UINavigationItem : objc::Bound<UINavigationItem, "UINavigationItem", NSObject> {
   UINavigationItem initWithTitle(NSString title) const {
     return call<"initWithTitle:", UINavigationItem>(title);
@@ -12,10 +12,10 @@ struct UINavigationItem : objc::Bound<UINavigationItem, "UINavigationItem", NSOb
 
   NSString title() const { return call<"title", NSString>(); }
   void setTitle(NSString title) const { call<"setTitle:">(title); }
-  /// In place of the title. Bodies in UINavigationBar.h.
+  /// Replaces the title. Bodies in UINavigationBar.h.
   UIView titleView() const;
   void setTitleView(UIView view) const;
-  /// In place of the back button.
+  /// Replaces the back button.
   UIBarButtonItem leftBarButtonItem() const { return call<"leftBarButtonItem", UIBarButtonItem>(); }
   void setLeftBarButtonItem(UIBarButtonItem item) const { call<"setLeftBarButtonItem:">(item); }
   UIBarButtonItem rightBarButtonItem() const {

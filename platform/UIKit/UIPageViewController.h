@@ -18,7 +18,7 @@ enum UIPageViewControllerTransitionStyle : NSInteger {
   UIPageViewControllerTransitionStyleScroll = 1,
 };
 
-/// Pages beside each other, of which a finger brings the next.
+/// Shows pages side by side; a swipe turns to the next or previous one.
 struct UIPageViewController
     : objc::Bound<UIPageViewController, "UIPageViewController", UIViewController> {
   UIPageViewController initWithTransitionStyle(
@@ -32,7 +32,7 @@ struct UIPageViewController
   void setDataSource(objc::Object source) const { call<"setDataSource:">(source); }
   objc::Object delegate() const { return call<"delegate", objc::Object>(); }
   void setDelegate(objc::Object delegate) const { call<"setDelegate:">(delegate); }
-  /// The page that is shown.
+  /// The page that is shown, as an array.
   NSArray viewControllers() const { return call<"viewControllers", NSArray>(); }
   void setViewControllers(NSArray controllers, UIPageViewControllerNavigationDirection direction,
                           BOOL animated, objc::Block<void(BOOL)> completion) const {
@@ -41,7 +41,7 @@ struct UIPageViewController
   }
 };
 
-/// Nil is the end. The counts are asked only of one that answers both.
+/// Nil means that there is no further page. The counts are requested only if both are implemented.
 struct UIPageViewControllerDataSource
     : objc::Bound<UIPageViewControllerDataSource, "UIPageViewControllerDataSource", NSObject> {
   UIViewController viewControllerBefore(UIPageViewController pages, UIViewController page) const {

@@ -15,11 +15,11 @@ struct UIPanGestureRecognizer
   void setMaximumNumberOfTouches(NSUInteger count) const {
     call<"setMaximumNumberOfTouches:">(count);
   }
-  /// Points from where the touches landed, or as `setTranslation` left it.
+  /// In points, from where the touches landed or from the last `setTranslation`.
   CGPoint translationInView(UIView view) const { return call<"translationInView:", CGPoint>(view); }
   void setTranslation(CGPoint translation, UIView view) const {
     call<"setTranslation:inView:">(translation, view);
   }
-  /// Points a second.
+  /// In points per second.
   CGPoint velocityInView(UIView view) const { return call<"velocityInView:", CGPoint>(view); }
 };

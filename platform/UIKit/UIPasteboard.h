@@ -7,7 +7,7 @@ struct UIPasteboard : objc::Bound<UIPasteboard, "UIPasteboard", NSObject> {
     return call_class<"generalPasteboard", UIPasteboard>();
   }
 
-  /// Nil when it holds no text.
+  /// Nil if it holds no text.
   NSString string() const { return call<"string", NSString>(); }
   void setString(NSString text) const { call<"setString:">(text); }
 };

@@ -3,7 +3,7 @@
 #include "platform/Foundation/NSString.h"
 #include "platform/UIKit/UIView.h"
 
-/// Wheels side by side, of each of which one row is chosen.
+/// Wheels side by side; one row is selected on each.
 struct UIPickerView : objc::Bound<UIPickerView, "UIPickerView", UIView> {
   UIPickerView initWithFrame(CGRect frame) const {
     return call<"initWithFrame:", UIPickerView>(frame);
@@ -18,11 +18,11 @@ struct UIPickerView : objc::Bound<UIPickerView, "UIPickerView", UIView> {
     return call<"numberOfRowsInComponent:", NSInteger>(component);
   }
   void reloadAllComponents() const { call<"reloadAllComponents">(); }
-  /// Tells nobody: that is for what a finger does.
+  /// Does not notify the delegate, which hears only of selections by touch.
   void selectRow(NSInteger row, NSInteger component, BOOL animated) const {
     call<"selectRow:inComponent:animated:">(row, component, animated);
   }
-  /// -1 where there is no row.
+  /// -1 if there is no row.
   NSInteger selectedRowInComponent(NSInteger component) const {
     return call<"selectedRowInComponent:", NSInteger>(component);
   }

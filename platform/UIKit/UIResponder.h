@@ -9,7 +9,7 @@ struct UIResponder : objc::Bound<UIResponder, "UIResponder", NSObject> {
   BOOL canResignFirstResponder() const { return call<"canResignFirstResponder", BOOL>(); }
   BOOL resignFirstResponder() const { return call<"resignFirstResponder", BOOL>(); }
   BOOL isFirstResponder() const { return call<"isFirstResponder", BOOL>(); }
-  /// The keyboard looks anew at what the first responder asks of it.
+  /// Makes the keyboard read the first responder's text input traits again.
   void reloadInputViews() const { call<"reloadInputViews">(); }
 
   void touchesBegan(NSSet touches, UIEvent event) const {

@@ -10,8 +10,8 @@ struct UIScreen : objc::Bound<UIScreen, "UIScreen", NSObject> {
   CGRect bounds() const { return call<"bounds", CGRect>(); }
   /// In pixels.
   CGRect nativeBounds() const { return call<"nativeBounds", CGRect>(); }
-  /// In points: what the status bar leaves.
+  /// In points, without the status bar.
   CGRect applicationFrame() const { return call<"applicationFrame", CGRect>(); }
-  /// Pixels in a point.
+  /// Pixels per point.
   CGFloat scale() const { return call<"scale", CGFloat>(); }
 };

@@ -16,7 +16,7 @@ enum UIScrollViewKeyboardDismissMode : NSInteger {
   UIScrollViewKeyboardDismissModeInteractive = 2,
 };
 
-/// The share of the velocity that is left after one millisecond.
+/// The fraction of the velocity that remains after one millisecond.
 inline constexpr CGFloat UIScrollViewDecelerationRateNormal = 0.998;
 inline constexpr CGFloat UIScrollViewDecelerationRateFast = 0.99;
 
@@ -108,13 +108,14 @@ struct UIScrollView : objc::Bound<UIScrollView, "UIScrollView", UIView> {
   }
 };
 
-/// What a scroll view tells its delegate; every method is optional and is asked for first.
+/// The messages to a scroll view's delegate. Every method is optional and is sent only if the
+/// delegate responds to it.
 struct UIScrollViewDelegate : objc::Bound<UIScrollViewDelegate, "UIScrollViewDelegate", NSObject> {
   void scrollViewDidScroll(UIScrollView view) const { call<"scrollViewDidScroll:">(view); }
   void scrollViewWillBeginDragging(UIScrollView view) const {
     call<"scrollViewWillBeginDragging:">(view);
   }
-  /// The velocity is in points a millisecond; the delegate may move the target.
+  /// The velocity is in points per millisecond. The delegate may change the target offset.
   void scrollViewWillEndDragging(UIScrollView view, CGPoint velocity, CGPoint* target) const {
     call<"scrollViewWillEndDragging:withVelocity:targetContentOffset:">(view, velocity, target);
   }

@@ -18,7 +18,7 @@ enum UITableViewScrollPosition : NSInteger {
   UITableViewScrollPositionBottom = 3,
 };
 
-/// A height that stands for "the table decides".
+/// A height that lets the table decide.
 inline constexpr CGFloat UITableViewAutomaticDimension = -1.0;
 
 struct UITableView : objc::Bound<UITableView, "UITableView", UIScrollView> {
@@ -117,8 +117,8 @@ struct UITableView : objc::Bound<UITableView, "UITableView", UIScrollView> {
   }
 };
 
-/// Where a table takes its rows from. The row count and the cells are required, the rest is asked
-/// for first.
+/// The source of a table's rows. The row count and the cells are required; the other methods are
+/// optional.
 struct UITableViewDataSource
     : objc::Bound<UITableViewDataSource, "UITableViewDataSource", NSObject> {
   NSInteger numberOfSectionsInTableView(UITableView table) const {
@@ -138,7 +138,7 @@ struct UITableViewDataSource
   }
 };
 
-/// What a table asks and tells its delegate, beside what every scroll view tells; all optional.
+/// The messages to a table's delegate, besides those of a scroll view. All are optional.
 struct UITableViewDelegate
     : objc::Bound<UITableViewDelegate, "UITableViewDelegate", UIScrollViewDelegate> {
   CGFloat heightForRowAtIndexPath(UITableView table, NSIndexPath path) const {

@@ -7,7 +7,7 @@ enum NSTextAlignment : NSInteger {
   NSTextAlignmentCenter = 1,
   NSTextAlignmentRight = 2,
   NSTextAlignmentJustified = 3,
-  /// By the direction of the text itself.
+  /// Follows the direction of the text.
   NSTextAlignmentNatural = 4,
 };
 

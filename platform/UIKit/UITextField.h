@@ -25,7 +25,7 @@ struct UITextField : objc::Bound<UITextField, "UITextField", UIControl> {
     return call<"initWithFrame:", UITextField>(frame);
   }
 
-  /// Never nil: an empty field gives the empty text.
+  /// Never nil: an empty field returns the empty string.
   NSString text() const { return call<"text", NSString>(); }
   void setText(NSString text) const { call<"setText:">(text); }
   NSString placeholder() const { return call<"placeholder", NSString>(); }
@@ -63,7 +63,7 @@ struct UITextField : objc::Bound<UITextField, "UITextField", UIControl> {
   }
   void setClearButtonMode(UITextFieldViewMode mode) const { call<"setClearButtonMode:">(mode); }
 
-  // What it asks of the keyboard; looked at when the keyboard comes for it.
+  // The text input traits. The keyboard reads them when it comes up for this field.
   UIKeyboardType keyboardType() const { return call<"keyboardType", UIKeyboardType>(); }
   void setKeyboardType(UIKeyboardType type) const { call<"setKeyboardType:">(type); }
   UIKeyboardAppearance keyboardAppearance() const {
@@ -102,18 +102,18 @@ struct UITextField : objc::Bound<UITextField, "UITextField", UIControl> {
   void drawTextInRect(CGRect rect) const { call<"drawTextInRect:">(rect); }
   void drawPlaceholderInRect(CGRect rect) const { call<"drawPlaceholderInRect:">(rect); }
 
-  // Typing: what a keyboard sends to whoever is first responder.
+  // Typing: the messages that a keyboard sends to the first responder.
   BOOL hasText() const { return call<"hasText", BOOL>(); }
   void insertText(NSString text) const { call<"insertText:">(text); }
   void deleteBackward() const { call<"deleteBackward">(); }
-  /// Text that an input method is still composing; `selected` is the caret within it.
+  /// Text that an input method is still composing; `selected` is the selection within it.
   void setMarkedText(NSString text, NSRange selected) const {
     call<"setMarkedText:selectedRange:">(text, selected);
   }
   void unmarkText() const { call<"unmarkText">(); }
 };
 
-/// What a text field asks and tells its delegate; all optional.
+/// The messages to a text field's delegate. All are optional.
 struct UITextFieldDelegate : objc::Bound<UITextFieldDelegate, "UITextFieldDelegate", NSObject> {
   BOOL textFieldShouldBeginEditing(UITextField field) const {
     return call<"textFieldShouldBeginEditing:", BOOL>(field);

@@ -2,8 +2,8 @@
 
 #include "platform/Foundation/NSString.h"
 
-// What whoever takes text asks of the keyboard: any responder may answer the properties of these
-// types, each by its name.
+// Text input traits: what a responder that takes text requests of the keyboard. Any responder may
+// implement the properties of these types by their names.
 
 enum UIKeyboardType : NSInteger {
   UIKeyboardTypeDefault = 0,

@@ -4,11 +4,11 @@
 #include "platform/UIKit/UIScrollView.h"
 #include "platform/UIKit/UITextEnumerations.h"
 
-/// Text of several lines that can be edited and scrolled.
+/// Multi-line text that can be edited and scrolled.
 struct UITextView : objc::Bound<UITextView, "UITextView", UIScrollView> {
   UITextView initWithFrame(CGRect frame) const { return call<"initWithFrame:", UITextView>(frame); }
 
-  /// Never nil: an empty view gives the empty text.
+  /// Never nil: an empty view returns the empty string.
   NSString text() const { return call<"text", NSString>(); }
   void setText(NSString text) const { call<"setText:">(text); }
   UIFont font() const { return call<"font", UIFont>(); }
@@ -19,24 +19,25 @@ struct UITextView : objc::Bound<UITextView, "UITextView", UIScrollView> {
   void setTextAlignment(NSTextAlignment alignment) const { call<"setTextAlignment:">(alignment); }
   BOOL isEditable() const { return call<"isEditable", BOOL>(); }
   void setEditable(BOOL editable) const { call<"setEditable:">(editable); }
-  /// Between the edges and the text, beside the few points that every line keeps free.
+  /// The space between the edges and the text, in addition to the few points that every line
+  /// keeps free.
   UIEdgeInsets textContainerInset() const { return call<"textContainerInset", UIEdgeInsets>(); }
   void setTextContainerInset(UIEdgeInsets inset) const { call<"setTextContainerInset:">(inset); }
   /// Scrolls no further than needed.
   void scrollRangeToVisible(NSRange range) const { call<"scrollRangeToVisible:">(range); }
 
-  // Typing: what a keyboard sends to whoever is first responder.
+  // Typing: the messages that a keyboard sends to the first responder.
   BOOL hasText() const { return call<"hasText", BOOL>(); }
   void insertText(NSString text) const { call<"insertText:">(text); }
   void deleteBackward() const { call<"deleteBackward">(); }
-  /// Text that an input method is still composing; `selected` is the caret within it.
+  /// Text that an input method is still composing; `selected` is the selection within it.
   void setMarkedText(NSString text, NSRange selected) const {
     call<"setMarkedText:selectedRange:">(text, selected);
   }
   void unmarkText() const { call<"unmarkText">(); }
 };
 
-/// What a text view asks and tells its delegate; all optional.
+/// The messages to a text view's delegate. All are optional.
 struct UITextViewDelegate
     : objc::Bound<UITextViewDelegate, "UITextViewDelegate", UIScrollViewDelegate> {
   BOOL textViewShouldBeginEditing(UITextView view) const {

@@ -12,14 +12,14 @@ enum UITouchPhase : NSInteger {
 };
 
 struct UITouch : objc::Bound<UITouch, "UITouch", NSObject> {
-  /// Seconds of the clock.
+  /// In seconds of the process's clock.
   double timestamp() const { return call<"timestamp", double>(); }
   UITouchPhase phase() const { return call<"phase", UITouchPhase>(); }
   NSUInteger tapCount() const { return call<"tapCount", NSUInteger>(); }
   UIWindow window() const { return call<"window", UIWindow>(); }
   UIView view() const { return call<"view", UIView>(); }
   NSArray gestureRecognizers() const { return call<"gestureRecognizers", NSArray>(); }
-  /// nil asks in the coordinates of the touch's window.
+  /// For a nil view, in the coordinates of the touch's window.
   CGPoint locationInView(UIView view) const { return call<"locationInView:", CGPoint>(view); }
   CGPoint previousLocationInView(UIView view) const {
     return call<"previousLocationInView:", CGPoint>(view);

@@ -65,7 +65,7 @@ struct UIView : objc::Bound<UIView, "UIView", UIResponder> {
   BOOL autoresizesSubviews() const { return call<"autoresizesSubviews", BOOL>(); }
   void setAutoresizesSubviews(BOOL resizes) const { call<"setAutoresizesSubviews:">(resizes); }
 
-  // The tree.
+  // The view hierarchy.
   UIView superview() const { return call<"superview", UIView>(); }
   /// Body in UIWindow.h.
   UIWindow window() const;

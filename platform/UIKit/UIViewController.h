@@ -34,7 +34,7 @@ struct UIViewController : objc::Bound<UIViewController, "UIViewController", UIRe
   NSUInteger supportedInterfaceOrientations() const {
     return call<"supportedInterfaceOrientations", NSUInteger>();
   }
-  /// Asked by those that know no supported orientations.
+  /// Called where supported orientations are unknown.
   BOOL shouldAutorotateToInterfaceOrientation(UIInterfaceOrientation orientation) const {
     return call<"shouldAutorotateToInterfaceOrientation:", BOOL>(orientation);
   }
@@ -45,11 +45,12 @@ struct UIViewController : objc::Bound<UIViewController, "UIViewController", UIRe
     return call<"interfaceOrientation", UIInterfaceOrientation>();
   }
 
-  /// What a navigation bar shows of it; made when it is first asked for.
+  /// What a navigation bar shows for this controller; made when first requested.
   UINavigationItem navigationItem() const { return call<"navigationItem", UINavigationItem>(); }
-  /// The one on whose stack it is, or one above it is. Body in UINavigationController.h.
+  /// The navigation controller whose stack contains it or one of its parents; nil if there is none.
+  /// Body in UINavigationController.h.
   UINavigationController navigationController() const;
-  /// Are bars to keep clear the room at the ends of the scroll view that the page begins with?
+  /// Whether the page's first view, if it is a scroll view, gets insets for the bars.
   BOOL automaticallyAdjustsScrollViewInsets() const {
     return call<"automaticallyAdjustsScrollViewInsets", BOOL>();
   }

@@ -41,5 +41,5 @@ inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveEaseIn = 1 << 
 inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveEaseOut = 2 << 16;
 inline constexpr UIViewAnimationOptions UIViewAnimationOptionCurveLinear = 3 << 16;
 
-/// The curve that a keyboard moves by, as its notifications name it.
+/// The curve of a keyboard's movement, as its notifications report it.
 inline constexpr NSInteger UIViewAnimationCurveKeyboard = 7;

@@ -32,7 +32,7 @@ struct UIWindow : objc::Bound<UIWindow, "UIWindow", UIView> {
     return call<"convertPoint:fromWindow:", CGPoint>(point, window);
   }
 
-  /// Asked when the window is first shown, and the answer kept: a secure window also shows over
+  /// Called when the window is first shown; the result is cached. A secure window also shows over
   /// the lock screen.
   BOOL _shouldCreateContextAsSecure() const { return call<"_shouldCreateContextAsSecure", BOOL>(); }
   BOOL _isSecure() const { return call<"_isSecure", BOOL>(); }

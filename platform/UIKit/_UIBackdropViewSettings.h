@@ -4,11 +4,11 @@
 
 using _UIBackdropViewStyle = NSInteger;
 
-/// How a backdrop changes what is behind it. Each look is a class of its own below this one.
+/// How a backdrop changes what is behind it. Each look is a subclass.
 struct _UIBackdropViewSettings
     : objc::Bound<_UIBackdropViewSettings, "_UIBackdropViewSettings", NSObject> {
-  /// On a class with a look of its own: that look, whatever the number. On this class: the look of
-  /// the number, the adaptive light one for a number that has none.
+  /// Sent to a subclass, returns its look, whatever the number. Sent to this class, returns the
+  /// look with that number, or the adaptive light one for an unknown number.
   static _UIBackdropViewSettings settingsForStyle(_UIBackdropViewStyle style) {
     return call_class<"settingsForStyle:", _UIBackdropViewSettings>(style);
   }
@@ -17,7 +17,7 @@ struct _UIBackdropViewSettings
   /// In points.
   CGFloat blurRadius() const { return call<"blurRadius", CGFloat>(); }
   void setBlurRadius(CGFloat radius) const { call<"setBlurRadius:">(radius); }
-  /// 1 leaves colours as they are, 0 makes them grey.
+  /// 1 leaves colours unchanged; 0 makes them grey.
   CGFloat saturationDeltaFactor() const { return call<"saturationDeltaFactor", CGFloat>(); }
   void setSaturationDeltaFactor(CGFloat factor) const { call<"setSaturationDeltaFactor:">(factor); }
   CGFloat grayscaleTintLevel() const { return call<"grayscaleTintLevel", CGFloat>(); }
