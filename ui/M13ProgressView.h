@@ -4,8 +4,8 @@
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIView.h"
 
-/// What every progress control has in common: two colours, a progress from 0 to 1, and how long a
-/// change of it takes.
+/// The base of all progress controls: two colours, a progress from 0 to 1, and the duration of an
+/// animated change.
 struct M13ProgressView : objc::Own<M13ProgressView, "M13ProgressView", UIView> {
   UIColor primaryColor() const { return call<"primaryColor", UIColor>(); }
   void setPrimaryColor(UIColor color) const { call<"setPrimaryColor:">(color); }

@@ -8,17 +8,16 @@
 #include "platform/UIKit/UILabel.h"
 #include "ui/M13ProgressView.h"
 
-/// A thin ring with a thicker arc of progress over it, clockwise from twelve o'clock, always as
-/// high as it is wide.
+/// A thin ring with a thicker progress arc over it, clockwise from twelve o'clock. Always square.
 struct M13ProgressViewRing
     : objc::Own<M13ProgressViewRing, "M13ProgressViewRing", M13ProgressView> {
   M13ProgressViewRing initWithFrame(CGRect frame) const {
     return call<"initWithFrame:", M13ProgressViewRing>(frame);
   }
-  /// Gives the ring its defaults, its layers and its label; every initializer ends with it.
+  /// Sets the defaults and makes the layers and the label. Every initializer calls it last.
   void setup() const { call<"setup">(); }
 
-  /// Widths in points; once set from outside, layout leaves them alone.
+  /// Widths in points. Once set explicitly, layout no longer changes them.
   CGFloat backgroundRingWidth() const { return call<"backgroundRingWidth", CGFloat>(); }
   void setBackgroundRingWidth(CGFloat width) const { call<"setBackgroundRingWidth:">(width); }
   CGFloat progressRingWidth() const { return call<"progressRingWidth", CGFloat>(); }
@@ -33,7 +32,7 @@ struct M13ProgressViewRing
   }
   UILabel percentageLabel() const { return call<"percentageLabel", UILabel>(); }
 
-  /// Nil unless an animated change is under way.
+  /// Nil unless an animated change is running.
   CADisplayLink displayLink() const { return call<"displayLink", CADisplayLink>(); }
   float animationFromValue() const { return call<"animationFromValue", float>(); }
   float animationToValue() const { return call<"animationToValue", float>(); }
@@ -45,23 +44,23 @@ struct M13ProgressViewRing
   /// The last action performed.
   NSInteger currentAction() const { return call<"currentAction", NSInteger>(); }
 
-  // Each gives one layer a new path.
+  // Each sets the path of one layer.
   void drawBackground() const { call<"drawBackground">(); }
   void drawIcon() const { call<"drawIcon">(); }
   void drawProgress() const { call<"drawProgress">(); }
   void drawSuccess() const { call<"drawSuccess">(); }
   void drawFailure() const { call<"drawFailure">(); }
 
-  /// Called by the display link at each frame.
+  /// Called by the display link for each frame.
   void animateProgress(CADisplayLink link) const { call<"animateProgress:">(link); }
-  /// Opacity from 0 to 1, and from 1 to 0, over the ring's animation duration.
+  /// Animations of the opacity from 0 to 1 and from 1 to 0, over the ring's animation duration.
   CABasicAnimation showAnimation() const { return call<"showAnimation", CABasicAnimation>(); }
   CABasicAnimation hideAnimation() const { return call<"hideAnimation", CABasicAnimation>(); }
 };
 
 namespace sonavue {
 
-/// Registers the class with the runtime; its base class must be there.
+/// Registers the class with the runtime. The base class must already be registered.
 void make_progress_view_ring();
 
 }  // namespace sonavue

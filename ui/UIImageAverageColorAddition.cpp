@@ -12,7 +12,7 @@ namespace {
 
 constexpr float kFull = 255.0f;
 
-// Sums of 32 bits, which wrap on images of more than sixteen million bright pixels.
+// 32-bit sums, which overflow on images of more than sixteen million bright pixels.
 struct Sums {
   std::uint32_t red = 0;
   std::uint32_t green = 0;
@@ -67,7 +67,7 @@ UIColor mergedColor(UIImage image) {
   const CGContextRef context = UIGraphicsGetCurrentContext();
   CGContextSetInterpolationQuality(context, kCGInterpolationMedium);
   image.drawInRect({0, 0, 1, 1}, kCGBlendModeCopy, 1.0);
-  // A drawing context keeps blue first.
+  // A drawing context stores blue first.
   const auto* pixel = static_cast<const unsigned char*>(CGBitmapContextGetData(context));
   const UIColor colour =
       UIColor::colorWithRed(component(pixel[2]), component(pixel[1]), component(pixel[0]), 1.0);

@@ -3,18 +3,19 @@
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIImage.h"
 
-// A category on UIImage: an image reduced to one colour, in two ways.
+// A category on UIImage: two ways to reduce an image to one colour.
 
 namespace sonavue {
 
-/// The arithmetic mean of the image's pixels, with the bytes of its storage taken as red, green and
-/// blue whatever their order is. An image without pixels gives components that are no numbers.
+/// The arithmetic mean of the image's pixels. The stored bytes are taken as red, green and blue,
+/// whatever their actual order. For an image without pixels the components are NaN.
 UIColor averageColor(UIImage image);
 
-/// The colour of the image drawn into one pixel; always opaque. Costs one scaled drawing.
+/// The colour of the image when it is drawn into a single pixel; always opaque. Costs one scaled
+/// drawing.
 UIColor mergedColor(UIImage image);
 
-/// Adds both to UIImage, under these names.
+/// Adds both methods to UIImage under these names.
 void make_average_color_addition();
 
 }  // namespace sonavue

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kSweep = 5;  // seconds
 constexpr CGFloat kFaintest = 0.1;
-// The axis leans a little, and is longer than the layer so that the band is wide and soft.
+// The axis is slightly tilted, and longer than the layer to make the band wide and soft.
 constexpr CGPoint kAxisStart = {0, 0.5};
 constexpr CGPoint kAxisEnd = {2.5, 0.525};
 
@@ -23,7 +23,7 @@ NSArray three_numbers(double first, double second, double third) {
                                    NSNumber::numberWithDouble(third));
 }
 
-/// A layer's colour, as an array holds it.
+/// The CGColor of `color` as an object, for an array.
 objc::Object as_object(UIColor color) {
   return objc::Object(reinterpret_cast<objc::Id>(color.CGColor()));
 }
@@ -31,10 +31,10 @@ objc::Object as_object(UIColor color) {
 CAGradientLayer band(CGSize size) {
   const CAGradientLayer mask = CAGradientLayer::layer();
   const UIColor opaque = UIColor::blackColor();
-  // In a mask only the alpha counts.
+  // Only the alpha of a mask matters.
   const UIColor faint = UIColor::colorWithWhite(0, kFaintest);
   mask.setColors(NSArray::arrayWithObjects(as_object(opaque), as_object(faint), as_object(opaque)));
-  // Room on either side, where the band comes from and goes to.
+  // Space on both sides, so that the band can enter and leave.
   mask.setFrame({-size.width, 0, 3 * size.width, size.height});
   mask.setStartPoint(kAxisStart);
   mask.setEndPoint(kAxisEnd);

@@ -2,18 +2,18 @@
 
 #include "platform/UIKit/UIView.h"
 
-// A category on UIView: a soft band of near-transparency that sweeps across a view, over and over.
+// A category on UIView: a soft, nearly transparent band that sweeps across the view repeatedly.
 
 namespace sonavue {
 
-/// Masks the view with a gradient as large as the view is now, on which the band runs; a mask that
-/// was there before is gone.
+/// Masks the view with a gradient of the view's current size and starts the band on it. Replaces
+/// any previous mask.
 void startShimmering(UIView view);
 
-/// Takes the mask away, and the band with it.
+/// Removes the mask and with it the band.
 void stopShimmering(UIView view);
 
-/// Adds both to UIView, under these names.
+/// Adds both methods to UIView under these names.
 void make_shimmer();
 
 }  // namespace sonavue

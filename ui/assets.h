@@ -6,7 +6,7 @@
 
 namespace sonavue {
 
-/// The path of one: a literal of its file name.
+/// The path of a picture, as a constant string; `File` is its file name.
 template <objc::FixedString File>
 NSString asset_path() {
   constexpr auto path = objc::FixedString("/Library/Application Support/Sonavue/") + File;
@@ -18,7 +18,7 @@ UIImage asset() {
   return UIImage::imageWithContentsOfFile(asset_path<File>());
 }
 
-/// A picture that is drawn in the tint colour of its view.
+/// The picture at `path`, to be drawn in the tint colour of its view.
 inline UIImage template_image(NSString path) {
   return UIImage::imageWithContentsOfFile(path).imageWithRenderingMode(
       UIImageRenderingModeAlwaysTemplate);

@@ -10,13 +10,13 @@ constexpr float kThinnestBackgroundWidth = 1.0f;
 constexpr CGFloat kProgressWidthPerBackgroundWidth = 3;
 constexpr CGFloat kFontSizePerPoint = 1.0 / 5.0;
 
-// In single precision, so that a width has the same value here as in a look made for it.
+// In single precision, so that the width matches that of looks that were made for this control.
 CGFloat background_width_for(CGFloat width) {
   const auto scaled = static_cast<float>(width * kBackgroundWidthPerPoint);
   return scaled > kThinnestBackgroundWidth ? scaled : kThinnestBackgroundWidth;
 }
 
-// A layer that is told its own width again would animate a change that nobody sees.
+// Setting the width that a layer already has would start an invisible animation.
 void stroke_with(CAShapeLayer layer, CGFloat width) {
   if (layer.lineWidth() != width) layer.setLineWidth(width);
 }
@@ -42,8 +42,8 @@ M13ProgressViewRing ProgressViewRing::init_with_coder(objc::Object coder) {
 }
 
 void ProgressViewRing::set_up() {
-  // A view's own `init` comes through `initWithFrame:`; a second set of layers would hide the
-  // first.
+  // A view's `init` calls `initWithFrame:`, so this can run twice; a second set of layers would
+  // hide the first.
   if (background_layer_) return;
   self.setBackgroundColor(UIColor::clearColor());
   fit_ring_widths(self.bounds().size.width);
@@ -97,7 +97,7 @@ void ProgressViewRing::set_secondary_color(UIColor color) {
   self.setNeedsDisplay();
 }
 
-// The flags are spelt "Overriden" because that is their name to everybody who asks for them.
+// The flags are spelled "Overriden" because other code knows them by that name.
 void ProgressViewRing::set_background_ring_width(CGFloat width) {
   background_ring_width_ = width;
   background_layer_->setLineWidth(width);
@@ -114,7 +114,7 @@ void ProgressViewRing::set_progress_ring_width(CGFloat width) {
 
 void ProgressViewRing::set_show_percentage(BOOL shows) {
   show_percentage_ = shows;
-  // By where the label is, and not by the flag before: the label stands in the ring from the start.
+  // Look at where the label is, not at the previous flag: the label is in the ring from the start.
   const bool shown = static_cast<bool>(percentage_label_->superview());
   if (shows && !shown) {
     self.addSubview(percentage_label_.get());

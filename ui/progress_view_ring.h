@@ -6,8 +6,8 @@
 
 namespace sonavue {
 
-/// What stands behind `M13ProgressViewRing`. Three shape layers carry the look; drawing only gives
-/// them new paths.
+/// The implementation of `M13ProgressViewRing`. Three shape layers make up the look; drawing only
+/// sets their paths.
 class ProgressViewRing : public objc::Implementation<ProgressViewRing, M13ProgressViewRing> {
  public:
   using Implementation::Implementation;
@@ -46,7 +46,7 @@ class ProgressViewRing : public objc::Implementation<ProgressViewRing, M13Progre
   void draw_success();
   void draw_failure();
 
-  // Progress in time.
+  // Animated progress.
   void set_progress(float progress, BOOL animated);
   void animate_progress(CADisplayLink link);
   CADisplayLink display_link() { return display_link_.get(); }
@@ -54,7 +54,7 @@ class ProgressViewRing : public objc::Implementation<ProgressViewRing, M13Progre
   float animation_to_value() { return animation_to_value_; }
   double animation_start_time() { return animation_start_time_; }
 
-  // Turning and icons.
+  // The indeterminate state and icons.
   void set_indeterminate(BOOL indeterminate);
   void perform_action(NSInteger action, BOOL animated);
   NSInteger current_action() { return current_action_; }
@@ -90,7 +90,7 @@ class ProgressViewRing : public objc::Implementation<ProgressViewRing, M13Progre
   float animation_from_value_ = 0;
   float animation_to_value_ = 0;
   NSInteger current_action_ = M13ProgressViewActionNone;
-  // Lags behind the current action while its icon waits for the one before to fade out.
+  // Lags behind the current action while the previous action's icon fades out.
   NSInteger drawn_action_ = M13ProgressViewActionNone;
   BOOL background_ring_width_overriden_ = NO;
   BOOL progress_ring_width_overriden_ = NO;

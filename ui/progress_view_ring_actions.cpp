@@ -18,7 +18,7 @@ NSString rotation_key() {
   return "rotationAnimation"_ns;
 }
 
-// Stays at its end: whoever fades a layer the other way takes it off again.
+// The animation keeps its final value. Fading the layer the other way removes it.
 CABasicAnimation fade(float from, float to, double seconds) {
   const CABasicAnimation animation = CABasicAnimation::animationWithKeyPath("opacity"_ns);
   animation.setFromValue(NSNumber::numberWithFloat(from));
@@ -83,7 +83,7 @@ void ProgressViewRing::start_turning() {
 void ProgressViewRing::stop_turning() {
   const auto ring = objc::Ref<M13ProgressViewRing>::retain(self);
   fade_out(background_layer_.get(), [ring] {
-    // It may have begun to turn again while it faded.
+    // It may have become indeterminate again while it faded.
     if (ring->indeterminate()) return;
     ring->backgroundLayer().removeAnimationForKey(rotation_key());
     ring->drawBackground();
@@ -103,7 +103,7 @@ void ProgressViewRing::fade_to_current_action() {
   const auto ring = objc::Ref<M13ProgressViewRing>::retain(self);
   fade_out(icon_layer_.get(), [ring] {
     auto& state = objc::state_of<ProgressViewRing>(ring.get());
-    // An action without animation may have shown its icon in the meantime.
+    // In the meantime an action without animation may have shown its icon.
     if (state.drawn_action_ == state.current_action_) return;
     state.show_current_action();
     state.fade_in(state.icon_layer_.get());

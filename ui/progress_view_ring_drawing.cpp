@@ -8,22 +8,22 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr CGFloat kTwelveOClock = -kPi / 2;
 constexpr CGFloat kFullCircleEnd = kTwelveOClock + 2 * kPi;
-// The gap by which one sees the ring turn.
+// The gap that makes the rotation visible.
 constexpr CGFloat kGapBegin = 1.2 * kPi;
 
-// An icon is drawn in units of this part of the ring's radius.
+// Icons are drawn in units of this fraction of the ring's radius.
 constexpr CGFloat kIconUnit = 0.3;
 constexpr CGFloat kCheckMarkX = 0.46;
 constexpr CGFloat kCheckMarkY = 1.02;
 constexpr CGFloat kCrossUnits = 3;
-// Both the sine and the cosine of an eighth of a turn.
+// The sine and the cosine of 45 degrees.
 constexpr CGFloat kDiagonal = 0.70710678118654752440;
 
 constexpr CGPoint kCheckMark[] = {{0, 0}, {0, 2}, {3, 2}, {3, 1}, {1, 1}, {1, 0}};
 constexpr CGPoint kCross[] = {{1, 0}, {2, 0}, {2, 1}, {3, 1}, {3, 2}, {2, 2},
                               {2, 3}, {1, 3}, {1, 2}, {0, 2}, {0, 1}, {1, 1}};
 
-// The control is square, so its width serves both axes.
+// The control is square, so one size is enough.
 UIBezierPath ring_path(CGFloat size, CGFloat ring_width, CGFloat start, CGFloat end) {
   return UIBezierPath::bezierPathWithArcCenter({size / 2, size / 2}, (size - ring_width) / 2, start,
                                                end, YES);
@@ -39,7 +39,7 @@ UIBezierPath polygon(const CGPoint (&corners)[Count], CGFloat unit) {
   return path;
 }
 
-// A song of no length gives a progress that is no number, and no angle can be made of that.
+// A song of length zero gives a progress of NaN, which cannot become an angle.
 float drawable(float progress) {
   return __builtin_isfinite(progress) ? progress : 0;
 }
@@ -57,7 +57,7 @@ void ProgressViewRing::draw_background() {
   const CGFloat end = self.indeterminate() ? kGapBegin : kFullCircleEnd;
   const UIBezierPath path =
       ring_path(self.bounds().size.width, background_ring_width_, kTwelveOClock, end);
-  // The width of the path is a note for whoever reads it; the layer strokes with its own.
+  // The path's width is only informative: the layer strokes with its own width.
   path.setLineWidth(progress_ring_width_);
   path.setLineCapStyle(kCGLineCapRound);
   background_layer_->setPath(path.CGPath());
@@ -99,7 +99,7 @@ void ProgressViewRing::draw_failure() {
   const CGFloat radius = self.frame().size.width * 0.5;
   const CGFloat unit = radius * kIconUnit;
   const UIBezierPath path = polygon(kCross, unit);
-  // Turned round its own centre, which then comes to lie on the ring's.
+  // Rotate it around its own centre, then move that to the ring's centre.
   const CGFloat middle = unit * kCrossUnits / 2;
   path.applyTransform({1, 0, 0, 1, -middle, -middle});
   path.applyTransform({kDiagonal, kDiagonal, -kDiagonal, kDiagonal, radius, radius});

@@ -10,8 +10,8 @@ void ProgressViewRing::set_progress(float progress, BOOL animated) {
     store_progress(progress);
     return;
   }
-  // A link that already runs goes on with the new values: the arc turns to the new target from
-  // where it stands.
+  // A display link that is already running continues with the new values: the arc moves to the new
+  // target from its current position.
   animation_start_time_ = CACurrentMediaTime();
   animation_from_value_ = self.progress();
   animation_to_value_ = progress;
@@ -25,8 +25,8 @@ void ProgressViewRing::animate_progress(CADisplayLink link) {
   const auto frame = objc::Ref<CADisplayLink>::retain(link);
   dispatch_async(dispatch_get_main_queue(), objc::block([ring, frame] {
                    auto& state = objc::state_of<ProgressViewRing>(ring.get());
-                   // A change without animation may have come between the frame and its turn in the
-                   // queue.
+                   // A change without animation may have stopped the link after this frame was
+                   // queued.
                    if (state.display_link_.get() == frame.get())
                      state.show_frame_at(frame->timestamp());
                  }));
@@ -34,7 +34,8 @@ void ProgressViewRing::animate_progress(CADisplayLink link) {
 
 void ProgressViewRing::show_frame_at(double time) {
   const double t = (time - animation_start_time_) / self.animationDuration();
-  // Asked this way round, a duration of zero is over at once even when nothing is divided by it.
+  // Written as a negation so that NaN, from zero divided by a zero duration, also counts as the
+  // end.
   if (!(t < 1)) {
     drop_display_link();
     store_progress(animation_to_value_);
