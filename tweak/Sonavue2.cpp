@@ -28,8 +28,8 @@
 #include "tweak/system/system_events.h"
 #include "ui/UIImageAverageColorAddition.h"
 
-// All that the extension touches in the home screen, and the way it comes in: everything starts
-// from the load of this library.
+// Everything that the extension changes in the home screen, and its entry point: the constructor
+// that runs when this library is loaded.
 
 extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
                                 objc::Imp* original);
@@ -49,8 +49,8 @@ struct ExportedGlobal {
 };
 
 void add_methods() {
-  // Names are those of the first version and are kept to the letter, since other people's
-  // extensions may call them.
+  // The names are those of the first version. They must not change: other extensions may call
+  // them.
   const AddedMethod methods[] = {
       adds<&deviceNumber>("deviceNumber"),
       adds<&tweet>("tweet"),
@@ -88,8 +88,7 @@ void add_methods() {
     class_addMethod(spring_board, sel_registerName(method.selector), method.body, method.types);
 }
 
-// In the order in which they are installed. What each replaces is kept in `original_of` its
-// function.
+// Installs them in this order. The replaced body is kept in `original_of<&function>`.
 void replace_methods() {
   const ReplacedMethod methods[] = {
       replaces<"SpringBoard", "applicationDidFinishLaunching:", &launched>(),
@@ -105,8 +104,8 @@ void replace_methods() {
       replaces_class_method<"SBReachabilityManager", "reachabilitySupported",
                             &reachability_is_supported>(),
       replaces<"SBReachabilityManager", "_handleReachabilityDeactivated",
-               &reachability_went_down>(),
-      replaces<"SBReachabilityManager", "_handleReachabilityActivated", &reachability_came_up>(),
+               &reachability_deactivated>(),
+      replaces<"SBReachabilityManager", "_handleReachabilityActivated", &reachability_activated>(),
       replaces<"SBReachabilityManager", "_handleSignificantTimeChanged", &time_changed>(),
       replaces<"SBReachabilityManager", "_keepAliveTimerFired:", &kept_alive>(),
       replaces<"SBMediaController", "_systemVolumeChanged:", &volume_changed>(),
@@ -132,7 +131,7 @@ void make_classes() {
   make_gesture_listener();
 }
 
-// Those that are ready before the home screen launches.
+// Sets the globals that are available before the home screen launches.
 void fill_globals() {
   mc = SBMediaController::sharedInstance();
   rect = UIScreen::mainScreen().bounds();
@@ -151,7 +150,7 @@ void fill_globals() {
 }  // namespace
 }  // namespace sonavue
 
-// Read by the console of a host that has one; on a phone nothing looks.
+// Read by the host's console. Nothing reads it on a phone.
 extern "C" __attribute__((visibility("default"), used))
 const sonavue::ExportedGlobal exported_globals[] = {
 #define SONAVUE_EXPORT(Type, name, initial) \

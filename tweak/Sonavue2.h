@@ -14,33 +14,33 @@
 #include "platform/UIKit/_UIBackdropView.h"
 #include "ui/M13ProgressViewRing.h"
 
-/// What a search has found. A class of the extension's own.
+/// The hits of a search. One of the extension's own classes.
 struct SVHits : objc::Own<SVHits, "SVHits", NSMutableArray> {};
 
-// The shared state of the extension: plain values of the main thread, made once and never freed.
-// One list makes the declarations, the definitions and the table that developers' tools read.
+// The shared state of the extension: plain values, used on the main thread, made once and never
+// freed. This list generates the declarations, the definitions and the table for the console.
 //
 // X(type, name, value at load)
 #define SONAVUE_GLOBALS(X)                                                                       \
-  /* The system's objects that everything acts on. */                                            \
+  /* The system's objects that the extension controls. */                                        \
   X(SpringBoard, Spring, {})                                                                     \
   X(SBMediaController, mc, {})                                                                   \
   X(MPMusicPlayerController, musicPlayer, {})                                                    \
   X(MPUNowPlayingController, nowPlayingController, {})                                           \
-  /* The main screen's bounds; seconds that a track change locks the controls; points of layout  \
-     allowance, 0 on the smallest screens. */                                                    \
+  /* The main screen's bounds; how many seconds a track change locks the controls; a layout      \
+     allowance in points, 0 on the smallest screens. */                                          \
   X(CGRect, rect, {})                                                                            \
   X(float, time_wait, 1.0f)                                                                      \
   X(float, max, 60.0f)                                                                           \
   /* The colour of texts and controls. */                                                        \
   X(UIColor, newColor, {})                                                                       \
-  /* Switches of the settings: the drag, and colours after the artwork. */                       \
+  /* Settings: whether the drag is on, and whether colours follow the artwork. */                \
   X(BOOL, enabled, YES)                                                                          \
   X(BOOL, legibility, NO)                                                                        \
-  /* Whether the layout is the compact one, in force while nothing plays; the drag is on the     \
-     icon; the panel is open; the banner is there; the banner has been opened fully; a finger    \
-     holds the grabber; hits are listed; a track change is under way; the song has changed since \
-     it was last shown. */                                                                       \
+  /* Flags: the layout is the compact one, for when nothing plays; the drag is on the icon; the  \
+     panel is open; the banner is shown; the banner has been opened fully; a finger holds the    \
+     grabber; search hits are listed; a track change is under way; the song has changed since it \
+     was last shown. */                                                                          \
   X(BOOL, hide, YES)                                                                             \
   X(BOOL, added, NO)                                                                             \
   X(BOOL, isShow, NO)                                                                            \
@@ -50,15 +50,15 @@ struct SVHits : objc::Own<SVHits, "SVHits", NSMutableArray> {};
   X(BOOL, isSearching, NO)                                                                       \
   X(BOOL, changeTrack, NO)                                                                       \
   X(BOOL, did, NO)                                                                               \
-  /* The state of playback as last reported, and as last drawn: 99 is no state. Seconds of the   \
-     song, counted on and as last reported. Ticks of the timer of the track lock. */             \
+  /* The playback state as last reported, and as last drawn (99: not drawn yet). Elapsed seconds \
+     of the song, as counted and as last reported. Ticks of the track lock's timer. */           \
   X(int, playbackState, 0)                                                                       \
   X(int, lastState, 99)                                                                          \
   X(double, elapsed, 0)                                                                          \
   X(double, lastElapsed, 0)                                                                      \
   X(unsigned, p, 0)                                                                              \
-  /* The icon's home frame; the finger's places. Where each was when a drag or a turn of the     \
-     pages began: the twin, the banner, the controls and the texts, the twin and the icon. */    \
+  /* The icon's home frame; the finger's start and current points. Positions at the start of a   \
+     drag or page turn: the twin; the banner; the controls and texts; the twin and the icon. */  \
   X(CGRect, saved, {})                                                                           \
   X(CGPoint, startPoint, {})                                                                     \
   X(CGPoint, endPoint, {})                                                                       \
@@ -70,11 +70,11 @@ struct SVHits : objc::Own<SVHits, "SVHits", NSMutableArray> {};
   X(float, firstContainer1, 0)                                                                   \
   X(CGRect, firstMusic, {})                                                                      \
   X(CGRect, firstMusicIcon, {})                                                                  \
-  /* Where a zoomed album goes back to: its tile, picture and title. */                          \
+  /* Where a zoomed album returns to: the frames of its tile, picture and title. */              \
   X(CGRect, oldPos, {})                                                                          \
   X(CGRect, oldPosIcon, {})                                                                      \
   X(CGRect, oldPosLbl, {})                                                                       \
-  /* The view tree. */                                                                           \
+  /* The view hierarchy. */                                                                      \
   X(UIWindow, window, {})                                                                        \
   X(UIWindow, locationWindow, {})                                                                \
   X(UIImageView, cover, {})                                                                      \
@@ -104,7 +104,7 @@ struct SVHits : objc::Own<SVHits, "SVHits", NSMutableArray> {};
   X(UIView, grabbers, {})                                                                        \
   X(UIImageView, grabs, {})                                                                      \
   X(UIScrollView, albums, {})                                                                    \
-  /* The library: all of it, the songs listed, search hits, the rest of the current album. */    \
+  /* The library: all songs, the listed songs, search hits, the current album's other songs. */  \
   X(MPMediaQuery, fullList, {})                                                                  \
   X(NSMutableArray, songItems, {})                                                               \
   X(SVHits, result, {})                                                                          \

@@ -9,10 +9,10 @@ struct BlurStyle {
   _UIBackdropViewSettings settings;
 };
 
-/// The blur that the panel is built with, until the chosen one is applied.
+/// The blur that the panel starts with, before the chosen one is applied.
 _UIBackdropViewSettings initial_blur();
 
-/// The blur that the setting "blur" names; any other name is the adaptive light one.
+/// The blur that the setting "blur" names; adaptive light for an unknown name.
 BlurStyle chosen_blur();
 
 }  // namespace sonavue

@@ -10,7 +10,7 @@ struct NamedColor {
   UIColor (*make)();
 };
 
-// Dark enough to be read on a light blur; not a transparent colour.
+// Dark enough to be legible on a light blur.
 UIColor translucent_black() {
   return UIColor::colorWithWhite(0, 0.45);
 }

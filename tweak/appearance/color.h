@@ -5,7 +5,7 @@
 
 namespace sonavue {
 
-/// The colour that the setting names; any other name is black.
+/// The colour that the setting `key` names; black for an unknown name.
 UIColor color(PreferenceKey key);
 
 }  // namespace sonavue

@@ -6,8 +6,8 @@
 namespace sonavue {
 namespace {
 
-// The strip is one control of the panel: a colour chosen in the preferences is read once for all
-// of its tiles, of which a large library has thousands.
+// The strip counts as one control: a colour from the preferences is read once for all of its tiles,
+// since a large library has thousands.
 void colour_album_tiles(PanelColours colours) {
   const CGColorRef border = colours.controls().CGColor();
   const UIColor text = colours.texts();

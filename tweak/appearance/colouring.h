@@ -4,7 +4,7 @@
 
 namespace sonavue {
 
-/// Where a colour comes from; it is asked anew for every control.
+/// Returns a colour. It is called again for every control.
 using ColourSource = UIColor (*)();
 
 struct PanelColours {
@@ -12,10 +12,10 @@ struct PanelColours {
   ColourSource texts;
 };
 
-/// Colours the artwork's border, the album tiles, the transport and the texts.
+/// Colours the artwork's border, the album tiles, the transport controls and the texts.
 void colour_content(PanelColours colours);
 
-/// Colours the search field's placeholder, the separators, the edges of the lists, the ring and the
+/// Colours the search field's placeholder, the separators, the lists' edge lines, the ring and the
 /// grabber.
 void colour_edges(PanelColours colours);
 

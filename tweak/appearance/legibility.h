@@ -2,7 +2,7 @@
 
 namespace sonavue {
 
-/// Colours the whole panel black over a bright artwork and white over a dark one.
+/// Colours the whole panel black over bright artwork and white over dark artwork.
 void colour_for_artwork();
 
 }  // namespace sonavue

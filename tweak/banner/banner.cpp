@@ -12,8 +12,8 @@ namespace {
 
 constexpr double kContentFade = 0.01;
 constexpr double kTravel = 0.5;
-// Only here is a small screen's banner longer while nothing plays.
-void come_down() {
+// On small screens, and only when the banner is brought in, it is longer while nothing plays.
+void lower_banner() {
   hang_window(banner_height(container1.alpha() == 1, max == 0 && mc.isPlaying()));
 }
 
@@ -27,30 +27,30 @@ void put_twin_in_place() {
   move_to(music, (screen_width() - size.width) / 2, (screen_height() - size.height) / 10);
 }
 
-void be_gone() {
+void finish_leaving() {
   cover.setAlpha(0);
   music.setHidden(YES);
   window.setUserInteractionEnabled(NO);
   cover_screen_with_window();
-  stand_below_artwork();
+  lay_out_below_artwork();
   container.setContentOffset(artwork_page_offset());
-  // Off while the banner hangs; a banner that nobody grabbed has not switched it on again.
+  // Scrolling is off while the banner hangs, and only a grab switches it on again.
   container.setScrollEnabled(YES);
   isGrabbing = NO;
   container.setAlpha(0);
 }
 
-// The extension off, the panel out or on its way, or no panel at all, since nothing was built on a
-// phone without the Music application.
-bool cannot_come() {
+// True while the extension is off or the panel is open or moving, and on a phone without the Music
+// application, where no panel was built.
+bool cannot_show_banner() {
   return !enabled || isShow || icon_is_away() || !container;
 }
 
 }  // namespace
 
 void showBanner(SpringBoard) {
-  if (cannot_come()) return;
-  // A finger that still holds the grabber has lost it.
+  if (cannot_show_banner()) return;
+  // Ends the grab of a finger that still holds the grabber.
   begin_movement(Movement::kNone);
   isGrabbing = NO;
   showed = NO;
@@ -63,21 +63,21 @@ void showBanner(SpringBoard) {
   window.setUserInteractionEnabled(YES);
   put_twin_in_place();
   UIView::animateWithDuration(kContentFade, objc::block([] { container.setAlpha(1); }),
-                              objc::block([](BOOL) { stand_at_bottom(); }));
+                              objc::block([](BOOL) { lay_out_at_bottom(); }));
   music.setHidden(NO);
   cover.setAlpha(1);
   container.setAlpha(1);
-  UIView::animateWithDuration(kTravel, objc::block([] { come_down(); }));
+  UIView::animateWithDuration(kTravel, objc::block([] { lower_banner(); }));
 }
 
 void dismissBanner(SpringBoard) {
-  take_composer_down();
+  dismiss_composer();
   end_search_typing();
   isBanner = NO;
-  begin_movement(Movement::kBannerLeaving, &be_gone);
+  begin_movement(Movement::kBannerLeaving, &finish_leaving);
   UIView::animateWithDuration(kTravel, objc::block([] { hang_window(0); }), unless_replaced([] {
                                 end_movement();
-                                be_gone();
+                                finish_leaving();
                               }));
 }
 

@@ -2,14 +2,14 @@
 
 #include "platform/SpringBoard/SpringBoard.h"
 
-// The panel as a banner that hangs from the top of the screen, called from anywhere by a gesture.
+// The panel as a banner that hangs from the top of the screen. A gesture brings it from anywhere.
 
 namespace sonavue {
 
-/// Brings the banner, unless the panel is open. A banner that hangs already comes down again.
+/// Shows the banner, unless the panel is open. If the banner is already shown, it slides in again.
 void showBanner(SpringBoard self);
 
-/// Sends the banner away, whatever its form.
+/// Slides the banner out, in whatever form it is shown.
 void dismissBanner(SpringBoard self);
 
 }  // namespace sonavue

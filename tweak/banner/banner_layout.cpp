@@ -6,11 +6,11 @@
 namespace sonavue {
 namespace {
 
-void stand_above_bottom(UIView view, CGFloat gap) {
+void place_above_bottom(UIView view, CGFloat gap) {
   move_to_y(view, container.frame().size.height - view.frame().size.height - gap);
 }
 
-unsigned times_kept = 0;
+unsigned save_count = 0;
 
 float y_of(UIView view) {
   return static_cast<float>(view.frame().origin.y);
@@ -35,7 +35,7 @@ CGFloat lift_without_texts() {
   return container1.alpha() != 0 ? 0 : -kLift;
 }
 
-void stand_below_artwork() {
+void lay_out_below_artwork() {
   move_to_y(container1, art.frame().max_y() + kTextsGap);
   const CGFloat texts_end = container1.frame().max_y() + lift_without_texts();
   move_to_y(play, texts_end + kPlayGap);
@@ -43,23 +43,23 @@ void stand_below_artwork() {
   move_to_y(next, texts_end + kSkipGap);
 }
 
-void stand_at_bottom() {
-  stand_above_bottom(back, kSkipGap);
-  stand_above_bottom(play, kPlayGap);
-  stand_above_bottom(next, kSkipGap);
+void lay_out_at_bottom() {
+  place_above_bottom(back, kSkipGap);
+  place_above_bottom(play, kPlayGap);
+  place_above_bottom(next, kSkipGap);
   move_to_y(container1, play.frame().origin.y - container1.frame().size.height - kBannerTextsGap);
 }
 
-void keep_resting_places() {
+void save_resting_positions() {
   firstContainer1 = y_of(container1);
   firstPlay1 = y_of(play);
   firstNext1 = y_of(next);
   firstBack1 = y_of(back);
-  ++times_kept;
+  ++save_count;
 }
 
-unsigned times_resting_places_were_kept() {
-  return times_kept;
+unsigned resting_positions_save_count() {
+  return save_count;
 }
 
 void rise_against(CGFloat distance) {

@@ -2,32 +2,33 @@
 
 #include "platform/CoreGraphics/CGGeometry.h"
 
-// Where the texts and the transport stand in the banner's forms.
+// The positions of the texts and the transport controls in the banner's layouts.
 
 namespace sonavue {
 
-/// How much of the window hangs down as the banner: for what it shows besides the controls, and
-/// shortened where a small screen needs it.
+/// The visible height of the banner in points: with or without the texts, and `shortened` where a
+/// small screen needs it.
 CGFloat banner_height(bool with_texts, bool shortened);
 
-/// What everything below the texts is moved by while they are hidden.
+/// The vertical offset of the controls below the texts: negative while the texts are hidden,
+/// otherwise 0.
 CGFloat lift_without_texts();
 
-/// The layout of the open panel: texts below the artwork, transport below the texts.
-void stand_below_artwork();
+/// The layout of the open panel: texts below the artwork, controls below the texts.
+void lay_out_below_artwork();
 
 /// The layout of the hanging banner: everything at the bottom of the pages.
-void stand_at_bottom();
+void lay_out_at_bottom();
 
-/// Keeps the places from which the controls rise while the banner is pulled down, and sink while
+/// Saves the positions from which the controls rise while the banner is pulled down, and sink while
 /// pages are turned.
-void keep_resting_places();
+void save_resting_positions();
 
-/// How often that was done.
-unsigned times_resting_places_were_kept();
+/// How often they have been saved, to detect that they have changed.
+unsigned resting_positions_save_count();
 
-/// The controls rise against the window that was pulled down by `distance`; each stops below the
-/// one above it.
+/// Raises the controls within the window, which has been pulled down by `distance`. Each stops
+/// below the one above it.
 void rise_against(CGFloat distance);
 
 }  // namespace sonavue

@@ -7,13 +7,13 @@
 namespace sonavue {
 namespace {
 
-// The event is not marked as handled: others may listen to the same gesture.
+// The event is not marked as handled: other listeners may use the same gesture.
 void receive_event(SVActivatorListener, LAActivator, LAEvent) {
   objc::AutoreleasePool pool;
   objc::send<>(Spring, "showBanner"_sel);
 }
 
-// One picture for every size and scale.
+// The same picture for every size and scale.
 UIImage icon(SVActivatorListener, LAActivator, NSString, CGFloat) {
   return UIImage::imageWithContentsOfFile(
       "/Library/PreferenceBundles/SonavueSettings.bundle/SonavueSettingsIcon@2x.png"_ns);
@@ -50,7 +50,7 @@ void register_gesture_listener() {
   const auto listener = SVActivatorListener::alloc().init();
   if (!listener) return;
   const auto service = LAActivator::sharedInstance();
-  // The protocol comes into the process with the service's library.
+  // The protocol exists only once the service's library is loaded.
   if (const objc::Protocol protocol = objc_getProtocol("LAListener"))
     class_addProtocol(SVActivatorListener::cls(), protocol);
   service.registerListener(listener, "org.plumvane.Sonavue2"_ns);

@@ -19,19 +19,19 @@ void begin() {
   isGrabbing = YES;
   show_grabber(Grabber::kDragging);
   firstPosBanner = static_cast<float>(window.frame().origin.y);
-  if (!showed) keep_resting_places();
+  if (!showed) save_resting_positions();
   SBControlCenterController::sharedInstance().dismissAnimated(YES);
 }
 
 void follow() {
   const CGFloat distance = endPoint.y - startPoint.y;
   if (!showed && window.frame().origin.y != 0) rise_against(distance);
-  // An open banner goes no further down.
+  // An open banner cannot be pulled further down.
   const bool is_at_its_end = firstPosBanner == 0 && distance > 0;
   move_to_y(window, firstPosBanner + (is_at_its_end ? 0 : distance));
 }
 
-void be_open() {
+void finish_opening() {
   show_grabber(Grabber::kDone);
   isGrabbing = NO;
 }
@@ -41,12 +41,12 @@ void open() {
   end_movement();
   UIView::animateWithDuration(kOpening, objc::block([] {
                                 cover_screen_with_window();
-                                stand_below_artwork();
+                                lay_out_below_artwork();
                               }),
-                              unless_replaced(&be_open));
+                              unless_replaced(&finish_opening));
 }
 
-void let_go(SpringBoard self) {
+void end_grab(SpringBoard self) {
   container.setScrollEnabled(YES);
   if (window.frame().origin.y < firstPosBanner) {
     objc::send<>(self, "dismissBanner"_sel);
@@ -54,12 +54,12 @@ void let_go(SpringBoard self) {
     open();
   } else {
     end_movement();
-    be_open();
+    finish_opening();
   }
 }
 
-// Back to where the grab began.
-void give_back() {
+// Moves the banner back to where the grab began.
+void cancel_grab() {
   end_movement();
   isGrabbing = NO;
   container.setScrollEnabled(showed);
@@ -102,21 +102,22 @@ void make_grabber(SpringBoard self) {
       objc::adopt(UIPanGestureRecognizer::alloc().initWithTarget(self, "presentBanner:"_sel));
   strip->addGestureRecognizer(pan);
   strip->setHidden(YES);
-  // On the backdrop, and so unseen whenever that is.
+  // A subview of the backdrop, so that it is hidden with the backdrop.
   cover.addSubview(strip);
 }
 
 void presentBanner(SpringBoard self, UIPanGestureRecognizer pan) {
   const UIGestureRecognizerState state = pan.state();
   const bool begins = state == UIGestureRecognizerStateBegan;
-  // A banner that is leaving ignores the finger, and so does one that was called again under it.
+  // A banner that is leaving ignores the finger, and so does one that was shown again during the
+  // grab.
   if (begins ? !isBanner : movement() != Movement::kGrab) return;
   if (state == UIGestureRecognizerStateEnded) {
-    let_go(self);
+    end_grab(self);
     return;
   }
-  if (is_lost(state)) {
-    give_back();
+  if (is_interrupted(state)) {
+    cancel_grab();
     return;
   }
   endPoint = pan.locationInView(locationWindow);

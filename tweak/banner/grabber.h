@@ -10,13 +10,14 @@ enum class Grabber {
   kDone,      // once it is fully open
 };
 
-/// Makes the grabber along the lower edge of the backdrop, hidden, with its drag.
+/// Makes the grabber along the lower edge of the backdrop, with its pan recogniser; hidden at
+/// first.
 void make_grabber(SpringBoard self);
 
-/// Chooses the picture of the grabber.
+/// Sets the picture of the grabber.
 void show_grabber(Grabber picture);
 
-/// The drag of the grabber: down opens the banner, up from where it began sends it away.
+/// The pan on the grabber: down opens the banner; up, past its starting point, dismisses it.
 void presentBanner(SpringBoard self, UIPanGestureRecognizer pan);
 
 }  // namespace sonavue

@@ -12,12 +12,12 @@
 namespace sonavue {
 namespace {
 
-// The animation takes a single-precision tenth of a second, widened.
+// The duration is a float 0.1, widened to double.
 constexpr double kGlide = 0.1f;
 constexpr CGFloat kGlideShare = 10;
 
-// Where something that stood at `first` when the drag began is now; the grab keeps its place
-// under the finger.
+// The current position of something that was at `first` when the drag began. The finger keeps the
+// point where it grabbed it.
 CGPoint dragged_from(CGPoint first) {
   return {static_cast<float>(endPoint.x - (startPoint.x - first.x)),
           static_cast<float>(endPoint.y - (startPoint.y - first.y))};
@@ -41,7 +41,7 @@ bool may_drag_back() {
 
 void begin_drag_out() {
   begin_movement(Movement::kDragOut);
-  keep_icon_home();
+  save_icon_home();
 }
 
 void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
@@ -58,7 +58,7 @@ void glide_out(SpringBoard self, CGPoint velocity, CGFloat offset) {
 }
 
 void begin_drag_back() {
-  take_composer_down();
+  dismiss_composer();
   end_search_typing();
   begin_movement(Movement::kDragBack);
   firstPos = music.frame();
@@ -69,7 +69,7 @@ void begin_drag_back() {
       }));
 }
 
-// `to_icon` turns a screen y of the twin into a y of the icon.
+// `to_icon` converts the twin's y, in screen coordinates, to the icon's y.
 void glide_home(CGPoint velocity, CGFloat to_icon) {
   UIView::animateWithDuration(
       kGlide, objc::block([velocity, to_icon] {
@@ -88,11 +88,11 @@ void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
   const UIGestureRecognizerState state = pan.state();
   const bool begins = state == UIGestureRecognizerStateBegan;
   const bool ends = state == UIGestureRecognizerStateEnded;
-  // The rest of a drag that was refused, or that a button has ended, is ignored.
+  // Ignore the rest of a drag that was refused, or that a button has ended.
   if (begins ? !may_drag_out() : movement() != Movement::kDragOut) return;
   const bool is_disturbed = musicIcon.isEditing() || isBanner;
-  // What begins in the middle of a drag must not swallow the end of it.
-  if (is_lost(state) || (ends && is_disturbed)) {
+  // If editing or the banner begins during a drag, the end of the drag must still be handled.
+  if (is_interrupted(state) || (ends && is_disturbed)) {
     go_straight_home();
     return;
   }
@@ -118,7 +118,7 @@ void sposta(SpringBoard self, UIPanGestureRecognizer pan) {
   }
   move_icon(place.x, place.y);
   follow_icon(0, musicIcon.frame().origin, offset);
-  // Not clamped below: a finger beyond the bottom edge gives a negative alpha, which is unseen.
+  // Not clamped below 0: past the bottom edge the alpha is negative, which is invisible.
   cover.setAlpha(at_most_one(fade_ratio(endPoint.y)));
 }
 
@@ -126,7 +126,7 @@ void sposta1(SpringBoard, UIPanGestureRecognizer pan) {
   const UIGestureRecognizerState state = pan.state();
   const bool begins = state == UIGestureRecognizerStateBegan;
   if (begins ? !may_drag_back() : movement() != Movement::kDragBack) return;
-  if (is_lost(state)) {
+  if (is_interrupted(state)) {
     go_straight_home();
     return;
   }
@@ -145,7 +145,8 @@ void sposta1(SpringBoard, UIPanGestureRecognizer pan) {
   move_to(music, place.x, place.y);
   const CGPoint twin = music.frame().origin;
   move_icon(twin.x, twin.y + to_icon);
-  // Only a dock icon's drag fades the backdrop before the release; a page icon's waits for it.
+  // Dragging a dock icon fades the backdrop at once; dragging an icon on a page does so only after
+  // the release.
   if (musicIcon.isInDock()) cover.setAlpha(at_most_one(fade_ratio(endPoint.y)));
 }
 

@@ -19,7 +19,7 @@ void put_drag_on(SpringBoard self) {
   added = YES;
 }
 
-// The view that was known shows another icon now, or none.
+// The known view now shows another icon, or none.
 void find_icon_again(SpringBoard self) {
   remove_gesture_recognizers(musicIcon);
   if (!find_music_application()) return;

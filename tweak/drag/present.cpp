@@ -12,8 +12,8 @@
 namespace sonavue {
 namespace {
 
-// One tenth of the way down the area of the icons: that of the page, or for a dock icon the area
-// above the dock, in the dock's own coordinates.
+// One tenth down from the top of the icons' area. For an icon on a page that is the page; for a
+// dock icon it is the area above the dock, in the dock's coordinates.
 CGPoint icon_place_at_top() {
   const CGFloat x = (screen_width() - musicIcon.frame().size.width) * 0.5;
   const CGFloat list_height = musicIcon.superview().frame().size.height;
@@ -32,7 +32,7 @@ void fade_content_in() {
                               unless_replaced([] { open_completed(); }));
 }
 
-// A block of the caller's that is answered in any case.
+// The caller's completion, which is always called.
 using Closed = objc::OwnedBlock<void(BOOL)>;
 
 template <class Step>
@@ -74,10 +74,10 @@ void present(SpringBoard) {
 }
 
 void dismis(SpringBoard, objc::Block<void(BOOL)> completion) {
-  take_composer_down();
+  dismiss_composer();
   begin_movement(Movement::kClosing);
   cover_screen_with_window();
-  // At once, so that no touch reaches a panel that is closing.
+  // Disable touches at once: none may reach a panel that is closing.
   window.setUserInteractionEnabled(NO);
   UIView::animateWithDuration(kTableSlide, objc::block([] { slide_album_table_aside(); }),
                               then(Closed(completion), &fade_content_out));
@@ -85,7 +85,7 @@ void dismis(SpringBoard, objc::Block<void(BOOL)> completion) {
 
 void dismisWithNoAction(SpringBoard self) {
   end_search_typing();
-  // A panel that is on its way is closed as well; one that is closing goes on.
+  // Also closes a panel that is still opening. One that is already closing continues.
   if (icon_is_away() && movement() != Movement::kClosing) {
     const auto nothing = objc::block([](BOOL) {});
     const objc::Block<void(BOOL)> borrowed = nothing;

@@ -52,7 +52,7 @@ void fade_in(UIView view) {
   UIView::animateWithDuration(kFadeIn, objc::block([view] { view.setAlpha(1); }));
 }
 
-/// Gives the tile's lower right corner.
+/// Adds the song's tile to the grid and returns the tile's bottom-right corner.
 CGPoint add_song(SpringBoard self, UIScrollView grid, UIView tile, MPMediaItem item,
                  NSUInteger index) {
   const CGFloat side = grid_side(grid.frame().size.width);

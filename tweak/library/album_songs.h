@@ -7,12 +7,12 @@
 
 namespace sonavue {
 
-/// A square grid, `side` points wide, of the songs of the tile's album; each fades in. Scrolls, and
-/// always bounces.
+/// A square grid, `side` points wide, with the songs of the tile's album, which fade in. It scrolls
+/// and bounces even if everything fits.
 [[nodiscard]] objc::Ref<UIScrollView> make_song_grid(SpringBoard self, UIView tile, CGFloat side);
 
-/// Plays the song of the tapped tile and zooms out. A song that is not in the list of songs is left
-/// alone; while nothing is loaded the system starts playing by itself instead.
+/// Plays the song of the tapped tile and zooms out. A no-op for a song that is not in the list of
+/// songs. If nothing is loaded, the system starts playing a song that it chooses.
 void playSongInAlbum(SpringBoard self, UITapGestureRecognizer tap);
 
 }  // namespace sonavue

@@ -44,7 +44,7 @@ void add_tile(SpringBoard self, MPMediaItem item, NSString album, NSUInteger ind
   albums.setContentSize({albums.frame().size.width, tile->frame().max_y() + kTileGap});
 }
 
-// Empty for what is no music or belongs to no album.
+// Nil for items that are not music or have no album.
 NSString album_of(MPMediaItem item) {
   const auto type = objc::cast<NSNumber>(item.valueForProperty(MPMediaItemPropertyMediaType));
   if (type.intValue() != kMusic) return nil;

@@ -4,8 +4,8 @@
 
 namespace sonavue {
 
-/// Makes the strip of album tiles on the pages: two columns, a tile for each album of the library,
-/// in the library's order.
+/// Adds the strip of album tiles to the pages: two columns, one tile for each album, in the
+/// library's order.
 void make_album_strip(SpringBoard self);
 
 }  // namespace sonavue

@@ -33,7 +33,7 @@ NSIndexPath will_select_album_song(MusicsAlbum, UITableView, NSIndexPath path) {
   return begin_track_change(path);
 }
 
-// The queue stays what it was: the songs of an album are all in it.
+// The queue stays: it already contains the songs of the album.
 void did_select_album_song(MusicsAlbum, UITableView, NSIndexPath path) {
   if (!mc.isPlaying()) mc.togglePlayPause();
   musicPlayer.setNowPlayingItem(album_song_of(path));

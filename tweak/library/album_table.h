@@ -3,14 +3,14 @@
 #include "objc/own_class.h"
 #include "platform/UIKit/UITableView.h"
 
-/// Data source and delegate of the table of the current album's other songs. Stateless.
+/// Data source and delegate of the table with the other songs of the current album. Stateless.
 struct MusicsAlbum : objc::Own<MusicsAlbum, "MusicsAlbum", UITableView> {};
 
 namespace sonavue {
 
 void make_album_table_source();
 
-/// Makes the table on `blurTable`, with a source that nothing keeps and that is never released.
+/// Adds the table to `blurTable`. Its source is never released, since the table does not retain it.
 void make_album_table();
 
 }  // namespace sonavue

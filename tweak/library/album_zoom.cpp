@@ -87,7 +87,7 @@ _UIBackdropView backdrop_of(UIImageView cover) {
   return nil;
 }
 
-void take_backdrop_away(const Zoom& zoom) {
+void fade_backdrop_out(const Zoom& zoom) {
   UIView::animateWithDuration(kFade, objc::block([zoom] {
                                 zoom.backdrop.setAlpha(0);
                                 zoom.title.setAlpha(1);
@@ -105,7 +105,7 @@ void shrink(const Zoom& zoom) {
                                 zoom.cover.setFrame(oldPosIcon);
                                 zoom.title.setFrame(oldPosLbl);
                               }),
-                              objc::block([zoom](BOOL) { take_backdrop_away(zoom); }));
+                              objc::block([zoom](BOOL) { fade_backdrop_out(zoom); }));
 }
 
 }  // namespace
@@ -113,13 +113,13 @@ void shrink(const Zoom& zoom) {
 void zoomInAlbum(SpringBoard self, UITapGestureRecognizer tap) {
   if (!albums.isScrollEnabled()) return;
   const UIView tile = tap.view();
-  // It is still on its way back, and its frame is not its own yet.
+  // The tile is still shrinking, so its frame is not yet its resting frame.
   if (backdrop_of(cover_of(tile))) return;
   albums.bringSubviewToFront(tile);
   const auto backdrop = make_backdrop(tile);
   const Zoom zoom{tile, cover_of(tile), title_of(tile), backdrop};
   save_places(zoom);
-  // The songs lie inside the cover and are tapped there.
+  // The songs are subviews of the cover, which has to pass on their taps.
   zoom.cover.setUserInteractionEnabled(YES);
   zoom.cover.addSubview(backdrop);
   albums.setScrollEnabled(NO);

@@ -5,11 +5,11 @@
 
 namespace sonavue {
 
-/// Zooms in on the album of the tapped tile: it grows to the middle of the strip and shows its
-/// songs. Nothing happens while an album is zoomed, which is when the strip does not scroll.
+/// Zooms in on the album of the tapped tile: it grows to the centre of the strip and shows its
+/// songs. A no-op while an album is zoomed, which is the case if the strip does not scroll.
 void zoomInAlbum(SpringBoard self, UITapGestureRecognizer tap);
 
-/// Brings the zoomed album back among the others.
+/// Shrinks the zoomed album back to its tile.
 void zoomOutAlbum(SpringBoard self, UITapGestureRecognizer tap);
 
 }  // namespace sonavue

@@ -16,14 +16,14 @@ NSMutableArray rows() {
   return isSearching ? result : songItems;
 }
 
-// Nil for a row outside the list: previous and next may ask for one in an empty library.
+// Nil for a row outside the list, which previous and next request if the library is empty.
 MPMediaItem item_of(NSIndexPath path) {
   const NSInteger row = path.row();
   if (row < 0 || row >= static_cast<NSInteger>(rows().count())) return nil;
   return objc::cast<MPMediaItem>(rows().objectAtIndex(static_cast<NSUInteger>(row)));
 }
 
-// A header that is let go half hidden goes where it is nearer to.
+// When the user releases a half-hidden header, it snaps to the nearer end.
 void snap_header(Musicz, UIScrollView list, BOOL) {
   const CGFloat height = searchCont.frame().size.height;
   const CGFloat y = list.contentOffset().y;
@@ -59,7 +59,7 @@ void did_select(Musicz, UITableView, NSIndexPath path) {
   end_search_typing();
   const MPMediaItem item = item_of(path);
   if (!item) return;
-  // Nothing has ever been loaded: the system must first start playing by itself.
+  // Nothing has been loaded yet: the system has to start playing first.
   if (title.text().length() == 0) {
     mc.togglePlayPause();
     return;
@@ -70,8 +70,8 @@ void did_select(Musicz, UITableView, NSIndexPath path) {
   musicPlayer.play();
 }
 
-// How much shorter the list is on small screens. Twice the width is compared with numbers of
-// pixels on purpose: the second one matches no screen of two pixels a point.
+// How much shorter the list is on small screens, in points. Comparing twice the width with pixel
+// counts is intended: 1080 matches no screen with two pixels per point.
 float small_screen_correction() {
   const float for_layout = max == 0 ? -15.0f : 0.0f;
   const float twice_the_width = static_cast<float>(2 * screen_width());
@@ -90,7 +90,7 @@ void make_song_list_source() {
         .method<&no_for_row>("tableView:shouldIndentWhileEditingRowAtIndexPath:")
         .method<&row_height>("tableView:heightForRowAtIndexPath:")
         .method<&cell_for_row>("tableView:cellForRowAtIndexPath:")
-        // Misspelt, and so never asked for; tables indent by nothing anyway.
+        // Misspelled, so it is never called. Tables do not indent anyway.
         .method<&indentation>("tableView:indentattionLevelForRowAtIndexPath:")
         .method<&will_select>("tableView:willSelectRowAtIndexPath:")
         .method<&did_select>("tableView:didSelectRowAtIndexPath:");
@@ -114,7 +114,7 @@ void make_song_list(SpringBoard self) {
   make_search_field(self);
   list->setTableHeaderView(header);
   container.addSubview(list);
-  // The header starts hidden above the first row until the user pulls the list down.
+  // The header is hidden above the first row until the user pulls the list down.
   list->setContentOffset({0, kSearchHeaderHeight});
 
   top = add_line_to_pages({x, 0, width, kListLine});

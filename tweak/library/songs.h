@@ -2,11 +2,11 @@
 
 namespace sonavue {
 
-/// Takes all songs of the library, at start-up.
+/// Loads all songs of the library. Called at launch.
 void make_library();
 
-/// Lists the songs again, in the list of all songs: with those that are only in the cloud, or
-/// without, as the setting says.
+/// Fills the list of all songs again, with or without the songs that are only in the cloud, as the
+/// setting says.
 void list_songs();
 
 }  // namespace sonavue

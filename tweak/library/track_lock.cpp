@@ -17,7 +17,7 @@ bool lock_track() {
 }
 
 void start_track_lock() {
-  // The fire at once is the first tick; the second, one interval later, lifts the lock.
+  // Firing it now is the first tick. The second, one interval later, releases the lock.
   NSTimer::scheduledTimerWithTimeInterval(time_wait, Spring, "change:"_sel, nil, YES).fire();
 }
 

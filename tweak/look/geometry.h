@@ -11,26 +11,26 @@ inline CGFloat screen_height() {
   return rect.size.height;
 }
 
-/// What turns the icon's y, which is local to its list, into a y of the screen, so that the twin
+/// The offset from the icon's y, which is local to its list, to the screen y at which the twin
 /// covers the icon: the status bar's height on a page, the dock's top in the dock.
 CGFloat icon_screen_offset();
 
-/// How much of the backdrop shows when the finger is at `y`: whole from a quarter of the screen
-/// upwards, nothing at the bottom edge. Not clamped.
+/// The backdrop's alpha while the finger is at `y`: 1 at a quarter of the screen's height and more
+/// above it, 0 at the bottom edge. Not clamped.
 CGFloat fade_ratio(CGFloat y);
 
-/// Moves a view without changing its size.
+/// These move a view without changing its size.
 void move_to(UIView view, CGFloat x, CGFloat y);
 void move_to_x(UIView view, CGFloat x);
 void move_to_y(UIView view, CGFloat y);
 
-/// Puts the panel's window over the whole screen.
+/// Makes the panel's window cover the whole screen.
 void cover_screen_with_window();
 
-/// Hangs the window from the top of the screen by its last `height` points.
+/// Moves the window up until only its bottom `height` points are visible at the top of the screen.
 void hang_window(CGFloat height);
 
-/// The offset of `container` at which the artwork stands in the middle of the screen.
+/// The content offset of `container` at which the artwork is centred on the screen.
 CGPoint artwork_page_offset();
 
 }  // namespace sonavue

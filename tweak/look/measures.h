@@ -2,11 +2,12 @@
 
 #include "platform/CoreGraphics/CGGeometry.h"
 
-// What the look is made of, in points. What follows from the screen is computed where it is used.
+// The measures of the look, in points. Values that depend on the screen are computed where they are
+// used.
 
 namespace sonavue {
 
-// The song page, from above: artwork, texts, controls.
+// The song page, from top to bottom: artwork, texts, controls.
 inline constexpr CGFloat kArtworkTop = 11;
 inline constexpr CGFloat kArtworkCorner = 50;
 inline constexpr CGFloat kArtworkBorder = 4;
@@ -16,19 +17,19 @@ inline constexpr CGFloat kTitleLine = 20;
 inline constexpr CGFloat kArtistTop = kTitleLine + 5;
 inline constexpr CGFloat kTitleSize = 15;
 inline constexpr CGFloat kArtistSize = 13;
-inline constexpr CGFloat kPlayGap = 10;  // Between the texts and play.
-inline constexpr CGFloat kSkipGap = 20;  // Between the texts and back and next.
+inline constexpr CGFloat kPlayGap = 10;  // Between the texts and the play button.
+inline constexpr CGFloat kSkipGap = 20;  // Between the texts and the back and next buttons.
 inline constexpr CGFloat kPlaySide = 50;
 inline constexpr CGSize kSkipSize{40, 30};
 
-/// While nothing plays there are no texts, and the controls stand higher by this.
+/// How much higher the controls are while nothing plays, when the texts are hidden.
 inline constexpr CGFloat kLift = 45;
 
-// The banner: play and what is above and below it, the texts while there are some.
+// The banner: the play button, the space around it, and the texts if there are any.
 inline constexpr CGFloat kBannerAroundPlay = 25 + 15;
 inline constexpr CGFloat kBannerTexts = 60;
 inline constexpr CGFloat kBannerLessOnSmallScreens = 15;
-inline constexpr CGFloat kBannerTextsGap = 5;  // Between the texts and play.
+inline constexpr CGFloat kBannerTextsGap = 5;  // Between the texts and the play button.
 inline constexpr CGFloat kGrabberHeight = 20;
 inline constexpr CGSize kGrabSize{40, 15};
 inline constexpr CGFloat kGrabberLine = 0.5;
@@ -55,8 +56,8 @@ inline constexpr CGFloat kZoomedTitleSize = 28;
 inline constexpr CGFloat kSongPictureCorner = 10;
 inline constexpr CGFloat kSongPictureBorder = 1.5;
 
-// The drag. A page of icons begins below the status bar; on the frame of the release, and on that
-// one only, the twin stands aside of the icon.
+// The drag. A page of icons begins below the status bar. In the frame of the release only, the twin
+// is beside the icon.
 inline constexpr CGFloat kStatusBarHeight = 20;
 inline constexpr CGFloat kReleaseAside = 5;
 

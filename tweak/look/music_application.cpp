@@ -14,7 +14,7 @@ NSString music_identifier() {
   return "com.apple.Music"_ns;
 }
 
-// Later systems have moved it to the controller.
+// Later systems moved the map to the controller.
 SBIconViewMap home_screen_map() {
   if (SBIconViewMap::hasHomescreenMap()) return SBIconViewMap::homescreenMap();
   const auto controller = SBIconController::sharedInstance();

@@ -5,16 +5,17 @@
 
 namespace sonavue {
 
-/// The Music application, or nil with the one line that this extension ever logs about a failure.
+/// The Music application. Returns nil if it is missing, and then logs the only line that the
+/// extension ever logs.
 SBApplication find_music_application();
 
-/// The home screen's present view of the Music icon.
+/// The home screen's current view of the Music icon.
 SBIconView find_music_icon();
 
-/// Does the view show the Music icon at present? The home screen uses its views again.
+/// Whether the view currently shows the Music icon. The home screen reuses its views.
 bool shows_music_icon(SBIconView icon);
 
-/// Does the icon stand inside a folder? Its drag stays the folder's own there.
+/// Whether the icon is inside a folder, where the folder keeps the drag.
 bool is_in_folder(SBIconView icon);
 
 }  // namespace sonavue

@@ -3,24 +3,24 @@
 #include "objc/ref.h"
 #include "platform/UIKit/UILabel.h"
 
-// Small pieces that several parts of the panel are made of.
+// Small views and helpers that several parts of the panel share.
 
 namespace sonavue {
 
-/// A white line, as it edges a list.
+/// A white line, as used along the edges of lists.
 [[nodiscard]] objc::Ref<UIView> make_line(CGRect frame);
 
-/// A line on the pages.
+/// Adds such a line to the pages and returns it.
 UIView add_line_to_pages(CGRect frame);
 
-/// A label of one centred line in the font of the tiles.
+/// A label with one centred line in the tiles' font.
 [[nodiscard]] objc::Ref<UILabel> make_tile_title(CGRect frame, NSString text);
 NSString tile_font();
 
-/// Lets a tap on the view send `action` to `target`.
+/// Makes a tap on the view send `action` to `target`.
 void add_tap(UIView view, objc::Object target, objc::Sel action);
 
-/// The word in the empty search field.
+/// Sets the placeholder of the search field, in this colour.
 void set_placeholder(UIColor colour);
 
 }  // namespace sonavue

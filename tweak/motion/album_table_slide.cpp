@@ -13,11 +13,11 @@ struct Swing {
   double seconds;
 };
 
-// Beyond the artwork's left edge and back, each time by less.
+// Overshoots the artwork's left edge, then swings back and forth by less each time.
 constexpr Swing kBounce[] = {{-20, 0.2}, {15, 0.15}, {-10, 0.15}, {5, 0.15}, {0, 0.15}};
 constexpr std::size_t kSwings = sizeof kBounce / sizeof *kBounce;
 
-// Counts the slides: the bounce of one that has been taken back must not go on.
+// Counts the slides, so that the bounce of a slide that was reversed stops.
 unsigned slides = 0;
 
 void swing(std::size_t index, unsigned slide) {

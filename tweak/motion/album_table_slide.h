@@ -4,14 +4,14 @@
 
 namespace sonavue {
 
-/// The double tap on the artwork: slides the table of the current album in with a damped bounce,
-/// or out again without one.
+/// The double tap on the artwork: slides the current album's table in with a damped bounce, or out
+/// without one.
 void showTable(SpringBoard self);
 
-/// Puts the table of the current album out of the artwork, to the right.
+/// Moves the current album's table out of the artwork, to the right, without animation.
 void slide_album_table_aside();
 
-/// The same as a motion.
+/// The same with animation.
 void hide_album_table();
 
 }  // namespace sonavue

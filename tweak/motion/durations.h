@@ -1,14 +1,14 @@
 #pragma once
 
-// Seconds of the motions that several parts of the panel share.
+// Durations, in seconds, of animations that several parts of the panel share.
 
 namespace sonavue {
 
-/// The icon's flight, to the top of the screen and home.
+/// The icon moves to the top of the screen, or home.
 inline constexpr double kIconTravel = 0.5;
-/// The pages come and go.
+/// The pages fade in or out.
 inline constexpr double kContentFade = 0.7;
-/// The table of the current album leaves the artwork.
+/// The current album's table slides out of the artwork.
 inline constexpr double kTableSlide = 0.2;
 
 }  // namespace sonavue

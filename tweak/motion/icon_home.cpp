@@ -7,52 +7,52 @@
 namespace sonavue {
 namespace {
 
-// In whose coordinates `saved` is. Only compared, never sent a message.
-UIView list_of_home;
-// Where the icon was put last.
-CGRect place;
+// The list in whose coordinates `saved` is. Only compared; it never receives a message.
+UIView home_list;
+// The frame that the icon was last given.
+CGRect last_frame;
 
-// An icon that the system has moved to another list stands in its slot there.
-bool has_other_list() {
-  return list_of_home && musicIcon.superview() != list_of_home;
+// An icon that the system has moved to another list is already in its slot there.
+bool is_in_other_list() {
+  return home_list && musicIcon.superview() != home_list;
 }
 
-// So does one that has been moved within its list, by a finger that arranges the icons.
-bool has_other_slot() {
-  return has_other_list() || (list_of_home && !(musicIcon.frame() == place));
+// So is one that the user has moved within its list while arranging icons.
+bool is_in_other_slot() {
+  return is_in_other_list() || (home_list && !(musicIcon.frame() == last_frame));
 }
 
-void be_closed() {
+void finish_closing() {
   isShow = NO;
   music.setHidden(YES);
 }
 
 }  // namespace
 
-void keep_icon_home() {
+void save_icon_home() {
   saved = musicIcon.frame();
-  place = saved;
-  list_of_home = musicIcon.superview();
+  last_frame = saved;
+  home_list = musicIcon.superview();
 }
 
 void move_icon(CGFloat x, CGFloat y) {
-  if (isBanner || has_other_list()) return;
+  if (isBanner || is_in_other_list()) return;
   move_to(musicIcon, x, y);
-  place = musicIcon.frame();
+  last_frame = musicIcon.frame();
 }
 
 void bring_icon_home(objc::OwnedBlock<void(BOOL)> closed) {
-  begin_movement(Movement::kGoingHome, &be_closed);
+  begin_movement(Movement::kGoingHome, &finish_closing);
   const CGFloat offset = icon_screen_offset();
   UIView::animateWithDuration(kIconTravel, objc::block([offset] {
                                 cover.setAlpha(0);
-                                if (!has_other_slot()) musicIcon.setFrame(saved);
+                                if (!is_in_other_slot()) musicIcon.setFrame(saved);
                                 move_to(music, musicIcon.frame().origin.x, saved.origin.y + offset);
                               }),
                               unless_replaced(
                                   [closed] {
                                     end_movement();
-                                    be_closed();
+                                    finish_closing();
                                     closed.get()(YES);
                                   },
                                   [closed] { closed.get()(NO); }));

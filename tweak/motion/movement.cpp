@@ -18,7 +18,7 @@ unsigned movement_number() {
 }
 
 void begin_movement(Movement movement, void (*settle)()) {
-  // Settled as the movement that it was.
+  // While it settles, the old movement is still the current one.
   if (void (*const settle_before)() = settle_current) {
     settle_current = nullptr;
     settle_before();
@@ -33,7 +33,7 @@ void end_movement() {
   begin_movement(Movement::kNone);
 }
 
-bool is_lost(UIGestureRecognizerState state) {
+bool is_interrupted(UIGestureRecognizerState state) {
   return state == UIGestureRecognizerStateCancelled || state == UIGestureRecognizerStateFailed;
 }
 

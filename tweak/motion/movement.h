@@ -3,42 +3,43 @@
 #include "platform/UIKit/UIGestureRecognizer.h"
 #include "tweak/Sonavue2.h"
 
-// At most one movement of the panel is under way. The one that begins takes the place of the one
-// before, whose later steps are not taken any more.
+// At most one movement of the panel is under way. A new movement replaces the previous one, whose
+// remaining steps are dropped.
 
 namespace sonavue {
 
 enum class Movement {
-  kNone,           // closed, open or hanging, as the flags say
+  kNone,           // at rest: closed, open or hanging, as the flags say
   kDragOut,        // the icon follows the finger
   kOpening,        // from the release of the icon until the panel is open
   kDragBack,       // the twin follows the finger
-  kClosing,        // the content goes, while the icon is still at the top
-  kGoingHome,      // the icon flies to its slot
+  kClosing,        // the content fades out while the icon is still at the top
+  kGoingHome,      // the icon moves to its slot
   kGrab,           // the banner follows the finger
   kBannerLeaving,  // the banner slides out
 };
 
 Movement movement();
 
-/// Begins `movement` in place of the movement under way. `settle` does at once what is left of it
-/// when another movement takes its place.
+/// Begins `movement`, which replaces the one under way. If another movement later replaces it,
+/// `settle` is called to complete it at once.
 void begin_movement(Movement movement, void (*settle)() = nullptr);
 
-/// The present movement has come to its end.
+/// Ends the current movement, which is complete.
 void end_movement();
 
-/// Is the icon out of its slot: dragged, at the top, or on its way there?
+/// Whether the icon is out of its slot: dragged, at the top, or on its way there.
 bool icon_is_away();
 
-/// Has the system taken the finger of a drag away?
-bool is_lost(UIGestureRecognizerState state);
+/// Whether a drag was cancelled or failed, so that the release of the finger will not be reported.
+bool is_interrupted(UIGestureRecognizerState state);
 
-/// Counts the movements; a step of a chain belongs to the one that was under way when it was made.
+/// A number for each movement. A step of an animation chain belongs to the movement in which it was
+/// made.
 unsigned movement_number();
 
-/// The completion of a step of the present movement: `step`, or `otherwise` once another movement
-/// has taken its place.
+/// A completion for an animation of the current movement. It calls `step`, or `otherwise` if
+/// another movement has replaced this one.
 template <class Step, class Otherwise>
 auto unless_replaced(Step step, Otherwise otherwise) {
   return objc::block([number = movement_number(), step, otherwise](BOOL) {

@@ -14,17 +14,17 @@ void move_controls(CGFloat by) {
     move_to_y(control, control.frame().origin.y + by);
 }
 
-void move_resting_places(CGFloat by) {
+void shift_resting_positions(CGFloat by) {
   const auto shift = static_cast<float>(by);
   firstPlay1 += shift;
   firstNext1 += shift;
   firstBack1 += shift;
 }
 
-// Places that are kept while the controls move are the new ones already.
-auto resting_places_moved(CGFloat by) {
-  return objc::block([by, kept = times_resting_places_were_kept()](BOOL) {
-    if (kept == times_resting_places_were_kept()) move_resting_places(by);
+// Positions that were saved during the animation already are the new ones.
+auto shift_resting_positions_afterwards(CGFloat by) {
+  return objc::block([by, count = resting_positions_save_count()](BOOL) {
+    if (count == resting_positions_save_count()) shift_resting_positions(by);
   });
 }
 
@@ -44,7 +44,7 @@ void lay_out_full() {
                                 }
                                 container1.setAlpha(1);
                               }),
-                              resting_places_moved(kLift));
+                              shift_resting_positions_afterwards(kLift));
 }
 
 void lay_out_compact() {
@@ -57,7 +57,7 @@ void lay_out_compact() {
                                 }
                                 container1.setAlpha(0);
                               }),
-                              resting_places_moved(-kLift));
+                              shift_resting_positions_afterwards(-kLift));
 }
 
 }  // namespace sonavue

@@ -14,7 +14,7 @@
 
 namespace sonavue {
 
-// Each step uses the views of the steps before it.
+// Each step uses views from the previous steps.
 BOOL build_panel(SpringBoard self) {
   make_windows();
   make_backdrop();

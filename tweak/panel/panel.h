@@ -4,8 +4,8 @@
 
 namespace sonavue {
 
-/// Makes the panel's windows and views, once, hidden, and puts the drag on the Music icon. Says
-/// NO, having made only the backdrop, on a phone without the Music application.
+/// Makes the panel's windows and views, hidden, and attaches the drag to the Music icon. Call it
+/// once. On a phone without the Music application it makes only the backdrop and returns NO.
 BOOL build_panel(SpringBoard self);
 
 }  // namespace sonavue

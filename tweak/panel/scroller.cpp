@@ -14,7 +14,8 @@ namespace {
 constexpr CGFloat kPages = 3;
 constexpr int kFirstSinkingGeneration = 5;
 
-// What a rise or a fall of the square root of the distance is divided by.
+// The rise is the square root of the distance divided by this; the controls' fall is multiplied by
+// it.
 CGFloat divisor() {
   const CGFloat width = UIScreen::mainScreen().bounds().size.width;
   return width * 2 == 828 || width * 3 == 1080 ? 4.0 : 3.5;
@@ -24,7 +25,8 @@ CGFloat centred(UIView view, CGFloat offset) {
   return offset + (screen_width() - view.frame().size.width) / 2;
 }
 
-// The controls lie on the pages and are moved along with them, so that they stand still.
+// The controls are on the pages and are moved with the offset, so that they stay in place on the
+// screen.
 void hold_controls(CGFloat offset) {
   const CGFloat sixth = screen_width() / 6;
   move_to_x(next, offset + sixth + 2 * screen_width() / 3 - kSkipSize.width);
@@ -33,7 +35,8 @@ void hold_controls(CGFloat offset) {
   move_to_x(container1, centred(container1, offset));
 }
 
-// Pages that go on gliding behind a panel that is closed must not take the icon out of its slot.
+// Pages may still be decelerating after the panel has closed. They must not move the icon out of
+// its slot.
 void raise_icon(CGFloat rise) {
   if (!isBanner && !icon_is_away()) return;
   move_icon(musicIcon.frame().origin.x, firstMusicIcon.origin.y - rise);
@@ -47,10 +50,10 @@ void sink_controls(CGFloat fall) {
   move_to_y(container1, firstContainer1 + fall);
 }
 
-// A drag that starts on another page goes on from what the last one recorded.
+// A drag that starts on another page uses the positions that the previous one saved.
 void will_begin_dragging(Scroller, UIScrollView pages) {
   if (pages.contentOffset().x != artwork_page_offset().x) return;
-  keep_resting_places();
+  save_resting_positions();
   firstMusic = music.frame();
   firstMusicIcon = musicIcon.frame();
 }

@@ -10,11 +10,11 @@ namespace sonavue {
 
 void make_scroller();
 
-/// Makes the paging scroll view, which all pages lie on.
+/// Makes the paging scroll view that contains all pages.
 void make_pages();
 
-/// Lets the pages be turned, once they are there. Nothing keeps their delegate, which is never
-/// released.
+/// Enables paging. Call it once the pages exist. The delegate is never released, since the scroll
+/// view does not retain it.
 void make_page_scrolling();
 
 }  // namespace sonavue

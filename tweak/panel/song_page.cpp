@@ -41,7 +41,7 @@ void make_ring(SpringBoard self) {
   view->setSecondaryColor(UIColor::whiteColor());
   view->setShowPercentage(NO);
   view->setUserInteractionEnabled(YES);
-  // The ring lies over the button, so that a tap on it must be a tap on play.
+  // The ring covers the play button, so a tap on the ring has to act as a tap on the button.
   const auto tap =
       objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(self, "playStop"_sel));
   tap->setNumberOfTapsRequired(1);

@@ -2,7 +2,7 @@
 
 #include "platform/SpringBoard/SpringBoard.h"
 
-// The first page: artwork with the ground of the current album's table, texts, controls.
+// The first page: artwork with the backdrop for the current album's table, texts, controls.
 
 namespace sonavue {
 

@@ -11,7 +11,7 @@
 namespace sonavue {
 namespace {
 
-// Above the status bar and everything that the system puts there.
+// Above the status bar and everything that the system shows there.
 constexpr UIWindowLevel kPanelLevel = UIWindowLevelStatusBar + 527.0;
 
 }  // namespace
@@ -21,7 +21,7 @@ void make_windows() {
   locationWindow = UIWindow::alloc().initWithFrame({0, 0, screen_width(), screen_height()});
   window.setBackgroundColor(UIColor::clearColor());
   window.setWindowLevel(kPanelLevel);
-  // Shown from the start, with nothing in it to see; only an open panel takes touches.
+  // Shown from the start, but empty. Only an open panel takes touches.
   window.setUserInteractionEnabled(NO);
   window.setHidden(NO);
 }

@@ -10,7 +10,7 @@
 namespace sonavue {
 namespace {
 
-// Nil for the states of seeking, which have no picture of their own.
+// Nil for the seeking states, which have no picture.
 NSString picture_for_state(int state) {
   switch (state) {
     case MPMusicPlaybackStatePlaying:
@@ -32,8 +32,8 @@ void draw_play_button() {
   lastState = playbackState;
 }
 
-// The system reports the elapsed time only when something changes; in between the panel counts
-// the seconds itself, one a tick.
+// The system reports the elapsed time only when something changes. In between, the panel counts one
+// second per tick.
 void follow_elapsed_time() {
   const double reported = nowPlayingController.currentElapsed();
   if (reported != lastElapsed) {
@@ -58,7 +58,7 @@ void show_artwork() {
   cover.setImage(preference_is_on(preference::cover(), YES) ? artwork : nil);
 }
 
-/// Puts the texts into the labels and gives the album's title.
+/// Sets the texts of the labels and returns the album's title.
 NSString show_texts() {
   const NSDictionary info = nowPlayingController.currentNowPlayingInfo();
   const auto text = [&](NSString key) { return objc::cast<NSString>(info.objectForKey(key)); };
@@ -71,7 +71,7 @@ bool has_text(MPMediaItem item, NSString property, NSString text) {
   return text && objc::cast<NSString>(item.valueForProperty(property)).isEqualToString(text);
 }
 
-// The other songs of the album; the playing song itself is selected in the list of all songs.
+// Collects the other songs of the album, and selects the playing song in the list of all songs.
 void collect_album(NSString album) {
   songArtist.removeAllObjects();
   NSInteger row = 0;

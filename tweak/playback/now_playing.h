@@ -4,7 +4,7 @@
 
 namespace sonavue {
 
-/// The refresh of every second: play image, ring, artwork, texts, current album, layout.
+/// Runs every second and updates the play button, ring, artwork, texts, current album and layout.
 void infoMusic(SpringBoard self);
 
 }  // namespace sonavue

@@ -14,7 +14,7 @@ NSInteger song_count() {
   return static_cast<NSInteger>(songItems.count());
 }
 
-// No selection counts as the first row.
+// Without a selection, the first row.
 NSInteger selected_row() {
   return tableView.indexPathForSelectedRow().row();
 }

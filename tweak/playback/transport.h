@@ -6,8 +6,8 @@ namespace sonavue {
 
 void playStop(SpringBoard self);
 
-/// The song before or after the selected row of the list, round the ends. Refused while a track
-/// change is under way or the banner is dragged.
+/// Plays the song before or after the selected row of the list, wrapping around at the ends.
+/// Ignored while a track change is under way or the banner is being dragged.
 void playBackSong(SpringBoard self);
 void playNextSong(SpringBoard self);
 

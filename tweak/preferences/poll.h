@@ -4,8 +4,8 @@
 
 namespace sonavue {
 
-/// The poll, every tenth of a second: when the settings side has cleared "checked", sets it and
-/// applies every setting.
+/// Runs every tenth of a second. If the settings have cleared "checked", sets it again and applies
+/// every setting.
 void changePreferences(SpringBoard self);
 
 }  // namespace sonavue

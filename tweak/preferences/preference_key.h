@@ -4,8 +4,8 @@
 
 namespace sonavue {
 
-/// A key of the preferences file. The keys that the source knows are the constants below; a row of
-/// the settings has its key from its label, as a text.
+/// A key of the preferences file. The keys used in code are the functions below; a row of the
+/// settings makes its key from its label's text.
 class PreferenceKey {
  public:
   explicit PreferenceKey(NSString text) : text_(text) {}
@@ -28,12 +28,12 @@ SONAVUE_PREFERENCE_KEY(cover)
 SONAVUE_PREFERENCE_KEY(square)
 SONAVUE_PREFERENCE_KEY(legibility)
 SONAVUE_PREFERENCE_KEY(cloud)
-// Names of a blur, of what the ring shows, and of colours.
+// Names: of the blur, of what the ring shows, and of colours.
 SONAVUE_PREFERENCE_KEY(blur)
 SONAVUE_PREFERENCE_KEY(play)
 SONAVUE_PREFERENCE_KEY(tint)
 SONAVUE_PREFERENCE_KEY(font_tint)
-// Not for the user: the home screen has applied the file; the wizard has been shown.
+// Internal: whether the home screen has applied the file, and whether the wizard has been shown.
 SONAVUE_PREFERENCE_KEY(checked)
 SONAVUE_PREFERENCE_KEY(firstBoot)
 #undef SONAVUE_PREFERENCE_KEY

@@ -2,21 +2,21 @@
 
 #include "tweak/preferences/preference_key.h"
 
-// The settings as the home screen reads them.
+// How the home screen reads the settings.
 
 namespace sonavue {
 
-/// The value of a setting. The default counts only while there is no preferences file at all: a
-/// key that an existing file lacks reads as nil. The file is read again at every call.
+/// The value of a setting. `default_value` is used only if there is no preferences file at all; a
+/// key that is missing from an existing file gives nil. Every call reads the file again.
 objc::Object getPref(PreferenceKey key, objc::Object default_value);
 
-/// The same, as a switch: nil is NO.
+/// The same for a switch; nil gives NO.
 BOOL preference_is_on(PreferenceKey key, BOOL default_value);
 
-/// Is the text of the setting equal to `value`? Nil equals nothing.
+/// Whether the setting's text equals `value`. NO if the setting is nil.
 BOOL preference_equals(PreferenceKey key, NSString default_value, NSString value);
 
-/// A switch as the file alone has it: NO without a file.
+/// The switch as it is in the file; NO without a file.
 BOOL preference_in_file(PreferenceKey key);
 
 }  // namespace sonavue

@@ -4,25 +4,25 @@
 #include "platform/Foundation/NSDictionary.h"
 #include "tweak/preferences/preference_key.h"
 
-// The file that the home screen and the settings share. No copy of it is kept: every look reads it
-// and every change writes all of it in one step.
+// The file that the home screen and the settings share. It is not cached: every access reads it,
+// and every change writes all of it atomically.
 
 namespace sonavue {
 
 NSString preferences_path();
 
-/// All that is in the file; nil when it cannot be read.
+/// The contents of the file; nil if it cannot be read.
 NSDictionary load_preferences();
 
-/// Is it true, as a switch is? Nil is not, and neither is what cannot be: the file may have been
-/// written by hand.
+/// Whether the value of a switch is true. NO for nil and for objects without a truth value, which
+/// a file edited by hand may contain.
 BOOL is_true(objc::Object value);
 
-/// A change of the file: what was loaded, to be changed and written back.
+/// A change of the file: holds the loaded contents, changes them, and writes them back.
 class PreferencesChange {
  public:
   explicit PreferencesChange(NSDictionary loaded);
-  /// The value is not nil.
+  /// `value` must not be nil.
   void set(objc::Object value, PreferenceKey key);
   void set(BOOL value, PreferenceKey key);
   void write() const;

@@ -5,8 +5,8 @@
 
 namespace sonavue {
 
-/// Plain values in a row that grows at its end. What could not grow for want of memory has failed,
-/// and says so until it is cleared.
+/// A growing array of trivially copyable values. If it runs out of memory, `has_failed` returns
+/// true until the array is cleared.
 template <class T>
 class GrownArray {
   static_assert(std::is_trivially_copyable_v<T>);
@@ -29,16 +29,16 @@ class GrownArray {
     if (count_ == room_ && !make_room(count_ + 1)) return;
     values_[count_++] = value;
   }
-  /// Sets the count; new values are whatever was there.
+  /// Sets the count. New values are uninitialised.
   void resize(std::size_t count) {
     if (count <= room_ || make_room(count)) count_ = count;
   }
-  /// Forgets the values and keeps their room.
+  /// Discards the values but keeps the allocated memory.
   void clear() {
     count_ = 0;
     failed_ = false;
   }
-  /// Gives back what has been taken beyond the values.
+  /// Frees the memory that is allocated beyond the values.
   void shrink() {
     if (count_ == 0 || count_ == room_) return;
     if (void* less = __builtin_realloc(values_, count_ * sizeof(T))) {

@@ -13,7 +13,7 @@ void Hits::remove_all_objects() {
   places_.clear();
 }
 
-// An index beyond the end is refused as every array does it.
+// For an index beyond the end, the ordinary array raises the usual exception.
 objc::Object Hits::object_at_index(NSUInteger index) {
   if (ordinary_ || index >= shown()) return ordinary().objectAtIndex(index);
   return songs_->objectAtIndex(places_[index]);

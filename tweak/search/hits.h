@@ -6,17 +6,17 @@
 
 namespace sonavue {
 
-/// What a search has found: a changeable array that knows the songs by their places in the list
-/// that was searched, and keeps that list. One letter finds most of a library, and to retain and
-/// release each song of it with every key would take longer than the search. Whoever changes the
-/// array makes an ordinary one of it.
+/// The hits of a search: a mutable array that stores the places of the songs in the searched list,
+/// and retains that list. A single letter finds most of a library; retaining and releasing all
+/// these songs at every keystroke would take longer than the search. Changing the array turns it
+/// into an ordinary one.
 class Hits : public objc::Implementation<Hits, SVHits> {
  public:
   using Implementation::Implementation;
 
-  /// Holds the songs of these places of a list that never changes.
+  /// Makes the array contain the songs at `places` in this list. The list must be immutable.
   void show(NSArray songs);
-  /// To be filled before the songs are shown.
+  /// Fill these before calling `show`.
   Places& places() { return places_; }
 
   SVHits init() { return self; }

@@ -5,19 +5,19 @@
 
 namespace sonavue {
 
-/// Bytes that are looked for, sixteen places at once: where the first and the last of them stand as
-/// far apart as they should, the others are compared.
+/// Searches for a byte string at sixteen places at once. Where its first and last byte match, the
+/// bytes in between are compared.
 class Needle {
  public:
   using Byte = unsigned char;
-  /// So many bytes behind a text that is searched must be readable; what they are is all one.
+  /// This many bytes after a searched text must be readable. Their values do not matter.
   static constexpr std::size_t kReadBehind = 16;
 
-  /// At least one byte, and they stay where they are.
+  /// `length` is at least 1. The bytes are not copied and must outlive the needle.
   Needle(const Byte* bytes, std::size_t length)
       : bytes_(bytes), last_(length - 1), head_(all_of(bytes[0])), tail_(all_of(bytes[last_])) {}
 
-  /// Where it stands first between the two; null when it does not.
+  /// The first occurrence between `begin` and `end`; null if there is none.
   const Byte* find_in(const Byte* begin, const Byte* end) const {
     if (end - begin <= static_cast<std::ptrdiff_t>(last_)) return nullptr;
     const Byte* const stop = end - last_;
@@ -45,7 +45,7 @@ class Needle {
   }
   static Block all_of(Byte byte) { return Block{} + byte; }
 
-  // Each byte of `places` that is set is a place to look at; both homes count from the low end.
+  // Each byte of `places` that is set marks a place to compare. Both homes are little-endian.
   const Byte* first_of(const Byte* begin, std::uint64_t places, const Byte* stop) const {
     while (places) {
       const int index = __builtin_ctzll(places) / kBitsOfByte;

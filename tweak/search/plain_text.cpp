@@ -13,13 +13,13 @@ struct Letters {
   unichar last;
 };
 
-// Signs and Latin without the soft hyphen, Greek, Cyrillic, dashes and quotation marks, the
-// syllables and the ideographs in common use.
+// Symbols and Latin without the soft hyphen, Greek, Cyrillic, dashes and quotation marks, kana, and
+// the common ideographs.
 constexpr Letters kPlainLetters[] = {{0x20, 0x7e},     {0xa0, 0xac},     {0xae, 0x2ff},
                                      {0x391, 0x3c9},   {0x400, 0x482},   {0x2013, 0x2026},
                                      {0x3041, 0x3096}, {0x30a1, 0x30fa}, {0x4e00, 0x9fff}};
 
-// Accents, and the signs of the syllables.
+// Combining accents, and the voicing marks of kana.
 constexpr Letters kMarks[] = {{0x300, 0x36f}, {0x3099, 0x309a}};
 
 unichar ascii_lowercase(unichar letter) {
@@ -85,9 +85,9 @@ bool PlainTextWriter::write(Bytes& bytes) const {
   return !bytes.has_failed();
 }
 
-// What is plain is asked of the lower case: capitals may become several letters, or one of another
-// script. Those of ASCII are always the same, which spares most titles a string. A mark is put in
-// one piece with its letter, which finds the same on the platform.
+// The check for plain letters is done on the lower case, since a capital may become several letters
+// or a letter of another script. ASCII is lowercased here, which saves most titles a string. Marks
+// are composed with their letters; the platform's search finds the same either way.
 bool PlainTextWriter::add_lowercase(NSString text, Bytes& bytes) {
   if (!read(text)) return false;
   if (is_ascii()) return write(bytes);

@@ -7,16 +7,17 @@ namespace sonavue {
 
 using Bytes = GrownArray<unsigned char>;
 
-/// Is it a letter or sign that stands for itself alone: no combining mark, and spelt otherwise only
-/// with one? A text of such letters is found in another one of them exactly where their units say
-/// so, which for all others only the platform knows.
+/// Whether the letter or symbol is not a combining mark and has no other spelling, except with a
+/// combining mark. A text of plain letters can be found in another one by comparing code units; for
+/// all other texts only the platform's search is right.
 bool is_plain(unichar letter);
 
-/// Turns texts into the bytes of their lower case, for as long as they are plain: as they are, or
-/// with each mark and its letter in one piece.
+/// Converts plain texts to lower case as bytes. A text counts as plain if it is so after each
+/// combining mark has been composed with its letter.
 class PlainTextWriter {
  public:
-  /// Adds the lower case of the text as UTF-8; false, with nothing added, when it is not plain.
+  /// Appends the text in lower case as UTF-8. If the text is not plain, appends nothing and returns
+  /// false.
   bool add_lowercase(NSString text, Bytes& bytes);
 
  private:

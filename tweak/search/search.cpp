@@ -9,7 +9,7 @@
 namespace sonavue {
 namespace {
 
-// Never destroyed: it lives as long as the home screen.
+// Never destroyed: it lives as long as the process.
 TitleIndex& index() {
   alignas(TitleIndex) static unsigned char place[sizeof(TitleIndex)];
   static TitleIndex* made = nullptr;
@@ -19,7 +19,7 @@ TitleIndex& index() {
 
 void search_by_platform(NSString lower_case_text) {
   for (const auto song : songItems.of<MPMediaItem>()) {
-    if (title_holds(song, lower_case_text)) result.addObject(song);
+    if (title_contains(song, lower_case_text)) result.addObject(song);
   }
 }
 
@@ -60,7 +60,7 @@ void textDidChange(SpringBoard, UITextField field) {
   tableView.reloadData();
 }
 
-// The rows stay as they are until the first letter, which finds the titles read already.
+// The rows stay until the first letter is typed. By then the titles have already been read.
 void textFieldDidBeginEditing(SpringBoard, UITextField) {
   isSearching = YES;
   index().follow(songItems);

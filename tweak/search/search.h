@@ -5,11 +5,11 @@
 
 namespace sonavue {
 
-/// The search, at every edit of the field: lists the songs whose title holds the text, whatever the
-/// case, in the order of the list. An empty text lists all songs.
+/// Runs the search, after every edit of the field: lists the songs whose title contains the text,
+/// ignoring case, in the order of the list. An empty text lists all songs.
 void textDidChange(SpringBoard self, UITextField field);
 
-/// For when the songs have been listed anew: their titles may be others.
+/// Call this when the songs have been listed again, since their titles may have changed.
 void read_titles_again();
 
 // The field's delegate.
@@ -17,7 +17,7 @@ void textFieldDidBeginEditing(SpringBoard self, UITextField field);
 void textFieldDidEndEditing(SpringBoard self, UITextField field);
 BOOL textFieldShouldReturn(SpringBoard self, UITextField field);
 
-/// Takes the keyboard away, if it is there for the search field.
+/// Hides the keyboard if it is up for the search field.
 void end_search_typing();
 
 }  // namespace sonavue

@@ -4,7 +4,7 @@
 
 namespace sonavue {
 
-/// Makes the search field inside `searchCont`, with the home screen as its delegate.
+/// Adds the search field to `searchCont`. Its delegate is the home screen.
 void make_search_field(SpringBoard self);
 
 }  // namespace sonavue

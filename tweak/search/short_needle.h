@@ -5,33 +5,33 @@
 
 namespace sonavue {
 
-/// One bit for each of eight bytes that are all ones or all zeros, the lowest first: the product
-/// brings the lowest bit of each to its own place in the highest byte.
+/// Packs eight bytes, each all ones or all zeros, into eight bits, the lowest byte first. The
+/// multiplication moves the lowest bit of each byte to its place in the highest byte.
 constexpr std::uint64_t bits_of_bytes(std::uint64_t bytes) {
   return (bytes & 0x0101010101010101) * 0x0102040810204080 >> 56;
 }
-// Not every processor goes this way, so that no search tells when it is wrong.
+// Checked here because processors with SSE2 do not use it, so their searches cannot reveal an
+// error.
 static_assert(bits_of_bytes(0) == 0 && bits_of_bytes(~std::uint64_t{0}) == 0xff);
 static_assert(bits_of_bytes(0x00000000000000ff) == 0x01);
 static_assert(bits_of_bytes(0xff00000000000000) == 0x80);
 static_assert(bits_of_bytes(0xff00ffff0000ff00) == 0xb2);
 
-/// One byte or two that are looked for in sixty-four places at once. Most titles hold a single
-/// letter: then it takes less to see all places of it than to look for the next one again and
-/// again.
+/// Searches for one or two bytes at sixty-four places at once. Most titles contain any given
+/// letter, so marking all its places is faster than repeatedly searching for the next one.
 class ShortNeedle {
  public:
   using Byte = unsigned char;
   static constexpr std::size_t kLongest = 2;
-  /// Places that are looked at together, each a bit of a word, the first the lowest.
+  /// The number of places in one step. Each is one bit of a word; the first is the lowest bit.
   static constexpr std::size_t kPlaces = 64;
-  /// So many bytes behind a text that is searched must be readable.
+  /// This many bytes after a searched text must be readable.
   static constexpr std::size_t kReadBehind = kPlaces + kLongest;
 
   ShortNeedle(const Byte* bytes, std::size_t length)
       : last_(length - 1), head_(all_of(bytes[0])), tail_(all_of(bytes[last_])) {}
 
-  /// Where it begins.
+  /// The places at which the needle begins, as bits.
   std::uint64_t places_in(const Byte* text) const {
     return bits(text, [&](const Byte* at) {
       return (block_at(at) == head_) & (block_at(at + last_) == tail_);
@@ -61,7 +61,7 @@ class ShortNeedle {
     return bits;
   }
 
-  // One bit for each byte, which is all ones or all zeros.
+  // Packs bytes, each all ones or all zeros, into one bit each.
   static std::uint64_t bits_of(Bits bytes) {
 #ifdef __SSE2__
     return static_cast<unsigned>(__builtin_ia32_pmovmskb128(bytes));

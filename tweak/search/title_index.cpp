@@ -8,12 +8,12 @@
 namespace sonavue {
 namespace {
 
-// Between two titles, so that nothing is found across their border: no plain text holds it.
+// Separates two titles, so that no hit spans both: plain texts never contain it.
 constexpr unsigned char kBorder = 0;
-// Titles are read, and lists compared, in lots of this.
+// Titles are read and lists are compared in batches of this size.
 constexpr NSUInteger kLot = 512;
 constexpr std::size_t kMostBytes = UINT32_MAX;
-// What may be read behind the last title, by whatever looks for a text.
+// How far the needles may read beyond the last title.
 constexpr std::size_t kReadBehind =
     Needle::kReadBehind > ShortNeedle::kReadBehind ? Needle::kReadBehind : ShortNeedle::kReadBehind;
 
@@ -21,7 +21,7 @@ NSString title_of(MPMediaItem song) {
   return objc::cast<NSString>(song.valueForProperty(MPMediaItemPropertyTitle));
 }
 
-/// Both in order. From the end on, so that each place is moved once.
+/// Merges two sorted lists into `found`, from the end, so that each place is moved only once.
 void merge(const Places& others, Places& found) {
   std::size_t from = found.count();
   std::size_t left = others.count();
@@ -36,7 +36,7 @@ void merge(const Places& others, Places& found) {
 
 }  // namespace
 
-bool title_holds(MPMediaItem song, NSString lower_case_text) {
+bool title_contains(MPMediaItem song, NSString lower_case_text) {
   const NSString title = title_of(song);
   if (title.length() == 0) return false;
   return title.lowercaseString().rangeOfString(lower_case_text).length != 0;
@@ -106,11 +106,11 @@ bool TitleIndex::find(NSString lower_case_text, Places& found) {
   } else {
     find_long(found);
   }
-  return add_others(lower_case_text, found) && !found.has_failed();
+  return add_other_titles(lower_case_text, found) && !found.has_failed();
 }
 
-// The last title that begins at the offset or before it, which is `from` or one behind it. Where
-// much is found it is near, so the steps begin small.
+// The last title that starts at or before `offset`; it is `from` or a later one. Frequent hits are
+// close together, so the search starts with small steps.
 std::uint32_t TitleIndex::place_at(std::size_t offset, std::uint32_t from) const {
   const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
   std::uint32_t step = 1;
@@ -136,7 +136,7 @@ void TitleIndex::find_long(Places& found) const {
   }
 }
 
-// The place of each title is written down, and kept where the title holds the text.
+// Writes the place of every title, but moves on to the next slot only after a hit.
 void TitleIndex::find_short(Places& found) const {
   const ShortNeedle needle(wanted_.begin(), wanted_.count());
   const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
@@ -149,7 +149,7 @@ void TitleIndex::find_short(Places& found) const {
     std::uint64_t hits = needle.places_in(block);
     std::uint64_t borders = ShortNeedle::places_of(kBorder, block);
     for (; borders && place < count; borders &= borders - 1) {
-      const std::uint64_t title = borders ^ (borders - 1);  // All up to the border.
+      const std::uint64_t title = borders ^ (borders - 1);  // All bits up to the border.
       *kept = place++;
       kept += is_held | ((hits & title) != 0);
       hits &= ~title;
@@ -160,13 +160,13 @@ void TitleIndex::find_short(Places& found) const {
   found.resize(static_cast<std::size_t>(kept - found.begin()));
 }
 
-// Puts the titles that the platform has to look at where they belong among those found. False
-// without the memory to list them.
-bool TitleIndex::add_others(NSString text, Places& found) const {
+// Searches the titles that are not plain with the platform's search, and merges the hits into
+// `found`. Returns false when out of memory.
+bool TitleIndex::add_other_titles(NSString text, Places& found) const {
   if (not_plain_.count() == 0) return true;
   Places others;
   for (const std::uint32_t place : not_plain_) {
-    if (title_holds(song(place), text)) others.add(place);
+    if (title_contains(song(place), text)) others.add(place);
   }
   merge(others, found);
   return !others.has_failed();

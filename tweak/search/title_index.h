@@ -10,29 +10,30 @@
 
 namespace sonavue {
 
-/// Places in a list of songs, in its order.
+/// Indexes into a list of songs, in ascending order.
 using Places = GrownArray<std::uint32_t>;
 
-/// Does the song's title hold the text, whatever the title's case? The platform's own comparison.
-bool title_holds(MPMediaItem song, NSString lower_case_text);
+/// Whether the song's title contains the text, ignoring the title's case, by the platform's own
+/// comparison.
+bool title_contains(MPMediaItem song, NSString lower_case_text);
 
-/// The titles of a list of songs, in lower case and one behind the other, so that a key in the
-/// search field goes through a few megabytes and not through every song. It finds what
-/// `title_holds` finds: titles that are not plain are left to that.
+/// The titles of a list of songs, in lower case and one after the other, so that a keystroke in the
+/// search field scans a few megabytes instead of sending messages to every song. It finds what
+/// `title_contains` finds, and uses that function for titles that are not plain.
 class TitleIndex {
  public:
-  /// Makes the index of these songs unless it is there already. The songs are compared one by one,
-  /// since anybody may have changed the list.
+  /// Builds the index of these songs unless it already exists. Compares the songs one by one, since
+  /// any code may have changed the list.
   void follow(NSArray songs);
 
-  /// For when the songs may be the same but have other titles.
+  /// Discards the index. Needed when the songs may be the same but their titles have changed.
   void forget();
 
-  /// The songs of the index: a list that never changes. Borrowed.
+  /// The songs of the index, as an immutable list. Borrowed.
   NSArray songs() const { return songs_.get(); }
 
-  /// Puts the places of the songs found into `found`. False when only the platform can tell: the
-  /// text is not plain, or there is not the memory; what `found` holds then is nothing to go by.
+  /// Writes the places of the matching songs to `found`. Returns false if the text is not plain or
+  /// memory is out; then `found` is invalid, and the caller has to use the platform's comparison.
   bool find(NSString lower_case_text, Places& found);
 
  private:
@@ -41,7 +42,7 @@ class TitleIndex {
   void add_title(std::uint32_t place, NSString title);
   void find_long(Places& found) const;
   void find_short(Places& found) const;
-  bool add_others(NSString text, Places& found) const;
+  bool add_other_titles(NSString text, Places& found) const;
   std::uint32_t place_at(std::size_t offset, std::uint32_t from) const;
   MPMediaItem song(std::uint32_t place) const;
 
@@ -49,7 +50,7 @@ class TitleIndex {
   PlainTextWriter writer_;
   Bytes bytes_;
   Bytes wanted_;
-  GrownArray<std::uint32_t> starts_;  // In `bytes_`; one more for the end.
+  GrownArray<std::uint32_t> starts_;  // Offsets into `bytes_`, plus one for the end.
   Places not_plain_;
   bool is_usable_ = false;
 };

@@ -12,7 +12,7 @@ NSString text_of(UILabel label) {
   return text ? text : ""_ns;
 }
 
-// A missing word leaves its space behind: the text is never trimmed.
+// A missing title or artist still leaves its space: the text is never trimmed.
 NSString share_text() {
   return "#NowPlaying "_ns.stringByAppendingString(text_of(title))
       .stringByAppendingString(" "_ns)
@@ -27,7 +27,7 @@ void composer_has_ended(TWTweetComposeViewControllerResult) {
 }  // namespace
 
 void tweet(SpringBoard) {
-  // A second tap while the composer comes.
+  // A second tap while the composer is being shown.
   if (window.rootViewController()) return;
   if (!art.image()) return;
   const auto composer = objc::adopt(TWTweetComposeViewController::alloc().init());
@@ -35,14 +35,14 @@ void tweet(SpringBoard) {
   composer->setCompletionHandler(
       objc::block([](TWTweetComposeViewControllerResult how) { composer_has_ended(how); }));
   composer->setInitialText(share_text());
-  // The window keeps this one until the composer is done.
+  // The window retains the presenter until the composer has ended.
   const auto presenter = objc::adopt(UIViewController::alloc().init());
   window.setRootViewController(presenter);
   presenter->presentModalViewController(composer, YES);
 }
 
-// The composer tells its handler of its own buttons only.
-void take_composer_down() {
+// Dismissing a composer in code does not call its completion handler.
+void dismiss_composer() {
   const UIViewController presenter = window.rootViewController();
   if (!presenter) return;
   presenter.dismissViewControllerAnimated(NO, nullptr);

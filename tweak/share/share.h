@@ -4,11 +4,11 @@
 
 namespace sonavue {
 
-/// Opens a composer with the playing song in its text. Without an artwork nothing has been shown
-/// yet, and there is nothing to share.
+/// Opens a composer with the playing song in its text. A no-op without artwork, when no song has
+/// been shown yet.
 void tweet(SpringBoard self);
 
-/// Cancels a composer that is up, at once: the panel under it is about to go.
-void take_composer_down();
+/// Cancels an open composer without animation, since the panel under it is about to close.
+void dismiss_composer();
 
 }  // namespace sonavue

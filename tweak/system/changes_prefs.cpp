@@ -16,7 +16,8 @@ namespace {
 constexpr PanelColours kChosenColours{[] { return color(preference::tint()); },
                                       [] { return color(preference::font_tint()); }};
 
-// Off, the icon loses the home screen's own recognisers too, until the drag is on again.
+// Switching the drag off also removes the home screen's own recognisers from the icon, until the
+// drag is switched on again.
 void switch_drag(SpringBoard self) {
   if (preference_is_on(preference::apex(), NO)) return;
   enabled = preference_in_file(preference::enable());

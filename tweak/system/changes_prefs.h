@@ -4,8 +4,7 @@
 
 namespace sonavue {
 
-/// Applies every setting of the preferences file to the panel. Running it twice with the same file
-/// changes nothing.
+/// Applies every setting of the preferences file to the panel. Idempotent for an unchanged file.
 void changesPrefs(SpringBoard self);
 
 }  // namespace sonavue

@@ -4,8 +4,8 @@
 
 namespace sonavue {
 
-/// The device's generation, from the last three characters of its machine name: 7 of iPhone7,2.
-/// A major number of two digits gives its last digit; a name that ends otherwise gives 0.
+/// The device's generation, from the last three characters of its machine name: 7 for iPhone7,2.
+/// Of a two-digit generation it returns the last digit, for a name with another ending 0.
 int deviceNumber(SpringBoard self);
 
 /// Sets `time_wait` and `max` for this device. Slower generations take longer to change a song.

@@ -16,7 +16,7 @@ constexpr double kIconWatchInterval = 0.1;
 constexpr double kRefreshInterval = 1.0;
 constexpr double kPreferencesInterval = 0.1;
 
-// These live as long as the home screen.
+// The timers are never invalidated.
 void start_timer(double interval, objc::Sel action) {
   NSTimer::scheduledTimerWithTimeInterval(interval, Spring, action, nil, YES).fire();
 }

@@ -4,7 +4,7 @@
 
 namespace sonavue {
 
-/// `applicationDidFinishLaunching:`, from which all else starts.
+/// Replaces `applicationDidFinishLaunching:` and starts the extension.
 void launched(SpringBoard self, objc::Object application);
 
 }  // namespace sonavue

@@ -3,8 +3,8 @@
 #include "objc/class_builder.h"
 #include "objc/message_text.h"
 
-// The rows of the two tables of what the extension touches in the system: methods that it adds, and
-// methods that it replaces.
+// The rows of two tables: the methods that the extension adds to the system, and those that it
+// replaces.
 
 namespace sonavue {
 
@@ -20,14 +20,14 @@ AddedMethod adds(const char* selector) {
           objc::MethodOf<Function>::encoding.c_str()};
 }
 
-/// What answered a selector before it was replaced. The body is null until then, and where the
-/// class is missing.
+/// The method that was replaced. The body is null until the replacement, and if the class is
+/// missing.
 struct Original {
   objc::Sel selector = nullptr;
   objc::Imp body = nullptr;
 };
 
-/// Where the original is kept that the function `Ours` replaces.
+/// The original that the function `Ours` replaces.
 template <auto Ours>
 inline constinit Original original_of;
 
@@ -39,7 +39,7 @@ struct ReplacedMethod {
   Original* original;
 };
 
-/// The selector of a replaced method, under a symbol that names its class and types, too.
+/// The selector of a replaced method. Its symbol also names the class and the types.
 template <objc::FixedString Message>
 inline constinit objc::Sel replaced_message = nullptr;
 
@@ -80,8 +80,8 @@ ReplacedMethod replaces_class_method() {
   return Replacement<Ours>::template row<Class, Selector, true>();
 }
 
-/// Does what the platform does where the function `Ours` stands. Where the class is missing nothing
-/// was replaced, and this gives zero.
+/// Calls the platform's method that `Ours` replaces. Returns zero if nothing was replaced because
+/// the class is missing.
 template <auto Ours>
 constexpr auto original = &Replacement<Ours>::call_original;
 

@@ -12,7 +12,7 @@
 namespace sonavue {
 namespace {
 
-// Up, or on its way there.
+// Shown, or on its way.
 bool panel_is_up() {
   return isShow || isBanner || icon_is_away();
 }
@@ -31,17 +31,17 @@ void dismiss_control_center() {
 
 }  // namespace
 
-// A touch on the Music icon leaves its home frame behind, before any drag begins. While the panel
-// closes the icon can be touched where it is not at home.
+// A touch on the Music icon saves its home frame before a drag can begin, but only while the icon
+// is in its slot: during closing it can be touched elsewhere.
 
 void touches_began_on_icon(SBIconView self, NSSet touches, UIEvent event) {
   original<&touches_began_on_icon>(self, touches, event);
   const auto touch = objc::cast<UITouch>(event.allTouches().anyObject());
   const UIView touched = touch.view();
-  if (touched && touched == musicIcon && !icon_is_away()) keep_icon_home();
+  if (touched && touched == musicIcon && !icon_is_away()) save_icon_home();
 }
 
-// The Home button only closes the panel while it is up.
+// While the panel is shown, the Home button only closes it.
 
 BOOL home_button_clicked(objc::Object self) {
   if (!panel_is_up()) return original<&home_button_clicked>(self);
@@ -60,7 +60,7 @@ void banner_presented(objc::Object self, objc::Object context, NSInteger reason)
   original<&banner_presented>(self, context, reason);
 }
 
-// These four let the system go first.
+// The next four call the system's method first.
 
 void display_turned_off(objc::Object self) {
   original<&display_turned_off>(self);
@@ -77,8 +77,8 @@ void notification_center_shown(objc::Object self) {
   close_panel_if_up();
 }
 
-// It cannot open over the full panel, and takes the place of a banner that is fully down. A
-// banner on the move is left alone, and so is the control centre then.
+// The control centre cannot open over the full panel. It also closes a banner that is fully down,
+// and is itself dismissed. While a banner moves, both are left alone.
 void control_center_shown(objc::Object self) {
   original<&control_center_shown>(self);
   if (isShow) dismiss_control_center();
@@ -88,19 +88,20 @@ void control_center_shown(objc::Object self) {
   }
 }
 
-// Reachability moves the whole screen, so the panel goes without asking whether it is up.
+// Reachability moves the whole screen, so these close the panel without checking whether it is
+// shown.
 
 BOOL reachability_is_supported(objc::Object self) {
   return original<&reachability_is_supported>(self);
 }
 
-void reachability_went_down(objc::Object self) {
-  original<&reachability_went_down>(self);
+void reachability_deactivated(objc::Object self) {
+  original<&reachability_deactivated>(self);
   close_panel();
 }
 
-void reachability_came_up(objc::Object self) {
-  original<&reachability_came_up>(self);
+void reachability_activated(objc::Object self) {
+  original<&reachability_activated>(self);
   close_panel();
 }
 
@@ -114,15 +115,15 @@ void kept_alive(objc::Object self, objc::Object timer) {
   close_panel();
 }
 
-// The ring follows the volume. The system's own handler is left out on purpose: nothing else is to
-// happen on a press of the volume buttons.
+// The ring follows the volume. The system's own handler is deliberately not called: nothing else
+// happens when the volume changes.
 
 void volume_changed(SBMediaController self, objc::Object) {
   if (preference_equals(preference::play(), "volume"_ns, "volume"_ns))
     ring.setProgress(self.volume(), YES);
 }
 
-// Every window may show above the lock screen, so that the panel's can.
+// Lets the panel's window, and with it every window, show above the lock screen.
 
 BOOL window_is_secure(UIWindow) {
   return YES;

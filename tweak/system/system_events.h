@@ -7,8 +7,8 @@
 #include "platform/UIKit/UIEvent.h"
 #include "platform/UIKit/UIWindow.h"
 
-// The events of the system that close or feed the panel: each takes the place of the method that
-// the table in Sonavue2.cpp gives it.
+// System events that close or update the panel. Each function replaces the method that the table in
+// Sonavue2.cpp assigns to it.
 
 namespace sonavue {
 
@@ -24,8 +24,8 @@ void notification_center_shown(objc::Object self);
 void control_center_shown(objc::Object self);
 
 BOOL reachability_is_supported(objc::Object self);
-void reachability_went_down(objc::Object self);
-void reachability_came_up(objc::Object self);
+void reachability_deactivated(objc::Object self);
+void reachability_activated(objc::Object self);
 void time_changed(objc::Object self);
 void kept_alive(objc::Object self, objc::Object timer);
 
