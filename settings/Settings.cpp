@@ -14,8 +14,8 @@
 #include "settings/wizard/switcher.h"
 #include "ui/UIViewShimmer.h"
 
-// The classes of the settings' pages. The library comes into the home screen too, where those are
-// missing that derive from the settings application's own.
+// Registers the classes of the settings' pages. The library is also loaded into the home screen;
+// classes whose base belongs to the settings application are not made there.
 
 namespace sonavue {
 

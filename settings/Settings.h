@@ -2,7 +2,8 @@
 
 namespace sonavue {
 
-/// Makes every class of the settings' pages whose base is there. The load of the library does it.
+/// Makes every class of the settings' pages whose base class exists in this process. Runs when the
+/// library is loaded.
 void make_settings_classes();
 
 }  // namespace sonavue

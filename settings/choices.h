@@ -2,17 +2,17 @@
 
 #include "platform/Foundation/NSArray.h"
 
-// The choices of the settings that are no switches, in the order in which they are offered. Each is
-// at once what is stored and the name of its text.
+// The choices of the settings that are not switches, in the order in which they are offered. Each
+// string is both the stored value and the name of the choice's text.
 
 namespace sonavue {
 
 NSArray blur_choices();
 NSArray color_choices();
-/// What the ring around the play button shows.
+/// Choices for what the ring around the play button shows.
 NSArray ring_choices();
 
-/// The texts of the choices, in their order.
+/// The texts of the choices, in the same order.
 NSArray translated(NSArray choices);
 
 }  // namespace sonavue

@@ -3,12 +3,12 @@
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/UIKit/UIViewController.h"
 
-// What the pages of the settings share. Of each there is one, as there is one set of pages.
+// The shared state of the settings' pages. There is only one set of pages.
 
 namespace sonavue::settings {
 
-/// The page over which the wizard and the cards are shown. It is kept until another takes its
-/// place, since what it shows lives on it: the rows that cards belong to, and the wizard's
+/// The page over which the wizard and the cards are shown. Retained until another page replaces it,
+/// since it owns what the shown views need: the rows that cards belong to, and the wizard's
 /// controls.
 inline constinit UIViewController where;
 
@@ -18,16 +18,17 @@ inline void set_where(UIViewController page) {
   where = page;
 }
 
-/// Ends what is shown over the page; by itself where the page has been taken from under it.
+/// Dismisses what is shown over the page. If the page is no longer presenting it, `shown` dismisses
+/// itself.
 inline void end_shown(UIViewController shown) {
   const UIViewController ending = where.presentedViewController() ? where : shown;
   ending.dismissViewControllerAnimated(YES, nullptr);
 }
 
-/// What the switch asked for that is still in question.
+/// The requested value of the switch that awaits confirmation.
 inline constinit objc::Object value1;
 
-/// Where a finger came down, and where it was last.
+/// The start point and the last point of a drag.
 inline constinit CGPoint startPoint;
 inline constinit CGPoint endPoint;
 

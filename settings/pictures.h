@@ -5,11 +5,11 @@
 
 namespace sonavue {
 
-/// A picture of the extension by its name, to which "@2x.png" is added unless it ends so; nil when
-/// there is no such file.
+/// The extension's picture with that name. Appends "@2x.png" unless the name ends with it. Returns
+/// nil if there is no such file.
 UIImage imageFromFile(NSString name);
 
-/// The colour of everything that is switched on.
+/// The colour of switches that are on.
 UIColor pattern_color();
 
 }  // namespace sonavue

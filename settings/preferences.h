@@ -2,19 +2,19 @@
 
 #include "tweak/preferences/preference_key.h"
 
-// The settings' side of the preferences file, which the home screen reads.
+// How the settings access the preferences file, which the home screen reads.
 
 namespace sonavue {
 
-/// The text or number that the file holds under the key; nil without a file or such a key, and for
-/// what is neither, which no row can show.
+/// The string or number stored under the key. Nil if the file or the key is missing, and for values
+/// of other types, which rows cannot show.
 objc::Object stored_value(PreferenceKey key);
 
-/// Puts `value`, which is not nil, under the key and clears "checked", by which the home screen
-/// knows that something is new.
+/// Stores `value`, which must not be nil, under the key and clears "checked", so that the home
+/// screen applies the file.
 void store(objc::Object value, PreferenceKey key);
 
-/// The same for what the home screen need not apply now: "checked" stays as it is.
+/// The same for values that the home screen need not apply now: "checked" does not change.
 void store_unannounced(objc::Object value, PreferenceKey key);
 
 }  // namespace sonavue

@@ -24,8 +24,8 @@ NSString text_in_table(NSString path, NSString identifier) {
       NSDictionary::dictionaryWithContentsOfFile(path).objectForKey(identifier));
 }
 
-// Not nil, so that it can be shown and be a key like any text.
-NSString nothing() {
+// Not nil, so that it can be shown and used as a key like any text.
+NSString null_text() {
   return "(null)"_ns;
 }
 
@@ -41,25 +41,25 @@ NSString lang() {
 
 NSString Translator(NSString identifier) {
   const NSString path = table_path(lang());
-  if (!can_be_read(path)) return nothing();
+  if (!can_be_read(path)) return null_text();
   const NSString text = text_in_table(path, identifier);
   if (text.length() != 0) return text;
   const NSString english = table_path("en"_ns);
   if (!can_be_read(english)) return text;
   const NSString in_english = text_in_table(english, identifier);
-  return in_english.length() != 0 ? in_english : nothing();
+  return in_english.length() != 0 ? in_english : null_text();
 }
 
 NSString getNotTranslated(NSString text) {
   const NSString path = table_path(lang());
-  if (!can_be_read(path)) return nothing();
+  if (!can_be_read(path)) return null_text();
   const NSDictionary table = NSDictionary::dictionaryWithContentsOfFile(path);
   const NSEnumerator names = table.keyEnumerator();
   while (const objc::Object name = names.nextObject()) {
     if (objc::kind_of<NSString>(table.objectForKey(name)).isEqualToString(text))
       return objc::cast<NSString>(name);
   }
-  return nothing();
+  return null_text();
 }
 
 }  // namespace sonavue

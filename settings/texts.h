@@ -2,18 +2,19 @@
 
 #include "platform/Foundation/NSString.h"
 
-// What the settings say, in the user's language: tables of texts by short English names. The tables
-// are read anew at every call. "(null)" is a text as any other, and means that there is none.
+// The texts of the settings in the user's language, in tables keyed by short English identifiers.
+// Every call reads the tables again. A missing text is returned as "(null)".
 
 namespace sonavue {
 
-/// The code of the user's language, as far as there is a table of it.
+/// The code of the user's language if there is a table for it, otherwise English.
 NSString lang();
 
-/// The text of that name: from the language's table, or else from the English one.
+/// The text with that identifier, from the language's table or else from the English one.
 NSString Translator(NSString identifier);
 
-/// The name of the text, in the language's table alone. Of two that have the same text, either.
+/// The identifier of the text, looked up in the language's table only. If two identifiers have this
+/// text, returns either.
 NSString getNotTranslated(NSString text);
 
 }  // namespace sonavue

@@ -4,15 +4,15 @@
 
 namespace sonavue {
 
-/// Another package of an author, as a tile shows it.
+/// Another package by an author, shown as a tile.
 struct Package {
   const char* title;
   const char* picture;
   const char* identifier;  // in the package manager
-  const char* action;      // the cell's own method
+  const char* action;      // the method of the cell that a tap calls
 };
 
-/// Somebody who made this. Texts are UTF-8.
+/// An author of the extension. Texts are UTF-8.
 struct Author {
   const char* name;
   const char* role;
@@ -25,7 +25,7 @@ struct Author {
   int package_count;
 };
 
-/// A text of an author's.
+/// Converts an author's text to an NSString.
 inline NSString as_text(const char* text) {
   return NSString::stringWithUTF8String(text);
 }

@@ -3,7 +3,7 @@
 #include "objc/own_class.h"
 #include "platform/Preferences/PSTableCell.h"
 
-/// One row for an author, whose card a tap opens. Classes of the extension's own.
+/// A row for each author. A tap opens the author's card. Both are the extension's own classes.
 struct developerCell : objc::Own<developerCell, "developerCell", PSTableCell> {};
 struct designerCell : objc::Own<designerCell, "designerCell", PSTableCell> {};
 

@@ -26,7 +26,7 @@ void add_photo(PSTableCell cell, const Author& author) {
   cell.addSubview(photo);
 }
 
-/// As large as its text.
+/// A label of the size of its text.
 objc::Ref<UILabel> line(const char* text, UIFont font) {
   auto label = objc::adopt(UILabel::alloc().init());
   label->setText(as_text(text));
@@ -35,7 +35,7 @@ objc::Ref<UILabel> line(const char* text, UIFont font) {
   return label;
 }
 
-/// Both lines together stand in the middle of the row.
+/// Adds both lines, centred vertically as a pair.
 void add_texts(PSTableCell cell, const Author& author) {
   const auto name = line(author.name, UIFont::fontWithName("HelveticaNeue-UltraLight"_ns,
                                                            UIFont::labelFontSize() + 1));

@@ -7,7 +7,7 @@ namespace sonavue {
 
 inline constexpr CGFloat kAuthorRowHeight = 94;
 
-/// Photo, name, role and an arrow.
+/// Adds the photo, name and role of the author and an arrow.
 void fill_author_row(PSTableCell cell, const Author& author);
 
 }  // namespace sonavue

@@ -38,7 +38,8 @@ NSString picture_path(const char* name, NSString ending) {
   return asset_path<"">().stringByAppendingString(as_text(name)).stringByAppendingString(ending);
 }
 
-/// Gives where it ends. On a low screen it stands so much higher that the last strip is on it, too.
+/// Adds the photo and returns its bottom. On a short screen it moves up, so that the last strip is
+/// still visible.
 CGFloat add_photo(UIView card, const Author& author) {
   const CGSize size = card.frame().size;
   const CGFloat missing = size.height < kCardHeight ? kCardHeight - size.height : 0;
@@ -52,7 +53,7 @@ CGFloat add_photo(UIView card, const Author& author) {
   return top + kCardPhotoSide;
 }
 
-/// Gives where it ends.
+/// Adds a line of text and returns its bottom.
 CGFloat add_line(UIView card, const char* text, CGFloat top, CGFloat height, CGFloat font_size) {
   const auto label =
       objc::adopt(UILabel::alloc().initWithFrame({0, top, card.frame().size.width, height}));

@@ -7,12 +7,12 @@
 
 namespace sonavue {
 
-/// The full-screen card of an author: what else there is of them, and ways to reach them. The
-/// actions are the cell's.
+/// The full-screen card of an author: their other packages, and ways to contact them. `cell`
+/// implements the actions.
 [[nodiscard]] objc::Ref<UIViewController> make_card(const Author& author, PSTableCell cell);
 
-/// A tile at the end of the strip that sends `action` to the cell. Every tile of the strip before
-/// it, and nothing else, is a subview of the container.
+/// Appends a tile to the strip; a tap on it sends `action` to the cell. The container must have no
+/// subviews except the strip's tiles.
 void add_tile(UIView container, NSString name, NSString picture_path, objc::Sel action,
               PSTableCell cell);
 

@@ -4,16 +4,17 @@
 #include "platform/UIKit/UIViewController.h"
 #include "settings/credits/author.h"
 
-// The ways to an author. Composers are shown over the card and tell the cell how they ended.
+// Ways to contact an author. Composers are shown over the card, and the cell is their delegate.
 
 namespace sonavue {
 
 void write_mail(const Author& author, PSTableCell cell, UIViewController card);
-/// Nothing on a device that cannot send texts.
+/// A no-op on a device that cannot send text messages.
 void write_message(const Author& author, PSTableCell cell, UIViewController card);
-/// In the first application that knows such people, or in the browser.
+/// Opens the author's profile in the first installed application that supports it, or else in the
+/// browser.
 void follow(const Author& author);
-/// In the package manager, where there is one.
+/// Opens the package in the package manager. A no-op if there is none.
 void show_package(const Package& package);
 
 }  // namespace sonavue

@@ -2,7 +2,8 @@
 
 namespace sonavue {
 
-/// The class `configurationController`: a page before the style page, for whoever opens it by name.
+/// Makes the class `configurationController`: a page with a link to the style page. Nothing here
+/// opens it, but other code may open it by name.
 void make_configuration_page();
 
 }  // namespace sonavue

@@ -3,7 +3,7 @@
 #include "objc/own_class.h"
 #include "platform/Preferences/PSListController.h"
 
-/// The page of those who made it. A class of the extension's own.
+/// The page with the authors. One of the extension's own classes.
 struct creatorsController : objc::Own<creatorsController, "creatorsController", PSListController> {
 };
 

@@ -5,11 +5,11 @@
 
 namespace sonavue {
 
-/// The service's page for our gestures, made by `new`. It names a listener without the 2 of the
-/// one that is registered: existing installations have their gestures under either name.
+/// The gesture service's page for our listener. It uses the listener's name without the 2 of the
+/// registered one: existing installations have gestures under either name.
 [[nodiscard]] objc::Ref<LAListenerSettingsViewController> make_gesture_page();
 
-/// Shows it over the page, with a button that sends `dismiss` to it.
+/// Presents that page over `over`, with a button that sends `dismiss` to `over`.
 void present_gesture_page(UIViewController over);
 
 }  // namespace sonavue

@@ -60,7 +60,7 @@ class HeaderCell : public objc::Implementation<HeaderCell, HeaderCellForSonavue>
     desc_ = desc;
   }
 
-  // Both belong to the cell.
+  // Borrowed: the cell owns both as subviews.
   UIImageView background_;
   UILabel desc_;
 };

@@ -3,8 +3,8 @@
 #include "objc/own_class.h"
 #include "platform/Preferences/PSTableCell.h"
 
-/// The product's logo and its name, which shimmers, above the first page. A class of the
-/// extension's own.
+/// The header of the first page: the product's logo, and its name, which shimmers. One of the
+/// extension's own classes.
 struct HeaderCellForSonavue : objc::Own<HeaderCellForSonavue, "HeaderCellForSonavue", PSTableCell> {
 };
 

@@ -23,7 +23,7 @@ void ask_for_restart(styleController page, objc::Object wanted) {
 
 void restart_answered(styleController page, NSInteger button) {
   if (button != kYes) return page.reloadSpecifiers();
-  // The home screen reads the file when it starts: there is nothing to announce.
+  // The home screen reads the file when it starts, so there is nothing to announce.
   store_unannounced(settings::value1, preference::apex());
   system("killall SpringBoard");
 }

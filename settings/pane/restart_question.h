@@ -4,11 +4,12 @@
 
 namespace sonavue {
 
-/// "apex" counts only from a start of the home screen. Keeps what is wanted and asks first.
+/// "apex" takes effect only when the home screen restarts. Keeps the wanted value and asks the user
+/// whether to restart.
 void ask_for_restart(styleController page, objc::Object wanted);
 
-/// What the user has answered: stores what was wanted and restarts the home screen, or lets the
-/// switch spring back.
+/// Handles the user's answer: stores the wanted value and restarts the home screen, or resets the
+/// switch.
 void restart_answered(styleController page, NSInteger button);
 
 }  // namespace sonavue

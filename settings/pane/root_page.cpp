@@ -57,12 +57,13 @@ void add_share_button(SonavueSettingsController self) {
   self.navigationItem().setRightBarButtonItem(button);
 }
 
-/// The wizard comes by itself once. The home screen has nothing to apply then.
+/// Shows the wizard on the first visit only. Stored unannounced, since the home screen has nothing
+/// to apply.
 void show_wizard_the_first_time(SonavueSettingsController self) {
   if (!styleController::cls() || is_true(stored_value(preference::firstBoot()))) return;
   store_unannounced(NSNumber::numberWithBool(YES), preference::firstBoot());
   settings::set_where(self);
-  // It lives for as long as the wizard needs it, which is until the application ends.
+  // Never released: the wizard needs it until the application ends.
   styleController::alloc().init().showFirstPage();
 }
 

@@ -2,7 +2,7 @@
 
 namespace sonavue {
 
-/// The class `SonavueSettingsController`: the first page.
+/// Makes the class `SonavueSettingsController`: the first page.
 void make_root_page();
 
 }  // namespace sonavue

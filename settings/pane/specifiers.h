@@ -3,34 +3,35 @@
 #include "objc/own_class.h"
 #include "platform/Preferences/PSSpecifier.h"
 
-// The rows of the pages. Each is called by the text of a short English name, under which its value
-// is stored too.
+// The rows of the pages. Each is named after the text of a short English identifier, which is also
+// the key of its stored value.
 
 namespace sonavue {
 
 PSSpecifier group_with_footer(NSString footer_identifier);
-/// A group whose header is a view of the class of that name; without a name, no header.
+/// A group whose header is a view of the class with that name; for nil, a group without a header.
 PSSpecifier group_with_header(objc::Object target, NSString class_name);
-/// The same with a class of our own: the settings look it up by its name, which has to be ours.
+/// The same with one of our own classes. The settings application looks it up by name, so there is
+/// no header if another class has the name.
 template <objc::OwnHandle Cell>
 PSSpecifier group_with_header(objc::Object target) {
   return group_with_header(
       target, Cell::cls() ? NSString::stringWithUTF8String(Cell::class_name()) : NSString());
 }
 
-/// The target answers `getValue:` and `setValue:forSpecifier:`.
+/// The target must implement `getValue:` and `setValue:forSpecifier:`.
 PSSpecifier switch_row(objc::Object target, NSString identifier);
-/// A list of its own page; the choices are offered by their texts.
+/// A row that opens a page with the choices, which are shown by their texts.
 PSSpecifier list_row(objc::Object target, NSString identifier, NSArray choices);
 PSSpecifier link_row(objc::Object target, NSString identifier, objc::Class detail);
 PSSpecifier action_row(objc::Object target, NSString identifier, objc::Sel action);
 
-/// The same row with one of our pictures before its name.
+/// Adds one of our pictures before the row's name and returns the row.
 PSSpecifier with_icon(PSSpecifier row, NSString picture);
 
-/// What is stored for the row; nil when there is nothing.
+/// The stored value of the row; nil if there is none.
 objc::Object row_value(PSSpecifier row);
-/// Stores it for the row and lets the home screen know.
+/// Stores the row's value and notifies the home screen.
 void store_row_value(objc::Object value, PSSpecifier row);
 
 }  // namespace sonavue

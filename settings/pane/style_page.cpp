@@ -38,7 +38,7 @@ class StylePage : public objc::Implementation<StylePage, styleController> {
   void show_gesture_page() { present_gesture_page(self); }
   void dismiss() { self.dismissViewControllerAnimated(YES, nullptr); }
 
-  // The wizard's wheel of blurs.
+  // Data source and delegate of the wizard's wheel of blurs.
   NSInteger components(UIPickerView) { return 1; }
   NSInteger rows(UIPickerView, NSInteger) {
     return static_cast<NSInteger>(wizard_.blurs().count());

@@ -3,8 +3,8 @@
 #include "objc/own_class.h"
 #include "platform/Preferences/PSListController.h"
 
-/// The page of everything that can be chosen, and the wizard that leads through the most important
-/// of it. A class of the extension's own.
+/// The page with all settings, and the wizard that leads through the most important ones. One of
+/// the extension's own classes.
 struct styleController : objc::Own<styleController, "styleController", PSListController> {
   void showFirstPage() const { call<"showFirstPage">(); }
 };

@@ -4,7 +4,7 @@
 
 namespace sonavue {
 
-/// The rows of the style page, each behind a group that explains it.
+/// The rows of the style page, each in a group that explains it.
 NSArray make_style_rows(styleController page);
 
 }  // namespace sonavue

@@ -3,7 +3,7 @@
 #include "objc/own_class.h"
 #include "platform/Preferences/PSSwitchTableCell.h"
 
-/// The row of a switch in the settings' colour. A class of the extension's own.
+/// A switch row whose switch has the colour of these settings. One of the extension's own classes.
 struct SRSwitchTableCell : objc::Own<SRSwitchTableCell, "SRSwitchTableCell", PSSwitchTableCell> {};
 
 namespace sonavue {

@@ -6,7 +6,7 @@
 namespace sonavue {
 namespace {
 
-/// The answers of a wheel with the rows of `choices`.
+/// Data source and delegate of a wheel whose rows are the texts of `choices`.
 template <class Picker, NSArray (*choices)()>
 class ChoicePicker : public objc::Implementation<ChoicePicker<Picker, choices>, Picker> {
   using Base = objc::Implementation<ChoicePicker<Picker, choices>, Picker>;
@@ -38,7 +38,7 @@ class ChoicePicker : public objc::Implementation<ChoicePicker<Picker, choices>, 
   }
 
  private:
-  // Not retained: it is one of the constant names.
+  // Not retained: it is one of the constant keys.
   NSString key_;
 };
 

@@ -3,14 +3,15 @@
 #include "objc/own_class.h"
 #include "platform/UIKit/UIPickerView.h"
 
-// What fills a wheel of the wizard. Both are wheels themselves by their class, which nobody sees.
+// The sources of the wizard's wheels. Both derive from UIPickerView but are never shown.
 
-/// Colours, stored under the key that it is given. A class of the extension's own.
+/// Colours; the choice is stored under the key that is set. One of the extension's own classes.
 struct Tint : objc::Own<Tint, "Tint", UIPickerView> {
   void setKey(NSString key) const { call<"setKey:">(key); }
 };
 
-/// What the ring shows. A class of the extension's own.
+/// What the ring shows; the choice is stored under the key that is set. One of the extension's own
+/// classes.
 struct Play : objc::Own<Play, "Play", UIPickerView> {
   void setKey(NSString key) const { call<"setKey:">(key); }
 };

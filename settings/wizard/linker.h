@@ -4,7 +4,7 @@
 #include "platform/UIKit/UIImage.h"
 #include "platform/UIKit/UIView.h"
 
-/// A row that leads somewhere. A class of the extension's own.
+/// A row with an arrow that sends an action when tapped. One of the extension's own classes.
 struct Linker : objc::Own<Linker, "Linker", UIView> {
   Linker initWithFrame(CGRect frame, NSString name, UIImage image, BOOL border, objc::Object target,
                        objc::Sel action) const {

@@ -3,7 +3,7 @@
 #include "objc/own_class.h"
 #include "platform/UIKit/UIViewController.h"
 
-/// A page that never turns with the phone. A class of the extension's own.
+/// A page that does not rotate with the phone. One of the extension's own classes.
 struct LockedUIViewController
     : objc::Own<LockedUIViewController, "LockedUIViewController", UIViewController> {};
 

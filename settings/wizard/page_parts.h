@@ -6,17 +6,17 @@
 
 namespace sonavue {
 
-/// A text of the wizard, which nobody translates.
+/// A text of the wizard. It is not translated.
 struct PageText {
   NSString text;
   CGRect frame;
   NSInteger lines = 10;
 };
 
-/// A white page with that text, at the end of `pages`. Gives its view.
+/// Appends a white page with that text to `pages` and returns the page's view.
 UIView add_text_page(NSMutableArray pages, const PageText& text);
 
-/// A row that sends `action` to `target`; its picture is the file at `picture`.
+/// Adds a row that sends `action` to `target`. `picture` is the path of its picture.
 void add_linker(UIView page, CGRect frame, NSString name, NSString picture, styleController target,
                 objc::Sel action);
 

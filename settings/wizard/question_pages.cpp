@@ -13,7 +13,7 @@ namespace {
 
 constexpr CGFloat kQuestionRowHeight = 45;
 
-/// Makes the pages one after another.
+/// Makes the question pages in order.
 class Questions {
  public:
   Questions(NSMutableArray pages, CGSize size, styleController target)
@@ -29,7 +29,7 @@ class Questions {
     add_linker(add_text_page(pages_, {text, whole_text()}), row_frame(), "Activator"_ns,
                asset_path<"Activator.png">(), target_, "showActivatorPage"_sel);
   }
-  /// `source` fills the wheel; it is kept for as long as the wheel may ask.
+  /// `source` is the wheel's data source and delegate. It must outlive the wheel.
   void ask_choice(NSString text, objc::Object source) const {
     const UIView page = add_text_page(pages_, {text, {0, 50, size_.width, 210}});
     const auto wheel =
@@ -53,7 +53,8 @@ class Questions {
   styleController target_;
 };
 
-/// A wheel does not keep who fills it, and its page may come back at any time: they stay.
+/// Sources are never released: a wheel does not retain its source, and its page may come back at
+/// any time.
 template <class Source>
 objc::Object source_for(PreferenceKey key) {
   const Source source = Source::alloc().init();

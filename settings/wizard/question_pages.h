@@ -4,11 +4,11 @@
 
 namespace sonavue {
 
-/// The pages that ask, in their order, as large as `bounds`; their controls are the target's. The
-/// questions are in English in every language.
+/// Appends the question pages, of the size of `bounds`. Their controls send actions to `target`.
+/// The questions are always in English.
 void add_question_pages(NSMutableArray pages, CGRect bounds, styleController target);
 
-/// The pages that explain, likewise.
+/// Appends the tutorial pages likewise.
 void add_tutorial_pages(NSMutableArray pages, CGRect bounds, styleController target);
 
 }  // namespace sonavue

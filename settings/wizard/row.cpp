@@ -12,7 +12,7 @@ constexpr CGFloat kRowLine = 0.5;
 constexpr CGPoint kIconOrigin = {20, 8};
 constexpr CGFloat kTitleGap = 15;
 
-/// Gives where the title begins.
+/// Adds the icon and returns the x at which the title begins.
 CGFloat add_icon(UIView view, UIImage image) {
   const CGFloat side = view.frame().size.height - 2 * kIconOrigin.y;
   const auto icon = objc::adopt(UIImageView::alloc().initWithFrame({kIconOrigin, {side, side}}));

@@ -7,11 +7,11 @@ namespace sonavue {
 
 enum class RowBorder { kNone, kHairline };
 
-/// Dresses a view as a row of the wizard, at its present size: white, with the name of its layer as
-/// its title and a picture before that where there is one.
+/// Gives a view the look of a wizard row, at its current size: white, with `name` as its title and
+/// as its layer's name, and with `image` before the title unless it is nil.
 void dress_as_row(UIView view, NSString name, UIImage image, RowBorder border);
 
-/// The hairline of rows and of what lies in them.
+/// Adds the hairline border of rows and of the controls in them.
 void add_hairline(UIView view);
 
 }  // namespace sonavue

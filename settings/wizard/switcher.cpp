@@ -43,20 +43,20 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
     const auto tap =
         objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(self, "animate"_sel));
     self.addGestureRecognizer(tap);
-    // Off is how it is drawn; on is where it goes from there.
+    // It is drawn as off; if the setting is on, it moves there.
     if (is_true(self.getValue())) self.animate();
   }
 
   objc::Object value() { return stored_value(key()); }
   void set_value() { store(NSNumber::numberWithBool(on_), key()); }
 
-  // Where it goes is settled when it leaves: a tap on the way is ignored, so that what it shows at
-  // the end is what it writes.
+  // The target is fixed at the start and taps during the movement are ignored, so that the switch
+  // stores the state that it shows in the end.
   void animate() {
     if (is_moving_) return;
     is_moving_ = true;
     const BOOL target = !on_;
-    // It writes even when its page is gone by then.
+    // Retained, so that it stores its value even if its page is gone by then.
     const auto switcher = objc::Ref<Switcher>::retain(self);
     UIView::animateWithDuration(
         kMove, 0, UIViewAnimationOptions{},
@@ -73,7 +73,7 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
     const CGSize size = self.frame().size;
     const auto track = round_white_view(
         {size.width - kTrackFromRight, kTrackMargin, kTrackWidth, size.height - 2 * kTrackMargin});
-    // The fill has corners, and the track is round.
+    // Clips the square fill to the round track.
     track->layer().setMasksToBounds(YES);
     const CGFloat side = track->frame().size.height - 2 * kKnobInset;
     const auto knob = round_white_view({kKnobInset, kKnobInset, side, side});
@@ -101,7 +101,7 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
     self.setValue();
   }
 
-  // Both belong to the view.
+  // Borrowed: the view owns both.
   UIView knob_;
   UIView fill_;
   BOOL on_ = NO;

@@ -4,8 +4,8 @@
 #include "platform/UIKit/UIImage.h"
 #include "platform/UIKit/UIView.h"
 
-/// A row with a switch of its own drawing, bound to the setting whose text is its name. A class of
-/// the extension's own.
+/// A row with a custom-drawn switch, bound to the setting whose text is the row's name. One of the
+/// extension's own classes.
 struct Switcher : objc::Own<Switcher, "Switcher", UIView> {
   Switcher initWithFrame(CGRect frame, NSString name, UIImage image, BOOL border) const {
     return call<"initWithFrame:name:image:border:", Switcher>(frame, name, image, border);

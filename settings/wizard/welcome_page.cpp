@@ -24,7 +24,7 @@ constexpr double kFadeStep = 0.08;
 
 struct Letter {
   const char* text;
-  CGFloat kerning;  // after the end of the part before it
+  CGFloat kerning;  // distance from the end of the previous part
 };
 
 // Tuned by eye for these glyphs.
@@ -100,7 +100,7 @@ void WelcomePage::add_letters(UIView page, CGRect bounds) {
 
 void WelcomePage::wave(objc::Block<void(BOOL)> at_end) const {
   for (int i = 0; i < kHintParts; ++i) {
-    // The labels may be let go while the last wave is still on its way.
+    // Retained: the labels may be released while the last wave is still running.
     const objc::Ref<UILabel> part = hint_[i];
     const bool is_last = i == kHintParts - 1;
     const objc::OwnedBlock<void(BOOL)> end(is_last ? at_end : nullptr);

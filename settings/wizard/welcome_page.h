@@ -5,17 +5,18 @@
 
 namespace sonavue {
 
-/// The wizard's first page: who it is, and a hint spelt letter by letter.
+/// The wizard's first page: logo, title, a welcome text, and a hint that is animated letter by
+/// letter.
 class WelcomePage {
  public:
-  /// The mark that points the way, and the twelve letters behind it.
+  /// The mark that points the way, and the twelve letters after it.
   static constexpr int kHintParts = 13;
 
-  /// A view as large as `bounds`. The labels are kept until `release_labels`.
+  /// Makes the page, of the size of `bounds`. Retains the labels until `release_labels`.
   [[nodiscard]] objc::Ref<UIView> build(CGRect bounds);
 
-  /// Lets every part of the hint fade and come back, one a little later than the other. `at_end`
-  /// is called when the last is back.
+  /// Fades each part of the hint out and in again, one slightly later than the other. Calls
+  /// `at_end` when the last is back.
   void wave(objc::Block<void(BOOL)> at_end) const;
 
   void release_labels();

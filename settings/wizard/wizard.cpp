@@ -15,9 +15,9 @@ namespace {
 
 constexpr double kSlide = 0.3;
 constexpr double kWizardFade = 1.0;
-// A pull to the left is stiff: there is nothing on that side.
+// A pull to the left meets resistance: there is nothing on that side.
 constexpr CGFloat kStiffness = 3;
-// The service's page stands before the question that led to it.
+// The gesture service's page is inserted before the question that led to it.
 constexpr NSUInteger kGesturePageIndex = 5;
 
 }  // namespace

@@ -9,8 +9,8 @@
 
 namespace sonavue {
 
-/// The full-screen pages that lead through the settings: a welcome, questions, and a tutorial. What
-/// it makes is kept until its end.
+/// The full-screen pages that lead through the settings: a welcome page, questions, and a tutorial.
+/// It retains everything it makes until it ends.
 class Wizard {
  public:
   /// `owner` is the target of every control and the source of the pages.
@@ -18,15 +18,16 @@ class Wizard {
   Wizard(const Wizard&) = delete;
   Wizard& operator=(const Wizard&) = delete;
 
-  /// The blurs by their texts; nil before the questions.
+  /// The texts of the blurs; nil before the questions are shown.
   NSArray blurs() const { return blurs_; }
 
   void show_first_page();
-  /// One wave over the hint, which begins anew at its end until the questions are there.
+  /// Runs a wave over the hint and repeats it until the questions are shown.
   void shimmer_label();
   void drag_first_page(UIPanGestureRecognizer pan);
   void show_setup();
-  /// Puts the service's page before the question about it, once, and goes there.
+  /// Inserts the gesture service's page before the question about it, unless it is there already,
+  /// and shows it.
   void show_activator_page();
   void show_tutorial();
   void dismiss_intro();
