@@ -11,12 +11,12 @@
 
 namespace host::test {
 
-/// Every part of the panel that takes a colour, by its name.
+/// The colours of the panel's parts, by the parts' names.
 using Colours = std::map<std::string, Rgba>;
 
 class ColouredPanel : public PanelTest {
  protected:
-  /// Writes the settings and waits until the next poll has seen them.
+  /// Writes the settings and waits until the next poll has applied them.
   void change_settings(const std::string& entries) {
     write_preferences(entries + "<key>checked</key><false/>");
     advance(0.1 + RunLoop::kFrame);
@@ -28,7 +28,7 @@ class ColouredPanel : public PanelTest {
     return "<key>" + key + "</key>" + (on ? "<true/>" : "<false/>");
   }
 
-  /// The parts of every album's tile that are of one class.
+  /// The parts of one class from every album tile.
   template <class Part>
   std::vector<Part> tile_parts() const {
     std::vector<Part> found;
@@ -39,7 +39,7 @@ class ColouredPanel : public PanelTest {
     return found;
   }
 
-  /// What the setting "tint" colours.
+  /// The colours that the setting "tint" controls.
   Colours control_colours() const {
     Colours found;
     found["border of the artwork"] = rgba(view("art").layer().borderColor());
@@ -57,7 +57,7 @@ class ColouredPanel : public PanelTest {
     return found;
   }
 
-  /// What the setting "font_tint" colours.
+  /// The colours that the setting "font_tint" controls.
   Colours text_colours() const {
     Colours found;
     for (const auto label : tile_parts<UILabel>())

@@ -8,7 +8,7 @@
 
 namespace host::test {
 
-/// A colour's components, from 0 to 1. No colour at all is far from any.
+/// A colour's components, from 0 to 1. The default, no colour, differs from every colour.
 struct Rgba {
   CGFloat red = -1;
   CGFloat green = -1;
@@ -41,10 +41,10 @@ inline Rgba rgba(CGColorRef colour) {
 
 inline constexpr Rgba kBlack{0, 0, 0, 1};
 inline constexpr Rgba kWhite{1, 1, 1, 1};
-/// What the name "clear" stands for.
+/// The colour named "clear".
 inline constexpr Rgba kTranslucentBlack{0, 0, 0, 0.45};
 
-/// A colour's name in the settings, and what it stands for.
+/// A colour's name in the settings, and its value.
 struct NamedColour {
   const char* name;
   Rgba colour;

@@ -7,7 +7,7 @@
 
 #include "platform/CoreGraphics/CGRect.h"
 
-// How a failed expectation shows the platform's structures.
+// How failed expectations print the platform's structures.
 
 inline void PrintTo(const CGPoint& point, std::ostream* out) {
   *out << "{" << point.x << ", " << point.y << "}";
@@ -22,7 +22,7 @@ inline void PrintTo(const CGRect& rect, std::ostream* out) {
 
 namespace host::test {
 
-/// Far below a pixel, far above what single precision loses on a screen.
+/// Far below a pixel, and far above the rounding error of single precision on a screen.
 inline constexpr CGFloat kHair = 1e-4;
 
 inline bool is_near(CGFloat left, CGFloat right, CGFloat tolerance = kHair) {
@@ -43,7 +43,7 @@ MATCHER_P(IsNear, expected, "") {
   return is_near(arg, expected);
 }
 
-/// Animations end when their time is over; tests look once a frame.
+/// Animations end on time, but tests look only once a frame.
 MATCHER_P(IsSoonAfter, seconds, "") {
   return arg >= seconds - 1e-6 && arg <= seconds + 1.5 / 60;
 }

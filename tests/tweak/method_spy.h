@@ -13,20 +13,20 @@ namespace host::test {
 template <objc::FixedString Selector, class Signature>
 class MethodSpy;
 
-/// Hears the calls of a method, which goes on to do what it did before. One at a time for each
-/// selector and signature; it stays in the class, deaf, when the spy is gone.
+/// Records the calls of a method and forwards them. Only one spy may exist at a time for each
+/// selector and signature. After its destruction the replaced method only forwards.
 template <objc::FixedString Selector, class Result, class Self, class... Arguments>
 class MethodSpy<Selector, Result(Self, Arguments...)> {
  public:
   using Call = std::tuple<Arguments...>;
 
-  /// `order` hears the selector as well, so that the calls of several spies can be told apart.
+  /// Also appends the selector to `order`, to show the order of calls across several spies.
   explicit MethodSpy(objc::Class cls, std::vector<std::string>* order = nullptr) : order_(order) {
     listening = this;
     if (!before)
       MSHookMessageEx(cls, sel_registerName(Selector.c_str()),
                       reinterpret_cast<objc::Imp>(&objc::MethodOf<&heard>::call), &before);
-    EXPECT_TRUE(before) << Selector.c_str() << " is not there";
+    EXPECT_TRUE(before) << Selector.c_str() << " does not exist";
   }
   ~MethodSpy() { listening = nullptr; }
   MethodSpy(const MethodSpy&) = delete;
@@ -53,7 +53,7 @@ class MethodSpy<Selector, Result(Self, Arguments...)> {
     }
   }
 
-  // Texts are often made for the call alone; a test looks at them when it is long over.
+  // Retains strings: they often exist only for the call, and tests look at them later.
   template <class T>
   void keep([[maybe_unused]] T argument) {
     if constexpr (std::is_base_of_v<NSString, T>)

@@ -10,7 +10,7 @@ namespace host::test {
 
 using Steps = std::vector<std::string>;
 
-/// Writes down what the panel's parts are sent.
+/// Records the messages to the panel's parts.
 class PanelSteps : public ColouredPanel {
  protected:
   Steps steps_of(const std::function<void()>& act) {

@@ -22,11 +22,11 @@ namespace host::test {
 /// The duration of every song, in seconds.
 inline constexpr double kSongSeconds = 60;
 
-/// A phone with the extension, and five real songs: Alpha (with a cover), Bravo and Charlie by
-/// Xenia on "One", Delta by Yves on "Two", and Echo by Yves on no album. The extension comes in as
-/// it does on every phone, from the device's folder of libraries, and nothing of it is linked: its
-/// state is read by name. A process can load it once, so each of these tests needs a process of its
-/// own, which ctest gives it.
+/// A phone with the extension and five real songs: Alpha (with a cover), Bravo and Charlie by
+/// Xenia on "One", Delta by Yves on "Two", and Echo by Yves on no album. The extension is loaded as
+/// on every phone, from the device's folder of libraries, and is not linked: tests access its state
+/// by name. A process can load it only once, so each of these tests needs its own process. ctest
+/// provides that.
 class PanelTest : public PhoneTest {
  public:
   explicit PanelTest(std::string_view model = kDefaultDevice);
@@ -35,21 +35,22 @@ class PanelTest : public PhoneTest {
 
   // Before the launch.
 
-  /// The preferences file: the entries of its dictionary, as XML. The drag of the icon is on, as
-  /// it is without a call of this, unless they switch it.
+  /// Writes the preferences file; `entries` are those of its dictionary, as XML. The drag is on by
+  /// default, as without this call, unless the entries switch it off.
   void write_preferences(std::string_view entries) const;
   void use_no_preferences() const;
   void use_no_songs() { has_songs_ = false; }
-  /// A song besides the five; `file` is the name of its file, without the ending.
+  /// Adds a song to the five; `file` is its file name without the extension.
   void add_song(const std::string& file, const media::SongTags& tags,
                 const std::vector<std::uint8_t>& jpeg = {}) const;
-  /// A song that lies in the cloud; `entry` says what is known of it, as TOML.
+  /// Adds a song that is only in the cloud; `entry` describes it, as TOML.
   void add_cloud_song(const std::string& file, const std::string& entry) const;
-  /// Starts the music and loads the extension, so that a test can listen before the launch.
+  /// Starts the media services and loads the extension, so that a test can install spies before the
+  /// launch.
   void load_extension();
   void launch();
-  /// From now on the home screen's method of that name, which takes nothing, does nothing. Gives
-  /// what it did before.
+  /// Replaces the home screen's method of that name, which takes no arguments, with a no-op.
+  /// Returns the previous implementation.
   static objc::Imp silence(objc::Sel selector);
 
   // The extension's state.
@@ -64,35 +65,36 @@ class PanelTest : public PhoneTest {
   CGFloat alpha(const char* name) const { return view(name).alpha(); }
   SBIconView music_icon() const { return global<SBIconView>("musicIcon"); }
   CGSize screen() const { return global<CGRect>("rect").size; }
-  /// What turns the icon's y into the screen's: 20 on a page, the dock's top in the dock.
+  /// The offset from the icon's y to the screen's: 20 on a page, the dock's top in the dock.
   CGFloat icon_offset() const;
 
   // Touches.
 
-  /// Presses the middle of the Music icon and moves just far enough for a pan to be recognised.
+  /// Presses the centre of the Music icon and moves just far enough for a pan to be recognised.
   void begin_drag();
-  /// Drags the icon up and lets go; the panel is open when this returns.
+  /// Drags the icon up and releases it; the panel is open when this returns.
   void open_panel();
   void tap_on(UIView view) { tap(middle_of(view)); }
   CGPoint middle_of(UIView view) const;
   CGPoint finger() const { return finger_place_; }
-  /// Presses there and keeps the finger down.
+  /// Presses at that point and keeps the finger down.
   void hold(CGPoint point);
-  /// Moves in one step, a frame after the last one.
+  /// Moves in one step, one frame after the previous one.
   void move_by(CGFloat x, CGFloat y);
   void move_finger(CGPoint point);
 
-  /// Steps frame by frame until `condition` holds and gives the seconds that it took; -1 when it
+  /// Steps frame by frame until `condition` holds and returns how many seconds it took, or -1 if it
   /// never did.
   double seconds_until(const std::function<bool()>& condition, double limit = 6);
 
   // The music.
 
   SBMediaController media() const { return SBMediaController::sharedInstance(); }
-  /// Starts a song the way the system's own Music application does.
+  /// Starts a song as the system's own Music application does.
   void play(const char* title);
   void play(MPMediaItem item);
-  /// The file that the playing engine holds, without its ending; empty when it holds none.
+  /// The name of the file that is loaded in the playback engine, without its extension; empty if
+  /// none is.
   std::string sounding() const;
   bool is_engine_paused() const;
   std::vector<std::string> titles(const char* items) const;

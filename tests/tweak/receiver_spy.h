@@ -9,9 +9,9 @@ namespace host::test {
 
 inline int heard_messages_under_way = 0;
 
-/// Hears who is sent a message without a result, before it does what it did before; not what comes
-/// of a message that was heard by any of them. One at a time for each kind of receiver and
-/// selector; it stays in the class, deaf, when the spy is gone.
+/// Records the receivers of a message without a result, then forwards it. Messages that are sent
+/// while any such spy forwards one are not recorded. Only one spy may exist at a time for each kind
+/// of receiver and selector. After its destruction the replaced method only forwards.
 template <class Receiver, objc::FixedString Selector, class... Arguments>
 class ReceiverSpy {
  public:
@@ -23,7 +23,7 @@ class ReceiverSpy {
     if (!before)
       MSHookMessageEx(cls, sel_registerName(Selector.c_str()),
                       reinterpret_cast<objc::Imp>(&objc::MethodOf<&heard>::call), &before);
-    EXPECT_TRUE(before) << Selector.c_str() << " is not there";
+    EXPECT_TRUE(before) << Selector.c_str() << " does not exist";
   }
   ~ReceiverSpy() { listening = nullptr; }
   ReceiverSpy(const ReceiverSpy&) = delete;

@@ -6,16 +6,16 @@
 
 namespace host::test {
 
-/// The open panel at the page of the list of all songs, and a finger that uses it.
+/// The open panel on the page with the list of all songs, and touches on it.
 class SongPage : public ColouredPanel {
  protected:
   static constexpr CGFloat kHeader = 31;
 
-  /// Songs of the cloud cost no sound file; they are listed.
+  /// Lists the songs in the cloud, which need no audio file.
   void list_cloud_songs() const {
     write_preferences(switch_entry("cloud", true) + "<key>checked</key><true/>");
   }
-  /// A song of the cloud, by Beatrix; `title` in UTF-8, without a single quote.
+  /// Adds a song by Beatrix in the cloud; `title` is UTF-8 without single quotes.
   void add_title(const std::string& title) {
     add_cloud_song("song " + std::to_string(++added_),
                    "title = '" + title + "'\nartist = 'Beatrix'\nduration = 60.0\n");
@@ -32,7 +32,7 @@ class SongPage : public ColouredPanel {
     turn_page();
     ASSERT_EQ(global<UIScrollView>("container").contentOffset().x, screen().width);
   }
-  /// Pulls the list down, so that its header comes out, and taps on the field.
+  /// Pulls the list down to show its header, and taps on the field.
   void tap_on_search() {
     const CGPoint middle = middle_of(list());
     drag(middle, {middle.x, middle.y + 100}, 0.3);
@@ -47,12 +47,12 @@ class SongPage : public ColouredPanel {
   UITableView list() const { return global<UITableView>("tableView"); }
   UITextField field() const { return global<UITextField>("searchBar"); }
   NSInteger rows() const { return list().numberOfRowsInSection(0); }
-  /// Rows are laid out at the next frame; this does not wait for it.
+  /// Lays the list out first: rows would be laid out at the next frame.
   UITableViewCell cell(NSInteger row) const {
     list().layoutIfNeeded();
     return list().cellForRowAtIndexPath(NSIndexPath::indexPathForRow(row, 0));
   }
-  /// What the rows in view say.
+  /// The texts of the visible rows.
   std::vector<std::string> texts() const {
     std::vector<std::string> found;
     for (NSInteger row = 0; row < rows(); ++row)

@@ -9,8 +9,8 @@
 
 namespace host::test {
 
-/// As long as it lives, the library tells something else about the songs of one title than their
-/// files say: things that no file can say.
+/// While it exists, the library returns another value for a property of the songs with one title,
+/// including values that no file can contain.
 class ToldProperty {
  public:
   ToldProperty(std::string title, NSString property, objc::Object value)

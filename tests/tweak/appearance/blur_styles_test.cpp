@@ -28,7 +28,8 @@ constexpr NamedBlur kBlurs[] = {
 };
 constexpr NamedBlur kFallback = kBlurs[0];
 
-/// What the two backdrops are told, in order: whose, which message, which number or class.
+/// Records the messages to the two backdrops in order: the receiver, the message, and the number or
+/// class that is passed.
 class BlurStyles : public ColouredPanel {
  protected:
   using Told = std::vector<std::string>;
@@ -74,7 +75,7 @@ class BlurStyles : public ColouredPanel {
   std::vector<NSObject> given_;
 };
 
-TEST_F(BlurStyles, EveryNameHasItsSettingsAndItsNumberOnBothBackdrops) {
+TEST_F(BlurStyles, EveryNameSetsItsSettingsAndNumberOnBothBackdrops) {
   for (const NamedBlur& blur : kBlurs) {
     SCOPED_TRACE(blur.name);
     EXPECT_EQ(told_by_change(text_entry("blur", blur.name)), expected(blur));
@@ -97,7 +98,7 @@ TEST_F(BlurStyles, AMissingNameIsAdaptiveLight) {
   expect_look(kFallback);
 }
 
-TEST_F(BlurStyles, ANameThatIsNoTextIsAdaptiveLight) {
+TEST_F(BlurStyles, AValueThatIsNotAStringIsAdaptiveLight) {
   change_settings(text_entry("blur", "ultra_dark"));
   EXPECT_EQ(told_by_change("<key>blur</key><integer>2030</integer>"), expected(kFallback));
 }

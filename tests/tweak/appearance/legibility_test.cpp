@@ -10,7 +10,7 @@ constexpr const char* kTinted =
     "<key>tint</key><string>red</string><key>font_tint</key><string>red</string>";
 constexpr Rgba kRed{1, 0, 0, 1};
 
-/// A phone with a song for each cover; their titles are the covers' colours.
+/// A phone with a song for each cover. The titles are the covers' colours.
 class Legibility : public PanelSteps {
  protected:
   void SetUp() override {
@@ -34,7 +34,7 @@ class Legibility : public PanelSteps {
   void play_cover(std::uint32_t colour) { play(title_of(colour).c_str()); }
   Rgba panel_colour() const { return rgba(global<UIColor>("newColor")); }
   void refresh() { objc::send<>(application, "infoMusic"_sel); }
-  /// As if the system had reported another elapsed time.
+  /// Has the effect of a new elapsed time from the system.
   void bring_news() { global<double>("lastElapsed") = -1; }
 
   void expect_all_in(const Rgba& colour) const {
@@ -49,21 +49,21 @@ TEST_F(Legibility, IsBlackOverABrightCoverAndWhiteOverADarkOne) {
   expect_all_in(kBlack);
   play_cover(0x000000);
   expect_all_in(kWhite);
-  // Of three components it is the mean that counts.
+  // The mean of the three components decides.
   play_cover(0xffff00);
   expect_all_in(kBlack);
   play("Alpha");
   expect_all_in(kWhite);
 }
 
-TEST_F(Legibility, TheGreyBelowTheMiddleIsDarkAndTheOneAboveIsBright) {
+TEST_F(Legibility, GreyBelowTheMiddleIsDarkAndAboveItIsBright) {
   play_cover(0x7f7f7f);
   expect_all_in(kWhite);
   play_cover(0x808080);
   expect_all_in(kBlack);
 }
 
-/// What every colour says its components are; no picture has such a colour.
+/// The value that every colour returns for its components; no picture has such a colour.
 CGFloat said_component = 0;
 
 BOOL say_components(UIColor, CGFloat* red, CGFloat* green, CGFloat* blue, CGFloat* alpha) {
@@ -87,15 +87,15 @@ TEST_F(Legibility, TheMiddleItselfIsDark) {
   };
   EXPECT_EQ(colour_over_mean(0.5), kWhite);
   EXPECT_EQ(colour_over_mean(static_cast<double>(std::nextafterf(0.5f, 1))), kBlack);
-  // Less than single precision can tell from the middle.
+  // Closer to the middle than single precision can represent.
   EXPECT_EQ(colour_over_mean(0.5 + 1e-9), kWhite);
 }
 
-TEST_F(Legibility, RecoloursOnlyWhenTheSystemHasNews) {
+TEST_F(Legibility, RecoloursOnlyWhenTheSystemReportsAChange) {
   play_cover(0xffffff);
   expect_all_in(kBlack);
   change_settings(std::string(kTinted) + switch_entry("legibility", true));
-  // The settings' colours stay until then.
+  // Until then, the colours of the settings stay.
   advance(5);
   EXPECT_THAT(control_colours(), AreAll(kRed));
   EXPECT_THAT(text_colours(), AreAll(kRed));
@@ -121,13 +121,13 @@ TEST_F(Legibility, RecoloursOnlyWhenItsSettingIsOn) {
   expect_all_in(kBlack);
 }
 
-TEST_F(Legibility, RecoloursInOrderBeforeTheAlbumsListIsRebuilt) {
+TEST_F(Legibility, RecoloursInOrderBeforeTheAlbumListIsRebuilt) {
   play_cover(0xffffff);
   Colours when_reloaded;
   bring_news();
   Steps steps = steps_of([this] { refresh(); });
   EXPECT_FALSE(is("did"));
-  // Of the refresh's own steps only the last one is of interest here.
+  // Only the last of the refresh's own steps matters here.
   ASSERT_FALSE(steps.empty());
   EXPECT_EQ(steps.back(), "tablev reload");
   const auto first = std::find(steps.begin(), steps.end(), "art border");
@@ -156,7 +156,7 @@ TEST_F(Legibility, LeavesOtherPartsOfATileAlone) {
   other.release();
 }
 
-TEST_F(Legibility, ThePlaceholderKeepsItsWord) {
+TEST_F(Legibility, ThePlaceholderKeepsItsText) {
   play_cover(0xffffff);
   EXPECT_EQ(text(global<UITextField>("searchBar").attributedPlaceholder().string()), "Search");
 }

@@ -16,7 +16,7 @@ class BannerDrag : public BannerTest {
     start_ = window_y();
   }
 
-  /// Above the screen's edge, where the control centre begins.
+  /// Grabs above the screen's edge, where a touch would bring the control centre.
   void grab_upwards() {
     const CGPoint middle = middle_of(view("grabs"));
     hold({middle.x, middle.y - 6});
@@ -36,7 +36,7 @@ TEST_F(BannerDrag, TheWindowFollowsTheFinger) {
   EXPECT_TRUE(is("isGrabbing"));
 }
 
-TEST_F(BannerDrag, TheControlsRiseAndStopBelowOneAnother) {
+TEST_F(BannerDrag, TheControlsRiseAndStopBelowEachOther) {
   const CGFloat texts = y_of("container1");
   grab();
   move_by(0, 20);
@@ -47,13 +47,13 @@ TEST_F(BannerDrag, TheControlsRiseAndStopBelowOneAnother) {
   EXPECT_TRUE(is_laid_out_below_artwork(0));
 }
 
-TEST_F(BannerDrag, TextsThatAreHalfSeenKeepTheirRoom) {
+TEST_F(BannerDrag, HalfVisibleTextsKeepTheirSpace) {
   view("container1").setAlpha(0.5);
   pull_open();
   EXPECT_TRUE(is_laid_out_below_artwork(0));
 }
 
-TEST_F(BannerDrag, PushedUpTheControlsStay) {
+TEST_F(BannerDrag, PushedUpItLeavesTheControlsInPlace) {
   grab();
   const CGFloat texts = y_of("container1");
   const CGFloat play_y = y_of("play");
@@ -63,7 +63,7 @@ TEST_F(BannerDrag, PushedUpTheControlsStay) {
   EXPECT_EQ(y_of("play"), play_y);
 }
 
-TEST_F(BannerDrag, LetGoBelowItsStartItOpens) {
+TEST_F(BannerDrag, ReleasedBelowItsStartItOpens) {
   grab();
   move_by(0, 40);
   lift();
@@ -75,7 +75,7 @@ TEST_F(BannerDrag, LetGoBelowItsStartItOpens) {
   EXPECT_TRUE(is("isBanner"));
 }
 
-TEST_F(BannerDrag, LetGoExactlyAtItsStartItOpens) {
+TEST_F(BannerDrag, ReleasedExactlyAtItsStartItOpens) {
   grab();
   ASSERT_EQ(window_y(), start_);
   lift();
@@ -84,7 +84,7 @@ TEST_F(BannerDrag, LetGoExactlyAtItsStartItOpens) {
   EXPECT_EQ(window_y(), 0);
 }
 
-TEST_F(BannerDrag, LetGoAboveItsStartItGoes) {
+TEST_F(BannerDrag, ReleasedAboveItsStartItIsDismissed) {
   const MethodSpy<"dismissBanner", void(SpringBoard)> sent_away(SpringBoard::cls());
   grab();
   move_by(0, -1);
@@ -98,7 +98,7 @@ TEST_F(BannerDrag, LetGoAboveItsStartItGoes) {
   EXPECT_FALSE(is("isGrabbing"));
 }
 
-TEST_F(BannerDrag, WhollyDownTheControlsWaitForItToMove) {
+TEST_F(BannerDrag, FullyDownTheControlsWaitForItToMove) {
   grab();
   move_by(0, -start_);
   ASSERT_EQ(window_y(), 0);
@@ -109,7 +109,7 @@ TEST_F(BannerDrag, WhollyDownTheControlsWaitForItToMove) {
   EXPECT_FALSE(is_laid_out_below_artwork(0));
 }
 
-TEST_F(BannerDrag, OpenItGoesNoFurtherDown) {
+TEST_F(BannerDrag, OpenItCannotBePulledFurtherDown) {
   pull_open();
   grab_upwards();
   move_by(0, 60);
@@ -117,7 +117,7 @@ TEST_F(BannerDrag, OpenItGoesNoFurtherDown) {
   EXPECT_TRUE(is_laid_out_below_artwork(0));
 }
 
-TEST_F(BannerDrag, OpenItIsHeldUntilTheFingerLeaves) {
+TEST_F(BannerDrag, OpenItFollowsUntilTheFingerIsLifted) {
   const GrabberPicture picture;
   const auto pages = global<UIScrollView>("container");
   pull_open();
@@ -136,7 +136,7 @@ TEST_F(BannerDrag, OpenItIsHeldUntilTheFingerLeaves) {
   EXPECT_EQ(global<float>("firstContainer1"), resting);
 }
 
-TEST_F(BannerDrag, GoneFromAnotherPageItComesBackWithTheArtwork) {
+TEST_F(BannerDrag, DismissedOnAnotherPageItComesBackWithTheArtwork) {
   const auto pages = global<UIScrollView>("container");
   pull_open();
   pages.setContentOffset({screen().width, 0});
@@ -144,7 +144,7 @@ TEST_F(BannerDrag, GoneFromAnotherPageItComesBackWithTheArtwork) {
   EXPECT_THAT(pages.contentOffset(), IsNear(CGPoint{0, 0}));
 }
 
-TEST_F(BannerDrag, OpenItGoesByAPushUpwards) {
+TEST_F(BannerDrag, OpenItIsDismissedByAPushUpwards) {
   pull_open();
   grab_upwards();
   move_by(0, -60);
@@ -155,7 +155,7 @@ TEST_F(BannerDrag, OpenItGoesByAPushUpwards) {
   EXPECT_EQ(alpha("container"), 0);
 }
 
-TEST_F(BannerDrag, ItsBeginningSendsTheControlCentreAway) {
+TEST_F(BannerDrag, ItsStartDismissesTheControlCentre) {
   const MethodSpy<"dismissAnimated:", void(SBControlCenterController, BOOL)> sent_away(
       SBControlCenterController::cls());
   grab();
@@ -175,7 +175,7 @@ TEST_F(BannerDrag, TheGrabberShowsWhatCanBeDone) {
   EXPECT_EQ(picture.last(), kGrabDone);
 }
 
-TEST_F(BannerDrag, CalledFromOpenTheGrabberShowsThatItCanBeDraggedAgain) {
+TEST_F(BannerDrag, ShownAgainWhileOpenTheGrabberShowsThatItCanBeDragged) {
   const GrabberPicture picture;
   pull_open();
   ASSERT_EQ(picture.last(), kGrabDone);
@@ -185,7 +185,7 @@ TEST_F(BannerDrag, CalledFromOpenTheGrabberShowsThatItCanBeDraggedAgain) {
 
 class BannerDragWithoutTexts : public BannerTest {};
 
-TEST_F(BannerDragWithoutTexts, EachControlRisesFromItsOwnPlace) {
+TEST_F(BannerDragWithoutTexts, EachControlRisesFromItsOwnPosition) {
   show();
   const CGFloat back_y = y_of("back");
   CGRect next = frame("next");

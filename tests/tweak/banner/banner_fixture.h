@@ -7,7 +7,7 @@
 
 namespace host::test {
 
-/// A launched phone whose panel comes as a banner.
+/// A launched phone whose panel is shown as a banner.
 class BannerTest : public PanelTest {
  protected:
   explicit BannerTest(std::string_view model = kDefaultDevice) : PanelTest(model) {}
@@ -22,7 +22,7 @@ class BannerTest : public PanelTest {
     objc::send<>(application, "dismissBanner"_sel);
     settle();
   }
-  /// Presses the grabber and moves just far enough for a pan to begin.
+  /// Presses the grabber and moves just far enough for a pan to start.
   void grab() {
     hold(middle_of(view("grabs")));
     move_by(0, 12);
@@ -36,7 +36,7 @@ class BannerTest : public PanelTest {
 
   CGFloat height() const { return screen().height; }
   CGFloat window_y() const { return frame("window").origin.y; }
-  /// How much of the window hangs into the screen.
+  /// The visible height of the window.
   CGFloat hanging() const { return height() + window_y(); }
   CGFloat y_of(const char* name) const { return frame(name).origin.y; }
   bool is_laid_out_below_artwork(CGFloat lift) const {
@@ -51,7 +51,7 @@ inline constexpr const char* kGrabDragging =
     "/Library/Application Support/Sonavue/grab_dragging@2x.png";
 inline constexpr const char* kGrabDone = "/Library/Application Support/Sonavue/grab_done@2x.png";
 
-/// Hears which pictures are read for the grabber.
+/// Records which pictures are loaded for the grabber.
 class GrabberPicture {
  public:
   std::string last() const { return loaded_.count() > 0 ? text(std::get<0>(loaded_.last())) : ""; }

@@ -21,13 +21,13 @@ TEST_F(Banner, HangsFromTheTopAtItsHeight) {
   EXPECT_TRUE(view("window").isUserInteractionEnabled());
 }
 
-TEST_F(Banner, HasRoomForTextsOnlyWhenTheyAreWhollySeen) {
+TEST_F(Banner, HasSpaceForTextsOnlyWhenTheyAreFullyVisible) {
   view("container1").setAlpha(0.5);
   objc::send<>(application, "showBanner"_sel);
   EXPECT_EQ(hanging(), kBannerWithoutTexts);
 }
 
-TEST_F(Banner, ComesFromWhollyAboveTheScreenInHalfASecond) {
+TEST_F(Banner, SlidesInFromAboveTheScreenInHalfASecond) {
   objc::send<>(application, "showBanner"_sel);
   EXPECT_EQ(hanging(), kBannerWithoutTexts);
   const CALayer shown = view("window").layer().presentationLayer();
@@ -36,7 +36,7 @@ TEST_F(Banner, ComesFromWhollyAboveTheScreenInHalfASecond) {
   EXPECT_LT(view("window").layer().presentationLayer().frame().max_y(), kBannerWithoutTexts);
 }
 
-TEST_F(Banner, IsThereAfterHalfASecondAndNoLater) {
+TEST_F(Banner, IsInPlaceAfterExactlyHalfASecond) {
   objc::send<>(application, "showBanner"_sel);
   const double took = seconds_until([this] {
     const CALayer shown = view("window").layer().presentationLayer();
@@ -52,7 +52,7 @@ TEST_F(Banner, IsSixtyPointsShorterWithoutTheTexts) {
   EXPECT_EQ(hanging(), kBannerWithoutTexts);
 }
 
-TEST_F(Banner, ControlsStandAtTheBottomOfThePages) {
+TEST_F(Banner, ControlsAreAtTheBottomOfThePages) {
   play("Alpha");
   advance(1.2);
   show();
@@ -63,13 +63,13 @@ TEST_F(Banner, ControlsStandAtTheBottomOfThePages) {
   EXPECT_EQ(frame("container1").max_y(), y_of("play") - 5);
 }
 
-TEST_F(Banner, ControlsStandThereAsSoonAsItComes) {
+TEST_F(Banner, ControlsAreThereAsSoonAsItAppears) {
   objc::send<>(application, "showBanner"_sel);
   advance(2 * RunLoop::kFrame);
   EXPECT_EQ(frame("play").max_y(), frame("container").size.height - 10);
 }
 
-TEST_F(Banner, ShowsTheArtworkPageAndHoldsIt) {
+TEST_F(Banner, ShowsTheArtworkPageAndDisablesScrolling) {
   const auto pages = global<UIScrollView>("container");
   pages.setContentOffset({screen().width, 0});
   show();
@@ -77,14 +77,14 @@ TEST_F(Banner, ShowsTheArtworkPageAndHoldsIt) {
   EXPECT_FALSE(pages.isScrollEnabled());
 }
 
-TEST_F(Banner, TheTwinStandsATenthDownTheScreen) {
+TEST_F(Banner, TheTwinIsATenthDownTheScreen) {
   show();
   const CGSize size = frame("music").size;
   EXPECT_THAT(frame("music").origin,
               IsNear(CGPoint{(screen().width - size.width) / 2, (height() - size.height) / 10}));
 }
 
-TEST_F(Banner, DoesNotComeWhileThePanelIsOpenOrTheFeatureIsOff) {
+TEST_F(Banner, IsNotShownWhileThePanelIsOpenOrTheFeatureIsOff) {
   open_panel();
   show();
   EXPECT_FALSE(is("isBanner"));
@@ -96,14 +96,14 @@ TEST_F(Banner, DoesNotComeWhileThePanelIsOpenOrTheFeatureIsOff) {
   EXPECT_EQ(window_y(), 0);
 }
 
-TEST_F(Banner, TakesTheKeyboardFromTheSearchField) {
+TEST_F(Banner, EndsTypingInTheSearchField) {
   const auto field = global<UITextField>("searchBar");
   ASSERT_TRUE(field.becomeFirstResponder());
   show();
   EXPECT_FALSE(field.isFirstResponder());
 }
 
-TEST_F(Banner, ASecondCallBringsItDownAnew) {
+TEST_F(Banner, ASecondCallSlidesItInAgain) {
   show();
   pull_open();
   ASSERT_TRUE(is("showed"));
@@ -116,7 +116,7 @@ TEST_F(Banner, ASecondCallBringsItDownAnew) {
   EXPECT_EQ(hanging(), kBannerWithoutTexts);
 }
 
-TEST_F(Banner, GoneItLeavesNothingOnTheScreen) {
+TEST_F(Banner, DismissedItLeavesNothingOnTheScreen) {
   play("Alpha");
   advance(1.2);
   show();
@@ -131,13 +131,13 @@ TEST_F(Banner, GoneItLeavesNothingOnTheScreen) {
   EXPECT_TRUE(is_laid_out_below_artwork(0));
 }
 
-TEST_F(Banner, GoneWithoutTextsTheControlsAreLifted) {
+TEST_F(Banner, DismissedWithoutTextsItLeavesTheControlsLifted) {
   show();
   send_away();
   EXPECT_TRUE(is_laid_out_below_artwork(kLiftWithoutTexts));
 }
 
-TEST_F(Banner, GoesUpInHalfASecond) {
+TEST_F(Banner, SlidesOutInHalfASecond) {
   show();
   objc::send<>(application, "dismissBanner"_sel);
   EXPECT_FALSE(is("isBanner"));

@@ -16,7 +16,7 @@ class GestureListener : public PanelTest {
   static NSString name() { return "org.plumvane.Sonavue2"_ns; }
 };
 
-TEST_F(GestureListener, AnEventBringsTheBanner) {
+TEST_F(GestureListener, AnEventShowsTheBanner) {
   launch();
   const MethodSpy<"showBanner", void(SpringBoard)> shown(SpringBoard::cls());
   objc::send<>(make(), "activator:receiveEvent:"_sel, objc::Object(), objc::Object());
@@ -24,7 +24,7 @@ TEST_F(GestureListener, AnEventBringsTheBanner) {
   EXPECT_TRUE(is("isBanner"));
 }
 
-TEST_F(GestureListener, LeavesAnEventUnhandledWhateverItIs) {
+TEST_F(GestureListener, LeavesEveryEventUnhandled) {
   launch();
   for (const NSString name : {"shake"_ns, "home-hold"_ns, "no event of this service"_ns}) {
     for (const NSString mode : {"springboard"_ns, "lockscreen"_ns, "application"_ns}) {
@@ -43,7 +43,7 @@ TEST_F(GestureListener, AnEventBeforeTheLaunchDoesNothing) {
   EXPECT_FALSE(is("isBanner"));
 }
 
-TEST_F(GestureListener, SaysWhatItIs) {
+TEST_F(GestureListener, DescribesItself) {
   load_extension();
   const NSObject listener = make();
   const objc::Object service;
@@ -64,7 +64,7 @@ TEST_F(GestureListener, SaysWhatItIs) {
   EXPECT_EQ(text(modes.objectAtIndex(2)), "application");
 }
 
-TEST_F(GestureListener, IsKnownToBeAListener) {
+TEST_F(GestureListener, ConformsToTheListenerProtocol) {
   launch();
   const objc::Object protocol(reinterpret_cast<objc::Id>(objc_getProtocol("LAListener")));
   ASSERT_TRUE(protocol);

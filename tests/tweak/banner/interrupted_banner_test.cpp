@@ -2,8 +2,8 @@
 #include "platform/UIKit/UITextField.h"
 #include "tests/tweak/banner/banner_fixture.h"
 
-// Fingers, gestures and buttons that come while the banner is on its way, and what it leaves to the
-// form of the panel that comes next.
+// Touches, gestures and buttons while the banner is moving, and the state in which it leaves the
+// panel for its next appearance.
 
 namespace host::test {
 namespace {
@@ -19,7 +19,7 @@ class InterruptedBanner : public BannerTest {
   void call() { objc::send<>(application, "showBanner"_sel); }
   void send_off() { objc::send<>(application, "dismissBanner"_sel); }
   void take_the_finger() { touches.cancelled(1, finger(), clock.now()); }
-  /// Above the screen's edge, where the control centre begins.
+  /// Grabs above the screen's edge, where a touch would bring the control centre.
   void grab_open() {
     const CGPoint middle = middle_of(view("grabs"));
     hold({middle.x, middle.y - 6});
@@ -45,7 +45,7 @@ class InterruptedBanner : public BannerTest {
   CGFloat hanging_ = 0;
 };
 
-TEST_F(InterruptedBanner, AGrabThatIsTakenAwayLetsItHangAgain) {
+TEST_F(InterruptedBanner, ACancelledGrabLetsItHangAgain) {
   const CGFloat texts = y_of("container1");
   const CGFloat play_y = y_of("play");
   grab();
@@ -60,7 +60,7 @@ TEST_F(InterruptedBanner, AGrabThatIsTakenAwayLetsItHangAgain) {
   EXPECT_TRUE(is("showed"));
 }
 
-TEST_F(InterruptedBanner, AGrabOfTheOpenBannerThatIsTakenAwayLeavesItOpen) {
+TEST_F(InterruptedBanner, ACancelledGrabOfTheOpenBannerLeavesItOpen) {
   pull_open();
   grab_open();
   move_by(0, -80);
@@ -73,7 +73,7 @@ TEST_F(InterruptedBanner, AGrabOfTheOpenBannerThatIsTakenAwayLeavesItOpen) {
   EXPECT_TRUE(can_be_paged());
 }
 
-TEST_F(InterruptedBanner, LetGoAtItsPlaceTheTransportIsHeardAgain) {
+TEST_F(InterruptedBanner, ReleasedInPlaceItAcceptsTheTransportAgain) {
   pull_open();
   grab_open();
   move_by(0, 40);
@@ -84,7 +84,7 @@ TEST_F(InterruptedBanner, LetGoAtItsPlaceTheTransportIsHeardAgain) {
   EXPECT_TRUE(is("showed"));
 }
 
-TEST_F(InterruptedBanner, AnOpeningThatIsInterruptedLeavesNoPictureBehind) {
+TEST_F(InterruptedBanner, AnInterruptedOpeningLeavesNoPictureBehind) {
   const GrabberPicture picture;
   grab();
   move_by(0, 40);
@@ -98,14 +98,14 @@ TEST_F(InterruptedBanner, AnOpeningThatIsInterruptedLeavesNoPictureBehind) {
   EXPECT_EQ(picture.last(), kGrabDragging);
 }
 
-TEST_F(InterruptedBanner, WithoutAGrabItLeavesAPanelThatCanBePaged) {
+TEST_F(InterruptedBanner, WithoutAGrabItLeavesAPanelWhosePagesTurn) {
   send_off();
   settle();
   expect_gone();
   EXPECT_TRUE(can_be_paged());
 }
 
-TEST_F(InterruptedBanner, ABannerThatGoesCannotBeGrabbed) {
+TEST_F(InterruptedBanner, ABannerThatLeavesCannotBeGrabbed) {
   send_off();
   advance(0.1);
   grab();
@@ -116,7 +116,7 @@ TEST_F(InterruptedBanner, ABannerThatGoesCannotBeGrabbed) {
   EXPECT_FALSE(is("showed"));
 }
 
-TEST_F(InterruptedBanner, PushedUpItTakesTheKeyboardAlong) {
+TEST_F(InterruptedBanner, PushedUpItHidesTheKeyboard) {
   pull_open();
   const auto field = global<UITextField>("searchBar");
   ASSERT_TRUE(field.becomeFirstResponder());
@@ -124,7 +124,7 @@ TEST_F(InterruptedBanner, PushedUpItTakesTheKeyboardAlong) {
   EXPECT_FALSE(field.isFirstResponder());
 }
 
-TEST_F(InterruptedBanner, SentOffUnderTheFingerItIsGone) {
+TEST_F(InterruptedBanner, DismissedDuringAGrabItIsGone) {
   grab();
   move_by(0, 60);
   springboard::press_home();
@@ -135,7 +135,7 @@ TEST_F(InterruptedBanner, SentOffUnderTheFingerItIsGone) {
   expect_gone();
 }
 
-TEST_F(InterruptedBanner, CalledAgainWhileItGoesItComes) {
+TEST_F(InterruptedBanner, ShownAgainWhileItLeavesItComesBack) {
   send_off();
   advance(0.2);
   call();
@@ -144,7 +144,7 @@ TEST_F(InterruptedBanner, CalledAgainWhileItGoesItComes) {
   EXPECT_FALSE(is("isGrabbing"));
 }
 
-TEST_F(InterruptedBanner, CalledAgainUnderTheFingerItHangsDeafToThatFinger) {
+TEST_F(InterruptedBanner, ShownAgainDuringAGrabItIgnoresThatFinger) {
   grab();
   move_by(0, 60);
   call();
@@ -156,7 +156,7 @@ TEST_F(InterruptedBanner, CalledAgainUnderTheFingerItHangsDeafToThatFinger) {
   EXPECT_FALSE(is("isGrabbing"));
 }
 
-TEST_F(InterruptedBanner, TheIconCanBeDraggedWhileItGoes) {
+TEST_F(InterruptedBanner, TheIconCanBeDraggedWhileItLeaves) {
   send_off();
   advance(0.1);
   begin_drag();
@@ -173,7 +173,7 @@ TEST_F(InterruptedBanner, TheIconCanBeDraggedWhileItGoes) {
   EXPECT_TRUE(can_be_paged());
 }
 
-TEST_F(InterruptedBanner, CalledFromAPanelThatWasLeftOnAnotherPageTheIconStays) {
+TEST_F(InterruptedBanner, ShownAfterThePanelWasLeftOnAnotherPageItLeavesTheIconInPlace) {
   send_off();
   settle();
   open_panel();
@@ -192,7 +192,7 @@ TEST_F(InterruptedBanner, CalledFromAPanelThatWasLeftOnAnotherPageTheIconStays) 
 
 class BannerWithoutMusic : public PanelTest {};
 
-TEST_F(BannerWithoutMusic, AGestureBringsNothing) {
+TEST_F(BannerWithoutMusic, AGestureShowsNothing) {
   remove_application("Music");
   launch();
   objc::send<>(application, "showBanner"_sel);

@@ -19,7 +19,7 @@ class Dismissal : public DragTest {
     open_panel();
   }
 
-  /// Slides the table of the current album in, by a double tap on the artwork.
+  /// Slides the current album's table in by a double tap on the artwork.
   void show_album_table() {
     const CGPoint artwork = middle_of(view("art"));
     tap(artwork);
@@ -33,7 +33,7 @@ class Dismissal : public DragTest {
 };
 SONAVUE_ON_EVERY_SCREEN(Dismissal);
 
-TEST_P(Dismissal, HomeSlidesTheTableFadesTheContentAndTakesTheIconHome) {
+TEST_P(Dismissal, HomeSlidesTheTableFadesTheContentAndMovesTheIconHome) {
   show_album_table();
   springboard::press_home();
   advance(0);
@@ -47,7 +47,7 @@ TEST_P(Dismissal, HomeSlidesTheTableFadesTheContentAndTakesTheIconHome) {
   EXPECT_THAT(seconds_until([this] { return !is("isShow"); }), IsSoonAfter(kIconTravel));
 }
 
-TEST_P(Dismissal, ATableThatIsAsideAlreadyIsNotWaitedFor) {
+TEST_P(Dismissal, ATableThatIsAlreadyAsideCausesNoDelay) {
   springboard::press_home();
   EXPECT_THAT(seconds_until([this] { return !is("isShow"); }),
               IsSoonAfter(kContentFade + kIconTravel));
@@ -77,7 +77,7 @@ TEST_F(DismissalOnAPage, ATapOnTheBackgroundCloses) {
   EXPECT_TRUE(view("music").isHidden());
 }
 
-TEST_F(DismissalOnAPage, TouchesAreRefusedFromTheFirstMoment) {
+TEST_F(DismissalOnAPage, TouchesAreIgnoredFromTheStart) {
   view("window").setFrame({0, -5, screen().width, screen().height});
   springboard::press_home();
   EXPECT_FALSE(view("window").isUserInteractionEnabled());
@@ -85,7 +85,7 @@ TEST_F(DismissalOnAPage, TouchesAreRefusedFromTheFirstMoment) {
   EXPECT_TRUE(is("isShow"));
 }
 
-TEST_F(DismissalOnAPage, ThePageOfTheArtworkComesBackOnceTheContentIsGone) {
+TEST_F(DismissalOnAPage, TheArtworkPageComesBackOnceTheContentIsGone) {
   const auto container = global<UIScrollView>("container");
   container.setContentOffset({screen().width, 0});
   springboard::press_home();
@@ -95,7 +95,7 @@ TEST_F(DismissalOnAPage, ThePageOfTheArtworkComesBackOnceTheContentIsGone) {
   EXPECT_THAT(container.contentOffset(), IsNear(CGPoint{0, 0}));
 }
 
-TEST_F(DismissalOnAPage, TheCallersBlockRunsOnceWithYesWhenAllIsDone) {
+TEST_F(DismissalOnAPage, TheCompletionRunsOnceWithYesAtTheEnd) {
   int runs = 0;
   BOOL finished = NO;
   const auto block = objc::block([&](BOOL value) {
@@ -121,7 +121,7 @@ TEST_F(DismissalOnAPage, ThePanelOpensAgainAfterwards) {
   EXPECT_TRUE(view("window").isUserInteractionEnabled());
 }
 
-TEST_F(DismissalOnAPage, TheSearchFieldLetsGoOfTheKeyboard) {
+TEST_F(DismissalOnAPage, TheSearchFieldReleasesTheKeyboard) {
   const auto field = global<UITextField>("searchBar");
   ASSERT_TRUE(field.becomeFirstResponder());
   springboard::press_home();
@@ -130,7 +130,7 @@ TEST_F(DismissalOnAPage, TheSearchFieldLetsGoOfTheKeyboard) {
 
 class DismissalOfNothing : public PanelTest {};
 
-TEST_F(DismissalOfNothing, OnlyTheSearchFieldIsResigned) {
+TEST_F(DismissalOfNothing, OnlyTheSearchFieldResignsFirstResponder) {
   launch();
   const CGRect home = music_icon().frame();
   const auto field = global<UITextField>("searchBar");
@@ -147,7 +147,7 @@ TEST_F(DismissalOfNothing, OnlyTheSearchFieldIsResigned) {
   EXPECT_TRUE(view("music").isHidden());
 }
 
-TEST_F(DismissalOfNothing, ABannerIsSentAway) {
+TEST_F(DismissalOfNothing, ABannerIsDismissed) {
   launch();
   global<BOOL>("isBanner") = YES;
   MethodSpy<"dismissBanner", void(SpringBoard)> banner_dismissed(SpringBoard::cls());

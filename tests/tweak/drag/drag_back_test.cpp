@@ -55,9 +55,9 @@ TEST_P(DragBack, OnlyADockIconsDragFadesTheBackdropBeforeTheRelease) {
   EXPECT_EQ(alpha("cover"), 1);
 }
 
-TEST_P(DragBack, ARestingReleaseClosesInATenthAndAHalfSecond) {
+TEST_P(DragBack, AReleaseAtRestClosesInSixTenthsOfASecond) {
   begin_drag_back();
-  // So far down that the backdrop has something to fade while the icon rests.
+  // Far enough down that the backdrop fades visibly while the icon is at rest.
   move_finger({finger().x, 0.6 * screen().height});
   advance(0.3);
   const CGRect rest = frame("music");
@@ -68,7 +68,7 @@ TEST_P(DragBack, ARestingReleaseClosesInATenthAndAHalfSecond) {
   expect_closed();
 }
 
-TEST_P(DragBack, AMovingReleaseGlidesFirstWithTheTwin) {
+TEST_P(DragBack, AReleaseInMotionFirstGlidesWithTheTwin) {
   begin_drag_back();
   for (int step = 0; step < 10; ++step)
     move_by(1, 5);
@@ -80,14 +80,14 @@ TEST_P(DragBack, AMovingReleaseGlidesFirstWithTheTwin) {
   EXPECT_LT(after.y, before.y + 40);
   EXPECT_GT(after.x, before.x + 3);
   EXPECT_THAT(icon_on_screen().origin, IsNear(after));
-  // Not cut at 1, which is exceeded near the top.
+  // Not clamped to 1, which is exceeded near the top.
   EXPECT_THAT(std::get<0>(faded.last()),
               IsNear((screen().height - after.y) / (0.75 * screen().height)));
   EXPECT_THAT(seconds_until([this] { return !is("isShow"); }), IsSoonAfter(kGlide + kIconTravel));
   expect_closed();
 }
 
-TEST_P(DragBack, AReleaseFurtherUpTheScreenClosesToo) {
+TEST_P(DragBack, AReleaseFurtherUpTheScreenAlsoCloses) {
   begin_drag_back();
   for (int step = 0; step < 6; ++step)
     move_by(0, -10);
@@ -115,7 +115,7 @@ class DragBackOnAPage : public PanelTest {
   }
 };
 
-TEST_F(DragBackOnAPage, TheContentFadesOutBehindAWindowThatTakesNoTouches) {
+TEST_F(DragBackOnAPage, TheContentFadesOutInAWindowThatTakesNoTouches) {
   EXPECT_FALSE(view("window").isUserInteractionEnabled());
   EXPECT_TRUE(is("isShow"));
   EXPECT_THAT(seconds_until([this] { return alpha("container") == 0; }), IsSoonAfter(0));

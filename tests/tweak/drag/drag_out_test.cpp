@@ -7,7 +7,7 @@ namespace {
 class DragOut : public DragTest {};
 SONAVUE_ON_EVERY_SCREEN(DragOut);
 
-TEST_P(DragOut, TheTwinCoversTheIconOnTheScreenWhereverTheFingerIs) {
+TEST_P(DragOut, TheTwinCoversTheIconWhereverTheFingerIs) {
   begin_drag();
   for (const CGPoint step : {CGPoint{3, -40}, CGPoint{-7, -60}, CGPoint{20, 90}, CGPoint{1, -1}}) {
     move_by(step.x, step.y);
@@ -17,7 +17,7 @@ TEST_P(DragOut, TheTwinCoversTheIconOnTheScreenWhereverTheFingerIs) {
   }
 }
 
-TEST_P(DragOut, TheIconKeepsItsPlaceUnderTheFinger) {
+TEST_P(DragOut, TheIconKeepsItsPositionUnderTheFinger) {
   const CGRect home = music_icon().frame();
   begin_drag();
   const CGPoint grabbed = finger();
@@ -44,10 +44,10 @@ class DragOutOfAPage : public PanelTest {
   void SetUp() override { launch(); }
 };
 
-TEST_F(DragOutOfAPage, TheBackdropIsWholeFromAQuarterOfTheScreenUpwards) {
+TEST_F(DragOutOfAPage, TheBackdropIsOpaqueFromAQuarterOfTheScreenUpwards) {
   const CGFloat height = screen().height;
   begin_drag();
-  // A view shows no more than 1 anyhow: what counts is what it is given.
+  // A view never shows more than 1, so the test checks the value that is set.
   MethodSpy<"setAlpha:", void(UIImageView, CGFloat)> faded(UIImageView::cls());
   for (const CGFloat y : {0.25 * height, 0.2 * height, 1.0}) {
     move_finger({finger().x, y});
@@ -55,7 +55,7 @@ TEST_F(DragOutOfAPage, TheBackdropIsWholeFromAQuarterOfTheScreenUpwards) {
   }
 }
 
-TEST_F(DragOutOfAPage, TheBackdropIsGoneAtTheBottomEdgeAndBelowIt) {
+TEST_F(DragOutOfAPage, TheBackdropIsInvisibleAtTheBottomEdgeAndBelow) {
   begin_drag();
   move_finger({finger().x, screen().height});
   EXPECT_EQ(alpha("cover"), 0);
@@ -64,7 +64,7 @@ TEST_F(DragOutOfAPage, TheBackdropIsGoneAtTheBottomEdgeAndBelowIt) {
   EXPECT_THAT(std::get<0>(faded.last()), IsNear(-75 / (0.75 * screen().height)));
 }
 
-TEST_F(DragOutOfAPage, TheBeginningShowsTheTwinAndCoversTheScreenWithTheWindow) {
+TEST_F(DragOutOfAPage, ItsStartShowsTheTwinAndCoversTheScreenWithTheWindow) {
   ASSERT_TRUE(view("music").isHidden());
   view("window").setFrame({0, -100, screen().width, screen().height});
   begin_drag();
@@ -73,10 +73,10 @@ TEST_F(DragOutOfAPage, TheBeginningShowsTheTwinAndCoversTheScreenWithTheWindow) 
   EXPECT_FALSE(is("isShow"));
 }
 
-TEST_F(DragOutOfAPage, TheBeginningKeepsTheIconsHomeFrame) {
+TEST_F(DragOutOfAPage, ItsStartSavesTheIconsHomeFrame) {
   const CGRect home = music_icon().frame();
   hold(on_screen(music_icon()));
-  // The touch left it behind already; the drag does so by itself.
+  // The touch has already saved it; the drag has to save it by itself too.
   global<CGRect>("saved") = {};
   move_by(0, -12);
   EXPECT_EQ(global<CGRect>("saved"), home);
@@ -90,7 +90,7 @@ TEST_F(DragOutOfAPage, TheBannersGrabberHidesAsSoonAsTheDragStarts) {
   EXPECT_TRUE(view("grabbers").isHidden());
 }
 
-TEST_F(DragOutOfAPage, PlacesAreRoundedToSinglePrecision) {
+TEST_F(DragOutOfAPage, PositionsAreRoundedToSinglePrecision) {
   const CGPoint home = music_icon().frame().origin;
   begin_drag();
   const CGPoint start = finger();
@@ -104,8 +104,8 @@ TEST_F(DragOutOfAPage, PlacesAreRoundedToSinglePrecision) {
   EXPECT_EQ(music_icon().frame().origin.y, static_cast<float>(y));
 }
 
-TEST_F(DragOutOfAPage, ARearrangedHomeScreenIgnoresTheDrag) {
-  // The recogniser of a drag that is under way stays, whoever else was told of the editing.
+TEST_F(DragOutOfAPage, IsIgnoredWhileIconsAreArranged) {
+  // During a drag its recogniser stays, even though editing has begun.
   begin_drag();
   springboard::set_editing(true);
   const auto pan = music_icon().gestureRecognizers().firstObject();

@@ -5,14 +5,14 @@
 namespace host::test {
 namespace {
 
-/// Settings "enable" and "apex", and the recognisers of the Music icon.
+/// The settings "enable" and "apex", and the recognisers of the Music icon.
 class DragSetting : public ColouredPanel {
  protected:
   NSUInteger recognizers() const { return music_icon().gestureRecognizers().count(); }
   UIGestureRecognizer recognizer() const {
     return objc::cast<UIGestureRecognizer>(music_icon().gestureRecognizers().firstObject());
   }
-  /// Drags the icon far up; says whether the panel came.
+  /// Drags the icon far up and returns whether the panel opened.
   bool a_drag_opens() {
     drag(on_screen(kMusic), {screen().width / 2, 80}, 0.3);
     lift();
@@ -26,7 +26,7 @@ class DragSetting : public ColouredPanel {
   }
 };
 
-TEST_F(DragSetting, OffTakesEveryRecognizerFromTheIcon) {
+TEST_F(DragSetting, OffRemovesEveryRecognizerFromTheIcon) {
   launch();
   ASSERT_TRUE(is("enabled"));
   ASSERT_EQ(recognizers(), 1u);
@@ -36,7 +36,7 @@ TEST_F(DragSetting, OffTakesEveryRecognizerFromTheIcon) {
   EXPECT_FALSE(a_drag_opens());
 }
 
-TEST_F(DragSetting, OffTakesTheSystemsOwnRecognizersToo) {
+TEST_F(DragSetting, OffRemovesTheSystemsOwnRecognizersToo) {
   launch();
   const auto own = UIPanGestureRecognizer::alloc().initWithTarget(application, "nothing:"_sel);
   music_icon().addGestureRecognizer(own);
@@ -46,7 +46,7 @@ TEST_F(DragSetting, OffTakesTheSystemsOwnRecognizersToo) {
   own.release();
 }
 
-TEST_F(DragSetting, OnAgainTheIconHasTheDragAlone) {
+TEST_F(DragSetting, OnAgainTheIconHasOnlyTheDrag) {
   launch();
   change_settings(switch_entry("enable", false));
   music_icon().setUserInteractionEnabled(NO);
@@ -63,7 +63,7 @@ TEST_F(DragSetting, OnAgainTheIconHasTheDragAlone) {
   own.release();
 }
 
-TEST_F(DragSetting, AFileThatDoesNotSayIsOff) {
+TEST_F(DragSetting, AFileWithoutTheSettingMeansOff) {
   launch();
   use_no_preferences();
   advance(0.2);
@@ -80,7 +80,7 @@ TEST_F(DragSetting, WithoutAFileItIsOff) {
   EXPECT_FALSE(is("enabled"));
 }
 
-TEST_F(DragSetting, ApexLeavesTheIconAsItIsWhateverEnableSays) {
+TEST_F(DragSetting, ApexLeavesTheIconUnchangedWhateverEnableSays) {
   launch();
   const UIGestureRecognizer before = recognizer();
   for (const bool on : {false, true}) {
@@ -91,14 +91,14 @@ TEST_F(DragSetting, ApexLeavesTheIconAsItIsWhateverEnableSays) {
   }
 }
 
-TEST_F(DragSetting, ApexAtTheStartLeavesTheSystemsRecognizers) {
+TEST_F(DragSetting, ApexAtLaunchKeepsTheSystemsRecognizers) {
   write_preferences(switch_entry("apex", true) + switch_entry("enable", true));
   launch();
   EXPECT_EQ(recognizers(), icon_view(kCalendar).gestureRecognizers().count());
   EXPECT_FALSE(a_drag_opens());
 }
 
-TEST_F(DragSetting, InAFolderTheIconGetsNoDragWhateverIsChanged) {
+TEST_F(DragSetting, InAFolderTheIconGetsNoDragWhateverSettingChanges) {
   launch();
   ASSERT_TRUE(springboard::move_to_folder(kMusic));
   advance(0.2);
@@ -114,7 +114,7 @@ TEST_F(DragSetting, InAFolderTheIconGetsNoDragWhateverIsChanged) {
   own.release();
 }
 
-TEST_F(DragSetting, APhoneThatStartsWithTheIconInAFolderGivesItNoDrag) {
+TEST_F(DragSetting, LaunchedWithTheIconInAFolderItGetsNoDrag) {
   PhoneTest::launch();
   ASSERT_TRUE(springboard::move_to_folder(kMusic));
   settle();
@@ -126,7 +126,7 @@ TEST_F(DragSetting, APhoneThatStartsWithTheIconInAFolderGivesItNoDrag) {
   EXPECT_TRUE(is("enabled"));
 }
 
-TEST_F(DragSetting, EveryApplicationPutsAFreshRecognizerInPlaceOfTheLast) {
+TEST_F(DragSetting, ApplyingTheSettingsReplacesTheRecognizerEveryTime) {
   launch();
   for (int time = 0; time < 5; ++time)
     change_settings(switch_entry("enable", true));

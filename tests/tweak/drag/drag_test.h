@@ -5,13 +5,13 @@
 
 namespace host::test {
 
-/// Where the Music icon stands on which phone.
+/// A phone and where its Music icon is.
 struct IconPlace {
   const char* model;
   bool in_dock;
 };
 
-/// A launched phone whose Music icon is about to be dragged, on a page and in the dock.
+/// A launched phone whose Music icon is about to be dragged, from a page or from the dock.
 class DragTest : public PanelTest, public ::testing::WithParamInterface<IconPlace> {
  protected:
   DragTest() : PanelTest(GetParam().model) { use_no_songs(); }
@@ -40,7 +40,7 @@ inline std::string name_of_place(const ::testing::TestParamInfo<IconPlace>& info
   return name + (info.param.in_dock ? "InTheDock" : "OnAPage");
 }
 
-// The two smallest screens of the drag and the largest, and both places of an icon.
+// The two smallest screens and the largest, each with the icon on a page and in the dock.
 #define SONAVUE_ON_EVERY_SCREEN(Suite)                                                \
   INSTANTIATE_TEST_SUITE_P(                                                           \
       , Suite,                                                                        \

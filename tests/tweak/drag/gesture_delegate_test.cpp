@@ -21,7 +21,7 @@ class GestureDelegate : public PanelTest {
     objc::ClassBuilder("RoundButton", "UIButton").finish();
   }
 
-  /// The answer about a touch on `touched`.
+  /// Whether the delegate accepts a touch on `touched`.
   BOOL receives(UIView touched) const {
     touched_view = touched;
     const auto touch =
@@ -31,19 +31,19 @@ class GestureDelegate : public PanelTest {
   }
 };
 
-TEST_F(GestureDelegate, AButtonsTouchStartsNoDragAndNoTap) {
+TEST_F(GestureDelegate, ATouchOnAButtonStartsNoDragAndNoTap) {
   EXPECT_EQ(receives(view("play")), NO);
   const auto derived = objc::send<UIView>(objc::Object(objc_getClass("RoundButton")), "new"_sel);
   EXPECT_EQ(receives(derived), NO);
 }
 
-TEST_F(GestureDelegate, EveryOtherTouchDoes) {
+TEST_F(GestureDelegate, EveryOtherTouchIsReceived) {
   for (const char* name : {"main", "music", "art", "ring"})
     EXPECT_EQ(receives(view(name)), YES) << name;
   EXPECT_EQ(receives(nil), YES);
 }
 
-TEST_F(GestureDelegate, NoTwoGesturesGoOnTogether) {
+TEST_F(GestureDelegate, NoTwoGesturesAreSimultaneous) {
   const auto one = view("main").gestureRecognizers().firstObject();
   const auto other = view("music").gestureRecognizers().lastObject();
   EXPECT_EQ(

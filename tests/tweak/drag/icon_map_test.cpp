@@ -2,7 +2,7 @@
 #include "platform/SpringBoard/SBIconController.h"
 #include "tests/tweak/panel_test.h"
 
-// Later systems keep the map of the home screen's icons elsewhere.
+// Later systems have the map of the home screen's icons in another class.
 
 namespace host::test {
 namespace {
@@ -24,7 +24,7 @@ SBIconViewMap map_of_the_controller(objc::Object) {
 
 class IconMap : public PanelTest {
  protected:
-  /// From now on the class says that it does not know the map.
+  /// Makes the class deny that it has the map.
   static void hide_from_the_class() {
     const objc::Class cls = objc::class_of(reinterpret_cast<objc::Id>(SBIconViewMap::cls()));
     answered_before =
@@ -36,7 +36,7 @@ class IconMap : public PanelTest {
   }
 };
 
-TEST_F(IconMap, TheControllersMapServesWhereTheClassKnowsNone) {
+TEST_F(IconMap, UsesTheControllersMapIfTheClassHasNone) {
   hide_from_the_class();
   give_to_the_controller();
   launch();
@@ -45,7 +45,7 @@ TEST_F(IconMap, TheControllersMapServesWhereTheClassKnowsNone) {
   EXPECT_TRUE(is("added"));
 }
 
-TEST_F(IconMap, TheControllerIsNotAskedWhereTheClassKnowsTheMap) {
+TEST_F(IconMap, IgnoresTheControllerIfTheClassHasTheMap) {
   give_to_the_controller();
   launch();
   EXPECT_EQ(asked_controller, 0);

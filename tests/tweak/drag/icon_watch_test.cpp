@@ -19,7 +19,7 @@ class IconWatch : public PanelTest {
   }
 };
 
-TEST_F(IconWatch, AFolderTakesTheDragAwayWithinATenth) {
+TEST_F(IconWatch, AFolderRemovesTheDragWithinATenthOfASecond) {
   launch();
   ASSERT_TRUE(has_drag());
   ASSERT_TRUE(springboard::move_to_folder(kMusic));
@@ -28,7 +28,7 @@ TEST_F(IconWatch, AFolderTakesTheDragAwayWithinATenth) {
   EXPECT_FALSE(is("added"));
 }
 
-TEST_F(IconWatch, OutOfTheFolderTheDragIsBackWithinATenth) {
+TEST_F(IconWatch, OutOfTheFolderTheDragIsBackWithinATenthOfASecond) {
   launch();
   ASSERT_TRUE(springboard::move_to_folder(kMusic));
   advance(1);
@@ -41,7 +41,7 @@ TEST_F(IconWatch, OutOfTheFolderTheDragIsBackWithinATenth) {
   open_panel();
 }
 
-TEST_F(IconWatch, RearrangingTakesTheDragAwayAndItsEndBringsItBack) {
+TEST_F(IconWatch, ArrangingRemovesTheDragAndItsEndRestoresIt) {
   launch();
   springboard::set_editing(true);
   advance(kTick);
@@ -53,7 +53,7 @@ TEST_F(IconWatch, RearrangingTakesTheDragAwayAndItsEndBringsItBack) {
   EXPECT_TRUE(is("added"));
 }
 
-TEST_F(IconWatch, AnIconThatTakesNoTouchesTakesThemWithTheDrag) {
+TEST_F(IconWatch, AnIconThatTakesNoTouchesTakesThemOnceItHasTheDrag) {
   launch();
   music_icon().setUserInteractionEnabled(NO);
   global<BOOL>("added") = NO;
@@ -78,7 +78,7 @@ void count_dealloc(objc::Object self) {
   reinterpret_cast<Body>(dealloc_before)(self.id(), "dealloc"_sel);
 }
 
-TEST_F(IconWatch, RearrangingForLongLeaksNoRecognizers) {
+TEST_F(IconWatch, ArrangingForLongLeaksNoRecognizers) {
   launch();
   springboard::set_editing(true);
   advance(kTick);
@@ -95,7 +95,7 @@ TEST_F(IconWatch, RearrangingForLongLeaksNoRecognizers) {
   EXPECT_EQ(recognizers(), 0u);
 }
 
-TEST_F(IconWatch, ATickWithNothingToDoTouchesNothing) {
+TEST_F(IconWatch, ATickWithNothingToDoChangesNothing) {
   launch();
   advance(1);
   const auto drag = music_icon().gestureRecognizers().firstObject();
@@ -108,7 +108,7 @@ TEST_F(IconWatch, ATickWithNothingToDoTouchesNothing) {
   EXPECT_EQ(music_icon().gestureRecognizers().firstObject(), drag);
 }
 
-TEST_F(IconWatch, SwitchedOffItLeavesTheIconAlone) {
+TEST_F(IconWatch, SwitchedOffItDoesNotTouchTheIcon) {
   launch();
   global<BOOL>("enabled") = NO;
   ASSERT_TRUE(springboard::move_to_folder(kMusic));
@@ -116,7 +116,7 @@ TEST_F(IconWatch, SwitchedOffItLeavesTheIconAlone) {
   EXPECT_TRUE(has_drag());
 }
 
-TEST_F(IconWatch, AnIconOfAnotherApplicationIsGivenUpForTheRightOne) {
+TEST_F(IconWatch, AnotherApplicationsIconIsReplacedByTheRightOne) {
   launch();
   const SBIconView music = music_icon();
   const SBIconView other = icon_view(kCalendar);
@@ -132,7 +132,7 @@ TEST_F(IconWatch, AnIconOfAnotherApplicationIsGivenUpForTheRightOne) {
   EXPECT_TRUE(is("added"));
 }
 
-TEST_F(IconWatch, ARightIconThatIsInAFolderGetsNoDrag) {
+TEST_F(IconWatch, TheRightIconInAFolderGetsNoDrag) {
   launch();
   ASSERT_TRUE(springboard::move_to_folder(kMusic));
   settle();
@@ -148,7 +148,7 @@ TEST_F(IconWatch, ARightIconThatIsInAFolderGetsNoDrag) {
 TEST_F(IconWatch, AnUninstalledApplicationIsLoggedAtEveryTickAndChangesNothing) {
   launch();
   advance(0.05);
-  // The icon's view goes with its icon; the extension's stays as long as it is held.
+  // Uninstalling removes the icon's view. Retain it, since the extension still uses it.
   const auto icon = music_icon().retain();
   ASSERT_TRUE(springboard::uninstall(kMusic));
   settle();

@@ -4,7 +4,7 @@
 #include "platform/UIKit/UIScrollView.h"
 #include "tests/tweak/panel_test.h"
 
-// Buttons, fingers and gestures that come while the panel is on its way.
+// Buttons, touches and gestures while the panel opens or closes.
 
 namespace host::test {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 constexpr double kGlide = 0.1;
 constexpr double kIconTravel = 0.5;
 constexpr double kContentFade = 0.7;
-/// Within the glide, the icon's way to the top, and the fade of the content.
+/// During the glide, the icon's movement to the top, and the content's fade-in.
 constexpr double kMomentsOfOpening[] = {0.05, 0.3, 1.0};
 
 class InterruptedPanel : public PanelTest {
@@ -55,7 +55,7 @@ TEST_F(InterruptedPanel, HomeEndsAnOpeningAtAnyMoment) {
   }
 }
 
-TEST_F(InterruptedPanel, HomeDuringTheOpeningIsThePanelsAlone) {
+TEST_F(InterruptedPanel, HomeDuringTheOpeningOnlyClosesThePanel) {
   SBIconController::sharedInstance().setIsEditing(NO);
   open_for(0.3);
   EXPECT_EQ(SBUIController::sharedInstance().handleMenuDoubleTap(), YES);
@@ -93,7 +93,7 @@ TEST_F(InterruptedPanel, NoPanelOpensOnALockedPhone) {
   }
 }
 
-TEST_F(InterruptedPanel, AFingerThatIsLiftedInTheDarkOpensNothing) {
+TEST_F(InterruptedPanel, AFingerLiftedWhileTheDisplayIsOffOpensNothing) {
   begin_drag();
   move_by(0, -100);
   springboard::press_lock();
@@ -130,7 +130,7 @@ TEST_F(InterruptedPanel, HomeTwiceLeavesNothingBehindForTheNextOpening) {
   EXPECT_EQ(alpha("cover"), 1);
 }
 
-TEST_F(InterruptedPanel, EveryCallerOfAClosingIsAnswered) {
+TEST_F(InterruptedPanel, EveryCallerOfAClosingGetsItsCompletion) {
   open_panel();
   BOOL first = NO;
   int answers = 0;
@@ -147,12 +147,12 @@ TEST_F(InterruptedPanel, EveryCallerOfAClosingIsAnswered) {
   expect_closed();
 }
 
-TEST_F(InterruptedPanel, ATouchOfTheIconAtTheTopKeepsItsHome) {
+TEST_F(InterruptedPanel, ATouchOnTheIconAtTheTopKeepsItsHomeFrame) {
   open_panel();
   springboard::press_home();
   advance(0.3);
   ASSERT_NE(music_icon().frame(), home_);
-  // The closing window is deaf, so that the touch lands on the icon itself.
+  // The closing window ignores touches, so this one reaches the icon itself.
   press(middle_of(music_icon()));
   EXPECT_EQ(global<CGRect>("saved"), home_);
   touches.cancelled(1, middle_of(music_icon()), clock.now());
@@ -172,11 +172,11 @@ TEST_F(InterruptedPanel, ADragOfTheIconAtTheTopIsIgnored) {
   expect_closed();
 }
 
-TEST_F(InterruptedPanel, AClosingThatIsNotOverYetDoesNotEndTheNextDrag) {
+TEST_F(InterruptedPanel, AnUnfinishedClosingDoesNotEndTheNextDrag) {
   begin_drag();
   touches.cancelled(1, finger(), clock.now());
   advance(0.2);
-  // The icon has not moved, and so takes touches while the backdrop goes.
+  // The icon has not moved, so it takes touches while the backdrop fades out.
   begin_drag();
   move_by(0, -120);
   advance(1);
@@ -188,7 +188,7 @@ TEST_F(InterruptedPanel, AClosingThatIsNotOverYetDoesNotEndTheNextDrag) {
   EXPECT_FALSE(view("music").isHidden());
 }
 
-TEST_F(InterruptedPanel, ATwinThatIsGrabbedWhileThePanelComesClosesIt) {
+TEST_F(InterruptedPanel, GrabbingTheTwinDuringTheOpeningClosesThePanel) {
   open_for(0.9);
   hold(middle_of(view("music")));
   move_by(0, 12);
@@ -200,7 +200,7 @@ TEST_F(InterruptedPanel, ATwinThatIsGrabbedWhileThePanelComesClosesIt) {
   expect_closed();
 }
 
-TEST_F(InterruptedPanel, HomeDuringADragBackIsTheEndOfIt) {
+TEST_F(InterruptedPanel, HomeEndsADragBack) {
   open_panel();
   hold(middle_of(view("music")));
   move_by(0, 12);
@@ -213,7 +213,7 @@ TEST_F(InterruptedPanel, HomeDuringADragBackIsTheEndOfIt) {
   expect_closed();
 }
 
-TEST_F(InterruptedPanel, AGestureBringsNoBannerIntoAnOpening) {
+TEST_F(InterruptedPanel, AGestureShowsNoBannerDuringAnOpening) {
   for (const double moment : kMomentsOfOpening) {
     open_for(moment);
     objc::send<>(application, "showBanner"_sel);
@@ -226,7 +226,7 @@ TEST_F(InterruptedPanel, AGestureBringsNoBannerIntoAnOpening) {
   }
 }
 
-TEST_F(InterruptedPanel, AnIconThatTheSystemMovesMeanwhileStaysInItsSlot) {
+TEST_F(InterruptedPanel, AnIconMovedByTheSystemMeanwhileStaysInItsNewSlot) {
   ASSERT_TRUE(springboard::move_out_of_dock(kPhone));
   settle();
   open_panel();
@@ -245,10 +245,10 @@ TEST_F(InterruptedPanel, AnIconThatTheSystemMovesMeanwhileStaysInItsSlot) {
   expect_closed();
 }
 
-TEST_F(InterruptedPanel, AnIconThatAFingerArrangesMeanwhileStaysInItsSlot) {
+TEST_F(InterruptedPanel, AnIconArrangedByTheUserMeanwhileStaysInItsNewSlot) {
   open_panel();
   springboard::press_home();
-  // The closing window is deaf, and the icon still at the top.
+  // The closing window ignores touches, and the icon is still at the top.
   advance(0.1);
   springboard::set_editing(true);
   drag(middle_of(music_icon()), {292, 382}, 0.06);
@@ -262,7 +262,7 @@ TEST_F(InterruptedPanel, AnIconThatAFingerArrangesMeanwhileStaysInItsSlot) {
   EXPECT_TRUE(view("music").isHidden());
 }
 
-TEST_F(InterruptedPanel, PagesThatGoOnGlidingLeaveTheIconInItsSlot) {
+TEST_F(InterruptedPanel, PagesThatKeepGlidingLeaveTheIconInItsSlot) {
   open_panel();
   const CGFloat y = middle_of(view("container")).y;
   hold({screen().width * 0.9, y});

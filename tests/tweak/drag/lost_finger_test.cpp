@@ -2,8 +2,7 @@
 #include "tests/tweak/drag/drag_test.h"
 #include "tests/tweak/method_spy.h"
 
-// Fingers that the system takes away in the middle of a drag, and drags whose end somebody else
-// would swallow.
+// Drags whose touch the system cancels, and drags whose end something else could swallow.
 
 namespace host::test {
 namespace {
@@ -38,7 +37,7 @@ class LostFinger : public DragTest {
 };
 SONAVUE_ON_EVERY_SCREEN(LostFinger);
 
-TEST_P(LostFinger, OutsideTheIconGoesStraightHome) {
+TEST_P(LostFinger, OnTheWayOutTheIconGoesStraightHome) {
   begin_drag();
   move_by(20, -120);
   take_the_finger();
@@ -68,14 +67,14 @@ UIGestureRecognizerState failed(UIGestureRecognizer) {
   return UIGestureRecognizerStateFailed;
 }
 
-/// The same by the state alone, which no touch brings about in a drag that has begun.
+/// The same with the state "failed", which touches cannot produce once a drag has begun.
 class FailedDrag : public PanelTest {
  protected:
   void SetUp() override {
     launch();
     home_ = music_icon().frame();
   }
-  /// Sends the action of the view's pan as if that had failed.
+  /// Sends the action of the view's pan as if the pan had failed.
   void fail(UIView view, objc::Sel action) {
     const objc::Object pan = view.gestureRecognizers().lastObject();
     const objc::Class recognizers = UIGestureRecognizer::cls();
@@ -89,7 +88,7 @@ class FailedDrag : public PanelTest {
   CGRect home_;
 };
 
-TEST_F(FailedDrag, OutsideItEndsAtHome) {
+TEST_F(FailedDrag, OnTheWayOutItEndsAtHome) {
   begin_drag();
   move_by(10, -100);
   fail(music_icon(), "sposta:"_sel);
@@ -130,14 +129,14 @@ class InterruptedDrag : public PanelTest {
   CGRect home_;
 };
 
-TEST_F(InterruptedDrag, ArrangingDoesNotSwallowTheRelease) {
+TEST_F(InterruptedDrag, ArrangingIconsDoesNotSwallowTheRelease) {
   springboard::set_editing(true);
   lift();
   expect_home();
   EXPECT_EQ(music_icon().frame(), home_);
 }
 
-TEST_F(InterruptedDrag, ArrangingThatTakesTheRecognizerAwayBringsItHome) {
+TEST_F(InterruptedDrag, ArrangingThatRemovesTheRecognizerMovesTheIconHome) {
   springboard::set_editing(true);
   advance(0.2);
   lift();
@@ -145,7 +144,7 @@ TEST_F(InterruptedDrag, ArrangingThatTakesTheRecognizerAwayBringsItHome) {
   EXPECT_EQ(music_icon().frame(), home_);
 }
 
-TEST_F(InterruptedDrag, ArrangingThatBeginsInTheGlideBringsItHome) {
+TEST_F(InterruptedDrag, ArrangingThatBeginsDuringTheGlideMovesTheIconHome) {
   lift();
   advance(0.03);
   springboard::set_editing(true);
@@ -162,7 +161,7 @@ TEST_F(InterruptedDrag, AnIconThatHasMovedIntoAFolderStaysThere) {
   EXPECT_EQ(music_icon().frame(), slot);
 }
 
-TEST_F(InterruptedDrag, AChangeOfTheSettingsBringsItHome) {
+TEST_F(InterruptedDrag, AChangeOfTheSettingsMovesTheIconHome) {
   objc::send<>(application, "changesPrefs"_sel);
   lift();
   expect_home();
@@ -170,7 +169,7 @@ TEST_F(InterruptedDrag, AChangeOfTheSettingsBringsItHome) {
   open_panel();
 }
 
-TEST_F(InterruptedDrag, AGestureBringsNoBannerMeanwhile) {
+TEST_F(InterruptedDrag, AGestureShowsNoBannerMeanwhile) {
   objc::send<>(application, "showBanner"_sel);
   EXPECT_FALSE(is("isBanner"));
   lift();

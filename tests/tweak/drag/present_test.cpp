@@ -13,7 +13,7 @@ constexpr double kContentFade = 0.7;
 
 class Release : public DragTest {
  protected:
-  /// Drags and lets go in the middle of a steady movement; gives the velocity that the pan had.
+  /// Drags and releases during a steady movement. Returns the pan's velocity.
   CGPoint release_in_motion() {
     begin_drag();
     for (int step = 0; step < 12; ++step)
@@ -52,23 +52,23 @@ TEST_P(Release, TheIconGlidesByATenthOfTheVelocity) {
               IsNear(CGPoint{before.x + velocity.x / 10, before.y + velocity.y / 10}));
 }
 
-TEST_P(Release, TheTwinStandsFivePointsAsideOfTheGlidingIcon) {
+TEST_P(Release, TheTwinIsFivePointsBesideTheGlidingIcon) {
   release_in_motion();
   const CGPoint icon = music_icon().frame().origin;
   EXPECT_THAT(frame("music").origin, IsNear(CGPoint{icon.x + 5, icon.y + icon_offset()}));
   EXPECT_EQ(frame("music").size, music_icon().frame().size);
 }
 
-TEST_P(Release, TheBackdropTakesTheFadeOfTheGlidesEnd) {
+TEST_P(Release, TheBackdropFadesToTheValueAtTheGlidesEnd) {
   MethodSpy<"setAlpha:", void(UIImageView, CGFloat)> faded(UIImageView::cls());
   release_in_motion();
   const CGFloat height = screen().height;
-  // Not cut at 1: an icon of the dock has a small y, or a negative one.
+  // Not clamped to 1: an icon in the dock has a small or negative y.
   EXPECT_THAT(std::get<0>(faded.last()),
               IsNear((height - music_icon().frame().origin.y) / (0.75 * height)));
 }
 
-TEST_P(Release, GlideTravelAndFadeTakeTheirTimes) {
+TEST_P(Release, GlideTravelAndFadeHaveTheirDurations) {
   release_in_motion();
   const auto has_arrived = [this] { return is_near(music_icon().frame().origin, place_at_top()); };
   EXPECT_THAT(seconds_until(has_arrived), IsSoonAfter(kGlide));
@@ -81,7 +81,7 @@ TEST_P(Release, GlideTravelAndFadeTakeTheirTimes) {
   EXPECT_THAT(seconds_until([this] { return is("isShow"); }), IsSoonAfter(kContentFade));
 }
 
-TEST_P(Release, TheIconSettlesAtTheTopInTheMiddleWithTheTwinOverIt) {
+TEST_P(Release, TheIconSettlesAtTheTopCentreWithTheTwinOverIt) {
   release_in_motion();
   settle();
   EXPECT_THAT(music_icon().frame().origin, IsNear(place_at_top()));
@@ -99,7 +99,7 @@ TEST_P(Release, AMovementOfOnePointStillOpens) {
 
 class Present : public PanelTest {};
 
-TEST_F(Present, OpeningSendsTheControlCentreAwayOnceItIsDone) {
+TEST_F(Present, OpeningDismissesTheControlCentreAtTheEnd) {
   launch();
   MethodSpy<"dismissAnimated:", void(SBControlCenterController, BOOL)> dismissed(
       SBControlCenterController::cls());
@@ -132,7 +132,7 @@ TEST_F(Present, TheBannerLeavesTheIconInItsSlotWithTheTwinOverIt) {
   EXPECT_THAT(frame("music").origin, IsNear(CGPoint{home.origin.x, home.origin.y + icon_offset()}));
 }
 
-TEST_F(Present, ARearrangedHomeScreenIsNotOpenedOver) {
+TEST_F(Present, DoesNotOpenWhileIconsAreArranged) {
   launch();
   springboard::set_editing(true);
   advance(0.2);

@@ -5,12 +5,12 @@
 
 namespace host::test {
 
-/// The open panel at the page of the album tiles.
+/// The open panel on the page with the album tiles.
 class AlbumPage : public ColouredPanel {
  protected:
   using ColouredPanel::ColouredPanel;
 
-  /// An album with one song, of which the phone has only the entry; `more` in TOML.
+  /// Adds an album with one song that is only in the cloud; `more` is TOML for its entry.
   void add_album(const std::string& album, const std::string& more = "") {
     const std::string song = "Song " + std::to_string(++added_);
     add_cloud_song(song,
@@ -26,7 +26,7 @@ class AlbumPage : public ColouredPanel {
     }
     ASSERT_EQ(global<UIScrollView>("container").contentOffset().x, 2 * screen().width);
   }
-  /// Opens that page while Alpha plays, whose cover the artwork then shows.
+  /// Opens that page while Alpha plays; the artwork then shows its cover.
   void open_while_playing() {
     launch();
     play("Alpha");
@@ -59,7 +59,7 @@ class AlbumPage : public ColouredPanel {
   }
   CGFloat tile_side() const { return (frame("albums").size.width - 30) * 0.5; }
 
-  // A zoomed album.
+  // The zoomed album.
 
   CGFloat zoomed_side() const { return frame("albums").size.width - 20; }
   void zoom_in(const std::string& album) {
@@ -67,7 +67,7 @@ class AlbumPage : public ColouredPanel {
     settle();
     ASSERT_FALSE(strip().isScrollEnabled());
   }
-  /// A tap beside the zoomed tile, on the strip itself.
+  /// Taps the strip next to the zoomed tile.
   void tap_beside() {
     const CGRect place = view("albums").convertRectToView(view("albums").bounds(), nil);
     tap({place.min_x() + 5, place.max_y() - 5});
@@ -88,7 +88,7 @@ class AlbumPage : public ColouredPanel {
       found.push_back(song);
     return found;
   }
-  /// A song of the zoomed album, by its title.
+  /// The song of the zoomed album with that title.
   UIView song(const std::string& album, const std::string& title) const {
     for (const UIView one : songs_of(tile(album)))
       if (text(title_of(one).text()) == title) return one;

@@ -22,7 +22,7 @@ class AlbumSongs : public AlbumPage {
   }
 };
 
-TEST_F(AlbumSongs, ThreeSongsStandInTwoRows) {
+TEST_F(AlbumSongs, ThreeSongsTakeTwoRows) {
   open_while_playing();
   zoom_in("One");
   const auto songs = songs_of(tile("One"));
@@ -39,7 +39,7 @@ TEST_F(AlbumSongs, ThreeSongsStandInTwoRows) {
   EXPECT_EQ(rgba(grid.backgroundColor()).alpha, 0);
 }
 
-TEST_F(AlbumSongs, TheGridReachesJustBeyondItsLastSong) {
+TEST_F(AlbumSongs, TheGridEndsJustBeyondItsLastSong) {
   for (int song = 0; song < 7; ++song)
     add_album("Seven");
   for (int song = 0; song < 4; ++song)
@@ -53,7 +53,7 @@ TEST_F(AlbumSongs, TheGridReachesJustBeyondItsLastSong) {
     objc::send<>(application, "zoomInAlbum:"_sel, tile(album).gestureRecognizers().firstObject());
     return grid_of(tile(album)).contentSize();
   };
-  // A point more than the grid, where that is not filled.
+  // One point larger than the grid if the songs do not fill it.
   EXPECT_THAT(content("Two"), IsNear(CGSize{side + 1, side + 1}));
   EXPECT_THAT(content("Pair"), IsNear(CGSize{side, side + 1}));
   EXPECT_THAT(content("One"), IsNear(CGSize{side + 1, side}));
@@ -94,7 +94,7 @@ TEST_F(AlbumSongs, FadeInWhenTheAlbumIsZoomed) {
   EXPECT_THAT(seconds_until([&] { return is_near(opacity(), 1); }), IsSoonAfter(0.3));
 }
 
-TEST_F(AlbumSongs, ShowTheirArtworkOrThatOfTheTile) {
+TEST_F(AlbumSongs, ShowTheirArtworkOrTheTiles) {
   open_while_playing();
   const MethodSpy<"imageWithSize:", UIImage(MPMediaItemArtwork, CGSize)> drawn(
       MPMediaItemArtwork::cls());
@@ -129,7 +129,7 @@ TEST_F(AlbumSongs, HaveTheChosenColours) {
   }
 }
 
-TEST_F(AlbumSongs, HaveThePanelsColourWhenLegibilityIsOn) {
+TEST_F(AlbumSongs, HaveTheLegibilityColourWhenThatIsOn) {
   write_preferences(text_entry("tint", "red") + text_entry("font_tint", "blue") +
                     switch_entry("legibility", true) + "<key>checked</key><true/>");
   // Alpha's red cover is dark.
@@ -163,7 +163,7 @@ TEST_F(AlbumSongs, ATapPlaysTheSongAndZoomsOut) {
   EXPECT_EQ(sounding(), "Delta");
 }
 
-TEST_F(AlbumSongs, ATapWhileNothingIsLoadedZoomsOutAndLetsTheSystemPlay) {
+TEST_F(AlbumSongs, ATapWhileNothingIsLoadedZoomsOutAndStartsTheSystemsPlayer) {
   launch();
   open_album_page();
   ASSERT_FALSE(global<UIImageView>("art").image());
@@ -178,8 +178,8 @@ TEST_F(AlbumSongs, ATapWhileNothingIsLoadedZoomsOutAndLetsTheSystemPlay) {
   EXPECT_NE(sounding(), "Delta");
 }
 
-// It is by its artwork that the panel knows whether something is loaded.
-TEST_F(AlbumSongs, ATapWhileASongWithoutArtworkPlaysOnlyPausesIt) {
+// The panel concludes from the artwork whether a song is loaded.
+TEST_F(AlbumSongs, ATapWhileASongWithoutArtworkPlaysOnlyPauses) {
   launch();
   play("Delta");
   open_album_page();
@@ -205,7 +205,7 @@ TEST_F(AlbumSongs, ATapOnAHiddenSongLeavesTheAlbumZoomed) {
   EXPECT_EQ(sounding(), "Alpha");
   EXPECT_FALSE(is_engine_paused());
   EXPECT_FALSE(strip().isScrollEnabled());
-  // Another song of it can still be tapped.
+  // Another song of the album can still be tapped.
   tap_on(song("One", "Bravo"));
   settle();
   EXPECT_EQ(sounding(), "Bravo");

@@ -19,7 +19,7 @@ class AlbumStrip : public AlbumPage {};
 TEST_F(AlbumStrip, HasATileForEveryAlbumInTheLibrarysOrder) {
   add_album("Three");
   launch();
-  // The songs of no album are taken together.
+  // Songs without an album share one tile.
   EXPECT_THAT(tile_titles(), UnorderedElementsAre("One", "Two", "Three", ""));
   std::vector<std::string> order;
   for (const auto item : global<MPMediaQuery>("fullList").items().of<MPMediaItem>()) {
@@ -29,7 +29,7 @@ TEST_F(AlbumStrip, HasATileForEveryAlbumInTheLibrarysOrder) {
   EXPECT_EQ(tile_titles(), order);
 }
 
-TEST_F(AlbumStrip, TwoAlbumsOfOneTitleHaveATileEach) {
+TEST_F(AlbumStrip, TwoAlbumsWithOneTitleHaveATileEach) {
   add_album("One", "album_artist = 'Somebody else'\n");
   launch();
   EXPECT_THAT(tile_titles(), UnorderedElementsAre("One", "One", "Two", ""));
@@ -39,7 +39,7 @@ TEST_F(AlbumStrip, TwoAlbumsOfOneTitleHaveATileEach) {
   EXPECT_EQ(names.size(), 4u);
 }
 
-TEST_F(AlbumStrip, TilesBearTheAlbumsNumber) {
+TEST_F(AlbumStrip, TilesAreNamedByTheAlbumsID) {
   launch();
   std::set<std::string> numbers;
   for (const auto item : global<MPMediaQuery>("fullList").items().of<MPMediaItem>())
@@ -50,21 +50,21 @@ TEST_F(AlbumStrip, TilesBearTheAlbumsNumber) {
     EXPECT_EQ(numbers.count(text(tile.layer().name())), 1u) << text(title_of(tile).text());
 }
 
-TEST_F(AlbumStrip, WhatIsNoMusicHasNoTile) {
-  // A film, and music that is a film as well.
+TEST_F(AlbumStrip, ItemsThatAreNotMusicHaveNoTile) {
+  // A film, and an item that is both music and a film.
   const ToldProperty film("Delta", MPMediaItemPropertyMediaType, NSNumber::numberWithInt(256));
   const ToldProperty both("Echo", MPMediaItemPropertyMediaType, NSNumber::numberWithInt(257));
   launch();
   EXPECT_THAT(tile_titles(), ElementsAre("One"));
 }
 
-TEST_F(AlbumStrip, AnAlbumOfWhichOnlyTheLaterSongsAreMusicHasATile) {
+TEST_F(AlbumStrip, AnAlbumWhoseFirstItemsAreNotMusicHasATile) {
   const ToldProperty film("Alpha", MPMediaItemPropertyMediaType, NSNumber::numberWithInt(256));
   launch();
   EXPECT_THAT(tile_titles(), Contains("One"));
 }
 
-TEST_F(AlbumStrip, HiddenSongsOfTheCloudHaveTilesToo) {
+TEST_F(AlbumStrip, HiddenCloudSongsHaveTilesToo) {
   add_album("Sky");
   launch();
   ASSERT_EQ(titles("songItems").size(), 5u);
@@ -78,7 +78,7 @@ TEST_F(AlbumStrip, AnEmptyLibraryHasNoTiles) {
   EXPECT_TRUE(strip().isScrollEnabled());
 }
 
-TEST_F(AlbumStrip, TilesStandInTwoColumns) {
+TEST_F(AlbumStrip, TilesAreInTwoColumns) {
   for (const char* album : {"Three", "Four", "Five", "Six"})
     add_album(album);
   launch();
@@ -90,7 +90,7 @@ TEST_F(AlbumStrip, TilesStandInTwoColumns) {
     EXPECT_THAT(all[i].frame(),
                 IsNear(CGRect{10 + column * (side + 10), 10 + row * (side + 10), side, side}));
   }
-  // The last tile can be reached.
+  // The last tile can be scrolled into view.
   EXPECT_GE(strip().contentSize().height, all.back().frame().max_y());
   EXPECT_LE(strip().contentSize().width, frame("albums").size.width);
 }
@@ -130,7 +130,7 @@ TEST_F(AlbumStrip, AnAlbumWithoutArtworkShowsTheEmptyCover) {
   int empty_covers = 0;
   for (const auto& [path] : loaded.calls())
     if (text(path) == "/Library/Application Support/Sonavue/empty_cover.png") ++empty_covers;
-  // Those of "Two" and of no album, and whatever the rows of the list want.
+  // The tiles of "Two" and of no album, and any rows of the list.
   EXPECT_GE(empty_covers, 2);
   EXPECT_TRUE(cover_of(tile("Two")).image());
 }

@@ -21,7 +21,7 @@ class AlbumTable : public ArtworkPage {
       found.push_back(text(cell(row).textLabel().text()));
     return found;
   }
-  /// One tap: it may still become the artwork's double tap for a while.
+  /// Taps once and waits, since a second tap would make it the artwork's double tap.
   void tap_on_row(NSInteger row) {
     tap_on(cell(row));
     advance(0.5);
@@ -57,7 +57,7 @@ TEST_F(AlbumTable, ATapPlaysTheSongAndKeepsTheQueue) {
 }
 
 TEST_F(AlbumTable, ATapWhilePausedFirstResumesAndKeepsTheQueue) {
-  // A queue of one album, unlike the library.
+  // A queue with one album, which differs from the library.
   const auto album = MPMediaQuery::alloc().init();
   album.addFilterPredicate(MPMediaPropertyPredicate::predicateWithValue(
       Player::iPodMusicPlayer().nowPlayingItem().valueForProperty(
@@ -79,7 +79,7 @@ TEST_F(AlbumTable, ATapWhilePausedFirstResumesAndKeepsTheQueue) {
   EXPECT_THAT(heard, ElementsAre("togglePlayPause", "setNowPlayingItem:"));
   EXPECT_EQ(sounding(), "Charlie");
   EXPECT_FALSE(is_engine_paused());
-  // Of the album Charlie is the last: the library would go on with Delta.
+  // Charlie is the last song of the album; the library would continue with Delta.
   media().changeTrack(1);
   EXPECT_NE(sounding(), "Delta");
   album.release();
@@ -96,7 +96,7 @@ TEST_F(AlbumTable, ATapIsRefusedWhileATrackChangeIsUnderWay) {
   EXPECT_TRUE(is("changeTrack"));
 }
 
-TEST_F(AlbumTable, SlidesAwayWhenTheTappedSongHasStarted) {
+TEST_F(AlbumTable, SlidesOutWhenTheTappedSongHasStarted) {
   show_table();
   tap_on_row(0);
   EXPECT_EQ(global<unsigned>("p"), 1u);
@@ -108,7 +108,7 @@ TEST_F(AlbumTable, SlidesAwayWhenTheTappedSongHasStarted) {
   EXPECT_EQ(frame("blurTable").origin.x, frame("blurTable").size.width);
 }
 
-TEST_F(AlbumTable, ItsSourceAnswersWhatTablesAsk) {
+TEST_F(AlbumTable, ItsSourceAnswersTheTablesMessages) {
   const auto source = objc::cast<NSObject>(table().dataSource());
   const auto path = NSIndexPath::indexPathForRow(0, 0);
   EXPECT_STREQ(source.className().UTF8String(), "MusicsAlbum");
@@ -120,7 +120,7 @@ TEST_F(AlbumTable, ItsSourceAnswersWhatTablesAsk) {
   EXPECT_EQ(objc::send<NSInteger>(source, "tableView:indentationLevelForRowAtIndexPath:"_sel,
                                   table(), path),
             0);
-  // Rows have the height that tables give them.
+  // Rows have the table's default height.
   EXPECT_FALSE(source.respondsToSelector("tableView:heightForRowAtIndexPath:"_sel));
   EXPECT_EQ(table().rectForRowAtIndexPath(path).size.height, table().rowHeight());
 }

@@ -5,7 +5,7 @@
 namespace host::test {
 namespace {
 
-/// A tap beside the zoomed album.
+/// Taps next to the zoomed album.
 class AlbumZoomOut : public AlbumPage {
  protected:
   void SetUp() override {
@@ -25,7 +25,7 @@ class AlbumZoomOut : public AlbumPage {
   CGRect title_frame_;
 };
 
-TEST_F(AlbumZoomOut, EverythingIsAsItWasAfterSevenTenths) {
+TEST_F(AlbumZoomOut, EverythingIsRestoredAfterSevenTenthsOfASecond) {
   tap_beside();
   EXPECT_TRUE(strip().isScrollEnabled());
   const auto gone = [this] { return !backdrop_of(two_); };
@@ -44,7 +44,7 @@ TEST_F(AlbumZoomOut, EverythingIsAsItWasAfterSevenTenths) {
   EXPECT_EQ(cover_of(two_).layer().cornerRadius(), 15);
 }
 
-TEST_F(AlbumZoomOut, FirstTheHeadingGoesThenTheTileThenTheBackdrop) {
+TEST_F(AlbumZoomOut, TheHeadingGoesFirstThenTheTileThenTheBackdrop) {
   const CGRect zoomed = two_.frame();
   const CALayer cover = cover_of(two_).layer();
   tap_beside();
@@ -67,7 +67,7 @@ TEST_F(AlbumZoomOut, FirstTheHeadingGoesThenTheTileThenTheBackdrop) {
   EXPECT_THAT(seconds_until([&] { return !backdrop_of(two_); }), IsSoonAfter(0.2));
 }
 
-TEST_F(AlbumZoomOut, AnotherAlbumCanBeZoomedThen) {
+TEST_F(AlbumZoomOut, AnotherAlbumCanBeZoomedAfterwards) {
   tap_beside();
   settle();
   zoom_in("One");
@@ -78,7 +78,7 @@ TEST_F(AlbumZoomOut, AnotherAlbumCanBeZoomedThen) {
   EXPECT_FALSE(backdrop_of(tile("One")));
 }
 
-TEST_F(AlbumZoomOut, ATapOnTheTileThatIsOnItsWayBackChangesNothing) {
+TEST_F(AlbumZoomOut, ATapOnTheShrinkingTileChangesNothing) {
   for (const double moment : {0.1, 0.3, 0.6}) {
     tap_beside();
     advance(moment);

@@ -5,7 +5,7 @@
 namespace host::test {
 namespace {
 
-/// A tap on an album's tile.
+/// Taps on an album's tile.
 class AlbumZoom : public AlbumPage {
  protected:
   void SetUp() override {
@@ -18,10 +18,10 @@ class AlbumZoom : public AlbumPage {
   }
 };
 
-TEST_F(AlbumZoom, TheTileGrowsToTheMiddleAndTheOthersFade) {
+TEST_F(AlbumZoom, TheTileGrowsToTheCentreAndTheOthersFade) {
   const UIView two = tile("Two");
   tap_on(two);
-  // The views are where they will be as soon as the animation begins; it takes its time.
+  // The views have their final frames as soon as the animation begins; the presentation follows.
   EXPECT_EQ(two, objc::cast<UIView>(strip().subviews().lastObject()));
   const auto shown = [&] { return two.layer().presentationLayer().frame(); };
   EXPECT_THAT(seconds_until([&] { return is_near(shown(), zoomed_frame()); }), IsSoonAfter(0.2));
@@ -40,7 +40,7 @@ TEST_F(AlbumZoom, TheStripStopsScrolling) {
   EXPECT_FALSE(strip().isScrollEnabled());
 }
 
-TEST_F(AlbumZoom, ThePlacesAreSaved) {
+TEST_F(AlbumZoom, TheFramesAreSaved) {
   const UIView one = tile("One");
   const CGRect places[] = {one.frame(), cover_of(one).frame(), title_of(one).frame()};
   zoom_in("One");
@@ -69,7 +69,7 @@ TEST_F(AlbumZoom, TheTitleBecomesAHeading) {
   EXPECT_EQ(text(title.text()), "One");
 }
 
-TEST_F(AlbumZoom, TheCornersGetRounderInStraightTime) {
+TEST_F(AlbumZoom, TheCornersGetRounderLinearly) {
   const CALayer cover = cover_of(tile("One")).layer();
   tap_on(tile("One"));
   EXPECT_EQ(cover.cornerRadius(), 15);
@@ -132,7 +132,7 @@ TEST_F(AlbumZoom, TheBackdropHasTheChosenBlur) {
   }
 }
 
-TEST_F(AlbumZoom, AnotherTilesTapIsIgnored) {
+TEST_F(AlbumZoom, ATapOnAnotherTileIsIgnored) {
   zoom_in("One");
   const CGRect saved = global<CGRect>("oldPos");
   const CGRect before = tile("Two").frame();
@@ -162,7 +162,7 @@ class ScrolledAlbumZoom : public AlbumZoom {
   }
 };
 
-TEST_F(ScrolledAlbumZoom, TheMiddleIsThatOfTheVisiblePart) {
+TEST_F(ScrolledAlbumZoom, GrowsToTheCentreOfTheVisiblePart) {
   strip().setContentOffset({0, 120});
   for (const UIView one : tiles()) {
     const CGPoint middle = one.convertPointToView(one.bounds().centre(), view("albums"));

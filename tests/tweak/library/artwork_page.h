@@ -4,7 +4,7 @@
 
 namespace host::test {
 
-/// The open panel at its first page while Alpha plays.
+/// The open panel on its first page while Alpha plays.
 class ArtworkPage : public PanelTest {
  protected:
   void SetUp() override {
@@ -17,7 +17,7 @@ class ArtworkPage : public PanelTest {
     advance(0.1);
     tap_on(view("art"));
   }
-  /// Slides the table of the playing album over the artwork.
+  /// Slides the playing album's table over the artwork.
   void show_table() {
     double_tap_on_artwork();
     settle();

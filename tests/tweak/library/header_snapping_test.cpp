@@ -3,7 +3,7 @@
 namespace host::test {
 namespace {
 
-/// The search field above the first row, let go half hidden.
+/// The search field above the first row, released while it is partly hidden.
 class HeaderSnapping : public SongPage {
  protected:
   void SetUp() override {
@@ -14,10 +14,10 @@ class HeaderSnapping : public SongPage {
     open_song_page();
   }
   CGFloat offset() const { return list().contentOffset().y; }
-  /// Drags the list until it stands at `wanted`, rests there and lets go; gives where it ends.
+  /// Drags the list to the offset `wanted`, rests there and releases it. Returns the final offset.
   CGFloat let_go_at(CGFloat wanted) {
     hold(middle_of(list()));
-    // The first points only make it a drag.
+    // The first points only start the drag.
     const CGFloat away = wanted < offset() ? 12 : -12;
     move_by(0, away);
     for (int step = 0; step < 100 && offset() != wanted; ++step)
@@ -35,27 +35,27 @@ TEST_F(HeaderSnapping, HidesWhenMoreThanHalfIsHidden) {
   EXPECT_EQ(let_go_at(30.5), kHeader);
 }
 
-TEST_F(HeaderSnapping, ComesOutWhenLessThanHalfIsHidden) {
+TEST_F(HeaderSnapping, AppearsWhenLessThanHalfIsHidden) {
   EXPECT_EQ(let_go_at(15), 0);
   EXPECT_EQ(let_go_at(1), 0);
 }
 
-TEST_F(HeaderSnapping, ExactlyHalfHiddenComesOut) {
+TEST_F(HeaderSnapping, AppearsWhenExactlyHalfIsHidden) {
   EXPECT_EQ(let_go_at(15.5), 0);
 }
 
-TEST_F(HeaderSnapping, BeyondTheHeaderTheListStaysWhereItIs) {
+TEST_F(HeaderSnapping, BeyondTheHeaderTheListStaysInPlace) {
   EXPECT_EQ(let_go_at(31), 31);
   EXPECT_EQ(let_go_at(50), 50);
   EXPECT_EQ(let_go_at(300), 300);
 }
 
-TEST_F(HeaderSnapping, GlidesToItsPlace) {
+TEST_F(HeaderSnapping, GlidesIntoPlace) {
   const auto source = objc::cast<NSObject>(list().delegate());
   const auto let_go = [&](BOOL decelerates) {
     objc::send<>(source, "scrollViewDidEndDragging:willDecelerate:"_sel, list(), decelerates);
   };
-  // Whether the list would glide on by itself or not.
+  // With and without deceleration.
   for (const BOOL decelerates : {YES, NO}) {
     list().setContentOffset({0, 16});
     let_go(decelerates);

@@ -11,7 +11,7 @@ using ::testing::Each;
 
 constexpr const char* kEmptyCover = "/Library/Application Support/Sonavue/empty_cover.png";
 
-/// Rows of the list of all songs, and of the table of the playing album, which look the same.
+/// Rows of the list of all songs and of the playing album's table. They look the same.
 class SongCell : public SongPage {
  protected:
   using MadeCell = MethodSpy<"initWithFrame:reuseIdentifier:",
@@ -28,7 +28,7 @@ class SongCell : public SongPage {
       found.push_back(text(path));
     return found;
   }
-  /// What the data source of a table gives for its first row whose song has that title.
+  /// The cell that a table's data source returns for the first song with that title.
   UITableViewCell cell_of(const char* table, const char* items, const std::string& title) const {
     const auto listed = titles(items);
     const auto row = std::find(listed.begin(), listed.end(), title) - listed.begin();
@@ -73,7 +73,7 @@ TEST_F(SongCell, HasTheLookOfBothTables) {
   }
 }
 
-TEST_F(SongCell, TakesTheTextsColourAtTheNextReload) {
+TEST_F(SongCell, TakesTheTextColourAtTheNextReload) {
   launch_blue();
   open_song_page();
   expect_look(cell(0));
@@ -82,7 +82,7 @@ TEST_F(SongCell, TakesTheTextsColourAtTheNextReload) {
     EXPECT_EQ(rgba(cell(row).textLabel().textColor()), (Rgba{0, 1, 0, 1}));
 }
 
-TEST_F(SongCell, IsMadeOnceAndUsedAgain) {
+TEST_F(SongCell, IsMadeOnceAndReused) {
   for (int song = 0; song < 60; ++song)
     add_title("Song " + std::to_string(song));
   list_cloud_songs();
@@ -139,7 +139,7 @@ TEST_F(SongCell, ArtworkThatCannotBeDrawnIsTheEmptyCover) {
   EXPECT_TRUE(shown.imageView().image());
 }
 
-TEST_F(SongCell, WithoutATitleSaysTheArtistAndWithoutEitherNoData) {
+TEST_F(SongCell, WithoutATitleShowsTheArtistAndWithoutEitherNoData) {
   const ToldProperty charlie("Charlie", MPMediaItemPropertyTitle, nil);
   const ToldProperty echo("Echo", MPMediaItemPropertyTitle, nil);
   const ToldProperty echo_by("Echo", MPMediaItemPropertyArtist, nil);
@@ -150,7 +150,7 @@ TEST_F(SongCell, WithoutATitleSaysTheArtistAndWithoutEitherNoData) {
               ::testing::UnorderedElementsAre("Alpha", "Bravo", "Delta", "Xenia", "No Data"));
 }
 
-TEST_F(SongCell, AUsedCellForgetsItsLastSong) {
+TEST_F(SongCell, AReusedCellForgetsItsPreviousSong) {
   launch();
   open_song_page();
   const auto picture = cell(row_of("Alpha")).imageView().image();

@@ -37,7 +37,7 @@ TEST_F(SongList, ATapPlaysTheSongWithTheWholeLibraryAsQueue) {
   EXPECT_EQ(sounding(), "Delta");
 }
 
-TEST_F(SongList, ATapOnAFoundSongPlaysItWithTheWholeLibraryAsQueue) {
+TEST_F(SongList, ATapOnAHitPlaysItWithTheWholeLibraryAsQueue) {
   open_while_playing("Alpha");
   tap_on_search();
   uikit::type_text("brav"_ns);
@@ -47,8 +47,8 @@ TEST_F(SongList, ATapOnAFoundSongPlaysItWithTheWholeLibraryAsQueue) {
   EXPECT_EQ(sounding(), "Charlie");
 }
 
-// Its place among all songs is no row of those that were found.
-TEST_F(SongList, AFoundSongThatPlaysLeavesWhatWasFound) {
+// The song's index among all songs is not a row of the hits.
+TEST_F(SongList, PlayingAHitKeepsTheHitsListed) {
   open_while_playing("Alpha");
   tap_on_search();
   uikit::type_text("elt"_ns);
@@ -60,7 +60,7 @@ TEST_F(SongList, AFoundSongThatPlaysLeavesWhatWasFound) {
   EXPECT_THAT(texts(), ElementsAre("Delta"));
 }
 
-TEST_F(SongList, ATapPlaysAPausedPlayer) {
+TEST_F(SongList, ATapResumesAPausedPlayer) {
   open_while_playing("Alpha");
   media().togglePlayPause();
   advance(1.1);
@@ -93,7 +93,7 @@ TEST_F(SongList, ATapLocksTheTransportForOneInterval) {
               static_cast<double>(global<float>("time_wait")) - 0.05, 1.5 * RunLoop::kFrame);
 }
 
-TEST_F(SongList, ATapWhileNothingIsLoadedLetsTheSystemPlay) {
+TEST_F(SongList, ATapWhileNothingIsLoadedStartsTheSystemsPlayer) {
   launch();
   open_song_page();
   ASSERT_EQ(global<UILabel>("title").text().length(), 0u);
@@ -116,7 +116,7 @@ TEST_F(SongList, AnEmptyTitleCountsAsNothingLoaded) {
   EXPECT_TRUE(is_engine_paused());
 }
 
-TEST_F(SongList, ATapSendsTheKeyboardAway) {
+TEST_F(SongList, ATapHidesTheKeyboard) {
   open_while_playing("Alpha");
   tap_on_search();
   ASSERT_TRUE(field().isFirstResponder());
@@ -131,7 +131,7 @@ TEST_F(SongList, RowsAreThirtyFivePointsHighBelowTheHeader) {
               (CGRect{0, kHeader + 35 * static_cast<CGFloat>(row), screen().width / 2, 35}));
 }
 
-TEST_F(SongList, ItsSourceAnswersWhatTablesAsk) {
+TEST_F(SongList, ItsSourceAnswersTheTablesMessages) {
   launch();
   const auto path = NSIndexPath::indexPathForRow(0, 0);
   EXPECT_STREQ(source().className().UTF8String(), "Musicz");
@@ -140,14 +140,14 @@ TEST_F(SongList, ItsSourceAnswersWhatTablesAsk) {
   EXPECT_FALSE(objc::send<BOOL>(source(), "tableView:canMoveRowAtIndexPath:"_sel, list(), path));
   EXPECT_FALSE(objc::send<BOOL>(source(), "tableView:shouldIndentWhileEditingRowAtIndexPath:"_sel,
                                 list(), path));
-  // Misspelt in the first version already, and so never asked for.
+  // Misspelled since the first version, so tables never call it.
   EXPECT_EQ(objc::send<NSInteger>(source(), "tableView:indentattionLevelForRowAtIndexPath:"_sel,
                                   list(), path),
             0);
   EXPECT_FALSE(source().respondsToSelector("tableView:indentationLevelForRowAtIndexPath:"_sel));
 }
 
-TEST_F(SongList, AFreshSourcePlaysARowAsWell) {
+TEST_F(SongList, ANewSourcePlaysARowAsWell) {
   launch();
   play("Alpha");
   const auto fresh = objc::send<NSObject>(

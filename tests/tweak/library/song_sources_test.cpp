@@ -6,8 +6,8 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// Five songs of the phone and two of the cloud: Bea, of the album "One", and Zoe, of one that has
-/// no song on the phone.
+/// Five songs on the phone and two in the cloud: Bea on the album "One", and Zoe on an album
+/// without songs on the phone.
 class SongSources : public ColouredPanel {
  protected:
   SongSources() {
@@ -29,7 +29,7 @@ class SongSources : public ColouredPanel {
   NSInteger rows() const { return global<UITableView>("tableView").numberOfRowsInSection(0); }
 };
 
-TEST_F(SongSources, SongsOfTheCloudAreListedOnlyWhenTheirSettingIsOn) {
+TEST_F(SongSources, CloudSongsAreListedOnlyWhenTheirSettingIsOn) {
   launch();
   ASSERT_EQ(library().size(), 7u);
   ASSERT_EQ(of_the_phone().size(), 5u);
@@ -43,7 +43,7 @@ TEST_F(SongSources, SongsOfTheCloudAreListedOnlyWhenTheirSettingIsOn) {
   EXPECT_EQ(rows(), 5);
 }
 
-TEST_F(SongSources, AtTheStartTheSettingDecidesToo) {
+TEST_F(SongSources, TheSettingAlsoDecidesAtLaunch) {
   write_preferences(switch_entry("cloud", true) + "<key>checked</key><true/>");
   launch();
   EXPECT_EQ(titles("songItems"), library());
@@ -61,7 +61,7 @@ TEST_F(SongSources, TheTableIsReloadedAfterTheSongsAreThere) {
   EXPECT_THAT(listed, ElementsAre(7u, 5u));
 }
 
-TEST_F(SongSources, WithTheCloudTheListIsANewOneAndWithoutItTheSameIsRefilled) {
+TEST_F(SongSources, WithTheCloudTheListIsANewArrayAndWithoutItTheSameIsRefilled) {
   launch();
   const auto before = global<NSMutableArray>("songItems");
   change_settings(switch_entry("square", true));
@@ -79,7 +79,7 @@ TEST_F(SongSources, HiddenSongsStayInTheQueue) {
   EXPECT_EQ(global<MPMediaQuery>("fullList").items().count(), 7u);
 }
 
-TEST_F(SongSources, AHiddenSongIsNoOtherSongOfTheAlbum) {
+TEST_F(SongSources, AHiddenSongIsNotAmongTheAlbumsOtherSongs) {
   launch();
   play("Alpha");
   EXPECT_THAT(titles("songArtist"), ElementsAre("Bravo", "Charlie"));

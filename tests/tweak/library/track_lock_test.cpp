@@ -29,7 +29,7 @@ TEST_P(TrackLock, ASecondTapIsRefusedForExactlyOneInterval) {
   EXPECT_TRUE(is("changeTrack"));
   tap_on(view("next"));
   EXPECT_EQ(sounding(), "Bravo");
-  // Two taps took 0.05 seconds each, the first of them before the lock.
+  // The two taps took 0.05 seconds each; the first of them was before the lock.
   EXPECT_NEAR(seconds_until([this] { return !is("changeTrack"); }), interval - 0.05,
               1.5 * RunLoop::kFrame);
   EXPECT_EQ(sounding(), "Bravo");
@@ -37,13 +37,13 @@ TEST_P(TrackLock, ASecondTapIsRefusedForExactlyOneInterval) {
   EXPECT_EQ(sounding(), "Charlie");
 }
 
-TEST_P(TrackLock, BackIsRefusedAfterNext) {
+TEST_P(TrackLock, BackIsIgnoredAfterNext) {
   tap_on(view("next"));
   tap_on(view("back"));
   EXPECT_EQ(sounding(), "Bravo");
 }
 
-TEST_P(TrackLock, EveryChangeLocksAnew) {
+TEST_P(TrackLock, EveryChangeLocksAgain) {
   const double interval = global<float>("time_wait");
   for (const char* title : {"Bravo", "Charlie", "Delta"}) {
     tap_on(view("next"));

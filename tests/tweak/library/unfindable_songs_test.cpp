@@ -3,9 +3,8 @@
 namespace host::test {
 namespace {
 
-/// Previous and next count from the row that is selected in the list of all songs. The panel
-/// selects the one whose title, artist and album are those of the playing song, as the user knows
-/// them: not every song can be told from the others by these.
+/// Previous and next start from the selected row in the list of all songs. The panel selects the
+/// row with the title, artist and album of the playing song, but these do not identify every song.
 class UnfindableSongs : public PanelTest {
  protected:
   void add_song_of(const char* artist, const char* album, const char* title,
@@ -22,7 +21,7 @@ class UnfindableSongs : public PanelTest {
     open_panel();
     ASSERT_EQ(sounding(), title);
   }
-  /// What sounds after a tap, when the panel has caught up with it.
+  /// The song that plays after the tap, once the panel has caught up.
   std::string after_tap_on(const char* control) {
     tap_on(view(control));
     advance(2.1);
@@ -31,42 +30,42 @@ class UnfindableSongs : public PanelTest {
   double elapsed() const { return global<double>("elapsed"); }
 };
 
-/// Delta, Echo, which is on no album, and Foxtrot.
+/// Delta, then Echo, which is on no album, then Foxtrot.
 class SongOfNoAlbum : public UnfindableSongs {
  protected:
   void SetUp() override { add_song_of("Yves", "Two", "Foxtrot", "Foxtrot"); }
 };
 
-TEST_F(SongOfNoAlbum, IsWhereNextGoesAgainAndAgain) {
+TEST_F(SongOfNoAlbum, NextReturnsToItAgainAndAgain) {
   open_with("Delta");
   EXPECT_EQ(after_tap_on("next"), "Echo");
   advance(10);
   ASSERT_GT(elapsed(), 10);
   EXPECT_EQ(after_tap_on("next"), "Echo");
   EXPECT_LT(elapsed(), 5);
-  // Delta's row is still the selected one.
+  // Delta's row is still selected.
   EXPECT_EQ(after_tap_on("back"), "Charlie");
 }
 
-TEST_F(SongOfNoAlbum, IsWhereBackGoesAgainAndAgain) {
+TEST_F(SongOfNoAlbum, BackReturnsToItAgainAndAgain) {
   open_with("Foxtrot");
   EXPECT_EQ(after_tap_on("back"), "Echo");
   EXPECT_EQ(after_tap_on("back"), "Echo");
 }
 
-/// Alpha, Bravo, the same Bravo from another file, and Charlie.
+/// Alpha, Bravo, Bravo again from another file, and Charlie.
 class SongTwice : public UnfindableSongs {
  protected:
   void SetUp() override { add_song_of("Xenia", "One", "Bravo", "Bravo again"); }
 };
 
-TEST_F(SongTwice, IsPassedOverByNext) {
+TEST_F(SongTwice, IsSkippedByNext) {
   open_with("Alpha");
   EXPECT_EQ(after_tap_on("next").substr(0, 5), "Bravo");
   EXPECT_EQ(after_tap_on("next"), "Charlie");
 }
 
-TEST_F(SongTwice, IsWhereBackStops) {
+TEST_F(SongTwice, StopsBack) {
   open_with("Charlie");
   EXPECT_EQ(after_tap_on("back").substr(0, 5), "Bravo");
   const std::string first = after_tap_on("back");

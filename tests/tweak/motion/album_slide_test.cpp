@@ -3,12 +3,12 @@
 namespace host::test {
 namespace {
 
-/// The blurred table's way over the artwork and out of it.
+/// The blurred table slides over the artwork and out again.
 class AlbumSlide : public ArtworkPage {
  protected:
   CGFloat x() const { return frame("blurTable").origin.x; }
   CGFloat shown_x() const { return view("blurTable").layer().presentationLayer().frame().origin.x; }
-  /// The places that it is sent to, each with the time at which it sets out for it.
+  /// One target position, with the time at which the movement to it starts.
   struct Leg {
     CGFloat x;
     double at;
@@ -33,20 +33,20 @@ TEST_F(AlbumSlide, ComesInWithADampedBounce) {
   ASSERT_EQ(legs.size(), std::size(expected));
   for (std::size_t i = 0; i < legs.size(); ++i) {
     EXPECT_EQ(legs[i].x, expected[i].x);
-    // A leg begins when a frame sees the end of the one before.
+    // A leg starts at the frame that sees the end of the previous one.
     EXPECT_NEAR(legs[i].at, expected[i].at, 0.02 * static_cast<double>(i) + 1e-9);
   }
   EXPECT_EQ(frame("blurTable"), (CGRect{{0, before.origin.y}, before.size}));
 }
 
-TEST_F(AlbumSlide, TheLastLegTakesItsTime) {
+TEST_F(AlbumSlide, TheLastLegHasItsDuration) {
   switch_table();
   seconds_until([this] { return x() == 0; });
   EXPECT_THAT(seconds_until([this] { return std::abs(shown_x()) < 1e-6; }), ::testing::Lt(0.17));
   EXPECT_THAT(shown_x(), IsNear(0.0));
 }
 
-TEST_F(AlbumSlide, GoesOutStraightInAFifthOfASecond) {
+TEST_F(AlbumSlide, SlidesOutDirectlyInAFifthOfASecond) {
   show_table();
   const CGFloat width = frame("blurTable").size.width;
   const auto legs = legs_of([this] { switch_table(); }, 0);
@@ -61,12 +61,12 @@ TEST_F(AlbumSlide, GoesOutStraightInAFifthOfASecond) {
   EXPECT_EQ(x(), width);
 }
 
-TEST_F(AlbumSlide, ADoubleTapSendsItBothWays) {
+TEST_F(AlbumSlide, ADoubleTapSlidesItInAndOut) {
   double_tap_on_artwork();
   EXPECT_EQ(x(), -20);
   settle();
   EXPECT_EQ(x(), 0);
-  // A tap on the table is the artwork's as well.
+  // A tap on the table also counts for the artwork.
   const CGPoint below_rows{middle_of(view("art")).x, middle_of(view("art")).y + 80};
   tap(below_rows);
   advance(0.1);
@@ -74,7 +74,7 @@ TEST_F(AlbumSlide, ADoubleTapSendsItBothWays) {
   EXPECT_EQ(x(), frame("blurTable").size.width);
 }
 
-TEST_F(AlbumSlide, WhatSendsItAsideEndsTheBounce) {
+TEST_F(AlbumSlide, MovingItAsideEndsTheBounce) {
   const std::function<void()> ways[] = {
       [this] { objc::send<>(application, "playStop"_sel); },
       [this] { objc::send<>(application, "dismisWithNoAction"_sel); },
@@ -88,7 +88,7 @@ TEST_F(AlbumSlide, WhatSendsItAsideEndsTheBounce) {
   }
 }
 
-TEST_F(AlbumSlide, TwiceDuringTheBounceThereIsOneBounce) {
+TEST_F(AlbumSlide, TwoCallsDuringTheBounceGiveOneBounce) {
   switch_table();
   advance(0.3);
   const auto legs = legs_of([this] { switch_table(); }, 1.5);

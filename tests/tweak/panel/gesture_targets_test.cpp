@@ -22,7 +22,7 @@ TEST_F(GestureTargets, ATapOnTheTwinSharesTheSong) {
   EXPECT_TRUE(is("isShow"));
 }
 
-TEST_F(GestureTargets, ATapOnTheRingIsOneTapOnPlay) {
+TEST_F(GestureTargets, ATapOnTheRingCountsAsATapOnPlay) {
   const MethodSpy<"playStop", void(SpringBoard)> toggled(SpringBoard::cls());
   tap_on(view("ring"));
   EXPECT_EQ(toggled.count(), 1);
@@ -39,10 +39,10 @@ TEST_F(GestureTargets, OneTapOnTheArtworkShowsNoTableAndTwoDo) {
   EXPECT_EQ(shown.count(), 1);
 }
 
-TEST_F(GestureTargets, ThePanOfTheGrabberIsTheBanners) {
+TEST_F(GestureTargets, ThePanOnTheGrabberMovesTheBanner) {
   const MethodSpy<"presentBanner:", void(SpringBoard, objc::Object)> pulled(SpringBoard::cls());
   view("grabbers").setHidden(NO);
-  // Above the screen's edge, where the control centre begins.
+  // Above the screen's edge, where a touch would bring the control centre.
   const CGPoint middle = middle_of(view("grabbers"));
   hold({middle.x, middle.y - 6});
   move_by(0, -12);

@@ -30,19 +30,19 @@ class IdleLayout : public PanelTest {
   std::vector<CGRect> compact_;
 };
 
-TEST_F(IdleLayout, IsInForceAtFirstAndStaysWithoutMusic) {
+TEST_F(IdleLayout, IsUsedAtFirstAndKeptWithoutMusic) {
   advance(5);
   EXPECT_TRUE(is("hide"));
   expect_controls_lowered_by(0);
   EXPECT_EQ(alpha("container1"), 0);
 }
 
-TEST_F(IdleLayout, GivesWayToTheTextsWhenASongPlays) {
+TEST_F(IdleLayout, IsReplacedByTheTextsWhenASongPlays) {
   play("Alpha");
   EXPECT_FALSE(is("hide"));
   expect_controls_lowered_by(kLift);
   EXPECT_EQ(alpha("container1"), 1);
-  // Only once, however long the song goes on.
+  // Only once, however long the song plays.
   advance(5);
   expect_controls_lowered_by(kLift);
 }
@@ -57,7 +57,7 @@ TEST_F(IdleLayout, ComesBackWhenPlayingStops) {
   expect_controls_lowered_by(0);
 }
 
-TEST_F(IdleLayout, RestingPlacesFollowWhenTheChangeIsDone) {
+TEST_F(IdleLayout, RestingPositionsFollowAfterTheChange) {
   for (const char* place : {"firstPlay1", "firstBack1", "firstNext1"})
     global<float>(place) = 100;
   play("Alpha");
@@ -70,7 +70,7 @@ TEST_F(IdleLayout, RestingPlacesFollowWhenTheChangeIsDone) {
     EXPECT_EQ(global<float>(place), 100) << place;
 }
 
-TEST_F(IdleLayout, TheChangeTakesItsTimeBothWays) {
+TEST_F(IdleLayout, TheChangeHasItsDurationBothWays) {
   const auto refresh = [this] { objc::send<>(application, "infoMusic"_sel); };
   const auto resting = [this] { return global<float>("firstPlay1"); };
   play("Alpha");
@@ -82,7 +82,7 @@ TEST_F(IdleLayout, TheChangeTakesItsTimeBothWays) {
   }
 }
 
-TEST_F(IdleLayout, AWindowOnItsWayOnlyShowsAndHidesTheTexts) {
+TEST_F(IdleLayout, InAMovingWindowOnlyTheTextsChange) {
   const CGRect half_way{0, -300, screen().width, screen().height};
   view("window").setFrame(half_way);
   play("Alpha");
@@ -95,7 +95,7 @@ TEST_F(IdleLayout, AWindowOnItsWayOnlyShowsAndHidesTheTexts) {
   expect_controls_lowered_by(0);
 }
 
-TEST_F(IdleLayout, AHangingBannerChangesItsHeightInsteadOfItsControls) {
+TEST_F(IdleLayout, AHangingBannerChangesItsHeightAndNotItsControls) {
   const CGFloat height = screen().height;
   global<BOOL>("isBanner") = YES;
   view("window").setFrame({0, -300, screen().width, height});
@@ -115,7 +115,7 @@ class SmallIdleLayout : public PanelTest {
   SmallIdleLayout() : PanelTest("iPhone4,1") {}
 };
 
-TEST_F(SmallIdleLayout, AHangingBannerIsShorterWhereThereIsNoAllowance) {
+TEST_F(SmallIdleLayout, AHangingBannerIsShorterWithoutAnAllowance) {
   launch();
   global<BOOL>("isBanner") = YES;
   view("window").setFrame({0, -300, 320, 480});

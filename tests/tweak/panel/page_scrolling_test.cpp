@@ -19,7 +19,7 @@ void PrintTo(const Screen& screen, std::ostream* out) {
   *out << screen.model;
 }
 
-/// The open panel of a playing phone, whose pages are turned.
+/// The open panel of a phone that plays a song, whose pages are turned.
 class PageScrolling : public PanelTest {
  protected:
   explicit PageScrolling(std::string_view model = kDefaultDevice) : PanelTest(model) {}
@@ -36,14 +36,14 @@ class PageScrolling : public PanelTest {
 
   UIScrollView pages() const { return global<UIScrollView>("container"); }
   CGFloat x() const { return pages().contentOffset().x; }
-  /// Touches the pages as every turn of them begins, so that the places are recorded.
+  /// Touches the pages as at the start of every page turn, so that the positions are saved.
   void begin_drag_of_pages() {
     hold({screen().width / 2, middle_of(view("container")).y});
     move_by(-12, 0);
   }
   void record_places() {
     begin_drag_of_pages();
-    // Rested, so that the pages are not flicked.
+    // Rest, so that the release is not a flick.
     advance(0.5);
     lift();
     settle();
@@ -58,7 +58,7 @@ class PageScrolling : public PanelTest {
     settle();
   }
 
-  /// Where the controls stand at an offset: the same place of the screen, lower by the sunken part.
+  /// Expects the controls at the same place on the screen for every offset, but lower by `fall`.
   void expect_controls_at(CGFloat offset, CGFloat fall) const {
     const CGFloat width = screen().width;
     const std::map<std::string, CGFloat> places = {
@@ -96,7 +96,7 @@ std::string name_of_screen(const ::testing::TestParamInfo<Screen>& info) {
   return name;
 }
 
-// The iPad counts as of the fourth generation, too.
+// The iPad also counts as fourth generation.
 INSTANTIATE_TEST_SUITE_P(, EveryPageScrolling,
                          ::testing::Values(Screen{"iPhone4,1", 3.5, false},
                                            Screen{"iPhone5,1", 3.5, true},
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(, EveryPageScrolling,
                                            Screen{"iPad4,1", 3.5, false}),
                          name_of_screen);
 
-TEST_P(EveryPageScrolling, HoldsTheControlsSinksThemAndRaisesTheIcon) {
+TEST_P(EveryPageScrolling, KeepsTheControlsInPlaceSinksThemAndRaisesTheIcon) {
   const auto [model, divisor, sinks] = GetParam();
   record_places();
   const CGFloat width = screen().width;
@@ -136,7 +136,7 @@ TEST_P(EveryPageScrolling, ARealTurnEndsWhereTheFormulasSay) {
 
 class Pages : public PageScrolling {};
 
-TEST_F(Pages, ADragFromTheArtworkRecordsThePlaces) {
+TEST_F(Pages, ADragFromTheArtworkSavesThePositions) {
   for (const char* place : {"firstBack1", "firstPlay1", "firstNext1", "firstContainer1"})
     global<float>(place) = -1;
   global<CGRect>("firstMusic") = {};
@@ -152,7 +152,7 @@ TEST_F(Pages, ADragFromTheArtworkRecordsThePlaces) {
   lift();
 }
 
-TEST_F(Pages, PlacesThatAreRecordedWhileTheControlsMoveAreNotMovedOnceMore) {
+TEST_F(Pages, PositionsSavedWhileTheControlsMoveAreNotShiftedAgain) {
   media().togglePlayPause();
   ASSERT_GE(seconds_until([this] { return is("hide"); }), 0);
   begin_drag_of_pages();
@@ -164,7 +164,7 @@ TEST_F(Pages, PlacesThatAreRecordedWhileTheControlsMoveAreNotMovedOnceMore) {
   EXPECT_THAT(static_cast<CGFloat>(global<float>("firstPlay1")), IsNear(frame("play").origin.y));
 }
 
-TEST_F(Pages, ADragFromAnotherPageRecordsNothing) {
+TEST_F(Pages, ADragFromAnotherPageSavesNothing) {
   turn_page(1);
   const float places[] = {global<float>("firstBack1"), global<float>("firstPlay1"),
                           global<float>("firstNext1"), global<float>("firstContainer1")};
@@ -179,14 +179,14 @@ TEST_F(Pages, ADragFromAnotherPageRecordsNothing) {
   EXPECT_EQ(global<float>("firstContainer1"), places[3]);
   EXPECT_EQ(global<CGRect>("firstMusic"), twin);
   EXPECT_EQ(global<CGRect>("firstMusicIcon"), icon_);
-  // And from a place between two pages, however near.
+  // Nor does one from between two pages, however near.
   pages().setContentOffset({0.5, 0});
   objc::send<>(pages().delegate(), "scrollViewWillBeginDragging:"_sel, pages());
   EXPECT_EQ(global<float>("firstPlay1"), places[1]);
 }
 
-TEST_F(Pages, TheArtworksPlaceDecidesWhichPageIsItsOwn) {
-  // Aside by a quarter of the screen, the artwork is in the middle at that offset.
+TEST_F(Pages, TheArtworksFrameDecidesWhichPageIsItsOwn) {
+  // With the artwork moved aside by a quarter of the screen, this offset centres it.
   const CGFloat aside = screen().width / 4;
   const CGRect art = frame("art");
   view("art").setFrame({{art.origin.x + aside, art.origin.y}, art.size});
@@ -202,7 +202,7 @@ TEST_F(Pages, TheArtworksPlaceDecidesWhichPageIsItsOwn) {
   EXPECT_EQ(begin_at(0), -1);
 }
 
-TEST_F(Pages, TheBannerKeepsTheIconsPlaceButNotTheTwins) {
+TEST_F(Pages, TheBannerMovesTheTwinButNotTheIcon) {
   record_places();
   global<BOOL>("isBanner") = YES;
   pages().setContentOffset({screen().width, 0});
@@ -211,7 +211,7 @@ TEST_F(Pages, TheBannerKeepsTheIconsPlaceButNotTheTwins) {
   expect_controls_at(screen().width, 3.5 * std::sqrt(screen().width));
 }
 
-TEST_F(Pages, ControlsStandStillOnTheScreenWhilePagesMove) {
+TEST_F(Pages, ControlsStayInPlaceOnTheScreenWhilePagesMove) {
   begin_drag_of_pages();
   const CGFloat play = middle_of(view("play")).x;
   const CGFloat back = middle_of(view("back")).x;

@@ -4,7 +4,7 @@
 namespace host::test {
 namespace {
 
-/// What holds in each state of the panel, whichever way it was come to.
+/// The invariants of each state of the panel, however it was reached.
 class PanelState : public DragTest {
  protected:
   struct Held {
@@ -51,7 +51,7 @@ class PanelState : public DragTest {
 };
 SONAVUE_ON_EVERY_SCREEN(PanelState);
 
-TEST_P(PanelState, HoldsItsTableOnTheWayOutAndHome) {
+TEST_P(PanelState, HoldsFromTheDragOutToTheClosing) {
   expect_closed();
   drag_out();
   springboard::press_home();
@@ -70,7 +70,7 @@ TEST_P(PanelState, HoldsItsTableOnTheWayOutAndHome) {
   drag_out();
 }
 
-TEST_P(PanelState, HoldsItsTableOnTheWayOutAndDraggedBack) {
+TEST_P(PanelState, HoldsFromTheDragOutToTheDragBack) {
   drag_out();
   hold(middle_of(view("music")));
   move_by(0, 12);

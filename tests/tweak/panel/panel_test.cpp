@@ -121,7 +121,7 @@ void PanelTest::start_music() const {
 
 void PanelTest::load_extension() {
   ASSERT_TRUE(foundation::loaded_libraries().empty())
-      << "each of these tests needs a process of its own; run them by ctest";
+      << "each of these tests needs its own process; run them with ctest";
   start_music();
   const auto loaded = foundation::load_libraries("com.apple.springboard", "SpringBoard");
   ASSERT_EQ(loaded.size(), 1u);
@@ -204,7 +204,7 @@ void PanelTest::play(MPMediaItem item) {
   player.setNowPlayingItem(item);
   player.prepareToPlay();
   player.play();
-  // Long enough for the refresh of every second to see it.
+  // Long enough for the refresh, which runs every second.
   advance(1.1);
 }
 

@@ -53,12 +53,12 @@ class ViewLook : public PanelTest {
   }
 };
 
-TEST_F(ViewLook, TheWindowsViewsAreInTheirOrder) {
+TEST_F(ViewLook, TheWindowsViewsAreInOrder) {
   EXPECT_EQ(subviews("window"), named({"cover", "container", "music"}));
   EXPECT_EQ(subviews("cover"), named({"main", "grabbers"}));
 }
 
-TEST_F(ViewLook, ThePagesViewsAreInTheirOrder) {
+TEST_F(ViewLook, ThePagesViewsAreInOrder) {
   const std::vector<UIView> found = subviews("container");
   const std::vector<UIView> first = {found.begin(), found.begin() + 6};
   EXPECT_EQ(first, named({"art", "container1", "play", "back", "next", "tableView"}));
@@ -79,7 +79,7 @@ TEST_F(ViewLook, EveryOtherViewHasItsParent) {
   EXPECT_TRUE(view("search_icon").isDescendantOfView(view("searchBar")));
 }
 
-TEST_F(ViewLook, NothingOfItCanBeSeen) {
+TEST_F(ViewLook, NothingIsVisible) {
   EXPECT_EQ(alpha("cover"), 0);
   EXPECT_EQ(alpha("container"), 0);
   EXPECT_EQ(alpha("container1"), 0);
@@ -88,7 +88,7 @@ TEST_F(ViewLook, NothingOfItCanBeSeen) {
   EXPECT_TRUE(is_white(view("window").backgroundColor(), 0, 0));
 }
 
-TEST_F(ViewLook, TheBlursBeginWithThePasscodesLook) {
+TEST_F(ViewLook, TheBlursStartWithThePasscodeLook) {
   for (const char* name : {"main", "blurTable"}) {
     const auto settings = global<_UIBackdropView>(name).inputSettings();
     EXPECT_EQ(class_of(settings), "_UIBackdropViewSettingsPasscodePaddle") << name;
@@ -116,7 +116,7 @@ TEST_F(ViewLook, TextsAreCentredInTheSystemsLightFace) {
   EXPECT_EQ(global<UILabel>("title").font().pointSize(), 15);
 }
 
-TEST_F(ViewLook, PicturesTakeTheTintOfTheirViews) {
+TEST_F(ViewLook, PicturesUseTheTintOfTheirViews) {
   for (const char* name : {"play", "back", "next"}) {
     const UIImage picture = global<UIButton>(name).imageForState(UIControlStateNormal);
     ASSERT_TRUE(picture) << name;
@@ -129,7 +129,7 @@ TEST_F(ViewLook, PicturesTakeTheTintOfTheirViews) {
   }
 }
 
-TEST_F(ViewLook, EachPictureIsItsOwn) {
+TEST_F(ViewLook, EveryPictureIsADifferentOne) {
   const auto pixels = [](UIImage image) {
     const CFDataRef data = CGDataProviderCopyData(CGImageGetDataProvider(image.CGImage()));
     const auto bytes = reinterpret_cast<const char*>(CFDataGetBytePtr(data));
@@ -152,7 +152,7 @@ TEST_F(ViewLook, EachPictureIsItsOwn) {
   EXPECT_EQ(pixels(global<UIImageView>("search_icon").image()), of_file("search@2x.png"_ns));
 }
 
-TEST_F(ViewLook, TheSearchFieldIsRoundDarkAndSaysSearch) {
+TEST_F(ViewLook, TheSearchFieldIsRoundAndDarkWithThePlaceholderSearch) {
   const auto field = global<UITextField>("searchBar");
   EXPECT_EQ(field.layer().cornerRadius(), 5);
   EXPECT_TRUE(field.clipsToBounds());
@@ -201,7 +201,7 @@ TEST_F(ViewLook, PagesTurnOneByOneForTheirDelegate) {
             "MusicsAlbum");
 }
 
-TEST_F(ViewLook, TheListHoldsTheWholeLibrary) {
+TEST_F(ViewLook, TheListContainsTheWholeLibrary) {
   EXPECT_THAT(titles("songItems"),
               ::testing::UnorderedElementsAre("Alpha", "Bravo", "Charlie", "Delta", "Echo"));
   EXPECT_EQ(global<MPMediaQuery>("fullList").items().count(), 5u);
@@ -210,7 +210,7 @@ TEST_F(ViewLook, TheListHoldsTheWholeLibrary) {
 
 class BlurAtTheLaunch : public PanelTest {};
 
-TEST_F(BlurAtTheLaunch, IsAskedForByItsNumber) {
+TEST_F(BlurAtTheLaunch, IsRequestedByItsNumber) {
   load_extension();
   using Settings = _UIBackdropViewSettingsPasscodePaddle;
   const MethodSpy<"settingsForStyle:", objc::Object(objc::Object, NSInteger)> asked(

@@ -15,7 +15,7 @@ class ViewTree : public PanelTest, public ::testing::WithParamInterface<const ch
   ViewTree() : PanelTest(GetParam()) {}
 
   void SetUp() override {
-    // The songs would move the controls into the layout of a playing phone.
+    // A song would move the controls to the layout for playing.
     launch();
     width = screen().width;
     height = screen().height;
@@ -65,12 +65,12 @@ TEST_P(ViewTree, PagesAndArtwork) {
   EXPECT_THAT(global<UIScrollView>("container").contentSize(),
               IsNear(CGSize{3 * width, 3 * height / 4 - 20}));
   EXPECT_THAT(frame("art"), IsNear(CGRect{width / 6, 11, 2 * width / 3, 2 * width / 3}));
-  // The album's table waits outside the artwork, at its right.
+  // The album's table is outside the artwork, to its right.
   EXPECT_THAT(frame("blurTable"), IsNear(CGRect{2 * width / 3, 0, 2 * width / 3, 2 * width / 3}));
   EXPECT_THAT(frame("tablev"), IsNear(CGRect{0, 0, 2 * width / 3, 2 * width / 3}));
 }
 
-TEST_P(ViewTree, TextsStandBelowTheArtwork) {
+TEST_P(ViewTree, TextsAreBelowTheArtwork) {
   const CGFloat bottom_of_artwork = 11 + 2 * width / 3;
   EXPECT_THAT(frame("container1"), IsNear(CGRect{0, bottom_of_artwork + 10, width, 45}));
   EXPECT_THAT(frame("title"), IsNear(CGRect{0, 0, width, 20}));
@@ -79,7 +79,7 @@ TEST_P(ViewTree, TextsStandBelowTheArtwork) {
   EXPECT_LE(frame("artist").max_y(), 45);
 }
 
-TEST_P(ViewTree, ControlsAreLiftedIntoThePlaceOfTheTexts) {
+TEST_P(ViewTree, ControlsAreLiftedToWhereTheTextsAre) {
   const CGFloat below = frame("container1").max_y();
   const CGFloat left = width / 6;
   const CGFloat right = width / 6 + 2 * width / 3;
@@ -102,8 +102,8 @@ TEST_P(ViewTree, TheListOfSongsIsOnTheSecondPage) {
   EXPECT_EQ(table.contentOffset(), (CGPoint{0, 31}));
 }
 
-TEST_P(ViewTree, TheGrabberHangsAboveTheBackdropsBottom) {
-  // On the backdrop, whose middle is the screen's and whose top is the window's.
+TEST_P(ViewTree, TheGrabberIsAtTheBackdropsBottom) {
+  // In the coordinates of the backdrop, which covers the screen.
   EXPECT_EQ(frame("grabbers").origin.y, frame("cover").max_y() - 20);
   const CGSize bar = frame("grabbers").size;
   EXPECT_EQ(bar.width, frame("cover").size.width);
@@ -120,7 +120,7 @@ TEST_P(ViewTree, TheAlbumStripIsOnTheThirdPageWithItsLines) {
               IsNear(CGRect{strip.min_x(), strip.max_y() - 1, strip.size.width, 1}));
 }
 
-/// A screen that makes the list of songs shorter, and by how much.
+/// A screen on which the list of songs is shorter, and by how much.
 struct SmallScreen {
   DeviceModel model;
   CGFloat shorter;

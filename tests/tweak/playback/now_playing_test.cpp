@@ -28,7 +28,7 @@ class NowPlaying : public PanelTest {
   }
   void refresh() { objc::send<>(application, "infoMusic"_sel); }
 
-  /// Which of the button's pictures was last loaded while `act` ran; empty when none was.
+  /// Which of the button's pictures was last loaded while `act` ran; empty if none was.
   std::string picture_loaded_by(const std::function<void()>& act) {
     MethodSpy<"imageWithContentsOfFile:", UIImage(NSObject, NSString)> loaded(
         objc::class_of(reinterpret_cast<objc::Id>(UIImage::cls())));
@@ -46,7 +46,7 @@ class NowPlaying : public PanelTest {
   }
 };
 
-TEST_F(NowPlaying, TheFirstRefreshDrawsTheButtonWhateverTheState) {
+TEST_F(NowPlaying, TheFirstRefreshAlwaysDrawsTheButton) {
   load_extension();
   ASSERT_EQ(global<int>("lastState"), 99);
   PhoneTest::launch();
@@ -105,7 +105,7 @@ TEST_F(NowPlaying, TitleAndArtistAreTheSongs) {
   EXPECT_EQ(label("artist"), "Xenia");
 }
 
-TEST_F(NowPlaying, TheArtworkIsShownAndASongWithoutOneShowsNone) {
+TEST_F(NowPlaying, TheArtworkIsShownIfTheSongHasOne) {
   launch();
   play("Alpha");
   ASSERT_TRUE(artwork());
@@ -155,7 +155,7 @@ TEST_F(NowPlaying, ThePlayingSongIsSelectedAndMissingFromItsAlbum) {
   EXPECT_THAT(titles("songArtist"), ::testing::IsEmpty());
 }
 
-TEST_F(NowPlaying, ASongOfTheSameNameIsTakenForThePlayingOneOnlyByItsArtistAndAlbum) {
+TEST_F(NowPlaying, ASongWithTheSameTitleNeedsTheSameArtistAndAlbumToBeSelected) {
   const auto song = [](const char* artist, const char* album) {
     media::SongTags tags;
     tags.title = "Alpha";
@@ -181,7 +181,7 @@ TEST_F(NowPlaying, ASongOfTheSameNameIsTakenForThePlayingOneOnlyByItsArtistAndAl
   }
 }
 
-TEST_F(NowPlaying, ASongOfNoAlbumMatchesNothing) {
+TEST_F(NowPlaying, ASongWithoutAnAlbumMatchesNothing) {
   launch();
   play("Echo");
   EXPECT_EQ(label("title"), "Echo");
@@ -189,7 +189,7 @@ TEST_F(NowPlaying, ASongOfNoAlbumMatchesNothing) {
   EXPECT_THAT(titles("songArtist"), ::testing::IsEmpty());
 }
 
-TEST_F(NowPlaying, AResumeRebuildsTheAlbumsList) {
+TEST_F(NowPlaying, ResumingRebuildsTheAlbumList) {
   launch();
   play("Bravo");
   advance(20);
@@ -204,7 +204,7 @@ TEST_F(NowPlaying, AResumeRebuildsTheAlbumsList) {
   EXPECT_FALSE(is("did"));
 }
 
-TEST_F(NowPlaying, WithoutNewsTheAlbumsListIsLeftAlone) {
+TEST_F(NowPlaying, WithoutAChangeTheAlbumListIsNotRebuilt) {
   launch();
   play("Bravo");
   global<NSMutableArray>("songArtist").removeAllObjects();
@@ -221,22 +221,22 @@ class RingInTime : public NowPlaying {
   float progress() const { return objc::send<float>(view("ring"), "progress"_sel); }
 };
 
-TEST_F(RingInTime, GoesOnBySecondsAndStopsAtTheWhole) {
+TEST_F(RingInTime, AdvancesBySecondsAndStopsAtTheEnd) {
   play("Bravo");
-  // Half a second behind each refresh the ring has come to rest.
+  // Half a second after each refresh the ring is at rest.
   advance(0.5);
   const float start = progress();
   for (int second = 1; second <= 5; ++second) {
     advance(1);
     EXPECT_NEAR(progress(), start + second / kSongSeconds, 1e-4);
   }
-  // The system does not say that the song is over; the panel's count goes no further than its end.
+  // The system does not report the end of the song; the panel's count stops there.
   global<double>("elapsed") = kSongSeconds - 0.5;
   advance(1);
   EXPECT_EQ(progress(), 1);
 }
 
-TEST_F(RingInTime, TheSystemsNewsCorrectsTheCount) {
+TEST_F(RingInTime, TheSystemsReportCorrectsTheCount) {
   play("Bravo");
   advance(5);
   media().togglePlayPause();
@@ -253,7 +253,7 @@ TEST_F(RingInTime, TheSystemsNewsCorrectsTheCount) {
   EXPECT_EQ(moved.last(), std::tuple(static_cast<float>(reported / kSongSeconds), YES));
 }
 
-TEST_F(RingInTime, IsLeftToTheVolumeOtherwise) {
+TEST_F(RingInTime, OtherwiseIsLeftToTheVolume) {
   write_preferences(std::string("<key>play</key><string>volume</string>") + kMarkedFile);
   MethodSpy<"setProgress:animated:", void(UIView, float, BOOL)> moved(
       objc::class_of(view("ring").id()));

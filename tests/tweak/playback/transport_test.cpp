@@ -26,7 +26,7 @@ class Transport : public PanelTest {
   void wait_for_the_lock() { advance(global<float>("time_wait") + 0.05); }
 };
 
-TEST_F(Transport, ATapOnPlayPausesAndPlaysWhatSounds) {
+TEST_F(Transport, ATapOnPlayPausesAndResumesTheSong) {
   tap_on(view("play"));
   EXPECT_TRUE(is_engine_paused());
   EXPECT_FALSE(media().isPlaying());
@@ -82,7 +82,7 @@ TEST_F(Transport, ATrackChangeQueuesTheLibraryBeforeItPlaysTheRow) {
     EXPECT_EQ(query, global<MPMediaQuery>("fullList"));
   wait_for_the_lock();
 
-  // A player that does not play is started first.
+  // A paused player is started first.
   tap_on(view("play"));
   ASSERT_FALSE(media().isPlaying());
   heard.clear();
@@ -102,7 +102,7 @@ TEST_F(Transport, ATapOnAButtonDoesNotCloseThePanel) {
   }
 }
 
-TEST_F(Transport, APausedPlayerPlaysOnWithTheNextSong) {
+TEST_F(Transport, APausedPlayerResumesWithTheNextSong) {
   tap_on(view("play"));
   ASSERT_TRUE(is_engine_paused());
   advance(1.1);
@@ -132,7 +132,7 @@ TEST_F(Transport, TheEndOfTheLockSlidesTheAlbumTableAside) {
   EXPECT_EQ(table.frame().origin.x, table.frame().size.width);
 }
 
-TEST_F(Transport, NothingIsDoneWhileTheBannerIsDragged) {
+TEST_F(Transport, IsIgnoredWhileTheBannerIsDragged) {
   global<BOOL>("isGrabbing") = YES;
   tap_on(view("play"));
   EXPECT_FALSE(is_engine_paused());
@@ -149,7 +149,7 @@ class TransportAtTheFirstSong : public Transport {
   void SetUp() override { open_with("Alpha"); }
 };
 
-TEST_F(TransportAtTheFirstSong, BackGoesRoundToTheLast) {
+TEST_F(TransportAtTheFirstSong, BackWrapsAroundToTheLast) {
   ASSERT_EQ(selected_row(), 0);
   tap_on(view("back"));
   EXPECT_EQ(sounding(), "Echo");
@@ -160,8 +160,8 @@ class TransportAtTheLastSong : public Transport {
   void SetUp() override { open_with("Echo"); }
 };
 
-TEST_F(TransportAtTheLastSong, NextGoesRoundToTheFirst) {
-  // A song of no album selects no row by itself.
+TEST_F(TransportAtTheLastSong, NextWrapsAroundToTheFirst) {
+  // A song without an album selects no row by itself.
   global<UITableView>("tableView")
       .selectRowAtIndexPath(NSIndexPath::indexPathForRow(4, 0), NO, UITableViewScrollPositionNone);
   tap_on(view("next"));
@@ -170,7 +170,7 @@ TEST_F(TransportAtTheLastSong, NextGoesRoundToTheFirst) {
 }
 
 class TransportWithNoRowSelected : public Transport {
-  // A song of no album selects no row.
+  // A song without an album selects no row.
   void SetUp() override { open_with("Echo"); }
 
  protected:
@@ -203,7 +203,7 @@ TEST_F(TransportWithNoRowSelected, NextInAListOfOneSongPlaysIt) {
 
 class TransportWithoutMusic : public PanelTest {};
 
-TEST_F(TransportWithoutMusic, NothingFaults) {
+TEST_F(TransportWithoutMusic, NothingFails) {
   use_no_songs();
   launch();
   open_panel();

@@ -17,7 +17,7 @@ class VolumeRing : public PanelTest {
     launch();
     moves_.emplace(objc::class_of(view("ring").id()));
   }
-  /// The news of it comes in the next turn.
+  /// Changes the volume; the notification arrives in the next turn of the run loop.
   void change_volume(float volume) {
     media().setVolume(volume);
     ASSERT_EQ(media().volume(), volume);
@@ -29,7 +29,7 @@ class VolumeRing : public PanelTest {
   std::optional<Moves> moves_;
 };
 
-TEST_F(VolumeRing, FollowsTheVolumeWhenItIsToShowIt) {
+TEST_F(VolumeRing, FollowsTheVolumeIfSet) {
   launch_with("<key>play</key><string>volume</string>");
   for (const float volume : {0.25f, 0.75f, 0.0f}) {
     change_volume(volume);
@@ -41,20 +41,20 @@ TEST_F(VolumeRing, FollowsTheVolumeWhenItIsToShowIt) {
   EXPECT_EQ(objc::send<float>(view("ring"), "progress"_sel), 0);
 }
 
-TEST_F(VolumeRing, FollowsTheVolumeWhileThereIsNoFile) {
+TEST_F(VolumeRing, FollowsTheVolumeWithoutAFile) {
   launch_with("");
   std::filesystem::remove(preferences_file());
   change_volume(0.25);
   EXPECT_THAT(moves().calls(), ::testing::ElementsAre(Moves::Call{0.25f, YES}));
 }
 
-TEST_F(VolumeRing, IsLeftAloneWhenItShowsTheTime) {
+TEST_F(VolumeRing, IgnoresTheVolumeIfItShowsTheTime) {
   launch_with("<key>play</key><string>time</string>");
   change_volume(0.25);
   EXPECT_EQ(moves().count(), 0);
 }
 
-TEST_F(VolumeRing, IsLeftAloneWhenTheFileDoesNotSayWhatItShows) {
+TEST_F(VolumeRing, IgnoresTheVolumeIfTheFileLacksTheSetting) {
   launch_with("");
   change_volume(0.25);
   EXPECT_EQ(moves().count(), 0);

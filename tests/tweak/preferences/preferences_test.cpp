@@ -22,7 +22,7 @@ class Preferences : public PanelTest {
     load();
     PhoneTest::launch();
   }
-  /// How often the preferences were applied, not counting the once that every start-up does.
+  /// How often the preferences were applied, not counting the one time at every launch.
   int polled_changes() const { return applied_->count() - 1; }
 
   NSDictionary file() const {
@@ -34,7 +34,7 @@ class Preferences : public PanelTest {
     return file().count() == 1 &&
            objc::cast<NSNumber>(file().objectForKey("checked"_ns)).boolValue();
   }
-  /// "clear" reads as a translucent black, a missing name as black.
+  /// "clear" is a translucent black; a missing name gives black.
   CGFloat alpha_of_tint() const {
     CGFloat result = -1;
     global<UIColor>("newColor").getRed(nullptr, nullptr, nullptr, &result);
@@ -45,7 +45,7 @@ class Preferences : public PanelTest {
   std::optional<MethodSpy<"changesPrefs", void(SpringBoard)>> applied_;
 };
 
-TEST_F(Preferences, TheFirstPollMakesTheFileWithItsMarkAlone) {
+TEST_F(Preferences, TheFirstPollMakesAFileWithOnlyItsMark) {
   use_no_preferences();
   launch();
   EXPECT_TRUE(is_marked_alone());
@@ -54,7 +54,7 @@ TEST_F(Preferences, TheFirstPollMakesTheFileWithItsMarkAlone) {
   EXPECT_EQ(polled_changes(), 1);
 }
 
-TEST_F(Preferences, DefaultsHoldOnlyWhileThereIsNoFile) {
+TEST_F(Preferences, DefaultsApplyOnlyWithoutAFile) {
   use_no_preferences();
   load();
   // Without the poll there is no file.
@@ -65,7 +65,7 @@ TEST_F(Preferences, DefaultsHoldOnlyWhileThereIsNoFile) {
   EXPECT_THAT(alpha_of_tint(), IsNear(0.45));
   play("Alpha");
   EXPECT_TRUE(cover.image());
-  // With the first poll the same keys are simply missing.
+  // After the first poll there is a file, which lacks these keys.
   method_setImplementation(class_getInstanceMethod(SpringBoard::cls(), "changePreferences"_sel),
                            before);
   advance(1.2);
@@ -74,7 +74,7 @@ TEST_F(Preferences, DefaultsHoldOnlyWhileThereIsNoFile) {
   EXPECT_FALSE(cover.image());
 }
 
-TEST_F(Preferences, AKeyThatAnExistingFileLacksHasNoDefault) {
+TEST_F(Preferences, AKeyMissingFromAnExistingFileHasNoDefault) {
   write_preferences("<key>checked</key><true/>");
   launch();
   EXPECT_EQ(alpha_of_tint(), 1);
@@ -110,7 +110,7 @@ void change_heard(SpringBoard) {
   if (on_change) on_change();
 }
 
-TEST_F(Preferences, ThePollHasWrittenItsMarkWhenItApplies) {
+TEST_F(Preferences, ThePollWritesItsMarkBeforeItApplies) {
   write_preferences("<key>checked</key><true/>");
   launch();
   objc::replace_method<&change_heard>(SpringBoard::cls(), "changesPrefs");
@@ -161,7 +161,7 @@ TEST_F(Preferences, AMalformedFileIsReplaced) {
   EXPECT_EQ(polled_changes(), 4);
 }
 
-TEST_F(Preferences, OtherThanSwitchesAndTextsAreNeither) {
+TEST_F(Preferences, ValuesOfOtherTypesAreNeitherSwitchesNorTexts) {
   write_preferences(
       "<key>checked</key><array/><key>tint</key><integer>7</integer><key>apex</key><dict/>");
   launch();
@@ -190,23 +190,23 @@ TEST_F(Preferences, ValuesOfAnyTypeLeaveAPanelThatWorks) {
   }
 }
 
-TEST_F(Preferences, ADirectoryInTheFilesPlaceIsLivedWith) {
+TEST_F(Preferences, ADirectoryInPlaceOfTheFileIsTolerated) {
   use_no_preferences();
   std::filesystem::create_directory(preferences_file());
   launch();
   advance(1);
   EXPECT_TRUE(std::filesystem::is_directory(preferences_file()));
   EXPECT_EQ(alpha_of_tint(), 1);
-  // It never becomes a marked file, so every poll takes it as changed.
+  // It never becomes a marked file, so every poll treats it as changed.
   EXPECT_GE(polled_changes(), 10);
-  // Nothing switches the drag on, and the rest of the panel works.
+  // The drag stays off, and the rest of the panel works.
   EXPECT_FALSE(is("enabled"));
   objc::send<>(application, "present"_sel);
   settle();
   EXPECT_TRUE(is("isShow"));
 }
 
-/// Somebody whom file permissions bind, as long as it lives: the superuser reads everything.
+/// Makes file permissions effective while it exists: the superuser can read every file.
 class OrdinaryUser {
  public:
   explicit OrdinaryUser(const std::filesystem::path& device) : was_(geteuid()) {
@@ -232,7 +232,7 @@ TEST_F(Preferences, AFileThatCannotBeReadIsReplaced) {
     ASSERT_NE(eaccess(preferences_file().c_str(), R_OK), 0);
     PhoneTest::launch();
     EXPECT_EQ(alpha_of_tint(), 1);
-    // The new file has the old one's permissions, so that no poll ever sees the mark.
+    // The new file has the old one's permissions, so no poll ever sees the mark.
     EXPECT_GE(polled_changes(), 1);
   }
   std::filesystem::permissions(preferences_file(), std::filesystem::perms::owner_read);

@@ -6,7 +6,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// How the search begins and ends.
+/// How a search starts and ends.
 class SearchEditing : public SongPage {
  protected:
   void SetUp() override {
@@ -28,7 +28,7 @@ class SearchEditing : public SongPage {
   std::optional<ReceiverSpy<UITableView, "reloadData">> reloads_;
 };
 
-TEST_F(SearchEditing, BeginningLeavesTheRowsUntilTheFirstLetter) {
+TEST_F(SearchEditing, StartingKeepsTheRowsUntilTheFirstLetter) {
   tap_on_search();
   EXPECT_TRUE(is("isSearching"));
   EXPECT_EQ(reload_count, 0);
@@ -69,7 +69,7 @@ TEST_F(SearchEditing, EndingWithoutTextListsAllSongs) {
   expect_all_songs();
 }
 
-TEST_F(SearchEditing, EndingWithATextKeepsWhatWasFound) {
+TEST_F(SearchEditing, EndingWithATextKeepsTheHits) {
   tap_on_search();
   uikit::type_text("a"_ns);
   const auto found = titles("result");
@@ -82,7 +82,7 @@ TEST_F(SearchEditing, EndingWithATextKeepsWhatWasFound) {
   EXPECT_EQ(reload_count, before);
 }
 
-TEST_F(SearchEditing, TheReturnKeyEndsTheEditingAndKeepsWhatWasFound) {
+TEST_F(SearchEditing, TheReturnKeyEndsEditingAndKeepsTheHits) {
   tap_on_search();
   uikit::type_text("brav"_ns);
   uikit::press_key("return");
@@ -101,8 +101,8 @@ TEST_F(SearchEditing, TheReturnKeyInAnEmptyFieldListsAllSongs) {
   expect_all_songs();
 }
 
-// Even by itself, before the end of the editing has had its say.
-TEST_F(SearchEditing, TheReturnKeysAnswerIsYesAndItListsAllSongsItself) {
+// It lists them without the help of the end of editing.
+TEST_F(SearchEditing, TheReturnKeyReturnsYesAndListsAllSongsItself) {
   field().setDelegate(nil);
   global<BOOL>("isSearching") = YES;
   list().reloadData();
@@ -113,13 +113,13 @@ TEST_F(SearchEditing, TheReturnKeysAnswerIsYesAndItListsAllSongsItself) {
   expect_all_songs();
 }
 
-TEST_F(SearchEditing, AFieldThatIsNotEditedMayReturnToo) {
+TEST_F(SearchEditing, AFieldThatIsNotEditedCanReturnToo) {
   field().setText("b"_ns);
   EXPECT_TRUE(objc::send<BOOL>(application, "textFieldShouldReturn:"_sel, field()));
   EXPECT_EQ(reload_count, 0);
 }
 
-TEST_F(SearchEditing, EditingAgainGoesOnFromWhatWasFound) {
+TEST_F(SearchEditing, EditingAgainContinuesFromTheHits) {
   tap_on_search();
   uikit::type_text("brav"_ns);
   uikit::press_key("return");
@@ -131,7 +131,7 @@ TEST_F(SearchEditing, EditingAgainGoesOnFromWhatWasFound) {
   EXPECT_THAT(texts(), ElementsAre("Bravo"));
 }
 
-TEST_F(SearchEditing, ADragBackTakesTheKeyboardAway) {
+TEST_F(SearchEditing, ADragBackHidesTheKeyboard) {
   tap_on_search();
   ASSERT_TRUE(field().isFirstResponder());
   drag(middle_of(view("music")), {screen().width / 2, 300}, 0.3);

@@ -19,7 +19,7 @@ class Search : public SongPage {
     open_song_page();
     tap_on_search();
   }
-  /// What is found when the field's text is typed, key by key.
+  /// The hits after `typed` has been typed into the field, key by key.
   std::vector<std::string> found_by(const char* typed) {
     uikit::press_key("control-a");
     EXPECT_TRUE(uikit::type_text(NSString::stringWithUTF8String(typed)));
@@ -47,36 +47,36 @@ TEST_F(Search, FoldsTheCaseOfEveryScriptAndNothingElse) {
     EXPECT_THAT(found_by(typed), UnorderedElementsAre("ÉTUI", "étang")) << typed;
   for (const char* typed : {"ж", "Ж"})
     EXPECT_THAT(found_by(typed), UnorderedElementsAre("ЖАРКО", "жук")) << typed;
-  // A letter with an accent is another letter.
+  // A letter with an accent is a different letter.
   EXPECT_THAT(found_by("et"), IsEmpty());
   EXPECT_THAT(found_by("ß"), ElementsAre("Straße"));
   EXPECT_THAT(found_by("ss"), ElementsAre("STRASSE"));
 }
 
-TEST_F(Search, FoldsTheCaseBesideALooseMarkToo) {
-  // The accent is a sign of its own, behind its letter.
+TEST_F(Search, FoldsTheCaseNextToACombiningMark) {
+  // The accent is a separate combining character after its letter.
   const char* const title = "Cafe\u0301 NOIR";
   open_with({title, "Pinot Noir"});
   for (const char* typed : {"noir", "NOIR", "Noir"})
     EXPECT_THAT(found_by(typed), UnorderedElementsAre(title, "Pinot Noir")) << typed;
 }
 
-TEST_F(Search, FindsALetterHoweverItIsSpelt) {
-  // The accent in one piece with its letter, and a sign of its own behind it.
+TEST_F(Search, FindsALetterComposedOrDecomposed) {
+  // The accent composed with its letter, and as a separate combining character after it.
   const char* const one_piece = "Caf\u00e9";
   const char* const two_pieces = "Cafe\u0301 noir";
   open_with({one_piece, two_pieces});
   for (const char* typed : {"\u00e9", "\u00c9", "e\u0301", "E\u0301", "caf\u00e9", "cafe\u0301"})
     EXPECT_THAT(found_by(typed), UnorderedElementsAre(one_piece, two_pieces)) << typed;
   EXPECT_THAT(found_by("\u00e9 n"), ElementsAre(two_pieces));
-  // The letter alone is another one.
+  // The letter without its accent, or with another one, does not match.
   for (const char* typed : {"cafe", "fe", "\u00e8", "e\u0300"})
     EXPECT_THAT(found_by(typed), IsEmpty()) << typed;
 }
 
-TEST_F(Search, LooksAtTheTitleAlone) {
+TEST_F(Search, SearchesOnlyTheTitle) {
   open_with({"By Xenia"});
-  // The artist of three songs and the album of three, and a title.
+  // "Xenia" is also the artist of three songs, "One" the album of three.
   EXPECT_THAT(found_by("xenia"), ElementsAre("By Xenia"));
   EXPECT_THAT(found_by("one"), IsEmpty());
   EXPECT_THAT(found_by("beatrix"), IsEmpty());
@@ -100,7 +100,7 @@ TEST_F(Search, KeepsTheOrderOfTheList) {
   EXPECT_EQ(found, in_the_list);
 }
 
-TEST_F(Search, SignsOfPatternsAreOnlySigns) {
+TEST_F(Search, PatternCharactersAreLiteral) {
   open_with({"a.c (live) [x]* \\d+$", "abc live x 42"});
   for (const char* typed : {".", "a.c", "(", "[x]*", "\\d", "$", "+", "x]"})
     EXPECT_THAT(found_by(typed), ElementsAre("a.c (live) [x]* \\d+$")) << typed;
@@ -120,7 +120,7 @@ TEST_F(Search, ATextOfTenThousandCharactersFindsNothing) {
   EXPECT_EQ(rows(), 5);
 }
 
-TEST_F(Search, EveryKeyReloadsTheListOnce) {
+TEST_F(Search, EveryKeystrokeReloadsTheListOnce) {
   open_with({});
   int reloads = 0;
   const ReceiverSpy<UITableView, "reloadData"> reloaded([&](UITableView table) {
@@ -136,7 +136,7 @@ TEST_F(Search, EveryKeyReloadsTheListOnce) {
   }
 }
 
-TEST_F(Search, ASongWithoutATitleIsListedAndNeverFound) {
+TEST_F(Search, ASongWithoutATitleIsListedButNeverFound) {
   const ToldProperty no_title("Charlie", MPMediaItemPropertyTitle, nil);
   const ToldProperty empty_title("Delta", MPMediaItemPropertyTitle, ""_ns);
   open_with({});
@@ -154,7 +154,7 @@ TEST_F(Search, HiddenSongsAreNotFound) {
   EXPECT_THAT(found_by("brav"), ElementsAre("Bravo"));
 }
 
-TEST_F(Search, AnEmptyLibraryIsSearchedToo) {
+TEST_F(Search, AnEmptyLibraryCanBeSearched) {
   use_no_songs();
   launch();
   open_song_page();

@@ -39,7 +39,7 @@ int ShortMemory::refused() const {
   return budget.refused;
 }
 
-// Found before the C library's by whatever this program loads.
+// The libraries that this program loads bind to this function instead of the C library's.
 extern "C" __attribute__((visibility("default"))) void* realloc(void* block, std::size_t size) {
   using Realloc = void* (*)(void*, std::size_t);
   static const auto real = reinterpret_cast<Realloc>(dlsym(RTLD_NEXT, "realloc"));

@@ -4,10 +4,10 @@
 
 namespace host::test {
 
-/// While it lives, the arrays of one loaded library get more memory a few times only.
+/// While it exists, the arrays of one loaded library can allocate memory only a few times.
 class ShortMemory {
  public:
-  /// `library` is the end of its path; `times` is how often its requests are met.
+  /// `library` is the end of the library's path; `times` is how many of its requests succeed.
   ShortMemory(std::string library, int times);
   ~ShortMemory();
   ShortMemory(const ShortMemory&) = delete;

@@ -5,7 +5,7 @@
 namespace host::test {
 namespace {
 
-/// Titles that hold an "a", every fifth of which only the platform can compare.
+/// Titles that contain an "a". Every fifth can only be compared by the platform.
 std::vector<std::string> many_titles(int count) {
   std::vector<std::string> titles;
   for (int i = 0; i < count; ++i)
@@ -13,14 +13,14 @@ std::vector<std::string> many_titles(int count) {
   return titles;
 }
 
-TEST_F(TitleSearch, FindsTheSameWhereverTheMemoryEnds) {
+TEST_F(TitleSearch, FindsTheSameWheneverMemoryRunsOut) {
   const std::vector<std::string> all = many_titles(1500);
-  // A letter, and a text that is looked for in another way.
+  // A single letter, and a text that takes the other search path.
   for (const char* typed : {"a", "a12"}) {
     int refused = 0;
     int times = 0;
     do {
-      // Other songs of the same titles, so that they are read again.
+      // Different songs with the same titles, so that the titles are read again.
       list_titles(all);
       const auto expected = found_one_by_one(typed);
       {
@@ -30,7 +30,7 @@ TEST_F(TitleSearch, FindsTheSameWhereverTheMemoryEnds) {
       }
       EXPECT_EQ(titles("result"), expected) << typed << ", " << times;
     } while (refused > 0);
-    EXPECT_GT(times, 3) << "The search asked for no memory.";
+    EXPECT_GT(times, 3) << "the search requested no memory";
   }
 }
 

@@ -10,7 +10,7 @@ using ::testing::IsEmpty;
 
 using TitleIndex = TitleSearch;
 
-// Letters whose case, composition or direction is an odd one, and signs of patterns.
+// Letters with unusual case, composition or direction, and pattern characters.
 constexpr const char* kPieces[] = {
     "a",  "A",  "b",      "B",      " ", "e",  "E",      "\u0301", "é",  "É", "ö",  "o\u0308",
     "İ",  "ı",  "i",      "I",      "ß", "ẞ",  "ss",     "\u212a", "k",  "σ", "ς",  "Σ",
@@ -25,7 +25,7 @@ std::string random_text(std::mt19937& random, std::size_t most) {
   return text;
 }
 
-TEST_F(TitleIndex, FindsWhatEveryTitleSaysByItself) {
+TEST_F(TitleIndex, FindsWhatSearchingEachTitleFinds) {
   std::mt19937 random{11};
   std::vector<std::string> all;
   for (int i = 0; i < 300; ++i)
@@ -51,7 +51,7 @@ TEST_F(TitleIndex, NothingIsFoundAcrossTwoTitles) {
   EXPECT_THAT(found_by("ab"), ElementsAre("ab"));
 }
 
-TEST_F(TitleIndex, EveryPlaceOfALongTitleIsSearched) {
+TEST_F(TitleIndex, EveryPositionOfALongTitleIsSearched) {
   const std::string before(10000, 'a');
   list_titles({before, before + "B", "b" + before});
   EXPECT_EQ(found_by("ab"), found_one_by_one("ab"));
@@ -67,8 +67,8 @@ TEST_F(TitleIndex, EveryPlaceOfALongTitleIsSearched) {
   }
 }
 
-TEST_F(TitleIndex, ALetterIsFoundWhereverItStandsInALongList) {
-  // given titles of every length, so that letters and borders come to lie everywhere
+TEST_F(TitleIndex, ALetterIsFoundAnywhereInALongList) {
+  // given titles of every length, so that letters and borders are at every alignment
   std::vector<std::string> titles;
   for (std::size_t length = 1; length <= 140; ++length) {
     titles.push_back(std::string(length, 'x'));
@@ -78,15 +78,15 @@ TEST_F(TitleIndex, ALetterIsFoundWhereverItStandsInALongList) {
   }
   list_titles(titles);
 
-  // then one letter, two letters, and letters that are nowhere
+  // then find one letter, two letters, and letters that do not occur
   for (const char* typed : {"q", "x", "qr", "xq", "rx", "r", "zz", "z", "qq"})
     EXPECT_EQ(found_by(typed), found_one_by_one(typed)) << typed;
 }
 
-TEST_F(TitleIndex, AListThatChangesBetweenTwoKeysIsSearchedAnew) {
+TEST_F(TitleIndex, AListThatChangesBetweenKeystrokesIsReadAgain) {
   list_titles({"alpha", "beta", "gamma"});
   EXPECT_THAT(found_by("bet"), ElementsAre("beta"));
-  // As many songs as before, and others.
+  // The same number of songs, but different ones.
   list_titles({"alphabet", "delta", "gamma"});
   EXPECT_THAT(found_by("bet"), ElementsAre("alphabet"));
   songs().removeObjectAtIndex(0);
@@ -99,7 +99,7 @@ TEST_F(TitleIndex, AListThatChangesBetweenTwoKeysIsSearchedAnew) {
   EXPECT_THAT(found_by("a"), IsEmpty());
 }
 
-TEST_F(TitleIndex, AChangeFarDownALongListIsSeen) {
+TEST_F(TitleIndex, AChangeFarDownALongListIsNoticed) {
   std::vector<std::string> all(3000, "song");
   list_titles(all);
   EXPECT_THAT(found_by("new"), IsEmpty());
@@ -108,7 +108,7 @@ TEST_F(TitleIndex, AChangeFarDownALongListIsSeen) {
   EXPECT_EQ(found_by("song").size(), 2999u);
 }
 
-TEST_F(TitleIndex, WhatWasFoundOutlivesTheList) {
+TEST_F(TitleIndex, TheHitsOutliveTheList) {
   list_titles({"alpha", "beta", "gamma"});
   EXPECT_THAT(found_by("m"), ElementsAre("gamma"));
   songs().removeAllObjects();
@@ -116,7 +116,7 @@ TEST_F(TitleIndex, WhatWasFoundOutlivesTheList) {
   EXPECT_THAT(titles("result"), ElementsAre("gamma"));
 }
 
-TEST_F(TitleIndex, WhatWasFoundIsAnArrayThatAnybodyMayChange) {
+TEST_F(TitleIndex, TheHitsAreAMutableArray) {
   list_titles({"alpha", "beta", "gamma", "delta"});
   ASSERT_EQ(found_by("a").size(), 4u);
   const std::vector<std::string> all = titles("result");
@@ -131,7 +131,7 @@ TEST_F(TitleIndex, WhatWasFoundIsAnArrayThatAnybodyMayChange) {
   EXPECT_THAT(titles("result"), ElementsAre(all[3], all[3], all[2], all[3]));
   EXPECT_EQ(copy->count(), 4u);
   EXPECT_EQ(rows(), 4);
-  // The next key begins with an empty array.
+  // The next keystroke starts with an empty array.
   EXPECT_THAT(found_by("mm"), ElementsAre("gamma"));
   hits().removeAllObjects();
   EXPECT_THAT(titles("result"), IsEmpty());

@@ -6,12 +6,12 @@
 
 namespace host::test {
 
-/// A search through whatever titles a test wants, beside the platform's own comparison.
+/// A search through any titles that a test chooses, next to the platform's own comparison.
 class TitleSearch : public SongPage {
  protected:
   void SetUp() override { launch(); }
 
-  /// Items of these titles; the order is the library's.
+  /// Items with these titles, in the library's order.
   static NSArray songs_titled(const std::vector<std::string>& titles) {
     std::vector<media::SongRecord> records(titles.size());
     for (std::size_t i = 0; i < titles.size(); ++i) {
@@ -28,7 +28,7 @@ class TitleSearch : public SongPage {
     songs().removeAllObjects();
     songs().addObjectsFromArray(songs_titled(titles));
   }
-  /// Types nothing but hands the field's text to the search.
+  /// The hits for `typed`. Sets the field's text and runs the search, without typing.
   std::vector<std::string> found_by(const std::string& typed) const {
     search_for(typed);
     return titles("result");
@@ -37,7 +37,7 @@ class TitleSearch : public SongPage {
     field().setText(NSString::stringWithUTF8String(typed.c_str()));
     objc::send<>(global<SpringBoard>("Spring"), "textDidChange:"_sel, field());
   }
-  /// What every title says when it is asked by itself.
+  /// The hits when every title is compared by itself, with the platform's search.
   std::vector<std::string> found_one_by_one(const std::string& typed) const {
     const NSString wanted = NSString::stringWithUTF8String(typed.c_str()).lowercaseString();
     std::vector<std::string> found;

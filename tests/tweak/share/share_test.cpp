@@ -41,7 +41,7 @@ TEST_F(Share, ATapOnTheTwinComposesATextOfTitleAndArtist) {
   EXPECT_TRUE(is("isShow"));
 }
 
-TEST_F(Share, TheFrameworkComesInWithTheFirstText) {
+TEST_F(Share, TheFrameworkIsLoadedWithTheFirstComposer) {
   play("Alpha");
   advance(1.2);
   EXPECT_FALSE(objc_getClass("TWTweetComposeViewController"));
@@ -57,13 +57,13 @@ TEST_F(Share, WithoutTheFrameworkNothingIsPresented) {
   tap_twin();
   EXPECT_FALSE(presenter());
   EXPECT_TRUE(is("isShow"));
-  // And the panel can be used as before.
+  // The panel can still be used.
   springboard::press_home();
   settle();
   EXPECT_FALSE(is("isShow"));
 }
 
-TEST_F(Share, ASongWithoutAnArtworkCannotBeShared) {
+TEST_F(Share, ASongWithoutArtworkCannotBeShared) {
   play("Bravo");
   advance(1.2);
   ASSERT_EQ(text(global<UILabel>("title").text()), "Bravo");
@@ -78,19 +78,19 @@ TEST_F(Share, AnEmptyTitleLeavesTwoSpacesInARow) {
   EXPECT_EQ(shared_text(), "#NowPlaying  Xenia with #Sonavue2");
 }
 
-TEST_F(Share, ANameThatIsMissingLeavesItsSpace) {
+TEST_F(Share, AMissingTextLeavesItsSpace) {
   play("Alpha");
   advance(1.2);
   global<UILabel>("artist").setText(nil);
   EXPECT_EQ(shared_text(), "#NowPlaying Alpha  with #Sonavue2");
 }
 
-TEST_F(Share, TheEndOfTheComposerTakesItsPresenterOffTheWindow) {
+TEST_F(Share, TheEndOfTheComposerRemovesItsPresenter) {
   play("Alpha");
   advance(1.2);
   tap_twin();
   ASSERT_TRUE(presenter());
-  // The composer's Cancel, left in its bar.
+  // The composer's Cancel button, at the left of its bar.
   tap({62, 106});
   settle();
   EXPECT_FALSE(presenter());
@@ -99,7 +99,7 @@ TEST_F(Share, TheEndOfTheComposerTakesItsPresenterOffTheWindow) {
   EXPECT_TRUE(presenter());
 }
 
-TEST_F(Share, ASecondTapWhileTheComposerComesIsIgnored) {
+TEST_F(Share, ASecondTapWhileTheComposerAppearsIsIgnored) {
   play("Alpha");
   advance(1.2);
   objc::send<>(application, "tweet"_sel);
@@ -108,7 +108,7 @@ TEST_F(Share, ASecondTapWhileTheComposerComesIsIgnored) {
   EXPECT_EQ(presenter(), first);
 }
 
-/// A composer over the panel, and what closes the panel under it.
+/// A composer over the panel, and events that close the panel under it.
 class ComposerOverPanel : public Share {
  protected:
   void SetUp() override {
@@ -135,7 +135,7 @@ class ComposerOverPanel : public Share {
   NSUInteger views_of_window_ = 0;
 };
 
-TEST_F(ComposerOverPanel, EveryClosingTakesItDownAtOnce) {
+TEST_F(ComposerOverPanel, EveryClosingDismissesItAtOnce) {
   const std::function<void()> closings[] = {
       [] { springboard::press_home(); },
       [] { springboard::press_lock(); },
@@ -154,7 +154,7 @@ TEST_F(ComposerOverPanel, EveryClosingTakesItDownAtOnce) {
   }
 }
 
-TEST_F(ComposerOverPanel, ItIsTakenDownWhileItComes) {
+TEST_F(ComposerOverPanel, ItIsDismissedWhileItAppears) {
   remember_views();
   tap_on(view("music"));
   advance(0.1);
@@ -163,7 +163,7 @@ TEST_F(ComposerOverPanel, ItIsTakenDownWhileItComes) {
   expect_nothing_left();
 }
 
-TEST_F(ComposerOverPanel, ItIsTakenDownWhileItLeaves) {
+TEST_F(ComposerOverPanel, ItIsDismissedWhileItDisappears) {
   remember_views();
   compose();
   tap({62, 106});
@@ -172,10 +172,10 @@ TEST_F(ComposerOverPanel, ItIsTakenDownWhileItLeaves) {
   expect_nothing_left();
 }
 
-TEST_F(ComposerOverPanel, ADragBackTakesItDown) {
+TEST_F(ComposerOverPanel, ADragBackDismissesIt) {
   remember_views();
   hold(middle_of(view("music")));
-  // Without an animation, which would take the finger away.
+  // Presented without animation, which would cancel the touch.
   const auto composer = TWTweetComposeViewController::alloc().init().autorelease();
   const auto host = UIViewController::alloc().init().autorelease();
   global<UIWindow>("window").setRootViewController(host);
@@ -188,7 +188,7 @@ TEST_F(ComposerOverPanel, ADragBackTakesItDown) {
   expect_nothing_left();
 }
 
-TEST_F(ComposerOverPanel, TheBannersEndTakesItDown) {
+TEST_F(ComposerOverPanel, TheBannersEndDismissesIt) {
   springboard::press_home();
   settle();
   remember_views();

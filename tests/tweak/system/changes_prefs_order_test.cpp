@@ -11,7 +11,7 @@ class AppearanceOrder : public PanelSteps {
   void apply() const { objc::send<>(application, "changesPrefs"_sel); }
 };
 
-TEST_F(AppearanceOrder, FollowsTheList) {
+TEST_F(AppearanceOrder, ChangesInTheListedOrder) {
   write_preferences(switch_entry("legibility", true) + "<key>checked</key><true/>");
   EXPECT_THAT(steps_of([this] { apply(); }),
               ::testing::ElementsAre("tableView reload",                   //
@@ -40,7 +40,7 @@ TEST_F(AppearanceOrder, LegibilityIsReadAfterTheTextsAreColoured) {
   EXPECT_TRUE(is("legibility"));
 }
 
-/// What anybody can see or ask of a view and of everything inside it.
+/// Describes the observable state of a view and of everything inside it.
 void describe(UIView view, const std::string& indent, std::string& out) {
   std::ostringstream line;
   const auto colour = [&](const char* name, const Rgba& value) {
@@ -69,7 +69,7 @@ void describe(UIView view, const std::string& indent, std::string& out) {
     describe(part, indent + "  ", out);
 }
 
-TEST_F(AppearanceOrder, ASecondTimeChangesNothing) {
+TEST_F(AppearanceOrder, ApplyingTwiceChangesNothing) {
   play("Alpha");
   open_panel();
   for (const bool on : {true, false}) {

@@ -20,7 +20,7 @@ TEST_F(Appearance, EveryNamedColourReachesEveryPart) {
     EXPECT_THAT(control_colours(), AreAll(tint.colour));
     EXPECT_THAT(text_colours(), AreAll(font.colour));
   }
-  // One, Two and the songs of no album have a tile each.
+  // One, Two and the songs without an album have a tile each.
   EXPECT_EQ(control_colours().size(), kColouredControls);
   EXPECT_EQ(text_colours().size(), kColouredTexts);
 }
@@ -42,7 +42,7 @@ TEST_F(Appearance, AMissingNameIsBlackWhenThereIsAFile) {
   EXPECT_THAT(text_colours(), AreAll(kBlack));
 }
 
-TEST_F(Appearance, ANameThatIsNoTextIsBlack) {
+TEST_F(Appearance, AValueThatIsNotAStringIsBlack) {
   change_settings("<key>tint</key><integer>3</integer><key>font_tint</key><array/>");
   EXPECT_THAT(control_colours(), AreAll(kBlack));
   EXPECT_THAT(text_colours(), AreAll(kBlack));
@@ -59,7 +59,7 @@ TEST_F(Appearance, TheArtworksCornersAreRoundUnlessSquareIsOn) {
   EXPECT_EQ(corner(), kRoundCorner);
 }
 
-TEST_F(Appearance, OfATileOnlyPicturesAndLabelsAreColoured) {
+TEST_F(Appearance, OnlyPicturesAndLabelsOfATileAreColoured) {
   const auto tile = objc::cast<UIView>(view("albums").subviews().firstObject());
   const auto other = UIView::alloc().initWithFrame({0, 0, 5, 5});
   other.layer().setBorderColor(UIColor::greenColor().CGColor());
@@ -68,25 +68,25 @@ TEST_F(Appearance, OfATileOnlyPicturesAndLabelsAreColoured) {
   change_settings(text_entry("tint", "red") + text_entry("font_tint", "blue"));
   EXPECT_EQ(rgba(other.layer().borderColor()), (Rgba{0, 1, 0, 1}));
   EXPECT_EQ(rgba(other.backgroundColor()), (Rgba{0, 1, 0, 1}));
-  // The tile itself is no part of it.
+  // The tile itself is not coloured.
   EXPECT_FALSE(rgba(tile.layer().borderColor()) == (Rgba{1, 0, 0, 1}));
   EXPECT_THAT(control_colours(), AreAll(Rgba{1, 0, 0, 1}));
   other.release();
 }
 
-TEST_F(Appearance, ThePlaceholderKeepsItsWord) {
+TEST_F(Appearance, ThePlaceholderKeepsItsText) {
   change_settings(text_entry("font_tint", "red"));
   EXPECT_EQ(text(global<UITextField>("searchBar").attributedPlaceholder().string()), "Search");
 }
 
-TEST_F(Appearance, ThePanelsOwnColourIsTheTintOfTheStart) {
+TEST_F(Appearance, TheLegibilityColourIsTheTintAtLaunch) {
   const UIColor before = global<UIColor>("newColor");
   change_settings(text_entry("tint", "red") + text_entry("font_tint", "blue"));
   EXPECT_EQ(global<UIColor>("newColor"), before);
   EXPECT_EQ(rgba(before), kBlack);
 }
 
-TEST_F(Appearance, LegibilityIsOnExactlyWhenItsSettingIs) {
+TEST_F(Appearance, LegibilityFollowsItsSetting) {
   for (const bool on : {true, false, true}) {
     change_settings(switch_entry("legibility", on));
     EXPECT_EQ(is("legibility"), on);

@@ -3,7 +3,7 @@
 namespace host::test {
 namespace {
 
-/// A machine and what the extension makes of its name.
+/// A machine, and the values that the extension derives from its name.
 struct Machine {
   DeviceModel model;
   int number;

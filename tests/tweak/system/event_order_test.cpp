@@ -14,8 +14,8 @@ namespace {
 using ::testing::ElementsAre;
 using Heard = std::vector<std::string>;
 
-/// Hears what the system itself does at an event, under the extension's replacement, and what the
-/// extension sends, in their order.
+/// Records, in order, the system's own methods that run at an event, below the extension's
+/// replacements, and the messages that the extension sends.
 class EventOrder : public PanelTest {
  protected:
   void SetUp() override {
@@ -32,7 +32,7 @@ class EventOrder : public PanelTest {
   int closings() const { return closed_->count(); }
 
   Heard heard_;
-  // These hear the system's own methods: they are there before the extension comes in.
+  // These spy on the system's own methods: they are installed before the extension is loaded.
   MethodSpy<"_handleDisplayTurnedOff", void(SBLockScreenViewController)> turned_off_{
       SBLockScreenViewController::cls(), &heard_};
   MethodSpy<"prepareForUIUnlock", void(SBLockScreenViewController)> unlocked_{
@@ -60,7 +60,7 @@ class EventOrder : public PanelTest {
   std::optional<MethodSpy<"dismisWithNoAction", void(SpringBoard)>> closed_;
 };
 
-/// Both forms of the panel are closed by the same events.
+/// The same events close both forms of the panel.
 class EventOrderWithAForm : public EventOrder, public ::testing::WithParamInterface<const char*> {
  protected:
   Heard heard_at(const std::function<void()>& event) {
@@ -75,19 +75,19 @@ std::string name_of_form(const ::testing::TestParamInfo<const char*>& info) {
 INSTANTIATE_TEST_SUITE_P(, EventOrderWithAForm, ::testing::Values("isShow", "isBanner"),
                          name_of_form);
 
-TEST_P(EventOrderWithAForm, TheLockScreenGoesFirstAndThePanelCloses) {
+TEST_P(EventOrderWithAForm, TheLockScreenActsFirstThenThePanelCloses) {
   EXPECT_THAT(heard_at(&springboard::lock),
               ElementsAre("_handleDisplayTurnedOff", "dismisWithNoAction"));
   EXPECT_THAT(heard_at(&springboard::unlock),
               ElementsAre("prepareForUIUnlock", "dismisWithNoAction"));
 }
 
-TEST_P(EventOrderWithAForm, NotificationCentreGoesFirstAndThePanelCloses) {
+TEST_P(EventOrderWithAForm, TheNotificationCentreActsFirstThenThePanelCloses) {
   EXPECT_THAT(heard_at(&springboard::present_notification_centre),
               ElementsAre("hostWillPresent", "dismisWithNoAction"));
 }
 
-TEST_P(EventOrderWithAForm, ThePanelClosesAndTheSystemsBannerFollows) {
+TEST_P(EventOrderWithAForm, ThePanelClosesBeforeTheSystemsBanner) {
   const auto context = NSString("a message"_ns);
   EXPECT_THAT(
       heard_at([&] { SBBannerController::sharedInstance()._presentBannerForContext(context, 7); }),
@@ -100,14 +100,14 @@ TEST_P(EventOrderWithAForm, ThePlayersStateIsKept) {
   EXPECT_EQ(global<int>("playbackState"), 3);
 }
 
-TEST_F(EventOrder, ThePanelMakesTheControlCentreGoOnceItCame) {
+TEST_F(EventOrder, ThePanelDismissesTheControlCentreOnceItAppears) {
   global<BOOL>("isShow") = YES;
   EXPECT_THAT(heard_at(&springboard::present_control_centre),
               ElementsAre("controlCenterWillPresent", "dismissAnimated:"));
   EXPECT_EQ(std::get<0>(control_centre_dismissed_.last()), NO);
 }
 
-TEST_F(EventOrder, ABannerThatIsFullyDownGoesWithTheControlCentre) {
+TEST_F(EventOrder, AFullyOpenBannerIsDismissedWithTheControlCentre) {
   const MethodSpy<"dismissBanner", void(SpringBoard)> sent_away(SpringBoard::cls(), &heard_);
   global<BOOL>("isBanner") = YES;
   ASSERT_EQ(frame("window").origin.y, 0);
@@ -117,7 +117,7 @@ TEST_F(EventOrder, ABannerThatIsFullyDownGoesWithTheControlCentre) {
   EXPECT_FALSE(SBControlCenterController::sharedInstance().isPresented());
 }
 
-TEST_F(EventOrder, ReachabilityGoesFirst) {
+TEST_F(EventOrder, ReachabilityActsFirst) {
   const auto manager = SBReachabilityManager::sharedInstance();
   EXPECT_THAT(heard_at([&] { manager._handleReachabilityActivated(); }),
               ElementsAre("_handleReachabilityActivated", "dismisWithNoAction"));
@@ -142,7 +142,7 @@ TEST_F(EventOrder, AClosedPanelIsNotToldToClose) {
   EXPECT_EQ(closings(), 0);
 }
 
-TEST_F(EventOrder, ThePlayerHearsOfItsStateToo) {
+TEST_F(EventOrder, ThePlayersOwnMethodIsCalledToo) {
   EXPECT_THAT(
       heard_at([&] { global<MPMusicPlayerController>("musicPlayer")._playbackStateDidChange(3); }),
       ElementsAre("_playbackStateDidChange:"));
@@ -152,7 +152,7 @@ TEST_F(EventOrder, ThePlayerHearsOfItsStateToo) {
 const int* kept_state = nullptr;
 int state_seen_by_system = 0;
 
-TEST_F(PanelTest, ThePlayersStateIsKeptAfterTheSystemHasHeardOfIt) {
+TEST_F(PanelTest, ThePlayersStateIsKeptAfterTheSystemsMethod) {
   const auto see_state = +[](objc::Id, objc::Sel, int) { state_seen_by_system = *kept_state; };
   use_no_songs();
   method_setImplementation(

@@ -9,7 +9,7 @@ namespace {
 
 class Hooks : public PanelTest {
  protected:
-  /// Does the method's code lie in the extension's library?
+  /// Whether the method's code is in the extension's library.
   static bool is_ours(objc::Method method) {
     Dl_info info;
     const auto body = reinterpret_cast<void*>(method_getImplementation(method));
@@ -22,7 +22,7 @@ struct Added {
   const char* types;
 };
 
-// Objects are @, a block is @?, a boolean is one signed byte.
+// An object is @, a block @?, and a boolean one signed byte.
 constexpr Added kAdded[] = {
     {"deviceNumber", "i@:"},
     {"tweet", "v@:"},
@@ -55,7 +55,7 @@ constexpr Added kAdded[] = {
 };
 static_assert(std::size(kAdded) == 28);
 
-TEST_F(Hooks, TheApplicationLearnsTwentyEightMethods) {
+TEST_F(Hooks, TwentyEightMethodsAreAddedToTheApplication) {
   for (const Added& added : kAdded) {
     EXPECT_FALSE(class_getInstanceMethod(SpringBoard::cls(), sel_registerName(added.selector)))
         << added.selector << " is the system's own";
@@ -117,7 +117,7 @@ TEST_F(Hooks, SeventeenMethodsOfTheSystemAreReplaced) {
   }
 }
 
-TEST_F(Hooks, OnlyTheMediaAndTheScreenAreLookedUpAtTheLoad) {
+TEST_F(Hooks, OnlyTheMediaAndTheScreenAreLookedUpAtLoadTime) {
   load_extension();
   EXPECT_EQ(global<SBMediaController>("mc"), SBMediaController::sharedInstance());
   EXPECT_EQ(global<MPMusicPlayerController>("musicPlayer"),
@@ -133,7 +133,7 @@ TEST_F(Hooks, OnlyTheMediaAndTheScreenAreLookedUpAtTheLoad) {
   EXPECT_EQ(global<float>("max"), 60);
 }
 
-TEST_F(Hooks, ThePassThroughGivesTheSystemsAnswer) {
+TEST_F(Hooks, ThePassThroughReturnsTheSystemsResult) {
   const BOOL before = objc::send<BOOL>(objc::Object(objc_getClass("SBReachabilityManager")),
                                        "reachabilitySupported"_sel);
   load_extension();

@@ -25,7 +25,7 @@ void tick(SpringBoard) {
   if (const auto told = std::exchange(on_first_tick, nullptr)) told();
 }
 
-/// From here on the gesture service only remembers who registers.
+/// From now on the gesture service only records which listener is registered.
 void watch_gesture_service() {
   objc::replace_method<&register_listener>(LAActivator::cls(), "registerListener:forName:");
 }
@@ -35,10 +35,10 @@ using SpringBoardSpy = MethodSpy<Selector, void(SpringBoard)>;
 
 class StartUp : public PanelTest {};
 
-TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
+TEST_F(StartUp, RunsItsStepsInOrderAfterTheHomeScreenLaunched) {
   watch_gesture_service();
   write_preferences("<key>checked</key><true/>");
-  // Under the extension's replacement: this is the system's own.
+  // Below the extension's replacement: this is the system's own method.
   const MethodSpy<"applicationDidFinishLaunching:", void(SpringBoard, objc::Object)> system(
       SpringBoard::cls(), &happened);
   load_extension();
@@ -58,7 +58,7 @@ TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
   PhoneTest::launch();
   on_registration = nullptr;
 
-  // The timers' later ticks come after these.
+  // Later timer ticks follow; drop them.
   ASSERT_GE(happened.size(), 8u);
   happened.resize(8);
   EXPECT_THAT(happened,
@@ -68,7 +68,7 @@ TEST_F(StartUp, GoesThroughItsStepsInOrderOnceTheHomeScreenIsThere) {
   EXPECT_EQ(listener_class, "SVActivatorListener");
   EXPECT_EQ(listener_name, "org.plumvane.Sonavue2");
   EXPECT_TRUE(home_screen_was_there);
-  EXPECT_FALSE(panel_had_its_target) << "an event that comes at once goes nowhere";
+  EXPECT_FALSE(panel_had_its_target) << "an event that arrives at once has no effect";
   EXPECT_EQ(global<SpringBoard>("Spring"), application);
 }
 
@@ -80,23 +80,23 @@ TEST_F(StartUp, TheColourIsReadBeforeTheFirstTimerFires) {
   UIColor colour;
   on_first_tick = [&] { colour = global<UIColor>("newColor"); };
   PhoneTest::launch();
-  EXPECT_FALSE(on_first_tick) << "none has fired";
+  EXPECT_FALSE(on_first_tick) << "no timer has fired yet";
   EXPECT_EQ(colour, UIColor::redColor());
 }
 
-TEST_F(StartUp, TimersTickAtTheirPaces) {
+TEST_F(StartUp, TimersTickAtTheirIntervals) {
   launch();
   const SpringBoardSpy<"Loping1"> watch(SpringBoard::cls());
   const SpringBoardSpy<"infoMusic"> refresh(SpringBoard::cls());
   const SpringBoardSpy<"changePreferences"> poll(SpringBoard::cls());
-  // Half an interval more, so that a tick is not missed by a hair.
+  // Half an interval more, so that rounding cannot drop a tick.
   advance(10.05);
   EXPECT_NEAR(watch.count(), 100, 1);
   EXPECT_NEAR(poll.count(), 100, 1);
   EXPECT_EQ(refresh.count(), 10);
 }
 
-TEST_F(StartUp, AppliesThePreferencesOnceMoreThoughNothingChanged) {
+TEST_F(StartUp, AppliesThePreferencesAgainThoughNothingChanged) {
   write_preferences("<key>checked</key><true/>");
   load_extension();
   const SpringBoardSpy<"changesPrefs"> apply(SpringBoard::cls());
@@ -105,7 +105,7 @@ TEST_F(StartUp, AppliesThePreferencesOnceMoreThoughNothingChanged) {
   EXPECT_EQ(apply.count(), 1);
 }
 
-TEST_F(StartUp, WithoutTheMusicApplicationItEndsWithOneLine) {
+TEST_F(StartUp, WithoutTheMusicApplicationItEndsWithOneLogLine) {
   remove_application("Music");
   use_no_preferences();
   load_extension();
@@ -138,14 +138,14 @@ TEST_F(StartUp, ApexLeavesTheIconAndItsWatchAlone) {
   EXPECT_EQ(watch.count(), 0);
   EXPECT_FALSE(is("added"));
   EXPECT_EQ(others(kMusic), others(kCalendar));
-  // Only the start-up looks at the setting.
+  // The setting is only read at launch.
   write_preferences("<key>apex</key><false/>");
   advance(1);
   EXPECT_EQ(watch.count(), 0);
   EXPECT_FALSE(is("added"));
 }
 
-// Until the settings are applied.
+// Only until the settings are applied.
 TEST_F(StartUp, AnIconInAFolderKeepsTheSystemsRecognizers) {
   PhoneTest::launch();
   ASSERT_TRUE(springboard::move_to_folder(kMusic));

@@ -16,7 +16,7 @@ class SystemEvents : public PanelTest {
   SBUIController controller() const { return SBUIController::sharedInstance(); }
 };
 
-TEST_F(SystemEvents, AClosedPanelLeavesTheHomeButtonToTheSystem) {
+TEST_F(SystemEvents, WithAClosedPanelTheHomeButtonIsTheSystems) {
   MethodSpy<"dismisWithNoAction", void(SpringBoard)> closed(SpringBoard::cls());
   SBIconController::sharedInstance().scrollToIconListAtIndex(1, NO);
   springboard::press_home();
@@ -28,7 +28,7 @@ TEST_F(SystemEvents, AClosedPanelLeavesTheHomeButtonToTheSystem) {
   EXPECT_EQ(closed.count(), 0);
 }
 
-TEST_F(SystemEvents, AnOpenPanelIsAllThatTheHomeButtonCloses) {
+TEST_F(SystemEvents, OnAnOpenPanelTheHomeButtonOnlyClosesIt) {
   open_panel();
   SBIconController::sharedInstance().setIsEditing(NO);
   EXPECT_EQ(controller().clickedMenuButton(), YES);
@@ -61,13 +61,13 @@ TEST_F(SystemEvents, ADoublePressClosesThePanelAndOpensNoSwitcher) {
   EXPECT_FALSE(controller().isAppSwitcherShowing());
 }
 
-TEST_F(SystemEvents, ATouchOnTheMusicIconLeavesItsHomeFrame) {
+TEST_F(SystemEvents, ATouchOnTheMusicIconSavesItsHomeFrame) {
   global<CGRect>("saved") = {};
   press(on_screen(kMusic));
   EXPECT_EQ(global<CGRect>("saved"), music_icon().frame());
 }
 
-TEST_F(SystemEvents, ATouchOnAnotherIconLeavesNothing) {
+TEST_F(SystemEvents, ATouchOnAnotherIconSavesNothing) {
   const CGRect before{1, 2, 3, 4};
   global<CGRect>("saved") = before;
   press(on_screen(kCalendar));
@@ -75,7 +75,7 @@ TEST_F(SystemEvents, ATouchOnAnotherIconLeavesNothing) {
   EXPECT_TRUE(icon_view(kCalendar).isHighlighted());
 }
 
-TEST_F(SystemEvents, TheIconHearsItsTouchFirst) {
+TEST_F(SystemEvents, TheIconReceivesItsTouchFirst) {
   press(on_screen(kMusic));
   EXPECT_TRUE(music_icon().isHighlighted());
 }
@@ -108,7 +108,7 @@ TEST_F(SystemEvents, EveryOtherEventOfTheSystemClosesThePanel) {
   }
 }
 
-TEST_F(SystemEvents, TheControlCentreDoesNotOpenOverThePanel) {
+TEST_F(SystemEvents, TheControlCentreCannotOpenOverThePanel) {
   open_panel();
   springboard::present_control_centre();
   EXPECT_FALSE(SBControlCenterController::sharedInstance().isPresented());
@@ -116,7 +116,7 @@ TEST_F(SystemEvents, TheControlCentreDoesNotOpenOverThePanel) {
   EXPECT_TRUE(is("isShow"));
 }
 
-TEST_F(SystemEvents, ABannerOnTheMoveLeavesTheControlCentreAlone) {
+TEST_F(SystemEvents, AMovingBannerDoesNotAffectTheControlCentre) {
   MethodSpy<"dismissBanner", void(SpringBoard)> sent_away(SpringBoard::cls());
   global<BOOL>("isBanner") = YES;
   for (const CGFloat y : {-200.0, -0.5, 0.5}) {
@@ -129,7 +129,7 @@ TEST_F(SystemEvents, ABannerOnTheMoveLeavesTheControlCentreAlone) {
   EXPECT_EQ(sent_away.count(), 0);
 }
 
-TEST_F(SystemEvents, ReachabilityIsHarmlessWhileThePanelIsClosed) {
+TEST_F(SystemEvents, ReachabilityHasNoEffectOnAClosedPanel) {
   MethodSpy<"dismisWithNoAction", void(SpringBoard)> asked(SpringBoard::cls());
   MethodSpy<"dismis:", void(SpringBoard, objc::Object)> closed(SpringBoard::cls());
   const auto manager = SBReachabilityManager::sharedInstance();
@@ -141,7 +141,7 @@ TEST_F(SystemEvents, ReachabilityIsHarmlessWhileThePanelIsClosed) {
   EXPECT_EQ(closed.count(), 0);
 }
 
-TEST_F(SystemEvents, EveryWindowMayShowOverTheLockScreen) {
+TEST_F(SystemEvents, EveryWindowCanShowOverTheLockScreen) {
   EXPECT_EQ(global<UIWindow>("window")._shouldCreateContextAsSecure(), YES);
   EXPECT_EQ(controller().window()._shouldCreateContextAsSecure(), YES);
 }
