@@ -1,4 +1,4 @@
-// A library that brings down every process that loads it.
+// A library that crashes every process that loads it.
 
 #include <cstdlib>
 

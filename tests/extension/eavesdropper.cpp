@@ -1,5 +1,5 @@
-// An extension that hears what a finger does to an icon: it replaces the icon view's last touch and
-// the tap that its delegate is told of, and counts both.
+// An extension that observes touches on icons: it replaces the icon view's method for the end of a
+// touch and the delegate's method for a tap, and counts the calls of both.
 
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSObject.h"

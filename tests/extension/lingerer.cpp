@@ -1,5 +1,5 @@
-// A gesture listener that does not come back from its event before somebody opens the other end of
-// the pipe that the environment names.
+// A gesture listener that does not return from its event until another process opens the other end
+// of the pipe that the environment names.
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,5 +1,5 @@
-// An extension after which many of the system's methods that answer yes or no leave rubbish in the
-// result's register above its lowest byte, as compiled code is free to do.
+// An extension that makes many of the system's boolean methods leave garbage above the lowest byte
+// of the result's register, as compiled code is free to do.
 
 #include <iterator>
 #include <string_view>
@@ -38,7 +38,7 @@ constexpr Question kQuestions[] = {
     {"SBUIController", "handleMenuDoubleTap"},
 };
 constexpr std::size_t kOfClasses = std::size(kQuestions);
-// The classes of values and texts have no names that one could rely on.
+// The classes of numbers and strings have no reliable names.
 constexpr std::size_t kCount = kOfClasses + 3;
 
 objc::Imp before[kCount];
@@ -65,7 +65,7 @@ void litter_classes(std::index_sequence<Indexes...>) {
    ...);
 }
 
-/// How often a question of this name was answered, whoever asked.
+/// How often methods with this selector were called, by any code.
 int count_answers(objc::Object, NSString selector) {
   int sum = 0;
   for (std::size_t i = 0; i < kCount; ++i)

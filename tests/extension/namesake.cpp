@@ -1,6 +1,5 @@
-// An extension that was there before the others and has classes of its own under names that they
-// want to use, too, which the environment lists. It knows which of its classes were ever sent a
-// message.
+// An extension that is loaded before the others and defines classes with names that they also want
+// to use; the environment lists the names. It records which of its classes ever received a message.
 
 #include <cstdlib>
 #include <sstream>
@@ -18,7 +17,7 @@ std::string& disturbed() {
   return names;
 }
 
-/// The first message to a class, or to one that is made of it, comes after this one.
+/// Runs before the first message to a class or to a subclass of it.
 void initialize(objc::Object cls) {
   disturbed() += std::string(" ") + class_getName(reinterpret_cast<objc::Class>(cls.id()));
 }
@@ -28,7 +27,7 @@ NSString disturbed_classes(objc::Object) {
 }
 
 [[gnu::constructor]] void load() {
-  // Scenarios give gestures away, whether one of ours has asked for the service or not.
+  // Scenarios assign gestures whether or not one of our libraries has loaded the service.
   objc::load_image(kActivatorImage.c_str());
   const char* listed = std::getenv("NAMESAKES");
   std::istringstream names(listed ? listed : "");

@@ -1,6 +1,6 @@
-// An extension that was there before the others: a method of the system's, below whatever they put
-// in its place, raises an exception when it is told to. It calls that method, too, and catches what
-// arrives above the others.
+// An extension that is loaded before the others. It makes a method of the system, below their
+// replacements, raise an exception on request. It also calls that method and catches the exception
+// above their replacements.
 
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSString.h"

@@ -1,5 +1,5 @@
-// A second extension, of another shape than ours: it replaces a method of Foundation's strings and
-// keeps no state but the implementation before.
+// Another extension, unlike ours: it replaces a method of Foundation's strings and has no state
+// except the previous implementation.
 
 #include "objc/send.h"
 #include "platform/Foundation/NSString.h"
@@ -18,7 +18,7 @@ objc::Id whispered_uppercase(objc::Id self, objc::Sel selector) {
 }
 
 [[gnu::constructor]] void load() {
-  // The constant strings' class is where such a message arrives.
+  // Messages to constant strings reach this class.
   const objc::Class strings = objc::class_of("text"_ns.id());
   MSHookMessageEx(strings, "uppercaseString"_sel, reinterpret_cast<objc::Imp>(&whispered_uppercase),
                   &original);

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Nothing here calls the methods: that they are bound is enough to be in the table.
+// Nothing calls these methods: being bound is enough to be in the table.
 struct TestBoundOnly : objc::Bound<TestBoundOnly, "TestBoundOnly", NSObject> {
   int size() const { return call<"size", int>(); }
   static NSObject shared() { return call_class<"shared", NSObject>(); }
@@ -20,7 +20,7 @@ const objc::Binding* find(const std::string& selector) {
   return nullptr;
 }
 
-TEST(BindingTable, HoldsEveryBoundMethodThatAHeaderDeclares) {
+TEST(BindingTable, ContainsEveryBoundMethodThatAHeaderDeclares) {
   const objc::Binding* size = find("size");
   ASSERT_TRUE(size);
   EXPECT_STREQ(size->encoding, "i@:");

@@ -15,7 +15,7 @@ TEST(Block, RunsItsCallableWithArgumentsAndResult) {
   EXPECT_EQ(borrowed(21), 42);
 }
 
-TEST(Block, NilDoesNothingAndGivesZero) {
+TEST(Block, NilDoesNothingAndReturnsZero) {
   const objc::Block<int(int)> nothing;
   EXPECT_FALSE(nothing);
   EXPECT_EQ(nothing(3), 0);
@@ -50,7 +50,7 @@ TEST(Block, CapturedReferencesKeepTheirObjectAlive) {
   object.release();
 }
 
-TEST(Block, HandlesCrossAsBarePointers) {
+TEST(Block, HandlesArePassedAsBarePointers) {
   NSObject object = NSObject::alloc().init();
   NSObject seen;
   const auto remember = objc::block([&seen](NSObject given) { seen = given; });

@@ -71,7 +71,7 @@ void make_classes() {
       .finish();
 }
 
-TEST(ClassBuilder, StateIsConstructedAtAllocAndDestroyedAtDeallocBaseFirstAndLast) {
+TEST(ClassBuilder, StateIsConstructedBaseFirstAndDestroyedBaseLast) {
   make_classes();
   events.clear();
   TestDog dog = TestDog::alloc().init();
@@ -92,7 +92,7 @@ TEST(ClassBuilder, EachObjectHasItsOwnState) {
   second.release();
 }
 
-TEST(ClassBuilder, TheStatesOfAClassAndItsBaseStandApart) {
+TEST(ClassBuilder, TheStatesOfAClassAndItsBaseAreSeparate) {
   make_classes();
   TestDog dog = TestDog::alloc().init();
   dog.setTricks(70);
@@ -109,7 +109,7 @@ TEST(ClassBuilder, SuperSendReachesTheBaseImplementation) {
   dog.release();
 }
 
-TEST(ClassBuilder, ASubclassMadeByAnybodyIsHeard) {
+TEST(ClassBuilder, ASubclassMadeElsewhereIsCalled) {
   make_classes();
   objc::ClassBuilder("TestLoudDog", "TestDog").method<&sound_twice_as_loud>("sound:").finish();
   TestDog dog = objc::cast<TestDog>(objc::send<objc::Object>(
@@ -135,7 +135,7 @@ TEST(ClassBuilder, AClassWhoseBaseIsMissingIsNotMade) {
   EXPECT_EQ(objc_getClass("TestOrphan"), nullptr);
 }
 
-TEST(Bound, AMissingClassGivesNilAndIsFoundOnceItExists) {
+TEST(Bound, AMissingClassIsNilUntilItExists) {
   struct TestLate : objc::Bound<TestLate, "TestLate", NSObject> {};
   EXPECT_FALSE(TestLate::alloc().init());
   objc::ClassBuilder("TestLate", "NSObject").finish();

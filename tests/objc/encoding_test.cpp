@@ -20,7 +20,7 @@ TEST(Encoding, IsDeducedFromTheSignature) {
   EXPECT_STREQ((objc::MethodEncoding<void, objc::Block<void(BOOL)>>::text.c_str()), "v@:@?");
 }
 
-TEST(Encoding, OffsetsAndQualifiersDoNotCount) {
+TEST(Encoding, OffsetsAndQualifiersAreIgnored) {
   EXPECT_TRUE(objc::same_encoding("v24@0:8@16", "v@:@"));
   EXPECT_TRUE(objc::same_encoding("r*16@0:8", "^c@:"));
   EXPECT_TRUE(objc::same_encoding("Vv@:@\"NSString\"", "v@:@"));
@@ -31,13 +31,13 @@ TEST(Encoding, TheBooleansOfBothRuntimesAreOneType) {
   EXPECT_TRUE(objc::same_encoding("B16@0:8", "c@:"));
 }
 
-TEST(Encoding, StructureNamesDoNotCountButTheirFieldsDo) {
+TEST(Encoding, StructureNamesAreIgnoredButFieldsAreNot) {
   EXPECT_TRUE(objc::same_encoding("{_NSPoint=dd}@:", "{CGPoint=dd}@:"));
   EXPECT_FALSE(objc::same_encoding("{CGPoint=ff}@:", "{CGPoint=dd}@:"));
   EXPECT_FALSE(objc::same_encoding("dd@:", "{CGPoint=dd}@:"));
 }
 
-TEST(Encoding, PointersAreAllAlike) {
+TEST(Encoding, AllPointersAreOneType) {
   EXPECT_TRUE(objc::same_encoding("v@:^{CGColor=}", "v@:^v"));
   EXPECT_TRUE(objc::same_encoding("v@:^^{_NSZone=^?}i", "v@:^vi"));
 }

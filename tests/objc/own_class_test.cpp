@@ -29,7 +29,7 @@ void describe(objc::ClassBuilder& builder) {
   builder.method<&three>("rows");
 }
 
-/// The class of somebody else that has the name first.
+/// Makes a foreign class that takes the name first.
 void make_stranger() {
   if (objc_getClass("TestTakenPicker")) return;
   objc::ClassBuilder("TestTakenPicker", "NSObject")
@@ -47,7 +47,7 @@ TEST(OwnClass, IsTheOneThatWasMade) {
   EXPECT_EQ(class_getSuperclass(TestSmallPicker::cls()), TestPicker::cls());
 }
 
-TEST(OwnClass, IsNilWhereTheNameIsTaken) {
+TEST(OwnClass, IsNilIfTheNameIsTaken) {
   make_stranger();
   messages_to_stranger = 0;
   objc::make_own_class<TestTakenPicker>(&describe);
@@ -56,7 +56,7 @@ TEST(OwnClass, IsNilWhereTheNameIsTaken) {
   EXPECT_EQ(messages_to_stranger, 0);
 }
 
-TEST(OwnClass, IsNotMadeOfAStrangerThatHasTheNameOfItsBase) {
+TEST(OwnClass, IsNotMadeFromAForeignClassWithTheNameOfItsBase) {
   make_stranger();
   messages_to_stranger = 0;
   objc::make_own_class<TestTakenPicker>(&describe);
@@ -66,7 +66,7 @@ TEST(OwnClass, IsNotMadeOfAStrangerThatHasTheNameOfItsBase) {
   EXPECT_EQ(objc_getClass("TestPickerOfTaken"), nullptr);
   EXPECT_EQ(messages_to_stranger, 0);
   objc::send<objc::Object>(objc::Object(objc_getClass("TestTakenPicker")), "self"_sel);
-  EXPECT_EQ(messages_to_stranger, 1) << "it notices what it is sent";
+  EXPECT_EQ(messages_to_stranger, 1) << "the foreign class records messages";
 }
 
 struct TestCrate : objc::Own<TestCrate, "TestCrate", NSObject> {};
@@ -77,8 +77,8 @@ class Label : public objc::Implementation<Label, TestLabel> {
   using Implementation::Implementation;
 };
 
-// The state's place would have the name of what its base has already.
-TEST(OwnClass, WhatCannotHoldItsStateIsNotMade) {
+// The state's instance variable would have the name of one that the base already has.
+TEST(OwnClass, IsNotMadeIfItCannotHoldItsState) {
   objc::make_own_class<TestCrate>(
       [](objc::ClassBuilder& builder) { builder.field<objc::Object>("TestLabel"); });
   ASSERT_TRUE(TestCrate::cls());

@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(Send, NilAnswersEveryKindOfMessageWithZero) {
+TEST(Send, NilReturnsZeroForEveryKindOfMessage) {
   const objc::Object nil;
   EXPECT_EQ(objc::send<long>(nil, "integerValue"_sel), 0);
   EXPECT_EQ(objc::send<double>(nil, "doubleValue"_sel), 0.0);
@@ -21,7 +21,7 @@ TEST(Send, NilAnswersEveryKindOfMessageWithZero) {
   objc::send<>(nil, "release"_sel);
 }
 
-TEST(Send, StructuresComeBackWhole) {
+TEST(Send, StructuresAreReturnedIntact) {
   objc::AutoreleasePool pool;
   const NSRange range = "an owl at night"_ns.rangeOfString("owl"_ns);
   EXPECT_EQ(range.location, 3u);
@@ -34,7 +34,7 @@ TEST(Send, FloatingPointArgumentsAndResultsKeepTheirWidth) {
   EXPECT_EQ(NSNumber::numberWithDouble(0.1).doubleValue(), 0.1);
 }
 
-TEST(RepeatedSend, IsAnsweredAsIfSentEachTime) {
+TEST(RepeatedSend, ReturnsWhatSendingEachTimeReturns) {
   objc::AutoreleasePool pool;
   const NSString text = "an owl"_ns;
   const objc::RepeatedSend<unichar, NSUInteger> letter_at(text, "characterAtIndex:"_sel);
@@ -50,13 +50,13 @@ TEST(Selector, IsRegisteredOnceAndCached) {
 }
 
 #ifdef SONAVUE_CHECKS
-TEST(SendDeathTest, AWrongSignatureStopsWithBothPrinted) {
+TEST(SendDeathTest, AWrongSignaturePrintsBothAndAborts) {
   EXPECT_DEATH(objc::send<double>("text"_ns, "length"_sel),
                "length.*called as d@:.*implemented as");
 }
 #endif
 
-TEST(Ref, HoldsOneReferenceAndGivesItBack) {
+TEST(Ref, HoldsOneReferenceAndReleasesIt) {
   NSObject object = NSObject::alloc().init();
   {
     auto kept = objc::Ref<NSObject>::retain(object);

@@ -4,7 +4,7 @@
 #include "tests/settings/credits_page_test.h"
 #include "tests/settings/every_device.h"
 
-// Where everything of the credits stands, and what it looks like.
+// The layout and look of the credits.
 
 namespace sonavue::test {
 namespace {
@@ -29,7 +29,7 @@ class CreditsLayout : public Credits {
 
 TEST_F(CreditsLayout, ARowShowsARoundPhotoTwoLinesAndAnArrow) {
   open_credits();
-  // As the row makes them, before the table lays out its own parts.
+  // The row's own parts, before the table lays out its parts.
   const objc::Object cls(objc_getClass("developerCell"));
   const auto row =
       objc::cast<UIView>(objc::send<PSHeaderViewDelegate>(objc::send<NSObject>(cls, "alloc"_sel),
@@ -76,7 +76,7 @@ TEST_F(CreditsLayout, ACardShowsTheAuthorInTheMiddle) {
   EXPECT_FALSE(objc::send<BOOL>(card, "shouldAutorotate"_sel));
 }
 
-TEST_F(CreditsLayout, TilesStandInStripsWithoutABar) {
+TEST_F(CreditsLayout, TilesAreInStripsWithoutAScrollIndicator) {
   open_card("developerCell");
   int strips = 0;
   for (const UIView part : card.view().subviews().of<UIView>()) {
@@ -96,8 +96,8 @@ TEST_F(CreditsLayout, TilesStandInStripsWithoutABar) {
   EXPECT_EQ(strips, 2);
 }
 
-TEST_F(CreditsLayout, ACardIsLetGoOfWhenItIsClosed) {
-  // A view keeps its colour for as long as it lives.
+TEST_F(CreditsLayout, ACardIsReleasedWhenItIsClosed) {
+  // A view retains its colour until it is deallocated.
   const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
   {
     const objc::AutoreleasePool pool;
@@ -123,19 +123,19 @@ TEST_F(CreditsLayout, AMissingPhotoLeavesAnEmptyCircle) {
 
 class CreditsCard : public OnEveryDevice<Credits> {};
 
-TEST_P(CreditsCard, StandsOnTheScreenToItsLastRow) {
+TEST_P(CreditsCard, FitsOnTheScreenToItsLastRow) {
   open_card("developerCell");
   photograph_device("credits-card");
   const CGRect screen = UIScreen::mainScreen().bounds();
-  CGFloat end = 20;  // Of the status bar.
+  CGFloat end = 20;  // The bottom of the status bar.
   for (const UIView part : card.view().subviews().of<UIView>()) {
     if (part.isKindOfClass(UIButton::cls())) continue;
-    EXPECT_GE(part.frame().origin.y, end) << "nothing lies over what is above it";
+    EXPECT_GE(part.frame().origin.y, end) << "no part overlaps the one above it";
     end = CGRect(part.frame()).max_y();
   }
   EXPECT_LE(end, screen.size.height);
   ASSERT_TRUE(tap_text("Follow"));
-  EXPECT_FALSE(presented()) << "its last row can be tapped";
+  EXPECT_FALSE(presented()) << "a tap on its last row closes it";
 }
 INSTANTIATE_TEST_SUITE_P(Devices, CreditsCard, every_device(), device_name);
 

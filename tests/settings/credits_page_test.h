@@ -5,11 +5,11 @@
 
 namespace sonavue::test {
 
-/// The page of the authors, and an author's card over it.
+/// The page with the authors, and an author's card over it.
 class Credits : public PagesTest {
  protected:
   void open_credits() { open("creatorsController"); }
-  /// The header cell of that class.
+  /// The author's row, by its class.
   UIView author(const char* class_name) const { return cell_in(window, objc_getClass(class_name)); }
   static UIView cell_in(UIView top, objc::Class cls) {
     if (top.isKindOfClass(cls)) return top;
@@ -30,7 +30,7 @@ class Credits : public PagesTest {
     card = presented();
     ASSERT_TRUE(card);
   }
-  /// What stands on the tiles of the card's strips, in their order.
+  /// The names on the tiles of the card's strips, in order.
   std::vector<std::string> tiles() const {
     std::vector<std::string> names;
     for (const UIView part : card.view().subviews().of<UIView>()) {

@@ -8,7 +8,7 @@
 namespace sonavue::test {
 namespace {
 
-/// The schemes that somebody opens on this machine, and what was opened.
+/// The URL schemes that an application on this machine handles, and the URLs that were opened.
 std::vector<std::string>& known_schemes() {
   static std::vector<std::string> schemes;
   return schemes;
@@ -61,7 +61,7 @@ TEST_F(Credits, TheDesignersCardHasThreePackages) {
                                             "Follow"));
 }
 
-TEST_F(Credits, TilesStandInARow) {
+TEST_F(Credits, TilesAreInARow) {
   open_card("developerCell");
   const UIView strip = UIView::alloc().initWithFrame({0, 0, 300, 130}).autorelease();
   for (int i = 0; i < 3; ++i) {
@@ -95,7 +95,7 @@ TEST_F(Credits, CloseClosesTheCard) {
   EXPECT_FALSE(presented());
 }
 
-TEST_F(Credits, APackageWithoutAManagerOnlyClosesTheCard) {
+TEST_F(Credits, WithoutAPackageManagerAPackageOnlyClosesTheCard) {
   open_card("developerCell");
   ASSERT_TRUE(tap_text("Tidepool"));
   advance(1);
@@ -103,7 +103,7 @@ TEST_F(Credits, APackageWithoutAManagerOnlyClosesTheCard) {
   EXPECT_FALSE(fs::exists(device / "var/mobile/Library/Outbox"));
 }
 
-TEST_F(Credits, FollowOpensTheWebWhereNoReaderIs) {
+TEST_F(Credits, WithoutAReaderFollowOpensTheWeb) {
   open_card("developerCell");
   ASSERT_TRUE(tap_text("Follow"));
   advance(1);
@@ -116,7 +116,7 @@ TEST_F(Credits, FollowOpensTheWebWhereNoReaderIs) {
   EXPECT_THAT(sent, testing::HasSubstr("/intent/follow?screen_name=plumcode"));
 }
 
-/// A machine with other applications.
+/// A machine with other applications installed.
 class CreditsAmongApplications : public Credits {
  protected:
   std::vector<std::string> opened_by(const char* tile, std::vector<std::string> schemes,
@@ -152,7 +152,7 @@ TEST_F(CreditsAmongApplications, EveryTileShowsItsOwnPackage) {
   }
 }
 
-TEST_F(CreditsAmongApplications, FollowAsksTheReadersInTheirOrder) {
+TEST_F(CreditsAmongApplications, FollowTriesTheReadersInOrder) {
   EXPECT_THAT(opened_by("Follow", {"twitter", "tweetings", "tweetbot"}),
               testing::ElementsAre("tweetbot:///user_profile/plumcode"));
   EXPECT_THAT(opened_by("Follow", {"twitter", "tweetings"}),
@@ -168,7 +168,7 @@ TEST_F(CreditsAmongApplications, FollowMeansTheAuthorOfTheCard) {
               testing::ElementsAre("twitter://user?screen_name=vanedraws"));
 }
 
-TEST_F(Credits, WhereNoTextsAreSentTheMessageDoesNothing) {
+TEST_F(Credits, WithoutTextMessagesTheMessageTileDoesNothing) {
   ASSERT_TRUE(MFMessageComposeViewController::cls());
   const ReplacedMethod<&cannot_send> without(objc_getMetaClass("MFMessageComposeViewController"),
                                              "canSendText");
@@ -179,7 +179,7 @@ TEST_F(Credits, WhereNoTextsAreSentTheMessageDoesNothing) {
   EXPECT_EQ(presented(), card);
 }
 
-TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
+TEST_F(Credits, MailIsComposedOverTheCardAndClosesItAtTheEnd) {
   open_card("designerCell");
   ASSERT_TRUE(tap_text("Mail"));
   advance(1);
@@ -195,7 +195,7 @@ TEST_F(Credits, MailIsWrittenOverTheCardAndClosesItAtItsEnd) {
   EXPECT_FALSE(presented());
 }
 
-TEST_F(Credits, WithoutTheFrameworkNothingIsWrittenAndTheCardStays) {
+TEST_F(Credits, WithoutTheFrameworkNothingIsComposedAndTheCardStays) {
   host::set_device_images({});
   open_card("developerCell");
   for (const char* contact : {"Mail", "Message"}) {
@@ -206,14 +206,14 @@ TEST_F(Credits, WithoutTheFrameworkNothingIsWrittenAndTheCardStays) {
   }
 }
 
-TEST_F(Credits, TheFrameworkComesInWithTheFirstLetter) {
+TEST_F(Credits, TheFrameworkIsLoadedWithTheFirstMail) {
   open_card("developerCell");
   EXPECT_FALSE(objc_getClass("MFMailComposeViewController"));
   ASSERT_TRUE(tap_text("Mail"));
   EXPECT_TRUE(objc_getClass("MFMailComposeViewController"));
 }
 
-TEST_F(Credits, AMessageIsWrittenOverTheCardAndClosesItAtItsEnd) {
+TEST_F(Credits, AMessageIsComposedOverTheCardAndClosesItAtTheEnd) {
   open_card("developerCell");
   ASSERT_TRUE(tap_text("Message"));
   advance(1);

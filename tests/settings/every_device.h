@@ -17,7 +17,7 @@ inline void PrintTo(const DeviceModel& model, std::ostream* stream) {
 
 namespace sonavue::test {
 
-/// A test of pages on the screen of one device after the other.
+/// Runs a test of pages on the screen of every device.
 template <class Pages>
 class OnEveryDevice : public Pages, public testing::WithParamInterface<host::DeviceModel> {
  protected:
@@ -36,7 +36,7 @@ inline auto every_device() {
   return testing::ValuesIn(host::device_models());
 }
 
-/// What a test is called on that device.
+/// The suffix of a test's name for that device.
 inline std::string device_name(const testing::TestParamInfo<host::DeviceModel>& device) {
   std::string name(device.param.name);
   std::erase(name, ' ');

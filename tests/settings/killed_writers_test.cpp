@@ -13,8 +13,8 @@
 #include "tests/settings/settings_device.h"
 #include "tests/support/host_test.h"
 
-// Two processes write the preferences file as fast as they can and are killed in the middle of it.
-// SONAVUE_KILLS=200 has it take a minute.
+// Two processes write the preferences file as fast as they can and are killed while writing. With
+// SONAVUE_KILLS=200 the test takes a minute.
 
 namespace sonavue::test {
 namespace {
@@ -58,7 +58,7 @@ class Writer {
   Writer(const Writer&) = delete;
   Writer& operator=(const Writer&) = delete;
 
-  /// Is it at work when so much time has gone by?
+  /// Whether it is still running after that time.
   bool lives_for(milliseconds time) const {
     pollfd end{handle_, POLLIN, 0};
     return poll(&end, 1, static_cast<int>(time.count())) == 0;
@@ -73,14 +73,14 @@ class KilledWriters : public host::test::HostTest, public SettingsDevice {
  protected:
   KilledWriters() { write_dictionary(preferences(), text_entry("blur", "dark")); }
 
-  /// Whole, and with what nobody has changed.
+  /// Whether the file is complete and has the entry that no writer changes.
   static bool loads() {
     const objc::AutoreleasePool pool;
     const NSDictionary all =
         NSDictionary::dictionaryWithContentsOfFile(NSString::stringWithUTF8String(kFile));
     return all && objc::cast<NSString>(all.objectForKey("blur"_ns)).isEqualToString("dark"_ns);
   }
-  bool stands_alone() const {
+  bool is_alone() const {
     int count = 0;
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(preferences().parent_path(), error)) {
@@ -89,7 +89,7 @@ class KilledWriters : public host::test::HostTest, public SettingsDevice {
     }
     return count == 1;
   }
-  /// What the pane wrote last, to see that it gets on.
+  /// The value that the pane wrote last, to see that it makes progress.
   static std::string last_settings() {
     const objc::AutoreleasePool pool;
     const auto value = objc::cast<NSObject>(stored_value(PreferenceKey("setting-0"_ns)));
@@ -97,27 +97,27 @@ class KilledWriters : public host::test::HostTest, public SettingsDevice {
   }
 };
 
-TEST_F(KilledWriters, NeverHurtTheFileNorLeaveAnother) {
+TEST_F(KilledWriters, NeverDamageTheFileOrLeaveAnother) {
   std::mt19937 random(6);
   std::uniform_int_distribution<int> life(0, kLongestLife);
   std::optional<Writer> pane(std::in_place, device, "pane");
   std::optional<Writer> home(std::in_place, device, "home");
   for (int number = 0; number < kills(); ++number) {
     const std::string before = last_settings();
-    ASSERT_TRUE(comes_true([&] { return last_settings() != before; })) << "nobody writes";
+    ASSERT_TRUE(comes_true([&] { return last_settings() != before; })) << "no process writes";
     const bool is_pane = random() % 2 == 0;
     auto& victim = is_pane ? pane : home;
-    ASSERT_TRUE(victim->lives_for(milliseconds(life(random)))) << "it ended by itself";
+    ASSERT_TRUE(victim->lives_for(milliseconds(life(random)))) << "the writer ended by itself";
     victim.reset();
     ASSERT_TRUE(loads()) << "after kill " << number;
     victim.emplace(device, is_pane ? "pane" : "home");
-    ASSERT_TRUE(comes_true([&] { return stands_alone(); })) << "after kill " << number;
+    ASSERT_TRUE(comes_true([&] { return is_alone(); })) << "after kill " << number;
   }
   pane.reset();
   home.reset();
   EXPECT_TRUE(loads());
   store("red"_ns, preference::tint());
-  EXPECT_TRUE(stands_alone());
+  EXPECT_TRUE(is_alone());
 }
 
 }  // namespace

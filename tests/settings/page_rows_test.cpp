@@ -2,7 +2,7 @@
 #include "tests/settings/pages_test.h"
 #include "tests/settings/replaced_method.h"
 
-// What the rows of the pages are made of.
+// The specifiers of the pages' rows.
 
 namespace sonavue::test {
 namespace {
@@ -42,7 +42,7 @@ class PageRows : public PagesTest {
   }
 };
 
-TEST_F(PageRows, OnTheRootPageOneRowHasAValueAndTwoLeadOn) {
+TEST_F(PageRows, OnTheRootPageOneRowHasAValueAndTwoAreLinks) {
   const std::string target = "SonavueSettingsController";
   EXPECT_THAT(rows_of("SonavueSettingsController"),
               testing::UnorderedElementsAre(
@@ -66,7 +66,7 @@ TEST_F(PageRows, OnTheStylePageOnlyTwoRowsHaveNoValue) {
           "Text color: 2" + value + "PSListItemsController"));
 }
 
-TEST_F(PageRows, OnTheCreditsPageAreTwoHeadersAndNothingElse) {
+TEST_F(PageRows, OnTheCreditsPageThereAreOnlyTwoHeaders) {
   const std::string header = ": 0 creatorsController - - -";
   EXPECT_THAT(rows_of("creatorsController"), testing::ElementsAre(header, header));
 }

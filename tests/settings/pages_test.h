@@ -13,14 +13,14 @@
 
 namespace sonavue::test {
 
-/// What the shell was asked to do; nothing of it is done.
+/// The shell commands that were requested. None is run.
 inline std::vector<std::string>& shell_commands() {
   static std::vector<std::string> commands;
   return commands;
 }
 
-/// The settings' pages on a phone's screen, as the settings application shows them. The wizard has
-/// been there before, unless a test forgets it.
+/// The settings' pages on a phone's screen, as the settings application shows them. The wizard
+/// counts as already shown, unless a test resets that.
 class PagesTest : public host::test::PageTest, public SettingsDevice {
  public:
   PagesTest() {
@@ -41,7 +41,7 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
     settings::set_where(nil);
   }
 
-  /// Pushes a new page of that class, as the settings application does.
+  /// Pushes a new page of that class, as the settings application would.
   PSListController open(const char* name) {
     const auto root = UIViewController::alloc().init().autorelease();
     stack = UINavigationController::alloc().initWithRootViewController(root).autorelease();
@@ -56,7 +56,7 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
   }
   PSListController shown() const { return objc::cast<PSListController>(stack.topViewController()); }
 
-  /// The row of that text on the page that is shown; nil when there is none.
+  /// The row with that text on the visible page; nil if there is none.
   UITableViewCell row(std::string_view text) {
     const UITableView table = shown().table();
     for (NSInteger section = 0; section < table.numberOfSections(); ++section) {
@@ -87,7 +87,7 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
   UISwitch switch_of(std::string_view text) {
     return objc::cast<PSSwitchTableCell>(row(text)).switch_control();
   }
-  /// The first view below `top` that shows the text.
+  /// The first view inside `top` that shows the text.
   static UIView find(UIView top, std::string_view text) {
     if (top.isKindOfClass(UILabel::cls())) {
       const NSString shown = objc::cast<UILabel>(top).text();
@@ -98,7 +98,7 @@ class PagesTest : public host::test::PageTest, public SettingsDevice {
     }
     return nil;
   }
-  /// Does a label, a field or a text view below `top` say so?
+  /// Whether a label, field or text view inside `top` shows the text.
   static bool says(UIView top, std::string_view text) {
     if (top.respondsToSelector("text"_sel)) {
       const auto said = objc::send<NSString>(top, "text"_sel);

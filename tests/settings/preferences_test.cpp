@@ -19,7 +19,7 @@ TEST_F(SettingsPreferences, AChangeKeepsTheRestAndClearsTheMark) {
   EXPECT_EQ(stored(), "blur = dark, checked = 0, enable = 1");
 }
 
-TEST_F(SettingsPreferences, TheFirstChangeMakesTheFile) {
+TEST_F(SettingsPreferences, TheFirstChangeCreatesTheFile) {
   store("red"_ns, preference::tint());
   EXPECT_EQ(stored(), "checked = 0, tint = red");
 }
@@ -36,19 +36,19 @@ TEST_F(SettingsPreferences, AnUnannouncedChangeLeavesTheMark) {
   EXPECT_EQ(stored(), "apex = 1, checked = 1");
 }
 
-TEST_F(SettingsPreferences, AnUnannouncedFirstChangeMakesNoMark) {
+TEST_F(SettingsPreferences, AnUnannouncedFirstChangeSetsNoMark) {
   store_unannounced(yes(), preference::firstBoot());
   EXPECT_EQ(stored(), "firstBoot = 1");
 }
 
-TEST_F(SettingsPreferences, ValuesAreReadAnewEveryTime) {
+TEST_F(SettingsPreferences, ValuesAreReadAgainEveryTime) {
   EXPECT_FALSE(stored_value(preference::tint()));
   write_dictionary(preferences(), text_entry("tint", "red"));
   EXPECT_TRUE(objc::cast<NSString>(stored_value(preference::tint())).isEqualToString("red"_ns));
   EXPECT_FALSE(stored_value(preference::blur()));
 }
 
-/// Written by another program's library, in the two forms that there are.
+/// Files written by another program's library, in both formats.
 class ForeignPreferences : public SettingsTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(ForeignPreferences, AreReadAndKept) {
@@ -65,7 +65,7 @@ TEST_P(ForeignPreferences, AreReadAndKept) {
 INSTANTIATE_TEST_SUITE_P(Forms, ForeignPreferences,
                          testing::Values("preferences-xml.plist", "preferences-binary.plist"));
 
-TEST_F(SettingsPreferences, OnlyTextsAndNumbersAreValues) {
+TEST_F(SettingsPreferences, OnlyStringsAndNumbersAreValues) {
   for (const char* value : {"<data>AAEC</data>", "<date>2015-01-01T00:00:00Z</date>", "<array/>",
                             "<dict><key>red</key><true/></dict>"}) {
     write_dictionary(preferences(), "<key>enable</key>" + std::string(value));
@@ -78,7 +78,7 @@ TEST_F(SettingsPreferences, OnlyTextsAndNumbersAreValues) {
   }
 }
 
-TEST_F(SettingsPreferences, OnlyANumberThatIsNotZeroIsTrue) {
+TEST_F(SettingsPreferences, OnlyNonZeroNumbersAreTrue) {
   EXPECT_TRUE(is_true(yes()));
   EXPECT_FALSE(is_true(NSNumber::numberWithBool(NO)));
   EXPECT_FALSE(is_true(objc::Object()));

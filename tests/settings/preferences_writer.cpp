@@ -9,8 +9,8 @@
 #include "settings/preferences.h"
 #include "tweak/preferences/poll.h"
 
-// `preferences_writer DEVICE pane|home`: writes the device's preferences file as fast as it can, as
-// the pane does or as the home screen does, until it is killed.
+// `preferences_writer DEVICE pane|home` writes the device's preferences file as fast as it can,
+// like the pane or like the home screen, until it is killed.
 
 namespace {
 

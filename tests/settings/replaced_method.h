@@ -4,7 +4,7 @@
 
 namespace sonavue::test {
 
-/// Another answer to one message of a class, for as long as this lives.
+/// Replaces a class's method for as long as this object exists.
 template <auto Function>
 class ReplacedMethod {
  public:

@@ -5,7 +5,7 @@
 #include "settings/texts.h"
 #include "tests/settings/pages_test.h"
 
-// Nothing of the test machine is to be restarted.
+// Replaces the C library's function, so that nothing on the test machine is restarted.
 extern "C" int system(const char* command) {
   sonavue::test::shell_commands().emplace_back(command);
   return 0;
@@ -23,7 +23,7 @@ class RootPage : public PagesTest {
                                             "initWithSpecifier:"_sel, PSSpecifier())
         .autorelease();
   }
-  /// The kinds and names of its rows.
+  /// The kinds and names of the page's rows.
   std::vector<std::string> names() const {
     std::vector<std::string> made;
     for (const PSSpecifier each : page.specifiers().of<PSSpecifier>())
@@ -49,7 +49,7 @@ TEST_F(RootPage, HasASwitchAndTwoLinksBelowItsHeader) {
   photograph("settings-root");
 }
 
-TEST_F(RootPage, TheFirstLaunchMarksItselfAndShowsTheWizard) {
+TEST_F(RootPage, TheFirstLaunchIsRecordedAndShowsTheWizard) {
   fs::remove(preferences());
   open_root();
   EXPECT_EQ(stored(), "firstBoot = 1");
@@ -66,7 +66,7 @@ TEST_F(RootPage, TheSecondLaunchShowsNoWizard) {
   EXPECT_EQ(stored(), "firstBoot = 1");
 }
 
-TEST_F(RootPage, AFirstLaunchOfAnOddTypeIsOneToo) {
+TEST_F(RootPage, AValueOfAnotherTypeCountsAsAFirstLaunch) {
   for (const std::string value : {"<array/>", "<dict/>", "<data>AAEC</data>", "<string>no</string>",
                                   "<date>2015-01-01T00:00:00Z</date>"}) {
     write_dictionary(preferences(), "<key>firstBoot</key>" + value + "<key>enable</key>" + value);
@@ -79,7 +79,7 @@ TEST_F(RootPage, AFirstLaunchOfAnOddTypeIsOneToo) {
   }
 }
 
-TEST_F(RootPage, TablesThatHoldNoTextsLeaveRowsWithoutNames) {
+TEST_F(RootPage, TablesWithoutTextsLeaveRowsWithoutNames) {
   write_dictionary(languages() / "en.plist", "<key>enable</key><array/><key>contacts</key><true/>" +
                                                  text_entry("configuration", "Configuration"));
   open_root();
@@ -125,7 +125,7 @@ TEST_F(RootPage, ConfigurationIsTheStylePage) {
   EXPECT_EQ(settings::where, shown());
 }
 
-TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
+TEST_F(RootPage, TheHeaderHasAFixedHeightAndACentredLogo) {
   open_root();
   const PSHeaderViewDelegate header = make_header();
   for (const CGFloat width : {320.0, 375.0, 414.0, 768.0})
@@ -151,7 +151,7 @@ TEST_F(RootPage, TheHeaderIsOfOneHeightAndItsLogoInTheMiddle) {
   EXPECT_EQ(objc::cast<UIView>(header).backgroundColor(), UIColor::clearColor());
 }
 
-TEST_F(RootPage, TheHeaderIsInTheMiddleOfEveryScreen) {
+TEST_F(RootPage, TheHeaderIsCentredOnEveryScreen) {
   open_root();
   const auto model = host::current_device();
   for (const auto& each : host::device_models()) {
@@ -190,7 +190,7 @@ TEST_F(RootPage, WithoutTheFrameworkTheShareButtonDoesNothing) {
   EXPECT_FALSE(page.presentedViewController() || stack.presentedViewController());
 }
 
-TEST_F(RootPage, WithoutTextsEverythingIsNullAndStoredSo) {
+TEST_F(RootPage, WithoutTextsEverythingIsNullAndStoredUnderNull) {
   fs::remove(languages() / "en.plist");
   open_root();
   EXPECT_THAT(names(), testing::Contains("(null)"));
@@ -198,12 +198,12 @@ TEST_F(RootPage, WithoutTextsEverythingIsNullAndStoredSo) {
   EXPECT_EQ(stored(), "(null) = 1, checked = 0, firstBoot = 1");
 }
 
-TEST_F(RootPage, APictureIsFoundByItsNameAndByItsFile) {
+TEST_F(RootPage, APictureIsFoundByItsNameAndByItsFileName) {
   EXPECT_TRUE(imageFromFile("attivo"_ns));
   EXPECT_TRUE(imageFromFile("attivo@2x.png"_ns));
   EXPECT_FALSE(imageFromFile("nothing"_ns));
   fs::copy_file(pictures() / "attivo@2x.png", pictures() / "small.png");
-  EXPECT_FALSE(imageFromFile("small"_ns)) << "only sharp pictures are meant";
+  EXPECT_FALSE(imageFromFile("small"_ns)) << "only pictures for two pixels per point are found";
 }
 
 TEST_F(RootPage, WithoutPicturesThePagesStillWork) {

@@ -14,7 +14,7 @@ namespace sonavue::test {
 
 namespace fs = std::filesystem;
 
-/// A device of one test's own, which has the English texts unless the test says otherwise, and no
+/// A device for one test. It has the English texts, unless the test changes them, and no
 /// preferences file.
 class SettingsDevice {
  public:
@@ -37,7 +37,7 @@ class SettingsDevice {
     return device / "var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist";
   }
 
-  /// A file with a dictionary of these entries, as XML.
+  /// Writes a file with a dictionary of these entries, given as XML.
   static void write_dictionary(const fs::path& file, std::string_view entries) {
     write(file, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>" +
                     std::string(entries) + "</dict></plist>");
@@ -52,7 +52,7 @@ class SettingsDevice {
     return "<key>" + std::string(key) + "</key>" + (on ? "<true/>" : "<false/>");
   }
 
-  /// All of the preferences file, one `key = value` after another, by key.
+  /// The contents of the preferences file as `key = value` pairs, sorted by key.
   std::string stored() const {
     const NSDictionary all = NSDictionary::dictionaryWithContentsOfFile(
         "/var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist"_ns);

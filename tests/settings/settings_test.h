@@ -12,7 +12,7 @@
 
 namespace sonavue::test {
 
-/// A process with the platform's views on such a device.
+/// A process with the platform's views, on such a device.
 class SettingsTest : public host::test::HostTest, public SettingsDevice {
  public:
   SettingsTest() {

@@ -12,7 +12,7 @@ class StylePage : public PagesTest {
   void open_style() { open("styleController"); }
 };
 
-TEST_F(StylePage, AsksForEverythingInItsOrder) {
+TEST_F(StylePage, ShowsEverySettingInOrder) {
   open_style();
   std::vector<std::string> rows;
   for (const PSSpecifier each : page.specifiers().of<PSSpecifier>()) {
@@ -82,7 +82,7 @@ TEST_F(StylePage, RingAndColoursAreListsToo) {
   }
 }
 
-TEST_F(StylePage, NoLeavesApexAndTheSwitchSpringsBack) {
+TEST_F(StylePage, NoKeepsApexAndResetsTheSwitch) {
   open_style();
   tap_middle(switch_of("Apex support"));
   photograph("settings-apex-question");
@@ -98,7 +98,7 @@ TEST_F(StylePage, NoLeavesApexAndTheSwitchSpringsBack) {
   EXPECT_TRUE(shell_commands().empty());
 }
 
-TEST_F(StylePage, YesStoresApexLeavesTheMarkAndRestartsTheHomeScreen) {
+TEST_F(StylePage, YesStoresApexKeepsTheMarkAndRestartsTheHomeScreen) {
   open_style();
   tap_middle(switch_of("Apex support"));
   ASSERT_TRUE(tap_text("Yes"));

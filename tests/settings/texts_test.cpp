@@ -13,7 +13,7 @@
 namespace sonavue::test {
 namespace {
 
-/// How often the English table may still be read.
+/// How many more reads of the English table are allowed.
 int& readings_left() {
   static int left = 0;
   return left;
@@ -43,7 +43,7 @@ class Texts : public SettingsTest {
   }
 };
 
-TEST_F(Texts, WhoeverSpeaksAnotherLanguageReadsEnglish) {
+TEST_F(Texts, OtherLanguagesFallBackToEnglish) {
   speak("fr");
   write_dictionary(languages() / "fr.plist", text_entry("red", "Rouge"));
   write_english(text_entry("red", "Red"));
@@ -51,19 +51,19 @@ TEST_F(Texts, WhoeverSpeaksAnotherLanguageReadsEnglish) {
   EXPECT_EQ(text("red"), "Red");
 }
 
-TEST_F(Texts, EnglishIsEnglishAndSoIsNoLanguageAtAll) {
+TEST_F(Texts, EnglishIsEnglishAndTheDefault) {
   speak("en");
   EXPECT_STREQ(lang().UTF8String(), "en");
   NSUserDefaults::standardUserDefaults().setObject(NSArray::array(), "AppleLanguages"_ns);
   EXPECT_STREQ(lang().UTF8String(), "en");
 }
 
-TEST_F(Texts, WhatTheTableLacksIsNull) {
+TEST_F(Texts, AMissingTextIsNull) {
   write_english(text_entry("red", "Red"));
   EXPECT_EQ(text("blue"), "(null)");
 }
 
-TEST_F(Texts, AnEmptyTextIsNone) {
+TEST_F(Texts, AnEmptyTextCountsAsMissing) {
   write_english(text_entry("red", ""));
   EXPECT_EQ(text("red"), "(null)");
 }
@@ -74,7 +74,7 @@ TEST_F(Texts, WithoutATableEverythingIsNull) {
   EXPECT_EQ(identifier("Red"), "(null)");
 }
 
-/// Somebody else's table, for so many looks at it.
+/// A table that becomes unreadable after a number of reads.
 class LockedTexts : public Texts {
  protected:
   LockedTexts() { write_english(text_entry("red", "Red") + text_entry("empty", "")); }
@@ -83,20 +83,20 @@ class LockedTexts : public Texts {
   ReplacedMethod<&may_be_read> locked_{NSFileManager::cls(), "isReadableFileAtPath:"};
 };
 
-TEST_F(LockedTexts, WhatMayNotBeReadIsNullWhateverItHolds) {
+TEST_F(LockedTexts, AnUnreadableTableGivesNull) {
   readings_left() = 0;
   EXPECT_EQ(text("red"), "(null)");
   EXPECT_EQ(identifier("Red"), "(null)");
 }
 
-TEST_F(LockedTexts, OneLookIsEnoughForATextThatIsThere) {
+TEST_F(LockedTexts, OneReadIsEnoughForAnExistingText) {
   readings_left() = 1;
   EXPECT_EQ(text("red"), "Red");
   readings_left() = 1;
   EXPECT_EQ(identifier("Red"), "red");
 }
 
-TEST_F(LockedTexts, WhereOnlyTheSecondLookFailsTheFirstFindingStands) {
+TEST_F(LockedTexts, IfOnlyTheSecondReadFailsTheFirstResultIsReturned) {
   readings_left() = 1;
   EXPECT_EQ(text("blue"), "nil");
   readings_left() = 1;
@@ -105,7 +105,7 @@ TEST_F(LockedTexts, WhereOnlyTheSecondLookFailsTheFirstFindingStands) {
   EXPECT_EQ(text("empty"), "(null)");
 }
 
-TEST_F(Texts, AMalformedTableIsAnEmptyOne) {
+TEST_F(Texts, AMalformedTableCountsAsEmpty) {
   for (const char* bytes : {"", "no list", "<?xml version=\"1.0\"?><plist><dict><key>red"}) {
     write(languages() / "en.plist", bytes);
     EXPECT_EQ(text("red"), "(null)") << bytes;
@@ -113,14 +113,14 @@ TEST_F(Texts, AMalformedTableIsAnEmptyOne) {
   }
 }
 
-TEST_F(Texts, AFolderInPlaceOfATableIsAnEmptyOne) {
+TEST_F(Texts, AFolderInPlaceOfATableCountsAsEmpty) {
   fs::remove(languages() / "en.plist");
   fs::create_directory(languages() / "en.plist");
   EXPECT_EQ(text("red"), "(null)");
   EXPECT_EQ(identifier("Red"), "(null)");
 }
 
-// Whatever a property list can hold that is no text.
+// Everything that a property list can hold except strings.
 constexpr const char* kNoTexts[] = {"<integer>7</integer>",
                                     "<real>0.5</real>",
                                     "<true/>",
@@ -129,7 +129,7 @@ constexpr const char* kNoTexts[] = {"<integer>7</integer>",
                                     "<array><string>Red</string></array>",
                                     "<dict><key>red</key><string>Red</string></dict>"};
 
-TEST_F(Texts, WhatIsNoTextIsAbsent) {
+TEST_F(Texts, AValueThatIsNotAStringCountsAsMissing) {
   for (const std::string value : kNoTexts) {
     write_english("<key>red</key>" + value + text_entry("tint", "Tint color") + "<key>zero</key>" +
                   value);
@@ -140,7 +140,7 @@ TEST_F(Texts, WhatIsNoTextIsAbsent) {
   }
 }
 
-TEST_F(Texts, ATableThatIsNoDictionaryIsAnEmptyOne) {
+TEST_F(Texts, ATableThatIsNotADictionaryCountsAsEmpty) {
   for (const std::string value : kNoTexts) {
     if (value.starts_with("<dict>")) continue;
     write(languages() / "en.plist", "<plist version=\"1.0\">" + value + "</plist>");
@@ -149,7 +149,7 @@ TEST_F(Texts, ATableThatIsNoDictionaryIsAnEmptyOne) {
   }
 }
 
-TEST_F(Texts, LanguagesThatAreNoneReadEnglish) {
+TEST_F(Texts, InvalidLanguagesFallBackToEnglish) {
   write_english(text_entry("red", "Red"));
   const NSArray wrong = NSArray::arrayWithObjects(
       "en"_ns, NSNumber::numberWithBool(YES), NSDictionary::dictionary(), NSData::data(),
@@ -162,19 +162,19 @@ TEST_F(Texts, LanguagesThatAreNoneReadEnglish) {
   }
 }
 
-TEST_F(Texts, ATextLeadsBackToItsIdentifier) {
+TEST_F(Texts, TheIdentifierOfATextIsFound) {
   write_english(text_entry("red", "Red") + text_entry("tint", "Tint color"));
   EXPECT_EQ(identifier("Tint color"), "tint");
   EXPECT_EQ(identifier("tint color"), "(null)");
   EXPECT_EQ(identifier(""), "(null)");
 }
 
-TEST_F(Texts, OfTwoIdentifiersWithOneTextOneIsFound) {
+TEST_F(Texts, OneOfTwoIdentifiersWithTheSameTextIsFound) {
   write_english(text_entry("gray", "Grey") + text_entry("grey", "Grey"));
   EXPECT_THAT(identifier("Grey"), testing::AnyOf("gray", "grey"));
 }
 
-TEST_F(Texts, TheTableIsReadAnewEveryTime) {
+TEST_F(Texts, TheTableIsReadAgainEveryTime) {
   write_english(text_entry("red", "Red"));
   EXPECT_EQ(text("red"), "Red");
   write_english(text_entry("red", "Crimson"));
@@ -182,7 +182,7 @@ TEST_F(Texts, TheTableIsReadAnewEveryTime) {
   EXPECT_EQ(identifier("Crimson"), "red");
 }
 
-TEST_F(Texts, TheEnglishTableIsWholeAndUnambiguous) {
+TEST_F(Texts, TheEnglishTableIsCompleteAndUnambiguous) {
   const char* const identifiers[] = {"activator",
                                      "adaptive_light",
                                      "apex",
@@ -243,7 +243,7 @@ TEST_F(Texts, TheEnglishTableIsWholeAndUnambiguous) {
   std::set<std::string> texts;
   for (const char* each : identifiers) {
     EXPECT_NE(text(each), "(null)") << each;
-    EXPECT_TRUE(texts.insert(text(each)).second) << each << " reads as another does";
+    EXPECT_TRUE(texts.insert(text(each)).second) << each << " has the text of another identifier";
     EXPECT_EQ(identifier(text(each).c_str()), each);
   }
 }

@@ -6,7 +6,7 @@
 #include "tests/settings/replaced_method.h"
 #include "tests/settings/wizard_pages_test.h"
 
-// Second taps and second fingers while a page comes or goes.
+// Second taps and second touches while a page appears or disappears.
 
 namespace sonavue::test {
 namespace {
@@ -27,7 +27,7 @@ BOOL open_address(UIApplication, NSURL url) {
   return YES;
 }
 
-/// Something that answers to a tap wherever it is tapped, behind what is shown over it.
+/// A view that records taps, behind the views that are shown over it.
 class Behind {
  public:
   explicit Behind(UIView view)
@@ -77,7 +77,7 @@ class CardTransitions : public Credits {
   }
 };
 
-TEST_F(CardTransitions, BackIsDeafWhileACardIsOnItsWay) {
+TEST_F(CardTransitions, BackIgnoresTouchesWhileACardAppears) {
   open_credits();
   tap(middle(author("developerCell")));
   advance(0.1);
@@ -86,7 +86,7 @@ TEST_F(CardTransitions, BackIsDeafWhileACardIsOnItsWay) {
   expect_card_that_closes();
 }
 
-TEST_F(CardTransitions, AFingerOnBackIsTakenAwayByACard) {
+TEST_F(CardTransitions, ACardCancelsATouchOnBack) {
   open_credits();
   press(kBack, 1);
   advance(0.05);
@@ -97,7 +97,7 @@ TEST_F(CardTransitions, AFingerOnBackIsTakenAwayByACard) {
   expect_card_that_closes();
 }
 
-TEST_F(CardTransitions, AFingerOnAnAuthorIsTakenAwayByBack) {
+TEST_F(CardTransitions, BackCancelsATouchOnAnAuthor) {
   open_credits();
   const CGPoint place = middle(author("developerCell"));
   press(place, 1);
@@ -109,7 +109,7 @@ TEST_F(CardTransitions, AFingerOnAnAuthorIsTakenAwayByBack) {
   expect_first_page();
 }
 
-TEST_F(CardTransitions, AnAuthorIsDeafWhileThePageGoes) {
+TEST_F(CardTransitions, AnAuthorIgnoresTouchesWhileThePageLeaves) {
   open_credits();
   const CGPoint place = middle(author("developerCell"));
   tap(kBack);
@@ -119,7 +119,7 @@ TEST_F(CardTransitions, AnAuthorIsDeafWhileThePageGoes) {
   expect_first_page();
 }
 
-TEST_F(CardTransitions, TwoTapsOnAnAuthorBringOneCard) {
+TEST_F(CardTransitions, TwoTapsOnAnAuthorShowOneCard) {
   open_credits();
   tap_twice(middle(author("designerCell")));
   expect_card_that_closes();
@@ -145,7 +145,7 @@ TEST_F(CardTransitions, TwoTapsOnATileOpenItOnce) {
   EXPECT_FALSE(presented());
 }
 
-TEST_F(CardTransitions, OfTwoFingersOnTilesTheFirstThatLiftsDecides) {
+TEST_F(CardTransitions, OfTwoTouchesOnTilesTheFirstLiftedDecides) {
   const ReplacedMethod<&can_open> knows(objc_getClass("UIApplication"), "canOpenURL:");
   const ReplacedMethod<&open_address> opens(objc_getClass("UIApplication"), "openURL:");
   open_card("developerCell");
@@ -162,7 +162,7 @@ TEST_F(CardTransitions, OfTwoFingersOnTilesTheFirstThatLiftsDecides) {
   EXPECT_FALSE(presented());
 }
 
-TEST_F(CardTransitions, TheCardLivesOnWhenItsPageIsTakenFromUnderIt) {
+TEST_F(CardTransitions, TheCardSurvivesTheRemovalOfItsPage) {
   open_card("developerCell");
   {
     const objc::AutoreleasePool pool;
@@ -185,7 +185,7 @@ class WizardTransitions : public WizardPages {
   }
 };
 
-TEST_F(WizardTransitions, BackIsDeafWhileTheWizardIsOnItsWay) {
+TEST_F(WizardTransitions, BackIgnoresTouchesWhileTheWizardAppears) {
   open("styleController");
   tap(row("Guided setup").convertPointToView({60, 20}, nil));
   advance(0.1);
@@ -194,7 +194,7 @@ TEST_F(WizardTransitions, BackIsDeafWhileTheWizardIsOnItsWay) {
   expect_wizard_over_the_page();
 }
 
-TEST_F(WizardTransitions, BackIsDeafWhileTheFirstWizardComesWithItsPage) {
+TEST_F(WizardTransitions, BackIgnoresTouchesWhileTheFirstWizardAppearsWithItsPage) {
   open("creatorsController");
   write_dictionary(preferences(), "");
   const objc::Object cls(objc_getClass("SonavueSettingsController"));
@@ -207,7 +207,7 @@ TEST_F(WizardTransitions, BackIsDeafWhileTheFirstWizardComesWithItsPage) {
   expect_wizard_over_the_page();
 }
 
-TEST_F(WizardTransitions, AFingerOnBackIsTakenAwayByTheRestartQuestion) {
+TEST_F(WizardTransitions, TheRestartQuestionCancelsATouchOnBack) {
   open("styleController");
   const CGPoint apex = middle(switch_of("Apex support"));
   press(kBack, 1);
@@ -225,7 +225,7 @@ TEST_F(WizardTransitions, AFingerOnBackIsTakenAwayByTheRestartQuestion) {
   EXPECT_NE(stack.topViewController(), page);
 }
 
-TEST_F(WizardTransitions, SetupAndBackAtOnceAreSetup) {
+TEST_F(WizardTransitions, SetupBeforeBackWins) {
   open("styleController");
   const CGPoint setup = row("Guided setup").convertPointToView({60, 20}, nil);
   press(setup, 0);
@@ -237,7 +237,7 @@ TEST_F(WizardTransitions, SetupAndBackAtOnceAreSetup) {
   expect_wizard_over_the_page();
 }
 
-TEST_F(WizardTransitions, BackAndSetupAtOnceAreBack) {
+TEST_F(WizardTransitions, BackBeforeSetupWins) {
   open("styleController");
   const CGPoint setup = row("Guided setup").convertPointToView({60, 20}, nil);
   press(setup, 0);
@@ -266,7 +266,7 @@ TEST_F(WizardTransitions, TwoTapsOnDoneEndTheWizardOnce) {
   EXPECT_EQ(behind.taps(), 0) << "no row below Done is tapped";
 }
 
-TEST_F(WizardTransitions, TheWizardLivesOnWhenItsPageIsTakenFromUnderIt) {
+TEST_F(WizardTransitions, TheWizardSurvivesTheRemovalOfItsPage) {
   start_questions();
   {
     const objc::AutoreleasePool pool;

@@ -2,7 +2,7 @@
 #include "settings/texts.h"
 #include "tests/settings/wizard_pages_test.h"
 
-// How the wizard ends, and that nothing of it is left then.
+// How the wizard ends, and that nothing of it is left afterwards.
 
 namespace sonavue::test {
 namespace {
@@ -24,7 +24,7 @@ TEST_F(WizardEnd, TheTutorialEndsTheWizard) {
   EXPECT_EQ(stored(), "firstBoot = 1");
 }
 
-TEST_F(WizardEnd, ItCanBeginAgainAfterItsEnd) {
+TEST_F(WizardEnd, ItCanStartAgainAfterItsEnd) {
   start_questions();
   objc::send<>(page, "dismissIntro"_sel);
   advance(2);
@@ -35,8 +35,8 @@ TEST_F(WizardEnd, ItCanBeginAgainAfterItsEnd) {
   EXPECT_TRUE(find(again.view(), "Sonavue"));
 }
 
-TEST_F(WizardEnd, TheWelcomePageIsLetGoOfWithItsLabels) {
-  // A label keeps its colour for as long as it lives.
+TEST_F(WizardEnd, TheWelcomePageIsReleasedWithItsLabels) {
+  // A label retains its colour until it is deallocated.
   const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
   {
     const objc::AutoreleasePool pool;
@@ -45,7 +45,7 @@ TEST_F(WizardEnd, TheWelcomePageIsLetGoOfWithItsLabels) {
       if (each.isKindOfClass(UILabel::cls())) objc::cast<UILabel>(each).setTextColor(color);
     }
     drag_welcome(200);
-    let_go(200);
+    release_welcome(200);
     advance(4);
     objc::send<>(page, "dismissIntro"_sel);
     advance(2);
@@ -55,8 +55,8 @@ TEST_F(WizardEnd, TheWelcomePageIsLetGoOfWithItsLabels) {
   color.release();
 }
 
-TEST_F(WizardEnd, TheQuestionsAreLetGoOfAtTheEnd) {
-  // A label keeps its colour for as long as it lives.
+TEST_F(WizardEnd, TheQuestionsAreReleasedAtTheEnd) {
+  // A label retains its colour until it is deallocated.
   const UIColor color = UIColor::alloc().initWithWhite(0.5, 1);
   {
     const objc::AutoreleasePool pool;
@@ -70,8 +70,8 @@ TEST_F(WizardEnd, TheQuestionsAreLetGoOfAtTheEnd) {
   color.release();
 }
 
-TEST_F(WizardEnd, TheListOfBlursIsLetGoOfAtTheEnd) {
-  // The page's row keeps the same text.
+TEST_F(WizardEnd, TheListOfBlursIsReleasedAtTheEnd) {
+  // The page's row also retains the text.
   NSString text;
   {
     const objc::AutoreleasePool pool;

@@ -3,19 +3,19 @@
 #include "tests/settings/replaced_method.h"
 #include "tests/settings/wizard_pages_test.h"
 
-// Where everything of the wizard stands, and what it looks like.
+// The layout and look of the wizard.
 
 namespace sonavue::test {
 namespace {
 
 constexpr CGRect kWholeText = {0, 30, 375, 517};
 constexpr CGRect kChoiceText = {0, 50, 375, 210};
-// Whatever height it is given, a wheel takes the platform's.
+// A wheel always has the platform's height, whatever it is given.
 constexpr CGRect kWheel = {0, 300, 375, 216};
 constexpr CGRect kRow = {0, 0.75 * 667, 375, 45};
 constexpr CGRect kLastRow = {0, 667.0 / 2 + 100, 375, 45};
 
-/// The pictures that were asked for, without the folder that they are all in.
+/// The file names of the pictures that were requested, without their common folder.
 std::vector<std::string>& pictures_asked_for() {
   static std::vector<std::string> names;
   return names;
@@ -49,7 +49,7 @@ class WizardLayout : public WizardPages {
   }
 };
 
-TEST_F(WizardLayout, QuestionsStandAboveTheirAnswers) {
+TEST_F(WizardLayout, QuestionsAreAboveTheirAnswers) {
   start_questions();
   for (int question = 0; question < 5; ++question, next_page()) {
     expect_text(kWholeText);
@@ -92,7 +92,7 @@ TEST_F(WizardLayout, TheTutorialFadesInAndOutInASecondEach) {
   objc::send<>(page, "showTutorial"_sel);
   advance(0.5);
   EXPECT_NEAR(opacity(), 0.5, 0.1);
-  EXPECT_TRUE(part<UIView>("Switcher")) << "the questions go before the tutorial comes";
+  EXPECT_TRUE(part<UIView>("Switcher")) << "the questions fade out before the tutorial fades in";
   advance(0.55);
   EXPECT_LT(opacity(), 0.2);
   advance(0.45);
@@ -126,7 +126,7 @@ TEST_F(WizardLayout, TheWelcomePageHasItsLetters) {
   EXPECT_EQ(hint, "›slidetosetup");
 }
 
-TEST_F(WizardLayout, EveryPageAsksForItsOwnPicture) {
+TEST_F(WizardLayout, EveryPageLoadsItsOwnPicture) {
   const ReplacedMethod<&note_picture> noted(objc_getMetaClass("UIImage"),
                                             "imageWithContentsOfFile:");
   const char* const arrow = "dir@2x.png";

@@ -18,7 +18,7 @@ class WizardPages : public PagesTest {
     ASSERT_TRUE(main);
     welcome = objc::cast<UIView>(main.view().subviews().objectAtIndex(0));
   }
-  /// Drags the welcome page by so many points, and rests there.
+  /// Drags the welcome page by `distance` points and rests there.
   void drag_welcome(CGFloat distance) {
     const CGPoint from = {150, 400};
     press(from);
@@ -28,14 +28,14 @@ class WizardPages : public PagesTest {
     glide({began, from.y}, {began + distance, from.y}, 0.3);
     advance(0.2);
   }
-  void let_go(CGFloat distance) {
+  void release_welcome(CGFloat distance) {
     lift({began + distance, 400});
     advance(1);
   }
   void start_questions() {
     start();
     drag_welcome(200);
-    let_go(200);
+    release_welcome(200);
     advance(2);
     find_questions();
   }
@@ -57,7 +57,7 @@ class WizardPages : public PagesTest {
     return T();
   }
 
-  /// From one share of the screen's width to another.
+  /// Swipes between two fractions of the screen's width.
   void swipe(CGFloat from, CGFloat to) {
     const CGFloat width = window.bounds().size.width;
     press({from * width, 250});
@@ -66,7 +66,7 @@ class WizardPages : public PagesTest {
     advance(1.5);
   }
 
-  // From one wave of the hint to the next: the last part goes and comes back.
+  // The seconds from one wave of the hint to the next, when the last part has faded out and in.
   static constexpr double kWave = 12 * 0.08 + 2 * 0.8;
 
   UIViewController main;

@@ -41,7 +41,7 @@ class WizardRows : public host::test::UIKitTest, public SettingsDevice {
   static T subview(UIView view, NSUInteger index) {
     return objc::cast<T>(view.subviews().objectAtIndex(index));
   }
-  // A frame goes through the middle and back.
+  // Frames are converted through centres, which rounds.
   static bool is_near(CGRect frame, CGRect other) {
     return std::abs(frame.origin.x - other.origin.x) < 1e-9 &&
            std::abs(frame.origin.y - other.origin.y) < 1e-9 &&
@@ -49,7 +49,7 @@ class WizardRows : public host::test::UIKitTest, public SettingsDevice {
            std::abs(frame.size.height - other.size.height) < 1e-9;
   }
   static UIView track(UIView row) { return subview<UIView>(row, 2); }
-  // The knob lies above the fill.
+  // The knob is above the fill.
   static CGRect knob(UIView row) { return subview<UIView>(track(row), 1).frame(); }
   static CGRect fill(UIView row) { return subview<UIView>(track(row), 0).frame(); }
 };
@@ -126,12 +126,12 @@ TEST_F(WizardRows, TheTrackAndItsKnobAreRoundAndOutlined) {
   EXPECT_TRUE(fill.backgroundColor());
 }
 
-TEST_F(WizardRows, WithoutABorderItHasNone) {
+TEST_F(WizardRows, WithoutABorderTheRowHasNone) {
   EXPECT_FALSE(linker(NO).layer().masksToBounds());
   EXPECT_EQ(linker(NO).layer().borderWidth(), 0);
 }
 
-TEST_F(WizardRows, ASwitchBeginsWhereTheSettingIs) {
+TEST_F(WizardRows, ASwitchStartsInTheStateOfItsSetting) {
   const Switcher off = switcher();
   EXPECT_EQ(track(off).frame(), (CGRect{245, 5, 55, 35}));
   EXPECT_TRUE(is_near(knob(off), {0.1, 0.1, 34.8, 34.8}));
@@ -146,10 +146,10 @@ TEST_F(WizardRows, ASwitchBeginsWhereTheSettingIs) {
   advance(0.3);
   EXPECT_NEAR(knob(on).origin.x, 55 - 34.8, 1e-9);
   EXPECT_NEAR(fill(on).size.width, 55, 1e-9);
-  EXPECT_EQ(stored(), "checked = 0, enable = 1") << "what is stored on is written once more";
+  EXPECT_EQ(stored(), "checked = 0, enable = 1") << "a stored YES is written once more";
 }
 
-TEST_F(WizardRows, ASwitchWritesWhenItHasArrived) {
+TEST_F(WizardRows, ASwitchStoresItsStateAfterItsMovement) {
   const Switcher row = switcher();
   row.animate();
   advance(0.25);
@@ -165,7 +165,7 @@ TEST_F(WizardRows, ASwitchWritesWhenItHasArrived) {
   EXPECT_EQ(fill(row).size.width, 17.4);
 }
 
-TEST_F(WizardRows, ASwitchWithoutATextWritesUnderNull) {
+TEST_F(WizardRows, ASwitchWithoutATextStoresUnderNull) {
   const Switcher row = Switcher::alloc().initWithFrame(kRow, "Nothing"_ns, nil, NO).autorelease();
   row.animate();
   advance(0.4);

@@ -2,7 +2,7 @@
 #include "settings/wizard/switcher.h"
 #include "tests/settings/wizard_pages_test.h"
 
-// The drawn switch under a finger.
+// Touches on the custom-drawn switch.
 
 namespace sonavue::test {
 namespace {
@@ -26,7 +26,7 @@ class WizardSwitch : public WizardPages {
     return knob.frame().origin.x > track.bounds().size.width / 4;
   }
   bool stores_on() const { return stored().find("enable = 1") != std::string::npos; }
-  /// What the screen shows at that place of the track, as 0xRRGGBB.
+  /// The colour on the screen at that point of the track, as 0xRRGGBB.
   std::uint32_t color_at(CGPoint place) {
     host::quartzcore::Compositor compositor(750, 1334, 2);
     const CALayer roots[] = {window.layer()};
@@ -43,7 +43,7 @@ class WizardSwitch : public WizardPages {
   UIView track;
 };
 
-TEST_F(WizardSwitch, ASecondTapOnTheWayIsIgnored) {
+TEST_F(WizardSwitch, ASecondTapDuringTheMovementIsIgnored) {
   quick_tap();
   advance(0.08);
   quick_tap();
@@ -57,7 +57,7 @@ TEST_F(WizardSwitch, ASecondTapOnTheWayIsIgnored) {
   EXPECT_FALSE(stores_on());
 }
 
-TEST_F(WizardSwitch, HoweverFastTheTapsItShowsWhatIsStored) {
+TEST_F(WizardSwitch, AfterTapsOfAnySpeedItShowsWhatIsStored) {
   for (const double pause : {0.0, 0.1, 0.2, 0.27, 0.28, 0.3}) {
     for (int taps = 2; taps <= 5; ++taps) {
       for (int tap = 0; tap < taps; ++tap) {
@@ -70,7 +70,7 @@ TEST_F(WizardSwitch, HoweverFastTheTapsItShowsWhatIsStored) {
   }
 }
 
-TEST_F(WizardSwitch, NothingIsWrittenUntilItHasArrived) {
+TEST_F(WizardSwitch, NothingIsStoredUntilTheMovementEnds) {
   const std::string before = stored();
   quick_tap();
   advance(0.25);

@@ -30,9 +30,9 @@ TEST_F(WizardPages, TheWelcomePageIsLaidOutForTheScreen) {
   }
 }
 
-TEST_F(WizardPages, TheHintFadesLetterByLetterAndAgain) {
+TEST_F(WizardPages, TheHintFadesLetterByLetterRepeatedly) {
   start();
-  // The wave began with the tap on the row, a second ago.
+  // The wave started with the tap on the row, a second ago.
   const auto alpha = [&](NSUInteger part) {
     return objc::cast<UIView>(welcome.subviews().objectAtIndex(3 + part))
         .layer()
@@ -49,12 +49,12 @@ TEST_F(WizardPages, TheHintFadesLetterByLetterAndAgain) {
   };
   EXPECT_LT(faintest(0), 0.1f);
   EXPECT_LT(faintest(12), 0.1f);
-  EXPECT_LT(faintest(5), 0.1f) << "the wave comes again";
+  EXPECT_LT(faintest(5), 0.1f) << "the wave repeats";
 }
 
-TEST_F(WizardPages, TheWaveRunsThroughTheHintAtItsPace) {
+TEST_F(WizardPages, TheWaveRunsThroughTheHintInTime) {
   start();
-  // When each part is gone, by the frame.
+  // The frame in which each part is invisible.
   const auto gone = [&](NSUInteger part) {
     float lowest = 1;
     double when = 0;
@@ -94,28 +94,28 @@ TEST_F(WizardPages, LessThanAQuarterSpringsBack) {
   start();
   drag_welcome(375.0 / 4 - 0.5);
   EXPECT_NEAR(welcome.frame().origin.x, 375.0 / 4 - 0.5, 1e-6);
-  let_go(375.0 / 4 - 0.5);
+  release_welcome(375.0 / 4 - 0.5);
   EXPECT_EQ(welcome.frame().origin.x, 0);
   EXPECT_EQ(main.view().subviews().count(), 1u);
 }
 
-TEST_F(WizardPages, AQuarterIsEnough) {
+TEST_F(WizardPages, AQuarterIsFarEnough) {
   start();
   drag_welcome(375.0 / 4);
-  let_go(375.0 / 4);
+  release_welcome(375.0 / 4);
   EXPECT_EQ(welcome.frame().origin.x, 375);
   EXPECT_EQ(main.view().subviews().count(), 2u);
 }
 
-TEST_F(WizardPages, APullToTheLeftIsStiff) {
+TEST_F(WizardPages, APullToTheLeftMeetsResistance) {
   start();
   drag_welcome(-90);
   EXPECT_NEAR(welcome.frame().origin.x, -30, 1e-6);
-  let_go(-90);
+  release_welcome(-90);
   EXPECT_EQ(welcome.frame().origin.x, 0);
 }
 
-TEST_F(WizardPages, EveryQuestionWritesItsOwnKey) {
+TEST_F(WizardPages, EveryQuestionStoresItsOwnKey) {
   start_questions();
   const char* const switches[] = {"enable", "cloud", "cover", "square", "legibility"};
   for (const char* key : switches) {
@@ -150,10 +150,10 @@ TEST_F(WizardPages, EveryQuestionWritesItsOwnKey) {
   EXPECT_TRUE(find(shown_page().view(), "Tutorial"));
   photograph("wizard-ready");
   next_page();
-  EXPECT_TRUE(find(shown_page().view(), "Tutorial")) << "there is no page behind the last one";
+  EXPECT_TRUE(find(shown_page().view(), "Tutorial")) << "there is no page after the last one";
 }
 
-TEST_F(WizardPages, WheelsOfferTheTextsOfTheirTables) {
+TEST_F(WizardPages, WheelsShowTheTextsOfTheirChoices) {
   start_questions();
   const auto rows = [&](NSUInteger page_index) {
     objc::Object controller = questions.viewControllers().firstObject();
@@ -173,7 +173,7 @@ TEST_F(WizardPages, WheelsOfferTheTextsOfTheirTables) {
   EXPECT_EQ(rows(1), 12);
 }
 
-TEST_F(WizardPages, EveryRowOfAWheelIsWrittenAndNamed) {
+TEST_F(WizardPages, EveryRowOfAWheelIsStoredAndNamed) {
   const std::vector<std::string> blurs = {
       "adaptive_light",  "light",         "dark",          "ultra_light", "light_low",
       "dark_low",        "ultra_dark",    "passcode",      "colored",     "semi_light",
@@ -208,7 +208,7 @@ TEST_F(WizardPages, EveryRowOfAWheelIsWrittenAndNamed) {
   }
 }
 
-TEST_F(WizardPages, TheTenthBlurIsTheHalfLightOne) {
+TEST_F(WizardPages, TheTenthBlurIsSemiLight) {
   start_questions();
   const UIPickerView picker = UIPickerView::alloc().init().autorelease();
   objc::send<>(page, "pickerView:didSelectRow:inComponent:"_sel, picker, NSInteger{9},
@@ -216,7 +216,7 @@ TEST_F(WizardPages, TheTenthBlurIsTheHalfLightOne) {
   EXPECT_EQ(stored(), "blur = semi_light, checked = 0, firstBoot = 1");
 }
 
-TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
+TEST_F(WizardPages, TheGesturePageIsInsertedOnce) {
   start_questions();
   const auto count = [&] {
     return objc::send<NSInteger>(page, "presentationCountForPageViewController:"_sel, questions);
@@ -228,7 +228,7 @@ TEST_F(WizardPages, TheGesturePageIsPutInOnce) {
   EXPECT_TRUE(shown_page().isKindOfClass(objc_getClass("LAListenerSettingsViewController")));
   photograph("wizard-gesture-page");
   next_page();
-  EXPECT_TRUE(part<UIView>("Linker")) << "the question stands behind it now";
+  EXPECT_TRUE(part<UIView>("Linker")) << "the question comes after it now";
   objc::send<>(page, "showActivatorPage"_sel);
   advance(1.5);
   EXPECT_EQ(count(), 12);
@@ -261,10 +261,10 @@ TEST_F(WizardPages, TheGesturePageLeavesTheStatusBarFree) {
   EXPECT_GE(name.convertPointToView({}, nil).y, 20);
   page_back();
   next_page();
-  EXPECT_EQ(table.frame().size.height, 647) << "nor does it shrink when it comes again";
+  EXPECT_EQ(table.frame().size.height, 647) << "it does not shrink when it is shown again";
 }
 
-TEST_F(WizardPages, ASwipeBackLeadsToThePageBefore) {
+TEST_F(WizardPages, ASwipeBackLeadsToThePreviousPage) {
   start_questions();
   next_page();
   EXPECT_FALSE(find(shown_page().view(), "Enable Sonavue"));

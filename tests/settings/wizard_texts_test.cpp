@@ -2,7 +2,7 @@
 #include "tests/settings/every_device.h"
 #include "tests/settings/wizard_pages_test.h"
 
-// What the wizard says.
+// The texts of the wizard.
 
 namespace sonavue::test {
 namespace {
@@ -25,7 +25,7 @@ class WizardTexts : public OnEveryDevice<WizardPages> {
   int shown_ = 0;
 };
 
-TEST_P(WizardTexts, EveryTextIsShownWhole) {
+TEST_P(WizardTexts, EveryTextIsShownInFull) {
   start();
   expect_whole(objc::cast<UILabel>(welcome.subviews().objectAtIndex(2)));
   objc::send<>(page, "showSetup"_sel);
@@ -40,7 +40,7 @@ TEST_P(WizardTexts, EveryTextIsShownWhole) {
 }
 INSTANTIATE_TEST_SUITE_P(Devices, WizardTexts, every_device(), device_name);
 
-// To the letter, and with the slips that are theirs.
+// Verbatim, including their mistakes.
 constexpr const char* kWelcome =
     "Welcome to Sonavue, a tweak that will improve the way of listening to Music! Swipe this page "
     "and set your preferences!";
@@ -73,13 +73,13 @@ constexpr const char* kTutorial[] = {
     "banner. You can now easily drag it like Notification Center.",
     "Finish"};
 
-TEST_F(WizardPages, EverySentenceIsTheWizardsOwn) {
+TEST_F(WizardPages, EverySentenceIsUnchanged) {
   const auto text = [](UILabel label) { return std::string(label.text().UTF8String()); };
   start();
   EXPECT_EQ(text(objc::cast<UILabel>(welcome.subviews().objectAtIndex(1))), "Sonavue");
   EXPECT_EQ(text(objc::cast<UILabel>(welcome.subviews().objectAtIndex(2))), kWelcome);
   drag_welcome(200);
-  let_go(200);
+  release_welcome(200);
   advance(2);
   find_questions();
   for (const char* question : kQuestions) {
@@ -94,7 +94,7 @@ TEST_F(WizardPages, EverySentenceIsTheWizardsOwn) {
   }
 }
 
-TEST_F(WizardPages, RowsAreNamedByTheirSettingsOrByWhatTheyDo) {
+TEST_F(WizardPages, RowsAreNamedAfterTheirSettingsOrActions) {
   start_questions();
   for (const char* name : {"Enable Sonavue", "Music in the cloud", "Artwork as background",
                            "Square artwork", "Automatic colors", "Activator"}) {

@@ -26,7 +26,7 @@ Components components_of(UIColor colour) {
 
 using Paint = std::function<void(cairo_t*)>;
 
-/// A picture as it comes out of a file: its storage has red first.
+/// A picture as decoded from a file: its storage has red first.
 UIImage decoded(int width, int height, const Paint& paint) {
   cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
   cairo_t* drawing = cairo_create(surface);
@@ -51,7 +51,7 @@ UIImage plain(int width, int height, double red, double green, double blue) {
   });
 }
 
-/// A drawing of ours: its storage has blue first.
+/// A picture from a drawing context: its storage has blue first.
 UIImage drawn(UIColor colour) {
   UIGraphicsBeginImageContext({8, 8});
   colour.setFill();
@@ -77,7 +77,7 @@ Components merged_of(UIImage image) {
   return components_of(objc::send<UIColor>(image, "mergedColor"_sel));
 }
 
-TEST_F(AverageColor, OfAPureRedPictureIsPureRed) {
+TEST_F(AverageColor, OfAPureRedPictureIsRed) {
   const Components mean = average_of(plain(7, 5, 1, 0, 0));
   EXPECT_NEAR(mean.red, 1, 1e-6);
   EXPECT_EQ(mean.green, 0);
@@ -97,7 +97,7 @@ TEST_F(AverageColor, IsTheMeanOfEveryPixelOfEveryRow) {
   EXPECT_NEAR(mean.blue, 0.75, 1e-6);
 }
 
-// The scale is rounded before anything is multiplied by it.
+// The scale is rounded to single precision before it is multiplied.
 TEST_F(AverageColor, ScalesInSinglePrecision) {
   const int width = 7;
   const int height = 3;
@@ -116,13 +116,13 @@ TEST_F(AverageColor, MergedIsDividedInSinglePrecision) {
   EXPECT_EQ(merged.blue, fifth);
 }
 
-TEST_F(AverageColor, TakesTheBytesInTheOrderInWhichTheyAreStored) {
+TEST_F(AverageColor, TakesTheBytesInTheirStoredOrder) {
   const Components mean = average_of(drawn(UIColor::redColor()));
   EXPECT_EQ(mean.red, 0);
   EXPECT_NEAR(mean.blue, 1, 1e-6);
 }
 
-TEST_F(AverageColor, OfAnImageWithoutPixelsIsNoNumberAndOpaque) {
+TEST_F(AverageColor, OfAnImageWithoutPixelsIsNaNAndOpaque) {
   const Components mean = average_of(UIImage::alloc().init().autorelease());
   EXPECT_TRUE(std::isnan(mean.red));
   EXPECT_TRUE(std::isnan(mean.green));
@@ -130,7 +130,7 @@ TEST_F(AverageColor, OfAnImageWithoutPixelsIsNoNumberAndOpaque) {
   EXPECT_EQ(mean.alpha, 1);
 }
 
-// 4,112 x 4,112 pixels of 255 are a little more than 32 bits hold.
+// The sum of 4,112 x 4,112 pixels of 255 slightly exceeds 32 bits.
 TEST_F(AverageColor, SumsWrapAroundOnVeryLargeImages) {
   UIGraphicsBeginImageContext({4112, 4112});
   UIColor::whiteColor().setFill();
@@ -140,7 +140,7 @@ TEST_F(AverageColor, SumsWrapAroundOnVeryLargeImages) {
   EXPECT_LT(average_of(image).red, 0.01);
 }
 
-TEST_F(AverageColor, MergedIsTheSameForBothStorages) {
+TEST_F(AverageColor, MergedIsTheSameForBothByteOrders) {
   for (const UIImage image : {plain(40, 40, 1, 0, 0), drawn(UIColor::redColor())}) {
     const Components merged = merged_of(image);
     EXPECT_EQ(merged.red, 1);
@@ -149,7 +149,7 @@ TEST_F(AverageColor, MergedIsTheSameForBothStorages) {
   }
 }
 
-// Every pixel has a say, not only those next to one point of the picture.
+// Every pixel contributes, not only those near one point of the picture.
 TEST_F(AverageColor, MergedWeighsTheWholePicture) {
   const Components merged = merged_of(decoded(300, 300, [](cairo_t* drawing) {
     cairo_set_source_rgb(drawing, 0, 0, 0);

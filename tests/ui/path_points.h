@@ -9,20 +9,20 @@
 
 namespace sonavue::test {
 
-/// Where the pieces of a path end, in their order; closings add nothing.
+/// The end points of a path's segments, in order. Closing segments are omitted.
 inline std::vector<CGPoint> path_points(CGPathRef path) {
   std::vector<CGPoint> points;
   if (!path) return points;
   cairo_t* drawing = host::quartzcore::scratch_drawing();
   cairo_save(drawing);
-  // Cairo rounds points to parts of a pixel; larger pixels round less.
+  // Cairo rounds points to fractions of a pixel; scaling up reduces the error.
   cairo_scale(drawing, 1000, 1000);
   cairo_new_path(drawing);
   host::quartzcore::path_of(path)->add_to(drawing);
   cairo_path_t* pieces = cairo_copy_path(drawing);
   for (int i = 0; i < pieces->num_data; i += pieces->data[i].header.length) {
     const cairo_path_data_t* piece = &pieces->data[i];
-    // A closing is followed by a move back to the start, which is no piece of the path's own.
+    // A close is followed by a move back to the start, which is not part of the path.
     if (piece->header.type == CAIRO_PATH_CLOSE_PATH) break;
     const auto& end = piece[piece->header.length - 1].point;
     points.push_back({end.x, end.y});
@@ -33,7 +33,7 @@ inline std::vector<CGPoint> path_points(CGPathRef path) {
   return points;
 }
 
-/// Does the path end with a closed outline?
+/// Whether the path ends with a closed subpath.
 inline bool path_is_closed(CGPathRef path) {
   cairo_t* drawing = host::quartzcore::scratch_drawing();
   cairo_new_path(drawing);
@@ -47,7 +47,7 @@ inline bool path_is_closed(CGPathRef path) {
   return closed;
 }
 
-/// The way along a path of arcs round `centre`, as an angle: each piece is at most a quarter.
+/// The angle that a path of arcs around `centre` sweeps. Each segment is at most a quarter turn.
 inline double swept_angle(CGPathRef path, CGPoint centre) {
   const std::vector<CGPoint> points = path_points(path);
   double sum = 0;

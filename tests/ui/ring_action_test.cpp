@@ -22,7 +22,7 @@ bool has_icon(M13ProgressViewRing ring) {
   return !CGPathIsEmpty(ring.iconLayer().path());
 }
 
-TEST_F(RingActions, FadesRunForTheAnimationDurationAndStayAtTheirEnd) {
+TEST_F(RingActions, FadesRunForTheAnimationDurationAndKeepTheirFinalValue) {
   const auto ring = ring_of(40);
   ring.setAnimationDuration(0.7);
 
@@ -70,7 +70,7 @@ TEST_F(RingActions, TurningEndsWhenTheBackgroundHasFaded) {
   EXPECT_FALSE(ring.indeterminate());
   EXPECT_TRUE(animates(ring.backgroundLayer(), "Hide"_ns));
   EXPECT_TRUE(animates(ring.backgroundLayer(), "rotationAnimation"_ns));
-  // Held, or the next path could be made where this one was.
+  // Retained, or the next path could have the same address.
   const CGPathRef gap = CGPathRetain(ring.backgroundLayer().path());
 
   advance(0.5);
@@ -81,7 +81,7 @@ TEST_F(RingActions, TurningEndsWhenTheBackgroundHasFaded) {
   EXPECT_FALSE(loop.wants_frames());
 }
 
-TEST_F(RingActions, TurningOnAgainDuringTheFadeGoesOnTurning) {
+TEST_F(RingActions, StartingAgainDuringTheFadeKeepsItTurning) {
   const auto ring = ring_of(40);
   ring.setIndeterminate(YES);
   advance(1);
@@ -95,7 +95,7 @@ TEST_F(RingActions, TurningOnAgainDuringTheFadeGoesOnTurning) {
   EXPECT_FALSE(animates(ring.backgroundLayer(), "Hide"_ns));
 }
 
-TEST_F(RingActions, SettingIndeterminateToWhatItIsDoesNothing) {
+TEST_F(RingActions, SettingIndeterminateToItsCurrentValueDoesNothing) {
   const auto ring = ring_of(40);
 
   ring.setIndeterminate(NO);
@@ -138,7 +138,7 @@ TEST_F(RingActions, AnAnimatedActionFadesTheOldIconOutAndTheNewOneIn) {
   EXPECT_FLOAT_EQ(ring.iconLayer().presentationLayer().opacity(), 1);
 }
 
-TEST_F(RingActions, AnActionAtOnceOvertakesOneThatFades) {
+TEST_F(RingActions, AnActionWithoutAnimationOvertakesAFadingOne) {
   const auto ring = ring_of(40);
   ring.performAction(M13ProgressViewActionFailure, YES);
   advance(0.1);

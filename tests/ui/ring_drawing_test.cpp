@@ -44,14 +44,14 @@ TEST_F(RingDrawing, ProgressRunsClockwiseFromTwelveOClock) {
   ring.setProgress(0.25f, NO);
   show(ring);
 
-  // The arc's middle line, half its width inside the bounds.
+  // The centre line of the arc, half its width inside the bounds.
   const auto points = path_points(ring.progressLayer().path());
   EXPECT_THAT(points.front(), at(50, 3.75));
   EXPECT_THAT(points.back(), at(96.25, 50));
   EXPECT_NEAR(swept_angle(ring.progressLayer().path(), {50, 50}), M_PI / 2, kClose);
 }
 
-TEST_F(RingDrawing, ProgressZeroIsAnArcOfNoLength) {
+TEST_F(RingDrawing, ProgressZeroIsAnArcOfLengthZero) {
   const auto ring = ring_of(100);
 
   const auto points = path_points(ring.progressLayer().path());
@@ -71,7 +71,7 @@ TEST_F(RingDrawing, ProgressOneIsAFullCircle) {
   EXPECT_NEAR(swept_angle(ring.progressLayer().path(), {50, 50}), 2 * M_PI, kClose);
 }
 
-TEST_F(RingDrawing, ProgressIsWrittenInPercent) {
+TEST_F(RingDrawing, TheLabelShowsTheProgressInPercent) {
   const auto ring = ring_of(100);
   EXPECT_STREQ(ring.percentageLabel().text().UTF8String(), "0%");
 
@@ -92,7 +92,7 @@ TEST_F(RingDrawing, SuccessIsACheckMark) {
 
   ring.drawSuccess();
 
-  // The L of 15-point units, an eighth of a turn to the left, moved to (23, 51).
+  // The L in units of 15 points, rotated 45 degrees to the left and moved to (23, 51).
   const double d = 15 * std::sqrt(0.5);
   EXPECT_THAT(path_points(ring.iconLayer().path()),
               ElementsAre(at(23, 51), at(23 + 2 * d, 51 + 2 * d), at(23 + 5 * d, 51 - d),
@@ -100,12 +100,12 @@ TEST_F(RingDrawing, SuccessIsACheckMark) {
   EXPECT_TRUE(path_is_closed(ring.iconLayer().path()));
 }
 
-TEST_F(RingDrawing, FailureIsACrossRoundTheCentre) {
+TEST_F(RingDrawing, FailureIsACrossAroundTheCentre) {
   const auto ring = ring_of(100);
 
   ring.drawFailure();
 
-  // A plus with arms of one unit round (50, 50), an eighth of a turn to the right.
+  // A plus with arms of one unit around (50, 50), rotated 45 degrees to the right.
   const double d = 15 * std::sqrt(0.5);
   EXPECT_THAT(path_points(ring.iconLayer().path()),
               ElementsAre(at(50 + d, 50 - 2 * d), at(50 + 2 * d, 50 - d), at(50 + d, 50),

@@ -97,7 +97,7 @@ TEST_F(RingLayout, LayingOutAtAnotherSizeFitsTheRings) {
   EXPECT_EQ(ring.progressLayer().lineWidth(), 7.5);
 }
 
-TEST_F(RingLayout, KeepsAProgressWidthSetFromOutside) {
+TEST_F(RingLayout, KeepsAnExplicitProgressWidth) {
   const auto ring = ring_of(40);
   EXPECT_FALSE(ring.progressRingWidthOverriden());
 
@@ -112,7 +112,7 @@ TEST_F(RingLayout, KeepsAProgressWidthSetFromOutside) {
   EXPECT_EQ(ring.backgroundRingWidth(), 2.5);
 }
 
-TEST_F(RingLayout, KeepsABackgroundWidthSetFromOutsideAndDerivesTheProgressWidthFromIt) {
+TEST_F(RingLayout, KeepsAnExplicitBackgroundWidthAndDerivesTheProgressWidth) {
   const auto ring = ring_of(40);
   EXPECT_FALSE(ring.backgroundRingWidthOverriden());
 
@@ -127,7 +127,7 @@ TEST_F(RingLayout, KeepsABackgroundWidthSetFromOutsideAndDerivesTheProgressWidth
   EXPECT_EQ(ring.progressRingWidth(), 6);
 }
 
-TEST_F(RingLayout, AFrameHigherThanWideBecomesSquare) {
+TEST_F(RingLayout, AFrameTallerThanWideBecomesSquare) {
   const auto ring = ring_of(100);
 
   ring.setFrame({7, 9, 40, 60});
@@ -184,7 +184,7 @@ TEST_F(RingLayout, TheSecondaryColourPaintsTheBackgroundRingOnly) {
   EXPECT_TRUE(ring.layer().needsDisplay());
 }
 
-TEST_F(RingLayout, SettingAWidthAsksForDrawing) {
+TEST_F(RingLayout, SettingAWidthRequestsDrawing) {
   const auto ring = ring_of(40);
   ASSERT_FALSE(ring.layer().needsDisplay());
 
@@ -196,7 +196,7 @@ TEST_F(RingLayout, SettingAWidthAsksForDrawing) {
   EXPECT_TRUE(ring.layer().needsDisplay());
 }
 
-TEST_F(RingLayout, ThePercentageComesAndGoesWithItsSwitch) {
+TEST_F(RingLayout, ThePercentageFollowsItsSwitch) {
   const auto ring = ring_of(40);
   const UILabel label = ring.percentageLabel();
   ASSERT_EQ(label.superview(), ring);
@@ -214,7 +214,7 @@ TEST_F(RingLayout, ThePercentageComesAndGoesWithItsSwitch) {
   EXPECT_EQ(ring.subviews().count(), 1u);
 }
 
-TEST_F(RingLayout, ARingLetGoOfTakesItsLayersWithIt) {
+TEST_F(RingLayout, AReleasedRingReleasesItsLayers) {
   objc::Ref<CAShapeLayer> layer;
   {
     const objc::AutoreleasePool pool;

@@ -10,10 +10,10 @@ namespace {
 
 using RingProgress = RingTest;
 
-// A float in the middle of an animation, against the same sum made here.
+// The tolerance between a float during an animation and the same value computed here.
 constexpr float kClose = 1e-5f;
 
-TEST_F(RingProgress, SettingWithoutAnimationIsSeenAtOnce) {
+TEST_F(RingProgress, SettingWithoutAnimationTakesEffectAtOnce) {
   const auto ring = ring_of(40);
 
   ring.setProgress(0.4f, NO);
@@ -36,7 +36,7 @@ TEST_F(RingProgress, SettingTheSameProgressAgainDoesNothing) {
   EXPECT_EQ(ring.animationStartTime(), 0);
 }
 
-TEST_F(RingProgress, AnAnimatedChangeNotesItsEndsAndItsStart) {
+TEST_F(RingProgress, AnAnimatedChangeRecordsItsValuesAndStartTime) {
   const auto ring = ring_of(40);
   ring.setProgress(0.25f, NO);
 
@@ -48,7 +48,7 @@ TEST_F(RingProgress, AnAnimatedChangeNotesItsEndsAndItsStart) {
   EXPECT_EQ(ring.progress(), 0.25f);
 }
 
-TEST_F(RingProgress, AsksForFramesOnlyWhileAnimating) {
+TEST_F(RingProgress, RequestsFramesOnlyWhileAnimating) {
   const auto ring = ring_of(40);
   advance(1);
   ASSERT_FALSE(loop.wants_frames());
@@ -61,7 +61,7 @@ TEST_F(RingProgress, AsksForFramesOnlyWhileAnimating) {
   EXPECT_EQ(ring.progress(), 1);
   EXPECT_FALSE(ring.displayLink());
 
-  // The colours and widths of layers may still be on their way from the first layout.
+  // The layers' colours and widths may still be animating from the first layout.
   advance(1);
   EXPECT_FALSE(loop.wants_frames());
 }
@@ -81,7 +81,7 @@ TEST_F(RingProgress, MovesLinearlyInTime) {
   }
 }
 
-TEST_F(RingProgress, FollowsTheDurationThatItIsGiven) {
+TEST_F(RingProgress, UsesTheDurationThatIsSet) {
   const auto ring = ring_of(40);
   ring.setAnimationDuration(2);
   ring.setProgress(1, YES);
@@ -109,7 +109,7 @@ TEST_F(RingProgress, WaitsForTheMainQueueBeforeItMoves) {
   EXPECT_EQ(ring.progress(), 1);
 }
 
-TEST_F(RingProgress, ANewTargetStartsFromTheValueOfTheMoment) {
+TEST_F(RingProgress, ANewTargetStartsFromTheCurrentValue) {
   const auto ring = ring_of(40);
   ring.setProgress(1, YES);
   advance(0.15);
@@ -133,7 +133,7 @@ TEST_F(RingProgress, ANewTargetStartsFromTheValueOfTheMoment) {
   EXPECT_EQ(ring.progress(), 0);
 }
 
-TEST_F(RingProgress, SettingWithoutAnimationCancelsTheOneUnderWay) {
+TEST_F(RingProgress, SettingWithoutAnimationCancelsTheRunningAnimation) {
   const auto ring = ring_of(40);
   ring.setProgress(1, YES);
   advance(0.1);
@@ -145,7 +145,7 @@ TEST_F(RingProgress, SettingWithoutAnimationCancelsTheOneUnderWay) {
   EXPECT_EQ(ring.progress(), 0.9f);
 }
 
-TEST_F(RingProgress, AFrameThatWaitsInTheQueueIsForgottenWhenTheChangeIsCancelled) {
+TEST_F(RingProgress, AQueuedFrameIsDroppedWhenTheChangeIsCancelled) {
   const auto ring = ring_of(40);
   ring.setProgress(1, YES);
   advance(0.1);
@@ -157,7 +157,7 @@ TEST_F(RingProgress, AFrameThatWaitsInTheQueueIsForgottenWhenTheChangeIsCancelle
   EXPECT_EQ(ring.progress(), 0.05f);
 }
 
-TEST_F(RingProgress, EveryFrameAsksForDrawing) {
+TEST_F(RingProgress, EveryFrameRequestsDrawing) {
   const auto ring = ring_of(40);
   ring.setProgress(1, YES);
   advance(0.1);
@@ -165,7 +165,7 @@ TEST_F(RingProgress, EveryFrameAsksForDrawing) {
 
   ring.animateProgress(ring.displayLink());
   loop.run_ready();
-  // Held, or the next path could be made where this one was.
+  // Retained, or the next path could have the same address.
   const CGPathRef path = CGPathRetain(ring.progressLayer().path());
   advance(0.05);
   show(ring);
@@ -174,7 +174,7 @@ TEST_F(RingProgress, EveryFrameAsksForDrawing) {
   CGPathRelease(path);
 }
 
-TEST_F(RingProgress, ADurationOfZeroArrivesWithTheNextFrame) {
+TEST_F(RingProgress, ADurationOfZeroEndsWithTheNextFrame) {
   const auto ring = ring_of(40);
   ring.setAnimationDuration(0);
 
@@ -185,12 +185,12 @@ TEST_F(RingProgress, ADurationOfZeroArrivesWithTheNextFrame) {
   EXPECT_FALSE(ring.displayLink());
 }
 
-TEST_F(RingProgress, ADurationOfZeroArrivesEvenWhenNoTimeHasPassed) {
+TEST_F(RingProgress, ADurationOfZeroEndsEvenWhenNoTimeHasPassed) {
   const auto ring = ring_of(40);
   ring.setProgress(0.1f, YES);
   advance(0.1);
   const CADisplayLink link = ring.displayLink();
-  // The frame's own time is the start: nothing divided by nothing.
+  // The frame's time equals the start time: zero divided by zero.
   while (link.timestamp() < clock.now())
     advance(link.timestamp() + host::RunLoop::kFrame - clock.now());
   ring.setAnimationDuration(0);
@@ -203,7 +203,7 @@ TEST_F(RingProgress, ADurationOfZeroArrivesEvenWhenNoTimeHasPassed) {
   EXPECT_EQ(ring.progress(), 0.5f);
 }
 
-TEST_F(RingProgress, AProgressThatIsNoNumberDrawsNoArc) {
+TEST_F(RingProgress, AProgressOfNaNDrawsNoArc) {
   const auto ring = ring_of(40);
   ring.setProgress(0.5f, NO);
   show(ring);
@@ -224,7 +224,7 @@ TEST_F(RingProgress, AProgressThatIsNoNumberDrawsNoArc) {
   EXPECT_EQ(ring.progress(), 0.5f);
 }
 
-TEST_F(RingProgress, ARingUnderWayLivesUntilItArrives) {
+TEST_F(RingProgress, AnAnimatingRingLivesUntilItsEnd) {
   objc::Ref<CAShapeLayer> layer;
   {
     const objc::AutoreleasePool pool;

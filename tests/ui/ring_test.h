@@ -14,7 +14,7 @@
 
 namespace sonavue::test {
 
-/// A process with views and layers on the stepped clock, and rings to put through their paces.
+/// A process with views and layers on the stepped clock, and rings to test.
 class RingTest : public host::test::HostTest {
  public:
   RingTest() {
@@ -30,17 +30,17 @@ class RingTest : public host::test::HostTest {
   }
   ~RingTest() override { service_.reset(); }
 
-  /// A ring laid out and drawn at `size` × `size` points.
+  /// A ring of `size` × `size` points, laid out and drawn.
   static M13ProgressViewRing ring_of(CGFloat size) {
     const M13ProgressViewRing ring = unseen_ring_of(size);
     show(ring);
     return ring;
   }
-  /// A ring fresh from its initializer.
+  /// A ring straight from its initializer, neither laid out nor drawn.
   static M13ProgressViewRing unseen_ring_of(CGFloat size) {
     return M13ProgressViewRing::alloc().initWithFrame({0, 0, size, size}).autorelease();
   }
-  /// Does at once what the end of the turn would do.
+  /// Lays out and draws now, as the end of the turn would.
   static void show(M13ProgressViewRing ring) {
     ring.layoutIfNeeded();
     ring.layer().displayIfNeeded();

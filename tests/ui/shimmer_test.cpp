@@ -63,7 +63,7 @@ TEST_F(Shimmer, MasksTheViewWithABandThreeTimesAsWide) {
   EXPECT_THAT(alphas, ElementsAre(1, 0.1, 1));
 }
 
-TEST_F(Shimmer, TheBandRunsOverAndOver) {
+TEST_F(Shimmer, TheBandRunsRepeatedly) {
   const UIView shimmering = view(100, 40);
   startShimmering(shimmering);
   const auto run = objc::cast<CABasicAnimation>(mask_of(shimmering).animationForKey("shimmer"_ns));
@@ -89,7 +89,7 @@ TEST_F(Shimmer, TheBandIsFaintWhereItPasses) {
     const int stride = cairo_image_surface_get_stride(pixels);
     return cairo_image_surface_get_data(pixels)[20 * stride + 50 * 4];
   };
-  // The middle of the band is over the middle of the view an eighth of the way, every time anew.
+  // The centre of the band is over the centre of the view at an eighth of every run.
   advance(0.625);
   EXPECT_NEAR(middle_brightness(), 0.1 * 255, 6);
   advance(1);
@@ -98,14 +98,14 @@ TEST_F(Shimmer, TheBandIsFaintWhereItPasses) {
   EXPECT_NEAR(middle_brightness(), 0.1 * 255, 6);
 }
 
-TEST_F(Shimmer, StoppedItIsSeenWhole) {
+TEST_F(Shimmer, StoppedItShowsTheWholeView) {
   const UIView shimmering = view(100, 40);
   startShimmering(shimmering);
   objc::send<>(shimmering, "stopShimmering"_sel);
   EXPECT_FALSE(shimmering.layer().mask());
 }
 
-TEST_F(Shimmer, StartedAgainItHasANewMaskOfItsPresentSize) {
+TEST_F(Shimmer, StartedAgainItHasANewMaskOfTheCurrentSize) {
   const UIView shimmering = view(100, 40);
   startShimmering(shimmering);
   const auto first = objc::Ref<CALayer>::retain(shimmering.layer().mask());
@@ -116,7 +116,7 @@ TEST_F(Shimmer, StartedAgainItHasANewMaskOfItsPresentSize) {
   EXPECT_EQ(shimmering.layer().mask().frame(), (CGRect{-50, 0, 150, 10}));
 }
 
-TEST_F(Shimmer, AViewWithoutWidthHasAMaskWithout) {
+TEST_F(Shimmer, AViewWithoutWidthHasAMaskWithoutWidth) {
   const UIView shimmering = view(0, 40);
   startShimmering(shimmering);
   EXPECT_EQ(mask_of(shimmering).frame().size.width, 0);

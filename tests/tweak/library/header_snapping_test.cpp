@@ -15,7 +15,7 @@ class HeaderSnapping : public SongPage {
   }
   CGFloat offset() const { return list().contentOffset().y; }
   /// Drags the list to the offset `wanted`, rests there and releases it. Returns the final offset.
-  CGFloat let_go_at(CGFloat wanted) {
+  CGFloat release_at(CGFloat wanted) {
     hold(middle_of(list()));
     // The first points only start the drag.
     const CGFloat away = wanted < offset() ? 12 : -12;
@@ -31,23 +31,23 @@ class HeaderSnapping : public SongPage {
 };
 
 TEST_F(HeaderSnapping, HidesWhenMoreThanHalfIsHidden) {
-  EXPECT_EQ(let_go_at(16), kHeader);
-  EXPECT_EQ(let_go_at(30.5), kHeader);
+  EXPECT_EQ(release_at(16), kHeader);
+  EXPECT_EQ(release_at(30.5), kHeader);
 }
 
 TEST_F(HeaderSnapping, AppearsWhenLessThanHalfIsHidden) {
-  EXPECT_EQ(let_go_at(15), 0);
-  EXPECT_EQ(let_go_at(1), 0);
+  EXPECT_EQ(release_at(15), 0);
+  EXPECT_EQ(release_at(1), 0);
 }
 
 TEST_F(HeaderSnapping, AppearsWhenExactlyHalfIsHidden) {
-  EXPECT_EQ(let_go_at(15.5), 0);
+  EXPECT_EQ(release_at(15.5), 0);
 }
 
 TEST_F(HeaderSnapping, BeyondTheHeaderTheListStaysInPlace) {
-  EXPECT_EQ(let_go_at(31), 31);
-  EXPECT_EQ(let_go_at(50), 50);
-  EXPECT_EQ(let_go_at(300), 300);
+  EXPECT_EQ(release_at(31), 31);
+  EXPECT_EQ(release_at(50), 50);
+  EXPECT_EQ(release_at(300), 300);
 }
 
 TEST_F(HeaderSnapping, GlidesIntoPlace) {
