@@ -47,7 +47,7 @@ class Reader {
       if (here.fills_last_register()) filled = true;
       if (!here.is_call()) continue;
       if (passed && !filled && here.is_direct_call() && stubs_.count(here.target(at)) != 0)
-        findings.push_back(fmt::format("library: {:#x} sends a message over the stack", at));
+        findings.push_back(fmt::format("library: {:#x} sends a message with stack arguments", at));
       passed = filled = false;
     }
   }

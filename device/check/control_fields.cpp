@@ -58,9 +58,9 @@ void check_control_fields(const std::string& control, Findings& findings) {
     if (addresses.count(name) != 0) {
       ++given;
       if (!is_address(value))
-        findings.push_back(fmt::format("control: {} is no address: `{}`", name, value));
+        findings.push_back(fmt::format("control: {} is not a valid address: `{}`", name, value));
     } else if (known.count(name) == 0) {
-      findings.push_back(fmt::format("control: the field `{}` does not belong", name));
+      findings.push_back(fmt::format("control: unexpected field `{}`", name));
     }
   }
   if (given != 0 && given != addresses.size())

@@ -29,7 +29,7 @@ void read_list(const fs::path& path, Take take) {
 }
 
 void require_new(bool is_new, const std::string& row) {
-  if (!is_new) throw FormatError(fmt::format("'{}' stands there twice", row));
+  if (!is_new) throw FormatError(fmt::format("'{}' is listed twice", row));
 }
 
 }  // namespace

@@ -40,10 +40,10 @@ class Reader {
       ++line_;
       const Columns columns = columns_of(line);
       if (columns.empty() || columns[0][0] == '#') continue;
-      if (ended_) refuse("something follows the end");
+      if (ended_) refuse("something follows the end row");
       read_row(columns);
     }
-    if (!ended_) refuse("it is cut: it has no end");
+    if (!ended_) refuse("it is truncated: it has no end row");
   }
 
  private:
@@ -57,7 +57,7 @@ class Reader {
 
   void need_columns(const Columns& columns, std::size_t count) const {
     require(columns.size() == count,
-            fmt::format("{} columns in place of {}", columns.size(), count));
+            fmt::format("{} columns instead of {}", columns.size(), count));
   }
 
   void read_row(const Columns& columns) {
@@ -73,7 +73,7 @@ class Reader {
     } else if (kind.size() > 1 && (kind[0] == '-' || kind[0] == '+')) {
       read_message(columns);
     } else {
-      refuse(fmt::format("'{}' is no kind of row", kind));
+      refuse(fmt::format("'{}' is not a kind of row", kind));
     }
   }
 
@@ -81,12 +81,12 @@ class Reader {
     std::vector<SystemVersion> systems;
     for (auto each = columns.begin() + 1; each != columns.end(); ++each)
       systems.push_back(version(*each));
-    require(systems_.empty(), "the systems are named twice");
+    require(systems_.empty(), "the systems are listed twice");
     require(!systems.empty() && std::is_sorted(systems.begin(), systems.end(), std::less_equal()),
-            "the systems are not in their order");
+            "the systems are out of order");
     systems_ = systems;
     if (facts_.systems.empty()) facts_.systems = systems;
-    require(facts_.systems == systems, "other systems than in the files before");
+    require(facts_.systems == systems, "different systems than in the previous files");
   }
 
   SystemVersion version(const std::string& text) const {
@@ -102,7 +102,7 @@ class Reader {
         columns.size() == 3 && (columns[2] == "home-screen" || columns[2] == "settings");
     if (!in_program) need_columns(columns, 2);
     require(image_.empty(), "a second image");
-    require(columns[1][0] == '/', "the image is no path of the device");
+    require(columns[1][0] == '/', "the image is not a path on the device");
     image_ = columns[1];
     if (in_program) facts_.program_images.push_back(image_);
   }
@@ -121,7 +121,7 @@ class Reader {
     need_columns(columns, 4);
     require(!systems_.empty() && !image_.empty(), "a class before the systems and the image");
     const std::string& name = columns[1];
-    require(!facts_.class_named(name), fmt::format("{} is told of twice", name));
+    require(!facts_.class_named(name), fmt::format("{} is listed twice", name));
     class_ = &facts_.classes[name];
     *class_ = {columns[2] == kNothing ? "" : columns[2], image_, presences(columns[3]), {}};
     ++rows_;
@@ -134,20 +134,20 @@ class Reader {
     const MessageFact fact = {columns[1] == kNothing ? "" : columns[1], presences(columns[2])};
     static const std::regex types(".+@:.*");
     require(fact.types.empty() || std::regex_match(fact.types, types),
-            fmt::format("'{}' are no types of a message", fact.types));
+            fmt::format("'{}' are not the types of a message", fact.types));
     require(fact.types.empty() != has(fact.presences, Presence::kYes),
             fmt::format("{} has types without a system, or the reverse", name));
     for (std::size_t i = 0; i < systems_.size(); ++i)
       require(class_->presences[i] == Presence::kYes || fact.presences[i] != Presence::kYes,
-              fmt::format("{} is there in {}, where its class is not", name, systems_[i].text()));
-    require(class_->messages.emplace(name, fact).second, fmt::format("{} is told of twice", name));
+              fmt::format("{} exists in {}, where its class does not", name, systems_[i].text()));
+    require(class_->messages.emplace(name, fact).second, fmt::format("{} is listed twice", name));
     ++rows_;
   }
 
   void read_end(const Columns& columns) {
     need_columns(columns, 2);
     require(columns[1] == std::to_string(rows_),
-            fmt::format("it is cut: it has {} rows in place of {}", rows_, columns[1]));
+            fmt::format("it is truncated: it has {} rows instead of {}", rows_, columns[1]));
     ended_ = true;
   }
 
@@ -166,7 +166,7 @@ void check_superclasses(const Facts& facts, const fs::path& folder) {
     const ClassFact* base = facts.class_named(cls.superclass);
     for (std::size_t i = 0; base && i < facts.systems.size(); ++i)
       if (cls.presences[i] == Presence::kYes && base->presences[i] == Presence::kNo)
-        throw FormatError(fmt::format("{}: {} is there in {}, where its superclass {} is not",
+        throw FormatError(fmt::format("{}: {} exists in {}, where its superclass {} does not",
                                       folder.string(), name, facts.systems[i].text(),
                                       cls.superclass));
   }

@@ -43,7 +43,7 @@ std::set<std::string> expected_files(const fs::path& source) {
 
 void check_entry(const PackagedFile& file, unsigned mode, Findings& findings) {
   if (file.mode != mode)
-    findings.push_back(fmt::format("{}: mode {:o} in place of {:o}", file.path, file.mode, mode));
+    findings.push_back(fmt::format("{}: mode {:o} instead of {:o}", file.path, file.mode, mode));
   if (file.owner != 0 || file.group != 0)
     findings.push_back(fmt::format("{}: does not belong to root:root", file.path));
   if (!file.is_folder && !file.is_plain)
@@ -58,7 +58,7 @@ void check_files(const PackageFile& package, const fs::path& source, Findings& f
     const bool is_program = file.path == kLibraryPath || file.path == kBundlePath;
     check_entry(file, file.is_folder || is_program ? kProgramMode : kFileMode, findings);
     if (!file.is_folder && missing.erase(file.path) == 0)
-      findings.push_back(fmt::format("{}: does not belong into the package", file.path));
+      findings.push_back(fmt::format("{}: does not belong in the package", file.path));
   }
   for (const std::string& path : missing)
     findings.push_back(fmt::format("{}: is missing", path));
@@ -71,14 +71,14 @@ void check_control(const PackageFile& package, Findings& findings) {
     const bool is_script = scripts.count(file.path) != 0;
     check_entry(file, is_script ? kProgramMode : kFileMode, findings);
     if (is_script || file.path == "control" || file.path == "md5sums") continue;
-    findings.push_back(fmt::format("control/{}: does not belong into the package", file.path));
+    findings.push_back(fmt::format("control/{}: does not belong in the package", file.path));
   }
   for (const std::string& script : scripts) {
     const PackagedFile* file = package.control_file(script);
     const std::string text =
         file ? std::string(file->content.begin(), file->content.end()) : std::string();
     if (text.find("finish:restart") == std::string::npos)
-      findings.push_back(fmt::format("{}: asks for no restart of the home screen", script));
+      findings.push_back(fmt::format("{}: does not request a restart of the home screen", script));
     if (text.find("kill") != std::string::npos)
       findings.push_back(fmt::format("{}: ends processes", script));
   }
@@ -121,7 +121,8 @@ void check_filter(const PackageFile& package, Findings& findings) {
 
 void check_layout(const PackageFile& package, const fs::path& source, Findings& findings) {
   const std::vector<std::string> parts = {"debian-binary", "control.tar.gz", "data.tar.gz"};
-  if (package.parts != parts) findings.push_back("the package: its parts are not packed by gzip");
+  if (package.parts != parts)
+    findings.push_back("the package: its parts are not compressed with gzip");
   check_files(package, source, findings);
   check_control(package, findings);
   check_fields(package, findings);

@@ -35,7 +35,7 @@ void check_symbols(const Image& library, const Image& bundle, const fs::path& so
       if (!symbol.is_undefined()) continue;
       unused.erase(symbol.name);
       if (stubs.count(symbol.name) == 0)
-        findings.push_back(fmt::format("library: needs {}, which no stub has", symbol.name));
+        findings.push_back(fmt::format("library: needs {}, which is in no stub", symbol.name));
     }
   for (const std::string& name : unused)
     findings.push_back(fmt::format("stubs: {} is not used", name));

@@ -26,7 +26,7 @@ Message message_in(const std::string& text) {
   static const std::regex pattern("([-+])\\[([A-Za-z0-9_]+) ([A-Za-z0-9_:]+)\\](?: (.+))?");
   std::smatch parts;
   if (!std::regex_match(text, parts, pattern))
-    throw FormatError(fmt::format("'{}' is no message", text));
+    throw FormatError(fmt::format("'{}' is not a message", text));
   return {parts[2], parts[1].str() + parts[3].str(), parts[4]};
 }
 

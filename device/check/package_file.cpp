@@ -38,7 +38,7 @@ std::vector<PackagedFile> read_archive(const Bytes& bytes) {
   archive_read_support_format_ar(from.get());
   archive_read_support_format_tar(from.get());
   if (archive_read_open_memory(from.get(), bytes.data(), bytes.size()) != ARCHIVE_OK)
-    throw FormatError("it is no package");
+    throw FormatError("it is not a package");
   std::vector<PackagedFile> files;
   archive_entry* entry = nullptr;
   int result = ARCHIVE_OK;
@@ -76,7 +76,7 @@ PackageFile read_package(const std::filesystem::path& path) {
     if (part.path.rfind("control.tar", 0) == 0) package.control = read_archive(part.content);
     if (part.path.rfind("data.tar", 0) == 0) package.data = read_archive(part.content);
   }
-  if (package.control.empty() || package.data.empty()) throw FormatError("it is no package");
+  if (package.control.empty() || package.data.empty()) throw FormatError("it is not a package");
   return package;
 }
 

@@ -86,9 +86,9 @@ class PlatformCheck {
   void check_class(const std::string& name) {
     if (known_.own.count(name) != 0) return;
     const ClassFact* cls = known_.facts.class_named(name);
-    if (!cls) return find("library: the facts know no class {}", name);
+    if (!cls) return find("library: the facts have no class {}", name);
     if (cls->is_covered() && presence_in(systems_, cls->presences, *cls) != Presence::kYes)
-      find("library: {} is not there on every system", name);
+      find("library: {} does not exist on every system", name);
     check_image(name, *cls);
   }
 
@@ -96,7 +96,7 @@ class PlatformCheck {
     if (known_.facts.is_in_program(cls.image) || use_.linked.count(cls.image) != 0 ||
         use_.has_text(cls.image))
       return;
-    find("library: {} is of {}, which is neither linked nor loaded", name, cls.image);
+    find("library: {} is in {}, which is neither linked nor loaded", name, cls.image);
   }
 
   /// The names of classes that are given to the runtime as texts.
@@ -123,7 +123,7 @@ class PlatformCheck {
   void need_listed(const std::string& name) {
     listed_needed_.insert(name);
     if (known_.lists.uncovered.count(name) == 0)
-      find("library: {} is covered by no dump, and not listed as such", name);
+      find("library: {} is in no dump, and not listed as uncovered", name);
   }
 
   /// Some class has to be known to have it; the types cannot be told.
@@ -135,7 +135,7 @@ class PlatformCheck {
       listed_needed_.insert(row);
       is_listed = true;
     }
-    if (!is_listed) find("library: the facts know no selector {}", selector);
+    if (!is_listed) find("library: the facts have no selector {}", selector);
   }
 
   bool is_sent(const std::string& selector) const {
@@ -155,11 +155,11 @@ class PlatformCheck {
   void check_lists() {
     for (const std::string& name : known_.lists.uncovered)
       if (listed_needed_.count(name) == 0)
-        find("uncovered: {} is not used, or the facts tell of it", name);
+        find("uncovered: {} is not used, or the facts cover it", name);
     for (const auto& [name, reason] : known_.lists.guarded) {
       if (guards_needed_.count(name) == 0)
         find("guarded: {} is not used, or every system has it", name);
-      if (use_.asked.count(name) == 0) find("guarded: {} is sent without asking", name);
+      if (use_.asked.count(name) == 0) find("guarded: {} is sent unguarded", name);
     }
   }
 
@@ -196,7 +196,7 @@ std::string contradiction(const Knowledge& known, const Message& message) {
   if (!fact && known.lists.uncovered.count(message.name()) != 0) return "";
   if (!fact || fact->types.empty()) return message.name() + " is a message that no system has";
   if (objc::same_encoding(fact->types.c_str(), message.types.c_str())) return "";
-  return fmt::format("{} is bound as {} and there as {}", message.name(), message.types,
+  return fmt::format("{} is bound as {} but defined as {}", message.name(), message.types,
                      fact->types);
 }
 

@@ -31,12 +31,13 @@ class SignatureReader {
     start_ = little_32(bytes_, command->offset + 8);
     const std::size_t size = little_32(bytes_, command->offset + 12);
     require(start_ % 16 == 0 && start_ + size == bytes_.size(), "signature is not at its end");
-    require(big_32(bytes_, start_) == 0xfade0cc0, "signature is none");
-    require(big_32(bytes_, start_ + 4) == size, "signature has another length than it says");
+    require(big_32(bytes_, start_) == 0xfade0cc0, "signature is invalid");
+    require(big_32(bytes_, start_ + 4) == size,
+            "signature does not have the length that it states");
   }
 
   void check() const {
-    require(big_32(bytes_, start_ + 8) == 3, "signature has other parts than three");
+    require(big_32(bytes_, start_ + 8) == 3, "signature does not have three parts");
     check_requirements();
     check_directory(0, kDirectories[0]);
     check_directory(2, kDirectories[1]);
@@ -49,7 +50,7 @@ class SignatureReader {
 
   std::size_t blob(std::size_t index, std::uint32_t slot) const {
     const std::size_t entry = start_ + kBlobHeader + index * 8;
-    require(big_32(bytes_, entry) == slot, "signature has its parts in another order");
+    require(big_32(bytes_, entry) == slot, "signature has its parts in the wrong order");
     return start_ + big_32(bytes_, entry + 4);
   }
 
@@ -66,18 +67,19 @@ class SignatureReader {
     require(big_32(bytes_, at + 12) == 2, "signature is not ad-hoc");
     require(*bytes_at(bytes_, at + 36, 1) == expected.hash_size &&
                 *bytes_at(bytes_, at + 37, 1) == expected.kind,
-            "signature has another kind of hashes in a directory");
-    require(*bytes_at(bytes_, at + 39, 1) == 12, "signature has pages of another size");
+            "signature has the wrong kind of hashes in a directory");
+    require(*bytes_at(bytes_, at + 39, 1) == 12, "signature has the wrong page size");
     require(big_32(bytes_, at + 32) == start_, "signature covers less than the code");
     const std::size_t name = at + big_32(bytes_, at + 20);
-    require(text_at(bytes_, name, bytes_.size()) == identifier_, "signature is for another name");
+    require(text_at(bytes_, name, bytes_.size()) == identifier_,
+            "signature is for a different identifier");
     const std::size_t hashes = at + big_32(bytes_, at + 16);
     check_hash(expected, blob(1, 2), kBlobHeader, hashes - 2 * expected.hash_size);
     check_pages(expected, hashes, big_32(bytes_, at + 28));
   }
 
   void check_pages(const Expected& expected, std::size_t hashes, std::size_t count) const {
-    require(count == (start_ + kPage - 1) / kPage, "signature has another number of pages");
+    require(count == (start_ + kPage - 1) / kPage, "signature has the wrong number of pages");
     for (std::size_t page = 0; page < count; ++page)
       check_hash(expected, page * kPage, std::min(kPage, start_ - page * kPage),
                  hashes + page * expected.hash_size);
@@ -89,7 +91,7 @@ class SignatureReader {
     expected.hash(bytes_at(bytes_, at, size), size, computed);
     if (!std::equal(computed, computed + expected.hash_size,
                     bytes_at(bytes_, stored, expected.hash_size)))
-      throw FormatError(fmt::format("signature's {} hashes do not fit its bytes", expected.name));
+      throw FormatError(fmt::format("signature's {} hashes do not match its bytes", expected.name));
   }
 
   const Bytes& bytes_;

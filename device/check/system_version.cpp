@@ -12,7 +12,7 @@ SystemVersion system_version(const std::string& text) {
   static const std::regex version("([0-9]{1,3})\\.([0-9]{1,3})");
   std::smatch parts;
   if (!std::regex_match(text, parts, version))
-    throw FormatError(fmt::format("'{}' is no version of a system", text));
+    throw FormatError(fmt::format("'{}' is not a system version", text));
   return {std::stoi(parts[1]), std::stoi(parts[2])};
 }
 

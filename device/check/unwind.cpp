@@ -34,7 +34,7 @@ class CompactTable {
  public:
   CompactTable(const Image& image, const Section& table)
       : bytes_(image.content(table)), base_(image.segment("__TEXT")->address) {
-    if (number(0) != kVersion) throw FormatError("the table of encodings is of another version");
+    if (number(0) != kVersion) throw FormatError("the table of encodings has an unknown version");
   }
 
   std::vector<Encoding> read() {
@@ -61,7 +61,7 @@ class CompactTable {
     const std::size_t entries = page + little_16(bytes_, page + 4);
     const std::size_t count = little_16(bytes_, page + 6);
     if (kind != kPlainPage && kind != kPackedPage)
-      throw FormatError("a page of encodings is of an unknown kind");
+      throw FormatError("a page of encodings has an unknown kind");
     for (std::size_t i = 0; i < count; ++i) {
       if (kind == kPlainPage) {
         const std::size_t entry = entries + i * 2 * kNumber;
@@ -138,18 +138,18 @@ void check_unwinding(const std::string& path, const Image& image, Findings& find
     const std::uint64_t end = code->address + code->size;
     std::erase_if(starts, [&](std::uint64_t each) { return each < code->address || each >= end; });
     if (starts.empty() || starts.front() != code->address)
-      findings.push_back(fmt::format("{}: does not tell where its functions begin", path));
+      findings.push_back(fmt::format("{}: does not list its functions", path));
     starts.push_back(end);
     std::size_t missing = 0;
     for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
       if (coverage.covers(starts[i], starts[i + 1])) continue;
       if (missing++ == 0)
         findings.push_back(
-            fmt::format("{}: no exception gets through the code at {:#x}", path, starts[i]));
+            fmt::format("{}: no exception can pass through the code at {:#x}", path, starts[i]));
     }
     if (missing > 1)
-      findings.push_back(fmt::format("{}: nor through {} other functions of {}", path, missing - 1,
-                                     starts.size() - 1));
+      findings.push_back(fmt::format("{}: nor through {} more of its {} functions", path,
+                                     missing - 1, starts.size() - 1));
   } catch (const FormatError& problem) {
     findings.push_back(fmt::format("{}: its unwind tables are damaged: {}", path, problem.what()));
   }

@@ -49,7 +49,7 @@ void write_file(const std::filesystem::path& path, const Bytes& bytes) {
 
 const std::uint8_t* bytes_at(const Bytes& bytes, std::size_t offset, std::size_t count) {
   if (offset > bytes.size() || count > bytes.size() - offset)
-    throw FormatError("the file ends in the middle of something");
+    throw FormatError("the file is truncated");
   return bytes.data() + offset;
 }
 
@@ -87,7 +87,7 @@ void append_big_32(Bytes& bytes, std::uint32_t value) {
 }
 
 std::string text_at(const Bytes& bytes, std::size_t offset, std::size_t end) {
-  if (end > bytes.size() || offset > end) throw FormatError("a text lies outside of the file");
+  if (end > bytes.size() || offset > end) throw FormatError("a string is outside the file");
   const auto first = bytes.begin() + static_cast<std::ptrdiff_t>(offset);
   const auto last = bytes.begin() + static_cast<std::ptrdiff_t>(end);
   return std::string(first, std::find(first, last, 0));

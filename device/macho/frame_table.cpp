@@ -45,7 +45,7 @@ class Reader {
 
   FrameDescription description(std::size_t at, std::size_t common, std::size_t length) const {
     if (std::find(commons_.begin(), commons_.end(), common) == commons_.end())
-      refuse(at, "belongs to no other");
+      refuse(at, "refers to no common entry");
     if (length < kNumber + 2 * kAddress) refuse(at, "is too short");
     const std::size_t place = at + 2 * kNumber;
     const std::uint64_t distance = little_64(bytes_, place);
@@ -55,16 +55,16 @@ class Reader {
   /// What several descriptions share has to be of the one shape that is read here.
   void check_common(std::size_t at) const {
     std::size_t next = at + 2 * kNumber;
-    if (*bytes_at(bytes_, next, 1) != kVersion) refuse(at, "is of another version");
+    if (*bytes_at(bytes_, next, 1) != kVersion) refuse(at, "has an unknown version");
     const std::uint8_t* name = bytes_at(bytes_, ++next, kAugmentation.size());
     if (!std::equal(kAugmentation.begin(), kAugmentation.end(), name))
-      refuse(at, "says more than where callers are");
+      refuse(at, "has an unsupported augmentation");
     next += kAugmentation.size();
     // Two alignments, the register of the return address, and the length of what is left.
     for (int i = 0; i < 4; ++i)
       next = behind_number(next);
     if (*bytes_at(bytes_, next, 1) != kCountedFromItsPlace)
-      refuse(at, "writes addresses in another way");
+      refuse(at, "has an unsupported address encoding");
   }
 
   std::size_t behind_number(std::size_t at) const {

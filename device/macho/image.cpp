@@ -32,9 +32,9 @@ bool Symbol::is_external() const {
 
 Image::Image(Bytes bytes, Processor processor) : bytes_(std::move(bytes)), processor_(processor) {
   if (bytes_.size() < kHeaderSize || little_32(bytes_, 0) != kMagic)
-    throw FormatError("it is no 64-bit library of the phone");
+    throw FormatError("it is not a 64-bit library of the phone");
   if (little_32(bytes_, 4) != processor)
-    throw FormatError(std::string("it is for another processor than ") + name_of(processor));
+    throw FormatError(std::string("its processor is not ") + name_of(processor));
   if (file_kind() != kLibrary && file_kind() != kBundle)
     throw FormatError("it is neither a library nor a bundle");
 

@@ -110,7 +110,7 @@ std::size_t room_for_commands(const Image& library) {
 const Segment& link_edit_at_the_end(const Image& library) {
   const Segment* found = library.segment("__LINKEDIT");
   if (!found || found->offset + found->size != library.bytes().size())
-    throw FormatError("its link information is not what the file ends with");
+    throw FormatError("its link information is not at the end of the file");
   return *found;
 }
 
@@ -129,7 +129,7 @@ void add_command(Bytes& bytes, const Image& library, std::size_t offset, std::si
 
 Bytes signed_library(const Image& library, const std::string& identifier) {
   if (identifier.empty()) throw FormatError("a signature needs an identifier");
-  if (library.command(kCodeSignature)) throw FormatError("it is signed already");
+  if (library.command(kCodeSignature)) throw FormatError("it is already signed");
   if (library.end_of_commands() + kSignatureCommandSize > room_for_commands(library))
     throw FormatError("its header has no room for one more load command");
   const Segment& link_edit = link_edit_at_the_end(library);

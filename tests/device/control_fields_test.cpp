@@ -34,16 +34,16 @@ TEST(ControlFields, WhatIsNoAddressIsRefused) {
                            "https://a.example/\tb", "https://a.example/\r", "https://a.example/\"",
                            "https://a.example/<b>", "https://a.example/\xc3\xa9", "xhttps://a"})
     EXPECT_THAT(findings_with_page(page),
-                ElementsAre(fmt::format("control: Depiction is no address: `{}`", page)));
+                ElementsAre(fmt::format("control: Depiction is not a valid address: `{}`", page)));
 }
 
 TEST(ControlFields, ABrokenLineIsNoAddress) {
   EXPECT_THAT(findings_with_page("https://a.example/\n b"),
-              ElementsAre("control: Depiction is no address: `https://a.example/\n b`"));
+              ElementsAre("control: Depiction is not a valid address: `https://a.example/\n b`"));
   EXPECT_THAT(findings_with_page("https://a.example/\nPre-Depends: b"),
-              ElementsAre("control: the field `Pre-Depends` does not belong"));
+              ElementsAre("control: unexpected field `Pre-Depends`"));
   EXPECT_THAT(findings_with_page("https://a.example/\nb"),
-              ElementsAre("control: the field `b` does not belong"));
+              ElementsAre("control: unexpected field `b`"));
 }
 
 TEST(ControlFields, AddressesComeTogether) {

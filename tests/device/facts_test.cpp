@@ -67,24 +67,25 @@ end 4
 }
 
 TEST_F(FactFiles, CutOnesAreRefused) {
-  EXPECT_THAT(refusal_of("class A - yyy\n"), EndsWith("one.facts:3: it is cut: it has no end"));
+  EXPECT_THAT(refusal_of("class A - yyy\n"),
+              EndsWith("one.facts:3: it is truncated: it has no end row"));
   EXPECT_THAT(refusal_of("class A - yyy\nend 2\n"),
-              EndsWith("one.facts:4: it is cut: it has 1 rows in place of 2"));
+              EndsWith("one.facts:4: it is truncated: it has 1 rows instead of 2"));
   EXPECT_THAT(refusal_of("end 0\nclass A - yyy\n"),
-              EndsWith("one.facts:4: something follows the end"));
+              EndsWith("one.facts:4: something follows the end row"));
   EXPECT_THAT(refusal_of("class A - yyy\n  -name @@:\nend 2\n"),
-              EndsWith("one.facts:4: 2 columns in place of 3"));
+              EndsWith("one.facts:4: 2 columns instead of 3"));
 }
 
 TEST_F(FactFiles, WhatContradictsItselfIsRefused) {
   EXPECT_THAT(refusal_of("class A - yyy\n  -b v@: yyy\n  -b @@: yyy\nend 3\n"),
-              EndsWith("one.facts:5: -b is told of twice"));
+              EndsWith("one.facts:5: -b is listed twice"));
   EXPECT_THAT(refusal_of("class A - yyy\nclass A - yyy\nend 2\n"),
-              EndsWith("one.facts:4: A is told of twice"));
+              EndsWith("one.facts:4: A is listed twice"));
   EXPECT_THAT(refusal_of("class A - yyn\n  -b v@: yyy\nend 2\n"),
-              EndsWith("one.facts:4: -b is there in 8.4, where its class is not"));
+              EndsWith("one.facts:4: -b exists in 8.4, where its class does not"));
   EXPECT_THAT(refusal_of("class A - yny\nclass B A yyy\nend 2\n"),
-              EndsWith(": B is there in 8.2, where its superclass A is not"));
+              EndsWith(": B exists in 8.2, where its superclass A does not"));
   EXPECT_THAT(refusal_of("class A - yyy\n  -b - yyy\nend 2\n"),
               EndsWith("one.facts:4: -b has types without a system, or the reverse"));
   EXPECT_THAT(refusal_of("class A - yyy\n  -b v@: nnn\nend 2\n"),
@@ -92,31 +93,30 @@ TEST_F(FactFiles, WhatContradictsItselfIsRefused) {
 }
 
 TEST_F(FactFiles, WhatIsNoRowIsRefused) {
-  EXPECT_THAT(refusal_of("clas A - yyy\n"), EndsWith("one.facts:3: 'clas' is no kind of row"));
+  EXPECT_THAT(refusal_of("clas A - yyy\n"), EndsWith("one.facts:3: 'clas' is not a kind of row"));
   EXPECT_THAT(refusal_of("class A - yy\n"), EndsWith("one.facts:3: 2 signs for 3 systems"));
   EXPECT_THAT(refusal_of("class A - yyx\n"),
               EndsWith("one.facts:3: a sign is not one of y, n and ?"));
-  EXPECT_THAT(refusal_of("class A yyy\n"), EndsWith("one.facts:3: 3 columns in place of 4"));
+  EXPECT_THAT(refusal_of("class A yyy\n"), EndsWith("one.facts:3: 3 columns instead of 4"));
   EXPECT_THAT(refusal_of("  -b v@: yyy\n"), EndsWith("one.facts:3: a message before a class"));
   EXPECT_THAT(refusal_of("class A - yyy\n  -b void yyy\n"),
-              EndsWith("one.facts:4: 'void' are no types of a message"));
+              EndsWith("one.facts:4: 'void' are not the types of a message"));
   EXPECT_THAT(refusal_of("image /two\n"), EndsWith("one.facts:3: a second image"));
   EXPECT_THAT(refusal("systems 8.0\nimage one\n"),
-              EndsWith("one.facts:2: the image is no path of the device"));
+              EndsWith("one.facts:2: the image is not a path on the device"));
   EXPECT_THAT(refusal("image /one\nclass A - y\n"),
               EndsWith("one.facts:2: a class before the systems and the image"));
 }
 
 TEST_F(FactFiles, SystemsAreKnownOnes) {
   EXPECT_THAT(refusal("systems 8.0 later\n"),
-              EndsWith("one.facts:1: 'later' is no version of a system"));
-  EXPECT_THAT(refusal("systems 8.4 8.0\n"),
-              EndsWith("one.facts:1: the systems are not in their order"));
+              EndsWith("one.facts:1: 'later' is not a system version"));
+  EXPECT_THAT(refusal("systems 8.4 8.0\n"), EndsWith("one.facts:1: the systems are out of order"));
   EXPECT_THAT(refusal("systems 8.0\nsystems 8.0\n"),
-              EndsWith("one.facts:2: the systems are named twice"));
+              EndsWith("one.facts:2: the systems are listed twice"));
   folder_.write("a.facts", "systems 8.0 8.2\nimage /a\nend 0\n");
   EXPECT_THAT(refusal("systems 8.0 8.3\nimage /one\nend 0\n"),
-              EndsWith("one.facts:1: other systems than in the files before"));
+              EndsWith("one.facts:1: different systems than in the previous files"));
 }
 
 TEST_F(FactFiles, AFolderWithoutFactsIsRefused) {
@@ -133,9 +133,9 @@ TEST_F(FactFiles, ListsAreNamesOfMessages) {
 }
 
 TEST_F(FactFiles, ARowOfAListThatIsNoneIsRefused) {
-  EXPECT_THAT(list_refusal("uncovered", "A c\n"), EndsWith("uncovered:1: 'A c' is no message"));
+  EXPECT_THAT(list_refusal("uncovered", "A c\n"), EndsWith("uncovered:1: 'A c' is not a message"));
   EXPECT_THAT(list_refusal("uncovered", "+[A c]\n+[A c]\n"),
-              EndsWith("uncovered:2: '+[A c]' stands there twice"));
+              EndsWith("uncovered:2: '+[A c]' is listed twice"));
   folder_.write("uncovered", "");
   EXPECT_THAT(list_refusal("guarded", "-[A b]\n"), EndsWith("guarded:1: '-[A b]' gives no reason"));
 }

@@ -41,16 +41,16 @@ PackagedFile control_file(const std::string& path, unsigned mode) {
 
 TEST_F(Layout, ScriptsCanBeRunByEverybodyAndWrittenByTheirOwner) {
   EXPECT_THAT(findings_with(control_file("postinst", 0777)),
-              Contains("postinst: mode 777 in place of 755"));
+              Contains("postinst: mode 777 instead of 755"));
   EXPECT_THAT(findings_with(control_file("postrm", 0644)),
-              Contains("postrm: mode 644 in place of 755"));
+              Contains("postrm: mode 644 instead of 755"));
   EXPECT_THAT(findings_with(control_file("postrm", 0755)),
               Not(Contains(testing::StartsWith("postrm: mode"))));
 }
 
 TEST_F(Layout, TheControlFileIsAnOrdinaryOne) {
   EXPECT_THAT(findings_with(control_file("control", 0600)),
-              Contains("control: mode 600 in place of 644"));
+              Contains("control: mode 600 instead of 644"));
   EXPECT_THAT(findings_with(control_file("control", 0644)),
               Not(Contains(testing::StartsWith("control: mode"))));
 }

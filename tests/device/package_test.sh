@@ -76,41 +76,41 @@ for field in Version Maintainer Section Description Installed-Size; do
 done
 broken "only some of Depiction, Homepage and Icon" \
   sed -i '$a Homepage: https://plumvane.example.org/' DEBIAN/control
-broken "Icon is no address" sed -i '$a Icon: file:///Library/Icon.png' DEBIAN/control
-broken "the field \`Conflicts\` does not belong" sed -i '$a Conflicts: others' DEBIAN/control
+broken "Icon is not a valid address" sed -i '$a Icon: file:///Library/Icon.png' DEBIAN/control
+broken "unexpected field \`Conflicts\`" sed -i '$a Conflicts: others' DEBIAN/control
 broken "does not name com.apple.springboard" patch "$filter" com.apple.springboard com.apple.springgoard
 broken "does not name com.apple.Preferences" patch "$filter" com.apple.Preferences com.apple.preferences
-broken "mode 600 in place of 755" chmod 600 "$library"
-broken "Library: mode 700 in place of 755" chmod 700 Library
-broken "postinst: asks for no restart" sed -i /finish/d DEBIAN/postinst
-broken "postrm: asks for no restart" sed -i /finish/d DEBIAN/postrm
-broken "postinst: asks for no restart" rm DEBIAN/postinst
+broken "mode 600 instead of 755" chmod 600 "$library"
+broken "Library: mode 700 instead of 755" chmod 700 Library
+broken "postinst: does not request a restart" sed -i /finish/d DEBIAN/postinst
+broken "postrm: does not request a restart" sed -i /finish/d DEBIAN/postrm
+broken "postinst: does not request a restart" rm DEBIAN/postinst
 for script in postinst postrm; do
   broken "$script: ends processes" sed -i 's/^exit/killall SpringBoard; exit/' DEBIAN/$script
 done
 broken "prerm: does not belong" cp DEBIAN/postrm DEBIAN/prerm
-packing=-Zxz broken "packed by gzip" true
+packing=-Zxz broken "compressed with gzip" true
 # Whoever is not root owns the files anyway.
 owned_by_others() { [ "$(id -u)" -ne 0 ] || chown -R 1:1 Library; }
 owners='' broken "root:root" owned_by_others
 
-broken "calls itself" patch "$library" DynamicLibraries/Sonavue2 DynamicLibraries/Sonavue3
-broken "hashes do not fit" patch "$library" playNextSong playLastSong
-broken "the facts know no selector presentBanned:" patch "$library" presentBanner: presentBanned:
+broken "has the install name" patch "$library" DynamicLibraries/Sonavue2 DynamicLibraries/Sonavue3
+broken "hashes do not match" patch "$library" playNextSong playLastSong
+broken "the facts have no selector presentBanned:" patch "$library" presentBanner: presentBanned:
 broken "has no signature" cp "$source/build/device/Sonavue2.dylib" "$library"
-broken "another name" "$build/bin/sonavue_sign" org.example.other \
+broken "a different identifier" "$build/bin/sonavue_sign" org.example.other \
   "$source/build/device/Sonavue2.dylib" "$library"
-broken "does not bring the library in" patch "$bundle/SonavueSettings" Sonavue2.dylib Sonavue9.dylib
-broken "library: is no dynamic library" cp "$bundle/SonavueSettings" "$library"
-broken "settings bundle: is no bundle" cp "$library" "$bundle/SonavueSettings"
+broken "does not load the library" patch "$bundle/SonavueSettings" Sonavue2.dylib Sonavue9.dylib
+broken "library: is not a dynamic library" cp "$bundle/SonavueSettings" "$library"
+broken "settings bundle: is not a bundle" cp "$library" "$bundle/SonavueSettings"
 for cache in 4objc15cached_selector 4objc14cached_message 4objc12cached_class 4objc9own_class \
   4objc13asked_message 7sonavue16replaced_message; do
   broken "has no symbol __ZN$cache" patch "$library" $cache "${cache%?}X"
 done
 broken "library: sends no messages" patch "$library" _objc_msgSend _objc_msgSenD
 broken "library: has no code" patch "$library" __text __texT
-broken "no exception gets through the code" patch "$library" __unwind_info __unwind_infO
-broken "no 64-bit library" cp "$bundle/Info.plist" "$library"
+broken "no exception can pass through the code" patch "$library" __unwind_info __unwind_infO
+broken "not a 64-bit library" cp "$bundle/Info.plist" "$library"
 
 # as_numbers FILE OLD NEW replaces a row of numbers, written as perl packs them.
 as_numbers() {
@@ -123,29 +123,29 @@ turned() {
   perl -0777 -pi -e "BEGIN { \$hash = pack(q(H*), q($(cat "$1"))) } s/\Q\$hash\E/reverse \$hash/e" \
     "$library"
 }
-broken "signature's SHA-1 hashes do not fit" turned "$work/sha1sum"
-broken "signature's SHA-256 hashes do not fit" turned "$work/sha256sum"
-broken "not made for the system from 8.0" as_numbers "$library" "0x25, 16, 0x80000" "0x25, 16, 0x90000"
-broken "a build version in place" as_numbers "$library" "0x25, 16, 0x80000" "0x32, 16, 0x80000"
+broken "signature's SHA-1 hashes do not match" turned "$work/sha1sum"
+broken "signature's SHA-256 hashes do not match" turned "$work/sha256sum"
+broken "does not have 8.0 as its minimum" as_numbers "$library" "0x25, 16, 0x80000" "0x25, 16, 0x90000"
+broken "a build version instead" as_numbers "$library" "0x25, 16, 0x80000" "0x32, 16, 0x80000"
 broken "has chained fixups" as_numbers "$library" "0x80000022, 48" "0x80000034, 48"
 broken "no classic dyld" as_numbers "$bundle/SonavueSettings" "0x80000022, 48" "0x80000021, 48"
-broken "a table of exports" as_numbers "$library" "0x26, 16" "0x80000033, 16"
+broken "an exports table" as_numbers "$library" "0x26, 16" "0x80000033, 16"
 broken "no identifier of its build" as_numbers "$library" "0x1b, 24" "0x2c, 24"
-broken "library: does not tell where its functions begin" as_numbers "$library" "0x26, 16" "0x29, 16"
-broken "a place for encryption" as_numbers "$library" "0x1b, 24" "0x2c, 24"
+broken "library: does not list its functions" as_numbers "$library" "0x26, 16" "0x29, 16"
+broken "a load command for encryption" as_numbers "$library" "0x1b, 24" "0x2c, 24"
 # What finds the caller of code with one kind of frame says that nothing does.
-broken "library: no exception gets through the code" as_numbers "$library" 0x0400001f 0
+broken "library: no exception can pass through the code" as_numbers "$library" 0x0400001f 0
 broken "library: its unwind tables are damaged" as_numbers "$library" "1, 28" "2, 28"
 # Every idle instruction becomes a store to where arguments beyond the registers go.
-broken "sends a message over the stack" as_numbers "$library" 0xd503201f 0xf90003ff
+broken "sends a message with stack arguments" as_numbers "$library" 0xd503201f 0xf90003ff
 initialisers=$(llvm-objdump-16 --macho --section=__DATA,__mod_init_func "$work/whole/$library" |
   sed -n 's/^0x[0-9a-f]* \(0x[0-9a-f]*\).*/\1/p')
 first=$(echo "$initialisers" | head -n 1)
 second=$(echo "$initialisers" | tail -n 1)
 broken "out of order" as_numbers "$library" "$first, 0, $second, 0" "$second, 0, $first, 0"
-broken "an initialiser is none of ours" as_numbers "$library" "$first, 0, $second, 0" \
+broken "an initialiser is not ours" as_numbers "$library" "$first, 0, $second, 0" \
   "$first + 4, 0, $second, 0"
-broken "other initialisers" patch "$library" __mod_init_func __mod_term_func
+broken "initialisers other than" patch "$library" __mod_init_func __mod_term_func
 
 # Rules that compare with the source are broken in a copy of what they read.
 mkdir -p "$work/source/device/check"
@@ -154,14 +154,14 @@ cp -a "$source/device/stubs" "$source/device/facts" "$work/source/device"
 cp "$source/device/check/own_names.txt" "$work/source/device/check"
 against=$work/source
 sed -i /_uname$/d "$against/device/stubs/libSystem.tbd"
-broken "needs _uname, which no stub has" true
+broken "needs _uname, which is in no stub" true
 sed -i 's/_system$/_uname\n      - _system\n      - _nobody_needs_this/' \
   "$against/device/stubs/libSystem.tbd"
 broken "_nobody_needs_this is not used" true
 sed -i /^Linker$/d "$against/device/check/own_names.txt"
-broken "know no class Linker" true
+broken "have no class Linker" true
 sed -i /^tweet$/d "$against/device/check/own_names.txt"
-broken "know no selector tweet" true
+broken "have no selector tweet" true
 sed -i 's/^| phones | arm64/| phones | every/' "$against/README.md"
 broken "README: its table has no row \`| phones | arm64" true
 
@@ -173,27 +173,27 @@ contradicted() {
   broken "$1" true
   cp "$work/facts" "$against/device/facts/$2"
 }
-contradicted "UILabel is of /elsewhere, which is neither linked nor loaded" UIKit.facts \
+contradicted "UILabel is in /elsewhere, which is neither linked nor loaded" UIKit.facts \
   's|^image .*|image /elsewhere|'
 contradicted "-[SBIcon application] is missing on a system, and not listed as guarded" \
   SpringBoard.facts 's/-application @@: .*/-application @@: ?yny?/'
-contradicted "-[UILabel setText:] is bound as v@:@ and there as v@:q" UIKit.facts \
+contradicted "-[UILabel setText:] is bound as v@:@ but defined as v@:q" UIKit.facts \
   '/^class UILabel /,/^class/s/-setText: v@:@/-setText: v@:q/'
-contradicted "_handleDisplayTurnedOff] is bound as v@: and there as v@:I" SpringBoard.facts \
+contradicted "_handleDisplayTurnedOff] is bound as v@: but defined as v@:I" SpringBoard.facts \
   's/-_handleDisplayTurnedOff v@:/-_handleDisplayTurnedOff v@:I/'
 contradicted "-[SBUIController clickedMenuButton] is a message that no system has" \
   SpringBoard.facts 's/-clickedMenuButton /-clickedMenuButtons /'
-contradicted "know no class UILabel" UIKit.facts 's/^class UILabel /class UIOther /'
-contradicted "-[NSArray count] is covered by no dump, and not listed as such" uncovered \
+contradicted "have no class UILabel" UIKit.facts 's/^class UILabel /class UIOther /'
+contradicted "-[NSArray count] is in no dump, and not listed as uncovered" uncovered \
   '/^-\[NSArray count\]/d'
-contradicted "uncovered: -[UILabel setText:] is not used, or the facts tell of it" uncovered \
+contradicted "uncovered: -[UILabel setText:] is not used, or the facts cover it" uncovered \
   '$a -[UILabel setText:]'
 contradicted "uncovered: -[NSArray reverse] is not used" uncovered '$a -[NSArray reverse]'
-contradicted "homescreenIconViewMap] is covered by no dump, and not listed as such" guarded \
+contradicted "homescreenIconViewMap] is in no dump, and not listed as uncovered" guarded \
   '/^-/d'
 contradicted "guarded: -[UILabel setText:] is not used, or every system has it" guarded \
   '$a -[UILabel setText:]: always'
-contradicted "guarded: -[UILabel setText:] is sent without asking" guarded \
+contradicted "guarded: -[UILabel setText:] is sent unguarded" guarded \
   '$a -[UILabel setText:]: always'
 
 # refused EXPECTED FILE CHANGE: facts that cannot be believed are named, and nothing is checked.
@@ -206,14 +206,14 @@ refused() {
     fail "the checker ends with $result for facts changed by $3: $(cat "$work/said")"
   cp "$work/facts" "$against/device/facts/$2"
 }
-refused "it is cut" UIKit.facts '$d'
-refused "it is cut" UIKit.facts '/-setText:/d'
-refused "-setText: is told of twice" UIKit.facts 's/^  -setText: .*/&\n  -setText: v@:q y?yy?/'
-refused "is there in 8.4, where its class is not" SpringBoard.facts \
+refused "it is truncated" UIKit.facts '$d'
+refused "it is truncated" UIKit.facts '/-setText:/d'
+refused "-setText: is listed twice" UIKit.facts 's/^  -setText: .*/&\n  -setText: v@:q y?yy?/'
+refused "exists in 8.4, where its class does not" SpringBoard.facts \
   's/^class SBIcon NSObject .*/class SBIcon NSObject ?ynyy/'
-refused "other systems than in the files before" UIKit.facts 's/^systems 8.0 8.2/systems 8.0 8.3/'
-refused "2 columns in place of 3" UIKit.facts 's/^  -setText: v@:@ /  -setText: v@:@/'
-refused "is no message" uncovered '$a setText:'
+refused "different systems than in the previous files" UIKit.facts 's/^systems 8.0 8.2/systems 8.0 8.3/'
+refused "2 columns instead of 3" UIKit.facts 's/^  -setText: v@:@ /  -setText: v@:@/'
+refused "is not a message" uncovered '$a setText:'
 refused "gives no reason" guarded 's/: sent only.*//'
 
 result=0

@@ -67,7 +67,7 @@ TEST_F(PlatformRules, AProvenLibraryIsFine) {
 TEST_F(PlatformRules, AClassOfAFrameworkThatNothingLoadsIsFound) {
   use_.classes.insert("Page");
   EXPECT_THAT(findings(),
-              ElementsAre("library: Page is of /other, which is neither linked nor loaded"));
+              ElementsAre("library: Page is in /other, which is neither linked nor loaded"));
   use_.texts += std::string("\x40/other\0", 8);
   EXPECT_THAT(findings(), IsEmpty());
 }
@@ -84,7 +84,7 @@ TEST_F(PlatformRules, AFrameworkOfTheProgramOrALinkedOneIsThere) {
 TEST_F(PlatformRules, AClassThatIsNamedByATextCountsToo) {
   use_.texts += std::string("Page\0", 5);
   EXPECT_THAT(findings(),
-              ElementsAre("library: Page is of /other, which is neither linked nor loaded"));
+              ElementsAre("library: Page is in /other, which is neither linked nor loaded"));
 }
 
 TEST_F(PlatformRules, APathThatIsPartOfALongerTextLoadsNothing) {
@@ -95,14 +95,14 @@ TEST_F(PlatformRules, APathThatIsPartOfALongerTextLoadsNothing) {
 
 TEST_F(PlatformRules, AnUnknownClassIsFound) {
   use_.classes.insert("Lable");
-  EXPECT_THAT(findings(), ElementsAre("library: the facts know no class Lable"));
+  EXPECT_THAT(findings(), ElementsAre("library: the facts have no class Lable"));
 }
 
 TEST_F(PlatformRules, TypesHaveToAgree) {
   send("-[Label shown] c@:");
   EXPECT_THAT(findings(), IsEmpty()) << "one byte is one byte";
   send("-[Label alpha] f@:");
-  EXPECT_THAT(findings(), Contains("library: -[Label alpha] is bound as f@: and there as d@:"));
+  EXPECT_THAT(findings(), Contains("library: -[Label alpha] is bound as f@: but defined as d@:"));
 }
 
 TEST_F(PlatformRules, WholeNumbersOfOtherSizesOrSignsDiffer) {
@@ -110,7 +110,7 @@ TEST_F(PlatformRules, WholeNumbersOfOtherSizesOrSignsDiffer) {
   known_.facts.classes["Label"].messages["-added"].presences[0] = Presence::kYes;
   for (const char* types : {"q@:Q", "q@:i", "Q@:I", "i@:I"}) {
     const Message message = {"Label", "-added", types};
-    EXPECT_THAT(contradiction(known_, message), HasSubstr("and there as q@:I")) << types;
+    EXPECT_THAT(contradiction(known_, message), HasSubstr("but defined as q@:I")) << types;
   }
   EXPECT_EQ(contradiction(known_, {"Label", "-added", "q@:I"}), "");
   EXPECT_EQ(contradiction(known_, {"Label", "-frame", "{_R={P=dd}{S=dd}}@:"}), "");
@@ -138,7 +138,7 @@ TEST_F(PlatformRules, AMessageThatIsMissingOnASystemIsFound) {
 TEST_F(PlatformRules, AGuardedMessageHasToBeAskedFor) {
   send("-[Label moved] v@:");
   known_.lists.guarded["-[Label moved]"] = "why";
-  EXPECT_THAT(findings(), ElementsAre("guarded: -[Label moved] is sent without asking"));
+  EXPECT_THAT(findings(), ElementsAre("guarded: -[Label moved] is sent unguarded"));
   use_.asked = {"-[Label moved]"};
   EXPECT_THAT(findings(), IsEmpty());
 }
@@ -155,21 +155,21 @@ TEST_F(PlatformRules, WhatNoDumpCoversIsListedAndNothingElse) {
   send("-[Open go] v@:");
   send("+[Label maker] @@:");
   EXPECT_THAT(findings(), testing::IsSupersetOf(
-                              {"library: -[Open go] is covered by no dump, and not listed as such",
-                               "library: +[Label maker] is covered by no dump, and not listed as "
-                               "such"}));
+                              {"library: -[Open go] is in no dump, and not listed as uncovered",
+                               "library: +[Label maker] is in no dump, and not listed as "
+                               "uncovered"}));
   known_.lists.uncovered = {"-[Open go]", "+[Label maker]"};
   EXPECT_THAT(findings(), IsEmpty());
   known_.lists.uncovered.insert("-[Label setText:]");
   EXPECT_THAT(findings(),
-              ElementsAre("uncovered: -[Label setText:] is not used, or the facts tell of it"));
+              ElementsAre("uncovered: -[Label setText:] is not used, or the facts cover it"));
 }
 
 TEST_F(PlatformRules, ASelectorWithoutAClassIsSomeClasses) {
   use_.selectors.insert("frame");
   EXPECT_THAT(findings(), IsEmpty());
   use_.selectors.insert("setTxet:");
-  EXPECT_THAT(findings(), ElementsAre("library: the facts know no selector setTxet:"));
+  EXPECT_THAT(findings(), ElementsAre("library: the facts have no selector setTxet:"));
   known_.lists.uncovered = {"-[Open setTxet:]"};
   EXPECT_THAT(findings(), IsEmpty());
 }

@@ -87,7 +87,7 @@ page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.0), others/' control |
 page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.1), others (<< 2), firmware (<< 9.0)/' control |
   grep -qF '<td>8.1 or later, before 9.0</td>' || fail "the page does not tell the range of systems"
 page_of sed -i 's/^Version: .*/Version: 2.0.9/' control >/dev/null && fail "a page without news"
-grep -qF "CHANGELOG.md does not tell of 2.0.9" "$work/said" || fail "says: $(cat "$work/said")"
+grep -qF "CHANGELOG.md has no entry for 2.0.9" "$work/said" || fail "says: $(cat "$work/said")"
 rm -r "$work/tree" "$work/other.deb"
 
 # A package manager that knows no other source.
@@ -166,9 +166,9 @@ done
 refused 0 "--repository FOLDER" "$command" --help
 
 # The checker looks once more, whoever makes the folder.
-refused 1 "Depiction is no address" "$source/device/repository/make" "$preset" new ftp://a.example
-refused 1 "Depiction is no address" "$source/device/repository/make" "$preset" new "https://a b"
-refused 1 "Depiction is no address" "$source/device/repository/make" "$preset" new \
+refused 1 "Depiction is not a valid address" "$source/device/repository/make" "$preset" new ftp://a.example
+refused 1 "Depiction is not a valid address" "$source/device/repository/make" "$preset" new "https://a b"
+refused 1 "Depiction is not a valid address" "$source/device/repository/make" "$preset" new \
   $'https://a.example/\n b'
 
 # What was not made here is nobody's to replace.
@@ -184,10 +184,10 @@ mkdir half
 cp plain/Release half
 refused 1 "is a file" "$command" --repository file
 for folder in foreign added changed lost theirs half /; do
-  refused 1 "holds something else" "$command" --repository $folder
+  refused 1 "contains something other" "$command" --repository $folder
 done
 refused 1 "There is no folder $work/none" "$command" --repository none/new
-refused 1 "/proc cannot be written" "$command" --repository /proc/new
+refused 1 "/proc is not writable" "$command" --repository /proc/new
 
 # Neither is what comes into an empty folder while the source is being made.
 mkdir busy programs

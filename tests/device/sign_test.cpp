@@ -58,21 +58,21 @@ TEST(Sign, EveryPartOfTheSignatureIsLookedAt) {
   };
   constexpr std::size_t kFirst = 36;  // where the directory of the SHA-1 hashes begins
   const Part parts[] = {
-      {3, "is none"},
-      {7, "has another length than it says"},
-      {11, "has other parts than three"},
-      {15, "has its parts in another order"},
-      {23, "has its parts in another order"},
-      {31, "has its parts in another order"},
+      {3, "is invalid"},
+      {7, "does not have the length that it states"},
+      {11, "does not have three parts"},
+      {15, "has its parts in the wrong order"},
+      {23, "has its parts in the wrong order"},
+      {31, "has its parts in the wrong order"},
       {kFirst + 3, "lacks a directory"},
       {kFirst + 15, "is not ad-hoc"},
-      {kFirst + 19, "'s SHA-1 hashes do not fit its bytes"},
-      {kFirst + 23, "is for another name"},
-      {kFirst + 31, "has another number of pages"},
+      {kFirst + 19, "'s SHA-1 hashes do not match its bytes"},
+      {kFirst + 23, "is for a different identifier"},
+      {kFirst + 31, "has the wrong number of pages"},
       {kFirst + 35, "covers less than the code"},
-      {kFirst + 36, "has another kind of hashes in a directory"},
-      {kFirst + 37, "has another kind of hashes in a directory"},
-      {kFirst + 39, "has pages of another size"},
+      {kFirst + 36, "has the wrong kind of hashes in a directory"},
+      {kFirst + 37, "has the wrong kind of hashes in a directory"},
+      {kFirst + 39, "has the wrong page size"},
   };
   const Bytes whole = signed_bytes();
   const std::size_t start = little_32(whole, Image(whole).command(kCodeSignature)->offset + 8);
@@ -108,21 +108,22 @@ TEST(Sign, BothKindsOfHashesAreLookedAt) {
     Bytes changed = whole;
     changed[directory + big_32(whole, directory + 16)] ^= 1;
     EXPECT_EQ(signature_findings(changed), Findings{std::string("library: signature's ") +
-                                                    each.kind + " hashes do not fit its bytes"});
+                                                    each.kind + " hashes do not match its bytes"});
   }
 }
 
 TEST(Sign, AnotherNameIsNoticed) {
   const Bytes other = signed_library(Image(library_bytes()), "org.example.another");
-  EXPECT_EQ(signature_findings(other), Findings{"library: signature is for another name"});
+  EXPECT_EQ(signature_findings(other),
+            Findings{"library: signature is for a different identifier"});
 }
 
 TEST(Sign, WhatIsNoLibraryIsRefused) {
-  EXPECT_EQ(refusal({}), "it is no 64-bit library of the phone");
-  EXPECT_EQ(refusal(Bytes(5000, 'x')), "it is no 64-bit library of the phone");
+  EXPECT_EQ(refusal({}), "it is not a 64-bit library of the phone");
+  EXPECT_EQ(refusal(Bytes(5000, 'x')), "it is not a 64-bit library of the phone");
   LibraryShape shape;
   shape.processor = 0x01000007;
-  EXPECT_EQ(refusal(library_bytes(shape)), "it is for another processor than arm64");
+  EXPECT_EQ(refusal(library_bytes(shape)), "its processor is not arm64");
   shape = {};
   shape.kind = 2;
   EXPECT_EQ(refusal(library_bytes(shape)), "it is neither a library nor a bundle");
@@ -132,10 +133,10 @@ TEST(Sign, WhatCannotBeSignedIsRefused) {
   LibraryShape shape;
   shape.room = 8;
   EXPECT_EQ(refusal(library_bytes(shape)), "its header has no room for one more load command");
-  EXPECT_EQ(refusal(signed_bytes()), "it is signed already");
+  EXPECT_EQ(refusal(signed_bytes()), "it is already signed");
   Bytes longer = library_bytes();
   longer.push_back(0);
-  EXPECT_EQ(refusal(longer), "its link information is not what the file ends with");
+  EXPECT_EQ(refusal(longer), "its link information is not at the end of the file");
 }
 
 TEST(Sign, ACutLibraryIsRefusedWhereverItIsCut) {
@@ -154,7 +155,7 @@ TEST(LoadCommands, AnotherLeastSystemIsNoticed) {
   Findings other;
   check_load_commands("library", Image(signed_bytes(shape)), other);
   EXPECT_EQ(other.size(), fitting.size() + 1);
-  EXPECT_EQ(other.back(), "library: is not made for the system from 8.0 on");
+  EXPECT_EQ(other.back(), "library: does not have 8.0 as its minimum system version");
 }
 
 }  // namespace

@@ -101,27 +101,27 @@ TEST(Unwinding, EachFunctionHasAnEncoding) {
     EXPECT_THAT(findings({table({{kFirst, kFrame}, {kSecond, kLeaf}, {kThird, kFrame}})}),
                 IsEmpty());
     EXPECT_THAT(findings({table({{kFirst, kFrame}, {kSecond, kNothing}, {kThird, kLeaf}})}),
-                ElementsAre("library: no exception gets through the code at 0x300"));
+                ElementsAre("library: no exception can pass through the code at 0x300"));
   }
 }
 
 TEST(Unwinding, TheFirstOfManyFunctionsIsNamedAndTheOthersAreCounted) {
   EXPECT_THAT(findings({plain({{kSecond, kFrame}, {kThird, kNothing}})}),
-              ElementsAre("library: no exception gets through the code at 0x200",
-                          "library: nor through 1 other functions of 3"));
+              ElementsAre("library: no exception can pass through the code at 0x200",
+                          "library: nor through 1 more of its 3 functions"));
 }
 
 TEST(Unwinding, WithoutTablesNoFunctionIsCovered) {
   EXPECT_THAT(findings({plain({{kFirst, kFrame}}), {}, kListed, kArm64, "__nothing"}),
-              ElementsAre("library: no exception gets through the code at 0x200",
-                          "library: nor through 2 other functions of 3"));
+              ElementsAre("library: no exception can pass through the code at 0x200",
+                          "library: nor through 2 more of its 3 functions"));
 }
 
 TEST(Unwinding, AFunctionHasItsEncodingFromItsStartToItsEnd) {
   EXPECT_THAT(findings({plain({{kFirst + 4, kFrame}})}),
-              ElementsAre("library: no exception gets through the code at 0x200"));
+              ElementsAre("library: no exception can pass through the code at 0x200"));
   EXPECT_THAT(findings({plain({{kFirst, kFrame}, {kEnd - 4, kNothing}})}),
-              ElementsAre("library: no exception gets through the code at 0x400"));
+              ElementsAre("library: no exception can pass through the code at 0x400"));
 }
 
 TEST(Unwinding, AnEncodingMayLeaveItToTheFrameTable) {
@@ -138,18 +138,18 @@ TEST(Unwinding, AnEncodingMayLeaveItToTheFrameTable) {
     for (const Bytes& other : {described(kThird, 0x100), described(kSecond - 8, 8), Bytes()}) {
       shape.frames = other;
       EXPECT_THAT(findings(shape),
-                  ElementsAre("library: no exception gets through the code at 0x300"));
+                  ElementsAre("library: no exception can pass through the code at 0x300"));
     }
     shape.frames = described(kSecond, 0x100);
     shape.encodings = plain({{kFirst, kBasePointer}, {kSecond, home.mode | 4}, {kThird, kLeaf}});
     EXPECT_THAT(findings(shape),
-                ElementsAre("library: no exception gets through the code at 0x300"));
+                ElementsAre("library: no exception can pass through the code at 0x300"));
   }
 }
 
 TEST(Unwinding, AllFunctionsHaveToBeListed) {
   EXPECT_THAT(findings({plain({{kFirst, kFrame}}), {}, {0x80, 0x06, 0}}),
-              ElementsAre("library: does not tell where its functions begin"));
+              ElementsAre("library: does not list its functions"));
 }
 
 /// All bytes of a table, each changed in turn: a damaged table is named, and nothing else
@@ -187,13 +187,13 @@ TEST(Unwinding, WhatIsWrongWithATableIsSaid) {
   Shape shape{plain({{kFirst, kFrame}}), described(kSecond, 0x100)};
   shape.encodings[0] = 2;
   EXPECT_THAT(findings(shape),
-              ElementsAre(damage + "the table of encodings is of another version"));
+              ElementsAre(damage + "the table of encodings has an unknown version"));
   shape.encodings = plain({{kFirst, kFrame}, {kThird, kFrame}, {kSecond, kFrame}});
   EXPECT_THAT(findings(shape), ElementsAre(damage + "the encodings are out of order"));
   shape.encodings = plain({{kFirst, kFrame}});
   shape.frames[9] = 'P';
-  EXPECT_THAT(findings(shape), ElementsAre(damage + "the frame table's entry at byte 0 says more "
-                                                    "than where callers are"));
+  EXPECT_THAT(findings(shape), ElementsAre(damage + "the frame table's entry at byte 0 has an "
+                                                    "unsupported augmentation"));
 }
 
 }  // namespace

@@ -179,10 +179,10 @@ TEST(LoadedImageDeathTest, WithoutFramesAnExceptionEndsTheProcess) {
 TEST(LoadedImage, FramesHaveToBeOfItsOwnCode) {
   for (const auto& [code, size] : {std::pair{0x10000u, 15u}, {0xffffff00u, 15u}, {0x2ff8u, 15u}})
     EXPECT_EQ(refusal(calling(frame_of_calling(code, size))),
-              "the frame table speaks of code outside of the image");
+              "the frame table refers to code outside the image");
   Bytes damaged = frame_of_calling();
   damaged[8] = 2;
-  EXPECT_EQ(refusal(calling(damaged)), "the frame table's entry at byte 0 is of another version");
+  EXPECT_EQ(refusal(calling(damaged)), "the frame table's entry at byte 0 has an unknown version");
 }
 
 TEST(LoadedImageDeathTest, ItsCodeCannotBeWritten) {
@@ -194,16 +194,16 @@ TEST(LoadedImageDeathTest, ItsCodeCannotBeWritten) {
 TEST(LoadedImage, AMissingSymbolIsNamedWithItsLibrary) {
   ImageShape shape = whole();
   shape.bind = joined({{0x12, 0x40}, zero_ended("_first"), {0x51, 0x71, 0x10, 0x90, 0x00}});
-  EXPECT_EQ(refusal(shape), "it needs _first of /usr/lib/second.dylib, which is not to be had");
+  EXPECT_EQ(refusal(shape), "it needs _first of /usr/lib/second.dylib, which is not available");
   shape.bind = joined({{0x3e, 0x40}, zero_ended("_first"), {0x51, 0x71, 0x10, 0x90, 0x00}});
-  EXPECT_EQ(refusal(shape), "it needs _first of any library, which is not to be had");
+  EXPECT_EQ(refusal(shape), "it needs _first of any library, which is not available");
 }
 
 TEST(LoadedImage, WhatIsNotLoadedHereIsRefusedByName) {
   ImageShape shape = whole();
   for (const std::uint32_t kind : {0x11u, 0x13u, 0x16u}) {
     shape.kind_of_data = kind;
-    EXPECT_EQ(refusal(shape), "__data is of a kind that is not loaded here");
+    EXPECT_EQ(refusal(shape), "__data has a kind that is not loaded here");
   }
   shape = whole();
   shape.data_section = "__objc_classlist";
@@ -213,26 +213,26 @@ TEST(LoadedImage, WhatIsNotLoadedHereIsRefusedByName) {
 TEST(LoadedImage, SegmentsHaveToBeSensible) {
   ImageShape shape = whole();
   shape.protection_of_data = 7;
-  EXPECT_EQ(refusal(shape), "__DATA wants to be written and run");
+  EXPECT_EQ(refusal(shape), "__DATA is both writable and executable");
   shape = whole();
   shape.address_of_data = kData + 8;
-  EXPECT_EQ(refusal(shape), "__DATA does not begin with a page");
+  EXPECT_EQ(refusal(shape), "__DATA does not start at a page");
   shape.address_of_data = 0;
   EXPECT_THAT(refusal(shape), HasSubstr("overlaps another segment"));
   shape.address_of_data = std::uint64_t{1} << 40;
-  EXPECT_EQ(refusal(shape), "its segments lie too far apart");
+  EXPECT_EQ(refusal(shape), "its segments are too far apart");
 }
 
 TEST(LoadedImage, InitialisersHaveToBeCode) {
   ImageShape shape = whole();
   shape.data = pointers({kCode, kData});
-  EXPECT_EQ(refusal(shape), "__mod_init_func holds something at byte 8 that is no code");
+  EXPECT_EQ(refusal(shape), "__mod_init_func holds something at byte 8 that is not code");
 }
 
 TEST(LoadedImage, AnExportHasToLieInside) {
   ImageShape shape = whole();
   shape.exports = {0x00, 0x01, '_', 't', 0, 0x06, 0x03, 0x00, 0xa0, 0x70, 0x00};
-  EXPECT_EQ(refusal(shape), "_t lies outside of the image");
+  EXPECT_EQ(refusal(shape), "_t is outside the image");
 }
 
 TEST(LoadedImage, NothingStaysMappedOfWhatIsRefused) {

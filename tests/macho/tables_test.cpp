@@ -90,18 +90,17 @@ TEST(RebaseTable, EndsAtItsEndOrWhereItSaysSo) {
 
 TEST(RebaseTable, SaysWhatIsWrongAndWhere) {
   const std::string damaged = "the rebase table is damaged at byte ";
-  EXPECT_EQ(rebase_refusal({0x21}), damaged + "1: it ends in the middle of something");
-  EXPECT_EQ(rebase_refusal({0x21, 0x80}), damaged + "2: it ends in the middle of something");
+  EXPECT_EQ(rebase_refusal({0x21}), damaged + "1: it is truncated");
+  EXPECT_EQ(rebase_refusal({0x21, 0x80}), damaged + "2: it is truncated");
   EXPECT_EQ(rebase_refusal({0x12}), damaged + "1: only pointers can be rebased");
   EXPECT_EQ(rebase_refusal({0x90}), damaged + "1: an opcode is unknown");
   EXPECT_EQ(rebase_refusal({0x51}), damaged + "1: no place was given");
   EXPECT_EQ(rebase_refusal({0x23, 0x00}), damaged + "2: there is no such segment");
   EXPECT_EQ(rebase_refusal({0x20, 0x00, 0x51}), damaged + "3: __TEXT cannot be written");
-  EXPECT_EQ(rebase_refusal({0x21, 0xf9, 0x1f, 0x51}),
-            damaged + "4: the place lies outside of __DATA");
+  EXPECT_EQ(rebase_refusal({0x21, 0xf9, 0x1f, 0x51}), damaged + "4: the place is outside __DATA");
   EXPECT_EQ(rebase_refusal(
                 joined({{0x21, 0x00, 0x80}, packed(~std::uint64_t{0}), packed(kBackByOnePointer)})),
-            damaged + "23: it speaks of too many places");
+            damaged + "23: it refers to too many places");
   EXPECT_EQ(rebase_refusal({0x21, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0x02}),
             damaged + "11: a number is too large");
 }
@@ -152,7 +151,7 @@ TEST(BindTable, ADefinitionThatCountsBindsNothing) {
 
 TEST(BindTable, SaysWhatIsWrongAndWhere) {
   const std::string damaged = "the binding table is damaged at byte ";
-  EXPECT_EQ(bind_refusal({0x40, '_', 'a'}), damaged + "3: it ends in the middle of something");
+  EXPECT_EQ(bind_refusal({0x40, '_', 'a'}), damaged + "3: it is truncated");
   EXPECT_EQ(bind_refusal({0x13}), damaged + "1: there is no such library");
   EXPECT_EQ(bind_refusal({0x53}), damaged + "1: only pointers can be bound");
   EXPECT_EQ(bind_refusal({0xd0}), damaged + "1: an opcode is unknown");
@@ -182,14 +181,14 @@ TEST(ExportTable, SaysWhatIsWrongAndWhere) {
   const auto export_refusal = [](const Bytes& table) {
     return refusal([&] { exports(image_of({.exports = table})); });
   };
-  const std::string damaged = "the table of exports is damaged at byte ";
+  const std::string damaged = "the exports table is damaged at byte ";
   for (std::size_t size = 1; size < kTwoExports.size(); ++size)
     EXPECT_THAT(export_refusal(Bytes(kTwoExports.begin(), kTwoExports.begin() + size)),
                 HasSubstr(damaged))
         << size;
   EXPECT_EQ(export_refusal({0x00, 0x01, 'a', 0, 0x00}), damaged + "5: it has no end");
-  EXPECT_EQ(export_refusal({0x00, 0x01, 'a', 0, 0x05}), damaged + "5: it points outside of itself");
-  EXPECT_EQ(export_refusal({0x03, 0x08, 0x00, 0x00}), damaged + "2:  is no ordinary symbol");
+  EXPECT_EQ(export_refusal({0x00, 0x01, 'a', 0, 0x05}), damaged + "5: it points outside itself");
+  EXPECT_EQ(export_refusal({0x03, 0x08, 0x00, 0x00}), damaged + "2:  is not an ordinary symbol");
 }
 
 TEST(Tables, AreMissedWhereTheCommandIsNotThere) {

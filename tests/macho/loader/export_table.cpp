@@ -40,7 +40,7 @@ class Walk {
   void read_symbol(const std::string& name) {
     const std::uint64_t flags = stream_.number();
     if (flags != kOrdinary && flags != kWeakDefinition)
-      stream_.refuse(name + " is no ordinary symbol");
+      stream_.refuse(name + " is not an ordinary symbol");
     found_[name] = stream_.number();
   }
 

@@ -18,7 +18,7 @@ void check_sections(const Image& image) {
   for (const Section& each : image.sections()) {
     const std::uint32_t kind = each.flags & kKindOfSection;
     if (kind >= kFirstThreadLocal && kind <= kLastOfLaterSystems)
-      throw FormatError(each.name + " is of a kind that is not loaded here");
+      throw FormatError(each.name + " has a kind that is not loaded here");
     if (each.name.rfind("__objc_", 0) == 0)
       throw FormatError(each.name + " would have to be registered by the runtime");
   }
@@ -40,7 +40,7 @@ LoadedImage::LoadedImage(const Image& image, const FindSymbol& find)
       frames_(image, memory_) {
   check_sections(image);
   for (const auto& [name, address] : exports_)
-    if (!memory_.is_inside(address)) throw FormatError(name + " lies outside of the image");
+    if (!memory_.is_inside(address)) throw FormatError(name + " is outside the image");
   read_initialisers(image);
   rebase(image);
   bind(find);
@@ -72,20 +72,20 @@ std::uintptr_t LoadedImage::address_for(const Binding& binding, const FindSymbol
   if (binding.may_be_missing) return 0;
   throw FormatError("it needs " + binding.symbol + " of " +
                     (binding.library.empty() ? "any library" : binding.library) +
-                    ", which is not to be had");
+                    ", which is not available");
 }
 
 // The file holds addresses as they were linked, so they can be judged before anything is mapped.
 void LoadedImage::read_initialisers(const Image& image) {
   for (const Section& each : image.sections()) {
     if ((each.flags & kKindOfSection) != kInitialisers) continue;
-    if (each.size % kPointer != 0) throw FormatError(each.name + " is no list of pointers");
+    if (each.size % kPointer != 0) throw FormatError(each.name + " is not a list of pointers");
     bytes_at(image.bytes(), each.offset, each.size);
     for (std::uint64_t at = 0; at < each.size; at += kPointer) {
       const std::uint64_t address = little_64(image.bytes(), each.offset + at);
       if (!is_code(image, address))
         throw FormatError(each.name + " holds something at byte " + std::to_string(at) +
-                          " that is no code");
+                          " that is not code");
       initialisers_.push_back(address);
     }
   }

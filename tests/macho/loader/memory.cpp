@@ -15,14 +15,14 @@ constexpr std::uint32_t kEveryProtection = PROT_READ | PROT_WRITE | PROT_EXEC;
 
 void check(const Segment& segment) {
   const auto page = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
-  if (segment.address % page != 0) throw FormatError(segment.name + " does not begin with a page");
+  if (segment.address % page != 0) throw FormatError(segment.name + " does not start at a page");
   if (segment.memory_size > kMostMemory || segment.address > ~kMostMemory)
     throw FormatError(segment.name + " is too large");
   if (segment.size > segment.memory_size)
     throw FormatError(segment.name + " has more bytes in the file than in memory");
   if (segment.protection > kEveryProtection ||
       (segment.protection & kWritableCode) == kWritableCode)
-    throw FormatError(segment.name + " wants to be written and run");
+    throw FormatError(segment.name + " is both writable and executable");
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ Memory::Memory(const Image& image) {
     if (each.address < end_) throw FormatError(each.name + " overlaps another segment");
     end_ = each.address + each.memory_size;
   }
-  if (end_ - lowest_ > kMostMemory) throw FormatError("its segments lie too far apart");
+  if (end_ - lowest_ > kMostMemory) throw FormatError("its segments are too far apart");
   if (end_ == lowest_) throw FormatError("its segments are empty");
   map();
   for (const Segment& each : segments) {
@@ -54,7 +54,7 @@ Memory::~Memory() {
 void Memory::map() {
   void* room =
       mmap(nullptr, end_ - lowest_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-  if (room == MAP_FAILED) throw FormatError("there is no memory for it");
+  if (room == MAP_FAILED) throw FormatError("it cannot be mapped: out of memory");
   base_ = reinterpret_cast<std::uintptr_t>(room);
 }
 

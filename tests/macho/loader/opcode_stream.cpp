@@ -25,7 +25,7 @@ const char* name_of(Table table) {
     case Table::kExports:
       break;
   }
-  return "table of exports";
+  return "exports table";
 }
 
 }  // namespace
@@ -43,12 +43,12 @@ OpcodeStream::OpcodeStream(const Image& image, Table table) : image_(image), tab
 }
 
 void OpcodeStream::go_to(std::uint64_t offset) {
-  if (offset >= size()) refuse("it points outside of itself");
+  if (offset >= size()) refuse("it points outside itself");
   at_ = begin_ + offset;
 }
 
 std::uint8_t OpcodeStream::byte() {
-  if (is_at_end()) refuse("it ends in the middle of something");
+  if (is_at_end()) refuse("it is truncated");
   return image_.bytes()[at_++];
 }
 

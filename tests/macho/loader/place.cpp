@@ -19,10 +19,10 @@ void Place::set(const OpcodeStream& stream, std::uint64_t segment, std::uint64_t
 
 std::uint64_t Place::take(const OpcodeStream& stream) {
   if (!segment_) stream.refuse("no place was given");
-  if (left_-- == 0) stream.refuse("it speaks of too many places");
+  if (left_-- == 0) stream.refuse("it refers to too many places");
   const std::uint64_t size = segment_->memory_size;
   if (size < kPointer || offset_ > size - kPointer)
-    stream.refuse("the place lies outside of " + segment_->name);
+    stream.refuse("the place is outside " + segment_->name);
   if (!(segment_->protection & kWritable)) stream.refuse(segment_->name + " cannot be written");
   const std::uint64_t address = segment_->address + offset_;
   offset_ += kPointer;

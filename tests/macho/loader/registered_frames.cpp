@@ -25,7 +25,7 @@ RegisteredFrames::RegisteredFrames(const Image& image, const Memory& memory) {
   for (const FrameDescription& each : frames) {
     if (each.size == 0 || !memory.is_inside(each.address) ||
         !memory.is_inside(each.address + each.size - 1))
-      throw FormatError("the frame table speaks of code outside of the image");
+      throw FormatError("the frame table refers to code outside the image");
     const auto code = reinterpret_cast<std::uintptr_t>(memory.at(each.address));
     put_little_64(table, each.address_place, code - (start + each.address_place));
   }
