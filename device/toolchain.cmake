@@ -1,8 +1,8 @@
-# Debian's own clang and lld compile and link for the phone. Nothing of the vendor's development
-# kit is used: the C++ headers are the freestanding ones of the desktop's compiler, the libraries
-# to link against are described in stubs/.
+# Debian's clang and lld compile and link for the phone, without the vendor's development kit: the C++
+# headers are the freestanding ones of the desktop's compiler, and stubs/ describes the libraries to
+# link against.
 
-# Besides the phone's own processor, the desktop's: what is made for that one is run by tests.
+# Besides the phone's processor, the desktop's is supported: tests run the code for it.
 set(SONAVUE_PHONE_PROCESSOR arm64 CACHE STRING "arm64, or x86_64 for a simulated phone")
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SONAVUE_PHONE_PROCESSOR)
 set(target ${SONAVUE_PHONE_PROCESSOR}-apple-ios8.0)
@@ -18,7 +18,7 @@ set(CMAKE_C_COMPILER clang-16)
 set(CMAKE_CXX_COMPILER clang++-16)
 set(CMAKE_C_COMPILER_TARGET ${target})
 set(CMAKE_CXX_COMPILER_TARGET ${target})
-# A whole program cannot be linked before the stubs are in place.
+# Programs cannot be linked before the stubs are in place.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
 file(GLOB standard_headers /usr/include/c++/12 /usr/include/x86_64-linux-gnu/c++/12
@@ -28,8 +28,8 @@ foreach(folder IN LISTS standard_headers)
   string(APPEND CMAKE_CXX_FLAGS_INIT " -isystem ${folder}")
 endforeach()
 
-# The desktop reads only the long form of the unwind tables, which the linker leaves out for whatever
-# has the phone's compact form too.
+# The desktop reads only the long form of the unwind tables. The linker omits it for code that also
+# has the phone's compact form.
 if(NOT SONAVUE_PHONE_PROCESSOR STREQUAL arm64)
   find_program(SONAVUE_OBJCOPY llvm-objcopy-16 REQUIRED)
   set(CMAKE_CXX_COMPILE_OBJECT

@@ -34,8 +34,8 @@ class Reader {
 
   bool knows_stubs() const { return !stubs_.empty(); }
 
-  /// The calls between two addresses that send a message with something on the stack while there
-  /// was still a register for it: a method with many arguments fills those first.
+  /// Finds the calls between two addresses that send a message with an argument on the stack while
+  /// an argument register was still free: a method with many arguments fills the registers first.
   void check(std::uint64_t begin, std::uint64_t end, Findings& findings) const {
     for (std::uint64_t at = begin; at < end; at += kInstructionSize)
       if (instruction(at).uses_lowest()) return;

@@ -5,8 +5,8 @@
 
 namespace sonavue::device {
 
-/// No message is sent the way a variadic function is called: on the phone's processor its arguments
-/// would go over the stack, where the method does not look for them.
+/// Checks that no message is sent as a variadic call: on the phone's processor its arguments would
+/// be on the stack, where the method does not look for them.
 void check_calls(const Image& library, Findings& findings);
 
 }  // namespace sonavue::device

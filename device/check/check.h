@@ -5,7 +5,7 @@
 
 namespace sonavue::device {
 
-/// All that is wrong with a finished package. `source` is the project's folder.
+/// Returns everything that is wrong with a finished package. `source` is the project's folder.
 Findings check_package(const PackageFile& package, const std::filesystem::path& source);
 
 }  // namespace sonavue::device

@@ -11,7 +11,7 @@ namespace {
 
 using Fields = std::map<std::string, std::string>;
 
-/// A line that begins with a space goes on with the field before it.
+/// A line that starts with a space continues the previous field.
 Fields fields_of(const std::string& control) {
   Fields fields;
   std::string name;
@@ -30,7 +30,7 @@ Fields fields_of(const std::string& control) {
   return fields;
 }
 
-/// What both a web server and a list of packages take as it stands.
+/// Whether both a web server and a package list accept the text as an address without escaping.
 bool is_address(const std::string& text) {
   constexpr const char* kDigitsAndLetters =
       "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";

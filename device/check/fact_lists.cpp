@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Hands over each row of a list and has it refused with its line, when it is no good.
+/// Passes each row of a list to `take`. Adds the file and line to errors that it throws.
 template <class Take>
 void read_list(const fs::path& path, Take take) {
   std::ifstream lines(path);

@@ -7,11 +7,11 @@
 
 namespace sonavue::device {
 
-/// What the facts alone do not prove, listed by name.
+/// Messages that the facts alone do not prove, by name.
 struct FactLists {
-  /// Messages that the library asks for before it sends them, with the reason why.
+  /// Messages that the library checks for before it sends them, each with the reason.
   std::map<std::string, std::string> guarded;
-  /// Messages that no dump tells of for every system of the range.
+  /// Messages that the dumps do not cover for every system of the range.
   std::set<std::string> uncovered;
 };
 

@@ -9,14 +9,14 @@
 
 namespace sonavue::device {
 
-/// Does a system have it? A dump need not tell.
+/// Whether a system has a class or message. A dump may leave it open.
 enum class Presence : char { kYes = 'y', kNo = 'n', kUnknown = '?' };
 
-/// One sign a system, in the order of the systems.
+/// One value per system, in the order of the systems.
 using Presences = std::vector<Presence>;
 
 struct MessageFact {
-  /// As the runtime encodes them; empty where no system has the message.
+  /// The runtime's encoding; empty if no system has the message.
   std::string types;
   Presences presences;
 };
@@ -25,29 +25,30 @@ struct ClassFact {
   std::string superclass;
   std::string image;
   Presences presences;
-  /// By its name with the sign before it: "-setText:".
+  /// Keyed by the name with its sign: "-setText:".
   std::map<std::string, MessageFact> messages;
 
-  /// Does any dump have it?
+  /// Whether any dump has the class.
   bool is_covered() const;
 };
 
-/// What is known of the phone's systems.
+/// What is known about the phone's systems.
 struct Facts {
   std::vector<SystemVersion> systems;
   std::map<std::string, ClassFact> classes;
-  /// What the home screen or Settings has by itself, the two programs that the library comes into.
+  /// The images that the home screen or Settings has loaded by itself. The library is injected into
+  /// these two programs.
   std::vector<std::string> program_images;
 
   const ClassFact* class_named(const std::string& name) const;
   bool is_in_program(const std::string& image) const;
 };
 
-/// Throws FormatError, with the file and the line, for facts that are cut or contradict themselves.
+/// Throws FormatError, with the file and line, if the facts are truncated or contradict each other.
 Facts read_facts(const std::filesystem::path& folder);
 
-/// Whether a system has what `row` tells of, a class or one of its messages. Between two dumps that
-/// agree it is what they say, and before the first one that covers the class what that says.
+/// Whether a system has the class or message that `row` describes. Between two dumps that agree,
+/// the answer is theirs; before the first dump that covers the class, it is that dump's.
 Presence presence_on(std::size_t system, const Presences& row, const ClassFact& cls);
 
 }  // namespace sonavue::device

@@ -29,7 +29,7 @@ bool has(const Presences& presences, Presence presence) {
   return std::count(presences.begin(), presences.end(), presence) != 0;
 }
 
-/// Reads one file, which is about one image, into the facts.
+/// Reads one file into the facts. Each file describes one image.
 class Reader {
  public:
   Reader(const fs::path& path, Facts& facts) : path_(path), facts_(facts) {}

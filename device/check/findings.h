@@ -5,7 +5,7 @@
 
 namespace sonavue::device {
 
-/// What a package does that it should not, one line each.
+/// The violations of a package, one line each.
 using Findings = std::vector<std::string>;
 
 }  // namespace sonavue::device

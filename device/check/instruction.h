@@ -4,17 +4,17 @@
 
 namespace sonavue::device {
 
-/// The few things that have to be known of an instruction of the phone's processor.
+/// The few properties of an instruction of the phone's processor that the checks need.
 class Instruction {
  public:
   explicit Instruction(std::uint32_t code) : code_(code) {}
 
-  /// Writes to the lowest place of the stack, where arguments beyond the registers go.
+  /// Whether it writes to the lowest stack slot, where arguments go when the registers are full.
   bool stores_lowest() const { return touches_lowest() && !loads(); }
-  /// Reads that place, or takes its address: then it is a variable.
+  /// Whether it reads that slot or takes its address; then the slot is a variable.
   bool uses_lowest() const { return (touches_lowest() && loads()) || takes_stack_address(); }
 
-  /// Fills the last of the registers for arguments, whole numbers' or fractions'.
+  /// Whether it writes to the last argument register, integer or floating-point.
   bool fills_last_register() const {
     if (is_branch() || (code_ & kLastRegisterMask) != kLastRegister) return false;
     return !is_load_or_store() || loads();
@@ -22,7 +22,7 @@ class Instruction {
 
   bool is_call() const { return is_direct_call() || (code_ & 0xfffffc1f) == 0xd63f0000; }
   bool is_direct_call() const { return code_ >> 26 == 0x25; }
-  /// Of a direct call at `address`: where it leads.
+  /// The target of a direct call at `address`.
   std::uint64_t target(std::uint64_t address) const {
     const auto words = static_cast<std::int32_t>(code_ << 6) >> 6;
     return address + static_cast<std::uint64_t>(static_cast<std::int64_t>(words) * 4);

@@ -107,7 +107,7 @@ void check_fields(const PackageFile& package, Findings& findings) {
   check_control_fields(text.substr(1), findings);
 }
 
-/// The processes that the library is loaded into.
+/// Checks the filter, which names the processes that load the library.
 void check_filter(const PackageFile& package, Findings& findings) {
   const PackagedFile* file = package.data_file(kFilterPath);
   if (!file) return;

@@ -10,11 +10,11 @@ inline constexpr const char* kLibraryPath =
 inline constexpr const char* kBundlePath =
     "Library/PreferenceBundles/SonavueSettings.bundle/SonavueSettings";
 
-/// What the control file and README say of the phones that the library is for.
+/// The processors that the control file and README name for the library.
 inline constexpr const char* kProcessors = "arm64, without pointer authentication";
 
-/// Which files there are, whose they are, what the control file says, how all is compressed.
-/// `source` is the project's folder: its drawings say which pictures there have to be.
+/// Checks the package's files and their owners, the control file, and the compression. `source` is
+/// the project's folder; its drawings determine the expected pictures.
 void check_layout(const PackageFile& package, const std::filesystem::path& source,
                   Findings& findings);
 

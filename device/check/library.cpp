@@ -25,7 +25,7 @@ void check_initialisers(const Image& library, Findings& findings) {
     findings.push_back("library: has initialisers other than the settings' and the extension's");
     return;
   }
-  // The settings' objects are linked first, so theirs lies before the extension's.
+  // The settings' objects are linked first, so their load function precedes the extension's.
   const std::uint64_t settings = little_64(library.bytes(), pointers->offset);
   const std::uint64_t extension = little_64(library.bytes(), pointers->offset + kPointer);
   if (!is_load_function(library, settings) || !is_load_function(library, extension))

@@ -5,13 +5,14 @@
 
 namespace sonavue::device {
 
-/// What every library and bundle of the package has to be for the oldest system: its load commands.
+/// Checks that the load commands of a library or bundle work on the oldest supported system.
 void check_load_commands(const std::string& path, const Image& image, Findings& findings);
 
-/// The library's own name and its initialisers: the settings' classes first, then the extension's.
+/// Checks the library's install name and its initialisers: first the settings', then the
+/// extension's.
 void check_library(const Image& library, Findings& findings);
 
-/// The settings bundle is code of none: it brings the library in.
+/// Checks the settings bundle, which contains no code and only loads the library.
 void check_bundle(const Image& bundle, Findings& findings);
 
 }  // namespace sonavue::device

@@ -5,7 +5,7 @@
 
 namespace sonavue::device {
 
-/// Every symbol that the library needs is in the linker stubs, and every one there is needed.
+/// Checks that the linker stubs contain exactly the symbols that the library and the bundle need.
 /// `source` is the project's folder.
 void check_symbols(const Image& library, const Image& bundle, const std::filesystem::path& source,
                    Findings& findings);

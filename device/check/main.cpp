@@ -4,8 +4,8 @@
 
 #include "device/check/check.h"
 
-// sonavue_check SOURCE PACKAGE says what is wrong with a package of the phone's, a line each. It
-// ends with 0 when nothing is, with 1 when something is, with 2 when that could not be found out.
+// sonavue_check SOURCE PACKAGE prints what is wrong with a package for the phone, one line each.
+// The exit status is 0 if nothing is wrong, 1 if something is, and 2 if the check itself failed.
 
 int main(int count, char** arguments) {
   constexpr int kCannotTell = 2;

@@ -7,7 +7,7 @@
 namespace sonavue::device {
 namespace {
 
-/// A text as a template argument is spelled letter by letter: `Lc115E` is an s.
+/// Decodes a string template argument, which is mangled letter by letter: `Lc115E` is an s.
 std::string spelled_in(const std::string& symbol) {
   static const std::regex letter("Lc([0-9]+)E");
   std::string name;

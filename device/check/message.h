@@ -7,10 +7,10 @@
 
 namespace sonavue::device {
 
-/// A message as a binding or a replacement names it.
+/// A message as named by a binding or a replacement.
 struct Message {
   std::string cls;
-  /// With the sign before it: "-setText:".
+  /// With its sign: "-setText:".
   std::string selector;
   std::string types;
 
@@ -19,10 +19,12 @@ struct Message {
   bool operator<(const Message& other) const { return name() < other.name(); }
 };
 
-/// Reads "-[UILabel setText:] v@:@"; the types may be missing. Throws FormatError.
+/// Parses "-[UILabel setText:] v@:@". The types may be missing. Throws FormatError if it is
+/// invalid.
 Message message_in(const std::string& text);
 
-/// What the variables of one template are for stands in their symbols: the texts after `prefix`.
+/// The string template arguments of the library's symbols that start with `prefix`, the mangled
+/// name of a variable template.
 std::set<std::string> texts_of_symbols(const Image& library, const std::string& prefix);
 
 }  // namespace sonavue::device

@@ -24,7 +24,7 @@ Bytes content_of(archive* from) {
   }
 }
 
-/// `./a/b/` and `a/b` are one path.
+/// Normalises a path: `./a/b/` becomes `a/b`.
 std::string plain_path(std::string path) {
   if (path.rfind("./", 0) == 0) path.erase(0, 2);
   while (!path.empty() && path.back() == '/')

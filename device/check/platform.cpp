@@ -25,7 +25,7 @@ struct Found {
   const MessageFact* fact = nullptr;
 };
 
-/// What the facts say of a message, of its class or of one that this inherits from.
+/// Looks a message up in the facts, in its class and then in the superclasses.
 Found find_fact(const Facts& facts, const Message& message) {
   const ClassFact* cls = facts.class_named(message.cls);
   for (; cls; cls = facts.class_named(cls->superclass)) {
@@ -35,7 +35,7 @@ Found find_fact(const Facts& facts, const Message& message) {
   return {};
 }
 
-/// No where one of the systems is known to lack it, unknown where nothing is known of one.
+/// kNo if any of the systems lacks it, otherwise kUnknown if nothing is known about any of them.
 Presence presence_in(const Systems& systems, const Presences& row, const ClassFact& cls) {
   Presence worst = Presence::kYes;
   for (const std::size_t system : systems) {
@@ -99,7 +99,7 @@ class PlatformCheck {
     find("library: {} is in {}, which is neither linked nor loaded", name, cls.image);
   }
 
-  /// The names of classes that are given to the runtime as texts.
+  /// Checks the classes whose names are passed to the runtime as strings.
   void check_texts() {
     for (const auto& [name, cls] : known_.facts.classes)
       if (use_.classes.count(name) == 0 && use_.has_text(name)) check_image(name, cls);
@@ -126,7 +126,7 @@ class PlatformCheck {
       find("library: {} is in no dump, and not listed as uncovered", name);
   }
 
-  /// Some class has to be known to have it; the types cannot be told.
+  /// Some known class must have the selector. Its types are unknown.
   void check_selector(const std::string& selector) {
     if (is_sent(selector) || is_proven(selector)) return;
     bool is_listed = false;
@@ -216,7 +216,7 @@ SystemRange proven_range(const PlatformUse& use, const Knowledge& known) {
   while (end < systems.size() && is_proven_on(end, use, known))
     ++end;
   if (end == 0) return {systems.front(), systems.front()};
-  // A dump speaks for what comes after it as far as the next one, or the next major version.
+  // A dump is valid for later systems until the next dump or the next major version.
   const SystemVersion next_major = {systems[end - 1].major + 1, 0};
   if (end == systems.size()) return {systems.front(), next_major};
   return {systems.front(), std::min(next_major, systems[end])};

@@ -8,27 +8,27 @@
 
 namespace sonavue::device {
 
-/// What the systems are known to be, and what is the library's own.
+/// What is known about the systems, and the library's own names.
 struct Knowledge {
   Facts facts;
   FactLists lists;
-  /// Classes and selectors of the library's own.
+  /// The library's own classes and selectors.
   std::set<std::string> own;
 };
 
-/// Throws FormatError for facts that cannot be believed. `source` is the project's folder.
+/// Throws FormatError if the facts are inconsistent. `source` is the project's folder.
 Knowledge read_knowledge(const std::filesystem::path& source);
 
-/// What a message is known to be otherwise than it is named, or nothing: a class that the facts
-/// cover has it on some system, with these types.
+/// Describes how the facts contradict a message. Empty if they do not: either they do not cover the
+/// class, or some system has the message with these types.
 std::string contradiction(const Knowledge& known, const Message& message);
 
-/// Every system of the range has what the library uses: its classes, in a process that has their
-/// framework, and its messages. What the facts do not prove stands in the lists, and nothing else.
+/// Checks that every system of the range has what the library uses: the classes, in a process with
+/// their framework, and the messages. The lists must contain exactly what the facts do not prove.
 void check_platform(const PlatformUse& use, const Knowledge& known, const SystemRange& range,
                     Findings& findings);
 
-/// The systems on which the facts prove that; both ends are alike where there are none.
+/// The systems for which the facts prove that. If there are none, both ends are equal.
 SystemRange proven_range(const PlatformUse& use, const Knowledge& known);
 
 }  // namespace sonavue::device

@@ -6,7 +6,8 @@
 namespace sonavue::device {
 namespace {
 
-/// What lies before a text may be any number: only what could be of the same name makes it longer.
+/// Whether `c` can be part of a name. The byte before a string may be unrelated binary data; only a
+/// name character means that the string is the end of a longer one.
 bool is_of_name(char c) {
   return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '/' || c == '.' ||
          c == '-' || c == ' ';
@@ -44,7 +45,8 @@ class Reader {
       if (std::regex_match(text, selector)) use_.selectors.insert(text);
   }
 
-  /// The constants beside the code: template arguments lie there and not among the C strings.
+  /// Also reads the constants next to the code: template arguments are there and not among the C
+  /// strings.
   void add_texts() {
     for (const Section& each : library_.sections()) {
       if (each.segment != "__TEXT" || (each.name != "__cstring" && each.name != "__const"))

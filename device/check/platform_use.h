@@ -4,20 +4,21 @@
 
 namespace sonavue::device {
 
-/// What a library uses of the platform, read from its symbols and texts.
+/// What a library uses of the platform, from its symbols and strings.
 struct PlatformUse {
-  /// Classes that are looked up by name.
+  /// Classes that it looks up by name.
   std::set<std::string> classes;
-  /// Messages that are sent by a binding, and methods that one of the library's takes the place of.
+  /// Messages that bindings send, and methods that the library replaces.
   std::set<Message> messages;
-  /// The names of the messages that the library asks for before it sends them.
+  /// The names of the messages that the library checks for before it sends them.
   std::set<std::string> asked;
-  /// Selectors of which nothing tells the class: "setText:". What is implemented for others to call
-  /// is among them, when it has an argument; any other looks like a word.
+  /// Selectors whose class is unknown: "setText:". Methods that the library implements for other
+  /// code to call are included only if they take an argument; a selector without one looks like any
+  /// other word.
   std::set<std::string> selectors;
-  /// The caches of the bridge of which no symbol is there to tell anything.
+  /// The bridge's caches for which the library has no symbols.
   std::vector<std::string> silent;
-  /// All its texts, ended by zeros.
+  /// All its strings, zero-terminated.
   std::string texts;
   /// The libraries that it is linked to.
   std::set<std::string> linked;

@@ -7,8 +7,8 @@
 
 namespace sonavue::device {
 
-/// README's table names the phones and the systems that the control file promises. `source` is the
-/// project's folder.
+/// Checks that README's table names the phones and systems that the control file promises. `source`
+/// is the project's folder.
 void check_readme(const std::filesystem::path& source, const SystemRange& range,
                   Findings& findings);
 

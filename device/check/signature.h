@@ -5,8 +5,8 @@
 
 namespace sonavue::device {
 
-/// The signature of a library under `identifier`: its directories, in their order, and each page's
-/// hash. Reads the file by itself and shares nothing with what signs.
+/// Checks a library's signature for `identifier`: its directories, their order, and the hash of
+/// each page. The parsing is independent of the code that signs.
 void check_signature(const std::string& path, const Image& image, const std::string& identifier,
                      Findings& findings);
 

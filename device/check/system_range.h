@@ -4,7 +4,7 @@
 
 namespace sonavue::device {
 
-/// The systems from one on, up to and without another.
+/// A range of systems: from `from`, up to but not including `to`.
 struct SystemRange {
   SystemVersion from;
   SystemVersion to;
@@ -15,8 +15,8 @@ struct SystemRange {
   std::string text() const;
 };
 
-/// What the relations to `firmware` in a control file promise. Throws FormatError where one end of
-/// the range is open.
+/// The range that the relations to `firmware` in a control file promise. Throws FormatError if
+/// either end is missing.
 SystemRange promised_range(const std::string& control);
 
 }  // namespace sonavue::device

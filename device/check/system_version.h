@@ -5,7 +5,7 @@
 
 namespace sonavue::device {
 
-/// The version of a system, as 8.4 is written.
+/// A system version, such as 8.4.
 struct SystemVersion {
   int major = 0;
   int minor = 0;
@@ -14,7 +14,7 @@ struct SystemVersion {
   std::string text() const { return std::to_string(major) + "." + std::to_string(minor); }
 };
 
-/// Throws FormatError for everything that is not two numbers with a point between them.
+/// Parses two numbers separated by a point. Throws FormatError for any other text.
 SystemVersion system_version(const std::string& text);
 
 }  // namespace sonavue::device

@@ -18,18 +18,18 @@ constexpr int kBitsOfDistance = 24;
 constexpr std::uint32_t kDistanceMask = (1u << kBitsOfDistance) - 1;
 constexpr std::uint32_t kModeMask = 0x0f000000;
 
-/// How the callers of the code from `address` on are found, up to the next such place.
+/// How to find the caller of code from `address` up to the next encoding's address.
 struct Encoding {
   std::uint64_t address;
   std::uint32_t code;
 };
 
-/// The mode that leaves it to `__eh_frame`; the rest of the number says where in there.
+/// The mode that refers to `__eh_frame`; the rest of the number is the offset in that section.
 std::uint32_t described_mode(const Image& image) {
   return image.processor() == kArm64 ? 0x03000000 : 0x04000000;
 }
 
-/// Reads `__unwind_info`: an index of pages, whose entries are plain or packed.
+/// Reads `__unwind_info`: an index of pages, whose entries are plain or compressed.
 class CompactTable {
  public:
   CompactTable(const Image& image, const Section& table)
@@ -40,7 +40,7 @@ class CompactTable {
   std::vector<Encoding> read() {
     const std::uint32_t index = number(5 * kNumber);
     const std::uint32_t count = number(6 * kNumber);
-    // The last entry only says where the code ends.
+    // The last entry only marks the end of the code.
     for (std::uint32_t i = 0; i < count; ++i) {
       const std::size_t entry = index + i * kIndexEntrySize;
       const std::uint64_t address = base_ + number(entry);
@@ -74,7 +74,7 @@ class CompactTable {
     }
   }
 
-  /// Frequent encodings stand once for all pages, the others once for each.
+  /// Frequent encodings are shared by all pages; each page has its own table for the others.
   std::uint32_t packed_code(std::size_t page, std::uint32_t which) const {
     const std::uint32_t common = number(kNumber);
     const std::uint32_t count = number(2 * kNumber);
@@ -100,7 +100,7 @@ class Coverage {
       throw FormatError("the encodings are out of order");
   }
 
-  /// Of one function: each piece of it has an encoding that leads somewhere.
+  /// Whether every piece of a function has an encoding with which its caller can be found.
   bool covers(std::uint64_t begin, std::uint64_t end) const {
     auto next = std::upper_bound(encodings_.begin(), encodings_.end(), Encoding{begin, 0}, before);
     if (next == encodings_.begin()) return false;

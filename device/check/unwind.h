@@ -5,8 +5,8 @@
 
 namespace sonavue::device {
 
-/// An exception that the system raises below the code of `image` finds its way to a handler above
-/// it: for each function the unwind tables say where its caller is.
+/// Checks that an exception that the system raises below the code of `image` can reach a handler
+/// above it: the unwind tables describe how to find the caller of every function.
 void check_unwinding(const std::string& path, const Image& image, Findings& findings);
 
 }  // namespace sonavue::device

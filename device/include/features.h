@@ -1,5 +1,5 @@
 #pragma once
 
-// The compiler's C++ headers ask for the features of the desktop's C library before anything else.
-// The phone's library is another one, which has none of them.
+// The compiler's C++ headers first test for features of the desktop's C library. The phone has a
+// different C library with none of them.
 #define __GLIBC_PREREQ(major, minor) 0

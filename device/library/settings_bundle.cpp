@@ -1,2 +1,2 @@
-// The settings application loads a bundle's executable before it looks for the class of the first
-// page. That class is made by the library, so all that this has to do is to depend on it.
+// The settings application loads a bundle's executable before it looks up the class of the first
+// page. The library makes that class, so this executable only has to depend on the library.

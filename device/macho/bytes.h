@@ -10,19 +10,19 @@ namespace sonavue::device {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// Something that was read is not what it has to be; the text says what, for people.
+/// Thrown if input has the wrong format. The text describes the problem for users.
 class FormatError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// The whole of a file.
+/// Reads a whole file. Throws FormatError if it cannot be read.
 Bytes read_file(const std::filesystem::path& path);
 
-/// Puts a file in the place of what was there in one step: a failure leaves that untouched.
+/// Writes a file atomically: on failure an existing file is unchanged. Throws FormatError.
 void write_file(const std::filesystem::path& path, const Bytes& bytes);
 
-/// `count` bytes from `offset` on; whatever lies outside of `bytes` is a FormatError.
+/// `count` bytes from `offset`. Throws FormatError if they are not inside `bytes`.
 const std::uint8_t* bytes_at(const Bytes& bytes, std::size_t offset, std::size_t count);
 
 std::uint16_t little_16(const Bytes& bytes, std::size_t offset);
@@ -33,7 +33,7 @@ void put_little_32(Bytes& bytes, std::size_t offset, std::uint32_t value);
 void put_little_64(Bytes& bytes, std::size_t offset, std::uint64_t value);
 void append_big_32(Bytes& bytes, std::uint32_t value);
 
-/// The text that begins at `offset` and ends with a zero before `end`.
+/// The string that starts at `offset` and is terminated by a zero before `end`.
 std::string text_at(const Bytes& bytes, std::size_t offset, std::size_t end);
 
 }  // namespace sonavue::device

@@ -52,7 +52,8 @@ class Reader {
     return {at, place, table_.address + place + distance, little_64(bytes_, place + kAddress)};
   }
 
-  /// What several descriptions share has to be of the one shape that is read here.
+  /// Checks that a common entry, which several descriptions share, has the one format that is
+  /// supported here.
   void check_common(std::size_t at) const {
     std::size_t next = at + 2 * kNumber;
     if (*bytes_at(bytes_, next, 1) != kVersion) refuse(at, "has an unknown version");
@@ -60,7 +61,7 @@ class Reader {
     if (!std::equal(kAugmentation.begin(), kAugmentation.end(), name))
       refuse(at, "has an unsupported augmentation");
     next += kAugmentation.size();
-    // Two alignments, the register of the return address, and the length of what is left.
+    // Skip two alignments, the return address register, and the length of the rest.
     for (int i = 0; i < 4; ++i)
       next = behind_number(next);
     if (*bytes_at(bytes_, next, 1) != kCountedFromItsPlace)

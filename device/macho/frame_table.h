@@ -4,19 +4,19 @@
 
 namespace sonavue::device {
 
-/// What `__eh_frame` says of one piece of code: how its callers are found from within it.
+/// An entry of `__eh_frame`: how to find the caller from within one piece of code.
 struct FrameDescription {
   std::size_t offset;         // of the description in the section
-  std::size_t address_place;  // in the section: where the code's address stands, counted from there
+  std::size_t address_place;  // in the section, of the code's address, which is relative to it
   std::uint64_t address;
   std::uint64_t size;
 };
 
-/// All of them, in the section's order; none where there is no such section. Throws FormatError for
-/// a table that is damaged or of a kind that code without handlers of its own does not have.
+/// All descriptions, in the section's order; empty if there is no such section. Throws FormatError
+/// if the table is damaged or has entries that code without exception handlers does not have.
 std::vector<FrameDescription> frame_descriptions(const Image& image);
 
-/// Where the table lies; null where the image has none.
+/// The table's section; null if the image has none.
 const Section* frame_table(const Image& image);
 
 }  // namespace sonavue::device

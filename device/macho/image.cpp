@@ -142,7 +142,7 @@ std::vector<Symbol> Image::symbols() const {
   return read;
 }
 
-// A list of distances, seven bits a byte.
+// A list of distances, with seven bits per byte.
 std::vector<std::uint64_t> Image::function_starts() const {
   std::vector<std::uint64_t> starts;
   const LoadCommand* list = command(kFunctionStarts);

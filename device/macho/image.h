@@ -6,7 +6,7 @@
 
 namespace sonavue::device {
 
-/// The load commands that are named here; what the numbers stand for is the file format's.
+/// The load commands that are used here, with their numbers in the file format.
 enum Command : std::uint32_t {
   kSymbolTable = 0x2,
   kDynamicSymbolTable = 0xb,
@@ -42,7 +42,7 @@ struct Section {
   std::uint64_t size;
   std::uint32_t offset;
   std::uint32_t flags;
-  /// Of a section of stubs: its first place in the table of indirect symbols, and a stub's size.
+  /// For a section of stubs: its first index in the indirect symbol table, and the size of a stub.
   std::uint32_t first_indirect;
   std::uint32_t stub_size;
 };
@@ -66,10 +66,10 @@ struct Symbol {
   bool is_external() const;
 };
 
-/// A library or bundle of the phone for one processor, with its tables read.
+/// A library or bundle for the phone and one processor, with its tables parsed.
 class Image {
  public:
-  /// Throws FormatError for everything else.
+  /// Throws FormatError for any other file.
   explicit Image(Bytes bytes, Processor processor = kArm64);
 
   const Bytes& bytes() const { return bytes_; }
@@ -88,9 +88,9 @@ class Image {
   std::string own_name() const;
   std::vector<std::string> libraries() const;
   std::vector<Symbol> symbols() const;
-  /// The addresses at which functions begin.
+  /// The start addresses of the functions.
   std::vector<std::uint64_t> function_starts() const;
-  /// The texts of a section of C strings.
+  /// The strings in the section of C strings.
   std::vector<std::string> strings() const;
 
  private:
@@ -104,7 +104,7 @@ class Image {
   std::vector<Section> sections_;
 };
 
-/// Where things lie in the format's structures.
+/// Sizes and offsets of the format's structures.
 inline constexpr std::size_t kHeaderSize = 32;
 inline constexpr std::size_t kCommandCountOffset = 16;
 inline constexpr std::size_t kCommandBytesOffset = 20;

@@ -1,4 +1,4 @@
-# Turns the changelog into the page's marks: a version's heading, and a list of what came with it.
+# Converts the changelog to the page's HTML: a heading for each version, and a list of its changes.
 
 function close_item() {
   if (item != "") print "    <li>" item "</li>"

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
-// sonavue_exchange ONE OTHER lets two folders of one file system change their names in one step.
+// sonavue_exchange ONE OTHER atomically exchanges the names of two folders on one file system.
 
 int main(int count, char** arguments) {
   constexpr int kWrongUse = 2;

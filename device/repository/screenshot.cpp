@@ -4,7 +4,8 @@
 #include <cstdlib>
 #include <memory>
 
-// sonavue_screenshot PICTURE WIDTH OUTPUT writes a picture as a JPEG file of so many pixels' width.
+// sonavue_screenshot PICTURE WIDTH OUTPUT writes a picture as a JPEG file that is WIDTH pixels
+// wide.
 
 namespace {
 

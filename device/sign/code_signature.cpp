@@ -11,7 +11,7 @@ namespace {
 constexpr std::uint32_t kDirectoryVersion = 0x20100;
 constexpr std::size_t kDirectoryHeader = 48;
 constexpr std::uint8_t kPageSizeLog2 = 12;
-// The Info list's, which a library does not have, and the requirements'.
+// The hash of the Info property list, which a library does not have, and that of the requirements.
 constexpr std::uint32_t kSpecialHashes = 2;
 constexpr std::size_t kSignatureCommandSize = 16;
 constexpr std::size_t kSignatureAlignment = 16;
@@ -97,7 +97,7 @@ Bytes super_blob(const Bytes& code, const std::string& name) {
   return whole;
 }
 
-/// Where the first bytes of a section or segment begin: load commands may grow up to there.
+/// The offset of the first section's or segment's bytes. Load commands may grow up to there.
 std::size_t room_for_commands(const Image& library) {
   std::size_t first = library.bytes().size();
   for (const Section& section : library.sections())

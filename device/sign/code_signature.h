@@ -4,7 +4,7 @@
 
 namespace sonavue::device {
 
-/// Numbers of the signature's format; all of its numbers are stored with the big end first.
+/// Numbers of the signature's format, which is big-endian.
 inline constexpr std::uint32_t kSuperBlobMagic = 0xfade0cc0;
 inline constexpr std::uint32_t kCodeDirectoryMagic = 0xfade0c02;
 inline constexpr std::uint32_t kRequirementsMagic = 0xfade0c01;
@@ -14,10 +14,10 @@ inline constexpr std::uint32_t kAlternateSlot = 0x1000;
 inline constexpr std::uint32_t kAdHoc = 0x2;
 inline constexpr std::size_t kPageSize = 4096;
 
-/// The same library with an ad-hoc signature: nobody vouches for it, but every page has its hash. A
-/// directory of SHA-1 hashes comes first, since older systems know no others, one of SHA-256
-/// second. The same bytes and name give the same signature. Throws FormatError where that cannot
-/// be.
+/// Returns the library with an ad-hoc signature: it has no signer, but a hash for every page. A
+/// directory of SHA-1 hashes comes first, since older systems know no others, followed by one of
+/// SHA-256 hashes. The same bytes and identifier give the same signature. Throws FormatError if the
+/// library cannot be signed.
 Bytes signed_library(const Image& library, const std::string& identifier);
 
 }  // namespace sonavue::device

@@ -4,7 +4,7 @@
 
 namespace sonavue::device {
 
-/// A way of hashing, as the signature's format numbers them.
+/// A hash algorithm, with its number in the signature's format.
 struct DigestKind {
   std::uint8_t number;
   std::uint8_t size;

@@ -4,7 +4,7 @@
 
 #include "device/sign/code_signature.h"
 
-// sonavue_sign IDENTIFIER LIBRARY OUTPUT signs a library of the phone's.
+// sonavue_sign IDENTIFIER LIBRARY OUTPUT signs a library for the phone.
 
 int main(int count, char** arguments) {
   constexpr int kWrongUse = 2;
