@@ -7,7 +7,7 @@
 
 namespace sonavue::device {
 
-/// Writes the structures of the phone's file format one behind the other.
+/// Writes structures of the phone's file format one after the other.
 class ByteWriter {
  public:
   static constexpr std::size_t kNameSize = 16;

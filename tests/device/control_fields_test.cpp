@@ -22,13 +22,13 @@ Findings findings_with_page(const std::string& page) {
       page));
 }
 
-TEST(ControlFields, AddressesOfTheWebAreTaken) {
+TEST(ControlFields, WebAddressesAreAccepted) {
   for (const char* page : {"http://a.example/index.html", "https://a.example:8080/~b/c_d-e/%20/",
                            "http://192.168.1.2/", "https://a"})
     EXPECT_THAT(findings_with_page(page), IsEmpty()) << page;
 }
 
-TEST(ControlFields, WhatIsNoAddressIsRefused) {
+TEST(ControlFields, InvalidAddressesAreRejected) {
   for (const char* page : {"", "a.example/index.html", "ftp://a.example/", "file:///a", "https://",
                            "http:///index.html", "https:/a.example", "https://a.example/a b",
                            "https://a.example/\tb", "https://a.example/\r", "https://a.example/\"",
@@ -37,7 +37,7 @@ TEST(ControlFields, WhatIsNoAddressIsRefused) {
                 ElementsAre(fmt::format("control: Depiction is not a valid address: `{}`", page)));
 }
 
-TEST(ControlFields, ABrokenLineIsNoAddress) {
+TEST(ControlFields, AnAddressWithALineBreakIsInvalid) {
   EXPECT_THAT(findings_with_page("https://a.example/\n b"),
               ElementsAre("control: Depiction is not a valid address: `https://a.example/\n b`"));
   EXPECT_THAT(findings_with_page("https://a.example/\nPre-Depends: b"),

@@ -7,7 +7,7 @@
 
 namespace sonavue::device {
 
-/// A folder of facts that a test writes.
+/// A temporary folder of facts, written by a test.
 class FactsFolder {
  public:
   FactsFolder() {

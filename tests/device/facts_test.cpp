@@ -14,7 +14,7 @@ using testing::EndsWith;
 
 class FactFiles : public testing::Test {
  protected:
-  /// Why facts with these rows after the systems and the image are refused, with file and line.
+  /// The error, with file and line, for facts with these rows after the systems and the image.
   std::string refusal_of(const std::string& rows) {
     return refusal("systems 8.0 8.2 8.4\nimage /one\n" + rows);
   }
@@ -66,7 +66,7 @@ end 4
   EXPECT_EQ(base.messages.at("-invented").presences[2], Presence::kNo);
 }
 
-TEST_F(FactFiles, CutOnesAreRefused) {
+TEST_F(FactFiles, TruncatedFilesAreRejected) {
   EXPECT_THAT(refusal_of("class A - yyy\n"),
               EndsWith("one.facts:3: it is truncated: it has no end row"));
   EXPECT_THAT(refusal_of("class A - yyy\nend 2\n"),
@@ -77,7 +77,7 @@ TEST_F(FactFiles, CutOnesAreRefused) {
               EndsWith("one.facts:4: 2 columns instead of 3"));
 }
 
-TEST_F(FactFiles, WhatContradictsItselfIsRefused) {
+TEST_F(FactFiles, ContradictoryFilesAreRejected) {
   EXPECT_THAT(refusal_of("class A - yyy\n  -b v@: yyy\n  -b @@: yyy\nend 3\n"),
               EndsWith("one.facts:5: -b is listed twice"));
   EXPECT_THAT(refusal_of("class A - yyy\nclass A - yyy\nend 2\n"),
@@ -92,7 +92,7 @@ TEST_F(FactFiles, WhatContradictsItselfIsRefused) {
               EndsWith("one.facts:4: -b has types without a system, or the reverse"));
 }
 
-TEST_F(FactFiles, WhatIsNoRowIsRefused) {
+TEST_F(FactFiles, InvalidRowsAreRejected) {
   EXPECT_THAT(refusal_of("clas A - yyy\n"), EndsWith("one.facts:3: 'clas' is not a kind of row"));
   EXPECT_THAT(refusal_of("class A - yy\n"), EndsWith("one.facts:3: 2 signs for 3 systems"));
   EXPECT_THAT(refusal_of("class A - yyx\n"),
@@ -108,7 +108,7 @@ TEST_F(FactFiles, WhatIsNoRowIsRefused) {
               EndsWith("one.facts:2: a class before the systems and the image"));
 }
 
-TEST_F(FactFiles, SystemsAreKnownOnes) {
+TEST_F(FactFiles, InvalidSystemsAreRejected) {
   EXPECT_THAT(refusal("systems 8.0 later\n"),
               EndsWith("one.facts:1: 'later' is not a system version"));
   EXPECT_THAT(refusal("systems 8.4 8.0\n"), EndsWith("one.facts:1: the systems are out of order"));
@@ -119,12 +119,12 @@ TEST_F(FactFiles, SystemsAreKnownOnes) {
               EndsWith("one.facts:1: different systems than in the previous files"));
 }
 
-TEST_F(FactFiles, AFolderWithoutFactsIsRefused) {
+TEST_F(FactFiles, AFolderWithoutFactsIsRejected) {
   EXPECT_THROW(read_facts(folder_.path()), FormatError);
   EXPECT_THROW(read_facts(folder_.path() / "nowhere"), FormatError);
 }
 
-TEST_F(FactFiles, ListsAreNamesOfMessages) {
+TEST_F(FactFiles, ListsContainNamesOfMessages) {
   folder_.write("guarded", "# Why.\n-[A b:]: asked first\n");
   folder_.write("uncovered", "+[A c]\n\n");
   const FactLists lists = read_fact_lists(folder_.path());
@@ -132,7 +132,7 @@ TEST_F(FactFiles, ListsAreNamesOfMessages) {
   EXPECT_EQ(lists.uncovered.count("+[A c]"), 1u);
 }
 
-TEST_F(FactFiles, ARowOfAListThatIsNoneIsRefused) {
+TEST_F(FactFiles, AnInvalidRowOfAListIsRejected) {
   EXPECT_THAT(list_refusal("uncovered", "A c\n"), EndsWith("uncovered:1: 'A c' is not a message"));
   EXPECT_THAT(list_refusal("uncovered", "+[A c]\n+[A c]\n"),
               EndsWith("uncovered:2: '+[A c]' is listed twice"));
@@ -140,7 +140,8 @@ TEST_F(FactFiles, ARowOfAListThatIsNoneIsRefused) {
   EXPECT_THAT(list_refusal("guarded", "-[A b]\n"), EndsWith("guarded:1: '-[A b]' gives no reason"));
 }
 
-/// What is told of a system by one row, while the class's own row says which dumps cover it.
+/// The presence on a system according to `row`. `cls` is the row of the class, which says which
+/// dumps cover it.
 Presence presence(std::size_t system, const char* cls, const char* row) {
   const auto presences = [](const std::string& signs) {
     Presences each;
@@ -157,14 +158,14 @@ TEST(Presence, IsWhatTheDumpSays) {
   EXPECT_EQ(presence(1, "yyy", "yny"), Presence::kNo);
 }
 
-TEST(Presence, BetweenTwoDumpsThatAgreeIsWhatTheySay) {
+TEST(Presence, BetweenTwoDumpsThatAgreeIsTheirs) {
   EXPECT_EQ(presence(1, "y?y", "y?y"), Presence::kYes);
   EXPECT_EQ(presence(1, "y?y", "n?n"), Presence::kNo);
   EXPECT_EQ(presence(1, "y?y", "y?n"), Presence::kUnknown);
   EXPECT_EQ(presence(2, "y???y", "y???y"), Presence::kYes);
 }
 
-TEST(Presence, BeforeTheFirstDumpOfTheClassIsWhatThatSays) {
+TEST(Presence, BeforeTheFirstDumpOfTheClassIsThatDumps) {
   EXPECT_EQ(presence(0, "?yy", "?yy"), Presence::kYes);
   EXPECT_EQ(presence(0, "?yy", "?ny"), Presence::kNo);
 }
@@ -174,7 +175,7 @@ TEST(Presence, AfterTheLastDumpNothingIsKnown) {
   EXPECT_EQ(presence(1, "???", "???"), Presence::kUnknown);
 }
 
-TEST(Presence, ADumpThatHasTheClassAndLeavesTheMessageOpenProvesNothing) {
+TEST(Presence, ADumpThatLeavesTheMessageOpenProvesNothing) {
   EXPECT_EQ(presence(0, "yyy", "?yy"), Presence::kUnknown);
   EXPECT_EQ(presence(1, "y?y", "??y"), Presence::kUnknown);
 }

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Installs the phone's package with the real package manager into an empty root, puts it in once more
-# and takes it away again: `install_test.sh SOURCE BUILD`. Whoever runs this need not be root.
+# Installs the phone's package with the real package manager into an empty root, installs it again
+# and removes it: `install_test.sh SOURCE BUILD`. It does not need to run as root.
 set -eu
 
 . "$(dirname "$0")/test_folder.sh"
@@ -12,14 +12,14 @@ root=$work/root
 mkdir -p "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/updates"
 touch "$root/var/lib/dpkg/status" "$root/var/lib/dpkg/available"
 
-# Programs that would end something only leave a note here.
+# Replacements for programs that would end processes; they only record their calls.
 mkdir "$work/programs"
 for program in killall pkill launchctl sbreload reboot; do
   printf '#!/bin/sh\necho "%s $*" >>"%s/ended"\n' "$program" "$work" >"$work/programs/$program"
   chmod +x "$work/programs/$program"
 done
 
-# manager WISHES ARGUMENT…: the package manager at work in the root, with the wishes' descriptor open.
+# manager WISHES ARGUMENT… runs the package manager in the root, with the descriptor for requests open.
 manager() {
   CYDIA=$1 PATH=$work/programs:$PATH:/usr/sbin:/sbin dpkg --root="$root" --log=/dev/null \
     --force-not-root --force-bad-path --force-architecture --force-depends \
@@ -27,10 +27,10 @@ manager() {
     fail "the package manager ends with $? after: ${*:2}: $(cat "$work/said")"
 }
 
-# wished COUNT: so many restarts were asked for since this was last looked at, and nothing else.
+# wished COUNT checks that exactly COUNT restarts were requested since the last call, and nothing else.
 wished() {
   expected=$(for ((i = 0; i < $1; i++)); do echo finish:restart; done)
-  [ "$(cat "$work/wishes")" = "$expected" ] || fail "wishes in line ${BASH_LINENO[0]}: $(cat "$work/wishes")"
+  [ "$(cat "$work/wishes")" = "$expected" ] || fail "requests in line ${BASH_LINENO[0]}: $(cat "$work/wishes")"
   : >"$work/wishes"
 }
 
@@ -38,7 +38,7 @@ files() {
   (cd "$root" && find . -path ./var/lib/dpkg -prune -o "$@" -print | sort)
 }
 
-# What others have put there, and what the user sets.
+# Files of other packages.
 for other in MobileSubstrate/DynamicLibraries/Other.dylib PreferenceLoader/Preferences/Other.plist; do
   mkdir -p "$root/Library/$(dirname "$other")"
   echo other >"$root/Library/$other"
@@ -48,7 +48,7 @@ before=$(files)
 manager "7 1" --install "$package"
 wished 1
 dpkg-deb --contents "$package" | sed -n 's/^-.* \(\.\/.*\)$/\1/p' | sort >"$work/packaged"
-files -type f | grep -v /Other | cmp - "$work/packaged" || fail "other files than the package's"
+files -type f | grep -v /Other | cmp - "$work/packaged" || fail "installed files differ from the package's"
 [ -x "$root/Library/MobileSubstrate/DynamicLibraries/Sonavue2.dylib" ] || fail "no library"
 status=$(sed -n '/^Status/p' "$root/var/lib/dpkg/status")
 [ "$status" = "Status: install ok installed" ] || fail "$status"
@@ -57,12 +57,12 @@ preferences=var/mobile/Library/Preferences/org.plumvane.SonavueSettings.plist
 mkdir -p "$root/$(dirname "$preferences")"
 echo set >"$root/$preferences"
 
-# The scripts of the one that goes and of the one that comes ask both; the manager restarts once.
+# The scripts of the old and the new package both request a restart; the manager restarts once.
 manager "7 1" --install "$package"
 wished 2
-[ "$(cat "$root/$preferences")" = set ] || fail "the user's preferences are not as they were"
+[ "$(cat "$root/$preferences")" = set ] || fail "the user's preferences have changed"
 
-# A manager that opens no descriptor, or says something else, is asked for nothing.
+# Nothing is requested from a manager that opens no descriptor or passes something else.
 for wishes in "" "x 1" "7x"; do
   manager "$wishes" --install "$package"
   wished 0
@@ -71,12 +71,12 @@ done
 manager "7 1" --remove "$name"
 wished 1
 after=$(files ! -path './var*')
-[ "$after" = "$(echo "$before" | grep -v '^\./var')" ] || fail "removed, it leaves: $after"
-[ "$(files -path './var/*' -type f)" = "./$preferences" ] || fail "the preferences are gone"
+[ "$after" = "$(echo "$before" | grep -v '^\./var')" ] || fail "files left after removal: $after"
+[ "$(files -path './var/*' -type f)" = "./$preferences" ] || fail "removal deletes the preferences"
 
 manager "7 1" --purge "$name"
-[ "$(files -path './var/*' -type f)" = "./$preferences" ] || fail "the preferences are purged"
-grep -q "^Package: $name" "$root/var/lib/dpkg/status" && fail "the manager still knows it"
+[ "$(files -path './var/*' -type f)" = "./$preferences" ] || fail "purging deletes the preferences"
+grep -q "^Package: $name" "$root/var/lib/dpkg/status" && fail "the package manager still lists it"
 
 [ ! -e "$work/ended" ] || fail "processes were ended: $(cat "$work/ended")"
 

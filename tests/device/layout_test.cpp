@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 using testing::Contains;
 using testing::Not;
 
-/// Rules that no packing tool can be made to break.
+/// Rules that the packing tools cannot be made to break.
 class Layout : public testing::Test {
  protected:
   Layout() {
@@ -39,7 +39,7 @@ PackagedFile control_file(const std::string& path, unsigned mode) {
   return {path, false, true, mode, 0, 0, {'x'}};
 }
 
-TEST_F(Layout, ScriptsCanBeRunByEverybodyAndWrittenByTheirOwner) {
+TEST_F(Layout, ScriptsAreExecutableByAllAndWritableByTheirOwner) {
   EXPECT_THAT(findings_with(control_file("postinst", 0777)),
               Contains("postinst: mode 777 instead of 755"));
   EXPECT_THAT(findings_with(control_file("postrm", 0644)),
@@ -48,7 +48,7 @@ TEST_F(Layout, ScriptsCanBeRunByEverybodyAndWrittenByTheirOwner) {
               Not(Contains(testing::StartsWith("postrm: mode"))));
 }
 
-TEST_F(Layout, TheControlFileIsAnOrdinaryOne) {
+TEST_F(Layout, TheControlFileIsNotExecutable) {
   EXPECT_THAT(findings_with(control_file("control", 0600)),
               Contains("control: mode 600 instead of 644"));
   EXPECT_THAT(findings_with(control_file("control", 0644)),

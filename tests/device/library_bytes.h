@@ -4,7 +4,7 @@
 
 namespace sonavue::device {
 
-/// What a small library is made with; each default is what the package's rules want.
+/// The parameters of a small library. The defaults satisfy the package's rules.
 struct LibraryShape {
   std::uint32_t processor = 0x0100000c;
   std::uint32_t kind = kLibrary;
@@ -13,7 +13,7 @@ struct LibraryShape {
   std::size_t code_size = 9000;
 };
 
-/// The bytes of a library of the phone's: a code segment, link information, the least system.
+/// The bytes of a library for the phone: a code segment, link information, the minimum system.
 Bytes library_bytes(const LibraryShape& shape = {});
 
 }  // namespace sonavue::device

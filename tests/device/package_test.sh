@@ -1,6 +1,6 @@
 #!/bin/sh
-# Makes the phone's package twice and compares, has it checked, then breaks it in every way that a
-# rule forbids and sees the checker say so: `package_test.sh SOURCE BUILD`.
+# Makes the phone's package twice, compares both, and checks them. Then breaks the package in every
+# way that a rule forbids and expects the checker to report it: `package_test.sh SOURCE BUILD`.
 set -eu
 
 . "$(dirname "$0")/test_folder.sh"
@@ -8,13 +8,13 @@ preset=$(basename "$build")
 "$source/device/package/make" "$preset" "$work/first"
 "$source/device/package/make" "$preset" "$work/second"
 package=$(echo "$work"/first/*.deb)
-cmp "$package" "$work/second/$(basename "$package")" || fail "made twice, the package differs"
-"$build/bin/sonavue_check" "$source" "$package" || fail "the checker refuses the package"
+cmp "$package" "$work/second/$(basename "$package")" || fail "two builds of the package differ"
+"$build/bin/sonavue_check" "$source" "$package" || fail "the checker rejects the package"
 
 mkdir "$work/whole"
 dpkg-deb --raw-extract "$package" "$work/whole"
 
-# The page hashes once more, by programs that know nothing of this project.
+# Compute the page hashes again, with programs that are independent of this project.
 library=Library/MobileSubstrate/DynamicLibraries/Sonavue2.dylib
 dd if="$work/whole/$library" of="$work/page" bs=4096 skip=3 count=1 2>/dev/null
 for program in sha1sum sha256sum; do
@@ -24,8 +24,8 @@ for program in sha1sum sha256sum; do
   echo "$hash" >"$work/$program"
 done
 
-# broken EXPECTED COMMAND…: in a copy of the package's tree the command is run, and the checker then
-# has to answer with 1 and the expected words.
+# broken EXPECTED COMMAND… runs the command in a copy of the package's tree. The checker must then end
+# with status 1 and print EXPECTED.
 broken() {
   expected=$1
   shift
@@ -34,14 +34,14 @@ broken() {
   (cd "$work/tree" && "$@")
   # shellcheck disable=SC2086
   dpkg-deb ${packing:--Zgzip} -z1 ${owners---root-owner-group} --nocheck --build "$work/tree" \
-    "$work/broken.deb" >/dev/null 2>&1 || fail "no package after: $*"
+    "$work/broken.deb" >/dev/null 2>&1 || fail "cannot build a package after: $*"
   result=0
   "$build/bin/sonavue_check" "${against:-$source}" "$work/broken.deb" >"$work/said" 2>&1 || result=$?
   [ "$result" -eq 1 ] || fail "the checker ends with $result after: $*"
-  grep -qF -- "$expected" "$work/said" || fail "the checker does not say '$expected' after: $*"
+  grep -qF -- "$expected" "$work/said" || fail "the checker does not print '$expected' after: $*"
 }
 
-# patch FILE OLD NEW replaces bytes by as many others.
+# patch FILE OLD NEW replaces bytes with the same number of others.
 patch() {
   LC_ALL=C sed -i "s|$2|$3|g" "$1"
 }
@@ -90,7 +90,7 @@ for script in postinst postrm; do
 done
 broken "prerm: does not belong" cp DEBIAN/postrm DEBIAN/prerm
 packing=-Zxz broken "compressed with gzip" true
-# Whoever is not root owns the files anyway.
+# A user other than root owns the files anyway.
 owned_by_others() { [ "$(id -u)" -ne 0 ] || chown -R 1:1 Library; }
 owners='' broken "root:root" owned_by_others
 
@@ -112,13 +112,13 @@ broken "library: has no code" patch "$library" __text __texT
 broken "no exception can pass through the code" patch "$library" __unwind_info __unwind_infO
 broken "not a 64-bit library" cp "$bundle/Info.plist" "$library"
 
-# as_numbers FILE OLD NEW replaces a row of numbers, written as perl packs them.
+# as_numbers FILE OLD NEW replaces a sequence of 32-bit numbers.
 as_numbers() {
   perl -0777 -pi -e "BEGIN { (\$old, \$new) = (pack(q(V*), $2), pack(q(V*), $3)) }
     s/\Q\$old\E/\$new/g" "$1"
 }
 
-# turned HASH: the hash of a page that the signature holds is written backwards.
+# turned HASH reverses the bytes of a page's hash in the signature.
 turned() {
   perl -0777 -pi -e "BEGIN { \$hash = pack(q(H*), q($(cat "$1"))) } s/\Q\$hash\E/reverse \$hash/e" \
     "$library"
@@ -133,10 +133,10 @@ broken "an exports table" as_numbers "$library" "0x26, 16" "0x80000033, 16"
 broken "no identifier of its build" as_numbers "$library" "0x1b, 24" "0x2c, 24"
 broken "library: does not list its functions" as_numbers "$library" "0x26, 16" "0x29, 16"
 broken "a load command for encryption" as_numbers "$library" "0x1b, 24" "0x2c, 24"
-# What finds the caller of code with one kind of frame says that nothing does.
+# Clear the unwind encoding of one kind of frame, so that its callers cannot be found.
 broken "library: no exception can pass through the code" as_numbers "$library" 0x0400001f 0
 broken "library: its unwind tables are damaged" as_numbers "$library" "1, 28" "2, 28"
-# Every idle instruction becomes a store to where arguments beyond the registers go.
+# Turn every no-op into a store to the stack slot for arguments beyond the registers.
 broken "sends a message with stack arguments" as_numbers "$library" 0xd503201f 0xf90003ff
 initialisers=$(llvm-objdump-16 --macho --section=__DATA,__mod_init_func "$work/whole/$library" |
   sed -n 's/^0x[0-9a-f]* \(0x[0-9a-f]*\).*/\1/p')
@@ -147,7 +147,7 @@ broken "an initialiser is not ours" as_numbers "$library" "$first, 0, $second, 0
   "$first + 4, 0, $second, 0"
 broken "initialisers other than" patch "$library" __mod_init_func __mod_term_func
 
-# Rules that compare with the source are broken in a copy of what they read.
+# Rules that compare with the source are broken in a copy of the files that they read.
 mkdir -p "$work/source/device/check"
 cp -a "$source/README.md" "$source/resources" "$work/source"
 cp -a "$source/device/stubs" "$source/device/facts" "$work/source/device"
@@ -165,7 +165,7 @@ broken "have no selector tweet" true
 sed -i 's/^| phones | arm64/| phones | every/' "$against/README.md"
 broken "README: its table has no row \`| phones | arm64" true
 
-# contradicted EXPECTED FILE CHANGE: the facts are changed for this once.
+# contradicted EXPECTED FILE CHANGE changes the facts for one run of the checker.
 contradicted() {
   cp "$against/device/facts/$2" "$work/facts"
   sed -i "$3" "$against/device/facts/$2"
@@ -196,7 +196,7 @@ contradicted "guarded: -[UILabel setText:] is not used, or every system has it" 
 contradicted "guarded: -[UILabel setText:] is sent unguarded" guarded \
   '$a -[UILabel setText:]: always'
 
-# refused EXPECTED FILE CHANGE: facts that cannot be believed are named, and nothing is checked.
+# refused EXPECTED FILE CHANGE: the checker names the file of inconsistent facts and checks nothing.
 refused() {
   cp "$against/device/facts/$2" "$work/facts"
   sed -i "$3" "$against/device/facts/$2"
@@ -219,14 +219,14 @@ refused "gives no reason" guarded 's/: sent only.*//'
 result=0
 echo nothing >"$work/nothing.deb"
 "$build/bin/sonavue_check" "$source" "$work/nothing.deb" 2>"$work/said" || result=$?
-[ "$result" -eq 2 ] || fail "the checker ends with $result for what is no package"
+[ "$result" -eq 2 ] || fail "the checker ends with $result for a file that is not a package"
 
-# The same package with its files' archive cut short.
+# The same package with a truncated archive of its files.
 result=0
 (cd "$work" && ar x "$package" && truncate -s -1000 data.tar.gz &&
   ar rc cut.deb debian-binary control.tar.gz data.tar.gz)
 "$build/bin/sonavue_check" "$source" "$work/cut.deb" >"$work/said" 2>&1 || result=$?
 [ "$result" -eq 2 ] && grep -q "its archive is damaged" "$work/said" ||
-  fail "the checker ends with $result for a package that is cut short"
+  fail "the checker ends with $result for a truncated package"
 
 exit $failed

@@ -30,7 +30,7 @@ class View - yyy
 end 9
 )";
 
-/// A library whose uses the facts prove; each test breaks something.
+/// A library whose use of the platform the facts prove. Each test breaks something.
 class PlatformRules : public testing::Test {
  protected:
   PlatformRules() {
@@ -72,7 +72,7 @@ TEST_F(PlatformRules, AClassOfAFrameworkThatNothingLoadsIsFound) {
   EXPECT_THAT(findings(), IsEmpty());
 }
 
-TEST_F(PlatformRules, AFrameworkOfTheProgramOrALinkedOneIsThere) {
+TEST_F(PlatformRules, AFrameworkOfTheProgramOrALinkedOneIsAvailable) {
   use_.classes.insert("Page");
   use_.linked.insert("/other");
   EXPECT_THAT(findings(), IsEmpty());
@@ -81,13 +81,13 @@ TEST_F(PlatformRules, AFrameworkOfTheProgramOrALinkedOneIsThere) {
   EXPECT_THAT(findings(), IsEmpty());
 }
 
-TEST_F(PlatformRules, AClassThatIsNamedByATextCountsToo) {
+TEST_F(PlatformRules, AClassNamedByAStringIsCheckedToo) {
   use_.texts += std::string("Page\0", 5);
   EXPECT_THAT(findings(),
               ElementsAre("library: Page is in /other, which is neither linked nor loaded"));
 }
 
-TEST_F(PlatformRules, APathThatIsPartOfALongerTextLoadsNothing) {
+TEST_F(PlatformRules, APathInsideALongerStringLoadsNothing) {
   use_.classes.insert("Page");
   use_.texts += std::string("/other.plist\0/an/other\0", 23);
   EXPECT_THAT(findings(), Contains(HasSubstr("neither linked nor loaded")));
@@ -98,14 +98,14 @@ TEST_F(PlatformRules, AnUnknownClassIsFound) {
   EXPECT_THAT(findings(), ElementsAre("library: the facts have no class Lable"));
 }
 
-TEST_F(PlatformRules, TypesHaveToAgree) {
+TEST_F(PlatformRules, TypesMustAgree) {
   send("-[Label shown] c@:");
-  EXPECT_THAT(findings(), IsEmpty()) << "one byte is one byte";
+  EXPECT_THAT(findings(), IsEmpty()) << "one-byte types are equivalent";
   send("-[Label alpha] f@:");
   EXPECT_THAT(findings(), Contains("library: -[Label alpha] is bound as f@: but defined as d@:"));
 }
 
-TEST_F(PlatformRules, WholeNumbersOfOtherSizesOrSignsDiffer) {
+TEST_F(PlatformRules, IntegersOfDifferentSizeOrSignednessDiffer) {
   promised_ = {{8, 0}, {8, 1}};
   known_.facts.classes["Label"].messages["-added"].presences[0] = Presence::kYes;
   for (const char* types : {"q@:Q", "q@:i", "Q@:I", "i@:I"}) {
@@ -116,7 +116,7 @@ TEST_F(PlatformRules, WholeNumbersOfOtherSizesOrSignsDiffer) {
   EXPECT_EQ(contradiction(known_, {"Label", "-frame", "{_R={P=dd}{S=dd}}@:"}), "");
 }
 
-TEST_F(PlatformRules, AMessageOfASuperclassIsTheSubclassesToo) {
+TEST_F(PlatformRules, AMessageOfASuperclassIsInherited) {
   send("-[Label frame] {CGRect={CGPoint=dd}{CGSize=dd}}@:");
   EXPECT_THAT(findings(), IsEmpty());
 }
@@ -135,7 +135,7 @@ TEST_F(PlatformRules, AMessageThatIsMissingOnASystemIsFound) {
   EXPECT_THAT(findings(), IsEmpty());
 }
 
-TEST_F(PlatformRules, AGuardedMessageHasToBeAskedFor) {
+TEST_F(PlatformRules, AGuardedMessageMustBeCheckedForFirst) {
   send("-[Label moved] v@:");
   known_.lists.guarded["-[Label moved]"] = "why";
   EXPECT_THAT(findings(), ElementsAre("guarded: -[Label moved] is sent unguarded"));
@@ -150,7 +150,7 @@ TEST_F(PlatformRules, AGuardThatNothingNeedsIsFound) {
               ElementsAre("guarded: -[Label setText:] is not used, or every system has it"));
 }
 
-TEST_F(PlatformRules, WhatNoDumpCoversIsListedAndNothingElse) {
+TEST_F(PlatformRules, ExactlyTheUncoveredMessagesAreListed) {
   use_.linked.insert("/other");
   send("-[Open go] v@:");
   send("+[Label maker] @@:");
@@ -165,7 +165,7 @@ TEST_F(PlatformRules, WhatNoDumpCoversIsListedAndNothingElse) {
               ElementsAre("uncovered: -[Label setText:] is not used, or the facts cover it"));
 }
 
-TEST_F(PlatformRules, ASelectorWithoutAClassIsSomeClasses) {
+TEST_F(PlatformRules, ASelectorWithoutAClassMustBelongToSomeClass) {
   use_.selectors.insert("frame");
   EXPECT_THAT(findings(), IsEmpty());
   use_.selectors.insert("setTxet:");
@@ -174,7 +174,7 @@ TEST_F(PlatformRules, ASelectorWithoutAClassIsSomeClasses) {
   EXPECT_THAT(findings(), IsEmpty());
 }
 
-TEST_F(PlatformRules, ALibraryThatTellsNothingIsNotProven) {
+TEST_F(PlatformRules, ALibraryWithoutSymbolsIsNotProven) {
   EXPECT_THAT(platform_use(Image(library_bytes())).silent,
               ElementsAre("__ZN4objc12cached_class", "__ZN4objc9own_class",
                           "__ZN4objc15cached_selector", "__ZN4objc14cached_message",

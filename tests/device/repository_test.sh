@@ -1,6 +1,6 @@
 #!/bin/bash
-# Makes the folder that package managers read, has it read by one, and gives it what it has to refuse:
-# `repository_test.sh SOURCE BUILD`.
+# Makes the folder that package managers read, lets one read it, and tries inputs that must be
+# rejected: `repository_test.sh SOURCE BUILD`.
 set -eu
 
 . "$(dirname "$0")/test_folder.sh"
@@ -15,18 +15,18 @@ make() {
 
 make plain
 make addressed "$address"
-# Whoever makes it again, and where, does not show.
+# Another user and working directory must not change the result.
 (umask 077 && cd / && TZ=Asia/Tokyo LC_ALL=C.UTF-8 make again "$address")
-diff -r "$work/addressed" "$work/again" || fail "made twice, the folders differ"
-[ -z "$(find "$work/again" ! -perm -a+r -o -type d ! -perm -a+x)" ] || fail "not for everybody to read"
-grep -rlF -e "$source" -e "$work" "$work/again" && fail "a path of this machine is in a file"
+diff -r "$work/addressed" "$work/again" || fail "two builds of the folder differ"
+[ -z "$(find "$work/again" ! -perm -a+r -o -type d ! -perm -a+x)" ] || fail "some files are not readable by all"
+grep -rlF -e "$source" -e "$work" "$work/again" && fail "a file contains a path of this machine"
 
 cd "$work/addressed"
 package=$(echo *.deb)
 expected="CydiaIcon.png Packages Packages.bz2 Packages.gz Release index.html $package pictures"
-[ "$(LC_ALL=C echo *)" = "$expected" ] || fail "other files: $(echo *)"
-gzip -dc Packages.gz | cmp - Packages || fail "Packages.gz is another list"
-bzip2 -dc Packages.bz2 | cmp - Packages || fail "Packages.bz2 is another list"
+[ "$(LC_ALL=C echo *)" = "$expected" ] || fail "unexpected files: $(echo *)"
+gzip -dc Packages.gz | cmp - Packages || fail "Packages.gz differs from Packages"
+bzip2 -dc Packages.bz2 | cmp - Packages || fail "Packages.bz2 differs from Packages"
 date=$(LC_ALL=C date -u -d "@$(git -C "$source" log -1 --format=%ct)" '+%a, %d %b %Y %H:%M:%S UTC')
 for line in "Origin: Sonavue" "Label: Sonavue" "Suite: stable" "Version: 2.0.0" "Codename: ios" \
   "Architectures: iphoneos-arm" "Components: main" "Description: A music player over the home screen" \
@@ -34,7 +34,7 @@ for line in "Origin: Sonavue" "Label: Sonavue" "Suite: stable" "Version: 2.0.0" 
   grep -qxF "$line" Release || fail "Release lacks: $line"
 done
 
-# Every file stands in each of the three lists, as programs that know nothing of this project hash it.
+# Each of the three lists has every file, with hashes from programs that are independent of this project.
 for list in MD5Sum:md5sum SHA1:sha1sum SHA256:sha256sum; do
   find . -type f ! -name Release -printf '%P\n' | LC_ALL=C sort | while read -r file; do
     echo " $("${list#*:}" "$file" | cut -d' ' -f1) $(wc -c <"$file") $file"
@@ -43,7 +43,7 @@ for list in MD5Sum:md5sum SHA1:sha1sum SHA256:sha256sum; do
     fail "the list ${list%:*} differs"
 done
 
-# The addresses, and what is different without one.
+# The addresses, and the differences without one.
 field() {
   dpkg-deb --field "$1" "$2"
 }
@@ -57,13 +57,13 @@ for each in Depiction Homepage Icon; do
   [ -z "$(field "$work/plain/$package" $each)" ] || fail "without an address there is a $each"
 done
 "$source/device/package/make" "$preset" "$work/alone"
-cmp "$work/alone/$package" "$work/plain/$package" || fail "without an address it is another package"
+cmp "$work/alone/$package" "$work/plain/$package" || fail "without an address the package differs"
 grep -q '>Source<' "$work/plain/index.html" && fail "the page names a source without an address"
 
-# The page: whole, with nothing that is run or fetched from elsewhere, all it shows is there.
+# The page is complete, runs no scripts, fetches nothing from elsewhere, and all its pictures exist.
 for html in index.html ../plain/index.html; do
   grep -inE '<script|javascript:|@[A-Z]+@|url\(| on[a-z]+=|(src|href)="[a-z]*:' "$html" &&
-    fail "$html has what it should not"
+    fail "$html has forbidden content"
   for word in 2.0.0 prefers-color-scheme '<title>Sonavue' '<h3>2.0.0</h3>'; do
     grep -qF "$word" "$html" || fail "$html lacks $word"
   done
@@ -72,9 +72,9 @@ shown=$(sed -n 's/.*<img src="\([^"]*\)".*/\1/p' index.html | sort)
 [ "$shown" = "$( (echo CydiaIcon.png && find pictures -type f) | sort)" ] || fail "pictures: $shown"
 items=$(grep -c '^- ' "$source/CHANGELOG.md")
 [ "$(sed -n '/new<\/h2>/,/<\/section>/p' index.html | grep -c '<li>.*</li>')" -eq "$items" ] ||
-  fail "the page does not tell the $items lines of the changelog"
+  fail "the page does not list the $items entries of the changelog"
 
-# page_of COMMAND…: the page of a package whose control file was changed like that.
+# page_of COMMAND… prints the page of a package whose control file was changed by the command.
 page_of() {
   rm -rf "$work/tree"
   dpkg-deb --raw-extract "$package" "$work/tree"
@@ -83,14 +83,14 @@ page_of() {
   "$source/device/repository/page" "$work/other.deb" 2>"$work/said"
 }
 page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.0), others/' control |
-  grep -qF '<td>8.0 or later</td>' || fail "the page does not tell the first system"
+  grep -qF '<td>8.0 or later</td>' || fail "the page does not name the first system"
 page_of sed -i 's/^Depends: .*/Depends: firmware (>= 8.1), others (<< 2), firmware (<< 9.0)/' control |
-  grep -qF '<td>8.1 or later, before 9.0</td>' || fail "the page does not tell the range of systems"
-page_of sed -i 's/^Version: .*/Version: 2.0.9/' control >/dev/null && fail "a page without news"
-grep -qF "CHANGELOG.md has no entry for 2.0.9" "$work/said" || fail "says: $(cat "$work/said")"
+  grep -qF '<td>8.1 or later, before 9.0</td>' || fail "the page does not name the range of systems"
+page_of sed -i 's/^Version: .*/Version: 2.0.9/' control >/dev/null && fail "a page is made for a version without changelog entry"
+grep -qF "CHANGELOG.md has no entry for 2.0.9" "$work/said" || fail "unexpected error: $(cat "$work/said")"
 rm -r "$work/tree" "$work/other.deb"
 
-# A package manager that knows no other source.
+# A package manager without any other source.
 apt=$work/apt
 mkdir -p "$apt"/{etc/parts,etc/sources,etc/trusted,state/lists/partial,cache/archives/partial,got}
 touch "$apt/status" "$apt/etc/preferences"
@@ -116,10 +116,10 @@ export APT_CONFIG=$apt/configuration
 cd "$apt/got"
 apt-get -o APT::Update::Error-Mode=any update >"$work/said" 2>&1 ||
   fail "the manager cannot read the source: $(cat "$work/said")"
-grep -E '^(W|E):' "$work/said" && fail "the manager complains"
+grep -E '^(W|E):' "$work/said" && fail "the manager reports a problem"
 apt-cache policy $name >"$work/said"
 grep -q "Candidate: 2.0.0" "$work/said" || fail "no version to install: $(cat "$work/said")"
-apt-cache policy | grep -qF "o=Sonavue,a=stable,n=ios,l=Sonavue,c=" || fail "another release"
+apt-cache policy | grep -qF "o=Sonavue,a=stable,n=ios,l=Sonavue,c=" || fail "the release differs"
 apt-cache show $name >"$work/said"
 held=$work/addressed/$package
 for line in "Size: $(wc -c <"$held")" "MD5sum: $(md5sum <"$held" | cut -d' ' -f1)" \
@@ -131,22 +131,22 @@ apt-get download $name >"$work/said" 2>&1 || fail "the manager cannot fetch: $(c
 cmp "$held" "$apt"/got/*.deb || fail "what the manager fetches differs"
 cd "$work"
 
-# snapshot: all that is in the test's folder but what the test itself notes there.
+# snapshot lists everything in the test's folder except the test's own log.
 snapshot() {
   find "$work" ! -path "$work/said" ! -path "$work" -printf '%P %i %s %m\n' | sort
 }
 
-# refused STATUS EXPECTED COMMAND…: the command ends so and says so, and nothing is made, changed or lost.
+# refused STATUS EXPECTED COMMAND…: the command ends with STATUS, prints EXPECTED, and changes no file.
 refused() {
   before=$(snapshot)
   result=0
   "${@:3}" >"$work/said" 2>&1 </dev/null || result=$?
-  [ "$result" -eq "$1" ] || fail "ends with $result in place of $1: ${*:3}: $(cat "$work/said")"
-  grep -qF -- "$2" "$work/said" || fail "does not say '$2': ${*:3}: $(cat "$work/said")"
-  [ "$(snapshot)" = "$before" ] || fail "leaves something: ${*:3}"
+  [ "$result" -eq "$1" ] || fail "ends with $result instead of $1: ${*:3}: $(cat "$work/said")"
+  grep -qF -- "$2" "$work/said" || fail "does not print '$2': ${*:3}: $(cat "$work/said")"
+  [ "$(snapshot)" = "$before" ] || fail "changes files: ${*:3}"
 }
 
-# Wrong arguments are seen before anything is built.
+# Invalid arguments are detected before anything is built.
 command=$source/package
 refused 2 "--repository needs a value" "$command" --repository
 refused 2 "--repository needs a value" "$command" --repository ""
@@ -165,13 +165,13 @@ for bad in "https://a.example/a b" " https://a.example" "https://a.example " $'h
 done
 refused 0 "--repository FOLDER" "$command" --help
 
-# The checker looks once more, whoever makes the folder.
+# The checker also validates addresses if the folder is made without that command.
 refused 1 "Depiction is not a valid address" "$source/device/repository/make" "$preset" new ftp://a.example
 refused 1 "Depiction is not a valid address" "$source/device/repository/make" "$preset" new "https://a b"
 refused 1 "Depiction is not a valid address" "$source/device/repository/make" "$preset" new \
   $'https://a.example/\n b'
 
-# What was not made here is nobody's to replace.
+# Folders and files that were not made here are never replaced.
 echo mine >file
 mkdir empty foreign
 echo mine >foreign/mine
@@ -189,20 +189,20 @@ done
 refused 1 "There is no folder $work/none" "$command" --repository none/new
 refused 1 "/proc is not writable" "$command" --repository /proc/new
 
-# Neither is what comes into an empty folder while the source is being made.
+# Neither is a file that appears in an empty folder while the source is being made.
 mkdir busy programs
 printf '#!/bin/sh\necho mine >"%s/busy/mine"\nexec %s "$@"\n' "$work" "$(command -v bzip2)" >programs/bzip2
 chmod +x programs/bzip2
-(PATH=$work/programs:$PATH make busy >said 2>&1) && fail "a folder is replaced that somebody writes into"
-[ "$(echo busy*/*)" = busy/mine ] || fail "of what came meanwhile is left: $(echo busy*/*)"
+(PATH=$work/programs:$PATH make busy >said 2>&1) && fail "a folder is replaced while another process writes to it"
+[ "$(echo busy*/*)" = busy/mine ] || fail "files that appeared meanwhile are lost: $(echo busy*/*)"
 
-# An empty folder is taken, and one that was made here, by any name.
+# An empty folder is accepted, and so is one that was made here, by any name.
 ln -s empty link
 make link
-diff -r plain empty || fail "in an empty folder it is another source"
+diff -r plain empty || fail "in an empty folder the source differs"
 [ -L link ] || fail "the link is gone"
 make empty "$address"
-diff -r addressed empty || fail "the new source has not taken the old one's place"
-ls -d ./*.new-* .*.new-* 2>/dev/null && fail "something is left beside"
+diff -r addressed empty || fail "the new source has not replaced the old one"
+ls -d ./*.new-* .*.new-* 2>/dev/null && fail "temporary folders are left"
 
 exit $failed

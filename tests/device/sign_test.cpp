@@ -37,7 +37,7 @@ TEST(Sign, EveryPageHasBothHashes) {
   }
 }
 
-TEST(Sign, TheSameLibraryIsSignedTheSameWay) {
+TEST(Sign, TheSameLibraryGetsTheSameSignature) {
   EXPECT_EQ(signed_bytes(), signed_bytes());
 }
 
@@ -51,12 +51,12 @@ TEST(Sign, EveryByteOfTheCodeIsCovered) {
   }
 }
 
-TEST(Sign, EveryPartOfTheSignatureIsLookedAt) {
+TEST(Sign, EveryPartOfTheSignatureIsChecked) {
   struct Part {
     std::size_t offset;
     const char* finding;
   };
-  constexpr std::size_t kFirst = 36;  // where the directory of the SHA-1 hashes begins
+  constexpr std::size_t kFirst = 36;  // offset of the directory of SHA-1 hashes
   const Part parts[] = {
       {3, "is invalid"},
       {7, "does not have the length that it states"},
@@ -96,7 +96,7 @@ TEST(Sign, NothingFollowsTheSignature) {
   EXPECT_EQ(signature_findings(longer), Findings{"library: signature is not at its end"});
 }
 
-TEST(Sign, BothKindsOfHashesAreLookedAt) {
+TEST(Sign, BothKindsOfHashesAreChecked) {
   const Bytes whole = signed_bytes();
   const std::size_t start = little_32(whole, Image(whole).command(kCodeSignature)->offset + 8);
   const struct {
@@ -112,13 +112,13 @@ TEST(Sign, BothKindsOfHashesAreLookedAt) {
   }
 }
 
-TEST(Sign, AnotherNameIsNoticed) {
+TEST(Sign, ADifferentIdentifierIsFound) {
   const Bytes other = signed_library(Image(library_bytes()), "org.example.another");
   EXPECT_EQ(signature_findings(other),
             Findings{"library: signature is for a different identifier"});
 }
 
-TEST(Sign, WhatIsNoLibraryIsRefused) {
+TEST(Sign, OtherFilesAreRejected) {
   EXPECT_EQ(refusal({}), "it is not a 64-bit library of the phone");
   EXPECT_EQ(refusal(Bytes(5000, 'x')), "it is not a 64-bit library of the phone");
   LibraryShape shape;
@@ -129,7 +129,7 @@ TEST(Sign, WhatIsNoLibraryIsRefused) {
   EXPECT_EQ(refusal(library_bytes(shape)), "it is neither a library nor a bundle");
 }
 
-TEST(Sign, WhatCannotBeSignedIsRefused) {
+TEST(Sign, LibrariesThatCannotBeSignedAreRejected) {
   LibraryShape shape;
   shape.room = 8;
   EXPECT_EQ(refusal(library_bytes(shape)), "its header has no room for one more load command");
@@ -139,7 +139,7 @@ TEST(Sign, WhatCannotBeSignedIsRefused) {
   EXPECT_EQ(refusal(longer), "its link information is not at the end of the file");
 }
 
-TEST(Sign, ACutLibraryIsRefusedWhereverItIsCut) {
+TEST(Sign, ALibraryTruncatedAnywhereIsRejected) {
   const Bytes whole = library_bytes();
   for (std::size_t size = 0; size < whole.size(); size += 7) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
@@ -147,7 +147,7 @@ TEST(Sign, ACutLibraryIsRefusedWhereverItIsCut) {
   }
 }
 
-TEST(LoadCommands, AnotherLeastSystemIsNoticed) {
+TEST(LoadCommands, ADifferentMinimumSystemIsFound) {
   LibraryShape shape;
   Findings fitting;
   check_load_commands("library", Image(signed_bytes(shape)), fitting);

@@ -1,4 +1,4 @@
-# What the package's tests begin with: their arguments, a folder of their own, a way to fail.
+# Common start of the package's tests: their arguments, a temporary folder, and `fail`.
 # shellcheck shell=sh
 source=$1
 build=$2

@@ -15,7 +15,7 @@ constexpr std::uint32_t kMagic = 0xfeedfacf;
 constexpr std::uint32_t kReadAndRun = 5;
 constexpr std::size_t kCommandsSize = ByteWriter::kSegmentSize + 3 * ByteWriter::kSectionSize + 16;
 
-// Three functions of the same size, and behind them the tables.
+// Three functions of the same size, followed by the tables.
 constexpr std::uint64_t kFirst = 0x200;
 constexpr std::uint64_t kSecond = 0x300;
 constexpr std::uint64_t kThird = 0x400;
@@ -77,7 +77,7 @@ Bytes plain(const Encodings& encodings) {
   return writer.take();
 }
 
-/// The first encoding stands among the frequent ones, the others in the page.
+/// The first encoding is in the table of frequent encodings, the others are in the page.
 Bytes packed(const Encodings& encodings) {
   const std::size_t count = encodings.size();
   ByteWriter writer(68 + 8 * (count - 1) + 4);
@@ -105,7 +105,7 @@ TEST(Unwinding, EachFunctionHasAnEncoding) {
   }
 }
 
-TEST(Unwinding, TheFirstOfManyFunctionsIsNamedAndTheOthersAreCounted) {
+TEST(Unwinding, TheFirstUncoveredFunctionIsNamedAndTheOthersAreCounted) {
   EXPECT_THAT(findings({plain({{kSecond, kFrame}, {kThird, kNothing}})}),
               ElementsAre("library: no exception can pass through the code at 0x200",
                           "library: nor through 1 more of its 3 functions"));
@@ -124,7 +124,7 @@ TEST(Unwinding, AFunctionHasItsEncodingFromItsStartToItsEnd) {
               ElementsAre("library: no exception can pass through the code at 0x400"));
 }
 
-TEST(Unwinding, AnEncodingMayLeaveItToTheFrameTable) {
+TEST(Unwinding, AnEncodingMayReferToTheFrameTable) {
   const struct {
     Processor processor;
     std::uint32_t mode;
@@ -147,13 +147,13 @@ TEST(Unwinding, AnEncodingMayLeaveItToTheFrameTable) {
   }
 }
 
-TEST(Unwinding, AllFunctionsHaveToBeListed) {
+TEST(Unwinding, AllFunctionsMustBeListed) {
   EXPECT_THAT(findings({plain({{kFirst, kFrame}}), {}, {0x80, 0x06, 0}}),
               ElementsAre("library: does not list its functions"));
 }
 
-/// All bytes of a table, each changed in turn: a damaged table is named, and nothing else
-/// happens.
+/// Changes every byte of a table in turn. The checker must report the damaged table and must not
+/// fail otherwise.
 template <class Change>
 int damaged(const Shape& whole, Bytes Shape::*table, Change change) {
   int named = 0;
@@ -182,7 +182,7 @@ TEST(Unwinding, DamagedTablesAreNamed) {
   }
 }
 
-TEST(Unwinding, WhatIsWrongWithATableIsSaid) {
+TEST(Unwinding, ErrorsSayWhatIsWrongWithATable) {
   const std::string damage = "library: its unwind tables are damaged: ";
   Shape shape{plain({{kFirst, kFrame}}), described(kSecond, 0x100)};
   shape.encodings[0] = 2;

@@ -9,8 +9,8 @@
 #include "tests/macho/loader/loaded_image.h"
 #include "tests/macho/loader/phone_symbols.h"
 
-// An extension for the desktop without anything of its own: it maps the library of the phone's
-// format that lies beside it, and shows the console what that one exports.
+// An extension for the desktop with no function of its own: it maps the library in the phone's file
+// format that is next to it, and exports that library's table to the console.
 
 namespace {
 
@@ -33,14 +33,14 @@ std::filesystem::path phone_library() {
   return std::filesystem::path(here.dli_fname).replace_extension(".dylib");
 }
 
-/// What the image is linked with comes into the process before it.
+/// Loads the libraries that the image is linked to.
 void load_libraries_of(const Image& image) {
   for (const std::string& each : image.libraries())
     if (!dlopen(each.c_str(), RTLD_LAZY))
       throw FormatError("it needs " + each + ", which the phone does not have");
 }
 
-/// The last of `kMostGlobals` stays the end of the table.
+/// The last of the `kMostGlobals` entries marks the end of the table.
 void show_globals(const LoadedImage& image) {
   const auto* row = static_cast<const ExportedGlobal*>(image.exported("_exported_globals"));
   for (std::size_t i = 0; row && row->name && i + 1 < kMostGlobals; ++i)
@@ -52,7 +52,7 @@ void show_globals(const LoadedImage& image) {
   try {
     const Image image(read_file(file), kOwnProcessor);
     load_libraries_of(image);
-    // Its methods are those of classes that stay for as long as the process does.
+    // Never unloaded: its methods belong to classes that cannot be removed.
     static const LoadedImage* loaded = new LoadedImage(image, &find_phone_symbol);
     show_globals(*loaded);
     loaded->run_initialisers();

@@ -6,12 +6,12 @@ namespace macho_tests {
 
 using sonavue::device::Bytes;
 
-/// What a small library for this machine is made of: a page of code that holds the header, a page
-/// of data, and the tables, each of them given byte by byte.
+/// The parts of a small library for this machine: a page with the header and code, a page of data,
+/// and the tables, all given as bytes.
 struct ImageShape {
   static constexpr std::uint64_t kPage = 0x1000;
-  static constexpr std::uint64_t kCode = 0x800;    // where the code lies in its page
-  static constexpr std::uint64_t kFrames = 0xc00;  // and the frame table behind it
+  static constexpr std::uint64_t kCode = 0x800;    // offset of the code in its page
+  static constexpr std::uint64_t kFrames = 0xc00;  // offset of the frame table after it
   static constexpr std::uint64_t kData = kPage;    // the address of the page of data
   static constexpr std::size_t kDataSegment = 1;
 
@@ -23,7 +23,7 @@ struct ImageShape {
   Bytes code = {};
   Bytes frames = {};
   Bytes data = {};
-  std::uint64_t initialisers = 0;  // how many pointers at the start of the data are to be run
+  std::uint64_t initialisers = 0;  // how many pointers at the start of the data are initialisers
   std::string data_section = "__data";
   std::uint32_t kind_of_data = 0;
   std::uint32_t protection_of_data = 3;
@@ -33,10 +33,11 @@ struct ImageShape {
 
 Bytes image_bytes(const ImageShape& shape);
 
-/// A number as the tables write it: seven bits a byte, the last byte without the eighth.
+/// A number as encoded in the tables: seven bits per byte; the eighth is set in all but the last.
 Bytes packed(std::uint64_t value);
-/// Several pieces one behind the other; a text ends with a zero.
+/// Concatenates the pieces.
 Bytes joined(std::initializer_list<Bytes> pieces);
+/// The bytes of the text with a terminating zero.
 Bytes zero_ended(std::string_view text);
 Bytes pointers(std::initializer_list<std::uint64_t> values);
 

@@ -1,6 +1,6 @@
 #!/bin/sh
-# install_phone.sh BUILD EXTENSION LIBRARY PHONE makes a copy of the built phone in which a library of
-# the phone's own file format stands in for the desktop's, with the test's EXTENSION to load it.
+# install_phone.sh BUILD EXTENSION LIBRARY PHONE makes a copy of the built phone in which LIBRARY, in
+# the phone's own file format, replaces the desktop's library. The test's EXTENSION loads it.
 set -eu
 
 build=$1
@@ -8,11 +8,11 @@ extension=$2
 library=$3
 phone=$4
 
-[ -f "$library" ] || { echo "$library is not there: tools/build simulator makes it" >&2; exit 1; }
+[ -f "$library" ] || { echo "$library does not exist: tools/build simulator makes it" >&2; exit 1; }
 
 rm -rf "$phone"
 mkdir -p "$phone/bin"
-# The launcher looks for everything where it lies itself, so that it has to be a file of its own.
+# The launcher searches for everything in its own folder, so it must be a separate file and not a link.
 cp -p "$build/bin/sonavue" "$phone/bin/sonavue"
 for part in SpringBoard Music Preferences device; do
   ln -s "$build/bin/$part" "$phone/bin/$part"

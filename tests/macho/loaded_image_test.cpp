@@ -36,7 +36,7 @@ void throw_something() {
   throw Thrown();
 }
 
-/// These functions by name; the others are nowhere.
+/// Finds these functions by name; no others exist.
 void* find(const std::string& library, const std::string& symbol) {
   if (symbol == "_first" && library == "/usr/lib/first.dylib")
     return reinterpret_cast<void*>(&first);
@@ -46,7 +46,7 @@ void* find(const std::string& library, const std::string& symbol) {
   return nullptr;
 }
 
-/// A jump to where a pointer of the data leads.
+/// A jump through a pointer in the data.
 Bytes jump(std::uint64_t from, std::uint64_t pointer) {
   const auto distance = static_cast<std::uint32_t>(pointer - from - kJumpSize);
   Bytes code = {0xff, 0x25, 0, 0, 0, 0};
@@ -54,8 +54,8 @@ Bytes jump(std::uint64_t from, std::uint64_t pointer) {
   return code;
 }
 
-/// Two pieces of code that jump to `_first` and `_second`, and are run the other way round;
-/// `_table` is exported and holds a pointer to itself.
+/// Two pieces of code that jump to `_first` and `_second`, listed as initialisers in reverse order.
+/// `_table` is exported and contains a pointer to itself.
 ImageShape whole() {
   ImageShape shape;
   shape.code =
@@ -90,7 +90,7 @@ std::string refusal(const ImageShape& shape) {
   return refusal(image_bytes(shape));
 }
 
-/// Code that makes room on the stack, calls what a pointer of the data leads to, and comes back.
+/// Code that allocates stack space, calls through a pointer in the data, and returns.
 ImageShape calling(const Bytes& frames) {
   constexpr std::size_t kBehindCall = 10;
   ImageShape shape;
@@ -105,12 +105,12 @@ ImageShape calling(const Bytes& frames) {
   return shape;
 }
 
-/// The frame of that code: behind its first instruction there are 16 bytes of it.
+/// The frame description of that code: after its first instruction the frame has 16 bytes.
 Bytes frame_of_calling(std::uint64_t code = kCode, std::uint64_t size = 15) {
   return sonavue::device::frame_bytes(ImageShape::kFrames, code, size, {0x44, 0x0e, 16});
 }
 
-/// Memory of this process that is of nobody's file, as the system lists it.
+/// The anonymous memory mappings of this process, as the system lists them.
 std::vector<std::string> mapped_memory() {
   std::vector<std::string> lines;
   std::ifstream maps("/proc/self/maps");
@@ -119,7 +119,7 @@ std::vector<std::string> mapped_memory() {
   return lines;
 }
 
-TEST(LoadedImage, RunsItsInitialisersInTheirOrderThroughItsBindings) {
+TEST(LoadedImage, RunsItsInitialisersInOrderThroughItsBindings) {
   events.clear();
   const auto image = loaded(whole());
   EXPECT_THAT(events, ElementsAre());
@@ -135,14 +135,14 @@ TEST(LoadedImage, PointersIntoItselfMoveWithIt) {
   EXPECT_EQ(image->exported("_nothing"), nullptr);
 }
 
-TEST(LoadedImage, TwoOfThemStandBesideEachOther) {
+TEST(LoadedImage, TwoOfThemCanBeLoadedTogether) {
   const auto one = loaded(whole());
   const auto other = loaded(whole());
   EXPECT_NE(one->exported("_t"), other->exported("_t"));
   EXPECT_EQ(*static_cast<void**>(other->exported("_t")), other->exported("_t"));
 }
 
-TEST(LoadedImage, WhatAnybodyMayHaveIsItsOwnFirst) {
+TEST(LoadedImage, AWeakBindingPrefersItsOwnSymbol) {
   ImageShape shape = whole();
   shape.weak_bind = joined({{0x40}, zero_ended("_t"), {0x51, 0x71, 0x28, 0x60, 0x08, 0x90, 0x00}});
   const auto image = loaded(shape);
@@ -157,13 +157,13 @@ TEST(LoadedImage, AWeakImportMayBeMissing) {
   EXPECT_EQ(*static_cast<void**>(image->exported("_t")), nullptr);
 }
 
-TEST(LoadedImage, ExceptionsGoThroughItsCode) {
+TEST(LoadedImage, ExceptionsPassThroughItsCode) {
   const auto image = loaded(calling(frame_of_calling()));
   EXPECT_THROW(image->run_initialisers(), Thrown);
   EXPECT_THROW(image->run_initialisers(), Thrown);
 }
 
-TEST(LoadedImage, ItsFramesAreForgottenWithIt) {
+TEST(LoadedImage, ItsFramesAreUnregisteredWithIt) {
   for (int i = 0; i < 100; ++i) {
     const auto image = loaded(calling(frame_of_calling()));
     EXPECT_THROW(image->run_initialisers(), Thrown);
@@ -171,12 +171,12 @@ TEST(LoadedImage, ItsFramesAreForgottenWithIt) {
   EXPECT_THROW(throw_something(), Thrown);
 }
 
-TEST(LoadedImageDeathTest, WithoutFramesAnExceptionEndsTheProcess) {
+TEST(LoadedImageDeathTest, WithoutFramesAnExceptionTerminatesTheProcess) {
   const auto image = loaded(calling({}));
   EXPECT_EXIT(EXPECT_ANY_THROW(image->run_initialisers()), testing::KilledBySignal(SIGABRT), "");
 }
 
-TEST(LoadedImage, FramesHaveToBeOfItsOwnCode) {
+TEST(LoadedImage, FramesMustDescribeItsOwnCode) {
   for (const auto& [code, size] : {std::pair{0x10000u, 15u}, {0xffffff00u, 15u}, {0x2ff8u, 15u}})
     EXPECT_EQ(refusal(calling(frame_of_calling(code, size))),
               "the frame table refers to code outside the image");
@@ -185,7 +185,7 @@ TEST(LoadedImage, FramesHaveToBeOfItsOwnCode) {
   EXPECT_EQ(refusal(calling(damaged)), "the frame table's entry at byte 0 has an unknown version");
 }
 
-TEST(LoadedImageDeathTest, ItsCodeCannotBeWritten) {
+TEST(LoadedImageDeathTest, ItsCodeIsNotWritable) {
   const auto image = loaded(whole());
   char* code = static_cast<char*>(image->exported("_t")) - kData;
   EXPECT_EXIT(*code = 0, testing::KilledBySignal(SIGSEGV), "");
@@ -199,7 +199,7 @@ TEST(LoadedImage, AMissingSymbolIsNamedWithItsLibrary) {
   EXPECT_EQ(refusal(shape), "it needs _first of any library, which is not available");
 }
 
-TEST(LoadedImage, WhatIsNotLoadedHereIsRefusedByName) {
+TEST(LoadedImage, UnsupportedSectionsAreRejectedByName) {
   ImageShape shape = whole();
   for (const std::uint32_t kind : {0x11u, 0x13u, 0x16u}) {
     shape.kind_of_data = kind;
@@ -210,7 +210,7 @@ TEST(LoadedImage, WhatIsNotLoadedHereIsRefusedByName) {
   EXPECT_EQ(refusal(shape), "__objc_classlist would have to be registered by the runtime");
 }
 
-TEST(LoadedImage, SegmentsHaveToBeSensible) {
+TEST(LoadedImage, SegmentsMustBeValid) {
   ImageShape shape = whole();
   shape.protection_of_data = 7;
   EXPECT_EQ(refusal(shape), "__DATA is both writable and executable");
@@ -223,19 +223,19 @@ TEST(LoadedImage, SegmentsHaveToBeSensible) {
   EXPECT_EQ(refusal(shape), "its segments are too far apart");
 }
 
-TEST(LoadedImage, InitialisersHaveToBeCode) {
+TEST(LoadedImage, InitialisersMustBeCode) {
   ImageShape shape = whole();
   shape.data = pointers({kCode, kData});
   EXPECT_EQ(refusal(shape), "__mod_init_func holds something at byte 8 that is not code");
 }
 
-TEST(LoadedImage, AnExportHasToLieInside) {
+TEST(LoadedImage, AnExportMustBeInsideTheImage) {
   ImageShape shape = whole();
   shape.exports = {0x00, 0x01, '_', 't', 0, 0x06, 0x03, 0x00, 0xa0, 0x70, 0x00};
   EXPECT_EQ(refusal(shape), "_t is outside the image");
 }
 
-TEST(LoadedImage, NothingStaysMappedOfWhatIsRefused) {
+TEST(LoadedImage, ARejectedImageLeavesNothingMapped) {
   ImageShape shape = whole();
   shape.bind = joined({{0x12, 0x40}, zero_ended("_nowhere"), {0x51, 0x71, 0x10, 0x90, 0x00}});
   EXPECT_NE(refusal(shape), "");
@@ -246,7 +246,7 @@ TEST(LoadedImage, NothingStaysMappedOfWhatIsRefused) {
   EXPECT_NE(mapped_memory(), before);
 }
 
-TEST(LoadedImage, ACutFileIsRefusedWhereverItIsCut) {
+TEST(LoadedImage, AFileTruncatedAnywhereIsRejected) {
   const Bytes bytes = image_bytes(whole());
   for (std::size_t size = 0; size < bytes.size(); size += size < 1000 ? 1 : 97) {
     const Bytes cut(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
@@ -254,8 +254,8 @@ TEST(LoadedImage, ACutFileIsRefusedWhereverItIsCut) {
   }
 }
 
-// Whatever a byte is changed to, the image is refused or loaded, and the process goes on.
-TEST(LoadedImage, AnyByteOfTheHeadAndTheTablesMayBeWrong) {
+// Whatever a byte is changed to, the image is rejected or loaded, and the process survives.
+TEST(LoadedImage, AnyByteOfTheHeaderAndTheTablesMayBeWrong) {
   const Bytes bytes = image_bytes(whole());
   int refused = 0;
   for (std::size_t at = 0; at < bytes.size(); ++at) {

@@ -5,8 +5,8 @@
 #include "platform/Foundation/NSString.h"
 #include "tests/macho/loader/messages.h"
 
-// What this processor's way of calling has of its own: a register for the place of a result, and
-// callers that take the whole word of a small one, as the phone's compiler makes them.
+// What is specific to calls on this processor: a register for the address of a result, and callers
+// that read the whole word of a small result, as the phone's compiler generates them.
 
 namespace {
 
@@ -27,7 +27,7 @@ long whole_word(Id, Sel) {
   return 0x5a5a'fffe;
 }
 
-/// The last three stand on the stack.
+/// The last three are passed on the stack.
 long sum_is_nine(Id, Sel, double a, double b, double c, double d, double e, double f, double g,
                  double h, double i, double j, double k) {
   const bool is_right = a + b + c + d + e + f + g + h + i + j + k == 9;
@@ -72,20 +72,20 @@ class Answers : public testing::Test {
   Object made_;
 };
 
-TEST_F(Answers, SmallerThanAWordAreFilledWithTheirSignOrWithZeros) {
+TEST_F(Answers, SmallerThanAWordAreSignOrZeroExtended) {
   EXPECT_EQ(answer("signedByte"_sel), 0);
   EXPECT_EQ(answer("half"_sel), 0xfffe);
   EXPECT_EQ(answer("word"_sel), 0x5a5a'fffe);
 }
 
-TEST_F(Answers, OfTheSuperclassAreFilledToo) {
+TEST_F(Answers, OfTheSuperclassAreExtendedToo) {
   const SuperReceiver above{made_.id(), answers()};
   const auto send_super =
       reinterpret_cast<int (*)(const SuperReceiver*, Sel)>(&phone_super_message);
   EXPECT_EQ(send_super(&above, "signedByte"_sel), 0);
 }
 
-TEST_F(Answers, AreMadeWithWhatStandsOnTheStack) {
+TEST_F(Answers, GetTheArgumentsOnTheStack) {
   using Function = int (*)(Id, Sel, double, double, double, double, double, double, double, double,
                            double, double, double);
   const auto send_sum = reinterpret_cast<Function>(&phone_message);
@@ -94,13 +94,13 @@ TEST_F(Answers, AreMadeWithWhatStandsOnTheStack) {
   EXPECT_EQ(send_sum(made_.id(), sum, 0, 0, 0, 0, 0, 0, 0, 0, 2, 3, 5), 0);
 }
 
-TEST_F(Answers, OfFoundationAreWholeWords) {
+TEST_F(Answers, OfFoundationAreExtendedToWords) {
   const auto is_equal = reinterpret_cast<int (*)(Id, Sel, Id)>(&phone_message);
   EXPECT_EQ(is_equal(("an owl"_ns).id(), "isEqual:"_sel, ("an owl"_ns).id()), 1);
   EXPECT_EQ(is_equal(("an owl"_ns).id(), "isEqual:"_sel, ("a fox"_ns).id()), 0);
 }
 
-TEST_F(Answers, TooLargeForRegistersComeBackInTheirPlace) {
+TEST_F(Answers, TooLargeForRegistersAreReturnedInMemory) {
   using Function = CGAffineTransform (*)(Id, Sel, double, CGPoint);
   const auto send_transform = reinterpret_cast<Function>(&phone_message);
   EXPECT_EQ(send_transform(made_.id(), "transformOf:move:"_sel, 1, {5, 6}),

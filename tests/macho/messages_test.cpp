@@ -29,7 +29,7 @@ float half(Object, float value) {
   return value / 2;
 }
 
-/// More of both kinds than there are registers; each counts with another weight.
+/// More arguments of both kinds than there are registers, each with a different weight.
 double sum(Object, int a, long b, signed char c, unsigned d, int e, long f, double g, float h,
            double i, double j, double k, double l, double m, double n, double o, CGPoint p) {
   return a + 2.0 * static_cast<double>(b) + 3 * c + 4.0 * d + 5 * e + 6.0 * static_cast<double>(f) +
@@ -96,13 +96,13 @@ const auto send_rect = as<CGRect (*)(Id, Sel, double, CGRect, int)>(&phone_messa
 const auto send_super_rect =
     as<CGRect (*)(const SuperReceiver*, Sel, double, CGRect, int)>(&phone_super_message);
 
-TEST_F(Messages, IntegersFloatsAndSmallStructuresComeBackInRegisters) {
+TEST_F(Messages, IntegersFloatsAndSmallStructuresAreReturnedInRegisters) {
   EXPECT_EQ(send_number(object(), "answer"_known), 42);
   EXPECT_EQ(send_half(object(), "half:"_known, 0.5f), 0.25f);
   EXPECT_EQ(send_size(object(), "sizeOf:height:"_known, 1.5f, -3), (CGSize{1.5, -3}));
 }
 
-TEST_F(Messages, ALargeStructureComesBackInItsPlace) {
+TEST_F(Messages, ALargeStructureIsReturnedInMemory) {
   const CGRect inside{{1, 2}, {3, 4}};
   EXPECT_EQ(send_rect(object(), "rectOf:inside:number:"_known, 9, inside, 7),
             (CGRect{{1, 2}, {9, -7}}));
@@ -118,18 +118,18 @@ TEST_F(Messages, ManyArgumentsArriveInRegistersAndOnTheStack) {
       1 + 4 - 9 + 16 + 25 + 36 + 49 + 64 + 81 + 100 + 121 + 144 + 169 + 196 + 225 + 256 + 289);
 }
 
-TEST_F(Messages, NilAnswersWithZero) {
+TEST_F(Messages, NilReturnsZero) {
   EXPECT_EQ(send_number(nullptr, "answer"_known), 0);
   EXPECT_EQ(send_half(nullptr, "half:"_known, 0.5f), 0.0f);
   EXPECT_EQ(send_size(nullptr, "sizeOf:height:"_known, 1.5f, -3), CGSize{});
 }
 
-TEST_F(Messages, ASelectorOfTheHostsIsSentWithoutAPlace) {
+TEST_F(Messages, AHostSelectorIsSentWithoutAResultAddress) {
   EXPECT_EQ(send_number(object(), sel_registerName("hash")),
             static_cast<long>(objc::send<NSUInteger>(Object(object()), "hash"_sel)));
 }
 
-TEST_F(Messages, SuperBeginsAboveAndKeepsTheReceiver) {
+TEST_F(Messages, SuperStartsAtTheSuperclassAndKeepsTheReceiver) {
   const SuperReceiver above = super();
   const auto send_super = as<long (*)(const SuperReceiver*, Sel)>(&phone_super_message);
   EXPECT_EQ(send_super(&above, "answer"_known), 41);

@@ -3,13 +3,13 @@
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "tests/macho/loader/messages.h"
 
-// The place of a result in memory is an argument here: the first one, which is given back.
+// On this processor the address of a result in memory is the first argument, and is also returned.
 
 namespace {
 
 using Function = CGRect* (*)(CGRect*, objc::Id, objc::Sel, double);
 
-TEST(MessagesToNil, LeaveThePlaceOfAResultAlone) {
+TEST(MessagesToNil, LeaveTheResultsMemoryUnchanged) {
   const auto send_rect = reinterpret_cast<Function>(&phone_message);
   CGRect place{{1, 2}, {3, 4}};
   EXPECT_EQ(send_rect(&place, nullptr, macho_tests::phone_selector("rectOf:"), 9), &place);

@@ -7,7 +7,7 @@
 #include "device/check/unwind.h"
 #include "tests/macho/loader/loaded_image.h"
 
-// What is run here has to be what the phone gets, but for the processor.
+// The library that is run here must be the phone's, except for the processor.
 
 namespace macho_tests {
 namespace {
@@ -46,7 +46,7 @@ TEST(PhoneLibrary, NeedsTheSameOnBothProcessors) {
   }
 }
 
-TEST(PhoneLibrary, BindsAllThatItNeeds) {
+TEST(PhoneLibrary, BindsEverythingItNeeds) {
   for (const auto& [preset, processor] : {std::pair("device", kArm64), {"simulator", kX86}}) {
     const Image image = image_of(preset, "Sonavue2.dylib", processor);
     const auto needed = needed_symbols(image);
@@ -54,14 +54,14 @@ TEST(PhoneLibrary, BindsAllThatItNeeds) {
   }
 }
 
-TEST(PhoneLibrary, ShowsItsTableAndNothingElse) {
+TEST(PhoneLibrary, ExportsOnlyItsTable) {
   for (const auto& [preset, processor] : {std::pair("device", kArm64), {"simulator", kX86}})
     EXPECT_THAT(exports(image_of(preset, "Sonavue2.dylib", processor)),
                 ElementsAre(Pair("_exported_globals", testing::Gt(0u))))
         << preset;
 }
 
-TEST(PhoneLibrary, ExceptionsGetThroughAllOfIt) {
+TEST(PhoneLibrary, ExceptionsPassThroughAllOfIt) {
   for (const auto& [preset, processor] : {std::pair("device", kArm64), {"simulator", kX86}}) {
     Findings findings;
     check_unwinding(preset, image_of(preset, "Sonavue2.dylib", processor), findings);

@@ -1,6 +1,6 @@
 #!/bin/sh
 # same_pictures.sh PLAY DESKTOP PHONE SCENARIO FOLDER plays a scenario with the launcher DESKTOP and with
-# the launcher PHONE: both have to end well and to photograph the same, to the last pixel.
+# the launcher PHONE. Both must succeed and take identical pictures.
 set -eu
 
 play=$1

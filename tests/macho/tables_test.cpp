@@ -46,7 +46,7 @@ std::string bind_refusal(const Bytes& table) {
   return refusal([&] { bound(table); });
 }
 
-/// The symbol `_a` of the first library, bound as a pointer in the data, from its start on.
+/// The symbol `_a` of the first library, bound to pointers from the start of the data.
 Bytes symbol_a() {
   return joined({{0x11, 0x40}, zero_ended("_a"), {0x51, 0x71, 0x00}});
 }
@@ -82,13 +82,13 @@ TEST(RebaseTable, NumbersBeyondTheEndGoBackwards) {
               ElementsAre(kData + 0x10, kData + 0x08));
 }
 
-TEST(RebaseTable, EndsAtItsEndOrWhereItSaysSo) {
+TEST(RebaseTable, EndsAtTheLastByteOrAtTheDoneOpcode) {
   EXPECT_THAT(rebased({}), IsEmpty());
   EXPECT_THAT(rebased({0x11, 0x21, 0x00, 0x51}), ElementsAre(kData));
   EXPECT_THAT(rebased({0x11, 0x21, 0x00, 0x51, 0x00, 0xff}), ElementsAre(kData));
 }
 
-TEST(RebaseTable, SaysWhatIsWrongAndWhere) {
+TEST(RebaseTable, ErrorsSayWhatIsWrongAndWhere) {
   const std::string damaged = "the rebase table is damaged at byte ";
   EXPECT_EQ(rebase_refusal({0x21}), damaged + "1: it is truncated");
   EXPECT_EQ(rebase_refusal({0x21, 0x80}), damaged + "2: it is truncated");
@@ -105,7 +105,7 @@ TEST(RebaseTable, SaysWhatIsWrongAndWhere) {
             damaged + "11: a number is too large");
 }
 
-TEST(BindTable, OneSymbolAtEveryKindOfDistance) {
+TEST(BindTable, OneSymbolAtEveryKindOfStride) {
   EXPECT_THAT(bound(joined({symbol_a(), {0x90, 0x80, 0x10, 0xa0, 0x08, 0xb2, 0x90, 0x00}})),
               ElementsAre(binding_of_a(kData), binding_of_a(kData + 0x18),
                           binding_of_a(kData + 0x28), binding_of_a(kData + 0x40)));
@@ -120,7 +120,7 @@ TEST(BindTable, WhatIsSetStaysUntilItIsSetAgain) {
               ElementsAre(binding_of_a(kData), binding_of_b));
 }
 
-TEST(BindTable, SymbolsOfTheImageItselfOrOfAnybody) {
+TEST(BindTable, SymbolsOfTheImageItselfOrOfAnyLibrary) {
   for (const std::uint8_t library : {0x10, 0x30, 0x3e}) {
     const auto found = bound(joined({symbol_a(), {library, 0x90}}));
     ASSERT_EQ(found.size(), 1u);
@@ -128,13 +128,13 @@ TEST(BindTable, SymbolsOfTheImageItselfOrOfAnybody) {
   }
 }
 
-TEST(BindTable, LazyEntriesEndEachByThemselves) {
+TEST(BindTable, EachLazyEntryEndsSeparately) {
   const Bytes lazy = joined({symbol_a(), {0x90, 0x00}, symbol_a(), {0x80, 0x08, 0x90, 0x00, 0x00}});
   EXPECT_THAT(bindings(image_of({.lazy_bind = lazy})),
               ElementsAre(binding_of_a(kData), binding_of_a(kData + 8)));
 }
 
-TEST(BindTable, TheThreeTablesComeInTheirOrder) {
+TEST(BindTable, TheThreeTablesAreReadInOrder) {
   const auto table = [](const char* name, std::uint8_t offset) {
     return joined({{0x40}, zero_ended(name), {0x71, offset, 0x90, 0x00}});
   };
@@ -144,12 +144,12 @@ TEST(BindTable, TheThreeTablesComeInTheirOrder) {
   EXPECT_EQ(found[0].symbol + found[1].symbol + found[2].symbol, "_b_w_l");
 }
 
-TEST(BindTable, ADefinitionThatCountsBindsNothing) {
+TEST(BindTable, AStrongDefinitionBindsNothing) {
   const Bytes weak = joined({{0x48}, zero_ended("_w"), {0x00}});
   EXPECT_THAT(bindings(image_of({.weak_bind = weak})), IsEmpty());
 }
 
-TEST(BindTable, SaysWhatIsWrongAndWhere) {
+TEST(BindTable, ErrorsSayWhatIsWrongAndWhere) {
   const std::string damaged = "the binding table is damaged at byte ";
   EXPECT_EQ(bind_refusal({0x40, '_', 'a'}), damaged + "3: it is truncated");
   EXPECT_EQ(bind_refusal({0x13}), damaged + "1: there is no such library");
@@ -165,19 +165,19 @@ TEST(BindTable, SaysWhatIsWrongAndWhere) {
               HasSubstr("the weak binding table"));
 }
 
-/// `_one` at 0x800 and `_other` at 0x1010, which begin alike.
+/// `_one` at 0x800 and `_other` at 0x1010, which share a prefix.
 const Bytes kTwoExports = {0x00, 0x01, '_',  'o',  0,    0x06,                               // root
                            0x00, 0x02, 'n',  'e',  0,    0x12, 't', 'h', 'e', 'r', 0, 0x17,  // _o
                            0x03, 0x00, 0x80, 0x10, 0x00,                                     // _one
                            0x03, 0x04, 0x90, 0x20, 0x00};  // _other
 
-TEST(ExportTable, NamesArePutTogetherOnTheWay) {
+TEST(ExportTable, NamesAreJoinedAlongThePath) {
   EXPECT_THAT(exports(image_of({.exports = kTwoExports})),
               ElementsAre(Pair("_one", 0x800), Pair("_other", 0x1010)));
   EXPECT_THAT(exports(image_of({})), IsEmpty());
 }
 
-TEST(ExportTable, SaysWhatIsWrongAndWhere) {
+TEST(ExportTable, ErrorsSayWhatIsWrongAndWhere) {
   const auto export_refusal = [](const Bytes& table) {
     return refusal([&] { exports(image_of({.exports = table})); });
   };
@@ -191,7 +191,7 @@ TEST(ExportTable, SaysWhatIsWrongAndWhere) {
   EXPECT_EQ(export_refusal({0x03, 0x08, 0x00, 0x00}), damaged + "2:  is not an ordinary symbol");
 }
 
-TEST(Tables, AreMissedWhereTheCommandIsNotThere) {
+TEST(Tables, AreMissingWithoutTheirCommand) {
   Bytes bytes = image_bytes({});
   const Image whole(bytes, sonavue::device::kX86);
   const std::size_t command = whole.command(sonavue::device::kDyldInformation)->offset;
@@ -200,7 +200,7 @@ TEST(Tables, AreMissedWhereTheCommandIsNotThere) {
             "it has no classic dyld information");
 }
 
-TEST(Tables, ReachNotBeyondTheFile) {
+TEST(Tables, MustNotReachBeyondTheFile) {
   Bytes bytes = image_bytes({});
   const Image whole(bytes, sonavue::device::kX86);
   const std::size_t command = whole.command(sonavue::device::kDyldInformation)->offset;

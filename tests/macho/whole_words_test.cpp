@@ -4,8 +4,8 @@
 #include "objc/class_builder.h"
 #include "platform/Foundation/NSString.h"
 
-// The phone's compiler takes the whole word of a small integer that it gets, as an argument or as a
-// result. Here functions that do so stand for its code, and the host has to fill their words.
+// The phone's compiler reads the whole word of a small integer argument or result. Here functions
+// that do so play the part of its code, and the host has to extend the integers to words.
 
 namespace {
 
@@ -73,25 +73,25 @@ class WholeWords : public testing::Test {
   Object object_;
 };
 
-TEST_F(WholeWords, AHostsMethodFillsTheWordOfItsResult) {
+TEST_F(WholeWords, AHostMethodExtendsItsResultToAWord) {
   EXPECT_EQ(word_of("lowByte:"_sel, kNo), 0);
   EXPECT_EQ(word_of("lowByte:"_sel, kMinusOne), -1);
   EXPECT_EQ(word_of("lowHalf:"_sel, 0x7654'fedcL), 0xfedc);
 }
 
-TEST_F(WholeWords, AMessageFillsTheWordsOfItsArguments) {
+TEST_F(WholeWords, AMessageExtendsItsArgumentsToWords) {
   volatile long word = kNo;
   EXPECT_EQ(objc::send<int>(object_, "take:"_sel, static_cast<BOOL>(word)), 0);
   word = kMinusOne;
   EXPECT_EQ(objc::send<int>(object_, "take:"_sel, static_cast<BOOL>(word)), -1);
 }
 
-TEST_F(WholeWords, WhatAnotherLeavesAboveAResultDoesNotCount) {
+TEST_F(WholeWords, GarbageAboveAForeignResultIsIgnored) {
   EXPECT_EQ(objc::send<BOOL>(object_, "isRubbish"_sel), NO);
   EXPECT_FALSE(objc::from_abi<bool>(static_cast<int>(kNo)));
 }
 
-TEST(WholeWordsOfBlocks, ABlockFillsTheWordOfItsResult) {
+TEST(WholeWordsOfBlocks, ABlockExtendsItsResultToAWord) {
   const auto made = objc::block([](long word) { return static_cast<BOOL>(word); });
   const objc::Block<BOOL(long)> block = made;
   const auto* header = static_cast<const objc::block_abi::Header*>(block.get());
@@ -100,7 +100,7 @@ TEST(WholeWordsOfBlocks, ABlockFillsTheWordOfItsResult) {
   EXPECT_EQ(invoke(block.get(), kMinusOne), -1);
 }
 
-TEST(WholeWordsOfBlocks, WhoRunsABlockFillsTheWordsOfItsArguments) {
+TEST(WholeWordsOfBlocks, CallingABlockExtendsItsArgumentsToWords) {
   const objc::block_abi::Header header{_NSConcreteStackBlock, 0, 0, imp(&word_of_block_argument),
                                        nullptr};
   const objc::Block<int(BOOL)> block(&header);

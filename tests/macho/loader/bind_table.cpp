@@ -35,7 +35,7 @@ class Reader {
   void read() {
     while (!stream_.is_at_end()) {
       const std::uint8_t code = stream_.byte();
-      // Each entry of the lazy table ends by itself.
+      // In the lazy table the done opcode only ends one entry.
       if (code == kDone && !is_lazy_) return;
       if (code != kDone) step(code & kOpcodeMask, code & kImmediateMask);
     }
@@ -54,7 +54,7 @@ class Reader {
       case kSetSymbol:
         current_.symbol = stream_.text();
         current_.may_be_missing = immediate & kWeakImport;
-        // Says that this image has the one definition that counts, and binds nothing.
+        // Only states that this image has the strong definition; binds nothing.
         if (immediate & kStrongDefinition) current_.symbol.clear();
         return;
       case kSetType:

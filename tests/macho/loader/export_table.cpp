@@ -6,7 +6,8 @@ namespace {
 constexpr std::uint64_t kOrdinary = 0;
 constexpr std::uint64_t kWeakDefinition = 4;
 
-/// The table is a tree: an edge is a piece of a name, a node the symbol whose name ends there.
+/// Walks the table, which is a trie: edges are pieces of names, and a node is the symbol whose name
+/// ends there.
 class Walk {
  public:
   explicit Walk(const Image& image)
@@ -24,7 +25,7 @@ class Walk {
   };
 
   void visit(std::uint64_t node, const std::string& name) {
-    // A damaged tree may lead back into itself.
+    // A damaged trie may contain a cycle.
     if (nodes_left_-- == 0) stream_.refuse("it has no end");
     stream_.go_to(node);
     if (stream_.number() != 0) read_symbol(name);

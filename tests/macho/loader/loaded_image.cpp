@@ -13,7 +13,7 @@ constexpr std::uint32_t kLastOfLaterSystems = 0x16;
 constexpr std::uint32_t kRunnable = 4;
 constexpr std::uint64_t kPointer = sizeof(void*);
 
-/// What would be passed over in silence is refused.
+/// Rejects kinds of sections that would otherwise be ignored silently.
 void check_sections(const Image& image) {
   for (const Section& each : image.sections()) {
     const std::uint32_t kind = each.flags & kKindOfSection;
@@ -75,7 +75,7 @@ std::uintptr_t LoadedImage::address_for(const Binding& binding, const FindSymbol
                     ", which is not available");
 }
 
-// The file holds addresses as they were linked, so they can be judged before anything is mapped.
+// The file has the addresses as linked, so they can be checked before anything is mapped.
 void LoadedImage::read_initialisers(const Image& image) {
   for (const Section& each : image.sections()) {
     if ((each.flags & kKindOfSection) != kInitialisers) continue;

@@ -8,28 +8,27 @@
 
 namespace macho_tests {
 
-/// The processor whose images can be run in this process.
+/// The processor whose images can run in this process.
 #if defined(__aarch64__)
 inline constexpr Processor kOwnProcessor = kArm64;
 #else
 inline constexpr Processor kOwnProcessor = kX86;
 #endif
 
-/// An image of the phone's file format in this process's memory: moved to where there was room,
-/// bound to others' symbols, protected, with its frames known. Its code stays until the object
-/// goes.
+/// An image in the phone's file format, loaded into this process: relocated, bound, protected, and
+/// with its frames registered. Its code stays mapped until this object is destroyed.
 class LoadedImage {
  public:
-  /// The address of a library's symbol as the file names it; null where there is none.
+  /// Returns the address of a library's symbol, by its name in the file; null if there is none.
   using FindSymbol = std::function<void*(const std::string& library, const std::string& symbol)>;
 
-  /// A FormatError says why an image is not loaded; nothing stays mapped then.
+  /// Throws FormatError if the image cannot be loaded. Then nothing stays mapped.
   LoadedImage(const Image& image, const FindSymbol& find);
 
-  /// Runs what the image wants to run before anything else, in the file's order.
+  /// Runs the image's initialisers in the file's order.
   void run_initialisers() const;
 
-  /// The address of a symbol that the image exports; null where it does not.
+  /// The address of an exported symbol; null if the image does not export it.
   void* exported(const std::string& symbol) const;
 
   std::size_t count_of_bindings() const { return bindings_.size(); }

@@ -59,7 +59,7 @@ void Memory::map() {
 }
 
 void Memory::protect(const Image& image) {
-  // Not every processor runs what was just written without being told.
+  // Some processors need their instruction cache flushed before they run newly written code.
   auto* begin = reinterpret_cast<char*>(base_);
   __builtin___clear_cache(begin, begin + (end_ - lowest_));
   for (const Segment& each : image.segments())

@@ -4,23 +4,23 @@
 
 namespace macho_tests {
 
-/// The segments of an image in this process's memory, at the distances from each other that they
-/// were linked with; first all of it writable.
+/// The segments of an image in this process's memory, at their linked distances from each other.
+/// All of it is writable at first.
 class Memory {
  public:
-  /// Refuses segments that overlap, or are not whole pages of a sensible size.
+  /// Throws FormatError if segments overlap, are not page-aligned, or have an implausible size.
   explicit Memory(const Image& image);
   ~Memory();
   Memory(const Memory&) = delete;
   Memory& operator=(const Memory&) = delete;
 
-  /// Gives every segment the protection that the file wants.
+  /// Sets the protection of every segment as the file requests.
   void protect(const Image& image);
 
   bool is_inside(std::uint64_t address) const { return address >= lowest_ && address < end_; }
-  /// How far the image has moved; numbers wrap round.
+  /// The image's offset from its linked address. The subtraction may wrap around.
   std::uintptr_t slide() const { return base_ - lowest_; }
-  /// Where the linked address lies now.
+  /// The current address of a linked address.
   void* at(std::uint64_t address) const { return reinterpret_cast<void*>(address + slide()); }
 
  private:

@@ -3,12 +3,13 @@
 
 #include "tests/macho/loader/messages.h"
 
-// Nobody knows here which of the registers that carry arguments are in use, so all of them are kept
-// while the method is looked up: the numbers, the place of a result in memory, the fractions.
+// It is unknown which argument registers are in use, so all of them are saved while the method is
+// looked up: the integer registers, the address of a result in memory, the floating-point
+// registers.
 //
-// A method whose result is smaller than a word is called and not gone on to: the phone's code takes
-// the whole word of such a result, of which the desktop's compilers fill the lowest part alone.
-// What the caller has put on the stack is copied for that, as much as any such message has.
+// A method whose result is smaller than a word is called instead of jumped to: the phone's code
+// reads the whole word of such a result, but the desktop's compilers only set its lowest part. For
+// the call the caller's stack arguments are copied, as many as any such message has.
 asm(R"(
   .macro keep_frame size
     stp x29, x30, [sp, #-\size]!
@@ -130,7 +131,8 @@ void phone_nil();
 namespace macho_tests {
 namespace {
 
-/// What is called, and what then fills the word of its result; null where that is whole.
+/// The method to call, and the function that then extends its result to a word; null if the result
+/// needs no extension.
 struct Answer {
   objc::Imp method;
   objc::Imp fill;
@@ -152,7 +154,7 @@ objc::Imp fill_for(const char* encoding) {
   }
 }
 
-/// Remembers what methods answer with. Whoever replaces one gives a function of the same type.
+/// Caches the result types of methods. A method is only ever replaced by one of the same type.
 class Answers {
  public:
   Answer of(objc::Imp method, objc::Class cls, objc::Sel selector) {
@@ -170,7 +172,7 @@ class Answers {
   std::unordered_map<objc::Imp, objc::Imp> fills_;
 };
 
-/// Made at the first use, which comes before the statics of what is loaded.
+/// Made at the first use, which precedes the static initialisation of what is loaded.
 Answers& answers() {
   static Answers known;
   return known;
@@ -184,7 +186,7 @@ objc::Sel phone_selector(const char* name) {
 
 extern "C" {
 
-// The first registers hold whom the message is for, and the selector.
+// The first two registers hold the receiver and the selector.
 [[gnu::used]] Answer phone_method(void** registers) {
   const auto receiver = static_cast<objc::Id>(registers[0]);
   const auto selector = static_cast<objc::Sel>(registers[1]);

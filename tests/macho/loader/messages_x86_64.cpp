@@ -3,9 +3,9 @@
 
 #include "tests/macho/loader/messages.h"
 
-// Nobody knows here which of the registers that carry arguments are in use, so all of them are kept
-// while the method is looked up. Who looks it up may change those that are not for fractions, and
-// may raise an exception: a class that is asked for the first time initialises itself.
+// It is unknown which argument registers are in use, so all of them are saved while the method is
+// looked up. The lookup may change those that are not for floating-point numbers, and may raise an
+// exception: the first message to a class initialises it.
 asm(R"(
   .macro send_by finder
     .cfi_startproc
@@ -105,14 +105,14 @@ class KnownSelectors {
   std::unordered_set<const void*> known_;
 };
 
-/// Made at the first use, which comes before the statics of what is loaded.
+/// Made at the first use, which precedes the static initialisation of what is loaded.
 KnownSelectors& selectors() {
   static KnownSelectors known;
   return known;
 }
 
-/// The first arguments of a message: perhaps a place for the result, then whom it is for, then the
-/// selector. A selector of somebody else's is taken for one without such a place.
+/// The first arguments of a message: possibly an address for the result, then the receiver, then
+/// the selector. With an unknown selector it is assumed that there is no such address.
 struct Message {
   explicit Message(void** registers)
       : has_place(!selectors().has(registers[1]) && selectors().has(registers[2])),
@@ -134,7 +134,7 @@ objc::Sel phone_selector(const char* name) {
 
 extern "C" {
 
-// Nil leaves the place of a result as it was, as on the phone.
+// A message to nil leaves the memory of the result unchanged, as on the phone.
 [[gnu::used]] objc::Imp phone_method(void** registers) {
   const Message message(registers);
   const auto receiver = static_cast<objc::Id>(message.target);

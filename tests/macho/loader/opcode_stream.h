@@ -9,14 +9,14 @@ using namespace sonavue::device;
 /// The tables that the dynamic linker reads, as the load command lists them.
 enum class Table { kRebase, kBind, kWeakBind, kLazyBind, kExports };
 
-/// Half of a byte says what is to be done, the other half is a small number for it.
+/// One half of a byte is the opcode, the other half is a small operand.
 inline constexpr std::uint8_t kOpcodeMask = 0xf0;
 inline constexpr std::uint8_t kImmediateMask = 0x0f;
-/// The one kind of place that 64-bit processors have.
+/// The only kind of place on 64-bit processors.
 inline constexpr std::uint8_t kPointerType = 1;
 
-/// Reads one of these tables byte by byte. What is wrong with it is a FormatError that names the
-/// table and the offset in it.
+/// Reads one of these tables byte by byte. Errors are thrown as a FormatError that names the table
+/// and the offset in it.
 class OpcodeStream {
  public:
   OpcodeStream(const Image& image, Table table);

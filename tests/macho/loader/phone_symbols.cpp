@@ -19,7 +19,7 @@ constexpr std::string_view kSystemLibrary = "/usr/lib/libSystem.B.dylib";
 constexpr std::size_t kPhoneNameLength = 256;
 constexpr std::size_t kPhoneNames = 5;
 
-/// The phone's structure has longer names than this machine's.
+/// The fields of the phone's structure are longer than those of this machine's.
 int phone_uname(char (*names)[kPhoneNameLength]) {
   SystemName here;
   if (uname(&here) != 0) return -1;
@@ -34,12 +34,12 @@ objc::Class phone_object_class(objc::Id object) {
   return object ? objc::class_of(object) : nullptr;
 }
 
-/// Everything is bound before it is called, so nobody comes here.
+/// Never called, since everything is bound before it is called.
 void bind_when_called() {
   __builtin_trap();
 }
 
-// Any number that an overrun does not write by chance.
+// Any number that an overrun is unlikely to write.
 std::uintptr_t stack_guard = 0x00ff'0a0d'5ca1'ab1e;
 
 struct Known {
@@ -55,14 +55,14 @@ void* address_of(Function* function) {
 template <auto Function>
 struct Whole;
 
-/// Calls a function of the runtime that answers with less than a word. The phone's code takes a
-/// whole one, which the desktop's compilers do not fill.
+/// Calls a function of the runtime whose result is smaller than a word. The phone's code reads the
+/// whole word, which the desktop's compilers do not set.
 template <class Small, class... Arguments, Small (*Function)(Arguments...)>
 struct Whole<Function> {
   static int call(Arguments... arguments) { return Function(arguments...); }
 };
 
-/// Made at the first call, which may come before this file's other statics are.
+/// Made at the first call, which may precede the initialisation of this file's other statics.
 std::span<const Known> made_here() {
   static const Known known[] = {
       {"_objc_msgSend", address_of(&phone_message)},
@@ -80,7 +80,8 @@ std::span<const Known> made_here() {
   return known;
 }
 
-/// Of the phone's system library only these are taken for the same as the desktop's.
+/// The only functions of the phone's system library that are assumed to be the same as the
+/// desktop's.
 constexpr std::string_view kSameOnBothSystems[] = {
     "__Block_copy",      "__Block_release", "__NSConcreteStackBlock",
     "__dispatch_main_q", "_dispatch_async", "_dlopen",
@@ -96,7 +97,7 @@ void* find_phone_symbol(const std::string& library, const std::string& symbol) {
   const bool is_same =
       std::count(std::begin(kSameOnBothSystems), std::end(kSameOnBothSystems), symbol);
   if (library == kSystemLibrary && !is_same) return nullptr;
-  // In this file format every name of C has an underscore before it.
+  // In this file format every C name has a leading underscore.
   return symbol.rfind('_', 0) == 0 ? dlsym(RTLD_DEFAULT, symbol.c_str() + 1) : nullptr;
 }
 

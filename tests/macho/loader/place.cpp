@@ -8,7 +8,8 @@ constexpr std::uint32_t kWritable = 2;
 
 }  // namespace
 
-// A damaged table could name one place for ever; none needs more entries than the file has bytes.
+// A damaged table could refer to places endlessly. No table needs more entries than the file has
+// bytes.
 Place::Place(const Image& image) : image_(image), left_(image.bytes().size()) {}
 
 void Place::set(const OpcodeStream& stream, std::uint64_t segment, std::uint64_t offset) {

@@ -4,22 +4,22 @@
 
 namespace macho_tests {
 
-/// Where the next pointer stands that a table speaks of: an address of the image as it was linked.
+/// The place of the next pointer that a table refers to, as a linked address of the image.
 class Place {
  public:
   explicit Place(const Image& image);
 
   void set(const OpcodeStream& stream, std::uint64_t segment, std::uint64_t offset);
-  /// Numbers wrap round: tables go backwards by adding very large ones.
+  /// The addition may wrap around: tables move backwards by adding very large numbers.
   void advance(std::uint64_t bytes) { offset_ += bytes; }
-  /// The address, which has to be of memory that can be written; then moves behind the pointer.
+  /// Returns the address and moves past the pointer. Throws FormatError if it is not writable.
   std::uint64_t take(const OpcodeStream& stream);
 
  private:
   const Image& image_;
   const Segment* segment_ = nullptr;
   std::uint64_t offset_ = 0;
-  std::uint64_t left_ = 0;  // how many pointers a table may speak of at all
+  std::uint64_t left_ = 0;  // how many more pointers the table may refer to
 };
 
 }  // namespace macho_tests

@@ -14,8 +14,8 @@ constexpr std::size_t kEnd = sizeof(std::uint32_t);
 
 }  // namespace
 
-// The process wants a zero behind the last entry, for which the image need not have room: what is
-// registered is a copy. Addresses in it are counted from where they stand themselves.
+// Registration needs a zero after the last entry, for which the image may have no space, so a copy
+// is registered. Addresses in it are relative to their own position.
 RegisteredFrames::RegisteredFrames(const Image& image, const Memory& memory) {
   const std::vector<FrameDescription> frames = frame_descriptions(image);
   if (frames.empty()) return;

@@ -4,11 +4,11 @@
 
 namespace macho_tests {
 
-/// The frames of an image's code, made known to this process: exceptions find their way through it
-/// for as long as the object is there.
+/// Registers the frames of an image's code with this process, so that exceptions can pass through
+/// the code for as long as this object exists.
 class RegisteredFrames {
  public:
-  /// Refuses a table that is damaged, or speaks of code outside of the image.
+  /// Throws FormatError if the table is damaged or refers to code outside the image.
   RegisteredFrames(const Image& image, const Memory& memory);
   ~RegisteredFrames();
   RegisteredFrames(const RegisteredFrames&) = delete;

@@ -1,7 +1,7 @@
 #!/bin/sh
-# install_package.sh PACKAGE DESKTOP BUILD EXTENSION PHONE EMULATOR… makes a phone of the programs in
-# BUILD, which are another processor's, and of what the PACKAGE holds; EXTENSION loads the package's
-# library. What belongs to the device is that of DESKTOP, the same phone for this machine's processor.
+# install_package.sh PACKAGE DESKTOP BUILD EXTENSION PHONE EMULATOR… makes a phone from the programs in
+# BUILD, which are for another processor, and the contents of PACKAGE; EXTENSION loads the package's
+# library. The device's files come from DESKTOP, the same phone for this machine's processor.
 set -eu
 
 package=$1
@@ -16,10 +16,10 @@ emulator=$*
 
 rm -rf "$phone"
 mkdir -p "$phone/bin/device" "$phone/staging"
-# The launcher looks for everything where it lies itself, so that it has to be a file of its own.
+# The launcher searches for everything in its own folder, so it must be a separate file and not a link.
 cp -p "$build/bin/sonavue" "$phone/bin/sonavue"
 
-# start NAME PROGRAM: what is called NAME runs the program, which the machine cannot do by itself.
+# start NAME PROGRAM makes a script NAME that runs the program with the emulator.
 start() {
   printf '#!/bin/sh\nexec %s "%s" "$@"\n' "$emulator" "$2" >"$phone/$1"
   chmod +x "$phone/$1"
