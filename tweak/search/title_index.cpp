@@ -136,7 +136,7 @@ void TitleIndex::find_long(Places& found) const {
   }
 }
 
-// Writes the place of every title, but moves on to the next slot only after a hit.
+// Writes the place of every title to the next slot, but advances the slot only for hits.
 void TitleIndex::find_short(Places& found) const {
   const ShortNeedle needle(wanted_.begin(), wanted_.count());
   const auto count = static_cast<std::uint32_t>(starts_.count() - 1);

@@ -34,7 +34,7 @@ class Legibility : public PanelSteps {
   void play_cover(std::uint32_t colour) { play(title_of(colour).c_str()); }
   Rgba panel_colour() const { return rgba(global<UIColor>("newColor")); }
   void refresh() { objc::send<>(application, "infoMusic"_sel); }
-  /// Has the effect of a new elapsed time from the system.
+  /// Makes the next refresh see a new elapsed time.
   void bring_news() { global<double>("lastElapsed") = -1; }
 
   void expect_all_in(const Rgba& colour) const {
