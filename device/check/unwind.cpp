@@ -105,7 +105,7 @@ class Coverage {
     auto next = std::upper_bound(encodings_.begin(), encodings_.end(), Encoding{begin, 0}, before);
     if (next == encodings_.begin()) return false;
     for (auto each = next - 1; each != encodings_.end() && each->address < end; ++each)
-      if (!leads_on(each->code, std::max(begin, each->address))) return false;
+      if (!finds_caller(each->code, std::max(begin, each->address))) return false;
     return true;
   }
 
@@ -114,7 +114,7 @@ class Coverage {
     return left.address < right.address;
   }
 
-  bool leads_on(std::uint32_t code, std::uint64_t address) const {
+  bool finds_caller(std::uint32_t code, std::uint64_t address) const {
     const std::uint32_t mode = code & kModeMask;
     if (mode != described_) return mode != 0;
     return std::any_of(descriptions_.begin(), descriptions_.end(), [&](const auto& each) {

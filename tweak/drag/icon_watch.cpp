@@ -9,12 +9,12 @@
 namespace sonavue {
 namespace {
 
-void take_drag_off() {
+void remove_drag() {
   remove_gesture_recognizers(musicIcon);
   added = NO;
 }
 
-void put_drag_on(SpringBoard self) {
+void add_drag(SpringBoard self) {
   attach_drag(self);
   added = YES;
 }
@@ -28,17 +28,17 @@ void find_icon_again(SpringBoard self) {
     added = NO;
     return;
   }
-  put_drag_on(self);
+  add_drag(self);
 }
 
 void keep_attached(SpringBoard self) {
   const bool in_folder = is_in_folder(musicIcon);
   if (!added && !in_folder) {
-    put_drag_on(self);
+    add_drag(self);
   } else if (added && in_folder) {
-    take_drag_off();
+    remove_drag();
   }
-  if (added && musicIcon.isEditing()) take_drag_off();
+  if (added && musicIcon.isEditing()) remove_drag();
 }
 
 }  // namespace
@@ -58,7 +58,7 @@ void attach_drag(SpringBoard self) {
 }
 
 void attach_first_drag(SpringBoard self) {
-  if (!is_in_folder(musicIcon) && !preference_is_on(preference::apex(), NO)) put_drag_on(self);
+  if (!is_in_folder(musicIcon) && !preference_is_on(preference::apex(), NO)) add_drag(self);
 }
 
 void Loping1(SpringBoard self) {

@@ -35,7 +35,7 @@ class Legibility : public PanelSteps {
   Rgba panel_colour() const { return rgba(global<UIColor>("newColor")); }
   void refresh() { objc::send<>(application, "infoMusic"_sel); }
   /// Makes the next refresh see a new elapsed time.
-  void bring_news() { global<double>("lastElapsed") = -1; }
+  void mark_elapsed_as_changed() { global<double>("lastElapsed") = -1; }
 
   void expect_all_in(const Rgba& colour) const {
     EXPECT_THAT(control_colours(), AreAll(colour));
@@ -80,7 +80,7 @@ TEST_F(Legibility, TheMiddleItselfIsDark) {
     said_component = mean;
     const objc::Imp before = method_setImplementation(
         method, reinterpret_cast<objc::Imp>(&objc::MethodOf<&say_components>::call));
-    bring_news();
+    mark_elapsed_as_changed();
     refresh();
     method_setImplementation(method, before);
     return panel_colour();
@@ -124,7 +124,7 @@ TEST_F(Legibility, RecoloursOnlyWhenItsSettingIsOn) {
 TEST_F(Legibility, RecoloursInOrderBeforeTheAlbumListIsRebuilt) {
   play_cover(0xffffff);
   Colours when_reloaded;
-  bring_news();
+  mark_elapsed_as_changed();
   Steps steps = steps_of([this] { refresh(); });
   EXPECT_FALSE(is("did"));
   // Only the last of the refresh's own steps matters here.

@@ -140,7 +140,7 @@ TEST_F(BannerDrag, DismissedOnAnotherPageItComesBackWithTheArtwork) {
   const auto pages = global<UIScrollView>("container");
   pull_open();
   pages.setContentOffset({screen().width, 0});
-  send_away();
+  dismiss_and_settle();
   EXPECT_THAT(pages.contentOffset(), IsNear(CGPoint{0, 0}));
 }
 

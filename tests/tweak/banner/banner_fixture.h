@@ -18,7 +18,7 @@ class BannerTest : public PanelTest {
     objc::send<>(application, "showBanner"_sel);
     settle();
   }
-  void send_away() {
+  void dismiss_and_settle() {
     objc::send<>(application, "dismissBanner"_sel);
     settle();
   }

@@ -120,7 +120,7 @@ TEST_F(Banner, DismissedItLeavesNothingOnTheScreen) {
   play("Alpha");
   advance(1.2);
   show();
-  send_away();
+  dismiss_and_settle();
   EXPECT_FALSE(is("isBanner"));
   EXPECT_FALSE(is("isGrabbing"));
   EXPECT_EQ(alpha("cover"), 0);
@@ -133,7 +133,7 @@ TEST_F(Banner, DismissedItLeavesNothingOnTheScreen) {
 
 TEST_F(Banner, DismissedWithoutTextsItLeavesTheControlsLifted) {
   show();
-  send_away();
+  dismiss_and_settle();
   EXPECT_TRUE(is_laid_out_below_artwork(kLiftWithoutTexts));
 }
 
@@ -161,7 +161,7 @@ TEST_P(BannerOfAnOldPhone, IsFifteenPointsShorterWhileMusicPlays) {
   ASSERT_EQ(global<float>("max"), 0);
   show();
   EXPECT_EQ(hanging(), kBannerWithoutTexts);
-  send_away();
+  dismiss_and_settle();
   play("Alpha");
   advance(1.2);
   show();

@@ -17,8 +17,8 @@ class InterruptedBanner : public BannerTest {
     hanging_ = window_y();
   }
   void call() { objc::send<>(application, "showBanner"_sel); }
-  void send_off() { objc::send<>(application, "dismissBanner"_sel); }
-  void take_the_finger() { touches.cancelled(1, finger(), clock.now()); }
+  void dismiss_banner() { objc::send<>(application, "dismissBanner"_sel); }
+  void cancel_touch() { touches.cancelled(1, finger(), clock.now()); }
   /// Grabs above the screen's edge, where a touch would bring the control centre.
   void grab_open() {
     const CGPoint middle = middle_of(view("grabs"));
@@ -50,7 +50,7 @@ TEST_F(InterruptedBanner, ACancelledGrabLetsItHangAgain) {
   const CGFloat play_y = y_of("play");
   grab();
   move_by(0, 140);
-  take_the_finger();
+  cancel_touch();
   EXPECT_FALSE(is("isGrabbing"));
   settle();
   EXPECT_TRUE(is_hanging());
@@ -64,7 +64,7 @@ TEST_F(InterruptedBanner, ACancelledGrabOfTheOpenBannerLeavesItOpen) {
   pull_open();
   grab_open();
   move_by(0, -80);
-  take_the_finger();
+  cancel_touch();
   EXPECT_FALSE(is("isGrabbing"));
   settle();
   EXPECT_TRUE(is("showed"));
@@ -99,14 +99,14 @@ TEST_F(InterruptedBanner, AnInterruptedOpeningLeavesNoPictureBehind) {
 }
 
 TEST_F(InterruptedBanner, WithoutAGrabItLeavesAPanelWhosePagesTurn) {
-  send_off();
+  dismiss_banner();
   settle();
   expect_gone();
   EXPECT_TRUE(can_be_paged());
 }
 
 TEST_F(InterruptedBanner, ABannerThatLeavesCannotBeGrabbed) {
-  send_off();
+  dismiss_banner();
   advance(0.1);
   grab();
   move_by(0, 40);
@@ -120,7 +120,7 @@ TEST_F(InterruptedBanner, PushedUpItHidesTheKeyboard) {
   pull_open();
   const auto field = global<UITextField>("searchBar");
   ASSERT_TRUE(field.becomeFirstResponder());
-  send_off();
+  dismiss_banner();
   EXPECT_FALSE(field.isFirstResponder());
 }
 
@@ -136,7 +136,7 @@ TEST_F(InterruptedBanner, DismissedDuringAGrabItIsGone) {
 }
 
 TEST_F(InterruptedBanner, ShownAgainWhileItLeavesItComesBack) {
-  send_off();
+  dismiss_banner();
   advance(0.2);
   call();
   settle();
@@ -157,7 +157,7 @@ TEST_F(InterruptedBanner, ShownAgainDuringAGrabItIgnoresThatFinger) {
 }
 
 TEST_F(InterruptedBanner, TheIconCanBeDraggedWhileItLeaves) {
-  send_off();
+  dismiss_banner();
   advance(0.1);
   begin_drag();
   move_by(0, -120);
@@ -174,7 +174,7 @@ TEST_F(InterruptedBanner, TheIconCanBeDraggedWhileItLeaves) {
 }
 
 TEST_F(InterruptedBanner, ShownAfterThePanelWasLeftOnAnotherPageItLeavesTheIconInPlace) {
-  send_off();
+  dismiss_banner();
   settle();
   open_panel();
   const CGFloat y = middle_of(view("container")).y;

@@ -31,14 +31,14 @@ class IconMap : public PanelTest {
         method_getImplementation(class_getInstanceMethod(cls, "respondsToSelector:"_sel));
     objc::replace_method<&answers_without_the_map>(cls, "respondsToSelector:");
   }
-  static void give_to_the_controller() {
+  static void add_map_to_controller() {
     objc::add_method<&map_of_the_controller>(SBIconController::cls(), "homescreenIconViewMap");
   }
 };
 
 TEST_F(IconMap, UsesTheControllersMapIfTheClassHasNone) {
   hide_from_the_class();
-  give_to_the_controller();
+  add_map_to_controller();
   launch();
   EXPECT_GT(asked_controller, 0);
   ASSERT_TRUE(music_icon());
@@ -46,7 +46,7 @@ TEST_F(IconMap, UsesTheControllersMapIfTheClassHasNone) {
 }
 
 TEST_F(IconMap, IgnoresTheControllerIfTheClassHasTheMap) {
-  give_to_the_controller();
+  add_map_to_controller();
   launch();
   EXPECT_EQ(asked_controller, 0);
   EXPECT_TRUE(music_icon());

@@ -15,7 +15,7 @@ class LostFinger : public DragTest {
     DragTest::SetUp();
     home_ = music_icon().frame();
   }
-  void take_the_finger() { touches.cancelled(1, finger(), clock.now()); }
+  void cancel_touch() { touches.cancelled(1, finger(), clock.now()); }
 
   void expect_closed() {
     EXPECT_FALSE(is("isShow"));
@@ -40,7 +40,7 @@ SONAVUE_ON_EVERY_SCREEN(LostFinger);
 TEST_P(LostFinger, OnTheWayOutTheIconGoesStraightHome) {
   begin_drag();
   move_by(20, -120);
-  take_the_finger();
+  cancel_touch();
   EXPECT_EQ(music_icon().frame(), home_);
   EXPECT_EQ(alpha("cover"), 0);
   EXPECT_FALSE(view("music").isHidden());
@@ -55,7 +55,7 @@ TEST_P(LostFinger, OnTheWayBackThePanelGoesStraightHome) {
   hold(middle_of(view("music")));
   move_by(0, 12);
   move_by(-20, 90);
-  take_the_finger();
+  cancel_touch();
   EXPECT_EQ(music_icon().frame(), home_);
   EXPECT_THAT(seconds_until([this] { return !is("isShow"); }), IsSoonAfter(kIconTravel));
   settle();

@@ -41,7 +41,7 @@ class PageScrolling : public PanelTest {
     hold({screen().width / 2, middle_of(view("container")).y});
     move_by(-12, 0);
   }
-  void record_places() {
+  void save_positions() {
     begin_drag_of_pages();
     // Rest, so that the release is not a flick.
     advance(0.5);
@@ -107,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(, EveryPageScrolling,
 
 TEST_P(EveryPageScrolling, KeepsTheControlsInPlaceSinksThemAndRaisesTheIcon) {
   const auto [model, divisor, sinks] = GetParam();
-  record_places();
+  save_positions();
   const CGFloat width = screen().width;
   for (const CGFloat offset : {0.0, 1.0, width / 2, width, 1.5 * width, 2 * width, -30.0, 0.0}) {
     pages().setContentOffset({offset, 0});
@@ -203,7 +203,7 @@ TEST_F(Pages, TheArtworksFrameDecidesWhichPageIsItsOwn) {
 }
 
 TEST_F(Pages, TheBannerMovesTheTwinButNotTheIcon) {
-  record_places();
+  save_positions();
   global<BOOL>("isBanner") = YES;
   pages().setContentOffset({screen().width, 0});
   EXPECT_EQ(music_icon().frame(), icon_);

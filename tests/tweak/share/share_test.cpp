@@ -129,7 +129,7 @@ class ComposerOverPanel : public Share {
     EXPECT_FALSE(is("isBanner"));
     EXPECT_EQ(view("window").subviews().count(), views_of_window_);
   }
-  void remember_views() { views_of_window_ = view("window").subviews().count(); }
+  void count_views() { views_of_window_ = view("window").subviews().count(); }
 
  private:
   NSUInteger views_of_window_ = 0;
@@ -142,7 +142,7 @@ TEST_F(ComposerOverPanel, EveryClosingDismissesItAtOnce) {
       [] { springboard::present_banner("a message"); },
       [] { springboard::present_notification_centre(); },
   };
-  remember_views();
+  count_views();
   for (const auto& close : closings) {
     compose();
     close();
@@ -155,7 +155,7 @@ TEST_F(ComposerOverPanel, EveryClosingDismissesItAtOnce) {
 }
 
 TEST_F(ComposerOverPanel, ItIsDismissedWhileItAppears) {
-  remember_views();
+  count_views();
   tap_on(view("music"));
   advance(0.1);
   ASSERT_TRUE(presenter());
@@ -164,7 +164,7 @@ TEST_F(ComposerOverPanel, ItIsDismissedWhileItAppears) {
 }
 
 TEST_F(ComposerOverPanel, ItIsDismissedWhileItDisappears) {
-  remember_views();
+  count_views();
   compose();
   tap({62, 106});
   advance(0.1);
@@ -173,7 +173,7 @@ TEST_F(ComposerOverPanel, ItIsDismissedWhileItDisappears) {
 }
 
 TEST_F(ComposerOverPanel, ADragBackDismissesIt) {
-  remember_views();
+  count_views();
   hold(middle_of(view("music")));
   // Presented without animation, which would cancel the touch.
   const auto composer = TWTweetComposeViewController::alloc().init().autorelease();
@@ -191,7 +191,7 @@ TEST_F(ComposerOverPanel, ADragBackDismissesIt) {
 TEST_F(ComposerOverPanel, TheBannersEndDismissesIt) {
   springboard::press_home();
   settle();
-  remember_views();
+  count_views();
   objc::send<>(application, "showBanner"_sel);
   settle();
   objc::send<>(application, "tweet"_sel);
