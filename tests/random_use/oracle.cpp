@@ -53,7 +53,7 @@ constexpr Demand kOpen[] = {
 
 // What leaves by itself.
 constexpr const char* kPassing[] = {"a notification is shown", "the volume is shown", "is animated",
-                                    "asks for frames"};
+                                    "frames are still requested"};
 // What another press of the Home button closes: it lay below what the presses before closed.
 constexpr const char* kStillOpen[] = {"an application is in front",
                                       "the switcher is open",

@@ -11,13 +11,13 @@ class Application : public objc::Implementation<Application, SBApplication> {
  public:
   using Implementation::Implementation;
 
-  /// A new object that stands for the installed application; +1.
+  /// Returns a new object that represents the installed application; the caller owns it (+1).
   static SBApplication make(const InstalledApplication& installed);
 
   NSString bundle_identifier() const { return bundle_.get(); }
   NSString display_name() const { return name_.get(); }
   NSString path() const { return path_.get(); }
-  /// Empty when no program belongs to it.
+  /// The name of the application's program; empty when it has none.
   const std::string& program() const { return program_; }
 
  private:

@@ -8,7 +8,7 @@
 
 namespace host::springboard {
 
-/// The installed applications, read from the device when the object is made.
+/// The installed applications, read from the device when the object is created.
 class ApplicationController
     : public objc::Implementation<ApplicationController, SBApplicationController> {
  public:
@@ -16,7 +16,7 @@ class ApplicationController
 
   SBApplication application_with_bundle_identifier(NSString identifier) const;
   NSArray all_applications() const;
-  /// Removes the application's folder and forgets it; its icon goes with it.
+  /// Deletes the application's folder, forgets the application, and removes its icon.
   void uninstall_application(SBApplication application);
 
  private:

@@ -5,7 +5,7 @@
 
 namespace host::springboard {
 
-/// A new view of that class, owned by the caller.
+/// Creates a view of the given class, owned by the caller.
 template <objc::Handle View>
 objc::Ref<View> make_view(CGRect frame) {
   return objc::Ref<View>::adopt(objc::cast<View>(View::alloc().initWithFrame(frame)));

@@ -4,10 +4,10 @@
 
 namespace host::springboard {
 
-/// A picture of the home screen's own by its name without suffix, at this screen's scale; nil when
-/// it is missing.
+/// Returns one of the home screen's own pictures at this screen's scale; nil when it is missing.
+/// `name` has no suffix.
 UIImage picture(NSString name);
-/// The same, in the tablet's size where there is one.
+/// The same, in the tablet's size on a tablet, when there is such a picture.
 UIImage picture_for_idiom(NSString name);
 
 }  // namespace host::springboard

@@ -6,12 +6,12 @@
 
 namespace host::springboard {
 
-/// Objects of which there is one, made when first asked for and kept until all are forgotten.
+/// The registry of singletons. Each is created on first use and kept until all are forgotten.
 class SharedInstances {
  public:
   using Forget = void (*)();
   static void remember(Forget forget);
-  /// Lets go of every one, last made first: the end of a home screen that another will follow.
+  /// Releases them all, the latest first. Ends a home screen so that another can be launched.
   static void forget_all();
 };
 
@@ -25,17 +25,17 @@ class SharedInstance {
     }
     return instance_;
   }
-  /// Nil while nobody has asked for it.
+  /// Nil until it is first used.
   static T if_made() { return instance_; }
 
  private:
   static void forget() { std::exchange(instance_, T()).release(); }
 
-  // A bare handle: nothing is to be released behind the end of `main`.
+  // A bare handle: nothing may be released after `main` has returned.
   static inline T instance_;
 };
 
-/// The same for parts of the home screen that are no objects of the runtime.
+/// The same for parts of the home screen that are not runtime objects.
 template <class T>
 class SharedPart {
  public:
@@ -46,7 +46,7 @@ class SharedPart {
     }
     return *part_;
   }
-  /// Null while nobody has asked for it.
+  /// Null until it is first used.
   static T* if_made() { return part_; }
 
  private:

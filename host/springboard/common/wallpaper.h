@@ -4,12 +4,12 @@
 
 namespace host::springboard {
 
-/// The wallpapers that the phone comes with, by the names of their pictures.
+/// The picture names of the wallpapers that come with the phone.
 NSArray wallpaper_names();
 
-/// What was chosen, or the one that the phone begins with.
+/// The wallpaper that the user chose, or the phone's default one.
 NSString chosen_wallpaper();
-/// Kept in the home screen's preferences, beside whatever else is in them.
+/// Stores the choice in the home screen's preferences; their other entries stay as they are.
 void choose_wallpaper(NSString name);
 
 }  // namespace host::springboard

@@ -4,7 +4,7 @@
 
 namespace host::springboard {
 
-/// Fills the dock with its translucent bar.
+/// Fills the dock with its translucent background.
 void add_dock_ground(UIView dock);
 
 }  // namespace host::springboard

@@ -55,7 +55,7 @@ void FolderPresenter::close(Motion motion) {
   }
   overlay.setUserInteractionEnabled(NO);
   const CGAffineTransform onto_icon = transform_onto_icon();
-  // Another folder may be open by the time this one has gone.
+  // Another folder may be open by the time this animation ends.
   const auto closed = objc::block([this, kept = overlay_, life = std::weak_ptr<void>(life_)](BOOL) {
     if (!life.expired() && kept.get() == overlay_.get()) take_down();
   });
@@ -81,7 +81,7 @@ void FolderPresenter::build(NSString title) {
 }
 
 void FolderPresenter::add_background() {
-  // Beside the panel and not around it, so that a tap on an icon inside is no tap on it.
+  // A sibling of the panel, not its parent: a tap on an icon inside must not count as a tap on it.
   auto background = make_view<UIView>(overlay_->bounds());
   background->setBackgroundColor(UIColor::colorWithWhite(0, kDimming));
   auto tap =
@@ -110,7 +110,7 @@ CGAffineTransform FolderPresenter::transform_onto_icon() const {
 
 void FolderPresenter::take_down() {
   if (!overlay_) return;
-  // The icons inside stay in their list, on the screen or not.
+  // The icons inside stay in their list whether it is on the screen or not.
   list_->removeFromSuperview();
   overlay_->removeFromSuperview();
   list_.reset();

@@ -13,7 +13,7 @@ enum class Motion { kAnimated, kAtOnce };
 /// Opens one folder at a time over the home screen and closes it again.
 class FolderPresenter {
  public:
-  /// `background_target` is sent `folderBackgroundTapped:` for a tap beside the open folder; it is
+  /// A tap outside the open folder sends `folderBackgroundTapped:` to `background_target`, which is
   /// not retained.
   FolderPresenter(HomeScreen& home, objc::Object background_target);
   ~FolderPresenter();
@@ -29,7 +29,7 @@ class FolderPresenter {
   void build(NSString title);
   void add_background();
   void add_title(NSString title);
-  /// The panel made as small as the icon and put over it.
+  /// Shrinks the panel to the icon's size and moves it over the icon.
   CGAffineTransform transform_onto_icon() const;
   void take_down();
 
@@ -39,7 +39,7 @@ class FolderPresenter {
   std::string folder_;
   CGRect icon_frame_;
   bool closing_ = false;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
   objc::Ref<UIView> overlay_;
   objc::Ref<UIView> panel_;

@@ -57,7 +57,7 @@ void HomeScreen::add_pages() {
   scroll_->setAlwaysBounceHorizontal(YES);
   scroll_->setShowsHorizontalScrollIndicator(NO);
   scroll_->setShowsVerticalScrollIndicator(NO);
-  // An icon darkens at once under the finger.
+  // An icon must darken as soon as a finger touches it.
   scroll_->setDelaysContentTouches(NO);
   scroll_->setDelegate(delegate_);
   content_->addSubview(*scroll_);
@@ -86,7 +86,7 @@ void HomeScreen::sync(double duration) {
   for (std::size_t page = 0; page < pages_.size(); ++page)
     sync_list(*pages_[page], layout.pages()[page], duration);
   sync_list(*dock_list_, layout.dock(), duration);
-  remove_what_is_gone();
+  remove_stale_views();
 }
 
 void HomeScreen::sync_page_count() {
@@ -133,7 +133,7 @@ SBIconView HomeScreen::view_for(SBIcon icon) const {
   return view_map().view_for(icon, delegate_);
 }
 
-void HomeScreen::remove_what_is_gone() {
+void HomeScreen::remove_stale_views() {
   const HomeLayout& layout = model_.layout();
   view_map().remove_unless(
       [&](SBIcon icon) { return layout.contains(to_string(icon.nodeIdentifier())); });

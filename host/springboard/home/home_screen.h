@@ -16,26 +16,26 @@
 
 namespace host::springboard {
 
-/// The window of the home screen: wallpaper, pages of icons, page dots and dock.
+/// The home screen's window: wallpaper, pages of icons, page dots and dock.
 class HomeScreen {
  public:
-  /// `delegate` hears of the icons' touches and of the pages' scrolling, and is not retained.
+  /// `delegate` receives the icons' touches and the pages' scrolling; it is not retained.
   HomeScreen(IconModel& model, objc::Object delegate);
 
   UIWindow window() const { return window_.get(); }
-  /// What stands on the wallpaper: pages, dots and dock.
+  /// Everything on top of the wallpaper: pages, dots and dock.
   UIView content() const { return content_.get(); }
   const GridMetrics& grid() const { return grid_; }
 
-  /// Shows the wallpaper that is chosen now.
+  /// Shows the currently chosen wallpaper.
   void show_wallpaper();
-  /// Makes the views what the model says; icons fly to their new slots in `duration` seconds.
+  /// Updates the views from the model; icons move to their new slots within `duration` seconds.
   void sync(double duration);
 
   std::size_t current_page() const;
   void scroll_to_page(std::size_t page, BOOL animated) const;
   void set_paging_enabled(BOOL enabled) const { scroll_->setScrollEnabled(enabled); }
-  /// The pages have moved under the dots.
+  /// Updates the page dots after the pages have scrolled.
   void pages_scrolled() const;
 
   std::size_t page_count() const { return pages_.size(); }
@@ -53,7 +53,7 @@ class HomeScreen {
   void sync_list(SBIconListView view, const HomeLayout::List& list, double duration);
   void sync_folder(const Slot& folder, SBIcon icon);
   SBIconView view_for(SBIcon icon) const;
-  void remove_what_is_gone();
+  void remove_stale_views();
 
   IconModel& model_;
   objc::Object delegate_;

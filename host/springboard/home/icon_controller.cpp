@@ -53,7 +53,7 @@ BOOL IconController::scroll_to_icon_list(NSInteger index, BOOL animated) {
 }
 
 void IconController::scroll_view_did_scroll(UIScrollView) {
-  // The pages' view reports before the screen that holds it is whole.
+  // The scroll view reports for the first time while the home screen is still being built.
   if (home_) home_->pages_scrolled();
 }
 
@@ -70,7 +70,7 @@ void IconController::layout_changed() {
 }
 
 void IconController::icon_touch_began(SBIconView icon_view) {
-  // Another finger may be carrying another icon.
+  // Another finger may already be dragging another icon.
   if (icon_view.isEditing() && !drag_->is_active())
     drag_->begin(icon_view, objc::state_of<IconView>(icon_view).touch_point());
 }

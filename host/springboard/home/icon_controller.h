@@ -13,8 +13,8 @@
 
 namespace host::springboard {
 
-/// The home screen's icons: it owns their model and their views, and decides what a touch on one
-/// means.
+/// Owns the model and the views of the home screen's icons, and decides what a touch on an icon
+/// does.
 class IconController final : public objc::Implementation<IconController, SBIconController> {
  public:
   using Implementation::Implementation;
@@ -30,7 +30,7 @@ class IconController final : public objc::Implementation<IconController, SBIconC
   BOOL scroll_to_icon_list(NSInteger index, BOOL animated);
   void scroll_view_did_scroll(UIScrollView view);
   void folder_background_tapped(UIGestureRecognizer recognizer);
-  // As the delegate of the icons' views.
+  // The delegate methods of the icon views.
   void icon_touch_began(SBIconView icon_view);
   void icon_touch_moved(SBIconView icon_view, UITouch touch);
   void icon_touch_ended(SBIconView icon_view, BOOL lifted);
@@ -39,7 +39,7 @@ class IconController final : public objc::Implementation<IconController, SBIconC
 
   HomeScreen& home() { return *home_; }
   IconModel& icon_model() { return objc::state_of<IconModel>(model_.get()); }
-  /// Shows and keeps an arrangement that was changed from outside; an open folder is closed.
+  /// Shows and saves an arrangement that was changed from outside; closes an open folder.
   void layout_changed();
 
  private:

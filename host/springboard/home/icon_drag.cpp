@@ -25,7 +25,7 @@ constexpr double kRestToDrop = 0.4;
 constexpr double kRestToTurn = 0.7;
 constexpr double kRestToLeave = 0.5;
 
-// Of the icon's side: how near its middle another icon means to go into a folder with it.
+// A share of the icon's side: an icon held closer than this to another's centre is dropped on it.
 constexpr CGFloat kDropReach = 0.3;
 constexpr CGFloat kTurningEdge = 18;
 

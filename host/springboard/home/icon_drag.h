@@ -9,8 +9,8 @@
 
 namespace host::springboard {
 
-/// Carries one icon in the editing mode: a copy of its image follows the finger while the other
-/// icons make room. Where the icon would go is decided once the finger has rested there a moment.
+/// Drags one icon in editing mode: a copy of its image follows the finger while the other icons
+/// make room. The target is decided once the finger has rested in one place for a moment.
 class IconDrag {
  public:
   IconDrag(HomeScreen& home, IconModel& model, FolderPresenter& folders);
@@ -20,10 +20,10 @@ class IconDrag {
 
   bool is_active() const { return static_cast<bool>(icon_view_); }
   bool carries(SBIconView icon_view) const { return is_active() && *icon_view_ == icon_view; }
-  /// Points are in the coordinates of the window.
+  /// Points are in the window's coordinates.
   void begin(SBIconView icon_view, CGPoint point);
   void move(CGPoint point);
-  /// Puts the icon where it is aimed and the arrangement on the device.
+  /// Drops the icon at its target and saves the arrangement to the device.
   void end();
 
  private:
@@ -31,7 +31,7 @@ class IconDrag {
   struct Aim {
     Intent intent = Intent::kStay;
     Place place;
-    std::string target;  ///< Of a drop.
+    std::string target;  ///< Of a drop: the identifier of the icon below.
     friend bool operator==(const Aim&, const Aim&) = default;
   };
 
@@ -55,7 +55,7 @@ class IconDrag {
   objc::Ref<SBIconView> icon_view_;
   objc::Ref<UIView> carried_;
   std::string id_;
-  CGSize grip_;  ///< From the finger to the middle of the carried image.
+  CGSize grip_;  ///< The offset from the finger to the centre of the dragged image.
   CGPoint finger_;
   Aim aim_;
   bool target_raised_ = false;

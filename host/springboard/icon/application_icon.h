@@ -13,7 +13,7 @@ class ApplicationIcon : public objc::Implementation<ApplicationIcon, SBApplicati
   SBApplicationIcon init_with_application(SBApplication application);
   SBApplication application() const { return application_.get(); }
   NSString display_name() const { return application_->displayName(); }
-  /// The application's own picture, or a plain one with its initial when it has none.
+  /// Returns the application's own picture, or a plain one with its initial when it has none.
   UIImage generate_icon_image(int format);
 
  private:

@@ -13,9 +13,9 @@ class FolderIcon : public objc::Implementation<FolderIcon, SBFolderIcon> {
  public:
   using Implementation::Implementation;
 
-  /// A folder's icon under that identifier of the layout; +1.
+  /// Returns a new icon for the folder with this identifier in the layout; the caller owns it (+1).
   static SBFolderIcon make(const std::string& id);
-  /// Says what the folder holds now; true when that changed how its icon looks.
+  /// Sets the folder's title and contents. Returns true when its icon looks different afterwards.
   bool update(const std::string& title, NSArray icons);
 
   NSString node_identifier() const { return id_.get(); }

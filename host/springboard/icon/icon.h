@@ -6,7 +6,7 @@
 
 namespace host::springboard {
 
-/// What all icons share: no application, no name, no image; subclasses say more.
+/// The base class of all icons: no application, no name, no image. Subclasses override these.
 class Icon : public objc::Implementation<Icon, SBIcon> {
  public:
   using Implementation::Implementation;

@@ -12,7 +12,7 @@
 namespace host::springboard {
 namespace {
 
-// Of the side; the platform's icons are a little rounder than a circle's arc makes them.
+// A share of the side; the platform's corners are slightly rounder than a circular arc.
 constexpr CGFloat kCornerRatio = 0.225;
 constexpr CGFloat kFolderGroundAlpha = 0.38;
 constexpr CGFloat kFolderMargin = 0.13;
@@ -21,12 +21,12 @@ constexpr NSUInteger kFolderColumns = 3;
 constexpr NSUInteger kFolderCount = 9;
 constexpr CGFloat kGrey = 0.45;
 constexpr CGFloat kLetterRatio = 0.6;
-// The band of a calendar's picture, its texts and where their lines begin, of the side.
+// The band and the texts of a calendar's picture, as shares of the side.
 constexpr CGFloat kBandRatio = 0.258;
 constexpr CGFloat kWeekdayRatio = 0.165;
 constexpr CGFloat kDayRatio = 0.6;
 
-/// Draws into an image of one icon's size at the screen's scale.
+/// Draws into an image of the size of an icon, at the screen's scale.
 template <class Draw>
 UIImage drawn_image(CGFloat side, Draw draw) {
   UIGraphicsBeginImageContextWithOptions({side, side}, NO, 0);
@@ -41,7 +41,7 @@ void fill_ground(CGFloat side, UIColor color) {
   UIBezierPath::bezierPathWithRoundedRect({0, 0, side, side}, side * kCornerRatio).fill();
 }
 
-/// One centred line of text whose middle is at `middle`.
+/// Draws one centred line of text whose vertical middle is at `middle`.
 void draw_line(NSString text, NSString font_name, CGFloat size, CGFloat side, CGFloat middle) {
   const UIFont font = UIFont::fontWithName(font_name, size);
   const CGFloat height = font.lineHeight();

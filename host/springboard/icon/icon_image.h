@@ -7,16 +7,16 @@
 
 namespace host::springboard {
 
-/// The picture in the application's folder for this screen; nil when there is none.
+/// Returns the picture for this screen from the application's folder; nil when there is none.
 UIImage application_image(SBApplication application);
 
-/// The picture of a calendar with the day on it: the weekday in its band, the number below.
+/// Returns `ground` with the day drawn on it: the weekday in its band, the number below.
 UIImage calendar_image(UIImage ground, const CalendarDay& day);
 
-/// A grey icon with the first letter of a name.
+/// Returns a grey icon with the first letter of `name`.
 UIImage initial_image(NSString name);
 
-/// The icon of a folder: up to nine small images on a translucent ground.
+/// Returns a folder's icon: up to nine small images on a translucent ground.
 UIImage folder_image(NSArray images);
 
 }  // namespace host::springboard

@@ -10,8 +10,8 @@
 
 namespace host::springboard {
 
-/// The icons of the installed applications and folders, and the arrangement they stand in, which is
-/// read from the device when the object is made.
+/// The icons of the installed applications and folders, and their arrangement, which is read from
+/// the device when the object is created.
 class IconModel : public objc::Implementation<IconModel, SBIconModel> {
  public:
   explicit IconModel(SBIconModel owner);
@@ -20,15 +20,15 @@ class IconModel : public objc::Implementation<IconModel, SBIconModel> {
   NSArray leaf_icons() const;
 
   HomeLayout& layout() { return layout_; }
-  /// The icon under that identifier of the layout, a folder's being made when it is new; nil for an
-  /// application that is not installed.
+  /// Returns the icon of the slot; creates it for a new folder. Nil for an application that is not
+  /// installed.
   SBIcon icon(const Slot& slot);
   SBIcon application_icon(const std::string& bundle) const;
-  /// The icons of the identifiers inside a folder.
+  /// Returns the icons of the applications inside a folder.
   NSArray folder_contents(const Slot& folder) const;
-  /// Takes the application's icon out of the arrangement.
+  /// Removes the application's icon from the arrangement.
   void remove_application(const std::string& bundle);
-  /// Forgets the icons of folders that are no more.
+  /// Forgets the icons of folders that no longer exist.
   void forget_lost_folders();
   /// Writes the arrangement to the device.
   void save() const;

@@ -39,8 +39,8 @@ std::vector<InstalledApplication> read_applications(NSString folder) {
         std::any_of(applications.begin(), applications.end(),
                     [&](const auto& other) { return other.bundle == application.bundle; });
     if (application.bundle.empty() || known) {
-      spdlog::warn("{} is left out: {}", application.path,
-                   known ? "another application has its identifier" : "it names no identifier");
+      spdlog::warn("{} is ignored: {}", application.path,
+                   known ? "another application has its identifier" : "it has no identifier");
       continue;
     }
     applications.push_back(std::move(application));

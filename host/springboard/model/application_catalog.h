@@ -9,15 +9,15 @@ namespace host::springboard {
 
 struct InstalledApplication {
   std::string bundle;        ///< Its identifier.
-  std::string name;          ///< Under its icon.
+  std::string name;          ///< The label of its icon.
   std::string path;          ///< Its folder on the device.
-  std::string program = {};  ///< Of its process; empty when it has none.
+  std::string program = {};  ///< The program of its process; empty when it has none.
   friend bool operator==(const InstalledApplication&, const InstalledApplication&) = default;
 };
 
-/// The applications in a folder of `<Name>.app` folders, by name of the folder. One without a
-/// readable Info.plist or without an identifier is left out and logged, and so is the second of two
-/// with one identifier.
+/// Returns the applications in a folder of `<Name>.app` folders, sorted by folder name. Ignores,
+/// with a log line, an application without a readable Info.plist or without an identifier, and the
+/// second of two with the same identifier.
 std::vector<InstalledApplication> read_applications(NSString folder);
 
 }  // namespace host::springboard

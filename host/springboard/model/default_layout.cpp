@@ -14,7 +14,7 @@ constexpr std::array kDock{
     "com.apple.MobileSMS",
 };
 
-// Music opens the bottom row, where a thumb reaches it and has the whole screen to drag it up.
+// Music comes first in the bottom row: a thumb reaches it and has the whole screen to drag it up.
 constexpr std::array kFirstPage{
     "com.apple.mobilecal",   "com.apple.mobileslideshow", "com.apple.camera",
     "com.apple.weather",     "com.apple.mobiletimer",     "com.apple.Maps",
@@ -40,7 +40,7 @@ Slot application_slot(std::string bundle) {
   return {std::move(bundle), false, {}, {}};
 }
 
-/// The same slot without the applications that `keep` refuses; empty when nothing is left.
+/// Returns the slot without the applications that `keep` rejects; empty when nothing is left.
 template <class Keep>
 std::optional<Slot> filtered(Slot slot, Keep keep) {
   if (!slot.is_folder) return keep(slot.id) ? std::optional(slot) : std::nullopt;

@@ -7,17 +7,17 @@
 
 namespace host::springboard {
 
-/// Where the icons of a phone that nobody has arranged yet stand. Applications that are not
-/// installed leave no gap, and ones that it does not know come last.
+/// Returns the arrangement of a new phone. Applications that are not installed leave no gap;
+/// unknown ones come last.
 HomeLayout default_layout(HomeLayout::Capacity capacity,
                           const std::vector<InstalledApplication>& installed);
 
-/// Makes an arrangement hold exactly what is installed: what is gone is taken out, what is new
-/// comes behind the last icon, what stands twice keeps its first place.
+/// Makes an arrangement hold exactly the installed applications: removes those that are gone,
+/// appends new ones after the last icon, and keeps only the first place of a duplicate.
 HomeLayout fit_to_installed(const HomeLayout& saved,
                             const std::vector<InstalledApplication>& installed);
 
-/// The identifiers that the default arrangement knows.
+/// The identifiers that have a place in the default arrangement.
 std::vector<std::string> default_applications();
 
 }  // namespace host::springboard

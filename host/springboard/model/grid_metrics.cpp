@@ -9,7 +9,7 @@ namespace {
 
 constexpr CGFloat kLabelHeight = 20;
 
-// One row a known screen, tallest first; distances are from the top of a page's list view.
+// One entry per known screen, tallest first. Distances are from the top of a page's list view.
 struct ScreenRow {
   CGFloat height;
   GridMetrics grid;
@@ -23,7 +23,7 @@ constexpr std::array kScreens{
     ScreenRow{480, {4, 4, 4, 60, {16, 7}, {76, 88}, {}, 96, 16}},
 };
 
-/// The cell that holds a coordinate, cells reaching halfway into the gaps between icons.
+/// Returns the cell that contains a coordinate; cells reach halfway into the gaps between icons.
 std::size_t cell_at(CGFloat coordinate, CGFloat first, CGFloat side, CGFloat pitch,
                     std::size_t cells) {
   const CGFloat gap = pitch - side;

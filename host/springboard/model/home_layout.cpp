@@ -102,7 +102,7 @@ bool HomeLayout::move(std::string_view id, Place to) {
   }
   if (to.area == Area::kDock && from->area != Area::kDock && dock_.size() >= capacity_.dock)
     return false;
-  // A folder that its only icon is moved within would vanish under it.
+  // Taking a folder's only icon out, even to move it within the folder, would remove the folder.
   if (to.area == Area::kFolder && from->area == Area::kFolder && to.folder == from->folder) {
     std::vector<std::string>& contents = find_folder(to.folder)->contents;
     contents.erase(contents.begin() + static_cast<std::ptrdiff_t>(from->index));

@@ -22,7 +22,7 @@ inline constexpr const char* kNewFolderTitle = "New Folder";
 
 enum class Area { kPage, kDock, kFolder };
 
-/// A position: `page` counts for pages, `folder` (an id) for folders.
+/// A position: `page` applies to pages, `folder` (an id) to folders.
 struct Place {
   Area area = Area::kPage;
   std::size_t page = 0;
@@ -31,9 +31,9 @@ struct Place {
   friend bool operator==(const Place&, const Place&) = default;
 };
 
-/// Where every icon of the home screen stands: pages, dock and folders. A plain value; every change
-/// keeps each identifier in exactly one place, no page, dock or folder above its capacity, and no
-/// folder empty.
+/// The arrangement of the home screen's icons: pages, dock and folders. A plain value. After every
+/// change, each identifier is in exactly one place, no page, dock or folder exceeds its capacity,
+/// and no folder is empty.
 class HomeLayout {
  public:
   struct Capacity {
@@ -53,27 +53,28 @@ class HomeLayout {
 
   std::optional<Place> find(std::string_view id) const;
   bool contains(std::string_view id) const { return find(id).has_value(); }
-  /// Nil when no folder has that id.
+  /// Null when no folder has this id.
   const Slot* folder(std::string_view id) const;
   std::vector<std::string> applications() const;
 
   /// Puts a slot in the first free place from `first_page` on.
   void append(Slot slot, std::size_t first_page = 0);
   bool append_to_dock(Slot slot);
-  /// Takes an application out of the layout; a folder that it leaves empty goes as well.
+  /// Removes an application from the layout, and its folder too if that is empty afterwards.
   bool remove(std::string_view id);
 
-  /// Moves an icon to a place, counted as the lists are once it has been taken out. A full page
-  /// pushes its last icon to the next page; a full dock or folder, and a folder into a folder, are
-  /// refused and change nothing. A page number past the last makes a page.
+  /// Moves an icon to a place; its index refers to the list without that icon. A full page pushes
+  /// its last icon to the next page. Returns false and changes nothing when the dock or folder is
+  /// full, or when a folder would go into a folder. A page number past the last creates a page.
   bool move(std::string_view id, Place to);
-  /// Drops an icon on another: into it when it is a folder, else both into a new folder of that
-  /// title, which takes the other's slot.
+  /// Drops an icon on another: into it when that is a folder, otherwise both into a new folder with
+  /// this title, in the target's slot.
   bool drop_on(std::string_view id, std::string_view target, std::string_view title);
-  /// Puts an icon that stands in a folder right behind that folder.
+  /// Moves an icon from its folder to the slot right after the folder.
   bool move_out_of_folder(std::string_view id);
 
-  /// Empty pages vanish; one page always stays. Done when an icon is let go, not while it moves.
+  /// Removes empty pages; one page always remains. Called when a dragged icon is dropped, not while
+  /// it moves.
   void remove_empty_pages();
 
   friend bool operator==(const HomeLayout&, const HomeLayout&) = default;

@@ -83,7 +83,7 @@ std::optional<HomeLayout> read_icon_state(NSString path, HomeLayout::Capacity ca
   const NSArray dock = array_or_nil(state.objectForKey("buttonBar"_ns));
   const NSArray pages = array_or_nil(state.objectForKey("iconLists"_ns));
   if (!dock || !pages) {
-    spdlog::warn("{} holds no arrangement of icons: the default one is used", to_string(path));
+    spdlog::warn("{} holds no icon arrangement: using the default", to_string(path));
     return std::nullopt;
   }
   HomeLayout layout(capacity);
@@ -102,7 +102,7 @@ bool write_icon_state(const HomeLayout& layout, NSString path) {
 
   NSFileManager::defaultManager().createDirectoryAtPath(folder_of(path), YES, nil, nullptr);
   if (xml_data(state).writeToFile(path, YES)) return true;
-  spdlog::warn("{} could not be written: the arrangement lasts until the restart", to_string(path));
+  spdlog::warn("{} could not be written: the arrangement is lost at the restart", to_string(path));
   return false;
 }
 

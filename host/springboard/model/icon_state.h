@@ -7,16 +7,16 @@
 
 namespace host::springboard {
 
-/// Where the arrangement of the icons is kept on the device.
+/// The file on the device that holds the arrangement of the icons.
 inline constexpr const char* kIconStatePath = "/var/mobile/Library/SpringBoard/IconState.plist";
 
-/// Reads a property list of the form {buttonBar: [icon…], iconLists: [[icon…]…]}, an icon being an
-/// identifier or {displayName, iconLists: [[identifier…]]} for a folder. Nothing when there is no
-/// such file; one that is malformed gives nothing either and is logged. Entries that are no icons
-/// are passed over.
+/// Reads a property list of the form {buttonBar: [icon…], iconLists: [[icon…]…]}, where an icon is
+/// an identifier or, for a folder, {displayName, iconLists: [[identifier…]]}. Returns nothing when
+/// the file is missing or malformed; a malformed file is logged. Skips entries that are not icons.
 std::optional<HomeLayout> read_icon_state(NSString path, HomeLayout::Capacity capacity);
 
-/// Writes it in one step, making the folder when it is missing; false, and logged, when it cannot.
+/// Writes the file atomically and creates its folder if necessary. Returns false, with a log line,
+/// on failure.
 bool write_icon_state(const HomeLayout& layout, NSString path);
 
 }  // namespace host::springboard

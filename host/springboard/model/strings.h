@@ -18,8 +18,8 @@ inline NSString to_ns(std::string_view text) {
   return NSString::stringWithUTF8String(std::string(text).c_str());
 }
 
-/// The object as a string, or nil when it is of another class: what a property list holds is not
-/// known before it is looked at.
+/// Returns the object as a string, or nil when it is of another class: the types in a property list
+/// are unknown before they are checked.
 inline NSString string_or_nil(objc::Object object) {
   const NSString text = objc::cast<NSString>(object);
   return text.isKindOfClass(NSString::cls()) ? text : NSString();

@@ -4,19 +4,20 @@
 
 namespace host::springboard {
 
-/// A day as a calendar's icon names it: "Tuesday", 9.
+/// A day as the calendar's icon shows it: "Tuesday", 9.
 struct CalendarDay {
   std::string weekday;
   int number;
 };
 
-/// The time of day that the status bar shows. Apart from the run loop's clock, which only measures.
+/// The time of day that the status bar shows. Independent of the run loop's clock, which only
+/// measures intervals.
 class WallClock {
  public:
   virtual ~WallClock() = default;
   /// "9:41".
   virtual std::string time_text() const = 0;
-  /// How long the text stays right; 0 when it never changes.
+  /// The seconds until the text changes; 0 when it never does.
   virtual double seconds_to_next_minute() const = 0;
   virtual CalendarDay day() const = 0;
   /// "Tuesday, September 9".
@@ -32,7 +33,7 @@ class SystemWallClock final : public WallClock {
   std::string date_text() const override;
 };
 
-/// Always the same time, so that pictures of the screen can be compared.
+/// Always shows the same time, which makes pictures of the screen comparable.
 class FixedWallClock final : public WallClock {
  public:
   std::string time_text() const override { return "9:41"; }

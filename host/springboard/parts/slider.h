@@ -16,8 +16,8 @@ struct SliderColors {
   objc::Ref<UIColor> empty;
 };
 
-/// A thin line with a white knob that a finger moves along it; values are 0 to 1. It moves as far
-/// as the finger does, wherever on it the finger is.
+/// A thin line with a white knob that a finger moves along it; values are 0 to 1. The knob moves as
+/// far as the finger does, wherever on the slider the finger is.
 class Slider : public objc::Implementation<Slider, SBSurfaceSlider> {
  public:
   using Implementation::Implementation;
@@ -26,7 +26,7 @@ class Slider : public objc::Implementation<Slider, SBSurfaceSlider> {
                                          std::function<void(double)> on_change);
 
   double value() const { return value_; }
-  /// Does not report the change, and does nothing while a finger holds the knob.
+  /// Sets the value without reporting the change; no-op while a finger holds the knob.
   void show(double value);
 
   void touches_began(NSSet touches, UIEvent event);

@@ -19,11 +19,12 @@ SurfaceActions::~SurfaceActions() {
     state.act = nullptr;
     state.receives = nullptr;
     state.begins = nullptr;
-    // A finger that is still down keeps its view and what recognises on it beyond the surface.
+    // A finger that is still down keeps its view and that view's recognisers alive longer than the
+    // surface.
     made.button->removeTarget(*made.action, perform(), UIControlEventTouchUpInside);
     made.recognizer->removeTarget(*made.action, perform());
     made.recognizer->setDelegate(nil);
-    // This may be the action's own doing.
+    // This destructor may be running inside the action itself.
     objc::Ref<SBSurfaceAction>(made.action).leak().autorelease();
   }
 }

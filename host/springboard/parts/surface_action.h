@@ -13,7 +13,7 @@ namespace host::springboard {
 
 struct SBSurfaceAction : objc::Bound<SBSurfaceAction, "SBSurfaceAction", NSObject> {};
 
-/// The target of a button or a recogniser that calls a function.
+/// The target of a button or a recogniser; calls a function.
 class SurfaceAction : public objc::Implementation<SurfaceAction, SBSurfaceAction> {
  public:
   using Implementation::Implementation;
@@ -33,7 +33,7 @@ class SurfaceAction : public objc::Implementation<SurfaceAction, SBSurfaceAction
   std::function<bool(UIGestureRecognizer)> begins;
 };
 
-/// The actions of one surface, which nothing calls any more once this has ended.
+/// The actions of one surface. None of them is called after this object is destroyed.
 class SurfaceActions {
  public:
   using Pan = std::function<void(UIPanGestureRecognizer)>;
@@ -46,13 +46,13 @@ class SurfaceActions {
 
   void on_press(UIButton button, std::function<void()> act);
   void on_tap(UIView view, std::function<void()> act);
-  /// `receives` says which touches count; all do when there is none.
+  /// `receives` decides which touches count; when it is empty, all do.
   void on_pan(UIView view, Pan act, Receives receives = {});
-  /// Of pans that begin upwards or downwards; those to the side are left to others.
+  /// Calls `act` for pans that begin upwards or downwards; sideways ones are left to others.
   void on_upright_pan(UIView view, Pan act);
 
  private:
-  /// An action and who calls it; one of the two is there.
+  /// An action and the object that calls it: either the button or the recogniser.
   struct Made {
     objc::Ref<SBSurfaceAction> action;
     objc::Ref<UIButton> button;

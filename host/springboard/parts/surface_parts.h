@@ -6,21 +6,21 @@
 
 namespace host::springboard {
 
-// The pieces that all surfaces are put together from. Each is added to `parent`.
+// The building blocks of all surfaces. Each function adds its view to `parent`.
 
 inline constexpr _UIBackdropViewStyle kPaperBackdrop = 2010;
 inline constexpr _UIBackdropViewStyle kDarkBackdrop = 2030;
 inline constexpr _UIBackdropViewStyle kInkBackdrop = 2050;
 inline constexpr _UIBackdropViewStyle kMilkBackdrop = 2070;
 
-/// Blurs what lies behind the frame, and lets touches through.
+/// Blurs everything behind the frame and lets touches through.
 objc::Ref<UIView> add_backdrop(UIView parent, CGRect frame, _UIBackdropViewStyle style);
 objc::Ref<UIView> add_plate(UIView parent, CGRect frame, UIColor color, CGFloat radius = 0);
-/// The home screen's wallpaper, over all of the parent.
+/// Adds the home screen's wallpaper, as large as the parent.
 objc::Ref<UIImageView> add_wallpaper(UIView parent);
-/// The same, dark and blurred: what lies behind the screens. It takes the touches on it.
+/// The same, dark and blurred: the background behind the screens. It receives touches.
 void add_blurred_wallpaper(UIView parent);
-/// The short bar that says where a surface can be held.
+/// Adds the short bar that shows where a surface can be grabbed.
 void add_grabber(UIView parent, CGPoint centre, UIColor color);
 
 struct TextLook {
@@ -31,13 +31,13 @@ struct TextLook {
 };
 objc::Ref<UILabel> add_label(UIView parent, CGRect frame, const TextLook& look);
 
-/// A glyph of the home screen's pictures in one colour, in the middle of `frame`.
+/// Adds one of the home screen's glyphs in one colour, in the middle of `frame`.
 objc::Ref<UIImageView> add_glyph(UIView parent, NSString name, CGRect frame, UIColor color);
 UIImage glyph(NSString name);
-/// A button of which only a glyph can be seen.
+/// Adds a button that shows only a glyph.
 objc::Ref<UIButton> add_glyph_button(UIView parent, NSString name, CGRect frame, UIColor color);
 
-/// Sets the text only when it is another, so that nothing is painted again.
+/// Sets the text only when it differs, to avoid painting it again.
 void show_text(UILabel label, NSString text);
 
 }  // namespace host::springboard

@@ -9,7 +9,7 @@ namespace host::springboard {
 
 struct SBSurfaceWindow : objc::Bound<SBSurfaceWindow, "SBSurfaceWindow", UIWindow> {};
 
-/// A window across the screen that takes the touches on its views and lets all others through.
+/// A full-screen window that receives the touches on its views and lets all others through.
 class SurfaceWindow : public objc::Implementation<SurfaceWindow, SBSurfaceWindow> {
  public:
   using Implementation::Implementation;
@@ -18,7 +18,7 @@ class SurfaceWindow : public objc::Implementation<SurfaceWindow, SBSurfaceWindow
   BOOL should_create_context_as_secure() { return YES; }
 };
 
-/// Hidden at first.
+/// Returns a new window, initially hidden.
 objc::Ref<UIWindow> make_surface_window(UIWindowLevel level);
 
 void export_surface_window();

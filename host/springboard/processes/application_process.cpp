@@ -11,9 +11,9 @@ using namespace application;
 
 namespace {
 
-// More than an application can have to say before it has come up to a time of the clock.
+// More messages than an application can need to send before it has caught up with the clock.
 constexpr int kMostMessagesInOneWait = 20000;
-constexpr int kReadsATurn = 16;
+constexpr int kReadsPerTurn = 16;
 
 SurfaceSize screen_size() {
   const DeviceModel& device = current_device();
@@ -57,7 +57,7 @@ CGImageRef ApplicationProcess::picture() const {
 void ApplicationProcess::set_in_front(bool is_in_front) {
   is_in_front_ = is_in_front;
   send(Visibility{is_in_front});
-  watch_over();
+  watch_liveness();
 }
 
 void ApplicationProcess::send(const ToApplication& message) {
@@ -65,7 +65,8 @@ void ApplicationProcess::send(const ToApplication& message) {
   if (time_ == Time::Stepped && is_alive()) catch_up_soon();
 }
 
-// Its socket holds much more than a living application leaves unread.
+// The socket buffer holds much more than a responsive application leaves unread, so a full one
+// means that it no longer answers.
 void ApplicationProcess::write(const ToApplication& message) {
   if (!is_alive()) return;
   const auto sending = channel_.send(encoded(message), Channel::Patience::NeverWaits);
@@ -100,11 +101,11 @@ void ApplicationProcess::stop_watching() {
 void ApplicationProcess::read() {
   if (std::exchange(is_reading_, true)) return;
   const std::weak_ptr<void> life = life_;
-  int left = MessageBudget::kMessagesATurn;
-  for (int reads = 0; reads < kReadsATurn && left > 0; ++reads) {
+  int left = MessageBudget::kMessagesPerTurn;
+  for (int reads = 0; reads < kReadsPerTurn && left > 0; ++reads) {
     std::string bytes;
     const auto reading = channel_.read_into(bytes);
-    channel_.take_descriptor();  // nobody asked for any
+    channel_.take_descriptor();  // unsolicited: discard it
     reader_.append(bytes);
     while (left > 0 && is_alive()) {
       const auto message = reader_.next();

@@ -18,15 +18,15 @@ namespace host::springboard {
 /// Why an application is no longer connected.
 enum class ProcessEnd { Ended, NoAnswer, Flood, Garbage };
 
-/// One running application, as the home screen sees it: what it draws and says. Nothing that it
-/// does, or fails to do, holds up the home screen for longer than the patience below.
+/// The home screen's end of one running application: its frames and its messages. Nothing that the
+/// application does, or fails to do, blocks the home screen for longer than the timeouts below.
 class ApplicationProcess {
  public:
-  /// Seconds that an application may take to answer.
+  /// The time in seconds that an application may take to answer.
   static constexpr double kPatience = 5;
-  /// The same while it comes to life.
+  /// The same while it starts up.
   static constexpr double kFirstPatience = 30;
-  /// Between two questions whether it still answers.
+  /// The interval in seconds between two pings.
   static constexpr double kAskEvery = 1;
 
   struct Events {
@@ -43,33 +43,33 @@ class ApplicationProcess {
   ApplicationProcess& operator=(const ApplicationProcess&) = delete;
 
   bool is_alive() const { return static_cast<bool>(channel_); }
-  /// Has it said more than is read in one turn?
+  /// True when it has sent more than is read in one turn of the run loop.
   bool has_more_to_say() const { return pause_.has_value(); }
-  /// What it drew last; nil before the first frame.
+  /// The latest frame; null before the first.
   CGImageRef picture() const;
 
   void set_in_front(bool is_in_front);
   bool is_in_front() const { return is_in_front_; }
   void send(const application::ToApplication& message);
-  /// Has a console's line carried out there. Nothing when it gave no answer.
+  /// Runs a console line in the application and returns its answer; nothing when it gave none.
   std::optional<std::string> ask(const std::string& line);
 
  private:
   bool greet();
   void write(const application::ToApplication& message);
 
-  // Reading, a bounded amount at a time.
+  // Reading, in bounded amounts.
   void watch();
   void stop_watching();
   void read();
   void read_on_next_frame();
-  /// Waits for what the application owes us. False when it has ended instead.
+  /// Blocks until `came` returns true. Returns false when the application has ended instead.
   bool read_until(const std::function<bool()>& came);
 
   void take(const application::ToHome& message);
   void take(const application::NewFrame& frame);
 
-  // Pictures, of which the screen shows one a frame.
+  // Pictures: the screen shows at most one per frame.
   void new_frame_came();
   void screen_frame();
   void show_new_frame();
@@ -86,9 +86,9 @@ class ApplicationProcess {
   void catch_up();
   void wait_for_due(double due);
 
-  // The real one.
-  void watch_over();
-  void ask_for_life();
+  // The real clock.
+  void watch_liveness();
+  void send_ping();
 
   void end(ProcessEnd reason);
 
@@ -117,7 +117,7 @@ class ApplicationProcess {
   std::uint64_t asked_ = 0;
   std::uint64_t answered_ = 0;
   double asked_at_ = 0;
-  /// Ends with this object: work of the next turn may outlast it.
+  /// Expires with this object, which work queued for the next turn may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

@@ -2,7 +2,7 @@
 
 #include "host/springboard/processes/application_process.h"
 
-// How what an application draws comes onto the screen.
+// Puts an application's frames on the screen.
 
 namespace host::springboard {
 
@@ -10,15 +10,15 @@ using namespace application;
 
 namespace {
 
-/// Frames of the screen without a new picture, after which the application is at rest.
+/// The number of screen frames without a new picture after which the application is at rest.
 constexpr int kRestAfter = 2;
 
-/// The buffer's pixels as they are, without a copy; the memory stays as long as they are shown.
+/// Wraps the buffer's pixels without copying them; keeps the memory alive as long as the surface.
 quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memory, int buffer) {
   using Owner = std::shared_ptr<const SharedSurface>;
   static const cairo_user_data_key_t kOwner{};
   const SurfaceSize& size = memory->size();
-  // Cairo has no surfaces that are only read; nothing draws on an image.
+  // Cairo has no read-only surfaces; nothing draws on an image.
   auto* pixels = const_cast<unsigned char*>(memory->buffer(buffer));
   cairo_surface_t* made = cairo_image_surface_create_for_data(pixels, CAIRO_FORMAT_ARGB32,
                                                               size.width, size.height, size.stride);
@@ -29,11 +29,11 @@ quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memor
 
 }  // namespace
 
-// Of several that came at once only the last can be seen. While an application moves something, the
-// screen is drawn once a frame and not anew for each picture and each touch.
+// Of several frames that arrive at once only the last is shown. While an application animates, the
+// screen is drawn once per frame, not again for each picture and each touch.
 void ApplicationProcess::new_frame_came() {
   if (!new_frame_ || !is_alive()) return;
-  // On a stepped clock the application goes on at once; nothing is drawn before it has.
+  // On a stepped clock the application may continue at once; the screen is drawn only afterwards.
   if (time_ == Time::Stepped) write(FrameTaken{});
   if (screen_frames_ || !is_alive()) return;
   show_new_frame();

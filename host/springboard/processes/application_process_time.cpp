@@ -2,8 +2,7 @@
 
 #include "host/springboard/processes/application_process.h"
 
-// How an application keeps up with the home screen's clock, and how the home screen finds out that
-// it does not.
+// Keeps an application in step with the home screen's clock, and detects one that hangs.
 
 namespace host::springboard {
 
@@ -11,12 +10,12 @@ using namespace application;
 
 namespace {
 
-/// An application that says it is due at once, for ever, must not stop the clock.
+/// In seconds. An application that always reports that it is due at once must not stop the clock.
 constexpr double kLeastStep = 1e-3;
 
 }  // namespace
 
-// Whatever else happens at this moment goes with the same message.
+// Deferred, because one message covers everything that happens at this moment.
 void ApplicationProcess::catch_up_soon() {
   if (std::exchange(catches_up_soon_, true)) return;
   loop_.perform([this, life = std::weak_ptr<void>(life_)] {
@@ -24,7 +23,7 @@ void ApplicationProcess::catch_up_soon() {
   });
 }
 
-// One question and one answer for all that the application does until it next has something to do.
+// One request and one answer cover everything the application does until it is next due.
 void ApplicationProcess::catch_up() {
   catches_up_soon_ = false;
   const double now = loop_.now();
@@ -33,7 +32,7 @@ void ApplicationProcess::catch_up() {
   const auto has_reached = [this, now] { return reached_ && *reached_ >= now; };
   if (!read_until(has_reached)) return;
   const double due = std::max(next_due_, now + kLeastStep);
-  // Whoever is in front is asked even when nothing is due: it may hang.
+  // The application in front is asked even when nothing is due: it may hang.
   wait_for_due(is_in_front_ ? std::min(due, now + kAskEvery) : due);
 }
 
@@ -45,16 +44,16 @@ void ApplicationProcess::wait_for_due(double due) {
   });
 }
 
-void ApplicationProcess::watch_over() {
+void ApplicationProcess::watch_liveness() {
   if (questions_) loop_.remove_timer(*questions_);
   questions_.reset();
-  // On a stepped clock every step is a question.
+  // On a stepped clock every step already asks for an answer.
   if (time_ == Time::Stepped || !is_in_front_ || !is_alive()) return;
   asked_at_ = loop_.now();
-  questions_ = loop_.add_timer(loop_.now() + kAskEvery, kAskEvery, [this] { ask_for_life(); });
+  questions_ = loop_.add_timer(loop_.now() + kAskEvery, kAskEvery, [this] { send_ping(); });
 }
 
-void ApplicationProcess::ask_for_life() {
+void ApplicationProcess::send_ping() {
   const double now = loop_.now();
   if (answered_ < asked_) {
     if (now - asked_at_ >= patience()) end(ProcessEnd::NoAnswer);

@@ -14,8 +14,8 @@ namespace host::springboard {
 struct SBHostedApplicationView
     : objc::Bound<SBHostedApplicationView, "SBHostedApplicationView", UIView> {};
 
-/// What an application's process draws, as a view as large as the screen; the fingers on it are the
-/// application's.
+/// A view as large as the screen that shows what an application's process draws, and passes the
+/// fingers on it to the application.
 class ApplicationView : public objc::Implementation<ApplicationView, SBHostedApplicationView> {
  public:
   using Implementation::Implementation;
@@ -23,9 +23,9 @@ class ApplicationView : public objc::Implementation<ApplicationView, SBHostedApp
   static objc::Ref<SBHostedApplicationView> make(CGRect frame,
                                                  std::weak_ptr<ApplicationProcess> process);
 
-  /// Hidden until there is a picture.
+  /// Shows the process's latest picture; the view is hidden until there is one.
   void show_picture() const;
-  /// Takes the fingers away from the application.
+  /// Cancels the fingers that the application has.
   void cancel_fingers();
 
   void touches_began(NSSet touches, UIEvent event);
@@ -39,7 +39,7 @@ class ApplicationView : public objc::Implementation<ApplicationView, SBHostedApp
   void send(int finger, application::FingerPhase phase, CGPoint point, double time) const;
 
   std::weak_ptr<ApplicationProcess> process_;
-  /// Those that are down, by the numbers that the application knows them by.
+  /// The fingers that are down, by the numbers under which the application knows them.
   std::map<int, objc::Ref<UITouch>> fingers_;
 };
 

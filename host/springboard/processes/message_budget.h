@@ -2,18 +2,18 @@
 
 namespace host::springboard {
 
-/// Counts what an application says, which it could do without end.
+/// Counts an application's messages, to detect one that floods the home screen.
 class MessageBudget {
  public:
-  /// No more than these are read in one turn of the loop; the rest waits for the next frame.
-  static constexpr int kMessagesATurn = 64;
-  /// An application draws 60 frames a second and steers the player now and then.
-  static constexpr int kMessagesASecond = 1000;
+  /// The most that are read in one turn of the loop; the rest waits for the next frame.
+  static constexpr int kMessagesPerTurn = 64;
+  /// Ample: an application draws 60 frames a second and steers the player now and then.
+  static constexpr int kMessagesPerSecond = 1000;
   static constexpr int kSecondsOfFlood = 2;
 
-  /// One more, at this time of the clock.
+  /// Counts a message that arrived at the time `now`, in seconds.
   void count(double now);
-  /// Did each of the last seconds bring more than any honest application says?
+  /// True when each of the last seconds brought more messages than any honest application sends.
   bool is_flooded() const { return flooded_seconds_ >= kSecondsOfFlood; }
 
  private:

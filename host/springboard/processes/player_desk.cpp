@@ -15,10 +15,10 @@ using namespace application;
 namespace {
 
 constexpr double kLookEvery = 0.25;
-// What the clock says of the song and what the player says may differ by so much.
+// In seconds: how far the position extrapolated by the clock may differ from the player's own.
 constexpr double kElapsedTolerance = 0.4;
 
-// A home screen without the media classes lacks the constants with these names.
+// Spelled out, because a home screen without the media classes lacks the constants.
 const char* const kPersistentId = "persistentID";
 const char* const kPlaybackDuration = "playbackDuration";
 

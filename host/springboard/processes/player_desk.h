@@ -11,7 +11,7 @@ namespace host::springboard {
 
 class ApplicationProcess;
 
-/// Lets the application in front see and steer the player, which is the home screen's.
+/// Lets the application in front observe and control the player, which belongs to the home screen.
 class PlayerDesk {
  public:
   using Front = std::function<ApplicationProcess*()>;
@@ -22,7 +22,7 @@ class PlayerDesk {
   PlayerDesk& operator=(const PlayerDesk&) = delete;
 
   void carry_out(const application::SteerPlayer& command);
-  /// Tells the one in front what plays, now and whenever it is another thing.
+  /// Reports to the application in front what is playing, now and after every change.
   void watch(bool watches);
 
  private:

@@ -6,16 +6,17 @@
 
 namespace host::springboard {
 
-/// Whoever owns the processes of applications, which outlive the home screen.
+/// Owns the processes of applications, which outlive the home screen.
 class ProcessKeeper {
  public:
   virtual ~ProcessKeeper() = default;
 
-  /// True when the application runs, from now on or already; false when it has no such program.
+  /// Starts the application unless it is already running. Returns false when there is no such
+  /// program.
   virtual bool open(const std::string& bundle, const std::string& program) = 0;
-  /// Ends it at once.
+  /// Ends the process at once.
   virtual void close(const std::string& bundle) = 0;
-  /// A connection to one that runs; an empty one when there is none.
+  /// Returns a connection to a running application; an empty channel when it does not run.
   virtual application::Channel connect(const std::string& bundle) = 0;
 };
 

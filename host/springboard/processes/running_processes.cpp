@@ -16,15 +16,15 @@ ApplicationProcess::Time time_of_phone() {
                                            : ApplicationProcess::Time::Real;
 }
 
-/// What the log says of an application that could not be kept.
-const char* words_for(ProcessEnd reason) {
+/// The reason as the log states it.
+const char* log_text(ProcessEnd reason) {
   switch (reason) {
     case ProcessEnd::NoAnswer:
       return "does not answer: closed";
     case ProcessEnd::Flood:
       return "floods the phone with messages: closed";
     case ProcessEnd::Garbage:
-      return "says what is no message: closed";
+      return "sends invalid messages: closed";
     case ProcessEnd::Ended:
       break;
   }
@@ -87,8 +87,8 @@ void RunningProcesses::close(const std::string& bundle) {
 void RunningProcesses::ended(const std::string& bundle, ProcessEnd reason) {
   const auto found = running_.find(bundle);
   if (found == running_.end()) return;
-  spdlog::warn("{} {}", found->second.program, words_for(reason));
-  // It is in the middle of telling us.
+  spdlog::warn("{} {}", found->second.program, log_text(reason));
+  // The process is in the middle of calling us: keep it until the next turn.
   RunLoop::main().perform([kept = found->second.process] {});
   close(bundle);
   if (gone_) gone_(bundle);

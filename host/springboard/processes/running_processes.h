@@ -10,8 +10,8 @@
 
 namespace host::springboard {
 
-/// The applications that run as processes of their own. Those that misbehave are closed, with a
-/// line in the log.
+/// The applications that run as separate processes. Those that misbehave are closed, with a log
+/// line.
 class RunningProcesses {
  public:
   using Process = std::shared_ptr<ApplicationProcess>;
@@ -21,18 +21,18 @@ class RunningProcesses {
   RunningProcesses();
   ~RunningProcesses();
 
-  /// The application's process, started if need be; null when it has no program.
+  /// Returns the application's process and starts it if necessary; null when it has no program.
   Process open(const std::string& bundle, const std::string& program);
   /// Null when it does not run.
   Process find(const std::string& bundle) const;
-  /// The same by the program's name.
+  /// The same, by the name of the program.
   Process find_program(const std::string& program) const;
-  /// What the user sees from now on; empty for the home screen.
+  /// Sets what the user sees from now on; an empty string for the home screen.
   void bring_to_front(const std::string& bundle);
-  /// Ends it; nobody is told that it is gone.
+  /// Ends it without calling the `on_gone` function.
   void close(const std::string& bundle);
 
-  /// One has ended by itself, or had to be closed.
+  /// Sets the function called when an application has ended by itself or had to be closed.
   void on_gone(Gone gone) { gone_ = std::move(gone); }
   void on_frame(FrameCame came) { frame_came_ = std::move(came); }
 

@@ -21,7 +21,7 @@ constexpr CGFloat kChargeWidth = 44;
 /// Null before the launch.
 StatusBar* status_bar = nullptr;
 
-/// Adds a glyph centred on the bar's height and gives the x behind it.
+/// Adds a glyph, vertically centred in the bar, and returns the x behind it.
 CGFloat add_bar_glyph(UIView bar, NSString name, CGFloat x) {
   const UIImage image = glyph(name);
   if (!image) return x;
@@ -88,7 +88,7 @@ bool StatusBar::set_dark(bool dark) {
   return before;
 }
 
-// The glyphs take the bar's tint. The lock screen is never light.
+// The glyphs take the bar's tint colour. The lock screen is never light.
 void StatusBar::color_contents() const {
   const UIColor color = dark_ && !locked_ ? UIColor::blackColor() : UIColor::whiteColor();
   window_->setTintColor(color);

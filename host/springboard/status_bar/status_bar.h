@@ -11,8 +11,8 @@
 
 namespace host::springboard {
 
-/// The status bar in a window of its own: signal, wireless network, time of day, battery. It wakes
-/// once a minute and only when the clock's text will change.
+/// The status bar, in its own window: signal, wireless network, time of day, battery. It wakes at
+/// most once a minute, when the clock's text changes.
 class StatusBar {
  public:
   explicit StatusBar(const WallClock& clock);
@@ -22,9 +22,9 @@ class StatusBar {
 
   UIWindow window() const { return window_.get(); }
   NSString time_text() const { return time_->text(); }
-  /// Over the lock screen, which shows the time in large, a padlock stands in its place.
+  /// On the lock screen, which itself shows the time in large type, a padlock replaces the time.
   void set_locked(bool locked);
-  /// Dark on an application's light ground. Gives what it was.
+  /// Makes the contents dark, for an application with a light background. Returns the old value.
   bool set_dark(bool dark);
 
  private:
@@ -44,9 +44,9 @@ class StatusBar {
   std::optional<RunLoop::Id> next_minute_;
 };
 
-/// The status bar lies on the lock screen while the phone is locked.
+/// Puts the status bar on top of the lock screen while the phone is locked.
 void set_status_bar_locked(bool locked);
-/// It is dark over an application with a light screen. Gives what it was.
+/// Makes it dark over an application with a light background. Returns the old value.
 bool set_status_bar_dark(bool dark);
 
 }  // namespace host::springboard

@@ -16,7 +16,7 @@ namespace {
 constexpr double kBannerStay = 5;
 constexpr CGFloat kGrabberRoom = 8;
 constexpr CGFloat kHeight = kNotificationRowHeight + kGrabberRoom;
-// The glass goes on above the screen, for the swing beyond its place.
+// The glass extends above the screen, because the spring overshoots.
 constexpr CGFloat kGlassAboveBanner = 80;
 constexpr CGFloat kPullToCentre = 40;
 constexpr NSInteger kNewBanner = 0;
@@ -113,7 +113,7 @@ void BannerController::send_away(CGFloat velocity) {
 
 void BannerController::rested(Rest rest) {
   if (rest == Rest::kOpen) return;
-  // It goes without a message: nobody is told of a banner that only leaves.
+  // It leaves without a context: extensions are not told of a banner that only goes away.
   context_.reset();
   take_down();
   if (queue_.empty()) return;

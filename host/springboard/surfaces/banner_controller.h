@@ -16,18 +16,18 @@
 
 namespace host::springboard {
 
-/// Messages that slide down from the top, one after the other, stay five seconds and go by
-/// themselves, or are pushed up, or pulled down into the notification centre.
+/// Shows messages that slide down from the top, one after the other. A message leaves by itself
+/// after five seconds; the user can also push it up, or pull it down into the notification centre.
 class BannerController : public objc::Implementation<BannerController, SBBannerController> {
  public:
   using Implementation::Implementation;
   ~BannerController();
 
-  /// A nil context takes the banner away; another is shown in place of the one that shows.
+  /// A nil context removes the banner; any other replaces the current one.
   void present_banner(objc::Object context, NSInteger reason);
   BOOL is_showing_banner() const { return context_ ? YES : NO; }
 
-  /// Shows the text now, or when the banners before it have gone.
+  /// Shows the text at once, or after the banners before it.
   void enqueue(const std::string& text);
   void forget_queue() { queue_.clear(); }
   UIView banner() const { return banner_.get(); }

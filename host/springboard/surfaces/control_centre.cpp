@@ -38,7 +38,7 @@ bool ControlCentre::bring_in() {
   const CGRect screen{{0, 0}, screen_grid().screen};
   if (!view_) view_ = make_view<SBControlCenterContainerView>(screen);
   take_down();
-  // Up before the view hears of it: somebody may dismiss it there and then.
+  // Set before the view is notified: an extension may dismiss the centre from that call.
   presented_ = YES;
   view_->controlCenterWillPresent();
   if (!presented_) return false;
@@ -62,7 +62,7 @@ bool ControlCentre::bring_in() {
 void ControlCentre::present_animated(BOOL animated) {
   if (presented_ || !bring_in()) return;
   if (is_pulled_) {
-    // The glass comes up to the finger, wherever on the edge it went down.
+    // The top of the glass comes up to the finger, wherever on the edge the finger went down.
     motion_->grab();
   } else if (animated) {
     settle(Rest::kOpen, 0);

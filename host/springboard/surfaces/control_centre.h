@@ -12,8 +12,8 @@
 
 namespace host::springboard {
 
-/// The control centre, which comes up from the bottom edge. Nothing of it exists while it is
-/// closed, but for the container that extensions know.
+/// The control centre, which comes up from the bottom edge. While it is closed, nothing of it
+/// exists except the container that extensions know.
 class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenterController>,
                       public EdgePullTarget {
  public:
@@ -32,7 +32,7 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
   void pull_cancelled() override;
 
  private:
-  /// False when somebody who heard of it has dismissed it there and then.
+  /// Returns false when an observer dismissed it as soon as it was notified.
   bool bring_in();
   void let_go(CGFloat velocity);
   void panned(UIPanGestureRecognizer pan);
@@ -45,9 +45,9 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
   std::unique_ptr<ControlCentrePanel> panel_;
   std::optional<SheetMotion> motion_;
   CGFloat pulled_from_ = 0;
-  /// Is it a finger that presents it?
+  /// True when a finger presents it.
   bool is_pulled_ = false;
-  /// Of the finger that has let go of it, downwards.
+  /// The downward velocity of the finger that released it, in points per second.
   CGFloat velocity_ = 0;
   BOOL presented_ = NO;
 };

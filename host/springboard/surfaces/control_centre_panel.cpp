@@ -20,7 +20,7 @@ constexpr CGFloat kPlaybackPadding = 14;
 constexpr CGFloat kTool = 56;
 constexpr CGFloat kToolRadius = 11;
 constexpr CGFloat kToolsHeight = 92;
-// The glass goes on below the screen, for the swing beyond its place.
+// The glass extends below the screen, because the spring overshoots.
 constexpr CGFloat kBelow = 160;
 constexpr CGFloat kControlsShade = 0.35;
 constexpr CGFloat kOff = 0.13;
@@ -59,7 +59,7 @@ ControlCentrePanel::ControlCentrePanel(UIView container, Wishes wishes) {
   playback_.emplace(content(), playing, Ink::kDark);
   add_line(tools_top);
   add_tools(tools_top, wishes.open);
-  // A slider's finger moves the slider and nothing else.
+  // A finger on a slider moves only the slider.
   actions_.on_pan(*sheet_, wishes.pan, [](UITouch touch) {
     return !touch.view().isKindOfClass(SBSurfaceSlider::cls());
   });

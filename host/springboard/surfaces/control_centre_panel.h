@@ -9,11 +9,11 @@
 
 namespace host::springboard {
 
-/// What the control centre shows: switches, brightness, what plays, and tools, on milk glass. It
-/// stands below the screen until it is pulled up.
+/// The contents of the control centre: switches, brightness, the playing song, and tools, on milk
+/// glass. It is below the screen until it is pulled up.
 class ControlCentrePanel {
  public:
-  /// What a touch on the panel asks for.
+  /// The functions that touches on the panel call.
   struct Wishes {
     std::function<void()> dismiss;
     SurfaceActions::Pan pan;
@@ -29,7 +29,7 @@ class ControlCentrePanel {
   UIView sheet() const { return *sheet_; }
   CGFloat height() const { return height_; }
   PlaybackView& playback() { return *playback_; }
-  /// How far it is open, 0 to 1, for the shade above it.
+  /// Sets the darkness of the shade above the panel: how far the panel is open, 0 to 1.
   void set_shade(CGFloat share) const;
 
  private:

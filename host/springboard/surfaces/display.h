@@ -5,9 +5,8 @@
 
 namespace host::springboard {
 
-/// The display behind the glass: how bright it is, and whether it is on. A display that is off is
-/// black and feels no finger, and those that lie on it are taken away; one at full brightness costs
-/// nothing.
+/// The display: its brightness, and whether it is on. A display that is off is black and ignores
+/// fingers; turning it off cancels those that are down. Full brightness costs nothing.
 class Display {
  public:
   Display();
@@ -18,7 +17,7 @@ class Display {
   bool is_on() const { return is_on_; }
   void turn_on();
   void turn_off();
-  /// 0 is dark but still to be read, 1 the brightest.
+  /// 0 is dark but still readable, 1 is the brightest.
   double brightness() const { return brightness_; }
   void set_brightness(double brightness);
 

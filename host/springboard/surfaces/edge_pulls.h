@@ -7,22 +7,22 @@
 
 namespace host::springboard {
 
-/// A surface that a finger pulls in from an edge. Points are of the screen.
+/// A surface that a finger pulls in from an edge. Points are in screen coordinates.
 class EdgePullTarget {
  public:
   virtual ~EdgePullTarget() = default;
   virtual bool can_be_pulled() const = 0;
   virtual void pull_began(CGPoint start) = 0;
   virtual void pull_moved(CGPoint point) = 0;
-  /// `velocity` is downwards, in points a second.
+  /// `velocity` is downwards, in points per second.
   virtual void pull_ended(CGPoint point, CGFloat velocity) = 0;
-  /// The finger was taken away.
+  /// The touch was cancelled.
   virtual void pull_cancelled() = 0;
 };
 
-/// Watches for fingers that land on the top or the bottom edge and pull inwards. Until then they go
-/// to whatever lies there; from then on they are the system's. A finger that has gone sideways
-/// stays with what it is on, wherever it goes afterwards.
+/// Watches for fingers that land on the top or the bottom edge and pull inwards. Until a finger
+/// does so, its touches go to the view below; from then on they belong to the system. A finger that
+/// first moves sideways stays with its view, wherever it goes afterwards.
 class EdgePulls final : public uikit::SystemGestures {
  public:
   EdgePulls(EdgePullTarget& top, EdgePullTarget& bottom);

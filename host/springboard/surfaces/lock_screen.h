@@ -10,8 +10,8 @@
 
 namespace host::springboard {
 
-/// Locks the phone when its display goes dark, and lies over everything of the home screen until it
-/// is slid away.
+/// Locks the phone when its display goes dark, and covers the whole home screen until the user
+/// slides it away.
 class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewController> {
  public:
   using Implementation::Implementation;
@@ -21,11 +21,11 @@ class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewContr
   void prepare_for_unlock();
   bool is_locked() const { return locked_; }
 
-  /// The display has been turned on again.
+  /// Turns the display on again.
   void wake();
-  /// As the finger that slides the screen away does it.
+  /// Unlocks the phone the way a finger that slides the screen away does.
   void unlock();
-  /// A message that came while the phone was locked.
+  /// Adds a message that arrived while the phone was locked.
   void add(Notification message);
   LockScreenPanel* panel() { return panel_.get(); }
 
@@ -38,7 +38,7 @@ class LockScreen : public objc::Implementation<LockScreen, SBLockScreenViewContr
   std::unique_ptr<LockScreenPanel> panel_;
   bool locked_ = false;
   int locks_ = 0;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

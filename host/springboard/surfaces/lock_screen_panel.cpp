@@ -80,7 +80,7 @@ void LockScreenPanel::add_playback() {
 }
 
 void LockScreenPanel::show_playing(const NowPlaying& playing) {
-  // A song that was paused before the phone locked is not shown; one paused here stays.
+  // A song that was paused before the phone locked is not shown; one paused here stays visible.
   const bool shows = playing.has_track && (playing.is_playing || shows_playback());
   const bool is_new = artwork_->image() != *playing.artwork;
   if (is_new) artwork_->setImage(*playing.artwork);

@@ -12,11 +12,11 @@
 
 namespace host::springboard {
 
-/// The picture of the lock screen: wallpaper, time and date, what plays with its cover, messages,
-/// and the text that is slid away. While it is asleep nothing in it moves.
+/// The contents of the lock screen: wallpaper, time and date, the playing song with its cover,
+/// messages, and the "slide to unlock" text. Nothing in it moves while it is asleep.
 class LockScreenPanel {
  public:
-  /// `unlock` is called once the content was slid away far or fast enough.
+  /// Calls `unlock` once the user has slid the content away far or fast enough.
   LockScreenPanel(UIView window, const WallClock& clock, std::function<void()> unlock);
   ~LockScreenPanel();
   LockScreenPanel(const LockScreenPanel&) = delete;

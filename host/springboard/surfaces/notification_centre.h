@@ -13,8 +13,8 @@
 
 namespace host::springboard {
 
-/// The notification centre, which comes down from the top edge. Nothing of it exists while it is
-/// closed, but for the messages.
+/// The notification centre, which comes down from the top edge. While it is closed, nothing of it
+/// exists except the messages.
 class NotificationCentre
     : public objc::Implementation<NotificationCentre, SBNotificationCenterViewController>,
       public EdgePullTarget {
@@ -22,11 +22,11 @@ class NotificationCentre
   using Implementation::Implementation;
   ~NotificationCentre();
 
-  /// Sent by the centre to itself before it shows, for whoever wants to hear of it.
+  /// Sent by the centre to itself before it shows, for extensions that hook it.
   void host_will_present() {}
   BOOL is_presented() const { return presented_; }
 
-  // What the controller does; whoever wants the centre to come or go asks that.
+  // The implementation; callers present and dismiss the centre through its controller.
   void present(BOOL animated);
   void dismiss(BOOL animated);
   void close_at_once();
@@ -51,9 +51,9 @@ class NotificationCentre
   objc::Ref<UIWindow> window_;
   std::unique_ptr<NotificationCentrePanel> panel_;
   std::optional<SheetMotion> motion_;
-  /// Is it a finger that presents it?
+  /// True when a finger presents it.
   bool is_pulled_ = false;
-  /// Of the finger that has let go of it, downwards.
+  /// The downward velocity of the finger that released it, in points per second.
   CGFloat velocity_ = 0;
   BOOL presented_ = NO;
 };

@@ -8,8 +8,8 @@
 
 namespace host::springboard {
 
-/// What the notification centre shows, on dark glass across the whole screen: the day, or the
-/// messages that came. It stands above the screen until it is pulled down.
+/// The contents of the notification centre, on dark glass over the whole screen: the day, or the
+/// messages received. It is above the screen until it is pulled down.
 class NotificationCentrePanel {
  public:
   struct Wishes {

@@ -10,7 +10,7 @@ namespace host::springboard {
 inline constexpr const char* kMessages = "com.apple.MobileSMS";
 inline constexpr CGFloat kNotificationRowHeight = 62;
 
-/// Icon, title, time and text in white, for banners and lists.
+/// Adds a row with icon, title, time and text in white, for banners and lists.
 objc::Ref<UIView> add_notification_row(UIView parent, CGRect frame,
                                        const Notification& notification);
 

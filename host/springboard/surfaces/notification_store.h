@@ -6,14 +6,14 @@
 
 namespace host::springboard {
 
-/// A message that came, as the surfaces show it.
+/// A received message, as the surfaces show it.
 struct Notification {
   std::string title;
   std::string text;
   std::string time;
 };
 
-/// The messages that came and were not cleared yet, newest first.
+/// The messages received and not yet cleared, newest first.
 class NotificationStore {
  public:
   const std::vector<Notification>& all() const { return all_; }

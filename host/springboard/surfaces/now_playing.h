@@ -5,7 +5,7 @@
 
 namespace host::springboard {
 
-/// What plays, as the surfaces show it. Texts and picture are nil when nothing is loaded.
+/// The playing song, as the surfaces show it. Texts and picture are nil when nothing is loaded.
 struct NowPlaying {
   bool has_track = false;
   bool is_playing = false;
@@ -16,8 +16,8 @@ struct NowPlaying {
   double duration = 0;
 };
 
-/// Asks the system's media controllers. What they report of the time stands still between two
-/// reports, so the time since is added here.
+/// Asks the system's media controllers. The elapsed time that they report is constant between two
+/// reports, so the time since the last one is added here.
 class NowPlayingReader {
  public:
   NowPlayingReader();

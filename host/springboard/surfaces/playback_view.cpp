@@ -139,7 +139,7 @@ void PlaybackView::show_time(const NowPlaying& playing) {
   show_text(*elapsed_, is_known ? minutes(playing.elapsed, "") : NSString());
   show_text(*remaining_, is_known ? minutes(playing.duration - playing.elapsed, "-") : NSString());
   const CGFloat whole = elapsed_bar_->superview().bounds().size.width;
-  // Whole seconds, as the texts beside it.
+  // Whole seconds, like the texts beside it.
   const CGFloat part = is_known ? std::floor(playing.elapsed) / playing.duration : 0;
   const CGRect frame{0, 0, whole * std::min<CGFloat>(part, 1), kTimeLine};
   if (!(CGRect(elapsed_bar_->frame()) == frame)) elapsed_bar_->setFrame(frame);

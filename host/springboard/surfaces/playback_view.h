@@ -12,13 +12,13 @@ namespace host::springboard {
 
 enum class Ink { kDark, kLight };
 
-/// Song, time, transport and volume, for the control centre and the lock screen alike. It looks at
-/// the player twice a second while it is watching, and paints only what has changed.
+/// Song, time, transport buttons and volume, for both the control centre and the lock screen. While
+/// it is watching it polls the player twice a second, and repaints only what has changed.
 class PlaybackView {
  public:
   static constexpr CGFloat kHeight = 152;
 
-  /// `on_change` hears of every look at the player; it may be empty.
+  /// Calls `on_change`, which may be empty, after every poll of the player.
   PlaybackView(UIView parent, CGRect frame, Ink ink,
                std::function<void(const NowPlaying&)> on_change = {});
   ~PlaybackView();

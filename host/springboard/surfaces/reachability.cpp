@@ -18,7 +18,7 @@ constexpr CGFloat kPartBroughtDown = 0.4;
 constexpr double kBringingDown = 0.35;
 constexpr double kKeepAlive = 8;
 
-/// Only the tall phones have it.
+/// Only tall phones support it.
 BOOL reachability_supported(objc::Object) {
   return !is_tablet_screen() && screen_grid().screen.height >= kSmallestTallScreen ? YES : NO;
 }
@@ -34,7 +34,7 @@ void Reachability::handle_activated() {
   if (active_) return;
   active_ = YES;
   take_down();
-  // The windows move away under them.
+  // The windows move away under the fingers.
   uikit::cancel_every_touch();
   for (const UIWindow window : uikit::visible_windows()) {
     if (window.windowLevel() <= UIWindowLevelStatusBar)

@@ -12,7 +12,7 @@
 
 namespace host::springboard {
 
-/// Brings the screen down so that a thumb reaches its top, for a while.
+/// Moves the screen down for a while, to let a thumb reach its top.
 class Reachability : public objc::Implementation<Reachability, SBReachabilityManager> {
  public:
   using Implementation::Implementation;
@@ -22,7 +22,7 @@ class Reachability : public objc::Implementation<Reachability, SBReachabilityMan
   void handle_activated();
   void handle_deactivated() { leave(); }
   void handle_significant_time_changed() { leave(); }
-  /// Nobody touched the screen for a while.
+  /// The screen was not touched for a while.
   void keep_alive_timer_fired(objc::Object) { leave(); }
 
  private:
@@ -31,7 +31,7 @@ class Reachability : public objc::Implementation<Reachability, SBReachabilityMan
   void stop_waiting();
   void take_down();
 
-  /// What was brought down, to be brought back whatever has come since.
+  /// The windows that were moved down. Exactly these are moved back, whatever has appeared since.
   std::vector<objc::Ref<UIWindow>> moved_;
   objc::Ref<UIWindow> above_;
   objc::Ref<UIWindow> behind_;
@@ -39,7 +39,7 @@ class Reachability : public objc::Implementation<Reachability, SBReachabilityMan
   std::optional<RunLoop::Id> keep_alive_;
   BOOL active_ = NO;
   int ways_back_ = 0;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

@@ -9,7 +9,7 @@ namespace {
 constexpr double kSheetTravel = 0.5;
 constexpr CGFloat kSheetDamping = 0.85;
 constexpr CGFloat kFling = 250;
-// Of the way beyond its open place that a finger pulls the panel.
+// The share of the finger's movement that the panel follows beyond its open place.
 constexpr CGFloat kSheetGive = 0.25;
 
 }  // namespace
@@ -67,7 +67,7 @@ void SheetMotion::put(Rest rest) {
 }
 
 void SheetMotion::tell(Rest rest) const {
-  // Whoever is told may end this object.
+  // The callback may destroy this object.
   const Rested rested = rested_;
   rested(rest);
 }

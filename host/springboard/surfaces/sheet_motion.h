@@ -10,26 +10,26 @@ namespace host::springboard {
 
 enum class Rest { kOpen, kClosed };
 
-/// A panel that a finger pulls along the screen's height between two places, and that swings into
-/// one of them when it is let go. Places are of the panel's top edge, in its superview.
+/// Moves a panel that a finger pulls up and down between two places. When released, the panel
+/// springs to one of them. Places are positions of the panel's top edge in its superview.
 class SheetMotion {
  public:
   struct Places {
     CGFloat open;
     CGFloat closed;
   };
-  /// Told when the panel has come to rest.
+  /// Called when the panel has come to rest.
   using Rested = std::function<void(Rest)>;
 
   SheetMotion(UIView panel, Places places, Rested rested);
   SheetMotion(const SheetMotion&) = delete;
   SheetMotion& operator=(const SheetMotion&) = delete;
 
-  /// The finger takes hold, of a panel on its way too.
+  /// The finger grabs the panel, which may be moving.
   void grab();
-  /// The finger has gone this far since, downwards.
+  /// The finger has moved this far since, in points downwards.
   void follow(CGFloat way);
-  /// Where a panel let go with this velocity belongs, in points a second downwards.
+  /// Returns where a panel released with this velocity (points per second, downwards) goes.
   Rest rest_after(CGFloat velocity) const;
   void go_to(Rest rest, CGFloat velocity);
   void put(Rest rest);
@@ -45,7 +45,7 @@ class SheetMotion {
   Rested rested_;
   CGFloat grabbed_at_ = 0;
   int travels_ = 0;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

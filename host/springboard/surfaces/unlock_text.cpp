@@ -14,7 +14,7 @@ namespace {
 constexpr CGFloat kUnlockTextSize = 23;
 constexpr CGFloat kDim = 0.42;
 constexpr double kRun = 2.6;
-// Widths of the text: the light comes from beyond its left and leaves beyond its right.
+// In widths of the text: the light starts to the left of the text and ends to the right of it.
 constexpr CGFloat kLightWidth = 3;
 
 objc::Object color(CGFloat alpha) {

@@ -5,7 +5,7 @@
 
 namespace host::springboard {
 
-/// "slide to unlock", with the light that runs over it from left to right while it shimmers.
+/// "slide to unlock", with a light that runs over it from left to right while it shimmers.
 class UnlockText {
  public:
   UnlockText(UIView parent, CGRect frame);

@@ -11,8 +11,8 @@
 
 namespace host::springboard {
 
-/// The square of milk glass in the middle of the screen that shows the volume in sixteen steps
-/// after a press of a volume button, and fades away by itself.
+/// The milk-glass square in the middle of the screen. After a press of a volume button it shows the
+/// volume in sixteen steps, then fades out by itself.
 class VolumeOverlay {
  public:
   static constexpr int kSteps = 16;
@@ -40,7 +40,7 @@ class VolumeOverlay {
   std::optional<RunLoop::Id> fading_;
   int lit_ = 0;
   int shows_ = 0;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

@@ -19,7 +19,7 @@ namespace {
 constexpr double kZoom = 0.4;
 constexpr double kSwitcherFading = 0.15;
 constexpr NSUInteger kIconsOnHomeCard = 9;
-// What stands for the home screen among bundle identifiers.
+// Represents the home screen among the bundle identifiers.
 const std::string kHome;
 
 SBApplication application(const std::string& bundle) {
@@ -33,7 +33,7 @@ UIImage icon_of(SBApplication application) {
   return image ? image : initial_image(application.displayName());
 }
 
-/// The home screen in small: the first of its applications.
+/// The icon of the home screen's card: a folder with the first of its applications.
 UIImage home_icon() {
   const auto images = NSMutableArray::array();
   for (const SBApplication each :
@@ -95,7 +95,7 @@ SwitcherCard::Wishes AppSwitcher::wishes_for(const std::string& bundle) {
 void AppSwitcher::choose(const std::string& bundle) {
   if (!showing_) return;
   if (bundle != recent_applications().front()) {
-    // It comes up below, while the card grows over it.
+    // The home screen appears below while its card grows over it.
     if (bundle.empty()) {
       recent_applications().leave();
     } else {

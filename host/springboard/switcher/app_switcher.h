@@ -13,9 +13,9 @@ namespace host::springboard {
 struct SBAppSwitcherController
     : objc::Bound<SBAppSwitcherController, "SBAppSwitcherController", NSObject> {};
 
-/// The application switcher: a row of cards over the blurred wallpaper, the home screen's first and
-/// then one for each application that was opened, the latest first. A tap opens, a throw upwards
-/// closes the application.
+/// The application switcher: a row of cards over the blurred wallpaper. The home screen's card is
+/// first, followed by one for each application that was opened, the latest first. A tap on a card
+/// opens the application; throwing the card upwards closes it.
 class AppSwitcher : public objc::Implementation<AppSwitcher, SBAppSwitcherController> {
  public:
   using Implementation::Implementation;
@@ -23,12 +23,12 @@ class AppSwitcher : public objc::Implementation<AppSwitcher, SBAppSwitcherContro
 
   bool is_showing() const { return showing_; }
   void show();
-  /// Back to what was in front.
+  /// Returns to whatever was in front.
   void dismiss();
   void dismiss_at_once();
   SwitcherRow* row() { return row_.get(); }
 
-  /// Of the row: it comes to rest with a card in the middle.
+  /// The row's delegate method: makes it stop with a card in the middle.
   void will_end_dragging(UIScrollView view, CGPoint velocity, CGPoint* target);
 
  private:
@@ -46,7 +46,7 @@ class AppSwitcher : public objc::Implementation<AppSwitcher, SBAppSwitcherContro
   std::unique_ptr<SurfaceActions> actions_;
   bool showing_ = false;
   int shows_ = 0;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

@@ -37,7 +37,7 @@ void RecentApplications::forget(const std::string& bundle) {
 
 void RecentApplications::close(const std::string& bundle) {
   if (!contains(bundle)) return;
-  // The caller's text may be one of those that are about to go.
+  // The caller's string may be an element that is about to be erased.
   const std::string closing = bundle;
   forget(closing);
   if (closed_) closed_(closing);

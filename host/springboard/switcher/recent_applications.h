@@ -10,9 +10,9 @@
 
 namespace host::springboard {
 
-/// The applications that the user has opened since the phone started, and what each last looked
-/// like. Whoever runs applications tells it what comes to the front, and is told what the user has
-/// thrown away.
+/// The applications that the user has opened since the phone started, each with its last picture.
+/// The owner of the running applications reports here what comes to the front, and is notified of
+/// what the user closes.
 class RecentApplications {
  public:
   using Closed = std::function<void(const std::string& bundle)>;
@@ -28,19 +28,19 @@ class RecentApplications {
   bool contains(const std::string& bundle) const;
 
   void keep_picture(const std::string& bundle, UIImage picture);
-  /// What the application last looked like; nil when nobody has seen it.
+  /// The application's last picture; nil when it has never been shown.
   UIImage picture(const std::string& bundle) const;
 
   /// The user goes from the application in front to the home screen.
   void leave();
-  /// Called when the user does so; the application is to leave the screen then.
+  /// Sets the function called when the user does so; it must take the application off the screen.
   void on_leave(Left left) { left_ = std::move(left); }
 
-  /// It has ended, or is installed no more.
+  /// Forgets an application that has ended or was uninstalled.
   void forget(const std::string& bundle);
-  /// The user is done with it: it is forgotten, and its process is to end.
+  /// The user closes the application: it is forgotten, and its process is to end.
   void close(const std::string& bundle);
-  /// Called after an application was closed; its process may end then.
+  /// Sets the function called after an application was closed; it may end the process.
   void on_close(Closed closed) { closed_ = std::move(closed); }
 
  private:

@@ -53,7 +53,7 @@ UIImage picture_of_home() {
   const HomeScreen& home =
       objc::state_of<IconController>(SBIconController::sharedInstance()).home();
   std::vector<CALayer> layers;
-  // Applications lie on the home screen's own views, in its window or above it.
+  // Applications are drawn over the home screen's own views, in its window or in one above it.
   for (const UIView view : home.window().subviews().of<UIView>()) {
     layers.push_back(view.layer());
     if (view == home.content()) break;
@@ -61,7 +61,7 @@ UIImage picture_of_home() {
   for (const UIWindow window : uikit::visible_windows()) {
     if (is_status_bar(window)) layers.push_back(window.layer());
   }
-  // Over an application in front it may be dark, which is not to be read here.
+  // Over an application in front it may be dark, which would be unreadable on the home screen.
   const bool was_dark = set_status_bar_dark(false);
   const UIImage picture = picture_of(layers);
   set_status_bar_dark(was_dark);

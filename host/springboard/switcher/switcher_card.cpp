@@ -13,10 +13,10 @@ constexpr CGFloat kNameTop = 4;
 constexpr CGFloat kNameHeight = 18;
 constexpr CGFloat kNameSize = 13;
 constexpr CGFloat kCardGround = 0.13;
-// Of the card's height; a faster finger need not go as far.
+// A share of the card's height; a faster finger need not move as far.
 constexpr CGFloat kFarEnoughToClose = 0.35;
 constexpr CGFloat kFastEnoughToClose = 500;
-// Of the finger's way, for a card that does not want to go there.
+// The share of the finger's movement that a card follows in a direction it cannot go.
 constexpr CGFloat kCardGive = 0.25;
 constexpr double kCardLeaving = 0.25;
 constexpr double kFalling = 0.4;

@@ -11,7 +11,7 @@
 
 namespace host::springboard {
 
-/// One card of the switcher: a small screen with an icon and a name below. A tap chooses it, and a
+/// One card of the switcher: a small screen with an icon and a name below. A tap chooses it; a
 /// finger can throw it up and away.
 class SwitcherCard {
  public:
@@ -27,7 +27,7 @@ class SwitcherCard {
     std::function<void()> thrown;
   };
 
-  /// `frame` is the small screen's, in the row.
+  /// `frame` is the small screen's frame in the row.
   SwitcherCard(UIView row, CGRect frame, const Content& content, Wishes wishes);
   ~SwitcherCard();
   SwitcherCard(const SwitcherCard&) = delete;
@@ -38,7 +38,7 @@ class SwitcherCard {
   CGPoint centre() const { return screen_->center(); }
   void set_centre_x(CGFloat x) const;
   void set_label_alpha(CGFloat alpha) const;
-  /// Flies out of the row, over its top, and takes no touches any more.
+  /// Flies out over the top of the row and no longer accepts touches.
   void fly_away(const std::function<void()>& flown) const;
 
  private:

@@ -9,7 +9,7 @@
 namespace host::springboard {
 namespace {
 
-// Of the screen's size.
+// A share of the screen's size.
 constexpr CGFloat kCardPart = 0.54;
 constexpr CGFloat kCardTop = 0.15;
 constexpr CGFloat kCardGap = 22;

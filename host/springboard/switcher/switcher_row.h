@@ -8,28 +8,28 @@
 
 namespace host::springboard {
 
-/// The switcher's cards, side by side; the row stops with one of them in the middle.
+/// The switcher's cards, side by side. Scrolling stops with one of them in the middle.
 class SwitcherRow {
  public:
-  /// `delegate` hears of the row's scrolling and is not retained.
+  /// `delegate` receives the row's scrolling and is not retained.
   SwitcherRow(UIView parent, objc::Object delegate);
   ~SwitcherRow();
   SwitcherRow(const SwitcherRow&) = delete;
   SwitcherRow& operator=(const SwitcherRow&) = delete;
 
   void add(const SwitcherCard::Content& content, SwitcherCard::Wishes wishes);
-  /// The card flies away, and those behind it move up.
+  /// Makes the card fly away; those behind it close the gap.
   void throw_away(const std::string& bundle);
   UIScrollView view() const { return scroll_.get(); }
   std::size_t count() const { return cards_.size(); }
-  /// Nothing when there is no card of that application.
+  /// Null when there is no card for the application.
   const SwitcherCard* card(const std::string& bundle) const;
 
   void show_card(const std::string& bundle) const;
-  /// The row with this card as large as the screen, and just over it.
+  /// Scales and moves the row until this card is as large as the screen and exactly covers it.
   void zoom_onto(const std::string& bundle) const;
   void zoom_out() const;
-  /// The offset nearest to this one at which a card is in the middle.
+  /// Returns the offset nearest to `offset` that has a card in the middle.
   CGFloat stop_near(CGFloat offset) const;
 
  private:
@@ -40,9 +40,9 @@ class SwitcherRow {
 
   objc::Ref<UIScrollView> scroll_;
   std::vector<std::unique_ptr<SwitcherCard>> cards_;
-  /// On their way out.
+  /// The cards that are flying out.
   std::vector<std::unique_ptr<SwitcherCard>> thrown_;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

@@ -14,17 +14,17 @@ using namespace application;
 
 namespace {
 
-/// Whoever has the keys of the physical keyboard; null when it is the home screen.
-RunningProcesses::Process taker_of_keys() {
+/// The application that receives the physical keyboard's keys; null when the home screen does.
+RunningProcesses::Process keyboard_receiver() {
   if (is_locked() || uikit::first_responder()) return nullptr;
   return objc::state_of<UserInterfaceController>(SBUIController::sharedInstance())
       .process_in_front();
 }
 
 bool pass_on(const ToApplication& message) {
-  const auto taker = taker_of_keys();
-  if (taker) taker->send(message);
-  return static_cast<bool>(taker);
+  const auto receiver = keyboard_receiver();
+  if (receiver) receiver->send(message);
+  return static_cast<bool>(receiver);
 }
 
 }  // namespace
@@ -50,7 +50,7 @@ std::optional<std::string> ask_application(const std::string& program, const std
 bool kill_application(std::string_view bundle) {
   const std::string name(bundle);
   if (!running_processes().find(name)) return false;
-  // What is gone is noticed by the silence of its channel, like any other end.
+  // The end is noticed when its channel closes, like any other.
   configuration().process_keeper->close(name);
   return true;
 }

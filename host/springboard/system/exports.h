@@ -2,11 +2,10 @@
 
 namespace host::springboard {
 
-/// Makes the home screen's classes known to the runtime; UIKit's must be there. Calling it twice is
-/// harmless.
+/// Registers the home screen's classes with the runtime, after UIKit's. Idempotent.
 void export_springboard();
 
-/// Ends the home screen of this process, so that another can be launched: for tests.
+/// Ends this process's home screen, to let tests launch another.
 void forget_springboard();
 
 }  // namespace host::springboard

@@ -46,7 +46,7 @@ void LaunchScreen::open(SBApplication application, UIImage image, CGRect from,
   const UIView screen = *screen_;
   screen.setTransform(transform_onto_icon());
   screen.setAlpha(0);
-  // A second tap would open what lies below.
+  // A second tap would hit the view below.
   const auto hold = std::make_shared<uikit::TouchHold>(window_);
   UIView::animateWithDuration(kScreenOpening, objc::block([=] {
                                 screen.setTransform(CGAffineTransform());

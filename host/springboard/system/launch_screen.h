@@ -11,8 +11,8 @@
 
 namespace host::springboard {
 
-/// The screen of the application in front, zooming out of its icon and back into it. It shows the
-/// icon until the application has drawn its first picture; one without a program says so instead.
+/// The screen of the application in front, which zooms out of its icon and back into it. It shows
+/// the icon until the application has drawn its first picture, or a notice if it has no program.
 class LaunchScreen {
  public:
   using Process = std::shared_ptr<ApplicationProcess>;
@@ -22,14 +22,15 @@ class LaunchScreen {
   LaunchScreen(const LaunchScreen&) = delete;
   LaunchScreen& operator=(const LaunchScreen&) = delete;
 
-  /// `from` is the icon's image on the screen; `process` is null for one without a program.
+  /// `from` is the frame of the icon's image on the screen; `process` is null for an application
+  /// without a program.
   void open(SBApplication application, UIImage image, CGRect from, const Process& process);
   void close();
-  /// The application is no more: what it drew fades away.
+  /// The application has ended: its last picture fades out.
   void fade();
   bool is_open() const { return static_cast<bool>(screen_) && !closing_; }
 
-  /// The application in front has drawn.
+  /// The application in front has drawn a frame.
   void frame_came();
 
  private:
@@ -44,7 +45,7 @@ class LaunchScreen {
   objc::Ref<SBHostedApplicationView> hosted_;
   CGRect from_;
   bool closing_ = false;
-  /// Ends with this object: an animation may outlast it.
+  /// Expires with this object, which an animation may outlive.
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

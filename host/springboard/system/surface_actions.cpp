@@ -16,10 +16,10 @@
 namespace host::springboard {
 namespace {
 
-// Sixteen presses from silence to the loudest.
+// Sixteen presses from silence to full volume.
 constexpr float kVolumeStep = 1.0f / VolumeOverlay::kSteps;
 
-/// Whoever presses Home on a dark phone wants to see it.
+/// Turns on a dark display. Returns false when it was already on.
 bool wake_display() {
   if (display().is_on()) return false;
   lock_screen().wake();
@@ -38,7 +38,7 @@ void double_press_home() {
 
 bool double_touch_home() {
   if (!SBReachabilityManager::reachabilitySupported()) return false;
-  // A dark phone is locked, too.
+  // A phone with a dark display is locked too.
   if (!is_locked() && !app_switcher().is_showing()) toggle_reachability();
   return true;
 }
@@ -50,7 +50,7 @@ void press_lock() {
 void press_volume(VolumeButton button) {
   const SBMediaController media = SBMediaController::sharedInstance();
   media._changeVolumeBy(button == VolumeButton::kUp ? kVolumeStep : -kVolumeStep);
-  // The control centre has a slider for it, and a dark phone is in a pocket.
+  // The open control centre has its own volume slider, and a dark display shows nothing.
   const bool is_seen = display().is_on();
   if (is_seen && !SBControlCenterController::sharedInstance().isPresented())
     SharedPart<VolumeOverlay>::get().show(media.volume());
@@ -87,7 +87,7 @@ bool toggle_reachability() {
 }
 
 void lock() {
-  // Whoever hears of it finds no finger on the screen any more.
+  // First, so that extensions notified of the lock find no finger on the screen.
   display().turn_off();
   SharedInstance<SBLockScreenViewController>::get()._handleDisplayTurnedOff();
 }

@@ -21,7 +21,7 @@ SBApplication application(std::string_view bundle) {
   return SBApplicationController::sharedInstance().applicationWithBundleIdentifier(to_ns(bundle));
 }
 
-/// Shows and keeps the arrangement when it was changed.
+/// Shows and saves the arrangement if it was changed; returns `changed`.
 bool shown(bool changed) {
   if (changed) icon_controller().layout_changed();
   return changed;
@@ -36,7 +36,7 @@ const Slot* folder_with_room() {
   return nullptr;
 }
 
-/// Another application of the first page that has one, next to the icon where it can be.
+/// Another application on the first page that has one, preferably next to the icon.
 const Slot* neighbour(std::string_view bundle) {
   const auto place = layout().find(bundle);
   const std::size_t first = place && place->area == Area::kPage ? place->page : 0;

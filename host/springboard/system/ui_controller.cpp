@@ -17,7 +17,8 @@
 namespace host::springboard {
 namespace {
 
-/// Where the application's icon is seen, or the middle of the screen when it is not.
+/// The frame of the application's icon on the screen, or the middle of the screen when the icon is
+/// not visible.
 CGRect icon_on_screen(SBIcon icon, UIWindow window) {
   const SBIconView view = SBIconViewMap::homescreenMap().mappedIconViewForIcon(icon);
   const CGRect screen = window.bounds();
@@ -78,7 +79,7 @@ void UserInterfaceController::leave_application() {
   recent_applications().went_home();
   running_processes().bring_to_front({});
   set_status_bar_dark(false);
-  // Settings may have chosen another one.
+  // The user may have chosen another wallpaper in Settings.
   objc::state_of<IconController>(SBIconController::sharedInstance()).home().show_wallpaper();
   if (launch_screen_) launch_screen_->close();
 }

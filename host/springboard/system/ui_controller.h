@@ -8,26 +8,27 @@
 
 namespace host::springboard {
 
-/// The Home button, and which application is in front.
+/// Handles the Home button, and knows which application is in front.
 class UserInterfaceController
     : public objc::Implementation<UserInterfaceController, SBUIController> {
  public:
   using Implementation::Implementation;
 
   UIWindow window() const;
-  /// Leaves one thing after the other: the switcher, the application, the editing mode, the open
-  /// folder, at last a page other than the first.
+  /// Leaves one thing per click, in this order: the switcher, the application, editing mode, the
+  /// open folder, and a page other than the first.
   BOOL clicked_menu_button();
-  /// Calls up the switcher, or sends it away; not while the phone is locked.
+  /// Shows or dismisses the switcher, unless the phone is locked.
   BOOL handle_menu_double_tap();
   BOOL is_app_switcher_showing() const;
-  /// Back to the home screen.
+  /// Returns to the home screen.
   void leave_application();
   bool shows_application() const { return launch_screen_ && launch_screen_->is_open(); }
   void activate_application_animated(SBApplication application);
-  /// Shows what applications draw, and notices when they are gone. Once, at the launch.
+  /// Starts showing what applications draw and noticing when they end. Called once, at launch.
   void watch_processes();
-  /// The application that the user sees; null on the home screen, and for one without a program.
+  /// The process of the application that the user sees; null on the home screen, and for an
+  /// application without a program.
   LaunchScreen::Process process_in_front() const;
 
  private:

@@ -47,7 +47,7 @@ class Reasons {
     if (holds) words_.emplace_back(words);
   }
   void add(std::string words) { words_.push_back(std::move(words)); }
-  /// The first few stand for all of them.
+  /// Adds the first few and the number of the others.
   void add_some(const std::vector<std::string>& words) {
     const std::size_t said = std::min(words.size(), kMostOfAKind);
     words_.insert(words_.end(), words.begin(), words.begin() + static_cast<std::ptrdiff_t>(said));
@@ -79,7 +79,7 @@ void add_what_is_open(Reasons& reasons) {
     reasons.add(class_of(typing) + " takes text");
 }
 
-/// Each icon of the list stands where the list wants it.
+/// Reports icons that are not where their list places them.
 void find_icons_out_of_place(SBIconListView list, std::vector<std::string>& found) {
   NSUInteger index = 0;
   for (const SBIcon icon : list.icons().of<SBIcon>()) {
@@ -91,7 +91,7 @@ void find_icons_out_of_place(SBIconListView list, std::vector<std::string>& foun
   }
 }
 
-/// A finger in the middle of an icon is the icon's.
+/// Reports icons whose centre does not receive touches.
 void find_icons_out_of_reach(SBIconListView list, std::vector<std::string>& found) {
   for (const SBIcon icon : list.icons().of<SBIcon>()) {
     const SBIconView view = SBIconViewMap::homescreenMap().mappedIconViewForIcon(icon);
@@ -117,7 +117,7 @@ void add_icons(Reasons& reasons) {
   reasons.add_some(out_of_reach);
 }
 
-/// Only the home screen and the status bar, which lies on it, take touches while it rests.
+/// Reports windows other than the home screen and the status bar that receive touches.
 void add_windows_in_the_way(Reasons& reasons) {
   const UIWindow home = icon_controller().home().window();
   const CGSize screen = home.bounds().size;
@@ -134,7 +134,7 @@ void add_windows_in_the_way(Reasons& reasons) {
   }
 }
 
-/// The layer's view, where it has one.
+/// Names the layer's view, or the layer itself when it has none.
 std::string moving(CALayer layer) {
   const auto delegate = objc::cast<NSObject>(layer.delegate());
   return class_of(delegate ? delegate : NSObject(layer)) + " is animated";
@@ -145,7 +145,7 @@ void add_what_moves(Reasons& reasons) {
   for (const CALayer layer : quartzcore::animated_layers().all())
     animated.push_back(moving(layer));
   reasons.add_some(animated);
-  reasons.add(animated.empty() && RunLoop::main().wants_frames(), "somebody asks for frames");
+  reasons.add(animated.empty() && RunLoop::main().wants_frames(), "frames are still requested");
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 
 namespace host::springboard {
 
-/// What keeps the phone from resting on its home screen, in words for whoever looks for a fault:
-/// surfaces and applications that are open, icons out of their slots or out of reach, windows that
-/// take the home screen's touches, fingers that are believed to be down, and whatever moves.
+/// Lists, for debugging, everything that keeps the phone from being at rest on its home screen:
+/// open surfaces and applications, icons out of their slots or out of reach, windows that receive
+/// the home screen's touches, fingers believed to be down, and running animations.
 std::vector<std::string> reasons_for_unrest();
 
 }  // namespace host::springboard

@@ -5,7 +5,7 @@
 
 namespace host::springboard {
 
-/// White text with a soft shadow below, which keeps it readable on any wallpaper.
+/// White text with a soft shadow, which keeps it readable on any wallpaper.
 class IconLabel {
  public:
   /// Adds itself to `parent`; the frame is in the parent's coordinates.

@@ -7,7 +7,7 @@
 namespace host::springboard {
 namespace {
 
-/// The location that the list's class gives its icons.
+/// The location that the list's class assigns to its icons.
 int location_of(SBIconListView list) {
   return objc::send<int>(list, "iconLocation"_sel);
 }

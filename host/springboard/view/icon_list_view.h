@@ -7,16 +7,16 @@
 
 namespace host::springboard {
 
-/// A grid of icon views, and by itself a page of the home screen. It places its icons when told to
-/// and never on its own, so that whoever moves an icon's view may keep it where it is.
+/// A grid of icon views; the base class is a page of the home screen. It places its icons only on
+/// request: an extension that moves an icon's view may leave it where it is.
 class IconListView : public objc::Implementation<IconListView, SBIconListView> {
  public:
   using Implementation::Implementation;
 
   NSArray icons() const { return icons_.get(); }
-  /// Takes over the views of these icons, from wherever they are, and sends each to its slot by an
-  /// animation of that many seconds (0: at once). A view that comes from another list starts from
-  /// where it is seen.
+  /// Takes over the views of these icons, wherever they are, and moves each to its slot with an
+  /// animation of `duration` seconds (0: at once). A view from another list starts at its current
+  /// position on the screen.
   void show(NSArray icons, double duration);
   CGPoint origin_for_icon_at_index(NSUInteger index) const;
   int location() const { return SBIconLocationHomeScreen; }

@@ -11,19 +11,18 @@
 namespace host::springboard {
 namespace {
 
-// A name may be a little wider than its icon before it is cut.
+// In points. A name may be slightly wider than its icon before it is truncated.
 constexpr CGFloat kLabelOverhang = 12;
 constexpr CGFloat kLabelTop = 3;
 constexpr CGFloat kLabelHeight = 16;
 constexpr CGFloat kShadeAlpha = 0.4;
 constexpr double kScaling = 0.2;
 
-// So long a finger rests on an icon before the arranging begins, in seconds, and so still, in
-// points.
+// How long, in seconds, and how still, in points, a finger must rest on an icon to start editing.
 constexpr double kHold = 0.5;
 constexpr CGFloat kStill = 10;
 
-/// The view takes one finger at a time.
+/// The view handles one finger at a time.
 UITouch only(NSSet touches) {
   return objc::cast<UITouch>(touches.anyObject());
 }
@@ -143,7 +142,7 @@ void IconView::touches_cancelled(NSSet touches, UIEvent event) {
   let_go(NO);
 }
 
-/// A finger may stray within the icon; one that carries it is no tap.
+/// A tapping finger may stray within the icon; one that drags the icon does not tap it.
 bool IconView::is_tapped_by(UITouch touch) const {
   if (is_held_ || (has_strayed_ && self.isEditing())) return false;
   return self.pointInside(touch.locationInView(self), nil);

@@ -12,14 +12,14 @@
 
 namespace host::springboard {
 
-/// An icon on the screen. Taps, holding and moving in the editing mode all come of the view's own
-/// touches and are told to its delegate; it has no recogniser. Whoever adds one that takes the
-/// touches away as it begins takes all of these.
+/// An icon on the screen. Taps, long presses and drags in editing mode all come from the view's own
+/// touch handling, without recognisers, and are reported to its delegate. An added recogniser that
+/// cancels the touches when it begins therefore suppresses all of them.
 class IconView : public objc::Implementation<IconView, SBIconView> {
  public:
   using Implementation::Implementation;
 
-  /// A new view for the icon, at the size of this screen's icons; +1.
+  /// Returns a new view for the icon, in the icon size of this screen; the caller owns it (+1).
   static SBIconView make(SBIcon icon);
 
   objc::Object delegate() const { return delegate_; }
@@ -40,12 +40,12 @@ class IconView : public objc::Implementation<IconView, SBIconView> {
   void touches_cancelled(NSSet touches, UIEvent event);
   void did_move_to_window();
 
-  /// Where the image stands, in the icon view's coordinates.
+  /// The frame of the image, in the icon view's coordinates.
   CGRect image_frame() const;
-  /// A lifted icon shows nothing of itself: its image is under the finger.
+  /// A lifted icon is invisible: its image is under the finger.
   void set_lifted(bool lifted);
   void set_image_scale(CGFloat scale);
-  /// Where the finger is, in the window's coordinates.
+  /// The finger's position, in the window's coordinates.
   CGPoint touch_point() const { return touch_point_; }
 
  private:

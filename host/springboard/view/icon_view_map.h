@@ -9,15 +9,15 @@
 
 namespace host::springboard {
 
-/// Keeps one view for each icon, so that moving an icon never makes another view for it.
+/// Keeps one view per icon; moving an icon never creates another view for it.
 class IconViewMap : public objc::Implementation<IconViewMap, SBIconViewMap> {
  public:
   using Implementation::Implementation;
 
   SBIconView mapped_icon_view_for_icon(SBIcon icon) const;
-  /// The icon's view, made now if it has none.
+  /// Returns the icon's view and creates it if necessary.
   SBIconView view_for(SBIcon icon, objc::Object delegate);
-  /// Nobody hears of touches any more: somebody may keep a view for longer than its screen.
+  /// Stops reporting touches. An extension may retain a view for longer than the home screen lives.
   void forget_delegate() const;
   /// Calls `visit` for each view.
   template <class Visit>
@@ -25,7 +25,7 @@ class IconViewMap : public objc::Implementation<IconViewMap, SBIconViewMap> {
     for (const auto& [icon, view] : views_)
       visit(view.get());
   }
-  /// Takes every view whose icon `keep` refuses from the screen.
+  /// Removes every view whose icon `keep` rejects from the screen.
   template <class Keep>
   void remove_unless(Keep keep) {
     std::erase_if(views_, [&](const auto& entry) {

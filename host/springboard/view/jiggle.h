@@ -6,8 +6,8 @@
 
 namespace host::springboard {
 
-/// Lets a layer wobble without end. Neighbours are given different phases, so that a page of icons
-/// trembles and does not swing in step.
+/// Makes a layer wobble endlessly. Neighbours get different phases; otherwise a page of icons would
+/// swing in step.
 void start_jiggle(CALayer layer, std::size_t phase);
 void stop_jiggle(CALayer layer);
 

@@ -20,18 +20,18 @@ TEST(MessageBudget, LetsAnHonestApplicationTalk) {
 
 TEST(MessageBudget, ForgivesOneSecondOfHaste) {
   MessageBudget budget;
-  say(budget, 100, MessageBudget::kMessagesASecond * 3);
+  say(budget, 100, MessageBudget::kMessagesPerSecond * 3);
   say(budget, 101, 10);
   say(budget, 102, 10);
-  say(budget, 103, MessageBudget::kMessagesASecond * 3);
+  say(budget, 103, MessageBudget::kMessagesPerSecond * 3);
   say(budget, 104, 10);
   EXPECT_FALSE(budget.is_flooded());
 }
 
 TEST(MessageBudget, CallsTwoSecondsOfItAFlood) {
   MessageBudget budget;
-  say(budget, 100, MessageBudget::kMessagesASecond * 2);
-  say(budget, 101, MessageBudget::kMessagesASecond * 2);
+  say(budget, 100, MessageBudget::kMessagesPerSecond * 2);
+  say(budget, 101, MessageBudget::kMessagesPerSecond * 2);
   EXPECT_FALSE(budget.is_flooded());
   say(budget, 102, 1);
   EXPECT_TRUE(budget.is_flooded());
@@ -40,7 +40,7 @@ TEST(MessageBudget, CallsTwoSecondsOfItAFlood) {
 TEST(MessageBudget, DoesNotAddUpSecondsThatLieApart) {
   MessageBudget budget;
   for (int second = 0; second < 40; second += 4)
-    say(budget, second, MessageBudget::kMessagesASecond * 2);
+    say(budget, second, MessageBudget::kMessagesPerSecond * 2);
   EXPECT_FALSE(budget.is_flooded());
 }
 

@@ -224,7 +224,7 @@ TEST_F(ProcessesTest, OneThatSpeaksNonsenseIsClosed) {
     open_music();
     ASSERT_TRUE(comes_true([&] { return !music(); })) << behaviour;
     EXPECT_FALSE(programs_->applications().is_running(kMusic));
-    EXPECT_TRUE(log_has("Music says what is no message: closed")) << behaviour;
+    EXPECT_TRUE(log_has("Music sends invalid messages: closed")) << behaviour;
     EXPECT_EQ(shown_now(), Shown::HomeScreen);
     end();
   }
