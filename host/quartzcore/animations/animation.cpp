@@ -20,7 +20,7 @@ struct ElementOf<objc::Ref<T>> {
   using Type = T;
 };
 
-// Accessors of the description's fields: objects are retained, booleans cross as BOOL.
+// Accessors of the description's fields. Objects are retained; booleans are passed as BOOL.
 template <auto Field>
 auto get(CAAnimation self) {
   const auto& value = objc::state_of<Animation>(self).description.*Field;

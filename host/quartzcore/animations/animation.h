@@ -10,7 +10,7 @@
 
 namespace host::quartzcore {
 
-/// What an animation says; shared by the classes below, copied when a layer takes it.
+/// The properties of an animation. Shared by the classes below; copied when a layer adds it.
 struct AnimationDescription {
   double begin_time = 0;
   double duration = 0;
@@ -30,7 +30,7 @@ struct AnimationDescription {
   std::map<std::string, objc::Ref<objc::Object>> extra;
 };
 
-/// CAAnimation. The fields of its subclasses live here too: a copy is then one assignment.
+/// CAAnimation. The fields of its subclasses are here too, which makes a copy a single assignment.
 class Animation : public objc::Implementation<Animation, CAAnimation> {
  public:
   explicit Animation(CAAnimation owner) : Implementation(owner) {}
@@ -38,7 +38,7 @@ class Animation : public objc::Implementation<Animation, CAAnimation> {
   AnimationDescription description;
 
   objc::Object copy_with_zone(void* zone) const;
-  /// As an action: adds the animation to the layer under the key.
+  /// The CAAction method: adds the animation to the layer under the key.
   void run_action(NSString key, objc::Object layer, objc::Object arguments);
   void set_value_for_undefined_key(objc::Object value, NSString key);
   objc::Object value_for_undefined_key(NSString key) const;

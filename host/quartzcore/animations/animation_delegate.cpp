@@ -12,20 +12,20 @@ objc::Object listener_of(const RunningAnimation& animation) {
   return animation.object ? animation.object->delegate() : animation.listener.get();
 }
 
-/// `listener` hears of the end of `animation`, which is null where there was no object: it is one
-/// of ours then, and answers.
-void tell_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
+/// Notifies `listener` of the end of `animation`. An animation without an object (null) has one of
+/// our own listeners, which always implements the message.
+void notify_stop(objc::Object listener, const objc::Ref<CAAnimation>& animation, BOOL finished) {
   if (!animation || answers(listener, "animationDidStop:finished:"_sel))
     objc::send<>(listener, "animationDidStop:finished:"_sel, animation.get(), finished);
 }
 
 }  // namespace
 
-bool hears_of_start(const RunningAnimation& animation) {
+bool observes_start(const RunningAnimation& animation) {
   return animation.object && answers(animation.object->delegate(), "animationDidStart:"_sel);
 }
 
-void tell_starts(const std::vector<RunningAnimation>& started) {
+void notify_starts(const std::vector<RunningAnimation>& started) {
   for (const RunningAnimation& animation : started) {
     const objc::Object listener = listener_of(animation);
     if (answers(listener, "animationDidStart:"_sel))
@@ -33,15 +33,15 @@ void tell_starts(const std::vector<RunningAnimation>& started) {
   }
 }
 
-void stop_animation(RunningAnimation& animation, BOOL finished, Telling when) {
+void stop_animation(RunningAnimation& animation, BOOL finished, Notify when) {
   if (std::exchange(animation.has_stopped, true)) return;
   animation.group.reset();
   const auto listener = objc::Ref<objc::Object>::retain(listener_of(animation));
-  if (when == Telling::AtOnce) {
-    tell_stop(listener.get(), animation.object, finished);
+  if (when == Notify::AtOnce) {
+    notify_stop(listener.get(), animation.object, finished);
   } else if (RunLoop::has_main()) {
     RunLoop::main().perform([listener, object = animation.object, finished] {
-      tell_stop(listener.get(), object, finished);
+      notify_stop(listener.get(), object, finished);
     });
   }
 }

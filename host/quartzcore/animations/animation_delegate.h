@@ -6,14 +6,14 @@
 
 namespace host::quartzcore {
 
-// What the delegate of an animation hears. It may do anything to the layer, so nothing of that is
-// touched afterwards.
+// Notifies the delegates of animations. A delegate may do anything to the layer, so the layer is
+// not accessed afterwards.
 
-bool hears_of_start(const RunningAnimation& animation);
-/// Tells the delegates that answer that their animations have started.
-void tell_starts(const std::vector<RunningAnimation>& started);
-enum class Telling { AtOnce, InTheNextTurn };
-/// Ends the animation, once, and tells its delegate.
-void stop_animation(RunningAnimation& animation, BOOL finished, Telling when);
+bool observes_start(const RunningAnimation& animation);
+/// Notifies the delegates that implement it that their animations have started.
+void notify_starts(const std::vector<RunningAnimation>& started);
+enum class Notify { AtOnce, NextTurn };
+/// Ends the animation and notifies its delegate. Idempotent.
+void stop_animation(RunningAnimation& animation, BOOL finished, Notify when);
 
 }  // namespace host::quartzcore

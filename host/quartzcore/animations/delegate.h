@@ -4,7 +4,7 @@
 
 namespace host::quartzcore {
 
-/// Does a delegate, which may be nil, answer the message?
+/// Returns whether the delegate, which may be nil, implements the message.
 inline bool answers(objc::Object delegate, objc::Sel selector) {
   return delegate && objc::cast<NSObject>(delegate).respondsToSelector(selector);
 }

@@ -21,7 +21,7 @@ void DisplayLink::aim(objc::Object target, objc::Sel selector) {
   selector_ = selector;
 }
 
-// The run loop keeps a link alive while the link stands in it.
+// The run loop retains a link for as long as the link is added to it.
 void DisplayLink::add_to_run_loop(NSRunLoop, NSString) {
   if (in_loop_ || !target_) return;
   self.retain();
@@ -61,7 +61,7 @@ void DisplayLink::frame(double time) {
   if (frames_left_-- > 0) return;
   frames_left_ = frame_interval_ - 1;
   timestamp_ = time;
-  // The message may take the link out of the loop and let go of the target.
+  // The message may remove the link from the loop and release the target.
   const auto link = objc::Ref<CADisplayLink>::retain(self);
   const auto target = target_;
   objc::send<>(target.get(), selector_, link.get());

@@ -7,7 +7,7 @@
 
 namespace host::quartzcore {
 
-/// CADisplayLink: one message a frame while it stands in a run loop and is not paused.
+/// CADisplayLink: sends one message per frame while it is in a run loop and not paused.
 class DisplayLink : public objc::Implementation<DisplayLink, CADisplayLink> {
  public:
   explicit DisplayLink(CADisplayLink owner) : Implementation(owner) {}

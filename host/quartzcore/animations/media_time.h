@@ -2,7 +2,7 @@
 
 namespace host::quartzcore {
 
-/// The clock of this process; 0 without a run loop.
+/// The current time of this process's clock, in seconds; 0 without a run loop.
 double media_time();
 
 }  // namespace host::quartzcore

@@ -32,13 +32,13 @@ struct MemberAccess<Member> {
   }
 };
 
-/// Access to a member under its key path.
+/// Returns the access to a member under its key path.
 template <auto Member>
 constexpr auto access_to(std::string_view key_path) {
   return MemberAccess<Member>::under(key_path);
 }
 
-/// Null for a key path that none of them has.
+/// Returns null when none of them has the key path.
 template <class Properties, std::size_t Count>
 const PropertyAccess<Properties>* find_access(const PropertyAccess<Properties> (&all)[Count],
                                               std::string_view key_path) {
@@ -47,7 +47,7 @@ const PropertyAccess<Properties>* find_access(const PropertyAccess<Properties> (
   return found == std::end(all) ? nullptr : found;
 }
 
-/// Applies to `presented` every animation whose key path `find` knows.
+/// Applies every animation whose key path `find` knows to `presented`.
 template <class Properties, class Find>
 void apply_animations(const std::vector<RunningAnimation>& animations, double now, Find find,
                       Properties& presented) {

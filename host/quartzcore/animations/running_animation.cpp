@@ -14,7 +14,7 @@ namespace host::quartzcore {
 namespace {
 
 constexpr double kForever = std::numeric_limits<double>::infinity();
-// Beyond this many repetitions nobody waits for the end; the platform's HUGE_VALF is above it.
+// More repetitions than this count as endless; the platform's HUGE_VALF is above it.
 constexpr float kCountsAsForever = 1e20f;
 
 std::string_view text_of(NSString string) {
@@ -107,7 +107,7 @@ Value RunningAnimation::evaluate(double now, const Value& underlying) const {
   double within = time - iteration * once;
   if (over) {
     if (!fills_forwards) return underlying;
-    // At its end it stands at the end of the last repetition, not at the start of another.
+    // When over, it stays at the end of the last repetition, not at the start of another.
     iteration = std::max(0.0, std::ceil(repeat_count) - 1);
     within = (repeat_count - iteration) * once;
   }
@@ -138,7 +138,7 @@ Value RunningAnimation::at_fraction(double fraction, const Value& underlying) co
     const double part = length <= 0 ? 1 : std::clamp((fraction - start) / length, 0.0, 1.0);
     return interpolate(shaped(row[next - 1]), shaped(row[next]), part);
   }
-  // An additive animation moves from or to no difference at all where one end is not given.
+  // An end that an additive animation does not specify means no difference.
   const Value rest = additive ? subtract(underlying, underlying) : underlying;
   const Value start = from ? shaped(*from) : by && to ? subtract(shaped(*to), shaped(*by)) : rest;
   const Value finish = to ? shaped(*to) : by ? add(start, shaped(*by)) : rest;

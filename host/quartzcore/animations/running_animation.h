@@ -12,35 +12,35 @@
 
 namespace host::quartzcore {
 
-/// In seconds: frames and timers meet a due time only up to rounding.
+/// In seconds. Frames and timers meet a due time only up to rounding.
 inline constexpr double kTimeTolerance = 1e-9;
 
 class TransactionGroup;
 class Animation;
 
-/// What an animation moves between: two ends, or a row of values each at its time.
+/// The values that an animation moves between: two ends, or a row of values, each with its time.
 struct AnimatedValues {
   std::optional<Value> from, to, by;
   std::vector<Value> row;
   std::vector<double> key_times;
 };
 
-/// An animation that a layer has taken, made ready for evaluation at any time without a message. It
-/// is kept small: whole screens of layers are animated in one block.
+/// An animation added to a layer, prepared for evaluation at any time without sending messages. It
+/// is kept small: a single block may animate whole screens of layers.
 struct RunningAnimation {
   std::string key;
   std::string key_path;
-  /// The layer's copy: what `animationForKey:` and the delegate's messages give. Null until
-  /// somebody asks for it where the animation was not made from an object.
+  /// The layer's copy, which `animationForKey:` returns and the delegate receives. If the animation
+  /// was not created from an object, it is null until it is first requested.
   objc::Ref<CAAnimation> object;
-  /// Where there is no object: hears of the stop by `animationDidStop:finished:`, which it answers.
+  /// When there is no object: receives `animationDidStop:finished:`, which it implements.
   objc::Ref<objc::Object> listener;
 
   double begin = 0;
   double duration = 0;
   double speed = 1;
   double time_offset = 0;
-  /// Repetitions; infinity for ever.
+  /// The number of repetitions; infinity for an endless animation.
   double repeat_count = 1;
   bool autoreverses = false;
   bool fills_backwards = false;
@@ -55,15 +55,15 @@ struct RunningAnimation {
 
   bool has_started = false;
   bool has_stopped = false;
-  /// Lets the transaction's completion run when the last of its animations is gone.
+  /// The transaction's completion runs when the last of its animations releases this.
   std::shared_ptr<TransactionGroup> group;
 
-  /// The clock time at which it is over; infinity when never.
+  /// The clock time at which it is over; infinity if it never ends.
   double end() const;
-  /// The run loop may wake for the end a little early, and must not find it pending then.
+  /// The run loop may wake slightly before the end; the animation must already count as over then.
   bool is_over(double now) const { return now + kTimeTolerance >= end(); }
-  /// What it makes of `underlying`, the property's value without it. Outside its time and fill
-  /// that is `underlying` itself.
+  /// Returns the animated value; `underlying` is the property's value without the animation.
+  /// Outside of its time and fill this is `underlying` itself.
   Value evaluate(double now, const Value& underlying) const;
 
  private:
@@ -71,11 +71,11 @@ struct RunningAnimation {
   Value last_value(const Value& underlying) const { return at_fraction(1, underlying); }
 };
 
-/// An animation object that says the same as one that was made without; autoreleased.
+/// Returns an autoreleased animation object with the properties of one that was created without.
 CAAnimation make_animation_object(const RunningAnimation& running);
 
-/// Makes `animation` (the layer's own copy) ready to run from `now`; `default_duration` stands in
-/// for a duration of 0.
+/// Prepares `animation` (the layer's own copy) to run from `now`; `default_duration` replaces a
+/// duration of 0.
 RunningAnimation prepare_animation(objc::Ref<CAAnimation> animation, std::string key, double now,
                                    double default_duration);
 

@@ -16,7 +16,7 @@ class TimingFunction : public objc::Implementation<TimingFunction, CAMediaTiming
   void control_point(NSUInteger index, float* values) const;
 };
 
-/// The curve of a timing function; nil is a straight line.
+/// Returns the curve of a timing function; a straight line for nil.
 TimingCurve curve_of(CAMediaTimingFunction function);
 
 void export_timing_function();

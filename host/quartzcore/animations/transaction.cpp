@@ -9,7 +9,7 @@
 namespace host::quartzcore {
 namespace {
 
-// The platform's duration of a change that nobody gave one.
+// The platform's duration, in seconds, of a change without an explicit one.
 constexpr double kStandardDuration = 0.25;
 
 struct Level {
@@ -20,7 +20,7 @@ struct Level {
 };
 
 std::vector<Level>& levels() {
-  // The first level is the implicit transaction of the turn.
+  // The first level is the turn's implicit transaction.
   static std::vector<Level> stack(1);
   return stack;
 }
@@ -64,7 +64,7 @@ void set_animation_timing_function(objc::Object, CAMediaTimingFunction function)
   innermost().timing.reset(function);
 }
 void set_completion_block(objc::Object, objc::Block<void()> completion) {
-  // Animations added before keep the group that they have, as on the platform.
+  // Animations added earlier keep their group, as on the platform.
   Level& level = innermost();
   level.group = std::make_shared<TransactionGroup>();
   level.group->completion = objc::OwnedBlock<void()>(completion);

@@ -7,13 +7,13 @@
 
 namespace host::quartzcore {
 
-/// Shared by the animations of one transaction; its end is the moment when the completion is due.
+/// Shared by the animations of one transaction. The completion is due when it is destroyed.
 class TransactionGroup {
  public:
   TransactionGroup() = default;
   TransactionGroup(const TransactionGroup&) = delete;
   TransactionGroup& operator=(const TransactionGroup&) = delete;
-  /// Lets the completion run in the next turn of the run loop.
+  /// Schedules the completion for the next turn of the run loop.
   ~TransactionGroup();
 
   objc::OwnedBlock<void()> completion;
@@ -21,16 +21,16 @@ class TransactionGroup {
 
 enum class Actions { Enabled, Disabled };
 
-/// What holds for property changes now: the innermost transaction's word.
+/// The innermost transaction's settings, which apply to property changes made now.
 Actions current_actions();
 double current_animation_duration();
 CAMediaTimingFunction current_timing_function();
-/// The group that an animation added now belongs to.
+/// The group of an animation added now.
 std::shared_ptr<TransactionGroup> current_group();
-/// Ends the transaction that every turn of the run loop has by itself.
+/// Ends the implicit transaction of the current turn of the run loop.
 void end_implicit_transaction();
 
-/// Makes CATransaction, but for `flush`, which is the layers'.
+/// Registers CATransaction, except `flush`, which `export_layer_flush` adds.
 void export_transaction();
 
 }  // namespace host::quartzcore

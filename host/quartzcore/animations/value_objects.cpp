@@ -13,8 +13,8 @@ namespace {
 
 struct CAGeometryValue : objc::Bound<CAGeometryValue, "CAGeometryValue", NSValue> {};
 
-/// The desktop's Foundation loses half of a point that is boxed by its bytes, so geometry has a
-/// class of values of its own.
+/// The desktop's Foundation loses half of a point that is boxed by its bytes, so geometry gets its
+/// own value class.
 class GeometryValue : public objc::Implementation<GeometryValue, CAGeometryValue> {
  public:
   explicit GeometryValue(CAGeometryValue owner) : Implementation(owner) {}
@@ -35,7 +35,7 @@ class GeometryValue : public objc::Implementation<GeometryValue, CAGeometryValue
            objc::state_of<GeometryValue>(other).value == value;
   }
   NSUInteger hash() const { return value.index(); }
-  // It never changes: a copy may be the same object.
+  // Immutable: a copy may be the same object.
   objc::Object copy_with_zone(void*) const { return self.retain(); }
 
  private:
@@ -59,7 +59,7 @@ objc::Object boxed(objc::Object, T value) {
   return made.autorelease();
 }
 
-/// Reads a value that this host boxed; zero for another kind.
+/// Reads a value boxed by this host; zero for any other kind.
 template <class T>
 T unboxed(NSValue value) {
   if (!value.isKindOfClass(CAGeometryValue::cls())) return T{};

@@ -7,12 +7,13 @@
 
 namespace host::quartzcore {
 
-/// What an NSNumber, NSValue, CGColor or NSArray of NSNumbers says; nothing for other objects.
+/// Returns the value of an NSNumber, NSValue, CGColor or NSArray of NSNumbers; nothing for other
+/// objects.
 std::optional<Value> value_from_object(objc::Object object);
-/// An autoreleased object that says the same; nil for no value.
+/// Returns an autoreleased object with this value; nil for no value.
 objc::Object object_from_value(const Value& value);
 
-/// Teaches NSValue to hold points, sizes, rectangles and transforms.
+/// Adds the methods for points, sizes, rectangles and transforms to NSValue.
 void export_value_categories();
 
 }  // namespace host::quartzcore

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kFullByte = 255;
 
-/// The mean of all pixels.
+/// Returns the mean of all pixels.
 Rgba mean_of(const Image& image) {
   const Surface one = area_average(image.surface(), 1, 1);
   const unsigned char* bytes = cairo_image_surface_get_data(one.get());
@@ -57,7 +57,7 @@ Pattern pattern_of(CGColorRef color) {
 void set_source(cairo_t* drawing, const Pattern& pattern) {
   const Image* picture = image_of(pattern.image.get());
   if (!picture) return;
-  // Such pictures are small: nothing is won by drawing without them first.
+  // Such pictures are small: there is no point in drawing without them until they are ready.
   cairo_set_source_surface(drawing, picture->surface().get(), 0, 0);
   cairo_pattern_t* const tiles = cairo_get_source(drawing);
   cairo_pattern_set_extend(tiles, CAIRO_EXTEND_REPEAT);

@@ -11,7 +11,7 @@
 
 namespace host::quartzcore {
 
-/// A picture that fills an area by being repeated, `scale` of its pixels to the point.
+/// A picture that is tiled to fill an area, at `scale` of its pixels per point.
 struct Pattern {
   objc::Ref<CGImageObject> image;
   double scale = 1;
@@ -24,12 +24,12 @@ struct Pattern {
 
 struct CGColorObject : objc::Bound<CGColorObject, "CGColor", NSObject> {};
 
-/// What a CGColorRef points to: an immutable colour that is an object of the runtime.
+/// What a CGColorRef points to: an immutable colour, which is also a runtime object.
 class Color : public objc::Implementation<Color, CGColorObject> {
  public:
   explicit Color(CGColorObject owner) : Implementation(owner) {}
 
-  /// Of a pattern: its mean, for whatever has no use for pictures.
+  /// For a pattern: its mean colour, where a pattern cannot be used.
   Rgba rgba;
   Pattern pattern;
 
@@ -37,20 +37,21 @@ class Color : public objc::Implementation<Color, CGColorObject> {
   NSUInteger hash() const;
 };
 
-/// A new colour (+1).
+/// Returns a new colour; the caller owns it (+1).
 CGColorRef make_color(const Rgba& rgba);
-/// A new colour (+1) that fills with copies of the picture.
+/// Returns a new colour (+1) that tiles the image, at `scale` of its pixels per point. Null when
+/// `image` is not an image.
 CGColorRef make_pattern_color(CGImageRef image, double scale);
-/// No pattern where the colour is a plain one, or null.
+/// Returns an empty pattern when the colour is plain or null.
 Pattern pattern_of(CGColorRef color);
-/// The components; of null, clear black.
+/// Returns the components; transparent black for null.
 Rgba rgba_of(CGColorRef color);
 bool is_color(objc::Object object);
 inline objc::Object object_of(CGColorRef color) {
   return objc::Object(reinterpret_cast<objc::Id>(color));
 }
 
-/// A colour that somebody keeps, or none.
+/// A retained colour, or none.
 class KeptColor {
  public:
   KeptColor() = default;
@@ -67,7 +68,7 @@ inline void set_source(cairo_t* drawing, const Rgba& rgba) {
   cairo_set_source_rgba(drawing, rgba.red, rgba.green, rgba.blue, rgba.alpha);
 }
 
-/// Tiles from the origin of the drawing's user space.
+/// Tiles start at the origin of the drawing's user space.
 void set_source(cairo_t* drawing, const Pattern& pattern);
 
 void export_color();

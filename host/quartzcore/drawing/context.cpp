@@ -8,12 +8,12 @@
 namespace host::quartzcore {
 namespace {
 
-// The pattern filter of the drawing library looks at four pixels; larger reductions are averaged
+// The drawing library's pattern filter samples four pixels; larger reductions are averaged
 // beforehand.
 constexpr double kLargestPlainReduction = 2;
 
 int pixels(double points, double scale) {
-  // A size like 10.1 × 2 must not gain a pixel through its last binary digit.
+  // A size like 10.1 × 2 must not gain a pixel through a rounding error.
   return std::max(1, static_cast<int>(std::ceil(points * scale - 1e-6)));
 }
 
@@ -55,7 +55,7 @@ void draw_image(cairo_t* drawing, const Image& image, CGRect rect, double alpha)
   cairo_translate(drawing, rect.min_x(), rect.min_y());
   cairo_scale(drawing, rect.size.width / width_of(source), rect.size.height / height_of(source));
   cairo_set_source_surface(drawing, source.get(), 0, 0);
-  // Without padding the edge pixels would mix with the emptiness around the picture.
+  // Without padding the edge pixels would blend with the transparency around the picture.
   cairo_pattern_set_extend(cairo_get_source(drawing), CAIRO_EXTEND_PAD);
   cairo_pattern_set_filter(cairo_get_source(drawing), CAIRO_FILTER_BILINEAR);
   cairo_paint_with_alpha(drawing, alpha);

@@ -7,12 +7,13 @@
 #include "host/quartzcore/pixels/surface.h"
 #include "platform/CoreGraphics/CGContext.h"
 
-/// What a CGContextRef points to: a Cairo drawing whose user space is points from the top left,
-/// with the colours that Cairo keeps in one source only. Counted by hand.
+/// What a CGContextRef points to: a Cairo drawing whose user space is in points from the top left.
+/// It has separate fill and stroke colours, whereas Cairo has a single source. References are
+/// counted by hand.
 struct CGContext {
   struct State {
     host::quartzcore::Rgba fill{0, 0, 0, 1};
-    /// In place of the fill colour where there is one.
+    /// Replaces the fill colour unless it is empty.
     host::quartzcore::Pattern fill_pattern;
     host::quartzcore::Rgba stroke{0, 0, 0, 1};
     double alpha = 1;
@@ -31,11 +32,11 @@ struct CGContext {
 
 namespace host::quartzcore {
 
-/// A context (+1) on new transparent pixels; `scale` pixels to the point. Sizes in points, rounded
-/// up to whole pixels.
+/// Returns a context (+1) on new pixels, transparent or, for an opaque one, black. `size` is in
+/// points, with `scale` pixels per point, rounded up to whole pixels.
 CGContextRef make_bitmap_context(CGSize size, double scale, Opacity opacity);
 
-/// The drawing behind a context, for text; null for null.
+/// Returns the context's Cairo drawing, for text; null for null.
 inline cairo_t* cairo_of(CGContextRef context) {
   return context ? context->cairo() : nullptr;
 }

@@ -2,7 +2,8 @@
 #include "host/quartzcore/drawing/path.h"
 #include "host/runtime/exported.h"
 
-// The platform's C interface to drawing. A null context swallows everything, as the platform's.
+// The platform's C interface to drawing. On a null context every call is a no-op, as on the
+// platform.
 
 using namespace host::quartzcore;
 
@@ -83,7 +84,7 @@ SONAVUE_EXPORTED void CGContextTranslateCTM(CGContextRef context, CGFloat tx, CG
   if (context) cairo_translate(context->cairo(), tx, ty);
 }
 SONAVUE_EXPORTED void CGContextScaleCTM(CGContextRef context, CGFloat sx, CGFloat sy) {
-  // A drawing library's matrix must stay invertible; nothing would be seen of it anyway.
+  // Cairo's matrix must stay invertible; a drawing scaled to 0 would be invisible anyway.
   if (context && sx != 0 && sy != 0) cairo_scale(context->cairo(), sx, sy);
 }
 SONAVUE_EXPORTED void CGContextRotateCTM(CGContextRef context, CGFloat angle) {

@@ -114,7 +114,7 @@ SONAVUE_EXPORTED CGImageRef CGImageCreateWithImageInRect(CGImageRef image, CGRec
   return image ? host::quartzcore::part_of(*image_of(image), rect) : nullptr;
 }
 
-// The image is its own provider: both live equally long.
+// The image is its own data provider: both have the same lifetime.
 SONAVUE_EXPORTED CGDataProviderRef CGImageGetDataProvider(CGImageRef image) {
   return reinterpret_cast<CGDataProviderRef>(image);
 }

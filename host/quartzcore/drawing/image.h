@@ -14,39 +14,39 @@ namespace host::quartzcore {
 struct CGImageObject : objc::Bound<CGImageObject, "CGImage", NSObject> {};
 
 enum class Opacity { Translucent, Opaque };
-/// The order in which the data provider hands out a pixel's bytes. Decoded files are red first, as
-/// the platform's decoder makes them; drawings are blue first.
+/// The order in which the data provider returns a pixel's bytes. Decoded files are red first, as
+/// from the platform's decoder; drawings are blue first.
 enum class ByteOrder { BlueFirst, RedFirst };
 
-/// Pixels that are made when they are first needed, and may be let go and made again. Main thread
+/// Pixels that are produced when first needed, and may be released and produced again. Main thread
 /// only.
 class PixelSource {
  public:
   virtual ~PixelSource() = default;
 
-  /// The pixels, made now if they are not there. Null when they cannot be made.
+  /// Returns the pixels and produces them if necessary. Null when this fails.
   virtual Surface pixels() = 0;
-  /// The same for a frame of the screen, which waits for nothing: null while they are on their way.
+  /// The same for a frame of the screen, without blocking: null while they are being produced.
   virtual Surface pixels_for_frame() = 0;
-  /// Opaque only when a frame drawn now would have the pixels.
+  /// Opaque only if the pixels are available to a frame drawn now.
   virtual Opacity opacity() const = 0;
-  /// Another number when pixels have arrived that a frame had to do without.
+  /// Changes when pixels have become available that an earlier frame had to do without.
   virtual std::uint64_t revision() const = 0;
 };
 
-/// What a CGImageRef points to: immutable premultiplied ARGB32 pixels, or the promise of them, an
-/// object of the runtime.
+/// What a CGImageRef points to: immutable premultiplied ARGB32 pixels, or a promise of them. It is
+/// also a runtime object.
 class Image : public objc::Implementation<Image, CGImageObject> {
  public:
   explicit Image(CGImageObject owner);
 
-  /// Never null: promised pixels that cannot be made are transparent.
+  /// Never null: promised pixels that cannot be produced are transparent.
   Surface surface() const;
-  /// Null while promised pixels are on their way.
+  /// Null while promised pixels are being produced.
   Surface surface_for_frame() const { return source_ ? source_->pixels_for_frame() : surface_; }
   bool is_opaque() const { return (source_ ? source_->opacity() : opacity_) == Opacity::Opaque; }
   std::uint64_t revision() const { return source_ ? source_->revision() : 0; }
-  /// Never used twice in a process: what caches are keyed by.
+  /// Unique within the process; caches use it as their key.
   std::uint64_t serial() const { return serial_; }
   int width() const { return width_; }
   int height() const { return height_; }
@@ -66,15 +66,16 @@ class Image : public objc::Implementation<Image, CGImageObject> {
   std::uint64_t serial_;
 };
 
-/// A new image (+1) of these pixels, which nobody draws on any more.
+/// Returns a new image (+1) of these pixels, which must not be drawn on afterwards.
 CGImageRef make_image(Surface surface, Opacity opacity, ByteOrder order = ByteOrder::BlueFirst);
 
-/// A new image (+1) whose pixels, `width` × `height`, are asked of the source when they are needed.
+/// Returns a new image (+1) whose pixels, `width` × `height`, are requested from the source when
+/// they are needed.
 CGImageRef promise_image(int width, int height, std::shared_ptr<PixelSource> source,
                          ByteOrder order = ByteOrder::BlueFirst);
 
-/// Decodes PNG, JPEG and whatever else gdk-pixbuf reads (+1); null for what is no picture.
-/// Pictures above `kLargestSide` are shrunk while they are decoded.
+/// Decodes PNG, JPEG and every other format that gdk-pixbuf reads (+1); null for invalid data.
+/// Pictures with a side above `kLargestSide` are shrunk while they are decoded.
 CGImageRef decode_image_file(const char* path);
 CGImageRef decode_image_bytes(std::span<const unsigned char> bytes);
 inline constexpr int kLargestSide = 4096;
@@ -82,7 +83,7 @@ inline constexpr int kLargestSide = 4096;
 inline objc::Object object_of(CGImageRef image) {
   return objc::Object(reinterpret_cast<objc::Id>(image));
 }
-/// The image behind a reference or an object; null when it is none.
+/// Returns the image behind a reference or an object; null when it is not an image.
 const Image* image_of(CGImageRef image);
 const Image* image_of(objc::Object object);
 

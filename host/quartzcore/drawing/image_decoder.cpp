@@ -64,7 +64,7 @@ CGImageRef image_from(GdkPixbuf* decoded) {
 }
 
 CGImageRef finish(const Loader& loader, bool written) {
-  // A truncated picture shows what there is of it; closing only reports that it is truncated.
+  // A truncated picture shows the part that exists; closing only reports that it is truncated.
   gdk_pixbuf_loader_close(loader.get(), nullptr);
   return written ? image_from(gdk_pixbuf_loader_get_pixbuf(loader.get())) : nullptr;
 }

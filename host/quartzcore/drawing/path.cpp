@@ -27,7 +27,7 @@ void Path::close() {
 
 void Path::append(const Path& other, const CGAffineTransform& transform) {
   const auto moved = [&](CGPoint p) { return CGPointApplyAffineTransform(p, transform); };
-  // By value: a path may be appended to itself.
+  // A copy, because a path may be appended to itself.
   for (const Element& element : std::vector(other.elements_)) {
     const auto& points = element.points;
     switch (element.kind) {

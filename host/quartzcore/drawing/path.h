@@ -12,7 +12,7 @@ namespace host::quartzcore {
 
 struct CGPathObject : objc::Bound<CGPathObject, "CGPath", NSObject> {};
 
-/// What a CGPathRef points to: moves, lines, curves and closings, an object of the runtime.
+/// What a CGPathRef points to: a list of moves, lines, curves and closings. Also a runtime object.
 class Path : public objc::Implementation<Path, CGPathObject> {
  public:
   explicit Path(CGPathObject owner) : Implementation(owner) {}
@@ -42,7 +42,7 @@ class Path : public objc::Implementation<Path, CGPathObject> {
   CGPoint current_;
 };
 
-/// A Cairo drawing on one pixel, for asking about paths.
+/// Returns a Cairo drawing on a single pixel, used for queries about paths.
 cairo_t* scratch_drawing();
 
 inline objc::Object object_of(CGPathRef path) {

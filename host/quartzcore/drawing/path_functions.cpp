@@ -15,7 +15,8 @@ using host::quartzcore::path_of;
 
 namespace {
 
-// Control points at this part of a quarter's radius follow the circle within 0.03 %.
+// With control points at this share of the radius, a quarter's curve follows the circle within
+// 0.03 %.
 constexpr double kQuarterControl = 0.5522847498307936;
 
 CGPoint moved(const CGAffineTransform* transform, CGPoint point) {
@@ -26,7 +27,7 @@ CGAffineTransform value_of(const CGAffineTransform* transform) {
   return transform ? *transform : CGAffineTransform{};
 }
 
-/// A rectangle whose corners are quarters of an ellipse with the given radii.
+/// Adds a rectangle whose corners are quarters of an ellipse with the given radii.
 void add_rounded_rect(Path& path, const CGAffineTransform* t, CGRect r, double rx, double ry) {
   rx = std::clamp(rx, 0.0, r.size.width / 2);
   ry = std::clamp(ry, 0.0, r.size.height / 2);

@@ -7,9 +7,9 @@
 
 namespace host::quartzcore {
 
-/// How a backdrop changes what it has blurred.
+/// How a backdrop alters the picture behind it.
 struct BackdropLook {
-  /// Points; 0 does not blur.
+  /// In points; 0 does not blur.
   double blur_radius = 20;
   /// 1 keeps the colours, 0 is grey, above 1 is more colourful.
   double saturation = 1;
@@ -21,7 +21,7 @@ struct BackdropLook {
   std::uint64_t signature() const;
 };
 
-/// CABackdropLayer: the compositor gives it what is painted behind.
+/// CABackdropLayer: shows the picture behind it, which the compositor provides.
 class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer> {
  public:
   explicit BackdropLayer(CABackdropLayer owner);
@@ -31,7 +31,8 @@ class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer
   const BackdropLook& look() const { return look_; }
   void show(const BackdropLook& look);
   void note_luminance(double luminance) { luminance_ = luminance; }
-  /// Mean luminance, 0 to 1, of what was last blurred, before the tints; 0.5 before any frame.
+  /// The mean luminance, 0 to 1, of the last blurred picture, before the tints; 0.5 before the
+  /// first frame.
   double luminance() const { return luminance_; }
 
  private:
@@ -39,7 +40,7 @@ class BackdropLayer : public objc::Implementation<BackdropLayer, CABackdropLayer
   double luminance_ = 0.5;
 };
 
-/// All that there are in this process.
+/// All backdrop layers of this process.
 const std::vector<const BackdropLayer*>& all_backdrops();
 
 void export_backdrop_layer();

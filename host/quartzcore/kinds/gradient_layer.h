@@ -13,7 +13,7 @@ struct GradientProperties {
   std::vector<double> locations;
 };
 
-/// CAGradientLayer: colours along an axis over the whole bounds.
+/// CAGradientLayer: colours along an axis, filling the whole bounds.
 class GradientLayer : public objc::Implementation<GradientLayer, CAGradientLayer>,
                       public LayerDrawing {
  public:

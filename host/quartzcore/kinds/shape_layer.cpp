@@ -61,7 +61,7 @@ CGPathRef ShapeLayer::path() const {
   return reinterpret_cast<CGPathRef>(path_.get().id());
 }
 void ShapeLayer::set_path(CGPathRef path) {
-  // A copy, so that drawing on the path afterwards changes nothing here.
+  // A copy: later changes to the caller's path must have no effect here.
   path_ =
       objc::Ref<CGPathObject>::adopt(objc::cast<CGPathObject>(object_of(CGPathCreateCopy(path))));
   note_shape_change();
@@ -132,7 +132,7 @@ CGRect ShapeLayer::extent(const LayerProperties&) const {
   if (!path_) return {};
   const CGRect box = objc::state_of<Path>(path_.get()).bounding_box();
   if (presented_.stroke.alpha <= 0) return box;
-  // Half the line, and as far again as a mitred corner or a square cap may reach.
+  // Half the line width, plus the farthest that a mitred corner or a square cap may reach.
   const double reach = presented_.line_width * (join_ == CAIRO_LINE_JOIN_MITER ? 5 : 1);
   return CGRectInset(box, -reach, -reach);
 }

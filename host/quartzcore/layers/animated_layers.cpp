@@ -41,7 +41,7 @@ void AnimatedLayers::update_frames() {
   }
 }
 
-// Never destroyed: layers may end after everything else.
+// Never destroyed: layers may outlive other static objects.
 AnimatedLayers& animated_layers() {
   static auto* const made = new AnimatedLayers;
   return *made;

@@ -7,12 +7,12 @@
 
 namespace host::quartzcore {
 
-/// The layers of this process of which something moves. They enter and leave by themselves, so
-/// nothing here is retained. While there is one, a run loop is asked for frames.
+/// The layers of this process that have animations. They enter and leave the list by themselves and
+/// are not retained. While the list is not empty, frames are requested from a run loop.
 class AnimatedLayers {
  public:
-  /// What there may be since somebody looked last. Thousands of layers may be animated; they are
-  /// looked through only when there is something new.
+  /// What may have changed since the last look. Thousands of layers may be animated; they are
+  /// searched only when something may be new.
   struct News {
     bool starts = false;
     bool ends = false;
@@ -23,17 +23,17 @@ class AnimatedLayers {
 
   void add(CALayer layer);
   void remove(CALayer layer);
-  /// Lets go of those of which nothing moves any more.
+  /// Removes the layers for which `rests` returns true.
   template <class Rests>
   void remove_if(Rests rests) {
     std::erase_if(layers_, rests);
     update_frames();
   }
-  /// Empties the list.
+  /// Empties the list and returns its layers.
   std::vector<CALayer> take();
 
   News& news() { return news_; }
-  /// After an animation was added to a layer or taken from it.
+  /// To be called after an animation was added to a layer or removed from it.
   void note_news() { news_ = {true, true}; }
 
   /// Runs `work` at every frame of `loop` while, and only while, a layer is animated.
@@ -50,7 +50,7 @@ class AnimatedLayers {
   RunLoop::Id frame_observer_ = 0;
 };
 
-/// The ones of this process.
+/// The only instance in this process.
 AnimatedLayers& animated_layers();
 
 }  // namespace host::quartzcore

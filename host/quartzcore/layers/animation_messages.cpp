@@ -27,7 +27,7 @@ Value current_value(const Layer& layer, std::string_view key_path) {
   return {};
 }
 
-// Only what is in a tree has been seen, so only that can be seen to change.
+// Only a layer in a tree has been visible, so only its changes are animated.
 objc::Object default_action(const Layer& layer, NSString key) {
   if (!layer.tree.superlayer || current_animation_duration() <= 0) return nil;
   const std::string path = text_of(key);

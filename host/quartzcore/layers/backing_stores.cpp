@@ -18,7 +18,7 @@ struct BackingStores {
   std::size_t bytes = 0;
 };
 
-// Never destroyed: layers may end after everything else.
+// Never destroyed: layers may outlive other static objects.
 BackingStores& stores() {
   static auto* const made = new BackingStores;
   return *made;

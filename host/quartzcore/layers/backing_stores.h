@@ -6,9 +6,9 @@
 
 namespace host::quartzcore {
 
-// The pictures that layers have drawn of themselves.
+// Accounts for the pictures that layers have drawn of themselves.
 
-/// A layer's own picture among them. Not retained: it leaves with the layer.
+/// The entry of one layer's picture. The list does not retain the layer: the entry ends with it.
 class BackingStore {
  public:
   explicit BackingStore(CALayer layer) : layer_(layer) {}
@@ -16,7 +16,7 @@ class BackingStore {
   BackingStore& operator=(const BackingStore&) = delete;
   ~BackingStore() { forget(); }
 
-  /// The layer has drawn itself anew.
+  /// Records that the layer has drawn itself again, into a picture of `bytes` bytes.
   void note(std::size_t bytes);
   void forget();
 
@@ -25,12 +25,12 @@ class BackingStore {
   bool is_listed_ = false;
 };
 
-/// Bytes of all of them.
+/// The total size of all pictures in bytes.
 std::size_t backing_store_bytes();
 
-/// The layer that drew itself first; there must be one.
+/// The layer that drew itself the longest time ago. There must be at least one backing store.
 CALayer oldest_backing_store();
-/// Lets that layer count as the one that drew itself last.
+/// Treats that layer as the one that drew itself last.
 void renew_oldest_backing_store();
 
 }  // namespace host::quartzcore

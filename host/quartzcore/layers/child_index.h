@@ -10,14 +10,15 @@ namespace host::quartzcore {
 
 class Layer;
 
-/// Finds the few sublayers in sight among thousands. They are looked through in lots of neighbours
-/// in drawing order, which mostly are neighbours in place as well.
+/// Finds the few visible sublayers among thousands. It checks them in lots of neighbours in drawing
+/// order, which are mostly neighbours on the screen as well.
 class ChildIndex {
  public:
-  /// From this many sublayers on an index costs less than it saves.
+  /// From this number of sublayers on, an index saves more than it costs.
   static constexpr std::size_t kWorthwhile = 64;
 
-  /// Layers in drawing order and what each of them may touch, in their superlayer's coordinates.
+  /// `layers` are in drawing order; `boxes` are the areas that they may cover, in their
+  /// superlayer's coordinates.
   ChildIndex(std::vector<const Layer*> layers, std::vector<CGRect> boxes);
 
   /// Calls `visit` in drawing order for each layer that may touch `rect`.

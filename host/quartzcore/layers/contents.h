@@ -28,20 +28,21 @@ enum class Gravity {
 NSString name_of(Gravity gravity);
 std::optional<Gravity> gravity_named(std::string_view name);
 
-/// What a layer shows besides what it draws of itself.
+/// The `contents` of a layer, and how they are placed.
 class Contents {
  public:
   Gravity gravity = Gravity::Resize;
   double scale = 1;
 
   objc::Object object() const { return object_.get(); }
-  /// Null when the object is no image.
+  /// Null when the object is not an image.
   const Image* image() const { return image_; }
   void show(objc::Object object);
 
-  /// Where the image lies, which must be there, in the coordinates of a layer with these bounds.
+  /// The frame of the image, which must not be null, in the coordinates of a layer with these
+  /// bounds.
   CGRect place_in(const CGRect& bounds) const;
-  /// May that be another place than the bounds?
+  /// True when that frame may differ from the bounds.
   bool has_own_place() const { return gravity != Gravity::Resize; }
 
  private:

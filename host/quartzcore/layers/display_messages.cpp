@@ -10,7 +10,7 @@
 namespace host::quartzcore {
 namespace {
 
-// Backing stores beyond this many pixels a side are drawn coarser, not refused.
+// Backing stores with more pixels than this on a side are drawn more coarsely, not refused.
 constexpr double kLargestBackingSide = 8192;
 
 void mark(CALayer self) {
@@ -49,7 +49,7 @@ void display_if_needed(CALayer self) {
   self.display();
 }
 
-// A layer that nobody draws must not cost a backing store.
+// A layer without any drawing code must not cost a backing store.
 bool is_custom_drawn(CALayer self) {
   const objc::Sel selector = "drawInContext:"_sel;
   const objc::Method own = class_getInstanceMethod(objc::class_of(self.id()), selector);
@@ -58,13 +58,13 @@ bool is_custom_drawn(CALayer self) {
   return answers(layer_of(self).delegate, "drawLayer:inContext:"_sel);
 }
 
-/// The size in pixels to the point at which a layer of that size is drawn.
+/// The scale, in pixels per point, at which a layer of this size is drawn.
 double drawing_scale(double contents_scale, CGSize size) {
   const double longest = std::max(size.width, size.height) * contents_scale;
   return contents_scale * std::min(1.0, kLargestBackingSide / longest);
 }
 
-/// What the layer draws of itself (+1).
+/// Returns an image (+1) of what the layer draws itself.
 CGImageRef draw(CALayer self) {
   const LayerModel& model = layer_of(self).model;
   const CGRect bounds = model.properties.bounds;
@@ -73,7 +73,7 @@ CGImageRef draw(CALayer self) {
       make_bitmap_context(bounds.size, drawing_scale(model.contents.scale, bounds.size), opacity);
   cairo_translate(context->cairo(), -bounds.origin.x, -bounds.origin.y);
   self.drawInContext(context);
-  // Whoever kept the context may draw on: only then the pixels must be copied.
+  // The pixels must be copied only if the context was retained, because its owner may draw again.
   CGImageRef image = context->references == 1 ? make_image(context->surface, opacity)
                                               : CGBitmapContextCreateImage(context);
   CGContextRelease(context);
@@ -110,7 +110,7 @@ void layout_sublayers(CALayer self) {
 void lay_out_marked_tree(Layer& layer) {
   if (std::exchange(layer.marks.needs_layout, false)) layer.handle().layoutSublayers();
   if (!std::exchange(layer.marks.layout_waits_below, false)) return;
-  // Layout may add and remove layers: walk what there is when it is done.
+  // Layout may add and remove layers: visit those that exist when it is done.
   std::vector<objc::Ref<CALayer>> waiting;
   for (const auto& child : layer.tree.sublayers) {
     if (layer_of(child.get()).marks.awaits_layout()) waiting.push_back(child);

@@ -4,7 +4,7 @@
 namespace host::quartzcore {
 namespace {
 
-/// To the coordinates outside of the topmost layer.
+/// The transform to the coordinates outside of the topmost layer.
 CGAffineTransform to_outside(CALayer self) {
   CGAffineTransform transform;
   for (const Layer* layer = &layer_of(self); layer; layer = layer->superlayer())

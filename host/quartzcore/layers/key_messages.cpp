@@ -2,7 +2,7 @@
 #include "host/quartzcore/layers/layer.h"
 #include "host/quartzcore/layers/layer_messages.h"
 
-// Key-value access: the parts of geometry by key path, and any key that a user of layers invents.
+// Key-value access: the parts of geometry by key path, and arbitrary keys of callers.
 
 namespace host::quartzcore {
 namespace {
@@ -20,7 +20,7 @@ void set_value_for_key_path(CALayer self, objc::Object value, NSString path) {
   if (!shaped) return;
   LayerProperties changed = properties;
   access->write(changed, *shaped);
-  // Through the whole properties, so that their setters are heard.
+  // Set as whole properties, to call their setters.
   self.setBounds(changed.bounds);
   self.setPosition(changed.position);
   self.setTransform(changed.transform);

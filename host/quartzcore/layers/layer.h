@@ -18,7 +18,7 @@ namespace host::quartzcore {
 
 class BackdropLayer;
 
-/// Where a layer stands.
+/// A layer's place in the tree.
 struct LayerTree {
   /// Not retained: it owns the layer.
   CALayer superlayer;
@@ -26,20 +26,20 @@ struct LayerTree {
   objc::Ref<CALayer> mask;
 };
 
-/// What is still to be done for a layer.
+/// A layer's pending work.
 struct LayerMarks {
   bool needs_display = false;
   bool needs_layout = false;
-  /// Some layer below it does.
+  /// A layer below this one needs layout.
   bool layout_waits_below = false;
-  /// Is it in the list of marked layers?
+  /// True while it is in the list of marked layers.
   bool is_listed = false;
 
   bool awaits_layout() const { return needs_layout || layout_waits_below; }
 };
 
-/// CALayer, in parts. The messages, by subject, are in the files `*_messages.cpp`; they alone
-/// change the model and the tree. The service turns to the marks and the animations, the compositor
+/// CALayer, in parts. The messages, by subject, are in the files `*_messages.cpp`; only they change
+/// the model and the tree. The service works on the marks and the animations; the compositor only
 /// reads.
 class Layer : public objc::Implementation<Layer, CALayer> {
  public:
@@ -47,35 +47,35 @@ class Layer : public objc::Implementation<Layer, CALayer> {
   ~Layer();
 
   CALayer handle() const { return self; }
-  /// Null where it has none.
+  /// Null when it has none.
   Layer* superlayer() const;
-  /// The values at `now`, with the kind's own ones made ready for painting.
+  /// Returns the values at `now`, and prepares the kind's own values for painting.
   LayerProperties present(double now) const;
 
   void add_animation(RunningAnimation&& animation);
-  /// The same in the place of one with the same key.
+  /// The same, but replaces an animation with the same key.
   void run(RunningAnimation&& animation);
   void set_drawing(LayerDrawing* kind);
-  /// Lets the layers above know that layout waits below them: whoever lays out a tree then walks
-  /// only where there is something to do.
+  /// Marks the layers above as having layout pending below them, so that laying out a tree visits
+  /// only branches with work to do.
   void announce_layout();
 
-  /// Never used twice in a process.
+  /// Unique within the process.
   const std::uint64_t serial;
   LayerModel model;
   LayerTree tree;
   LayerMarks marks;
   bool needs_display_on_bounds_change = false;
-  /// Not retained, as the platform has it.
+  /// Not retained, as on the platform.
   objc::Object delegate;
-  /// Of which layer it is the presentation, if it is one.
+  /// For a presentation layer: the layer that it presents.
   CALayer model_layer;
-  /// What users of layers keep under keys of their own.
+  /// Values that callers have set under their own keys.
   std::map<std::string, objc::Ref<objc::Object>> extra;
   LayerAnimations animations;
   LayerReach reach{*this};
   BackingStore backing_store{self};
-  /// What the layer's kind adds, where it is of one.
+  /// The drawing of the layer's kind; null for a plain layer.
   LayerDrawing* drawing = nullptr;
   BackdropLayer* backdrop = nullptr;
 };

@@ -6,7 +6,7 @@
 
 namespace host::quartzcore {
 
-/// The action for a change about to be made; run it after the change.
+/// Returns the action for a change that is about to be made; run it after the change.
 objc::Ref<objc::Object> action_before_change(CALayer layer, NSString key);
 void run_action(const objc::Ref<objc::Object>& action, CALayer layer, NSString key);
 

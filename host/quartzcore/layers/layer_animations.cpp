@@ -11,7 +11,7 @@
 namespace host::quartzcore {
 namespace {
 
-// Animations of these change how a layer looks and not where it is.
+// Animations of these keys change how a layer looks, not where it is.
 constexpr std::array<std::string_view, 5> kUnmovingKeys = {
     "opacity", "backgroundColor", "borderColor", "borderWidth", "cornerRadius"};
 
@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 5> kUnmovingKeys = {
 
 LayerAnimations::~LayerAnimations() {
   for (auto& animation : animations_)
-    stop_animation(animation, NO, Telling::InTheNextTurn);
+    stop_animation(animation, NO, Notify::NextTurn);
 }
 
 RunningAnimation* LayerAnimations::find(std::string_view key) {
@@ -35,8 +35,7 @@ void LayerAnimations::add(RunningAnimation&& animation) {
 
 bool LayerAnimations::remove(std::string_view key, double now) {
   for (auto& animation : animations_) {
-    if (animation.key == key)
-      stop_animation(animation, animation.is_over(now), Telling::InTheNextTurn);
+    if (animation.key == key) stop_animation(animation, animation.is_over(now), Notify::NextTurn);
   }
   return std::erase_if(animations_, [&](const auto& animation) { return animation.key == key; }) >
          0;
@@ -44,11 +43,11 @@ bool LayerAnimations::remove(std::string_view key, double now) {
 
 void LayerAnimations::remove_all(double now) {
   for (auto& animation : animations_)
-    stop_animation(animation, animation.is_over(now), Telling::InTheNextTurn);
+    stop_animation(animation, animation.is_over(now), Notify::NextTurn);
   animations_.clear();
 }
 
-bool LayerAnimations::start(double now, std::vector<RunningAnimation>& heard) {
+bool LayerAnimations::start(double now, std::vector<RunningAnimation>& observed) {
   bool waits = false;
   for (RunningAnimation& animation : animations_) {
     if (animation.has_started) continue;
@@ -57,7 +56,7 @@ bool LayerAnimations::start(double now, std::vector<RunningAnimation>& heard) {
       continue;
     }
     animation.has_started = true;
-    if (hears_of_start(animation)) heard.push_back(animation);
+    if (observes_start(animation)) observed.push_back(animation);
   }
   return waits;
 }

@@ -13,37 +13,37 @@ class LayerAnimations {
   LayerAnimations() = default;
   LayerAnimations(const LayerAnimations&) = delete;
   LayerAnimations& operator=(const LayerAnimations&) = delete;
-  /// Those that still run end unfinished.
+  /// Animations that still run end unfinished.
   ~LayerAnimations();
 
   bool empty() const { return animations_.empty(); }
   const std::vector<RunningAnimation>& all() const { return animations_; }
-  /// Null where there is none under the key.
+  /// Null when there is none under the key.
   RunningAnimation* find(std::string_view key);
 
-  /// Adds one to the layer's, and to those of the current transaction.
+  /// Adds an animation to the layer and to the current transaction.
   void add(RunningAnimation&& animation);
-  /// Takes away those under the key. Were there any?
+  /// Removes the animations under the key. Returns false when there were none.
   bool remove(std::string_view key, double now);
   void remove_all(double now);
 
-  /// Marks those whose time has come as started, and adds to `heard` whose start somebody hears of.
-  /// Are there others that wait for their time?
-  bool start(double now, std::vector<RunningAnimation>& heard);
-  /// Takes away those that are over, or leaves them where their last value is to be seen. Gives
-  /// them, for the caller to stop.
+  /// Marks the animations that are due as started, and appends those whose delegates observe the
+  /// start to `observed`. Returns true when others have yet to start.
+  bool start(double now, std::vector<RunningAnimation>& observed);
+  /// Returns the animations that are over, for the caller to stop. Removes them, unless their last
+  /// value must stay visible.
   std::vector<RunningAnimation> take_ended(double now);
 
   bool wants_frames() const;
-  /// The clock time at which the first of those that run ends; infinity when none does.
+  /// The clock time at which the next running animation ends; infinity when none does.
   double next_end() const;
-  /// Is the size on the screen under way? Then scaled copies are not worth keeping.
+  /// True while the size on the screen is animated; scaled copies are then not worth keeping.
   bool is_scaling(double now) const;
-  /// May one of them change where the layer is?
+  /// True when one of them may change where the layer is.
   bool may_move() const;
   static bool moves(const RunningAnimation& animation);
 
-  /// Is the layer among the animated ones?
+  /// True while the layer is in the list of animated layers.
   bool is_listed = false;
 
  private:

@@ -4,8 +4,8 @@
 
 namespace host::quartzcore {
 
-/// Counts every change that may change what is drawn: equal numbers mean an equal picture, as long
-/// as nothing is animated.
+/// The number of changes that may have affected the picture. Equal numbers mean an equal picture,
+/// as long as nothing is animated.
 std::uint64_t layer_changes();
 void note_layer_change();
 

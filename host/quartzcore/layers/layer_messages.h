@@ -4,12 +4,12 @@
 
 namespace host::quartzcore {
 
-// The messages of CALayer: each function adds those of one subject to the class.
+// The messages of CALayer. Each function adds those of one subject to the class.
 
-/// What a layer says of itself.
+/// A layer's own properties.
 void add_model_messages(objc::ClassBuilder& builder);
 void add_tree_messages(objc::ClassBuilder& builder);
-/// From one layer's coordinates to another's, and which layer lies under a point.
+/// Conversion between the coordinates of layers, and hit testing.
 void add_geometry_messages(objc::ClassBuilder& builder);
 /// Display and layout.
 void add_display_messages(objc::ClassBuilder& builder);

@@ -6,10 +6,10 @@
 
 namespace host::quartzcore {
 
-/// What a layer says of itself.
+/// A layer's own properties.
 struct LayerModel {
   LayerProperties properties;
-  /// The two colours as they were set.
+  /// The colour objects as they were set.
   KeptColor background_color;
   KeptColor border_color{properties.border_color};
   bool hidden = false;
@@ -19,7 +19,7 @@ struct LayerModel {
   Contents contents;
   objc::Ref<NSString> name;
 
-  /// Null when the background is of one colour.
+  /// Null when the background is a plain colour.
   const Pattern* background_pattern() const;
 };
 

@@ -87,8 +87,8 @@ CGAffineTransform LayerProperties::to_super() const {
 
 CGRect LayerProperties::frame() const {
   const CGRect box = CGRectApplyAffineTransform(bounds, to_super());
-  // Without a transform the size is kept to the last bit: whoever moves a layer by its frame must
-  // not change its bounds.
+  // Without a transform the size is exact to the last bit: moving a layer by its frame must not
+  // change its bounds.
   return CATransform3DIsIdentity(transform) ? CGRect{box.origin, bounds.size} : box;
 }
 
@@ -98,7 +98,7 @@ LayerProperties LayerProperties::placed_in(const CGRect& frame) const {
   linear.tx = linear.ty = 0;
   CGSize size = frame.size;
   if (!CGAffineTransformIsIdentity(linear)) {
-    // The size whose transformed box fits the frame, exactly so without turning.
+    // The size whose transformed box fits the frame; exact if there is no rotation.
     const CGRect box = CGRectApplyAffineTransform({0, 0, frame.size.width, frame.size.height},
                                                   CGAffineTransformInvert(linear));
     size = box.size;

@@ -10,7 +10,8 @@
 
 namespace host::quartzcore {
 
-/// The values of a layer that may be animated: once as the model has them, once as they are drawn.
+/// The values of a layer that may be animated. One instance holds the model's, another the values
+/// as they are drawn.
 struct LayerProperties {
   CGRect bounds;
   CGPoint position;
@@ -23,15 +24,15 @@ struct LayerProperties {
   Rgba border_color{0, 0, 0, 1};
   Rgba background_color;
 
-  /// From the layer's coordinates to its superlayer's; what leaves the plane is flattened.
+  /// The transform from the layer's coordinates to its superlayer's, flattened to the plane.
   CGAffineTransform to_super() const;
-  /// The box round the bounds in the superlayer's coordinates.
+  /// The bounding box of the bounds, in the superlayer's coordinates.
   CGRect frame() const;
-  /// The same with bounds and position that have that frame.
+  /// Returns a copy with the bounds and position that result in this frame.
   LayerProperties placed_in(const CGRect& frame) const;
 };
 
-/// Access to a layer's own property; null for a key path that it does not have.
+/// Returns the access to a property that every layer has; null for any other key path.
 const PropertyAccess<LayerProperties>* layer_property(std::string_view key_path);
 
 }  // namespace host::quartzcore

@@ -19,8 +19,8 @@ bool touch(const CGRect& a, const CGRect& b) {
 
 }  // namespace
 
-// The reach is made in any case: whoever keeps the box is told only when a known reach is
-// forgotten.
+// The reach is computed even if it is not used: an index that holds this box is invalidated only
+// when a known reach is forgotten.
 CGRect LayerReach::box() const {
   const CGRect reach = in_layer();
   return layer_.animations.may_move()
@@ -28,7 +28,7 @@ CGRect LayerReach::box() const {
              : CGRectApplyAffineTransform(reach, layer_.model.properties.to_super());
 }
 
-// Shapes may be drawn anywhere, and change without the layer's knowledge.
+// A kind's drawing may cover any place, and changes without notice to the layer.
 CGRect LayerReach::in_layer() const {
   if (is_known_) return in_layer_;
   is_known_ = true;

@@ -10,18 +10,18 @@ namespace host::quartzcore {
 
 class Layer;
 
-/// Where a layer and what is below it may be seen: what a frame does not show costs it nothing. It
-/// is found out when somebody asks, and kept until it is forgotten.
+/// The area in which a layer and its sublayers may be visible, which makes layers outside of a
+/// frame free of cost. It is computed on request and cached until it is forgotten.
 class LayerReach {
  public:
   explicit LayerReach(const Layer& layer) : layer_(layer) {}
 
-  /// What the layer with everything below it may touch, in its superlayer's coordinates.
+  /// The area that the layer with all its sublayers may cover, in its superlayer's coordinates.
   CGRect box() const;
-  /// Is it cut away whole by a layer above it, as the model has it?
+  /// True when, according to the model, a layer above clips it away completely.
   bool is_clipped_away() const;
-  /// Calls `visit` for each sublayer in drawing order; those that cannot touch `rect`, in this
-  /// layer's coordinates, are mostly left out where there are many.
+  /// Calls `visit` for each sublayer in drawing order. If there are many, it skips most of those
+  /// that cannot touch `rect`, which is in this layer's coordinates.
   template <class Visit>
   void visit_sublayers(const CGRect& rect, Visit visit) const {
     if (const ChildIndex* index = child_index()) return index->visit(rect, visit);
@@ -29,20 +29,20 @@ class LayerReach {
       visit(*child);
   }
 
-  /// After a change of where the layer is, or of what it shows where.
+  /// To be called after a change of the layer's place or of the area that it covers.
   void forget();
-  /// After one of the same kind of a sublayer, or of which there are.
+  /// To be called after such a change of a sublayer, or after a change of the list of sublayers.
   void forget_children();
 
  private:
   CGRect in_layer() const;
   std::vector<const Layer*> children_in_order() const;
-  /// Null where there are few.
+  /// Null when there are only few sublayers.
   const ChildIndex* child_index() const;
 
   const Layer& layer_;
-  // A layer whose reach is not known is in no index, and above it only layers that clip know
-  // theirs.
+  // While a layer's reach is unknown, the layer is in no index, and of the layers above it only
+  // those that clip know theirs.
   mutable bool is_known_ = false;
   mutable bool is_index_stale_ = true;
   mutable CGRect in_layer_;

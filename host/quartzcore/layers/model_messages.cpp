@@ -64,7 +64,7 @@ CGFloat z_position(CALayer self) {
   return properties(self).z_position;
 }
 void set_z_position(CALayer self, CGFloat z) {
-  // The order of the sublayers is the index's, too.
+  // The superlayer's index holds its sublayers in drawing order, which may change.
   layer_of(self).reach.forget();
   change<&P::z_position>(self, "zPosition"_ns, z);
 }
@@ -113,7 +113,7 @@ CGColorRef background_color(CALayer self) {
 void set_background_color(CALayer self, CGColorRef color) {
   const bool has_pattern = model(self).background_pattern() || pattern_of(color);
   model(self).background_color.reset(color);
-  // Patterns of the same mean are not the same.
+  // Different patterns may have the same mean colour.
   if (has_pattern) note_layer_change();
   change<&P::background_color>(self, "backgroundColor"_ns, rgba_of(color));
 }

@@ -7,7 +7,7 @@
 
 namespace host::quartzcore {
 
-/// The layers, kept alive for as long as something is done with them.
+/// Returns the layers retained, to keep them alive while they are processed.
 inline std::vector<objc::Ref<CALayer>> retained(const std::vector<CALayer>& layers) {
   std::vector<objc::Ref<CALayer>> result;
   result.reserve(layers.size());

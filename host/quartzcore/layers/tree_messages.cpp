@@ -39,7 +39,7 @@ void insert_child(CALayer self, CALayer child, std::size_t index) {
   const std::size_t before =
       place.superlayer == self ? index_of(child, sublayers) : sublayers.size();
   leave_superlayer(child);
-  // The layer's own former place below the index has just become free.
+  // Removing the layer from its former place below the index has shifted the others down.
   if (before < index) --index;
   index = std::min(index, sublayers.size());
   sublayers.insert(sublayers.begin() + static_cast<std::ptrdiff_t>(index), kept);
@@ -83,7 +83,7 @@ void add_sublayer(CALayer self, CALayer layer) {
 }
 
 void insert_sublayer_at_index(CALayer self, CALayer layer, unsigned index) {
-  // The index is the layer's place afterwards: one that only moves counts without itself.
+  // The index is the layer's final one: a layer that only moves is not counted itself.
   if (layer && layer.superlayer() == self) {
     const auto kept = objc::Ref<CALayer>::retain(layer);
     leave_superlayer(layer);
@@ -110,7 +110,7 @@ void remove_from_superlayer(CALayer self) {
   const auto kept = objc::Ref<CALayer>::retain(self);
   const auto parent = objc::Ref<CALayer>::retain(layer_of(self).tree.superlayer);
   leave_superlayer(self);
-  // What is in no tree is not drawn, so nothing of it can go on moving.
+  // A layer outside of any tree is not drawn, so its animations cannot continue.
   drop_animations_of_tree(self);
   parent->setNeedsLayout();
 }

@@ -14,13 +14,13 @@ namespace {
 /// The four channels of a pixel in one register.
 using Channels = float __attribute__((vector_size(16)));
 using WholeChannels = std::int32_t __attribute__((vector_size(16)));
-/// The pixels of the source that one pixel of the copy covers: whole ones between two parts.
+/// The source pixels that one pixel of the copy covers; the first and the last may count partly.
 struct Stretch {
   Stretch(int index, double ratio) {
     const double begin = index * ratio;
     const double end = (index + 1) * ratio;
     first = static_cast<int>(begin);
-    // The end of the last stretch may come out a little beyond the source's.
+    // Rounding may put the end of the last stretch slightly beyond the source.
     last = static_cast<int>(end - 1e-6);
     first_weight = static_cast<float>(std::min(end, first + 1.0) - begin);
     last_weight = static_cast<float>(end - last);
@@ -29,18 +29,18 @@ struct Stretch {
   int first;
   int last;
   float first_weight;
-  /// Counts where the last pixel is another one than the first.
+  /// Only used when the last pixel is not the first.
   float last_weight;
 };
 
 constexpr std::size_t kBytes = 4;
 
-enum class Sums { Anew, Onto };
+enum class Sums { Replace, Add };
 
 using Sixteen = std::uint8_t __attribute__((vector_size(16)));
 using Eight = std::uint16_t __attribute__((vector_size(16)));
 
-/// Sixteen bytes as four pixels of numbers, by laying zeros between them.
+/// Converts sixteen bytes to the numbers of four pixels, by interleaving them with zeros.
 std::array<Channels, 4> four_pixels(const std::uint8_t* bytes) {
   Sixteen packed;
   std::memcpy(&packed, bytes, sizeof packed);
@@ -66,7 +66,7 @@ Channels one_pixel(const std::uint8_t* bytes) {
 template <Sums kSums>
 void add_row(const std::uint8_t* row, float weight, std::vector<Channels>& sums) {
   const auto add = [weight](Channels& sum, const Channels& pixel) {
-    sum = kSums == Sums::Anew ? pixel * weight : sum + pixel * weight;
+    sum = kSums == Sums::Replace ? pixel * weight : sum + pixel * weight;
   };
   std::size_t x = 0;
   for (; x + 4 <= sums.size(); x += 4) {
@@ -78,7 +78,7 @@ void add_row(const std::uint8_t* row, float weight, std::vector<Channels>& sums)
     add(sums[x], one_pixel(row + x * kBytes));
 }
 
-/// The four numbers, each at most 255, as the bytes of a pixel in their order.
+/// Packs four numbers, each at most 255, into the bytes of a pixel in the same order.
 std::uint32_t packed(const WholeChannels& channels) {
   std::array<std::uint32_t, 4> bytes;
   std::memcpy(bytes.data(), &channels, sizeof channels);
@@ -122,10 +122,9 @@ Surface area_average(const Surface& source, int width, int height) {
   std::vector<Channels> sums(static_cast<std::size_t>(width_of(source)));
   for (int y = 0; y < height; ++y) {
     const Stretch rows(y, down);
-    add_row<Sums::Anew>(from + rows.first * from_stride, rows.first_weight, sums);
+    add_row<Sums::Replace>(from + rows.first * from_stride, rows.first_weight, sums);
     for (int row = rows.first + 1; row <= rows.last; ++row)
-      add_row<Sums::Onto>(from + row * from_stride, row < rows.last ? 1.0F : rows.last_weight,
-                          sums);
+      add_row<Sums::Add>(from + row * from_stride, row < rows.last ? 1.0F : rows.last_weight, sums);
     write_row(sums.data(), columns, scale, to + y * to_stride);
   }
   cairo_surface_mark_dirty(result.get());

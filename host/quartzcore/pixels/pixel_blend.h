@@ -7,14 +7,14 @@
 
 namespace host::quartzcore {
 
-/// An opacity in 256 parts.
+/// Converts an opacity, 0 to 1, to a share of 256.
 int share_of(double opacity);
 
-/// Lays a row of opaque pixels over another one, with `share` of 256 parts.
+/// Blends a row of opaque pixels over another row, with an opacity of `share` / 256.
 void blend_row(const std::uint8_t* from, std::uint8_t* to, int pixels, int share);
 
-/// Lays an opaque surface over another one, with an opacity and only in the part `damage` of that.
-/// The surface's top left is the other one's pixel (x, y).
+/// Blends an opaque surface over the part `damage` of the surface `below`, with an opacity. The
+/// surface's top left is at pixel (x, y) of `below`.
 void blend_opaque(const Surface& surface, const Surface& below, int x, int y,
                   const PixelRect& damage, double opacity);
 

@@ -8,7 +8,7 @@
 namespace host::quartzcore {
 namespace {
 
-/// A surface that needs less than half of a block would only keep it from another one.
+/// A block more than twice as large as needed does not fit: it is left for a larger surface.
 bool fits(const PixelMemory::Block& block, std::size_t size) {
   return block.size >= size && block.size / 2 <= size;
 }
@@ -59,7 +59,7 @@ std::size_t PixelMemory::kept() const {
 }
 
 PixelMemory& pixel_memory() {
-  // Never destroyed: surfaces may outlive everything.
+  // Never destroyed: surfaces may outlive any static object.
   static auto* const memory = new PixelMemory;
   return *memory;
 }

@@ -7,9 +7,9 @@
 
 namespace host::quartzcore {
 
-/// Memory for the pixels of large surfaces. That of a surface that has gone is kept for the next
-/// one of about its size, since new pages of the system's cost more than painting them. For any
-/// thread.
+/// Memory for the pixels of large surfaces. The memory of a released surface is kept for the next
+/// one of about the same size, because new pages from the system cost more than painting them.
+/// Thread-safe.
 class PixelMemory {
  public:
   enum class Contents { Anything, Zeros };
@@ -18,9 +18,9 @@ class PixelMemory {
     std::size_t size = 0;
   };
 
-  /// A few screens: what an animation lets go of the next one finds.
+  /// In bytes: a few screens. An animation reuses the memory that the previous one released.
   static constexpr std::size_t kMostKept = 12U << 20;
-  /// Smaller blocks come from pages that are there anyway.
+  /// In bytes. Smaller blocks come from pages that the process already has.
   static constexpr std::size_t kLeastKept = 128U << 10;
 
   PixelMemory() = default;
@@ -28,7 +28,7 @@ class PixelMemory {
   PixelMemory(const PixelMemory&) = delete;
   PixelMemory& operator=(const PixelMemory&) = delete;
 
-  /// At least `size` bytes; null ones when there is no memory.
+  /// Returns a block of at least `size` bytes; a null block when out of memory.
   Block take(std::size_t size, Contents contents);
   void give_back(Block block);
   std::size_t kept() const;
@@ -37,14 +37,14 @@ class PixelMemory {
   Block kept_block(std::size_t size);
 
   mutable std::mutex mutex_;
-  std::deque<Block> blocks_;  // Those given back last are first.
+  std::deque<Block> blocks_;  // The latest returned first.
   std::size_t kept_ = 0;
 };
 
-/// The one of this process.
+/// The only instance in this process.
 PixelMemory& pixel_memory();
 
-/// For vectors of pixels that are made anew with each frame.
+/// For vectors of pixels that are created for each frame.
 template <class T>
 struct PixelAllocator {
   using value_type = T;

@@ -7,7 +7,7 @@
 
 namespace host::quartzcore {
 
-/// Whole pixels of the screen.
+/// A rectangle of whole pixels of the screen.
 struct PixelRect {
   int x = 0, y = 0, width = 0, height = 0;
   friend constexpr bool operator==(const PixelRect&, const PixelRect&) = default;
@@ -39,19 +39,19 @@ constexpr PixelRect united(const PixelRect& a, const PixelRect& b) {
                     std::max(a.bottom(), b.bottom()));
 }
 
-// Beyond this a coordinate is off every screen; integers must not overflow on the way.
+// Coordinates beyond this are off every screen. Clamping to it keeps integers from overflowing.
 inline constexpr double kFarAway = 1e6;
 inline int to_pixel(double value) {
   return static_cast<int>(std::clamp(value, -kFarAway, kFarAway));
 }
-/// All pixels that `rect` touches.
+/// Returns all pixels that `rect` touches.
 inline PixelRect pixels_round(const CGRect& rect) {
   if (!(rect.size.width > 0) || !(rect.size.height > 0)) return {};
   return from_edges(
       to_pixel(std::floor(rect.min_x() + 1e-6)), to_pixel(std::floor(rect.min_y() + 1e-6)),
       to_pixel(std::ceil(rect.max_x() - 1e-6)), to_pixel(std::ceil(rect.max_y() - 1e-6)));
 }
-/// The pixels whose edges are nearest to those of `rect`.
+/// Returns the pixels whose edges are nearest to those of `rect`.
 inline PixelRect nearest_pixels(const CGRect& rect) {
   return from_edges(to_pixel(std::round(rect.min_x())), to_pixel(std::round(rect.min_y())),
                     to_pixel(std::round(rect.max_x())), to_pixel(std::round(rect.max_y())));

@@ -4,7 +4,7 @@
 
 namespace host::quartzcore {
 
-/// A copy of another size. Shrinking averages all pixels, so nothing flickers or is lost.
+/// Returns a copy in another size. Shrinking averages all pixels, so no detail flickers or is lost.
 Surface scaled_copy(const Surface& source, int width, int height);
 
 }  // namespace host::quartzcore

@@ -17,7 +17,7 @@ using TwoPixelsBytes = std::uint8_t __attribute__((vector_size(8)));
 using FourPixels = std::uint16_t __attribute__((vector_size(32)));
 using FourPixelsBytes = std::uint8_t __attribute__((vector_size(16)));
 
-// Blending counts in sixteenths, so that two directions of it fit 16 bits.
+// Blending counts in sixteenths, because blending in two directions must fit 16 bits.
 constexpr int kWhole = 16;
 constexpr std::uint8_t kOpaque = 255;
 
@@ -32,7 +32,7 @@ SONAVUE_WIDE void add_row(const std::uint8_t* bytes, std::vector<std::uint16_t>&
     sum[i] = static_cast<std::uint16_t>(sum[i] + bytes[i]);
 }
 
-/// Sums of columns to means of squares.
+/// Converts the sums of columns to the means of squares.
 SONAVUE_WIDE void take_means(const std::vector<std::uint16_t>& sums, int rows,
                              const SmallPicture& picture, Channels* to) {
   const int columns = static_cast<int>(sums.size()) / 4;
@@ -51,12 +51,13 @@ SONAVUE_WIDE void take_means(const std::vector<std::uint16_t>& sums, int rows,
   }
 }
 
-/// How far the k-th pixel behind the middle of a square is on its way to the middle of the next.
+/// How far the k-th pixel after the middle of a square is towards the middle of the next, in
+/// sixteenths.
 std::uint16_t way(int k, int reduction) {
   return static_cast<std::uint16_t>((kWhole * k + kWhole / 2) / reduction);
 }
 
-/// One row of a small picture in whole numbers, with its ends repeated once.
+/// One row of a small picture as whole numbers, with its first and last pixel repeated once.
 using Line = std::vector<std::uint16_t>;
 
 Line whole_numbers(const SmallPicture& picture, int y) {
@@ -76,7 +77,7 @@ SONAVUE_WIDE void blend_lines(const Line& here, const Line& next, std::uint16_t 
     blended[i] = static_cast<std::uint16_t>(here[i] * rest + next[i] * to);
 }
 
-/// Puts the same pixel in all places.
+/// Fills all places with the same pixel.
 template <class Pixels>
 [[gnu::always_inline]] inline void fill(Pixels& places, const std::uint16_t* pixel) {
   std::array<std::uint16_t, sizeof(Pixels) / sizeof *pixel> all;
@@ -85,8 +86,8 @@ template <class Pixels>
   std::memcpy(&places, all.data(), sizeof places);
 }
 
-/// Spreads a line, counted in sixteenths, over `Reduction` pixels for each gap between two of it.
-/// The steps over a gap are all the same, so that only the first pixels are multiplied.
+/// Enlarges a line, counted in sixteenths: `Reduction` pixels for each gap between two of its
+/// pixels. All steps over a gap are equal, so only the first pixels need a multiplication.
 template <int Reduction, class Pixels, class Bytes>
 [[gnu::always_inline]] inline void spread(const Line& line, std::uint8_t* to) {
   constexpr int kCount = sizeof(Bytes) / 4;
@@ -129,7 +130,7 @@ Spread spread_over(int reduction) {
   return reduction == 2 ? &spread_2 : reduction == 4 ? &spread_4 : &spread_8;
 }
 
-/// Makes the rows of the screen from the rows of a small picture.
+/// Computes the rows of the screen from the rows of a small picture.
 class Enlarger {
  public:
   explicit Enlarger(const SmallPicture& picture)
@@ -140,9 +141,9 @@ class Enlarger {
     row_.resize((blended_.size() - 4) * static_cast<std::size_t>(reduction_));
   }
 
-  /// The row `y` of the screen; valid until the next one is asked for.
+  /// Returns the row `y` of the screen, which is valid until the next call.
   const std::uint8_t* row(int y) {
-    // The middle of the first square is half a square down.
+    // The middle of the first square is half a square below the top.
     const int from_middle = y + reduction_ / 2;
     const int next = from_middle / reduction_;
     if (reduction_ == 1) {

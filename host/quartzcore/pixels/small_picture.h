@@ -8,15 +8,15 @@
 
 namespace host::quartzcore {
 
-/// Blue, green, red, alpha, 0 to 255: all four of a pixel in one register.
+/// The blue, green, red and alpha of a pixel, 0 to 255, in one register.
 using Channels = float __attribute__((vector_size(16)));
 
-/// A picture of which each pixel stands for a square of the screen's pixels. A blur hides that, and
-/// costs the less.
+/// A picture in which each pixel represents a square of screen pixels. A blur hides this and is
+/// cheaper on fewer pixels.
 struct SmallPicture {
   using Pixels = std::vector<Channels, PixelAllocator<Channels>>;
 
-  /// Pixels of the screen to the side of one of these: 1, 2, 4 or 8.
+  /// The side of a square in screen pixels: 1, 2, 4 or 8.
   int reduction = 1;
   int width = 0;
   int height = 0;
@@ -28,18 +28,19 @@ struct SmallPicture {
   }
 };
 
-/// The mean of each square of `place` in the surface; squares at the right and bottom edges may be
-/// cut off.
+/// Returns the mean of each square of `place` in the surface. Squares at the right and bottom edges
+/// may be cut off.
 SmallPicture reduce(const Surface& surface, const PixelRect& place, int reduction);
 
-/// The picture that lies reduced in `surface` already, pixel by pixel.
+/// Returns the picture in `surface`, which has already been reduced.
 SmallPicture take_reduced(const Surface& surface, int reduction);
 
-/// Fills the surface with the picture at the screen's size, opaque, blending between the squares.
+/// Fills the surface with the picture enlarged to the screen's size, opaque, with smooth
+/// transitions between the squares.
 void enlarge(const SmallPicture& picture, const Surface& surface);
 
-/// Paints the same over the part `damage` of a surface, with an opacity and without a copy in
-/// between. The picture's top left is the surface's pixel (x, y).
+/// Paints the same over the part `damage` of a surface, with an opacity and without an intermediate
+/// copy. The picture's top left is at pixel (x, y) of the surface.
 void paint_enlarged(const SmallPicture& picture, const Surface& surface, int x, int y,
                     const PixelRect& damage, double opacity);
 

@@ -17,7 +17,7 @@ void give_back(void* lent) {
   pixel_memory().give_back(*block);
 }
 
-/// Null when Cairo wants no surface of that size.
+/// Returns null when Cairo rejects the size.
 Surface surface_in(std::unique_ptr<Block> block, int width, int height, int stride) {
   static const cairo_user_data_key_t owner{};
   auto surface = Surface::adopt(cairo_image_surface_create_for_data(

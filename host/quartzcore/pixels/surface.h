@@ -11,7 +11,7 @@ template <class T, T* (*Reference)(T*), void (*Destroy)(T*)>
 class CairoRef {
  public:
   CairoRef() = default;
-  /// Takes over the reference that the caller has.
+  /// Takes over the caller's reference.
   static CairoRef adopt(T* object) { return CairoRef(object); }
   static CairoRef share(T* object) { return CairoRef(object ? Reference(object) : nullptr); }
   CairoRef(const CairoRef& other) : CairoRef(share(other.object_)) {}
@@ -35,12 +35,12 @@ class CairoRef {
 using Surface = CairoRef<cairo_surface_t, cairo_surface_reference, cairo_surface_destroy>;
 using Drawing = CairoRef<cairo_t, cairo_reference, cairo_destroy>;
 
-/// A transparent ARGB32 surface; sizes below one pixel become one.
+/// Returns a transparent ARGB32 surface; a width or height below one pixel becomes one.
 Surface make_surface(int width, int height);
-/// A surface of that size with anything in it: the old one, where it has the size and nobody else
-/// uses it.
+/// Returns a surface of this size with undefined contents: the old one if it has the size and no
+/// other user.
 Surface reused(Surface old, int width, int height);
-/// The same, transparent.
+/// The same, but transparent.
 Surface emptied(Surface old, int width, int height);
 Drawing draw_on(const Surface& surface);
 

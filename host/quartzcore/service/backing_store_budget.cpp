@@ -5,10 +5,10 @@
 namespace host::quartzcore {
 namespace {
 
-// What is in sight is looked at in vain; a turn of the loop has no time for all of that.
+// Checking a visible layer frees nothing; a turn of the loop has no time to check them all.
 constexpr int kMostLooks = 64;
 
-// Nobody sees it, so the screen has not changed.
+// The picture is not visible, so this does not count as a change of the screen.
 void drop_backing_store(Layer& layer) {
   layer.backing_store.forget();
   layer.model.contents.show({});

@@ -2,7 +2,7 @@
 
 namespace host::quartzcore {
 
-/// Makes the classes of QuartzCore and CoreGraphics in this process; a second call does nothing.
+/// Registers the classes of QuartzCore and CoreGraphics in this process. Idempotent.
 void export_quartzcore();
 
 }  // namespace host::quartzcore

@@ -19,7 +19,7 @@
 namespace host::quartzcore {
 namespace {
 
-// A layout that marks itself anew each time would hold the screen for ever.
+// A layout that marks itself again each time would block the screen forever.
 constexpr int kMostRounds = 100;
 
 LayerService* service = nullptr;
@@ -27,22 +27,22 @@ LayerService* service = nullptr;
 void announce_starts() {
   AnimatedLayers::News& news = animated_layers().news();
   if (!std::exchange(news.starts, false)) return;
-  std::vector<RunningAnimation> heard;
+  std::vector<RunningAnimation> observed;
   for (CALayer layer : animated_layers().all())
-    news.starts |= layer_of(layer).animations.start(media_time(), heard);
-  tell_starts(heard);
+    news.starts |= layer_of(layer).animations.start(media_time(), observed);
+  notify_starts(observed);
 }
 
 void advance(Layer& layer, double time) {
-  std::vector<RunningAnimation> heard;
-  layer.animations.start(media_time(), heard);
-  tell_starts(heard);
+  std::vector<RunningAnimation> observed;
+  layer.animations.start(media_time(), observed);
+  notify_starts(observed);
   auto ended = layer.animations.take_ended(time);
   if (ended.empty()) return;
   if (std::any_of(ended.begin(), ended.end(), &LayerAnimations::moves)) layer.reach.forget();
   note_layer_change();
   for (RunningAnimation& animation : ended)
-    stop_animation(animation, YES, Telling::AtOnce);
+    stop_animation(animation, YES, Notify::AtOnce);
 }
 
 void flush(objc::Object) {
@@ -63,7 +63,7 @@ LayerService::~LayerService() {
   animated_layers().stop_frames();
   if (end_timer_) loop_.remove_timer(end_timer_);
   service = nullptr;
-  // An animation keeps its listener, which keeps the layer: nobody is there to end it any more.
+  // An animation retains its listener, which retains the layer. Nothing else would end it now.
   for (const auto& layer : retained(animated_layers().take())) {
     layer_of(layer.get()).animations.is_listed = false;
     layer->removeAllAnimations();

@@ -6,11 +6,11 @@
 
 namespace host::quartzcore {
 
-/// Ties the layers of this process to a run loop: lays out and displays at the end of each turn,
-/// and asks for frames while, and only while, something is animated. One lives at a time.
+/// Connects the layers of this process to a run loop: lays out and displays them at the end of each
+/// turn, and requests frames only while something is animated. At most one exists at a time.
 class LayerService {
  public:
-  /// Where layout stands among the observers of a turn's end; the screen renders after it.
+  /// The order of layout among the observers of a turn's end; the screen renders after it.
   static constexpr int kTurnOrder = 100;
 
   explicit LayerService(RunLoop& loop);
@@ -22,8 +22,9 @@ class LayerService {
   static LayerService* current();
 
   RunLoop& loop() { return loop_; }
-  /// Animations end when their time is over and not at the next frame, so that a chain of them
-  /// takes as long as it says. Lets go of layers of which nothing moves any more.
+  /// Sets the timer for the next end of an animation, and removes layers whose animations have
+  /// ended. Animations end at their exact time, not at the next frame: a chain of them takes
+  /// exactly the sum of their durations.
   void wait_for_next_end();
 
  private:
@@ -36,8 +37,8 @@ class LayerService {
   double end_time_ = std::numeric_limits<double>::infinity();
 };
 
-/// Lays out and displays all layers that are marked, until none is. What another layer clips away
-/// stays marked for display until it comes into sight.
+/// Lays out and displays marked layers until none is left. A layer that another clips away stays
+/// marked for display until it becomes visible.
 void flush_layers();
 
 /// Adds `flush` to CATransaction.

@@ -5,7 +5,7 @@
 namespace host::quartzcore {
 namespace {
 
-// A thousandth of a pixel on a screen-high movement.
+// A thousandth of a pixel for a movement over the height of the screen.
 constexpr double kPrecision = 1e-7;
 
 double curve(double a, double b, double t) {

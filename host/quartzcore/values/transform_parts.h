@@ -4,7 +4,7 @@
 
 namespace host::quartzcore {
 
-/// A transform within the plane, taken apart: first scale, then shear, then turn, then move.
+/// A transform within the plane, decomposed: scale, then shear, then rotation, then translation.
 struct TransformParts {
   double scale_x = 1, scale_y = 1;
   double shear = 0;
@@ -15,7 +15,8 @@ struct TransformParts {
 TransformParts parts_of(const CATransform3D& transform);
 CATransform3D transform_of(const TransformParts& parts);
 
-/// Part by part, turning the shorter way round; number by number for what leaves the plane.
+/// Interpolates part by part, rotating the shorter way round. Transforms that leave the plane are
+/// interpolated element by element.
 CATransform3D interpolate_transforms(const CATransform3D& from, const CATransform3D& to,
                                      double fraction);
 

@@ -9,7 +9,7 @@
 namespace host::quartzcore {
 namespace {
 
-/// The numbers of a value one after the other.
+/// The numbers that make up a value.
 std::span<double> numbers(Value& value) {
   return std::visit(
       [](auto& held) -> std::span<double> {

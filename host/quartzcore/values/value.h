@@ -14,13 +14,13 @@ namespace host::quartzcore {
 using Value = std::variant<std::monostate, double, CGPoint, CGSize, CGRect, CATransform3D, Rgba,
                            std::vector<double>>;
 
-/// `value` in the shape of `pattern`: two numbers may be a point or a size. Nothing when it cannot
-/// be.
+/// Converts `value` to the type of `pattern`: two numbers may become a point or a size. Returns
+/// nothing when it cannot be converted.
 std::optional<Value> shaped_like(const Value& pattern, const Value& value);
 
-/// The value at `fraction` of the way; transforms turn and scale on their way instead of shearing.
+/// Returns the value at `fraction` of the way. Transforms rotate and scale instead of shearing.
 Value interpolate(const Value& from, const Value& to, double fraction);
-/// Sums; a transform "added" is applied before the other.
+/// Returns the sum. A transform is "added" by applying it before the other.
 Value add(const Value& base, const Value& addition);
 Value subtract(const Value& left, const Value& right);
 Value multiply(const Value& value, double factor);

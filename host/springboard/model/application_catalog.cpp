@@ -39,7 +39,7 @@ std::vector<InstalledApplication> read_applications(NSString folder) {
         std::any_of(applications.begin(), applications.end(),
                     [&](const auto& other) { return other.bundle == application.bundle; });
     if (application.bundle.empty() || known) {
-      spdlog::warn("{} is ignored: {}", application.path,
+      spdlog::warn("{} is left out: {}", application.path,
                    known ? "another application has its identifier" : "it has no identifier");
       continue;
     }

@@ -6,7 +6,7 @@
 namespace host::springboard {
 
 /// The display: its brightness, and whether it is on. A display that is off is black and ignores
-/// fingers; turning it off cancels those that are down. Full brightness costs nothing.
+/// fingers; turning it off cancels the touches. Full brightness costs nothing.
 class Display {
  public:
   Display();
