@@ -6,7 +6,7 @@
 
 namespace host {
 
-/// Owns a file descriptor and closes it; -1 when it holds none.
+/// Owns a file descriptor and closes it. Its value is -1 when it holds none.
 class Descriptor {
  public:
   Descriptor() = default;

@@ -7,9 +7,9 @@
 #include "objc/field.h"
 #include "platform/Foundation/NSURL.h"
 
-// Foundation here takes "reader://user?name=x" for a host called "user?name=x", which is none, and
-// makes no address of it. Such an address is read with the empty path written out, and says what it
-// was given.
+// The desktop's Foundation reads "reader://user?name=x" as having a host called "user?name=x",
+// which is invalid, and returns no URL. Such an address is parsed with the empty path written out,
+// but still returns the original text.
 
 namespace host::foundation {
 namespace {
@@ -22,7 +22,8 @@ constexpr bool is_ascii(char unit) {
   return static_cast<unsigned char>(unit) < 0x80;
 }
 
-/// Where the host of "scheme://host?…" or "scheme://host#…" ends; nothing when there is a path.
+/// Returns the end of the host in "scheme://host?…" or "scheme://host#…"; nothing when there is a
+/// path.
 std::optional<NSUInteger> end_of_host_without_path(NSString text) {
   constexpr std::string_view kBeforeHost = "://";
   const std::string_view address = text ? text.UTF8String() : "";
@@ -31,7 +32,7 @@ std::optional<NSUInteger> end_of_host_without_path(NSString text) {
     return std::nullopt;
   const auto end = address.find_first_of("/?#", before_host + kBeforeHost.size());
   if (end == address.npos || address[end] == '/') return std::nullopt;
-  // No address has other letters, whose bytes would not count one each.
+  // Valid addresses are ASCII; in any other text, bytes and characters have different indexes.
   const bool is_plain = std::all_of(address.begin(), address.end(), is_ascii);
   return is_plain ? std::optional<NSUInteger>(end) : std::nullopt;
 }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kPermissions = 07777;
-// Others that write the same file may take the name away between our steps, again and again.
+// Other writers of the same file may repeatedly take the name between our steps.
 constexpr int kMostAttempts = 1000;
 
 std::string folder_of(const std::string& path) {
@@ -21,7 +21,7 @@ std::string folder_of(const std::string& path) {
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-/// A file without a name, which is gone with its process.
+/// An unnamed file, which disappears with its process.
 class NamelessFile {
  public:
   explicit NamelessFile(const std::string& folder)
@@ -68,7 +68,8 @@ bool write_atomically(const std::string& path, std::string_view bytes) {
   const std::string staged = staged_beside(path);
   for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
     if (file.name(staged)) {
-      // Who finds the name taken takes it over. Then ours counts as written, and replaced at once.
+      // A writer that finds the name taken removes it. Our file then counts as written and
+      // immediately replaced.
       if (rename(staged.c_str(), path.c_str()) == 0 || errno == ENOENT) return true;
       unlink(staged.c_str());
       return false;

@@ -5,13 +5,13 @@
 
 namespace host::foundation {
 
-/// Puts a file with these bytes in the place of `path` in one step, and leaves nothing beside it,
-/// even when the process is killed on the way: its bytes have no name until they are complete. At
-/// most one complete file stays under the name `staged_beside`, which the next write takes away.
-/// False, and nothing has changed, when the folder cannot take such a file.
+/// Atomically replaces `path` with a file of these bytes, and leaves no partial file behind even if
+/// the process is killed: the file is unnamed until it is complete. At most one complete file
+/// remains under the name `staged_beside`; the next write removes it. Returns false and changes
+/// nothing when the folder does not support such files.
 bool write_atomically(const std::string& path, std::string_view bytes);
 
-/// Where a complete file stands for a moment before it takes the place of `path`.
+/// The path at which a complete file lies for a moment before it replaces `path`.
 std::string staged_beside(const std::string& path);
 
 }  // namespace host::foundation

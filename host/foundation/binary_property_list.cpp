@@ -12,8 +12,8 @@
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
 
-// Foundation here reads the binary form only from data, not from files, and follows a damaged list
-// wherever it leads. This reader believes no number before it has looked where it points.
+// The desktop's Foundation reads the binary form only from data, not from files, and follows the
+// offsets of a damaged list without checking them. This reader checks every number before use.
 
 namespace host::foundation {
 namespace {
@@ -22,7 +22,7 @@ using Number = std::uint64_t;
 
 constexpr std::string_view kMark = "bplist00";
 constexpr std::size_t kTrailerLength = 32;
-// Where the trailer has what, from its beginning.
+// The offsets of the trailer's fields.
 constexpr std::size_t kOffsetSizeAt = 6;
 constexpr std::size_t kReferenceSizeAt = 7;
 constexpr std::size_t kCountAt = 8;
@@ -30,12 +30,12 @@ constexpr std::size_t kTopAt = 16;
 constexpr std::size_t kTableAt = 24;
 constexpr std::size_t kWord = 8;
 
-// Lists that hold themselves, or one part a million times, end here.
+// Stops lists that contain themselves, or contain one part a million times.
 constexpr int kDeepest = 100;
 constexpr int kMostObjects = 1 << 20;
 
 constexpr unsigned kCountFollows = 15;
-// The first moment of 2001.
+// The beginning of 2001, in seconds since 1970.
 constexpr double kReferenceDate = 978307200;
 constexpr double kFarthestDate = 1e11;
 
@@ -55,7 +55,7 @@ bool is_ascii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return c > 0; });
 }
 
-/// Empty when a half of a character is alone.
+/// Empty when the text has an unpaired surrogate.
 std::string utf8(std::string_view big_endian) {
   std::string text;
   const auto unit = [&](std::size_t at) -> char32_t {
@@ -95,7 +95,7 @@ class Reader {
   }
 
  private:
-  /// Nothing when they reach beyond the end.
+  /// Returns nothing when the range reaches beyond the end.
   std::optional<std::string_view> part(Number at, Number length) const {
     if (at > bytes_.size() || length > bytes_.size() - at) return std::nullopt;
     return bytes_.substr(at, length);
@@ -134,7 +134,8 @@ class Reader {
     return NSString::stringWithUTF8String(text.c_str());
   }
 
-  /// Moves `start` behind a length that does not fit into the mark.
+  /// Returns the length. When it does not fit into the marker and follows it, moves `start` behind
+  /// it.
   std::optional<Number> length_from(unsigned detail, Number& start) const {
     if (detail != kCountFollows) return detail;
     const auto mark = number(start, 1);
@@ -157,7 +158,7 @@ class Reader {
     if (size != kWord) return nil;
     const auto real = std::bit_cast<double>(*value);
     if (kind == kReal) return NSNumber::numberWithDouble(real);
-    // Foundation throws at what is no number, and no calendar reaches as far as others.
+    // Foundation throws for NaN, and dates farther away are in no calendar.
     if (!(std::abs(real) < kFarthestDate)) return nil;
     return NSDate::dateWithTimeIntervalSince1970(kReferenceDate + real);
   }

@@ -8,7 +8,7 @@ namespace host::foundation {
 
 bool is_binary_property_list(std::string_view bytes);
 
-/// What such a list holds; nil when it is damaged in any way. Autoreleased.
+/// Returns the autoreleased contents of a binary property list; nil when it is damaged in any way.
 objc::Object binary_property_list(std::string_view bytes);
 
 }  // namespace host::foundation

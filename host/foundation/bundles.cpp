@@ -24,7 +24,7 @@ NSBundle main_bundle(NSObject cls) {
   return found ? found : objc::cast<NSBundle>(objc::Object(original(cls.id(), "mainBundle"_sel)));
 }
 
-/// Foundation resolves a bundle's folder to its place on this machine; callers expect device paths.
+/// Foundation resolves a bundle's folder to a path on this machine; callers expect device paths.
 NSString device_path(objc::Id path) {
   const char* found = objc::wrap<NSString>(path).UTF8String();
   return found ? NSString::stringWithUTF8String(path_on_device(found).c_str()) : nil;
@@ -59,7 +59,7 @@ NSString path_of_resource(NSBundle self, NSString name, NSString extension) {
       self.id(), "pathForResource:ofType:"_sel, name.id(), extension.id()));
 }
 
-// A framework's file is not on the disk: it is part of the system, which has it in one piece.
+// A framework has no file on the disk: its code is part of the system's single image.
 BOOL load_bundle(NSBundle self) {
   const std::filesystem::path folder = self.bundlePath().UTF8String();
   if (load_device_image((folder / folder.stem()).string())) return YES;

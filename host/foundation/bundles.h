@@ -4,8 +4,8 @@
 
 namespace host::foundation {
 
-/// Says which folder of the device is the program's own: `[NSBundle mainBundle]`. Without one, or
-/// where it is missing, the main bundle is what this machine's Foundation takes for it.
+/// Sets the folder on the device that is the program's own, for `[NSBundle mainBundle]`. Without
+/// this call, or when the folder is missing, this machine's Foundation determines the main bundle.
 void set_main_bundle(std::string device_path);
 
 }  // namespace host::foundation

@@ -11,7 +11,7 @@ namespace host::foundation {
 namespace {
 
 constexpr char16_t kFirstMark = 0x300;
-// Vowels and ends of Korean syllables, as parts of their own.
+// The vowels and final consonants of Korean syllables, as separate letters.
 constexpr char32_t kFirstVowel = 0x1160;
 constexpr char32_t kLastEnd = 0x11ff;
 constexpr std::size_t kMostParts = G_UNICHAR_MAX_DECOMPOSITION_LENGTH;
@@ -23,7 +23,7 @@ bool is_low(char16_t unit) {
   return unit >= 0xdc00 && unit < 0xe000;
 }
 
-/// Half a pair without the other half is a letter of its own.
+/// An unpaired surrogate counts as a letter.
 char32_t letter_at(std::u16string_view text, std::size_t place, std::size_t& units) {
   const char16_t first = text[place];
   const bool is_pair = is_high(first) && place + 1 < text.size() && is_low(text[place + 1]);
@@ -32,13 +32,13 @@ char32_t letter_at(std::u16string_view text, std::size_t place, std::size_t& uni
   return 0x10000 + ((char32_t{first} - 0xd800) << 10) + (text[place + 1] - 0xdc00);
 }
 
-/// Does the letter belong to the character of the one before it?
-bool joins_what_is_before(char32_t letter) {
+/// True when the letter belongs to the same character as the previous letter.
+bool extends_character(char32_t letter) {
   if (letter < kFirstMark) return false;
   return g_unichar_ismark(letter) || (letter >= kFirstVowel && letter <= kLastEnd);
 }
 
-/// A text in its smallest parts, in their canonical order.
+/// A fully decomposed text, in canonical order.
 class Parts {
  public:
   explicit Parts(std::u16string_view text) {
@@ -47,7 +47,7 @@ class Parts {
     std::size_t units = 0;
     for (std::size_t place = 0; place < text.size(); place += units) {
       const char32_t letter = letter_at(text, place, units);
-      if (place == 0 || !joins_what_is_before(letter)) begin_character();
+      if (place == 0 || !extends_character(letter)) begin_character();
       add(letter, place);
     }
     begin_character();
@@ -55,9 +55,9 @@ class Parts {
   }
 
   std::u32string_view letters() const { return letters_; }
-  /// Does a character begin with this part, or end before it?
+  /// True when a character begins or ends at this part.
   bool is_between(std::size_t part) const { return std::ranges::binary_search(characters_, part); }
-  /// The unit of the text with which the character that begins here does.
+  /// The index of the unit at which the character that begins with this part starts in the text.
   std::size_t place_of(std::size_t part) const { return places_[part]; }
 
  private:
@@ -71,7 +71,7 @@ class Parts {
     letters_.append(parts.begin(), parts.begin() + static_cast<std::ptrdiff_t>(count));
     places_.insert(places_.end(), count, place);
   }
-  /// Marks on different sides of a letter come in one order; marks on the same side keep theirs.
+  /// Marks on different sides of a letter are sorted; marks on the same side keep their order.
   void put_in_order(std::size_t first) {
     const auto rank = [](char32_t letter) { return g_unichar_combining_class(letter); };
     const auto end = letters_.end();
@@ -108,7 +108,7 @@ bool is_plain_letter(char32_t letter) {
     char32_t first;
     char32_t last;
   };
-  // Latin, Cyrillic, the syllables and the ideographs in common use.
+  // Latin, Cyrillic, and the common syllables and ideographs.
   constexpr Range ranges[] = {{0x01, 0x2ff},    {0x400, 0x482},   {0x3041, 0x3096},
                               {0x30a1, 0x30fa}, {0x4e00, 0x9fff}, {0xac00, 0xd7a3}};
   return std::ranges::any_of(ranges, [letter](const Range& range) {

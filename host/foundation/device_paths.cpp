@@ -24,7 +24,7 @@ bool is_inside(std::string_view path, std::string_view folder) {
 objc::Imp original_of_string = nullptr;
 objc::Imp original_of_manager = nullptr;
 
-// The caller of a file system representation uses it before its pool ends.
+// The result is autoreleased: callers use a file system representation before their pool ends.
 const char* mapped(const char* path) {
   if (!path) return path;
   const std::string real = path_on_this_machine(path);
@@ -43,9 +43,9 @@ const char* manager_representation(NSObject self, NSString path) {
   return mapped(original(self.id(), "fileSystemRepresentationWithPath:"_sel, path.id()));
 }
 
-// Data writes to the characters of the path as they stand, so it is given the mapped ones. What it
-// writes in one step leaves a file behind when the process is killed meanwhile, so that this is
-// done here, and left to it only where that fails: it has the words for why.
+// NSData writes to the literal path, so it gets the mapped one. Its atomic write leaves a file
+// behind if the process is killed meanwhile, so the atomic write is done here. Only when that fails
+// is NSData asked, because it reports the error.
 constexpr NSUInteger kAtomically = 1;
 objc::Imp original_write = nullptr;
 

@@ -4,8 +4,8 @@
 #include "host/runtime/device_images.h"
 #include "host/runtime/exported.h"
 
-// A library loaded into this process, and Foundation for a bundle, asks for a framework by its path
-// on the device. The symbols of all frameworks are the program's own, so that its handle has them.
+// Loaded libraries, and Foundation on behalf of a bundle, request a framework by its path on the
+// device. The symbols of all frameworks are in the program itself, so its handle serves for them.
 SONAVUE_EXPORTED void* dlopen(const char* path, int mode) noexcept {
   using Open = void* (*)(const char*, int);
   static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "dlopen"));

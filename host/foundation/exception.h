@@ -6,10 +6,10 @@
 
 namespace host::foundation {
 
-/// Raises an NSException of that name, such as "NSInvalidArgumentException".
+/// Raises an NSException with this name, such as "NSInvalidArgumentException".
 [[noreturn]] void raise(NSString name, const std::string& reason);
 
-/// "<Class: 0x…>", as reasons name an object.
+/// Returns "<Class: 0x…>", the way exception reasons describe an object.
 std::string plain_description(objc::Object object);
 
 }  // namespace host::foundation

@@ -2,10 +2,9 @@
 
 namespace host::foundation {
 
-/// Gives Foundation what the platform's has beyond GNUstep Base: timers on our clock, the device's
-/// file paths, property lists written as XML, searches in strings that never throw, addresses
-/// without a path, bundles of the device. Calling it
-/// twice is harmless.
+/// Adds to Foundation what the platform's has beyond GNUstep Base: timers on our clock, the
+/// device's file paths, property lists written as XML, string searches that never throw, addresses
+/// without a path, and bundles of the device. Idempotent.
 void export_foundation();
 
 void export_device_paths();

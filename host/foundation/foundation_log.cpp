@@ -11,7 +11,7 @@ extern "C" void (*_NSLog_printf_handler)(objc::Id line);
 namespace host::foundation {
 namespace {
 
-/// The log has its own way to say which process speaks.
+/// Removes Foundation's prefix: our log has its own prefix for the process.
 std::string_view without_prefix(std::string_view line) {
   const auto end = line.find("] ");
   return end == line.npos ? line : line.substr(end + 2);
@@ -23,8 +23,8 @@ std::string_view without_line_end(std::string_view line) {
   return line;
 }
 
-/// `File NSData.m: 299.` of such a complaint; empty for any other line. The rest of it may differ
-/// each time, as names of temporary files do.
+/// Returns the `File NSData.m: 299.` of such a complaint; empty for any other line. The rest of the
+/// line may differ each time, for example in the name of a temporary file.
 std::string_view place_of_complaint(std::string_view text) {
   constexpr std::string_view kMiddle = ".m: ";
   if (!text.starts_with("File ")) return {};

@@ -4,12 +4,12 @@
 
 namespace host::foundation {
 
-/// From now on what Foundation prints, and what extensions print through it, goes to the one log.
-/// Foundation complains anew each time that something is tried in vain, and extensions read their
-/// files many times a second: each place of its source that complains is heard once.
+/// Redirects everything that Foundation prints, and extensions print through it, to the log.
+/// Foundation repeats a complaint for every failed attempt, and extensions read their files many
+/// times a second, so each place in its source that complains is logged only once.
 void take_foundation_log();
 
-/// A line as Foundation makes it: `date time process[number:number] text`.
+/// Logs a line in Foundation's format: `date time process[number:number] text`.
 void log_foundation_line(std::string_view line);
 
 }  // namespace host::foundation

@@ -1,8 +1,8 @@
 #include "host/runtime/exported.h"
 #include "platform/Foundation/NSString.h"
 
-// What Foundation and every loaded library take for the user's folder: the device's, whoever uses
-// this machine.
+// The home folder for Foundation and all loaded libraries: always the device's, regardless of the
+// user of this machine.
 SONAVUE_EXPORTED objc::Id NSHomeDirectory() {
   return "/var/mobile"_ns.id();
 }

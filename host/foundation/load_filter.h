@@ -7,8 +7,8 @@ namespace host::foundation {
 
 enum class Admission { kAdmitted, kNotForThisProcess, kNoFilter };
 
-/// Does the filter property list at `path` (of the device) admit a process of this bundle
-/// identifier and executable name?
+/// Returns whether the filter property list at `path` (on the device) admits a process with this
+/// bundle identifier and executable name.
 Admission admission(const std::string& path, std::string_view bundle_identifier,
                     std::string_view executable);
 

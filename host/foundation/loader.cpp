@@ -34,7 +34,7 @@ bool is_wanted(const std::string& name, std::string_view bundle, std::string_vie
   const std::string list = std::string(kLibraries) + "/" + name + ".plist";
   const Admission answer = admission(list, bundle, executable);
   if (answer == Admission::kNoFilter)
-    spdlog::warn("{} is left out: {} does not say which processes it is for", name, list);
+    spdlog::warn("{} is left out: {} has no process filter", name, list);
   return answer == Admission::kAdmitted;
 }
 

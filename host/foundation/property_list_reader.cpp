@@ -14,14 +14,13 @@
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
 
-// Extensions read their settings from the file at every use and look for changes many times a
-// second. The file is read every time, as on the platform, but bytes that have been understood once
-// are not parsed again.
+// Extensions read their settings from the file at every use, and check for changes many times a
+// second. The file is read every time, as on the platform, but the same bytes are not parsed again.
 
 namespace host::foundation {
 namespace {
 
-// Settings are small. What is larger is no settings, and is not kept.
+// In bytes. Settings are small; larger files are not settings and are not cached.
 constexpr off_t kLargestFile = 16 << 10;
 constexpr std::size_t kMostFiles = 16;
 
@@ -61,7 +60,7 @@ class Descriptor {
   int number_;
 };
 
-/// Nothing for what is no small plain file.
+/// Returns nothing for anything but a small regular file.
 std::optional<Content> content_of(const char* path) {
   const Descriptor file(path);
   struct stat status {};
@@ -74,7 +73,7 @@ std::optional<Content> content_of(const char* path) {
   return content;
 }
 
-/// Somebody may change what is mutable, and would change it for all later readers.
+/// False for mutable objects: a caller that changed one would change it for all later readers.
 bool can_be_shared(objc::Object object) {
   const auto value = objc::cast<NSObject>(object);
   if (value.isKindOfClass(NSNumber::cls())) return true;
@@ -131,8 +130,8 @@ NSDictionary dictionary_with_contents(objc::Object cls, NSString path) {
   if (known != understood().end() && known->second.bytes == content->bytes)
     return NSDictionary::dictionaryWithDictionary(known->second.dictionary.get());
   const NSDictionary parsed = parse(cls, path);
-  // The parser has read the file once more. Only when it did not change around that are these the
-  // bytes that were parsed.
+  // The parser has read the file again. These are the bytes that it parsed only if the file has not
+  // changed meanwhile.
   if (parsed && content_of(real) == content) keep(real, std::move(*content), parsed);
   return parsed;
 }

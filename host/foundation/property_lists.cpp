@@ -8,16 +8,16 @@
 #include "host/runtime/class_family.h"
 #include "platform/Foundation/NSPropertyListSerialization.h"
 
-// Foundation here writes an old text form, in the encoding of the process's locale: one letter that
-// this encoding lacks, and the file comes out empty. The platform writes XML in UTF-8, whatever the
-// locale is.
+// The desktop's Foundation writes an old text form in the encoding of the process's locale; if this
+// encoding lacks a single letter, the file is empty. The platform writes XML in UTF-8, regardless
+// of the locale.
 
 namespace host::foundation {
 namespace {
 
 constexpr std::size_t kEscapeLength = 6;
 
-/// The unit of UTF-16 that is written as `\UD83C` at the start of `text`.
+/// Returns the UTF-16 unit written as `\UD83C` at the start of `text`.
 std::optional<char32_t> escaped_unit(std::string_view text) {
   if (text.size() < kEscapeLength || !text.starts_with("\\U")) return std::nullopt;
   unsigned unit = 0;
@@ -26,7 +26,7 @@ std::optional<char32_t> escaped_unit(std::string_view text) {
   return unit;
 }
 
-/// The character that is written as two such units at the start of `text`.
+/// Returns the character written as two such units at the start of `text`.
 std::optional<char32_t> escaped_character(std::string_view text) {
   const auto high = escaped_unit(text);
   if (!high || *high < 0xD800 || *high > 0xDBFF) return std::nullopt;
@@ -35,7 +35,8 @@ std::optional<char32_t> escaped_character(std::string_view text) {
   return 0x10000 + ((*high - 0xD800) << 10) + (*low - 0xDC00);
 }
 
-/// Foundation's XML has characters of four bytes as escapes that its own reader does not know.
+/// Decodes characters of four bytes, which Foundation writes to XML as escapes that its own reader
+/// does not know.
 std::string without_escapes(std::string_view xml) {
   std::string plain;
   while (!xml.empty()) {

@@ -8,9 +8,9 @@
 #include "host/runtime/class_family.h"
 #include "platform/Foundation/NSString.h"
 
-// On the platform a text is found however its letters are spelt. Foundation's own search takes a
-// letter with a mark in one piece for another one than the same in two, and ends in an exception
-// over a text that begins with a mark.
+// On the platform a text is found however its letters are encoded. The desktop's Foundation
+// distinguishes the composed and decomposed forms of a letter, and throws for a text that begins
+// with a mark.
 
 namespace host::foundation {
 namespace {
@@ -34,7 +34,7 @@ std::optional<Stretch> find(std::u16string_view text, std::u16string_view wanted
 }
 
 NSRange range_of_string(NSString self, NSString wanted) {
-  // No text at all is the caller's mistake, and stays one.
+  // A nil or empty text is the caller's error, which Foundation handles.
   if (!wanted || wanted.length() == 0) {
     using Function = NSRange (*)(objc::Id, objc::Sel, objc::Id);
     return reinterpret_cast<Function>(original_search)(self.id(), "rangeOfString:"_sel,

@@ -6,15 +6,16 @@
 #include "objc/ref.h"
 #include "platform/Foundation/NSObject.h"
 
-// The platform's timers, on our clock instead of the machine's. They are a class of their own below
-// NSTimer, made by NSTimer's own constructors.
+// The platform's timers, on our clock instead of the machine's. They are a subclass of NSTimer, and
+// NSTimer's own constructors create them.
 
 namespace host::foundation {
 namespace {
 
 struct ClockTimerHandle : objc::Bound<ClockTimerHandle, "__NSCFTimer", NSObject> {};
 
-// The shortest interval that the platform keeps; a repeating timer of 0 would never let go.
+// The platform's shortest interval, in seconds. A repeating timer with interval 0 would block the
+// loop.
 constexpr double kShortestInterval = 0.0001;
 
 class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
@@ -33,7 +34,7 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
 
   void schedule() {
     if (scheduled_ || !valid_) return;
-    // The loop holds the timer until it is invalidated, and the timer holds its target.
+    // The loop retains the timer until it is invalidated; the timer retains its target.
     held_by_loop_.reset(self);
     scheduled_ = RunLoop::main().add_timer(RunLoop::main().now() + interval_,
                                            repeats_ ? interval_ : 0, [this] { fire(); });
@@ -42,7 +43,7 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
   void fire() {
     if (!valid_) return;
     const auto alive = objc::Ref<ClockTimerHandle>::retain(self);
-    // An action that takes no argument is as good as one that takes the timer.
+    // An action without an argument is as valid as one that takes the timer.
     if (std::strchr(sel_getName(action_), ':')) {
       objc::send<>(target_.get(), action_, objc::Object(self));
     } else {

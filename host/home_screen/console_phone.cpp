@@ -14,7 +14,7 @@ namespace {
 using console::Refusal;
 using console::SystemEvent;
 
-// The console's fingers are not the window's.
+// Keeps the console's fingers distinct from the window's.
 constexpr int kConsoleFingers = 1000;
 
 Refusal done_unless(bool done, std::string_view reason) {
@@ -22,22 +22,22 @@ Refusal done_unless(bool done, std::string_view reason) {
   return std::string(reason);
 }
 
-/// Those events that move or open an application.
+/// The events that apply to an application.
 Refusal application_event(SystemEvent event, std::string_view bundle) {
   using namespace springboard;
   switch (event) {
     case SystemEvent::Open:
       return done_unless(open(bundle), "this application cannot be opened");
     case SystemEvent::FolderIn:
-      return done_unless(move_to_folder(bundle), "this application cannot go into a folder");
+      return done_unless(move_to_folder(bundle), "this application cannot be moved into a folder");
     case SystemEvent::FolderOut:
-      return done_unless(move_out_of_folder(bundle), "this application is in no folder");
+      return done_unless(move_out_of_folder(bundle), "this application is not in a folder");
     case SystemEvent::DockIn:
-      return done_unless(move_to_dock(bundle), "this application cannot go into the dock");
+      return done_unless(move_to_dock(bundle), "this application cannot be moved into the dock");
     case SystemEvent::DockOut:
       return done_unless(move_out_of_dock(bundle), "this application is not in the dock");
     case SystemEvent::Kill:
-      return done_unless(kill_application(bundle), "this application does not run");
+      return done_unless(kill_application(bundle), "this application is not running");
     default:
       return done_unless(uninstall(bundle), "this application is not installed");
   }
@@ -85,7 +85,7 @@ Refusal ConsolePhone::system(SystemEvent event, std::string_view detail) {
 
 Refusal ConsolePhone::gesture(std::string_view event) {
   return done_unless(activator::perform_event(event),
-                     "the gesture service knows no event of this name");
+                     "the gesture service has no event with this name");
 }
 
 Refusal ConsolePhone::screenshot(const std::string& file) {

@@ -8,13 +8,13 @@
 
 namespace host::launcher {
 
-/// The phone of this process, for the console's commands.
+/// This process's phone, for the console's commands.
 class ConsolePhone final : public console::Phone {
  public:
-  /// What differs between one phone and another.
+  /// The parts that differ between phones.
   struct Parts {
     std::function<void(double seconds)> advance;
-    /// Draws what there is to draw and writes it to the file.
+    /// Draws everything that is due and writes the picture to the file.
     std::function<console::Refusal(const std::string& file)> screenshot;
     std::filesystem::path screenshots;
   };
@@ -40,7 +40,7 @@ class ConsolePhone final : public console::Phone {
  private:
   Hands& hands_;
   Parts parts_;
-  /// Whom the console talks to; empty for this process.
+  /// The process that the console talks to; empty for this one.
   std::string elsewhere_;
 };
 

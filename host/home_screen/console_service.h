@@ -7,7 +7,7 @@
 
 namespace host::launcher {
 
-/// Serves the console's lines from the run loop.
+/// Executes the console's lines from the run loop.
 class ConsoleService {
  public:
   ConsoleService(RunLoop& loop, int descriptor, console::Session& session,
@@ -22,7 +22,8 @@ class ConsoleService {
  private:
   void watch() {
     watch_ = loop_.watch(server_.descriptor(), [this] {
-      // A line that lets time pass runs the loop again, which must not wait for what nobody reads.
+      // A line that lets time pass runs the loop recursively, which must not wait for input that is
+      // not being read.
       loop_.unwatch(watch_);
       server_.serve();
       watch();

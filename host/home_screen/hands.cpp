@@ -44,7 +44,7 @@ Hands::Refusal Hands::type(std::string_view text) {
   const auto typed = NSString::stringWithUTF8String(std::string(text).c_str());
   if (!typed) return "the text is not UTF-8";
   if (springboard::type_into_application(std::string(text))) return std::nullopt;
-  if (!uikit::type_text(typed)) return "nobody takes text now";
+  if (!uikit::type_text(typed)) return "nothing is taking text";
   return std::nullopt;
 }
 
@@ -53,20 +53,20 @@ Hands::Refusal Hands::compose(std::string_view text, int caret) {
   if (!composed) return "the text is not UTF-8";
   if (springboard::compose_in_application(std::string(text), caret)) return std::nullopt;
   if (!uikit::compose_text(composed, uikit::utf16_units(text, caret)))
-    return "nobody takes text now";
+    return "nothing is taking text";
   return std::nullopt;
 }
 
 Hands::Refusal Hands::key(std::string_view name) {
   if (gestures_.press_key(name)) return std::nullopt;
   if (name == "space") return type(" ");
-  // Who deletes or returns with another key held means no more than that.
+  // With return and escape, and with delete, modifiers have no meaning.
   const std::string_view alone = name.substr(name.rfind('-') + 1);
   if (alone == "delete") name = "backspace";
   if (alone == "return" || alone == "escape") name = alone;
   if (springboard::press_key_in_application(std::string(name))) return std::nullopt;
   const bool taken = uikit::press_key(name);
-  if (!taken) return "nobody takes this key now";
+  if (!taken) return "nothing is taking this key";
   return std::nullopt;
 }
 
@@ -95,7 +95,7 @@ Hands::Refusal Hands::button(screen::Button button, screen::ButtonPhase phase) {
   return std::nullopt;
 }
 
-// The volume changes at once, what can also be held acts when it comes up.
+// The volume changes at once; buttons that can also be held act on release.
 void Hands::push(screen::Button button) {
   gestures_.buttons().down(gesture_button(button));
   if (button == screen::Button::VolumeUp) springboard::press_volume(springboard::VolumeButton::kUp);

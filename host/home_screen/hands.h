@@ -11,10 +11,11 @@
 
 namespace host::launcher {
 
-/// Whoever holds the phone: fingers, keyboard and buttons, for the window and the console alike.
+/// The user's hands on the phone: fingers, keyboard and buttons, for both the window and the
+/// console.
 class Hands {
  public:
-  /// Why it could not be done; nothing when it was.
+  /// The reason for a failure; nothing on success.
   using Refusal = std::optional<std::string>;
 
   /// `screen` is in points.
@@ -22,11 +23,11 @@ class Hands {
 
   void touch(int finger, screen::TouchPhase phase, CGPoint point);
   Refusal type(std::string_view text);
-  /// What an input method is composing; `caret` counts code points.
+  /// Sets the text that an input method is composing; `caret` counts code points.
   Refusal compose(std::string_view text, int caret);
-  /// A key of the keyboard by its name; `control-` and `shift-` may stand before it.
+  /// Presses a key by its name, which may have the prefixes `control-` and `shift-`.
   Refusal key(std::string_view name);
-  /// Down and up again.
+  /// Presses and releases a button.
   Refusal press(screen::Button button);
   Refusal button(screen::Button button, screen::ButtonPhase phase);
   void shake() { gestures_.shake(); }

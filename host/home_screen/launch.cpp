@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kBundleIdentifier = "com.apple.springboard";
 
-/// Pictures of a phone whose clock is stepped have to be the same tomorrow.
+/// Pictures of a phone with a stepped clock must not depend on the time of day.
 const springboard::WallClock& wall_clock(bool stepped) {
   static const springboard::FixedWallClock fixed;
   static const springboard::SystemWallClock system;
@@ -26,7 +26,7 @@ const springboard::WallClock& wall_clock(bool stepped) {
   return system;
 }
 
-/// A phone without a window belongs to no desktop, whatever runs around it.
+/// A phone without a window does not use the desktop's services, even if there is a desktop.
 void configure_social(bool headless) {
   social::Configuration configuration;
   configuration.desktop = headless ? social::Desktop::Absent : social::desktop_of_environment();
@@ -34,7 +34,7 @@ void configure_social(bool headless) {
   social::configure(configuration);
 }
 
-/// Before the extensions come, which register with it.
+/// Must be started before the extensions are loaded, because they register with it.
 void start_gesture_service() {
   static const PhoneMode mode;
   activator::Service::restart(activator::Service::Role::HomeScreen, &mode);

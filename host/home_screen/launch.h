@@ -4,12 +4,12 @@
 
 namespace host::launcher {
 
-/// The home screen's process and application, by which extensions are admitted.
+/// The names of the home screen's process and application, which the extensions' filters match.
 inline constexpr const char* kHomeScreen = "SpringBoard";
 
-/// Makes this process the phone of `options`: the platform's classes, the music, the extensions and
-/// then the home screen's application. Needs the main run loop, the device's root, the current
-/// device and the layer service.
+/// Turns this process into the phone described by `options`: starts the platform's classes, the
+/// music, the extensions, and then the home screen's application. Requires the main run loop, the
+/// device's root, the current device and the layer service.
 void launch_home_screen(const ProcessOptions& options);
 
 }  // namespace host::launcher

@@ -25,7 +25,7 @@ namespace {
 using namespace host;
 using launcher::ProcessOptions;
 
-/// The process's clock, whose time somebody makes: the machine or the console.
+/// The process's clock, advanced by either the machine or the console.
 class ProcessClock {
  public:
   explicit ProcessClock(bool stepped) {
@@ -45,7 +45,7 @@ class ProcessClock {
   std::optional<SteppedClock> stepped_;
 };
 
-/// The window where there is one, otherwise a screen that nobody sees.
+/// The window, or an invisible screen when there is none.
 struct Display {
   std::unique_ptr<screen::Screen> screen;
   std::unique_ptr<launcher::WindowService> service;
@@ -60,7 +60,7 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
   if (!window) {
-    spdlog::error("no window can be opened: {}", problem);
+    spdlog::error("cannot open a window: {}", problem);
     return std::nullopt;
   }
   auto service = std::make_unique<launcher::WindowService>(loop, *window);
@@ -105,7 +105,7 @@ int main(int count, char** arguments) {
   start_log(launcher::kHomeScreen);
   const auto options = launcher::read_process_options(count, arguments);
   if (!options) {
-    std::fputs("SpringBoard is started by sonavue.\n", stderr);
+    std::fputs("SpringBoard must be started by sonavue.\n", stderr);
     return launcher::kCannotStart;
   }
   return run(*options);

@@ -17,7 +17,7 @@ using media_player::MediaProgress;
 constexpr std::size_t kFilesBetweenLines = 1000;
 constexpr int kSongsBetweenLines = 10;
 
-/// Says how far the work is, now and then, and once at its end.
+/// Logs the progress of the work from time to time, and its end.
 class ProgressLines {
  public:
   void operator()(const MediaProgress& progress) {
@@ -54,8 +54,8 @@ void start_music(const ProcessOptions& options) {
   }
   media.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
   media.memory_path = foundation::path_on_this_machine("/var/mobile/Media/playback.plist");
-  // The home screen's extensions look at the library once, when they start: a new phone must have
-  // one by then. Later what the last scan left is there at once.
+  // The home screen's extensions read the library once, at start: a new phone must have one by
+  // then. On later starts the result of the last scan is available immediately.
   if (!std::filesystem::exists(media.index_path))
     media.first_scan = media_player::FirstScan::kBeforeStart;
   media.pace = options.stepped ? media::PlayerPace::stepped : media::PlayerPace::real;

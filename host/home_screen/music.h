@@ -4,8 +4,8 @@
 
 namespace host::launcher {
 
-/// Starts the phone's music: the user's folders, or the demo music where none was given. Without
-/// music the phone still starts; the reason is in the log.
+/// Starts the phone's music: the user's folders, or the demo music when none were given. The phone
+/// also starts without music; the reason is logged.
 void start_music(const ProcessOptions& options);
 void stop_music();
 

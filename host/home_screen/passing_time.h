@@ -4,7 +4,7 @@
 
 namespace host::launcher {
 
-/// Serves the loop, whose clock moves by itself, until `seconds` have gone by.
+/// Runs the loop, whose clock must be a real one, until `seconds` have passed.
 void let_time_pass(RunLoop& loop, double seconds);
 
 }  // namespace host::launcher

@@ -4,7 +4,7 @@
 
 namespace host::launcher {
 
-/// What this phone shows, for the gesture service.
+/// Tells the gesture service what this phone is showing.
 class PhoneMode final : public activator::ModeProvider {
  public:
   activator::Mode present_mode() const override;

@@ -7,7 +7,7 @@
 
 namespace host::launcher {
 
-/// What the launcher tells the home screen's process, which trusts it.
+/// The options that the launcher passes to the home screen's process, which trusts them.
 struct ProcessOptions {
   std::string device;
   std::string root;
@@ -19,7 +19,7 @@ struct ProcessOptions {
   int console_descriptor = -1;
 };
 
-/// Nothing when the arguments are not the launcher's.
+/// Returns nothing when the arguments are not the launcher's.
 std::optional<ProcessOptions> read_process_options(int count, const char* const* arguments);
 
 }  // namespace host::launcher

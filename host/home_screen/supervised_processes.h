@@ -6,10 +6,11 @@
 
 namespace host::launcher {
 
-/// The applications' processes, of which the phone's supervisor takes care.
+/// The applications' processes, which are managed by the phone's supervisor.
 class SupervisedProcesses final : public springboard::ProcessKeeper {
  public:
-  /// Reaches the supervisor by the socket that the environment names; without one nothing opens.
+  /// Connects to the supervisor by the socket named in the environment; without one, no application
+  /// can be opened.
   SupervisedProcesses();
 
   bool open(const std::string& bundle, const std::string& program) override;

@@ -5,7 +5,7 @@
 
 namespace host::launcher {
 
-/// What is copied on the phone can be pasted on the desktop, and the other way round.
+/// Shares the clipboard between the phone and the desktop, in both directions.
 class WindowClipboard final : public uikit::Clipboard {
  public:
   explicit WindowClipboard(screen::Window& window) : window_(window) { uikit::set_clipboard(this); }

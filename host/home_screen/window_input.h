@@ -6,7 +6,7 @@
 
 namespace host::launcher {
 
-/// What the user does in the window, done to the phone.
+/// Applies the user's actions in the window to the phone.
 class WindowInput final : public screen::Input {
  public:
   WindowInput(Hands& hands, std::function<void()> on_close)
@@ -15,7 +15,7 @@ class WindowInput final : public screen::Input {
   void touch(int finger, screen::TouchPhase phase, CGPoint point) override {
     hands_.touch(finger, phase, point);
   }
-  // A key that nobody takes just now is nothing that a user has to be told.
+  // Failures are ignored: the user need not be told that nothing is taking a key.
   void type(std::string_view text) override { hands_.type(text); }
   void compose(std::string_view text, int caret) override { hands_.compose(text, caret); }
   void key(std::string_view name) override { hands_.key(name); }

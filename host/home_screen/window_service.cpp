@@ -3,8 +3,8 @@
 namespace host::launcher {
 namespace {
 
-// Drawing may take events off the descriptor without handing them on: they wait no longer than
-// this.
+// In seconds. Drawing may read events from the descriptor without handling them; they wait no
+// longer than this.
 constexpr double kLookAnyway = 0.25;
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 namespace host::launcher {
 
-/// Serves the window's events from the run loop: at once where the desktop has a descriptor for
-/// them, otherwise once a frame.
+/// Handles the window's events from the run loop: immediately if the desktop has a descriptor for
+/// them, otherwise once per frame.
 class WindowService {
  public:
   WindowService(RunLoop& loop, screen::Window& window);

@@ -42,8 +42,8 @@ void export_uikit() {
   uikit::export_picker();
 }
 
-// The last ones have nothing but C functions here, which every program has: they are there to be
-// asked for.
+// The last ones consist only of C functions, which are in every program. They are listed because
+// libraries request them.
 constexpr DeviceImage kImages[] = {
     {kFoundation, {}, &foundation::export_foundation},
     {kQuartzCore, kBelowQuartzCore, &quartzcore::export_quartzcore},

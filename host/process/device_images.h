@@ -8,7 +8,7 @@
 
 namespace host::process {
 
-/// Frameworks and libraries of the device, by the paths of their files.
+/// The paths of the device's frameworks and libraries.
 inline constexpr std::string_view kFoundation =
     "/System/Library/Frameworks/Foundation.framework/Foundation";
 inline constexpr std::string_view kQuartzCore =
@@ -23,14 +23,14 @@ inline constexpr std::string_view kPreferences =
     "/System/Library/PrivateFrameworks/Preferences.framework/Preferences";
 inline constexpr std::string_view kGestureService = kActivatorImage.text;
 
-/// All that the device has. None is in the process until somebody asks for it.
+/// All images of the device. Each is loaded into the process only when it is requested.
 std::span<const DeviceImage> device_images();
 
-/// What happens before a program's first line: the dynamic linker learns what the device has, and
-/// brings in what the program is linked with.
+/// Does what happens before a program's first line: tells the dynamic linker which images the
+/// device has, and loads those that the program is linked with.
 void start_program(std::span<const std::string_view> images);
 
-/// The home screen's images, and the classes of its own program.
+/// The same for the home screen, including the classes of its own program.
 void start_home_screen();
 
 }  // namespace host::process

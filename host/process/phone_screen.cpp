@@ -37,7 +37,7 @@ PhoneScreen::~PhoneScreen() {
 void PhoneScreen::end_turn() {
   if (!screen_.is_watched()) return;
   if (!loop_.wants_frames() || loop_.turn_has_frame()) draw();
-  // Nothing moves: the time to do what a movement may need.
+  // Nothing is animated: time to prepare for the next animation.
   if (!loop_.wants_frames()) compositor_.prepare_ahead(window_layers(), loop_.now());
 }
 

@@ -9,12 +9,12 @@
 
 namespace host::process {
 
-/// Draws the windows of this process at the end of every turn of the loop and hands what changed to
-/// the screen. A turn that changed nothing draws nothing, and while frames are coming those are
-/// drawn and no moments between them, which nobody would see.
+/// Draws the windows of this process at the end of every turn of the loop, and passes the changes
+/// to the screen. A turn without changes draws nothing. While frames are requested, only frames are
+/// drawn: turns between them would not be visible.
 class PhoneScreen {
  public:
-  /// Among the observers of a turn's end: after layout.
+  /// The order among the observers of a turn's end: after layout.
   static constexpr int kTurnOrder = 200;
 
   PhoneScreen(RunLoop& loop, screen::Screen& screen);
@@ -22,7 +22,7 @@ class PhoneScreen {
   PhoneScreen(const PhoneScreen&) = delete;
   PhoneScreen& operator=(const PhoneScreen&) = delete;
 
-  /// Brings the picture up to date and writes it to a PNG file. Gives the reason when it cannot.
+  /// Updates the picture and writes it to a PNG file. Returns the reason on failure.
   std::optional<std::string> write(const std::string& file);
   const quartzcore::Compositor& compositor() const { return compositor_; }
 

@@ -4,7 +4,7 @@
 
 extern "C" {
 int objc_getClassList(objc::Class* buffer, int capacity);
-// The runtime's own, which its headers do not declare.
+// A function of the runtime that its headers do not declare.
 void __objc_update_dispatch_table_for_class(objc::Class cls);
 }
 

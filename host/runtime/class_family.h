@@ -4,12 +4,13 @@
 
 namespace host {
 
-/// Replaces what `cls` and all classes below it answer to `selector`, except where one of them
-/// has its own word. Returns the implementation that answered before, or nullptr when none did.
+/// Replaces the implementation of `selector` in `cls` and in all subclasses that inherit it, except
+/// those with an implementation of their own. Returns the previous one, or nullptr if there was
+/// none.
 objc::Imp replace_in_family(objc::Class cls, const char* selector, objc::Imp body,
                             const char* encoding);
 
-/// Makes every class below `cls`, a class or a metaclass, look its inherited methods up again.
+/// Makes every subclass of `cls`, a class or a metaclass, look up its inherited methods again.
 void refresh_family(objc::Class cls);
 
 template <auto Function>

@@ -2,8 +2,8 @@
 
 namespace host {
 
-/// Time in seconds, growing only. Everything that waits is handed one of these; nothing reads the
-/// time from the side.
+/// Monotonic time in seconds. All code that waits is given a clock and reads the time from nowhere
+/// else.
 class Clock {
  public:
   virtual ~Clock() = default;
@@ -16,17 +16,17 @@ class RealClock final : public Clock {
   double now() const override;
 };
 
-/// A clock that stands still until it is told to move.
+/// A clock that only moves on request.
 class SteppedClock final : public Clock {
  public:
   double now() const override { return now_; }
-  /// Moves to `time`; an earlier time changes nothing.
+  /// Moves to `time`; ignores an earlier time.
   void move_to(double time) {
     if (time > now_) now_ = time;
   }
 
  private:
-  // Not zero, so that a forgotten start time is noticed.
+  // Not zero, to expose an uninitialized start time.
   double now_ = 1000.0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace host {
 
-/// Does something once after a while, unless it is stopped or started anew before.
+/// Runs its work once after a delay, unless it is stopped or restarted before.
 class Countdown {
  public:
   Countdown() = default;
@@ -19,7 +19,7 @@ class Countdown {
     RunLoop& loop = RunLoop::main();
     timer_ = loop.add_timer(loop.now() + seconds, 0, [this, work = std::move(work)] {
       timer_ = 0;
-      // What it does may end this countdown's owner, and `work` with it.
+      // The work may destroy this countdown's owner, and `work` with it.
       const auto kept = work;
       kept();
     });

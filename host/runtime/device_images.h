@@ -7,16 +7,16 @@ namespace host {
 
 /// A framework or library of the device, as the dynamic linker knows it.
 struct DeviceImage {
-  std::string_view path;                    ///< Of its file.
-  std::span<const std::string_view> needs;  ///< Paths of those that come in with it, and before it.
-  void (*load)();                           ///< Makes its classes. nullptr for one without.
+  std::string_view path;                    ///< The path of its file.
+  std::span<const std::string_view> needs;  ///< The paths of those that are loaded before it.
+  void (*load)();                           ///< Registers its classes; nullptr if it has none.
 };
 
-/// What the device has. Nothing is in the process yet.
+/// Sets the device's images. None of them is loaded yet.
 void set_device_images(std::span<const DeviceImage> images);
 
-/// Brings the image into the process, and before it what it needs; once, however often it is asked
-/// for. False when the device has none at that path.
+/// Loads the image into the process, after the images it needs. Idempotent. Returns false when the
+/// device has no image at this path.
 bool load_device_image(std::string_view path);
 
 }  // namespace host

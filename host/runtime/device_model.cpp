@@ -6,7 +6,7 @@
 namespace host {
 namespace {
 
-// Sizes in points and scales as the makers of these devices published them.
+// The sizes in points and the scales are as published by the manufacturer.
 constexpr std::array kModels{
     DeviceModel{"iPhone3,1", "iPhone 4", 320, 480, 2, false},
     DeviceModel{"iPhone4,1", "iPhone 4S", 320, 480, 2, false},

@@ -2,8 +2,8 @@
 #include "host/runtime/run_loop.h"
 #include "objc/block.h"
 
-// The main queue of the platform's C interface: a block given to it runs in the next turn of the
-// main run loop.
+// The main queue of the platform's C interface: a block submitted to it runs in the next turn of
+// the main run loop.
 
 struct dispatch_queue_s {
   char unused;

@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what a loaded library may bind to in the executable.
+/// Marks a function or variable in the executable that loaded libraries may bind to.
 #define SONAVUE_EXPORTED extern "C" __attribute__((visibility("default"), used))

@@ -5,7 +5,7 @@
 namespace host {
 namespace {
 
-// Smaller ones come and go with frames, which have no time for the system.
+// In bytes. Smaller blocks are allocated and freed within frames, where system calls take too long.
 constexpr int kLarge = 1 << 20;
 
 }  // namespace

@@ -2,9 +2,9 @@
 
 namespace host {
 
-/// Has every large block of this process's heap come from the system by itself and go back to it.
-/// Otherwise the heap learns from the first large ones to keep such blocks, and what covers, files
-/// and a library's rows took for a moment stays with the process.
+/// Makes the heap of this process allocate every large block directly from the system and return it
+/// when freed. Otherwise the first large blocks would teach the heap to keep them, and the memory
+/// used briefly for covers, files and a library's rows would stay with the process.
 void give_large_blocks_back();
 
 }  // namespace host

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The class's own method, not one that it inherits.
+// Returns the class's own method, not one that it inherits.
 objc::Method own_method(objc::Class cls, objc::Sel selector) {
   unsigned count = 0;
   objc::Method* methods = class_copyMethodList(cls, &count);
@@ -28,8 +28,8 @@ void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
   if (original) *original = before;
   if (const objc::Method own = own_method(cls, selector)) {
     method_setImplementation(own, replacement);
-    // The runtime changes the class's own dispatch table and no other. A class below has what it
-    // inherits in a table of its own, or shares a piece of this one, as chance has it.
+    // The runtime updates only the class's own dispatch table. A subclass has its inherited methods
+    // in a separate table or shares part of this one, unpredictably.
     host::refresh_family(cls);
   } else {
     class_addMethod(cls, selector, replacement, method_getTypeEncoding(answering));

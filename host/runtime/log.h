@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// The one log of a process, on standard error: `[name] level: text`.
+/// Starts the log of this process, on standard error: `[name] level: text`.
 void start_log(const char* process_name);
 
 }  // namespace host

@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// The nearest place, in points, where a pixel of the screen begins: between two pixels every image
-/// of the content would have to be blended anew.
+/// Returns the nearest position, in points, at which a pixel of the screen begins. Content at a
+/// position between two pixels would have to be blended again.
 inline double on_pixel(double points) {
   const double scale = current_device().scale;
   return std::round(points * scale) / scale;
@@ -18,7 +18,7 @@ inline CGPoint on_pixel(CGPoint point) {
   return {on_pixel(point.x), on_pixel(point.y)};
 }
 
-/// The thinnest line of the screen, in points.
+/// The thickness of the thinnest line on the screen, in points.
 inline double hairline() {
   return 1 / current_device().scale;
 }

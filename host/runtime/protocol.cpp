@@ -2,10 +2,10 @@
 
 #include "objc/abi.h"
 
-// What the compiler's start-up code calls for each protocol that a program declares.
+// The compiler's start-up code calls this for each protocol that a program declares.
 extern "C" void __objc_protocols_add_protocol(const char* name, objc_protocol* object);
 
-// As the runtime lays it out.
+// The runtime's layout.
 struct objc_protocol {
   objc::Class isa;
   const char* name;
@@ -18,7 +18,7 @@ namespace host {
 
 void define_protocol(const char* name) {
   if (objc_getProtocol(name)) return;
-  // It lives as long as the process.
+  // Never freed: a protocol lives as long as the process.
   __objc_protocols_add_protocol(name,
                                 new objc_protocol{objc_getClass("Protocol"), name, {}, {}, {}});
 }

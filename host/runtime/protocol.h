@@ -2,8 +2,8 @@
 
 namespace host {
 
-/// Makes the runtime know a protocol of that name. Classes adopt protocols and are asked about them
-/// by objects that a compiler makes elsewhere; this one names no methods.
+/// Registers a protocol with this name, without methods. Usually the compiler generates such
+/// objects, for classes to adopt and to be queried about.
 void define_protocol(const char* name);
 
 }  // namespace host

@@ -12,7 +12,7 @@ namespace host {
 namespace {
 
 constexpr double kNever = std::numeric_limits<double>::infinity();
-// Sums of tenths of a second meet their due time only up to rounding.
+// In seconds. Sums of tenths of a second meet their due time only up to rounding.
 constexpr double kTimeTolerance = 1e-9;
 
 RunLoop* main_loop = nullptr;
@@ -74,7 +74,7 @@ void RunLoop::unwatch(Id watch) {
 
 RunLoop::Id RunLoop::add_frame_observer(std::function<void(double)> work) {
   if (frame_observers_.empty()) {
-    // The screen's frames stand on one grid, whoever asks for them and whenever.
+    // The screen's frames are on one fixed grid, whenever they are requested.
     next_frame_ = (std::floor(now() / kFrame + kTimeTolerance) + 1) * kFrame;
   }
   frame_observers_.push_back({++last_id_, std::move(work)});
@@ -105,7 +105,7 @@ double RunLoop::next_due() const {
 
 bool RunLoop::run_work() {
   if (work_.empty()) return false;
-  // What this work asks for belongs to the turn after it.
+  // Work added by this work belongs to the next turn.
   std::vector<Work> ready;
   ready.swap(work_);
   for (const Work& work : ready)
@@ -196,7 +196,7 @@ void RunLoop::run_ready() {
 }
 
 void RunLoop::advance_to(SteppedClock& clock, double time) {
-  // What happened between two turns (a touch, a console line) is committed before time moves.
+  // Events between two turns (a touch, a console line) are committed before time moves.
   {
     objc::AutoreleasePool pool;
     turn_has_frame_ = false;

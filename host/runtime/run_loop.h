@@ -9,7 +9,7 @@
 namespace host {
 
 /// The main run loop of a process: timers on the clock, work for the next turn, frames of the
-/// screen and file descriptors. One thread, one loop. Each turn has an autorelease pool of its own.
+/// screen and file descriptors. One thread, one loop. Each turn has its own autorelease pool.
 class RunLoop {
  public:
   using Work = std::function<void()>;
@@ -21,48 +21,49 @@ class RunLoop {
   RunLoop(const RunLoop&) = delete;
   RunLoop& operator=(const RunLoop&) = delete;
 
-  /// The loop of this process; made by `main`, or by a test for itself.
+  /// The loop of this process, created by `main` or by a test. There must be one.
   static RunLoop& main();
   static bool has_main();
-  /// Makes `loop` the process's loop; nullptr takes it away again.
+  /// Makes `loop` the process's loop; nullptr removes it.
   static void set_main(RunLoop* loop);
 
   const Clock& clock() const { return clock_; }
   double now() const { return clock_.now(); }
 
-  /// Runs `work` once in the next turn, in the order of the calls. From the loop's thread only.
+  /// Runs `work` once in the next turn, in the order of the calls. Loop thread only.
   void perform(Work work);
 
-  /// Runs `work` at `due` (clock seconds) and, with an `interval` above 0, at every interval after
-  /// it: the next due time is counted from the last due time, and ticks already past are skipped.
+  /// Runs `work` at `due` (clock seconds) and, with an `interval` above 0, repeatedly after it. The
+  /// next due time is relative to the last due time; ticks already past are skipped.
   Id add_timer(double due, double interval, Work work);
   void remove_timer(Id timer);
 
-  /// Runs `work` when the descriptor can be read (real clock: while waiting; stepped: each turn).
+  /// Runs `work` when the descriptor is readable (real clock: while waiting; stepped: each turn).
   Id watch(int descriptor, Work work);
   void unwatch(Id watch);
 
-  /// Runs `work` with the frame's time at every frame of the screen (60 a second of the clock)
-  /// until removed. A loop that nobody asked for frames has none.
+  /// Runs `work` with the frame's time at every frame of the screen (60 per second of the clock)
+  /// until removed. A loop without observers has no frames.
   Id add_frame_observer(std::function<void(double frame_time)> work);
   void remove_frame_observer(Id observer);
   bool wants_frames() const { return !frame_observers_.empty(); }
-  /// At a turn's end: was a frame of the screen among what ran?
+  /// At a turn's end: true when the turn included a frame of the screen.
   bool turn_has_frame() const { return turn_has_frame_; }
 
-  /// Runs `work` at the end of every turn in which anything ran, before the loop sleeps: where
-  /// layers are laid out and committed. Observers run in order of `order`.
+  /// Runs `work` at the end of every turn in which anything ran, before the loop sleeps. Layers are
+  /// laid out and committed there. Observers run in order of `order`.
   Id add_turn_observer(int order, Work work);
   void remove_turn_observer(Id observer);
 
-  /// When the next timer or frame is due; infinity when none is.
+  /// The clock time of the next timer or frame; infinity when there is none.
   double next_due() const;
 
-  /// Stepped clock: moves `clock` to `time`, running everything due on the way at its due time.
+  /// Stepped clock: moves `clock` to `time` and runs everything due until then at its due time.
   void advance_to(SteppedClock& clock, double time);
-  /// Runs what is ready now, without waiting: work of the next turn, due timers, ready descriptors.
+  /// Runs everything that is ready, without waiting: work of the next turn, due timers, ready
+  /// descriptors.
   void run_ready();
-  /// Real clock: serves until `stop`.
+  /// Real clock: runs until `stop`.
   void run();
   void stop() { running_ = false; }
 

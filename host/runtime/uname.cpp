@@ -5,8 +5,8 @@
 #include "host/runtime/device_model.h"
 #include "host/runtime/exported.h"
 
-// A library loaded into this process asks the system what machine it runs on and is told the device
-// model: its call binds to this definition, which comes before the C library's.
+// Libraries loaded into this process ask the system for the machine and get the device model: their
+// calls bind to this definition, which precedes the C library's.
 SONAVUE_EXPORTED int uname(utsname* name) {
   if (!name) return -1;
   *name = {};

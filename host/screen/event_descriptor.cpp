@@ -7,8 +7,8 @@
 namespace host::screen {
 namespace {
 
-// SDL has loaded the desktop's library itself; it is asked for the one function by name, so that
-// the host needs neither of them where the other is used.
+// SDL has loaded the desktop's library; its function is looked up by name, because linking would
+// require the libraries of both desktops.
 int ask(const char* library, const char* function, void* display) {
   void* loaded = dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
   if (!loaded) return -1;

@@ -8,11 +8,11 @@
 
 namespace host::screen {
 
-/// Small numbers for the fingers on a touch screen, which have long and arbitrary names there. A
-/// finger keeps its number until it is lifted; 0 is left to the mouse.
+/// Maps the touch screen's long, arbitrary finger identifiers to small numbers. A finger keeps its
+/// number until it is lifted; 0 is reserved for the mouse.
 class Fingers {
  public:
-  /// Nothing for a finger that moves or lifts without having been put down.
+  /// Returns nothing for a finger that moves or lifts without having been put down.
   std::optional<int> number_of(std::int64_t name, TouchPhase phase);
 
  private:

@@ -7,8 +7,8 @@
 
 namespace host::screen {
 
-/// Which of the phone's buttons are down, by a key, the mouse or a finger. A button that two hold
-/// goes down once and up once.
+/// The phone's buttons that are down, by a key, the mouse or a finger. A button held twice goes
+/// down only once and up only once.
 class HeldButtons {
  public:
   explicit HeldButtons(Input& input) : input_(input) {}
@@ -26,7 +26,7 @@ class HeldButtons {
     changed_ = true;
   }
   bool is_down(Button button) const { return held_.count(button) != 0; }
-  /// Whether any has gone down or up since the change was last taken.
+  /// True when a button has gone down or up since the change was last taken.
   bool has_change() const { return changed_; }
   bool take_change() { return std::exchange(changed_, false); }
 

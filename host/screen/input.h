@@ -13,24 +13,24 @@ enum class Button { Home, HomeDouble, Lock, VolumeUp, VolumeDown, HomeTouch };
 
 enum class ButtonPhase { Down, Up };
 
-/// Whoever is told what the user does to the phone.
+/// Receives the user's actions on the phone.
 class Input {
  public:
   virtual ~Input() = default;
 
   /// `point` is in points of the screen from its top left; it may lie outside.
   virtual void touch(int finger, TouchPhase phase, CGPoint point) = 0;
-  /// Text of the keyboard, as UTF-8; input methods have composed it.
+  /// Text from the keyboard, as UTF-8, after composition by input methods.
   virtual void type(std::string_view text) = 0;
-  /// Text that an input method is still composing, in place of what it composed before; empty when
-  /// it has given up. `caret` counts code points from its start.
+  /// Text that an input method is still composing; replaces what it composed before. Empty when the
+  /// composition is cancelled. `caret` counts code points from its start.
   virtual void compose(std::string_view text, int caret) = 0;
-  /// A key that types nothing: return, delete, escape, tab, left, right, up, down, home or end, or
-  /// a letter with the control key. `control-` and `shift-` stand before it, in this order.
+  /// A key that types no text: return, delete, escape, tab, left, right, up, down, home or end, or
+  /// a letter with the control key. The prefixes are `control-` and `shift-`, in this order.
   virtual void key(std::string_view name) = 0;
-  /// A whole press, of those that are nothing else.
+  /// A complete press of a button that cannot be held.
   virtual void press(Button button) = 0;
-  /// A button that goes down, to come up later.
+  /// A button goes down or up.
   virtual void button(Button button, ButtonPhase phase) = 0;
   virtual void shake() = 0;
   /// The user has closed the window.

@@ -19,7 +19,7 @@ constexpr KeyName kKeys[] = {
     {SDLK_END, "end"},
 };
 
-// With the control key, letters work on text instead of typing it.
+// With the control key, letters edit text instead of typing it.
 constexpr KeyName kControlKeys[] = {
     {SDLK_a, "a"}, {SDLK_c, "c"}, {SDLK_g, "g"}, {SDLK_v, "v"}, {SDLK_x, "x"},
 };
@@ -34,7 +34,7 @@ constexpr KeyButton kKeyButtons[] = {
     {SDLK_F5, Button::VolumeDown}, {SDLK_F6, Button::VolumeUp},
 };
 
-// What cannot be held.
+// The buttons that cannot be held.
 constexpr KeyButton kPresses[] = {
     {SDLK_F2, Button::HomeDouble},
     {SDLK_F4, Button::HomeTouch},
@@ -42,7 +42,7 @@ constexpr KeyButton kPresses[] = {
 
 constexpr SDL_Keycode kShake = SDLK_F7;
 
-/// The key's name behind those of the keys that are held with it.
+/// Returns the key's name with the prefixes of its modifiers.
 std::string with_modifiers(const char* name, Uint16 held) {
   std::string full;
   if ((held & KMOD_CTRL) != 0) full += "control-";
@@ -53,7 +53,7 @@ std::string with_modifiers(const char* name, Uint16 held) {
 }  // namespace
 
 void Keys::handle(const SDL_KeyboardEvent& event) {
-  // A held key is one press of a button.
+  // Key repeat does not press a button again.
   if (event.repeat == 0) handle_button(event);
   if (event.type == SDL_KEYDOWN) handle_text_key(event);
 }

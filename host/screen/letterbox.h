@@ -6,10 +6,10 @@
 
 namespace host::screen {
 
-/// How a phone's screen lies in a window of another shape: as large as it fits, in the middle.
+/// Fits a phone's screen into a window of another shape: as large as possible, centred.
 struct Letterbox {
   CGRect place;      // of the screen, in the window's units
-  double scale = 1;  // the window's units a point
+  double scale = 1;  // in the window's units per point
 
   static constexpr Letterbox fit(CGSize screen, CGSize window) {
     const double scale = std::min(window.width / screen.width, window.height / screen.height);
@@ -17,7 +17,7 @@ struct Letterbox {
     return {{{(window.width - size.width) / 2, (window.height - size.height) / 2}, size}, scale};
   }
 
-  /// The point of the screen that lies at this place of the window.
+  /// Converts a point of the window to a point of the screen.
   constexpr CGPoint point_at(CGPoint in_window) const {
     return {(in_window.x - place.origin.x) / scale, (in_window.y - place.origin.y) / scale};
   }

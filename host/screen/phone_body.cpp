@@ -9,14 +9,14 @@ namespace {
 constexpr CGFloat kSide = 18;
 constexpr CGFloat kForehead = 66;
 constexpr CGFloat kChin = 88;
-// How far the buttons at the sides stand out.
+// How far the side buttons protrude, in points.
 constexpr CGFloat kStandsOut = 4;
-// Of the desktop's ground that is seen around the phone.
+// The width of the background that is visible around the phone, in points.
 constexpr CGFloat kAround = 10;
 constexpr CGFloat kHomeSide = 60;
 constexpr CGFloat kVolumeLength = 40;
 constexpr CGFloat kVolumeGap = 12;
-// Of the screen's height, from its top.
+// A share of the screen's height, from its top.
 constexpr CGFloat kVolumePlace = 0.13;
 constexpr CGFloat kLockLength = 44;
 constexpr CGFloat kLockAtTop = 0.74;
@@ -41,7 +41,7 @@ std::span<const Button> PhoneBody::buttons() {
 }
 
 CGRect PhoneBody::lock_frame() const {
-  // Half of each button at the sides is inside of the body.
+  // Half of each side button is inside the body.
   if (!tall_) {
     const CGFloat x = case_.min_x() + case_.size.width * kLockAtTop;
     return {x, case_.min_y() - kStandsOut, kLockLength, 2 * kStandsOut};
@@ -90,7 +90,7 @@ std::optional<Button> PhoneBody::button_at(CGPoint point) const {
 }
 
 CGPoint PhoneBody::nearest_on_screen(CGPoint point) const {
-  // The last point is the screen's still, what lies beyond it is not.
+  // The last point still belongs to the screen; points beyond it do not.
   return {std::clamp<CGFloat>(point.x - screen_.min_x(), 0, screen_.size.width - 1),
           std::clamp<CGFloat>(point.y - screen_.min_y(), 0, screen_.size.height - 1)};
 }

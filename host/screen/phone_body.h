@@ -8,23 +8,23 @@
 
 namespace host::screen {
 
-/// The phone around its screen, in points from the body's top left: where the buttons are and what
-/// a finger there presses. Tall phones have their lock at the side and a Home button with a ring,
-/// all others the lock at the top and a square on the Home button.
+/// The phone around its screen, in points from the body's top left: the positions of the buttons,
+/// and which one a finger presses. Tall phones have the lock button at the side and a ring on the
+/// Home button; all others have the lock button at the top and a square on the Home button.
 class PhoneBody {
  public:
   /// `screen` is in points.
   explicit PhoneBody(CGSize screen);
 
-  /// Of everything, buttons at the sides included.
+  /// The total size, including the side buttons.
   CGSize size() const { return size_; }
   CGRect case_frame() const { return case_; }
   CGRect screen() const { return screen_; }
   static std::span<const Button> buttons();
   CGRect frame_of(Button button) const;
-  /// Around the buttons at the sides, which are thin, there is room for a finger.
+  /// Returns the button at the point. The thin side buttons have a margin for a finger.
   std::optional<Button> button_at(CGPoint point) const;
-  /// The place on the screen that is nearest, in points of the screen.
+  /// Returns the nearest point on the screen, in screen coordinates.
   CGPoint nearest_on_screen(CGPoint point) const;
   bool is_tall() const { return tall_; }
 

@@ -45,7 +45,7 @@ void add_circle(cairo_t* drawing, CGPoint centre, double radius) {
   cairo_arc(drawing, centre.x, centre.y, radius, 0, 2 * std::numbers::pi);
 }
 
-/// Metal that the light from above falls on.
+/// Sets a source that looks like metal lit from above.
 void set_metal(cairo_t* drawing, double top, double bottom, Grey light, Grey dark) {
   cairo_pattern_t* metal = cairo_pattern_create_linear(0, top, 0, bottom);
   cairo_pattern_add_color_stop_rgb(metal, 0, light.light, light.light, light.light);
@@ -77,7 +77,7 @@ void draw_case(cairo_t* drawing, const PhoneBody& body) {
   cairo_fill(drawing);
 }
 
-/// The slot that one listens at, and the camera beside it.
+/// Draws the earpiece and the camera beside it.
 void draw_forehead(cairo_t* drawing, const PhoneBody& body) {
   constexpr CGSize kSlot{58, 6};
   constexpr double kCamera = 5;

@@ -8,10 +8,10 @@
 
 namespace host::screen {
 
-/// The light of the ground that the phone lies on.
+/// The brightness of the background behind the phone.
 inline constexpr double kGroundLight = 0.17;
 
-/// Draws the body with cairo, in points; the place of the screen stays black.
+/// Draws the body with Cairo, in points; the area of the screen is black.
 void draw_body(cairo_t* drawing, const PhoneBody& body,
                const std::function<bool(Button)>& is_pressed);
 

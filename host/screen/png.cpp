@@ -7,8 +7,8 @@
 namespace host::screen {
 
 std::optional<std::string> write_png(const Picture& picture, const std::string& file) {
-  // Cairo takes the pixels as its own to write to, but writing a file only reads them. What the
-  // screen shows has nothing behind it, so transparency has no meaning here.
+  // Cairo requires writable pixels, but writing a file only reads them. There is nothing behind the
+  // screen, so its transparency is ignored.
   const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface(
       cairo_image_surface_create_for_data(const_cast<unsigned char*>(picture.pixels),
                                           CAIRO_FORMAT_RGB24, picture.width, picture.height,

@@ -8,26 +8,27 @@
 
 namespace host::screen {
 
-/// The mouse and the fingers on the phone. One that goes down on a button presses it; one that goes
-/// down on the glass around the screen touches the screen from where it slides onto it, as a finger
-/// does that comes in over the edge. Points are of the body.
+/// The mouse and the fingers on the phone. A pointer that goes down on a button presses it. One
+/// that goes down on the glass around the screen touches the screen where it slides onto it, like a
+/// finger that comes in over the edge. Points are in the body's coordinates.
 class Pointers {
  public:
   Pointers(const PhoneBody& body, Input& input, HeldButtons& buttons)
       : body_(body), input_(input), buttons_(buttons) {}
 
-  /// `clicks` counts quick ones at the same place: the second on the Home button is a double press.
+  /// `clicks` is the number of quick clicks at the same place. The second one on the Home button is
+  /// a double press.
   void down(int finger, CGPoint point, int clicks = 1);
   void moved(int finger, CGPoint point);
   void up(int finger, CGPoint point);
-  /// A light touch, twice, where it lands on the Home button.
+  /// Touches the Home button twice without pressing it, if the point is on it.
   void touch_lightly(CGPoint point) const;
 
  private:
   struct Pointer {
     std::optional<Button> button;
     bool touches = false;
-    /// Where it last was beside the screen.
+    /// Its last position outside the screen.
     CGPoint outside;
   };
   CGPoint on_screen(CGPoint point) const;

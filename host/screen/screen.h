@@ -14,8 +14,8 @@ struct PixelRect {
   friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
-/// Pixels of a whole screen, 32 bits each in the machine's byte order: alpha, red, green, blue,
-/// premultiplied. Borrowed.
+/// The pixels of a whole screen, 32 bits each in the machine's byte order: alpha, red, green, blue,
+/// premultiplied. Not owned.
 struct Picture {
   const unsigned char* pixels = nullptr;
   int width = 0;
@@ -23,18 +23,18 @@ struct Picture {
   int stride = 0;  // in bytes
 };
 
-/// Where the phone's picture goes.
+/// The destination of the phone's picture.
 class Screen {
  public:
   virtual ~Screen() = default;
 
-  /// Shows the picture, of which only the damaged parts have changed since the last time.
+  /// Shows the picture. Only the parts in `damage` have changed since the last call.
   virtual void show(const Picture& picture, std::span<const PixelRect> damage) = 0;
-  /// Are pictures wanted as they come, and not only those that are asked for?
+  /// True when every new picture should be shown; false when pictures are drawn only on request.
   virtual bool is_watched() const { return true; }
 };
 
-/// A screen that nobody looks at. Blind, it does not even want the pictures.
+/// An invisible screen. When blind, it does not even receive the pictures.
 class Headless final : public Screen {
  public:
   explicit Headless(bool blind = false) : blind_(blind) {}
@@ -46,7 +46,7 @@ class Headless final : public Screen {
   bool blind_;
 };
 
-/// Writes the picture to a file. Gives the reason when that failed.
+/// Writes the picture to a file. Returns the reason on failure.
 std::optional<std::string> write_png(const Picture& picture, const std::string& file);
 
 }  // namespace host::screen

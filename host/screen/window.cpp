@@ -11,9 +11,9 @@
 namespace host::screen {
 namespace {
 
-// The mouse is one more finger, beside those of a touch screen.
+// The mouse counts as an additional finger besides those of a touch screen.
 constexpr int kMouseFinger = 0;
-// Of the desktop's height, for a phone that would not fit it.
+// The share of the desktop's height for a phone that would not fit on it.
 constexpr double kLargestPart = 0.92;
 constexpr auto kGroundShade = static_cast<Uint8>(kGroundLight * 255);
 
@@ -56,22 +56,22 @@ Window::~Window() {
   SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 
-std::unique_ptr<Window> Window::open(CGSize screen, double pixels_a_point, Input& input,
+std::unique_ptr<Window> Window::open(CGSize screen, double pixels_per_point, Input& input,
                                      std::string& problem) {
-  // Signals belong to whoever supervises the process.
+  // Signals are handled by the supervisor of the process.
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "1");
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
   std::unique_ptr<Window> made;
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
     made.reset(new Window(screen, input));
-    if (made->create(pixels_a_point)) return made;
+    if (made->create(pixels_per_point)) return made;
   }
   problem = SDL_GetError();
   return nullptr;
 }
 
-bool Window::create(double pixels_a_point) {
+bool Window::create(double pixels_per_point) {
   const CGSize size = first_size(body_.size());
   window_.reset(SDL_CreateWindow("Sonavue", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                                  static_cast<int>(size.width), static_cast<int>(size.height),
@@ -81,8 +81,8 @@ bool Window::create(double pixels_a_point) {
   if (!renderer_) return false;
   texture_.reset(SDL_CreateTexture(
       renderer_.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
-      static_cast<int>(std::lround(body_.screen().size.width * pixels_a_point)),
-      static_cast<int>(std::lround(body_.screen().size.height * pixels_a_point))));
+      static_cast<int>(std::lround(body_.screen().size.width * pixels_per_point)),
+      static_cast<int>(std::lround(body_.screen().size.height * pixels_per_point))));
   SDL_StartTextInput();
   return texture_ != nullptr;
 }
@@ -114,7 +114,7 @@ void Window::present() {
   SDL_RenderPresent(renderer_.get());
 }
 
-/// Only when it looks different from the last time.
+/// Draws the body only when it looks different from the last time.
 void Window::draw_body() {
   const Letterbox box = Letterbox::fit(body_.size(), output_size());
   const CGSize size{std::ceil(box.place.size.width), std::ceil(box.place.size.height)};
@@ -219,7 +219,7 @@ void Window::handle_mouse(const SDL_Event& event) {
       box.point_at({static_cast<double>(event.button.x), static_cast<double>(event.button.y)});
   if (event.button.button == SDL_BUTTON_RIGHT && down) pointers_.touch_lightly(point);
   if (event.button.button != SDL_BUTTON_LEFT) return;
-  // A drag may leave the window, as a finger leaves the screen at its edge.
+  // A drag may leave the window, like a finger that leaves the screen at its edge.
   SDL_CaptureMouse(down ? SDL_TRUE : SDL_FALSE);
   if (down) {
     pointers_.down(kMouseFinger, point, event.button.clicks);

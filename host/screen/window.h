@@ -16,32 +16,32 @@ union SDL_Event;
 
 namespace host::screen {
 
-/// A window of the desktop that shows the phone and is its fingers, keys and buttons: the mouse or
-/// a touch screen touches its screen and presses the buttons around it.
+/// A window on the desktop that shows the phone and provides its fingers, keys and buttons: the
+/// mouse or a touch screen touches its screen and presses the buttons around it.
 class Window final : public Screen {
  public:
-  /// `screen` is in points, `pixels_a_point` the scale of the phone. Gives nothing, and the reason
-  /// in `problem`, when the desktop has no room for a window.
-  static std::unique_ptr<Window> open(CGSize screen, double pixels_a_point, Input& input,
+  /// `screen` is in points; `pixels_per_point` is the scale of the phone. Returns null, with the
+  /// reason in `problem`, when the desktop cannot show a window.
+  static std::unique_ptr<Window> open(CGSize screen, double pixels_per_point, Input& input,
                                       std::string& problem);
   ~Window() override;
 
   void show(const Picture& picture, std::span<const PixelRect> damage) override;
 
-  /// Passes on what the user has done since the last call.
+  /// Forwards the user's actions since the last call to the input.
   void handle_events();
 
   /// The desktop's clipboard, as UTF-8.
   std::string clipboard_text() const;
   void set_clipboard_text(const std::string& text);
 
-  /// Becomes readable when there may be something to handle; -1 where the desktop has no such
-  /// descriptor, and events have to be looked for from time to time.
+  /// Becomes readable when there may be events to handle; -1 when the desktop has no such
+  /// descriptor, and events must be polled.
   int event_descriptor() const;
 
  private:
   Window(CGSize screen, Input& input);
-  bool create(double pixels_a_point);
+  bool create(double pixels_per_point);
   void handle(const SDL_Event& event);
   void handle_mouse(const SDL_Event& event);
   void handle_finger(const SDL_Event& event);
@@ -65,7 +65,7 @@ class Window final : public Screen {
   std::unique_ptr<SDL_Renderer, Destroy> renderer_;
   std::unique_ptr<SDL_Texture, Destroy> texture_;
   std::unique_ptr<SDL_Texture, Destroy> body_texture_;
-  /// In pixels, of what the body was last drawn at.
+  /// The size in pixels at which the body was last drawn.
   CGSize body_drawn_;
   Fingers fingers_;
 };

@@ -32,7 +32,7 @@ TEST_F(ClassPairs, ANameThatIsTakenIsLogged) {
   ASSERT_TRUE(first);
   EXPECT_THAT(log(), IsEmpty());
   EXPECT_EQ(objc::ClassBuilder("TestTwice", "NSObject").finish(), nullptr);
-  EXPECT_THAT(log(), HasSubstr("class TestTwice is not made: there is one of that name"));
+  EXPECT_THAT(log(), HasSubstr("class TestTwice is not created: the name is taken"));
   EXPECT_EQ(objc_getClass("TestTwice"), first);
 }
 
