@@ -1,7 +1,6 @@
 #!/bin/sh
-# walls_test.sh SOURCE BUILD COMPILER: no two modules see each other. Each is asked with the flags
-# that its own sources are compiled with, so that an include that climbs is one that the compiler
-# itself refuses.
+# walls_test.sh SOURCE BUILD COMPILER: no two modules can include each other. Each is tested with the
+# flags of its own sources, so the compiler itself rejects an include of a higher module.
 set -eu
 
 source=$1
@@ -19,7 +18,7 @@ fail() {
 cd "$source"
 homes="objc platform ui settings tweak host"
 
-# The modules are what has an include root; each is known by one of its headers.
+# The modules are the folders with an include root; each is represented by one of its headers.
 # shellcheck disable=SC2086
 find $homes -name CMakeLists.txt -exec sed -n 's/^sonavue_module(\(.*\))$/\1/p' {} + | sort >"$work/modules"
 while read -r module; do
@@ -27,7 +26,7 @@ while read -r module; do
   [ -z "$header" ] || echo "$module $header"
 done <"$work/modules" >"$work/headers"
 
-# Every folder with sources belongs to one, and none lies inside another.
+# Every folder with sources belongs to one module, and no module is inside another.
 # shellcheck disable=SC2086
 find $homes \( -name '*.h' -o -name '*.cpp' \) -exec dirname {} + | sort -u >"$work/folders"
 awk 'NR == FNR { modules[$1]; next }
@@ -36,7 +35,7 @@ awk 'NR == FNR { modules[$1]; next }
        if (found != 1) print $1 " belongs to " found " modules" }' "$work/modules" "$work/folders" >"$work/strays"
 [ ! -s "$work/strays" ] || fail "$(head -n 20 "$work/strays")"
 
-# The sets of flags that each module's sources are compiled with: a number, its name, the flags.
+# The sets of flags with which each module's sources are compiled: a number, the module, the flags.
 awk -v root="$source/" '
   NR == FNR { modules[$1]; next }
   $1 == "\"command\":" {
@@ -58,7 +57,8 @@ awk -v root="$source/" '
       }
   }' "$work/modules" "$build/compile_commands.json" | sort | awk '{ print NR, $0 }' >"$work/flags"
 
-# What each set sees: "3 host/uikit/view sees host/uikit/touch host/uikit/touch/event.h".
+# The headers that each set can include: "3 host/uikit/view sees host/uikit/touch
+# host/uikit/touch/event.h".
 while read -r module header; do
   printf '#if __has_include("%s")\nsees %s %s\n#endif\n' "$header" "$module" "$header"
 done <"$work/headers" >"$work/probe.cpp"
@@ -80,8 +80,8 @@ compiles() {
   "$compiler" $1 -E "$work/include.cpp" -o /dev/null 2>"$work/errors"
 }
 
-# That the compiler refuses what it does not see, and takes what it sees: of a pair of neighbours for
-# each set, the include downwards compiles and the one upwards does not.
+# Checks that the compiler agrees: for one pair of neighbours of each set, the downward include
+# compiles and the upward one does not.
 tried=0
 while read -r number module flags; do
   neighbour=$(awk -v number="$number" '$1 == number && $4 != $2 && $4 ~ /^(host|tweak)/ { print $4, $5 }' \

@@ -45,7 +45,7 @@ std::string good_settings() {
 }
 
 std::string random_settings(RandomHand& hand) {
-  // Mostly on: a panel that is switched off has nothing to go wrong.
+  // Mostly on: in a panel that is switched off nothing can go wrong.
   std::string entries = entry("enable", yes_or_no(!hand.once_in(8)));
   for (const char* key : kSwitches) {
     if (hand.once_in(2)) entries += entry(key, yes_or_no(hand.once_in(2)));
@@ -55,7 +55,7 @@ std::string random_settings(RandomHand& hand) {
   if (hand.once_in(2)) entries += entry("font_tint", hand.of(kColours));
   if (hand.once_in(2)) entries += entry("play", hand.of(kRings));
   entries += entry("checked", "NO");
-  // Of two values for one key the last one counts.
+  // Of two values for one key, the last one counts.
   if (hand.once_in(4)) entries += entry(hand.of(kKeys), hand.of(kAnything));
   return write(entries);
 }
@@ -72,7 +72,7 @@ std::string damaged_settings(RandomHand& hand) {
 }
 
 std::string moved_song(RandomHand& hand) {
-  // Two songs are enough to come and go.
+  // Moving two of the songs is enough.
   const std::string here = fmt::format("{}/{}.flac", kSongs, hand.between(0, 1));
   const std::string away = fmt::format("/var/mobile/Media/{}.away", hand.between(0, 1));
   const bool back = hand.once_in(2);

@@ -6,15 +6,15 @@
 
 namespace random_use {
 
-// What other programs do to the device's files while it runs, as lines of the console.
+// Console lines that change the device's files while it runs, as other programs do.
 
-/// The panel switched on, as somebody does in the settings of a new phone.
+/// Switches the panel on, as a user does in the settings of a new phone.
 std::string good_settings();
-/// Some settings changed to some value, in one step, as their pane does.
+/// Changes some settings to random values, in one step, as the settings pane does.
 std::string random_settings(RandomHand& hand);
-/// The file cut, emptied, made something else or taken away. The next write mends it.
+/// Truncates, empties, corrupts or removes the settings file. The next write repairs it.
 std::string damaged_settings(RandomHand& hand);
-/// A song taken out of the folder, or one that was taken put back.
+/// Moves a song out of the folder, or back into it.
 std::string moved_song(RandomHand& hand);
 
 }  // namespace random_use

@@ -12,7 +12,7 @@ namespace random_use {
 namespace {
 
 constexpr double kWidth = 375;
-// How long a person looks before the next press.
+// The pause in seconds between two presses of a person.
 constexpr double kLook = 0.5;
 // Longer than any chain of animations.
 constexpr double kRest = 3;
@@ -23,7 +23,7 @@ constexpr int kMostPresses = 5;
 constexpr int kMostAlerts = 20;
 constexpr int kMostSlides = 3;
 constexpr int kMostPages = 4;
-// The poll of the settings, and the timer that keeps the drag on the icon.
+// In seconds: covers the poll of the settings, and the timer that keeps the drag on the icon.
 constexpr double kTakenUp = 0.3;
 constexpr double kPanelsWay = 1.5;
 
@@ -51,10 +51,10 @@ constexpr Demand kOpen[] = {
     {"[window frame]", "{{0, 0}, {375, 667}}"},
 };
 
-// What leaves by itself.
+// Reasons that disappear by themselves.
 constexpr const char* kPassing[] = {"a notification is shown", "the volume is shown", "is animated",
                                     "frames are still requested"};
-// What another press of the Home button closes: it lay below what the presses before closed.
+// Surfaces that another press of the Home button closes: they were below those already closed.
 constexpr const char* kStillOpen[] = {"an application is in front",
                                       "the switcher is open",
                                       "centre is open",
@@ -62,7 +62,7 @@ constexpr const char* kStillOpen[] = {"an application is in front",
                                       "being arranged",
                                       "a folder is open"};
 
-/// The values between the outer braces.
+/// Returns the values between the outer braces.
 std::vector<std::string> values_in(const std::string& answer) {
   std::vector<std::string> values(1);
   int depth = 0;
@@ -78,7 +78,7 @@ std::vector<std::string> values_in(const std::string& answer) {
   return values;
 }
 
-/// Numbers differ from one time to the next.
+/// Numbers differ from run to run.
 std::string without_numbers(std::string text) {
   std::erase_if(text, [](unsigned char c) { return std::isdigit(c) || c == '.' || c == '-'; });
   return text;
@@ -133,7 +133,7 @@ void Oracle::answer_alerts() {
   }
 }
 
-/// What hangs over the lock screen has to go first.
+/// The Home button first closes a surface that covers the lock screen.
 void Oracle::unlock() {
   for (int left = kMostSlides; left > 0 && sees("the phone is locked"); --left) {
     phone_.say("button home");
@@ -205,7 +205,7 @@ std::optional<Fault> Oracle::at_home() {
   return rests();
 }
 
-/// To a page or the dock of the screen, where a finger finds it.
+/// Moves the Music icon to the visible page or the dock, where a finger can reach it.
 void Oracle::bring_the_icon_back() {
   double x = 0;
   for (int left = kMostPages; left > 0; --left) {

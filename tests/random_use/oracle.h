@@ -10,26 +10,26 @@
 namespace random_use {
 
 struct Fault {
-  /// What tells it from other faults.
+  /// Identifies equal faults.
   std::string kind;
   std::string text;
-  /// The lines that fail; none where a process went wrong.
+  /// The `expect` lines that fail; empty when a process failed.
   std::vector<std::string> expectations;
 };
 
-/// A value that an expression has to have.
+/// The value that an expression must have.
 struct Demand {
   const char* expression;
   const char* value;
 };
 
-/// Says whether a phone can be used: brings it home as a person would, looks whether nothing is
-/// left of what was done to it, and opens and closes the panel.
+/// Decides whether a phone is still usable: returns to the home screen as a person would, checks
+/// that nothing is left of earlier actions, and opens and closes the panel.
 class Oracle {
  public:
   explicit Oracle(UsedPhone& phone) : phone_(phone) {}
 
-  /// The first fault; nothing when all is well.
+  /// Returns the first fault; nothing when there is none.
   std::optional<Fault> judge();
 
  private:

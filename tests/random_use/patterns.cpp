@@ -23,7 +23,7 @@ constexpr Pattern kBeginnings[] = {
 };
 
 constexpr Pattern kActions[] = {
-    // Fingers, also a second tap while the first one's transition runs.
+    // Fingers, including a second tap during the transition of the first.
     {6, "tap <point>"},
     {12, "tap on <control>"},
     {6, "tap on <control>\nadvance <short>\ntap on <control>"},
@@ -39,7 +39,7 @@ constexpr Pattern kActions[] = {
     {3, "drag on musicIcon <point> <time>\nadvance <short>\n<interruption>"},
     {3, "drag on grabs <point> <time>\nadvance <short>\n<interruption>"},
     {3, "drag on music <point> <time>\nadvance <short>\n<interruption>"},
-    // Fingers that stay while something else happens, up to three of them.
+    // Up to three fingers that stay down while something else happens.
     {14,
      "touch began on <handle>\nadvance <short>\ntouch moved <point>\nadvance <short>\n"
      "<interruption>\nadvance <short>\ntouch <end> <point>"},
@@ -59,7 +59,7 @@ constexpr Pattern kActions[] = {
     {3, "button home\nadvance <short>\nbutton home\nadvance <short>\nbutton home"},
     {1, "button <held> down"},
     {2, "button <held> up"},
-    // What the system and the gesture service do.
+    // Actions of the system and the gesture service.
     {7, "gesture <gesture>"},
     {9, "<interruption>"},
     // Icons.
@@ -71,7 +71,7 @@ constexpr Pattern kActions[] = {
     {2,
      "touch began on musicIcon\nadvance 1\ntouch moved <point>\nadvance <pause>\n"
      "touch ended <point>"},
-    // The sharing card's two ways out.
+    // The two ways to leave the sharing card.
     {3, "tap on music\nadvance <settling>\ntap 62 106"},
     {2, "tap on music\nadvance <settling>\ntap 321 106"},
     // Lists.

@@ -5,17 +5,17 @@
 
 namespace random_use {
 
-/// Lines of the console with words in angle brackets that stand for something of their kind.
+/// Console lines with words in angle brackets, each a placeholder for a random item of that kind.
 struct Pattern {
   int weight;
   const char* lines;
 };
 
-/// How a burst begins: where things happen.
+/// The beginning of a burst: brings up the place where it happens.
 std::span<const Pattern> beginnings();
-/// What is done then, one after the other.
+/// The actions of a burst, performed one after the other.
 std::span<const Pattern> actions();
-/// What comes while a finger is down.
+/// Events that occur while a finger is down.
 std::span<const Pattern> interruptions();
 
 }  // namespace random_use

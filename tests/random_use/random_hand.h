@@ -8,12 +8,12 @@
 
 namespace random_use {
 
-/// Chance that is the same for the same seed on every machine.
+/// Random numbers that are the same for the same seed on every machine.
 class RandomHand {
  public:
   explicit RandomHand(std::uint32_t seed) : engine_(seed) {}
 
-  /// From 0 to below `end`.
+  /// Returns a number from 0 to `end` - 1.
   std::size_t below(std::size_t end) { return engine_() % end; }
   int between(int first, int last) {
     return first + static_cast<int>(below(static_cast<std::size_t>(last - first + 1)));

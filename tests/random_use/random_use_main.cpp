@@ -10,8 +10,8 @@
 #include "tests/random_use/random_user.h"
 #include "tests/random_use/shrinking.h"
 
-// Uses phones at random and looks after every burst whether the phone can still be used. Ends with
-// 1 when there was a fault, having told the shortest script that shows it.
+// Uses phones at random and checks after every burst whether the phone is still usable. On a fault
+// it prints the shortest script that reproduces it, and exits with 1 at the end.
 
 namespace {
 
@@ -58,7 +58,7 @@ struct Figures {
 
 constexpr const char* kGrowth = "growth";
 
-/// Tells every fault once, with the shortest script that shows it.
+/// Reports every fault once, with the shortest script that reproduces it.
 class Reports {
  public:
   explicit Reports(const Options& options) : options_(options) {}
@@ -67,7 +67,7 @@ class Reports {
     fmt::print("seed {}, burst {}: {}\n", seed, bursts.size(), story.fault.text);
     std::fflush(stdout);
     if (!kinds_.insert(story.fault.kind).second) return;
-    // Hours of use cannot be cut down to a few lines.
+    // Hours of use cannot be reduced to a few lines.
     const bool can_shrink = story.fault.kind != kGrowth;
     tell(seed, can_shrink ? shrunk(story, bursts, {options_.drawn, options_.shrinking}) : story);
   }
@@ -88,13 +88,13 @@ class Reports {
 };
 
 #if defined(__SANITIZE_ADDRESS__)
-// What was given back is kept for a while, to notice who still uses it.
+// In MB. Freed memory is kept for a while, to detect its use.
 constexpr double kMostGrowth = 400;
 #else
 constexpr double kMostGrowth = 40;
 #endif
 
-/// The home screen's process has to stay about as large as it is once everything has been used.
+/// The home screen's process must stay about as large as it is once everything has been used.
 class Memory {
  public:
   /// In MB, after each burst; nothing while the process is restarting.
@@ -118,7 +118,7 @@ class Memory {
   int looks_ = 0;
 };
 
-/// One phone until the seed's time is over, or to its first fault.
+/// The use of one phone until the seed's time is over, or until its first fault.
 class Use {
  public:
   Use(std::uint32_t seed, std::uint32_t phones_before, const Options& options)
@@ -126,7 +126,7 @@ class Use {
         phone_(options.drawn),
         user_(phone_, seed + kSeeds * phones_before),
         oracle_(phone_) {
-    if (options.aloud) phone_.say_aloud();
+    if (options.aloud) phone_.print_lines();
   }
 
   Figures play(double seconds, Reports& reports) {
@@ -156,7 +156,7 @@ class Use {
   }
 
  private:
-  // Phones after a fault are used by another hand than any seed's.
+  // A phone that replaces a faulty one is used with a seed that no other phone has.
   static constexpr std::uint32_t kSeeds = 1'000'000;
 
   std::uint32_t seed_;
@@ -191,14 +191,14 @@ int use(const Options& options) {
 
 int main(int count, char** arguments) {
   Options options;
-  CLI::App parser{"Uses phones at random and tells what they do not survive"};
+  CLI::App parser{"Uses phones at random and reports their faults"};
   parser.add_option("first", options.first, "The first seed")->required();
   parser.add_option("last", options.last, "The last seed")->required();
-  parser.add_option("seconds", options.seconds, "Of each phone's clock")->required();
-  parser.add_option("--shrinking", options.shrinking, "Real seconds spent on each fault's script");
+  parser.add_option("seconds", options.seconds, "Simulated seconds for each seed")->required();
+  parser.add_option("--shrinking", options.shrinking, "Real seconds to shorten each script");
   parser.add_option("--faults", options.faults, "A folder for the scripts");
   parser.add_flag("--drawn", options.drawn, "Draws every frame, which takes long");
-  parser.add_flag("--aloud", options.aloud, "Tells the console's lines");
+  parser.add_flag("--aloud", options.aloud, "Prints the console's lines");
   CLI11_PARSE(parser, count, arguments);
   return use(options);
 }

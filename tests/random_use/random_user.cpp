@@ -15,14 +15,14 @@ constexpr int kWidth = 375;
 constexpr int kHeight = 667;
 constexpr int kFewestActions = 1;
 constexpr int kMostActions = 10;
-// Longer than the way of the panel from one place of rest to the next.
+// In seconds: longer than the panel takes from one resting place to the next.
 constexpr double kCalmPause = 1.6;
 
 constexpr const char* kListener = "org.plumvane.Sonavue2";
 constexpr const char* kModes[] = {"springboard", "lockscreen", "application"};
 constexpr const char* kAssigned[] = {"shake", "slide-in-left", "status-bar-hold", "home-hold"};
 
-/// What a word of a pattern can stand for.
+/// The possible replacements of a placeholder in a pattern.
 struct Choices {
   std::string_view word;
   std::vector<const char*> choices;

@@ -7,21 +7,21 @@
 
 namespace random_use {
 
-/// Somebody who does to a phone whatever comes to mind: fingers, buttons, gestures, applications,
-/// other programs' settings, songs that come and go. The same seed does the same.
+/// A user who does anything to a phone: fingers, buttons, gestures, applications, settings changed
+/// by other programs, songs that come and go. The same seed has the same effect.
 class RandomUser {
  public:
   RandomUser(UsedPhone& phone, std::uint32_t seed) : phone_(phone), hand_(seed) {}
 
-  /// Gives the banner gestures in every mode, and switches the panel on.
+  /// Assigns gestures to the banner in every mode, and switches the panel on.
   void prepare();
-  /// Brings the phone to where things happen, and then does some of them, mostly in haste.
+  /// Brings up a place on the phone and performs some actions there, mostly in haste.
   void burst();
   int actions() const { return actions_; }
 
  private:
   void pause();
-  /// Says the lines of a pattern, with something for each of its words in angle brackets.
+  /// Executes the lines of a pattern, with its placeholders replaced.
   void perform(const char* pattern);
   std::string filled(std::string_view pattern);
   std::string something(std::string_view word);

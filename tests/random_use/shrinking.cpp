@@ -17,7 +17,7 @@ bool is_pause(const std::string& line) {
   return line.starts_with(kAdvance);
 }
 
-/// Pauses in a row are one.
+/// Merges successive pauses into one.
 Lines with_whole_pauses(const Lines& lines) {
   Lines made;
   for (const std::string& line : lines) {
@@ -42,7 +42,7 @@ class Shrinking {
                                 std::chrono::duration<double>(options.seconds))) {}
 
   bool has_time() const { return Clock::now() < end_; }
-  /// Takes the lines in place of those before if they show the fault too.
+  /// Replaces the lines if the new ones reproduce the fault too; returns whether they do.
   bool take(const Lines& lines) {
     auto played = replayed(lines, story_.fault.kind, is_drawn_);
     if (!played) return false;
@@ -53,7 +53,7 @@ class Shrinking {
   const Lines& lines() const { return lines_; }
   Story story() { return std::move(story_); }
 
-  /// Takes out parts of the lines, smaller and smaller ones, until no single line can be spared.
+  /// Removes smaller and smaller parts of the lines, until every single line is needed.
   void leave_out() {
     for (std::size_t size = std::max<std::size_t>(lines_.size() / 2, 1); has_time(); size /= 2) {
       bool any = true;
@@ -66,7 +66,8 @@ class Shrinking {
  private:
   bool leave_out_parts_of(std::size_t size) {
     bool any = false;
-    // From the end: what is done last is spared least often, and its going makes the rest idle.
+    // From the end: late lines are needed most often, but without one of them, the lines that lead
+    // to it are not needed either.
     for (std::size_t end = lines_.size(); end > 0 && has_time();) {
       const std::size_t start = end > size ? end - size : 0;
       Lines fewer = lines_;

@@ -12,18 +12,18 @@ struct Story {
   std::vector<std::string> lines;
 };
 
-/// Plays the lines on a new phone and has it judged: the story of the fault with the same kind;
+/// Replays the lines on a new phone and judges it. Returns the story of a fault of the same kind;
 /// nothing when there is no such fault.
 std::optional<Story> replayed(const std::vector<std::string>& lines, const std::string& kind,
                               bool is_drawn);
 
 struct ShrinkingOptions {
   bool is_drawn = false;
-  double seconds = 0;  // at most
+  double seconds = 0;  // real time, at most
 };
 
-/// Leaves out of the lines what the fault does not need: first all but the last bursts, whose
-/// beginnings are given, then line by line.
+/// Removes the lines that the fault does not need: first all but the last bursts, then single
+/// lines. `bursts` are the indexes of the bursts' first lines.
 Story shrunk(Story story, const std::vector<std::size_t>& bursts, ShrinkingOptions options);
 
 }  // namespace random_use

@@ -14,10 +14,10 @@ namespace {
 constexpr int kSongCount = 6;
 constexpr double kSongLength = 4;
 constexpr double kMegabyte = 1 << 20;
-// Of a tap: the finger's stay.
+// How long the finger of a tap is down, in seconds.
 constexpr double kTap = 0.05;
 
-/// Makes the songs before the phone starts, which looks for them once.
+/// Creates the songs before the phone starts, because it searches for them only once.
 std::string with_songs(const std::string& device) {
   put_songs_on(device);
   return device;
@@ -57,7 +57,7 @@ UsedPhone::UsedPhone(bool is_drawn)
               with_songs(folder_ / "device"), "--music", folder_ / "device" + kSongs}) {}
 
 std::string UsedPhone::say(const std::string& line) {
-  if (aloud_) fmt::print("{:.2f} {}\n", seconds_, line);
+  if (prints_lines_) fmt::print("{:.2f} {}\n", seconds_, line);
   const std::string answer = phone_.ask(line);
   if (!answer.starts_with("error: ") && !answer.starts_with('(')) note(line);
   return answer;
@@ -71,7 +71,7 @@ void UsedPhone::wait(double seconds) {
   say(fmt::format("advance {}", seconds));
 }
 
-/// The finger of `touch moved 1 2` has no name, that of `touch 2 moved 1 2` has one.
+/// In `touch moved 1 2` the finger is unnamed; in `touch 2 moved 1 2` it is named.
 void UsedPhone::note(const std::string& line) {
   lines_.push_back(line);
   const auto words = words_of(line);

@@ -12,39 +12,40 @@
 
 namespace random_use {
 
-/// Puts some short songs on a new device, in the folder `kSongs` of it.
+/// Puts some short songs on a new device, in its folder `kSongs`.
 void put_songs_on(const std::string& device);
 /// A folder of the device.
 inline constexpr const char* kSongs = "/var/mobile/Media/Songs";
 
-/// A new phone that is used by lines of its console. It remembers those that it took: played again
-/// on another new phone they do the same.
+/// A new phone that is used by console lines. It records the lines that it accepted; replayed on
+/// another new phone, they have the same effect.
 class UsedPhone {
  public:
-  /// One that draws every frame takes long.
+  /// `is_drawn` makes it draw every frame, which is slow.
   explicit UsedPhone(bool is_drawn);
 
-  /// The console's answer. A line that is refused changes nothing and is not remembered.
+  /// Executes a console line and returns its answer. A rejected line changes nothing and is not
+  /// recorded.
   std::string say(const std::string& line);
   void wait(double seconds);
-  /// Asks what changes nothing.
+  /// Executes a console line that changes nothing.
   std::string ask(const std::string& line);
 
   const std::vector<std::string>& lines() const { return lines_; }
-  /// Of the phone's own clock.
+  /// The time passed on the phone's own clock.
   double seconds() const { return seconds_; }
   /// The fingers that are on the screen, and the buttons that are held.
   const std::set<std::string>& fingers() const { return fingers_; }
   const std::set<std::string>& buttons() const { return buttons_; }
 
-  /// What went wrong with a process since this was asked last, as the error stream tells; empty
-  /// when nothing did.
+  /// Returns the failure of a process since the last call, from the error stream; empty when there
+  /// was none.
   std::string fault();
   const std::string& errors() const { return phone_.errors(); }
-  /// Of the home screen's process, in MB; nothing while it is restarting.
+  /// The memory of the home screen's process, in MB; nothing while it is restarting.
   std::optional<double> memory();
   /// Prints every line from now on.
-  void say_aloud() { aloud_ = true; }
+  void print_lines() { prints_lines_ = true; }
 
  private:
   void note(const std::string& line);
@@ -57,7 +58,7 @@ class UsedPhone {
   double seconds_ = 0;
   std::size_t errors_read_ = 0;
   pid_t process_ = 0;
-  bool aloud_ = false;
+  bool prints_lines_ = false;
 };
 
 }  // namespace random_use

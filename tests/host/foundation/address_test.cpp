@@ -24,7 +24,7 @@ class Addresses : public host::test::HostTest, public testing::WithParamInterfac
 };
 using AddressTexts = Addresses;
 
-TEST_P(Addresses, AreReadAndSayWhatTheyWereGiven) {
+TEST_P(Addresses, AreParsedAndKeepTheirText) {
   const Address& expected = GetParam();
   const NSURL url = address(expected.text);
   ASSERT_TRUE(url) << expected.text;
@@ -78,7 +78,7 @@ TEST_F(AddressTexts, KeepTheirTextWhenItsOwnerChangesIt) {
   EXPECT_EQ(part(url, "absoluteString"), "reader://user?name=");
 }
 
-TEST_F(AddressTexts, StandForThemselvesNextToAnother) {
+TEST_F(AddressTexts, AreAbsoluteEvenWithABase) {
   const auto made = objc::send<NSURL>(objc::send<NSURL>(objc::Object(NSURL::cls()), "alloc"_sel),
                                       "initWithString:relativeToURL:"_sel,
                                       "reader://user?name=x"_ns, address("https://example.org/a/b"))
@@ -87,7 +87,7 @@ TEST_F(AddressTexts, StandForThemselvesNextToAnother) {
   EXPECT_EQ(part(made, "host"), "user");
 }
 
-TEST_F(AddressTexts, WhatIsNoAddressIsStillNone) {
+TEST_F(AddressTexts, AnInvalidAddressIsStillInvalid) {
   for (const char* text :
        {"reader://us er?name=x", "reader://user?name=x y", "re ader://user?x",
         "reader://user?name=ä", "reader://ü?name=x", "reader://üüüü?", "reader://user?%zz[]<>"})

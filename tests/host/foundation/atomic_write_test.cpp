@@ -45,7 +45,7 @@ class AtomicWrites : public host::test::HostTest {
   std::string path;
 };
 
-TEST_F(AtomicWrites, ANewFileStandsAloneWithTheUsersPermissions) {
+TEST_F(AtomicWrites, ANewFileHasDefaultPermissionsAndLeavesNoOther) {
   const mode_t mask = umask(027);
   EXPECT_TRUE(write_atomically(path, "one"));
   umask(mask);
@@ -54,32 +54,32 @@ TEST_F(AtomicWrites, ANewFileStandsAloneWithTheUsersPermissions) {
   EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
 }
 
-TEST_F(AtomicWrites, AnotherFileTakesThePlaceAndKeepsThePermissions) {
+TEST_F(AtomicWrites, AReplacedFileKeepsItsPermissions) {
   ASSERT_TRUE(write_atomically(path, "a longer one"));
   ASSERT_EQ(chmod(path.c_str(), 0606), 0);
   std::ifstream reader(path);
   EXPECT_TRUE(write_atomically(path, "two"));
   EXPECT_EQ(content(), "two");
   EXPECT_EQ(permissions(), 0606u);
-  // Who reads the old one reads it to its end.
+  // A reader of the old file can read it to its end.
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), "a longer one");
 }
 
-TEST_F(AtomicWrites, WhatAKilledProcessLeftIsTakenAway) {
+TEST_F(AtomicWrites, AFileLeftByAKilledProcessIsRemoved) {
   std::ofstream(staged_beside(path)) << "left";
   EXPECT_TRUE(write_atomically(path, "mine"));
   EXPECT_EQ(content(), "mine");
   EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
 }
 
-TEST_F(AtomicWrites, NothingIsWrittenWhereThereIsNoFolderOrAFolderInstead) {
+TEST_F(AtomicWrites, NothingIsWrittenWithoutAFolderOrOverAFolder) {
   EXPECT_FALSE(write_atomically((folder / "none/settings.plist").string(), "lost"));
   fs::create_directory(path);
   EXPECT_FALSE(write_atomically(path, "lost"));
   EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
 }
 
-TEST_F(AtomicWrites, DataIsWrittenThatWay) {
+TEST_F(AtomicWrites, DataIsWrittenAtomically) {
   std::ofstream(staged_beside(path)) << "left";
   const NSString name = NSString::stringWithUTF8String(path.c_str());
   EXPECT_TRUE(NSData::dataWithBytes("abc", 3).writeToFile(name, YES));

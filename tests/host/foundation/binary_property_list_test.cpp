@@ -26,7 +26,7 @@ std::string from_hex(std::string_view digits) {
   return bytes;
 }
 
-/// A list of these objects, each at one offset, the first on top.
+/// A binary list of these objects, in the order of their references; the first is the root.
 std::string list_of(std::initializer_list<std::string_view> objects) {
   std::string bytes = "bplist00";
   std::string table;
@@ -63,13 +63,13 @@ TEST_F(BinaryPropertyLists, HoldEveryKindOfValue) {
   EXPECT_EQ(description(entry("g")), "🎵");
 }
 
-TEST_F(BinaryPropertyLists, EveryShortenedOneIsNil) {
+TEST_F(BinaryPropertyLists, EveryTruncatedOneIsNil) {
   const std::string whole = from_hex(kSample);
   for (std::size_t length = 0; length < whole.size(); ++length)
     EXPECT_FALSE(binary_property_list(whole.substr(0, length))) << length;
 }
 
-TEST_F(BinaryPropertyLists, AnyWrongByteIsSurvived) {
+TEST_F(BinaryPropertyLists, NoWrongByteCrashes) {
   const std::string whole = from_hex(kSample);
   for (std::size_t at = 0; at < whole.size(); ++at) {
     for (int bit = 0; bit < 8; ++bit) {
@@ -81,14 +81,14 @@ TEST_F(BinaryPropertyLists, AnyWrongByteIsSurvived) {
   }
 }
 
-TEST_F(BinaryPropertyLists, OneThatHoldsItselfIsNil) {
+TEST_F(BinaryPropertyLists, OneThatContainsItselfIsNil) {
   using namespace std::string_view_literals;
   EXPECT_EQ(description(binary_property_list(list_of({"\xA1\x01"sv, "\x09"sv}))), "(1)");
   EXPECT_FALSE(binary_property_list(list_of({"\xA1\x00"sv})));
   EXPECT_FALSE(binary_property_list(list_of({"\xA2\x00\x00"sv})));
 }
 
-TEST_F(BinaryPropertyLists, KeysAreTexts) {
+TEST_F(BinaryPropertyLists, KeysMustBeStrings) {
   using namespace std::string_view_literals;
   EXPECT_EQ(description(binary_property_list(list_of({"\xD1\x01\x02"sv, "\x51k"sv, "\x08"sv}))),
             "{k = 0; }");

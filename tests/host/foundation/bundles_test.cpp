@@ -52,7 +52,7 @@ struct DeviceImages : host::test::HostTest {
   fs::path root;
 };
 
-TEST_F(DeviceImages, ComeInOnceAndAfterWhatTheyNeed) {
+TEST_F(DeviceImages, AreLoadedOnceAndAfterTheirDependencies) {
   EXPECT_TRUE(dlopen(kAbove, RTLD_LAZY));
   EXPECT_EQ(loads, (std::vector<std::string>{"below", "above"}));
   EXPECT_TRUE(dlopen(kAbove, RTLD_LAZY));
@@ -60,7 +60,7 @@ TEST_F(DeviceImages, ComeInOnceAndAfterWhatTheyNeed) {
   EXPECT_EQ(loads.size(), 2u);
 }
 
-TEST_F(DeviceImages, ThatTheDeviceDoesNotHaveFailAsEveryMissingFileDoes) {
+TEST_F(DeviceImages, FailLikeAnyMissingFileWhenTheDeviceHasNone) {
   const char* missing = "/System/Library/Frameworks/Missing.framework/Missing";
   dlerror();
   EXPECT_FALSE(dlopen(missing, RTLD_LAZY));
@@ -84,7 +84,7 @@ TEST_F(DeviceImages, HaveTheSymbolsOfTheProgram) {
   EXPECT_EQ(dlclose(image), 0);
 }
 
-TEST_F(DeviceImages, ComeInWithTheirBundle) {
+TEST_F(DeviceImages, AreLoadedWithTheirBundle) {
   const auto bundle = NSBundle::bundleWithPath(NSString::stringWithUTF8String(kBundle));
   ASSERT_TRUE(bundle);
   EXPECT_TRUE(bundle.load());

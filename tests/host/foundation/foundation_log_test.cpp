@@ -36,7 +36,7 @@ struct FoundationLog : host::test::HostTest {
   std::shared_ptr<spdlog::logger> before;
 };
 
-TEST_F(FoundationLog, WhatAnExtensionPrintsIsALineOfTheOneLog) {
+TEST_F(FoundationLog, AnExtensionsOutputIsALineOfTheLog) {
   host::foundation::take_foundation_log();
   NSLog("<Owl> %s"_ns.id(), "hoots");
   EXPECT_EQ(logged(), "info: <Owl> hoots\n");
@@ -44,7 +44,7 @@ TEST_F(FoundationLog, WhatAnExtensionPrintsIsALineOfTheOneLog) {
   EXPECT_EQ(logged(), "info: <Owl> hoots\n");
 }
 
-TEST_F(FoundationLog, AFileThatIsReadInVainAgainAndAgainIsOneLine) {
+TEST_F(FoundationLog, ARepeatedlyUnreadableFileIsLoggedOnce) {
   host::foundation::take_foundation_log();
   for (int i = 0; i < 3; ++i)
     EXPECT_FALSE(NSDictionary::dictionaryWithContentsOfFile("/dev"_ns));
@@ -53,7 +53,7 @@ TEST_F(FoundationLog, AFileThatIsReadInVainAgainAndAgainIsOneLine) {
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1);
 }
 
-TEST_F(FoundationLog, ComplaintsFromOnePlaceAreOneLineHoweverTheyDiffer) {
+TEST_F(FoundationLog, DifferentComplaintsFromOnePlaceAreLoggedOnce) {
   log_foundation_line(
       "2026-01-01 10:00:00.000 Owl[1:1] File Owl.m: 7. In -[Owl hoot] a.tmp1 failed");
   EXPECT_EQ(logged(), "warning: File Owl.m: 7. In -[Owl hoot] a.tmp1 failed\n");

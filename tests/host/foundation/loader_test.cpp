@@ -46,7 +46,7 @@ struct LoaderTest : host::test::HostTest {
     return names;
   }
 
-  /// Loads in a process of its own; true when that process came through.
+  /// Loads in a separate process; true when that process survived.
   static bool survives_loading() {
     const pid_t child = fork();
     if (child == 0) {
@@ -61,14 +61,14 @@ struct LoaderTest : host::test::HostTest {
   fs::path root;
 };
 
-TEST_F(LoaderTest, LoadsWhatTheFilterAdmitsInTheOrderOfNames) {
+TEST_F(LoaderTest, LoadsTheAdmittedLibrariesInTheOrderOfNames) {
   install("Zebra", TEST_EXTENSION, kForSpringBoard);
   install("Antelope", TEST_EXTENSION, kForSpringBoard);
   install("Foreign", TEST_EXTENSION, kForOthers);
   EXPECT_EQ(load(), (std::vector<std::string>{"Antelope", "Zebra"}));
 }
 
-TEST_F(LoaderTest, EveryKindOfFilterThatIsGivenMustMatch) {
+TEST_F(LoaderTest, EveryKindOfFilterThatIsPresentMustMatch) {
   install("ByName", TEST_EXTENSION, R"({ Filter = { Executables = ("SpringBoard"); }; })");
   install("ByClass", TEST_EXTENSION, R"({ Filter = { Classes = ("NSString"); }; })");
   install("ByMissingClass", TEST_EXTENSION, R"({ Filter = { Classes = ("NoSuchClass"); }; })");
@@ -85,8 +85,8 @@ TEST_F(LoaderTest, ALibraryWithoutAFilterIsLeftOut) {
   EXPECT_TRUE(load().empty());
 }
 
-TEST_F(LoaderTest, AFileThatIsNoLibraryIsLeftOutAndTheOthersLoad) {
-  std::ofstream(folder() / "Broken.so") << "this is no library";
+TEST_F(LoaderTest, AnInvalidLibraryIsLeftOutAndTheOthersLoad) {
+  std::ofstream(folder() / "Broken.so") << "this is not a library";
   std::ofstream(folder() / "Broken.plist") << kForSpringBoard;
   install("Good", TEST_EXTENSION, kForSpringBoard);
   EXPECT_EQ(load(), std::vector<std::string>{"Good"});
@@ -97,9 +97,9 @@ TEST_F(LoaderTest, APhoneWithoutTheFolderHasNoExtensions) {
   EXPECT_TRUE(load().empty());
 }
 
-TEST_F(LoaderTest, AnotherExtensionReplacesAnotherMethodOfAnotherClass) {
+TEST_F(LoaderTest, ASecondExtensionReplacesADifferentMethod) {
   install("Whisper", TEST_EXTENSION, kForSpringBoard);
-  // Those that other tests have loaded whisper as well: a library stays.
+  // Libraries loaded by other tests whisper as well: a library is never unloaded.
   const NSString before = "Hello"_ns.uppercaseString();
   ASSERT_EQ(load(), std::vector<std::string>{"Whisper"});
   EXPECT_TRUE("Hello"_ns.uppercaseString().isEqualToString(
@@ -117,7 +117,7 @@ TEST_F(LoaderTest, ALibraryThatCrashesFiveTimesIsLeftOutUntilItChanges) {
   EXPECT_EQ(load(), std::vector<std::string>{"Crasher"});
 }
 
-TEST_F(LoaderTest, ACrashThatIsFollowedByAGoodLoadIsForgotten) {
+TEST_F(LoaderTest, ASuccessfulLoadResetsTheCrashCount) {
   const fs::path library = folder() / "Shaky.so";
   install("Shaky", TEST_EXTENSION, kForSpringBoard);
   const fs::path marks = root / "marks";

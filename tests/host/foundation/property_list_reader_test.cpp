@@ -30,7 +30,7 @@ struct PropertyListReaderTest : host::test::HostTest {
   NSString path;
 };
 
-TEST_F(PropertyListReaderTest, ASecondReadingIsEqualToTheFirst) {
+TEST_F(PropertyListReaderTest, ASecondReadIsEqualToTheFirst) {
   write("<key>on</key><true/><key>name</key><string>blue</string>");
   const NSDictionary first = read();
   ASSERT_EQ(first.count(), 2u);
@@ -38,7 +38,7 @@ TEST_F(PropertyListReaderTest, ASecondReadingIsEqualToTheFirst) {
   EXPECT_TRUE(objc::cast<NSNumber>(read().objectForKey("on"_ns)).boolValue());
 }
 
-TEST_F(PropertyListReaderTest, AChangeOfOneByteInPlaceIsSeenEvenWhenSizeAndTimeStayTheSame) {
+TEST_F(PropertyListReaderTest, AChangedByteIsNoticedEvenWithTheSameSizeAndTime) {
   write("<key>name</key><string>a</string>");
   struct stat before {};
   ASSERT_EQ(stat(file.c_str(), &before), 0);
@@ -50,7 +50,7 @@ TEST_F(PropertyListReaderTest, AChangeOfOneByteInPlaceIsSeenEvenWhenSizeAndTimeS
   EXPECT_TRUE(objc::cast<NSObject>(read().objectForKey("name"_ns)).isEqual("b"_ns));
 }
 
-TEST_F(PropertyListReaderTest, AFileThatIsGoneOrBrokenOrAFolderReadsAsNil) {
+TEST_F(PropertyListReaderTest, AMissingOrBrokenFileOrAFolderReadsAsNil) {
   write("<key>on</key><true/>");
   ASSERT_TRUE(read());
   std::ofstream(file) << "<plist";
@@ -64,14 +64,14 @@ TEST_F(PropertyListReaderTest, AFileThatIsGoneOrBrokenOrAFolderReadsAsNil) {
   EXPECT_TRUE(read());
 }
 
-TEST_F(PropertyListReaderTest, WhatOneReaderChangesInItIsNotSeenByTheNext) {
+TEST_F(PropertyListReaderTest, OneReadersChangesAreNotVisibleToTheNext) {
   write("<key>list</key><array><string>a</string></array><key>on</key><true/>");
   const auto list = objc::cast<NSMutableArray>(read().objectForKey("list"_ns));
   if (list.isKindOfClass(NSMutableArray::cls())) list.addObject("b"_ns);
   EXPECT_EQ(objc::cast<NSArray>(read().objectForKey("list"_ns)).count(), 1u);
 }
 
-TEST_F(PropertyListReaderTest, AMutableDictionaryIsReadAsOneEachTime) {
+TEST_F(PropertyListReaderTest, AMutableDictionaryStaysMutableOnEveryRead) {
   write("<key>on</key><true/>");
   read();
   for (int i = 0; i < 2; ++i) {

@@ -27,7 +27,7 @@ struct PropertyListTest : host::test::HostTest {
 
 constexpr const char* kTexts[] = {"plain", "più chiaro", "Ελληνικά", "日本語", "🎵", "<&>\"'"};
 
-TEST_F(PropertyListTest, ADictionaryKeepsTextsOfEveryScriptAsKeysAndValues) {
+TEST_F(PropertyListTest, ADictionaryKeepsKeysAndValuesInEveryScript) {
   const auto written = NSMutableDictionary::dictionary();
   for (const char* text : kTexts) {
     const NSString string = NSString::stringWithUTF8String(text);
@@ -46,7 +46,7 @@ TEST_F(PropertyListTest, AnArrayKeepsThemToo) {
   EXPECT_TRUE(NSArray::arrayWithContentsOfFile(path).isEqualToArray(written)) << content();
 }
 
-TEST_F(PropertyListTest, AFolderThatIsNotThereIsAFailure) {
+TEST_F(PropertyListTest, AMissingFolderIsAnError) {
   EXPECT_FALSE(NSArray::array().writeToFile("/nowhere/at/all.plist"_ns, YES));
 }
 

@@ -17,20 +17,20 @@ TEST_F(StringSearch, AMarkWithoutItsLetterIsNotFound) {
   }
 }
 
-TEST_F(StringSearch, EverythingElseIsFoundAsEver) {
+TEST_F(StringSearch, EverythingElseIsFoundAsBefore) {
   EXPECT_EQ(range("one two", "two").location, 4u);
   EXPECT_EQ(range("one two", "two").length, 3u);
   EXPECT_EQ(range("Straße", "ße").location, 4u);
   EXPECT_EQ(range("one", "three").location, static_cast<NSUInteger>(NSNotFound));
 }
 
-TEST_F(StringSearch, WhatIsSpeltInAnotherWayIsFound) {
+TEST_F(StringSearch, EquivalentEncodingsAreFound) {
   const struct {
     const char* text;
     const char* wanted;
     NSRange range;
   } finds[] = {
-      // A letter with a mark, in one piece and in two.
+      // A letter with a mark, composed and decomposed.
       {"e\u0301", "é", {0, 2}},
       {"é", "e\u0301", {0, 1}},
       {"cafe\u0301 noir", "é n", {3, 4}},
@@ -38,11 +38,11 @@ TEST_F(StringSearch, WhatIsSpeltInAnotherWayIsFound) {
       {"cafe\u0301 noir", "e\u0301 n", {3, 4}},
       {"cafe\u0301 noir", "noir", {6, 4}},
       {"e e\u0301 é", "é", {2, 2}},
-      // Several marks, in any order of those that do not touch each other.
+      // Several marks; those that do not touch each other in any order.
       {"a\u0327\u0301", "a\u0301\u0327", {0, 3}},
       {"ǖ", "ü\u0304", {0, 1}},
       {"u\u0308\u0304", "ǖ", {0, 3}},
-      // Letters that are others under a second name, syllables made of parts, and a sign on a kana.
+      // Letters with a second code point, syllables made of parts, and a sign on a kana.
       {"\u212b", "Å", {0, 1}},
       {"A\u030a", "\u212b", {0, 2}},
       {"각", "\u1100\u1161\u11a8", {0, 1}},
@@ -58,7 +58,7 @@ TEST_F(StringSearch, WhatIsSpeltInAnotherWayIsFound) {
   }
 }
 
-TEST_F(StringSearch, AnotherLetterIsNotFound) {
+TEST_F(StringSearch, ADifferentLetterIsNotFound) {
   const std::pair<const char*, const char*> misses[] = {{"é", "e"},
                                                         {"e\u0301", "e"},
                                                         {"cafe\u0301s", "fe"},
@@ -80,7 +80,7 @@ TEST_F(StringSearch, AnotherLetterIsNotFound) {
         << wanted << " in " << text;
 }
 
-TEST_F(StringSearch, NoTextIsAMistake) {
+TEST_F(StringSearch, ANilTextIsAnError) {
   EXPECT_ANY_THROW(static_cast<void>("one"_ns.rangeOfString(nil)));
 }
 

@@ -43,7 +43,7 @@ struct ProcessImages : HostTest {
   }
 };
 
-TEST_F(ProcessImages, AProgramHasWhatItIsLinkedWithAndWhatThatNeeds) {
+TEST_F(ProcessImages, AProgramHasItsLinkedImagesAndTheirDependencies) {
   constexpr std::string_view images[] = {process::kPreferences};
   process::start_program(images);
   expect_classes({process::kQuartzCore, process::kUIKit, process::kPreferences});
@@ -57,7 +57,7 @@ TEST_F(ProcessImages, TheHomeScreenHasItsOwnClassesToo) {
   EXPECT_TRUE(objc_getClass("SBMediaController"));
 }
 
-TEST_F(ProcessImages, EveryImageComesInByItsPath) {
+TEST_F(ProcessImages, EveryImageIsLoadedByItsPath) {
   process::start_program({});
   expect_classes({});
   for (const auto& [image, cls] : kOneOfEach) {
@@ -66,7 +66,7 @@ TEST_F(ProcessImages, EveryImageComesInByItsPath) {
   }
 }
 
-TEST_F(ProcessImages, ABundleBringsItsFrameworkIn) {
+TEST_F(ProcessImages, ABundleLoadsItsFramework) {
   process::start_program({});
   const auto bundle =
       NSBundle::bundleWithPath("/System/Library/PrivateFrameworks/Preferences.framework"_ns);

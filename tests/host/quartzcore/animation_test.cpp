@@ -26,7 +26,7 @@ TEST_F(AnimationTest, TheModelIsUntouchedWhileThePresentationMoves) {
   EXPECT_NEAR(layer.presentationLayer().opacity(), 0.25, 1e-6);
 }
 
-TEST_F(AnimationTest, FinishedAnimationsAreRemovedAndTheirDelegateToldOnce) {
+TEST_F(AnimationTest, FinishedAnimationsAreRemovedAndTheirDelegateNotifiedOnce) {
   const CALayer layer = CALayer::layer();
   const TestWatcher watcher = TestWatcher::make();
   const auto animation = basic("opacity"_ns, 0, 1, 0.5);
@@ -44,7 +44,7 @@ TEST_F(AnimationTest, FinishedAnimationsAreRemovedAndTheirDelegateToldOnce) {
   EXPECT_FALSE(loop.wants_frames());
 }
 
-TEST_F(AnimationTest, ARemovedAnimationIsToldUnfinishedOnceInTheNextTurn) {
+TEST_F(AnimationTest, ARemovedAnimationIsReportedUnfinishedOnceInTheNextTurn) {
   const CALayer layer = CALayer::layer();
   const TestWatcher watcher = TestWatcher::make();
   const auto animation = basic("opacity"_ns, 0, 1, 0.5);
@@ -57,7 +57,7 @@ TEST_F(AnimationTest, ARemovedAnimationIsToldUnfinishedOnceInTheNextTurn) {
   EXPECT_EQ(notes_of(watcher).stops, std::vector{false});
 }
 
-TEST_F(AnimationTest, NoneOutlivesTheServiceThatMovesItsLayer) {
+TEST_F(AnimationTest, NoAnimationOutlivesTheLayerService) {
   const CALayer layer = CALayer::layer();
   layer.addAnimation(basic("opacity"_ns, 0, 1, 1), "fade"_ns);
   EXPECT_TRUE(loop.wants_frames());
@@ -119,7 +119,7 @@ TEST_F(AnimationTest, AnAdditiveTransformStartsAtTheOldValueAndEndsAtTheModel) {
   EXPECT_EQ(layer.presentationLayer().transform(), new_value);
 }
 
-TEST_F(AnimationTest, ARotationByKeyPathTurnsForEverWhenCumulative) {
+TEST_F(AnimationTest, ACumulativeRotationByKeyPathTurnsForever) {
   const CALayer layer = CALayer::layer();
   const auto animation = CABasicAnimation::animationWithKeyPath("transform.rotation.z"_ns);
   animation.setToValue(NSNumber::numberWithFloat(6.2831855f));
@@ -133,7 +133,7 @@ TEST_F(AnimationTest, ARotationByKeyPathTurnsForEverWhenCumulative) {
   layer.removeAllAnimations();
 }
 
-TEST_F(AnimationTest, AForwardsFillKeepsTheEndValueAndAsksForNoFrames) {
+TEST_F(AnimationTest, AForwardsFillKeepsTheEndValueAndRequestsNoFrames) {
   const CALayer layer = CALayer::layer();
   const auto animation = basic("opacity"_ns, 1, 0.2, 0.3);
   animation.setFillMode(kCAFillModeForwards());
@@ -169,7 +169,7 @@ TEST_F(AnimationTest, KeyframesAreReachedAtTheirTimes) {
   EXPECT_NEAR(layer.presentationLayer().opacity(), 0.75, 1e-6);
 }
 
-TEST_F(AnimationTest, TheNamedCurvesStartAndEndTogetherAndEaseInBetween) {
+TEST_F(AnimationTest, TheNamedCurvesShareTheirEndsAndEaseInBetween) {
   const CALayer layer = CALayer::layer();
   const auto animation = basic("opacity"_ns, 0, 1, 1);
   animation.setTimingFunction(CAMediaTimingFunction::functionWithName("easeInEaseOut"_ns));
@@ -181,7 +181,7 @@ TEST_F(AnimationTest, TheNamedCurvesStartAndEndTogetherAndEaseInBetween) {
   EXPECT_FALSE(CAMediaTimingFunction::functionWithName("no such curve"_ns));
 }
 
-TEST_F(AnimationTest, AChangeInATreeAnimatesByItselfUnlessActionsAreDisabled) {
+TEST_F(AnimationTest, AChangeInATreeAnimatesImplicitlyUnlessActionsAreDisabled) {
   const CALayer parent = CALayer::layer();
   const CALayer child = CALayer::layer();
   parent.addSublayer(child);
@@ -228,7 +228,7 @@ TEST_F(AnimationTest, ATransactionWithNothingToAnimateCompletesInTheNextTurn) {
   EXPECT_EQ(completions, 1);
 }
 
-TEST_F(AnimationTest, TakingALayerOutOfItsTreeEndsItsAnimations) {
+TEST_F(AnimationTest, RemovingALayerFromItsTreeEndsItsAnimations) {
   const CALayer parent = CALayer::layer();
   const CALayer child = CALayer::layer();
   parent.addSublayer(child);
@@ -242,7 +242,7 @@ TEST_F(AnimationTest, TakingALayerOutOfItsTreeEndsItsAnimations) {
   EXPECT_FALSE(loop.wants_frames());
 }
 
-TEST_F(AnimationTest, ALayerMayEndWhileItIsAnimated) {
+TEST_F(AnimationTest, ALayerMayBeDestroyedWhileItIsAnimated) {
   CALayer layer = CALayer::alloc().init();
   layer.addAnimation(basic("opacity"_ns, 0, 1, 5), "fade"_ns);
   advance(0.1);

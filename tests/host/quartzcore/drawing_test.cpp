@@ -38,7 +38,7 @@ TEST_F(DrawingTest, ContextsDrawInPointsFromTheTopLeft) {
   CGContextRelease(context);
 }
 
-TEST_F(DrawingTest, SavedStatesComeBack) {
+TEST_F(DrawingTest, SavedStatesAreRestored) {
   CGContextRef context = quartzcore::make_bitmap_context({4, 4}, 1, Opacity::Translucent);
   CGContextSetRGBFillColor(context, 1, 0, 0, 1);
   CGContextSaveGState(context);
@@ -66,7 +66,7 @@ TEST_F(DrawingTest, DrawingALargeImageIntoOnePixelAveragesIt) {
   CGContextRelease(big);
 }
 
-TEST_F(DrawingTest, AnArcRunsFromItsStartToItsEndTheAskedWay) {
+TEST_F(DrawingTest, AnArcRunsFromItsStartToItsEndInTheGivenDirection) {
   CGMutablePathRef path = CGPathCreateMutable();
   CGPathAddArc(path, nullptr, 0, 0, 10, -M_PI / 2, 0, false);
   EXPECT_NEAR(CGPathGetCurrentPoint(path).x, 10, 1e-9);
@@ -78,7 +78,7 @@ TEST_F(DrawingTest, AnArcRunsFromItsStartToItsEndTheAskedWay) {
   CGPathRelease(path);
 }
 
-TEST_F(DrawingTest, DecodedFilesAreRedFirstAndWhatIsNoPictureIsNull) {
+TEST_F(DrawingTest, DecodedFilesAreRedFirstAndInvalidOnesAreNull) {
   const auto path =
       std::filesystem::temp_directory_path() / ("picture-" + std::to_string(getpid()) + ".png");
   CGContextRef context = quartzcore::make_bitmap_context({2, 2}, 1, Opacity::Opaque);
@@ -100,7 +100,7 @@ TEST_F(DrawingTest, DecodedFilesAreRedFirstAndWhatIsNoPictureIsNull) {
   EXPECT_FALSE(quartzcore::decode_image_file(path.c_str()));
 }
 
-TEST_F(DrawingTest, EveryTranslucentPixelComesBackFromAFileAsItWas) {
+TEST_F(DrawingTest, EveryTranslucentPixelSurvivesAFile) {
   const auto path =
       std::filesystem::temp_directory_path() / ("pixels-" + std::to_string(getpid()) + ".png");
   constexpr unsigned kLevels = 256;

@@ -33,7 +33,7 @@ TEST_F(LayerTest, SettingTheFrameOfAScaledLayerGivesThatFrame) {
   EXPECT_EQ(layer.bounds().size, (CGSize{30, 80}));
 }
 
-TEST_F(LayerTest, MovingByTheFrameLeavesTheBoundsAsTheyAre) {
+TEST_F(LayerTest, MovingByTheFrameDoesNotChangeTheBounds) {
   const CGRect place{0, 0, 640.0 / 3, 480.0 / 7};
   const CALayer layer = layer_at(place);
   for (int step = 0; step < 100; ++step) {
@@ -67,7 +67,7 @@ TEST_F(LayerTest, SublayersKeepTheOrderInWhichTheyWereInserted) {
   EXPECT_FALSE(b.superlayer());
 }
 
-TEST_F(LayerTest, ASuperlayerOwnsItsSublayersAndTheyForgetItWhenItEnds) {
+TEST_F(LayerTest, ASuperlayerOwnsItsSublayersAndTheyForgetItWhenItIsDestroyed) {
   CALayer parent = CALayer::alloc().init();
   CALayer child = CALayer::alloc().init();
   parent.addSublayer(child);
@@ -125,7 +125,7 @@ objc::Object make_delegate(const char* name, bool draws) {
   return objc::send<NSObject>(objc::send<NSObject>(cls, "alloc"_sel), "init"_sel).autorelease();
 }
 
-TEST_F(LayerTest, ALayerThatNobodyDrawsAllocatesNoBackingStore) {
+TEST_F(LayerTest, ALayerWithoutDrawingCodeAllocatesNoBackingStore) {
   const CALayer plain = layer_at({0, 0, 10, 10});
   plain.setDelegate(make_delegate("TestQuietDelegate", false));
   plain.setNeedsDisplay();

@@ -16,7 +16,7 @@ using Contents = PixelMemory::Contents;
 
 constexpr std::size_t kMegabyte = 1U << 20;
 
-TEST(PixelMemory, WhatIsGivenBackServesTheNextOneOfAboutItsSize) {
+TEST(PixelMemory, AReturnedBlockServesTheNextOneOfAboutItsSize) {
   PixelMemory memory;
   memory.give_back(memory.take(kMegabyte, Contents::Anything));
   EXPECT_EQ(memory.kept(), kMegabyte);
@@ -29,7 +29,7 @@ TEST(PixelMemory, WhatIsGivenBackServesTheNextOneOfAboutItsSize) {
     memory.give_back(block);
 }
 
-TEST(PixelMemory, ZerosAreZerosWhateverTheMemoryHeldBefore) {
+TEST(PixelMemory, ReusedMemoryIsZeroedOnRequest) {
   PixelMemory memory;
   const auto used = memory.take(kMegabyte, Contents::Zeros);
   std::memset(used.bytes, 0xee, used.size);
@@ -39,7 +39,7 @@ TEST(PixelMemory, ZerosAreZerosWhateverTheMemoryHeldBefore) {
   memory.give_back(block);
 }
 
-TEST(PixelMemory, KeepsNoMoreThanItsBound) {
+TEST(PixelMemory, KeepsNoMoreThanItsLimit) {
   PixelMemory memory;
   PixelMemory::Block blocks[40];
   for (auto& block : blocks)
@@ -55,7 +55,7 @@ TEST(PixelMemory, SmallBlocksAreNotKept) {
   EXPECT_EQ(memory.kept(), 0U);
 }
 
-TEST(PixelMemory, AVectorOfPixelsGivesBackWhatItHad) {
+TEST(PixelMemory, AVectorOfPixelsReturnsItsMemory) {
   std::size_t before = 0;
   {
     const std::vector<std::uint32_t, PixelAllocator<std::uint32_t>> pixels(kMegabyte, 7);
@@ -65,7 +65,7 @@ TEST(PixelMemory, AVectorOfPixelsGivesBackWhatItHad) {
   EXPECT_EQ(pixel_memory().kept(), before + kMegabyte * sizeof(std::uint32_t));
 }
 
-TEST(PixelMemory, ASurfaceGivesBackWhatItHadWhenTheLastReferenceGoes) {
+TEST(PixelMemory, ASurfaceReturnsItsMemoryWithTheLastReference) {
   Surface surface = make_surface(750, 1000);
   Surface shared = surface;
   const std::size_t before = pixel_memory().kept();
@@ -75,7 +75,7 @@ TEST(PixelMemory, ASurfaceGivesBackWhatItHadWhenTheLastReferenceGoes) {
   EXPECT_GE(pixel_memory().kept(), before + std::size_t{750} * 1000 * 4);
 }
 
-TEST(PixelMemory, ANewSurfaceIsTransparentWhereAnotherOneWasPainted) {
+TEST(PixelMemory, ANewSurfaceIsTransparentEvenInReusedMemory) {
   for (int round = 0; round < 2; ++round) {
     const Surface surface = make_surface(600, 600);
     auto* const bytes = cairo_image_surface_get_data(surface.get());
@@ -87,7 +87,7 @@ TEST(PixelMemory, ANewSurfaceIsTransparentWhereAnotherOneWasPainted) {
   }
 }
 
-TEST(PixelMemory, ASurfaceOfAnImpossibleSizeIsRefusedByItsStatus) {
+TEST(PixelMemory, ASurfaceOfAnImpossibleSizeHasAnErrorStatus) {
   EXPECT_NE(cairo_surface_status(make_surface(40'000, 40).get()), CAIRO_STATUS_SUCCESS);
 }
 

@@ -15,7 +15,7 @@
 
 namespace host::test {
 
-/// A process with layers on the stepped clock.
+/// A process with layers, on a stepped clock.
 class QuartzTest : public HostTest {
  public:
   QuartzTest() {
@@ -44,7 +44,7 @@ class QuartzTest : public HostTest {
   std::optional<quartzcore::LayerService> service_;
 };
 
-/// A delegate for layers and animations that notes what it is told.
+/// A delegate for layers and animations that records its messages.
 struct TestWatcher : objc::Bound<TestWatcher, "TestWatcher", NSObject> {
   static TestWatcher make();
 };

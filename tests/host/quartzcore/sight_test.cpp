@@ -4,7 +4,7 @@
 #include "platform/Foundation/NSValue.h"
 #include "tests/host/quartzcore/compositor_fixture.h"
 
-// What is not in sight costs nothing, and is there all the same when it comes into sight.
+// Layers out of sight cost nothing, but are painted when they become visible.
 
 namespace host::test {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 constexpr std::uint32_t kGreen = 0xff00ff00;
 constexpr int kMany = 200;
 
-/// A delegate that draws layers and counts.
+/// A delegate that draws layers and counts its calls.
 struct TestPainter : objc::Bound<TestPainter, "TestPainter", NSObject> {};
 
 class Painter : public objc::Implementation<Painter, TestPainter> {
@@ -30,7 +30,7 @@ class Painter : public objc::Implementation<Painter, TestPainter> {
   void lay_out(CALayer) { ++laid_out; }
 };
 
-/// A window of four pixels a side on a column of many layers, two pixels each, red and then
+/// A viewport of four by four pixels on a column of many layers, two pixels each, red and then
 /// clear.
 class SightTest : public CompositorTest {
  public:
@@ -64,7 +64,7 @@ class SightTest : public CompositorTest {
   std::vector<CALayer> rows;
 };
 
-TEST_F(SightTest, AmongManyLayersThoseInSightArePainted) {
+TEST_F(SightTest, AmongManyLayersTheVisibleOnesArePainted) {
   row(0).setBackgroundColor(color(1, 0, 0));
   row(150).setBackgroundColor(color(0, 1, 0));
   render();
@@ -88,7 +88,7 @@ TEST_F(SightTest, ALayerThatIsMovedIntoSightIsPainted) {
   EXPECT_EQ(pixel(0, 2), kRed);
 }
 
-TEST_F(SightTest, ALayerReachesAsFarAsWhatIsInIt) {
+TEST_F(SightTest, ALayersReachIncludesItsSublayers) {
   render();
   const CALayer inner = layer_at({0, 0, 1, 1});
   row(150).addSublayer(inner);
@@ -113,7 +113,7 @@ TEST_F(SightTest, ALayerReachesAsFarAsWhatIsInIt) {
   EXPECT_EQ(pixel(0, 0), kBlue);
 }
 
-TEST_F(SightTest, ALayerThatFliesThroughIsPaintedOnItsWay) {
+TEST_F(SightTest, ALayerThatPassesThroughIsPaintedOnItsWay) {
   row(150).setBackgroundColor(color(1, 0, 0));
   render();
   const CABasicAnimation flight = CABasicAnimation::animationWithKeyPath("position.y"_ns);
@@ -129,7 +129,7 @@ TEST_F(SightTest, ALayerThatFliesThroughIsPaintedOnItsWay) {
   EXPECT_EQ(pixel(0, 0), kBlue);
 }
 
-TEST_F(SightTest, TheOrderAmongManyLayersIsTheirsByHeight) {
+TEST_F(SightTest, ManyLayersAreOrderedByTheirZPosition) {
   row(0).setBackgroundColor(color(1, 0, 0));
   row(1).setBackgroundColor(color(0, 1, 0));
   row(1).setPosition({2, 1});
@@ -156,7 +156,7 @@ TEST_F(SightTest, TheOrderAmongManyLayersIsTheirsByHeight) {
   EXPECT_EQ(pixel(0, 0), kGreen);
 }
 
-TEST_F(SightTest, WhatIsClippedAwayIsDrawnWhenItComesIntoSight) {
+TEST_F(SightTest, AClippedLayerIsDrawnWhenItBecomesVisible) {
   const TestPainter painter = make_painter();
   for (const CALayer one : rows) {
     one.setDelegate(painter);
@@ -181,7 +181,7 @@ TEST_F(SightTest, WhatIsClippedAwayIsDrawnWhenItComesIntoSight) {
     one.setDelegate({});
 }
 
-TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
+TEST_F(SightTest, PicturesOutOfSightAreReleasedBeyondTheBudgetAndDrawnAgain) {
   // given rows whose pictures take two megabytes each
   const std::size_t before = quartzcore::backing_store_bytes();
   const TestPainter painter = make_painter();
@@ -191,7 +191,7 @@ TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
     one.setNeedsDisplay();
   }
 
-  // when many of them have been in sight
+  // when many of them have been visible
   for (int i = 0; i < 20; ++i) {
     scroll_to(i);
     quartzcore::flush_layers();
@@ -201,7 +201,7 @@ TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
   }
   quartzcore::flush_layers();
 
-  // then no more is kept than the budget, what is in sight is, and the first ones come again
+  // then the budget is kept, the visible ones are kept, and the first ones can be drawn again
   EXPECT_LE(quartzcore::backing_store_bytes(), quartzcore::kBackingStoreBudget);
   EXPECT_FALSE(row(0).contents());
   EXPECT_TRUE(row(19).contents());
@@ -211,7 +211,7 @@ TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
   EXPECT_EQ(pixel(0, 0), kGreen);
   EXPECT_GE(notes_of(painter).drawn, drawn + 2);
 
-  // and nothing stays counted of layers that have other contents, or are gone
+  // and layers that have other contents, or no longer exist, do not count
   for (const CALayer one : rows) {
     one.setDelegate({});
     one.setContents({});
@@ -219,8 +219,8 @@ TEST_F(SightTest, PicturesOutOfSightAreLetGoBeyondTheBudgetAndDrawnAgain) {
   EXPECT_EQ(quartzcore::backing_store_bytes(), before);
 }
 
-TEST_F(SightTest, WhatIsInSightIsKeptWhateverItTakes) {
-  // given three rows that take more than the budget, all in sight
+TEST_F(SightTest, VisiblePicturesAreKeptEvenBeyondTheBudget) {
+  // given three visible rows that exceed the budget
   const TestPainter painter = make_painter();
   list.setBounds({0, 0, 4, 6});
   for (int i = 0; i < 3; ++i) {
@@ -233,20 +233,20 @@ TEST_F(SightTest, WhatIsInSightIsKeptWhateverItTakes) {
   const int drawn = notes_of(painter).drawn;
   EXPECT_GT(quartzcore::backing_store_bytes(), quartzcore::kBackingStoreBudget);
 
-  // when turn after turn goes by
+  // when some turns pass
   for (int i = 0; i < 3; ++i) {
     row(0).setOpacity(0.5f + 0.1f * static_cast<float>(i));
     quartzcore::flush_layers();
     render();
   }
 
-  // then none was drawn again
+  // then none of them is drawn again
   EXPECT_EQ(notes_of(painter).drawn, drawn);
   for (int i = 0; i < 3; ++i)
     row(i).setDelegate({});
 }
 
-TEST_F(SightTest, OnlyMarkedLayersAreLaidOutHoweverManyThereAre) {
+TEST_F(SightTest, OnlyMarkedLayersAreLaidOutAmongMany) {
   quartzcore::flush_layers();
   const TestPainter painter = make_painter();
   const CALayer inner = layer_at({0, 0, 1, 1});
@@ -263,7 +263,7 @@ TEST_F(SightTest, OnlyMarkedLayersAreLaidOutHoweverManyThereAre) {
   inner.setNeedsLayout();
   root.layoutIfNeeded();
   EXPECT_EQ(notes_of(painter).laid_out, 3);
-  // Marked outside of the tree, and then put into it.
+  // Marked outside of the tree, then added to it.
   const CALayer late = layer_at({0, 0, 1, 1});
   late.setDelegate(painter);
   late.setNeedsLayout();

@@ -27,7 +27,7 @@ Surface filled(int width, int height, std::uint32_t color) {
 
 class SmallPictureTest : public testing::TestWithParam<int> {};
 
-TEST_P(SmallPictureTest, AnEvenPictureStaysTheSameWhateverItsSize) {
+TEST_P(SmallPictureTest, AUniformPictureStaysTheSameInAnySize) {
   const Surface surface = filled(21, 13, 0xff1e90ff);
   const SmallPicture small = reduce(surface, {0, 0, 21, 13}, GetParam());
   const Surface result = make_surface(21, 13);
@@ -38,7 +38,7 @@ TEST_P(SmallPictureTest, AnEvenPictureStaysTheSameWhateverItsSize) {
   }
 }
 
-TEST_P(SmallPictureTest, EverySquareIsTheMeanOfItsOwnPixels) {
+TEST_P(SmallPictureTest, EverySquareIsTheMeanOfItsPixels) {
   const int side = GetParam();
   const Surface surface = filled(2 * side + 3, side + 3, 0xff000000);
   for (int x = side; x < 2 * side; ++x)
@@ -69,7 +69,7 @@ TEST_P(SmallPictureTest, ARampStaysARampInBothDirections) {
   }
 }
 
-TEST_P(SmallPictureTest, PaintedWithAnOpacityItTouchesTheDamageAlone) {
+TEST_P(SmallPictureTest, PaintedWithAnOpacityItChangesOnlyTheDamage) {
   const SmallPicture small = reduce(filled(16, 16, 0xffffffff), {0, 0, 16, 16}, GetParam());
   const Surface screen = filled(24, 24, 0xff000000);
   paint_enlarged(small, screen, 4, 4, {6, 8, 5, 3}, 0.5);

@@ -27,7 +27,7 @@ class ClassPairs : public ::testing::Test {
   std::shared_ptr<spdlog::logger> before_;
 };
 
-TEST_F(ClassPairs, ANameThatIsTakenIsLogged) {
+TEST_F(ClassPairs, AnExistingNameIsLogged) {
   const objc::Class first = objc::ClassBuilder("TestTwice", "NSObject").finish();
   ASSERT_TRUE(first);
   EXPECT_THAT(log(), IsEmpty());
@@ -36,7 +36,7 @@ TEST_F(ClassPairs, ANameThatIsTakenIsLogged) {
   EXPECT_EQ(objc_getClass("TestTwice"), first);
 }
 
-TEST_F(ClassPairs, AMissingBaseIsNot) {
+TEST_F(ClassPairs, AMissingBaseIsNotLogged) {
   EXPECT_EQ(objc::ClassBuilder("TestWithoutBase", "NobodysClass").finish(), nullptr);
   EXPECT_THAT(log(), IsEmpty());
 }

@@ -16,7 +16,7 @@ TEST(DeviceModel, EveryModelIsFoundByItsIdentifier) {
   EXPECT_FALSE(host::device_model(""));
 }
 
-TEST(Uname, AnswersWithTheChosenDevice) {
+TEST(Uname, ReturnsTheChosenDevice) {
   host::set_current_device(*host::device_model("iPad4,1"));
   utsname name{};
   EXPECT_EQ(uname(&name), 0);

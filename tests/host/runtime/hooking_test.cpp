@@ -34,7 +34,7 @@ objc::Imp as_imp() {
 
 struct HookingTest : ::testing::Test {
   HookingTest() {
-    // Classes cannot be taken back, so every test makes a pair of its own under the same names.
+    // Classes cannot be unregistered, so all tests of a process share this pair.
     static bool made = false;
     if (made) return;
     made = true;
@@ -56,7 +56,7 @@ TEST_F(HookingTest, AnInheritedMethodIsAddedToTheClassAndTheOriginalIsTheInherit
   leaf.release();
 }
 
-TEST_F(HookingTest, AnOwnMethodIsReplacedForSubclassesToo) {
+TEST_F(HookingTest, AMethodOfTheClassIsReplacedForSubclassesToo) {
   struct Own : objc::Bound<Own, "HookOwn", NSObject> {
     int number() const { return call<"number", int>(); }
   };
@@ -93,8 +93,8 @@ TEST_F(HookingTest, TheOriginalIsOptional) {
             method_getImplementation(class_getInstanceMethod(HookBase::cls(), "number"_sel)));
 }
 
-/// Among the names that are registered around it, so that a class that has those does not share its
-/// base's piece of the dispatch table.
+/// The selector is registered between many others. A subclass that implements those does not share
+/// its base's part of the dispatch table.
 struct HookCrowded : ::testing::Test {
   static constexpr int kNeighbours = 96;
   static objc::Sel neighbour(int index) {
@@ -125,7 +125,7 @@ struct HookCrowded : ::testing::Test {
   }
 };
 
-TEST_F(HookCrowded, AReplacedMethodReachesEveryClassBelow) {
+TEST_F(HookCrowded, AReplacedMethodReachesEverySubclass) {
   const objc::Object leaf = objc::send<objc::Object>(objc::Object(objc_getClass("HookCrowdLeaf")),
                                                      sel_registerName("new"));
   ASSERT_EQ(ask(leaf), 1);
@@ -137,7 +137,7 @@ TEST_F(HookCrowded, AReplacedMethodReachesEveryClassBelow) {
   EXPECT_EQ(ask(later), 100);
 }
 
-TEST_F(HookCrowded, SoDoesAReplacedMethodOfAClass) {
+TEST_F(HookCrowded, AReplacedClassMethodReachesEverySubclass) {
   const objc::Object leaf(objc_getClass("HookCrowdLeaf"));
   ASSERT_EQ(ask(leaf), 10);
   MSHookMessageEx(objc_getMetaClass("HookAlone"), sel_registerName("crowded"), as_imp(), nullptr);

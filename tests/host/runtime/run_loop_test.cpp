@@ -37,7 +37,7 @@ TEST_F(RunLoopTest, ARepeatingTimerKeepsItsGridAndSkipsMissedTicks) {
   loop.add_timer(start + 1, 1, [&] { ++ticks; });
   advance(3.5);
   EXPECT_EQ(ticks, 3);
-  clock.move_to(start + 7.25);  // Nobody served the loop meanwhile.
+  clock.move_to(start + 7.25);  // The loop did not run meanwhile.
   loop.run_ready();
   EXPECT_EQ(ticks, 4);
   advance(0.7);
@@ -61,7 +61,7 @@ TEST_F(RunLoopTest, ARemovedTimerDoesNotFireEvenWhenRemovedInTheSameTurn) {
   EXPECT_TRUE(log.empty());
 }
 
-TEST_F(RunLoopTest, WorkAskedForDuringWorkWaitsForTheNextTurn) {
+TEST_F(RunLoopTest, WorkAddedDuringWorkWaitsForTheNextTurn) {
   loop.add_turn_observer(0, note("end of turn"));
   loop.perform([&] {
     log.push_back("first");
@@ -71,7 +71,7 @@ TEST_F(RunLoopTest, WorkAskedForDuringWorkWaitsForTheNextTurn) {
   EXPECT_EQ(log, (std::vector<std::string>{"first", "end of turn", "second", "end of turn"}));
 }
 
-TEST_F(RunLoopTest, FramesComeSixtyTimesASecondOnlyWhileSomebodyWantsThem) {
+TEST_F(RunLoopTest, FramesComeSixtyTimesASecondOnlyWhileTheyAreObserved) {
   int frames = 0;
   const auto observer = loop.add_frame_observer([&](double) { ++frames; });
   advance(1.0);
@@ -82,7 +82,7 @@ TEST_F(RunLoopTest, FramesComeSixtyTimesASecondOnlyWhileSomebodyWantsThem) {
   EXPECT_EQ(frames, 60);
 }
 
-TEST_F(RunLoopTest, ATurnKnowsWhetherAFrameWasAmongWhatRan) {
+TEST_F(RunLoopTest, ATurnKnowsWhetherItIncludedAFrame) {
   std::vector<std::pair<double, bool>> turns;
   loop.add_frame_observer([](double) {});
   loop.add_timer(start + 0.02, 0, [] {});
@@ -93,7 +93,7 @@ TEST_F(RunLoopTest, ATurnKnowsWhetherAFrameWasAmongWhatRan) {
   for (const auto& [time, is_frame] : turns)
     ++(is_frame ? frames : others);
   EXPECT_EQ(frames, 2);
-  // What happened before the time moved, and the timer.
+  // The turn before time moves, and the timer's.
   EXPECT_EQ(others, 2);
   EXPECT_TRUE(turns.back().second);
 }
@@ -106,7 +106,7 @@ TEST_F(RunLoopTest, TurnObserversRunInTheirOrder) {
   EXPECT_EQ(log, (std::vector<std::string>{"layout", "paint"}));
 }
 
-TEST_F(RunLoopTest, ADescriptorIsServedWhenItCanBeRead) {
+TEST_F(RunLoopTest, ADescriptorsWorkRunsWhenItIsReadable) {
   int ends[2];
   ASSERT_EQ(pipe(ends), 0);
   const auto watch = loop.watch(ends[0], [&] {

@@ -19,7 +19,7 @@ bool lies_inside(CGRect outer, CGRect inner) {
          outer.max_x() >= inner.max_x() && outer.max_y() >= inner.max_y();
 }
 
-TEST(PhoneBodies, HoldTheScreenInTheirMiddleAndHomeBelowIt) {
+TEST(PhoneBodies, HaveTheScreenInTheMiddleAndHomeBelowIt) {
   for (const CGSize size : {kTall, kShort, kTablet}) {
     const PhoneBody body(size);
     EXPECT_EQ(body.screen().size, size);
@@ -32,7 +32,7 @@ TEST(PhoneBodies, HoldTheScreenInTheirMiddleAndHomeBelowIt) {
   }
 }
 
-TEST(PhoneBodies, ButtonsAtTheSidesStandOutWithinTheWindow) {
+TEST(PhoneBodies, SideButtonsProtrudeWithinTheWindow) {
   for (const CGSize size : {kTall, kShort, kTablet}) {
     const PhoneBody body(size);
     const CGRect whole{{0, 0}, body.size()};
@@ -43,7 +43,7 @@ TEST(PhoneBodies, ButtonsAtTheSidesStandOutWithinTheWindow) {
   }
 }
 
-TEST(PhoneBodies, TallPhonesHaveTheirLockAtTheSideOthersAtTheTop) {
+TEST(PhoneBodies, TallPhonesHaveTheirLockButtonAtTheSideOthersAtTheTop) {
   const CGRect side = PhoneBody(kTall).frame_of(Button::Lock);
   EXPECT_GT(side.size.height, side.size.width);
   EXPECT_GT(side.min_x(), PhoneBody(kTall).screen().max_x());
@@ -54,7 +54,7 @@ TEST(PhoneBodies, TallPhonesHaveTheirLockAtTheSideOthersAtTheTop) {
   }
 }
 
-TEST(PhoneBodies, EveryButtonIsFoundAtItsMiddleAndBesideIt) {
+TEST(PhoneBodies, EveryButtonIsFoundAtItsCentreAndNextToIt) {
   for (const CGSize size : {kTall, kShort, kTablet}) {
     const PhoneBody body(size);
     for (const Button button : PhoneBody::buttons())
@@ -66,12 +66,12 @@ TEST(PhoneBodies, EveryButtonIsFoundAtItsMiddleAndBesideIt) {
   }
 }
 
-TEST(PhoneBodies, TheScreenAndTheGlassAreNoButtons) {
+TEST(PhoneBodies, TheScreenAndTheGlassAreNotButtons) {
   const PhoneBody body(kTall);
   const CGRect screen = body.screen();
   EXPECT_EQ(body.button_at(screen.centre()), std::nullopt);
   EXPECT_EQ(body.button_at({screen.centre().x, screen.min_y() - 5}), std::nullopt);
-  // The fingers' room of a button at the side ends where the screen begins.
+  // The margin of a side button ends where the screen begins.
   const CGPoint up = body.frame_of(Button::VolumeUp).centre();
   EXPECT_EQ(body.button_at({screen.min_x() + 1, up.y}), std::nullopt);
   // Home is round.
@@ -79,14 +79,14 @@ TEST(PhoneBodies, TheScreenAndTheGlassAreNoButtons) {
   EXPECT_EQ(body.button_at({home.min_x() + 3, home.min_y() + 3}), std::nullopt);
 }
 
-TEST(PhoneBodies, ThePlaceOnTheScreenThatIsNearest) {
+TEST(PhoneBodies, FindTheNearestPointOnTheScreen) {
   const PhoneBody body(kTall);
   const CGPoint origin = body.screen().origin;
   EXPECT_EQ(body.nearest_on_screen({origin.x + 10, origin.y - 5}), (CGPoint{10, 0}));
   EXPECT_EQ(body.nearest_on_screen({origin.x + 400, origin.y + 700}), (CGPoint{374, 666}));
 }
 
-/// The middle pixel of a button, drawn one pixel a point.
+/// The centre pixel of a button, drawn at one pixel per point.
 unsigned colour_of(const PhoneBody& body, Button button, bool pressed) {
   const auto width = static_cast<int>(body.size().width);
   const auto height = static_cast<int>(body.size().height);
@@ -99,7 +99,7 @@ unsigned colour_of(const PhoneBody& body, Button button, bool pressed) {
   cairo_destroy(drawing);
   cairo_surface_destroy(surface);
   const CGRect frame = body.frame_of(button);
-  // The part that stands out is seen; the other half lies below the body.
+  // The protruding half is visible; the other half is below the body.
   const bool left = frame.max_x() < body.screen().min_x();
   const bool right = frame.min_x() > body.screen().max_x();
   const int x = static_cast<int>(left    ? frame.min_x() + 2
@@ -108,7 +108,7 @@ unsigned colour_of(const PhoneBody& body, Button button, bool pressed) {
   return pixels[static_cast<std::size_t>(static_cast<int>(frame.centre().y) * width + x)];
 }
 
-TEST(PhoneBodies, APressedButtonIsSeen) {
+TEST(PhoneBodies, APressedButtonIsVisible) {
   const PhoneBody body(kTall);
   for (const Button button : PhoneBody::buttons())
     EXPECT_NE(colour_of(body, button, true), colour_of(body, button, false));

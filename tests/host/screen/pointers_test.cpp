@@ -32,7 +32,7 @@ TEST_F(PointersTest, AFingerOnTheScreenTouchesItAndMayLeaveIt) {
   EXPECT_THAT(done(), ElementsAre("touch 3 0 10 20", "touch 3 1 -5 20", "touch 3 2 -8 20"));
 }
 
-TEST_F(PointersTest, OneThatSlidesInTouchesFromTheEdgeOn) {
+TEST_F(PointersTest, OneThatSlidesInTouchesFromTheEdge) {
   pointers_.down(3, at(100, -20));
   pointers_.moved(3, at(100, -4));
   EXPECT_THAT(done(), IsEmpty());
@@ -42,14 +42,14 @@ TEST_F(PointersTest, OneThatSlidesInTouchesFromTheEdgeOn) {
   EXPECT_THAT(done(), ElementsAre("touch 3 2 100 40"));
 }
 
-TEST_F(PointersTest, OneThatStaysBesideTheScreenDoesNothing) {
+TEST_F(PointersTest, OneThatStaysOutsideTheScreenDoesNothing) {
   pointers_.down(3, at(100, -20));
   pointers_.moved(3, at(130, -20));
   pointers_.up(3, at(130, -20));
   EXPECT_THAT(done(), IsEmpty());
 }
 
-TEST_F(PointersTest, AButtonIsHeldUntilTheFingerIsLiftedWhereverThatIs) {
+TEST_F(PointersTest, AButtonIsHeldUntilTheFingerIsLiftedAnywhere) {
   pointers_.down(3, on(Button::Lock));
   pointers_.moved(3, at(100, 100));
   EXPECT_THAT(done(), ElementsAre("push 2"));
@@ -67,7 +67,7 @@ TEST_F(PointersTest, TwoFingersHoldTwoButtons) {
   EXPECT_THAT(done(), ElementsAre("push 3", "push 4", "let go 3", "let go 4"));
 }
 
-TEST_F(PointersTest, AButtonThatTwoHoldGoesDownOnce) {
+TEST_F(PointersTest, AButtonHeldTwiceGoesDownOnce) {
   pointers_.down(1, on(Button::Home));
   buttons_.down(Button::Home);
   pointers_.up(1, on(Button::Home));
@@ -87,7 +87,7 @@ TEST_F(PointersTest, TheSecondOfTwoQuickClicksOnHomeIsADoublePress) {
   EXPECT_THAT(done(), ElementsAre("push 2"));
 }
 
-TEST_F(PointersTest, ALightTouchIsOneOfHomeAlone) {
+TEST_F(PointersTest, ALightTouchOnlyAffectsHome) {
   pointers_.touch_lightly(on(Button::Lock));
   pointers_.touch_lightly(at(10, 10));
   EXPECT_THAT(done(), IsEmpty());

@@ -21,7 +21,7 @@ TEST(Letterbox, FillsAWindowOfTheSameShape) {
   EXPECT_EQ(box.point_at({375, 667}), (CGPoint{187.5, 333.5}));
 }
 
-TEST(Letterbox, LiesInTheMiddleOfAWiderOrHigherWindow) {
+TEST(Letterbox, IsCentredInAWiderOrHigherWindow) {
   EXPECT_EQ(Letterbox::fit({100, 200}, {300, 200}).place, CGRect(100, 0, 100, 200));
   EXPECT_EQ(Letterbox::fit({100, 200}, {100, 300}).place, CGRect(0, 50, 100, 200));
   EXPECT_EQ(Letterbox::fit({100, 200}, {300, 200}).point_at({90, 20}), (CGPoint{-10, 20}));
@@ -37,7 +37,7 @@ TEST(Fingers, KeepTheirNumberUntilTheyAreLifted) {
   EXPECT_EQ(fingers.number_of(900, TouchPhase::Moved), std::nullopt);
 }
 
-/// A window on a desktop that exists in memory only.
+/// A window on a desktop that exists only in memory.
 class Windows : public testing::Test {
  protected:
   Windows() {
@@ -50,7 +50,7 @@ class Windows : public testing::Test {
     input_.done.clear();
   }
 
-  /// At a place of the screen; the desktop is large enough for a point to be one of its units.
+  /// `x` and `y` are on the phone's screen; the desktop is large enough for one unit per point.
   void push_mouse(Uint32 type, int x, int y, Uint8 button = SDL_BUTTON_LEFT, Uint8 clicks = 1) {
     SDL_Event event{};
     x += static_cast<int>(origin_.x);
@@ -96,7 +96,7 @@ TEST_F(Windows, TheMouseIsAFingerWhileItsButtonIsDown) {
   EXPECT_THAT(handled(), ElementsAre("touch 0 0 10 20", "touch 0 1 30 40", "touch 0 2 30 40"));
 }
 
-TEST_F(Windows, OtherMouseButtonsAreNoFingers) {
+TEST_F(Windows, OtherMouseButtonsAreNotFingers) {
   push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20, SDL_BUTTON_RIGHT);
   push_mouse(SDL_MOUSEMOTION, 30, 40);
   EXPECT_THAT(handled(), IsEmpty());
@@ -119,13 +119,13 @@ TEST_F(Windows, AButtonStaysDownAsLongAsItsKey) {
   EXPECT_THAT(handled(), ElementsAre("let go 2"));
 }
 
-TEST_F(Windows, TwoPressesOfHomeAreOneKey) {
+TEST_F(Windows, AKeyPressesHomeTwice) {
   push_key(SDLK_F2);
   push_key(SDLK_F2, 0, KMOD_NONE, SDL_KEYUP);
   EXPECT_THAT(handled(), ElementsAre("press 1"));
 }
 
-TEST_F(Windows, TwoTouchesOfHomeAreOneKey) {
+TEST_F(Windows, AKeyTouchesHomeTwice) {
   push_key(SDLK_F4);
   push_key(SDLK_F4, 1);
   push_key(SDLK_F4, 0, KMOD_NONE, SDL_KEYUP);
@@ -167,7 +167,7 @@ TEST_F(Windows, ComposedTextIsTyped) {
   EXPECT_THAT(handled(), ElementsAre("type ö"));
 }
 
-TEST_F(Windows, KeysThatAreHeldStandBeforeTheName) {
+TEST_F(Windows, ModifiersPrecedeTheKeysName) {
   push_key(SDLK_LEFT, 0, KMOD_LSHIFT);
   push_key(SDLK_RIGHT, 0, static_cast<SDL_Keymod>(KMOD_RCTRL | KMOD_LSHIFT));
   push_key(SDLK_v, 0, KMOD_LCTRL);
@@ -175,7 +175,7 @@ TEST_F(Windows, KeysThatAreHeldStandBeforeTheName) {
   EXPECT_THAT(handled(), ElementsAre("key shift-left", "key control-shift-right", "key control-v"));
 }
 
-TEST_F(Windows, WhatAnInputMethodComposesIsTold) {
+TEST_F(Windows, TextBeingComposedIsReported) {
   SDL_Event event{};
   event.type = SDL_TEXTEDITING;
   std::snprintf(event.edit.text, sizeof event.edit.text, "にほ");
@@ -189,14 +189,14 @@ TEST_F(Windows, ShareTheDesktopsClipboard) {
   EXPECT_EQ(window_->clipboard_text(), "Größe");
 }
 
-TEST_F(Windows, ClosingTheWindowIsTold) {
+TEST_F(Windows, ClosingTheWindowIsReported) {
   SDL_Event event{};
   event.type = SDL_QUIT;
   SDL_PushEvent(&event);
   EXPECT_THAT(handled(), ElementsAre("close"));
 }
 
-TEST(Screenshots, AreWrittenOrTheReasonIsGiven) {
+TEST(Screenshots, AreWrittenOrTheReasonIsReturned) {
   const std::array<unsigned, 4> pixels{0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFFFFFFFF};
   const Picture picture{reinterpret_cast<const unsigned char*>(pixels.data()), 2, 2, 8};
   const auto problem = write_png(picture, "/dev/null/shot.png");

@@ -7,7 +7,7 @@
 
 #include "host/screen/input.h"
 
-/// Writes down what the user does.
+/// Records the user's actions as text.
 class WrittenInput : public host::screen::Input {
  public:
   void touch(int finger, host::screen::TouchPhase phase, CGPoint point) override {

@@ -21,7 +21,7 @@ bool is_editing() {
 class EditingTest : public PhoneTest {};
 class FolderTest : public PhoneTest {
  public:
-  /// The folder that stands on the second page by default.
+  /// The folder on the second page of the default arrangement.
   SBIconView first_folder() const {
     const auto page = objc::cast<SBIconListView>(icon_view("com.apple.podcasts").superview());
     for (const SBIcon icon : page.icons().of<SBIcon>()) {
@@ -43,7 +43,7 @@ TEST_F(EditingTest, ALongPressStartsItAndHomeEndsIt) {
   EXPECT_FALSE(icon_view(kMusic).isEditing());
 }
 
-TEST_F(EditingTest, WobblingLeavesTheIconsFrameAlone) {
+TEST_F(EditingTest, WobblingDoesNotChangeTheIconsFrame) {
   launch();
   const CGRect before = icon_view(kMusic).frame();
   set_editing(true);
@@ -67,7 +67,7 @@ TEST_F(EditingTest, ADraggedIconTakesTheSlotItIsDroppedOn) {
   const CGPoint calendar = on_screen(kCalendar);
   const CGPoint photos = on_screen(kPhotos);
   const SBIconView view = icon_view(kCalendar);
-  // Beside the middle, for on it the two would make a folder.
+  // Not on the centre, where the two icons would form a folder.
   drag(calendar, {photos.x + 24, photos.y}, 0.3, 0.5);
   lift();
   settle();
@@ -87,7 +87,7 @@ TEST_F(EditingTest, AnIconWithoutRecognizersCanStillBeMoved) {
   EXPECT_EQ(on_screen(kCalendar), photos);
 }
 
-TEST_F(EditingTest, TheLongPressThatStartsItCarriesTheIconOn) {
+TEST_F(EditingTest, TheLongPressThatStartsItAlsoDragsTheIcon) {
   launch();
   const CGPoint calendar = on_screen(kCalendar);
   const CGPoint photos = on_screen(kPhotos);
@@ -127,11 +127,11 @@ TEST_F(EditingTest, AnIconHeldAtTheEdgeGoesToTheNextPage) {
   EXPECT_LT(at.x, 375);
 }
 
-TEST_F(EditingTest, IntoTheFullDockNothingGoes) {
+TEST_F(EditingTest, AFullDockAcceptsNoIcon) {
   launch();
   set_editing(true);
   const CGPoint before = on_screen(kMusic);
-  // Between two icons: on one of them it would make a folder.
+  // Between two icons: on one of them it would form a folder.
   drag(on_screen(kMusic), {187, 612}, 0.3, 0.5);
   lift();
   settle();
@@ -139,7 +139,7 @@ TEST_F(EditingTest, IntoTheFullDockNothingGoes) {
   EXPECT_EQ(on_screen(kMusic), before);
 }
 
-TEST_F(EditingTest, OutOfTheDockAndInAgain) {
+TEST_F(EditingTest, AnIconCanLeaveTheDockAndReturn) {
   launch();
   set_editing(true);
   const CGPoint phone = on_screen(kPhone);
@@ -153,7 +153,7 @@ TEST_F(EditingTest, OutOfTheDockAndInAgain) {
   EXPECT_TRUE(icon_view(kPhone).isInDock());
 }
 
-TEST_F(FolderTest, TwoIconsHeldOverEachOtherMakeOne) {
+TEST_F(FolderTest, HoldingAnIconOverAnotherMakesAFolder) {
   launch();
   set_editing(true);
   drag(on_screen(kCalendar), on_screen(kPhotos), 0.3, 0.6);
@@ -175,7 +175,7 @@ TEST_F(FolderTest, AnIconInAClosedFolderHasItsViewInTheFoldersList) {
   EXPECT_EQ(class_of(view.superview()), "SBIconListView");
 }
 
-TEST_F(FolderTest, ATapOpensItAndATapBesideItClosesIt) {
+TEST_F(FolderTest, ATapOpensItAndATapOutsideClosesIt) {
   launch();
   SBIconController::sharedInstance().scrollToIconListAtIndex(1, NO);
   advance(0.1);
@@ -225,7 +225,7 @@ TEST_F(FolderTest, AnIconDraggedOutOfTheOpenFolderClosesItAndLandsOnThePage) {
   EXPECT_EQ(class_of(icon_view(kCalculator).superview()), "SBIconListView");
 }
 
-TEST_F(FolderTest, TheLastIconThatLeavesTakesTheFolderAlong) {
+TEST_F(FolderTest, TheFolderIsRemovedWithItsLastIcon) {
   launch();
   SBIconController::sharedInstance().scrollToIconListAtIndex(1, NO);
   const auto folder = objc::Ref<SBIconView>::retain(first_folder());

@@ -17,7 +17,7 @@ using namespace test;
 
 class HomeScreenTest : public PhoneTest {
  protected:
-  /// What the screen of the application in front says.
+  /// The texts on the screen of the application in front.
   static std::vector<std::string> lines_in_front() {
     const UIWindow window = SBUIController::sharedInstance().window();
     std::vector<std::string> lines;
@@ -41,7 +41,7 @@ std::string class_of(NSObject object) {
   return object.className().UTF8String();
 }
 
-TEST_F(HomeScreenTest, APageIconsXIsTheScreensAndItsYIsTwentyLess) {
+TEST_F(HomeScreenTest, AnIconsOriginIsRelativeToThePageBelowTheStatusBar) {
   launch();
   const SBIconView music = icon_view(kMusic);
   ASSERT_TRUE(music);
@@ -52,7 +52,7 @@ TEST_F(HomeScreenTest, APageIconsXIsTheScreensAndItsYIsTwentyLess) {
   EXPECT_FALSE(music.isInDock());
 }
 
-TEST_F(HomeScreenTest, ADockIconsYCountsFromTheDocksTopAtTheScreensBottom) {
+TEST_F(HomeScreenTest, ADockIconsOriginIsRelativeToTheDock) {
   launch();
   const SBIconView phone = icon_view(kPhone);
   EXPECT_EQ(class_of(phone.superview()), "SBDockIconListView");
@@ -77,7 +77,7 @@ TEST_F(TabletHomeScreenTest, TheTabletsIconsAre76PointsWide) {
   EXPECT_EQ(origin.y, icon_view(kPhone).frame().origin.y + offset);
 }
 
-TEST_F(HomeScreenTest, AnIconTellsItsApplication) {
+TEST_F(HomeScreenTest, AnIconKnowsItsApplication) {
   launch();
   const SBIcon music = icon(kMusic);
   EXPECT_STREQ(music.application().bundleIdentifier().UTF8String(), kMusic);
@@ -88,7 +88,7 @@ TEST_F(HomeScreenTest, AnIconTellsItsApplication) {
   EXPECT_EQ(image.scale(), 2);
 }
 
-TEST_F(HomeScreenTest, WithoutTheApplicationThereIsNoIcon) {
+TEST_F(HomeScreenTest, AMissingApplicationHasNoIcon) {
   remove_application("Music");
   launch();
   EXPECT_FALSE(SBApplicationController::sharedInstance().applicationWithBundleIdentifier(
@@ -97,7 +97,7 @@ TEST_F(HomeScreenTest, WithoutTheApplicationThereIsNoIcon) {
   EXPECT_FALSE(icon_view(kMusic));
 }
 
-TEST_F(HomeScreenTest, AnIconWithoutAPictureHasItsInitial) {
+TEST_F(HomeScreenTest, AnIconWithoutAPictureShowsItsInitial) {
   std::filesystem::path folder = device / "Applications" / "Music.app";
   for (const auto& file : std::filesystem::directory_iterator(folder)) {
     if (file.path().extension() == ".png") std::filesystem::remove(file.path());
@@ -122,7 +122,7 @@ TEST_F(HomeScreenTest, ATapZoomsTheApplicationsScreenOutOfItsIconAndHomeZoomsItB
   EXPECT_EQ(window.subviews().count(), views);
 }
 
-TEST_F(HomeScreenTest, AnIconWithoutAProgramSaysSoAndHowToLeave) {
+TEST_F(HomeScreenTest, AnApplicationWithoutAProgramSaysSoAndHowToLeave) {
   launch();
   tap(on_screen(kCalendar));
   settle();
@@ -165,7 +165,7 @@ TEST_F(HomeScreenTest, AFingerDarkensTheIconUntilItLeaves) {
   settle();
 }
 
-TEST_F(HomeScreenTest, ASwipeTurnsThePageAndLetsTheIconGo) {
+TEST_F(HomeScreenTest, ASwipeTurnsThePageAndReleasesTheIcon) {
   launch();
   ASSERT_EQ(SBIconController::sharedInstance().currentIconListIndex(), 0);
   drag({330, 200}, {60, 200}, 0.2);
@@ -184,7 +184,7 @@ TEST_F(HomeScreenTest, HomeDoesNothingOnAScreenAtRest) {
   EXPECT_FALSE(SBUIController::sharedInstance().clickedMenuButton());
 }
 
-TEST_F(HomeScreenTest, HomeLeavesOneThingAfterTheOther) {
+TEST_F(HomeScreenTest, HomeLeavesOneThingPerPress) {
   launch();
   const auto home = SBUIController::sharedInstance();
   const auto icons = SBIconController::sharedInstance();
@@ -204,7 +204,7 @@ TEST_F(HomeScreenTest, HomeLeavesOneThingAfterTheOther) {
   EXPECT_EQ(icons.currentIconListIndex(), 0);
 }
 
-TEST_F(HomeScreenTest, TheStatusBarLiesAboveTheHomeScreenAndTakesNoTouch) {
+TEST_F(HomeScreenTest, TheStatusBarIsAboveTheHomeScreenAndIgnoresTouches) {
   launch();
   const auto top = objc::cast<UIWindow>(UIApplication::sharedApplication().windows().lastObject());
   EXPECT_EQ(top.windowLevel(), UIWindowLevelStatusBar);
@@ -212,7 +212,7 @@ TEST_F(HomeScreenTest, TheStatusBarLiesAboveTheHomeScreenAndTakesNoTouch) {
   EXPECT_FALSE(top.isUserInteractionEnabled());
 }
 
-/// A minute of the wall is a minute of the test's clock.
+/// A wall clock that advances with the test's clock.
 class TickingWallClock final : public WallClock {
  public:
   explicit TickingWallClock(const Clock& clock) : clock_(clock), start_(clock.now()) {}
@@ -252,7 +252,7 @@ TEST_F(HomeScreenTest, AScreenAtRestWantsNoFrames) {
   EXPECT_FALSE(loop.wants_frames());
 }
 
-TEST_F(HomeScreenTest, AnotherLaunchFindsTheArrangementAsItWasLeft) {
+TEST_F(HomeScreenTest, TheArrangementSurvivesARelaunch) {
   launch();
   ASSERT_TRUE(move_out_of_dock(kPhone));
   ASSERT_TRUE(move_to_dock(kMusic));
@@ -263,7 +263,7 @@ TEST_F(HomeScreenTest, AnotherLaunchFindsTheArrangementAsItWasLeft) {
   EXPECT_EQ(icon_view(kMusic).frame(), music);
 }
 
-TEST_F(HomeScreenTest, AnUninstalledApplicationTakesItsIconAndItsViewAlong) {
+TEST_F(HomeScreenTest, UninstallingAnApplicationRemovesItsIconAndItsView) {
   launch();
   const auto view = objc::Ref<SBIconView>::retain(icon_view(kMusic));
   EXPECT_TRUE(uninstall(kMusic));

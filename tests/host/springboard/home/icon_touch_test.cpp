@@ -36,7 +36,7 @@ class IconTouchTest : public PhoneTest {
     }
     return nil;
   }
-  /// As an extension does that drags the icon itself.
+  /// Does the same as an extension that drags the icon itself.
   static void put_own_pan_on(SBIconView view) {
     view.setGestureRecognizers(NSArray::array());
     const auto pan = UIPanGestureRecognizer::alloc().initWithTarget(nil, nullptr).autorelease();
@@ -45,7 +45,7 @@ class IconTouchTest : public PhoneTest {
   }
 };
 
-TEST_F(IconTouchTest, ATapIsTheViewsTouchesToldToItsDelegate) {
+TEST_F(IconTouchTest, ATapIsReportedToTheDelegateByTheViewsTouches) {
   Order order;
   const objc::Class controller = SBIconController::cls();
   const TouchesSpy<"touchesBegan:withEvent:"> began(SBIconView::cls(), &order);
@@ -70,7 +70,7 @@ TEST_F(IconTouchTest, ATapIsTheViewsTouchesToldToItsDelegate) {
   EXPECT_TRUE(opened_something());
 }
 
-TEST_F(IconTouchTest, ATouchThatIsTakenAwayIsNoTap) {
+TEST_F(IconTouchTest, ACancelledTouchIsNotATap) {
   const MethodSpy<"icon:touchEnded:", void(SBIconController, SBIconView, BOOL)> told_ended(
       SBIconController::cls());
   press(on_screen(kCalendar));
@@ -81,7 +81,7 @@ TEST_F(IconTouchTest, ATouchThatIsTakenAwayIsNoTap) {
   EXPECT_FALSE(opened_something());
 }
 
-TEST_F(IconTouchTest, AnIconHasNoRecognizerAndMissesNone) {
+TEST_F(IconTouchTest, AnIconWorksWithoutRecognizers) {
   EXPECT_EQ(icon_view(kCalendar).gestureRecognizers().count(), 0u);
   icon_view(kCalendar).setGestureRecognizers(NSArray::array());
   tap(on_screen(kCalendar));
@@ -99,7 +99,7 @@ TEST_F(IconTouchTest, ATapOpensFromTheDockToo) {
   EXPECT_TRUE(opened_something());
 }
 
-TEST_F(IconTouchTest, AFingerMayStrayWithinTheIconAndNotBeyond) {
+TEST_F(IconTouchTest, ATappingFingerMayStrayWithinTheIconButNotBeyond) {
   const CGPoint point = on_screen(kCalendar);
   drag(point, {point.x, point.y + 20}, 0.1);
   lift();
@@ -111,7 +111,7 @@ TEST_F(IconTouchTest, AFingerMayStrayWithinTheIconAndNotBeyond) {
   EXPECT_FALSE(opened_something());
 }
 
-TEST_F(IconTouchTest, APanThatHasBegunTakesTheTapAndTheHolding) {
+TEST_F(IconTouchTest, APanThatHasBegunSuppressesTapAndLongPress) {
   put_own_pan_on(icon_view(kCalendar));
   const CGPoint point = on_screen(kCalendar);
   drag(point, {point.x, point.y + 15}, 0.1);
@@ -122,7 +122,7 @@ TEST_F(IconTouchTest, APanThatHasBegunTakesTheTapAndTheHolding) {
   EXPECT_FALSE(opened_something());
 }
 
-TEST_F(IconTouchTest, HoldingBeforeThePanBeginsArrangesAndWithoutItATapOpens) {
+TEST_F(IconTouchTest, APanThatHasNotBegunLeavesTapAndLongPress) {
   put_own_pan_on(icon_view(kCalendar));
   tap(on_screen(kCalendar));
   EXPECT_TRUE(opened_something());
@@ -137,7 +137,7 @@ TEST_F(IconTouchTest, HoldingBeforeThePanBeginsArrangesAndWithoutItATapOpens) {
   EXPECT_FALSE(opened_something());
 }
 
-TEST_F(IconTouchTest, AFingerThatStraysHoldsNothing) {
+TEST_F(IconTouchTest, AStrayingFingerIsNotALongPress) {
   const CGPoint point = on_screen(kCalendar);
   press(point);
   move({point.x, point.y + 14});
@@ -145,7 +145,7 @@ TEST_F(IconTouchTest, AFingerThatStraysHoldsNothing) {
   EXPECT_FALSE(is_editing());
 }
 
-TEST_F(IconTouchTest, AFolderThatIsHeldOrCarriedIsNotOpened) {
+TEST_F(IconTouchTest, AFolderThatIsHeldOrDraggedIsNotOpened) {
   SBIconController::sharedInstance().scrollToIconListAtIndex(1, NO);
   advance(0.1);
   const CGPoint point = on_screen(first_folder());
@@ -165,7 +165,7 @@ TEST_F(IconTouchTest, AFolderThatIsHeldOrCarriedIsNotOpened) {
   EXPECT_TRUE(SBIconController::sharedInstance().hasOpenFolder());
 }
 
-TEST_F(IconTouchTest, ASecondFingerDoesNotTakeOverWhatTheFirstCarries) {
+TEST_F(IconTouchTest, ASecondFingerDoesNotTakeOverTheFirstOnesDrag) {
   set_editing(true);
   const CGPoint photos = on_screen(kPhotos);
   const CGPoint music = on_screen(kMusic);
@@ -182,7 +182,7 @@ TEST_F(IconTouchTest, ASecondFingerDoesNotTakeOverWhatTheFirstCarries) {
   EXPECT_EQ(on_screen(kMusic), music);
 }
 
-TEST_F(IconTouchTest, WhatAFingerTurnsAndClosesGoesThroughMessages) {
+TEST_F(IconTouchTest, DraggingSendsTheMessagesThatTurnPagesAndCloseFolders) {
   const auto icons = SBIconController::sharedInstance();
   const MethodSpy<"scrollToIconListAtIndex:animate:", BOOL(SBIconController, NSInteger, BOOL)>
       turns(SBIconController::cls());

@@ -27,7 +27,7 @@ TEST(GridMetrics, FirstIconAndPitchOfThe667PointScreen) {
   EXPECT_EQ(grid.page_origin(4), (CGPoint{27, 8 + 88}));
 }
 
-TEST(GridMetrics, ColumnsStandAsFarFromTheRightEdgeAsFromTheLeft) {
+TEST(GridMetrics, TheColumnsAreCentred) {
   for (const CGSize screen : kScreens) {
     const GridMetrics grid = GridMetrics::for_screen(screen);
     const CGFloat right = screen.width - grid.page_origin(grid.columns - 1).x - grid.icon_side;
@@ -50,7 +50,7 @@ TEST(GridMetrics, PagesStartBelowTheStatusBarAndAreAsWideAsTheScreen) {
   EXPECT_EQ(page, (CGRect{750, 20, 375, 667 - 20 - 96}));
 }
 
-TEST(GridMetrics, FourDockIconsStandUnderTheColumns) {
+TEST(GridMetrics, FourDockIconsAlignWithTheColumns) {
   const GridMetrics grid = GridMetrics::for_screen({375, 667});
   for (std::size_t i = 0; i < 4; ++i)
     EXPECT_EQ(grid.dock_origin(i, 4).x, grid.page_origin(i).x);
@@ -62,7 +62,7 @@ TEST(GridMetrics, FewerDockIconsSpreadEvenly) {
   EXPECT_NEAR(grid.dock_origin(0, 2).x, 200.0 / 3, 1e-9);
 }
 
-TEST(GridMetrics, APointFindsTheSlotWhoseCellHoldsIt) {
+TEST(GridMetrics, APointBelongsToTheSlotWhoseCellContainsIt) {
   for (const CGSize screen : kScreens) {
     const GridMetrics grid = GridMetrics::for_screen(screen);
     for (std::size_t i = 0; i < grid.page_capacity(); ++i) {
@@ -77,7 +77,7 @@ TEST(GridMetrics, APointFindsTheSlotWhoseCellHoldsIt) {
   }
 }
 
-TEST(GridMetrics, PointsOutsideTheGridGoToTheNearestSlot) {
+TEST(GridMetrics, PointsOutsideTheGridBelongToTheNearestSlot) {
   const GridMetrics grid = GridMetrics::for_screen({375, 667});
   EXPECT_EQ(grid.page_index_at({-50, -50}), 0u);
   EXPECT_EQ(grid.page_index_at({900, 900}), grid.page_capacity() - 1);

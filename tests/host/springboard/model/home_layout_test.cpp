@@ -21,7 +21,7 @@ std::vector<std::string> ids(const HomeLayout::List& list) {
   return found;
 }
 
-/// Two pages of at most three, a dock of at most two, folders of at most two.
+/// Two pages of at most three icons, a dock of at most two, folders of at most two.
 HomeLayout small_layout() {
   HomeLayout layout({3, 2, 2});
   for (const char* id : {"a", "b", "c", "d"})
@@ -39,7 +39,7 @@ TEST(HomeLayout, AppendFillsPagesInOrder) {
   EXPECT_EQ(layout.find("nobody"), std::nullopt);
 }
 
-TEST(HomeLayout, MovingWithinAPageCountsPlacesWithoutTheIcon) {
+TEST(HomeLayout, MovingWithinAPageUsesIndexesWithoutTheIcon) {
   HomeLayout layout = small_layout();
   EXPECT_TRUE(layout.move("a", {Area::kPage, 0, {}, 2}));
   EXPECT_THAT(ids(layout.pages()[0]), ElementsAre("b", "c", "a"));
@@ -83,7 +83,7 @@ TEST(HomeLayout, AFullFolderRefusesAndChangesNothing) {
   EXPECT_EQ(layout, before);
 }
 
-TEST(HomeLayout, AFolderGoesIntoNoFolder) {
+TEST(HomeLayout, AFolderCannotGoIntoAFolder) {
   HomeLayout layout({4, 2, 3});
   for (const char* id : {"a", "b", "c", "d"})
     layout.append(application(id));
@@ -104,7 +104,7 @@ TEST(HomeLayout, LeavingAFolderPutsTheIconBehindIt) {
   EXPECT_THAT(ids(layout.pages()[0]), ElementsAre(folder, "b", "c"));
 }
 
-TEST(HomeLayout, TheLastIconTakesItsFoldersPlace) {
+TEST(HomeLayout, TheLastIconReplacesItsFolder) {
   HomeLayout layout = small_layout();
   layout.drop_on("a", "b", "Utilities");
   layout.move_out_of_folder("b");
@@ -138,7 +138,7 @@ TEST(HomeLayout, RemovingTheLastIconOfAFolderRemovesIt) {
   EXPECT_FALSE(layout.remove("b"));
 }
 
-TEST(HomeLayout, APageThatNothingStandsOnVanishesWhenTidied) {
+TEST(HomeLayout, AnEmptyPageIsRemovedOnRequest) {
   HomeLayout layout = small_layout();
   EXPECT_TRUE(layout.move("d", {Area::kPage, 9, {}, 0})) << "past the last page: a new one";
   EXPECT_EQ(layout.pages().size(), 3u);

@@ -67,11 +67,11 @@ TEST_F(IconStateTest, WhatIsWrittenIsReadBack) {
   EXPECT_EQ(read_icon_state(path("below/IconState.plist"), kCapacity), layout);
 }
 
-TEST_F(IconStateTest, AMissingFileGivesNothing) {
+TEST_F(IconStateTest, AMissingFileReturnsNothing) {
   EXPECT_EQ(read_icon_state(path("nowhere.plist"), kCapacity), std::nullopt);
 }
 
-TEST_F(IconStateTest, AMalformedFileGivesNothing) {
+TEST_F(IconStateTest, AMalformedFileReturnsNothing) {
   write("broken.plist", "<plist><dict><key>");
   write("list.plist", "(a, b)");
   write("empty.plist", "");
@@ -80,7 +80,7 @@ TEST_F(IconStateTest, AMalformedFileGivesNothing) {
     EXPECT_EQ(read_icon_state(path(name), kCapacity), std::nullopt) << name;
 }
 
-TEST_F(IconStateTest, EntriesThatAreNoIconsArePassedOver) {
+TEST_F(IconStateTest, EntriesThatAreNotIconsAreSkipped) {
   write("odd.plist", info("<key>buttonBar</key><array><integer>3</integer></array>"
                           "<key>iconLists</key><array><string>x</string>"
                           "<array><true/><string>a</string></array></array>"));
@@ -89,12 +89,12 @@ TEST_F(IconStateTest, EntriesThatAreNoIconsArePassedOver) {
   EXPECT_THAT(layout->applications(), ElementsAre("a"));
 }
 
-TEST_F(IconStateTest, AFileThatCannotBeWrittenIsNoDisaster) {
+TEST_F(IconStateTest, AnUnwritableFileIsReported) {
   write("file", "not a folder");
   EXPECT_FALSE(write_icon_state(HomeLayout(kCapacity), path("file/IconState.plist")));
 }
 
-TEST_F(IconStateTest, AnArrangementIsFittedToWhatIsInstalled) {
+TEST_F(IconStateTest, AnArrangementIsFittedToTheInstalledApplications) {
   HomeLayout saved(kCapacity);
   for (const char* id : {"a", "gone", "b", "a"})
     saved.append({id, false, {}, {}});
@@ -108,7 +108,7 @@ TEST_F(IconStateTest, AnArrangementIsFittedToWhatIsInstalled) {
   EXPECT_THAT(ids(layout.pages()[1]), ElementsAre("last", "new"));
 }
 
-TEST_F(IconStateTest, ByDefaultMusicStandsInTheBottomRowOfTheFirstPage) {
+TEST_F(IconStateTest, ByDefaultMusicIsInTheBottomRowOfTheFirstPage) {
   std::vector<InstalledApplication> all;
   for (const std::string& bundle : default_applications())
     all.push_back({bundle, bundle, {}});
@@ -120,7 +120,7 @@ TEST_F(IconStateTest, ByDefaultMusicStandsInTheBottomRowOfTheFirstPage) {
   EXPECT_EQ(layout.dock().size(), 4u);
 }
 
-TEST_F(IconStateTest, TheDefaultArrangementHasNoGapsForWhatIsMissing) {
+TEST_F(IconStateTest, TheDefaultArrangementHasNoGapsForMissingApplications) {
   const HomeLayout layout =
       default_layout({16, 4, 9}, installed({"com.apple.Preferences", "org.example.unknown"}));
   ASSERT_EQ(layout.pages().size(), 1u);
@@ -137,7 +137,7 @@ TEST_F(ApplicationCatalogTest, ReadsIdentifierNameAndPath) {
             (InstalledApplication{"com.apple.Music", "Music", (folder / "Music.app").string()}));
 }
 
-TEST_F(ApplicationCatalogTest, LeavesOutWhatIsNoApplication) {
+TEST_F(ApplicationCatalogTest, LeavesOutFoldersThatAreNotApplications) {
   write("Broken.app/Info.plist", "<plist>");
   write("Nameless.app/Info.plist", info("<key>CFBundleName</key><string>Nameless</string>"));
   write("Number.app/Info.plist", info("<key>CFBundleIdentifier</key><integer>4</integer>"));
@@ -147,14 +147,14 @@ TEST_F(ApplicationCatalogTest, LeavesOutWhatIsNoApplication) {
   const auto applications = read_applications(to_ns(folder.string()));
   ASSERT_EQ(applications.size(), 1u);
   EXPECT_EQ(applications[0].path, (folder / "First.app").string());
-  EXPECT_EQ(applications[0].name, "same") << "without a name the identifier stands in";
+  EXPECT_EQ(applications[0].name, "same") << "without a name the identifier is used";
 }
 
-TEST_F(ApplicationCatalogTest, AMissingFolderHoldsNothing) {
+TEST_F(ApplicationCatalogTest, AMissingFolderHasNoApplications) {
   EXPECT_TRUE(read_applications(to_ns((folder / "nowhere").string())).empty());
 }
 
-TEST_F(ApplicationCatalogTest, TheBuildMakesEveryApplicationOfTheDefaultArrangement) {
+TEST_F(ApplicationCatalogTest, TheBuildCreatesEveryApplicationOfTheDefaultArrangement) {
   std::vector<std::string> bundles;
   for (const auto& application : read_applications(SONAVUE_APPLICATIONS ""_ns)) {
     bundles.push_back(application.bundle);

@@ -11,14 +11,14 @@ void say(MessageBudget& budget, double second, int messages) {
     budget.count(second + static_cast<double>(i) / messages);
 }
 
-TEST(MessageBudget, LetsAnHonestApplicationTalk) {
+TEST(MessageBudget, AcceptsAnHonestApplication) {
   MessageBudget budget;
   for (int second = 0; second < 60; ++second)
     say(budget, second, 300);
   EXPECT_FALSE(budget.is_flooded());
 }
 
-TEST(MessageBudget, ForgivesOneSecondOfHaste) {
+TEST(MessageBudget, ForgivesOneBusySecond) {
   MessageBudget budget;
   say(budget, 100, MessageBudget::kMessagesPerSecond * 3);
   say(budget, 101, 10);
@@ -28,7 +28,7 @@ TEST(MessageBudget, ForgivesOneSecondOfHaste) {
   EXPECT_FALSE(budget.is_flooded());
 }
 
-TEST(MessageBudget, CallsTwoSecondsOfItAFlood) {
+TEST(MessageBudget, TwoBusySecondsAreAFlood) {
   MessageBudget budget;
   say(budget, 100, MessageBudget::kMessagesPerSecond * 2);
   say(budget, 101, MessageBudget::kMessagesPerSecond * 2);
@@ -37,7 +37,7 @@ TEST(MessageBudget, CallsTwoSecondsOfItAFlood) {
   EXPECT_TRUE(budget.is_flooded());
 }
 
-TEST(MessageBudget, DoesNotAddUpSecondsThatLieApart) {
+TEST(MessageBudget, DoesNotAddUpSeparateSeconds) {
   MessageBudget budget;
   for (int second = 0; second < 40; second += 4)
     say(budget, second, MessageBudget::kMessagesPerSecond * 2);

@@ -24,7 +24,7 @@ using host::test::PhoneTest;
 constexpr std::uint32_t kColor = 0xFF336699;
 constexpr double kDeadline = 60;
 
-/// Starts the strange application in place of every other.
+/// Starts the strange application instead of every other.
 class StrangePrograms final : public ProcessKeeper {
  public:
   StrangePrograms(const std::filesystem::path& folder, const std::string& behaviour)
@@ -75,7 +75,7 @@ class ProcessesTest : public PhoneTest {
   }
   RunningProcesses::Process music() const { return running_processes().find(kMusic); }
 
-  /// Serves the loop, whose clock stands, until something has come from the other process.
+  /// Runs the loop, whose clock does not move, until the other process has made the condition true.
   bool comes_true(const std::function<bool()>& condition) {
     const RealClock machine;
     const double deadline = machine.now() + kDeadline;
@@ -102,7 +102,7 @@ TEST_F(ProcessesTest, ATapOpensTheApplicationAndShowsWhatItDraws) {
   EXPECT_EQ(first_pixel(), kColor);
 }
 
-TEST_F(ProcessesTest, WithoutItsProgramAnApplicationHasOnlyItsLaunchScreen) {
+TEST_F(ProcessesTest, AnApplicationWithoutItsProgramHasOnlyALaunchScreen) {
   launch_with("honest");
   EXPECT_TRUE(open("com.apple.Preferences"));
   advance(1);
@@ -110,7 +110,7 @@ TEST_F(ProcessesTest, WithoutItsProgramAnApplicationHasOnlyItsLaunchScreen) {
   EXPECT_FALSE(running_processes().find("com.apple.Preferences"));
 }
 
-TEST_F(ProcessesTest, HomeLeavesTheApplicationRunningAndOpensItAgainAsItWas) {
+TEST_F(ProcessesTest, HomeLeavesTheApplicationRunningAndItReopensUnchanged) {
   launch_with("honest");
   open_music();
   ASSERT_TRUE(comes_true([&] { return has_picture(); }));
@@ -126,7 +126,7 @@ TEST_F(ProcessesTest, HomeLeavesTheApplicationRunningAndOpensItAgainAsItWas) {
   EXPECT_EQ(programs_->applications().process(kMusic), process);
 }
 
-TEST_F(ProcessesTest, TouchesGoToTheApplicationThatIsSeen) {
+TEST_F(ProcessesTest, TouchesGoToTheApplicationInFront) {
   launch_with("honest", Time::kStepped);
   open_music();
   const auto before = quartzcore::image_of(music()->picture())->serial();
@@ -141,14 +141,14 @@ TEST_F(ProcessesTest, TouchesGoToTheApplicationThatIsSeen) {
   EXPECT_EQ(quartzcore::image_of(music()->picture())->serial(), left);
 }
 
-TEST_F(ProcessesTest, OnASteppedClockThePictureIsThereWhenTheTimeIs) {
+TEST_F(ProcessesTest, OnASteppedClockThePictureIsUpToDateAtEachStep) {
   launch_with("honest", Time::kStepped);
   EXPECT_TRUE(open(kMusic));
   advance(0);
   EXPECT_TRUE(has_picture());
 }
 
-TEST_F(ProcessesTest, AnAnswerFromTheConsoleOfTheApplicationComesBack) {
+TEST_F(ProcessesTest, TheApplicationsConsoleAnswers) {
   launch_with("honest", Time::kStepped);
   open_music();
   EXPECT_EQ(ask_application("Music", "print 1"), "\"print 1\"");
@@ -162,8 +162,8 @@ TEST_F(ProcessesTest, OneThatAnswersIsLeftAlone) {
   for (int second = 0; second < 20; ++second) {
     advance(1);
     ASSERT_TRUE(music()) << "closed after " << second << " seconds";
-    // What it says comes in its order: with this answer the one to every question before it is
-    // there, however little of the machine's time a second of the clock has taken.
+    // Its messages arrive in order: with this answer, those to all earlier pings have arrived,
+    // however little real time a second of the clock has taken.
     ASSERT_EQ(ask_application("Music", "print 1"), "\"print 1\"");
   }
   EXPECT_TRUE(music()->is_alive());
@@ -201,14 +201,14 @@ TEST_F(ProcessesTest, OneThatCrashesFadesToTheHomeScreen) {
   EXPECT_EQ(SBUIController::sharedInstance().clickedMenuButton(), NO);
 }
 
-TEST_F(ProcessesTest, OneThatEndsInGoodOrderIsGone) {
+TEST_F(ProcessesTest, OneThatEndsProperlyIsForgotten) {
   launch_with("end");
   open_music();
   ASSERT_TRUE(comes_true([&] { return !music(); }));
   EXPECT_EQ(shown_now(), Shown::HomeScreen);
 }
 
-TEST_F(ProcessesTest, OneThatIsOpenedAfterItsEndBeginsAnew) {
+TEST_F(ProcessesTest, OneThatIsOpenedAfterItsEndStartsAgain) {
   launch_with("crash");
   open_music();
   ASSERT_TRUE(comes_true([&] { return log_.count("Music has ended") == 1; }));
@@ -218,7 +218,7 @@ TEST_F(ProcessesTest, OneThatIsOpenedAfterItsEndBeginsAnew) {
   EXPECT_EQ(shown_now(), Shown::HomeScreen);
 }
 
-TEST_F(ProcessesTest, OneThatSpeaksNonsenseIsClosed) {
+TEST_F(ProcessesTest, OneThatSendsInvalidMessagesIsClosed) {
   for (const char* behaviour : {"garbage", "bad-buffer"}) {
     launch_with(behaviour);
     open_music();
@@ -239,11 +239,11 @@ TEST_F(ProcessesTest, OneThatFloodsIsReadALittleAtATimeAndThenClosed) {
   while (music() && clock.now() < began + 10) {
     const auto before = quartzcore::image_of(music()->picture())->serial();
     advance(RunLoop::kFrame);
-    // However fast this machine is, the flood is ahead of the reader.
+    // However fast this machine is, the flood stays ahead of the reader.
     ASSERT_TRUE(comes_true([&] { return !music() || music()->has_more_to_say(); }));
     if (music()) most = std::max(most, quartzcore::image_of(music()->picture())->serial() - before);
   }
-  // A turn or two a frame, and of each one picture.
+  // One or two turns per frame, with one picture each.
   EXPECT_LE(most, 3u);
   EXPECT_GE(clock.now() - began, 1);
   EXPECT_TRUE(log_has("Music floods the phone with messages: closed"));
@@ -251,7 +251,7 @@ TEST_F(ProcessesTest, OneThatFloodsIsReadALittleAtATimeAndThenClosed) {
   EXPECT_EQ(shown_now(), Shown::HomeScreen);
 }
 
-TEST_F(ProcessesTest, OneThatFloodsLeavesTheHomeScreenEveryFrame) {
+TEST_F(ProcessesTest, OneThatFloodsDoesNotDelayTheHomeScreensFrames) {
   launch_with("flood");
   open_music();
   const auto is_ahead = [&] { return music() && music()->has_more_to_say(); };
@@ -274,7 +274,7 @@ TEST_F(ProcessesTest, OneThatFloodsLeavesTheHomeScreenEveryFrame) {
   }
 }
 
-TEST_F(ProcessesTest, OneThatWouldShrinkItsMemoryCannot) {
+TEST_F(ProcessesTest, OneCannotShrinkTheSharedMemory) {
   launch_with("shrink", Time::kStepped);
   open_music();
   ASSERT_TRUE(music());

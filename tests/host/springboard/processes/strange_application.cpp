@@ -11,8 +11,8 @@
 #include "host/application/wire/channel.h"
 #include "host/application/wire/message_reader.h"
 
-// An application without anything of the platform: it draws one colour, and then does what its
-// argument says, `--behaviour NAME … --listener NUMBER`.
+// An application without any of the platform's classes: it draws one colour, then behaves according
+// to its arguments, `--behaviour NAME … --listener NUMBER`.
 
 namespace {
 
@@ -33,7 +33,7 @@ void draw(Channel& channel, SharedSurface& surface) {
   send(channel, NewFrame{0, 0, 0, size.width, size.height});
 }
 
-/// Answers as every application does; a touch is a reason to draw.
+/// Answers like any application, and draws on a touch.
 void answer(Channel& channel, SharedSurface& surface, const ToApplication& message) {
   if (const auto* time = std::get_if<TimeIs>(&message))
     send(channel, ReachedTime{time->time, time->time + 1000});
@@ -55,7 +55,7 @@ void misbehave(const std::string& behaviour, Channel& channel, SharedSurface& su
   }
   if (behaviour == "garbage") channel.send("\xFF\xFF\xFF\xFFgarbage", Channel::Patience::Waits);
   if (behaviour == "bad-buffer") send(channel, NewFrame{7, 0, 0, 1, 1});
-  // What could make the home screen fault, if it were not forbidden.
+  // This would crash the home screen if it were allowed.
   if (behaviour == "shrink" && ftruncate(surface.descriptor(), 0) == 0) std::exit(1);
   if (behaviour == "flood") {
     for (;;)

@@ -11,7 +11,7 @@
 
 namespace host::test {
 
-/// A home screen on which the system's surfaces are used with a finger.
+/// A home screen whose system surfaces are used with a finger.
 class SurfaceTest : public PhoneTest {
  public:
   explicit SurfaceTest(std::string_view model = kDefaultDevice) : PhoneTest(model) {}
@@ -23,12 +23,12 @@ class SurfaceTest : public PhoneTest {
   CGPoint bottom_edge() const { return {screen().width / 2, screen().height - 3}; }
   CGPoint top_edge() const { return {screen().width / 2, 3}; }
   CGPoint middle() const { return {screen().width / 2, screen().height / 2}; }
-  /// Drags and lifts at once.
+  /// Drags, then lifts immediately.
   void fling(CGPoint from, CGPoint to, double seconds) {
     drag(from, to, seconds);
     lift();
   }
-  /// Nobody asks for frames: nothing moves.
+  /// True when no frames are requested, that is, nothing moves.
   bool is_at_rest() { return !loop.wants_frames(); }
 
   static springboard::ControlCentre& control_centre() {

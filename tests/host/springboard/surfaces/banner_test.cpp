@@ -27,7 +27,7 @@ TEST_F(BannerTest, ItSlidesDownAndLeavesAfterFiveSeconds) {
   EXPECT_FALSE(banners().banner());
 }
 
-TEST_F(BannerTest, OneComesAfterTheOther) {
+TEST_F(BannerTest, BannersAppearOneAfterTheOther) {
   present_banner("First");
   present_banner("Second");
   advance(5.8);
@@ -47,7 +47,7 @@ TEST_F(BannerTest, AFingerPushesItUp) {
   EXPECT_FALSE(notification_centre().is_presented());
 }
 
-TEST_F(BannerTest, HeldByAFingerItStays) {
+TEST_F(BannerTest, ItStaysWhileAFingerHoldsIt) {
   present_banner("Rain at noon");
   advance(1);
   drag({180, 40}, {180, 55}, 0.3, 8);
@@ -68,7 +68,7 @@ TEST_F(BannerTest, PulledDownItOpensTheNotificationCentre) {
   EXPECT_TRUE(notification_centre().is_presented());
 }
 
-TEST_F(BannerTest, ALeavingBannerSendsNoMessage) {
+TEST_F(BannerTest, ABannerThatLeavesSendsNoMessage) {
   present_banner("Rain at noon");
   advance(7);
   EXPECT_EQ(notification_centre().store().all().size(), 1u);

@@ -45,7 +45,7 @@ TEST_F(ControlCentreTest, AShortFastPullOpensIt) {
   EXPECT_TRUE(is_open());
 }
 
-TEST_F(ControlCentreTest, BeyondItsPlaceItGivesOnlyALittle) {
+TEST_F(ControlCentreTest, BeyondItsPlaceItMovesOnlyALittle) {
   fling(bottom_edge(), {middle().x, 250}, 0.3);
   settle();
   const CGFloat open = seen();
@@ -59,7 +59,7 @@ TEST_F(ControlCentreTest, BeyondItsPlaceItGivesOnlyALittle) {
   EXPECT_NEAR(seen(), open, 0.5);
 }
 
-TEST_F(ControlCentreTest, APullPresentsItByTheMessageAndLettingGoEarlyDismissesItByTheOther) {
+TEST_F(ControlCentreTest, APullSendsThePresentMessageAndAnEarlyReleaseTheDismissMessage) {
   const MethodSpy<"presentAnimated:", void(SBControlCenterController, BOOL)> presents(
       SBControlCenterController::cls());
   const MethodSpy<"dismissAnimated:", void(SBControlCenterController, BOOL)> dismisses(
@@ -78,7 +78,7 @@ TEST_F(ControlCentreTest, APullPresentsItByTheMessageAndLettingGoEarlyDismissesI
   EXPECT_TRUE(is_open());
 }
 
-/// Takes each finger that has gone far enough, as the gesture service does for its listeners.
+/// Claims each finger that has moved far enough, as the gesture service does for its listeners.
 class FarGestures final : public uikit::SystemGestures {
  public:
   FarGestures() { uikit::add_system_gestures(this); }
@@ -100,7 +100,7 @@ TEST_F(ControlCentreTest, ItGoesBackWhenAnotherGestureTakesTheFinger) {
   EXPECT_FALSE(control_centre().sheet());
 }
 
-TEST_F(ControlCentreTest, WhoeverSwallowsTheMessageKeepsItClosed) {
+TEST_F(ControlCentreTest, ItStaysClosedWhenAnExtensionSwallowsTheMessage) {
   const sonavue::test::ReplacedMethod<&swallow> replaced(SBControlCenterController::cls(),
                                                          "presentAnimated:");
   fling(bottom_edge(), {middle().x, 250}, 0.3);
@@ -109,19 +109,19 @@ TEST_F(ControlCentreTest, WhoeverSwallowsTheMessageKeepsItClosed) {
   EXPECT_FALSE(control_centre().sheet());
 }
 
-TEST_F(ControlCentreTest, APullThatBeginsAboveTheEdgeIsNone) {
+TEST_F(ControlCentreTest, APullThatBeginsAboveTheEdgeIsIgnored) {
   fling({middle().x, screen().height - 14}, {middle().x, 250}, 0.3);
   settle();
   EXPECT_FALSE(is_open());
 }
 
-TEST_F(ControlCentreTest, APullAlongTheEdgeIsNone) {
+TEST_F(ControlCentreTest, APullAlongTheEdgeIsIgnored) {
   fling({100, screen().height - 3}, {300, screen().height - 100}, 0.3);
   settle();
   EXPECT_FALSE(is_open());
 }
 
-TEST_F(ControlCentreTest, AFingerThatWentSidewaysStaysWithWhatItIsOn) {
+TEST_F(ControlCentreTest, AFingerThatWentSidewaysStaysWithItsView) {
   const SBIconView phone = icon_view(kPhone);
   const CGFloat x = on_screen(phone).x;
   press({x, screen().height - 9});
@@ -134,8 +134,8 @@ TEST_F(ControlCentreTest, AFingerThatWentSidewaysStaysWithWhatItIsOn) {
   EXPECT_FALSE(is_open());
 }
 
-TEST_F(ControlCentreTest, TheIconUnderThePullLosesItsTouch) {
-  // A folder of the dock's height: the icon of the dock is touched at the very bottom.
+TEST_F(ControlCentreTest, TheIconUnderThePullHasItsTouchCancelled) {
+  // At the very bottom, the finger is on the edge and on an icon of the dock.
   const SBIconView phone = icon_view(kPhone);
   const CGFloat x = on_screen(phone).x;
   press({x, screen().height - 9});
@@ -144,7 +144,7 @@ TEST_F(ControlCentreTest, TheIconUnderThePullLosesItsTouch) {
   EXPECT_TRUE(is_open());
 }
 
-TEST_F(ControlCentreTest, ItMayGoUnderAFinger) {
+TEST_F(ControlCentreTest, ItMayBeDismissedUnderAFinger) {
   fling(bottom_edge(), {middle().x, 250}, 0.3);
   settle();
   const CGFloat top = screen().height - seen();
@@ -189,7 +189,7 @@ TEST_F(ControlCentreTest, TheHomeButtonClosesItAndNothingElse) {
   EXPECT_EQ(SBIconController::sharedInstance().currentIconListIndex(), 1);
 }
 
-TEST_F(ControlCentreTest, TheBrightnessSliderDimsTheScreenAndHoldsTheSheet) {
+TEST_F(ControlCentreTest, TheBrightnessSliderDimsTheScreenAndDoesNotMoveTheSheet) {
   present_control_centre();
   settle();
   const CGFloat top = top_of(control_centre().sheet());

@@ -15,7 +15,7 @@ class LockScreenTest : public SurfaceTest {
   }
 };
 
-TEST_F(LockScreenTest, TheLockButtonTurnsTheDisplayOffAndNothingMoves) {
+TEST_F(LockScreenTest, TheLockButtonTurnsTheDisplayOffAndStopsAllAnimations) {
   press_lock();
   settle();
   EXPECT_TRUE(lock_screen().is_locked());
@@ -23,7 +23,7 @@ TEST_F(LockScreenTest, TheLockButtonTurnsTheDisplayOffAndNothingMoves) {
   EXPECT_TRUE(is_at_rest());
 }
 
-TEST_F(LockScreenTest, ADarkDisplayTakesNoTouches) {
+TEST_F(LockScreenTest, ADarkDisplayIgnoresTouches) {
   press_lock();
   settle();
   fling({40, 400}, {340, 400}, 0.2);
@@ -73,14 +73,14 @@ TEST_F(LockScreenTest, ASlideToTheLeftDoesNothing) {
   EXPECT_TRUE(lock_screen().is_locked());
 }
 
-TEST_F(LockScreenTest, TheIconsBelowAreOutOfReach) {
+TEST_F(LockScreenTest, TheIconsBelowGetNoTouches) {
   lock_and_wake();
   SBIconController::sharedInstance().setIsEditing(NO);
   press(on_screen(kMusic));
   EXPECT_FALSE(icon_view(kMusic).isHighlighted());
 }
 
-TEST_F(LockScreenTest, AMessageWakesItAndIsGoneAfterUnlocking) {
+TEST_F(LockScreenTest, AMessageWakesItAndDisappearsAfterUnlocking) {
   press_lock();
   settle();
   present_banner("Rain at noon");
@@ -92,7 +92,7 @@ TEST_F(LockScreenTest, AMessageWakesItAndIsGoneAfterUnlocking) {
   EXPECT_EQ(notification_centre().store().all().size(), 1u);
 }
 
-TEST_F(LockScreenTest, WhatWasReadDoesNotComeBackWithTheNextLock) {
+TEST_F(LockScreenTest, ReadMessagesDoNotReturnAtTheNextLock) {
   lock_and_wake();
   present_banner("Rain at noon");
   EXPECT_TRUE(lock_screen().panel()->has_messages());

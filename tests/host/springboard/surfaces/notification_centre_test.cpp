@@ -10,7 +10,7 @@ class NotificationCentreTest : public SurfaceTest {
  protected:
   bool is_open() const { return notification_centre().is_presented(); }
   NotificationCentrePanel& panel() { return *notification_centre().panel(); }
-  /// The lower edge of the glass.
+  /// The bottom edge of the glass.
   CGFloat seen() { return CGRect(panel().sheet().frame()).max_y(); }
 };
 
@@ -27,7 +27,7 @@ TEST_F(NotificationCentreTest, ItFollowsTheFinger) {
   EXPECT_NEAR(seen(), 220, 0.5);
 }
 
-TEST_F(NotificationCentreTest, FingersAndHomeGoThroughTheControllersMessages) {
+TEST_F(NotificationCentreTest, FingersAndHomeSendTheControllersMessages) {
   const objc::Class controller = SBNotificationCenterController::cls();
   const MethodSpy<"presentAnimated:", void(SBNotificationCenterController, BOOL)> presents(
       controller);
@@ -52,7 +52,7 @@ TEST_F(NotificationCentreTest, FingersAndHomeGoThroughTheControllersMessages) {
   EXPECT_EQ(dismisses.count(), 3);
 }
 
-TEST_F(NotificationCentreTest, WhatAnimatesNothingIsThereAndGoneAtOnce) {
+TEST_F(NotificationCentreTest, WithoutAnimationItOpensAndClosesAtOnce) {
   const auto controller = SBNotificationCenterController::sharedInstance();
   controller.presentAnimated(NO);
   EXPECT_NEAR(seen(), screen().height, 0.5);
@@ -60,13 +60,13 @@ TEST_F(NotificationCentreTest, WhatAnimatesNothingIsThereAndGoneAtOnce) {
   EXPECT_FALSE(notification_centre().panel());
 }
 
-TEST_F(NotificationCentreTest, APullThatBeginsBelowTheEdgeIsNone) {
+TEST_F(NotificationCentreTest, APullThatBeginsBelowTheEdgeIsIgnored) {
   fling({middle().x, 14}, {middle().x, 500}, 0.4);
   settle();
   EXPECT_FALSE(is_open());
 }
 
-TEST_F(NotificationCentreTest, APullUpFromItsFootClosesIt) {
+TEST_F(NotificationCentreTest, APullUpFromItsBottomClosesIt) {
   present_notification_centre();
   settle();
   fling({middle().x, screen().height - 5}, {middle().x, 200}, 0.3);

@@ -13,7 +13,7 @@ class ReachabilityTest : public SurfaceTest {
  protected:
   static SBReachabilityManager manager() { return SBReachabilityManager::sharedInstance(); }
   static bool is_active() { return manager().reachabilityModeActive(); }
-  /// How far the first window of that level is brought down; -1 when there is none.
+  /// How far the first window at this level is moved down; -1 when there is none.
   static CGFloat way_down(UIWindowLevel level) {
     for (const UIWindow window : uikit::visible_windows()) {
       if (window.windowLevel() == level) return window.transform().ty;
@@ -29,7 +29,7 @@ class ReachabilityTest : public SurfaceTest {
   }
 };
 
-TEST_F(ReachabilityTest, TheIconsComeDownToTheThumb) {
+TEST_F(ReachabilityTest, TheIconsMoveDownToTheThumb) {
   const CGFloat before = on_screen(kMusic).y;
   toggle_reachability();
   settle();
@@ -59,7 +59,7 @@ TEST_F(ReachabilityTest, TheStatusBarComesWithTheScreenAndABannerStays) {
   EXPECT_EQ(way_down(kLockScreenLevel - 1), 0);
 }
 
-TEST_F(ReachabilityTest, EachWayTakesAThirdOfASecond) {
+TEST_F(ReachabilityTest, EachMovementTakesAThirdOfASecond) {
   for (int way = 0; way < 2; ++way) {
     toggle_reachability();
     advance(0.3);
@@ -69,7 +69,7 @@ TEST_F(ReachabilityTest, EachWayTakesAThirdOfASecond) {
   }
 }
 
-TEST_F(ReachabilityTest, AskedForAgainItStaysAsItIs) {
+TEST_F(ReachabilityTest, ActivatingItAgainChangesNothing) {
   toggle_reachability();
   settle();
   advance(3);
@@ -77,7 +77,7 @@ TEST_F(ReachabilityTest, AskedForAgainItStaysAsItIs) {
   EXPECT_TRUE(is_at_rest());
   toggle_reachability();
   toggle_reachability();
-  // Longer than the first eight seconds.
+  // Beyond the first eight seconds.
   advance(4);
   EXPECT_TRUE(is_active());
   toggle_reachability();
@@ -89,7 +89,7 @@ TEST_F(ReachabilityTest, AskedForAgainItStaysAsItIs) {
   EXPECT_FALSE(is_there(kBehindScreenLevel));
 }
 
-TEST_F(ReachabilityTest, ItsTimeBeginsAnewWithEachWayDown) {
+TEST_F(ReachabilityTest, ItsTimeStartsAgainWithEachMovementDown) {
   toggle_reachability();
   advance(5);
   toggle_reachability();
@@ -99,7 +99,7 @@ TEST_F(ReachabilityTest, ItsTimeBeginsAnewWithEachWayDown) {
   EXPECT_TRUE(is_active());
 }
 
-TEST_F(ReachabilityTest, BroughtDownOnItsWayBackItHasOneWallpaper) {
+TEST_F(ReachabilityTest, ActivatedOnItsWayBackItHasOneWallpaper) {
   toggle_reachability();
   settle();
   toggle_reachability();
@@ -110,7 +110,7 @@ TEST_F(ReachabilityTest, BroughtDownOnItsWayBackItHasOneWallpaper) {
   EXPECT_EQ(count_of(kLockScreenLevel - 1), 1);
 }
 
-TEST_F(ReachabilityTest, OnlyTheLastWayBackTakesEverythingDown) {
+TEST_F(ReachabilityTest, OnlyTheLastMovementBackRemovesEverything) {
   toggle_reachability();
   settle();
   toggle_reachability();
@@ -118,7 +118,7 @@ TEST_F(ReachabilityTest, OnlyTheLastWayBackTakesEverythingDown) {
   toggle_reachability();
   advance(0.25);
   toggle_reachability();
-  // The first way back would have ended meanwhile, and so would the second way down.
+  // The first movement back and the second movement down would have ended meanwhile.
   advance(0.34);
   EXPECT_TRUE(is_there(kBehindScreenLevel));
   settle();
@@ -127,7 +127,7 @@ TEST_F(ReachabilityTest, OnlyTheLastWayBackTakesEverythingDown) {
 
 int times_fired = 0;
 
-TEST_F(ReachabilityTest, TheTimerFiresByAMessageThatOthersMayReplace) {
+TEST_F(ReachabilityTest, TheTimerSendsAMessageThatExtensionsMayReplace) {
   const auto method =
       class_getInstanceMethod(SBReachabilityManager::cls(), "_keepAliveTimerFired:"_sel);
   const auto before = method_setImplementation(
@@ -138,7 +138,7 @@ TEST_F(ReachabilityTest, TheTimerFiresByAMessageThatOthersMayReplace) {
   EXPECT_EQ(times_fired, 1);
 }
 
-TEST_F(ReachabilityTest, ARestartEndsItOnItsWay) {
+TEST_F(ReachabilityTest, ARelaunchEndsItAtAnyMoment) {
   for (const double moment : {0.1, 2.0, 2.1}) {
     toggle_reachability();
     if (moment > 2) toggle_reachability();
@@ -177,7 +177,7 @@ TEST_F(ReachabilityTest, ATapAboveTheScreenSendsItBack) {
   EXPECT_TRUE(icon_view(kCalendar).isHighlighted());
 }
 
-TEST_F(ReachabilityTest, TheWallpaperLiesBehindAndGoesWithIt) {
+TEST_F(ReachabilityTest, TheWallpaperIsBehindItAndIsRemovedWithIt) {
   const auto count = uikit::visible_windows().size();
   toggle_reachability();
   settle();
@@ -188,14 +188,14 @@ TEST_F(ReachabilityTest, TheWallpaperLiesBehindAndGoesWithIt) {
   EXPECT_EQ(uikit::visible_windows().size(), count);
 }
 
-TEST_F(ReachabilityTest, TwoTouchesOfHomeBringTheScreenDownAndLetItGo) {
+TEST_F(ReachabilityTest, TwoTouchesOfHomeMoveTheScreenDownAndBack) {
   EXPECT_TRUE(double_touch_home());
   EXPECT_TRUE(is_active());
   EXPECT_TRUE(double_touch_home());
   EXPECT_FALSE(is_active());
 }
 
-TEST_F(ReachabilityTest, NotOnALockedOrADarkPhone) {
+TEST_F(ReachabilityTest, ItIsNotAvailableOnALockedOrDarkPhone) {
   press_lock();
   EXPECT_TRUE(double_touch_home());
   EXPECT_FALSE(is_active());
@@ -210,7 +210,7 @@ class TabletReachabilityTest : public SurfaceTest {
   TabletReachabilityTest() : SurfaceTest("iPad4,1") {}
 };
 
-TEST_F(TabletReachabilityTest, ATabletHasNone) {
+TEST_F(TabletReachabilityTest, ATabletDoesNotSupportIt) {
   EXPECT_FALSE(SBReachabilityManager::reachabilitySupported());
   EXPECT_FALSE(double_touch_home());
 }

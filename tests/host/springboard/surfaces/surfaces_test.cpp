@@ -16,7 +16,7 @@ class ShortPhoneSurfacesTest : public PhoneTest {
   ShortPhoneSurfacesTest() : PhoneTest("iPhone5,1") {}
 };
 
-TEST_F(SurfacesTest, EveryClassAndMethodThatExtensionsReplaceIsThere) {
+TEST_F(SurfacesTest, EveryClassAndMethodThatExtensionsReplaceExists) {
   const struct {
     const char* class_name;
     const char* selector;
@@ -42,7 +42,7 @@ TEST_F(SurfacesTest, EveryClassAndMethodThatExtensionsReplaceIsThere) {
   }
 }
 
-TEST_F(SurfacesTest, TheControlCentreIsUpUntilItIsDismissed) {
+TEST_F(SurfacesTest, TheControlCentreIsPresentedUntilItIsDismissed) {
   const auto centre = SBControlCenterController::sharedInstance();
   present_control_centre();
   EXPECT_TRUE(centre.isPresented());
@@ -50,7 +50,7 @@ TEST_F(SurfacesTest, TheControlCentreIsUpUntilItIsDismissed) {
   EXPECT_FALSE(centre.isPresented());
 }
 
-TEST_F(SurfacesTest, ABannerShowsUntilANilOneTakesItAway) {
+TEST_F(SurfacesTest, ABannerShowsUntilANilOneRemovesIt) {
   present_banner("Rain at noon");
   EXPECT_TRUE(SBBannerController::sharedInstance().isShowingBanner());
   SBBannerController::sharedInstance()._presentBannerForContext(nil, 0);

@@ -13,7 +13,7 @@ class VolumeOverlayTest : public SurfaceTest {
   VolumeOverlay& overlay() { return SharedPart<VolumeOverlay>::get(); }
 };
 
-TEST_F(VolumeOverlayTest, ItLightsASixteenthOfTheVolumeAStep) {
+TEST_F(VolumeOverlayTest, EachStepIsASixteenthOfTheVolume) {
   overlay().show(0.75);
   EXPECT_EQ(overlay().lit_steps(), 12);
   overlay().show(0);
@@ -29,7 +29,7 @@ TEST_F(VolumeOverlayTest, ItFadesAfterOneAndAHalfSeconds) {
   EXPECT_FALSE(overlay().is_showing());
 }
 
-TEST_F(VolumeOverlayTest, EveryPressKeepsIt) {
+TEST_F(VolumeOverlayTest, EveryPressProlongsIt) {
   press_volume(VolumeButton::kUp);
   advance(1);
   press_volume(VolumeButton::kUp);
@@ -37,7 +37,7 @@ TEST_F(VolumeOverlayTest, EveryPressKeepsIt) {
   EXPECT_TRUE(overlay().is_showing());
 }
 
-TEST_F(VolumeOverlayTest, ItLiesAboveWhatExtensionsAndAlertsPutUp) {
+TEST_F(VolumeOverlayTest, ItIsAboveAlertsAndTheWindowsOfExtensions) {
   const auto alert =
       objc::Ref<UIWindow>::adopt(UIWindow::alloc().initWithFrame({{0, 0}, screen()}));
   alert->setWindowLevel(UIWindowLevelAlert);
@@ -51,7 +51,7 @@ TEST_F(VolumeOverlayTest, ItLiesAboveWhatExtensionsAndAlertsPutUp) {
   alert->setHidden(YES);
 }
 
-TEST_F(VolumeOverlayTest, TheControlCentreNeedsNone) {
+TEST_F(VolumeOverlayTest, TheControlCentreDoesNotNeedIt) {
   present_control_centre();
   settle();
   press_volume(VolumeButton::kUp);

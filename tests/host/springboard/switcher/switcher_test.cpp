@@ -49,7 +49,7 @@ class SwitcherTest : public SurfaceTest {
   }
 };
 
-TEST_F(SwitcherTest, ADoublePressCallsItUpWithTheHomeScreensCard) {
+TEST_F(SwitcherTest, ADoublePressShowsItWithTheHomeScreensCard) {
   call_up();
   EXPECT_TRUE(is_showing());
   EXPECT_EQ(app_switcher().row()->count(), 1u);
@@ -68,7 +68,7 @@ TEST_F(SwitcherTest, TheHomeScreensCardHasItsOwnLightStatusBar) {
   const std::string light = pixels_of(picture_of_home());
   set_status_bar_dark(true);
   EXPECT_TRUE(pixels_of(picture_of_home()) == light);
-  // Above an application it stays as that wants it.
+  // Over an application it keeps the application's colour.
   EXPECT_FALSE(pixels_of(picture_of_front()) == light);
   EXPECT_TRUE(set_status_bar_dark(false));
 }
@@ -85,7 +85,7 @@ TEST_F(SwitcherTest, ItZoomsOutOfTheWholeScreen) {
   settle();
 }
 
-TEST_F(SwitcherTest, HomeSendsItAwayAndNothingIsLeft) {
+TEST_F(SwitcherTest, HomeDismissesItAndNothingIsLeft) {
   call_up();
   press_home();
   EXPECT_FALSE(is_showing());
@@ -94,14 +94,14 @@ TEST_F(SwitcherTest, HomeSendsItAwayAndNothingIsLeft) {
   EXPECT_TRUE(is_at_rest());
 }
 
-TEST_F(SwitcherTest, AnotherDoublePressSendsItAway) {
+TEST_F(SwitcherTest, AnotherDoublePressDismissesIt) {
   call_up();
   call_up();
   EXPECT_FALSE(is_showing());
   EXPECT_EQ(windows_of_switcher(), 0);
 }
 
-TEST_F(SwitcherTest, CalledUpWhileItLeavesItStays) {
+TEST_F(SwitcherTest, ShownAgainWhileItLeavesItStays) {
   call_up();
   press_home();
   advance(0.2);
@@ -110,7 +110,7 @@ TEST_F(SwitcherTest, CalledUpWhileItLeavesItStays) {
   EXPECT_EQ(windows_of_switcher(), 1);
 }
 
-TEST_F(SwitcherTest, NotWhileThePhoneIsLocked) {
+TEST_F(SwitcherTest, ItDoesNotOpenWhileThePhoneIsLocked) {
   press_lock();
   press_lock();
   call_up();
@@ -125,7 +125,7 @@ TEST_F(SwitcherTest, LockingSendsItAway) {
   EXPECT_EQ(windows_of_switcher(), 0);
 }
 
-TEST_F(SwitcherTest, TheControlCentreGoesForIt) {
+TEST_F(SwitcherTest, ItClosesTheControlCentre) {
   present_control_centre();
   settle();
   call_up();
@@ -133,14 +133,14 @@ TEST_F(SwitcherTest, TheControlCentreGoesForIt) {
   EXPECT_FALSE(control_centre().is_presented());
 }
 
-TEST_F(SwitcherTest, TouchesOfHomeDoNotBringItDown) {
+TEST_F(SwitcherTest, TouchesOfHomeDoNotMoveItDown) {
   call_up();
   double_touch_home();
   EXPECT_FALSE(SBReachabilityManager::sharedInstance().reachabilityModeActive());
   EXPECT_TRUE(is_showing());
 }
 
-TEST_F(SwitcherTest, ApplicationsStandBehindTheHomeScreenTheLatestFirst) {
+TEST_F(SwitcherTest, ApplicationsFollowTheHomeScreenTheLatestFirst) {
   open_and_leave(kCalendar);
   open_and_leave(kPhotos);
   open_and_leave(kCalendar);
@@ -184,7 +184,7 @@ TEST_F(SwitcherTest, ATapOnTheHomeCardLeavesTheApplication) {
   EXPECT_EQ(shown_now(), Shown::HomeScreen);
 }
 
-TEST_F(SwitcherTest, ATapBesideTheCardsGoesBack) {
+TEST_F(SwitcherTest, ATapOutsideTheCardsGoesBack) {
   call_up();
   tap({middle().x, screen().height - 30});
   settle();
@@ -205,7 +205,7 @@ TEST_F(SwitcherTest, ACardThrownUpClosesItsApplication) {
   open_and_leave(kCalendar);
   open_and_leave(kPhotos);
   call_up();
-  // In the place of whoever ends processes here.
+  // Replaces the function that ends processes.
   Bundles closed;
   recent_applications().on_close([&](const std::string& bundle) { closed.push_back(bundle); });
   const CGPoint next{screen().width - 20, centre(kPhotos).y};
@@ -215,12 +215,12 @@ TEST_F(SwitcherTest, ACardThrownUpClosesItsApplication) {
   EXPECT_EQ(recent_applications().all(), Bundles{kCalendar});
   EXPECT_TRUE(is_showing());
   EXPECT_EQ(app_switcher().row()->count(), 2u);
-  // The one behind it has moved up.
+  // The next card has closed the gap.
   EXPECT_NEAR(centre(kCalendar).x - centre("").x, card("")->screen().frame().size.width + 22, 0.5);
   EXPECT_TRUE(is_at_rest());
 }
 
-TEST_F(SwitcherTest, ACardThatIsLiftedALittleFallsBack) {
+TEST_F(SwitcherTest, ACardThatIsLiftedSlightlyFallsBack) {
   open(kCalendar);
   settle();
   call_up();
@@ -255,14 +255,14 @@ TEST_F(SwitcherTest, TheHomeScreensCardCannotBeThrownAway) {
   EXPECT_EQ(app_switcher().row()->count(), 1u);
 }
 
-TEST_F(SwitcherTest, AnApplicationThatIsUninstalledHasNoCard) {
+TEST_F(SwitcherTest, AnUninstalledApplicationHasNoCard) {
   open_and_leave(kCalculator);
   uninstall(kCalculator);
   call_up();
   EXPECT_EQ(app_switcher().row()->count(), 1u);
 }
 
-TEST_F(SwitcherTest, PicturesAreKeptOnlyOfWhatIsRecent) {
+TEST_F(SwitcherTest, PicturesAreKeptOnlyForRecentApplications) {
   const objc::AutoreleasePool pool;
   RecentApplications recent;
   const UIImage image = icon(kCalendar).generateIconImage(SBIconImageFormatHomeScreen);
@@ -277,7 +277,7 @@ TEST_F(SwitcherTest, PicturesAreKeptOnlyOfWhatIsRecent) {
   EXPECT_TRUE(recent.all().empty());
 }
 
-TEST(RecentApplicationsTest, OnlyWhatIsThereIsClosed) {
+TEST(RecentApplicationsTest, OnlyARecentApplicationIsClosed) {
   RecentApplications recent;
   int closed = 0;
   recent.on_close([&](const std::string&) { ++closed; });

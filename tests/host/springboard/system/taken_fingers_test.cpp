@@ -15,7 +15,7 @@ using uikit::TouchInput;
 
 constexpr int kOther = 7;
 
-/// Something that the phone does while fingers lie on the screen.
+/// An action of the phone while fingers are on the screen.
 struct Deed {
   const char* name;
   void (*before)();
@@ -26,8 +26,8 @@ void PrintTo(const Deed& deed, std::ostream* out) {
   *out << deed.name;
 }
 
-/// A window over a part of the screen, such as an extension puts up, with a view that is told of
-/// everything.
+/// A window over a part of the screen, like one of an extension, with a view that records all
+/// touches.
 class TakenFingers : public SurfaceTest {
  protected:
   void SetUp() override {
@@ -59,7 +59,7 @@ class TakenFingers : public SurfaceTest {
 
 class EveryDeed : public TakenFingers, public ::testing::WithParamInterface<Deed> {};
 
-TEST_P(EveryDeed, TakesTheFingersAwayAndIgnoresThemUntilTheyLift) {
+TEST_P(EveryDeed, CancelsTheFingersAndIgnoresThemUntilTheyLift) {
   if (GetParam().before) GetParam().before();
   settle();
   UIKitTest::told();
@@ -118,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(
              }}),
     [](const auto& deed) { return std::string(deed.param.name); });
 
-TEST_F(TakenFingers, TheyAreGoneBeforeAnybodyHearsOfTheLock) {
+TEST_F(TakenFingers, TheyAreCancelledBeforeTheLockIsNotified) {
   const MethodSpy<"_handleDisplayTurnedOff", void(SBLockScreenViewController)> locks(
       SBLockScreenViewController::cls(), &UIKitTest::events());
   press(on_view());
@@ -126,7 +126,7 @@ TEST_F(TakenFingers, TheyAreGoneBeforeAnybodyHearsOfTheLock) {
   EXPECT_EQ(UIKitTest::told(), (Events{"view began", "view cancelled", "_handleDisplayTurnedOff"}));
 }
 
-TEST_F(TakenFingers, TheyAreGoneBeforeAnybodyHearsThatItUnlocks) {
+TEST_F(TakenFingers, TheyAreCancelledBeforeTheUnlockIsNotified) {
   lock_and_wake();
   const MethodSpy<"prepareForUIUnlock", void(SBLockScreenViewController)> unlocks(
       SBLockScreenViewController::cls(), &UIKitTest::events());
@@ -135,7 +135,7 @@ TEST_F(TakenFingers, TheyAreGoneBeforeAnybodyHearsThatItUnlocks) {
   EXPECT_EQ(UIKitTest::told(), (Events{"view began", "view cancelled", "prepareForUIUnlock"}));
 }
 
-TEST_F(TakenFingers, TheyAreGoneBeforeAnybodyHearsOfTheNotificationCentre) {
+TEST_F(TakenFingers, TheyAreCancelledBeforeTheNotificationCentreIsNotified) {
   const MethodSpy<"hostWillPresent", void(SBNotificationCenterViewController)> comes(
       SBNotificationCenterViewController::cls(), &UIKitTest::events());
   touches.began(kOther, on_view(), clock.now());
@@ -143,7 +143,7 @@ TEST_F(TakenFingers, TheyAreGoneBeforeAnybodyHearsOfTheNotificationCentre) {
   EXPECT_EQ(UIKitTest::told(), (Events{"view began", "view cancelled", "hostWillPresent"}));
 }
 
-TEST_F(TakenFingers, AnIconLetGoInTheDarkOpensNothing) {
+TEST_F(TakenFingers, AnIconReleasedInTheDarkOpensNothing) {
   window().setHidden(YES);
   press(on_screen(kCalendar));
   advance(0.1);
@@ -155,7 +155,7 @@ TEST_F(TakenFingers, AnIconLetGoInTheDarkOpensNothing) {
   EXPECT_EQ(shown_now(), Shown::HomeScreen);
 }
 
-TEST_F(TakenFingers, AnIconHeldIntoTheDarkIsNotRearranged) {
+TEST_F(TakenFingers, AnIconStillHeldInTheDarkDoesNotStartEditing) {
   window().setHidden(YES);
   press(on_screen(kCalendar));
   advance(0.3);
@@ -164,7 +164,7 @@ TEST_F(TakenFingers, AnIconHeldIntoTheDarkIsNotRearranged) {
   EXPECT_FALSE(SBIconController::sharedInstance().isEditing());
 }
 
-TEST_F(TakenFingers, AnIconCarriedIntoTheDarkStaysWhereItIsAimed) {
+TEST_F(TakenFingers, AnIconStillDraggedInTheDarkLandsAtItsTarget) {
   window().setHidden(YES);
   set_editing(true);
   const CGPoint photos = on_screen(kPhotos);
@@ -177,7 +177,7 @@ TEST_F(TakenFingers, AnIconCarriedIntoTheDarkStaysWhereItIsAimed) {
   EXPECT_FALSE(SBIconController::sharedInstance().isEditing());
 }
 
-TEST_F(TakenFingers, ADarkDisplayShowsAFingerToNobody) {
+TEST_F(TakenFingers, NoViewReceivesAFingerOnADarkDisplay) {
   window().setWindowLevel(kDisplayOffLevel + 1);
   lock();
   tap(on_view());
@@ -203,7 +203,7 @@ TEST_F(TakenFingers, LockingEndsTextInput) {
   EXPECT_FALSE(uikit::first_responder());
 }
 
-TEST_F(TakenFingers, ABannerThatIsPulledWhenAnApplicationOpensOpensNoCentre) {
+TEST_F(TakenFingers, ABannerPulledWhileAnApplicationOpensDoesNotOpenTheCentre) {
   window().setHidden(YES);
   present_banner("Rain at noon");
   advance(1);
@@ -213,10 +213,10 @@ TEST_F(TakenFingers, ABannerThatIsPulledWhenAnApplicationOpensOpensNoCentre) {
   EXPECT_TRUE(banners().is_showing_banner());
   lift();
   advance(7);
-  EXPECT_FALSE(banners().is_showing_banner()) << "it leaves by itself as ever";
+  EXPECT_FALSE(banners().is_showing_banner()) << "it leaves by itself as usual";
 }
 
-TEST_F(TakenFingers, AnEdgePullIsLetGoWhenTheDisplayTurnsOff) {
+TEST_F(TakenFingers, AnEdgePullIsCancelledWhenTheDisplayTurnsOff) {
   drag(bottom_edge(), {middle().x, 300}, 0.2);
   ASSERT_TRUE(control_centre().is_presented());
   lock();
@@ -228,7 +228,7 @@ TEST_F(TakenFingers, AnEdgePullIsLetGoWhenTheDisplayTurnsOff) {
   EXPECT_FALSE(control_centre().is_presented());
   fling(bottom_edge(), {middle().x, 250}, 0.3);
   settle();
-  EXPECT_TRUE(control_centre().is_presented()) << "the next finger pulls as ever";
+  EXPECT_TRUE(control_centre().is_presented()) << "the next finger pulls as usual";
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ TEST_F(Unrest, ApplicationsAreNamed) {
   expect_rest();
 }
 
-TEST_F(Unrest, AFingerIsNoticedWhereverItIs) {
+TEST_F(Unrest, AFingerIsNoticedAnywhere) {
   press(on_screen(kCalendar));
   expect("a finger is on SBIconView");
   lift();
@@ -71,7 +71,7 @@ TEST_F(Unrest, AFingerIsNoticedWhereverItIs) {
   expect_rest();
 }
 
-TEST_F(Unrest, AnIconHasToBeInItsSlotAndInReach) {
+TEST_F(Unrest, AnIconMustBeInItsSlotAndWithinReach) {
   const SBIconView view = icon_view(kMusic);
   const CGRect slot = view.frame();
   view.setFrame({{slot.origin.x + 1, slot.origin.y}, slot.size});
@@ -94,7 +94,7 @@ TEST_F(Unrest, AWindowThatTakesTouchesIsInTheWay) {
   window->setHidden(YES);
 }
 
-TEST_F(Unrest, WhatMovesIsNamed) {
+TEST_F(Unrest, AnimationsAreNamed) {
   const SBIconView view = icon_view(kMusic);
   UIView::animateWithDuration(1, objc::block([view] { view.setAlpha(0.5); }));
   expect("SBIconView is animated");
