@@ -37,7 +37,7 @@ std::optional<NSUInteger> end_of_host_without_path(NSString text) {
   return is_plain ? std::optional<NSUInteger>(end) : std::nullopt;
 }
 
-bool is_mended(NSURL self) {
+bool lacks_path(NSURL self) {
   return end_of_host_without_path(self.relativeString()).has_value();
 }
 
@@ -64,12 +64,12 @@ NSURL init(NSURL self, NSString text, NSURL base) {
 using TextOf = NSString (*)(NSURL, objc::Sel);
 
 NSString absolute_string(NSURL self) {
-  if (is_mended(self)) return self.relativeString();
+  if (lacks_path(self)) return self.relativeString();
   return reinterpret_cast<TextOf>(original_text)(self, "absoluteString"_sel);
 }
 
 NSString path(NSURL self) {
-  if (is_mended(self)) return ""_ns;
+  if (lacks_path(self)) return ""_ns;
   return reinterpret_cast<TextOf>(original_url_path)(self, "path"_sel);
 }
 

@@ -35,14 +35,14 @@ struct Content {
   }
 };
 
-struct Understood {
+struct ParsedFile {
   std::string bytes;
   objc::Ref<NSDictionary> dictionary;
 };
 
-// Never destroyed: its dictionaries must not outlive the runtime at the end of the process.
-std::map<std::string, Understood, std::less<>>& understood() {
-  static auto* const files = new std::map<std::string, Understood, std::less<>>;
+// Never destroyed: its dictionaries must not be released after the runtime has ended.
+std::map<std::string, ParsedFile, std::less<>>& parsed_files() {
+  static auto* const files = new std::map<std::string, ParsedFile, std::less<>>;
   return *files;
 }
 
@@ -90,9 +90,9 @@ bool can_be_shared(NSDictionary dictionary) {
 
 void keep(std::string path, Content content, NSDictionary dictionary) {
   if (!can_be_shared(dictionary)) return;
-  if (understood().size() >= kMostFiles) understood().clear();
-  understood()[std::move(path)] = {std::move(content.bytes),
-                                   objc::Ref<NSDictionary>::adopt(dictionary.copy())};
+  if (parsed_files().size() >= kMostFiles) parsed_files().clear();
+  parsed_files()[std::move(path)] = {std::move(content.bytes),
+                                     objc::Ref<NSDictionary>::adopt(dictionary.copy())};
 }
 
 objc::Imp original_reader = nullptr;
@@ -126,8 +126,8 @@ NSDictionary dictionary_with_contents(objc::Object cls, NSString path) {
   const char* real = path.fileSystemRepresentation();
   auto content = content_of(real);
   if (!content) return parse(cls, path);
-  const auto known = understood().find(std::string_view(real));
-  if (known != understood().end() && known->second.bytes == content->bytes)
+  const auto known = parsed_files().find(std::string_view(real));
+  if (known != parsed_files().end() && known->second.bytes == content->bytes)
     return NSDictionary::dictionaryWithDictionary(known->second.dictionary.get());
   const NSDictionary parsed = parse(cls, path);
   // The parser has read the file again. These are the bytes that it parsed only if the file has not

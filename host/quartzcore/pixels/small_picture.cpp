@@ -53,7 +53,7 @@ SONAVUE_WIDE void take_means(const std::vector<std::uint16_t>& sums, int rows,
 
 /// How far the k-th pixel after the middle of a square is towards the middle of the next, in
 /// sixteenths.
-std::uint16_t way(int k, int reduction) {
+std::uint16_t weight(int k, int reduction) {
   return static_cast<std::uint16_t>((kWhole * k + kWhole / 2) / reduction);
 }
 
@@ -91,9 +91,9 @@ template <class Pixels>
 template <int Reduction, class Pixels, class Bytes>
 [[gnu::always_inline]] inline void spread(const Line& line, std::uint8_t* to) {
   constexpr int kCount = sizeof(Bytes) / 4;
-  Pixels ways;
+  Pixels weights;
   for (int i = 0; i < 4 * kCount; ++i)
-    ways[i] = way(i / 4, Reduction);
+    weights[i] = weight(i / 4, Reduction);
   const auto step = static_cast<std::uint16_t>(kWhole * kCount / Reduction);
   const Pixels half = Pixels{} + static_cast<std::uint16_t>(kWhole * kWhole / 2);
   const std::uint16_t* const end = line.data() + line.size();
@@ -103,7 +103,7 @@ template <int Reduction, class Pixels, class Bytes>
   for (const std::uint16_t* pixel = line.data() + 4; pixel < end; pixel += 4) {
     fill(next, pixel);
     const Pixels gap = next - here;
-    Pixels mixed = here * static_cast<std::uint16_t>(kWhole) + half + gap * ways;
+    Pixels mixed = here * static_cast<std::uint16_t>(kWhole) + half + gap * weights;
     for (int done = 0; done < Reduction; done += kCount) {
       const Bytes bytes = __builtin_convertvector(mixed >> 8, Bytes);
       std::memcpy(to, &bytes, sizeof bytes);
@@ -151,7 +151,7 @@ class Enlarger {
       std::copy(line.begin() + 4, line.end() - 4, row_.begin());
       return row_.data();
     }
-    blend_lines(line_at(next - 1), line_at(next), way(from_middle % reduction_, reduction_),
+    blend_lines(line_at(next - 1), line_at(next), weight(from_middle % reduction_, reduction_),
                 blended_);
     spread_(blended_, row_.data());
     return row_.data() + std::ptrdiff_t{reduction_ / 2} * 4;

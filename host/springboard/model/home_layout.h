@@ -8,7 +8,7 @@
 
 namespace host::springboard {
 
-/// What stands in one slot: an application by its bundle identifier, or a folder of applications.
+/// The content of a slot: an application by its bundle identifier, or a folder of applications.
 struct Slot {
   std::string id;
   bool is_folder = false;

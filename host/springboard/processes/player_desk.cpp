@@ -14,7 +14,7 @@ using namespace application;
 
 namespace {
 
-constexpr double kLookEvery = 0.25;
+constexpr double kPollInterval = 0.25;
 // In seconds: how far the position extrapolated by the clock may differ from the player's own.
 constexpr double kElapsedTolerance = 0.4;
 
@@ -66,7 +66,7 @@ void play_song(std::uint64_t song) {
 }  // namespace
 
 PlayerDesk::~PlayerDesk() {
-  if (looks_ && RunLoop::has_main()) RunLoop::main().remove_timer(*looks_);
+  if (poll_timer_ && RunLoop::has_main()) RunLoop::main().remove_timer(*poll_timer_);
 }
 
 void PlayerDesk::carry_out(const SteerPlayer& command) {
@@ -91,36 +91,38 @@ void PlayerDesk::carry_out(const SteerPlayer& command) {
       media.setVolume(static_cast<float>(std::clamp(command.value, 0.0, 1.0)));
       break;
   }
-  look_soon();
+  poll_soon();
 }
 
 void PlayerDesk::watch(bool watches) {
   RunLoop& loop = RunLoop::main();
-  if (looks_) loop.remove_timer(*looks_);
-  looks_.reset();
-  told_.reset();
+  if (poll_timer_) loop.remove_timer(*poll_timer_);
+  poll_timer_.reset();
+  reported_.reset();
   if (!watches) return;
-  looks_ = loop.add_timer(loop.now() + kLookEvery, kLookEvery, [this] { look(); });
-  look_soon();
+  poll_timer_ = loop.add_timer(loop.now() + kPollInterval, kPollInterval, [this] { poll(); });
+  poll_soon();
 }
 
-void PlayerDesk::look_soon() {
+void PlayerDesk::poll_soon() {
   RunLoop::main().perform([this, life = std::weak_ptr<void>(life_)] {
-    if (!life.expired()) look();
+    if (!life.expired()) poll();
   });
 }
 
-void PlayerDesk::look() {
+void PlayerDesk::poll() {
   ApplicationProcess* front = front_();
   if (!front || !SBMediaController::cls()) return;
   const PlaybackIs now = playback_now();
   const double time = RunLoop::main().now();
-  const bool same = told_ && told_->song == now.song && told_->is_playing == now.is_playing &&
-                    told_->volume == now.volume && told_->duration == now.duration;
-  const double expected = same ? told_->elapsed + (now.is_playing ? time - told_at_ : 0) : 0;
+  const bool same = reported_ && reported_->song == now.song &&
+                    reported_->is_playing == now.is_playing && reported_->volume == now.volume &&
+                    reported_->duration == now.duration;
+  const double expected =
+      same ? reported_->elapsed + (now.is_playing ? time - reported_at_ : 0) : 0;
   if (same && std::abs(expected - now.elapsed) <= kElapsedTolerance) return;
-  told_ = now;
-  told_at_ = time;
+  reported_ = now;
+  reported_at_ = time;
   front->send(now);
 }
 

@@ -26,13 +26,13 @@ class PlayerDesk {
   void watch(bool watches);
 
  private:
-  void look();
-  void look_soon();
+  void poll();
+  void poll_soon();
 
   Front front_;
-  std::optional<RunLoop::Id> looks_;
-  std::optional<application::PlaybackIs> told_;
-  double told_at_ = 0;
+  std::optional<RunLoop::Id> poll_timer_;
+  std::optional<application::PlaybackIs> reported_;
+  double reported_at_ = 0;
   std::shared_ptr<void> life_ = std::make_shared<char>();
 };
 

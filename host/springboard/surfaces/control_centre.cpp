@@ -45,12 +45,12 @@ bool ControlCentre::bring_in() {
   window_ = make_surface_window(kControlCentreLevel);
   window_->addSubview(*view_);
   panel_ = std::make_unique<ControlCentrePanel>(
-      *view_, ControlCentrePanel::Wishes{[this] { self.dismissAnimated(YES); },
-                                         [this](UIPanGestureRecognizer pan) { panned(pan); },
-                                         [this](NSString bundle) {
-                                           self.dismissAnimated(YES);
-                                           if (!is_locked()) open_application(bundle);
-                                         }});
+      *view_, ControlCentrePanel::Callbacks{[this] { self.dismissAnimated(YES); },
+                                            [this](UIPanGestureRecognizer pan) { panned(pan); },
+                                            [this](NSString bundle) {
+                                              self.dismissAnimated(YES);
+                                              if (!is_locked()) open_application(bundle);
+                                            }});
   motion_.emplace(panel_->sheet(),
                   SheetMotion::Places{screen.size.height - panel_->height(), screen.size.height},
                   [this](Rest rest) { rested(rest); });

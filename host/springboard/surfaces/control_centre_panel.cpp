@@ -28,7 +28,7 @@ constexpr CGFloat kControlsLineAlpha = 0.16;
 
 }  // namespace
 
-ControlCentrePanel::ControlCentrePanel(UIView container, Wishes wishes) {
+ControlCentrePanel::ControlCentrePanel(UIView container, Callbacks callbacks) {
   const CGSize screen = container.bounds().size;
   const CGFloat width = std::min(screen.width, kWidestControls);
   const CGFloat brightness_top = kSwitchesTop + kSwitchesHeight;
@@ -40,8 +40,8 @@ ControlCentrePanel::ControlCentrePanel(UIView container, Wishes wishes) {
   shade_->setBackgroundColor(UIColor::blackColor());
   shade_->setAlpha(0);
   container.addSubview(*shade_);
-  actions_.on_tap(*shade_, wishes.dismiss);
-  actions_.on_pan(*shade_, wishes.pan);
+  actions_.on_tap(*shade_, callbacks.dismiss);
+  actions_.on_pan(*shade_, callbacks.pan);
 
   sheet_ = make_view<UIView>({0, screen.height, screen.width, height_ + kBelow});
   container.addSubview(*sheet_);
@@ -58,9 +58,9 @@ ControlCentrePanel::ControlCentrePanel(UIView container, Wishes wishes) {
                        width - 2 * kControlsMargin, PlaybackView::kHeight};
   playback_.emplace(content(), playing, Ink::kDark);
   add_line(tools_top);
-  add_tools(tools_top, wishes.open);
+  add_tools(tools_top, callbacks.open);
   // A finger on a slider moves only the slider.
-  actions_.on_pan(*sheet_, wishes.pan, [](UITouch touch) {
+  actions_.on_pan(*sheet_, callbacks.pan, [](UITouch touch) {
     return !touch.view().isKindOfClass(SBSurfaceSlider::cls());
   });
 }

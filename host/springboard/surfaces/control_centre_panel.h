@@ -14,14 +14,14 @@ namespace host::springboard {
 class ControlCentrePanel {
  public:
   /// The functions that touches on the panel call.
-  struct Wishes {
+  struct Callbacks {
     std::function<void()> dismiss;
     SurfaceActions::Pan pan;
     std::function<void(NSString bundle)> open;
   };
 
   /// `container` is as large as the screen.
-  ControlCentrePanel(UIView container, Wishes wishes);
+  ControlCentrePanel(UIView container, Callbacks callbacks);
   ~ControlCentrePanel();
   ControlCentrePanel(const ControlCentrePanel&) = delete;
   ControlCentrePanel& operator=(const ControlCentrePanel&) = delete;

@@ -47,8 +47,8 @@ void NotificationCentre::bring_in() {
   window_ = make_surface_window(kNotificationCentreLevel);
   panel_ = std::make_unique<NotificationCentrePanel>(
       *window_, *configuration().wall_clock,
-      NotificationCentrePanel::Wishes{[this](UIPanGestureRecognizer pan) { panned(pan); },
-                                      [this] { clear(); }});
+      NotificationCentrePanel::Callbacks{[this](UIPanGestureRecognizer pan) { panned(pan); },
+                                         [this] { clear(); }});
   panel_->show(store_.all());
   const CGRect sheet = panel_->sheet().frame();
   const CGFloat above = sheet.size.height - screen_grid().screen.height;

@@ -28,7 +28,7 @@ constexpr CGFloat kPageLineAlpha = 0.2;
 }  // namespace
 
 NotificationCentrePanel::NotificationCentrePanel(UIView window, const WallClock& clock,
-                                                 Wishes wishes) {
+                                                 Callbacks callbacks) {
   const CGSize screen = window.bounds().size;
   sheet_ = make_view<UIView>(
       {0, -screen.height - kGlassAboveCentre, screen.width, screen.height + kGlassAboveCentre});
@@ -36,12 +36,12 @@ NotificationCentrePanel::NotificationCentrePanel(UIView window, const WallClock&
   add_backdrop(*sheet_, sheet_->bounds(), kDarkBackdrop);
   add_tabs();
   add_today(clock);
-  add_messages(std::move(wishes.clear));
+  add_messages(std::move(callbacks.clear));
   const auto grip =
       make_view<UIView>({0, kGlassAboveCentre + screen.height - kGrip, screen.width, kGrip});
   sheet_->addSubview(*grip);
   add_grabber(*grip, {screen.width / 2, kGrip - 10}, UIColor::colorWithWhite(1, 0.45));
-  actions_.on_pan(*sheet_, wishes.pan);
+  actions_.on_pan(*sheet_, callbacks.pan);
   show_messages();
 }
 

@@ -12,12 +12,12 @@ namespace host::springboard {
 /// messages received. It is above the screen until it is pulled down.
 class NotificationCentrePanel {
  public:
-  struct Wishes {
+  struct Callbacks {
     SurfaceActions::Pan pan;
     std::function<void()> clear;
   };
 
-  NotificationCentrePanel(UIView window, const WallClock& clock, Wishes wishes);
+  NotificationCentrePanel(UIView window, const WallClock& clock, Callbacks callbacks);
   NotificationCentrePanel(const NotificationCentrePanel&) = delete;
   NotificationCentrePanel& operator=(const NotificationCentrePanel&) = delete;
 

@@ -52,7 +52,7 @@ void SheetMotion::go_to(Rest rest, CGFloat velocity) {
   const CGFloat way = place_of(rest) - top();
   const CGFloat pace = way == 0 ? 0 : velocity / way;
   const auto rested = objc::block([this, rest, travel, life = std::weak_ptr<void>(life_)](BOOL) {
-    if (!life.expired() && travel == travels_) tell(rest);
+    if (!life.expired() && travel == travels_) notify(rest);
   });
   UIView::animateWithDuration(kSheetTravel, 0, rest == Rest::kOpen ? kSheetDamping : 1,
                               std::max<CGFloat>(pace, 0), UIViewAnimationOptionAllowUserInteraction,
@@ -63,10 +63,10 @@ void SheetMotion::put(Rest rest) {
   ++travels_;
   panel_->layer().removeAllAnimations();
   set_top(place_of(rest));
-  tell(rest);
+  notify(rest);
 }
 
-void SheetMotion::tell(Rest rest) const {
+void SheetMotion::notify(Rest rest) const {
   // The callback may destroy this object.
   const Rested rested = rested_;
   rested(rest);

@@ -38,7 +38,7 @@ class SheetMotion {
   CGFloat place_of(Rest rest) const { return rest == Rest::kOpen ? places_.open : places_.closed; }
   CGFloat top() const { return CGRect(panel_->frame()).min_y(); }
   void set_top(CGFloat top) const;
-  void tell(Rest rest) const;
+  void notify(Rest rest) const;
 
   objc::Ref<UIView> panel_;
   Places places_;

@@ -77,7 +77,7 @@ void AppSwitcher::build() {
 }
 
 void AppSwitcher::add_home_card() {
-  row_->add({kHome, "Home"_ns, home_icon(), picture_of_home()}, wishes_for(kHome));
+  row_->add({kHome, "Home"_ns, home_icon(), picture_of_home()}, callbacks_for(kHome));
 }
 
 void AppSwitcher::add_card(SBApplication application) {
@@ -85,10 +85,10 @@ void AppSwitcher::add_card(SBApplication application) {
   const std::string bundle = to_string(application.bundleIdentifier());
   row_->add({bundle, application.displayName(), icon_of(application),
              recent_applications().picture(bundle)},
-            wishes_for(bundle));
+            callbacks_for(bundle));
 }
 
-SwitcherCard::Wishes AppSwitcher::wishes_for(const std::string& bundle) {
+SwitcherCard::Callbacks AppSwitcher::callbacks_for(const std::string& bundle) {
   return {[this, bundle] { choose(bundle); }, [this, bundle] { throw_away(bundle); }};
 }
 

@@ -35,7 +35,7 @@ class AppSwitcher : public objc::Implementation<AppSwitcher, SBAppSwitcherContro
   void build();
   void add_card(SBApplication application);
   void add_home_card();
-  SwitcherCard::Wishes wishes_for(const std::string& bundle);
+  SwitcherCard::Callbacks callbacks_for(const std::string& bundle);
   void choose(const std::string& bundle);
   void throw_away(const std::string& bundle);
   void leave_onto(const std::string& bundle);

@@ -24,9 +24,9 @@ constexpr CGFloat kCardDamping = 0.8;
 
 }  // namespace
 
-SwitcherCard::SwitcherCard(UIView row, CGRect frame, const Content& content, Wishes wishes)
+SwitcherCard::SwitcherCard(UIView row, CGRect frame, const Content& content, Callbacks callbacks)
     : bundle_(content.bundle),
-      wishes_(std::move(wishes)),
+      callbacks_(std::move(callbacks)),
       home_y_(frame.centre().y),
       screen_(make_view<UIImageView>(frame)) {
   screen_->setBackgroundColor(UIColor::colorWithWhite(kCardGround, 1));
@@ -34,8 +34,8 @@ SwitcherCard::SwitcherCard(UIView row, CGRect frame, const Content& content, Wis
   screen_->setUserInteractionEnabled(YES);
   row.addSubview(*screen_);
   add_label(row, frame, content);
-  actions_.on_tap(*screen_, [this] { wishes_.chosen(); });
-  actions_.on_tap(*label_, [this] { wishes_.chosen(); });
+  actions_.on_tap(*screen_, [this] { callbacks_.chosen(); });
+  actions_.on_tap(*label_, [this] { callbacks_.chosen(); });
   actions_.on_upright_pan(*screen_, [this](UIPanGestureRecognizer pan) { panned(pan); });
 }
 
@@ -75,7 +75,7 @@ void SwitcherCard::panned(UIPanGestureRecognizer pan) {
       lift(way);
       break;
     case UIGestureRecognizerStateEnded:
-      if (is_thrown(way, pan.velocityInView(nil).y)) return wishes_.thrown();
+      if (is_thrown(way, pan.velocityInView(nil).y)) return callbacks_.thrown();
       [[fallthrough]];
     default:
       fall_back();

@@ -21,14 +21,14 @@ class SwitcherCard {
     UIImage icon;
     UIImage picture;
   };
-  struct Wishes {
+  struct Callbacks {
     std::function<void()> chosen;
     /// The card has begun to leave.
     std::function<void()> thrown;
   };
 
   /// `frame` is the small screen's frame in the row.
-  SwitcherCard(UIView row, CGRect frame, const Content& content, Wishes wishes);
+  SwitcherCard(UIView row, CGRect frame, const Content& content, Callbacks callbacks);
   ~SwitcherCard();
   SwitcherCard(const SwitcherCard&) = delete;
   SwitcherCard& operator=(const SwitcherCard&) = delete;
@@ -49,7 +49,7 @@ class SwitcherCard {
   void fall_back() const;
 
   std::string bundle_;
-  Wishes wishes_;
+  Callbacks callbacks_;
   CGFloat home_y_;
   objc::Ref<UIImageView> screen_;
   objc::Ref<UIView> label_;

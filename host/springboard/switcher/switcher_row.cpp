@@ -55,9 +55,9 @@ void SwitcherRow::update_size() const {
   scroll_->setContentSize({screen.width + last * pitch(), screen.height});
 }
 
-void SwitcherRow::add(const SwitcherCard::Content& content, SwitcherCard::Wishes wishes) {
+void SwitcherRow::add(const SwitcherCard::Content& content, SwitcherCard::Callbacks callbacks) {
   cards_.push_back(
-      std::make_unique<SwitcherCard>(*scroll_, first_frame(), content, std::move(wishes)));
+      std::make_unique<SwitcherCard>(*scroll_, first_frame(), content, std::move(callbacks)));
   cards_.back()->set_centre_x(centre_of(cards_.size() - 1));
   update_size();
 }

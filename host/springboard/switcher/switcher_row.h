@@ -17,7 +17,7 @@ class SwitcherRow {
   SwitcherRow(const SwitcherRow&) = delete;
   SwitcherRow& operator=(const SwitcherRow&) = delete;
 
-  void add(const SwitcherCard::Content& content, SwitcherCard::Wishes wishes);
+  void add(const SwitcherCard::Content& content, SwitcherCard::Callbacks callbacks);
   /// Makes the card fly away; those behind it close the gap.
   void throw_away(const std::string& bundle);
   UIScrollView view() const { return scroll_.get(); }

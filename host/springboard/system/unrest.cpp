@@ -59,7 +59,7 @@ class Reasons {
   std::vector<std::string> words_;
 };
 
-void add_what_is_open(Reasons& reasons) {
+void add_open_surfaces(Reasons& reasons) {
   const SBIconController icons = SBIconController::sharedInstance();
   reasons.add(!SharedPart<Display>::get().is_on(), "the display is off");
   reasons.add(is_locked(), "the phone is locked");
@@ -140,7 +140,7 @@ std::string moving(CALayer layer) {
   return class_of(delegate ? delegate : NSObject(layer)) + " is animated";
 }
 
-void add_what_moves(Reasons& reasons) {
+void add_animations(Reasons& reasons) {
   std::vector<std::string> animated;
   for (const CALayer layer : quartzcore::animated_layers().all())
     animated.push_back(moving(layer));
@@ -152,11 +152,11 @@ void add_what_moves(Reasons& reasons) {
 
 std::vector<std::string> reasons_for_unrest() {
   Reasons reasons;
-  add_what_is_open(reasons);
+  add_open_surfaces(reasons);
   add_icons(reasons);
   add_windows_in_the_way(reasons);
   reasons.add_some(uikit::touch_traces());
-  add_what_moves(reasons);
+  add_animations(reasons);
   return reasons.take();
 }
 
