@@ -13,7 +13,7 @@ inline constexpr UIWindowLevel kBehindScreenLevel = UIWindowLevelNormal - 1;
 /// Above the status bar, which each card shows reduced.
 inline constexpr UIWindowLevel kSwitcherLevel = UIWindowLevelStatusBar + 10;
 inline constexpr UIWindowLevel kLockScreenLevel = UIWindowLevelStatusBar + 50;
-/// Of the status bar while the phone is locked: it lies on the lock screen.
+/// The status bar's level while the phone is locked: on top of the lock screen.
 inline constexpr UIWindowLevel kLockedStatusBarLevel = kLockScreenLevel + 1;
 inline constexpr UIWindowLevel kNotificationCentreLevel = UIWindowLevelStatusBar + 56;
 inline constexpr UIWindowLevel kControlCentreLevel = UIWindowLevelStatusBar + 66;
