@@ -4,8 +4,8 @@
 
 namespace sonavue {
 
-/// Opens a composer with the playing song in its text. A no-op without artwork, when no song has
-/// been shown yet.
+/// Opens a composer with the playing song in its text. A no-op while no artwork is shown, which is
+/// taken to mean that there is no song to share.
 void tweet(SpringBoard self);
 
 /// Cancels an open composer without animation, since the panel under it is about to close.
