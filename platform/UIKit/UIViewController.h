@@ -34,7 +34,7 @@ struct UIViewController : objc::Bound<UIViewController, "UIViewController", UIRe
   NSUInteger supportedInterfaceOrientations() const {
     return call<"supportedInterfaceOrientations", NSUInteger>();
   }
-  /// Called where supported orientations are unknown.
+  /// For callers that do not know supported orientations.
   BOOL shouldAutorotateToInterfaceOrientation(UIInterfaceOrientation orientation) const {
     return call<"shouldAutorotateToInterfaceOrientation:", BOOL>(orientation);
   }
