@@ -19,7 +19,7 @@ UITableViewCell make_cell() {
       UITableViewCell::alloc().initWithStyle(UITableViewCellStyleSubtitle, "song"_ns).autorelease();
   cell.textLabel().setFont(UIFont::systemFontOfSize(kTitleSize));
   cell.detailTextLabel().setFont(UIFont::systemFontOfSize(kLineSize));
-  cell.detailTextLabel().setTextColor(weak_color());
+  cell.detailTextLabel().setTextColor(second_line_color());
   cell.setSeparatorInset({0, kMargin + kRowCoverSide + kMargin, 0, 0});
   return cell;
 }

@@ -42,7 +42,7 @@ bool can_open_address(const std::string& address) {
 }
 
 bool open_address(const std::string& address) {
-  return can_open_address(address) && hand_over(kLinkKind, address, address) != HandedTo::Nobody;
+  return can_open_address(address) && hand_over(kLinkKind, address, address) != HandedTo::Failed;
 }
 
 }  // namespace host::social
