@@ -28,15 +28,17 @@ if(SONAVUE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror -fvisibility=hidden
-                    $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+                    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fpch-preprocess>
+                    # The platform's C functions return its own structures; that they are C++ types
+                    # here is harmless.
+                    $<$<CXX_COMPILER_ID:Clang>:-Wno-return-type-c-linkage>)
 if(CMAKE_UNITY_BUILD)
   # Of a batch these tell what is no fault of any of its files; the other presets look for them.
   add_compile_options(-Wno-shadow -Wno-subobject-linkage)
 endif()
 if(SONAVUE_PHONE)
-  # The platform's C functions return its own structures; that they are C++ types here is harmless.
   # Exceptions of the system pass through the library, which has no handler for any.
-  add_compile_options(-Wno-return-type-c-linkage -funwind-tables)
+  add_compile_options(-funwind-tables)
 else()
   # Some libraries ask for it, and precompiled headers are shared by sources that agree on it.
   add_compile_options(-pthread)
