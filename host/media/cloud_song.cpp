@@ -147,7 +147,7 @@ TagReading read_cloud_song(const std::string& path) {
   try {
     return read_text(path, text);
   } catch (const toml::parse_error& error) {
-    return refused_entry(fmt::format("is no entry of a song: {} in line {}", error.description(),
+    return refused_entry(fmt::format("is not a song entry: {} in line {}", error.description(),
                                      error.source().begin.line));
   } catch (const std::exception& error) {
     return refused_entry(std::string{"cannot be read: "} + error.what());

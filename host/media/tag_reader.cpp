@@ -124,10 +124,11 @@ TagReading refused_file(std::string reason) {
 
 TagReading read_opened(const std::string& path) {
   const TagLib::FileRef reference{path.c_str(), true, TagLib::AudioProperties::Average};
-  if (reference.isNull() || !reference.file()->isValid()) return refused_file("is no audio file");
+  if (reference.isNull() || !reference.file()->isValid())
+    return refused_file("is not an audio file");
   const TagLib::AudioProperties* audio = reference.audioProperties();
   if (audio == nullptr || audio->sampleRate() <= 0 || audio->channels() <= 0) {
-    return refused_file("has no audio in it");
+    return refused_file("contains no audio");
   }
   SongTags tags = tags_from(reference.file()->properties());
   if (tags.title.empty()) {

@@ -60,7 +60,7 @@ TEST_F(LibraryCloudSongs, AreSkippedInBothDirections) {
   media().changeTrack(1);
   EXPECT_EQ(current_title(), "Charlie");
   EXPECT_EQ(engine_path(), song_path("c.ogg"));
-  EXPECT_EQ(log.count("\"Brume\" is only in the cloud; it is passed over"), 1);
+  EXPECT_EQ(log.count("\"Brume\" is only in the cloud; it is skipped"), 1);
   media().changeTrack(-1);
   EXPECT_EQ(current_title(), "Bravo");
 }
