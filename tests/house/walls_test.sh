@@ -18,17 +18,24 @@ fail() {
 cd "$source"
 homes="objc platform ui settings tweak host"
 
-# The modules are the folders with an include root; each is represented by one of its headers.
+# The modules are the folders with an include root, each represented by one of its headers, and the
+# files that have a root without the rest of their folder.
 # shellcheck disable=SC2086
-find $homes -name CMakeLists.txt -exec sed -n 's/^sonavue_module(\(.*\))$/\1/p' {} + | sort >"$work/modules"
+find $homes -name CMakeLists.txt -exec sed -n 's/^sonavue_module(\(.*\))$/\1/p' {} + | sort >"$work/roots"
+grep -v ' FILES ' "$work/roots" >"$work/modules"
 while read -r module; do
   header=$(find "$module" -name '*.h' | sort | head -n 1)
   [ -z "$header" ] || echo "$module $header"
 done <"$work/modules" >"$work/headers"
+sed -n 's/ FILES / /p' "$work/roots" |
+  awk '{ for (i = 2; i <= NF; ++i) print $1 "/" $i, $1 "/" $i }' >>"$work/headers"
+sed -n 's/ FILES .*//p' "$work/roots" >"$work/shared"
 
-# Every folder with sources belongs to one module, and no module is inside another.
+# Every folder with sources belongs to one module, and no module is inside another. A folder whose
+# files have a root by themselves belongs to none.
 # shellcheck disable=SC2086
-find $homes \( -name '*.h' -o -name '*.cpp' \) -exec dirname {} + | sort -u >"$work/folders"
+find $homes \( -name '*.h' -o -name '*.cpp' \) -exec dirname {} + | sort -u |
+  grep -vxFf "$work/shared" >"$work/folders"
 awk 'NR == FNR { modules[$1]; next }
      { found = 0
        for (module in modules) if (index($1 "/", module "/") == 1) ++found
