@@ -1,5 +1,8 @@
 #include <dlfcn.h>
 
+#include <cstdlib>
+#include <memory>
+
 #include "host/foundation/loader.h"
 #include "platform/UIKit/UIScreen.h"
 #include "tests/tweak/panel_test.h"
@@ -69,6 +72,24 @@ TEST_F(Hooks, TwentyEightMethodsAreAddedToTheApplication) {
     EXPECT_TRUE(objc::same_encoding(method_getTypeEncoding(method), added.types))
         << added.selector << " is " << method_getTypeEncoding(method);
   }
+}
+
+// The runtime lists a class's methods from the last added one to the first.
+TEST_F(Hooks, TheMethodsAreAddedInTheOrderOfTheTable) {
+  load_extension();
+  unsigned count = 0;
+  const std::unique_ptr<objc::Method, decltype(&std::free)> methods(
+      class_copyMethodList(SpringBoard::cls(), &count), &std::free);
+  std::vector<std::string> added;
+  for (unsigned i = count; i > 0; --i) {
+    const objc::Method method = methods.get()[i - 1];
+    const std::string name = sel_getName(method_getName(method));
+    if (is_ours(method) && name != "applicationDidFinishLaunching:") added.push_back(name);
+  }
+  std::vector<std::string> expected;
+  for (const Added& each : kAdded)
+    expected.push_back(each.selector);
+  EXPECT_EQ(added, expected);
 }
 
 struct Hooked {
