@@ -45,7 +45,7 @@ class ProcessClock {
   std::optional<SteppedClock> stepped_;
 };
 
-/// The window, or an invisible screen when there is none.
+/// The window, or an invisible screen without one.
 struct Display {
   std::unique_ptr<screen::Screen> screen;
   std::unique_ptr<launcher::WindowService> service;

@@ -19,7 +19,7 @@ class ArtworkCache {
   explicit ArtworkCache(std::size_t byte_budget) : byte_budget_(byte_budget) {}
 
   // The cover with its longer side at most `longest_side` pixels, decoded now if it is not cached;
-  // null when there is none. A picture larger than the whole budget is returned but not cached.
+  // null without a picture. One larger than the whole budget is returned but not cached.
   PicturePtr picture(const CoverFile& cover, int longest_side);
   PicturePtr picture(const Track& track, int longest_side) {
     return picture(cover_of(track), longest_side);

@@ -25,7 +25,7 @@ bool has_audio_name(std::string_view name);
 TagReading read_tags(const std::string& path);
 
 // Returns the encoded picture (JPEG or PNG) inside the file, the front cover if there are several;
-// empty when there is none or when it is absurdly large.
+// empty when it is missing or absurdly large.
 std::vector<std::uint8_t> read_embedded_picture(const std::string& path);
 
 }  // namespace host::media

@@ -25,7 +25,7 @@ class Wanted {
     return wanted.is_text_ ? &wanted : nullptr;
   }
 
-  /// Returns the first occurrence in `text`, which must be plain; null when there is none. In plain
+  /// Returns the first occurrence in `text`, which must be plain; null if not found. In plain
   /// text every letter is a single code point, and so must be every letter that is found there.
   const char* find_in(std::string_view text) const {
     if (!is_plain_ || text.size() < bytes_.size()) return nullptr;

@@ -34,7 +34,7 @@ class MediaService {
   Playback& playback() { return playback_; }
   ArtworkImages& artwork() { return artwork_; }
 
-  /// Returns the loaded song; null when there is none, or the library no longer contains it.
+  /// Returns the loaded song; null if none is loaded or the library no longer contains it.
   const media::Track* now_playing() const;
   MPMediaItem now_playing_item();
 

@@ -1,6 +1,6 @@
 # cmake -D SOURCE=music.svg -D MASK=icon-mask.svg -D OUTPUT=masked/music.svg -P MaskPicture.cmake
-# wraps a drawing in a group masked by the one path of the mask file. It is a mask and not a clip path,
-# since a clip is applied to each shape by itself and lets colours below shine through at the edge.
+# wraps a drawing in a group that is masked by the path in the mask file. A clip path would not do:
+# it clips each shape separately, and colours below shine through at the edge.
 
 file(READ ${MASK} mask)
 if(NOT mask MATCHES " d=\"([^\"]+)\"")

@@ -1,5 +1,5 @@
-# The desktop's phone for the phone's kind of processor, run here by qemu. Its libraries are those that
-# tools/sysroot has unpacked; the files that they read as they run are this machine's own.
+# The desktop's phone for an arm64 processor, run by qemu. Its libraries come from tools/sysroot; files
+# that they read at run time come from this machine.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
@@ -14,12 +14,12 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(ENV{PKG_CONFIG_SYSROOT_DIR} ${sysroot})
 set(ENV{PKG_CONFIG_LIBDIR} ${libraries}/pkgconfig:${sysroot}/usr/share/pkgconfig)
 
-# As on the desktop and on the phone, where pictures and numbers shall be the same: a char has a
-# sign, and a product is rounded before something is added to it.
+# Pictures and numbers must be the same as on the desktop and on the phone: char is signed, and
+# multiplications are not fused with additions.
 set(CMAKE_C_FLAGS_INIT "-fsigned-char -ffp-contract=off")
 set(CMAKE_CXX_FLAGS_INIT ${CMAKE_C_FLAGS_INIT})
 
-# Where libraries lie that the scripts of their packages would have made known.
+# Library folders that the packages' install scripts would have registered.
 set(folders ${libraries} ${sysroot}/lib/aarch64-linux-gnu ${sysroot}/usr/lib ${libraries}/blas
             ${libraries}/lapack ${libraries}/pulseaudio)
 list(JOIN folders : search_path)
@@ -30,6 +30,6 @@ set(CMAKE_EXE_LINKER_FLAGS_INIT ${link})
 set(CMAKE_SHARED_LINKER_FLAGS_INIT ${link})
 set(CMAKE_MODULE_LINKER_FLAGS_INIT ${link})
 
-# The tables of other ways to write a text are loaded as code, too.
+# Character conversion tables are loaded as code, too.
 set(CMAKE_CROSSCOMPILING_EMULATOR
     qemu-aarch64-static -E LD_LIBRARY_PATH=${search_path} -E GCONV_PATH=${libraries}/gconv)

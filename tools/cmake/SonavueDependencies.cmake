@@ -1,4 +1,4 @@
-# Everything comes from Debian packages; tools/install-dependencies names them.
+# Everything comes from Debian packages, which are listed in tools/packages.
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
@@ -29,8 +29,8 @@ find_library(SONAVUE_LIBYUV yuv REQUIRED)
 find_library(SONAVUE_BLOCKS_RUNTIME BlocksRuntime REQUIRED)
 find_library(SONAVUE_GNUSTEP_BASE gnustep-base REQUIRED)
 
-# No symbol of Foundation is ever named, so the linker must be told to keep the library. It carries
-# a `_Block_copy` of its own that does not know our stack blocks: the real one must be found first.
+# The code names no symbol of Foundation, so the linker must be told to keep the library. It contains
+# its own `_Block_copy`, which does not support our stack blocks: the real one must be found first.
 add_library(sonavue_foundation INTERFACE)
 target_link_libraries(sonavue_foundation INTERFACE
   -Wl,--push-state,--no-as-needed ${SONAVUE_BLOCKS_RUNTIME} ${SONAVUE_GNUSTEP_BASE} objc

@@ -1,5 +1,5 @@
-# The house rules of the build: one language level, warnings as errors, and include roots that let
-# a target see the modules below it and nothing else.
+# The rules of the build: one language level, warnings as errors, and include roots that let a target
+# see only the modules that it links.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -13,7 +13,7 @@ option(SONAVUE_SANITIZE "Build with the address and undefined-behaviour sanitize
 
 option(SONAVUE_LLD "Link with lld" OFF)
 
-# GCC looks for a linker by its bare name, which Debian gives with the version only.
+# GCC searches for `ld.lld`; Debian installs it only with a version in its name.
 if(SONAVUE_LLD)
   find_program(SONAVUE_LLD_PROGRAM ld.lld-16 REQUIRED)
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/linker)
@@ -33,14 +33,14 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror
                     # here is harmless.
                     $<$<CXX_COMPILER_ID:Clang>:-Wno-return-type-c-linkage>)
 if(CMAKE_UNITY_BUILD)
-  # Of a batch these tell what is no fault of any of its files; the other presets look for them.
+  # In a batch these warn about code that is correct file by file; the other presets enable them.
   add_compile_options(-Wno-shadow -Wno-subobject-linkage)
 endif()
 if(SONAVUE_PHONE)
-  # Exceptions of the system pass through the library, which has no handler for any.
+  # Exceptions of the system pass through the library, which has no handlers.
   add_compile_options(-funwind-tables)
 else()
-  # Some libraries ask for it, and precompiled headers are shared by sources that agree on it.
+  # Some libraries require it, and sources that share precompiled headers must agree on it.
   add_compile_options(-pthread)
 endif()
 if(SONAVUE_SANITIZE)
@@ -49,11 +49,11 @@ if(SONAVUE_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# `sonavue_module(objc)` gives the folder objc/ an include root of its own, so that a target sees
-# exactly the modules it links: `#include "objc/send.h"` fails where objc is not below.
+# `sonavue_module(objc)` gives the folder objc/ its own include root, so that a target sees exactly
+# the modules that it links: `#include "objc/send.h"` fails in a target that does not link objc.
 # `sonavue_module(host/media)` does the same for an area inside a folder, as `host_media_root`: the
-# root shows that area, and nothing else of host/.
-# `sonavue_module(tweak FILES Sonavue2.h)` shows these files alone, and not the folders beside them.
+# root contains that area and nothing else of host/.
+# `sonavue_module(tweak FILES Sonavue2.h)` adds only these files, without the folders beside them.
 function(sonavue_module folder)
   cmake_parse_arguments(ARG "" "" "FILES" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
@@ -77,8 +77,8 @@ function(sonavue_module folder)
   target_include_directories(${name}_root INTERFACE ${root})
 endfunction()
 
-# Links all objects of static libraries, also those that nothing in the program refers to: libraries
-# loaded later bind to what they export. An interface library stands for the libraries that it links.
+# Links all objects of static libraries, even those that the program does not reference: libraries
+# that are loaded later bind to their symbols. An interface library stands for the libraries that it links.
 function(sonavue_link_whole target)
   foreach(library IN LISTS ARGN)
     get_target_property(kind ${library} TYPE)
@@ -87,7 +87,7 @@ function(sonavue_link_whole target)
       sonavue_link_whole(${target} ${parts})
       continue()
     endif()
-    # One option for each library: CMake leaves out an option that it has seen before.
+    # One option per library: CMake removes repeated options.
     target_link_options(${target} PRIVATE
       LINKER:--whole-archive,$<TARGET_FILE:${library}>,--no-whole-archive)
     target_link_libraries(${target} PRIVATE ${library})

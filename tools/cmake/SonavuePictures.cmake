@@ -1,6 +1,6 @@
-# Pictures are kept as SVG and rendered while building, all of them by one process (tools/draw_pictures).
+# Pictures are kept as SVG and rendered by the build, all in one process (tools/draw_pictures).
 
-# sonavue_picture(outputs SOURCE play.svg OUTPUT dir/Play@2x.png SIZE 100 100) has one file rendered and
+# sonavue_picture(outputs SOURCE play.svg OUTPUT dir/Play@2x.png SIZE 100 100) renders one file and
 # appends its path to the list `outputs`. SIZE is in pixels.
 function(sonavue_picture list)
   cmake_parse_arguments(ARG "" "SOURCE;OUTPUT" "SIZE" ${ARGN})

@@ -1,9 +1,9 @@
-# Headers that are read again and again are read once and shared: of the standard library alone, so that include roots stay the
-# walls that they are. They hide an include that is missing in a source, which is why only `dev` has them.
+# Shared precompiled headers. They contain only standard headers, so that include roots still separate the modules. They hide
+# missing includes, so only `dev` uses them.
 
 option(SONAVUE_PRECOMPILED "Share precompiled headers of the standard library" OFF)
 
-# sonavue_headers(name <header>…) makes the precompiled headers `name` from a source without content.
+# sonavue_headers(name <header>…) creates the precompiled headers `name` from an empty source.
 function(sonavue_headers name)
   set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
   file(CONFIGURE OUTPUT ${source} CONTENT "// Nothing but the headers that are precompiled with it.\n")
@@ -11,8 +11,8 @@ function(sonavue_headers name)
   target_precompile_headers(${name} PRIVATE ${ARGN})
 endfunction()
 
-# sonavue_share_headers(name FOLDER…) has every library of the folders use them. Programs are compiled in another way (-fPIE),
-# which precompiled headers have to be, too.
+# sonavue_share_headers(name FOLDER…) makes every library of the folders use them. Programs do not: they are compiled with -fPIE,
+# and precompiled headers must match that.
 function(sonavue_share_headers name)
   foreach(folder IN LISTS ARGN)
     get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)

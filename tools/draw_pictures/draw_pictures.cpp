@@ -1,7 +1,7 @@
-// draw_pictures LIST draws SVG files as PNG: one process for all of them, since most take less time
-// than the start of one. Each line of the list has four fields, parted by tabs: the SVG file, the
-// width and the height in pixels, the PNG file. A picture that is there in that size, and not older
-// than its drawing, is left alone.
+// draw_pictures LIST renders SVG files as PNG, all in one process, because most take less time than
+// starting a process. Each line of the list has four fields, separated by tabs: the SVG file, the
+// width and the height in pixels, the PNG file. A picture of the right size that is not older than
+// its SVG file is skipped.
 
 #include <cairo.h>
 #include <librsvg/rsvg.h>
@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What `rsvg-convert` takes for the resolution, too.
+// The default of `rsvg-convert`.
 constexpr double kDotsPerInch = 96;
 
 struct Picture {
@@ -74,7 +74,7 @@ bool read_line(const std::string& line, Picture& picture) {
          read_number(fields[2], picture.height);
 }
 
-/// The width and the height in the head of a PNG file; nothing is there where it has none.
+/// True if the header of the PNG file has this width and height.
 bool has_size(const std::string& png, int width, int height) {
   std::array<unsigned char, 24> head{};
   std::ifstream file(png, std::ios::binary);
@@ -130,7 +130,7 @@ bool draw_all(std::istream& list) {
   std::string loaded;
   Picture picture;
   for (std::string line; std::getline(list, line);) {
-    if (!read_line(line, picture)) return complain(line, "is no line of a list of pictures");
+    if (!read_line(line, picture)) return complain(line, "is not a valid line of a picture list");
     if (is_drawn(picture)) continue;
     if (loaded != picture.drawing) drawing = load(loaded = picture.drawing);
     if (!drawing || !draw(drawing.get(), picture)) return false;

@@ -7,9 +7,9 @@
 namespace host::quartzcore {
 namespace {
 
-// A picture that will be blurred this much loses nothing by being blurred small.
+// Blurring a reduced picture this much gives the same result.
 constexpr int kLargestReduction = 8;
-// Three passes of a box come close to the bell curve of the platform's blur.
+// Three passes of a box blur approximate the platform's Gaussian blur.
 constexpr int kPasses = 3;
 constexpr float kMost = 255;
 
@@ -17,7 +17,7 @@ Channels same(double value) {
   return Channels{} + static_cast<float>(value);
 }
 
-/// Pixels beyond the ends of a line repeat the last one.
+/// Pixels beyond the ends of a line repeat the last pixel.
 class Line {
  public:
   void take(const Channels* pixels, int count) { copy_.assign(pixels, pixels + count); }
@@ -45,7 +45,7 @@ void blur_rows(SmallPicture& picture, int radius) {
   }
 }
 
-// Row by row as well, with a sum for each column.
+// Also row by row, with a sum for each column.
 void blur_columns(SmallPicture& picture, int radius) {
   const Channels share = same(1.0 / (2 * radius + 1));
   const SmallPicture::Pixels copy = picture.pixels;
@@ -78,8 +78,8 @@ void blur(SmallPicture& picture, int radius) {
   }
 }
 
-/// The look as arithmetic on channels from 0 to 255. All that follows the limits of brightness is
-/// one multiplication and one addition.
+/// The look as arithmetic on channels from 0 to 255. After the brightness limits it is a single
+/// multiplication and addition.
 class Mixer {
  public:
   explicit Mixer(const BackdropLook& look) : saturation_(same(look.saturation)) {
@@ -126,8 +126,8 @@ int reduction_for(const BackdropLook& look, double scale) {
 }
 
 double filter_backdrop(SmallPicture& picture, const BackdropLook& look, double scale) {
-  // Three boxes of radius r spread like one bell of deviation about r; the platform's radius is
-  // twice that deviation.
+  // Three boxes of radius r have about the standard deviation r; the platform's radius is twice the
+  // deviation.
   const double radius = look.blur_radius * scale;
   blur(picture, static_cast<int>(std::lround(radius / picture.reduction / 2)));
   Mixer mixer{look};

@@ -5,12 +5,12 @@
 
 namespace host::quartzcore {
 
-/// How much smaller a picture may be blurred with this look so that nobody can tell; `scale` is the
-/// screen's pixels to the point.
+/// Returns how much a picture can be reduced before this blur without a visible difference. `scale`
+/// is in pixels per point.
 int reduction_for(const BackdropLook& look, double scale);
 
-/// Blurs and tints a picture that was reduced by `reduction_for` and gives the mean luminance of
-/// the blurred picture before its tints.
+/// Blurs and tints a picture that was reduced by `reduction_for`. Returns the mean luminance of the
+/// blurred picture before tinting.
 double filter_backdrop(SmallPicture& picture, const BackdropLook& look, double scale);
 
 }  // namespace host::quartzcore

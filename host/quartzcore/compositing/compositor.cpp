@@ -11,11 +11,11 @@
 namespace host::quartzcore {
 namespace {
 
-// More rectangles than these cost more in clipping than they save in pixels.
+// With more rectangles than this, clipping costs more than the saved pixels.
 constexpr std::size_t kMostRectangles = 4;
 constexpr int kMostRounds = 4;
-// A background as high and as wide as the screen is high takes almost two; the rest is for what
-// lies on it, and for all icons.
+// A square background of the screen's height takes almost two screens; the rest is for what is on
+// it and for all icons.
 constexpr long kScreensOfImages = 4;
 constexpr long kBytesOfPixel = 4;
 
@@ -57,7 +57,8 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   return damage;
 }
 
-// What comes into sight is drawn only now. Drawing may bring more into sight, but not for ever.
+// Layers that become visible are displayed only now. Displaying them can make more layers visible,
+// so this is repeated, but not without end.
 void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
   for (int round = 0; round < kMostRounds; ++round) {
     tree_.prepare(roots, screen_, scale_, now);
@@ -68,8 +69,8 @@ void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
   tree_.prepare(roots, screen_, scale_, now);
 }
 
-// Layers are compared by identity. What changed damages its old and its new place; what changed its
-// rank among the others damages its place as well.
+// Layers are compared by identity. A changed layer damages its old and its new area; a layer whose
+// order has changed damages its area, too.
 Damage Compositor::find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after) {
   std::unordered_map<std::uint64_t, int> places;
   places.reserve(before.size());
@@ -95,7 +96,7 @@ Damage Compositor::find_damage(const std::vector<Entry>& before, const std::vect
   for (std::size_t i = 0; i < before.size(); ++i) {
     if (!kept[i]) damage.push_back(before[i].own);
   }
-  // A blur is made from what lies under its whole place, so the whole place is painted for it.
+  // A blur needs everything under its whole area, so the whole area is painted for it.
   for (const RenderNode& one : tree_.nodes()) {
     if (one.layer->backdrop && !backdrop_is_ready(one)) damage.push_back(one.own);
   }
@@ -106,7 +107,7 @@ Damage Compositor::merged(Damage damage) const {
   std::erase_if(damage, [](const PixelRect& rect) { return rect.is_empty(); });
   Damage result;
   for (PixelRect rect : damage) {
-    // Swallowing one neighbour may make the rectangle touch another one.
+    // After absorbing a neighbour the rectangle may touch another one.
     for (std::size_t i = 0; i < result.size();) {
       if (intersects(result[i], rect)) {
         rect = united(result[i], rect);
@@ -131,7 +132,7 @@ bool Compositor::backdrop_is_ready(const RenderNode& one) const {
          found->second.place == one.own;
 }
 
-// The last drawing that hides everything before it, on the screen (-1) or in a group.
+// Returns the last drawing that hides everything before it, on the screen (-1) or in a group.
 int Compositor::first_needed(const PixelRect& damage, int group) const {
   const int end = group < 0 ? static_cast<int>(tree_.nodes().size()) : node(group).end;
   for (int i = end - 1; i > group; --i) {
@@ -162,8 +163,8 @@ void Compositor::paint_damage(const PixelRect& damage) {
   canvases_.clear();
 }
 
-// What was blurred is kept for as long as its backdrop may come back; a picture at the screen's
-// size is too large for that.
+// A blurred picture is kept for as long as its backdrop may come back. Screen-sized copies are too
+// large for that.
 void Compositor::forget_unused() {
   const auto is_shown = [&](std::uint64_t serial) {
     return std::any_of(tree_.nodes().begin(), tree_.nodes().end(),

@@ -13,36 +13,35 @@
 
 namespace host::quartzcore {
 
-/// The rectangles of pixels that a frame painted; none when nothing had changed.
+/// The pixel rectangles that a frame painted; empty when nothing changed.
 using Damage = std::vector<PixelRect>;
 
-/// Paints trees of layers into one surface of the screen's pixels, and of each frame only what
-/// differs from the frame before.
+/// Paints layer trees into one surface with the screen's pixels. Each frame paints only what
+/// differs from the previous frame.
 class Compositor {
  public:
-  /// Sizes in pixels; `scale` pixels to the point.
+  /// Sizes are in pixels; `scale` is in pixels per point.
   Compositor(int width, int height, double scale);
 
-  /// Brings the surface up to `roots` (drawn in their order, over black) at the clock time `now`.
+  /// Updates the surface to show `roots`, drawn in order over black, at the clock time `now`.
   Damage render(std::span<const CALayer> roots, double now);
 
-  /// Blurs ahead what backdrops that are faded out will show of a picture behind them, so that no
-  /// frame of their fade has to. Meant for the time between frames; where nothing is new it costs
-  /// next to nothing.
+  /// Blurs the pictures behind faded-out backdrops in advance, so that no frame of their fade has
+  /// to. To be called between frames; nearly free when nothing has changed.
   void prepare_ahead(std::span<const CALayer> roots, double now);
 
-  /// ARGB32, `width` × `height`. It stays the same surface for life.
+  /// ARGB32, `width` × `height`. The same surface for the compositor's lifetime.
   const Surface& surface() const { return surface_; }
   PixelRect screen() const { return screen_; }
   double scale() const { return scale_; }
 
   std::uint64_t frame_count() const { return frames_; }
   std::uint64_t painted_pixels() const { return painted_pixels_; }
-  /// How often a backdrop was really blurred, and a group really drawn.
+  /// How often backdrops were blurred and groups drawn, apart from cached results.
   std::uint64_t blur_count() const { return blurs_; }
   std::uint64_t group_count() const { return groups_drawn_; }
 
-  /// Forgets what is on the screen: the next frame paints all of it.
+  /// Discards the known state of the screen: the next frame paints everything.
   void invalidate() { entries_.clear(), last_changes_ = 0, damage_all_ = true; }
 
  private:
@@ -56,7 +55,7 @@ class Compositor {
     std::uint64_t frame = 0;
     PixelRect place;
     SmallPicture small;
-    // At the screen's size; made when the blur is painted for a second time.
+    // In screen size; created when the blur is painted a second time.
     Surface surface;
     bool is_enlarged = false;
   };
@@ -98,7 +97,7 @@ class Compositor {
   RenderTree tree_ahead_;
   ImageCache images_;
   std::vector<Entry> entries_;
-  // The screen below, groups above it: where a backdrop looks through.
+  // The screen at the bottom, groups above it: the canvases that a backdrop can see.
   std::vector<Canvas> canvases_;
   std::unordered_map<std::uint64_t, CachedBackdrop> backdrops_;
   std::unordered_map<std::uint64_t, CachedGroup> groups_;

@@ -12,7 +12,7 @@ std::uint64_t mix_place(std::uint64_t state, const Layer& layer) {
   return mix_signature(state, static_cast<std::uint64_t>(layer.model.hidden));
 }
 
-/// A number that changes with whatever a backdrop that lies in a picture may show of it.
+/// Returns a number that changes with everything that a backdrop inside a picture can show of it.
 std::uint64_t state_of_pictures() {
   std::uint64_t state = 1;
   for (const BackdropLayer* backdrop : all_backdrops()) {

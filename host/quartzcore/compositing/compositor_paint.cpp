@@ -20,7 +20,7 @@ void Compositor::paint_node(int index, const PixelRect& damage, int first) {
 
 void Compositor::paint_contents(int index, const PixelRect& damage, int first, double opacity) {
   const RenderNode& one = node(index);
-  // By value: drawing a group below may move the list of canvases.
+  // By value: drawing a group below may reallocate the list of canvases.
   const Canvas canvas = canvases_.back();
   cairo_save(canvas.drawing.get());
   if (index >= first && intersects(one.own, damage)) {
@@ -39,8 +39,8 @@ void Compositor::paint_contents(int index, const PixelRect& damage, int first, d
   cairo_restore(canvas.drawing.get());
 }
 
-// What a group shows when it is drawn alone: the opacity of the group itself and of everything
-// round it is left out, so that a fade draws the group once.
+// Identifies what a group shows by itself, without its own opacity and the opacity around it, so
+// that a fade draws the group only once.
 std::uint64_t Compositor::contents_of_group(int index) const {
   std::uint64_t result = 1;
   for (int i = index; i < node(index).end; ++i) {
@@ -75,8 +75,7 @@ void Compositor::paint_group(int index, const PixelRect& damage) {
 void Compositor::draw_group(int index, CachedGroup& group) {
   ++groups_drawn_;
   const int first = first_needed(group.place, index);
-  // Nothing cuts what fills the whole place: it needs no empty picture below, and makes an opaque
-  // one.
+  // A drawing that fills the whole area needs no empty picture below it, and the result is opaque.
   group.is_opaque = first >= 0;
   const auto prepared = group.is_opaque ? reused : emptied;
   group.surface = prepared(std::move(group.surface), group.place.width, group.place.height);
@@ -88,7 +87,7 @@ void Compositor::draw_group(int index, CachedGroup& group) {
 }
 
 void Compositor::apply_mask(int index) {
-  // By value: the mask's own canvas may move the list.
+  // By value: the mask's own canvas may reallocate the list.
   const Canvas canvas = canvases_.back();
   const int mask = node(index).mask;
   const Surface shape = make_surface(width_of(canvas.surface), height_of(canvas.surface));
@@ -106,7 +105,7 @@ void Compositor::apply_mask(int index) {
   cairo_set_operator(drawing, CAIRO_OPERATOR_OVER);
 }
 
-// Only a group's own picture may be empty where the screen is not.
+// Only a group's own picture can be empty where the screen is not.
 SmallPicture Compositor::small_picture_behind(const RenderNode& backdrop, int reduction) const {
   const PixelRect& place = backdrop.own;
   if (canvases_.size() == 1) return reduce(canvases_.front().surface, place, reduction);
@@ -121,7 +120,7 @@ SmallPicture Compositor::small_picture_behind(const RenderNode& backdrop, int re
   return reduce(picture, {0, 0, place.width, place.height}, reduction);
 }
 
-// A picture that only a backdrop sees is never brought to the size of the screen.
+// A picture that only a backdrop sees is never scaled to the screen.
 SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect& place,
                                        int reduction) {
   const Image& image = *shown.layer->model.contents.image();
@@ -144,8 +143,8 @@ SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect&
   return take_reduced(small, reduction);
 }
 
-// Backdrops over nothing but a picture are blurred before anything is painted: whoever paints then
-// knows that they hide the picture.
+// Backdrops over a single picture are blurred before anything is painted, so that painting can skip
+// the hidden picture.
 void Compositor::prepare_backdrops(const RenderTree& tree) {
   for (const RenderNode& one : tree.nodes()) {
     if (one.lone_picture < 0 || one.own.is_empty() || backdrop_is_ready(one)) continue;

@@ -9,7 +9,7 @@
 
 namespace host::quartzcore {
 
-/// Scaled copies of images, so that each is scaled once for a place and then only copied.
+/// Caches scaled copies of images, so that each is scaled once per size and then only copied.
 class ImageCache {
  public:
   enum class Pixels { AsTheyAre, Waited };
@@ -17,8 +17,8 @@ class ImageCache {
   /// The budget is in bytes of pixels.
   explicit ImageCache(long budget) : budget_(budget) {}
 
-  /// The image at that size in pixels; its own surface when that is its size. Null while promised
-  /// pixels are on their way, unless they are waited for.
+  /// Returns the image scaled to that size in pixels, or its own surface if it has that size. Null
+  /// while its pixels are still being decoded, unless the caller waits for them.
   Surface scaled(const Image& image, int width, int height, Pixels pixels = Pixels::AsTheyAre);
   long bytes() const { return bytes_; }
 

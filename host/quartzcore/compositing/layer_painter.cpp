@@ -31,8 +31,8 @@ void add_rounded_rect(cairo_t* drawing, const CGRect& r, double radius) {
   cairo_close_path(drawing);
 }
 
-/// Adds the bounds to the path; upright ones without corners end at whole pixels, so that hair
-/// lines are sharp and neighbours meet.
+/// Adds the bounds to the path. Upright bounds without rounded corners end at whole pixels, so that
+/// hairlines are sharp and neighbours meet.
 void add_bounds(const Canvas& canvas, const RenderNode& node) {
   cairo_t* drawing = canvas.drawing.get();
   const LayerProperties& p = node.properties;
@@ -94,7 +94,7 @@ void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, I
   const CGRect place = node.layer->model.contents.place_in(node.properties.bounds);
   if (!(place.size.width > 0) || !(place.size.height > 0)) return;
   cairo_save(canvas.drawing.get());
-  // Contents may reach beyond the bounds; only a layer that clips cuts itself as well.
+  // Contents may extend beyond the bounds, unless the layer clips.
   if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
   const bool own_size = box.width == image.width() && box.height == image.height();

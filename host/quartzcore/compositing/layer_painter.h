@@ -5,7 +5,7 @@
 
 namespace host::quartzcore {
 
-/// A surface under the brush and the pixel of the screen at its top left.
+/// The surface being painted, and the screen pixel at its top left.
 struct Canvas {
   Surface surface;
   Drawing drawing;
@@ -15,15 +15,15 @@ struct Canvas {
 
 Canvas make_canvas(Surface surface, int x, int y);
 
-/// Limits the canvas to the layer's bounds with their rounded corners.
+/// Clips the canvas to the layer's bounds with their rounded corners.
 void clip_to_layer(const Canvas& canvas, const RenderNode& node);
 
-/// Paints background, contents and drawing of the layer itself with the given opacity.
+/// Paints the layer's own background, contents and drawing with the given opacity.
 void paint_layer(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images);
-/// Paints the border, which lies above the sublayers.
+/// Paints the border, which is above the sublayers.
 void paint_border(const Canvas& canvas, const RenderNode& node, double opacity);
 
-/// Copies or blends `surface`, whose top left is the screen's pixel (x, y).
+/// Copies or blends `surface`, whose top left is the screen pixel (x, y).
 void paint_surface(const Canvas& canvas, const Surface& surface, int x, int y, double opacity,
                    Opacity kind);
 

@@ -12,7 +12,7 @@ std::uint64_t mix_transform(std::uint64_t signature, const CGAffineTransform& t)
       CGPoint{t.tx, t.ty});
 }
 
-/// The drawing of the layer itself, whatever stands around it.
+/// Returns the signature of the layer's own drawing, independent of its surroundings.
 std::uint64_t sign_drawing(const RenderNode& node) {
   const Layer& layer = *node.layer;
   const LayerProperties& p = node.properties;
@@ -76,14 +76,14 @@ bool draws_one_element(const RenderNode& node) {
   return elements_of(node) <= 1;
 }
 
-/// Limits what is inside to the bounds of the layer.
+/// Clips the sublayers to the bounds of the layer.
 void clip_to_bounds(const RenderNode& node, Surroundings& inner) {
   const CGRect box = CGRectApplyAffineTransform(node.properties.bounds, node.to_device);
   inner.clip = intersection(is_upright(node.to_device) ? nearest_pixels(box) : pixels_round(box),
                             inner.clip);
   if (node.properties.corner_radius <= 0 && is_upright(node.to_device)) return;
   inner.rounded_clip = true;
-  // A clip that is no plain rectangle changes pixels of the layers inside.
+  // A rounded or rotated clip changes pixels of the layers inside.
   inner.context = mix_signature(inner.context, sign_drawing(node));
 }
 
@@ -107,7 +107,7 @@ bool is_flat(const RenderNode& node) {
 void decide_group(RenderNode& node) {
   const Layer& layer = *node.layer;
   const double opacity = node.properties.opacity;
-  // One element without sublayers is painted with the opacity and needs no group.
+  // A single element without sublayers is painted with the opacity and needs no group.
   const bool is_faded = opacity < 1 || layer.model.should_rasterize;
   node.is_group = layer.tree.mask || (is_faded && !draws_one_element(node));
   node.opacity = node.is_group ? 1 : opacity;
@@ -121,11 +121,11 @@ void measure(RenderNode& node, const Surroundings& around) {
 
 void decide_cover(RenderNode& node, const Surroundings& around) {
   const bool is_cut = around.rounded_clip || around.is_mask || node.layer->tree.mask;
-  // While an image is stretched its edges need not be those of whole pixels.
+  // While an image is being scaled, its edges may be between pixels.
   node.hides_background =
       !node.is_scaling && fits_whole_pixels(node) && is_filled_by_contents(node);
   node.is_plain = !is_cut && is_upright(node.to_device) && node.properties.corner_radius <= 0;
-  // Inside its group a drawing is as opaque as it is; the group's opacity comes after it.
+  // Inside its group a drawing keeps its opacity; the group's opacity is applied later.
   node.is_opaque = (node.properties.opacity >= 1 || node.is_group) && !is_cut &&
                    !node.own.is_empty() && covers_its_pixels(node);
 }

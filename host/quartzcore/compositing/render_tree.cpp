@@ -7,7 +7,7 @@
 namespace host::quartzcore {
 namespace {
 
-/// The rectangle of the layer's own coordinates that `clip` shows, and a little more.
+/// Returns the rectangle that `clip` shows, in the layer's coordinates, and a little more.
 CGRect shown_part(const CGAffineTransform& to_device, const PixelRect& clip) {
   const CGRect pixels(clip.x - 1, clip.y - 1, clip.width + 2, clip.height + 2);
   return CGRectApplyAffineTransform(pixels, CGAffineTransformInvert(to_device));
@@ -67,7 +67,7 @@ void RenderTree::add_sublayers(const Layer& layer, const Surroundings& inner, do
                               [&](const Layer& child) { add(child, inner, now); });
 }
 
-/// Once all that is below the node has been added.
+/// To be called once the node's whole subtree has been added.
 void RenderTree::finish(int index) {
   at(index).end = count();
   dissolve_group(index);
@@ -81,7 +81,7 @@ bool RenderTree::is_within(int node, int ancestor) const {
   return node >= ancestor && node < at(ancestor).end;
 }
 
-// A fading layer in whose tree one element is drawn needs no picture of its own: the element is
+// A fading layer whose subtree draws a single element needs no offscreen picture: the element is
 // painted with the layer's opacity.
 void RenderTree::dissolve_group(int index) {
   RenderNode& group = at(index);
@@ -102,7 +102,7 @@ void RenderTree::dissolve_group(int index) {
   }
 }
 
-/// The last opaque drawing that fills the backdrop's place, or the first of all.
+/// Returns the last opaque drawing that fills the backdrop's area, or the first node.
 int RenderTree::first_seen(int index) const {
   const RenderNode& backdrop = at(index);
   for (int j = index - 1; j > 0; --j) {
@@ -128,9 +128,9 @@ int RenderTree::lone_picture(int first, int index) const {
   return first;
 }
 
-// What a backdrop shows depends on everything drawn before it in its place, back to the last opaque
-// drawing that fills the place. The opacity of the groups that hold the backdrop itself does not
-// matter: it is applied to the finished group.
+// A backdrop depends on everything drawn before it in its area, back to the last opaque drawing
+// that fills the area. The opacity of groups that contain the backdrop does not matter: it is
+// applied to the finished group.
 std::uint64_t RenderTree::signature_behind(int index, int first) const {
   const RenderNode& backdrop = at(index);
   std::uint64_t behind = backdrop.signature;

@@ -9,20 +9,20 @@
 
 namespace host::quartzcore {
 
-/// All layers of a frame that can be seen, and perhaps a few more, in drawing order.
+/// All visible layers of a frame, and possibly a few more, in drawing order.
 class RenderTree {
  public:
-  /// What becomes of layers without any opacity.
+  /// How fully transparent layers are treated.
   enum class FadedOut { Skipped, Included };
 
-  /// `screen` in pixels, `scale` pixels to the point, `now` the animations' time.
+  /// `screen` is in pixels, `scale` in pixels per point; `now` is the clock time.
   void prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale, double now,
                FadedOut faded_out = FadedOut::Skipped);
 
   const std::vector<RenderNode>& nodes() const { return nodes_; }
-  /// Layers in sight that are marked for display, which waits for as long as nobody can see it.
+  /// Visible layers that are marked for display. Layers out of sight are not displayed yet.
   const std::vector<CALayer>& undrawn() const { return undrawn_; }
-  /// Does `node` stand in the tree below `ancestor` (or is it the same)?
+  /// True if `node` is `ancestor` or below it in the tree.
   bool is_within(int node, int ancestor) const;
 
  private:

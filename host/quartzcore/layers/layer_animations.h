@@ -18,7 +18,7 @@ class LayerAnimations {
 
   bool empty() const { return animations_.empty(); }
   const std::vector<RunningAnimation>& all() const { return animations_; }
-  /// Null when there is none under the key.
+  /// Returns the animation with this key, or null.
   RunningAnimation* find(std::string_view key);
 
   /// Adds an animation to the layer and to the current transaction.

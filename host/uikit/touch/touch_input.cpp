@@ -67,7 +67,7 @@ NSUInteger TouchInput::count_tap(CGPoint point, double timestamp) {
 bool TouchInput::goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_point,
                                  double timestamp) {
   const auto found = fingers_.find(finger);
-  if (found == fingers_.end() || found->second.owner == Owner::Nobody) return false;
+  if (found == fingers_.end() || found->second.owner == Owner::None) return false;
   found->second.point = screen_point;
   const auto before = std::exchange(shown_, finger);
   const auto claim = system_claim(finger, phase, screen_point, timestamp);
@@ -75,7 +75,7 @@ bool TouchInput::goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_
   if (claim == SystemGestures::Claim::System) {
     found->second.owner = Owner::System;
     cancel(found->second, timestamp);
-  } else if (found->second.owner == Owner::Nobody) {
+  } else if (found->second.owner == Owner::None) {
     // It was taken away while the gestures saw it.
     system_claim(finger, UITouchPhaseCancelled, screen_point, timestamp);
   }
@@ -84,7 +84,7 @@ bool TouchInput::goes_to_windows(int finger, UITouchPhase phase, CGPoint screen_
 
 void TouchInput::began(int finger, CGPoint screen_point, double timestamp) {
   if (fingers_.contains(finger)) return moved(finger, screen_point, timestamp);
-  const Owner owner = touches_enabled ? Owner::Windows : Owner::Nobody;
+  const Owner owner = touches_enabled ? Owner::Windows : Owner::None;
   fingers_[finger] = {owner, screen_point, {}};
   if (goes_to_windows(finger, UITouchPhaseBegan, screen_point, timestamp) && !ignores_touches())
     land(finger, screen_point, timestamp);
@@ -129,7 +129,7 @@ void TouchInput::ended(int finger, CGPoint screen_point, double timestamp) {
 void TouchInput::cancelled(int finger, CGPoint screen_point, double timestamp) {
   const auto found = fingers_.find(finger);
   if (found == fingers_.end()) return;
-  if (found->second.owner != Owner::Nobody)
+  if (found->second.owner != Owner::None)
     system_claim(finger, UITouchPhaseCancelled, screen_point, timestamp);
   move(finger, screen_point, timestamp);
   forget(finger, UITouchPhaseCancelled, timestamp);
@@ -143,8 +143,8 @@ void TouchInput::cancel_all(double timestamp) {
 void TouchInput::take_away(Reach reach, double timestamp) {
   for (auto& [number, finger] : fingers_) {
     const bool is_out_of_reach = finger.owner == Owner::System && reach == Reach::Windows;
-    if (finger.owner == Owner::Nobody || is_out_of_reach) continue;
-    finger.owner = Owner::Nobody;
+    if (finger.owner == Owner::None || is_out_of_reach) continue;
+    finger.owner = Owner::None;
     cancel(finger, timestamp);
     // Gestures that are seeing the finger right now decide themselves whether they claim it.
     if (number != shown_) system_claim(number, UITouchPhaseCancelled, finger.point, timestamp);

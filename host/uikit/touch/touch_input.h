@@ -35,7 +35,7 @@ class TouchInput {
 
  private:
   /// The owner of a finger. Changes of a finger without an owner are ignored.
-  enum class Owner { Windows, System, Nobody };
+  enum class Owner { Windows, System, None };
   struct Finger {
     Owner owner = Owner::Windows;
     CGPoint point;
