@@ -4,12 +4,12 @@
 #include "objc/ref.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/MessageUI/MFMessageComposeViewController.h"
-#include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/credits/author_row.h"
 #include "settings/credits/authors.h"
 #include "settings/credits/card.h"
 #include "settings/credits/contact.h"
 #include "settings/globals.h"
+#include "ui/taps.h"
 
 namespace sonavue {
 namespace {
@@ -30,9 +30,7 @@ class AuthorCell : public objc::Implementation<AuthorCell<author, Cell>, Cell> {
                                           UITableViewCellStyleDefault, "headerCell"_ns, specifier);
     if (!made) return made;
     fill_author_row(made, author);
-    const auto tap = objc::adopt(
-        UITapGestureRecognizer::alloc().initWithTarget(made, "presentViewController"_sel));
-    made.addGestureRecognizer(tap);
+    add_tap(made, made, "presentViewController"_sel);
     return made;
   }
   CGFloat preferred_height(CGFloat) { return kAuthorRowHeight; }

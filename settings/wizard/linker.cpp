@@ -2,9 +2,9 @@
 
 #include "objc/ref.h"
 #include "platform/UIKit/UIImageView.h"
-#include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/pictures.h"
 #include "settings/wizard/row.h"
+#include "ui/taps.h"
 
 namespace sonavue {
 namespace {
@@ -25,8 +25,7 @@ void inizialize(Linker self, NSString name, UIImage image, BOOL border, objc::Ob
                 objc::Sel action) {
   dress_as_row(self, name, image, border ? RowBorder::kHairline : RowBorder::kNone);
   add_arrow(self);
-  const auto tap = objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(target, action));
-  self.addGestureRecognizer(tap);
+  add_tap(self, target, action);
 }
 
 Linker init_linker(Linker self, CGRect frame, NSString name, UIImage image, BOOL border,

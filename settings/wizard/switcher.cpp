@@ -3,12 +3,12 @@
 #include "objc/block.h"
 #include "objc/ref.h"
 #include "platform/Foundation/NSValue.h"
-#include "platform/UIKit/UITapGestureRecognizer.h"
 #include "settings/pictures.h"
 #include "settings/preferences.h"
 #include "settings/texts.h"
 #include "settings/wizard/row.h"
 #include "tweak/preferences/preferences_file.h"
+#include "ui/taps.h"
 
 namespace sonavue {
 namespace {
@@ -40,9 +40,7 @@ class SwitcherState : public objc::Implementation<SwitcherState, Switcher> {
   void inizialize(NSString name, UIImage image, BOOL border) {
     dress_as_row(self, name, image, border ? RowBorder::kHairline : RowBorder::kNone);
     add_track();
-    const auto tap =
-        objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(self, "animate"_sel));
-    self.addGestureRecognizer(tap);
+    add_tap(self, self, "animate"_sel);
     // It is drawn as off; if the setting is on, it moves there.
     if (is_true(self.getValue())) self.animate();
   }

@@ -4,6 +4,7 @@
 #include "tweak/library/album_tile.h"
 #include "tweak/library/song_cell.h"
 #include "tweak/look/pieces.h"
+#include "ui/taps.h"
 
 namespace sonavue {
 namespace {

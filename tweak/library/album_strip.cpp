@@ -6,6 +6,7 @@
 #include "tweak/library/song_cell.h"
 #include "tweak/look/geometry.h"
 #include "tweak/look/pieces.h"
+#include "ui/taps.h"
 
 namespace sonavue {
 namespace {

@@ -3,7 +3,6 @@
 #include "platform/Foundation/NSAttributedString.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/UIKit/NSAttributedStringAdditions.h"
-#include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tweak/Sonavue2.h"
 #include "tweak/look/measures.h"
 
@@ -32,11 +31,6 @@ objc::Ref<UILabel> make_tile_title(CGRect frame, NSString text) {
   label->setFont(UIFont::fontWithName(tile_font(), kTileTitleSize));
   label->setText(text);
   return label;
-}
-
-void add_tap(UIView view, objc::Object target, objc::Sel action) {
-  const auto tap = objc::adopt(UITapGestureRecognizer::alloc().initWithTarget(target, action));
-  view.addGestureRecognizer(tap);
 }
 
 void set_placeholder(UIColor colour) {

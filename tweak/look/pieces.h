@@ -17,9 +17,6 @@ UIView add_line_to_pages(CGRect frame);
 [[nodiscard]] objc::Ref<UILabel> make_tile_title(CGRect frame, NSString text);
 NSString tile_font();
 
-/// Makes a tap on the view send `action` to `target`.
-void add_tap(UIView view, objc::Object target, objc::Sel action);
-
 /// Sets the placeholder of the search field, in this colour.
 void set_placeholder(UIColor colour);
 

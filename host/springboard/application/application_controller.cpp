@@ -35,6 +35,10 @@ void ApplicationController::uninstall_application(SBApplication application) {
   std::erase_if(applications_, [&](const auto& other) { return other.get() == application; });
 }
 
+SBApplication installed_application(std::string_view bundle) {
+  return SBApplicationController::sharedInstance().applicationWithBundleIdentifier(to_ns(bundle));
+}
+
 void export_application_controller() {
   objc::ClassBuilder("SBApplicationController", "NSObject")
       .state<ApplicationController>()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "objc/class_builder.h"
@@ -22,6 +23,10 @@ class ApplicationController
  private:
   std::vector<objc::Ref<SBApplication>> applications_;
 };
+
+/// Returns the installed application with this bundle identifier, or nil. It is found by messages,
+/// as an extension finds it.
+SBApplication installed_application(std::string_view bundle);
 
 void export_application_controller();
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/springboard/application/application_controller.h"
 #include "host/springboard/common/make_view.h"
 #include "host/springboard/common/screen_grid.h"
 #include "host/springboard/common/shared_instance.h"
@@ -11,7 +12,6 @@
 #include "host/springboard/surfaces/display.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/uikit/touch/touch_input.h"
-#include "platform/SpringBoard/SBApplicationController.h"
 #include "platform/SpringBoard/SBUIController.h"
 
 namespace host::springboard {
@@ -22,9 +22,8 @@ constexpr double kShading = 0.35;
 void control_centre_will_present(SBControlCenterContainerView) {}
 
 void open_application(NSString bundle) {
-  const SBApplication application =
-      SBApplicationController::sharedInstance().applicationWithBundleIdentifier(bundle);
-  SBUIController::sharedInstance().activateApplicationAnimated(application);
+  SBUIController::sharedInstance().activateApplicationAnimated(
+      installed_application(to_string(bundle)));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "host/springboard/switcher/app_switcher.h"
 
+#include "host/springboard/application/application_controller.h"
 #include "host/springboard/common/make_view.h"
 #include "host/springboard/common/shared_instance.h"
 #include "host/springboard/icon/icon_image.h"
@@ -21,10 +22,6 @@ constexpr double kSwitcherFading = 0.15;
 constexpr NSUInteger kIconsOnHomeCard = 9;
 // Represents the home screen among the bundle identifiers.
 const std::string kHome;
-
-SBApplication application(const std::string& bundle) {
-  return SBApplicationController::sharedInstance().applicationWithBundleIdentifier(to_ns(bundle));
-}
 
 UIImage icon_of(SBApplication application) {
   const SBIcon icon = SBIconController::sharedInstance().model().expectedIconForDisplayIdentifier(
@@ -71,7 +68,7 @@ void AppSwitcher::build() {
   row_ = std::make_unique<SwitcherRow>(*window_, self);
   add_home_card();
   for (const std::string& bundle : recent.all())
-    add_card(application(bundle));
+    add_card(installed_application(bundle));
   actions_ = std::make_unique<SurfaceActions>();
   actions_->on_tap(row_->view(), [this] { dismiss(); });
 }
@@ -99,7 +96,7 @@ void AppSwitcher::choose(const std::string& bundle) {
     if (bundle.empty()) {
       recent_applications().leave();
     } else {
-      SBUIController::sharedInstance().activateApplicationAnimated(application(bundle));
+      SBUIController::sharedInstance().activateApplicationAnimated(installed_application(bundle));
     }
   }
   leave_onto(bundle);

@@ -1,5 +1,6 @@
 #include "host/springboard/system/system_actions.h"
 
+#include "host/springboard/application/application_controller.h"
 #include "host/springboard/common/shared_instance.h"
 #include "host/springboard/home/icon_controller.h"
 #include "host/springboard/model/strings.h"
@@ -15,10 +16,6 @@ namespace {
 
 HomeLayout& layout() {
   return icon_controller().icon_model().layout();
-}
-
-SBApplication application(std::string_view bundle) {
-  return SBApplicationController::sharedInstance().applicationWithBundleIdentifier(to_ns(bundle));
 }
 
 /// Shows and saves the arrangement if it was changed; returns `changed`.
@@ -67,13 +64,13 @@ Shown shown_now() {
 }
 
 bool open(std::string_view bundle) {
-  const SBApplication found = application(bundle);
+  const SBApplication found = installed_application(bundle);
   SBUIController::sharedInstance().activateApplicationAnimated(found);
   return static_cast<bool>(found);
 }
 
 bool uninstall(std::string_view bundle) {
-  const SBApplication found = application(bundle);
+  const SBApplication found = installed_application(bundle);
   if (!found) return false;
   recent_applications().forget(std::string(bundle));
   icon_controller().icon_model().remove_application(std::string(bundle));
