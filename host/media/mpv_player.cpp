@@ -39,6 +39,11 @@ constexpr Option engine_options[] = {
     {"cache", "no"},
 };
 
+// Scripts for the engine's own window, each a thread with an interpreter. An engine that is built
+// without the interpreter does not know these options.
+constexpr const char* own_scripts[] = {"osc", "load-stats-overlay", "load-osd-console",
+                                       "load-auto-profiles"};
+
 // An audio device with a buffer of one sample that never accepts another: the engine's position is
 // then exactly the last seek target, playing or paused. The clock decides when a song is over; on
 // its own, the engine would unload a file as soon as it had decoded the end.
@@ -95,6 +100,9 @@ bool MpvPlayer::prepare() {
       return mpv_set_option_string(engine_.get(), option.name, option.value) >= 0;
     });
   };
+  for (const char* script : own_scripts) {
+    mpv_set_option_string(engine_.get(), script, "no");
+  }
   const Option output{"ao", options_.audio_output.c_str()};
   if (!set_options(engine_options)) return false;
   if (is_stepped() ? !set_options(stepped_options) : !set_options({&output, 1})) return false;
