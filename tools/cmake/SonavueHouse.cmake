@@ -77,6 +77,12 @@ function(sonavue_module folder)
   target_include_directories(${name}_root INTERFACE ${root})
 endfunction()
 
+# sonavue_pixel_loops(FILE…) optimises sources that are loops over all pixels of a frame in every preset: unoptimised, they are
+# most of the time of a test that shows something. Precompiled headers must match the optimisation, so these do without.
+function(sonavue_pixel_loops)
+  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O3 SKIP_PRECOMPILE_HEADERS ON)
+endfunction()
+
 # Links all objects of static libraries, even those that the program does not reference: libraries
 # that are loaded later bind to their symbols. An interface library stands for the libraries that it links.
 function(sonavue_link_whole target)
