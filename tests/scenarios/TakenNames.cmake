@@ -17,6 +17,9 @@ endforeach()
 set(first_page SonavueSettingsController)
 list(REMOVE_ITEM own_classes ${first_page})
 
+# The settings use none of these.
+set(panel_classes M13ProgressView M13ProgressViewRing MusicsAlbum Musicz SVActivatorListener SVHits Scroller)
+
 # sonavue_taken_names(TEST SONAVUE SCENARIO NAME…) plays a scenario on a phone whose names are taken.
 function(sonavue_taken_names test sonavue scenario)
   string(REPLACE ";" " " names "${ARGN}")

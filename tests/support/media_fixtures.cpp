@@ -9,10 +9,12 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <numbers>
 #include <stdexcept>
+#include <utility>
 
 #include "host/demo_music/audio_file.h"
 #include "host/media/tag_writer.h"
@@ -55,6 +57,21 @@ void append_chunk(std::string& bytes, std::string_view type, std::string_view co
   checked += content;
   bytes += checked;
   append_word(bytes, png_checksum(checked));
+}
+
+void encode_tone(const std::string& path, double seconds) {
+  // Eleven periods of the tone, after which it repeats itself.
+  std::array<float, tone_rate * 11 / 440> periods;
+  for (std::size_t i = 0; i < periods.size(); ++i) {
+    const double phase = 2 * std::numbers::pi * 440.0 * static_cast<double>(i) / tone_rate;
+    periods[i] = static_cast<float>(0.2 * std::sin(phase));
+  }
+  std::vector<float> samples(static_cast<std::size_t>(seconds * tone_rate));
+  for (std::size_t i = 0; i < samples.size(); ++i)
+    samples[i] = periods[i % periods.size()];
+  if (!host::media::write_audio(path, samples, tone_rate)) {
+    throw std::runtime_error{"cannot write " + path};
+  }
 }
 
 }  // namespace
@@ -104,17 +121,14 @@ int CapturedLog::count(std::string_view text) const {
 }
 
 void write_tone(const std::string& path, double seconds) {
-  // Eleven periods of the tone, after which it repeats itself.
-  std::array<float, tone_rate * 11 / 440> periods;
-  for (std::size_t i = 0; i < periods.size(); ++i) {
-    const double phase = 2 * std::numbers::pi * 440.0 * static_cast<double>(i) / tone_rate;
-    periods[i] = static_cast<float>(0.2 * std::sin(phase));
-  }
-  std::vector<float> samples(static_cast<std::size_t>(seconds * tone_rate));
-  for (std::size_t i = 0; i < samples.size(); ++i)
-    samples[i] = periods[i % periods.size()];
-  if (!host::media::write_audio(path, samples, tone_rate)) {
-    throw std::runtime_error{"cannot write " + path};
+  // Songs of one length are the same tone: encoding it is most of the work.
+  static std::map<std::pair<std::string, double>, std::string> written;
+  std::string& bytes = written[{std::filesystem::path{path}.extension(), seconds}];
+  if (bytes.empty()) {
+    encode_tone(path, seconds);
+    bytes = read_bytes(path);
+  } else {
+    write_bytes(path, bytes);
   }
 }
 
