@@ -43,7 +43,7 @@ std::optional<Script> read_script(const std::string& file) {
   return made;
 }
 
-ConsoleFront::ConsoleFront(Script script, int input, std::FILE* output, std::FILE* errors)
+ConsoleFront::ConsoleFront(const Script& script, int input, std::FILE* output, std::FILE* errors)
     : input_(input), answers_all_(input >= 0), output_(output), errors_(errors) {
   put_first(script, 0);
   if (input_ < 0) typed_.push_back(kQuit);

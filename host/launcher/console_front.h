@@ -27,7 +27,7 @@ class ConsoleFront {
 
   /// `input` is read after the script; -1 means a console that ends with its script. Answers are
   /// printed to `output`; a failure in a script ends the console and is printed to `errors`.
-  ConsoleFront(Script script, int input, std::FILE* output, std::FILE* errors);
+  ConsoleFront(const Script& script, int input, std::FILE* output, std::FILE* errors);
 
   /// Connects the front to a process.
   void attach(int descriptor);

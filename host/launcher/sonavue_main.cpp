@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 #include "host/launcher/installation.h"
 #include "host/launcher/options.h"
@@ -35,7 +36,7 @@ std::optional<ConsoleFront> console_for(const Options& options) {
     if (!read) return std::nullopt;
     script = std::move(*read);
   }
-  return ConsoleFront(std::move(script), options.console ? STDIN_FILENO : -1, stdout, stderr);
+  return ConsoleFront(script, options.console ? STDIN_FILENO : -1, stdout, stderr);
 }
 
 /// Returns the reason when the device cannot be started.
@@ -65,7 +66,7 @@ int run_phone(Options options) {
 
 }  // namespace
 
-int main(int count, char** arguments) {
+int main(int count, char** arguments) try {
   host::start_log("sonavue");
   const auto read = read_options(count, arguments);
   if (const auto* ending = std::get_if<Ending>(&read)) {
@@ -79,4 +80,6 @@ int main(int count, char** arguments) {
         "--headless --console, then `screenshot FILE.png`.");
   }
   return run_phone(options);
+} catch (const std::exception& failure) {
+  return complain(failure.what());
 }

@@ -1,5 +1,6 @@
 #include "host/media_player/media_controller.h"
 
+#include "host/media_player/exports.h"
 #include "host/media_player/media_item.h"
 #include "host/media_player/media_service.h"
 #include "platform/Foundation/NSNotificationCenter.h"

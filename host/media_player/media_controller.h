@@ -27,6 +27,4 @@ class MediaController : public objc::Implementation<MediaController, SBMediaCont
   double player_position();
 };
 
-void export_media_controller();
-
 }  // namespace host::media_player

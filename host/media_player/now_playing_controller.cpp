@@ -1,5 +1,6 @@
 #include "host/media_player/now_playing_controller.h"
 
+#include "host/media_player/exports.h"
 #include "host/media_player/media_service.h"
 
 namespace host::media_player {

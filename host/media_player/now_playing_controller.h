@@ -18,6 +18,4 @@ class NowPlayingController
   double current_duration();
 };
 
-void export_now_playing_controller();
-
 }  // namespace host::media_player

@@ -34,7 +34,7 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror
                     $<$<CXX_COMPILER_ID:Clang>:-Wno-return-type-c-linkage>)
 if(CMAKE_UNITY_BUILD)
   # In a batch these warn about code that is correct file by file; the other presets enable them.
-  add_compile_options(-Wno-shadow -Wno-subobject-linkage)
+  add_compile_options(-Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
 if(SONAVUE_PHONE)
   # Exceptions of the system pass through the library, which has no handlers.

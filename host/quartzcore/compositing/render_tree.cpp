@@ -48,7 +48,7 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
 
   const int index = count();
   const Surroundings inner = inside(node, index, around);
-  nodes_.push_back(std::move(node));
+  nodes_.push_back(node);
   if (layer.tree.mask) add_mask(index, inner, now);
   add_sublayers(layer, inner, now);
   finish(index);

@@ -40,22 +40,25 @@ enum class Sums { Replace, Add };
 using Sixteen = std::uint8_t __attribute__((vector_size(16)));
 using Eight = std::uint16_t __attribute__((vector_size(16)));
 
+Channels numbers(Eight halves) {
+  return __builtin_convertvector(reinterpret_cast<WholeChannels>(halves), Channels);
+}
+
 /// Converts sixteen bytes to the numbers of four pixels, by interleaving them with zeros.
 std::array<Channels, 4> four_pixels(const std::uint8_t* bytes) {
   Sixteen packed;
   std::memcpy(&packed, bytes, sizeof packed);
-  constexpr Sixteen kLow{0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23};
-  constexpr Sixteen kHigh{8, 24, 9, 25, 10, 26, 11, 27, 12, 28, 13, 29, 14, 30, 15, 31};
-  constexpr Eight kFirst{0, 8, 1, 9, 2, 10, 3, 11};
-  constexpr Eight kSecond{4, 12, 5, 13, 6, 14, 7, 15};
-  const auto numbers = [](Eight halves, Eight order) {
-    const auto whole = reinterpret_cast<WholeChannels>(__builtin_shuffle(halves, Eight{}, order));
-    return __builtin_convertvector(whole, Channels);
+  const auto low = reinterpret_cast<Eight>(__builtin_shufflevector(
+      packed, Sixteen{}, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23));
+  const auto high = reinterpret_cast<Eight>(__builtin_shufflevector(
+      packed, Sixteen{}, 8, 24, 9, 25, 10, 26, 11, 27, 12, 28, 13, 29, 14, 30, 15, 31));
+  const auto first = [](Eight halves) {
+    return numbers(__builtin_shufflevector(halves, Eight{}, 0, 8, 1, 9, 2, 10, 3, 11));
   };
-  const auto low = reinterpret_cast<Eight>(__builtin_shuffle(packed, Sixteen{}, kLow));
-  const auto high = reinterpret_cast<Eight>(__builtin_shuffle(packed, Sixteen{}, kHigh));
-  return {numbers(low, kFirst), numbers(low, kSecond), numbers(high, kFirst),
-          numbers(high, kSecond)};
+  const auto second = [](Eight halves) {
+    return numbers(__builtin_shufflevector(halves, Eight{}, 4, 12, 5, 13, 6, 14, 7, 15));
+  };
+  return {first(low), second(low), first(high), second(high)};
 }
 
 Channels one_pixel(const std::uint8_t* bytes) {

@@ -90,7 +90,7 @@ bool HomeLayout::remove(std::string_view id) {
   return take(id).has_value();
 }
 
-bool HomeLayout::move(std::string_view id, Place to) {
+bool HomeLayout::move(std::string_view id, const Place& to) {
   const auto from = find(id);
   if (!from) return false;
   const bool is_folder = from->area != Area::kFolder && (*list_of(*from))[from->index].is_folder;

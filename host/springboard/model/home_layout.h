@@ -66,7 +66,7 @@ class HomeLayout {
   /// Moves an icon to a place; its index refers to the list without that icon. A full page pushes
   /// its last icon to the next page. Returns false and changes nothing when the dock or folder is
   /// full, or when a folder would go into a folder. A page number past the last creates a page.
-  bool move(std::string_view id, Place to);
+  bool move(std::string_view id, const Place& to);
   /// Drops an icon on another: into it when that is a folder, otherwise both into a new folder with
   /// this title, in the target's slot.
   bool drop_on(std::string_view id, std::string_view target, std::string_view title);

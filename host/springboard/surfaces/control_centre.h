@@ -18,7 +18,7 @@ class ControlCentre : public objc::Implementation<ControlCentre, SBControlCenter
                       public EdgePullTarget {
  public:
   using Implementation::Implementation;
-  ~ControlCentre();
+  ~ControlCentre() override;
 
   void present_animated(BOOL animated);
   void dismiss_animated(BOOL animated);

@@ -28,7 +28,7 @@ constexpr CGFloat kControlsLineAlpha = 0.16;
 
 }  // namespace
 
-ControlCentrePanel::ControlCentrePanel(UIView container, Callbacks callbacks) {
+ControlCentrePanel::ControlCentrePanel(UIView container, const Callbacks& callbacks) {
   const CGSize screen = container.bounds().size;
   const CGFloat width = std::min(screen.width, kWidestControls);
   const CGFloat brightness_top = kSwitchesTop + kSwitchesHeight;

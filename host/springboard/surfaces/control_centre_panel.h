@@ -21,7 +21,7 @@ class ControlCentrePanel {
   };
 
   /// `container` is as large as the screen.
-  ControlCentrePanel(UIView container, Callbacks callbacks);
+  ControlCentrePanel(UIView container, const Callbacks& callbacks);
   ~ControlCentrePanel();
   ControlCentrePanel(const ControlCentrePanel&) = delete;
   ControlCentrePanel& operator=(const ControlCentrePanel&) = delete;

@@ -20,7 +20,7 @@ class NotificationCentre
       public EdgePullTarget {
  public:
   using Implementation::Implementation;
-  ~NotificationCentre();
+  ~NotificationCentre() override;
 
   /// Sent by the centre to itself before it shows, for extensions that hook it.
   void host_will_present() {}

@@ -38,7 +38,7 @@ void RecentApplications::forget(const std::string& bundle) {
 void RecentApplications::close(const std::string& bundle) {
   if (!contains(bundle)) return;
   // The caller's string may be an element that is about to be erased.
-  const std::string closing = bundle;
+  const std::string closing = bundle;  // NOLINT(performance-unnecessary-copy-initialization)
   forget(closing);
   if (closed_) closed_(closing);
 }

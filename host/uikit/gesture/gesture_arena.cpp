@@ -149,8 +149,7 @@ void GestureArena::recognized(const GestureRecognizer& winner) {
     if (loses || state.waits_for(handle)) state.fail();
   }
   if (!handle.cancelsTouchesInView()) return;
-  const auto touches = present_touches();
-  for (const auto& touch : touches) {
+  for (const auto& touch : present_touches()) {
     Touch& state = objc::state_of<Touch>(touch.get());
     if (state.is_seen_by(handle)) state.cancel_in_view(touches_event());
   }
@@ -166,8 +165,7 @@ void GestureArena::failed(const GestureRecognizer& loser) {
 void GestureArena::settle() {
   if (dispatching_ > 0) return;
   ++dispatching_;
-  const auto touches = present_touches();
-  for (const auto& touch : touches)
+  for (const auto& touch : present_touches())
     objc::state_of<Touch>(touch.get()).deliver(touches_event(), &is_undecided);
   const auto engaged = engaged_;
   for (const auto& recognizer : engaged) {

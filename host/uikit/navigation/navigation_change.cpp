@@ -21,7 +21,7 @@ void NavigationController::change_to_top(Page from, NavigationBar::Direction dir
                                          std::vector<Page> leaving, BOOL animated) {
   const bool slides = animated && visible_ && from && top() && self.view().window();
   if (slides) {
-    begin_change({from, pages_.back(), direction, false, nullptr, std::move(leaving)});
+    begin_change({std::move(from), pages_.back(), direction, false, nullptr, std::move(leaving)});
     return run_change(0);
   }
   if (!visible_) {

@@ -71,8 +71,7 @@ void PageViewController::become(Side side) {
     previous->viewDidDisappear(YES);
     current_->viewDidAppear(YES);
   }
-  Page leaving = previous;
-  if (leaving->isViewLoaded()) leaving->view().removeFromSuperview();
+  if (previous->isViewLoaded()) previous->view().removeFromSuperview();
   arrange();
   tell_turned(previous, true);
 }

@@ -14,7 +14,7 @@ std::vector<objc::Ref<UITouch>>& all() {
 
 }  // namespace
 
-const std::vector<objc::Ref<UITouch>>& present_touches() {
+std::vector<objc::Ref<UITouch>> present_touches() {
   return all();
 }
 

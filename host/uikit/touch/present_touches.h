@@ -7,9 +7,9 @@
 
 namespace host::uikit {
 
-/// The touches of the process: those of fingers on the screen, and those of lifted fingers that a
-/// view has not been told about yet.
-const std::vector<objc::Ref<UITouch>>& present_touches();
+/// Returns the touches of the process: those of fingers on the screen, and those of lifted fingers
+/// that a view has not been told about yet. Delivering a touch may add and remove others.
+std::vector<objc::Ref<UITouch>> present_touches();
 /// Returns the touches of fingers on the screen, and of those that lifted with the event being
 /// sent.
 std::vector<objc::Ref<UITouch>> touches_on_screen();
