@@ -59,8 +59,8 @@ bool is_ascii(std::string_view text) {
 std::string utf8(std::string_view big_endian) {
   std::string text;
   const auto unit = [&](std::size_t at) -> char32_t {
-    return static_cast<unsigned char>(big_endian[at]) << 8 |
-           static_cast<unsigned char>(big_endian[at + 1]);
+    const char32_t high = static_cast<unsigned char>(big_endian[at]);
+    return high << 8 | static_cast<unsigned char>(big_endian[at + 1]);
   };
   for (std::size_t at = 0; at < big_endian.size(); at += 2) {
     char32_t code = unit(at);

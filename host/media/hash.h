@@ -22,8 +22,8 @@ inline std::uint64_t stable_hash(std::string_view bytes, std::uint64_t seed = 0)
     bytes.remove_prefix(8);
   }
   std::uint64_t rest = 0;
-  for (unsigned char byte : bytes)
-    rest = rest << 8 | byte;
+  for (const char byte : bytes)
+    rest = rest << 8 | static_cast<unsigned char>(byte);
   mix(rest);
   mix(odd);
   return hash ^ hash >> 32;

@@ -66,9 +66,8 @@ bool has_capitals(std::string_view ascii) {
 }
 
 std::shared_ptr<char[]> with_zero(std::string_view text) {
-  const auto copy = std::make_shared_for_overwrite<char[]>(text.size() + 1);
-  text.copy(copy.get(), text.size());
-  copy[text.size()] = '\0';
+  auto copy = std::make_shared_for_overwrite<char[]>(text.size() + 1);
+  *std::ranges::copy(text, copy.get()).out = '\0';
   return copy;
 }
 
@@ -187,8 +186,8 @@ NSString LibraryText::make_lowercase() {
   if (kind_ == TextKind::ascii) {
     if (!has_capitals(bytes())) return self;
     const auto copy = with_zero(bytes());
-    for (std::size_t i = 0; i < size_; ++i) {
-      if (copy[i] >= 'A' && copy[i] <= 'Z') copy[i] = static_cast<char>(copy[i] + ('a' - 'A'));
+    for (char& letter : std::span(copy.get(), size_)) {
+      if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
     }
     return make({copy.get(), size_}, copy);
   }

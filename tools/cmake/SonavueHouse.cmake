@@ -31,7 +31,9 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror
                     $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fpch-preprocess>
                     # The platform's C functions return its own structures; that they are C++ types
                     # here is harmless.
-                    $<$<CXX_COMPILER_ID:Clang>:-Wno-return-type-c-linkage>)
+                    $<$<CXX_COMPILER_ID:Clang>:-Wno-return-type-c-linkage>
+                    # Clang reads every source, for the phone or for tools/check.
+                    $<$<CXX_COMPILER_ID:Clang>:-Wconversion>)
 if(CMAKE_UNITY_BUILD)
   # In a batch these warn about code that is correct file by file; the other presets enable them.
   add_compile_options(-Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)

@@ -14,9 +14,10 @@ bool is_unreserved(unsigned char byte) {
 std::string percent_encoded(std::string_view bytes) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string encoded;
-  for (const unsigned char byte : bytes) {
+  for (const char character : bytes) {
+    const auto byte = static_cast<unsigned char>(character);
     if (is_unreserved(byte)) {
-      encoded += static_cast<char>(byte);
+      encoded += character;
     } else {
       encoded += {'%', kDigits[byte >> 4], kDigits[byte & 15]};
     }
