@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 
+#include "tests/random_use/hardships.h"
 #include "tests/random_use/oracle.h"
 #include "tests/random_use/random_user.h"
 #include "tests/random_use/shrinking.h"
@@ -24,6 +25,7 @@ struct Options {
   double shrinking = 240;
   std::string faults;
   bool drawn = false;
+  bool hardships = false;
   bool aloud = false;
 };
 
@@ -36,6 +38,7 @@ struct Figures {
   int bursts = 0;
   int actions = 0;
   int faults = 0;
+  int hardships = 0;
   double simulated = 0;
   double real = 0;
   double most_memory = 0;
@@ -44,14 +47,16 @@ struct Figures {
     bursts += other.bursts;
     actions += other.actions;
     faults += other.faults;
+    hardships += other.hardships;
     simulated += other.simulated;
     real += other.real;
     most_memory = std::max(most_memory, other.most_memory);
   }
   void print(const std::string& name) const {
     fmt::print(
-        "{}: {} bursts, {} actions, {:.0f} simulated s, {:.0f} real s, {:.0f} MB, {} faults\n",
-        name, bursts, actions, simulated, real, most_memory, faults);
+        "{}: {} bursts, {} actions, {} hardships, {:.0f} simulated s, {:.0f} real s, {:.0f} MB, {} "
+        "faults\n",
+        name, bursts, actions, hardships, simulated, real, most_memory, faults);
     std::fflush(stdout);
   }
 };
@@ -63,12 +68,13 @@ class Reports {
  public:
   explicit Reports(const Options& options) : options_(options) {}
 
-  void add(std::uint32_t seed, const Story& story, const std::vector<std::size_t>& bursts) {
+  void add(std::uint32_t seed, const Story& story, const std::vector<std::size_t>& bursts,
+           bool may_shrink) {
     fmt::print("seed {}, burst {}: {}\n", seed, bursts.size(), story.fault.text);
     std::fflush(stdout);
     if (!kinds_.insert(story.fault.kind).second) return;
     // Hours of use cannot be reduced to a few lines.
-    const bool can_shrink = story.fault.kind != kGrowth;
+    const bool can_shrink = may_shrink && story.fault.kind != kGrowth;
     tell(seed, can_shrink ? shrunk(story, bursts, {options_.drawn, options_.shrinking}) : story);
   }
 
@@ -125,7 +131,9 @@ class Use {
       : seed_(seed),
         phone_(options.drawn),
         user_(phone_, seed + kSeeds * phones_before),
-        oracle_(phone_) {
+        oracle_(phone_),
+        can_shrink_(!options.hardships) {
+    if (options.hardships) hardships_.emplace(phone_, seed);
     if (options.aloud) phone_.print_lines();
   }
 
@@ -135,7 +143,9 @@ class Use {
     user_.prepare();
     while (phone_.seconds() < seconds && !figures.faults) {
       bursts_.push_back(phone_.lines().size());
+      if (hardships_) hardships_->strike();
       user_.burst();
+      if (hardships_) hardships_->relieve();
       ++figures.bursts;
       const std::size_t done = phone_.lines().size();
       auto fault = oracle_.judge();
@@ -145,13 +155,14 @@ class Use {
         ++figures.faults;
         std::vector<std::string> lines = phone_.lines();
         lines.resize(done);
-        reports.add(seed_, {*fault, lines}, bursts_);
+        reports.add(seed_, {*fault, lines}, bursts_, can_shrink_);
       }
     }
     figures.actions = user_.actions();
     figures.simulated = phone_.seconds();
     figures.real = now() - start;
     figures.most_memory = memory_.most();
+    if (hardships_) figures.hardships = hardships_->count();
     return figures;
   }
 
@@ -163,6 +174,9 @@ class Use {
   UsedPhone phone_;
   RandomUser user_;
   Oracle oracle_;
+  // What befell the phone is not in the script.
+  bool can_shrink_;
+  std::optional<Hardships> hardships_;
   Memory memory_;
   std::vector<std::size_t> bursts_;
 };
@@ -198,6 +212,8 @@ int main(int count, char** arguments) {
   parser.add_option("--shrinking", options.shrinking, "Real seconds to shorten each script");
   parser.add_option("--faults", options.faults, "A folder for the scripts");
   parser.add_flag("--drawn", options.drawn, "Draws every frame, which takes long");
+  parser.add_flag("--hardships", options.hardships,
+                  "Hides files, fills the disk, stops and crashes processes in the middle of it");
   parser.add_flag("--aloud", options.aloud, "Prints the console's lines");
   CLI11_PARSE(parser, count, arguments);
   return use(options);

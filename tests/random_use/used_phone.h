@@ -24,6 +24,14 @@ class UsedPhone {
   /// `is_drawn` makes it draw every frame, which is slow.
   explicit UsedPhone(bool is_drawn);
 
+  std::string device() const { return folder_ / "device"; }
+  /// Returns the phone's process that runs this program; 0 when there is none.
+  pid_t child(std::string_view program) const { return phone_.child(program); }
+  /// From now on `fault` does not return lines with these words.
+  void expect(const std::string& words) { expected_.insert(words); }
+  /// Waits until another home screen replaces this process. Its fingers and buttons are gone.
+  void has_restarted(pid_t before);
+
   /// Executes a console line and returns its answer. A rejected line changes nothing and is not
   /// recorded.
   std::string say(const std::string& line);
@@ -55,6 +63,7 @@ class UsedPhone {
   std::vector<std::string> lines_;
   std::set<std::string> fingers_;
   std::set<std::string> buttons_;
+  std::set<std::string> expected_;
   double seconds_ = 0;
   std::size_t errors_read_ = 0;
   pid_t process_ = 0;

@@ -32,9 +32,9 @@ struct Pipe {
 };
 
 void suffer(Hardship hardship) {
+  // A write that does not fit fails then, as on a full disk, instead of ending the process.
+  signal(SIGXFSZ, SIG_IGN);
   if (hardship == Hardship::kFullDisk) {
-    // A write that does not fit then fails instead of ending the process.
-    signal(SIGXFSZ, SIG_IGN);
     const rlimit nothing{0, 0};
     setrlimit(RLIMIT_FSIZE, &nothing);
   } else if (hardship == Hardship::kOrdinaryUser) {
