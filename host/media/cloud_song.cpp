@@ -8,18 +8,18 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <vector>
 
 #include "host/media/hash.h"
 #include "host/media/picture.h"
 #include "host/media/text.h"
+#include "host/media/toml_depth.h"
 
 namespace host::media {
 namespace {
 
 constexpr std::string_view cloud_suffix = ".cloud.toml";
-constexpr std::int64_t longest_entry_bytes = 64 << 10;
+constexpr std::size_t longest_entry_bytes = 64 << 10;
 constexpr double longest_entry_seconds = 7 * 24 * 3600.0;
 constexpr std::int64_t largest_entry_number = 9999;
 
@@ -116,6 +116,15 @@ bool find_cover(const std::string& entry_path, SongTags& tags) {
   return true;
 }
 
+// Reads one byte more than the longest entry has. The file may grow while it is read, and the size
+// of a file that the system makes up says nothing.
+std::string beginning_of(std::istream& file) {
+  std::string text(longest_entry_bytes + 1, '\0');
+  file.read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(file.gcount()));
+  return text;
+}
+
 TagReading refused_entry(std::string reason) {
   return {std::nullopt, std::move(reason), false};
 }
@@ -140,10 +149,12 @@ TagReading read_cloud_song(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return refused_entry("cannot be reached");
   if (!S_ISREG(status.st_mode)) return refused_entry("is not a plain file");
-  if (status.st_size > longest_entry_bytes) return refused_entry("is too long for a song entry");
   std::ifstream file{path, std::ios::binary};
   if (!file) return refused_entry("cannot be read");
-  const std::string text{std::istreambuf_iterator<char>{file}, {}};
+  const std::string text = beginning_of(file);
+  if (text.size() > longest_entry_bytes) return refused_entry("is too long for a song entry");
+  if (is_toml_nested_too_deeply(text))
+    return refused_entry("is nested too deeply for a song entry");
   try {
     return read_text(path, text);
   } catch (const toml::parse_error& error) {

@@ -100,7 +100,38 @@ TEST_F(CloudSongs, AnInvalidEntryIsRefusedWithTheReason) {
   EXPECT_THAT(refusal("duration = -5"), HasSubstr("duration"));
   EXPECT_THAT(refusal("compilation = 1"), HasSubstr("compilation"));
   EXPECT_THAT(refusal(std::string(70'000, '#')), HasSubstr("too long"));
-  EXPECT_THAT(refusal(std::string(60'000, '[')), HasSubstr("is not a song entry"));
+}
+
+std::string repeated(std::string_view text, std::size_t times) {
+  std::string made;
+  for (std::size_t i = 0; i < times; ++i)
+    made += text;
+  return made;
+}
+
+TEST_F(CloudSongs, AnEntryThatIsNestedTooDeeplyIsRefusedBeforeItIsParsed) {
+  const auto too_deep = HasSubstr("nested too deeply");
+  EXPECT_THAT(refusal(repeated("a.", 30'000) + "a = 1"), too_deep);
+  EXPECT_THAT(refusal('[' + repeated("a . ", 15'000) + "a]"), too_deep);
+  EXPECT_THAT(refusal("[[" + repeated("\"[\".", 12'000) + "a]]"), too_deep);
+  EXPECT_THAT(refusal("title = " + repeated("[", 50'000)), too_deep);
+  EXPECT_THAT(refusal("title = " + repeated("{a=", 20'000)), too_deep);
+  EXPECT_THAT(refusal("title = " + repeated("[\n# ]\n", 9'000)), too_deep);
+  EXPECT_THAT(refusal("title = \"\"\"\\\"\"\"\"\"\nx = " + repeated("[", 50'000)), too_deep);
+  EXPECT_THAT(refusal("title = '''\\''''\nx = " + repeated("[", 50'000)), too_deep);
+  EXPECT_THAT(refusal("title = \"\\\\\" # \"\"\"\nx = " + repeated("[", 50'000)), too_deep);
+}
+
+TEST_F(CloudSongs, TextsAndCommentsNestNothing) {
+  const std::string brackets = repeated("[{.", 300);
+  EXPECT_EQ(read("title = \"" + brackets + "\"").tags->title.substr(0, 6), "[{.[{.");
+  EXPECT_EQ(read("title = '" + brackets + "'").tags->title.substr(0, 6), "[{.[{.");
+  EXPECT_EQ(read("title = \"\"\"\n\\\"\"\\\"" + brackets + "\"\"\"").tags->title.substr(0, 6),
+            "\"\"\"[{.");
+  EXPECT_EQ(read("title = '''\n'" + brackets + "'''").tags->title.substr(0, 4), "'[{.");
+  EXPECT_EQ(read("# " + brackets + "\ntitle = \"A\" # " + brackets).tags->title, "A");
+  EXPECT_EQ(read("a = [[1], [{b.c = [2.5]}]]\n[x.y]\nz = 1979-05-27T07:32:00.5").tags->title,
+            "song");
 }
 
 TEST_F(CloudSongs, OnlyPlainFilesAreOpened) {
