@@ -2,39 +2,15 @@
 
 #include <algorithm>
 
+#include "host/basics/utf8.h"
 #include "host/foundation/canonical_search.h"
 
 namespace host::media_player {
 namespace {
 
-struct Letter {
-  char32_t code = 0;
-  std::size_t bytes = 0;  // 0 when it is not a letter.
-};
-
-bool is_continuation(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xc0) == 0x80;
-}
-
-Letter decoded(std::string_view text, std::size_t bytes, char32_t first_bits, char32_t smallest) {
-  if (text.size() < bytes) return {};
-  char32_t code = first_bits;
-  for (std::size_t i = 1; i < bytes; ++i) {
-    if (!is_continuation(text[i])) return {};
-    code = code << 6 | (static_cast<unsigned char>(text[i]) & 0x3f);
-  }
-  const bool is_surrogate = code >= 0xd800 && code <= 0xdfff;
-  return code < smallest || code > 0x10ffff || is_surrogate ? Letter{} : Letter{code, bytes};
-}
-
-Letter first_letter(std::string_view text) {
-  const auto first = static_cast<unsigned char>(text.front());
-  if (first < 0x80) return {first, first != 0 ? std::size_t{1} : 0};
-  if ((first & 0xe0) == 0xc0) return decoded(text, 2, first & 0x1f, 0x80);
-  if ((first & 0xf0) == 0xe0) return decoded(text, 3, first & 0x0f, 0x800);
-  if ((first & 0xf8) == 0xf0) return decoded(text, 4, first & 0x07, 0x10000);
-  return {};
-}
+using utf8::first_letter;
+using utf8::is_continuation;
+using utf8::Letter;
 
 }  // namespace
 
