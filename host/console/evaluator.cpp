@@ -6,6 +6,7 @@
 
 #include "host/console/invoke.h"
 #include "host/console/marshal.h"
+#include "host/console/variadic.h"
 #include "platform/Foundation/NSString.h"
 
 // Every class that implements a selector registers it with its method's type encoding.
@@ -60,6 +61,9 @@ Check Evaluator::check(const Expression& expression) const {
     if (!anyone_implements(message->selector)) {
       return Problem{fmt::format("no class implements {}", message->selector),
                      message->selector_offset};
+    }
+    if (auto refusal = refusal_of_variadic(*message)) {
+      return Problem{std::move(*refusal), message->selector_offset};
     }
     for (const Expression& argument : message->arguments) {
       if (auto problem = check(argument)) return problem;

@@ -3,7 +3,14 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 namespace host::console {
+namespace {
+
+const Answer kTooLong{Answer::Kind::Error, "the line is too long"};
+
+}  // namespace
 
 LineServer::LineServer(int descriptor, Session& session, std::function<void()> on_quit)
     : descriptor_(descriptor), session_(session), on_quit_(std::move(on_quit)) {}
@@ -12,14 +19,22 @@ void LineServer::serve() {
   if (busy_) return;
   char bytes[4096];
   const auto count = read(descriptor_, bytes, sizeof bytes);
-  if (count <= 0) {
-    on_quit_();
-    return;
-  }
+  if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+  if (count <= 0) return end();
   pending_.append(bytes, static_cast<std::size_t>(count));
   busy_ = true;
   execute_lines();
   busy_ = false;
+}
+
+// What the rest of an incomplete line would have been is unknown, so no part of it is executed.
+void LineServer::end() {
+  if (line_is_too_long_) {
+    answer(kTooLong);
+  } else if (!pending_.empty()) {
+    answer({Answer::Kind::Error, "the input ended in the middle of a line"});
+  }
+  on_quit_();
 }
 
 void LineServer::execute_lines() {
@@ -28,7 +43,7 @@ void LineServer::execute_lines() {
     pending_.erase(0, end + 1);
     if (line_is_too_long_ || line.size() > kLongestLine) {
       line_is_too_long_ = false;
-      answer({Answer::Kind::Error, "the line is too long"});
+      answer(kTooLong);
       continue;
     }
     const Answer made = session_.execute(line);

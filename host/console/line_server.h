@@ -20,10 +20,12 @@ class LineServer {
   int descriptor() const { return descriptor_; }
 
   /// Reads the available bytes and executes every complete line. Call it when the descriptor is
-  /// readable. A nested call, while a line is being executed, does nothing.
+  /// readable. A nested call, while a line is being executed, does nothing. Input that ends in the
+  /// middle of a line is answered with an error.
   void serve();
 
  private:
+  void end();
   void execute_lines();
   void answer(const Answer& answer);
 

@@ -34,6 +34,9 @@ constexpr Scalar kScalars[] = {
     {'*', sizeof(char*)},
 };
 
+// Deeper nesting could overflow the stack; no structure of the platform comes near.
+constexpr int kDeepestStructure = 32;
+
 constexpr std::size_t rounded_up(std::size_t size, std::size_t alignment) {
   return (size + alignment - 1) / alignment * alignment;
 }
@@ -52,7 +55,13 @@ class Reader {
     if (rest_.empty()) return std::nullopt;
     const char code = rest_.front();
     rest_.remove_prefix(1);
-    if (code == '{') return structure();
+    if (code == '{') {
+      if (depth_ == kDeepestStructure) return std::nullopt;
+      ++depth_;
+      auto made = structure();
+      --depth_;
+      return made;
+    }
     if (code == '^') return pointer();
     for (const Scalar& scalar : kScalars) {
       if (scalar.code != code) continue;
@@ -122,6 +131,7 @@ class Reader {
   }
 
   std::string_view rest_;
+  int depth_ = 0;
 };
 
 }  // namespace

@@ -259,6 +259,27 @@ TEST_F(Expressions, UnknownSelectorsAreRefusedBeforeAnythingIsSent) {
   EXPECT_EQ(print("[3 description]"), "only objects and classes receive messages (column 2)");
 }
 
+TEST_F(Expressions, MessagesThatTakeAnyNumberOfArgumentsAreRefusedBeforeAnythingIsSent) {
+  EXPECT_EQ(print("[lamp setOn:NO]"), "void");
+  EXPECT_EQ(print("[NSString stringWithFormat:@\"%@ %s\"]"),
+            "stringWithFormat: takes any number of arguments, which the console cannot send "
+            "(column 11)");
+  EXPECT_EQ(print("[[[NSString alloc] initWithFormat:@\"%n\" locale:nil] length]"),
+            "initWithFormat:locale: takes any number of arguments, which the console cannot send "
+            "(column 20)");
+  EXPECT_EQ(print("[NSArray arrayWithObjects:[lamp setOn:YES]]"),
+            "arrayWithObjects: takes a list that ends with nil, and the console can send only the "
+            "nil (column 10)");
+  EXPECT_EQ(print("[lamp isOn]"), "NO");
+  EXPECT_EQ(print("[NSException raise:@\"A\" format:@\"%@\"]"),
+            "raise:format: takes any number of arguments, which the console cannot send (column "
+            "14)");
+}
+
+TEST_F(Expressions, AListThatNilEndsAtOnceIsSent) {
+  EXPECT_EQ(print("[NSArray arrayWithObjects:nil]"), "()");
+}
+
 TEST_F(Expressions, AnExceptionIsAProblemAndTheNextLineStillWorks) {
   EXPECT_EQ(print("[[NSArray array] objectAtIndex:3]"),
             "the message raised an exception (column 18)");

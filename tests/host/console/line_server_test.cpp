@@ -1,5 +1,6 @@
 #include "host/console/line_server.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -65,6 +66,15 @@ TEST_F(LineServers, TheOtherEndGoingAwayEndsTheConsole) {
   EXPECT_EQ(quits_, 1);
 }
 
+TEST_F(LineServers, InputThatEndsInTheMiddleOfALineIsAnErrorAndRunsNothing) {
+  write("advance 1\nadvance 2");
+  shutdown(ends_[0], SHUT_WR);
+  server_->serve();
+  EXPECT_EQ(answers(), "ok\nerror: the input ended in the middle of a line\n");
+  EXPECT_EQ(phone_.done, std::vector<std::string>{"advance 1"});
+  EXPECT_EQ(quits_, 1);
+}
+
 TEST_F(LineServers, AnOverlongLineIsRefusedAndTheNextOneServed) {
   const std::string part(4096, 'x');
   for (std::size_t sent = 0; sent <= 2 * LineServer::kLongestLine; sent += part.size())
@@ -73,6 +83,25 @@ TEST_F(LineServers, AnOverlongLineIsRefusedAndTheNextOneServed) {
   EXPECT_EQ(answers(), "error: the line is too long\n");
   write("echo still here\n");
   EXPECT_EQ(answers(), "still here\n");
+}
+
+TEST_F(LineServers, AnEndlessLineIsRefusedAtItsEnd) {
+  const std::string part(4096, 'x');
+  for (std::size_t sent = 0; sent <= 40 * LineServer::kLongestLine; sent += part.size())
+    write(part);
+  EXPECT_EQ(answers(), "");
+  shutdown(ends_[0], SHUT_WR);
+  server_->serve();
+  EXPECT_EQ(answers(), "error: the line is too long\n");
+  EXPECT_EQ(quits_, 1);
+}
+
+TEST_F(LineServers, NothingIsReadWhileNothingIsThere) {
+  fcntl(ends_[1], F_SETFL, O_NONBLOCK);
+  server_->serve();
+  EXPECT_EQ(quits_, 0);
+  write("echo here\n");
+  EXPECT_EQ(answers(), "here\n");
 }
 
 TEST_F(LineServers, BytesThatAreNotTextAreAnError) {
