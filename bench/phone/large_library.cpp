@@ -111,6 +111,7 @@ void LargeLibrary::remember(const fs::path& path) const {
                                      for (media::WalkedFile& file : found.songs)
                                        changes.songs.push_back(record_of(file, found.picture));
                                    },
+                                   [](const std::string&, const std::string&) {},
                                    [](const std::string&, const std::string&) {}};
   media::walk_folders({roots.data(), 1}, visitor, {});
   require(changes.songs.size() == kSongs && index.apply(changes), "the songs in the index");

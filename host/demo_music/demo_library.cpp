@@ -165,13 +165,14 @@ bool is_running(pid_t process) {
 void remove_leftovers(const fs::path& folder) {
   const std::string prefix = folder.filename().string() + ".making-";
   std::error_code error;
-  for (const fs::directory_entry& entry : fs::directory_iterator{folder.parent_path(), error}) {
-    const std::string name = entry.path().filename().string();
+  fs::directory_iterator entry{folder.parent_path(), error};
+  for (; !error && entry != fs::directory_iterator{}; entry.increment(error)) {
+    const std::string name = entry->path().filename().string();
     if (!name.starts_with(prefix)) continue;
     const pid_t maker = std::atoi(name.c_str() + prefix.size());
     if (maker > 0 && maker != ::getpid() && is_running(maker)) continue;
     std::error_code ignored;
-    fs::remove_all(entry.path(), ignored);
+    fs::remove_all(entry->path(), ignored);
   }
 }
 

@@ -56,7 +56,8 @@ void start_music(const ProcessOptions& options) {
   media.memory_path = foundation::path_on_this_machine("/var/mobile/Media/playback.plist");
   // The home screen's extensions read the library once, at start: a new phone must have one by
   // then. On later starts the result of the last scan is available immediately.
-  if (!std::filesystem::exists(media.index_path))
+  std::error_code ignored;
+  if (!std::filesystem::exists(media.index_path, ignored))
     media.first_scan = media_player::FirstScan::kBeforeStart;
   media.pace = options.stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   if (options.headless) media.audio_output = "null";

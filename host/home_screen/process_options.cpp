@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "host/basics/ascii.h"
 #include "host/launcher/supervisor.h"
 #include "host/runtime/device_model.h"
 
@@ -23,6 +24,8 @@ std::optional<ProcessOptions> read_process_options(int count, const char* const*
   } catch (const CLI::ParseError&) {
     return std::nullopt;
   }
+  for (std::filesystem::path& folder : options.music)
+    folder = bytes_of_ascii(folder.native());
   if (!device_model(options.device)) return std::nullopt;
   return options;
 }

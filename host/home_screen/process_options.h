@@ -19,7 +19,8 @@ struct ProcessOptions {
   int console_descriptor = -1;
 };
 
-/// Returns nothing when the arguments are not the launcher's.
+/// Folders of music come as ASCII (`host/basics/ascii.h`). Returns nothing when the arguments are
+/// not the launcher's.
 std::optional<ProcessOptions> read_process_options(int count, const char* const* arguments);
 
 }  // namespace host::launcher

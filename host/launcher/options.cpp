@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
+#include "host/basics/ascii.h"
 #include "host/runtime/device_model.h"
 
 namespace host::launcher {
@@ -132,7 +133,7 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
                                    options.root, "--screenshots", options.screenshots};
   for (const fs::path& folder : options.music) {
     made.push_back("--music");
-    made.push_back(folder);
+    made.push_back(ascii_of(folder.native()));
   }
   if (options.headless) made.push_back("--headless");
   if (options.headless && options.blind) made.push_back("--blind");

@@ -78,25 +78,49 @@ class Walk {
     if (!visited_.insert({status.st_dev, status.st_ino}).second) return;
     folder_ = {path, {}, {}};
     best_rank_ = not_a_picture;
-    while (const dirent* entry = ::readdir(directory.get()))
-      look_at(directory.get(), *entry);
+    if (const int error = read(directory.get()); error != 0) {
+      visitor_.on_unreadable(path, std::strerror(error));
+    }
     visitor_.on_folder(folder_);
   }
 
-  void look_at(DIR* directory, const dirent& entry) {
-    if (entry.d_name[0] == '.') return;
-    if (entry.d_type == DT_DIR) return waiting_.push_back(joined(folder_.path, entry.d_name));
+  // Returns why the rest of the folder cannot be read; 0 when all of it has been.
+  int read(DIR* directory) {
+    for (;;) {
+      errno = 0;
+      const dirent* entry = ::readdir(directory);
+      if (entry == nullptr) return errno;
+      if (!look_at(directory, *entry)) return EACCES;
+    }
+  }
+
+  // Returns false when the folder may be listed but not entered.
+  bool look_at(DIR* directory, const dirent& entry) {
+    if (entry.d_name[0] == '.') return true;
+    if (entry.d_type == DT_DIR) {
+      waiting_.push_back(joined(folder_.path, entry.d_name));
+      return true;
+    }
     const bool is_song = has_audio_name(entry.d_name) || has_cloud_name(entry.d_name);
     const int rank = is_song ? not_a_picture : picture_rank(entry.d_name);
     const bool may_be_folder = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
-    if (!is_song && rank == not_a_picture && !may_be_folder) return;
+    if (!is_song && rank == not_a_picture && !may_be_folder) return true;
 
     struct stat status {};
-    if (::fstatat(::dirfd(directory), entry.d_name, &status, 0) != 0) return;
-    if (S_ISDIR(status.st_mode)) return waiting_.push_back(joined(folder_.path, entry.d_name));
-    if (!S_ISREG(status.st_mode)) return;
+    if (::fstatat(::dirfd(directory), entry.d_name, &status, 0) != 0) {
+      if (errno == EACCES && entry.d_type != DT_LNK) return false;
+      report_unreachable(entry.d_name, errno);
+      return true;
+    }
+    if (S_ISDIR(status.st_mode)) waiting_.push_back(joined(folder_.path, entry.d_name));
+    if (!S_ISREG(status.st_mode)) return true;
     if (is_song) folder_.songs.push_back({joined(folder_.path, entry.d_name), stamp_of(status)});
     if (rank < best_rank_) take_picture(entry.d_name, rank, stamp_of(status));
+    return true;
+  }
+
+  void report_unreachable(const char* name, int error) const {
+    if (error != ENOENT) visitor_.on_unreachable(joined(folder_.path, name), std::strerror(error));
   }
 
   void take_picture(const char* name, int rank, const FileStamp& stamp) {

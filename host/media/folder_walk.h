@@ -24,6 +24,9 @@ struct WalkedFolder {
 struct WalkVisitor {
   std::function<void(WalkedFolder&)> on_folder;
   std::function<void(const std::string& path, const std::string& reason)> on_unreadable;
+  // A song or a picture that is out of reach, behind a loop of links for instance. One that is gone
+  // is not reported.
+  std::function<void(const std::string& path, const std::string& reason)> on_unreachable;
 };
 
 // Visits every folder below `roots` once, however many symbolic links lead to it, and reports songs

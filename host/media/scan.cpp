@@ -58,6 +58,10 @@ class Scan {
         [this](const std::string& path, const std::string& reason) {
           ++progress_.unreadable_folders;
           log_warning(fmt::format("the folder {} cannot be read: {}", path, reason));
+          unreadable_.push_back(path);
+        },
+        [](const std::string& path, const std::string& reason) {
+          log_warning(fmt::format("{} cannot be reached: {}; it is skipped", path, reason));
         }};
     walk_folders(roots, visitor, stop);
     loading_.wait();
@@ -242,13 +246,17 @@ class Scan {
     return id;
   }
 
+  // What is below a folder that cannot be read at the moment is not gone.
   void forget_unseen() {
     if (std::ranges::count(fates_, Fate::unseen) > 0) prepare_for_changes();
+    const auto forget = [this](const std::string& path) {
+      if (!is_below(path, unreadable_)) changes_.forgotten.push_back(path);
+    };
     for (std::size_t i = 0; i < known_.size(); ++i) {
-      if (fates_[i] == Fate::unseen) changes_.forgotten.push_back(known_[i].path);
+      if (fates_[i] == Fate::unseen) forget(known_[i].path);
     }
     for (const auto& [path, stamp] : refused_) {
-      if (!is_refusal_seen_.contains(path)) changes_.forgotten.push_back(path);
+      if (!is_refusal_seen_.contains(path)) forget(path);
     }
   }
 
@@ -272,6 +280,7 @@ class Scan {
   std::unordered_set<std::uint64_t> used_ids_;
   std::unordered_map<std::string, FileStamp> refused_;
   std::unordered_set<std::string_view> is_refusal_seen_;
+  std::vector<std::string> unreadable_;  // Folders.
   std::vector<SongRecord> found_;
   IndexChanges changes_;
   std::vector<WalkedFolder> waiting_;  // Walked, but not yet compared with the index.

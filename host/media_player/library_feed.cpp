@@ -61,7 +61,8 @@ void LibraryFeed::start() {
 }
 
 const DemoMusic* LibraryFeed::missing_demo() const {
-  return demo_ && !std::filesystem::exists(demo_->folder) ? &*demo_ : nullptr;
+  std::error_code ignored;
+  return demo_ && !std::filesystem::exists(demo_->folder, ignored) ? &*demo_ : nullptr;
 }
 
 void LibraryFeed::make_demo_now() {

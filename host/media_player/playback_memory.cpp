@@ -41,7 +41,8 @@ std::optional<double> number(objc::Object value) {
 RememberedPlayback read_playback(const std::string& path) {
   const objc::AutoreleasePool pool;
   RememberedPlayback playback;
-  if (!std::filesystem::is_regular_file(path)) return playback;
+  std::error_code ignored;
+  if (!std::filesystem::is_regular_file(path, ignored)) return playback;
   const auto kept = NSDictionary::dictionaryWithContentsOfFile(string_from(path));
   playback.song = identifier(kept.objectForKey("song"_ns));
   playback.position_seconds = number(kept.objectForKey("position"_ns)).value_or(0);

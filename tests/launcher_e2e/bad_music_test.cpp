@@ -152,6 +152,64 @@ TEST_F(BadMusic, EverySongPlaysOrIsSkippedInTheOpenPanel) {
   EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
 }
 
+/// Names and links as another system or a careless copy leaves them.
+class OddNames : public PhoneTest {
+ protected:
+  static constexpr const char* kNotText = "caf\xe9 \xff\xfe";
+
+  OddNames() {
+    fs::remove_all(music());
+    fs::create_directories(odd() / kNotText);
+    write_tone(odd() / kNotText / "\xe9t\xe9.flac");
+    write_tone(odd() / "two\n[SpringBoard] error: lines.flac");
+    write_bytes(odd() / "no\x1b[2J\nsong.mp3", "no music");
+    for (const char* name : {"round.mp3", "round.cloud.toml", "round"})
+      fs::create_symlink(name, odd() / name);
+    for (const char* name : {"locked", "closed"}) {
+      fs::create_directory(odd() / name);
+      write_tone(odd() / name / "unseen.flac");
+      write_tone(odd() / name / "unseen too.flac");
+    }
+    chmod((odd() / "locked").c_str(), 0);
+    chmod((odd() / "closed").c_str(), S_IRUSR);
+  }
+  ~OddNames() override {
+    chmod((odd() / "locked").c_str(), S_IRWXU);
+    chmod((odd() / "closed").c_str(), S_IRWXU);
+  }
+
+  fs::path odd() const { return folder() / "m\xff sic"; }
+  Arguments arguments() const {
+    return {"--headless", "--root", root(), "--music", odd(), "--console"};
+  }
+};
+
+TEST_F(OddNames, ArePlayedOrOneLineEach) {
+  RunningPhone phone(arguments(), Hardship::kOrdinaryUser);
+  const std::string query = "[[[MPMediaQuery alloc] init] autorelease]";
+  ASSERT_EQ(phone.ask("print [[" + query + " items] count]"), "2") << phone.errors();
+  phone.ask("print [musicPlayer setQueueWithQuery:" + query + "]");
+  for (int song = 0; song < 2; ++song) {
+    const std::string item = "[[" + query + " items] objectAtIndex:" + std::to_string(song) + "]";
+    phone.ask("print [musicPlayer setNowPlayingItem:" + item + "]");
+    phone.ask("print [musicPlayer play]");
+    phone.ask("advance 0.5");
+    EXPECT_EQ(phone.ask("expect [musicPlayer currentPlaybackTime] > 0.4"), "ok");
+  }
+  for (const char* line :
+       {"/no\\x1b[2J\\nsong.mp3 contains no audio; it is skipped",
+        "/round.mp3 cannot be reached: Too many levels of symbolic links; it is skipped",
+        "/round.cloud.toml cannot be reached",
+        "/m\\xff sic/locked cannot be read: Permission denied",
+        "/m\\xff sic/closed cannot be read: Permission denied"}) {
+    EXPECT_EQ(phone.count_of_errors_with(line), 1) << line;
+  }
+  for (const std::string& line : phone.error_lines())
+    EXPECT_THAT(line, testing::MatchesRegex("\\[(sonavue|SpringBoard)\\] (info|warning): .*"));
+  EXPECT_EQ(phone.count_of_errors_with("unseen"), 0);
+  EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
+}
+
 using NoMusic = PhoneTest;
 
 TEST_F(NoMusic, StillOpensThePanel) {

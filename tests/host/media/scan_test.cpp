@@ -186,6 +186,37 @@ TEST_F(Scanning, AFolderThatCannotBeReadIsCountedAndLoggedOnce) {
   EXPECT_THAT(titles(*outcome.library), ElementsAre("Here"));
 }
 
+TEST_F(Scanning, WhatIsBelowAFolderThatCannotBeReadIsNotForgotten) {
+  const std::string disk = folder_ / "disk";
+  fs::create_directories(disk + "/album");
+  write_song(disk + "/album/song.flac", titled("There"));
+  write_bytes(disk + "/album/letter.mp3", "no music");
+  write_song(at("song.flac"), titled("Here"));
+  const std::vector roots = {music(), disk};
+  const auto scan_both = [&] {
+    Index index{index_path()};
+    return scan_folders(index, roots, [](const ScanProgress&) {});
+  };
+  EXPECT_THAT(titles(*scan_both().library), ElementsAre("Here", "There"));
+  fs::rename(disk, folder_ / "away");
+  EXPECT_THAT(titles(*scan_both().library), ElementsAre("Here"));
+  fs::rename(folder_ / "away", disk);
+  const ScanOutcome again = scan_both();
+  EXPECT_THAT(titles(*again.library), ElementsAre("Here", "There"));
+  EXPECT_EQ(again.progress.read, 0u);
+}
+
+TEST_F(Scanning, AFileThatALoopOfLinksHidesIsOneLineAndTheRestIsRead) {
+  write_song(at("song.flac"), titled("Here"));
+  for (const char* name : {"round.mp3", "round.cloud.toml", "cover.jpg"})
+    fs::create_symlink(name, at(name));
+  const CapturedLog log;
+  EXPECT_THAT(titles(*scan().library), ElementsAre("Here"));
+  for (const char* name : {"round.mp3 cannot be reached: Too many levels",
+                           "round.cloud.toml cannot", "cover.jpg cannot be reached"})
+    EXPECT_EQ(log.count(name), 1) << name;
+}
+
 TEST_F(Scanning, TheBestPictureOfAFolderServesSongsWithoutTheirOwn) {
   write_song(at("plain.flac"), titled("Plain"));
   write_song(at("own.flac"), titled("Own"), jpeg_picture(8, 8, 1));

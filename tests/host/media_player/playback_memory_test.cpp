@@ -55,6 +55,13 @@ TEST_F(PlaybackMemory, AFolderInItsPlaceCountsAsMissing) {
   EXPECT_EQ(read_playback(file()).song, 0u);
 }
 
+TEST_F(PlaybackMemory, ALoopOfLinksInItsPlaceCountsAsMissing) {
+  leave("");
+  std::filesystem::remove(file());
+  std::filesystem::create_symlink(file(), file());
+  EXPECT_EQ(read_playback(file()).song, 0u);
+}
+
 TEST_F(PlaybackMemory, TheSongIsPausedAtItsPositionAfterARestart) {
   start();
   play("Bravo");
