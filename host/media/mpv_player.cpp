@@ -10,11 +10,13 @@
 #include <utility>
 
 #include "host/media/log.h"
+#include "host/media/sound_libraries.h"
 
 namespace host::media {
 namespace {
 
 constexpr double longest_wait_seconds = 5;
+constexpr std::string_view silent_output = "null";
 constexpr double loudest_percent = 100;
 // Within this distance the engine is not moved: no display shows a smaller difference.
 constexpr double unseen_drift_seconds = 0.05;
@@ -84,6 +86,7 @@ std::unique_ptr<MpvPlayer> MpvPlayer::create(MpvOptions options) {
 }
 
 MpvPlayer::MpvPlayer(MpvOptions options) : options_(std::move(options)) {
+  quiet_sound_libraries();
   // The engine cannot be created while the locale writes numbers with a decimal comma.
   std::setlocale(LC_NUMERIC, "C");
   engine_.reset(mpv_create());
@@ -240,11 +243,21 @@ void MpvPlayer::handle(const mpv_event& event) {
     case MPV_EVENT_PLAYBACK_RESTART:
       sought_.reset();
       return;
+    case MPV_EVENT_AUDIO_RECONFIG:
+      return check_sound_device();
     case MPV_EVENT_END_FILE:
       return handle_end_of_file(event);
     default:
       return;
   }
+}
+
+// The engine tries again at each song, and plays into nothing until a device is there.
+void MpvPlayer::check_sound_device() {
+  const bool wants_sound = !is_stepped() && options_.audio_output != silent_output;
+  if (!wants_sound || has_complained_ || text(engine_.get(), "current-ao") != silent_output) return;
+  has_complained_ = true;
+  log_warning("no sound device can be opened: music plays without sound until there is one");
 }
 
 void MpvPlayer::handle_end_of_file(const mpv_event& event) {

@@ -75,6 +75,7 @@ class MpvPlayer final : public Player {
   void set_paused(bool paused);
   void drain();
   void handle(const mpv_event& event);
+  void check_sound_device();
   void handle_end_of_file(const mpv_event& event);
   void wait_until(const std::function<bool()>& is_done);
   void follow_clock();
@@ -98,6 +99,7 @@ class MpvPlayer final : public Player {
   std::optional<double> sought_;  // The target of a seek that has not finished.
   double engine_position_ = 0;    // The target of the last seek.
 
+  bool has_complained_ = false;
   bool has_ended_ = false;
   std::vector<Failure> failures_;
 };

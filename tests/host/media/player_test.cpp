@@ -234,6 +234,34 @@ TEST_F(SteppedQueue, VolumeReachesTheEngine) {
   EXPECT_DOUBLE_EQ(player_->volume(), 1);
 }
 
+// Without a device the engine plays on in silence.
+TEST(MpvPlayer, AMissingSoundDeviceIsOneLineAStart) {
+  struct Ends : PlayerListener {
+    int count = 0;
+    void player_did_reach_end() override { ++count; }
+    void player_did_fail(const std::string&, const std::string&) override {}
+  } ends;
+  const TemporaryFolder folder;
+  write_tone(folder / "short.wav", 0.1);
+  ::setenv("ALSA_CONFIG_PATH", "/dev/null", 1);
+  ::setenv("PIPEWIRE_REMOTE", "nowhere", 1);
+  const CapturedLog log;
+  testing::internal::CaptureStderr();
+  const auto player = MpvPlayer::create({"alsa,pipewire", PlayerPace::real, {}});
+  ASSERT_TRUE(player);
+  player->set_listener(&ends);
+  player->play();
+  for (int song = 1; song <= 2; ++song) {
+    player->load(folder / "short.wav");
+    pollfd waiting{player->descriptor(), POLLIN, 0};
+    while (ends.count < song && ::poll(&waiting, 1, 10'000) == 1)
+      player->pump();
+  }
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  EXPECT_EQ(ends.count, 2);
+  EXPECT_EQ(log.count("no sound device"), 1);
+}
+
 TEST(MpvPlayer, PlaysInRealTimeAndWakesTheMainLoopAtTheEnd) {
   struct Listener : PlayerListener {
     int ends = 0;

@@ -1,0 +1,26 @@
+#include "host/media/sound_libraries.h"
+
+#include <dlfcn.h>
+
+#include <cstdlib>
+
+namespace host::media {
+namespace {
+
+using ErrorHandler = void (*)(const char*, int, const char*, int, const char*, ...);
+
+void ignore_error(const char*, int, const char*, int, const char*, ...) {}
+
+}  // namespace
+
+void quiet_sound_libraries() {
+  constexpr int keep_the_users_choice = 0;
+  ::setenv("PIPEWIRE_DEBUG", "0", keep_the_users_choice);
+  // The engine brings the library with it, or was built without it.
+  using SetHandler = int (*)(ErrorHandler);
+  const auto set_handler =
+      reinterpret_cast<SetHandler>(::dlsym(RTLD_DEFAULT, "snd_lib_error_set_handler"));
+  if (set_handler != nullptr) set_handler(&ignore_error);
+}
+
+}  // namespace host::media
