@@ -10,6 +10,7 @@ set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 
 option(SONAVUE_CHECKS "Compare every message with the encoding of the method that answers it" ON)
 option(SONAVUE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(SONAVUE_FUZZ "Build fuzzers that generate inputs; needs Clang" OFF)
 
 option(SONAVUE_LLD "Link with lld" OFF)
 
@@ -49,6 +50,9 @@ if(SONAVUE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+if(SONAVUE_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 # `sonavue_module(objc)` gives the folder objc/ its own include root, so that a target sees exactly
