@@ -53,6 +53,8 @@ void start_music(const ProcessOptions& options) {
     media.demo = {media_player::default_demo_folder(), find_installation().covers.string()};
   }
   media.index_path = foundation::path_on_this_machine("/var/mobile/Media/library.sqlite");
+  media.marks_path =
+      foundation::path_on_this_machine("/var/mobile/Library/Caches/music/SpringBoard");
   media.memory_path = foundation::path_on_this_machine("/var/mobile/Media/playback.plist");
   // The home screen's extensions read the library once, at start: a new phone must have one by
   // then. On later starts the result of the last scan is available immediately.

@@ -12,6 +12,7 @@
 
 #include "host/media/hash.h"
 #include "host/media/picture.h"
+#include "host/media/reading_marks.h"
 #include "host/media/text.h"
 #include "host/media/toml_depth.h"
 
@@ -166,6 +167,8 @@ TagReading read_cloud_song(const std::string& path) {
 }
 
 TagReading read_song(const std::string& path) {
+  const ReadingMark mark{Reading::song, path};
+  if (!mark.may_read()) return {};
   return has_cloud_name(path) ? read_cloud_song(path) : read_tags(path);
 }
 

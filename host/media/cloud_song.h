@@ -30,7 +30,8 @@ bool has_cloud_name(std::string_view name);
 // refused with the reason.
 TagReading read_cloud_song(const std::string& path);
 
-// Reads a song or an entry, depending on the file's name.
+// Reads a song or an entry, depending on the file's name. A file that has ended a process is not
+// opened; the log has said so, and the result has no reason.
 TagReading read_song(const std::string& path);
 
 }  // namespace host::media

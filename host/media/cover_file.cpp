@@ -5,6 +5,7 @@
 #include <fstream>
 #include <vector>
 
+#include "host/media/reading_marks.h"
 #include "host/media/tag_reader.h"
 
 namespace host::media {
@@ -36,6 +37,8 @@ CoverFile cover_of(const Track& track) {
 }
 
 std::optional<Picture> decode_cover(const CoverFile& cover, int longest_side) {
+  const ReadingMark mark{Reading::cover, cover.path};
+  if (!mark.may_read()) return std::nullopt;
   const bool is_in_song = cover.home == CoverFile::Home::in_song;
   const auto bytes = is_in_song ? read_embedded_picture(cover.path) : bytes_of_file(cover.path);
   return decode_picture(bytes, longest_side);

@@ -45,11 +45,6 @@ int picture_rank(std::string_view name) {
   return not_a_picture;
 }
 
-FileStamp stamp_of(const struct stat& status) {
-  constexpr std::int64_t nanoseconds = 1'000'000'000;
-  return {status.st_size, status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
-}
-
 std::string joined(const std::string& folder, const char* name) {
   return folder.ends_with('/') ? folder + name : folder + '/' + name;
 }

@@ -121,13 +121,12 @@ void MpvPlayer::load(const std::string& path) {
   has_ended_ = false;
   sought_.reset();
   engine_position_ = 0;
+  mark_.emplace(Reading::sound, path);
+  if (!mark_->may_read()) return refuse("has ended the phone before");
   const char* command[] = {"loadfile", path.c_str(), "replace", nullptr};
   mpv_node answer{};
   if (mpv_command_ret(engine_.get(), command, &answer) < 0) {
-    loading_ = Loading::nothing;
-    failures_.push_back({path, "was refused by the playback engine"});
-    signal_.raise();
-    return;
+    return refuse("was refused by the playback engine");
   }
   for (int i = 0; answer.format == MPV_FORMAT_NODE_MAP && i < answer.u.list->num; ++i) {
     if (std::string_view{answer.u.list->keys[i]} == "playlist_entry_id") {
@@ -143,6 +142,13 @@ void MpvPlayer::load(const std::string& path) {
   if (loading_ != Loading::loaded) return;
   sought_ = 0;
   wait_until([this] { return !sought_; });
+}
+
+void MpvPlayer::refuse(std::string reason) {
+  mark_.reset();
+  loading_ = Loading::nothing;
+  failures_.push_back({path_, std::move(reason)});
+  signal_.raise();
 }
 
 void MpvPlayer::play() {
@@ -175,6 +181,7 @@ void MpvPlayer::stop() {
   const char* command[] = {"stop", nullptr};
   mpv_command(engine_.get(), command);
   if (is_stepped()) wait_until([this] { return text(engine_.get(), "path").empty(); });
+  mark_.reset();
 }
 
 void MpvPlayer::seek(double seconds) {
@@ -242,6 +249,7 @@ void MpvPlayer::handle(const mpv_event& event) {
       return;
     case MPV_EVENT_PLAYBACK_RESTART:
       sought_.reset();
+      if (started_entry_ == entry_) mark_.reset();
       return;
     case MPV_EVENT_AUDIO_RECONFIG:
       return check_sound_device();
@@ -270,6 +278,7 @@ void MpvPlayer::handle_end_of_file(const mpv_event& event) {
   } else {
     return;
   }
+  mark_.reset();
   loading_ = Loading::nothing;
   signal_.raise();
 }

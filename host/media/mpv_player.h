@@ -9,6 +9,7 @@
 
 #include "host/media/event_signal.h"
 #include "host/media/player.h"
+#include "host/media/reading_marks.h"
 #include "host/media/stepped_position.h"
 
 struct mpv_handle;
@@ -76,6 +77,7 @@ class MpvPlayer final : public Player {
   void drain();
   void handle(const mpv_event& event);
   void check_sound_device();
+  void refuse(std::string reason);
   void handle_end_of_file(const mpv_event& event);
   void wait_until(const std::function<bool()>& is_done);
   void follow_clock();
@@ -88,6 +90,7 @@ class MpvPlayer final : public Player {
   PlayerListener* listener_ = nullptr;
 
   std::string path_;
+  std::optional<ReadingMark> mark_;  // From loading until the first sound.
   Loading loading_ = Loading::nothing;
   // The engine's identifiers of this file and of the one it last started, to distinguish late
   // events of an earlier file from events of this one.

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "host/basics/premultiply.h"
+#include "host/media/reading_marks.h"
 
 namespace host::media {
 namespace {
@@ -141,6 +142,8 @@ PictureHeader read_picture_header(std::span<const std::uint8_t> bytes) {
 PictureHeader read_picture_file_header(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  const ReadingMark mark{Reading::cover, path};
+  if (!mark.may_read()) return {};
   std::ifstream file{path, std::ios::binary};
   std::vector<std::uint8_t> bytes;
   // A photograph may have a preview and a colour profile before its size.

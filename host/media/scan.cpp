@@ -199,7 +199,9 @@ class Scan {
     if (reading.has_broken_picture) complain_of_cover(file.path);
     if (!reading.tags) {
       ++progress_.skipped;
-      log_warning(fmt::format("{} {}; it is skipped", file.path, reading.refusal));
+      if (!reading.refusal.empty()) {
+        log_warning(fmt::format("{} {}; it is skipped", file.path, reading.refusal));
+      }
       changes_.forgotten.push_back(file.path);
       changes_.refused.push_back({std::move(file.path), file.stamp});
       return;

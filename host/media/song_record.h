@@ -3,18 +3,10 @@
 #include <cstdint>
 #include <string>
 
+#include "host/media/file_stamp.h"
 #include "host/media/song_tags.h"
 
 namespace host::media {
-
-// Identifies the state of a file when it was last read. A file with the same stamp is not read
-// again.
-struct FileStamp {
-  std::int64_t size = 0;
-  std::int64_t modified_ns = 0;
-
-  auto operator<=>(const FileStamp&) const = default;
-};
 
 // The picture beside the songs of a folder. The key changes with the file.
 struct FolderPicture {

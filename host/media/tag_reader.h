@@ -12,7 +12,7 @@ namespace host::media {
 
 struct TagReading {
   std::optional<SongTags> tags;
-  std::string refusal;  // Why there are no tags; empty when there are.
+  std::string refusal;  // Why there are no tags; empty when there are, or the log says it already.
   // The song names a picture that cannot be shown; it counts as having none.
   bool has_broken_picture = false;
 };

@@ -41,6 +41,8 @@ struct MediaOptions {
   /// If set, made first and played in addition to the folders.
   std::optional<DemoMusic> demo;
   std::string index_path;
+  /// Where the file is named that is being read, in case it ends the process; empty means nowhere.
+  std::string marks_path;
   /// With a stepped clock the first scan always precedes the start, and every turn of the loop
   /// advances the player to the clock's time.
   media::PlayerPace pace = media::PlayerPace::real;

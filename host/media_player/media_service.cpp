@@ -7,6 +7,7 @@
 #include "host/media/cloud_song.h"
 #include "host/media/log.h"
 #include "host/media/mpv_player.h"
+#include "host/media/reading_trial.h"
 #include "host/media_player/playback_memory.h"
 #include "platform/Foundation/NSNotificationCenter.h"
 #include "platform/MediaPlayer/MPMediaQuery.h"
@@ -30,6 +31,7 @@ std::shared_ptr<ItemStore> empty_store() {
 
 std::optional<std::string> MediaService::start(MediaOptions options) {
   stop();
+  media::keep_reading_marks(options.marks_path, &media::read_for_trial);
   auto player = media::MpvPlayer::create(
       {options.audio_output, options.pace, [] { return RunLoop::main().now(); }});
   if (!player) return "the playback engine cannot be started";

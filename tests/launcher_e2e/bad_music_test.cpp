@@ -152,6 +152,41 @@ TEST_F(BadMusic, EverySongPlaysOrIsSkippedInTheOpenPanel) {
   EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 0);
 }
 
+class DeadlyMusic : public PhoneTest {
+ protected:
+  DeadlyMusic() {
+    write_song(music() / "killer.mp3", titled("Killer"));
+    setenv("LD_PRELOAD", TEST_DEADLY_TAGS, 1);
+    // The sanitizers want to be loaded first.
+    const char* options = getenv("ASAN_OPTIONS");
+    const std::string before = options ? options : "";
+    setenv("ASAN_OPTIONS", (before + ":verify_asan_link_order=0").c_str(), 1);
+  }
+  ~DeadlyMusic() override { unsetenv("LD_PRELOAD"); }
+
+  static constexpr const char* kCountSongs =
+      "print [[[[[MPMediaQuery alloc] init] autorelease] items] count]";
+};
+
+TEST_F(DeadlyMusic, IsLeftOutAfterOneCrashAndThePhoneStarts) {
+  {
+    RunningPhone phone(headless({"--console"}));
+    ASSERT_NE(phone.wait_for_home_screen_after(0), 0);
+    ASSERT_TRUE(phone.waits_for_error("ended by signal"));
+    ASSERT_TRUE(phone.waits_for_error("1 songs (1 files skipped)"));
+    EXPECT_EQ(phone.ask(kCountSongs), "1");
+    EXPECT_EQ(phone.count_of_errors_with("killer.mp3"), 1);
+    EXPECT_EQ(phone.count_of_errors_with("killer.mp3 is left out"), 1);
+    EXPECT_EQ(phone.count_of_errors_with("ended by signal"), 1);
+    EXPECT_EQ(phone.ask("quit"), "ok");
+    ASSERT_EQ(phone.wait_for_end(), 0);
+  }
+  RunningPhone again(headless({"--console"}));
+  EXPECT_EQ(again.ask(kCountSongs), "1");
+  EXPECT_EQ(again.count_of_errors_with("killer.mp3"), 0);
+  EXPECT_EQ(again.count_of_errors_with("ended by signal"), 0);
+}
+
 /// Names and links as another system or a careless copy leaves them.
 class OddNames : public PhoneTest {
  protected:

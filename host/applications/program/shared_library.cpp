@@ -19,6 +19,7 @@ std::string shared_index() {
 void open_shared_library(bool is_stepped) {
   media_player::MediaOptions options;
   options.index_path = shared_index();
+  options.marks_path = foundation::path_on_this_machine("/var/mobile/Library/Caches/music/Music");
   options.first_scan = media_player::FirstScan::kNever;
   options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   options.audio_output = "null";
@@ -29,7 +30,8 @@ void open_shared_library(bool is_stepped) {
 // Opening a missing index would create an empty one.
 std::size_t count_of_shared_songs() {
   const std::string index = shared_index();
-  return std::filesystem::exists(index) ? media::Index(index).load().songs.size() : 0;
+  std::error_code ignored;
+  return std::filesystem::exists(index, ignored) ? media::Index(index).load().songs.size() : 0;
 }
 
 }  // namespace host::application
