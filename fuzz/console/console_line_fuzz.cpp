@@ -1,0 +1,63 @@
+#include <cstdlib>
+
+#include "host/console/session.h"
+#include "objc/autorelease_pool.h"
+
+using namespace host::console;
+
+namespace {
+
+/// A phone on which nothing happens.
+class StillPhone final : public Phone {
+ public:
+  void advance(double) override {}
+  void touch(int, TouchPhase, CGPoint) override {}
+  std::optional<CGPoint> centre_of(objc::Object) override { return CGPoint{1, 2}; }
+  Refusal type(std::string_view) override { return std::nullopt; }
+  Refusal key(std::string_view) override { return std::nullopt; }
+  Refusal press(Button) override { return std::nullopt; }
+  Refusal button(Button, ButtonPhase) override { return "refused"; }
+  Refusal system(SystemEvent, std::string_view) override { return std::nullopt; }
+  Refusal gesture(std::string_view) override { return std::nullopt; }
+  Refusal screenshot(const std::string&) override { return std::nullopt; }
+  Refusal unrest() override { return std::nullopt; }
+  Refusal talk_to(std::string_view) override { return std::nullopt; }
+};
+
+int counter = 3;
+const ExportedGlobal kTable[] = {{"counter", "i", &counter}, {nullptr, nullptr, nullptr}};
+
+/// Everything but sending messages, which reach code that trusts its caller.
+void check(const Session& session, std::string_view line) {
+  const objc::AutoreleasePool pool;
+  LineReader reader(line);
+  reader.word();
+  while (!reader.at_end()) {
+    const auto made = session.expression(reader);
+    if (!made) {
+      if (describe(made.problem(), line).empty()) std::abort();
+      return;
+    }
+    if (made->offset >= made->end || made->end > line.size()) std::abort();
+    if (!reader.comparison()) return;
+  }
+}
+
+}  // namespace
+
+// Lines as they reach the console, which answers each with one line.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  StillPhone phone;
+  Globals globals;
+  globals.add_table(kTable);
+  Session session(phone, globals);
+  std::string_view rest(reinterpret_cast<const char*>(data), size);
+  while (!rest.empty()) {
+    const auto line = rest.substr(0, rest.find('\n'));
+    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+    const bool sends = line.find('[') != line.npos;
+    if (sends) check(session, line);
+    if (!sends && session.execute(line).line().find('\n') != std::string::npos) std::abort();
+  }
+  return 0;
+}
