@@ -102,8 +102,18 @@ Result<Answer> quit(Session&, LineReader& reader) {
   return Answer{Answer::Kind::Quit, {}};
 }
 
+/// Runs a command that describes or compares objects, which is their own code.
+template <Result<Answer> (*Command)(Session&, LineReader&)>
+Result<Answer> asking(Session& session, LineReader& reader) {
+  try {
+    return Command(session, reader);
+  } catch (...) {
+    return Answer{Answer::Kind::Error, "an object raised an exception when it was asked"};
+  }
+}
+
 constexpr Command kInspectionCommands[] = {
-    {"advance", &advance}, {"print", &print},           {"expect", &expect},
+    {"advance", &advance}, {"print", &asking<&print>},  {"expect", &asking<&expect>},
     {"where", &where},     {"screenshot", &screenshot}, {"rest", &rest},
     {"echo", &echo},       {"process", &process},       {"quit", &quit},
 };

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 
+#include "host/runtime/text_bytes.h"
 #include "objc/send.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/Foundation/NSValue.h"
@@ -111,16 +112,17 @@ Refusal store_object(const Value& value, void* destination) {
   return std::nullopt;
 }
 
-/// The text of an NSString; nullptr for any other value.
-const char* utf8_of(const Value& value) {
+/// The text of an NSString, for the rest of the turn; nullptr for any other value.
+const char* c_string_of(const Value& value) {
   const auto* object = value.as<objc::Object>();
   if (!object) return nullptr;
   const auto text = objc::cast<NSString>(*object);
-  return text.isKindOfClass(NSString::cls()) ? text.UTF8String() : nullptr;
+  if (!text.isKindOfClass(NSString::cls())) return nullptr;
+  return NSString::stringWithUTF8String(utf8_of(text).c_str()).UTF8String();
 }
 
 Refusal store_text(const Value& value, const Type& type, void* destination) {
-  const char* text = utf8_of(value);
+  const char* text = c_string_of(value);
   if (!text && !value.as<NilValue>()) return "a text is needed here";
   if (type.code == ':') {
     put(destination, text ? sel_registerName(text) : nullptr);

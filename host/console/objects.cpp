@@ -1,6 +1,7 @@
 #include "host/console/objects.h"
 
 #include "host/console/marshal.h"
+#include "host/runtime/text_bytes.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/Foundation/NSValue.h"
 
@@ -42,8 +43,7 @@ std::optional<Number> number_in(objc::Object object) {
 
 std::optional<std::string> text_in(objc::Object object) {
   if (!is_a<NSString>(object)) return std::nullopt;
-  const char* text = objc::cast<NSString>(object).UTF8String();
-  return text ? text : "";
+  return utf8_of(objc::cast<NSString>(object));
 }
 
 std::optional<Value> value_in(objc::Object object) {

@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "host/runtime/log.h"
+#include "host/runtime/text_bytes.h"
 #include "platform/Foundation/NSString.h"
 
 extern "C" void (*_NSLog_printf_handler)(objc::Id line);
@@ -34,7 +35,7 @@ std::string_view place_of_complaint(std::string_view text) {
 }
 
 void take_line(objc::Id line) {
-  log_foundation_line(objc::wrap<NSString>(line).UTF8String());
+  log_foundation_line(utf8_of(objc::wrap<NSString>(line)));
 }
 
 }  // namespace

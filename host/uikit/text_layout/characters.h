@@ -1,17 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
-#include <string>
 #include <string_view>
 
 #include "platform/Foundation/NSString.h"
 
 namespace host::uikit {
-
-/// Appends the UTF-16 units as valid UTF-8. Unpaired surrogates and zero units become U+FFFD:
-/// neither may reach the shaper.
-void append_utf8(std::string& bytes, std::span<const unichar> units);
 
 /// Returns the nearest index at or before `index` at which a whole character begins. Surrogate
 /// pairs, combining marks and joined emoji are kept together, unless the sequence is absurdly long.

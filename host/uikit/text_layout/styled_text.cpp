@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/basics/utf16.h"
+#include "host/runtime/text_bytes.h"
 #include "host/uikit/drawing/color.h"
 #include "host/uikit/drawing/font.h"
 #include "host/uikit/text_layout/characters.h"
@@ -40,7 +42,7 @@ void apply(NSDictionary attributes, TextStyle& style) {
 
 void append_run(StyledText& styled, NSString text, NSRange range, const TextStyle& style) {
   const std::size_t begin = styled.bytes.size();
-  append_utf8(styled.bytes, units_of(text, range));
+  utf16::append_utf8(styled.bytes, units_of(text, range));
   styled.runs.push_back({begin, styled.bytes.size(), style});
 }
 
@@ -83,9 +85,7 @@ StyledText styled_text(NSAttributedString text, const TextStyle& base, std::size
 }
 
 std::string utf8_of(NSString text) {
-  std::string bytes;
-  append_utf8(bytes, units_of(text, {0, text.length()}));
-  return bytes;
+  return host::utf8_of(text);
 }
 
 }  // namespace host::uikit

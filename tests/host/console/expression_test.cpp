@@ -293,6 +293,16 @@ TEST_F(Expressions, ExcessiveNestingIsRefused) {
   EXPECT_TRUE(print(std::string(100'000, '{')).starts_with("nested too deeply"));
 }
 
+TEST_F(Expressions, HalfALetterIsPrintedAsAReplacement) {
+  EXPECT_EQ(print("[@\"a\xf0\x9f\x8e\xb5\" substringToIndex:2]"), "\"a\xef\xbf\xbd\"");
+  EXPECT_EQ(print("[NSArray arrayWithObject:[@\"\xf0\x9f\x8e\xb5z\" substringFromIndex:1]]"),
+            "(\"\xef\xbf\xbdz\")");
+}
+
+TEST_F(Expressions, HalfALetterIsPassedAsAReplacement) {
+  EXPECT_EQ(print("[lamp cText:[@\"\xf0\x9f\x8e\xb5\" substringToIndex:1]]"), "\"\xef\xbf\xbd\"");
+}
+
 TEST_F(Expressions, TextThatIsNotUtf8IsRefused) {
   EXPECT_EQ(print("@\"\xff\xfe\""), "text is not UTF-8 (column 1)");
 }

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "objc/class_builder.h"
+#include "platform/Foundation/NSArray.h"
 #include "tests/host/console/fake_phone.h"
 
 namespace {
@@ -15,6 +17,33 @@ using testing::StartsWith;
 
 int counter = 3;
 const ExportedGlobal kTable[] = {{"counter", "i", &counter}, {nullptr, nullptr, nullptr}};
+
+/// Raises an exception as soon as it is described or compared.
+class Grump : public objc::Implementation<Grump, NSObject> {
+ public:
+  using Implementation::Implementation;
+
+  NSString description() const { return raise<NSString>(); }
+  BOOL is_equal(objc::Object) const { return raise<BOOL>(); }
+
+ private:
+  template <class T>
+  static T raise() {
+    NSArray::array().objectAtIndex(0);
+    return T();
+  }
+};
+
+void make_grump_class() {
+  if (objc_getClass("ConsoleTestGrump")) return;
+  objc::ClassBuilder("ConsoleTestGrump", "NSObject")
+      .state<Grump>()
+      .method<&Grump::description>("description")
+      .method<&Grump::is_equal>("isEqual:")
+      .finish();
+}
+
+constexpr const char* kRaised = "error: an object raised an exception when it was asked";
 
 class Sessions : public testing::Test {
  protected:
@@ -175,6 +204,14 @@ TEST_F(Sessions, PrintAnswersWithTheValue) {
   EXPECT_EQ(say("print counter counter"), "error: unexpected text: counter (column 15)");
   EXPECT_EQ(say("print"), "error: an expression cannot begin with the end of the line (column 6)");
   EXPECT_EQ(say("echo one  two"), "one  two");
+}
+
+TEST_F(Sessions, AnObjectThatRaisesWhenItIsAskedIsAnError) {
+  make_grump_class();
+  EXPECT_EQ(say("print [[[ConsoleTestGrump alloc] init] autorelease]"), kRaised);
+  EXPECT_EQ(say("expect [[[ConsoleTestGrump alloc] init] autorelease] == @\"a\""), kRaised);
+  EXPECT_EQ(say("expect [[[ConsoleTestGrump alloc] init] autorelease] < 3"), kRaised);
+  EXPECT_EQ(say("print 1"), "1");
 }
 
 TEST_F(Sessions, ExpectationsThatHoldAreOk) {

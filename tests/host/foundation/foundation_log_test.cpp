@@ -44,6 +44,13 @@ TEST_F(FoundationLog, AnExtensionsOutputIsALineOfTheLog) {
   EXPECT_EQ(logged(), "info: <Owl> hoots\n");
 }
 
+TEST_F(FoundationLog, OutputThatIsNoTextIsALineToo) {
+  host::foundation::take_foundation_log();
+  NSLog("<Owl> half a letter: %C."_ns.id(), 0xd83d);
+  NSLog("<Owl> bytes: %s."_ns.id(), "\xff\xfe");
+  EXPECT_EQ(std::ranges::count(logged(), '\n'), 2);
+}
+
 TEST_F(FoundationLog, ARepeatedlyUnreadableFileIsLoggedOnce) {
   host::foundation::take_foundation_log();
   for (int i = 0; i < 3; ++i)

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "host/basics/utf16.h"
 #include "host/uikit/drawing/graphics.h"
 #include "host/uikit/text_layout/characters.h"
 #include "platform/Foundation/NSValue.h"
@@ -103,7 +104,7 @@ TEST_F(Text, UnpairedSurrogatesAreReplaced) {
   const std::array<unichar, 4> units{0xD800, 'a', 0xDC00, 0};
   std::string bytes;
 
-  host::uikit::append_utf8(bytes, units);
+  host::utf16::append_utf8(bytes, units);
 
   EXPECT_EQ(bytes, "\uFFFDa\uFFFD\uFFFD");
 }
