@@ -1,14 +1,13 @@
 #include "host/foundation/foundation_log.h"
 
 #include <gmock/gmock.h>
-#include <spdlog/sinks/ostream_sink.h>
-#include <spdlog/spdlog.h>
 
-#include <sstream>
+#include <algorithm>
 
-#include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSData.h"
 #include "platform/Foundation/NSLog.h"
 #include "platform/Foundation/NSString.h"
+#include "tests/support/caught_log.h"
 #include "tests/support/host_test.h"
 
 namespace {
@@ -18,22 +17,9 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct FoundationLog : host::test::HostTest {
-  FoundationLog() : before(spdlog::default_logger()) {
-    auto sink = std::make_shared<spdlog::sinks::ostream_sink_mt>(lines);
-    auto log = std::make_shared<spdlog::logger>("test", sink);
-    log->set_pattern("%l: %v");
-    spdlog::set_default_logger(log);
-  }
-  ~FoundationLog() override { spdlog::set_default_logger(before); }
+  std::string logged() { return log.take(); }
 
-  std::string logged() {
-    std::string text = lines.str();
-    lines.str({});
-    return text;
-  }
-
-  std::ostringstream lines;
-  std::shared_ptr<spdlog::logger> before;
+  host::test::CaughtLog log;
 };
 
 TEST_F(FoundationLog, AnExtensionsOutputIsALineOfTheLog) {
@@ -54,7 +40,7 @@ TEST_F(FoundationLog, OutputThatIsNoTextIsALineToo) {
 TEST_F(FoundationLog, ARepeatedlyUnreadableFileIsLoggedOnce) {
   host::foundation::take_foundation_log();
   for (int i = 0; i < 3; ++i)
-    EXPECT_FALSE(NSDictionary::dictionaryWithContentsOfFile("/dev"_ns));
+    EXPECT_FALSE(NSData::dataWithContentsOfFile("/dev"_ns));
   const std::string text = logged();
   EXPECT_THAT(text, HasSubstr("warning: File "));
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1);
