@@ -11,8 +11,6 @@
 namespace host::launcher {
 namespace {
 
-constexpr int kCannotRun = 127;
-
 std::vector<std::string> merged_environment(const ChildCommand& command) {
   std::vector<std::string> made;
   for (char** entry = environ; *entry; ++entry) {

@@ -6,12 +6,14 @@
 
 namespace host::launcher {
 
-/// A request from a process of the device to its supervisor.
+/// A request to the supervisor of a device, from one of its processes or from a second launcher.
 struct ControlRequest {
-  enum class Kind { Restart, Open, Close };
-  Kind kind = Kind::Restart;
-  std::string bundle;   // the application's identifier
-  std::string program;  // the name of its program
+  /// `Kill` and `Find` name a running program, the home screen's included; `Show` raises the
+  /// window.
+  enum class Kind { Open, Close, Kill, Find, Show };
+  Kind kind = Kind::Show;
+  std::string bundle;   // the application's identifier: `Open` and `Close`
+  std::string program;  // the name of its program: `Open`, `Kill` and `Find`
 
   friend bool operator==(const ControlRequest&, const ControlRequest&) = default;
 };

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <string_view>
+#include <vector>
 
 #include "host/launcher/unix_socket.h"
 
@@ -21,14 +22,30 @@ constexpr int kPatienceMilliseconds = 500;
 // A supervisor does little else than answer, but on a busy machine even that can take a while.
 constexpr int kAskersPatienceMilliseconds = 5000;
 
-/// Makes a new folder that only this user may enter; returns an empty path on failure.
-fs::path new_folder() {
+/// The folders for temporary files, the best one first. The name of the last is always short.
+std::vector<fs::path> temporary_folders() {
   std::error_code error;
   const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-  for (const fs::path& parent :
-       {fs::path(runtime ? runtime : ""), fs::temp_directory_path(error)}) {
+  return {fs::path(runtime ? runtime : ""), fs::temp_directory_path(error), "/tmp"};
+}
+
+/// An address holds few characters: whether a folder can have sockets is only known by making one.
+bool can_hold_sockets(const fs::path& folder) {
+  const fs::path longest = folder / std::string(kLongestSocketName, 'x');
+  const Descriptor made = listening_socket(longest);
+  std::error_code ignored;
+  fs::remove(longest, ignored);
+  return static_cast<bool>(made);
+}
+
+/// Makes a new folder for sockets that only this user may enter; returns an empty path on failure.
+fs::path new_folder() {
+  for (const fs::path& parent : temporary_folders()) {
     std::string name = parent / "sonavue-XXXXXX";
-    if (parent.is_absolute() && mkdtemp(name.data())) return name;
+    if (!parent.is_absolute() || !mkdtemp(name.data())) continue;
+    if (can_hold_sockets(name)) return name;
+    std::error_code ignored;
+    fs::remove(name, ignored);
   }
   return {};
 }

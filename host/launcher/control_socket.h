@@ -12,8 +12,12 @@ namespace host::launcher {
 /// The environment variable with the socket's path.
 inline constexpr const char* kControlSocketVariable = "SONAVUE_CONTROL_SOCKET";
 
+/// The length of the longest name of a socket in the same folder: an application's.
+inline constexpr std::size_t kLongestSocketName = 76;
+
 /// The socket through which the processes of one device reach their supervisor, in a separate
-/// folder that only this user may enter. The destructor removes both.
+/// folder that only this user may enter, and whose name is short enough for the applications'
+/// sockets. The destructor removes both.
 class ControlSocket {
  public:
   ControlSocket();

@@ -4,14 +4,28 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <utility>
 
 #include "host/application/wire/listener_argument.h"
 #include "host/launcher/unix_socket.h"
+#include "host/runtime/log.h"
 
 namespace host::launcher {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Logs the reason, which is the latest error of the system.
+bool cannot_start(const fs::path& what) {
+  const std::error_code reason(errno, std::generic_category());
+  spdlog::error("an application cannot be started: {}: {}", what.string(), reason.message());
+  return false;
+}
+
+}  // namespace
 
 fs::path application_socket(const fs::path& folder, const std::string& bundle) {
   return folder / ("application-" + bundle);
@@ -39,41 +53,60 @@ bool RunningApplications::open(const std::string& bundle, const std::string& pro
   if (is_running(bundle)) return true;
   ChildCommand command = common_;
   command.program = places_.programs / program;
-  if (access(command.program.c_str(), X_OK) != 0) return false;
+  if (access(command.program.c_str(), X_OK) != 0) return cannot_start(command.program);
   forget_socket(bundle);
   const Descriptor listener = listening_socket(socket_of(bundle));
-  if (!listener) return false;
+  if (!listener) return cannot_start(socket_of(bundle));
   command.arguments.emplace_back(application::kListenerArgument);
   command.arguments.push_back(std::to_string(listener.get()));
   const auto child = start_child(command, listener.get());
-  if (child) running_[bundle] = *child;
-  return child.has_value();
+  if (!child) return cannot_start(command.program);
+  running_[bundle] = {*child, program};
+  return true;
 }
 
 bool RunningApplications::close(const std::string& bundle) {
   const auto found = running_.find(bundle);
   if (found == running_.end()) return true;
-  kill(found->second, SIGKILL);
-  waitpid(found->second, nullptr, 0);
+  ::kill(found->second.process, SIGKILL);
+  waitpid(found->second.process, nullptr, 0);
   forget_socket(bundle);
   running_.erase(found);
   return true;
 }
 
+bool RunningApplications::kill(const std::string& program) {
+  bool any = false;
+  for (auto each = running_.begin(); each != running_.end();) {
+    const auto one = each++;
+    if (one->second.program == program) any |= close(std::string(one->first));
+  }
+  return any;
+}
+
 void RunningApplications::reap() {
   for (auto each = running_.begin(); each != running_.end();) {
-    if (waitpid(each->second, nullptr, WNOHANG) != each->second) {
+    int status = 0;
+    if (waitpid(each->second.process, &status, WNOHANG) != each->second.process) {
       ++each;
       continue;
     }
+    if (WIFEXITED(status) && WEXITSTATUS(status) == kCannotRun)
+      spdlog::error("{} cannot be run: the file is not a program of this machine",
+                    (places_.programs / each->second.program).string());
     forget_socket(each->first);
     each = running_.erase(each);
   }
 }
 
+bool RunningApplications::is_program_running(const std::string& program) const {
+  return std::any_of(running_.begin(), running_.end(),
+                     [&program](const auto& one) { return one.second.program == program; });
+}
+
 pid_t RunningApplications::process(const std::string& bundle) const {
   const auto found = running_.find(bundle);
-  return found == running_.end() ? 0 : found->second;
+  return found == running_.end() ? 0 : found->second.process;
 }
 
 }  // namespace host::launcher

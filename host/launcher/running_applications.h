@@ -26,24 +26,32 @@ class RunningApplications {
   RunningApplications(const RunningApplications&) = delete;
   RunningApplications& operator=(const RunningApplications&) = delete;
 
-  /// Returns true if the application is running now, newly started or not; false for a missing
-  /// program.
+  /// Returns true if the application is running now, newly started or not. Otherwise the log says
+  /// why it could not be started.
   bool open(const std::string& bundle, const std::string& program);
   /// Kills the application; returns true when it is no longer running.
   bool close(const std::string& bundle);
+  /// Kills the applications with this program; returns false when none is running.
+  bool kill(const std::string& program);
   /// Forgets the applications that have ended.
   void reap();
   bool is_running(const std::string& bundle) const { return running_.contains(bundle); }
+  bool is_program_running(const std::string& program) const;
   /// 0 when it is not running.
   pid_t process(const std::string& bundle) const;
 
  private:
+  struct Running {
+    pid_t process;
+    std::string program;
+  };
+
   std::filesystem::path socket_of(const std::string& bundle) const;
   void forget_socket(const std::string& bundle) const;
 
   Places places_;
   ChildCommand common_;
-  std::map<std::string, pid_t> running_;
+  std::map<std::string, Running> running_;
 };
 
 /// The path of the socket on which the application with this bundle listens.

@@ -111,13 +111,24 @@ bool Supervisor::serve(const ControlRequest& request) {
       return !ending_signal_ && applications_.open(request.bundle, request.program);
     case ControlRequest::Kind::Close:
       return applications_.close(request.bundle);
-    case ControlRequest::Kind::Restart:
+    case ControlRequest::Kind::Kill:
+      return is_home_screen(request.program) ? restart() : applications_.kill(request.program);
+    case ControlRequest::Kind::Find:
+      return is_home_screen(request.program) || applications_.is_program_running(request.program);
+    case ControlRequest::Kind::Show:
       break;
   }
-  if (child_ && !ending_signal_) {
-    restart_asked_ = true;
-    signal_child(SIGTERM);
-  }
+  return false;
+}
+
+bool Supervisor::is_home_screen(const std::string& program) const {
+  return child_ != 0 && command_.program.filename() == program;
+}
+
+bool Supervisor::restart() {
+  if (ending_signal_) return false;
+  restart_asked_ = true;
+  signal_child(SIGTERM);
   return true;
 }
 

@@ -44,6 +44,8 @@ class Supervisor {
   void wait_for_something();
   void take_signal();
   bool serve(const ControlRequest& request);
+  bool is_home_screen(const std::string& program) const;
+  bool restart();
   void reap();
   void child_ended(int status);
   void start_again();

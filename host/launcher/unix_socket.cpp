@@ -3,6 +3,7 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
+#include <cerrno>
 #include <cstring>
 #include <optional>
 
@@ -14,7 +15,10 @@ constexpr int kWaitingAtMost = 8;
 std::optional<sockaddr_un> address_of(const std::filesystem::path& path) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
-  if (path.native().size() >= sizeof address.sun_path) return std::nullopt;
+  if (path.native().size() >= sizeof address.sun_path) {
+    errno = ENAMETOOLONG;
+    return std::nullopt;
+  }
   std::memcpy(address.sun_path, path.c_str(), path.native().size() + 1);
   return address;
 }

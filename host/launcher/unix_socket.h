@@ -6,7 +6,7 @@
 
 namespace host::launcher {
 
-// Unix sockets. Both functions return an empty descriptor when the path is too long for one.
+// Unix sockets. Both functions return an empty descriptor on failure, with the reason in `errno`.
 
 /// Makes a socket at `path` that accepts connections.
 Descriptor listening_socket(const std::filesystem::path& path);

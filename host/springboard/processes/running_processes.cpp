@@ -42,7 +42,11 @@ RunningProcesses::Process RunningProcesses::open(const std::string& bundle,
                                                  const std::string& program) {
   if (Process running = find(bundle)) return running;
   ProcessKeeper* keeper = configuration().process_keeper;
-  if (!keeper || program.empty() || !keeper->open(bundle, program)) return nullptr;
+  if (!keeper || program.empty()) return nullptr;
+  if (!keeper->open(bundle, program)) {
+    spdlog::error("{} could not be started", program);
+    return nullptr;
+  }
   auto made = std::make_shared<ApplicationProcess>(keeper->connect(bundle), time_of_phone(),
                                                    events_of(bundle));
   if (!made->is_alive()) return nullptr;

@@ -12,16 +12,19 @@ using Kind = ControlRequest::Kind;
 
 TEST(ControlRequests, RoundTrip) {
   for (const ControlRequest& request :
-       {ControlRequest{}, ControlRequest{Kind::Open, "com.apple.Music", "Music"},
+       {ControlRequest{Kind::Show, {}, {}}, ControlRequest{Kind::Kill, {}, "SpringBoard"},
+        ControlRequest{Kind::Find, {}, "Music"},
+        ControlRequest{Kind::Open, "com.apple.Music", "Music"},
         ControlRequest{Kind::Close, "com.apple.Music", {}}})
     EXPECT_EQ(read_request(line_of(request)), request);
 }
 
 TEST(ControlRequests, MustFillTheWholeLine) {
   for (const char* line :
-       {"", "\n", "restart SpringBoard", "restart\n", "restart SpringBoard now\n", "open\n",
-        "open com.apple.Music\n", "open com.apple.Music Music more\n", "close\n",
-        "close com.apple.Music Music\n", "shut com.apple.Music\n", "open  com.apple.Music Music\n"})
+       {"", "\n", "kill SpringBoard", "kill\n", "kill \n", "kill SpringBoard now\n", "open\n",
+        "show me\n", "show \n", "open com.apple.Music\n", "open com.apple.Music Music more\n",
+        "close\n", "close com.apple.Music Music\n", "shut com.apple.Music\n",
+        "open  com.apple.Music Music\n"})
     EXPECT_EQ(read_request(line), std::nullopt) << line;
 }
 

@@ -1,5 +1,6 @@
 #include "host/launcher/running_applications.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 
@@ -7,11 +8,14 @@
 #include <fstream>
 
 #include "host/launcher/unix_socket.h"
+#include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
 
 namespace {
 
 using namespace host::launcher;
+using testing::AllOf;
+using testing::HasSubstr;
 
 constexpr const char* kBundle = "org.example.Sleeper";
 
@@ -53,9 +57,39 @@ TEST_F(Applications, AreOpenedOnce) {
   EXPECT_EQ(applications_.process(kBundle), process);
 }
 
-TEST_F(Applications, AreNotOpenedWithoutTheirProgram) {
+TEST_F(Applications, AreNotOpenedWithoutTheirProgramAndTheLogSaysWhy) {
+  const LogLines log;
   EXPECT_FALSE(applications_.open(kBundle, "no-such-program"));
   EXPECT_FALSE(applications_.is_running(kBundle));
+  EXPECT_THAT(log.text(), AllOf(HasSubstr("no-such-program"), HasSubstr("No such file")));
+}
+
+TEST_F(Applications, AreNotOpenedWithoutRoomForASocketAndTheLogSaysWhy) {
+  const LogLines log;
+  RunningApplications others({programs_.path(), sockets_.path() / std::string(100, 's')}, {});
+  EXPECT_FALSE(others.open(kBundle, kProgram));
+  EXPECT_THAT(log.text(), AllOf(HasSubstr(kBundle), HasSubstr("name too long")));
+}
+
+TEST_F(Applications, ThatAreNoProgramsAreNamedInTheLog) {
+  write_file(programs_.path() / "text",
+             "\x7f"
+             "ELF and nothing else");
+  std::filesystem::permissions(programs_.path() / "text", std::filesystem::perms::owner_all);
+  const LogLines log;
+  EXPECT_TRUE(applications_.open(kBundle, "text"));
+  while (applications_.is_running(kBundle))
+    applications_.reap();
+  EXPECT_THAT(log.text(), HasSubstr((programs_.path() / "text").string() + " cannot be run"));
+}
+
+TEST_F(Applications, AreKilledByTheNameOfTheirProgram) {
+  ASSERT_TRUE(open());
+  EXPECT_TRUE(applications_.is_program_running(kProgram));
+  EXPECT_FALSE(applications_.kill("sleep"));
+  EXPECT_TRUE(applications_.kill(kProgram));
+  EXPECT_FALSE(applications_.is_program_running(kProgram));
+  EXPECT_FALSE(applications_.kill(kProgram));
 }
 
 TEST_F(Applications, AreGoneOnceTheyAreClosed) {
