@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "host/activator/assignment/assignment_store.h"
-#include "host/activator/event/hang_watch.h"
 #include "host/activator/event/mode.h"
 #include "host/activator/registry/listener_directory.h"
+#include "host/runtime/hang_watch.h"
 #include "objc/ref.h"
 #include "platform/Activator/LAActivator.h"
 #include "platform/Activator/LAListener.h"

@@ -1,4 +1,4 @@
-#include "host/activator/event/hang_watch.h"
+#include "host/runtime/hang_watch.h"
 
 #include <gmock/gmock.h>
 
@@ -7,7 +7,6 @@
 namespace host::test {
 namespace {
 
-using activator::HangWatch;
 using namespace std::chrono_literals;
 
 // Each hanging call ends when it has been named, so the test does not depend on the time that

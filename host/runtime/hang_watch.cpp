@@ -1,8 +1,15 @@
-#include "host/activator/event/hang_watch.h"
+#include "host/runtime/hang_watch.h"
 
+#include <algorithm>
 #include <utility>
 
-namespace host::activator {
+namespace host {
+namespace {
+
+// A pause of the process counts as no more than this.
+constexpr std::chrono::milliseconds kLongestSlice{250};
+
+}  // namespace
 
 HangWatch::HangWatch(std::chrono::milliseconds limit, Report report)
     : limit_(limit), report_(std::move(report)) {}
@@ -34,7 +41,7 @@ bool HangWatch::begin(const std::string& name) {
   const std::lock_guard lock(mutex_);
   if (std::exchange(watching_, true)) return false;
   name_ = name;
-  due_ = std::chrono::steady_clock::now() + limit_;
+  ++call_;
   // The first call starts the thread: on most phones no gesture is ever made.
   if (!thread_.joinable()) thread_ = std::thread([this] { watch_calls(); });
   changed_.notify_one();
@@ -48,12 +55,23 @@ void HangWatch::watch_calls() {
       changed_.wait(lock);
       continue;
     }
-    const auto due = due_;
-    if (changed_.wait_until(lock, due) == std::cv_status::no_timeout) continue;
-    if (!watching_ || due_ != due) continue;
+    const int call = call_;
+    wait_for_limit(lock, call);
+    if (is_over(call)) continue;
     report_(name_);
-    changed_.wait(lock, [this, due] { return ending_ || !watching_ || due_ != due; });
+    changed_.wait(lock, [this, call] { return is_over(call); });
   }
 }
 
-}  // namespace host::activator
+void HangWatch::wait_for_limit(std::unique_lock<std::mutex>& lock, int call) {
+  using Clock = std::chrono::steady_clock;
+  Clock::duration left = limit_;
+  while (left > Clock::duration::zero() && !is_over(call)) {
+    const auto slice = std::min<Clock::duration>(left, kLongestSlice);
+    const auto before = Clock::now();
+    changed_.wait_for(lock, slice);
+    left -= std::min(Clock::now() - before, slice);
+  }
+}
+
+}  // namespace host
