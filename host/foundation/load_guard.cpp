@@ -7,6 +7,8 @@
 namespace host::foundation {
 namespace {
 
+constexpr const char* kEndless = "endless";
+
 std::string version_of(const std::filesystem::path& file) {
   std::error_code error;
   const auto size = std::filesystem::file_size(file, error);
@@ -21,13 +23,24 @@ LoadGuard::LoadGuard(const std::filesystem::path& library, const std::filesystem
   std::ifstream mark(mark_);
   std::string version;
   int crashes = 0;
-  if (mark >> version >> crashes && version == version_) crashes_ = crashes;
+  if (!(mark >> version >> crashes) || version != version_) return;
+  crashes_ = crashes;
+  std::string note;
+  is_endless_ = mark >> note && note == kEndless;
+}
+
+void LoadGuard::write_mark(const char* note) const {
+  std::error_code error;
+  std::filesystem::create_directories(mark_.parent_path(), error);
+  std::ofstream(mark_) << version_ << ' ' << crashes_ + 1 << ' ' << note << '\n';
 }
 
 void LoadGuard::will_load() {
-  std::error_code error;
-  std::filesystem::create_directories(mark_.parent_path(), error);
-  std::ofstream(mark_) << version_ << ' ' << crashes_ + 1 << '\n';
+  write_mark("");
+}
+
+void LoadGuard::will_not_load() {
+  write_mark(kEndless);
 }
 
 void LoadGuard::did_load() {

@@ -1,20 +1,29 @@
 #include "host/foundation/loader.h"
 
 #include <dlfcn.h>
+#include <fmt/format.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 
+#include "host/foundation/crash_report.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/load_filter.h"
 #include "host/foundation/load_guard.h"
+#include "host/runtime/hang_watch.h"
 #include "host/runtime/log.h"
+#include "host/runtime/patience.h"
 #include "objc/autorelease_pool.h"
 
 namespace host::foundation {
 namespace {
 
 constexpr std::string_view kLibraries = "/Library/MobileSubstrate/DynamicLibraries";
+// Seconds after which a load is slow, and after which it counts as endless.
+constexpr double kSlow = 2;
+constexpr double kEndless = 10;
 constexpr std::string_view kMarks = "/var/mobile/Library/Caches/loader";
 
 std::vector<LoadedLibrary> loaded;
@@ -22,8 +31,7 @@ std::vector<LoadedLibrary> loaded;
 std::vector<std::filesystem::path> library_files() {
   std::vector<std::filesystem::path> files;
   std::error_code error;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(path_on_this_machine(kLibraries), error)) {
+  for (const auto& entry : std::filesystem::directory_iterator(libraries_folder(), error)) {
     if (entry.path().extension() == ".so") files.push_back(entry.path());
   }
   std::sort(files.begin(), files.end());
@@ -38,16 +46,56 @@ bool is_wanted(const std::string& name, std::string_view bundle, std::string_vie
   return answer == Admission::kAdmitted;
 }
 
-void load(const std::filesystem::path& file, const std::string& name) {
+/// Watches the loads of one call of `load_libraries`.
+class LoadWatch {
+ public:
+  /// Runs the load of the library that `guard` is for.
+  void during(const std::string& name, LoadGuard& guard, const std::function<void()>& load) {
+    guard_ = &guard;
+    slow_.during(name, [&] { endless_.during(name, load); });
+  }
+
+ private:
+  static std::chrono::milliseconds limit(double seconds) {
+    // A scale of 0 means for ever.
+    const double scale = patience_scale() > 0 ? patience_scale() : kForEver;
+    return std::chrono::milliseconds(static_cast<long>(seconds * scale * 1e3));
+  }
+  void end_process(const std::string& name) {
+    spdlog::error("{} does not finish loading: the process ends, and leaves it out from now on",
+                  name);
+    guard_->will_not_load();
+    _exit(kEndedByWatch);
+  }
+
+  static constexpr double kForEver = 1e6;
+  static constexpr int kEndedByWatch = 1;
+
+  LoadGuard* guard_ = nullptr;
+  HangWatch slow_{limit(kSlow), [](const std::string& name) {
+                    spdlog::warn("{} is still being loaded after {} seconds", name,
+                                 kSlow * patience_scale());
+                  }};
+  HangWatch endless_{limit(kEndless), [this](const std::string& name) { end_process(name); }};
+};
+
+std::string reason_for_giving_up(const LoadGuard& guard) {
+  if (guard.is_endless()) return "its load did not end";
+  return fmt::format("it crashed {} times while being loaded", guard.crashes());
+}
+
+void load(const std::filesystem::path& file, const std::string& name, LoadWatch& watch) {
   LoadGuard guard(file, path_on_this_machine(kMarks));
   if (guard.is_given_up()) {
-    spdlog::error(
-        "{} is left out: it crashed {} times while being loaded (replace {} to try again)", name,
-        guard.crashes(), file.string());
+    spdlog::error("{} is left out: {} (replace {} to try again)", name, reason_for_giving_up(guard),
+                  file.string());
     return;
   }
   guard.will_load();
-  void* handle = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+  crash_report_begins_load(name);
+  void* handle = nullptr;
+  watch.during(name, guard, [&] { handle = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL); });
+  crash_report_ends_load(name, handle);
   guard.did_load();
   if (!handle) {
     spdlog::error("{} is left out: {}", name, dlerror());
@@ -59,13 +107,18 @@ void load(const std::filesystem::path& file, const std::string& name) {
 
 }  // namespace
 
+std::filesystem::path libraries_folder() {
+  return path_on_this_machine(kLibraries);
+}
+
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
                                           std::string_view executable) {
   objc::AutoreleasePool pool;
+  LoadWatch watch;
   const std::size_t before = loaded.size();
   for (const auto& file : library_files()) {
     const std::string name = file.stem().string();
-    if (is_wanted(name, bundle_identifier, executable)) load(file, name);
+    if (is_wanted(name, bundle_identifier, executable)) load(file, name, watch);
   }
   return {loaded.begin() + static_cast<std::ptrdiff_t>(before), loaded.end()};
 }

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace host::foundation {
+
+/// Where the libraries are on this machine.
+std::filesystem::path libraries_folder();
 
 struct LoadedLibrary {
   std::string name;  // of the file, without its extension
@@ -15,8 +19,10 @@ struct LoadedLibrary {
 /// their names, whose property list of the same name admits this process. The list has a `Filter`
 /// with `Bundles` (identifiers), `Executables` (process names) or `Classes` (names that exist
 /// here); every kind that is present must match. Leaves out, with a log line each, libraries
-/// without a list, and those that crashed the process five times while being loaded, until their
-/// file changes. The process always continues. Returns the libraries that this call has loaded.
+/// without a list, and those that ended the process five times while being loaded or whose load did
+/// not end, until their file changes. Names a library that is slow to load while it is being
+/// loaded, and ends the process when that does not end. Returns the libraries that this call has
+/// loaded.
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
                                           std::string_view executable);
 
