@@ -1,5 +1,6 @@
 #pragma once
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <utility>
@@ -27,5 +28,10 @@ class Descriptor {
  private:
   int descriptor_ = -1;
 };
+
+/// Keeps the programs that this process starts from inheriting a descriptor that it was given.
+inline void close_on_exec(int descriptor) {
+  if (descriptor >= 0) fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+}
 
 }  // namespace host

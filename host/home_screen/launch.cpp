@@ -6,6 +6,7 @@
 #include "host/foundation/loader.h"
 #include "host/home_screen/music.h"
 #include "host/home_screen/phone_mode.h"
+#include "host/home_screen/safe_mode_notice.h"
 #include "host/home_screen/supervised_processes.h"
 #include "host/process/device_images.h"
 #include "host/runtime/heap.h"
@@ -56,8 +57,9 @@ void launch_home_screen(const ProcessOptions& options) {
   configure_social(options.headless);
   start_gesture_service();
   start_music(options);
-  foundation::load_libraries(kBundleIdentifier, kHomeScreen);
+  if (!options.safe_mode) foundation::load_libraries(kBundleIdentifier, kHomeScreen);
   uikit::launch_application(kHomeScreen);
+  if (options.safe_mode) show_safe_mode_notice();
 }
 
 }  // namespace host::launcher

@@ -1,11 +1,14 @@
 #include <cstdio>
+#include <functional>
 #include <memory>
 
 #include "host/console/globals.h"
+#include "host/foundation/crash_report.h"
 #include "host/foundation/device_paths.h"
 #include "host/home_screen/console_phone.h"
 #include "host/home_screen/console_service.h"
 #include "host/home_screen/launch.h"
+#include "host/home_screen/lifeline.h"
 #include "host/home_screen/music.h"
 #include "host/home_screen/passing_time.h"
 #include "host/home_screen/process_options.h"
@@ -50,12 +53,13 @@ struct Display {
   std::unique_ptr<screen::Screen> screen;
   std::unique_ptr<launcher::WindowService> service;
   std::unique_ptr<launcher::WindowClipboard> clipboard;
+  std::function<void()> raise;
 };
 
 std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
                                     screen::Input& input) {
   if (options.headless)
-    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr};
+    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr, [] {}};
   const DeviceModel& device = current_device();
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
@@ -65,7 +69,8 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
   }
   auto service = std::make_unique<launcher::WindowService>(loop, *window);
   auto clipboard = std::make_unique<launcher::WindowClipboard>(*window);
-  return Display{std::move(window), std::move(service), std::move(clipboard)};
+  auto raise = [&shown = *window] { shown.raise(); };
+  return Display{std::move(window), std::move(service), std::move(clipboard), std::move(raise)};
 }
 
 int run(const ProcessOptions& options) {
@@ -78,10 +83,15 @@ int run(const ProcessOptions& options) {
   const auto pool = std::make_unique<objc::AutoreleasePool>();
   const quartzcore::LayerService layers(loop);
   const DeviceModel& device = current_device();
+  launcher::Lifeline lifeline(loop, options.lifeline_descriptor);
+  close_on_exec(options.console_descriptor);
   launcher::Hands hands(loop, {device.width, device.height});
   launcher::WindowInput input(hands, [&loop] { loop.stop(); });
   auto display = open_display(options, loop, input);
-  if (!display) return launcher::kCannotStart;
+  if (!display) {
+    lifeline.say(launcher::LifeSign::CannotStart);
+    return launcher::kCannotStart;
+  }
   launcher::launch_home_screen(options);
   process::PhoneScreen phone_screen(loop, *display->screen);
 
@@ -94,7 +104,10 @@ int run(const ProcessOptions& options) {
   std::optional<launcher::ConsoleService> service;
   if (options.console_descriptor >= 0)
     service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
+  // Stepped time passes only between two questions, so it says nothing about the loop.
+  if (!options.stepped) lifeline.begin([&display] { display->raise(); });
   loop.run();
+  lifeline.say(launcher::LifeSign::SwitchedOff);
   launcher::stop_music();
   return 0;
 }
@@ -108,5 +121,6 @@ int main(int count, char** arguments) {
     std::fputs("SpringBoard must be started by sonavue.\n", stderr);
     return launcher::kCannotStart;
   }
+  foundation::report_crashes(launcher::kHomeScreen);
   return run(*options);
 }

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "host/application/wire/process_arguments.h"
 #include "host/basics/ascii.h"
 #include "host/launcher/supervisor.h"
 #include "host/runtime/device_model.h"
@@ -18,7 +19,9 @@ std::optional<ProcessOptions> read_process_options(int count, const char* const*
   parser.add_flag("--headless", options.headless);
   parser.add_flag("--blind", options.blind);
   parser.add_flag("--stepped", options.stepped);
+  parser.add_flag(application::kSafeModeArgument, options.safe_mode);
   parser.add_option(kConsoleArgument, options.console_descriptor);
+  parser.add_option(kLifelineArgument, options.lifeline_descriptor);
   try {
     parser.parse(count, arguments);
   } catch (const CLI::ParseError&) {

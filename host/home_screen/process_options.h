@@ -16,7 +16,9 @@ struct ProcessOptions {
   bool headless = false;
   bool blind = false;
   bool stepped = false;
+  bool safe_mode = false;  // no extensions
   int console_descriptor = -1;
+  int lifeline_descriptor = -1;
 };
 
 /// Folders of music come as ASCII (`host/basics/ascii.h`). Returns nothing when the arguments are

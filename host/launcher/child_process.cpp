@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <fstream>
 #include <string_view>
 
 namespace host::launcher {
@@ -35,7 +36,7 @@ std::vector<char*> pointers_to(std::vector<std::string>& texts) {
 
 }  // namespace
 
-std::optional<pid_t> start_child(const ChildCommand& command, int kept) {
+std::optional<pid_t> start_child(const ChildCommand& command, std::span<const int> kept) {
   // Everything is prepared before the fork: between fork and exec hardly anything is allowed.
   std::vector<std::string> arguments = {command.program.filename().string()};
   arguments.insert(arguments.end(), command.arguments.begin(), command.arguments.end());
@@ -53,9 +54,18 @@ std::optional<pid_t> start_child(const ChildCommand& command, int kept) {
   sigset_t none;
   sigemptyset(&none);
   sigprocmask(SIG_SETMASK, &none, nullptr);
-  if (kept >= 0) fcntl(kept, F_SETFD, 0);
+  for (const int descriptor : kept)
+    if (descriptor >= 0) fcntl(descriptor, F_SETFD, 0);
   execve(command.program.c_str(), argument_pointers.data(), environment_pointers.data());
   _exit(kCannotRun);
+}
+
+bool is_traced(pid_t process) {
+  std::ifstream status("/proc/" + std::to_string(process) + "/status");
+  for (std::string word; status >> word;) {
+    if (word == "TracerPid:") return status >> word && word != "0";
+  }
+  return false;
 }
 
 }  // namespace host::launcher

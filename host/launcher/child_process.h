@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,9 +20,12 @@ struct ChildCommand {
 /// The exit status of a child whose program could not be run.
 inline constexpr int kCannotRun = 127;
 
-/// Starts a program that ends when this process does and is named after its file. It inherits
-/// `kept`, a close-on-exec descriptor; -1 for none. Returns nothing when the fork failed; the child
-/// of a missing program exits at once with `kCannotRun`.
-std::optional<pid_t> start_child(const ChildCommand& command, int kept);
+/// Starts a program that ends when this process does and is named after its file. It inherits the
+/// close-on-exec descriptors in `kept`; -1 stands for none. Returns nothing when the fork failed;
+/// the child of a missing program exits at once with `kCannotRun`.
+std::optional<pid_t> start_child(const ChildCommand& command, std::span<const int> kept);
+
+/// Returns whether a debugger is attached to the process.
+bool is_traced(pid_t process);
 
 }  // namespace host::launcher

@@ -5,10 +5,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <utility>
 
-#include "host/application/wire/listener_argument.h"
+#include "host/application/wire/process_arguments.h"
 #include "host/launcher/unix_socket.h"
 #include "host/runtime/log.h"
 
@@ -57,9 +58,10 @@ bool RunningApplications::open(const std::string& bundle, const std::string& pro
   forget_socket(bundle);
   const Descriptor listener = listening_socket(socket_of(bundle));
   if (!listener) return cannot_start(socket_of(bundle));
+  if (is_safe_) command.arguments.emplace_back(application::kSafeModeArgument);
   command.arguments.emplace_back(application::kListenerArgument);
   command.arguments.push_back(std::to_string(listener.get()));
-  const auto child = start_child(command, listener.get());
+  const auto child = start_child(command, std::array{listener.get()});
   if (!child) return cannot_start(command.program);
   running_[bundle] = {*child, program};
   return true;

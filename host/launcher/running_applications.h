@@ -29,6 +29,8 @@ class RunningApplications {
   /// Returns true if the application is running now, newly started or not. Otherwise the log says
   /// why it could not be started.
   bool open(const std::string& bundle, const std::string& program);
+  /// Whether applications started from now on load extensions.
+  void set_safe(bool is_safe) { is_safe_ = is_safe; }
   /// Kills the application; returns true when it is no longer running.
   bool close(const std::string& bundle);
   /// Kills the applications with this program; returns false when none is running.
@@ -52,6 +54,7 @@ class RunningApplications {
   Places places_;
   ChildCommand common_;
   std::map<std::string, Running> running_;
+  bool is_safe_ = false;
 };
 
 /// The path of the socket on which the application with this bundle listens.

@@ -57,7 +57,8 @@ int run_phone(Options options) {
   const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
   const Supervisor::Commands commands{
       {installation.home_screen, home_screen_arguments(options), {path}},
-      {{}, application_arguments(options), {path}}};
+      {{}, application_arguments(options), {path}},
+      !options.headless};
   if (!options.console && options.script.empty()) return Supervisor(commands, clock, nullptr).run();
   auto front = console_for(options);
   if (!front) return complain(options.script.string() + " cannot be read");

@@ -6,6 +6,11 @@
 #include <sys/socket.h>
 #include <sys/wait.h>
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include "host/application/wire/process_arguments.h"
 #include "host/runtime/log.h"
 
 namespace host::launcher {
@@ -13,6 +18,8 @@ namespace {
 
 // How long a process may take to exit by itself, in seconds.
 constexpr double kPatience = 2.0;
+// A process that is stuck may take less time to say where.
+constexpr double kPatienceWithHung = 0.5;
 constexpr int kWakeWhileImpatient = 50;  // milliseconds
 
 /// Blocks the signals that are read from a descriptor, and unblocks them at the end.
@@ -37,7 +44,18 @@ class BlockedSignals {
 
 std::string how_it_ended(int status) {
   if (WIFSIGNALED(status)) return fmt::format("ended by signal {}", WTERMSIG(status));
-  return fmt::format("ended with status {}", WEXITSTATUS(status));
+  return fmt::format("ended with status {}, although nobody switched the phone off",
+                     WEXITSTATUS(status));
+}
+
+/// Makes a connection to a child. The child gets `theirs`, whose number follows `argument`.
+void connect(const char* argument, ChildCommand& command, Descriptor& ours, Descriptor& theirs) {
+  int pair[2];
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair) != 0) return;
+  ours = Descriptor(pair[0]);
+  theirs = Descriptor(pair[1]);
+  command.arguments.emplace_back(argument);
+  command.arguments.push_back(std::to_string(theirs.get()));
 }
 
 /// Adds the control socket's path to the command's environment.
@@ -52,6 +70,7 @@ Supervisor::Supervisor(Commands commands, const Clock& clock, ConsoleFront* fron
     : command_(with_control_socket(std::move(commands.home_screen), control_)),
       clock_(clock),
       front_(front),
+      has_window_(commands.has_window),
       applications_({command_.program.parent_path(), control_.folder()},
                     with_control_socket(std::move(commands.applications), control_)) {}
 
@@ -67,22 +86,21 @@ int Supervisor::run() {
 
 void Supervisor::start() {
   ChildCommand command = command_;
-  Descriptor theirs;
-  int pair[2];
-  if (front_ && socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair) == 0) {
-    console_ = Descriptor(pair[0]);
-    theirs = Descriptor(pair[1]);
-    command.arguments.push_back(kConsoleArgument);
-    command.arguments.push_back(std::to_string(theirs.get()));
-  }
-  const auto child = start_child(command, theirs.get());
+  Descriptor console;
+  Descriptor lifeline;
+  if (front_) connect(kConsoleArgument, command, console_, console);
+  connect(kLifelineArgument, command, lifeline_, lifeline);
+  if (is_safe_) command.arguments.emplace_back(application::kSafeModeArgument);
+  const auto child = start_child(command, std::array{console.get(), lifeline.get()});
   if (!child) {
-    spdlog::error("{} cannot be started", command_.program.filename().string());
+    spdlog::error("{} cannot be started", name());
     status_ = kGaveUp;
     return;
   }
   child_ = *child;
   restart_asked_ = false;
+  farewell_.reset();
+  heartbeat_.stop();
   patience_ends_.reset();
   if (console_) front_->attach(console_.get());
 }
@@ -94,15 +112,58 @@ void Supervisor::wait_for_something() {
       {control_.descriptor(), POLLIN, 0},
       {front_ ? front_->awaited_answer() : -1, POLLIN, 0},
       {front_ ? front_->awaited_input() : -1, POLLIN, 0},
+      {lifeline_.get(), POLLIN, 0},
   };
-  poll(waiting, std::size(waiting), patience_ends_ ? kWakeWhileImpatient : -1);
+  poll(waiting, std::size(waiting), longest_wait());
   // Answers first: the last one may still be unread although its process is gone.
   if (waiting[2].revents) front_->read_answer();
+  if (waiting[4].revents) read_life_signs();
   if (waiting[0].revents) take_signal();
   if (waiting[1].revents) control_.serve([this](const auto& request) { return serve(request); });
   if (waiting[3].revents && !status_) front_->read_input();
   if (front_ && front_->verdict() && child_ && !patience_ends_) signal_child(SIGTERM);
+  look_after_child();
   kill_overdue_child();
+}
+
+int Supervisor::longest_wait() const {
+  if (patience_ends_) return kWakeWhileImpatient;
+  if (!heartbeat_.is_beating()) return -1;
+  return std::max(1, static_cast<int>(heartbeat_.longest_pause() * 1e3));
+}
+
+void Supervisor::read_life_signs() {
+  for (char sign = 0;;) {
+    const auto count = recv(lifeline_.get(), &sign, 1, MSG_DONTWAIT);
+    if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+    if (count <= 0) return lifeline_.reset();
+    if (sign == static_cast<char>(LifeSign::Alive)) {
+      heartbeat_.answered(clock_.now());
+    } else {
+      farewell_ = static_cast<LifeSign>(sign);
+      heartbeat_.stop();
+      if (heartbeat_.patience() > 0) patience_ends_ = clock_.now() + heartbeat_.patience();
+    }
+  }
+}
+
+void Supervisor::say(Care care) const {
+  const char sign = static_cast<char>(care);
+  // A process that leaves so much unread that this does not fit does not answer either.
+  if (lifeline_) static_cast<void>(!send(lifeline_.get(), &sign, 1, MSG_NOSIGNAL | MSG_DONTWAIT));
+}
+
+void Supervisor::look_after_child() {
+  if (child_ == 0 || patience_ends_) return;
+  const auto finding = heartbeat_.look(clock_.now());
+  if (finding == Heartbeat::Finding::ShouldAsk) say(Care::Question);
+  if (finding != Heartbeat::Finding::IsHung) return;
+  if (is_traced(child_)) return heartbeat_.answered(clock_.now());
+  spdlog::error("{} has not answered for {} seconds: it is started again ({}=0 waits for ever)",
+                name(), heartbeat_.patience(), kPatienceVariable);
+  // With this signal it can still say whose code is running.
+  signal_child(SIGABRT);
+  patience_ends_ = clock_.now() + kPatienceWithHung;
 }
 
 bool Supervisor::serve(const ControlRequest& request) {
@@ -116,13 +177,15 @@ bool Supervisor::serve(const ControlRequest& request) {
     case ControlRequest::Kind::Find:
       return is_home_screen(request.program) || applications_.is_program_running(request.program);
     case ControlRequest::Kind::Show:
-      break;
+      if (!has_window_ || child_ == 0) return false;
+      say(Care::ShowWindow);
+      return true;
   }
   return false;
 }
 
 bool Supervisor::is_home_screen(const std::string& program) const {
-  return child_ != 0 && command_.program.filename() == program;
+  return child_ != 0 && name() == program;
 }
 
 bool Supervisor::restart() {
@@ -149,6 +212,8 @@ void Supervisor::reap() {
   int status = 0;
   if (child_ == 0 || waitpid(child_, &status, WNOHANG) != child_) return;
   child_ = 0;
+  if (lifeline_) read_life_signs();
+  lifeline_.reset();
   if (front_) {
     while (console_ && front_->awaited_answer() >= 0)
       front_->read_answer();
@@ -160,19 +225,19 @@ void Supervisor::reap() {
 }
 
 void Supervisor::child_ended(int status) {
-  const bool exited = WIFEXITED(status);
   if (ending_signal_) {
     status_ = 128 + ending_signal_;
   } else if (front_ && front_->verdict()) {
     status_ = front_->verdict();
-  } else if (restart_asked_) {
-    start_again();
-  } else if (exited && WEXITSTATUS(status) == 0) {
+  } else if (farewell_ == LifeSign::SwitchedOff) {
     status_ = 0;
-  } else if (exited && WEXITSTATUS(status) == kCannotStart) {
+  } else if (farewell_ == LifeSign::CannotStart) {
     status_ = kCannotStart;
+  } else if (restart_asked_ && is_safe_) {
+    set_safe_mode(false);
+    start();
   } else {
-    spdlog::warn("{} {}", command_.program.filename().string(), how_it_ended(status));
+    if (!restart_asked_) spdlog::warn("{} {}", name(), how_it_ended(status));
     start_again();
   }
 }
@@ -180,11 +245,23 @@ void Supervisor::child_ended(int status) {
 void Supervisor::start_again() {
   if (limit_.allow(clock_.now())) {
     start();
-    return;
+  } else if (!is_safe_) {
+    spdlog::error("{} ended more than {} times within a minute: it is started without extensions",
+                  name(), RestartLimit::kMostRestarts);
+    set_safe_mode(true);
+    start();
+  } else {
+    spdlog::error(
+        "{} ended more than {} times within a minute, even without extensions: the phone stays off",
+        name(), RestartLimit::kMostRestarts);
+    status_ = kGaveUp;
   }
-  spdlog::error("{} ended more than {} times within a minute: the phone stays off",
-                command_.program.filename().string(), RestartLimit::kMostRestarts);
-  status_ = kGaveUp;
+}
+
+void Supervisor::set_safe_mode(bool is_safe) {
+  is_safe_ = is_safe;
+  applications_.set_safe(is_safe);
+  limit_ = {};
 }
 
 void Supervisor::signal_child(int signal) {

@@ -159,6 +159,11 @@ void Window::set_clipboard_text(const std::string& text) {
   SDL_SetClipboardText(text.c_str());
 }
 
+void Window::raise() {
+  SDL_RestoreWindow(window_.get());
+  SDL_RaiseWindow(window_.get());
+}
+
 int Window::event_descriptor() const {
   return screen::event_descriptor(window_.get());
 }

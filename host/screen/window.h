@@ -28,6 +28,9 @@ class Window final : public Screen {
 
   void show(const Picture& picture, std::span<const PixelRect> damage) override;
 
+  /// Brings the window in front of the others of the desktop, even if it was minimized.
+  void raise();
+
   /// Forwards the user's actions since the last call to the input.
   void handle_events();
 

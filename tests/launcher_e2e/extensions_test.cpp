@@ -6,15 +6,7 @@ namespace {
 
 using namespace launcher_e2e;
 
-class Extensions : public PhoneTest {
- protected:
-  void install(const std::string& name, const fs::path& library) {
-    fs::create_directories(libraries());
-    fs::copy_file(library, libraries() / (name + ".so"));
-    std::ofstream(libraries() / (name + ".plist"))
-        << "{ Filter = { Bundles = (\"com.apple.springboard\"); }; }\n";
-  }
-};
+using Extensions = PhoneTest;
 
 TEST_F(Extensions, OneThatCrashesFiveTimesWhileLoadingIsSkippedAndThePhoneStarts) {
   install("Crasher", TEST_CRASHING_EXTENSION);

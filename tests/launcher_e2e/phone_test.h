@@ -41,6 +41,14 @@ class PhoneTest : public testing::Test {
     return made;
   }
 
+  /// Installs an extension of the home screen; a version that is there is replaced.
+  void install(const std::string& name, const fs::path& library) const {
+    fs::create_directories(libraries());
+    fs::copy_file(library, libraries() / (name + ".so"), fs::copy_options::overwrite_existing);
+    media_tests::write_bytes(libraries() / (name + ".plist"),
+                             "{ Filter = { Bundles = (\"com.apple.springboard\"); }; }\n");
+  }
+
   /// Enables opening the panel by dragging the icon, as users do in the settings of a new phone.
   void switch_drag_on() const {
     fs::create_directories(preferences().parent_path());

@@ -5,4 +5,7 @@ namespace host::application {
 /// Precedes the descriptor number of the socket that an application listens on.
 inline constexpr const char* kListenerArgument = "--listener";
 
+/// Starts a process of the phone, also the home screen, without extensions.
+inline constexpr const char* kSafeModeArgument = "--safe-mode";
+
 }  // namespace host::application

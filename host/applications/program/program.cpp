@@ -3,9 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <optional>
 
-#include "host/application/wire/listener_argument.h"
+#include "host/application/wire/process_arguments.h"
 #include "host/applications/program/running_program.h"
 #include "host/foundation/bundles.h"
+#include "host/foundation/crash_report.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
@@ -28,6 +29,7 @@ struct Options {
   std::string device;
   std::string root;
   int listener = -1;
+  bool safe_mode = false;  // no extensions
 };
 
 std::optional<Options> read_options(int count, const char* const* arguments) {
@@ -36,6 +38,7 @@ std::optional<Options> read_options(int count, const char* const* arguments) {
   parser.add_option("--device", options.device)->required();
   parser.add_option("--root", options.root)->required();
   parser.add_option(kListenerArgument, options.listener)->required();
+  parser.add_flag(kSafeModeArgument, options.safe_mode);
   try {
     parser.parse(count, arguments);
   } catch (const CLI::ParseError&) {
@@ -55,7 +58,7 @@ Hello wait_for_home(HomeLink& link) {
   }
 }
 
-void live(HomeLink& link, const Program& program) {
+void live(HomeLink& link, const Program& program, bool safe_mode) {
   const Hello hello = wait_for_home(link);
   SteppedClock stepped;
   RealClock real;
@@ -67,7 +70,7 @@ void live(HomeLink& link, const Program& program) {
   foundation::take_foundation_log();
   const quartzcore::LayerService layers(loop);
   if (program.export_classes) program.export_classes();
-  foundation::load_libraries(program.bundle, program.name);
+  if (!safe_mode) foundation::load_libraries(program.bundle, program.name);
   if (program.prepare) program.prepare(hello.is_stepped);
   uikit::launch_application(program.application_class);
   const console::Globals globals = process::globals_of_libraries();
@@ -86,10 +89,12 @@ int run_program(int count, char** arguments, const Program& program) {
     spdlog::error("{} can only be started by sonavue", program.name);
     return kCannotStart;
   }
+  foundation::report_crashes(program.name);
   set_current_device(*device_model(options->device));
   foundation::set_device_root(options->root);
+  close_on_exec(options->listener);
   HomeLink link{Descriptor(options->listener)};
-  live(link, program);
+  live(link, program, options->safe_mode);
   return 0;
 }
 

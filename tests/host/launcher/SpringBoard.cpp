@@ -10,7 +10,7 @@
 #include <string_view>
 
 // A minimal home screen. Its first argument names a file to which every start appends one line,
-// `NAME PID`; its second selects its behaviour.
+// `NAME PID`, with ` safe` in safe mode; its second selects its behaviour.
 
 namespace {
 
@@ -23,6 +23,38 @@ int starts() {
 
 void record(std::string_view line) {
   std::ofstream(record_path, std::ios::app) << line << '\n';
+}
+
+int count;
+char** arguments;
+
+bool is_given(std::string_view option) {
+  return std::find(arguments, arguments + count, option) != arguments + count;
+}
+
+/// The number after an option; -1 without one.
+int number_after(std::string_view option) {
+  char** found = std::find(arguments, arguments + count, option);
+  return found + 1 < arguments + count ? std::atoi(found[1]) : -1;
+}
+
+/// Says one byte to the supervisor.
+void say(char sign) {
+  send(number_after("--lifeline-descriptor"), &sign, 1, MSG_NOSIGNAL);
+}
+
+int switched_off() {
+  say('o');
+  return 0;
+}
+
+/// Answers the supervisor's questions, as many as are given, then no more.
+void answer(int questions) {
+  say('a');
+  for (char question = 0; questions > 0; --questions) {
+    if (recv(number_after("--lifeline-descriptor"), &question, 1, 0) != 1) return;
+    if (question == '?') say('a');
+  }
 }
 
 [[noreturn]] void wait_for_ever() {
@@ -45,22 +77,47 @@ int echo(int descriptor) {
     }
     const std::string answer = (line == "quit" ? "ok" : line) + "\n";
     send(descriptor, answer.data(), answer.size(), MSG_NOSIGNAL);
-    if (line == "quit") return 0;
+    if (line == "quit") return switched_off();
     line.clear();
   }
-  return 0;
+  return switched_off();
 }
 
 }  // namespace
 
-int main(int count, char** arguments) {
+int main(int argument_count, char** argument_values) {
+  count = argument_count;
+  arguments = argument_values;
   if (count < 3) return 1;
   record_path = arguments[1];
   const std::string_view behaviour = arguments[2];
-  record(std::string(arguments[0]) + " " + std::to_string(getpid()));
+  const bool is_safe = is_given("--safe-mode");
+  record(std::string(arguments[0]) + " " + std::to_string(getpid()) + (is_safe ? " safe" : ""));
   if (behaviour == "crash") abort();
   if (behaviour == "fail") return 7;
-  if (behaviour == "cannot-start") return 2;
+  if (behaviour == "exit" && !is_safe) return 0;
+  if (behaviour == "fail-as-if-unable" && !is_safe) return 2;
+  if (behaviour == "crash-unless-safe" && !is_safe) abort();
+  if (behaviour == "cannot-start") {
+    say('c');
+    return 2;
+  }
+  if (behaviour == "restart-when-safe") {
+    if (starts() <= 6) abort();
+    if (!is_safe) return switched_off();
+    static_cast<void>(!std::system("killall SpringBoard"));
+    wait_for_ever();
+  }
+  if (behaviour == "hang-once" && starts() == 1) {
+    answer(2);
+    wait_for_ever();
+  }
+  if (behaviour == "show-itself") {
+    char care = 0;
+    static_cast<void>(recv(number_after("--lifeline-descriptor"), &care, 1, 0));
+    record(std::string("told ") + care);
+    return switched_off();
+  }
   if (behaviour == "crash-once" && starts() == 1) abort();
   if (behaviour == "killall-once" && starts() == 1) {
     static_cast<void>(!std::system("killall SpringBoard"));
@@ -75,6 +132,6 @@ int main(int count, char** arguments) {
     wait_for_ever();
   }
   if (behaviour == "wait") wait_for_ever();
-  if (behaviour == "echo" && count == 5) return echo(std::atoi(arguments[4]));
-  return 0;
+  if (behaviour == "echo") return echo(number_after("--console-descriptor"));
+  return switched_off();
 }

@@ -1,15 +1,18 @@
 #include "host/launcher/supervisor.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
+#include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
 
 namespace {
 
 using namespace host::launcher;
+using testing::HasSubstr;
 
 TEST(RestartLimit, AllowsFiveWithinAMinuteAndMoreLater) {
   RestartLimit limit;
@@ -37,6 +40,14 @@ class Supervisors : public testing::Test {
     return Supervisor({command(behaviour), {}}, clock_, nullptr).run();
   }
 
+  /// How many of the starts were in safe mode; all of them were at the end.
+  std::size_t safe_starts() const {
+    std::size_t count = 0;
+    for (const std::string& line : recorded())
+      count += line.ends_with(" safe");
+    return count;
+  }
+
   std::filesystem::path record() const { return folder_.path() / "starts"; }
   std::vector<std::string> recorded() const { return lines_of(record()); }
 
@@ -60,14 +71,50 @@ TEST_F(Supervisors, StartACrashedProcessAgain) {
   EXPECT_EQ(recorded().size(), 2u);
 }
 
-TEST_F(Supervisors, GiveUpAfterFiveRestartsWithinAMinute) {
+TEST_F(Supervisors, GiveUpAfterFiveRestartsWithinAMinuteAndFiveMoreInSafeMode) {
+  const LogLines log;
   EXPECT_EQ(run("crash"), kGaveUp);
-  EXPECT_EQ(recorded().size(), 6u);
+  EXPECT_EQ(recorded().size(), 12u);
+  EXPECT_EQ(safe_starts(), 6u);
+  EXPECT_THAT(log.text(), HasSubstr("started without extensions"));
+  EXPECT_THAT(log.text(), HasSubstr("the phone stays off"));
+}
+
+TEST_F(Supervisors, StayInSafeModeWhenThatHelps) {
+  EXPECT_EQ(run("crash-unless-safe"), 0);
+  EXPECT_EQ(recorded().size(), 7u);
+  EXPECT_EQ(safe_starts(), 1u);
+}
+
+TEST_F(Supervisors, LeaveSafeModeWhenARestartIsRequested) {
+  EXPECT_EQ(run("restart-when-safe"), 0);
+  EXPECT_EQ(recorded().size(), 8u);
+  EXPECT_EQ(safe_starts(), 1u);
 }
 
 TEST_F(Supervisors, CountAFailureAsACrash) {
   EXPECT_EQ(run("fail"), kGaveUp);
-  EXPECT_EQ(recorded().size(), 6u);
+  EXPECT_EQ(recorded().size(), 12u);
+}
+
+TEST_F(Supervisors, CountAnyExitThatIsNotAnnouncedAsACrash) {
+  for (const char* behaviour : {"exit", "fail-as-if-unable"}) {
+    std::filesystem::remove(record());
+    const LogLines log;
+    EXPECT_EQ(run(behaviour), 0) << behaviour;
+    EXPECT_EQ(recorded().size(), 7u) << behaviour;
+    EXPECT_THAT(log.text(), HasSubstr("although nobody switched the phone off"));
+  }
+}
+
+TEST_F(Supervisors, RestartAProcessThatNoLongerAnswers) {
+  setenv(host::kPatienceVariable, "0.02", 1);
+  const LogLines log;
+  const host::RealClock clock;
+  EXPECT_EQ(Supervisor({command("hang-once"), {}}, clock, nullptr).run(), 0);
+  unsetenv(host::kPatienceVariable);
+  EXPECT_EQ(recorded().size(), 2u);
+  EXPECT_THAT(log.text(), HasSubstr("SpringBoard has not answered"));
 }
 
 TEST_F(Supervisors, DoNotRetryAProcessThatCannotStart) {
@@ -118,7 +165,7 @@ TEST_F(Supervisors, LeaveOtherProcessesOfThatNameAlone) {
   const auto other_record = folder_.path() / "other";
   ChildCommand other = command("wait");
   other.arguments[0] = other_record;
-  const auto stranger = start_child(other, -1);
+  const auto stranger = start_child(other, {});
   ASSERT_TRUE(stranger);
   wait_for_recorded_process(other_record);
 

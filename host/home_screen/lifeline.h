@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "host/basics/descriptor.h"
+#include "host/launcher/life_signs.h"
+#include "host/runtime/run_loop.h"
+
+namespace host::launcher {
+
+/// The home screen's end of its connection to the supervisor.
+class Lifeline {
+ public:
+  /// Without a supervisor the descriptor is -1.
+  Lifeline(RunLoop& loop, int descriptor);
+  ~Lifeline();
+  Lifeline(const Lifeline&) = delete;
+  Lifeline& operator=(const Lifeline&) = delete;
+
+  /// From the loop's first turn, which must come next, the supervisor's questions are answered: a
+  /// loop that stops turning is noticed.
+  void begin(std::function<void()> show_window);
+  void say(LifeSign sign) const;
+
+ private:
+  void answer();
+
+  RunLoop& loop_;
+  Descriptor descriptor_;
+  std::function<void()> show_window_;
+  std::optional<RunLoop::Id> watch_;
+};
+
+}  // namespace host::launcher

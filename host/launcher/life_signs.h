@@ -1,0 +1,23 @@
+#pragma once
+
+namespace host::launcher {
+
+/// Precedes the number of the lifeline's descriptor: the home screen's end of its connection to the
+/// supervisor, on which each byte is a message.
+inline constexpr const char* kLifelineArgument = "--lifeline-descriptor";
+
+/// What the home screen says. An end of the process that it has not announced is a crash, whatever
+/// its exit status: anything in the process can call `exit`.
+enum class LifeSign : char {
+  Alive = 'a',        // the run loop turns: said when it begins to, and to each question
+  SwitchedOff = 'o',  // the phone ends because its user wants it to
+  CannotStart = 'c',  // the phone ends because no home screen could start; the log says why
+};
+
+/// What the supervisor says.
+enum class Care : char {
+  Question = '?',
+  ShowWindow = 'w',
+};
+
+}  // namespace host::launcher
