@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include "host/launcher/control_socket.h"
-#include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
 
 namespace host::launcher {

@@ -3,9 +3,9 @@
 #include <poll.h>
 #include <sys/socket.h>
 
-#include <cstdlib>
+#include <iomanip>
+#include <sstream>
 #include <string_view>
-#include <vector>
 
 #include "host/launcher/unix_socket.h"
 
@@ -16,38 +16,20 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kDone = "ok\n";
 constexpr std::string_view kRefused = "no\n";
+constexpr int kHashDigits = 16;
 constexpr std::size_t kLongestRequest = 256;
 // A silent client must not hold up the phone.
 constexpr int kPatienceMilliseconds = 500;
 // A supervisor does little else than answer, but on a busy machine even that can take a while.
 constexpr int kAskersPatienceMilliseconds = 5000;
 
-/// The folders for temporary files, the best one first. The name of the last is always short.
-std::vector<fs::path> temporary_folders() {
-  std::error_code error;
-  const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-  return {fs::path(runtime ? runtime : ""), fs::temp_directory_path(error), "/tmp"};
-}
-
 /// An address holds few characters: whether a folder can have sockets is only known by making one.
 bool can_hold_sockets(const fs::path& folder) {
-  const fs::path longest = folder / std::string(kLongestSocketName, 'x');
+  const fs::path longest = application_socket(folder, {});
   const Descriptor made = listening_socket(longest);
   std::error_code ignored;
   fs::remove(longest, ignored);
   return static_cast<bool>(made);
-}
-
-/// Makes a new folder for sockets that only this user may enter; returns an empty path on failure.
-fs::path new_folder() {
-  for (const fs::path& parent : temporary_folders()) {
-    std::string name = parent / "sonavue-XXXXXX";
-    if (!parent.is_absolute() || !mkdtemp(name.data())) continue;
-    if (can_hold_sockets(name)) return name;
-    std::error_code ignored;
-    fs::remove(name, ignored);
-  }
-  return {};
 }
 
 std::string read_some(int descriptor, int patience) {
@@ -65,16 +47,17 @@ void write_all(int descriptor, std::string_view text) {
 
 }  // namespace
 
-ControlSocket::ControlSocket() {
-  folder_ = new_folder();
-  if (folder_.empty()) return;
-  path_ = folder_ / "control";
-  listener_ = listening_socket(path_);
+fs::path application_socket(const fs::path& folder, const std::string& bundle) {
+  std::ostringstream name;
+  name << "application-" << std::hex << std::setfill('0') << std::setw(kHashDigits)
+       << std::hash<std::string>{}(bundle);
+  return folder / name.str();
 }
 
-ControlSocket::~ControlSocket() {
-  std::error_code ignored;
-  if (!folder_.empty()) fs::remove_all(folder_, ignored);
+ControlSocket::ControlSocket() : folder_(session_folders(), &can_hold_sockets) {
+  if (folder_.path().empty()) return;
+  path_ = folder_.path() / "control";
+  listener_ = listening_socket(path_);
 }
 
 void ControlSocket::serve(const std::function<bool(const ControlRequest&)>& serve) const {

@@ -33,10 +33,19 @@ bool is_same(const fs::path& from, const fs::path& to) {
   return same_size && fs::last_write_time(from, error) == fs::last_write_time(to, error) && !error;
 }
 
+/// Returns whether the folder is missing, or has nothing but the lock of its owner.
+bool is_untouched(const fs::path& root) {
+  std::error_code error;
+  fs::directory_iterator entries(root, error);
+  for (const auto end = fs::end(entries); !error && entries != end; entries.increment(error)) {
+    if (entries->path().filename() != FolderLock::kFile) return false;
+  }
+  return true;
+}
+
 bool is_being_made(const fs::path& root) {
   std::error_code error;
-  return !fs::exists(root, error) || fs::is_empty(root, error) ||
-         fs::exists(root / kBeingMade, error);
+  return is_untouched(root) || fs::exists(root / kBeingMade, error);
 }
 
 Failure copy_if_missing(const fs::path& from, const fs::path& to) {
@@ -78,6 +87,17 @@ std::string identifier_in(const fs::path& info) {
 }
 
 }  // namespace
+
+Failure take_device_root(const fs::path& root, FolderLock& lock, bool& has_owner) {
+  std::error_code error;
+  fs::create_directories(root, error);
+  if (error) return failure(root, error);
+  const auto outcome = lock.take(root);
+  has_owner = outcome == FolderLock::Outcome::HasOwner;
+  if (outcome == FolderLock::Outcome::Failed)
+    return failure(root, {errno, std::generic_category()});
+  return std::nullopt;
+}
 
 Failure prepare_device_root(const fs::path& root) {
   for (const char* folder : kFolders) {

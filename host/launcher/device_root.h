@@ -5,7 +5,14 @@
 #include <span>
 #include <string>
 
+#include "host/launcher/folder_lock.h"
+
 namespace host::launcher {
+
+/// Makes the root's folder and takes its lock, unless that has an owner. Returns the reason when
+/// neither is possible.
+std::optional<std::string> take_device_root(const std::filesystem::path& root, FolderLock& lock,
+                                            bool& has_owner);
 
 /// Makes the folders that every device has. Returns the reason when the root cannot be written.
 std::optional<std::string> prepare_device_root(const std::filesystem::path& root);

@@ -25,7 +25,20 @@ constexpr const char* kKeys =
     "  F7               shakes the phone\n"
     "  Control-G        the keyboard's own gesture\n"
     "Buttons are down as long as their key: hold F1 or F3, or F5 and F6 together.\n"
-    "The mouse is a finger; one that comes in over the edge pulls from it.";
+    "The mouse is a finger; one that comes in over the edge pulls from it.\n"
+    "\n"
+    "A device runs once: a second start shows the window of the first.\n"
+    "\n"
+    "Exit status\n"
+    "  0    the phone was switched off, or the window of a running one is in front\n"
+    "  1    a line of the script failed\n"
+    "  2    it could not be started; standard error says why\n"
+    "  3    the home screen kept ending, even without extensions\n"
+    "  4    another process has the device, and no window to show\n"
+    "  128+ ended by the signal of that number\n"
+    "\n"
+    "SONAVUE_PATIENCE=0 in the environment waits for ever for a home screen or an\n"
+    "extension that hangs; any other number multiplies the time until it is ended.";
 
 std::string check_device(const std::string& identifier) {
   if (device_model(identifier)) return {};

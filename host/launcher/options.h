@@ -31,6 +31,8 @@ struct Ending {
 };
 
 inline constexpr int kBadUsage = 2;
+/// Another process has the device.
+inline constexpr int kInUse = 4;
 
 /// Checks everything on the command line, except whether the root can be written, which
 /// `prepare_device_root` does.

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "host/application/wire/process_arguments.h"
+#include "host/launcher/control_socket.h"
 #include "host/launcher/unix_socket.h"
 #include "host/runtime/log.h"
 
@@ -20,17 +21,13 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Logs the reason, which is the latest error of the system.
-bool cannot_start(const fs::path& what) {
+bool cannot_start(const std::string& program, const fs::path& what) {
   const std::error_code reason(errno, std::generic_category());
-  spdlog::error("an application cannot be started: {}: {}", what.string(), reason.message());
+  spdlog::error("{} cannot be started: {}: {}", program, what.string(), reason.message());
   return false;
 }
 
 }  // namespace
-
-fs::path application_socket(const fs::path& folder, const std::string& bundle) {
-  return folder / ("application-" + bundle);
-}
 
 RunningApplications::RunningApplications(Places places, ChildCommand common)
     : places_(std::move(places)), common_(std::move(common)) {}
@@ -54,15 +51,15 @@ bool RunningApplications::open(const std::string& bundle, const std::string& pro
   if (is_running(bundle)) return true;
   ChildCommand command = common_;
   command.program = places_.programs / program;
-  if (access(command.program.c_str(), X_OK) != 0) return cannot_start(command.program);
+  if (access(command.program.c_str(), X_OK) != 0) return cannot_start(program, command.program);
   forget_socket(bundle);
   const Descriptor listener = listening_socket(socket_of(bundle));
-  if (!listener) return cannot_start(socket_of(bundle));
+  if (!listener) return cannot_start(program, socket_of(bundle));
   if (is_safe_) command.arguments.emplace_back(application::kSafeModeArgument);
   command.arguments.emplace_back(application::kListenerArgument);
   command.arguments.push_back(std::to_string(listener.get()));
   const auto child = start_child(command, std::array{listener.get()});
-  if (!child) return cannot_start(command.program);
+  if (!child) return cannot_start(program, command.program);
   running_[bundle] = {*child, program};
   return true;
 }

@@ -10,7 +10,7 @@
 
 namespace host::launcher {
 
-/// The applications' processes. Each listens on a socket with its bundle's name, which exists
+/// The applications' processes. Each listens on a socket of its own, which exists
 /// before the process starts, so the caller can connect at once. An application that ends is not
 /// restarted; the destructor ends all of them.
 class RunningApplications {
@@ -56,9 +56,5 @@ class RunningApplications {
   std::map<std::string, Running> running_;
   bool is_safe_ = false;
 };
-
-/// The path of the socket on which the application with this bundle listens.
-std::filesystem::path application_socket(const std::filesystem::path& folder,
-                                         const std::string& bundle);
 
 }  // namespace host::launcher

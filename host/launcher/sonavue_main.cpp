@@ -1,3 +1,4 @@
+#include <poll.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -13,6 +14,10 @@
 namespace {
 
 using namespace host::launcher;
+
+// How long another process may take between taking a device's root and introducing itself.
+constexpr int kMostNaps = 100;
+constexpr int kNapMilliseconds = 20;
 
 int complain(const std::string& reason) {
   std::fprintf(stderr, "sonavue: %s\n", reason.c_str());
@@ -48,21 +53,50 @@ std::optional<std::string> prepare(const Options& options, const Installation& i
   return reason;
 }
 
+/// The owner of a device's root, which may be about to introduce itself.
+FolderOwner wait_for_owner(const std::filesystem::path& root) {
+  for (int nap = 0; nap < kMostNaps; ++nap) {
+    if (auto owner = owner_of(root)) return std::move(*owner);
+    poll(nullptr, 0, kNapMilliseconds);
+  }
+  return {};
+}
+
+/// Shows the window of the phone that already has this root, or says who has it.
+int meet_running_phone(const Options& options) {
+  const FolderOwner owner = wait_for_owner(options.root);
+  const bool wants_window = !options.headless && !options.console && options.script.empty();
+  const bool is_shown = wants_window && !owner.control_socket.empty() &&
+                        ask_supervisor(owner.control_socket, {ControlRequest::Kind::Show, {}, {}});
+  std::fprintf(stderr, "sonavue: %s is already in use by process %d%s\n", options.root.c_str(),
+               owner.process, is_shown ? ", whose window is in front now" : "");
+  return is_shown ? 0 : kInUse;
+}
+
 int run_phone(Options options) {
+  remove_abandoned_folders();
   std::optional<ThrowawayFolder> device;
-  if (options.root.empty()) options.root = device.emplace().path();
-  const Installation installation = find_installation();
-  if (const auto reason = prepare(options, installation)) return complain(*reason);
-  const host::RealClock clock;
-  const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
-  const Supervisor::Commands commands{
-      {installation.home_screen, home_screen_arguments(options), {path}},
-      {{}, application_arguments(options), {path}},
-      !options.headless};
-  if (!options.console && options.script.empty()) return Supervisor(commands, clock, nullptr).run();
+  if (options.root.empty()) options.root = device.emplace(temporary_folders()).path();
+  if (options.root.empty()) return complain("no temporary folder can be made for a new device");
+  FolderLock lock;
+  bool has_owner = false;
+  if (!device) {
+    if (const auto reason = take_device_root(options.root, lock, has_owner))
+      return complain(*reason);
+    if (has_owner) return meet_running_phone(options);
+  }
   auto front = console_for(options);
   if (!front) return complain(options.script.string() + " cannot be read");
-  return Supervisor(commands, clock, &*front).run();
+  const Installation installation = find_installation();
+  const host::RealClock clock;
+  const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
+  Supervisor supervisor({{installation.home_screen, home_screen_arguments(options), {path}},
+                         {{}, application_arguments(options), {path}},
+                         !options.headless},
+                        clock, options.console || !options.script.empty() ? &*front : nullptr);
+  if (!device) lock.introduce(supervisor.control_socket());
+  if (const auto reason = prepare(options, installation)) return complain(*reason);
+  return supervisor.run();
 }
 
 }  // namespace

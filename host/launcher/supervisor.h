@@ -45,6 +45,9 @@ class Supervisor {
   /// `kCannotStart`, `kGaveUp`, or 128 plus the number of the signal that ended it.
   int run();
 
+  /// The path of the socket for requests.
+  const std::filesystem::path& control_socket() const { return control_.path(); }
+
  private:
   void start();
   std::string name() const { return command_.program.filename(); }

@@ -1,33 +1,43 @@
 #pragma once
 
-#include <stdlib.h>
-
 #include <filesystem>
-#include <string>
+#include <functional>
+#include <vector>
+
+#include "host/launcher/folder_lock.h"
 
 namespace host::launcher {
 
-/// A new temporary folder, which the destructor removes with all its contents.
+/// The folders for temporary files, the best one first.
+std::vector<std::filesystem::path> temporary_folders();
+/// The same for small files of a session, such as sockets. The name of the last is always short.
+std::vector<std::filesystem::path> session_folders();
+
+/// A new temporary folder that only this user may enter. The destructor removes it with all its
+/// contents; if the process is killed, the next one does.
 class ThrowawayFolder {
  public:
-  ThrowawayFolder() {
-    std::error_code error;
-    std::string name = std::filesystem::temp_directory_path(error) / "sonavue-XXXXXX";
-    // On failure only the name remains, and using it will report the reason.
-    [[maybe_unused]] const char* made = mkdtemp(name.data());
-    path_ = name;
-  }
-  ~ThrowawayFolder() {
-    std::error_code error;
-    std::filesystem::remove_all(path_, error);
-  }
+  using Fits = std::function<bool(const std::filesystem::path& folder)>;
+
+  /// Makes the folder in the first of these where it can be made and fits.
+  explicit ThrowawayFolder(
+      const std::vector<std::filesystem::path>& parents,
+      const Fits& fits = [](const std::filesystem::path&) { return true; });
+  ~ThrowawayFolder();
   ThrowawayFolder(const ThrowawayFolder&) = delete;
   ThrowawayFolder& operator=(const ThrowawayFolder&) = delete;
 
+  /// Empty when the folder could not be made.
   const std::filesystem::path& path() const { return path_; }
 
  private:
+  bool make_in(const std::filesystem::path& parent, const Fits& fits);
+
   std::filesystem::path path_;
+  FolderLock lock_;
 };
+
+/// Removes this user's throwaway folders whose process is gone.
+void remove_abandoned_folders();
 
 }  // namespace host::launcher

@@ -150,6 +150,11 @@ int RunningPhone::wait_for_end() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+void RunningPhone::kill_launcher() {
+  kill(launcher_, SIGKILL);
+  wait_for_end();
+}
+
 pid_t RunningPhone::child(std::string_view program) const {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator("/proc", error)) {

@@ -39,6 +39,10 @@ class RunningPhone {
   /// Returns the launcher's exit status; -1 when it did not exit, or was killed.
   int wait_for_end();
 
+  /// Kills the launcher, and with it every process of the phone.
+  void kill_launcher();
+
+  pid_t launcher() const { return launcher_; }
   /// Returns the phone's process that runs this program; 0 when there is none at this moment.
   pid_t child(std::string_view program) const;
   pid_t home_screen() const { return child("SpringBoard"); }

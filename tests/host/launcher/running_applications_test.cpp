@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "host/launcher/control_socket.h"
 #include "host/launcher/unix_socket.h"
 #include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
@@ -68,7 +69,7 @@ TEST_F(Applications, AreNotOpenedWithoutRoomForASocketAndTheLogSaysWhy) {
   const LogLines log;
   RunningApplications others({programs_.path(), sockets_.path() / std::string(100, 's')}, {});
   EXPECT_FALSE(others.open(kBundle, kProgram));
-  EXPECT_THAT(log.text(), AllOf(HasSubstr(kBundle), HasSubstr("name too long")));
+  EXPECT_THAT(log.text(), AllOf(HasSubstr(kProgram), HasSubstr("name too long")));
 }
 
 TEST_F(Applications, ThatAreNoProgramsAreNamedInTheLog) {

@@ -6,6 +6,8 @@
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
+#include <future>
+
 #include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
 
@@ -105,6 +107,16 @@ TEST_F(Supervisors, CountAnyExitThatIsNotAnnouncedAsACrash) {
     EXPECT_EQ(recorded().size(), 7u) << behaviour;
     EXPECT_THAT(log.text(), HasSubstr("although nobody switched the phone off"));
   }
+}
+
+TEST_F(Supervisors, ShowTheWindowOnRequest) {
+  Supervisor supervisor({command("show-itself"), {}, true}, clock_, nullptr);
+  auto answer = std::async(std::launch::async, [path = supervisor.control_socket()] {
+    return ask_supervisor(path, {ControlRequest::Kind::Show, {}, {}});
+  });
+  EXPECT_EQ(supervisor.run(), 0);
+  EXPECT_TRUE(answer.get());
+  EXPECT_EQ(recorded().at(1), "told w");
 }
 
 TEST_F(Supervisors, RestartAProcessThatNoLongerAnswers) {

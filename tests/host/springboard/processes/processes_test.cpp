@@ -1,4 +1,5 @@
 
+#include "host/launcher/control_socket.h"
 #include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
 #include "host/process/phone_screen.h"
