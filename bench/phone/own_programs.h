@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "bench/phone/bench_phone.h"
+#include "host/launcher/control_socket.h"
 #include "host/launcher/installation.h"
 #include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
