@@ -2,16 +2,16 @@
 
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace host::foundation {
 
-/// Atomically replaces `path` with a file of these bytes, and leaves no partial file behind even if
-/// the process is killed: the file is unnamed until it is complete. At most one complete file
-/// remains under the name `staged_beside`; the next write removes it. Returns false and changes
-/// nothing when the folder does not support such files.
-bool write_atomically(const std::string& path, std::string_view bytes);
+/// Replaces the file as `files::replace_file` does. A file that could not be read is one line in
+/// the log, and so is a failure, until there is another or the file is written.
+std::error_code write_atomically(const std::string& path, std::string_view bytes);
 
-/// The path at which a complete file lies for a moment before it replaces `path`.
-std::string staged_beside(const std::string& path);
+/// Tells the writer how the last attempt to read the file ended: what could not be read is kept
+/// when the file is replaced.
+void note_reading(const std::string& path, const std::error_code& error);
 
 }  // namespace host::foundation

@@ -43,20 +43,30 @@ const char* manager_representation(NSObject self, NSString path) {
   return mapped(original(self.id(), "fileSystemRepresentationWithPath:"_sel, path.id()));
 }
 
-// NSData writes to the literal path, so it gets the mapped one. Its atomic write leaves a file
-// behind if the process is killed meanwhile, so the atomic write is done here. Only when that fails
-// is NSData asked, because it reports the error.
+// NSData writes to the literal path, so it gets the mapped one. Its atomic write is not safe when
+// the process or the machine stops meanwhile, and replaces links: it is done here.
 constexpr NSUInteger kAtomically = 1;
 objc::Imp original_write = nullptr;
 
+objc::Id error_object(const std::error_code& error) {
+  return objc::send<objc::Object>(objc::Object(objc_getClass("NSError")),
+                                  "errorWithDomain:code:userInfo:"_sel, "NSPOSIXErrorDomain"_ns,
+                                  static_cast<NSInteger>(error.value()), objc::Object())
+      .id();
+}
+
 BOOL write_data(NSData self, NSString path, NSUInteger options, objc::Id* error) {
   using Function = BOOL (*)(objc::Id, objc::Sel, objc::Id, NSUInteger, objc::Id*);
-  const auto original = reinterpret_cast<Function>(original_write);
-  const NSString real = NSString::stringWithUTF8String(mapped(path.UTF8String()));
-  if (real && (options & kAtomically) != 0 &&
-      write_atomically(real.UTF8String(), {static_cast<const char*>(self.bytes()), self.length()}))
-    return YES;
-  return original(self.id(), "writeToFile:options:error:"_sel, real.id(), options, error);
+  const char* real = mapped(path.UTF8String());
+  if (!real || (options & kAtomically) == 0) {
+    const auto original = reinterpret_cast<Function>(original_write);
+    const NSString name = real ? NSString::stringWithUTF8String(real) : NSString();
+    return original(self.id(), "writeToFile:options:error:"_sel, name.id(), options, error);
+  }
+  const std::error_code failure =
+      write_atomically(real, {static_cast<const char*>(self.bytes()), self.length()});
+  if (failure && error) *error = error_object(failure);
+  return failure ? NO : YES;
 }
 
 }  // namespace
@@ -65,7 +75,8 @@ void set_device_root(std::string new_root) {
   while (new_root.size() > 1 && new_root.back() == '/')
     new_root.pop_back();
   root = std::move(new_root);
-  root_without_links = root.empty() ? "" : std::filesystem::weakly_canonical(root).string();
+  std::error_code error;
+  root_without_links = root.empty() ? "" : std::filesystem::weakly_canonical(root, error).string();
 }
 
 const std::string& device_root() {

@@ -6,6 +6,9 @@
 #include <optional>
 #include <string>
 
+#include "host/files/folder.h"
+#include "host/files/read_file.h"
+#include "host/foundation/atomic_write.h"
 #include "host/foundation/binary_property_list.h"
 #include "host/foundation/exports.h"
 #include "objc/class_builder.h"
@@ -60,9 +63,10 @@ class Descriptor {
   int number_;
 };
 
-/// Returns nothing for anything but a small regular file.
-std::optional<Content> content_of(const char* path) {
+/// Returns nothing for anything but a small regular file. Sets `error` when it cannot be opened.
+std::optional<Content> content_of(const char* path, std::error_code& error) {
   const Descriptor file(path);
+  if (file.get() < 0) error = files::last_error();
   struct stat status {};
   if (file.get() < 0 || fstat(file.get(), &status) != 0) return std::nullopt;
   if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return std::nullopt;
@@ -124,7 +128,9 @@ NSDictionary dictionary_with_contents(objc::Object cls, NSString path) {
   const bool is_plain = cls.id() == reinterpret_cast<objc::Id>(NSDictionary::cls());
   if (!is_plain || !path) return parse(cls, path);
   const char* real = path.fileSystemRepresentation();
-  auto content = content_of(real);
+  std::error_code error;
+  auto content = content_of(real, error);
+  note_reading(real, files::is_shortage(error) ? error : std::error_code());
   if (!content) return parse(cls, path);
   const auto known = parsed_files().find(std::string_view(real));
   if (known != parsed_files().end() && known->second.bytes == content->bytes)
@@ -132,7 +138,7 @@ NSDictionary dictionary_with_contents(objc::Object cls, NSString path) {
   const NSDictionary parsed = parse(cls, path);
   // The parser has read the file again. These are the bytes that it parsed only if the file has not
   // changed meanwhile.
-  if (parsed && content_of(real) == content) keep(real, std::move(*content), parsed);
+  if (parsed && content_of(real, error) == content) keep(real, std::move(*content), parsed);
   return parsed;
 }
 

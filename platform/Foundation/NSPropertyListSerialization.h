@@ -16,4 +16,10 @@ struct NSPropertyListSerialization
                                      objc::Id* error) {
     return call_class<"dataFromPropertyList:format:errorDescription:", NSData>(list, format, error);
   }
+  /// Returns nil if `data` holds no property list in any format.
+  static objc::Object propertyListWithData(NSData data, NSUInteger options,
+                                           NSPropertyListFormat* format, objc::Id* error) {
+    return call_class<"propertyListWithData:options:format:error:", objc::Object>(data, options,
+                                                                                  format, error);
+  }
 };

@@ -54,17 +54,21 @@ TEST_F(PreferencesFile, StaysIfItIsAFolderWithOneComplaintPerPlace) {
   EXPECT_EQ(phone.count_of_errors_with("Is a directory"), 1);
 }
 
-TEST_F(PreferencesFile, IsRewrittenIfUnreadable) {
+TEST_F(PreferencesFile, IsReplacedOnceIfUnreadableAndKept) {
   std::ofstream(preferences()) << "{ cover = NO; }";
   chmod(preferences().c_str(), 0);
   RunningPhone phone(headless({"--console"}), Hardship::kOrdinaryUser);
   expect_life(phone);
   EXPECT_EQ(phone.ask("quit"), "ok");
-  // The file's permissions are the user's and stay as they are.
-  chmod(preferences().c_str(), 0600);
+  // Its owner can read the new file, so it is not written again.
   const std::string text = media_tests::read_bytes(preferences());
   EXPECT_THAT(text, HasSubstr("checked"));
   EXPECT_THAT(text, Not(HasSubstr("cover")));
+  EXPECT_EQ(fs::status(preferences()).permissions(),
+            fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(media_tests::read_bytes(preferences().string() + ".unreadable"), "{ cover = NO; }");
+  EXPECT_FALSE(fs::exists(preferences().string() + ".unreadable-2"));
+  EXPECT_EQ(phone.count_of_errors_with("could not be read"), 1);
 }
 
 using FullDisk = PhoneTest;
@@ -80,7 +84,8 @@ TEST_F(FullDisk, LeavesAWorkingPhoneAndReportsEachLossOnce) {
   EXPECT_EQ(phone.ask(kIsFile), "NO");
   EXPECT_EQ(phone.count_of_errors_with("the music index"), 1);
   EXPECT_EQ(phone.count_of_errors_with("cannot be kept"), 1);
-  EXPECT_EQ(phone.count_of_errors_with("File too large"), 1);
+  EXPECT_EQ(phone.count_of_errors_with("SonavueSettings.plist cannot be written: File too large"),
+            1);
 }
 
 TEST_F(FullDisk, ReportsAScreenshotThatCannotBeWritten) {

@@ -7,13 +7,16 @@
 #include <fstream>
 #include <iterator>
 
+#include "host/files/new_file.h"
 #include "platform/Foundation/NSData.h"
+#include "platform/Foundation/NSDictionary.h"
 #include "tests/support/host_test.h"
+#include "tests/support/no_descriptors.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using host::foundation::staged_beside;
 using host::foundation::write_atomically;
 
 class AtomicWrites : public host::test::HostTest {
@@ -41,13 +44,15 @@ class AtomicWrites : public host::test::HostTest {
     return status.st_mode & 0777;
   }
 
+  std::string staged() const { return folder / host::files::staged_name("settings.plist"); }
+
   fs::path folder;
   std::string path;
 };
 
 TEST_F(AtomicWrites, ANewFileHasDefaultPermissionsAndLeavesNoOther) {
   const mode_t mask = umask(027);
-  EXPECT_TRUE(write_atomically(path, "one"));
+  EXPECT_FALSE(write_atomically(path, "one"));
   umask(mask);
   EXPECT_EQ(content(), "one");
   EXPECT_EQ(permissions(), 0640u);
@@ -55,10 +60,10 @@ TEST_F(AtomicWrites, ANewFileHasDefaultPermissionsAndLeavesNoOther) {
 }
 
 TEST_F(AtomicWrites, AReplacedFileKeepsItsPermissions) {
-  ASSERT_TRUE(write_atomically(path, "a longer one"));
+  ASSERT_FALSE(write_atomically(path, "a longer one"));
   ASSERT_EQ(chmod(path.c_str(), 0606), 0);
   std::ifstream reader(path);
-  EXPECT_TRUE(write_atomically(path, "two"));
+  EXPECT_FALSE(write_atomically(path, "two"));
   EXPECT_EQ(content(), "two");
   EXPECT_EQ(permissions(), 0606u);
   // A reader of the old file can read it to its end.
@@ -66,21 +71,21 @@ TEST_F(AtomicWrites, AReplacedFileKeepsItsPermissions) {
 }
 
 TEST_F(AtomicWrites, AFileLeftByAKilledProcessIsRemoved) {
-  std::ofstream(staged_beside(path)) << "left";
-  EXPECT_TRUE(write_atomically(path, "mine"));
+  std::ofstream(staged()) << "left";
+  EXPECT_FALSE(write_atomically(path, "mine"));
   EXPECT_EQ(content(), "mine");
   EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
 }
 
 TEST_F(AtomicWrites, NothingIsWrittenWithoutAFolderOrOverAFolder) {
-  EXPECT_FALSE(write_atomically((folder / "none/settings.plist").string(), "lost"));
+  EXPECT_TRUE(write_atomically((folder / "none/settings.plist").string(), "lost"));
   fs::create_directory(path);
-  EXPECT_FALSE(write_atomically(path, "lost"));
+  EXPECT_TRUE(write_atomically(path, "lost"));
   EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
 }
 
 TEST_F(AtomicWrites, DataIsWrittenAtomically) {
-  std::ofstream(staged_beside(path)) << "left";
+  std::ofstream(staged()) << "left";
   const NSString name = NSString::stringWithUTF8String(path.c_str());
   EXPECT_TRUE(NSData::dataWithBytes("abc", 3).writeToFile(name, YES));
   EXPECT_EQ(content(), "abc");
@@ -89,6 +94,106 @@ TEST_F(AtomicWrites, DataIsWrittenAtomically) {
   EXPECT_EQ(content(), "");
   EXPECT_FALSE(NSData::dataWithBytes("abc", 3).writeToFile(
       NSString::stringWithUTF8String((folder / "none/x").c_str()), YES));
+}
+
+using LinkedFiles = AtomicWrites;
+
+TEST_F(LinkedFiles, StayLinks) {
+  fs::create_directory(folder / "kept");
+  std::ofstream(folder / "kept/real") << "one";
+  fs::create_symlink("kept/real", path);
+  EXPECT_FALSE(write_atomically(path, "two"));
+  EXPECT_TRUE(fs::is_symlink(path));
+  EXPECT_EQ(content(), "two");
+  EXPECT_EQ(fs::read_symlink(path), "kept/real");
+}
+
+TEST_F(LinkedFiles, AreFollowedThroughAChainToAMissingFile) {
+  fs::create_directory(folder / "kept");
+  fs::create_symlink("kept/second", path);
+  fs::create_symlink(folder / "kept/real", folder / "kept/second");
+  EXPECT_FALSE(write_atomically(path, "new"));
+  EXPECT_TRUE(fs::is_symlink(path));
+  EXPECT_TRUE(fs::is_symlink(folder / "kept/second"));
+  EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder / "kept/real")));
+  EXPECT_EQ(content(), "new");
+}
+
+TEST_F(LinkedFiles, ThatLeadNowhereAreErrors) {
+  fs::create_symlink("other", path);
+  fs::create_symlink("settings.plist", folder / "other");
+  const NSString name = NSString::stringWithUTF8String(path.c_str());
+  EXPECT_FALSE(NSData::dataWithBytes("abc", 3).writeToFile(name, YES));
+  EXPECT_TRUE(fs::is_symlink(path));
+  fs::remove(folder / "other");
+  fs::create_symlink("missing/folder", folder / "other");
+  EXPECT_FALSE(NSData::dataWithBytes("abc", 3).writeToFile(name, YES));
+  EXPECT_TRUE(fs::is_symlink(path));
+}
+
+class UnreadableFiles : public AtomicWrites {
+ protected:
+  UnreadableFiles() {
+    std::ofstream(path) << "precious";
+    chmod(path.c_str(), 0);
+  }
+  static std::string bytes_of(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+  OrdinaryUser user_;
+};
+
+TEST_F(UnreadableFiles, AreKeptBesideTheirReplacement) {
+  EXPECT_FALSE(write_atomically(path, "new"));
+  EXPECT_EQ(content(), "new");
+  EXPECT_EQ(permissions(), 0600u);
+  const fs::path kept = path + ".unreadable";
+  chmod(kept.c_str(), 0600);
+  EXPECT_EQ(bytes_of(kept), "precious");
+}
+
+TEST_F(UnreadableFiles, NeverReplaceAnEarlierOne) {
+  std::ofstream(path + ".unreadable") << "earlier";
+  EXPECT_FALSE(write_atomically(path, "new"));
+  EXPECT_EQ(bytes_of(path + ".unreadable"), "earlier");
+  chmod((path + ".unreadable-2").c_str(), 0600);
+  EXPECT_EQ(bytes_of(path + ".unreadable-2"), "precious");
+}
+
+TEST_F(UnreadableFiles, AreNotKeptWhenTheyAreNotReplaced) {
+  chmod(folder.c_str(), 0500);
+  EXPECT_TRUE(write_atomically(path, "new"));
+  chmod(folder.c_str(), 0700);
+  EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
+  EXPECT_EQ(permissions(), 0u);
+}
+
+TEST_F(AtomicWrites, ReplaceNothingWithoutDescriptors) {
+  std::ofstream(path) << "one";
+  const NSString name = NSString::stringWithUTF8String(path.c_str());
+  {
+    const NoDescriptors none;
+    EXPECT_FALSE(NSData::dataWithBytes("two", 3).writeToFile(name, YES));
+  }
+  EXPECT_EQ(content(), "one");
+  EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
+}
+
+TEST_F(AtomicWrites, KeepWhatCouldNotBeReadBefore) {
+  std::ofstream(path) << "{ key = value; }";
+  const NSString name = NSString::stringWithUTF8String(path.c_str());
+  {
+    const NoDescriptors none;
+    EXPECT_FALSE(NSDictionary::dictionaryWithContentsOfFile(name));
+  }
+  EXPECT_TRUE(NSData::dataWithBytes("two", 3).writeToFile(name, YES));
+  EXPECT_TRUE(NSData::dataWithBytes("three", 5).writeToFile(name, YES));
+  EXPECT_EQ(content(), "three");
+  EXPECT_THAT(names(),
+              testing::UnorderedElementsAre("settings.plist", "settings.plist.unreadable"));
+  EXPECT_TRUE(NSDictionary::dictionaryWithContentsOfFile(
+      NSString::stringWithUTF8String((path + ".unreadable").c_str())));
 }
 
 }  // namespace

@@ -1,0 +1,40 @@
+#include "host/files/folder.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+
+namespace host::files {
+
+std::string folder_of(std::string_view path) {
+  const auto slash = path.rfind('/');
+  if (slash == path.npos) return ".";
+  return std::string(slash == 0 ? "/" : path.substr(0, slash));
+}
+
+std::string name_of(std::string_view path) {
+  return std::string(path.substr(path.rfind('/') + 1));
+}
+
+Descriptor open_folder(const std::string& path, std::error_code& error) {
+  Descriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!folder) error = last_error();
+  return folder;
+}
+
+void flush_folder(int folder) {
+  fsync(folder);
+}
+
+std::vector<std::filesystem::path> paths_in(const std::filesystem::path& folder,
+                                            std::error_code& error) {
+  std::vector<std::filesystem::path> paths;
+  std::filesystem::directory_iterator entries(folder, error);
+  for (const std::filesystem::directory_iterator end; !error && entries != end;
+       entries.increment(error))
+    paths.push_back(entries->path());
+  std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
+}  // namespace host::files

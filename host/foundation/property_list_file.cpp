@@ -1,0 +1,74 @@
+#include "host/foundation/property_list_file.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "host/files/aside.h"
+#include "host/files/folder.h"
+#include "host/files/links.h"
+#include "host/files/read_file.h"
+#include "host/foundation/binary_property_list.h"
+#include "host/foundation/device_paths.h"
+#include "host/runtime/log.h"
+#include "platform/Foundation/NSPropertyListSerialization.h"
+
+namespace host::foundation {
+namespace {
+
+constexpr std::int64_t kNanoseconds = 1'000'000'000;
+
+/// Nil when the bytes are no property list.
+objc::Object list_in(std::string_view bytes) {
+  if (is_binary_property_list(bytes)) return binary_property_list(bytes);
+  try {
+    return NSPropertyListSerialization::propertyListWithData(
+        NSData::dataWithBytes(bytes.data(), bytes.size()), 0, nullptr, nullptr);
+  } catch (...) {
+    // Foundation's parser raises for some broken files, and returns nil for others.
+    return {};
+  }
+}
+
+}  // namespace
+
+std::optional<FileStamp> PropertyListFile::stamp() const {
+  struct stat found {};
+  if (::stat(path_on_this_machine(path_).c_str(), &found) != 0) return std::nullopt;
+  return FileStamp{found.st_ino, found.st_mtim.tv_sec * kNanoseconds + found.st_mtim.tv_nsec,
+                   static_cast<std::uint64_t>(found.st_size)};
+}
+
+NSDictionary PropertyListFile::read() {
+  const files::FileContents contents = files::read_file(path_on_this_machine(path_));
+  const bool was_unread = is_unread();
+  const bool is_known = contents.is_missing() || contents.is_no_file();
+  unread_ = is_known ? std::error_code() : contents.error;
+  if (is_unread() && !was_unread)
+    spdlog::error("{} cannot be read: {}; it stays as it is", path_, unread_.message());
+  if (is_unread() || contents.is_missing()) return nil;
+  const auto list = contents.error ? nil : objc::cast<NSDictionary>(list_in(contents.bytes));
+  if (list.isKindOfClass(NSDictionary::cls())) return list;
+  set_aside();
+  return nil;
+}
+
+bool PropertyListFile::write(NSDictionary list) const {
+  if (is_unread()) return false;
+  std::error_code error;
+  std::filesystem::create_directories(files::folder_of(path_on_this_machine(path_)), error);
+  return list.writeToFile(NSString::stringWithUTF8String(path_.c_str()), YES) != NO;
+}
+
+void PropertyListFile::set_aside() const {
+  std::string place = path_on_this_machine(path_);
+  files::follow_links(place);
+  const files::Aside aside = files::set_aside(place, "damaged");
+  if (aside.error) {
+    spdlog::error("{} is damaged and is not used: {}", path_, aside.error.message());
+  } else {
+    spdlog::error("{} is damaged: it is kept as {}", path_, files::name_of(aside.path));
+  }
+}
+
+}  // namespace host::foundation

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "platform/Foundation/NSDictionary.h"
+
+namespace host::foundation {
+
+/// Identifies a version of a file without reading it.
+struct FileStamp {
+  std::uint64_t file = 0;
+  std::int64_t changed = 0;  // nanoseconds
+  std::uint64_t size = 0;
+  friend bool operator==(const FileStamp&, const FileStamp&) = default;
+};
+
+/// A property list with a dictionary at its root, which this process, and perhaps others, read and
+/// replace as a whole. Nothing is ever lost: what is damaged is set aside, and what cannot be read
+/// is not replaced.
+class PropertyListFile {
+ public:
+  /// A path of the device or of this machine.
+  explicit PropertyListFile(std::string path) : path_(std::move(path)) {}
+
+  const std::string& path() const { return path_; }
+  /// Empty when the file does not exist.
+  std::optional<FileStamp> stamp() const;
+  /// Nil when the file is missing, damaged or unreadable. Whatever is no such list is set aside.
+  NSDictionary read();
+  /// Whether the last attempt to read it failed, so that nobody knows what it holds.
+  bool is_unread() const { return static_cast<bool>(unread_); }
+  /// Creates the folder if it is missing. Returns false when the file cannot be written, with a
+  /// line in the log, or is unread.
+  bool write(NSDictionary list) const;
+  /// Renames the file, for a list that is not of the expected form, and logs one line.
+  void set_aside() const;
+
+ private:
+  std::string path_;
+  std::error_code unread_;
+};
+
+}  // namespace host::foundation
