@@ -16,6 +16,8 @@ namespace host::media_player {
 namespace {
 
 constexpr double kFirstVolume = 0.75;
+// In seconds. Saving waits for the disk, and a finger on the volume changes it with every frame.
+constexpr double kBetweenSaves = 0.25;
 
 // Never destroyed after the end of `main`, when the loop it depends on is gone.
 std::unique_ptr<MediaService>& running() {
@@ -101,7 +103,7 @@ bool MediaService::toggle() {
 
 void MediaService::restore_playback() {
   if (options_.memory_path.empty()) return;
-  const RememberedPlayback memory = read_playback(options_.memory_path);
+  const RememberedPlayback memory = read_playback(memory_.emplace(options_.memory_path));
   if (memory.volume) playback_.set_volume(*memory.volume);
   if (memory.song == 0) return;
   playback_.set_queue(memory.queue ? media::make_song_list(*memory.queue)
@@ -113,15 +115,22 @@ void MediaService::restore_playback() {
 // Several things change together when a song ends; they are written once, after the turn.
 void MediaService::save_playback_soon() {
   if (std::exchange(needs_saving_, true)) return;
-  RunLoop::main().perform([] {
+  RunLoop& loop = RunLoop::main();
+  const auto save = [] {
     if (MediaService* service = current(); service && service->needs_saving_)
       service->save_playback();
-  });
+  };
+  if (loop.now() < next_save_) {
+    loop.add_timer(next_save_, 0, save);
+  } else {
+    loop.perform(save);
+  }
 }
 
 void MediaService::save_playback() {
   needs_saving_ = false;
-  if (options_.memory_path.empty()) return;
+  next_save_ = RunLoop::main().now() + kBetweenSaves;
+  if (!memory_) return;
   RememberedPlayback memory;
   memory.song = playback_.song().value_or(0);
   memory.position_seconds = playback_.position();
@@ -130,9 +139,9 @@ void MediaService::save_playback() {
   const media::SongList& queue = playback_.queue().list();
   const media::SongList& all = items_->library().songs();
   if (queue != all && *queue != *all) memory.queue = *queue;
-  if (!write_playback(options_.memory_path, memory)) {
-    media::log_warning("the playback state cannot be saved to " + options_.memory_path);
-    options_.memory_path.clear();
+  if (!write_playback(*memory_, memory)) {
+    media::log_warning("the playback state cannot be saved to " + memory_->path());
+    memory_.reset();
   }
 }
 

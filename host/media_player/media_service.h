@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "host/foundation/property_list_file.h"
 #include "host/media_player/artwork_images.h"
 #include "host/media_player/item_store.h"
 #include "host/media_player/library_feed.h"
@@ -56,7 +57,9 @@ class MediaService {
   ArtworkImages artwork_;
   Playback playback_;
   LibraryFeed feed_;
+  std::optional<foundation::PropertyListFile> memory_;  // empty when nothing can be stored
   bool needs_saving_ = false;
+  double next_save_ = 0;
 };
 
 }  // namespace host::media_player

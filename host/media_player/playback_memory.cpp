@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
 
 #include "objc/autorelease_pool.h"
 #include "platform/Foundation/NSDictionary.h"
@@ -38,12 +37,10 @@ std::optional<double> number(objc::Object value) {
 
 }  // namespace
 
-RememberedPlayback read_playback(const std::string& path) {
+RememberedPlayback read_playback(foundation::PropertyListFile& file) {
   const objc::AutoreleasePool pool;
   RememberedPlayback playback;
-  std::error_code ignored;
-  if (!std::filesystem::is_regular_file(path, ignored)) return playback;
-  const auto kept = NSDictionary::dictionaryWithContentsOfFile(string_from(path));
+  const NSDictionary kept = file.read();
   playback.song = identifier(kept.objectForKey("song"_ns));
   playback.position_seconds = number(kept.objectForKey("position"_ns)).value_or(0);
   playback.volume = number(kept.objectForKey("volume"_ns));
@@ -55,7 +52,7 @@ RememberedPlayback read_playback(const std::string& path) {
   return playback;
 }
 
-bool write_playback(const std::string& path, const RememberedPlayback& playback) {
+bool write_playback(const foundation::PropertyListFile& file, const RememberedPlayback& playback) {
   const objc::AutoreleasePool pool;
   const NSMutableDictionary kept = NSMutableDictionary::dictionary();
   kept.setObject(text_of(playback.song), "song"_ns);
@@ -69,9 +66,7 @@ bool write_playback(const std::string& path, const RememberedPlayback& playback)
       queue.addObject(text_of(id));
     kept.setObject(queue, "queue"_ns);
   }
-  std::error_code ignored;
-  std::filesystem::create_directories(std::filesystem::path{path}.parent_path(), ignored);
-  return kept.writeToFile(string_from(path), YES) != NO;
+  return file.write(kept);
 }
 
 }  // namespace host::media_player

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "host/foundation/property_list_file.h"
+
 namespace host::media_player {
 
 /// The playback state that one process leaves to the next.
@@ -15,10 +17,9 @@ struct RememberedPlayback {
   std::optional<double> volume;
 };
 
-/// Reads a property list at a path of this machine. Missing or malformed entries are treated as if
-/// nothing had been stored.
-RememberedPlayback read_playback(const std::string& path);
+/// Missing or malformed entries are treated as if nothing had been stored.
+RememberedPlayback read_playback(foundation::PropertyListFile& file);
 /// Returns false when it cannot be written.
-bool write_playback(const std::string& path, const RememberedPlayback& playback);
+bool write_playback(const foundation::PropertyListFile& file, const RememberedPlayback& playback);
 
 }  // namespace host::media_player

@@ -6,12 +6,13 @@ namespace host::activator {
 
 const Assignments& AssignmentStore::current() {
   const auto stamp = file_.stamp();
-  if (stamp == stamp_) return read_;
+  if (stamp == stamp_ && !file_.is_unread()) return read_;
   stamp_ = stamp;
   read_ = {};
-  if (!stamp) return read_;
   objc::AutoreleasePool pool;
-  if (auto read = Assignments::from(file_.read())) {
+  const NSDictionary list = file_.read();
+  if (!list) return read_;
+  if (auto read = Assignments::from(list)) {
     read_ = std::move(*read);
   } else {
     file_.set_aside();

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "host/activator/assignment/assignments.h"
-#include "host/activator/assignment/property_list_file.h"
+#include "host/foundation/property_list_file.h"
 
 namespace host::activator {
 
@@ -18,18 +18,19 @@ class AssignmentStore {
   explicit AssignmentStore(std::string device_path = kAssignmentsPath)
       : file_(std::move(device_path)) {}
 
-  /// A damaged file is set aside and counts as empty.
+  /// A damaged file is set aside and counts as empty. So does one that cannot be read, until it
+  /// can.
   const Assignments& current();
-  /// Return false, with nothing changed, when the file cannot be written.
+  /// Return false, with nothing changed, when the file cannot be read or written.
   bool assign(const std::string& event, const std::string& mode, const std::string& listener);
   bool unassign(const std::string& event, const std::string& mode, const std::string& listener);
 
  private:
   bool keep(Assignments changed);
 
-  PropertyListFile file_;
+  foundation::PropertyListFile file_;
   Assignments read_;
-  std::optional<FileStamp> stamp_;
+  std::optional<foundation::FileStamp> stamp_;
 };
 
 }  // namespace host::activator

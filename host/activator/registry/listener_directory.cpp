@@ -7,9 +7,9 @@
 #include <cmath>
 #include <filesystem>
 
-#include "host/activator/assignment/property_list_file.h"
 #include "host/activator/event/strings.h"
 #include "host/foundation/device_paths.h"
+#include "host/foundation/property_list_file.h"
 #include "host/quartzcore/drawing/image.h"
 #include "host/runtime/log.h"
 #include "platform/Foundation/NSArray.h"
@@ -61,7 +61,7 @@ ListenerRecord record_in(NSDictionary entry) {
 }  // namespace
 
 std::vector<ListenerRecord> ListenerDirectory::read() const {
-  const NSDictionary list = PropertyListFile(path_).read();
+  const NSDictionary list = foundation::PropertyListFile(path_).read();
   const auto entries = objc::cast<NSArray>(list.objectForKey("listeners"_ns));
   std::vector<ListenerRecord> records;
   if (!entries.isKindOfClass(NSArray::cls())) return records;
@@ -89,7 +89,8 @@ bool ListenerDirectory::write(const std::vector<ListenerRecord>& records) const 
   const auto entries = NSMutableArray::array();
   for (const ListenerRecord& record : records)
     entries.addObject(written(record));
-  return PropertyListFile(path_).write(NSDictionary::dictionaryWithObject(entries, "listeners"_ns));
+  return foundation::PropertyListFile(path_).write(
+      NSDictionary::dictionaryWithObject(entries, "listeners"_ns));
 }
 
 std::string ListenerDirectory::keep_icon(const std::string& listener, UIImage icon) const {

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "host/foundation/property_list_file.h"
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/common/pictures.h"
 #include "host/springboard/model/strings.h"
@@ -14,9 +15,7 @@ namespace {
 constexpr std::string_view kPrefix = "wallpaper-";
 constexpr std::string_view kSuffix = ".png";
 
-NSString preferences_file() {
-  return "/var/mobile/Library/Preferences/com.apple.springboard.plist"_ns;
-}
+constexpr const char* kPreferences = "/var/mobile/Library/Preferences/com.apple.springboard.plist";
 
 NSString key() {
   return "Wallpaper"_ns;
@@ -40,18 +39,18 @@ NSArray wallpaper_names() {
 
 NSString chosen_wallpaper() {
   const auto chosen = objc::cast<NSObject>(
-      NSDictionary::dictionaryWithContentsOfFile(preferences_file()).objectForKey(key()));
+      NSDictionary::dictionaryWithContentsOfFile(to_ns(kPreferences)).objectForKey(key()));
   const bool is_name = chosen && chosen.isKindOfClass(NSString::cls());
   if (is_name && picture(objc::cast<NSString>(chosen))) return objc::cast<NSString>(chosen);
   return to_ns(configuration().wallpaper);
 }
 
 void choose_wallpaper(NSString name) {
+  foundation::PropertyListFile file(kPreferences);
   const auto preferences = NSMutableDictionary::dictionary();
-  if (const auto kept = NSDictionary::dictionaryWithContentsOfFile(preferences_file()))
-    preferences.addEntriesFromDictionary(kept);
+  if (const NSDictionary kept = file.read()) preferences.addEntriesFromDictionary(kept);
   preferences.setObject(name, key());
-  preferences.writeToFile(preferences_file(), YES);
+  file.write(preferences);
 }
 
 }  // namespace host::springboard

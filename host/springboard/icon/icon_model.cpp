@@ -10,7 +10,8 @@
 
 namespace host::springboard {
 
-IconModel::IconModel(SBIconModel owner) : Implementation(owner) {
+IconModel::IconModel(SBIconModel owner)
+    : Implementation(owner), saved_(configuration().icon_state_path) {
   std::vector<InstalledApplication> installed;
   const NSArray all = SBApplicationController::sharedInstance().allApplications();
   for (const SBApplication application : all.of<SBApplication>()) {
@@ -22,7 +23,7 @@ IconModel::IconModel(SBIconModel owner) : Implementation(owner) {
   const GridMetrics grid = screen_grid();
   const HomeLayout::Capacity capacity{grid.page_capacity(), grid.dock_capacity,
                                       FolderMetrics::kCapacity};
-  const auto saved = read_icon_state(to_ns(configuration().icon_state_path), capacity);
+  const auto saved = read_icon_state(saved_, capacity);
   layout_ = saved ? fit_to_installed(*saved, installed) : default_layout(capacity, installed);
 }
 
@@ -67,7 +68,7 @@ void IconModel::forget_lost_folders() {
 }
 
 void IconModel::save() const {
-  write_icon_state(layout_, to_ns(configuration().icon_state_path));
+  write_icon_state(layout_, saved_);
 }
 
 void export_icon_model() {

@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "host/foundation/property_list_file.h"
 #include "host/springboard/model/home_layout.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
@@ -37,6 +38,7 @@ class IconModel : public objc::Implementation<IconModel, SBIconModel> {
   std::map<std::string, objc::Ref<SBIcon>> applications_;
   std::map<std::string, objc::Ref<SBIcon>> folders_;
   HomeLayout layout_;
+  foundation::PropertyListFile saved_;
 };
 
 void export_icon_model();

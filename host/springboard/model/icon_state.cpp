@@ -3,8 +3,6 @@
 #include "host/runtime/log.h"
 #include "host/springboard/model/strings.h"
 #include "platform/Foundation/NSDictionary.h"
-#include "platform/Foundation/NSFileManager.h"
-#include "platform/Foundation/NSPropertyListSerialization.h"
 
 namespace host::springboard {
 namespace {
@@ -64,26 +62,16 @@ NSArray write_list(const HomeLayout::List& list) {
   return entries;
 }
 
-// `-[NSDictionary writeToFile:atomically:]` leaves an empty file when a folder's name is not ASCII.
-NSData xml_data(NSDictionary state) {
-  return NSPropertyListSerialization::dataFromPropertyList(state, NSPropertyListXMLFormat_v1_0,
-                                                           nullptr);
-}
-
-NSString folder_of(NSString path) {
-  const std::string text = to_string(path);
-  return to_ns(text.substr(0, text.rfind('/')));
-}
-
 }  // namespace
 
-std::optional<HomeLayout> read_icon_state(NSString path, HomeLayout::Capacity capacity) {
-  if (!NSFileManager::defaultManager().fileExistsAtPath(path)) return std::nullopt;
-  const auto state = NSDictionary::dictionaryWithContentsOfFile(path);
+std::optional<HomeLayout> read_icon_state(foundation::PropertyListFile& file,
+                                          HomeLayout::Capacity capacity) {
+  const NSDictionary state = file.read();
+  if (!state) return std::nullopt;
   const NSArray dock = array_or_nil(state.objectForKey("buttonBar"_ns));
   const NSArray pages = array_or_nil(state.objectForKey("iconLists"_ns));
   if (!dock || !pages) {
-    spdlog::warn("{} holds no icon arrangement: using the default", to_string(path));
+    file.set_aside();
     return std::nullopt;
   }
   HomeLayout layout(capacity);
@@ -92,17 +80,15 @@ std::optional<HomeLayout> read_icon_state(NSString path, HomeLayout::Capacity ca
   return layout;
 }
 
-bool write_icon_state(const HomeLayout& layout, NSString path) {
+bool write_icon_state(const HomeLayout& layout, const foundation::PropertyListFile& file) {
   const auto pages = NSMutableArray::array();
   for (const HomeLayout::List& page : layout.pages())
     pages.addObject(write_list(page));
   const auto state = NSMutableDictionary::dictionary();
   state.setObject(write_list(layout.dock()), "buttonBar"_ns);
   state.setObject(pages, "iconLists"_ns);
-
-  NSFileManager::defaultManager().createDirectoryAtPath(folder_of(path), YES, nil, nullptr);
-  if (xml_data(state).writeToFile(path, YES)) return true;
-  spdlog::warn("{} could not be written: the arrangement is lost at the restart", to_string(path));
+  if (file.write(state)) return true;
+  spdlog::warn("{} could not be written: the arrangement is lost at the restart", file.path());
   return false;
 }
 

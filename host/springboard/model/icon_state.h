@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "host/foundation/property_list_file.h"
 #include "host/springboard/model/home_layout.h"
-#include "platform/Foundation/NSString.h"
 
 namespace host::springboard {
 
@@ -12,11 +12,13 @@ inline constexpr const char* kIconStatePath = "/var/mobile/Library/SpringBoard/I
 
 /// Reads a property list of the form {buttonBar: [icon…], iconLists: [[icon…]…]}, where an icon is
 /// an identifier or, for a folder, {displayName, iconLists: [[identifier…]]}. Returns nothing when
-/// the file is missing or malformed; a malformed file is logged. Skips entries that are not icons.
-std::optional<HomeLayout> read_icon_state(NSString path, HomeLayout::Capacity capacity);
+/// the file is missing, unreadable or malformed; a malformed file is set aside. Skips entries that
+/// are not icons.
+std::optional<HomeLayout> read_icon_state(foundation::PropertyListFile& file,
+                                          HomeLayout::Capacity capacity);
 
 /// Writes the file atomically and creates its folder if necessary. Returns false, with a log line,
-/// on failure.
-bool write_icon_state(const HomeLayout& layout, NSString path);
+/// on failure. What could not be read is not replaced.
+bool write_icon_state(const HomeLayout& layout, const foundation::PropertyListFile& file);
 
 }  // namespace host::springboard

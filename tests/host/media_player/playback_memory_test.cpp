@@ -5,10 +5,11 @@
 #include <filesystem>
 
 #include "tests/host/media_player/media_player_test.h"
+#include "tests/support/full_disk.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
-using host::media_player::read_playback;
 using host::media_player::RememberedPlayback;
 using host::test::text;
 using testing::ElementsAre;
@@ -17,6 +18,13 @@ class PlaybackMemory : public host::test::MediaPlayerTest {
  protected:
   std::string file() const { return options().memory_path; }
 
+  host::foundation::PropertyListFile stored() const {
+    return host::foundation::PropertyListFile(file());
+  }
+  RememberedPlayback read() const {
+    auto memory = stored();
+    return host::media_player::read_playback(memory);
+  }
   void leave(std::string_view bytes) const {
     std::filesystem::create_directories(folder_ / "caches");
     media_tests::write_bytes(file(), bytes);
@@ -29,30 +37,30 @@ TEST_F(PlaybackMemory, KeepsWhatWasWritten) {
   kept.song = 0x7fffffffffffffff;
   kept.position_seconds = 12.25;
   kept.volume = 0.5;
-  ASSERT_TRUE(host::media_player::write_playback(file(), kept));
-  const RememberedPlayback read = read_playback(file());
-  ASSERT_TRUE(read.queue);
-  EXPECT_THAT(*read.queue, ElementsAre(0x7fffffffffffffff, 2));
-  EXPECT_EQ(read.song, 0x7fffffffffffffffu);
-  EXPECT_EQ(read.position_seconds, 12.25);
-  EXPECT_EQ(read.volume, 0.5);
+  ASSERT_TRUE(host::media_player::write_playback(stored(), kept));
+  const RememberedPlayback playback = read();
+  ASSERT_TRUE(playback.queue);
+  EXPECT_THAT(*playback.queue, ElementsAre(0x7fffffffffffffff, 2));
+  EXPECT_EQ(playback.song, 0x7fffffffffffffffu);
+  EXPECT_EQ(playback.position_seconds, 12.25);
+  EXPECT_EQ(playback.volume, 0.5);
 }
 
 TEST_F(PlaybackMemory, ADamagedFileCountsAsMissing) {
   for (const char* bytes : {"", "this is no property list", "(1, 2)",
                             "{song = (1); position = x; volume = {}; queue = 3;}"}) {
     leave(bytes);
-    const RememberedPlayback read = read_playback(file());
-    EXPECT_EQ(read.song, 0u) << bytes;
-    EXPECT_EQ(read.position_seconds, 0) << bytes;
-    EXPECT_FALSE(read.queue) << bytes;
-    EXPECT_FALSE(read.volume) << bytes;
+    const RememberedPlayback playback = read();
+    EXPECT_EQ(playback.song, 0u) << bytes;
+    EXPECT_EQ(playback.position_seconds, 0) << bytes;
+    EXPECT_FALSE(playback.queue) << bytes;
+    EXPECT_FALSE(playback.volume) << bytes;
   }
 }
 
 TEST_F(PlaybackMemory, AFolderInItsPlaceCountsAsMissing) {
   std::filesystem::create_directories(file());
-  EXPECT_EQ(read_playback(file()).song, 0u);
+  EXPECT_EQ(read().song, 0u);
 }
 
 TEST_F(PlaybackMemory, ALoopOfLinksInItsPlaceCountsAsMissing) {
@@ -81,9 +89,9 @@ TEST_F(PlaybackMemory, TheSongIsPausedAtItsPositionAfterARestart) {
 TEST_F(PlaybackMemory, IsWrittenWhileTheProcessLives) {
   start();
   play("Bravo");
-  advance(0.1);
-  EXPECT_NE(read_playback(file()).song, 0u);
-  EXPECT_FALSE(read_playback(file()).queue);
+  advance(0.5);
+  EXPECT_NE(read().song, 0u);
+  EXPECT_FALSE(read().queue);
 }
 
 TEST_F(PlaybackMemory, ACustomQueueIsKept) {
@@ -109,6 +117,36 @@ TEST_F(PlaybackMemory, ASongThatIsGoneIsForgotten) {
   EXPECT_FALSE(media().hasTrack());
   EXPECT_TRUE(media().togglePlayPause());
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Alpha");
+}
+
+TEST_F(PlaybackMemory, AnUnreadableFileIsNotReplaced) {
+  start();
+  play("Bravo");
+  host::media_player::MediaService::stop();
+  const std::string before = media_tests::read_bytes(file());
+  std::filesystem::permissions(file(), std::filesystem::perms::none);
+  media_tests::CapturedLog log;
+  {
+    const OrdinaryUser user;
+    start();
+    EXPECT_FALSE(media().hasTrack());
+    play("Charlie");
+    advance(1);
+    host::media_player::MediaService::stop();
+  }
+  EXPECT_EQ(media_tests::read_bytes(file()), before);
+  EXPECT_EQ(log.count("cannot be read"), 1);
+}
+
+TEST_F(PlaybackMemory, AFullDiskIsReportedOnce) {
+  start();
+  media_tests::CapturedLog log;
+  const FullDisk disk(1);
+  for (const char* song : {"Bravo", "Charlie"}) {
+    play(song);
+    advance(1);
+  }
+  EXPECT_EQ(log.count("the playback state cannot be saved"), 1);
 }
 
 TEST_F(PlaybackMemory, ADamagedFileDoesNotKeepTheMusicFromPlaying) {

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "tests/host/activator/support/service_test.h"
+#include "tests/support/no_descriptors.h"
+#include "tests/support/ordinary_user.h"
 
 namespace host::test {
 namespace {
@@ -72,6 +74,79 @@ INSTANTIATE_TEST_SUITE_P(
                       "<plist><dict><key>springboard</key><dict><key>shake</key><array><true/>"
                       "</array></dict></dict></plist>",
                       "bplist00\xff\xff\xff\xff\xff"));
+
+TEST_F(AssignmentStores, AreSetAsideUnderAFreeName) {
+  AssignmentStore().assign("shake", "springboard", "a");
+  for (const char* bytes : {"first <", "second <"}) {
+    media_tests::write_bytes(assignments_file(), bytes);
+    EXPECT_THAT(shake(*std::make_unique<AssignmentStore>()), IsEmpty());
+  }
+  EXPECT_EQ(media_tests::read_bytes(assignments_file() + ".damaged"), "first <");
+  EXPECT_EQ(media_tests::read_bytes(assignments_file() + ".damaged-2"), "second <");
+}
+
+class UnreadableAssignments : public AssignmentStores {
+ protected:
+  UnreadableAssignments() {
+    AssignmentStore().assign("shake", "springboard", "a");
+    before = media_tests::read_bytes(assignments_file());
+  }
+  void expect_untouched() {
+    EXPECT_THAT(shake(store), IsEmpty());
+    EXPECT_FALSE(store.assign("shake", "springboard", "b"));
+    EXPECT_THAT(shake(store), IsEmpty());
+  }
+  int files() const {
+    const auto folder = std::filesystem::path(assignments_file()).parent_path();
+    return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder),
+                                          std::filesystem::directory_iterator()));
+  }
+  std::string before;
+  AssignmentStore store;
+};
+
+TEST_F(UnreadableAssignments, StayAsTheyAreWithOneLineUntilTheyCanBeRead) {
+  media_tests::CapturedLog log;
+  const std::filesystem::path file = assignments_file();
+  std::filesystem::permissions(file, std::filesystem::perms::none);
+  {
+    const OrdinaryUser user;
+    expect_untouched();
+  }
+  EXPECT_EQ(log.count("cannot be read: Permission denied"), 1);
+  EXPECT_EQ(files(), 1);
+  EXPECT_EQ(media_tests::read_bytes(file), before);
+  EXPECT_THAT(shake(store), ElementsAre("a"));
+}
+
+TEST_F(UnreadableAssignments, SurviveALackOfDescriptors) {
+  {
+    const NoDescriptors none;
+    expect_untouched();
+  }
+  EXPECT_EQ(files(), 1);
+  EXPECT_THAT(shake(store), ElementsAre("a"));
+}
+
+TEST_F(UnreadableAssignments, SurviveAnErrorOfTheDisk) {
+  // Reading from address 0 of a process fails like reading from a broken disk.
+  std::filesystem::remove(assignments_file());
+  std::filesystem::create_symlink("/proc/self/mem", assignments_file());
+  media_tests::CapturedLog log;
+  expect_untouched();
+  EXPECT_EQ(log.count("cannot be read: Input/output error"), 1);
+  EXPECT_EQ(std::filesystem::read_symlink(assignments_file()), "/proc/self/mem");
+  EXPECT_EQ(files(), 1);
+}
+
+TEST_F(UnreadableAssignments, MayBeALoopOfLinks) {
+  std::filesystem::remove(assignments_file());
+  std::filesystem::create_symlink(assignments_file(), assignments_file());
+  media_tests::CapturedLog log;
+  expect_untouched();
+  EXPECT_EQ(log.count("Too many levels of symbolic links"), 1);
+  EXPECT_TRUE(std::filesystem::is_symlink(assignments_file()));
+}
 
 TEST_F(AssignmentStores, AFolderInTheirPlaceIsSetAsideToo) {
   std::filesystem::create_directories(assignments_file());

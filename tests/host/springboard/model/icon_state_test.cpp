@@ -8,6 +8,7 @@
 #include "host/springboard/model/default_layout.h"
 #include "host/springboard/model/strings.h"
 #include "tests/support/host_test.h"
+#include "tests/support/no_descriptors.h"
 
 namespace host::springboard {
 namespace {
@@ -23,7 +24,10 @@ class IconStateTest : public test::HostTest {
   }
   ~IconStateTest() override { std::filesystem::remove_all(folder); }
 
-  NSString path(const std::string& name) const { return to_ns((folder / name).string()); }
+  foundation::PropertyListFile file(const std::string& name) const {
+    return foundation::PropertyListFile((folder / name).string());
+  }
+  std::optional<HomeLayout> read(const std::string& name) const;
 
   void write(const std::filesystem::path& name, const std::string& text) const {
     std::filesystem::create_directories((folder / name).parent_path());
@@ -36,6 +40,11 @@ class IconStateTest : public test::HostTest {
 class ApplicationCatalogTest : public IconStateTest {};
 
 constexpr HomeLayout::Capacity kCapacity{4, 2, 9};
+
+std::optional<HomeLayout> IconStateTest::read(const std::string& name) const {
+  foundation::PropertyListFile state = file(name);
+  return read_icon_state(state, kCapacity);
+}
 
 std::vector<InstalledApplication> installed(std::initializer_list<const char*> bundles) {
   std::vector<InstalledApplication> applications;
@@ -63,35 +72,51 @@ TEST_F(IconStateTest, WhatIsWrittenIsReadBack) {
   layout.append_to_dock({"phone", false, {}, {}});
   layout.drop_on("a", "b", "Käse & Brot");
 
-  ASSERT_TRUE(write_icon_state(layout, path("below/IconState.plist")));
-  EXPECT_EQ(read_icon_state(path("below/IconState.plist"), kCapacity), layout);
+  ASSERT_TRUE(write_icon_state(layout, file("below/IconState.plist")));
+  EXPECT_EQ(read("below/IconState.plist"), layout);
 }
 
 TEST_F(IconStateTest, AMissingFileReturnsNothing) {
-  EXPECT_EQ(read_icon_state(path("nowhere.plist"), kCapacity), std::nullopt);
+  EXPECT_EQ(read("nowhere.plist"), std::nullopt);
 }
 
-TEST_F(IconStateTest, AMalformedFileReturnsNothing) {
+TEST_F(IconStateTest, AMalformedFileIsSetAside) {
   write("broken.plist", "<plist><dict><key>");
   write("list.plist", "(a, b)");
   write("empty.plist", "");
   write("other.plist", info("<key>buttonBar</key><string>no</string>"));
-  for (const char* name : {"broken.plist", "list.plist", "empty.plist", "other.plist"})
-    EXPECT_EQ(read_icon_state(path(name), kCapacity), std::nullopt) << name;
+  for (const char* name : {"broken.plist", "list.plist", "empty.plist", "other.plist"}) {
+    EXPECT_EQ(read(name), std::nullopt) << name;
+    EXPECT_FALSE(std::filesystem::exists(folder / name));
+    EXPECT_TRUE(std::filesystem::exists(folder / (std::string(name) + ".damaged")));
+  }
 }
 
 TEST_F(IconStateTest, EntriesThatAreNotIconsAreSkipped) {
   write("odd.plist", info("<key>buttonBar</key><array><integer>3</integer></array>"
                           "<key>iconLists</key><array><string>x</string>"
                           "<array><true/><string>a</string></array></array>"));
-  const auto layout = read_icon_state(path("odd.plist"), kCapacity);
+  const auto layout = read("odd.plist");
   ASSERT_TRUE(layout);
   EXPECT_THAT(layout->applications(), ElementsAre("a"));
 }
 
 TEST_F(IconStateTest, AnUnwritableFileIsReported) {
   write("file", "not a folder");
-  EXPECT_FALSE(write_icon_state(HomeLayout(kCapacity), path("file/IconState.plist")));
+  EXPECT_FALSE(write_icon_state(HomeLayout(kCapacity), file("file/IconState.plist")));
+}
+
+TEST_F(IconStateTest, AnUnreadableFileIsNotReplaced) {
+  HomeLayout layout(kCapacity);
+  layout.append({"a", false, {}, {}});
+  ASSERT_TRUE(write_icon_state(layout, file("IconState.plist")));
+  foundation::PropertyListFile state = file("IconState.plist");
+  {
+    const NoDescriptors none;
+    EXPECT_EQ(read_icon_state(state, kCapacity), std::nullopt);
+  }
+  EXPECT_FALSE(write_icon_state(HomeLayout(kCapacity), state));
+  EXPECT_EQ(read("IconState.plist"), layout);
 }
 
 TEST_F(IconStateTest, AnArrangementIsFittedToTheInstalledApplications) {
