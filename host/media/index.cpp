@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "host/files/aside.h"
 #include "host/media/database.h"
 #include "host/media/log.h"
 
@@ -150,11 +151,12 @@ void Index::recover(DatabaseStatus status) {
 
 void Index::set_aside() {
   database_.reset();
-  const std::string damaged = path_ + ".damaged";
-  std::error_code error;
-  std::filesystem::rename(path_, damaged, error);
+  const auto [damaged, failure] = files::set_aside(path_, "damaged");
+  std::error_code error = failure;
+  // The latest changes are in a file beside it, which must not be applied to the new index.
+  if (!error) std::filesystem::rename(path_ + "-wal", damaged + "-wal", error);
+  if (error == std::errc::no_such_file_or_directory) error.clear();
   std::error_code ignored;
-  std::filesystem::remove(path_ + "-wal", ignored);
   std::filesystem::remove(path_ + "-shm", ignored);
   if (!error && open(path_) == DatabaseStatus::ok) {
     log_warning(fmt::format("the music index was damaged; it is kept as {} and rebuilt", damaged));
