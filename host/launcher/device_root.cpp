@@ -1,10 +1,14 @@
 #include "host/launcher/device_root.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
+#include <cerrno>
+
+#include "host/files/copy_file.h"
+#include "host/files/folder.h"
+#include "host/files/read_file.h"
 
 namespace host::launcher {
 namespace {
@@ -25,14 +29,6 @@ Failure failure(const fs::path& path, const std::error_code& error) {
   return path.string() + ": " + error.message();
 }
 
-bool is_same(const fs::path& from, const fs::path& to) {
-  std::error_code error;
-  const auto status = fs::symlink_status(to, error);
-  if (error || !fs::is_regular_file(status)) return false;
-  const bool same_size = fs::file_size(from, error) == fs::file_size(to, error);
-  return same_size && fs::last_write_time(from, error) == fs::last_write_time(to, error) && !error;
-}
-
 /// Returns whether the folder is missing, or has nothing but the lock of its owner.
 bool is_untouched(const fs::path& root) {
   std::error_code error;
@@ -48,36 +44,78 @@ bool is_being_made(const fs::path& root) {
   return is_untouched(root) || fs::exists(root / kBeingMade, error);
 }
 
-Failure copy_if_missing(const fs::path& from, const fs::path& to) {
+/// A folder of the device, for which `path` is only a name to report.
+struct Place {
+  Descriptor folder;
+  fs::path path;
+};
+
+Failure open_root(const fs::path& root, Place& place) {
   std::error_code error;
-  if (fs::exists(fs::symlink_status(to, error))) return std::nullopt;
-  return copy_if_changed(from, to);
+  fs::create_directories(root, error);
+  if (!error) place = {files::open_folder(root, error), root};
+  return error ? Failure(failure(root, error)) : std::nullopt;
 }
 
-Failure copy_tree(const fs::path& from, const fs::path& to,
-                  Failure (*copy)(const fs::path& from, const fs::path& to)) {
+struct CopyRules {
+  files::Keep keep = files::Keep::kSameVersion;
+  files::Durability durability = files::Durability::kFlushed;
+};
+
+/// Every folder below the root must be the device's own: through a link, files would be written or
+/// removed elsewhere.
+Failure open_below(const Place& parent, const std::string& name, const CopyRules& rules,
+                   Place& place) {
   std::error_code error;
-  if (!fs::is_directory(from, error)) return std::nullopt;
-  fs::create_directories(to, error);
-  if (error) return failure(to, error);
-  fs::recursive_directory_iterator entries(from, error);
-  for (const auto end = fs::end(entries); !error && entries != end; entries.increment(error)) {
-    const fs::path target = to / fs::relative(entries->path(), from);
-    if (entries->is_directory()) {
-      fs::create_directories(target, error);
-      if (error) return failure(target, error);
-    } else if (entries->is_regular_file()) {
-      if (auto failed = copy(entries->path(), target)) return failed;
+  place = {files::open_or_make_folder(parent.folder.get(), name, rules.durability, error),
+           parent.path / name};
+  if (error == std::errc::too_many_symbolic_link_levels)
+    return place.path.string() + ": a link is in the place of this folder";
+  return error ? Failure(failure(place.path, error)) : std::nullopt;
+}
+
+Failure copy_tree(const fs::path& from, const Place& to, const CopyRules& rules) {
+  std::error_code error;
+  for (const fs::path& path : files::paths_in(from, error)) {
+    const std::string name = path.filename();
+    const fs::file_status status = fs::status(path, error);
+    if (error) return failure(path, error);
+    if (fs::is_directory(status)) {
+      Place below;
+      if (auto failed = open_below(to, name, rules, below)) return failed;
+      if (auto failed = copy_tree(path, below, rules)) return failed;
+    } else if (fs::is_regular_file(status)) {
+      error = files::copy_file(path, to.folder.get(), name, rules.keep, rules.durability);
+      if (error) return failure(to.path / name, error);
     }
   }
-  if (error) return failure(from, error);
+  return error ? Failure(failure(from, error)) : std::nullopt;
+}
+
+/// The same for a tree that a build may lack.
+Failure copy_tree_if_any(const fs::path& from, const Place& to, const CopyRules& rules) {
+  std::error_code error;
+  return fs::is_directory(from, error) ? copy_tree(from, to, rules) : std::nullopt;
+}
+
+Failure set_mark(const Place& root) {
+  const Descriptor mark(openat(root.folder.get(), kBeingMade,
+                               O_CREAT | O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
+  if (!mark) return failure(root.path / kBeingMade, files::last_error());
+  files::flush_folder(root.folder.get());
+  return std::nullopt;
+}
+
+Failure remove_mark(const Place& root) {
+  if (unlinkat(root.folder.get(), kBeingMade, 0) != 0 && errno != ENOENT)
+    return failure(root.path / kBeingMade, files::last_error());
+  files::flush_folder(root.folder.get());
   return std::nullopt;
 }
 
 /// The identifier in a property list that the build wrote; empty when it has none.
 std::string identifier_in(const fs::path& info) {
-  std::ifstream file(info);
-  const std::string text(std::istreambuf_iterator<char>(file), {});
+  const std::string text = files::read_file(info).bytes;
   constexpr std::string_view kOpen = "<string>";
   const auto key = text.find("<key>CFBundleIdentifier</key>");
   const auto open = key == std::string::npos ? key : text.find(kOpen, key);
@@ -112,43 +150,34 @@ Failure prepare_device_root(const fs::path& root) {
 
 Failure copy_first_files(const fs::path& first_files, const fs::path& root) {
   if (!is_being_made(root)) return std::nullopt;
-  std::error_code error;
-  fs::create_directories(root, error);
-  if (error) return failure(root, error);
-  const fs::path mark = root / kBeingMade;
-  if (!std::ofstream(mark)) return failure(mark, {errno, std::generic_category()});
-  if (auto failed = copy_tree(first_files, root, &copy_if_missing)) return failed;
-  fs::remove(mark, error);
-  if (error) return failure(mark, error);
-  return std::nullopt;
-}
-
-Failure copy_if_changed(const fs::path& from, const fs::path& to) {
-  if (is_same(from, to)) return std::nullopt;
-  const fs::path beside = to.parent_path() / ("." + to.filename().string() + ".staging");
-  std::error_code error;
-  fs::copy_file(from, beside, fs::copy_options::overwrite_existing, error);
-  if (!error) fs::last_write_time(beside, fs::last_write_time(from, error), error);
-  if (!error) fs::rename(beside, to, error);
-  if (!error) return std::nullopt;
-  std::error_code ignored;
-  fs::remove(beside, ignored);
-  return failure(to, error);
+  Place place;
+  if (auto failed = open_root(root, place)) return failed;
+  if (auto failed = set_mark(place)) return failed;
+  if (auto failed = copy_tree_if_any(first_files, place, {files::Keep::kEvery})) return failed;
+  return remove_mark(place);
 }
 
 Failure stage(const StagingSource& source, const fs::path& root,
-              std::span<const std::string> without) {
-  if (auto failed = copy_tree(source.overlay, root, &copy_if_changed)) return failed;
+              std::span<const std::string> without, files::Durability durability) {
+  const CopyRules rules{files::Keep::kSameVersion, durability};
+  Place place;
+  Place applications;
+  if (auto failed = open_root(root, place)) return failed;
+  if (auto failed = copy_tree_if_any(source.overlay, place, rules)) return failed;
+  if (auto failed = open_below(place, "Applications", rules, applications)) return failed;
   std::error_code error;
-  for (const auto& entry : fs::directory_iterator(source.applications, error)) {
-    const fs::path target = root / "Applications" / entry.path().filename();
-    const auto identifier = identifier_in(entry.path() / "Info.plist");
+  for (const fs::path& path : files::paths_in(source.applications, error)) {
+    if (!fs::is_directory(path, error)) continue;
+    const std::string name = path.filename();
+    const auto identifier = identifier_in(path / "Info.plist");
     if (std::find(without.begin(), without.end(), identifier) != without.end()) {
-      fs::remove_all(target, error);
-      if (error) return failure(target, error);
-    } else if (auto failed = copy_tree(entry.path(), target, &copy_if_changed)) {
-      return failed;
+      fs::remove_all(applications.path / name, error);
+      if (error) return failure(applications.path / name, error);
+      continue;
     }
+    Place application;
+    if (auto failed = open_below(applications, name, rules, application)) return failed;
+    if (auto failed = copy_tree(path, application, rules)) return failed;
   }
   return std::nullopt;
 }

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "host/files/new_file.h"
 #include "host/launcher/folder_lock.h"
 
 namespace host::launcher {
@@ -31,13 +32,11 @@ struct StagingSource {
 };
 
 /// Updates the device's root from the build: changed files are replaced atomically, without
-/// disturbing a process that reads or runs the old version. Applications whose identifier is in
-/// `without` are removed from the device. Returns the error of the first file that failed.
+/// disturbing a process that reads or runs the old version, and several starts may do so at once.
+/// Applications whose identifier is in `without` are removed from the device. Links are not
+/// followed, but the root may be one. Returns the error of the first file that failed.
 std::optional<std::string> stage(const StagingSource& source, const std::filesystem::path& root,
-                                 std::span<const std::string> without);
-
-/// Copies `from` to `to` unless both have the same size and time. Returns the error, if any.
-std::optional<std::string> copy_if_changed(const std::filesystem::path& from,
-                                           const std::filesystem::path& to);
+                                 std::span<const std::string> without,
+                                 files::Durability durability = files::Durability::kFlushed);
 
 }  // namespace host::launcher

@@ -45,11 +45,12 @@ std::optional<ConsoleFront> console_for(const Options& options) {
 }
 
 /// Returns the reason when the device cannot be started.
-std::optional<std::string> prepare(const Options& options, const Installation& installation) {
+std::optional<std::string> prepare(const Options& options, const Installation& installation,
+                                   host::files::Durability durability) {
   std::optional<std::string> reason;
   if (options.is_set_up) reason = copy_first_files(installation.first_files, options.root);
   if (!reason) reason = prepare_device_root(options.root);
-  if (!reason) reason = stage(installation.staging, options.root, options.without);
+  if (!reason) reason = stage(installation.staging, options.root, options.without, durability);
   return reason;
 }
 
@@ -95,7 +96,9 @@ int run_phone(Options options) {
                          !options.headless},
                         clock, options.console || !options.script.empty() ? &*front : nullptr);
   if (!device) lock.introduce(supervisor.control_socket());
-  if (const auto reason = prepare(options, installation)) return complain(*reason);
+  const auto durability =
+      device ? host::files::Durability::kUnflushed : host::files::Durability::kFlushed;
+  if (const auto reason = prepare(options, installation, durability)) return complain(*reason);
   return supervisor.run();
 }
 

@@ -1,10 +1,17 @@
 #include "host/launcher/device_root.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <functional>
 
 #include "tests/host/launcher/temporary_folder.h"
 #include "tests/support/full_disk.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
@@ -102,6 +109,54 @@ TEST_F(DeviceRoot, NamesTheFileThatCannotBeStaged) {
   EXPECT_TRUE(reason->starts_with((root() / "a").string()));
 }
 
+TEST_F(DeviceRoot, IsNotLeftThroughAPlantedLink) {
+  write_file(build() / "staging/Library/a", "built");
+  write_file(folder_.path() / "victim", "mine");
+  fs::create_directories(root() / "Library");
+  for (const char* name : {"a", ".a.staging", ".a.staged"})
+    fs::create_symlink(folder_.path() / "victim", root() / "Library" / name);
+  EXPECT_EQ(stage_all(), std::nullopt);
+  EXPECT_EQ(lines_of(folder_.path() / "victim").at(0), "mine");
+  EXPECT_EQ(lines_of(root() / "Library/a").at(0), "built");
+  EXPECT_FALSE(fs::is_symlink(root() / "Library/a"));
+}
+
+TEST_F(DeviceRoot, IsNotLeftThroughALinkedFolder) {
+  write_file(build() / "staging/Library/a", "built");
+  make_application("Music", "com.apple.Music");
+  fs::create_directories(folder_.path() / "elsewhere/Music.app");
+  fs::create_directories(root());
+  for (const char* name : {"Library", "Applications"}) {
+    fs::create_directory_symlink(folder_.path() / "elsewhere", root() / name);
+    const auto reason = stage_all({"com.apple.Music"});
+    ASSERT_TRUE(reason);
+    EXPECT_EQ(*reason, (root() / name).string() + ": a link is in the place of this folder");
+    fs::remove(root() / name);
+  }
+  EXPECT_FALSE(fs::exists(folder_.path() / "elsewhere/a"));
+  EXPECT_TRUE(fs::exists(folder_.path() / "elsewhere/Music.app"));
+}
+
+TEST_F(DeviceRoot, MayBeALinkItself) {
+  write_file(build() / "staging/Library/a", "built");
+  fs::create_directories(folder_.path() / "elsewhere");
+  fs::create_directory_symlink(folder_.path() / "elsewhere", root());
+  EXPECT_EQ(stage_all(), std::nullopt);
+  EXPECT_TRUE(fs::exists(folder_.path() / "elsewhere/Library/a"));
+}
+
+TEST_F(DeviceRoot, SaysWhichFolderOfTheBuildCannotBeEntered) {
+  write_file(build() / "staging/Library/a", "built");
+  fs::permissions(build() / "staging/Library", fs::perms::none);
+  std::optional<std::string> reason;
+  {
+    const OrdinaryUser user;
+    reason = stage_all();
+  }
+  fs::permissions(build() / "staging/Library", fs::perms::owner_all);
+  EXPECT_EQ(reason.value_or(""), (build() / "staging/Library").string() + ": Permission denied");
+}
+
 class FirstFiles : public DeviceRoot {
  protected:
   FirstFiles() {
@@ -171,6 +226,51 @@ TEST_F(FirstFiles, ReportWhyTheDeviceCannotBeMade) {
   const auto reason = lay();
   ASSERT_TRUE(reason);
   EXPECT_TRUE(reason->starts_with(root().string()));
+}
+
+/// A start in a process of its own, which waits until the test closes the gate's writing end.
+pid_t start_behind(const int (&gate)[2], const std::function<std::optional<std::string>()>& work) {
+  const pid_t process = fork();
+  if (process != 0) return process;
+  close(gate[1]);
+  char nothing = 0;
+  [[maybe_unused]] const ssize_t opened = read(gate[0], &nothing, 1);
+  const auto reason = work();
+  if (reason) std::fprintf(stderr, "%s\n", reason->c_str());
+  _exit(reason ? 1 : 0);
+}
+
+TEST_F(FirstFiles, AreCompleteAfterTwoStartsAtOnce) {
+  const std::string text(5000, 'x');
+  for (int number = 0; number < 20; ++number)
+    write_file(build() / "staging/Library" / std::to_string(number), text);
+  for (int round = 0; round < 50; ++round) {
+    fs::remove_all(root());
+    int gate[2];
+    ASSERT_EQ(pipe2(gate, O_CLOEXEC), 0);
+    std::vector<pid_t> starts;
+    for (int count = 0; count < 2; ++count) {
+      starts.push_back(start_behind(gate, [&] {
+        auto reason = lay();
+        if (!reason) reason = prepare_device_root(root());
+        return reason ? reason : stage_all();
+      }));
+    }
+    close(gate[0]);
+    close(gate[1]);
+    for (const pid_t start : starts) {
+      int status = -1;
+      ASSERT_EQ(waitpid(start, &status, 0), start);
+      EXPECT_EQ(status, 0) << "in round " << round;
+    }
+    EXPECT_EQ(this->text("a"), "first");
+    std::size_t files = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root()))
+      files += entry.is_regular_file() ? 1 : 0;
+    EXPECT_EQ(files, 22u) << "in round " << round;
+    for (int number = 0; number < 20; ++number)
+      ASSERT_EQ(fs::file_size(root() / "Library" / std::to_string(number)), text.size());
+  }
 }
 
 TEST_F(FirstFiles, AreOptionalInABuild) {
