@@ -67,7 +67,7 @@ TEST_F(PlaybackMemory, ALoopOfLinksInItsPlaceCountsAsMissing) {
   leave("");
   std::filesystem::remove(file());
   std::filesystem::create_symlink(file(), file());
-  EXPECT_EQ(read_playback(file()).song, 0u);
+  EXPECT_EQ(read().song, 0u);
 }
 
 TEST_F(PlaybackMemory, TheSongIsPausedAtItsPositionAfterARestart) {
