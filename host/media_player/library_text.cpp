@@ -9,10 +9,13 @@
 #include "host/foundation/canonical_search.h"
 #include "host/media_player/range_exception.h"
 #include "host/media_player/shelf.h"
+#include "host/runtime/text_bytes.h"
 #include "objc/ref.h"
 
 namespace host::media_player {
 namespace {
+
+constexpr std::string_view kReplacement = "\xef\xbf\xbd";
 
 /// The text of the latest search. A search looks for the same text in every title.
 class Wanted {
@@ -38,11 +41,10 @@ class Wanted {
 
  private:
   void read(NSString string) {
-    const char* text = string.UTF8String();
-    bytes_ = text ? text : "";
+    bytes_ = utf8_of(string);
     TextShape shape = shape_of(bytes_);
-    // A text that UTF-8 cannot represent, or that contains a zero, is now shorter than the string.
-    is_text_ = shape.length > 0 && shape.length == string.length();
+    // What UTF-8 cannot represent has been replaced.
+    is_text_ = shape.length > 0 && bytes_.find(kReplacement) == bytes_.npos;
     if (is_text_ && shape.kind == TextKind::other) {
       bytes_ = foundation::composed(bytes_);
       shape = shape_of(bytes_);

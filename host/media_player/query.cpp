@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "host/media_player/media_service.h"
+#include "host/runtime/text_bytes.h"
 #include "platform/Foundation/NSValue.h"
 
 // Loaded libraries bind to this in the executable.
@@ -45,8 +46,8 @@ constexpr Comparison kComparisons[] = {
 };
 
 std::string text_from(objc::Object value) {
-  const char* text = objc::cast<NSObject>(value).description().UTF8String();
-  return text ? text : "";
+  const NSString text = objc::cast<NSObject>(value).description();
+  return text ? utf8_of(text) : std::string();
 }
 
 std::optional<std::uint64_t> number_from(objc::Object value) {

@@ -106,6 +106,12 @@ TEST_F(MediaLibraryClasses, ATextThatIsNotAWholeNumberIdentifiesNothing) {
   EXPECT_EQ(found(""_ns, MPMediaItemPropertyAlbumPersistentID).count(), 0u);
 }
 
+TEST_F(MediaLibraryClasses, HalfALetterIsFoundNowhere) {
+  const NSString half = "🎵"_ns.substringToIndex(1);
+  for (const NSString property : {MPMediaItemPropertyTitle, MPMediaItemPropertyAlbumPersistentID})
+    EXPECT_EQ(found(half, property).count(), 0u);
+}
+
 TEST_F(MediaLibraryClasses, AnAlbumOrASongHasToSatisfyTheOtherPredicatesToo) {
   const auto both = [this](NSString property, const char* title) {
     const MPMediaQuery query = MPMediaQuery::alloc().init().autorelease();

@@ -187,6 +187,12 @@ TEST_F(LibraryTexts, FindWhatAnOrdinaryStringFinds) {
   }
 }
 
+TEST_F(LibraryTexts, AreSearchedForHalfALetter) {
+  const NSString half = ordinary("🎵").substringToIndex(1);
+  for (const char* text : {"plain", "\xef\xbf\xbd", "日本語の歌"})
+    EXPECT_EQ(ours(text).rangeOfString(half).location, static_cast<NSUInteger>(NSNotFound)) << text;
+}
+
 TEST_F(LibraryTexts, AreSearchedForAMutableStringThatChangesMeanwhile) {
   const NSString title = ours("one two");
   const auto wanted = objc::cast<NSString>(
