@@ -86,6 +86,17 @@ TEST_F(RealTimeMusic, TheDemoMusicIsMadeOnceAndItsProgressIsReported) {
   EXPECT_TRUE(std::ranges::none_of(news_, making));
 }
 
+TEST_F(RealTimeMusic, DemoMusicThatHasNoPlaceIsSaidAndThePhoneStarts) {
+  MediaOptions options = beside();
+  std::filesystem::create_symlink("loop", folder_ / "loop");
+  options.demo = {folder_ / "loop/demo-music", folder_ / "no-covers"};
+  const media_tests::CapturedLog log;
+  ASSERT_FALSE(MediaService::start(options));
+  wait_until_ready();
+  EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
+  EXPECT_EQ(log.count("the demo music cannot be made"), 1);
+}
+
 TEST_F(RealTimeMusic, StoppingWhileTheDemoMusicIsMadeLeavesNothing) {
   { host::media_player::DemoMaker maker{{folder_ / "demo-music", folder_ / "no-covers"}}; }
   EXPECT_FALSE(std::filesystem::exists(folder_ / "demo-music"));
