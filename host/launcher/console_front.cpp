@@ -3,8 +3,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 namespace host::launcher {
@@ -14,14 +15,9 @@ constexpr const char* kQuit = "quit";
 constexpr std::string_view kPlay = "play ";
 constexpr int kDeepest = 8;
 
-/// Appends the available bytes; returns false at the end of the input.
-bool append_from(int descriptor, std::string& text) {
-  char bytes[4096];
-  const auto count = read(descriptor, bytes, sizeof bytes);
-  if (count <= 0) return false;
-  text.append(bytes, static_cast<std::size_t>(count));
-  return true;
-}
+// Reading pauses while so many lines wait.
+constexpr std::size_t kMostTypedLines = 1000;
+constexpr std::size_t kShownPart = 40;
 
 /// Removes the first complete line from `text` and returns it.
 std::optional<std::string> take_line(std::string& text) {
@@ -34,24 +30,16 @@ std::optional<std::string> take_line(std::string& text) {
 
 }  // namespace
 
-std::optional<Script> read_script(const std::string& file) {
-  std::ifstream stream(file);
-  if (!stream) return std::nullopt;
-  Script made{file, {}};
-  for (std::string line; std::getline(stream, line);)
-    made.lines.push_back(line);
-  return made;
-}
-
 ConsoleFront::ConsoleFront(const Script& script, int input, std::FILE* output, std::FILE* errors)
-    : input_(input), answers_all_(input >= 0), output_(output), errors_(errors) {
+    : input_(input), answers_all_(input >= 0), output_(fileno(output)), errors_(errors) {
   put_first(script, 0);
   if (input_ < 0) typed_.push_back(kQuit);
 }
 
 int ConsoleFront::awaited_input() const {
   const bool script_is_over = script_.empty() && !waiting_;
-  return script_is_over && process_ >= 0 ? input_ : -1;
+  const bool has_room = typed_.size() < kMostTypedLines && !output_.is_full();
+  return script_is_over && has_room && process_ >= 0 ? input_ : -1;
 }
 
 void ConsoleFront::attach(int descriptor) {
@@ -62,6 +50,7 @@ void ConsoleFront::attach(int descriptor) {
 
 void ConsoleFront::detach(Departure departure) {
   process_ = -1;
+  unsent_.clear();
   if (!waiting_) return;
   answered(departure == Departure::Asked ? "ok" : "error: the process ended before it answered");
 }
@@ -76,20 +65,24 @@ bool ConsoleFront::play(const std::string& line, const std::string& beside, int 
   if (!line.starts_with(kPlay)) return false;
   const auto named = std::filesystem::path(line.substr(kPlay.size()));
   const auto file = std::filesystem::path(beside).parent_path() / named;
-  const auto script = depth < kDeepest ? read_script(file) : std::nullopt;
+  std::string problem = "the scripts are nested too deeply";
+  const auto script = depth < kDeepest ? read_script(file, Pipes::Refused, problem) : std::nullopt;
   if (script) {
     put_first(*script, depth + 1);
-    return true;
+  } else {
+    refuse(problem);
   }
-  // An empty line goes to the process, to report the refusal only after all earlier answers.
-  refusal_ = depth < kDeepest ? "error: " + file.string() + " cannot be read"
-                              : "error: the scripts are nested too deeply";
-  send_line("");
   return true;
 }
 
+// An empty line goes to the process, to report the refusal only after all earlier answers.
+void ConsoleFront::refuse(const std::string& reason) {
+  refusal_ = "error: " + reason;
+  send_line("");
+}
+
 void ConsoleFront::send_next() {
-  while (process_ >= 0 && !waiting_ && !verdict_ && !quitting_) {
+  while (process_ >= 0 && !waiting_ && !verdict_ && !quitting_ && !output_.is_full()) {
     from_script_ = !script_.empty();
     if (from_script_) {
       line_ = std::move(script_.front());
@@ -103,21 +96,31 @@ void ConsoleFront::send_next() {
       if (play(line, {}, 0)) continue;
       send_line(line);
     } else {
-      return;
+      return end_input();
     }
   }
 }
 
-void ConsoleFront::send_line(std::string line) {
+void ConsoleFront::end_input() {
+  if (!is_cut_off_) return;
+  std::fprintf(errors_, "standard input ends in the middle of a line, which is ignored: %s\n",
+               typed_part_.substr(0, kShownPart).c_str());
+  verdict_ = kFailed;
+}
+
+void ConsoleFront::send_line(const std::string& line) {
+  if (line.size() > kLongestLine) return refuse("the line is too long");
   quitting_ = line == kQuit;
-  line += '\n';
   waiting_ = true;
-  std::size_t sent = 0;
-  while (sent < line.size()) {
-    const auto count = send(process_, line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
-    if (count <= 0) return;  // the process is ending, which answers the line
-    sent += static_cast<std::size_t>(count);
-  }
+  unsent_ = line + "\n";
+  send_more();
+}
+
+void ConsoleFront::send_more() {
+  const auto count = send(process_, unsent_.data(), unsent_.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+  if (count > 0) unsent_.erase(0, static_cast<std::size_t>(count));
+  // A process that is ending answers the line by that.
+  if (count < 0 && errno != EAGAIN && errno != EINTR) unsent_.clear();
 }
 
 /// The first failure ends the script, and the console with it, unless the script was typed in.
@@ -132,34 +135,45 @@ void ConsoleFront::answered(const std::string& given) {
   waiting_ = false;
   const bool failed = answer.starts_with("error: ");
   if (!from_script_) {
-    if (answers_all_) std::fprintf(output_, "%s\n", answer.c_str());
+    if (answers_all_) output_.put(answer + "\n");
   } else if (failed) {
     fail(answer);
   } else if (answer != "ok") {
-    std::fprintf(output_, "%s\n", answer.c_str());
+    output_.put(answer + "\n");
   }
-  std::fflush(output_);
 }
 
-void ConsoleFront::read_answer() {
-  if (!append_from(process_, answer_part_)) {
+bool ConsoleFront::read_answer() {
+  char bytes[4096];
+  const auto count = recv(process_, bytes, sizeof bytes, MSG_DONTWAIT);
+  if (count < 0 && (errno == EAGAIN || errno == EINTR)) return false;
+  if (count <= 0) {
     process_ = -1;  // the supervisor reports how it ended
-    return;
+    return false;
   }
+  answer_part_.append(bytes, static_cast<std::size_t>(count));
   while (const auto line = take_line(answer_part_)) {
     if (waiting_) answered(*line);
   }
   send_next();
+  return true;
 }
 
 void ConsoleFront::read_input() {
-  if (!append_from(input_, typed_part_)) {
-    if (!typed_part_.empty()) typed_.push_back(std::exchange(typed_part_, {}));
-    typed_.push_back(kQuit);
+  char bytes[4096];
+  const auto count = read(input_, bytes, sizeof bytes);
+  if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+  if (count > 0) {
+    typed_part_.append(bytes, static_cast<std::size_t>(count));
+  } else {
     input_ = -1;
+    is_cut_off_ = !typed_part_.empty();
+    if (!is_cut_off_) typed_.emplace_back(kQuit);
   }
   while (auto line = take_line(typed_part_))
     typed_.push_back(std::move(*line));
+  // Enough of a line that is too long stays for it to be refused.
+  typed_part_.resize(std::min(typed_part_.size(), kLongestLine + 1));
   send_next();
 }
 

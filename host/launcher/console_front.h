@@ -4,26 +4,22 @@
 #include <deque>
 #include <optional>
 #include <string>
-#include <vector>
+
+#include "host/launcher/patient_output.h"
+#include "host/launcher/script.h"
 
 namespace host::launcher {
-
-/// The lines of a script, and its name for messages.
-struct Script {
-  std::string name;
-  std::vector<std::string> lines;
-};
-
-/// Empty when the file cannot be read.
-std::optional<Script> read_script(const std::string& file);
 
 /// The user's end of the console. It sends the lines of a script, then those of standard input, one
 /// at a time to the process that runs the phone's console, and prints its answers. `play FILE` is
 /// replaced by the lines of another script; a relative name is looked up beside the script that
 /// contains it. The front outlives the process: after a restart the next line goes to the new one.
+/// Nothing here waits, neither for the process nor for whoever reads the answers.
 class ConsoleFront {
  public:
   static constexpr int kFailed = 1;
+  /// Longer lines are not sent; the answer says so.
+  static constexpr std::size_t kLongestLine = 64 * 1024;
 
   /// `input` is read after the script; -1 means a console that ends with its script. Answers are
   /// printed to `output`; a failure in a script ends the console and is printed to `errors`.
@@ -36,11 +32,17 @@ class ConsoleFront {
   void detach(Departure departure);
 
   /// The descriptors to wait on; -1 when there is nothing to wait for.
-  int awaited_answer() const { return process_; }
+  int awaited_answer() const { return output_.is_full() ? -1 : process_; }
   int awaited_input() const;
+  /// These two become writable.
+  int awaited_process() const { return unsent_.empty() ? -1 : process_; }
+  int awaited_output() const { return output_.awaited(); }
 
-  void read_answer();
+  /// Returns false when there was nothing to read.
+  bool read_answer();
   void read_input();
+  void send_more();
+  void write_more() { output_.write_some(); }
 
   /// The exit status, once a line of the script has failed.
   std::optional<int> verdict() const { return verdict_; }
@@ -55,7 +57,10 @@ class ConsoleFront {
   };
 
   void send_next();
-  void send_line(std::string line);
+  void send_line(const std::string& line);
+  /// Reports the failure of a line that is not for the process, after all earlier answers.
+  void refuse(const std::string& reason);
+  void end_input();
   void answered(const std::string& given);
   void put_first(const Script& script, int depth);
   /// Returns true if the line plays another script, which has then been inserted or refused.
@@ -63,21 +68,23 @@ class ConsoleFront {
   void fail(const std::string& answer);
 
   std::deque<Line> script_;
-  /// The answer to a `play` line that failed, which the process does not know.
+  /// The answer to a line that the process does not know.
   std::optional<std::string> refusal_;
   Line line_;  // the script line that was sent last
   int input_;
   const bool answers_all_;  // typed lines show every answer
-  std::FILE* output_;
+  PatientOutput output_;
   std::FILE* errors_;
   int process_ = -1;
+  std::string unsent_;
   std::deque<std::string> typed_;
   std::string typed_part_;
   std::string answer_part_;
   bool waiting_ = false;
   bool typing_ = false;  // the first script is over
   bool from_script_ = false;
-  bool quitting_ = false;  // lines after `quit` are not sent
+  bool is_cut_off_ = false;  // the input ended in the middle of a line
+  bool quitting_ = false;    // lines after `quit` are not sent
   std::optional<int> verdict_;
 };
 

@@ -33,11 +33,11 @@ bool has_display() {
   return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("SDL_VIDEODRIVER");
 }
 
-/// Empty when the options name a script that cannot be read.
-std::optional<ConsoleFront> console_for(const Options& options) {
+/// Empty, with the reason in `problem`, when the options name a script that cannot be read.
+std::optional<ConsoleFront> console_for(const Options& options, std::string& problem) {
   Script script;
   if (!options.script.empty()) {
-    auto read = read_script(options.script);
+    auto read = read_script(options.script, Pipes::Allowed, problem);
     if (!read) return std::nullopt;
     script = std::move(*read);
   }
@@ -86,8 +86,9 @@ int run_phone(Options options) {
       return complain(*reason);
     if (has_owner) return meet_running_phone(options);
   }
-  auto front = console_for(options);
-  if (!front) return complain(options.script.string() + " cannot be read");
+  std::string problem;
+  auto front = console_for(options, problem);
+  if (!front) return complain(problem);
   const Installation installation = find_installation();
   const host::RealClock clock;
   const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};

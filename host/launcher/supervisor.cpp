@@ -79,7 +79,7 @@ int Supervisor::run() {
   signals_ = blocked.descriptor();
   if (!control_) spdlog::warn("no socket could be made: `killall SpringBoard` will have no effect");
   start();
-  while (!status_)
+  while (!status_ || has_output_left())
     wait_for_something();
   return *status_;
 }
@@ -113,17 +113,26 @@ void Supervisor::wait_for_something() {
       {front_ ? front_->awaited_answer() : -1, POLLIN, 0},
       {front_ ? front_->awaited_input() : -1, POLLIN, 0},
       {lifeline_.get(), POLLIN, 0},
+      {front_ ? front_->awaited_process() : -1, POLLOUT, 0},
+      {front_ ? front_->awaited_output() : -1, POLLOUT, 0},
   };
   poll(waiting, std::size(waiting), longest_wait());
   // Answers first: the last one may still be unread although its process is gone.
   if (waiting[2].revents) front_->read_answer();
   if (waiting[4].revents) read_life_signs();
+  if (waiting[5].revents && front_->awaited_process() >= 0) front_->send_more();
+  if (waiting[6].revents) front_->write_more();
   if (waiting[0].revents) take_signal();
   if (waiting[1].revents) control_.serve([this](const auto& request) { return serve(request); });
   if (waiting[3].revents && !status_) front_->read_input();
   if (front_ && front_->verdict() && child_ && !patience_ends_) signal_child(SIGTERM);
   look_after_child();
   kill_overdue_child();
+}
+
+/// After a signal, answers that nobody reads are lost.
+bool Supervisor::has_output_left() const {
+  return front_ && front_->awaited_output() >= 0 && !ending_signal_;
 }
 
 int Supervisor::longest_wait() const {
@@ -215,8 +224,8 @@ void Supervisor::reap() {
   if (lifeline_) read_life_signs();
   lifeline_.reset();
   if (front_) {
-    while (console_ && front_->awaited_answer() >= 0)
-      front_->read_answer();
+    while (front_->awaited_answer() >= 0 && front_->read_answer()) {
+    }
     front_->detach(restart_asked_ ? ConsoleFront::Departure::Asked
                                   : ConsoleFront::Departure::Unexpected);
   }

@@ -53,6 +53,7 @@ class Supervisor {
   std::string name() const { return command_.program.filename(); }
   void wait_for_something();
   int longest_wait() const;
+  bool has_output_left() const;
   void take_signal();
   bool serve(const ControlRequest& request);
   bool is_home_screen(const std::string& program) const;

@@ -71,6 +71,7 @@ int echo(int descriptor) {
       continue;
     }
     if (line == "crash") abort();
+    if (line == "terminate") kill(getppid(), SIGTERM);
     if (line == "killall") {
       static_cast<void>(!std::system("killall SpringBoard"));
       wait_for_ever();
@@ -121,6 +122,11 @@ int main(int argument_count, char** argument_values) {
   if (behaviour == "crash-once" && starts() == 1) abort();
   if (behaviour == "killall-once" && starts() == 1) {
     static_cast<void>(!std::system("killall SpringBoard"));
+    wait_for_ever();
+  }
+  if (behaviour == "deaf") {
+    usleep(100'000);
+    kill(getppid(), SIGTERM);
     wait_for_ever();
   }
   if (behaviour == "terminate-supervisor") {

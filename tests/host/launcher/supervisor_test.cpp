@@ -8,6 +8,7 @@
 
 #include <future>
 
+#include "tests/host/launcher/child_signals.h"
 #include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
 
@@ -111,6 +112,7 @@ TEST_F(Supervisors, CountAnyExitThatIsNotAnnouncedAsACrash) {
 
 TEST_F(Supervisors, ShowTheWindowOnRequest) {
   Supervisor supervisor({command("show-itself"), {}, true}, clock_, nullptr);
+  block_child_signals();
   auto answer = std::async(std::launch::async, [path = supervisor.control_socket()] {
     return ask_supervisor(path, {ControlRequest::Kind::Show, {}, {}});
   });
