@@ -37,6 +37,10 @@ constexpr const char* kKeys =
     "  4    another process has the device, and no window to show\n"
     "  128+ ended by the signal of that number\n"
     "\n"
+    "Messages are printed on standard error. If that is neither a terminal nor a pipe\n"
+    "nor a file, as for a phone started from a menu, they go to the file\n"
+    "~/.local/state/sonavue/sonavue.log; the one before it ends in .1.\n"
+    "\n"
     "SONAVUE_PATIENCE=0 in the environment waits for ever for a home screen or an\n"
     "extension that hangs; any other number multiplies the time until it is ended.";
 

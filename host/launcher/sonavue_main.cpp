@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "host/launcher/installation.h"
+#include "host/launcher/log_file.h"
 #include "host/launcher/options.h"
 #include "host/launcher/supervisor.h"
 #include "host/launcher/throwaway_folder.h"
@@ -106,6 +107,7 @@ int run_phone(Options options) {
 }  // namespace
 
 int main(int count, char** arguments) try {
+  open_standard_streams();
   host::start_log("sonavue");
   const auto read = read_options(count, arguments);
   if (const auto* ending = std::get_if<Ending>(&read)) {
@@ -113,6 +115,7 @@ int main(int count, char** arguments) try {
     return ending->status;
   }
   const auto& options = std::get<Options>(read);
+  if (!options.headless) log_to_file_unless_seen();
   if (!options.headless && !has_display()) {
     return complain(
         "there is no display for a window. Start it on a desktop, or without a window: "

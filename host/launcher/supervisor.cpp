@@ -11,6 +11,7 @@
 #include <cerrno>
 
 #include "host/application/wire/process_arguments.h"
+#include "host/launcher/log_file.h"
 #include "host/runtime/log.h"
 
 namespace host::launcher {
@@ -128,6 +129,7 @@ void Supervisor::wait_for_something() {
   if (front_ && front_->verdict() && child_ && !patience_ends_) signal_child(SIGTERM);
   look_after_child();
   kill_overdue_child();
+  keep_log_bounded();
 }
 
 /// After a signal, answers that nobody reads are lost.
