@@ -8,27 +8,14 @@
 #include "host/files/folder.h"
 #include "host/files/links.h"
 #include "host/files/read_file.h"
-#include "host/foundation/binary_property_list.h"
 #include "host/foundation/device_paths.h"
+#include "host/property_list/reader.h"
 #include "host/runtime/log.h"
-#include "platform/Foundation/NSPropertyListSerialization.h"
 
 namespace host::foundation {
 namespace {
 
 constexpr std::int64_t kNanoseconds = 1'000'000'000;
-
-/// Nil when the bytes are no property list.
-objc::Object list_in(std::string_view bytes) {
-  if (is_binary_property_list(bytes)) return binary_property_list(bytes);
-  try {
-    return NSPropertyListSerialization::propertyListWithData(
-        NSData::dataWithBytes(bytes.data(), bytes.size()), 0, nullptr, nullptr);
-  } catch (...) {
-    // Foundation's parser raises for some broken files, and returns nil for others.
-    return {};
-  }
-}
 
 }  // namespace
 
@@ -47,7 +34,8 @@ NSDictionary PropertyListFile::read() {
   if (is_unread() && !was_unread)
     spdlog::error("{} cannot be read: {}; it stays as it is", path_, unread_.message());
   if (is_unread() || contents.is_missing()) return nil;
-  const auto list = contents.error ? nil : objc::cast<NSDictionary>(list_in(contents.bytes));
+  const auto list =
+      contents.error ? nil : objc::cast<NSDictionary>(property_list::read(contents.bytes).list);
   if (list.isKindOfClass(NSDictionary::cls())) return list;
   set_aside();
   return nil;

@@ -1,71 +1,45 @@
-#include <charconv>
-#include <initializer_list>
-#include <optional>
-#include <string>
-#include <string_view>
-
 #include "host/foundation/exports.h"
+#include "host/foundation/property_list_error.h"
+#include "host/property_list/xml_writer.h"
 #include "host/runtime/class_family.h"
 #include "platform/Foundation/NSPropertyListSerialization.h"
 
-// The desktop's Foundation writes an old text form in the encoding of the process's locale; if this
-// encoding lacks a single letter, the file is empty. The platform writes XML in UTF-8, regardless
-// of the locale.
+// The desktop's Foundation writes files in an old text form and in the encoding of the process's
+// locale; if this encoding lacks a single letter, the file is empty. Its XML has escapes that stand
+// for themselves in any other reader, and it recurses without end in a list that contains itself.
+// The platform writes XML in UTF-8, regardless of the locale.
 
 namespace host::foundation {
 namespace {
 
-constexpr std::size_t kEscapeLength = 6;
+objc::Imp original_writer = nullptr;
 
-/// Returns the UTF-16 unit written as `\UD83C` at the start of `text`.
-std::optional<char32_t> escaped_unit(std::string_view text) {
-  if (text.size() < kEscapeLength || !text.starts_with("\\U")) return std::nullopt;
-  unsigned unit = 0;
-  const char* end = text.data() + kEscapeLength;
-  if (std::from_chars(text.data() + 2, end, unit, 16).ptr != end) return std::nullopt;
-  return unit;
-}
-
-/// Returns the character written as two such units at the start of `text`.
-std::optional<char32_t> escaped_character(std::string_view text) {
-  const auto high = escaped_unit(text);
-  if (!high || *high < 0xD800 || *high > 0xDBFF) return std::nullopt;
-  const auto low = escaped_unit(text.substr(kEscapeLength));
-  if (!low || *low < 0xDC00 || *low > 0xDFFF) return std::nullopt;
-  return 0x10000 + ((*high - 0xD800) << 10) + (*low - 0xDC00);
-}
-
-/// Decodes characters of four bytes, which Foundation writes to XML as escapes that its own reader
-/// does not know.
-std::string without_escapes(std::string_view xml) {
-  std::string plain;
-  while (!xml.empty()) {
-    const auto character = escaped_character(xml);
-    if (!character) {
-      plain += xml.front();
-      xml.remove_prefix(1);
-      continue;
-    }
-    for (const int shift : {18, 12, 6, 0}) {
-      const auto bits = *character >> shift;
-      plain += static_cast<char>(shift == 18 ? 0xF0 | bits : 0x80 | (bits & 0x3F));
-    }
-    xml.remove_prefix(2 * kEscapeLength);
+NSData data_of_list(NSObject cls, NSObject list, NSUInteger form, NSUInteger options,
+                    objc::Id* error) {
+  const auto xml = property_list::xml_of(list);
+  if (!xml) {
+    if (error) *error = property_list_error("it is no property list").id();
+    return nil;
   }
-  return plain;
+  if (form == NSPropertyListXMLFormat_v1_0) return NSData::dataWithBytes(xml->data(), xml->size());
+  using Function = objc::Id (*)(objc::Id, objc::Sel, objc::Id, NSUInteger, NSUInteger, objc::Id*);
+  return objc::wrap<NSData>(reinterpret_cast<Function>(original_writer)(
+      cls.id(), "dataWithPropertyList:format:options:error:"_sel, list.id(), form, options, error));
 }
 
 BOOL write_to_file(NSObject self, NSString path, BOOL atomically) {
   const NSData data = NSPropertyListSerialization::dataFromPropertyList(
       self, NSPropertyListXMLFormat_v1_0, nullptr);
-  if (!data) return NO;
-  const std::string xml = without_escapes({static_cast<const char*>(data.bytes()), data.length()});
-  return NSData::dataWithBytes(xml.data(), xml.size()).writeToFile(path, atomically);
+  return data && data.writeToFile(path, atomically);
 }
 
 }  // namespace
 
 void export_property_lists() {
+  if (original_writer) return;
+  original_writer =
+      replace_in_family<&data_of_list>(objc_getMetaClass("NSPropertyListSerialization"),
+                                       "dataWithPropertyList:format:options:error:");
   for (const char* collection : {"NSDictionary", "NSArray"})
     replace_in_family<&write_to_file>(objc_getClass(collection), "writeToFile:atomically:");
 }

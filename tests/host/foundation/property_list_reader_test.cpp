@@ -7,6 +7,7 @@
 
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
+#include "tests/support/caught_log.h"
 #include "tests/support/host_test.h"
 
 namespace {
@@ -69,6 +70,53 @@ TEST_F(PropertyListReaderTest, OneReadersChangesAreNotVisibleToTheNext) {
   const auto list = objc::cast<NSMutableArray>(read().objectForKey("list"_ns));
   if (list.isKindOfClass(NSMutableArray::cls())) list.addObject("b"_ns);
   EXPECT_EQ(objc::cast<NSArray>(read().objectForKey("list"_ns)).count(), 1u);
+}
+
+TEST_F(PropertyListReaderTest, AnUnchangedFileIsParsedOnce) {
+  write("<key>list</key><array><string>a</string></array>");
+  const objc::Object list = read().objectForKey("list"_ns);
+  ASSERT_TRUE(list);
+  EXPECT_EQ(read().objectForKey("list"_ns), list);
+  write("<key>list</key><array><string>b</string></array>");
+  EXPECT_NE(read().objectForKey("list"_ns), list);
+}
+
+TEST_F(PropertyListReaderTest, ADamagedFileIsParsedAndReportedOnce) {
+  host::test::CaughtLog log;
+  std::ofstream(file) << "{a = b\nc = d; }";
+  for (int i = 0; i < 3; ++i)
+    EXPECT_FALSE(read());
+  EXPECT_EQ(log.take(), "warning: " + file.string() +
+                            " is not read: it is damaged in line 2: a ';' is missing\n");
+  // Another writer, the same mistake.
+  std::ofstream(file) << "{a = c\nc = d; }";
+  EXPECT_FALSE(read());
+  EXPECT_EQ(log.take(), "");
+  std::ofstream(file) << "{a = b; }";
+  EXPECT_TRUE(read());
+  std::ofstream(file) << "{a = b\nc = d; }";
+  EXPECT_FALSE(read());
+  EXPECT_NE(log.take(), "");
+}
+
+TEST_F(PropertyListReaderTest, AHugeFileIsRefusedUnread) {
+  host::test::CaughtLog log;
+  write("<key>on</key><true/>");
+  // Its bytes take no room, but reading them would take memory and time.
+  std::filesystem::resize_file(file, std::uintmax_t{1} << 40);
+  EXPECT_FALSE(read());
+  EXPECT_EQ(log.take(), "warning: " + file.string() + " is not read: it is larger than 32 MB\n");
+}
+
+TEST_F(PropertyListReaderTest, WhatIsNoRegularFileIsReportedOnceAndNotWaitedFor) {
+  host::test::CaughtLog log;
+  ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+  for (int i = 0; i < 3; ++i)
+    EXPECT_FALSE(read());
+  EXPECT_EQ(log.take(), "warning: " + file.string() + " is not read: it is no regular file\n");
+  std::filesystem::remove(file);
+  EXPECT_FALSE(read());
+  EXPECT_EQ(log.take(), "");
 }
 
 TEST_F(PropertyListReaderTest, AMutableDictionaryStaysMutableOnEveryRead) {
