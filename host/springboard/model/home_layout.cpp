@@ -24,6 +24,11 @@ std::optional<Place> find_in_folders(const List& list, std::string_view id) {
   return std::nullopt;
 }
 
+std::size_t count_folders(const List& list) {
+  return static_cast<std::size_t>(
+      std::count_if(list.begin(), list.end(), [](const Slot& slot) { return slot.is_folder; }));
+}
+
 template <class Item>
 void insert_at(std::vector<Item>& items, std::size_t index, Item item) {
   const auto at = static_cast<std::ptrdiff_t>(std::min(index, items.size()));
@@ -196,7 +201,11 @@ void HomeLayout::insert_in_page(std::size_t page, std::size_t index, Slot slot) 
 }
 
 std::string HomeLayout::new_folder_id() const {
-  for (std::size_t number = 1;; ++number) {
+  // The first attempt succeeds, unless folders were removed.
+  std::size_t folders = count_folders(dock_);
+  for (const List& page : pages_)
+    folders += count_folders(page);
+  for (std::size_t number = folders + 1;; ++number) {
     std::string id = "folder." + std::to_string(number);
     if (!contains(id)) return id;
   }

@@ -12,37 +12,60 @@ NSArray array_or_nil(objc::Object object) {
   return array.isKindOfClass(NSArray::cls()) ? array : NSArray();
 }
 
-std::optional<Slot> read_slot(objc::Object entry) {
-  if (const NSString id = string_or_nil(entry)) return Slot{to_string(id), false, {}, {}};
-  const NSDictionary folder = objc::cast<NSDictionary>(entry);
-  if (!folder.isKindOfClass(NSDictionary::cls())) return std::nullopt;
-  Slot slot;
-  slot.is_folder = true;
-  slot.title = to_string(string_or_nil(folder.objectForKey("displayName"_ns)));
-  for (const objc::Object list : array_or_nil(folder.objectForKey("iconLists"_ns)).of()) {
-    for (const objc::Object inside : array_or_nil(list).of()) {
-      if (const NSString id = string_or_nil(inside)) slot.contents.push_back(to_string(id));
+// More than a phone has room for. Every look for an icon goes through all of them.
+constexpr std::size_t kMostIcons = 1000;
+
+/// Fills a layout from the file's lists.
+class Arrangement {
+ public:
+  explicit Arrangement(HomeLayout::Capacity capacity) : layout_(capacity) {}
+
+  void add_dock(NSArray entries) {
+    for (const objc::Object entry : entries.of()) {
+      auto slot = read_slot(entry);
+      if (slot && !layout_.append_to_dock(*slot)) layout_.append(std::move(*slot));
     }
   }
-  return slot;
-}
-
-void read_dock(HomeLayout& layout, NSArray entries) {
-  for (const objc::Object entry : entries.of()) {
-    auto slot = read_slot(entry);
-    if (slot && !layout.append_to_dock(*slot)) layout.append(std::move(*slot));
-  }
-}
-
-void read_pages(HomeLayout& layout, NSArray lists) {
-  std::size_t page = 0;
-  for (const objc::Object list : lists.of()) {
-    for (const objc::Object entry : array_or_nil(list).of()) {
-      if (auto slot = read_slot(entry)) layout.append(std::move(*slot), page);
+  void add_pages(NSArray lists) {
+    std::size_t page = 0;
+    for (const objc::Object list : lists.of()) {
+      for (const objc::Object entry : array_or_nil(list).of()) {
+        if (auto slot = read_slot(entry)) layout_.append(std::move(*slot), page);
+      }
+      ++page;
     }
-    ++page;
   }
-}
+  HomeLayout layout() && { return std::move(layout_); }
+  /// Returns whether there were more icons than it has.
+  bool is_overfull() const { return icons_ > kMostIcons; }
+
+ private:
+  /// Returns nothing for what is no icon, and when there are too many.
+  std::optional<Slot> read_slot(objc::Object entry) {
+    const NSString id = string_or_nil(entry);
+    const NSDictionary folder = objc::cast<NSDictionary>(entry);
+    if ((!id && !folder.isKindOfClass(NSDictionary::cls())) || !has_room()) return std::nullopt;
+    if (id) return Slot{to_string(id), false, {}, {}};
+    Slot slot;
+    slot.is_folder = true;
+    slot.title = to_string(string_or_nil(folder.objectForKey("displayName"_ns)));
+    for (const objc::Object list : array_or_nil(folder.objectForKey("iconLists"_ns)).of())
+      fill(slot, array_or_nil(list));
+    return slot;
+  }
+
+  void fill(Slot& folder, NSArray entries) {
+    for (const objc::Object entry : entries.of()) {
+      const NSString id = string_or_nil(entry);
+      if (id && has_room()) folder.contents.push_back(to_string(id));
+    }
+  }
+
+  bool has_room() { return ++icons_ <= kMostIcons; }
+
+  HomeLayout layout_;
+  std::size_t icons_ = 0;
+};
 
 objc::Object write_slot(const Slot& slot) {
   if (!slot.is_folder) return to_ns(slot.id);
@@ -74,10 +97,13 @@ std::optional<HomeLayout> read_icon_state(foundation::PropertyListFile& file,
     file.set_aside();
     return std::nullopt;
   }
-  HomeLayout layout(capacity);
-  read_dock(layout, dock);
-  read_pages(layout, pages);
-  return layout;
+  Arrangement arrangement(capacity);
+  arrangement.add_dock(dock);
+  arrangement.add_pages(pages);
+  if (arrangement.is_overfull())
+    spdlog::warn("{} holds more than {} icons: the others are arranged anew", to_string(path),
+                 kMostIcons);
+  return std::move(arrangement).layout();
 }
 
 bool write_icon_state(const HomeLayout& layout, const foundation::PropertyListFile& file) {

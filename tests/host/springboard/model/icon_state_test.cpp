@@ -7,6 +7,7 @@
 
 #include "host/springboard/model/default_layout.h"
 #include "host/springboard/model/strings.h"
+#include "tests/support/caught_log.h"
 #include "tests/support/host_test.h"
 #include "tests/support/no_descriptors.h"
 
@@ -99,6 +100,19 @@ TEST_F(IconStateTest, EntriesThatAreNotIconsAreSkipped) {
   const auto layout = read("odd.plist");
   ASSERT_TRUE(layout);
   EXPECT_THAT(layout->applications(), ElementsAre("a"));
+}
+
+TEST_F(IconStateTest, OnlySoManyIconsAreArranged) {
+  // A hundred thousand folders and icons would take hours.
+  std::string entries;
+  for (int i = 0; i < 50'000; ++i)
+    entries += "{iconLists = ((a" + std::to_string(i) + "));}, b" + std::to_string(i) + ", ";
+  write("IconState.plist", "{buttonBar = (dock); iconLists = ((" + entries + "));}");
+  test::CaughtLog log;
+  const auto layout = read_icon_state(path("IconState.plist"), kCapacity);
+  ASSERT_TRUE(layout);
+  EXPECT_EQ(layout->applications().size(), 667u);
+  EXPECT_THAT(log.take(), testing::HasSubstr("holds more than 1000 icons"));
 }
 
 TEST_F(IconStateTest, AnUnwritableFileIsReported) {
