@@ -1,8 +1,13 @@
 #include "host/social/delivery/share_target.h"
 
-#include <algorithm>
-#include <fstream>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <optional>
+
+#include "host/basics/descriptor.h"
 #include "host/runtime/log.h"
 #include "host/social/delivery/configuration.h"
 #include "host/social/delivery/percent_encoding.h"
@@ -14,6 +19,8 @@ constexpr std::string_view kPlace = "{text}";
 constexpr std::string_view kMail = "mailto:";
 constexpr std::string_view kBlank = " \t\r\n";
 constexpr const char* kShareKind = "share";
+// In bytes.
+constexpr std::size_t kLongestLine = 2048;
 
 bool is_scheme_sign(unsigned char sign) {
   return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z') ||
@@ -42,14 +49,28 @@ std::string_view trimmed(std::string_view line) {
   return line.substr(begin, line.find_last_not_of(kBlank) - begin + 1);
 }
 
+/// Returns nothing for a missing or empty file. Of what is no regular file, nothing is read: it may
+/// never end.
+std::optional<std::string> first_line(const std::filesystem::path& path) {
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat status {};
+  if (!file || fstat(file.get(), &status) != 0) return std::nullopt;
+  if (!S_ISREG(status.st_mode)) return "";
+  std::string line(kLongestLine + 1, '\0');
+  const ssize_t length = ::read(file.get(), line.data(), line.size());
+  if (length <= 0) return std::nullopt;
+  line.resize(static_cast<std::size_t>(length));
+  return line.substr(0, line.find('\n'));
+}
+
 }  // namespace
 
 ShareTarget ShareTarget::read(const std::filesystem::path& file) {
   ShareTarget target;
-  std::ifstream stream(file);
-  std::string line;
-  if (file.empty() || !std::getline(stream, line)) return target;
-  if (const std::string_view address = trimmed(line); is_address_with_place(address)) {
+  const auto line = first_line(file);
+  if (!line) return target;
+  const std::string_view address = trimmed(*line);
+  if (line->size() <= kLongestLine && is_address_with_place(address)) {
     target.address_ = address;
   } else {
     spdlog::warn("{}: the first line is not an address with {}: sharing by mail", file.string(),

@@ -1,5 +1,7 @@
 #include "host/social/delivery/share_target.h"
 
+#include <sys/stat.h>
+
 #include <filesystem>
 
 #include "host/social/delivery/configuration.h"
@@ -64,6 +66,21 @@ TEST_F(ShareTargets, RejectInvalidAddresses) {
     EXPECT_EQ(target_of(line).address_for("x"), ShareTarget().address_for("x")) << line;
     EXPECT_EQ(log.count("share-target"), 1) << line;
   }
+}
+
+TEST_F(ShareTargets, AreNotWaitedForAndHaveAnEnd) {
+  const std::string file = folder / "share-target";
+  // Nobody ever writes into it.
+  ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+  const CapturedLog log;
+  EXPECT_EQ(ShareTarget::read(file).address_for("x"), ShareTarget().address_for("x"));
+  std::filesystem::remove(file);
+  std::filesystem::create_symlink("/dev/zero", file);
+  EXPECT_EQ(ShareTarget::read(file).address_for("x"), ShareTarget().address_for("x"));
+  std::filesystem::remove(file);
+  EXPECT_EQ(target_of("https://example.org/{text}" + std::string(5000, 'a')).address_for("x"),
+            ShareTarget().address_for("x"));
+  EXPECT_EQ(log.count("share-target"), 3);
 }
 
 TEST_F(ShareTargets, AreFoundWhereTheUserKeepsSettings) {
