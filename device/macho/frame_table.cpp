@@ -44,7 +44,7 @@ class Reader {
   }
 
   FrameDescription description(std::size_t at, std::size_t common, std::size_t length) const {
-    if (std::find(commons_.begin(), commons_.end(), common) == commons_.end())
+    if (!std::binary_search(commons_.begin(), commons_.end(), common))
       refuse(at, "refers to no common entry");
     if (length < kNumber + 2 * kAddress) refuse(at, "is too short");
     const std::size_t place = at + 2 * kNumber;
@@ -76,6 +76,7 @@ class Reader {
 
   const Section& table_;
   const Bytes bytes_;
+  /// In ascending order.
   std::vector<std::size_t> commons_;
 };
 

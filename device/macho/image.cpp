@@ -15,6 +15,8 @@ constexpr unsigned kBitsOfAddress = 64;
 constexpr std::uint8_t kKindMask = 0x0e;
 constexpr std::uint8_t kExternal = 0x01;
 constexpr std::uint8_t kDebugging = 0xe0;
+// Names may share bytes, but all together they are not much longer than the file.
+constexpr std::size_t kMostShared = 16;
 
 const char* name_of(Processor processor) {
   return processor == kArm64 ? "arm64" : "x86-64";
@@ -134,10 +136,14 @@ std::vector<Symbol> Image::symbols() const {
   const std::size_t names = little_32(bytes_, table->offset + 16);
   const std::size_t end = names + little_32(bytes_, table->offset + 20);
   bytes_at(bytes_, first, count * kSymbolSize);
+  std::size_t length = 0;
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t at = first + i * kSymbolSize;
     read.push_back({text_at(bytes_, names + little_32(bytes_, at), end), bytes_[at + 4],
                     little_64(bytes_, at + 8)});
+    length += read.back().name.size();
+    if (length > kMostShared * bytes_.size())
+      throw FormatError("too many symbols have the same long name");
   }
   return read;
 }
