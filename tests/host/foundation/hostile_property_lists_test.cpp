@@ -17,6 +17,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 objc::Object class_named(const char* name) {
   return objc::Object(objc_getClass(name));
@@ -97,17 +98,6 @@ const Entrance kEntrances[] = {
            "propertyListFromData:mutabilityOption:format:errorDescription:"_sel, data_of(path),
            NSUInteger{1}, &form, &error);
      }},
-    {"AStream",
-     [](NSString path) {
-       const auto stream = objc::send<objc::Object>(class_named("NSInputStream"),
-                                                    "inputStreamWithFileAtPath:"_sel, path);
-       objc::send<>(stream, "open"_sel);
-       NSUInteger form = 0;
-       objc::Id error = nullptr;
-       return objc::send<objc::Object>(class_named("NSPropertyListSerialization"),
-                                       "propertyListWithStream:options:format:error:"_sel, stream,
-                                       NSUInteger{0}, &form, &error);
-     }},
     {"AText",
      [](NSString path) { return objc::send<objc::Object>(text_of(path), "propertyList"_sel); }},
     {"ATableOfTexts",
@@ -152,6 +142,11 @@ std::string times(int count, std::string_view text) {
 constexpr int kDepth = 50'000;
 constexpr const char* kXml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">";
 
+TEST_P(HostilePropertyLists, WhatIsNotHostileIsRead) {
+  const objc::Object dictionary = read("{a = {b = c; };}");
+  EXPECT_TRUE(dictionary || read("(a)"));
+}
+
 TEST_P(HostilePropertyLists, NestedDeepInText) {
   EXPECT_FALSE(read("{a = " + times(kDepth, "(") + times(kDepth, ")") + ";}"));
   EXPECT_FALSE(read(times(kDepth, "{a = ") + times(kDepth, ";}")));
@@ -177,6 +172,22 @@ TEST_P(HostilePropertyLists, DoublingInTheBinaryForm) {
 
 TEST_P(HostilePropertyLists, TheDesktopsOwnBinaryForm) {
   EXPECT_FALSE(read(std::string("GNUstep archive") + std::string(64, '\xFF')));
+}
+
+struct HostileTables : host::test::HostTest {};
+
+TEST_F(HostileTables, LeaveTheKeyAsItsText) {
+  const fs::path bundle =
+      fs::temp_directory_path() / ("tables-" + std::to_string(getpid()) + ".bundle");
+  for (const std::string& table :
+       {times(kDepth, "("), "\"key\" = " + times(kDepth, "{a = "), "\"key"s}) {
+    fs::create_directories(bundle / "en.lproj");
+    std::ofstream(bundle / "en.lproj/Localizable.strings") << table;
+    std::ofstream(bundle / "Localizable.strings") << table;
+    const auto texts = NSBundle::bundleWithPath(NSString::stringWithUTF8String(bundle.c_str()));
+    EXPECT_STREQ(texts.localizedStringForKey("key"_ns, nil, nil).UTF8String(), "key");
+    fs::remove_all(bundle);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(ReadBy, HostilePropertyLists, testing::ValuesIn(kEntrances),
