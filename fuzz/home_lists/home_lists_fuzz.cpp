@@ -6,7 +6,7 @@
 #include <string>
 
 #include "host/activator/assignment/assignments.h"
-#include "host/applications/settings/loader_entries.h"
+#include "host/applications/loader/loader_entries.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/exports.h"
 #include "host/foundation/load_filter.h"

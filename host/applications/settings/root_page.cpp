@@ -2,7 +2,7 @@
 
 #include "host/activator/event/strings.h"
 #include "host/activator/page/page_look.h"
-#include "host/applications/settings/loader_entries.h"
+#include "host/applications/loader/loader_entries.h"
 #include "host/applications/settings/row_icons.h"
 #include "host/process/device_images.h"
 #include "platform/Activator/LAListenerListViewController.h"

@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "host/activator/service/service.h"
+#include "host/applications/loader/loader_entries.h"
 #include "host/applications/program/player_remote.h"
-#include "host/applications/settings/loader_entries.h"
 #include "host/foundation/device_paths.h"
 #include "host/process/device_images.h"
 #include "host/springboard/common/configuration.h"

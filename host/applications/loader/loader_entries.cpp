@@ -1,4 +1,4 @@
-#include "host/applications/settings/loader_entries.h"
+#include "host/applications/loader/loader_entries.h"
 
 #include <algorithm>
 #include <optional>
