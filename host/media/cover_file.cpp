@@ -1,10 +1,9 @@
 #include "host/media/cover_file.h"
 
-#include <sys/stat.h>
-
 #include <fstream>
 #include <vector>
 
+#include "host/media/plain_file.h"
 #include "host/media/reading_marks.h"
 #include "host/media/tag_reader.h"
 
@@ -14,8 +13,7 @@ namespace {
 constexpr std::streamoff largest_file_bytes = 32 << 20;
 
 std::vector<std::uint8_t> bytes_of_file(const std::string& path) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  if (!reason_not_to_open(path).empty()) return {};
   std::ifstream file{path, std::ios::binary | std::ios::ate};
   const std::streamoff size = file.tellg();
   if (!file || size <= 0 || size > largest_file_bytes) return {};

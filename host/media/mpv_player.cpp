@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "host/media/log.h"
+#include "host/media/plain_file.h"
 #include "host/media/sound_libraries.h"
 
 namespace host::media {
@@ -121,6 +122,7 @@ void MpvPlayer::load(const std::string& path) {
   has_ended_ = false;
   sought_.reset();
   engine_position_ = 0;
+  if (auto reason = reason_not_to_open(path); !reason.empty()) return refuse(std::move(reason));
   mark_.emplace(Reading::sound, path);
   if (!mark_->may_read()) return refuse("has ended the phone before");
   const char* command[] = {"loadfile", path.c_str(), "replace", nullptr};
@@ -145,6 +147,9 @@ void MpvPlayer::load(const std::string& path) {
 }
 
 void MpvPlayer::refuse(std::string reason) {
+  // What was playing before must not be heard under this name.
+  const char* command[] = {"stop", nullptr};
+  mpv_command(engine_.get(), command);
   mark_.reset();
   loading_ = Loading::nothing;
   failures_.push_back({path_, std::move(reason)});

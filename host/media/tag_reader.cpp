@@ -7,7 +7,6 @@
 #include <mp4file.h>
 #include <mpegfile.h>
 #include <opusfile.h>
-#include <sys/stat.h>
 #include <tpropertymap.h>
 #include <vorbisfile.h>
 #include <wavfile.h>
@@ -22,6 +21,7 @@
 
 #include "host/media/hash.h"
 #include "host/media/picture.h"
+#include "host/media/plain_file.h"
 #include "host/media/text.h"
 
 namespace host::media {
@@ -107,15 +107,6 @@ SongTags tags_from(const TagLib::PropertyMap& properties) {
   tags.is_compilation = number_in(text_of(properties, "COMPILATION")) == 1;
   tags.is_cloud = number_in(text_of(properties, "SONAVUE_CLOUD")) == 1;
   return tags;
-}
-
-// Opening a pipe would block until its other end opens, so only regular files are accepted.
-std::string reason_not_to_open(const std::string& path) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) return "cannot be reached";
-  if (!S_ISREG(status.st_mode)) return "is not a plain file";
-  if (status.st_size == 0) return "is empty";
-  return {};
 }
 
 TagReading refused_file(std::string reason) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -232,6 +233,27 @@ TEST_F(SteppedQueue, VolumeReachesTheEngine) {
   EXPECT_NEAR(player_->engine().volume_percent, 25, 1e-9);
   player_->set_volume(7);
   EXPECT_DOUBLE_EQ(player_->volume(), 1);
+}
+
+TEST(MpvPlayer, OpensNoPipe) {
+  struct Reasons : PlayerListener {
+    std::vector<std::string> all;
+    void player_did_reach_end() override {}
+    void player_did_fail(const std::string&, const std::string& reason) override {
+      all.push_back(reason);
+    }
+  } reasons;
+  const TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo((folder / "pipe.mp3").c_str(), 0600), 0);
+  const auto player = MpvPlayer::create({"null", PlayerPace::real, {}});
+  ASSERT_TRUE(player);
+  player->set_listener(&reasons);
+  for (const std::string& path : {folder / "pipe.mp3", std::string{"/dev/zero"}, folder.path()}) {
+    player->load(path);
+    player->pump();
+  }
+  EXPECT_THAT(reasons.all,
+              ElementsAre("is not a plain file", "is not a plain file", "is not a plain file"));
 }
 
 // Without a device the engine plays on in silence.
