@@ -2,7 +2,6 @@
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <libyuv/convert_argb.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +11,8 @@
 #include <utility>
 
 #include "host/basics/premultiply.h"
+#include "host/media/jpeg_limits.h"
+#include "host/media/plain_file.h"
 #include "host/media/reading_marks.h"
 
 namespace host::media {
@@ -28,14 +29,15 @@ constexpr std::size_t header_piece_bytes = 16 << 10;
 constexpr std::size_t most_header_bytes = 4 << 20;
 
 // Only these two decoders are used, chosen by the picture's first bytes: a picture inside a song is
-// untrusted input, and most of a desktop's decoders were not made for that.
+// untrusted input, and most of a desktop's decoders were not made for that. Not even these for
+// every JPEG.
 const char* decoder_for(std::span<const std::uint8_t> bytes) {
   constexpr std::uint8_t jpeg[] = {0xff, 0xd8, 0xff};
   constexpr std::uint8_t png[] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
   auto starts_with = [bytes](std::span<const std::uint8_t> magic) {
     return bytes.size() > magic.size() && std::ranges::equal(bytes.first(magic.size()), magic);
   };
-  if (starts_with(jpeg)) return "jpeg";
+  if (starts_with(jpeg)) return is_quick_jpeg(bytes) ? "jpeg" : nullptr;
   if (starts_with(png)) return "png";
   return nullptr;
 }
@@ -140,8 +142,7 @@ PictureHeader read_picture_header(std::span<const std::uint8_t> bytes) {
 }
 
 PictureHeader read_picture_file_header(const std::string& path) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  if (!reason_not_to_open(path).empty()) return {};
   const ReadingMark mark{Reading::cover, path};
   if (!mark.may_read()) return {};
   std::ifstream file{path, std::ios::binary};

@@ -16,6 +16,28 @@ long peak_memory_kib() {
   return usage.ru_maxrss;
 }
 
+// A grey picture: tables of which every code is one bit, then scans without any.
+std::vector<std::uint8_t> grey_jpeg(std::uint8_t coding, int width, int height, int scans) {
+  std::vector<std::uint8_t> made = {0xff, 0xd8, 0xff, 0xdb, 0, 67, 0};
+  const auto append = [&made](std::vector<std::uint8_t> bytes) {
+    made.insert(made.end(), bytes.begin(), bytes.end());
+  };
+  const auto high = [](int number) { return static_cast<std::uint8_t>(number >> 8); };
+  const auto low = [](int number) { return static_cast<std::uint8_t>(number); };
+  append(std::vector<std::uint8_t>(64, 1));
+  append(
+      {0xff, coding, 0, 11, 8, high(height), low(height), high(width), low(width), 1, 1, 0x11, 0});
+  for (const std::uint8_t table : {0x00, 0x10}) {
+    append({0xff, 0xc4, 0, 20, table, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+  }
+  const bool is_progressive = coding == 0xc2;
+  append({0xff, 0xda, 0, 8, 1, 1, 0, 0, low(is_progressive ? 0 : 63), 0, 0x3f});
+  for (int scan = 1; scan < scans; ++scan)
+    append({0xff, 0xda, 0, 8, 1, 1, 0, 1, 63, 0, 0x3f});
+  append({0xff, 0xd9});
+  return made;
+}
+
 Track track_with_picture(std::uint64_t key, std::string_view path) {
   Track track;
   track.artwork_key = key;
@@ -75,6 +97,18 @@ TEST(Picture, AJpegCutAnywhereIsNeverFatal) {
     if (!picture) continue;
     EXPECT_EQ(picture->pixels.size(), 100u * 100u) << size << " of " << whole.size();
   }
+}
+
+// The decoder does not come to an end with this one.
+TEST(Picture, AnArithmeticJpegIsRefused) {
+  const auto jpeg = grey_jpeg(0xc9, 8, 2, 1);
+  EXPECT_FALSE(decode_picture(jpeg, 100));
+  EXPECT_FALSE(read_picture_header(jpeg).is_usable());
+}
+
+TEST(Picture, AJpegOfManyScansIsRefusedWhenTheyAreLarge) {
+  EXPECT_FALSE(decode_picture(grey_jpeg(0xc2, 6000, 6000, 100'000), 100));
+  EXPECT_TRUE(decode_picture(grey_jpeg(0xc2, 8, 8, 100), 100));
 }
 
 TEST(ArtworkCache, DecodesAPictureOnceForAllItsSongs) {
