@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <span>
 
+#include "host/media/bounded_stream.h"
 #include "host/media/hash.h"
 #include "host/media/picture.h"
 #include "host/media/plain_file.h"
@@ -114,7 +115,8 @@ TagReading refused_file(std::string reason) {
 }
 
 TagReading read_opened(const std::string& path) {
-  const TagLib::FileRef reference{path.c_str(), true, TagLib::AudioProperties::Average};
+  BoundedStream stream{path.c_str()};
+  const TagLib::FileRef reference{&stream, true, TagLib::AudioProperties::Average};
   if (reference.isNull() || !reference.file()->isValid())
     return refused_file("is not an audio file");
   const TagLib::AudioProperties* audio = reference.audioProperties();
@@ -165,7 +167,8 @@ TagReading read_tags(const std::string& path) {
 std::vector<std::uint8_t> read_embedded_picture(const std::string& path) {
   if (!reason_not_to_open(path).empty()) return {};
   try {
-    const TagLib::FileRef reference{path.c_str(), false};
+    BoundedStream stream{path.c_str()};
+    const TagLib::FileRef reference{&stream, false};
     if (reference.isNull() || !reference.file()->isValid()) return {};
     const TagLib::ByteVector picture = picture_in(reference.file());
     if (!is_usable_picture(picture)) return {};

@@ -1,4 +1,5 @@
 #include <fileref.h>
+#include <tiostream.h>
 
 #include <cstdlib>
 #include <string_view>
@@ -8,11 +9,15 @@
 
 namespace {
 
-class DeadlyReader final : public TagLib::FileRef::FileTypeResolver {
+class DeadlyReader final : public TagLib::FileRef::StreamTypeResolver {
  public:
-  TagLib::File* createFile(TagLib::FileName name, bool,
+  TagLib::File* createFile(TagLib::FileName, bool,
                            TagLib::AudioProperties::ReadStyle) const override {
-    if (std::string_view(name).ends_with("/killer.mp3")) std::abort();
+    return nullptr;
+  }
+  TagLib::File* createFileFromStream(TagLib::IOStream* stream, bool,
+                                     TagLib::AudioProperties::ReadStyle) const override {
+    if (std::string_view(stream->name()).ends_with("/killer.mp3")) std::abort();
     return nullptr;
   }
 };

@@ -4,6 +4,7 @@
 #include <fileref.h>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <mpv/client.h>
+#include <tiostream.h>
 
 namespace {
 
@@ -14,11 +15,16 @@ void tell(std::string_view what) {
 }
 
 // Asked for each file before the library's own readers.
-class TellingResolver final : public TagLib::FileRef::FileTypeResolver {
+class TellingResolver final : public TagLib::FileRef::StreamTypeResolver {
  public:
   TagLib::File* createFile(TagLib::FileName name, bool,
                            TagLib::AudioProperties::ReadStyle) const override {
     tell(name);
+    return nullptr;
+  }
+  TagLib::File* createFileFromStream(TagLib::IOStream* stream, bool,
+                                     TagLib::AudioProperties::ReadStyle) const override {
+    tell(stream->name());
     return nullptr;
   }
 };

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "tests/support/media_fixtures.h"
@@ -11,8 +12,15 @@ using namespace media_tests;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using namespace std::literals;
 
 namespace {
+
+long peak_memory_kib() {
+  rusage usage{};
+  ::getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
 
 SongTags sample_tags() {
   SongTags tags;
@@ -162,6 +170,40 @@ TEST(TagReader, AFileCutAnywhereIsReadOrRefusedButNeverFatal) {
     write_bytes(cut, std::string_view{bytes}.substr(0, 3));
     EXPECT_FALSE(read_tags(cut).tags) << suffix;
   }
+}
+
+// The files have holes, so they take no room on the disk.
+TEST(TagReader, AHugeFileWithoutAudioIsNotReadToItsEnd) {
+  const TemporaryFolder folder;
+  for (const char* name : {"x.flac", "x.mp3", "x.ogg", "x.oga", "x.opus", "x.m4a", "x.wav"}) {
+    write_bytes(folder / name, "x");
+    truncate_file(folder / name, 4ull << 30);
+    EXPECT_FALSE(read_tags(folder / name).tags) << name;
+    EXPECT_THAT(read_embedded_picture(folder / name), IsEmpty()) << name;
+  }
+}
+
+TEST(TagReader, APictureOfTwoGigabytesIsNotReadIntoMemory) {
+  const TemporaryFolder folder;
+  const std::string path = folder / "x.m4a";
+  std::string bytes =
+      "\x00\x00\x00\x14"
+      "ftypM4A \x00\x00\x00\x00M4A "s;
+  std::uint32_t size = 0x90000000;
+  for (const char* box : {"moov", "udta", "meta", "ilst", "covr", "data"}) {
+    for (int shift = 24; shift >= 0; shift -= 8)
+      bytes += static_cast<char>(size >> shift & 0xff);
+    bytes += box;
+    if (box == "meta"sv) bytes.append(4, '\0');
+    size -= box == "meta"sv ? 12 : 8;
+  }
+  bytes += "\x00\x00\x00\x0e"s;
+  write_bytes(path, bytes);
+  truncate_file(path, 3ull << 30);
+  const long before = peak_memory_kib();
+  EXPECT_FALSE(read_tags(path).tags);
+  EXPECT_THAT(read_embedded_picture(path), IsEmpty());
+  EXPECT_LT(peak_memory_kib() - before, 256 * 1024);
 }
 
 TEST(TagReader, SongsAreRecognisedByTheirNamesInAnyCase) {
