@@ -20,35 +20,38 @@
 namespace host::foundation {
 namespace {
 
-constexpr int kSignals[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGSYS};
-constexpr std::size_t kLongestName = 64;
+constexpr int kCrashSignals[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGSYS};
+constexpr std::size_t kLongestReportedName = 64;
 constexpr std::size_t kMostRanges = 256;
 constexpr std::size_t kHandlerStack = 64 * 1024;
 // How far up a stack the search goes.
-constexpr std::size_t kSearched = 64 * 1024;
-constexpr std::size_t kPiece = 512;
+constexpr std::size_t kSearchedStack = 64 * 1024;
+constexpr std::size_t kStackPiece = 512;
 
-struct Name {
-  char text[kLongestName] = {};
+struct ReportedName {
+  char text[kLongestReportedName] = {};
   void set(std::string_view name) {
-    const auto length = std::min(name.size(), kLongestName - 1);
-    std::memcpy(text, name.data(), length);
+    const auto length = std::min(name.size(), kLongestReportedName - 1);
+    // A file's name must not look like another line of the log.
+    std::replace_copy_if(
+        name.begin(), name.begin() + static_cast<std::ptrdiff_t>(length), text,
+        [](unsigned char c) { return c < ' ' || c == 0x7f; }, '?');
     text[length] = 0;
   }
 };
 
 /// The addresses of one library's code.
-struct Range {
+struct CodeRange {
   std::uintptr_t begin;
   std::uintptr_t end;
-  Name library;
+  ReportedName library;
 };
 
-Name process;
-Name being_loaded;
-Range ranges[kMostRanges];
+ReportedName reported_process;
+ReportedName being_loaded;
+CodeRange code_ranges[kMostRanges];
 std::atomic<std::size_t> range_count = 0;
-struct sigaction before[NSIG];
+struct sigaction actions_before[NSIG];
 alignas(16) char handler_stack[kHandlerStack];
 
 struct Registers {
@@ -73,7 +76,8 @@ Registers registers_of(const void* context) {
 const char* library_at(std::uintptr_t address) {
   const std::size_t count = range_count.load(std::memory_order_acquire);
   for (std::size_t i = 0; i < count; ++i) {
-    if (address >= ranges[i].begin && address < ranges[i].end) return ranges[i].library.text;
+    if (address >= code_ranges[i].begin && address < code_ranges[i].end)
+      return code_ranges[i].library.text;
   }
   return nullptr;
 }
@@ -81,9 +85,9 @@ const char* library_at(std::uintptr_t address) {
 /// The first library with an address on the stack, which is that of the innermost call unless the
 /// stack still holds the address of a call that has returned.
 const char* nearest_library(std::uintptr_t stack) {
-  std::uintptr_t words[kPiece];
+  std::uintptr_t words[kStackPiece];
   stack &= ~(sizeof(std::uintptr_t) - 1);
-  for (std::size_t searched = 0; searched < kSearched; searched += sizeof words) {
+  for (std::size_t searched = 0; searched < kSearchedStack; searched += sizeof words) {
     const iovec here{words, sizeof words};
     const iovec there{reinterpret_cast<void*>(stack + searched), sizeof words};
     const auto copied = process_vm_readv(getpid(), &here, 1, &there, 1, 0);
@@ -97,15 +101,15 @@ const char* nearest_library(std::uintptr_t stack) {
 }
 
 /// A line that is put together without allocating.
-class Line {
+class CrashLine {
  public:
-  Line& operator<<(std::string_view text) {
+  CrashLine& operator<<(std::string_view text) {
     const auto length = std::min(text.size(), sizeof bytes_ - size_);
     std::memcpy(bytes_ + size_, text.data(), length);
     size_ += length;
     return *this;
   }
-  Line& operator<<(int number) {
+  CrashLine& operator<<(int number) {
     char digits[12];
     std::size_t at = sizeof digits;
     do {
@@ -123,8 +127,8 @@ class Line {
 
 void write_report(int signal, const void* context) {
   const Registers registers = registers_of(context);
-  Line line;
-  line << "[" << process.text << "] error: signal " << signal;
+  CrashLine line;
+  line << "[" << reported_process.text << "] error: signal " << signal;
   if (const char* library = library_at(registers.code)) {
     line << " in the code of " << library;
   } else if (being_loaded.text[0]) {
@@ -137,28 +141,28 @@ void write_report(int signal, const void* context) {
   (line << "\n").write();
 }
 
-void handle(int signal, siginfo_t* information, void* context) {
+void handle_crash(int signal, siginfo_t* information, void* context) {
   // A fault in here ends the process at once.
-  sigaction(signal, &before[signal], nullptr);
+  sigaction(signal, &actions_before[signal], nullptr);
   write_report(signal, context);
   // The fault of an instruction happens again when the handler returns; others are sent again.
   if (information->si_code <= 0) raise(signal);
 }
 
-struct Search {
+struct RangeSearch {
   const link_map* library;
-  Name name;
+  ReportedName name;
 };
 
 int add_ranges(dl_phdr_info* image, std::size_t, void* search_pointer) {
-  const auto& search = *static_cast<const Search*>(search_pointer);
+  const auto& search = *static_cast<const RangeSearch*>(search_pointer);
   if (image->dlpi_addr != search.library->l_addr) return 0;
   for (int i = 0; i < image->dlpi_phnum; ++i) {
     const auto& segment = image->dlpi_phdr[i];
     const std::size_t count = range_count.load(std::memory_order_relaxed);
     if (segment.p_type != PT_LOAD || !(segment.p_flags & PF_X) || count == kMostRanges) continue;
     const std::uintptr_t begin = image->dlpi_addr + segment.p_vaddr;
-    ranges[count] = {begin, begin + segment.p_memsz, search.name};
+    code_ranges[count] = {begin, begin + segment.p_memsz, search.name};
     range_count.store(count + 1, std::memory_order_release);
   }
   return 1;
@@ -167,16 +171,16 @@ int add_ranges(dl_phdr_info* image, std::size_t, void* search_pointer) {
 }  // namespace
 
 void report_crashes(const char* process_name) {
-  process.set(process_name);
+  reported_process.set(process_name);
   stack_t stack{};
   stack.ss_sp = handler_stack;
   stack.ss_size = sizeof handler_stack;
   sigaltstack(&stack, nullptr);
   struct sigaction action {};
-  action.sa_sigaction = &handle;
+  action.sa_sigaction = &handle_crash;
   action.sa_flags = SA_SIGINFO | SA_ONSTACK;
-  for (const int signal : kSignals)
-    sigaction(signal, &action, &before[signal]);
+  for (const int signal : kCrashSignals)
+    sigaction(signal, &action, &actions_before[signal]);
 }
 
 void crash_report_begins_load(const std::string& library) {
@@ -185,7 +189,7 @@ void crash_report_begins_load(const std::string& library) {
 
 void crash_report_ends_load(const std::string& library, void* handle) {
   being_loaded.set("");
-  Search search{};
+  RangeSearch search{};
   if (!handle || dlinfo(handle, RTLD_DI_LINKMAP, &search.library) != 0) return;
   search.name.set(library);
   dl_iterate_phdr(&add_ranges, &search);

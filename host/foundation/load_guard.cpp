@@ -7,7 +7,7 @@
 namespace host::foundation {
 namespace {
 
-constexpr const char* kEndless = "endless";
+constexpr const char* kEndlessNote = "endless";
 
 std::string version_of(const std::filesystem::path& file) {
   std::error_code error;
@@ -26,7 +26,7 @@ LoadGuard::LoadGuard(const std::filesystem::path& library, const std::filesystem
   if (!(mark >> version >> crashes) || version != version_) return;
   crashes_ = crashes;
   std::string note;
-  is_endless_ = mark >> note && note == kEndless;
+  is_endless_ = mark >> note && note == kEndlessNote;
 }
 
 void LoadGuard::write_mark(const char* note) const {
@@ -40,7 +40,7 @@ void LoadGuard::will_load() {
 }
 
 void LoadGuard::will_not_load() {
-  write_mark(kEndless);
+  write_mark(kEndlessNote);
 }
 
 void LoadGuard::did_load() {

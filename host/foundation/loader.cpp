@@ -22,8 +22,8 @@ namespace {
 
 constexpr std::string_view kLibraries = "/Library/MobileSubstrate/DynamicLibraries";
 // Seconds after which a load is slow, and after which it counts as endless.
-constexpr double kSlow = 2;
-constexpr double kEndless = 10;
+constexpr double kSlowLoad = 2;
+constexpr double kEndlessLoad = 10;
 constexpr std::string_view kMarks = "/var/mobile/Library/Caches/loader";
 
 std::vector<LoadedLibrary> loaded;
@@ -56,11 +56,6 @@ class LoadWatch {
   }
 
  private:
-  static std::chrono::milliseconds limit(double seconds) {
-    // A scale of 0 means for ever.
-    const double scale = patience_scale() > 0 ? patience_scale() : kForEver;
-    return std::chrono::milliseconds(static_cast<long>(seconds * scale * 1e3));
-  }
   void end_process(const std::string& name) {
     spdlog::error("{} does not finish loading: the process ends, and leaves it out from now on",
                   name);
@@ -68,15 +63,15 @@ class LoadWatch {
     _exit(kEndedByWatch);
   }
 
-  static constexpr double kForEver = 1e6;
   static constexpr int kEndedByWatch = 1;
 
   LoadGuard* guard_ = nullptr;
-  HangWatch slow_{limit(kSlow), [](const std::string& name) {
+  HangWatch slow_{patience_of(kSlowLoad), [](const std::string& name) {
                     spdlog::warn("{} is still being loaded after {} seconds", name,
-                                 kSlow * patience_scale());
+                                 kSlowLoad * patience_scale());
                   }};
-  HangWatch endless_{limit(kEndless), [this](const std::string& name) { end_process(name); }};
+  HangWatch endless_{patience_of(kEndlessLoad),
+                     [this](const std::string& name) { end_process(name); }};
 };
 
 std::string reason_for_giving_up(const LoadGuard& guard) {

@@ -11,7 +11,7 @@ namespace {
 
 // The stream is shared with other processes, so it stays one that waits. What is writable takes
 // this much without waiting.
-constexpr std::size_t kPiece = 512;
+constexpr std::size_t kOutputPiece = 512;
 
 }  // namespace
 
@@ -26,7 +26,7 @@ void PatientOutput::write_some() {
     pollfd waiting{descriptor_, POLLOUT, 0};
     if (poll(&waiting, 1, 0) <= 0) break;
     const auto count =
-        write(descriptor_, left_.data() + written, std::min(kPiece, left_.size() - written));
+        write(descriptor_, left_.data() + written, std::min(kOutputPiece, left_.size() - written));
     if (count < 0 && (errno == EINTR || errno == EAGAIN)) break;
     // The stream is gone, and with it whoever wanted the text.
     written = count > 0 ? written + static_cast<std::size_t>(count) : left_.size();
