@@ -9,7 +9,10 @@
 #include "host/home_screen/safe_mode_notice.h"
 #include "host/home_screen/supervised_processes.h"
 #include "host/process/device_images.h"
+#include "host/runtime/hang_watch.h"
 #include "host/runtime/heap.h"
+#include "host/runtime/log.h"
+#include "host/runtime/patience.h"
 #include "host/social/delivery/configuration.h"
 #include "host/springboard/common/configuration.h"
 #include "host/uikit/application/application.h"
@@ -18,6 +21,8 @@ namespace host::launcher {
 namespace {
 
 constexpr const char* kBundleIdentifier = "com.apple.springboard";
+// In seconds.
+constexpr double kLongestLaunch = 10;
 
 /// Pictures of a phone with a stepped clock must not depend on the time of day.
 const springboard::WallClock& wall_clock(bool stepped) {
@@ -41,6 +46,15 @@ void start_gesture_service() {
   activator::Service::restart(activator::Service::Role::HomeScreen, &mode);
 }
 
+/// The loop does not turn yet, so the supervisor cannot notice an extension that hangs here.
+void launch_application_watched() {
+  HangWatch watch(patience_of(kLongestLaunch), [](const std::string& name) {
+    spdlog::warn("{} is still starting after {} seconds: an extension may keep it from that", name,
+                 kLongestLaunch * patience_scale());
+  });
+  watch.during(kHomeScreen, [] { uikit::launch_application(kHomeScreen); });
+}
+
 }  // namespace
 
 void launch_home_screen(const ProcessOptions& options) {
@@ -58,7 +72,7 @@ void launch_home_screen(const ProcessOptions& options) {
   start_gesture_service();
   start_music(options);
   if (!options.safe_mode) foundation::load_libraries(kBundleIdentifier, kHomeScreen);
-  uikit::launch_application(kHomeScreen);
+  launch_application_watched();
   if (options.safe_mode) show_safe_mode_notice();
 }
 

@@ -7,7 +7,11 @@
 #include <string_view>
 #include <thread>
 
+#include "objc/send.h"
 #include "platform/Dispatch/dispatch_queue.h"
+
+extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
+                                objc::Imp* original);
 
 namespace {
 
@@ -40,6 +44,16 @@ void wait_for_pipe() {
   if (end >= 0) close(end);
 }
 
+void wait_instead(objc::Id, objc::Sel, objc::Id) {
+  wait_for_pipe();
+}
+
+void hang_in_the_launch() {
+  objc::Imp before = nullptr;
+  MSHookMessageEx(objc_getClass("SpringBoard"), "applicationDidFinishLaunching:"_sel,
+                  reinterpret_cast<objc::Imp>(&wait_instead), &before);
+}
+
 [[gnu::constructor]] void load() {
   const char* text = std::getenv("MISFIT");
   const std::string_view way = text ? text : "";
@@ -47,6 +61,7 @@ void wait_for_pipe() {
   if (way == "hang") never_return();
   if (way == "hang in the loop")
     dispatch_async(dispatch_get_main_queue(), objc::block([] { turn_for_ever(); }));
+  if (way == "hang in the launch") hang_in_the_launch();
   if (way == "wait") wait_for_pipe();
   if (way == "abort later") std::thread(&abort_soon).detach();
   if (way == "fault later") std::thread(&fault_soon).detach();

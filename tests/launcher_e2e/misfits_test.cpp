@@ -17,6 +17,14 @@ class Misfits : public PhoneTest {
       unsetenv(name);
   }
 
+  /// The pipe that makes an extension wait until its other end is opened.
+  void make_pipe() const {
+    ASSERT_EQ(mkfifo(pipe().c_str(), 0600), 0);
+    setenv("MISFIT_PIPE", pipe().c_str(), 1);
+  }
+  void open_other_end() const { close(open(pipe().c_str(), O_WRONLY | O_CLOEXEC)); }
+  fs::path pipe() const { return folder() / "pipe"; }
+
   Arguments with_console() const {
     return headless({"--console", "--screenshots", folder() / "screenshots"});
   }
@@ -88,16 +96,24 @@ TEST_F(Misfits, ALoadThatDoesNotEndIsNamedAndLeftOutOfTheNextStart) {
 }
 
 TEST_F(Misfits, ASlowLoadIsNamedWhileItLasts) {
-  const fs::path pipe = folder() / "pipe";
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  make_pipe();
   setenv("MISFIT", "wait", 1);
-  setenv("MISFIT_PIPE", pipe.c_str(), 1);
   RunningPhone phone(with_console());
   ASSERT_TRUE(phone.waits_for_error("Misfit is still being loaded after 2 seconds"));
   EXPECT_EQ(phone.count_of_errors_with("loaded Misfit"), 0);
-  close(open(pipe.c_str(), O_WRONLY | O_CLOEXEC));
+  open_other_end();
   ASSERT_TRUE(phone.waits_for_error("loaded Misfit"));
   EXPECT_EQ(phone.ask("print isShow"), "NO");
+}
+
+TEST_F(Misfits, ALaunchThatHangsIsReportedWhileItLasts) {
+  make_pipe();
+  setenv("MISFIT", "hang in the launch", 1);
+  setenv("SONAVUE_PATIENCE", "0.05", 1);
+  RunningPhone phone(with_console());
+  ASSERT_TRUE(phone.waits_for_error("SpringBoard is still starting after 0.5 seconds"));
+  open_other_end();
+  EXPECT_EQ(phone.ask("print 1"), "1");
 }
 
 }  // namespace
