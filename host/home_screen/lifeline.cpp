@@ -15,7 +15,11 @@ Lifeline::~Lifeline() {
   if (watch_) loop_.unwatch(*watch_);
 }
 
-void Lifeline::begin(std::function<void()> show_window) {
+void Lifeline::begin() const {
+  say(LifeSign::Started);
+}
+
+void Lifeline::answer_questions(std::function<void()> show_window) {
   if (!descriptor_) return;
   show_window_ = std::move(show_window);
   say(LifeSign::Alive);

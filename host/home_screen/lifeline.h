@@ -18,9 +18,10 @@ class Lifeline {
   Lifeline(const Lifeline&) = delete;
   Lifeline& operator=(const Lifeline&) = delete;
 
-  /// From the loop's first turn, which must come next, the supervisor's questions are answered: a
-  /// loop that stops turning is noticed.
-  void begin(std::function<void()> show_window);
+  /// Call these when the loop's first turn comes next. A loop that has begun to answer questions is
+  /// noticed when it stops turning.
+  void begin() const;
+  void answer_questions(std::function<void()> show_window);
   void say(LifeSign sign) const;
 
  private:

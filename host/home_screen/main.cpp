@@ -105,7 +105,8 @@ int run(const ProcessOptions& options) {
   if (options.console_descriptor >= 0)
     service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
   // Stepped time passes only between two questions, so it says nothing about the loop.
-  if (!options.stepped) lifeline.begin([&display] { display->raise(); });
+  if (!options.stepped) lifeline.answer_questions([&display] { display->raise(); });
+  lifeline.begin();
   loop.run();
   lifeline.say(launcher::LifeSign::SwitchedOff);
   launcher::stop_music();

@@ -9,7 +9,8 @@ inline constexpr const char* kLifelineArgument = "--lifeline-descriptor";
 /// What the home screen says. An end of the process that it has not announced is a crash, whatever
 /// its exit status: anything in the process can call `exit`.
 enum class LifeSign : char {
-  Alive = 'a',        // the run loop turns: said when it begins to, and to each question
+  Started = 's',      // the run loop begins to turn
+  Alive = 'a',        // the answer to a question; the first one asks for questions
   SwitchedOff = 'o',  // the phone ends because its user wants it to
   CannotStart = 'c',  // the phone ends because no home screen could start; the log says why
 };

@@ -148,7 +148,9 @@ void Supervisor::read_life_signs() {
     const auto count = recv(lifeline_.get(), &sign, 1, MSG_DONTWAIT);
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
     if (count <= 0) return lifeline_.reset();
-    if (sign == static_cast<char>(LifeSign::Alive)) {
+    if (sign == static_cast<char>(LifeSign::Started)) {
+      started_ = clock_.now();
+    } else if (sign == static_cast<char>(LifeSign::Alive)) {
       heartbeat_.answered(clock_.now());
     } else {
       farewell_ = static_cast<LifeSign>(sign);
@@ -236,6 +238,8 @@ void Supervisor::reap() {
 }
 
 void Supervisor::child_ended(int status) {
+  if (started_) lived_ += clock_.now() - *started_;
+  started_.reset();
   if (ending_signal_) {
     status_ = 128 + ending_signal_;
   } else if (front_ && front_->verdict()) {
@@ -254,7 +258,7 @@ void Supervisor::child_ended(int status) {
 }
 
 void Supervisor::start_again() {
-  if (limit_.allow(clock_.now())) {
+  if (limit_.allow(lived_)) {
     start();
   } else if (!is_safe_) {
     spdlog::error("{} ended more than {} times within a minute: it is started without extensions",

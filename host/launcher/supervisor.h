@@ -80,6 +80,8 @@ class Supervisor {
   Descriptor lifeline_;
   Heartbeat heartbeat_{patience_scale()};
   std::optional<LifeSign> farewell_;
+  std::optional<double> started_;  // when the loop began to turn
+  double lived_ = 0;               // how long the loops of all home screens have turned
   bool is_safe_ = false;
   pid_t child_ = 0;
   bool restart_asked_ = false;

@@ -96,6 +96,10 @@ int main(int argument_count, char** argument_values) {
   record(std::string(arguments[0]) + " " + std::to_string(getpid()) + (is_safe ? " safe" : ""));
   if (behaviour == "crash") abort();
   if (behaviour == "fail") return 7;
+  if (behaviour == "crash-in-later-life") {
+    say('s');
+    if (starts() <= 10) abort();
+  }
   if (behaviour == "exit" && !is_safe) return 0;
   if (behaviour == "fail-as-if-unable" && !is_safe) return 2;
   if (behaviour == "crash-unless-safe" && !is_safe) abort();

@@ -83,6 +83,25 @@ TEST_F(Supervisors, GiveUpAfterFiveRestartsWithinAMinuteAndFiveMoreInSafeMode) {
   EXPECT_THAT(log.text(), HasSubstr("the phone stays off"));
 }
 
+/// A clock by which a long time passes between any two events.
+class LeapingClock final : public host::Clock {
+ public:
+  double now() const override { return time_ += 100; }
+
+ private:
+  mutable double time_ = 0;
+};
+
+TEST_F(Supervisors, CountOnlyTheTimeInWhichTheLoopTurned) {
+  const LeapingClock clock;
+  EXPECT_EQ(Supervisor({command("crash"), {}}, clock, nullptr).run(), kGaveUp);
+  EXPECT_EQ(recorded().size(), 12u);
+  std::filesystem::remove(record());
+  EXPECT_EQ(Supervisor({command("crash-in-later-life"), {}}, clock, nullptr).run(), 0);
+  EXPECT_EQ(recorded().size(), 11u);
+  EXPECT_EQ(safe_starts(), 0u);
+}
+
 TEST_F(Supervisors, StayInSafeModeWhenThatHelps) {
   EXPECT_EQ(run("crash-unless-safe"), 0);
   EXPECT_EQ(recorded().size(), 7u);
