@@ -112,7 +112,7 @@ int main() {
   large.remember = [remember = large.remember](const std::filesystem::path& index) {
     in_a_process([&] { remember(index); });
   };
-  const host::launcher::ThrowawayFolder nothing{host::launcher::temporary_folders()};
+  const host::launcher::ThrowawayFolder nothing;
   const double without = megabytes_in_a_process({{nothing.path()}, {}}, 0);
   const double more = megabytes_in_a_process(large, LargeLibrary::kSongs) - without;
   std::printf(

@@ -37,6 +37,8 @@ FolderLock::Outcome FolderLock::open_and_lock(const fs::path& file, int flags) {
     struct stat status {};
     if (fstat(opened.get(), &status) != 0) return Outcome::Failed;
     if (status.st_nlink == 0) continue;
+    // The owner before may not have had the time to leave.
+    static_cast<void>(!ftruncate(opened.get(), 0));
     file_ = std::move(opened);
     return Outcome::Taken;
   }

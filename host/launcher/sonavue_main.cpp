@@ -34,15 +34,16 @@ bool has_display() {
   return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("SDL_VIDEODRIVER");
 }
 
+bool has_console(const Options& options) {
+  return options.console || !options.script.empty();
+}
+
 /// Empty, with the reason in `problem`, when the options name a script that cannot be read.
 std::optional<ConsoleFront> console_for(const Options& options, std::string& problem) {
-  Script script;
-  if (!options.script.empty()) {
-    auto read = read_script(options.script, Pipes::Allowed, problem);
-    if (!read) return std::nullopt;
-    script = std::move(*read);
-  }
-  return ConsoleFront(script, options.console ? STDIN_FILENO : -1, stdout, stderr);
+  std::optional<Script> script = Script{};
+  if (!options.script.empty()) script = read_script(options.script, Pipes::Allowed, problem);
+  if (!script) return std::nullopt;
+  return ConsoleFront(*script, options.console ? STDIN_FILENO : -1, stdout, stderr);
 }
 
 /// Returns the reason when the device cannot be started.
@@ -67,26 +68,17 @@ FolderOwner wait_for_owner(const std::filesystem::path& root) {
 /// Shows the window of the phone that already has this root, or says who has it.
 int meet_running_phone(const Options& options) {
   const FolderOwner owner = wait_for_owner(options.root);
-  const bool wants_window = !options.headless && !options.console && options.script.empty();
-  const bool is_shown = wants_window && !owner.control_socket.empty() &&
+  const bool is_shown = !options.headless && !has_console(options) &&
+                        !owner.control_socket.empty() &&
                         ask_supervisor(owner.control_socket, {ControlRequest::Kind::Show, {}, {}});
-  std::fprintf(stderr, "sonavue: %s is already in use by process %d%s\n", options.root.c_str(),
-               owner.process, is_shown ? ", whose window is in front now" : "");
+  const std::string name = owner.process ? std::to_string(owner.process) : "that is starting";
+  std::fprintf(stderr, "sonavue: %s is already in use by process %s%s\n", options.root.c_str(),
+               name.c_str(), is_shown ? ", whose window is in front now" : "");
   return is_shown ? 0 : kInUse;
 }
 
-int run_phone(Options options) {
-  remove_abandoned_folders();
-  std::optional<ThrowawayFolder> device;
-  if (options.root.empty()) options.root = device.emplace(temporary_folders()).path();
-  if (options.root.empty()) return complain("no temporary folder can be made for a new device");
-  FolderLock lock;
-  bool has_owner = false;
-  if (!device) {
-    if (const auto reason = take_device_root(options.root, lock, has_owner))
-      return complain(*reason);
-    if (has_owner) return meet_running_phone(options);
-  }
+/// `lock` is nullptr for a root that no one else can know.
+int supervise(const Options& options, const FolderLock* lock) {
   std::string problem;
   auto front = console_for(options, problem);
   if (!front) return complain(problem);
@@ -96,12 +88,28 @@ int run_phone(Options options) {
   Supervisor supervisor({{installation.home_screen, home_screen_arguments(options), {path}},
                          {{}, application_arguments(options), {path}},
                          !options.headless},
-                        clock, options.console || !options.script.empty() ? &*front : nullptr);
-  if (!device) lock.introduce(supervisor.control_socket());
+                        clock, has_console(options) ? &*front : nullptr);
+  if (lock) lock->introduce(supervisor.control_socket());
   const auto durability =
-      device ? host::files::Durability::kUnflushed : host::files::Durability::kFlushed;
+      lock ? host::files::Durability::kFlushed : host::files::Durability::kUnflushed;
   if (const auto reason = prepare(options, installation, durability)) return complain(*reason);
   return supervisor.run();
+}
+
+int run_on_new_device(Options options) {
+  const ThrowawayFolder device;
+  if (device.path().empty()) return complain("no temporary folder can be made for a new device");
+  options.root = device.path();
+  return supervise(options, nullptr);
+}
+
+int run_phone(const Options& options) {
+  remove_abandoned_folders();
+  if (options.root.empty()) return run_on_new_device(options);
+  FolderLock lock;
+  bool has_owner = false;
+  if (const auto reason = take_device_root(options.root, lock, has_owner)) return complain(*reason);
+  return has_owner ? meet_running_phone(options) : supervise(options, &lock);
 }
 
 }  // namespace

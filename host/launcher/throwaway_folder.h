@@ -19,6 +19,7 @@ class ThrowawayFolder {
  public:
   using Fits = std::function<bool(const std::filesystem::path& folder)>;
 
+  ThrowawayFolder() : ThrowawayFolder(temporary_folders()) {}
   /// Makes the folder in the first of these where it can be made and fits.
   explicit ThrowawayFolder(
       const std::vector<std::filesystem::path>& parents,

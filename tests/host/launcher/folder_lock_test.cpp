@@ -50,6 +50,7 @@ TEST_F(FolderLocks, EndWithTheirProcess) {
   EXPECT_TRUE(owner_of(folder()));
   FolderLock lock;
   EXPECT_EQ(lock.take(folder()), Outcome::Taken);
+  EXPECT_FALSE(owner_of(folder())) << "the one before is no longer named";
 }
 
 TEST_F(FolderLocks, NameTheirOwner) {
