@@ -64,7 +64,7 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
   if (!window) {
-    spdlog::error("cannot open a window: {}", problem);
+    spdlog::error("no window can be opened: {}; --headless --console needs none", problem);
     return std::nullopt;
   }
   auto service = std::make_unique<launcher::WindowService>(loop, *window);

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <string_view>
 
 #include "host/screen/event_descriptor.h"
 #include "host/screen/phone_body_drawing.h"
@@ -22,6 +23,14 @@ CGSize first_size(CGSize phone) {
   if (SDL_GetDisplayUsableBounds(0, &desktop) != 0 || desktop.h <= 0) return phone;
   const double shrink = std::min(1.0, desktop.h * kLargestPart / phone.height);
   return {std::round(phone.width * shrink), std::round(phone.height * shrink)};
+}
+
+/// SDL falls back to a driver without a display when it cannot reach one.
+bool is_unseen() {
+  const std::string_view driver = SDL_GetCurrentVideoDriver();
+  const char* const wanted = SDL_getenv("SDL_VIDEODRIVER");
+  const bool is_wanted = wanted && std::string_view(wanted).find(driver) != driver.npos;
+  return (driver == "offscreen" || driver == "dummy") && !is_wanted;
 }
 
 SDL_FRect to_sdl(CGRect rect) {
@@ -65,6 +74,10 @@ std::unique_ptr<Window> Window::open(CGSize screen, double pixels_per_point, Inp
   std::unique_ptr<Window> made;
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
     made.reset(new Window(screen, input));
+    if (is_unseen()) {
+      problem = "the display cannot be reached";
+      return nullptr;
+    }
     if (made->create(pixels_per_point)) return made;
   }
   problem = SDL_GetError();
