@@ -26,7 +26,7 @@ inline Letter decoded(std::string_view text, std::size_t bytes, char32_t first_b
   return code < smallest || code > 0x10ffff || is_surrogate ? Letter{} : Letter{code, bytes};
 }
 
-// The first letter of a text that is not empty. A zero byte is none.
+/// Returns the first letter of a text that is not empty. A zero byte is not one.
 inline Letter first_letter(std::string_view text) {
   const auto first = static_cast<unsigned char>(text.front());
   if (first < 0x80) return {first, first != 0 ? std::size_t{1} : 0};
@@ -34,6 +34,15 @@ inline Letter first_letter(std::string_view text) {
   if ((first & 0xf0) == 0xe0) return decoded(text, 3, first & 0x0f, 0x800);
   if ((first & 0xf8) == 0xf0) return decoded(text, 4, first & 0x07, 0x10000);
   return {};
+}
+
+inline bool is_valid(std::string_view text) {
+  while (!text.empty()) {
+    const std::size_t bytes = first_letter(text).bytes;
+    if (bytes == 0) return false;
+    text.remove_prefix(bytes);
+  }
+  return true;
 }
 
 }  // namespace host::utf8

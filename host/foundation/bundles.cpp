@@ -49,7 +49,8 @@ void replace_path() {
 // The device's bundles are flat.
 NSString resource_path(NSBundle self) {
   const NSString path = path_of<"resourcePath">(self);
-  const bool is_there = std::filesystem::exists(path_on_this_machine(path.UTF8String()));
+  std::error_code ignored;
+  const bool is_there = std::filesystem::exists(path_on_this_machine(path.UTF8String()), ignored);
   return is_there ? path : self.bundlePath();
 }
 

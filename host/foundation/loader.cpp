@@ -4,10 +4,10 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <functional>
 
+#include "host/files/folder.h"
 #include "host/foundation/crash_report.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/load_filter.h"
@@ -29,13 +29,15 @@ constexpr std::string_view kMarks = "/var/mobile/Library/Caches/loader";
 std::vector<LoadedLibrary> loaded;
 
 std::vector<std::filesystem::path> library_files() {
-  std::vector<std::filesystem::path> files;
+  std::vector<std::filesystem::path> libraries;
+  const std::filesystem::path folder = libraries_folder();
   std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(libraries_folder(), error)) {
-    if (entry.path().extension() == ".so") files.push_back(entry.path());
+  for (const std::filesystem::path& path : files::paths_in(folder, error)) {
+    if (path.extension() == ".so") libraries.push_back(path);
   }
-  std::sort(files.begin(), files.end());
-  return files;
+  if (error && error != std::errc::no_such_file_or_directory)
+    spdlog::error("extensions are left out: {}: {}", folder.string(), error.message());
+  return libraries;
 }
 
 bool is_wanted(const std::string& name, std::string_view bundle, std::string_view executable) {

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <filesystem>
 
 #include "host/files/aside.h"
@@ -21,7 +22,10 @@ constexpr std::int64_t kNanoseconds = 1'000'000'000;
 
 std::optional<FileStamp> PropertyListFile::stamp() const {
   struct stat found {};
-  if (::stat(path_on_this_machine(path_).c_str(), &found) != 0) return std::nullopt;
+  if (::stat(path_on_this_machine(path_).c_str(), &found) != 0) {
+    const bool is_missing = errno == ENOENT || errno == ENOTDIR;
+    return is_missing ? std::nullopt : std::optional(FileStamp());
+  }
   return FileStamp{found.st_ino, found.st_mtim.tv_sec * kNanoseconds + found.st_mtim.tv_nsec,
                    static_cast<std::uint64_t>(found.st_size)};
 }

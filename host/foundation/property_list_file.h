@@ -26,7 +26,7 @@ class PropertyListFile {
   explicit PropertyListFile(std::string path) : path_(std::move(path)) {}
 
   const std::string& path() const { return path_; }
-  /// Empty when the file does not exist.
+  /// Empty when the file does not exist; of an unknown version when it cannot be looked at.
   std::optional<FileStamp> stamp() const;
   /// Nil when the file is missing, damaged or unreadable. Whatever is no such list is set aside.
   NSDictionary read();

@@ -3,7 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
-#include "host/basics/ascii.h"
+#include "host/basics/utf8.h"
+#include "host/launcher/path_argument.h"
 #include "host/runtime/device_model.h"
 
 namespace host::launcher {
@@ -78,7 +79,8 @@ std::string check_script(const std::string& file) {
 
 fs::path made_absolute(const fs::path& path) {
   std::error_code error;
-  const auto made = fs::weakly_canonical(fs::absolute(path), error);
+  const fs::path absolute = fs::absolute(path, error);
+  const auto made = error ? path : fs::weakly_canonical(absolute, error);
   return error ? path : made;
 }
 
@@ -135,6 +137,11 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   options.is_set_up = options.root.empty() && options.script.empty() && !new_phone;
   if (options.is_set_up) options.root = default_device_root();
   make_absolute(options);
+  // Foundation looks every file of the device up by a name in UTF-8.
+  if (!utf8::is_valid(options.root.native())) {
+    return Ending{kBadUsage, "sonavue: the device's folder " + path_argument(options.root) +
+                                 " is not valid UTF-8; --root names another\n"};
+  }
   return options;
 }
 
@@ -146,11 +153,12 @@ fs::path default_device_root() {
 }
 
 std::vector<std::string> home_screen_arguments(const Options& options) {
-  std::vector<std::string> made = {"--device",   options.device,  "--root",
-                                   options.root, "--screenshots", options.screenshots};
+  std::vector<std::string> made = {"--device",      options.device,
+                                   "--root",        options.root,
+                                   "--screenshots", path_argument(options.screenshots)};
   for (const fs::path& folder : options.music) {
     made.push_back("--music");
-    made.push_back(ascii_of(folder.native()));
+    made.push_back(path_argument(folder));
   }
   if (options.headless) made.push_back("--headless");
   if (options.headless && options.blind) made.push_back("--blind");

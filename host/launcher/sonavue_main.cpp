@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <exception>
 
+#include "host/launcher/environment.h"
 #include "host/launcher/installation.h"
 #include "host/launcher/log_file.h"
 #include "host/launcher/options.h"
@@ -117,6 +118,7 @@ int run_phone(const Options& options) {
 int main(int count, char** arguments) try {
   open_standard_streams();
   host::start_log("sonavue");
+  if (const auto reason = remove_unreadable_variables()) return complain(*reason);
   const auto read = read_options(count, arguments);
   if (const auto* ending = std::get_if<Ending>(&read)) {
     std::fputs(ending->text.c_str(), ending->status == 0 ? stdout : stderr);
