@@ -1,35 +1,12 @@
-#include <gmock/gmock.h>
-#include <unistd.h>
-
 #include "tests/launcher_e2e/phone_test.h"
+#include "tests/support/variable.h"
 
 namespace {
 
 using namespace launcher_e2e;
+using host::test::Variable;
 using testing::HasSubstr;
 using testing::SizeIs;
-
-/// A variable of the environment for one test.
-class Variable {
- public:
-  Variable(const char* name, const std::string& value) : name_(name) {
-    if (const char* before = getenv(name)) before_ = before;
-    setenv(name, value.c_str(), 1);
-  }
-  ~Variable() {
-    if (before_) {
-      setenv(name_, before_->c_str(), 1);
-    } else {
-      unsetenv(name_);
-    }
-  }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-
- private:
-  const char* name_;
-  std::optional<std::string> before_;
-};
 
 class StartUp : public PhoneTest {
  protected:

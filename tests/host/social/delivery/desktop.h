@@ -7,35 +7,13 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <string>
 
 #include "host/runtime/run_loop.h"
 #include "tests/support/media_fixtures.h"
+#include "tests/support/variable.h"
 
 namespace host::test {
-
-/// Sets an environment variable and restores it afterwards.
-class Variable {
- public:
-  Variable(const char* name, const std::string& value) : name_(name) {
-    if (const char* before = std::getenv(name)) before_ = before;
-    setenv(name, value.c_str(), 1);
-  }
-  ~Variable() {
-    if (before_) {
-      setenv(name_, before_->c_str(), 1);
-    } else {
-      unsetenv(name_);
-    }
-  }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-
- private:
-  const char* name_;
-  std::optional<std::string> before_;
-};
 
 /// A desktop whose opener reports its arguments through a pipe and ends with a chosen status.
 class FakeDesktop {
