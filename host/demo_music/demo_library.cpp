@@ -18,6 +18,7 @@
 #include "host/demo_music/albums.h"
 #include "host/demo_music/audio_file.h"
 #include "host/demo_music/piece.h"
+#include "host/files/folder.h"
 #include "host/media/log.h"
 #include "host/media/picture.h"
 #include "host/media/tag_writer.h"
@@ -193,7 +194,7 @@ std::optional<std::string> make_demo_library(const std::string& folder, const st
   const std::vector<DemoSong> songs = songs_below(staging);
   const bool is_whole =
       make_folders(staging, pictures) && Studio{songs, pictures}.run(report, stop);
-  if (is_whole) fs::rename(staging, target, error);
+  if (is_whole) error = files::move_folder(staging, target);
   if (is_whole && !error) return std::nullopt;
   std::error_code ignored;
   fs::remove_all(staging, ignored);

@@ -12,7 +12,7 @@
 namespace host::files {
 namespace {
 
-constexpr mode_t kPermissions = 0777;
+constexpr mode_t kCopiedPermissions = 0777;
 
 bool has_same_time(const timespec& one, const timespec& other) {
   return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
@@ -36,7 +36,7 @@ std::error_code fill(const NewFile& file, int from, const struct stat& status) {
     if (count > 0) left -= count;
   }
   const std::array<timespec, 2> times{timespec{0, UTIME_OMIT}, status.st_mtim};
-  const bool is_done = fchmod(file.descriptor(), status.st_mode & kPermissions) == 0 &&
+  const bool is_done = fchmod(file.descriptor(), status.st_mode & kCopiedPermissions) == 0 &&
                        futimens(file.descriptor(), times.data()) == 0;
   return is_done ? std::error_code() : last_error();
 }
@@ -49,7 +49,7 @@ std::error_code copy_file(const std::string& from, int folder, const std::string
   struct stat status {};
   if (!source || fstat(source.get(), &status) != 0) return last_error();
   if (has_to_stay(status, folder, name, keep)) return {};
-  NewFile copy(folder, status.st_mode & kPermissions, durability);
+  NewFile copy(folder, status.st_mode & kCopiedPermissions, durability);
   if (const auto error = fill(copy, source.get(), status)) return error;
   if (keep == Keep::kSameVersion) return copy.replace(name);
   const auto error = copy.take_free_name(name);

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace host::files {
 
@@ -24,6 +25,17 @@ Descriptor open_folder(const std::string& path, std::error_code& error) {
 
 void flush_folder(int folder) {
   fsync(folder);
+}
+
+std::error_code move_folder(const std::string& from, const std::string& to) {
+  std::error_code error;
+  const Descriptor folder = open_folder(from, error);
+  if (error) return error;
+  // One flush of the whole file system costs less than one of each file.
+  if (syncfs(folder.get()) != 0) return last_error();
+  if (rename(from.c_str(), to.c_str()) != 0) return last_error();
+  if (const Descriptor parent = open_folder(folder_of(to), error)) flush_folder(parent.get());
+  return {};
 }
 
 std::vector<std::filesystem::path> paths_in(const std::filesystem::path& folder,

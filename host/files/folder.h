@@ -27,6 +27,10 @@ Descriptor open_folder(const std::string& path, std::error_code& error);
 /// flushed, and there is nothing that a caller could do about it.
 void flush_folder(int folder);
 
+/// Gives a folder with many new files its name. They are on the disk before it has it, and it is
+/// when this returns. Fails when the name is taken by a folder that is not empty.
+std::error_code move_folder(const std::string& from, const std::string& to);
+
 /// The paths of everything in the folder, sorted. On an error, those read so far.
 std::vector<std::filesystem::path> paths_in(const std::filesystem::path& folder,
                                             std::error_code& error);

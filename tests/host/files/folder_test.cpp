@@ -31,6 +31,18 @@ TEST(Folders, AndNamesAreThePartsOfAPath) {
   EXPECT_EQ(name_of("a"), "a");
 }
 
+TEST(Folders, TakeAFreeName) {
+  const TemporaryFolder place;
+  write_file(place.path() / "making/song", "tone");
+  EXPECT_FALSE(move_folder(place.path() / "making", place.path() / "music"));
+  EXPECT_THAT(lines_of(place.path() / "music/song"), ElementsAre("tone"));
+  write_file(place.path() / "making/song", "another");
+  EXPECT_TRUE(move_folder(place.path() / "making", place.path() / "music"));
+  EXPECT_THAT(lines_of(place.path() / "music/song"), ElementsAre("tone"));
+  EXPECT_EQ(move_folder(place.path() / "none", place.path() / "new"),
+            std::errc::no_such_file_or_directory);
+}
+
 TEST(Links, AreFollowedToTheirEnd) {
   const TemporaryFolder place;
   const fs::path& folder = place.path();
