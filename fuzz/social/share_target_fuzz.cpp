@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cstdlib>
+#include <string>
 
 #include "fuzz/support/input_file.h"
 #include "host/runtime/log.h"

@@ -29,7 +29,7 @@ std::string text_in(NSDictionary list, const char* key) {
 
 /// Returns the icon's path, in the entry's bundle or beside the list.
 std::string icon_file(NSDictionary entry) {
-  const std::string name = text_in(entry, "icon");
+  std::string name = text_in(entry, "icon");
   if (name.empty() || name.starts_with('/')) return name;
   const std::string in_bundle =
       std::string(kBundleFolder) + "/" + text_in(entry, "bundle") + ".bundle/" + name;
