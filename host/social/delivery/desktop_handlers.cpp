@@ -39,10 +39,12 @@ class Answer {
     ends_[1] = -1;
   }
   /// Returns whether anything but blanks arrives before the end of the stream or the time-out.
+  /// Blanks without an end are no answer.
   bool says_something() const {
+    constexpr int kMostReads = 16;
     std::array<char, 256> bytes{};
     pollfd waiting{ends_[0], POLLIN, 0};
-    while (poll(&waiting, 1, kPatience) > 0) {
+    for (int reads = 0; reads < kMostReads && poll(&waiting, 1, kPatience) > 0; ++reads) {
       const ssize_t count = read(ends_[0], bytes.data(), bytes.size());
       if (count <= 0) return false;
       for (ssize_t index = 0; index < count; ++index)

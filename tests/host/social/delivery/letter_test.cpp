@@ -23,17 +23,21 @@ class FakeRegistry {
  public:
   explicit FakeRegistry(const std::string& known)
       : path_("PATH", folder_.path() + ":" + std::getenv("PATH")) {
-    const std::string script = folder_ / "xdg-mime";
-    std::ofstream(script) << "#!/bin/sh\n[ \"$*\" = 'query default " << known
-                          << "' ] && echo some.desktop\nexit 0\n";
-    chmod(script.c_str(), 0700);
+    write_program("xdg-mime", "[ \"$*\" = 'query default " + known + "' ] && echo some.desktop");
     // An opener that accepts everything.
-    const std::string opener = folder_ / "xdg-open";
-    std::ofstream(opener) << "#!/bin/sh\nexit 0\n";
-    chmod(opener.c_str(), 0700);
+    write_program("xdg-open", "");
   }
 
+  /// Never comes to an end, and never names a program.
+  void ramble() const { write_program("xdg-mime", "exec yes ' '"); }
+
  private:
+  void write_program(const char* name, const std::string& line) const {
+    const std::string script = folder_ / name;
+    std::ofstream(script) << "#!/bin/sh\n" << line << "\nexit 0\n";
+    chmod(script.c_str(), 0700);
+  }
+
   TemporaryFolder folder_;
   Variable path_;
 };
@@ -95,6 +99,13 @@ TEST_F(Letters, TheDesktopIsAskedForTheHandlerOfAScheme) {
   EXPECT_FALSE(can_open_address("unknown://anything"));
   EXPECT_FALSE(open_address("unknown://anything"));
   EXPECT_TRUE(can_open_address("https://example.org/"));
+}
+
+TEST_F(Letters, ARegistryThatRamblesKnowsNothing) {
+  const FakeRegistry registry("x-scheme-handler/known");
+  registry.ramble();
+  configure_desktop(Desktop::Present);
+  EXPECT_FALSE(can_open_address("known://anything"));
 }
 
 TEST_F(Letters, TheDesktopIsNotAskedAboutInvalidAddresses) {
