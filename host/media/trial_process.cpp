@@ -19,6 +19,9 @@ void limit_this_process() {
   // A death here is an answer: nobody needs to hear of it.
   for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM, SIGXCPU})
     ::signal(signal, SIG_DFL);
+  sigset_t none_blocked;
+  ::sigemptyset(&none_blocked);
+  ::sigprocmask(SIG_SETMASK, &none_blocked, nullptr);
   constexpr rlimit none{0, 0};
   ::setrlimit(RLIMIT_CORE, &none);
   constexpr rlimit computing{most_computing_seconds, most_computing_seconds};

@@ -53,6 +53,8 @@ TEST_F(Console, InvalidLinesNameTheColumnAndChangeNothing) {
       {"print nobodyKnowsThis", 7},
       {"print [NoSuchClass new]", 8},
       {"print [UIView frobnicate]", 15},
+      {"print [NSString stringWithFormat:@\"%@ %s\"]", 17},
+      {"print [NSArray arrayWithObjects:musicIcon]", 16},
       {"expect isShow", 14},
       {"expect isShow <> NO", 16},
       {"screenshot", 11},
