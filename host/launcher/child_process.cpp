@@ -22,12 +22,13 @@ std::vector<std::string> merged_environment(const ChildCommand& command) {
     if (!replaced) made.emplace_back(text);
   }
   for (const auto& [name, value] : command.environment)
-    made.push_back(name + "=" + value);
+    made.emplace_back(name).append("=").append(value);
   return made;
 }
 
 std::vector<char*> pointers_to(std::vector<std::string>& texts) {
   std::vector<char*> made;
+  made.reserve(texts.size() + 1);
   for (std::string& text : texts)
     made.push_back(text.data());
   made.push_back(nullptr);

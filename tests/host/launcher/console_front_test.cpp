@@ -37,8 +37,8 @@ class Printed {
 
 class ConsoleFronts : public testing::Test {
  protected:
-  int run(Script script, int input = -1) {
-    ConsoleFront front(std::move(script), input, output_.file(), errors_.file());
+  int run(const Script& script, int input = -1) {
+    ConsoleFront front(script, input, output_.file(), errors_.file());
     return run_with(front, "echo");
   }
   int run_with(ConsoleFront& front, const std::string& behaviour) {
