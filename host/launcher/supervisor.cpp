@@ -28,9 +28,11 @@ class BlockedSignals {
  public:
   BlockedSignals() {
     sigemptyset(&signals_);
-    for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT})
-      sigaddset(&signals_, signal);
+    for (const int number : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+      sigaddset(&signals_, number);
     sigprocmask(SIG_BLOCK, &signals_, &before_);
+    // Whoever ignores it never learns of a child's end, and this is inherited from other programs.
+    signal(SIGCHLD, SIG_DFL);
   }
   ~BlockedSignals() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
   BlockedSignals(const BlockedSignals&) = delete;
@@ -94,7 +96,8 @@ void Supervisor::start() {
   if (is_safe_) command.arguments.emplace_back(application::kSafeModeArgument);
   const auto child = start_child(command, std::array{console.get(), lifeline.get()});
   if (!child) {
-    spdlog::error("{} cannot be started", name());
+    spdlog::error("{} cannot be started: {}", name(),
+                  std::error_code(errno, std::generic_category()).message());
     status_ = kGaveUp;
     return;
   }

@@ -118,6 +118,14 @@ TEST(Options, HelpSaysHowToGetAnUntouchedDevice) {
   EXPECT_THAT(std::get<Ending>(read).text, HasSubstr("--new-phone "));
 }
 
+TEST(Options, HelpSaysWhereMessagesGoAndWhatTheExitStatusMeans) {
+  const char* arguments[] = {"sonavue", "--help"};
+  const auto read = read_options(std::size(arguments), arguments);
+  const auto& help = std::get<Ending>(read).text;
+  for (const char* text : {"Exit status", "  4    another process", "SONAVUE_PATIENCE", ".log"})
+    EXPECT_THAT(help, HasSubstr(text)) << text;
+}
+
 TEST(Options, HelpListsTheKeysOfTheWindow) {
   const char* arguments[] = {"sonavue", "--help"};
   const auto read = read_options(std::size(arguments), arguments);

@@ -172,6 +172,13 @@ TEST_F(Supervisors, LeaveNoZombieBehind) {
   EXPECT_EQ(errno, ECHILD);
 }
 
+TEST_F(Supervisors, NoticeTheEndOfTheirProcessInAnEnvironmentThatIgnoresIt) {
+  signal(SIGCHLD, SIG_IGN);
+  EXPECT_EQ(run("crash-once"), 0);
+  signal(SIGCHLD, SIG_DFL);
+  EXPECT_EQ(recorded().size(), 2u);
+}
+
 pid_t wait_for_recorded_process(const std::filesystem::path& record) {
   std::vector<std::string> lines;
   while (lines.empty()) {
