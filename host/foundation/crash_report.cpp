@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -89,7 +90,7 @@ const char* nearest_library(std::uintptr_t stack) {
   stack &= ~(sizeof(std::uintptr_t) - 1);
   for (std::size_t searched = 0; searched < kSearchedStack; searched += sizeof words) {
     const iovec here{words, sizeof words};
-    const iovec there{reinterpret_cast<void*>(stack + searched), sizeof words};
+    const iovec there{std::bit_cast<void*>(stack + searched), sizeof words};
     const auto copied = process_vm_readv(getpid(), &here, 1, &there, 1, 0);
     for (std::size_t i = 0; copied > 0 && i < static_cast<std::size_t>(copied) / sizeof *words;
          ++i) {

@@ -124,7 +124,7 @@ int main(int count, char** arguments) try {
     std::fputs(ending->text.c_str(), ending->status == 0 ? stdout : stderr);
     return ending->status;
   }
-  const auto& options = std::get<Options>(read);
+  const auto& options = *std::get_if<Options>(&read);
   if (!options.headless) log_to_file_unless_seen();
   if (!options.headless && !has_display()) {
     return complain(
