@@ -1,8 +1,10 @@
 #include "host/files/folder.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 
 namespace host::files {
@@ -25,6 +27,20 @@ Descriptor open_folder(const std::string& path, std::error_code& error) {
 
 void flush_folder(int folder) {
   fsync(folder);
+}
+
+std::error_code make_folders(const std::string& path) {
+  constexpr mode_t kMode = 0777;
+  if (mkdir(path.c_str(), kMode) != 0) {
+    if (errno == EEXIST) return {};
+    const std::string above = folder_of(path);
+    if (errno != ENOENT || above == path) return last_error();
+    if (const auto error = make_folders(above)) return error;
+    if (mkdir(path.c_str(), kMode) != 0) return errno == EEXIST ? std::error_code() : last_error();
+  }
+  std::error_code ignored;
+  if (const Descriptor above = open_folder(folder_of(path), ignored)) flush_folder(above.get());
+  return {};
 }
 
 std::error_code move_folder(const std::string& from, const std::string& to) {

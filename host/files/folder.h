@@ -27,6 +27,9 @@ Descriptor open_folder(const std::string& path, std::error_code& error);
 /// flushed, and there is nothing that a caller could do about it.
 void flush_folder(int folder);
 
+/// Makes the folder and those above it where they are missing; they are on the disk then.
+std::error_code make_folders(const std::string& path);
+
 /// Gives a folder with many new files its name. They are on the disk before it has it, and it is
 /// when this returns. Fails when the name is taken by a folder that is not empty.
 std::error_code move_folder(const std::string& from, const std::string& to);

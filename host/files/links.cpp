@@ -28,7 +28,7 @@ std::error_code follow_links(std::string& path) {
       path = std::move(reached);
       return {};
     }
-    reached = target.front() == '/' ? target : folder_of(reached) + "/" + target;
+    reached = target.front() == '/' ? target : folder_of(reached).append("/").append(target);
   }
   return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }

@@ -64,7 +64,8 @@ Replacement replace_file(const std::string& path, std::string_view bytes,
   const Descriptor folder = open_folder(folder_of(place), error);
   if (error) return {error, {}, {}};
   NewFile file(folder.get(), old.mode);
-  if ((error = fill(file, old, bytes))) return {error, {}, {}};
+  error = fill(file, old, bytes);
+  if (error) return {error, {}, {}};
   const Aside kept = old.unread ? keep_beside(place, "unreadable") : Aside();
   error = file.replace(name_of(place));
   if (error) put_back(kept, place);

@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <filesystem>
 
 #include "host/files/aside.h"
 #include "host/files/folder.h"
@@ -47,8 +46,8 @@ NSDictionary PropertyListFile::read() {
 
 bool PropertyListFile::write(NSDictionary list) const {
   if (is_unread()) return false;
-  std::error_code error;
-  std::filesystem::create_directories(files::folder_of(path_on_this_machine(path_)), error);
+  // If this fails, so does writing, which says why.
+  files::make_folders(files::folder_of(path_on_this_machine(path_)));
   return list.writeToFile(NSString::stringWithUTF8String(path_.c_str()), YES) != NO;
 }
 

@@ -41,13 +41,13 @@ Outbox::Result Outbox::put(std::string_view kind, std::string_view text) const {
     spdlog::error("a text could not be put into the outbox: {}", problem);
     return Result{{}, problem};
   };
-  std::error_code error;
-  std::filesystem::create_directories(folder_, error);
+  std::error_code error = files::make_folders(folder_);
   if (error) return failed(error.message());
   const Descriptor folder = files::open_folder(folder_, error);
   if (error) return failed(error.message());
   files::NewFile draft(folder.get(), kMode);
-  if ((error = draft.write(std::string(text) + "\n"))) return failed(error.message());
+  error = draft.write(std::string(text) + "\n");
+  if (error) return failed(error.message());
   for (unsigned number = next_number(kind);; ++number) {
     const std::string name =
         std::string(kind) + "-" + std::to_string(number) + std::string(kSuffix);

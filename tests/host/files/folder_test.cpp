@@ -31,6 +31,16 @@ TEST(Folders, AndNamesAreThePartsOfAPath) {
   EXPECT_EQ(name_of("a"), "a");
 }
 
+TEST(Folders, AreMadeWithThoseAboveThem) {
+  const TemporaryFolder place;
+  EXPECT_FALSE(make_folders(place.path() / "a/b/c"));
+  EXPECT_TRUE(fs::is_directory(place.path() / "a/b/c"));
+  EXPECT_FALSE(make_folders(place.path() / "a/b/c"));
+  write_file(place.path() / "file", "");
+  EXPECT_EQ(make_folders(place.path() / "file/below/it"), std::errc::not_a_directory);
+  EXPECT_TRUE(make_folders("/proc/none/at/all"));
+}
+
 TEST(Folders, TakeAFreeName) {
   const TemporaryFolder place;
   write_file(place.path() / "making/song", "tone");

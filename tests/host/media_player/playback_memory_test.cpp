@@ -94,6 +94,20 @@ TEST_F(PlaybackMemory, IsWrittenWhileTheProcessLives) {
   EXPECT_FALSE(read().queue);
 }
 
+TEST_F(PlaybackMemory, IsWrittenAFewTimesASecondWhileItChanges) {
+  start();
+  std::vector<std::optional<host::foundation::FileStamp>> versions;
+  for (int step = 1; step <= 100; ++step) {
+    media().setVolume(static_cast<float>(step) / 200);
+    advance(0.01);
+    if (const auto stamp = stored().stamp(); versions.empty() || stamp != versions.back())
+      versions.push_back(stamp);
+  }
+  EXPECT_THAT(versions, testing::SizeIs(testing::AllOf(testing::Ge(3u), testing::Le(6u))));
+  advance(1);
+  EXPECT_EQ(read().volume, 0.5);
+}
+
 TEST_F(PlaybackMemory, ACustomQueueIsKept) {
   start();
   const MPMediaQuery query = MPMediaQuery::alloc().init().autorelease();
