@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "host/application/wire/process_arguments.h"
-#include "host/launcher/path_argument.h"
+#include "host/basics/ascii.h"
 #include "host/launcher/supervisor.h"
 #include "host/runtime/device_model.h"
 
@@ -27,10 +27,10 @@ std::optional<ProcessOptions> read_process_options(int count, const char* const*
   } catch (const CLI::ParseError&) {
     return std::nullopt;
   }
-  if (!device_model(options.device)) return std::nullopt;
-  options.screenshots = path_from_argument(options.screenshots.native());
+  options.screenshots = bytes_of_ascii(options.screenshots.native());
   for (std::filesystem::path& folder : options.music)
-    folder = path_from_argument(folder.native());
+    folder = bytes_of_ascii(folder.native());
+  if (!device_model(options.device)) return std::nullopt;
   return options;
 }
 

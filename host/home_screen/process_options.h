@@ -21,7 +21,7 @@ struct ProcessOptions {
   int lifeline_descriptor = -1;
 };
 
-/// Folders come as ASCII (`host/launcher/path_argument.h`). Returns nothing when the arguments are
+/// Folders come as ASCII (`host/basics/ascii.h`). Returns nothing when the arguments are
 /// not the launcher's.
 std::optional<ProcessOptions> read_process_options(int count, const char* const* arguments);
 

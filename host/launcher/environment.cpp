@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "host/basics/ascii.h"
 #include "host/basics/utf8.h"
-#include "host/launcher/path_argument.h"
 #include "host/runtime/log.h"
 
 namespace host::launcher {
@@ -31,9 +31,9 @@ std::optional<std::string> remove_unreadable_variables() {
   for (const std::string& name : unreadable_variables()) {
     for (const std::string_view needed : kNeeded) {
       if (name == needed)
-        return name + " is not valid UTF-8: " + path_argument(std::getenv(name.c_str()));
+        return name + " is not valid UTF-8: " + ascii_of(std::getenv(name.c_str()));
     }
-    spdlog::warn("the variable {} is left out: it is not valid UTF-8", path_argument(name));
+    spdlog::warn("the variable {} is left out: it is not valid UTF-8", ascii_of(name));
     unsetenv(name.c_str());
   }
   return std::nullopt;

@@ -3,8 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
+#include "host/basics/ascii.h"
 #include "host/basics/utf8.h"
-#include "host/launcher/path_argument.h"
 #include "host/runtime/device_model.h"
 
 namespace host::launcher {
@@ -139,7 +139,7 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   make_absolute(options);
   // Foundation looks every file of the device up by a name in UTF-8.
   if (!utf8::is_valid(options.root.native())) {
-    return Ending{kBadUsage, "sonavue: the device's folder " + path_argument(options.root) +
+    return Ending{kBadUsage, "sonavue: the device's folder " + ascii_of(options.root.native()) +
                                  " is not valid UTF-8; --root names another\n"};
   }
   return options;
@@ -155,10 +155,10 @@ fs::path default_device_root() {
 std::vector<std::string> home_screen_arguments(const Options& options) {
   std::vector<std::string> made = {"--device",      options.device,
                                    "--root",        options.root,
-                                   "--screenshots", path_argument(options.screenshots)};
+                                   "--screenshots", ascii_of(options.screenshots.native())};
   for (const fs::path& folder : options.music) {
     made.push_back("--music");
-    made.push_back(path_argument(folder));
+    made.push_back(ascii_of(folder.native()));
   }
   if (options.headless) made.push_back("--headless");
   if (options.headless && options.blind) made.push_back("--blind");
