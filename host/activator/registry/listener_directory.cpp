@@ -5,9 +5,10 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <filesystem>
 
 #include "host/activator/event/strings.h"
+#include "host/files/folder.h"
+#include "host/files/replace_file.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/property_list_file.h"
 #include "host/quartzcore/drawing/image.h"
@@ -26,6 +27,17 @@ std::string file_name(std::string_view name) {
     made += plain ? std::string(1, byte) : fmt::format("%{:02X}", value);
   }
   return made;
+}
+
+cairo_status_t append(void* bytes, const unsigned char* more, unsigned count) {
+  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(more), count);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+std::string png_of(cairo_surface_t* surface) {
+  std::string bytes;
+  cairo_surface_write_to_png_stream(surface, &append, &bytes);
+  return bytes;
 }
 
 objc::Object written(const ListenerRecord& record) {
@@ -101,13 +113,11 @@ std::string ListenerDirectory::keep_icon(const std::string& listener, UIImage ic
   const std::string suffix = scale > 1 ? fmt::format("@{}x", scale) : "";
   const std::string path = fmt::format("{}/icons/{}{}.png", path_.substr(0, path_.rfind('/')),
                                        file_name(listener), suffix);
-  const std::filesystem::path place = foundation::path_on_this_machine(path);
-  std::error_code error;
-  std::filesystem::create_directories(place.parent_path(), error);
-  const cairo_status_t status = cairo_surface_write_to_png(image->surface().get(), place.c_str());
-  if (status == CAIRO_STATUS_SUCCESS) return path;
-  spdlog::warn("the icon of gesture listener {} could not be kept: {}", listener,
-               cairo_status_to_string(status));
+  const std::string place = foundation::path_on_this_machine(path);
+  files::make_folders(files::folder_of(place));
+  const auto error = files::replace_file(place, png_of(image->surface().get())).error;
+  if (!error) return path;
+  spdlog::warn("the icon of gesture listener {} could not be kept: {}", listener, error.message());
   return {};
 }
 

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "tests/host/activator/support/service_test.h"
 
 namespace host::test {
@@ -41,6 +43,17 @@ TEST_F(Directories, ShareListenersAnswersWithOtherProcesses) {
   EXPECT_FALSE(record.admits("springboard"));
   const UIImage icon = UIImage::imageWithContentsOfFile(to_ns(record.icon));
   EXPECT_EQ(icon.size(), (CGSize{10, 5}));
+}
+
+TEST_F(Directories, ReplaceAnIconAtOnce) {
+  const std::string path = ListenerDirectory().keep_icon("a", picture());
+  const std::string file = foundation::path_on_this_machine(path);
+  std::filesystem::create_hard_link(file, file + ".before");
+  std::filesystem::resize_file(file, 1);
+  EXPECT_EQ(ListenerDirectory().keep_icon("a", picture()), path);
+  // Whoever had opened the old file still reads the old file.
+  EXPECT_EQ(std::filesystem::file_size(file + ".before"), 1u);
+  EXPECT_EQ(UIImage::imageWithContentsOfFile(to_ns(path)).size(), (CGSize{10, 5}));
 }
 
 TEST_F(Directories, AListenerWithoutAnswersHasItsNameAndEveryMode) {
