@@ -31,7 +31,8 @@ std::optional<std::string> remove_unreadable_variables() {
   for (const std::string& name : unreadable_variables()) {
     for (const std::string_view needed : kNeeded) {
       if (name == needed)
-        return name + " is not valid UTF-8: " + ascii_of(std::getenv(name.c_str()));
+        return name + " is not valid UTF-8: " + ascii_of(std::getenv(name.c_str())) +
+               "; set it to a folder that is";
     }
     spdlog::warn("the variable {} is left out: it is not valid UTF-8", ascii_of(name));
     unsetenv(name.c_str());

@@ -33,6 +33,15 @@ bool is_unseen() {
   return (driver == "offscreen" || driver == "dummy") && !is_wanted;
 }
 
+/// Where the environment says that the displays are.
+std::string display_names() {
+  std::string names;
+  for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"}) {
+    if (const char* const name = SDL_getenv(variable)) names.append(" ").append(name);
+  }
+  return names;
+}
+
 SDL_FRect to_sdl(CGRect rect) {
   return {static_cast<float>(rect.min_x()), static_cast<float>(rect.min_y()),
           static_cast<float>(rect.size.width), static_cast<float>(rect.size.height)};
@@ -75,7 +84,7 @@ std::unique_ptr<Window> Window::open(CGSize screen, double pixels_per_point, Inp
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
     made.reset(new Window(screen, input));
     if (is_unseen()) {
-      problem = "the display cannot be reached";
+      problem = "the display" + display_names() + " cannot be reached";
       return nullptr;
     }
     if (made->create(pixels_per_point)) return made;
