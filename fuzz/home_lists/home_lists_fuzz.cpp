@@ -41,9 +41,11 @@ void remove_device() {
   fs::remove_all(foundation::device_root());
 }
 
-void arrange_icons(NSString path) {
+void arrange_icons(const char* path) {
   constexpr springboard::HomeLayout::Capacity kCapacity{4, 2, 9};
-  const auto layout = springboard::read_icon_state(path, kCapacity);
+  foundation::PropertyListFile file(path);
+  const auto layout = springboard::read_icon_state(file, kCapacity);
+  fs::remove(foundation::path_on_this_machine(path) + ".damaged");
   if (!layout) return;
   const auto fitted = springboard::fit_to_installed(*layout, {{"a", "A", {}}, {"b", "B", {}}});
   if (fitted.applications().size() != 2) std::abort();
@@ -79,7 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1);
   switch (data[0] % 5) {
     case 0:
-      arrange_icons(text(put("/Library/Input.plist", bytes)));
+      arrange_icons(put("/Library/Input.plist", bytes));
       break;
     case 1:
       keep_assignments(text(put("/Library/Input.plist", bytes)));

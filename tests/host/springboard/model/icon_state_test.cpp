@@ -109,7 +109,7 @@ TEST_F(IconStateTest, OnlySoManyIconsAreArranged) {
     entries += "{iconLists = ((a" + std::to_string(i) + "));}, b" + std::to_string(i) + ", ";
   write("IconState.plist", "{buttonBar = (dock); iconLists = ((" + entries + "));}");
   test::CaughtLog log;
-  const auto layout = read_icon_state(path("IconState.plist"), kCapacity);
+  const auto layout = read("IconState.plist");
   ASSERT_TRUE(layout);
   EXPECT_EQ(layout->applications().size(), 667u);
   EXPECT_THAT(log.take(), testing::HasSubstr("holds more than 1000 icons"));
