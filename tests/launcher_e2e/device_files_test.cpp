@@ -50,7 +50,7 @@ TEST_F(PreferencesFile, StaysIfItIsAFolderWithOneComplaintPerPlace) {
   expect_life(phone);
   EXPECT_EQ(phone.ask(kIsFile), "YES");
   EXPECT_TRUE(fs::is_directory(preferences()));
-  EXPECT_EQ(phone.count_of_errors_with("not a regular file"), 1);
+  EXPECT_EQ(phone.count_of_errors_with("is not read: it is a folder"), 1);
   EXPECT_EQ(phone.count_of_errors_with("Is a directory"), 1);
 }
 
