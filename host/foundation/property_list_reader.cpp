@@ -12,6 +12,7 @@
 #include "platform/Foundation/NSArray.h"
 #include "platform/Foundation/NSData.h"
 #include "platform/Foundation/NSDictionary.h"
+#include "platform/Foundation/NSURL.h"
 
 // Foundation's own parsers recurse as deeply as a list is nested, raise for damaged binary lists,
 // and take escapes in XML for characters. These methods are all the ways to them: whoever else
@@ -67,13 +68,35 @@ objc::Object table_of_text(NSString self) {
   return list_or_exception(property_list::read_texts(text), text);
 }
 
+/// Makes a copy of the list in the collection that is being initialised.
 template <objc::Handle Collection, objc::FixedString Initialiser>
-Collection with_contents(Collection self, NSString path) {
-  const auto list = objc::cast<NSObject>(path ? property_list_of_file(path) : nil);
-  if (list.isKindOfClass(Collection::cls()))
+Collection with_list(Collection self, objc::Object list) {
+  if (objc::cast<NSObject>(list).isKindOfClass(Collection::cls()))
     return objc::send<Collection>(self, sel_registerName(Initialiser.c_str()), list);
   objc::send<>(self, "release"_sel);
   return Collection();
+}
+
+template <objc::Handle Collection, objc::FixedString Initialiser>
+Collection with_file(Collection self, NSString path) {
+  return with_list<Collection, Initialiser>(self, path ? property_list_of_file(path) : nil);
+}
+
+template <objc::Handle Collection, objc::FixedString Initialiser>
+Collection with_address(Collection self, NSURL address) {
+  if (objc::send<BOOL>(address, "isFileURL"_sel))
+    return with_file<Collection, Initialiser>(self, address.path());
+  const auto data = objc::send<NSData>(objc::Object(objc_getClass("NSData")),
+                                       "dataWithContentsOfURL:"_sel, address);
+  return with_list<Collection, Initialiser>(self, property_list::read(bytes_of(data)).list);
+}
+
+template <objc::Handle Collection, objc::FixedString Initialiser>
+void replace_initialisers(const char* cls) {
+  replace_in_family<&with_file<Collection, Initialiser>>(objc_getClass(cls),
+                                                         "initWithContentsOfFile:");
+  replace_in_family<&with_address<Collection, Initialiser>>(objc_getClass(cls),
+                                                            "initWithContentsOfURL:");
 }
 
 }  // namespace
@@ -86,14 +109,10 @@ void export_property_list_reader() {
                                    "propertyListWithData:options:format:error:");
   replace_in_family<&list_of_text>(NSString::cls(), "propertyList");
   replace_in_family<&table_of_text>(NSString::cls(), "propertyListFromStringsFileFormat");
-  for (const char* cls : {"NSDictionary", "NSMutableDictionary"}) {
-    replace_in_family<&with_contents<NSDictionary, "initWithDictionary:">>(
-        objc_getClass(cls), "initWithContentsOfFile:");
-  }
-  for (const char* cls : {"NSArray", "NSMutableArray"}) {
-    replace_in_family<&with_contents<NSArray, "initWithArray:">>(objc_getClass(cls),
-                                                                 "initWithContentsOfFile:");
-  }
+  for (const char* cls : {"NSDictionary", "NSMutableDictionary"})
+    replace_initialisers<NSDictionary, "initWithDictionary:">(cls);
+  for (const char* cls : {"NSArray", "NSMutableArray"})
+    replace_initialisers<NSArray, "initWithArray:">(cls);
 }
 
 }  // namespace host::foundation

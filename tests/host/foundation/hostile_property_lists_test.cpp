@@ -8,6 +8,7 @@
 #include "platform/Foundation/NSData.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSURL.h"
+#include "tests/support/caught_log.h"
 #include "tests/support/host_test.h"
 #include "tests/support/property_list_bytes.h"
 
@@ -174,9 +175,21 @@ TEST_P(HostilePropertyLists, TheDesktopsOwnBinaryForm) {
   EXPECT_FALSE(read(std::string("GNUstep archive") + std::string(64, '\xFF')));
 }
 
-struct HostileTables : host::test::HostTest {};
+struct HostileFiles : host::test::HostTest {};
 
-TEST_F(HostileTables, LeaveTheKeyAsItsText) {
+TEST_F(HostileFiles, OfAnySizeAreRefusedByTheirAddress) {
+  const fs::path file = fs::temp_directory_path() / ("huge-" + std::to_string(getpid()) + ".plist");
+  std::ofstream(file) << "{a = b; }";
+  // More than any memory holds.
+  fs::resize_file(file, std::uintmax_t{1} << 40);
+  const host::test::CaughtLog log;
+  const NSURL address = NSURL::fileURLWithPath(NSString::stringWithUTF8String(file.c_str()));
+  EXPECT_FALSE(initialised("NSDictionary", "initWithContentsOfURL:"_sel, address));
+  EXPECT_FALSE(initialised("NSArray", "initWithContentsOfURL:"_sel, address));
+  fs::remove(file);
+}
+
+TEST_F(HostileFiles, OfTextsLeaveTheKey) {
   const fs::path bundle =
       fs::temp_directory_path() / ("tables-" + std::to_string(getpid()) + ".bundle");
   for (const std::string& table :
