@@ -23,11 +23,12 @@ class CaughtLog {
   CaughtLog(const CaughtLog&) = delete;
   CaughtLog& operator=(const CaughtLog&) = delete;
 
-  /// The lines since the last call, each as `level: text`.
+  /// The lines since the last `take`, each as `level: text`.
+  std::string text() const { return lines_.str(); }
   std::string take() {
-    std::string text = lines_.str();
+    std::string taken = text();
     lines_.str({});
-    return text;
+    return taken;
   }
 
  private:

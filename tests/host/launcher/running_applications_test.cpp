@@ -9,8 +9,8 @@
 
 #include "host/launcher/control_socket.h"
 #include "host/launcher/unix_socket.h"
-#include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
+#include "tests/support/caught_log.h"
 
 namespace {
 
@@ -59,14 +59,14 @@ TEST_F(Applications, AreOpenedOnce) {
 }
 
 TEST_F(Applications, AreNotOpenedWithoutTheirProgramAndTheLogSaysWhy) {
-  const LogLines log;
+  const host::test::CaughtLog log;
   EXPECT_FALSE(applications_.open(kBundle, "no-such-program"));
   EXPECT_FALSE(applications_.is_running(kBundle));
   EXPECT_THAT(log.text(), AllOf(HasSubstr("no-such-program"), HasSubstr("No such file")));
 }
 
 TEST_F(Applications, AreNotOpenedWithoutRoomForASocketAndTheLogSaysWhy) {
-  const LogLines log;
+  const host::test::CaughtLog log;
   RunningApplications others({programs_.path(), sockets_.path() / std::string(100, 's')}, {});
   EXPECT_FALSE(others.open(kBundle, kProgram));
   EXPECT_THAT(log.text(), AllOf(HasSubstr(kProgram), HasSubstr("name too long")));
@@ -77,7 +77,7 @@ TEST_F(Applications, ThatAreNoProgramsAreNamedInTheLog) {
              "\x7f"
              "ELF and nothing else");
   std::filesystem::permissions(programs_.path() / "text", std::filesystem::perms::owner_all);
-  const LogLines log;
+  const host::test::CaughtLog log;
   EXPECT_TRUE(applications_.open(kBundle, "text"));
   while (applications_.is_running(kBundle))
     applications_.reap();

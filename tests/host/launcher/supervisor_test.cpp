@@ -9,8 +9,8 @@
 #include <future>
 
 #include "tests/host/launcher/child_signals.h"
-#include "tests/host/launcher/log_lines.h"
 #include "tests/host/launcher/temporary_folder.h"
+#include "tests/support/caught_log.h"
 
 namespace {
 
@@ -75,7 +75,7 @@ TEST_F(Supervisors, StartACrashedProcessAgain) {
 }
 
 TEST_F(Supervisors, GiveUpAfterFiveRestartsWithinAMinuteAndFiveMoreInSafeMode) {
-  const LogLines log;
+  const host::test::CaughtLog log;
   EXPECT_EQ(run("crash"), kGaveUp);
   EXPECT_EQ(recorded().size(), 12u);
   EXPECT_EQ(safe_starts(), 6u);
@@ -122,7 +122,7 @@ TEST_F(Supervisors, CountAFailureAsACrash) {
 TEST_F(Supervisors, CountAnyExitThatIsNotAnnouncedAsACrash) {
   for (const char* behaviour : {"exit", "fail-as-if-unable"}) {
     std::filesystem::remove(record());
-    const LogLines log;
+    const host::test::CaughtLog log;
     EXPECT_EQ(run(behaviour), 0) << behaviour;
     EXPECT_EQ(recorded().size(), 7u) << behaviour;
     EXPECT_THAT(log.text(), HasSubstr("although nobody switched the phone off"));
@@ -142,7 +142,7 @@ TEST_F(Supervisors, ShowTheWindowOnRequest) {
 
 TEST_F(Supervisors, RestartAProcessThatNoLongerAnswers) {
   setenv(host::kPatienceVariable, "0.02", 1);
-  const LogLines log;
+  const host::test::CaughtLog log;
   const host::RealClock clock;
   EXPECT_EQ(Supervisor({command("hang-once"), {}}, clock, nullptr).run(), 0);
   unsetenv(host::kPatienceVariable);
