@@ -27,7 +27,7 @@ int brackets_in(const toml::node& node) {
     for (const auto& [key, value] : *table)
       most = std::max(most, brackets_in(value));
   }
-  // A header's table begins anew: what is above it comes from other headers.
+  // A header begins a new table: what is above it comes from other headers.
   return node.is_table() && own == 0 ? 0 : own + most;
 }
 

@@ -30,7 +30,7 @@ class PropertyListFile {
   std::optional<FileStamp> stamp() const;
   /// Nil when the file is missing, damaged or unreadable. Whatever is no such list is set aside.
   NSDictionary read();
-  /// Whether the last attempt to read it failed, so that nobody knows what it holds.
+  /// Whether the last attempt to read it failed, so that its contents are unknown.
   bool is_unread() const { return static_cast<bool>(unread_); }
   /// Creates the folder if it is missing. Returns false when the file cannot be written, with a
   /// line in the log, or is unread.

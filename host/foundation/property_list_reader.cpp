@@ -15,8 +15,8 @@
 #include "platform/Foundation/NSURL.h"
 
 // Foundation's own parsers recurse as deeply as a list is nested, raise for damaged binary lists,
-// and take escapes in XML for characters. These methods are all the ways to them: whoever else
-// reads a property list sends one of these messages.
+// and take escapes in XML for characters. These methods are all the ways to them: all other
+// readers of property lists send one of these messages.
 
 namespace host::foundation {
 namespace {

@@ -14,7 +14,7 @@ namespace host::launcher {
 /// at a time to the process that runs the phone's console, and prints its answers. `play FILE` is
 /// replaced by the lines of another script; a relative name is looked up beside the script that
 /// contains it. The front outlives the process: after a restart the next line goes to the new one.
-/// Nothing here waits, neither for the process nor for whoever reads the answers.
+/// Nothing here waits, neither for the process nor for the reader of the answers.
 class ConsoleFront {
  public:
   static constexpr int kFailed = 1;

@@ -28,7 +28,7 @@ void PatientOutput::write_some() {
     const auto count =
         write(descriptor_, left_.data() + written, std::min(kOutputPiece, left_.size() - written));
     if (count < 0 && (errno == EINTR || errno == EAGAIN)) break;
-    // The stream is gone, and with it whoever wanted the text.
+    // The stream is closed: no one wants the text any more.
     written = count > 0 ? written + static_cast<std::size_t>(count) : left_.size();
   }
   left_.erase(0, written);

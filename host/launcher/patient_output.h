@@ -5,7 +5,7 @@
 
 namespace host::launcher {
 
-/// Text for a stream of the user's, which may be a pipe that nobody reads: writing never waits.
+/// Text for a stream of the user's, which may be a pipe that no one reads: writing never waits.
 class PatientOutput {
  public:
   explicit PatientOutput(int descriptor) : descriptor_(descriptor) {}

@@ -31,7 +31,7 @@ class BlockedSignals {
     for (const int number : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT})
       sigaddset(&signals_, number);
     sigprocmask(SIG_BLOCK, &signals_, &before_);
-    // Whoever ignores it never learns of a child's end, and this is inherited from other programs.
+    // A process that ignores it never learns of a child's end, and other programs hand that on.
     signal(SIGCHLD, SIG_DFL);
   }
   ~BlockedSignals() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
@@ -47,7 +47,7 @@ class BlockedSignals {
 
 std::string how_it_ended(int status) {
   if (WIFSIGNALED(status)) return fmt::format("ended by signal {}", WTERMSIG(status));
-  return fmt::format("ended with status {}, although nobody switched the phone off",
+  return fmt::format("ended with status {}, although no one switched the phone off",
                      WEXITSTATUS(status));
 }
 
@@ -135,7 +135,7 @@ void Supervisor::wait_for_something() {
   keep_log_bounded();
 }
 
-/// After a signal, answers that nobody reads are lost.
+/// After a signal, unread answers are lost.
 bool Supervisor::has_output_left() const {
   return front_ && front_->awaited_output() >= 0 && !ending_signal_;
 }

@@ -16,7 +16,7 @@ constexpr unsigned most_seconds = 5;
 
 void limit_this_process() {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-  // A death here is an answer: nobody needs to hear of it.
+  // A death here is an answer, and not reported.
   for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM, SIGXCPU})
     ::signal(signal, SIG_DFL);
   sigset_t none_blocked;

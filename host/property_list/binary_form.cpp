@@ -30,7 +30,7 @@ constexpr std::size_t kWord = 8;
 constexpr unsigned kCountFollows = 15;
 // The beginning of 2001, in seconds since 1970.
 constexpr double kReferenceDate = 978307200;
-// Whoever walks the list handles so many bytes as easily as an object.
+// A reader of the list handles so many bytes as easily as an object.
 constexpr std::size_t kBytesLikeAnObject = 64;
 
 enum Kind : unsigned {

@@ -9,10 +9,10 @@
 
 namespace host::property_list {
 
-/// A list may be walked by recursion: by its readers, by whoever describes or writes it, and when
+/// A list may be walked by recursion: by its readers, when it is described or written, and when
 /// it is released.
 inline constexpr int kDeepest = 100;
-/// As someone sees them who walks the list: an object with two places counts twice.
+/// As a walk through the list counts them: an object with two places counts twice.
 inline constexpr std::size_t kMostObjects = 1 << 20;
 
 using Objects = std::vector<objc::Object>;

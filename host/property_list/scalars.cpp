@@ -117,8 +117,10 @@ objc::Object date_from(std::string_view text, Builder& builder) {
                                          std::chrono::day(static_cast<unsigned>(day->third))};
   if (!date.ok() || time->first > 23 || time->second > 59 || time->third > 60)
     return not_a("date", text, builder);
-  const double days = std::chrono::sys_days(date).time_since_epoch().count();
-  return builder.date(days * 86400 + time->first * 3600 + time->second * 60 + time->third - *east);
+  const std::chrono::duration<double, std::chrono::days::period> days =
+      std::chrono::sys_days(date).time_since_epoch();
+  return builder.date(days.count() * 86400 + time->first * 3600 + time->second * 60 + time->third -
+                      *east);
 }
 
 }  // namespace host::property_list

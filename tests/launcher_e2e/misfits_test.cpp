@@ -62,7 +62,7 @@ TEST_F(Misfits, AnExitDuringTheLoadCountsAsACrash) {
   setenv("MISFIT", "exit", 1);
   RunningPhone phone(with_console());
   ASSERT_TRUE(phone.waits_for_error("loaded Sonavue2"));
-  EXPECT_EQ(phone.count_of_errors_with("ended with status 0, although nobody switched"), 5);
+  EXPECT_EQ(phone.count_of_errors_with("ended with status 0, although no one switched"), 5);
   EXPECT_EQ(phone.count_of_errors_with("Misfit is left out: it crashed 5 times"), 1);
 }
 

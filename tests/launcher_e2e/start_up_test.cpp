@@ -106,7 +106,7 @@ TEST_F(StartUp, LeavesLoopsOfLinksAsTheyAre) {
     EXPECT_EQ(phone.count_of_errors_with(name), 1) << name << "\n" << phone.errors();
 }
 
-/// Folders that nobody may enter.
+/// Folders that no one may enter.
 class ForbiddenFolders : public StartUp {
  protected:
   ForbiddenFolders() { run_once(); }

@@ -101,7 +101,7 @@ std::optional<HomeLayout> read_icon_state(foundation::PropertyListFile& file,
   arrangement.add_dock(dock);
   arrangement.add_pages(pages);
   if (arrangement.is_overfull())
-    spdlog::warn("{} holds more than {} icons: the others are arranged anew", file.path(),
+    spdlog::warn("{} holds more than {} icons: the others go to free places", file.path(),
                  kMostIcons);
   return std::move(arrangement).layout();
 }

@@ -13,7 +13,7 @@
 #include "tests/support/property_list_bytes.h"
 
 // Every way in which Foundation reads a property list, and lists that are made to end or to stop
-// whoever reads them.
+// any reader.
 
 namespace {
 

@@ -121,7 +121,7 @@ TEST_F(ThrowawayFolders, OfAKilledProcessAreRemovedByTheNext) {
   fs::create_directory(folder() / "sonavue-strang");
   write_file(folder() / "sonavue-afile1", "text");
   remove_abandoned_folders();
-  EXPECT_EQ(count(), 3u) << "mine, and what nobody has locked";
+  EXPECT_EQ(count(), 3u) << "mine, and what is not locked";
   EXPECT_TRUE(fs::exists(mine.path()));
 }
 

@@ -125,7 +125,7 @@ TEST_F(Supervisors, CountAnyExitThatIsNotAnnouncedAsACrash) {
     const host::test::CaughtLog log;
     EXPECT_EQ(run(behaviour), 0) << behaviour;
     EXPECT_EQ(recorded().size(), 7u) << behaviour;
-    EXPECT_THAT(log.text(), HasSubstr("although nobody switched the phone off"));
+    EXPECT_THAT(log.text(), HasSubstr("although no one switched the phone off"));
   }
 }
 

@@ -51,7 +51,7 @@ TEST_F(Directories, ReplaceAnIconAtOnce) {
   std::filesystem::create_hard_link(file, file + ".before");
   std::filesystem::resize_file(file, 1);
   EXPECT_EQ(ListenerDirectory().keep_icon("a", picture()), path);
-  // Whoever had opened the old file still reads the old file.
+  // A process that has the old file open still reads it.
   EXPECT_EQ(std::filesystem::file_size(file + ".before"), 1u);
   EXPECT_EQ(UIImage::imageWithContentsOfFile(to_ns(path)).size(), (CGSize{10, 5}));
 }

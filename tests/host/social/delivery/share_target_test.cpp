@@ -70,7 +70,7 @@ TEST_F(ShareTargets, RejectInvalidAddresses) {
 
 TEST_F(ShareTargets, AreNotWaitedForAndHaveAnEnd) {
   const std::string file = folder / "share-target";
-  // Nobody ever writes into it.
+  // No one ever writes into it.
   ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
   const CapturedLog log;
   EXPECT_EQ(ShareTarget::read(file).address_for("x"), ShareTarget().address_for("x"));
