@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "host/foundation/atomic_write.h"
+#include "host/foundation/errors.h"
 #include "host/foundation/exports.h"
 #include "host/runtime/class_family.h"
 #include "platform/Foundation/NSData.h"
@@ -48,13 +49,6 @@ const char* manager_representation(NSObject self, NSString path) {
 constexpr NSUInteger kAtomically = 1;
 objc::Imp original_write = nullptr;
 
-objc::Id error_object(const std::error_code& error) {
-  return objc::send<objc::Object>(objc::Object(objc_getClass("NSError")),
-                                  "errorWithDomain:code:userInfo:"_sel, "NSPOSIXErrorDomain"_ns,
-                                  static_cast<NSInteger>(error.value()), objc::Object())
-      .id();
-}
-
 BOOL write_data(NSData self, NSString path, NSUInteger options, objc::Id* error) {
   using Function = BOOL (*)(objc::Id, objc::Sel, objc::Id, NSUInteger, objc::Id*);
   const char* real = mapped(path.UTF8String());
@@ -65,7 +59,7 @@ BOOL write_data(NSData self, NSString path, NSUInteger options, objc::Id* error)
   }
   const std::error_code failure =
       write_atomically(real, {static_cast<const char*>(self.bytes()), self.length()});
-  if (failure && error) *error = error_object(failure);
+  if (failure && error) *error = system_error(failure).id();
   return failure ? NO : YES;
 }
 

@@ -13,30 +13,21 @@
 #include "host/runtime/log.h"
 
 namespace host::foundation {
-namespace {
 
-constexpr std::int64_t kNanoseconds = 1'000'000'000;
-
-}  // namespace
-
-std::optional<FileStamp> PropertyListFile::stamp() const {
+std::optional<files::Stamp> PropertyListFile::stamp() const {
   struct stat found {};
-  if (::stat(path_on_this_machine(path_).c_str(), &found) != 0) {
-    const bool is_missing = errno == ENOENT || errno == ENOTDIR;
-    return is_missing ? std::nullopt : std::optional(FileStamp());
-  }
-  return FileStamp{found.st_ino, found.st_mtim.tv_sec * kNanoseconds + found.st_mtim.tv_nsec,
-                   static_cast<std::uint64_t>(found.st_size)};
+  if (::stat(path_on_this_machine(path_).c_str(), &found) == 0) return files::stamp_of(found);
+  return files::is_missing(files::last_error()) ? std::nullopt : std::optional(files::Stamp());
 }
 
 NSDictionary PropertyListFile::read() {
   const files::FileContents contents = files::read_file(path_on_this_machine(path_));
   const bool was_unread = is_unread();
-  const bool is_known = contents.is_missing() || contents.is_no_file();
+  const bool is_known = files::is_missing(contents.error) || files::is_no_file(contents.error);
   unread_ = is_known ? std::error_code() : contents.error;
   if (is_unread() && !was_unread)
     spdlog::error("{} cannot be read: {}; it stays as it is", path_, unread_.message());
-  if (is_unread() || contents.is_missing()) return nil;
+  if (is_unread() || files::is_missing(contents.error)) return nil;
   const auto list =
       contents.error ? nil : objc::cast<NSDictionary>(property_list::read(contents.bytes).list);
   if (list.isKindOfClass(NSDictionary::cls())) return list;

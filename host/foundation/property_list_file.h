@@ -1,21 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <system_error>
 
+#include "host/files/stamp.h"
 #include "platform/Foundation/NSDictionary.h"
 
 namespace host::foundation {
-
-/// Identifies a version of a file without reading it.
-struct FileStamp {
-  std::uint64_t file = 0;
-  std::int64_t changed = 0;  // nanoseconds
-  std::uint64_t size = 0;
-  friend bool operator==(const FileStamp&, const FileStamp&) = default;
-};
 
 /// A property list with a dictionary at its root, which this process, and perhaps others, read and
 /// replace as a whole. Nothing is ever lost: what is damaged is set aside, and what cannot be read
@@ -27,7 +19,7 @@ class PropertyListFile {
 
   const std::string& path() const { return path_; }
   /// Empty when the file does not exist; of an unknown version when it cannot be looked at.
-  std::optional<FileStamp> stamp() const;
+  std::optional<files::Stamp> stamp() const;
   /// Nil when the file is missing, damaged or unreadable. Whatever is no such list is set aside.
   NSDictionary read();
   /// Whether the last attempt to read it failed, so that its contents are unknown.

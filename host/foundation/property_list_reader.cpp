@@ -2,10 +2,10 @@
 #include <string>
 #include <utility>
 
+#include "host/foundation/errors.h"
 #include "host/foundation/exception.h"
 #include "host/foundation/exports.h"
-#include "host/foundation/property_list_error.h"
-#include "host/foundation/property_list_files.h"
+#include "host/foundation/property_list_cache.h"
 #include "host/property_list/reader.h"
 #include "host/runtime/class_family.h"
 #include "host/runtime/log.h"

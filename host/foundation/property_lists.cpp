@@ -1,5 +1,5 @@
+#include "host/foundation/errors.h"
 #include "host/foundation/exports.h"
-#include "host/foundation/property_list_error.h"
 #include "host/property_list/xml_writer.h"
 #include "host/runtime/class_family.h"
 #include "platform/Foundation/NSPropertyListSerialization.h"

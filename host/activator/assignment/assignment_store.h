@@ -30,7 +30,7 @@ class AssignmentStore {
 
   foundation::PropertyListFile file_;
   Assignments read_;
-  std::optional<foundation::FileStamp> stamp_;
+  std::optional<files::Stamp> stamp_;
 };
 
 }  // namespace host::activator

@@ -29,17 +29,17 @@ TEST_F(ReadFiles, AreReadWhole) {
 }
 
 TEST_F(ReadFiles, AreMissingWithoutOneOfTheirFolders) {
-  EXPECT_TRUE(read_file(place.path() / "none").is_missing());
-  EXPECT_TRUE(read_file(place.path() / "none/list").is_missing());
-  EXPECT_TRUE(read_file(path / "list").is_missing());
-  EXPECT_FALSE(read_file(path).is_missing());
+  EXPECT_TRUE(is_missing(read_file(place.path() / "none").error));
+  EXPECT_TRUE(is_missing(read_file(place.path() / "none/list").error));
+  EXPECT_TRUE(is_missing(read_file(path / "list").error));
+  EXPECT_FALSE(is_missing(read_file(path).error));
 }
 
 TEST_F(ReadFiles, AreNeitherFoldersNorPipesNorDevices) {
   const fs::path pipe = place.path() / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   for (const fs::path& other : {place.path(), pipe, fs::path("/dev/zero")})
-    EXPECT_TRUE(read_file(other).is_no_file()) << other;
+    EXPECT_TRUE(is_no_file(read_file(other).error)) << other;
 }
 
 TEST_F(ReadFiles, TellWhyTheyCannotBeRead) {

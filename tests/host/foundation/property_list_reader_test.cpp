@@ -113,7 +113,7 @@ TEST_F(PropertyListReaderTest, WhatIsNoRegularFileIsReportedOnceAndNotWaitedFor)
   ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
   for (int i = 0; i < 3; ++i)
     EXPECT_FALSE(read());
-  EXPECT_EQ(log.take(), "warning: " + file.string() + " is not read: it is no regular file\n");
+  EXPECT_EQ(log.take(), "warning: " + file.string() + " is not read: it is not a regular file\n");
   std::filesystem::remove(file);
   EXPECT_FALSE(read());
   EXPECT_EQ(log.take(), "");

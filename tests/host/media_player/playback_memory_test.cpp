@@ -96,7 +96,7 @@ TEST_F(PlaybackMemory, IsWrittenWhileTheProcessLives) {
 
 TEST_F(PlaybackMemory, IsWrittenAFewTimesASecondWhileItChanges) {
   start();
-  std::vector<std::optional<host::foundation::FileStamp>> versions;
+  std::vector<std::optional<host::files::Stamp>> versions;
   for (int step = 1; step <= 100; ++step) {
     media().setVolume(static_cast<float>(step) / 200);
     advance(0.01);
