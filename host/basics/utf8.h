@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace host::utf8 {
@@ -43,6 +44,23 @@ inline bool is_valid(std::string_view text) {
     text.remove_prefix(bytes);
   }
   return true;
+}
+
+/// Appends the character with this number.
+inline void append(std::string& bytes, char32_t code) {
+  const auto put = [&](char32_t value) { bytes.push_back(static_cast<char>(value)); };
+  if (code < 0x80) return put(code);
+  if (code < 0x800) {
+    put(0xC0 | (code >> 6));
+  } else if (code < 0x10000) {
+    put(0xE0 | (code >> 12));
+    put(0x80 | ((code >> 6) & 0x3F));
+  } else {
+    put(0xF0 | (code >> 18));
+    put(0x80 | ((code >> 12) & 0x3F));
+    put(0x80 | ((code >> 6) & 0x3F));
+  }
+  put(0x80 | (code & 0x3F));
 }
 
 }  // namespace host::utf8

@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+#include "host/basics/utf16.h"
+
 namespace host::foundation {
 namespace {
 
@@ -16,20 +18,13 @@ constexpr char32_t kFirstVowel = 0x1160;
 constexpr char32_t kLastEnd = 0x11ff;
 constexpr std::size_t kMostParts = G_UNICHAR_MAX_DECOMPOSITION_LENGTH;
 
-bool is_high(char16_t unit) {
-  return unit >= 0xd800 && unit < 0xdc00;
-}
-bool is_low(char16_t unit) {
-  return unit >= 0xdc00 && unit < 0xe000;
-}
-
 /// An unpaired surrogate counts as a letter.
 char32_t letter_at(std::u16string_view text, std::size_t place, std::size_t& units) {
   const char16_t first = text[place];
-  const bool is_pair = is_high(first) && place + 1 < text.size() && is_low(text[place + 1]);
+  const bool is_pair =
+      utf16::is_high(first) && place + 1 < text.size() && utf16::is_low(text[place + 1]);
   units = is_pair ? 2 : 1;
-  if (!is_pair) return first;
-  return 0x10000 + ((char32_t{first} - 0xd800) << 10) + (text[place + 1] - 0xdc00);
+  return is_pair ? utf16::joined(first, text[place + 1]) : first;
 }
 
 /// True when the letter belongs to the same character as the previous letter.

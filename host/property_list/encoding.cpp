@@ -4,6 +4,8 @@
 
 #include <memory>
 
+#include "host/basics/utf8.h"
+
 namespace host::property_list {
 namespace {
 
@@ -12,7 +14,7 @@ struct Free {
 };
 
 std::optional<std::string> if_valid(std::string text) {
-  if (!g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr)) return std::nullopt;
+  if (!utf8::is_valid(text)) return std::nullopt;
   return text;
 }
 
@@ -28,19 +30,6 @@ std::optional<std::string> utf8_from_utf16(std::string_view bytes, bool is_big_e
   return std::string(text.get(), length);
 }
 
-std::string utf8_from_units(std::u16string_view units) {
-  constexpr std::uint32_t kReplacement = 0xFFFD;
-  std::string text;
-  for (std::size_t i = 0; i < units.size(); ++i) {
-    std::uint32_t code = units[i];
-    const bool has_low = i + 1 < units.size() && (units[i + 1] & 0xFC00) == 0xDC00;
-    if ((code & 0xFC00) == 0xD800 && has_low)
-      code = 0x10000 + ((code & 0x3FF) << 10) + (units[++i] & 0x3FFU);
-    if (code != 0 && !append_character(text, code)) append_character(text, kReplacement);
-  }
-  return text;
-}
-
 std::optional<std::string> utf8_from_file(std::string_view bytes) {
   using namespace std::string_view_literals;
   if (bytes.starts_with("\xEF\xBB\xBF"sv)) return if_valid(std::string(bytes.substr(3)));
@@ -51,9 +40,9 @@ std::optional<std::string> utf8_from_file(std::string_view bytes) {
 }
 
 bool append_character(std::string& text, std::uint32_t code) {
-  if (code == 0 || !g_unichar_validate(code)) return false;
-  char bytes[6];
-  text.append(bytes, static_cast<std::size_t>(g_unichar_to_utf8(code, bytes)));
+  const bool is_surrogate = code >= 0xD800 && code <= 0xDFFF;
+  if (code == 0 || code > 0x10FFFF || is_surrogate) return false;
+  utf8::append(text, code);
   return true;
 }
 

@@ -2,6 +2,7 @@
 #include <optional>
 #include <string>
 
+#include "host/basics/utf16.h"
 #include "host/property_list/cursor.h"
 #include "host/property_list/encoding.h"
 #include "host/property_list/forms.h"
@@ -12,10 +13,6 @@
 
 namespace host::property_list {
 namespace {
-
-constexpr std::uint32_t kFirstHighSurrogate = 0xD800;
-constexpr std::uint32_t kFirstLowSurrogate = 0xDC00;
-constexpr std::uint32_t kLastSurrogate = 0xDFFF;
 
 bool is_bare(char c) {
   constexpr std::string_view kSigns = "!#$%&*+-./:?@^_|~";
@@ -172,20 +169,18 @@ class TextReader {
   bool append_units(std::string& text) {
     const auto first = unit();
     if (!first) return false;
-    if (*first < kFirstHighSurrogate || *first > kLastSurrogate)
-      return append_character(text, *first);
-    if (*first >= kFirstLowSurrogate || !at_.take('\\')) return false;
+    if (!utf16::is_high(*first)) return append_character(text, *first);
+    if (!at_.take('\\')) return false;
     const auto second = unit();
-    if (!second || *second < kFirstLowSurrogate || *second > kLastSurrogate) return false;
-    return append_character(
-        text, 0x10000 + ((*first - kFirstHighSurrogate) << 10) + (*second - kFirstLowSurrogate));
+    return second && utf16::is_low(*second) &&
+           append_character(text, utf16::joined(*first, *second));
   }
 
-  std::optional<std::uint32_t> unit() {
+  std::optional<std::uint16_t> unit() {
     constexpr std::size_t kDigits = 4;
     if (!at_.take('U') && !at_.take('u')) return std::nullopt;
     const std::string_view digits = at_.rest().substr(0, kDigits);
-    std::uint32_t code = 0;
+    std::uint16_t code = 0;
     const char* end = digits.data() + digits.size();
     const auto parsed = std::from_chars(digits.data(), end, code, 16);
     at_.skip(static_cast<std::size_t>(parsed.ptr - digits.data()));

@@ -7,7 +7,9 @@
 #include <cmath>
 #include <map>
 #include <string_view>
+#include <vector>
 
+#include "host/basics/utf16.h"
 #include "host/property_list/builder.h"
 #include "host/property_list/encoding.h"
 #include "platform/Foundation/NSArray.h"
@@ -25,10 +27,14 @@ constexpr std::string_view kHead =
     "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
     "<plist version=\"1.0\">\n";
 
+/// Without zeros, which no reader takes.
 std::string utf8_of(NSString text) {
-  std::u16string units(text.length(), u'\0');
-  text.getCharacters(reinterpret_cast<unichar*>(units.data()), {0, units.size()});
-  return utf8_from_units(units);
+  std::vector<unichar> units(text.length());
+  if (!units.empty()) text.getCharacters(units.data(), {0, units.size()});
+  std::erase(units, 0);
+  std::string bytes;
+  utf16::append_utf8(bytes, units);
+  return bytes;
 }
 
 std::string escaped(std::string_view text) {
