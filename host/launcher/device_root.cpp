@@ -58,9 +58,12 @@ Failure open_root(const fs::path& root, Place& place) {
 }
 
 struct CopyRules {
-  files::Keep keep = files::Keep::kSameVersion;
-  files::Durability durability = files::Durability::kFlushed;
+  files::Keep keep;
+  files::Durability durability;
 };
+
+constexpr CopyRules kFirstFiles{files::Keep::kEvery, files::Durability::kFlushed};
+constexpr CopyRules kStaging{files::Keep::kSameVersion, files::Durability::kUnflushed};
 
 /// Every folder below the root must be the device's own: through a link, files would be written or
 /// removed elsewhere.
@@ -153,18 +156,17 @@ Failure copy_first_files(const fs::path& first_files, const fs::path& root) {
   Place place;
   if (auto failed = open_root(root, place)) return failed;
   if (auto failed = set_mark(place)) return failed;
-  if (auto failed = copy_tree_if_any(first_files, place, {files::Keep::kEvery})) return failed;
+  if (auto failed = copy_tree_if_any(first_files, place, kFirstFiles)) return failed;
   return remove_mark(place);
 }
 
 Failure stage(const StagingSource& source, const fs::path& root,
-              std::span<const std::string> without, files::Durability durability) {
-  const CopyRules rules{files::Keep::kSameVersion, durability};
+              std::span<const std::string> without) {
   Place place;
   Place applications;
   if (auto failed = open_root(root, place)) return failed;
-  if (auto failed = copy_tree_if_any(source.overlay, place, rules)) return failed;
-  if (auto failed = open_below(place, "Applications", rules, applications)) return failed;
+  if (auto failed = copy_tree_if_any(source.overlay, place, kStaging)) return failed;
+  if (auto failed = open_below(place, "Applications", kStaging, applications)) return failed;
   std::error_code error;
   for (const fs::path& path : files::paths_in(source.applications, error)) {
     if (!fs::is_directory(path, error)) continue;
@@ -176,8 +178,8 @@ Failure stage(const StagingSource& source, const fs::path& root,
       continue;
     }
     Place application;
-    if (auto failed = open_below(applications, name, rules, application)) return failed;
-    if (auto failed = copy_tree(path, application, rules)) return failed;
+    if (auto failed = open_below(applications, name, kStaging, application)) return failed;
+    if (auto failed = copy_tree(path, application, kStaging)) return failed;
   }
   return std::nullopt;
 }

@@ -34,9 +34,9 @@ struct StagingSource {
 /// Updates the device's root from the build: changed files are replaced atomically, without
 /// disturbing a process that reads or runs the old version, and several starts may do so at once.
 /// Applications whose identifier is in `without` are removed from the device. Links are not
-/// followed, but the root may be one. Returns the error of the first file that failed.
+/// followed, but the root may be one. Nothing is flushed: a start copies again what a power failure
+/// has taken. Returns the error of the first file that failed.
 std::optional<std::string> stage(const StagingSource& source, const std::filesystem::path& root,
-                                 std::span<const std::string> without,
-                                 files::Durability durability = files::Durability::kFlushed);
+                                 std::span<const std::string> without);
 
 }  // namespace host::launcher

@@ -48,12 +48,11 @@ std::optional<ConsoleFront> console_for(const Options& options, std::string& pro
 }
 
 /// Returns the reason when the device cannot be started.
-std::optional<std::string> prepare(const Options& options, const Installation& installation,
-                                   host::files::Durability durability) {
+std::optional<std::string> prepare(const Options& options, const Installation& installation) {
   std::optional<std::string> reason;
   if (options.is_set_up) reason = copy_first_files(installation.first_files, options.root);
   if (!reason) reason = prepare_device_root(options.root);
-  if (!reason) reason = stage(installation.staging, options.root, options.without, durability);
+  if (!reason) reason = stage(installation.staging, options.root, options.without);
   return reason;
 }
 
@@ -91,9 +90,7 @@ int supervise(const Options& options, const FolderLock* lock) {
                          !options.headless},
                         clock, has_console(options) ? &*front : nullptr);
   if (lock) lock->introduce(supervisor.control_socket());
-  const auto durability =
-      lock ? host::files::Durability::kFlushed : host::files::Durability::kUnflushed;
-  if (const auto reason = prepare(options, installation, durability)) return complain(*reason);
+  if (const auto reason = prepare(options, installation)) return complain(*reason);
   return supervisor.run();
 }
 
