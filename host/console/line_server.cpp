@@ -5,6 +5,8 @@
 
 #include <cerrno>
 
+#include "host/basics/console_line.h"
+
 namespace host::console {
 namespace {
 
@@ -41,7 +43,7 @@ void LineServer::execute_lines() {
   for (auto end = pending_.find('\n'); end != std::string::npos; end = pending_.find('\n')) {
     const std::string line = pending_.substr(0, end);
     pending_.erase(0, end + 1);
-    if (line_is_too_long_ || line.size() > kLongestLine) {
+    if (line_is_too_long_ || line.size() > kLongestConsoleLine) {
       line_is_too_long_ = false;
       answer(kTooLong);
       continue;
@@ -53,7 +55,7 @@ void LineServer::execute_lines() {
       return;
     }
   }
-  if (pending_.size() > kLongestLine) {
+  if (pending_.size() > kLongestConsoleLine) {
     pending_.clear();
     line_is_too_long_ = true;
   }

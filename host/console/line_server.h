@@ -11,9 +11,6 @@ namespace host::console {
 /// it with one line.
 class LineServer {
  public:
-  // Longer lines are discarded and answered with an error.
-  static constexpr std::size_t kLongestLine = 64 * 1024;
-
   /// `on_quit` is called after `quit` has been answered, or when the other end is gone.
   LineServer(int descriptor, Session& session, std::function<void()> on_quit);
 

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/basics/console_line.h"
+
 namespace host::launcher {
 namespace {
 
@@ -109,7 +111,7 @@ void ConsoleFront::end_input() {
 }
 
 void ConsoleFront::send_line(const std::string& line) {
-  if (line.size() > kLongestLine) return refuse("the line is too long");
+  if (line.size() > kLongestConsoleLine) return refuse("the line is too long");
   quitting_ = line == kQuit;
   waiting_ = true;
   unsent_ = line + "\n";
@@ -173,7 +175,7 @@ void ConsoleFront::read_input() {
   while (auto line = take_line(typed_part_))
     typed_.push_back(std::move(*line));
   // Enough of a line that is too long stays for it to be refused.
-  typed_part_.resize(std::min(typed_part_.size(), kLongestLine + 1));
+  typed_part_.resize(std::min(typed_part_.size(), kLongestConsoleLine + 1));
   send_next();
 }
 

@@ -18,8 +18,6 @@ namespace host::launcher {
 class ConsoleFront {
  public:
   static constexpr int kFailed = 1;
-  /// Longer lines are not sent; the answer says so.
-  static constexpr std::size_t kLongestLine = 64 * 1024;
 
   /// `input` is read after the script; -1 means a console that ends with its script. Answers are
   /// printed to `output`; a failure in a script ends the console and is printed to `errors`.

@@ -31,7 +31,7 @@ std::filesystem::path default_log_file();
 void open_standard_streams();
 
 /// Makes the default log file the standard error of this process and of those that it starts,
-/// unless that is a terminal, a pipe or a file: somebody sees those.
+/// unless that is a terminal, a pipe or a file, where the user sees it.
 void log_to_file_unless_seen();
 /// Call this now and then.
 void keep_log_bounded();

@@ -5,6 +5,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include "host/basics/console_line.h"
 #include "tests/host/console/fake_phone.h"
 
 namespace {
@@ -77,7 +78,7 @@ TEST_F(LineServers, InputThatEndsInTheMiddleOfALineIsAnErrorAndRunsNothing) {
 
 TEST_F(LineServers, AnOverlongLineIsRefusedAndTheNextOneServed) {
   const std::string part(4096, 'x');
-  for (std::size_t sent = 0; sent <= 2 * LineServer::kLongestLine; sent += part.size())
+  for (std::size_t sent = 0; sent <= 2 * host::kLongestConsoleLine; sent += part.size())
     write(part);
   write("\n");
   EXPECT_EQ(answers(), "error: the line is too long\n");
@@ -87,7 +88,7 @@ TEST_F(LineServers, AnOverlongLineIsRefusedAndTheNextOneServed) {
 
 TEST_F(LineServers, AnEndlessLineIsRefusedAtItsEnd) {
   const std::string part(4096, 'x');
-  for (std::size_t sent = 0; sent <= 40 * LineServer::kLongestLine; sent += part.size())
+  for (std::size_t sent = 0; sent <= 40 * host::kLongestConsoleLine; sent += part.size())
     write(part);
   EXPECT_EQ(answers(), "");
   shutdown(ends_[0], SHUT_WR);

@@ -8,6 +8,7 @@
 
 #include <future>
 
+#include "host/basics/console_line.h"
 #include "host/basics/descriptor.h"
 #include "host/launcher/supervisor.h"
 #include "tests/host/launcher/child_signals.h"
@@ -91,7 +92,7 @@ TEST_F(ConsoleFronts, InputThatEndsInTheMiddleOfALineIsAnErrorAfterTheLinesBefor
 }
 
 TEST_F(ConsoleFronts, ALineThatIsTooLongIsRefusedAndTheNextIsServed) {
-  const std::string longest(ConsoleFront::kLongestLine, 'x');
+  const std::string longest(host::kLongestConsoleLine, 'x');
   write_file(folder_.path() / "typed",
              longest + "\n" + longest + "x\n" + std::string(1'000'000, 'y') + "\nlast\n");
   const Descriptor typed(open((folder_.path() / "typed").c_str(), O_RDONLY | O_CLOEXEC));
@@ -101,7 +102,7 @@ TEST_F(ConsoleFronts, ALineThatIsTooLongIsRefusedAndTheNextIsServed) {
 }
 
 TEST_F(ConsoleFronts, NeverWaitForAProcessThatDoesNotRead) {
-  for (const std::size_t length : {std::size_t{1'000'000}, ConsoleFront::kLongestLine}) {
+  for (const std::size_t length : {std::size_t{1'000'000}, host::kLongestConsoleLine}) {
     ConsoleFront front({"a.scn", {std::string(length, 'x')}}, -1, output_.file(), errors_.file());
     EXPECT_EQ(run_with(front, "deaf"), 128 + SIGTERM) << length;
   }
