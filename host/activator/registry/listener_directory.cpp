@@ -34,10 +34,12 @@ cairo_status_t append(void* bytes, const unsigned char* more, unsigned count) {
   return CAIRO_STATUS_SUCCESS;
 }
 
-std::string png_of(cairo_surface_t* surface) {
+std::error_code write_png(const std::string& path, cairo_surface_t* surface) {
   std::string bytes;
-  cairo_surface_write_to_png_stream(surface, &append, &bytes);
-  return bytes;
+  const cairo_status_t status = cairo_surface_write_to_png_stream(surface, &append, &bytes);
+  // Only a lack of memory makes this fail.
+  if (status != CAIRO_STATUS_SUCCESS) return std::make_error_code(std::errc::not_enough_memory);
+  return files::replace_file(path, bytes).error;
 }
 
 objc::Object written(const ListenerRecord& record) {
@@ -115,7 +117,7 @@ std::string ListenerDirectory::keep_icon(const std::string& listener, UIImage ic
                                        file_name(listener), suffix);
   const std::string place = foundation::path_on_this_machine(path);
   files::make_folders(files::folder_of(place));
-  const auto error = files::replace_file(place, png_of(image->surface().get())).error;
+  const auto error = write_png(place, image->surface().get());
   if (!error) return path;
   spdlog::warn("the icon of gesture listener {} could not be kept: {}", listener, error.message());
   return {};
