@@ -38,7 +38,7 @@ bool replay_folder(const fs::path& folder) {
 }  // namespace
 
 // Runs a fuzz target over the files of the folders named on the command line, with any compiler.
-// Exits with status 0 if none of them crashes it, and 2 if there is none or one cannot be read.
+// Exits with status 0 if no file crashes it, and 2 if a folder is empty or a file cannot be read.
 int main(int count, char** names) {
   if (LLVMFuzzerInitialize) LLVMFuzzerInitialize(&count, &names);
   return count > 1 && std::all_of(names + 1, names + count, replay_folder) ? 0 : 2;

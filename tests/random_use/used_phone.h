@@ -25,7 +25,7 @@ class UsedPhone {
   explicit UsedPhone(bool is_drawn);
 
   std::string device() const { return folder_ / "device"; }
-  /// Returns the phone's process that runs this program; 0 when there is none.
+  /// Returns the phone's process that runs this program; 0 if it is not running.
   pid_t child(std::string_view program) const { return phone_.child(program); }
   /// From now on `fault` does not return lines with these words.
   void expect(const std::string& words) { expected_.insert(words); }

@@ -43,7 +43,7 @@ class RunningPhone {
   void kill_launcher();
 
   pid_t launcher() const { return launcher_; }
-  /// Returns the phone's process that runs this program; 0 when there is none at this moment.
+  /// Returns the phone's process that runs this program; 0 if it is not running.
   pid_t child(std::string_view program) const;
   pid_t home_screen() const { return child("SpringBoard"); }
   /// Returns the process that replaces `before`; 0 when none appeared. Pass 0 first.
