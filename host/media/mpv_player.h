@@ -5,14 +5,15 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/media/event_signal.h"
+#include "host/media/mpv_engine.h"
 #include "host/media/player.h"
 #include "host/media/reading_marks.h"
 #include "host/media/stepped_position.h"
 
-struct mpv_handle;
 struct mpv_event;
 
 namespace host::media {
@@ -37,19 +38,23 @@ struct MpvOptions {
 // `time-pos` changes only on a seek, which is exact and takes about a millisecond. Each pump seeks
 // to the song's position on the clock. Pausing the engine instead would make `pause` wrong, and
 // untimed playback cannot be stopped at a given moment.
+//
+// In real time a file that follows another is in the engine's list, which joins the two. On a
+// stepped clock the clock says when a file is over, so nothing follows by itself.
 class MpvPlayer final : public Player {
  public:
   // Null when the engine cannot be created; the log says why.
   static std::unique_ptr<MpvPlayer> create(MpvOptions options);
-  ~MpvPlayer() override;
 
   void set_listener(PlayerListener* listener) override { listener_ = listener; }
   void load(const std::string& path) override;
+  void follow_with(const std::string& path) override;
   void play() override;
   void pause() override;
   void stop() override;
   void seek(double seconds) override;
   void set_volume(double volume) override;
+  void set_replay_gain(ReplayGain gain) override;
   double volume() const override { return volume_; }
   double position() const override;
   double duration() const override;
@@ -60,15 +65,21 @@ class MpvPlayer final : public Player {
 
  private:
   enum class Loading { nothing, pending, loaded };
-  struct Failure {
+  // What the listener has not yet been told.
+  struct Report {
+    enum What { continued, ended, failed, lost_device } what;
     std::string path;
     std::string reason;
   };
-  struct Destroy {
-    void operator()(mpv_handle* engine) const;
+  // A file that the engine has been given.
+  struct Sound {
+    std::string path;
+    // Distinguishes late events of an earlier file from events of this one.
+    MpvEngine::Entry entry = 0;
+    std::unique_ptr<ReadingMark> mark;  // Until it is first heard.
   };
 
-  explicit MpvPlayer(MpvOptions options);
+  explicit MpvPlayer(MpvOptions options) : options_(std::move(options)) {}
 
   bool prepare();
   bool is_stepped() const { return options_.pace == PlayerPace::stepped; }
@@ -76,35 +87,36 @@ class MpvPlayer final : public Player {
   void set_paused(bool paused);
   void drain();
   void handle(const mpv_event& event);
-  void check_sound_device();
-  void refuse(std::string reason);
+  void handle_start(MpvEngine::Entry entry);
   void handle_end_of_file(const mpv_event& event);
+  void check_sound_device();
+  void check_sample_rate();
+  void refuse(std::string reason);
   void wait_until(const std::function<bool()>& is_done);
   void follow_clock();
   void seek_engine(double seconds);
+  void report(Report report);
   void deliver();
 
   MpvOptions options_;
   EventSignal signal_;
-  std::unique_ptr<mpv_handle, Destroy> engine_;
+  std::unique_ptr<MpvEngine> engine_;
   PlayerListener* listener_ = nullptr;
 
-  std::string path_;
-  std::optional<ReadingMark> mark_;  // From loading until the first sound.
+  Sound sound_;  // What is loaded.
   Loading loading_ = Loading::nothing;
-  // The engine's identifiers of this file and of the one it last started, to distinguish late
-  // events of an earlier file from events of this one.
-  std::int64_t entry_ = 0;
-  std::int64_t started_entry_ = 0;
+  std::optional<Sound> next_;
+  MpvEngine::Entry started_ = 0;  // What the engine last began to open.
   bool is_paused_ = true;
   double volume_ = 1;
   SteppedPosition stepped_;
   std::optional<double> sought_;  // The target of a seek that has not finished.
   double engine_position_ = 0;    // The target of the last seek.
 
+  bool has_device_ = false;
   bool has_complained_ = false;
-  bool has_ended_ = false;
-  std::vector<Failure> failures_;
+  int loads_ = 0;
+  std::vector<Report> reports_;
 };
 
 }  // namespace host::media

@@ -8,9 +8,18 @@ namespace host::media {
 class PlayerListener {
  public:
   virtual ~PlayerListener() = default;
+  // Nothing follows the file.
   virtual void player_did_reach_end() = 0;
+  // The file that follows has begun and is now the loaded one.
+  virtual void player_did_continue() {}
   virtual void player_did_fail(const std::string& path, const std::string& reason) = 0;
+  // The device that was playing is no longer there.
+  virtual void player_did_lose_device() {}
 };
+
+// Plays songs as loud as each other, by their tags: each by its own loudness, or by its album's. No
+// song is made so loud that it is clipped.
+enum class ReplayGain { off, track, album };
 
 // The playback engine's own state, for checks that music really plays.
 struct EngineState {
@@ -28,8 +37,11 @@ class Player {
   virtual void set_listener(PlayerListener* listener) = 0;
 
   // Replaces the file, at its start; the player keeps playing or stays paused as before. The
-  // listener is told of a file that cannot be played.
+  // listener is told of a file that cannot be played. Nothing follows the file.
   virtual void load(const std::string& path) = 0;
+  // Makes `path` follow the loaded file without a gap; empty for nothing. It is opened before the
+  // loaded file ends. A player that cannot continue by itself reports the end as usual.
+  virtual void follow_with(const std::string& path) = 0;
   virtual void play() = 0;
   virtual void pause() = 0;
   // Unloads the file and pauses.
@@ -38,6 +50,8 @@ class Player {
   virtual void seek(double seconds) = 0;
   // From 0 to 1.
   virtual void set_volume(double volume) = 0;
+
+  virtual void set_replay_gain(ReplayGain gain) = 0;
 
   virtual double volume() const = 0;
   virtual double position() const = 0;

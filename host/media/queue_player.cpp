@@ -17,6 +17,13 @@ void log_skipped(const std::string& first_refusal, std::size_t songs) {
   }
 }
 
+// No song comes before the first, so a search backwards that found no playable song turns around
+// and ends at the song where it started.
+std::optional<std::uint64_t> step(PlayQueue& queue, bool& backwards) {
+  if (queue.index() == 0u) backwards = false;
+  return backwards ? queue.previous() : queue.next();
+}
+
 }  // namespace
 
 QueuePlayer::QueuePlayer(Player& player, FileOf file_of)
@@ -29,6 +36,7 @@ QueuePlayer::~QueuePlayer() {
 }
 
 void QueuePlayer::set_queue(SongList ids) {
+  withdraw_next();
   queue_.set_tracks(std::move(ids));
   if (queue_.current() || !loaded_) return;
   // The playing song is not in the new queue, so it ends.
@@ -70,6 +78,7 @@ void QueuePlayer::pause() {
 
 void QueuePlayer::stop() {
   player_.stop();
+  next_.reset();
   loaded_.reset();
   set_state(PlaybackState::stopped);
 }
@@ -96,31 +105,60 @@ void QueuePlayer::player_did_fail(const std::string& path, const std::string& re
   next();
 }
 
-// No song comes before the first, so a search backwards that found no playable song turns around
-// and ends at the song where it started.
-std::optional<std::uint64_t> QueuePlayer::step(Direction& direction) {
-  if (direction == Direction::backwards && queue_.index() == 0u) direction = Direction::forwards;
-  return direction == Direction::forwards ? queue_.next() : queue_.previous();
+QueuePlayer::Playable QueuePlayer::find_playable(PlayQueue from, Direction direction) const {
+  Playable found;
+  bool backwards = direction == Direction::backwards;
+  for (auto id = from.current(); id; id = step(from, backwards)) {
+    SongFile file = file_of_(*id);
+    if (file.refusal.empty()) {
+      found.path = std::move(file.path);
+      break;
+    }
+    if (found.refused++ == 0) found.first_refusal = std::move(file.refusal);
+  }
+  found.queue = std::move(from);
+  return found;
+}
+
+void QueuePlayer::arrive(Playable playable) {
+  log_skipped(playable.first_refusal, playable.refused);
+  queue_ = std::move(playable.queue);
+  loaded_ = queue_.current();
 }
 
 void QueuePlayer::load_current(Direction direction) {
-  std::string first_refusal;
-  std::size_t refused = 0;
-  std::optional<std::string> path;
-  for (auto id = queue_.current(); id && !path;) {
-    SongFile file = file_of_(*id);
-    if (file.refusal.empty()) {
-      loaded_ = id;
-      path = std::move(file.path);
-    } else {
-      if (refused++ == 0) first_refusal = std::move(file.refusal);
-      id = step(direction);
-    }
-  }
-  log_skipped(first_refusal, refused);
-  if (!path) return finish_queue();
-  player_.load(*path);
+  next_.reset();
+  Playable playable = find_playable(queue_, direction);
+  const std::string path = playable.path;
+  arrive(std::move(playable));
+  if (!loaded_) return finish_queue();
+  player_.load(path);
   report_song_change();
+}
+
+void QueuePlayer::offer_next() {
+  if (next_ || !loaded_) return;
+  PlayQueue rest = queue_;
+  if (!rest.next()) return;
+  next_ = find_playable(std::move(rest), Direction::forwards);
+  player_.follow_with(next_->path);
+}
+
+void QueuePlayer::withdraw_next() {
+  if (!std::exchange(next_, std::nullopt)) return;
+  player_.follow_with({});
+}
+
+void QueuePlayer::player_did_continue() {
+  if (!next_) return;
+  arrive(*std::exchange(next_, std::nullopt));
+  report_song_change();
+}
+
+void QueuePlayer::player_did_lose_device() {
+  if (state_ != PlaybackState::playing) return;
+  log_warning("the sound device has gone: the music is paused");
+  pause();
 }
 
 void QueuePlayer::finish_queue() {

@@ -54,6 +54,10 @@ class QueuePlayer final : private PlayerListener {
   // From the first song, or the first playable one, starts it again.
   void previous();
   void restart() { player_.seek(0); }
+  // Lets the next playable song follow the current one without a gap. Call it when the current one
+  // is about to end; `withdraw_next` takes it back.
+  void offer_next();
+  void withdraw_next();
   void seek(double seconds) { player_.seek(seconds); }
 
   std::optional<std::uint64_t> current() const { return queue_.current(); }
@@ -66,12 +70,23 @@ class QueuePlayer final : private PlayerListener {
 
  private:
   void player_did_reach_end() override;
+  void player_did_continue() override;
   void player_did_fail(const std::string& path, const std::string& reason) override;
+  void player_did_lose_device() override;
 
   enum class Direction { forwards, backwards };
+  // A place in the queue with a song that can be played.
+  struct Playable {
+    PlayQueue queue;
+    std::string path;
+    // What was skipped on the way.
+    std::string first_refusal;
+    std::size_t refused = 0;
+  };
 
+  Playable find_playable(PlayQueue from, Direction direction) const;
+  void arrive(Playable playable);
   void load_current(Direction direction = Direction::forwards);
-  std::optional<std::uint64_t> step(Direction& direction);
   void set_state(PlaybackState state);
   void finish_queue();
   void report_song_change();
@@ -81,6 +96,7 @@ class QueuePlayer final : private PlayerListener {
   PlayQueue queue_;
   PlaybackState state_ = PlaybackState::stopped;
   std::optional<std::uint64_t> loaded_;
+  std::optional<Playable> next_;           // What the player continues with.
   std::optional<std::uint64_t> reported_;  // The song that was last reported.
 };
 

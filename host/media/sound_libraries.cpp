@@ -13,9 +13,11 @@ void ignore_error(const char*, int, const char*, int, const char*, ...) {}
 
 }  // namespace
 
-void quiet_sound_libraries() {
+void prepare_sound_libraries() {
   constexpr int keep_the_users_choice = 0;
   ::setenv("PIPEWIRE_DEBUG", "0", keep_the_users_choice);
+  ::setenv("PULSE_PROP_application.icon_name", "sonavue", keep_the_users_choice);
+  ::setenv("PIPEWIRE_PROPS", "{ application.icon-name = sonavue }", keep_the_users_choice);
   // The engine brings the library with it, or was built without it.
   using SetHandler = int (*)(ErrorHandler);
   const auto set_handler =

@@ -15,6 +15,9 @@ namespace {
 constexpr int kTurnOrder = 50;
 // Sums of times agree only up to rounding; a song must count as over when its end is checked.
 constexpr double kEndSlack = 1e-6;
+// How long before a song's end the next one is opened. Until then nothing has been read of it, and
+// a change of the queue costs nothing.
+constexpr double kOfferAhead = 5;
 // Makes each report differ from the previous one, far below anything that can be seen or heard.
 constexpr double kReportStep = 1e-6;
 constexpr std::uint32_t kReportSteps = 1000;
@@ -37,7 +40,11 @@ Playback::Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace
     : player_(std::move(player)), pace_(pace), queue_(*player_, std::move(file_of)) {
   queue_.on_state_change = [this](media::PlaybackState state) { state_changed(state); };
   queue_.on_song_change = [this] { song_changed(); };
-  watch_ = RunLoop::main().watch(player_->descriptor(), [this] { player_->pump(); });
+  watch_ = RunLoop::main().watch(player_->descriptor(), [this] {
+    player_->pump();
+    // The engine may have learned the song's length.
+    if (pace_ == media::PlayerPace::real) follow_end();
+  });
   if (pace_ == media::PlayerPace::stepped) {
     turn_ = RunLoop::main().add_turn_observer(kTurnOrder, [this] { player_->pump(); });
   }
@@ -53,6 +60,7 @@ Playback::~Playback() {
 void Playback::set_queue(media::SongList songs) {
   if (songs == queue().list()) return;
   queue_.set_queue(std::move(songs));
+  follow_end();
   changed();
 }
 
@@ -109,13 +117,23 @@ void Playback::song_changed() {
   });
 }
 
-// With a stepped clock nothing else would wake the loop when a song ends.
 void Playback::follow_end() {
-  if (pace_ != media::PlayerPace::stepped) return;
   RunLoop& loop = RunLoop::main();
   if (end_) loop.remove_timer(std::exchange(end_, 0));
-  if (state() != media::PlaybackState::playing || duration() <= 0) return;
+  const bool runs = state() == media::PlaybackState::playing && duration() > 0;
   const double rest = std::max(0.0, duration() - position());
+  const bool has_offer = runs && pace_ == media::PlayerPace::real && rest <= kOfferAhead;
+  if (has_offer) return queue_.offer_next();
+  queue_.withdraw_next();
+  if (!runs) return;
+  if (pace_ == media::PlayerPace::real) {
+    end_ = loop.add_timer(loop.now() + rest - kOfferAhead + kEndSlack, 0, [this] {
+      end_ = 0;
+      follow_end();
+    });
+    return;
+  }
+  // With a stepped clock nothing else would wake the loop when a song ends.
   end_ = loop.add_timer(loop.now() + rest + kEndSlack, 0, [this] {
     end_ = 0;
     player_->pump();

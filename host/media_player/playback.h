@@ -54,6 +54,8 @@ class Playback {
   /// Sets the volume, clamped to 0 and 1.
   void set_volume(double volume);
 
+  void set_replay_gain(media::ReplayGain gain) { player_->set_replay_gain(gain); }
+
   media::EngineState engine() { return player_->engine(); }
 
  private:
