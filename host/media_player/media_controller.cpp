@@ -72,6 +72,10 @@ void MediaController::system_volume_changed(objc::Object) {
       "SBMediaControllerVolumeDidChangeNotification"_ns, self, nil);
 }
 
+void MediaController::music_choices_changed() {
+  if (MediaService* service = MediaService::current()) service->choices_changed();
+}
+
 NSString MediaController::player_path() {
   const std::string path = engine().path;
   return path.empty() ? NSString() : make_string(path).autorelease();
@@ -100,6 +104,7 @@ void export_media_controller() {
       .method<&Controller::set_volume>("setVolume:")
       .method<&Controller::change_volume_by>("_changeVolumeBy:")
       .method<&Controller::system_volume_changed>("_systemVolumeChanged:")
+      .method<&Controller::music_choices_changed>("_musicChoicesChanged")
       .method<&Controller::player_path>("_playerPath")
       .method<&Controller::player_is_paused>("_playerIsPaused")
       .method<&Controller::player_position>("_playerPosition")

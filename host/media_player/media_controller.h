@@ -22,6 +22,7 @@ class MediaController : public objc::Implementation<MediaController, SBMediaCont
 
   /// The state that the playing engine itself reports, for the console to compare with what is
   /// shown. The path is nil when nothing is loaded; the position is in seconds.
+  void music_choices_changed();
   NSString player_path();
   BOOL player_is_paused();
   double player_position();

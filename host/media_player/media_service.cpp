@@ -64,6 +64,12 @@ MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> 
                        }}) {
   playback_.set_volume(kFirstVolume);
   playback_.on_change = [this] { save_playback_soon(); };
+  choices_changed();
+}
+
+void MediaService::choices_changed() {
+  choices_ = read_music_choices();
+  playback_.set_replay_gain(choices_.replay_gain);
 }
 
 MediaService::~MediaService() = default;

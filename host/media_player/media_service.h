@@ -9,6 +9,7 @@
 #include "host/media_player/item_store.h"
 #include "host/media_player/library_feed.h"
 #include "host/media_player/media_options.h"
+#include "host/media_player/music_choices.h"
 #include "host/media_player/playback.h"
 
 namespace host::media_player {
@@ -39,6 +40,10 @@ class MediaService {
   const media::Track* now_playing() const;
   MPMediaItem now_playing_item();
 
+  /// What the user has chosen in Settings; `choices_changed` reads it again.
+  const MusicChoices& choices() const { return choices_; }
+  void choices_changed();
+
   /// Plays or pauses. With nothing loaded it plays the queue, or the whole library when the queue
   /// is empty. Returns false when there is nothing to play.
   bool toggle();
@@ -60,6 +65,7 @@ class MediaService {
   std::optional<foundation::PropertyListFile> memory_;  // empty when nothing can be stored
   bool needs_saving_ = false;
   double next_save_ = 0;
+  MusicChoices choices_;
 };
 
 }  // namespace host::media_player

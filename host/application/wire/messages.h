@@ -163,9 +163,10 @@ enum class PlayerCommand : std::uint8_t {
   Toggle,
   Next,
   Previous,
-  Seek,       ///< To `value` seconds.
-  SetVolume,  ///< To `value`, 0 to 1.
-  Last = SetVolume,
+  Seek,         ///< To `value` seconds.
+  SetVolume,    ///< To `value`, 0 to 1.
+  ReadChoices,  ///< The user has changed the settings of music.
+  Last = ReadChoices,
 };
 
 struct SteerPlayer {

@@ -19,6 +19,7 @@ class PlayerRemote {
   void previous() { steer({PlayerCommand::Previous, 0, 0}); }
   void seek(double seconds) { steer({PlayerCommand::Seek, 0, seconds}); }
   void set_volume(double volume) { steer({PlayerCommand::SetVolume, 0, volume}); }
+  void read_choices() { steer({PlayerCommand::ReadChoices, 0, 0}); }
 
   /// Called after every change.
   std::function<void()> on_change;

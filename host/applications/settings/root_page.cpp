@@ -46,6 +46,8 @@ NSArray RootPage::specifiers() {
     rows.addObject(
         link(activator::to_ns(entry.label), entry.detail.c_str(), activator::row_icon(entry.icon)));
   rows.addObject(PSSpecifier::emptyGroupSpecifier());
+  rows.addObject(link("Music"_ns, "PrefsMusicController", row_icon(RowIcon::Music)));
+  rows.addObject(PSSpecifier::emptyGroupSpecifier());
   rows.addObject(link("About"_ns, "PrefsAboutController", row_icon(RowIcon::About)));
   self.setSpecifiers(rows);
   return rows;

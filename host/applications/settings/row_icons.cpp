@@ -44,6 +44,14 @@ void draw_sounds() {
   stroke_arc({13, kMiddle.y}, 8.5, kSpread);
 }
 
+/// Two quavers on one beam.
+void draw_music() {
+  UIBezierPath::bezierPathWithOvalInRect({6.5, 18, 5.5, 4.5}).fill();
+  UIBezierPath::bezierPathWithOvalInRect({16, 16, 5.5, 4.5}).fill();
+  path_through({{11.1, 20}, {11.1, 9}, {20.6, 7}, {20.6, 18}}).stroke();
+  path_through({{11.1, 8.2}, {20.6, 6.2}, {20.6, 9.4}, {11.1, 11.4}}).fill();
+}
+
 /// A flower: six petals around a centre.
 void draw_wallpaper() {
   constexpr int kPetals = 6;
@@ -83,6 +91,8 @@ Drawing drawing_of(RowIcon icon) {
   switch (icon) {
     case RowIcon::Sounds:
       return {255, 45, 85, &draw_sounds};
+    case RowIcon::Music:
+      return {255, 59, 48, &draw_music};
     case RowIcon::Wallpaper:
       return {84, 199, 252, &draw_wallpaper};
     case RowIcon::Gestures:

@@ -4,7 +4,7 @@
 
 namespace host::settings {
 
-enum class RowIcon { Sounds, Wallpaper, Gestures, About };
+enum class RowIcon { Sounds, Music, Wallpaper, Gestures, About };
 
 /// A white symbol on a rounded square, in the size of a row's icon.
 UIImage row_icon(RowIcon icon);

@@ -2,6 +2,7 @@
 
 #include "host/applications/program/player_remote.h"
 #include "host/applications/settings/about_page.h"
+#include "host/applications/settings/music_page.h"
 #include "host/applications/settings/root_page.h"
 #include "host/applications/settings/sounds_page.h"
 #include "host/applications/settings/volume_cell.h"
@@ -42,6 +43,7 @@ void export_settings_classes() {
   export_about_page();
   export_volume_cell();
   export_sounds_page();
+  export_music_page();
   export_wallpaper_page();
   objc::ClassBuilder("PreferencesAppController", "UIApplication")
       .state<SettingsApplication>()

@@ -90,6 +90,9 @@ void PlayerDesk::carry_out(const SteerPlayer& command) {
     case PlayerCommand::SetVolume:
       media.setVolume(static_cast<float>(std::clamp(command.value, 0.0, 1.0)));
       break;
+    case PlayerCommand::ReadChoices:
+      objc::send<void>(media, "_musicChoicesChanged"_sel);
+      break;
   }
   poll_soon();
 }

@@ -8,6 +8,7 @@
 #include "host/applications/loader/loader_entries.h"
 #include "host/applications/program/player_remote.h"
 #include "host/foundation/device_paths.h"
+#include "host/media_player/music_choices.h"
 #include "host/process/device_images.h"
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/common/wallpaper.h"
@@ -92,7 +93,7 @@ class SettingsTest : public PageTest {
 TEST_F(SettingsTest, TheRootListsThePhonesOwnPages) {
   launch();
   EXPECT_STREQ(top().title().UTF8String(), "Settings");
-  EXPECT_THAT(rows(), ::testing::ElementsAre("Sounds", "Wallpaper", "Gestures", "About"));
+  EXPECT_THAT(rows(), ::testing::ElementsAre("Sounds", "Wallpaper", "Gestures", "Music", "About"));
   const auto list = objc::cast<PSListController>(top());
   for (const UITableViewCell cell : list.table().visibleCells().of<UITableViewCell>())
     EXPECT_TRUE(cell.imageView().image());
@@ -104,8 +105,8 @@ TEST_F(SettingsTest, ExtensionsAddRowsThatOpenTheirPages) {
   write_entry("a.plist", text("label", "Ant") + text("detail", "TestSettingsPane") +
                              text("bundle", "Ant") + text("icon", "icon.png"));
   launch();
-  EXPECT_THAT(rows(),
-              ::testing::ElementsAre("Sounds", "Wallpaper", "Gestures", "Ant", "Zebra", "About"));
+  EXPECT_THAT(rows(), ::testing::ElementsAre("Sounds", "Wallpaper", "Gestures", "Ant", "Zebra",
+                                             "Music", "About"));
   open("Zebra");
   EXPECT_TRUE(top().isKindOfClass(objc_getClass("TestSettingsPane")));
   EXPECT_STREQ(top().title().UTF8String(), "Zebra");
@@ -120,7 +121,7 @@ TEST_F(SettingsTest, DamagedEntriesAreSkippedAndLogged) {
   const media_tests::CapturedLog log;
   launch();
   EXPECT_THAT(rows(), ::testing::Contains("Good"));
-  EXPECT_EQ(rows().size(), 5u);
+  EXPECT_EQ(rows().size(), 6u);
   EXPECT_EQ(log.count("is left out of the settings"), 3);
   EXPECT_EQ(log.count("notes.txt"), 0);
 }
@@ -156,6 +157,43 @@ TEST_F(SettingsTest, TheVolumeSliderFollowsTheFingerAndTheButtons) {
   ASSERT_FALSE(volumes.empty());
   EXPECT_NEAR(volumes.back(), 0.5 + 60.0 / (375 - 2 * 47 - 26), 0.02);
   EXPECT_EQ(navigation().viewControllers().count(), 2u) << "no page was taken away meanwhile";
+}
+
+TEST_F(SettingsTest, MusicIsPlayedAsChosen) {
+  using media_player::MusicChoices;
+  int told = 0;
+  PlayerRemote::shared().send = [&](const SteerPlayer& command) {
+    told += command.command == application::PlayerCommand::ReadChoices;
+  };
+  launch();
+  open("Music");
+  photograph("settings-music", clock.now());
+  EXPECT_EQ(media_player::read_music_choices(), MusicChoices());
+  open("ReplayGain");
+  photograph("settings-replay-gain", clock.now());
+  open("Album");
+  EXPECT_EQ(media_player::read_music_choices().replay_gain, media::ReplayGain::album);
+  EXPECT_EQ(told, 1);
+  tap(kBack);
+  advance(1);
+  const UITableViewCell row = objc::cast<PSListController>(top()).table().cellForRowAtIndexPath(
+      NSIndexPath::indexPathForRow(0, 1));
+  tap(row.accessoryView().convertPointToView({20, 15}, nil));
+  advance(1);
+  EXPECT_EQ(media_player::read_music_choices(), (MusicChoices{media::ReplayGain::album, true}));
+  EXPECT_EQ(told, 2);
+}
+
+TEST_F(SettingsTest, ChoicesThatMakeNoSenseAreThoseOfANewPhone) {
+  const std::string file = "/var/mobile/Library/Preferences/com.apple.mobileipod.plist";
+  for (const char* entries :
+       {"<key>ReplayGain</key><string>loud</string>", "<key>ReplayGain</key><integer>2</integer>",
+        "<key>AnnouncesSongs</key><string>yes</string>"}) {
+    write(file, std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">"
+                            "<dict>") +
+                    entries + "</dict></plist>\n");
+    EXPECT_EQ(media_player::read_music_choices(), media_player::MusicChoices()) << entries;
+  }
 }
 
 TEST_F(SettingsTest, AWallpaperIsChosenByATapAndKept) {
