@@ -4,25 +4,11 @@
 
 #include <algorithm>
 
+#include "host/basics/printable.h"
 #include "host/basics/utf8.h"
 
 namespace host {
 namespace {
-
-struct Range {
-  char32_t first;
-  char32_t last;
-};
-
-// Control characters, marks of the writing direction, separators of lines and paragraphs, and
-// writing directions that are embedded or isolated.
-constexpr Range kUnprintable[] = {
-    {0x00, 0x1f}, {0x7f, 0x9f}, {0x200e, 0x200f}, {0x2028, 0x202e}, {0x2066, 0x2069}};
-
-bool is_unprintable(char32_t code) {
-  return std::ranges::any_of(
-      kUnprintable, [code](Range range) { return code >= range.first && code <= range.last; });
-}
 
 std::string escaped_byte(char32_t byte) {
   return fmt::format("\\x{:02x}", static_cast<unsigned>(byte));

@@ -1,7 +1,8 @@
 #include "host/social/delivery/letter.h"
 
+#include "host/basics/percent.h"
 #include "host/social/delivery/addresses.h"
-#include "host/social/delivery/percent_encoding.h"
+#include "host/social/delivery/mail_lines.h"
 
 namespace host::social {
 namespace {

@@ -8,9 +8,10 @@
 #include <optional>
 
 #include "host/basics/descriptor.h"
+#include "host/basics/percent.h"
 #include "host/runtime/log.h"
 #include "host/social/delivery/configuration.h"
-#include "host/social/delivery/percent_encoding.h"
+#include "host/social/delivery/mail_lines.h"
 
 namespace host::social {
 namespace {

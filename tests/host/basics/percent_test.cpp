@@ -1,11 +1,10 @@
-#include "host/social/delivery/percent_encoding.h"
+#include "host/basics/percent.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using host::social::percent_encoded;
-using host::social::with_mail_line_ends;
+using host::percent_encoded;
 
 TEST(PercentEncoding, KeepsLettersDigitsAndFourMarks) {
   EXPECT_EQ(percent_encoded("AZaz09-._~"), "AZaz09-._~");
@@ -31,8 +30,11 @@ TEST(PercentEncoding, OfTenThousandCharactersLosesNone) {
   EXPECT_EQ(encoded.find_first_not_of("%23"), encoded.npos);
 }
 
-TEST(MailLineEnds, AreNormalisedToReturnAndLineFeed) {
-  EXPECT_EQ(with_mail_line_ends("a\nb\r\nc\rd\n\n"), "a\r\nb\r\nc\r\nd\r\n\r\n");
+TEST(FileAddress, KeepsTheSlashesAndEncodesTheRest) {
+  using host::file_address;
+  EXPECT_EQ(file_address("/home/u/So \"x\" #1?.flac"),
+            "file:///home/u/So%20%22x%22%20%231%3F.flac");
+  EXPECT_EQ(file_address("/m/caf\xe9"), "file:///m/caf%E9");
 }
 
 }  // namespace

@@ -5,9 +5,6 @@
 
 namespace host::social {
 
-/// Encodes every byte as `%XX`, except for letters, digits and `-._~`.
-std::string percent_encoded(std::string_view bytes);
-
 /// Converts all line ends to a carriage return and a line feed, as mail requires.
 std::string with_mail_line_ends(std::string_view text);
 
