@@ -38,6 +38,10 @@ std::vector<RunLoop::Id> ids_of(const Entries& entries) {
   return ids;
 }
 
+short wanted_events(bool waits_to_write) {
+  return waits_to_write ? POLLIN | POLLOUT : POLLIN;
+}
+
 }  // namespace
 
 RunLoop& RunLoop::main() {
@@ -66,6 +70,10 @@ void RunLoop::remove_timer(Id timer) {
 RunLoop::Id RunLoop::watch(int descriptor, Work work) {
   watches_.push_back({++last_id_, descriptor, std::move(work)});
   return last_id_;
+}
+
+void RunLoop::wait_to_write(Id watch, bool waits) {
+  if (Watch* known = find_entry(watches_, watch)) known->waits_to_write = waits;
 }
 
 void RunLoop::unwatch(Id watch) {
@@ -154,7 +162,7 @@ bool RunLoop::run_due_frame() {
 bool RunLoop::run_ready_descriptors(int timeout_milliseconds) {
   std::vector<pollfd> polled;
   for (const Watch& watch : watches_)
-    polled.push_back({watch.descriptor, POLLIN, 0});
+    polled.push_back({watch.descriptor, wanted_events(watch.waits_to_write), 0});
   if (polled.empty() && timeout_milliseconds == 0) return false;
   if (poll(polled.data(), polled.size(), timeout_milliseconds) <= 0) return false;
   const std::vector<Id> ids = ids_of(watches_);

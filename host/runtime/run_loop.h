@@ -40,6 +40,9 @@ class RunLoop {
 
   /// Runs `work` when the descriptor is readable (real clock: while waiting; stepped: each turn).
   Id watch(int descriptor, Work work);
+  /// Whether `work` also runs when the descriptor is writable. Only while there is something left
+  /// to write: a descriptor nearly always is, and the loop would not sleep.
+  void wait_to_write(Id watch, bool waits);
   void unwatch(Id watch);
 
   /// Runs `work` with the frame's time at every frame of the screen (60 per second of the clock)
@@ -78,6 +81,7 @@ class RunLoop {
     Id id;
     int descriptor;
     Work work;
+    bool waits_to_write = false;
   };
   struct FrameObserver {
     Id id;

@@ -1,6 +1,7 @@
 #include "host/runtime/run_loop.h"
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <string>
@@ -123,6 +124,39 @@ TEST_F(RunLoopTest, ADescriptorsWorkRunsWhenItIsReadable) {
   ASSERT_EQ(write(ends[1], "y", 1), 1);
   loop.run_ready();
   EXPECT_EQ(log.size(), 1u);
+  close(ends[0]);
+  close(ends[1]);
+}
+
+TEST_F(RunLoopTest, AWatchWaitsToWriteOnlyWhileItIsToldTo) {
+  int ends[2];
+  ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, ends), 0);
+  const auto write_all_it_takes = [&] {
+    const char bytes[4096] = {};
+    while (write(ends[0], bytes, sizeof bytes) > 0) {
+    }
+  };
+  int calls = 0;
+  const auto watch = loop.watch(ends[0], [&] {
+    ++calls;
+    write_all_it_takes();
+  });
+  loop.run_ready();
+  EXPECT_EQ(calls, 0) << "nothing can be read, and it does not wait to write";
+  loop.wait_to_write(watch, true);
+  loop.run_ready();
+  EXPECT_EQ(calls, 1) << "the first call leaves no room for another";
+  char bytes[4096];
+  while (read(ends[1], bytes, sizeof bytes) > 0) {
+  }
+  loop.run_ready();
+  EXPECT_EQ(calls, 2) << "the other end has made room";
+  while (read(ends[1], bytes, sizeof bytes) > 0) {
+  }
+  loop.wait_to_write(watch, false);
+  loop.run_ready();
+  EXPECT_EQ(calls, 2);
+  loop.unwatch(watch);
   close(ends[0]);
   close(ends[1]);
 }
