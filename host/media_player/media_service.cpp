@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <ranges>
+#include <span>
 #include <utility>
 
 #include "host/media/cloud_song.h"
@@ -63,7 +66,11 @@ MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> 
                          if (options_.on_progress) options_.on_progress(progress);
                        }}) {
   playback_.set_volume(kFirstVolume);
-  playback_.on_change = [this] { save_playback_soon(); };
+  playback_.on_change = [this] {
+    save_playback_soon();
+    tell_change();
+  };
+  playback_.on_jump = [this] { tell_jump(); };
   choices_changed();
 }
 
@@ -85,6 +92,7 @@ void MediaService::take(std::shared_ptr<const media::Library> library) {
   items_ = std::make_shared<ItemStore>(std::move(library));
   NSNotificationCenter::defaultCenter().postNotificationName(MPMediaLibraryDidChangeNotification,
                                                              nil, nil);
+  tell_change();
 }
 
 const media::Track* MediaService::now_playing() const {
@@ -102,9 +110,50 @@ bool MediaService::toggle() {
     playback_.pause();
     return true;
   }
+  return play();
+}
+
+bool MediaService::play() {
   if (playback_.queue().tracks().empty()) playback_.set_queue(items_->library().songs());
   playback_.play();
   return playback_.state() == media::PlaybackState::playing;
+}
+
+bool MediaService::is_playable(std::uint64_t id) const {
+  const media::Track* track = items_->library().find(id);
+  return track && !media::has_cloud_name(track->path);
+}
+
+bool MediaService::can_play() const {
+  const media::PlayQueue& queue = playback_.queue();
+  const media::SongList& songs = queue.tracks().empty() ? items_->library().songs() : queue.list();
+  const auto rest = std::span(*songs).subspan(queue.index().value_or(0));
+  return std::ranges::any_of(rest, [this](std::uint64_t id) { return is_playable(id); });
+}
+
+bool MediaService::can_go_next() const {
+  const media::PlayQueue& queue = playback_.queue();
+  if (!queue.index()) return false;
+  const auto later = queue.tracks().subspan(*queue.index() + 1);
+  return std::ranges::any_of(later, [this](std::uint64_t id) { return is_playable(id); });
+}
+
+bool MediaService::can_go_previous() const {
+  const media::PlayQueue& queue = playback_.queue();
+  const auto earlier = queue.tracks().first(queue.index().value_or(0));
+  const auto nearest_first = std::views::reverse(earlier);
+  return std::ranges::any_of(nearest_first, [this](std::uint64_t id) { return is_playable(id); });
+}
+
+// An observer may remove itself.
+void MediaService::tell_change() {
+  for (MediaObserver* observer : std::vector(observers_))
+    observer->media_did_change();
+}
+
+void MediaService::tell_jump() {
+  for (MediaObserver* observer : std::vector(observers_))
+    observer->media_did_jump();
 }
 
 void MediaService::restore_playback() {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/foundation/property_list_file.h"
 #include "host/media_player/artwork_images.h"
@@ -13,6 +14,16 @@
 #include "host/media_player/playback.h"
 
 namespace host::media_player {
+
+/// Is told what the music of the process does, from inside the call that does it.
+class MediaObserver {
+ public:
+  virtual ~MediaObserver() = default;
+  /// Something may have changed: the library, the queue, the song, its state, place or volume.
+  virtual void media_did_change() = 0;
+  /// After that, when the song goes on at another place (`Playback::on_jump`).
+  virtual void media_did_jump() = 0;
+};
 
 /// The music of a process: the library, the player and the covers behind the system's media
 /// classes. The process that plays starts it once, on its main loop; without it the classes show an
@@ -44,15 +55,29 @@ class MediaService {
   const MusicChoices& choices() const { return choices_; }
   void choices_changed();
 
-  /// Plays or pauses. With nothing loaded it plays the queue, or the whole library when the queue
-  /// is empty. Returns false when there is nothing to play.
+  /// With nothing loaded it plays the queue, or the whole library when the queue is empty. Returns
+  /// false when there is nothing to play.
+  bool play();
+  /// Plays or pauses; returns the same.
   bool toggle();
+  /// Whether `play` finds a song, and whether the queue has a song after the present one, or before
+  /// it, that can be played.
+  bool can_play() const;
+  bool can_go_next() const;
+  bool can_go_previous() const;
+
+  /// The observer must outlive the service, or be removed.
+  void add_observer(MediaObserver& observer) { observers_.push_back(&observer); }
+  void remove_observer(MediaObserver& observer) { std::erase(observers_, &observer); }
 
  private:
   MediaService(MediaOptions options, std::unique_ptr<media::Player> player);
 
   void take(std::shared_ptr<const media::Library> library);
   media::SongFile file_of(std::uint64_t id) const;
+  bool is_playable(std::uint64_t id) const;
+  void tell_change();
+  void tell_jump();
   void restore_playback();
   void save_playback_soon();
   void save_playback();
@@ -63,6 +88,7 @@ class MediaService {
   Playback playback_;
   LibraryFeed feed_;
   std::optional<foundation::PropertyListFile> memory_;  // empty when nothing can be stored
+  std::vector<MediaObserver*> observers_;
   bool needs_saving_ = false;
   double next_save_ = 0;
   MusicChoices choices_;

@@ -65,25 +65,28 @@ void Playback::set_queue(media::SongList songs) {
 }
 
 bool Playback::set_current(std::uint64_t id) {
+  const auto before = song();
   if (!queue_.set_current(id)) return false;
-  report();
+  report_jump_within(before);
   return true;
 }
 
 bool Playback::resume_paused(std::uint64_t id, double seconds) {
+  const auto before = song();
   if (!queue_.resume_paused(id, seconds)) return false;
-  report();
+  report_jump_within(before);
   return true;
 }
 
 void Playback::previous() {
+  const auto before = song();
   queue_.previous();
-  report();
+  report_jump_within(before);
 }
 
 void Playback::seek(double seconds) {
   queue_.seek(seconds);
-  report();
+  report_jump_within(song());
 }
 
 void Playback::set_volume(double volume) {
@@ -99,6 +102,11 @@ void Playback::report() {
   reported_elapsed_ = song() ? position() + (reports_ + 1) * kReportStep : 0;
   follow_end();
   changed();
+}
+
+void Playback::report_jump_within(std::optional<std::uint64_t> song_before) {
+  report();
+  if (song() && song() == song_before && on_jump) on_jump();
 }
 
 void Playback::state_changed(media::PlaybackState state) {

@@ -24,6 +24,9 @@ class Playback {
 
   /// Called after a change of queue, song, state, position or volume.
   std::function<void()> on_change;
+  /// Called after such a change when the loaded song goes on at another place: it was sought, or
+  /// begins again. A song that follows another begins at its start without this.
+  std::function<void()> on_jump;
 
   void set_queue(media::SongList songs);
   bool set_current(std::uint64_t id);
@@ -63,6 +66,7 @@ class Playback {
   void state_changed(media::PlaybackState state);
   void song_changed();
   void follow_end();
+  void report_jump_within(std::optional<std::uint64_t> song_before);
   void changed() const {
     if (on_change) on_change();
   }
