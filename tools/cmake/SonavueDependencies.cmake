@@ -23,6 +23,7 @@ pkg_check_modules(sdl2 REQUIRED IMPORTED_TARGET sdl2)
 pkg_check_modules(taglib REQUIRED IMPORTED_TARGET taglib)
 pkg_check_modules(mpv REQUIRED IMPORTED_TARGET mpv)
 pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
+pkg_check_modules(libsystemd REQUIRED IMPORTED_TARGET libsystemd)
 pkg_check_modules(libffi REQUIRED IMPORTED_TARGET libffi)
 
 find_library(SONAVUE_LIBYUV yuv REQUIRED)
