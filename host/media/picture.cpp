@@ -2,6 +2,7 @@
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <libyuv/convert_argb.h>
+#include <libyuv/convert_from_argb.h>
 
 #include <algorithm>
 #include <cmath>
@@ -115,6 +116,17 @@ bool is_opaque_png(std::span<const std::uint8_t> bytes) {
   return false;
 }
 
+std::vector<std::uint8_t> jpeg_from(GdkPixbuf* pixbuf) {
+  gchar* buffer = nullptr;
+  gsize size = 0;
+  if (!gdk_pixbuf_save_to_buffer(pixbuf, &buffer, &size, "jpeg", nullptr, "quality", cover_quality,
+                                 nullptr)) {
+    return {};
+  }
+  const std::unique_ptr<gchar, decltype(&g_free)> owned{buffer, &g_free};
+  return {buffer, buffer + size};
+}
+
 }  // namespace
 
 PictureSize fitted_size(int width, int height, int longest_side) {
@@ -183,18 +195,20 @@ std::optional<Picture> decode_picture(std::span<const std::uint8_t> bytes, int l
   return picture_from(scaled.get());
 }
 
+std::vector<std::uint8_t> jpeg_of(const Picture& picture) {
+  const PixbufRef pixbuf{
+      gdk_pixbuf_new(GDK_COLORSPACE_RGB, FALSE, 8, picture.width, picture.height)};
+  if (!pixbuf) return {};
+  libyuv::ARGBToRAW(reinterpret_cast<const std::uint8_t*>(picture.pixels.data()), picture.width * 4,
+                    gdk_pixbuf_get_pixels(pixbuf.get()), gdk_pixbuf_get_rowstride(pixbuf.get()),
+                    picture.width, picture.height);
+  return jpeg_from(pixbuf.get());
+}
+
 std::vector<std::uint8_t> jpeg_from_file(const std::string& path, int longest_side) {
   const PixbufRef pixbuf{
       gdk_pixbuf_new_from_file_at_scale(path.c_str(), longest_side, longest_side, TRUE, nullptr)};
-  if (!pixbuf) return {};
-  gchar* buffer = nullptr;
-  gsize size = 0;
-  if (!gdk_pixbuf_save_to_buffer(pixbuf.get(), &buffer, &size, "jpeg", nullptr, "quality",
-                                 cover_quality, nullptr)) {
-    return {};
-  }
-  const std::unique_ptr<gchar, decltype(&g_free)> owned{buffer, &g_free};
-  return {buffer, buffer + size};
+  return pixbuf ? jpeg_from(pixbuf.get()) : std::vector<std::uint8_t>{};
 }
 
 }  // namespace host::media

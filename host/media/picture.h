@@ -42,6 +42,9 @@ PictureHeader read_picture_header(std::span<const std::uint8_t> bytes);
 // The same for a regular file; reads only its beginning.
 PictureHeader read_picture_file_header(const std::string& path);
 
+// The picture as JPEG bytes, on black where it is transparent; empty when there is no memory.
+std::vector<std::uint8_t> jpeg_of(const Picture& picture);
+
 // A picture file as JPEG bytes, scaled down to `longest_side`; empty when it cannot be read.
 std::vector<std::uint8_t> jpeg_from_file(const std::string& path, int longest_side);
 

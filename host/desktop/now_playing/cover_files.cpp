@@ -1,0 +1,95 @@
+#include "host/desktop/now_playing/cover_files.h"
+
+#include <fmt/format.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+#include <vector>
+
+#include "host/files/folder.h"
+#include "host/media/picture.h"
+#include "host/runtime/log.h"
+
+namespace host::desktop {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool is_there(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+}
+
+}  // namespace
+
+CoverFiles::~CoverFiles() {
+  if (watch_) loop_.unwatch(watch_);
+}
+
+std::string CoverFiles::path_of(std::uint64_t key) const {
+  return fmt::format("{}/{:016x}.jpg", folder_, key);
+}
+
+std::optional<std::string> CoverFiles::file_of(const media::CoverFile& cover) {
+  if (cover.key == 0 || broken_.contains(cover.key)) return std::nullopt;
+  std::string path = path_of(cover.key);
+  if (is_there(path)) return path;
+  if (!is_coming(cover)) request(cover);
+  return std::nullopt;
+}
+
+void CoverFiles::request(const media::CoverFile& cover) {
+  if (!watch_) watch_ = loop_.watch(decoder_.descriptor(), [this] { receive(); });
+  coming_.insert(cover.key);
+  decoder_.request({cover, kLongestSide});
+}
+
+void CoverFiles::receive() {
+  while (const auto decoded = decoder_.take()) {
+    const std::uint64_t key = decoded->request.cover.key;
+    coming_.erase(key);
+    if (!decoded->picture || !write(key, *decoded->picture)) broken_.insert(key);
+    if (on_ready) on_ready();
+  }
+}
+
+/// A cache is not flushed: what a power failure takes of it is made again.
+bool CoverFiles::write(std::uint64_t key, const media::Picture& picture) {
+  const std::vector<std::uint8_t> bytes = media::jpeg_of(picture);
+  std::error_code error;
+  fs::create_directories(folder_, error);
+  const std::string path = path_of(key);
+  const std::string unfinished = path + ".new";
+  std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
+  file.write(reinterpret_cast<const char*>(bytes.data()),
+             static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!bytes.empty() && file && std::rename(unfinished.c_str(), path.c_str()) == 0) {
+    remove_oldest();
+    return true;
+  }
+  std::remove(unfinished.c_str());
+  if (!std::exchange(has_complained_, true))
+    spdlog::warn("covers cannot be written to {}: other programs show songs without them", folder_);
+  return false;
+}
+
+void CoverFiles::remove_oldest() const {
+  std::error_code error;
+  std::vector<fs::path> files = files::paths_in(folder_, error);
+  if (files.size() <= kMostFiles) return;
+  const auto age = [](const fs::path& file) {
+    std::error_code ignored;
+    return fs::last_write_time(file, ignored);
+  };
+  std::ranges::sort(files, {}, age);
+  files.resize(files.size() - kMostFiles);
+  for (const fs::path& file : files)
+    fs::remove(file, error);
+}
+
+}  // namespace host::desktop
