@@ -36,6 +36,7 @@ class DesktopTest : public MediaPlayerTest {
     loop.run_ready();
   }
 
+  Variable no_system_bus{"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus"};
   PrivateBus daemon;
   desktop::Bus bus{loop, desktop::Bus::Kind::kSession};
   std::unique_ptr<desktop::NowPlaying> now_playing;

@@ -107,9 +107,7 @@ std::string next_value(sd_bus_message* message) {
 
 }  // namespace
 
-PrivateBus::PrivateBus()
-    : session_("DBUS_SESSION_BUS_ADDRESS", address()),
-      system_("DBUS_SYSTEM_BUS_ADDRESS", address()) {
+PrivateBus::PrivateBus(const char* variable) : variable_(variable, address()) {
   media_tests::write_bytes(folder_ / "bus.conf",
                            fmt::format(fmt::runtime(kConfiguration), address()));
   start();

@@ -16,11 +16,11 @@
 
 namespace host::test {
 
-/// A bus of its own for one test, which is the session's bus and the system's for this process and
+/// A bus of its own for one test, which is the session's bus, or the system's, for this process and
 /// its children. It starts no services. The daemon can be killed and started again.
 class PrivateBus {
  public:
-  PrivateBus();
+  explicit PrivateBus(const char* variable = "DBUS_SESSION_BUS_ADDRESS");
   ~PrivateBus() { kill(); }
   PrivateBus(const PrivateBus&) = delete;
   PrivateBus& operator=(const PrivateBus&) = delete;
@@ -32,8 +32,7 @@ class PrivateBus {
 
  private:
   media_tests::TemporaryFolder folder_;
-  Variable session_;
-  Variable system_;
+  Variable variable_;
   pid_t daemon_ = 0;
 };
 

@@ -196,6 +196,12 @@ SlotRef Bus::request_name(const std::string& wanted, OnAnswer on_answer) {
   return deliver_to(with_answer(std::move(on_answer)), start);
 }
 
+void Bus::release_name(const std::string& held) {
+  if (!is_open()) return;
+  sd_bus_release_name_async(connection_.get(), nullptr, held.c_str(), nullptr, nullptr);
+  arm();
+}
+
 SlotRef Bus::on_signal(const char* service, const char* interface, const char* signal,
                        OnMessage on_message) {
   const auto start = [&](sd_bus_slot** slot, void* work) {

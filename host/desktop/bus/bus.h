@@ -77,6 +77,7 @@ class Bus {
   /// The same without interest in the answer.
   void send(const Method& method, const Fill& fill);
   [[nodiscard]] SlotRef request_name(const std::string& name, OnAnswer on_answer);
+  void release_name(const std::string& name);
   /// Receives the signals of this interface that the service sends.
   [[nodiscard]] SlotRef on_signal(const char* service, const char* interface, const char* name,
                                   OnMessage on_message);

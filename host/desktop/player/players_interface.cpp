@@ -41,6 +41,7 @@ PlayersInterface::PlayersInterface(Bus& bus, NowPlaying& now_playing, Window win
 }
 
 PlayersInterface::~PlayersInterface() {
+  if (!name_.empty()) bus_.release_name(name_);
   bus_.remove_client(*this);
   now_playing_.remove_listener(*this);
 }
@@ -55,18 +56,23 @@ void PlayersInterface::bus_did_open() {
 void PlayersInterface::bus_did_close() {
   root_.reset();
   player_.reset();
-  name_.reset();
+  name_request_.reset();
+  name_.clear();
 }
 
 void PlayersInterface::ask_for_name(const std::string& name) {
-  name_ = bus_.request_name(name, [this, name](const Answer& answer) { take_name(name, answer); });
+  name_request_ =
+      bus_.request_name(name, [this, name](const Answer& answer) { take_name(name, answer); });
 }
 
 void PlayersInterface::take_name(const std::string& name, const Answer& answer) {
   std::uint32_t result = 0;
   const bool is_read =
       !answer.is_error() && sd_bus_message_read(answer.message(), "u", &result) > 0;
-  if (is_read && result == kIsOwner) return;
+  if (is_read && result == kIsOwner) {
+    name_ = name;
+    return;
+  }
   if (is_read && result == kIsTaken && name == kName)
     return ask_for_name(fmt::format("{}.instance{}", kName, getpid()));
   spdlog::warn("other programs cannot control the music: the name {} is not to be had: {}", name,

@@ -50,7 +50,8 @@ class PlayersInterface final : private BusClient, private NowPlayingListener {
   PlayerState told_;
   SlotRef root_;
   SlotRef player_;
-  SlotRef name_;
+  SlotRef name_request_;
+  std::string name_;  // that it has
 };
 
 }  // namespace host::desktop
