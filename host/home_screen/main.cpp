@@ -7,6 +7,7 @@
 #include "host/foundation/device_paths.h"
 #include "host/home_screen/console_phone.h"
 #include "host/home_screen/console_service.h"
+#include "host/home_screen/desktop_link.h"
 #include "host/home_screen/launch.h"
 #include "host/home_screen/lifeline.h"
 #include "host/home_screen/music.h"
@@ -54,12 +55,14 @@ struct Display {
   std::unique_ptr<launcher::WindowService> service;
   std::unique_ptr<launcher::WindowClipboard> clipboard;
   std::function<void()> raise;
+  std::function<bool()> is_in_front;
 };
 
 std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
                                     screen::Input& input) {
   if (options.headless)
-    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr, [] {}};
+    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr, [] {},
+                   [] { return false; }};
   const DeviceModel& device = current_device();
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
@@ -70,7 +73,16 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
   auto service = std::make_unique<launcher::WindowService>(loop, *window);
   auto clipboard = std::make_unique<launcher::WindowClipboard>(*window);
   auto raise = [&shown = *window] { shown.raise(); };
-  return Display{std::move(window), std::move(service), std::move(clipboard), std::move(raise)};
+  auto is_in_front = [&shown = *window] { return shown.is_in_front(); };
+  return Display{std::move(window), std::move(service), std::move(clipboard), std::move(raise),
+                 std::move(is_in_front)};
+}
+
+std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& options, RunLoop& loop,
+                                                    const Display& display) {
+  if (!options.desktop) return nullptr;
+  return launcher::DesktopLink::begin(loop, {options.headless ? nullptr : display.raise,
+                                             display.is_in_front, [&loop] { loop.stop(); }});
 }
 
 int run(const ProcessOptions& options) {
@@ -106,8 +118,10 @@ int run(const ProcessOptions& options) {
     service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
   // Stepped time passes only between two questions, so it says nothing about the loop.
   if (!options.stepped) lifeline.answer_questions([&display] { display->raise(); });
+  auto desktop = link_desktop(options, loop, *display);
   lifeline.begin();
   loop.run();
+  desktop.reset();
   lifeline.say(launcher::LifeSign::SwitchedOff);
   launcher::stop_music();
   return 0;

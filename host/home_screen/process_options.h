@@ -16,6 +16,7 @@ struct ProcessOptions {
   bool headless = false;
   bool blind = false;
   bool stepped = false;
+  bool desktop = false;    // takes part in the desktop's session
   bool safe_mode = false;  // no extensions
   int console_descriptor = -1;
   int lifeline_descriptor = -1;

@@ -124,6 +124,9 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   parser.add_flag("--console", options.console, "Read commands on standard input");
   parser.add_option("--script", options.script, "Run a file of commands, then end")
       ->check(check_script);
+  parser.add_flag("--desktop", options.desktop,
+                  "With --headless: take part in the desktop's session like a phone with a window: "
+                  "media keys, players' controls, no sleep while music plays");
   parser.add_option("--screenshots", options.screenshots, "Folder for screenshots");
   try {
     parser.parse(count, arguments);
@@ -163,6 +166,7 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
   if (options.headless) made.push_back("--headless");
   if (options.headless && options.blind) made.push_back("--blind");
   if (options.has_stepped_clock()) made.push_back("--stepped");
+  if (options.takes_part_in_desktop()) made.push_back("--desktop");
   return made;
 }
 

@@ -19,9 +19,12 @@ struct Options {
   bool headless = false;
   bool blind = false;
   bool console = false;
+  bool desktop = false;
 
   /// Without a window, the clock moves only when the console steps it.
   bool has_stepped_clock() const { return headless && (console || !script.empty()); }
+  /// A phone that its user does not see leaves the desktop alone, unless it is told otherwise.
+  bool takes_part_in_desktop() const { return desktop || !headless; }
 };
 
 /// The text to print and the exit status, when no phone is started.

@@ -186,6 +186,10 @@ void Window::raise() {
   SDL_RaiseWindow(window_.get());
 }
 
+bool Window::is_in_front() const {
+  return (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_INPUT_FOCUS) != 0;
+}
+
 int Window::event_descriptor() const {
   return screen::event_descriptor(window_.get());
 }

@@ -30,6 +30,8 @@ class Window final : public Screen {
 
   /// Brings the window in front of the others of the desktop, even if it was minimized.
   void raise();
+  /// True while the user's keyboard belongs to it.
+  bool is_in_front() const;
 
   /// Forwards the user's actions since the last call to the input.
   void handle_events();

@@ -144,6 +144,19 @@ TEST(Options, TheClockIsSteppedOnlyUnderAConsoleOrScript) {
   EXPECT_FALSE(options.has_stepped_clock());
 }
 
+TEST(Options, OnlyPhonesThatAreSeenTakePartInTheDesktop) {
+  Options options;
+  const auto is_told = [&] {
+    const auto arguments = home_screen_arguments(options);
+    return std::ranges::find(arguments, "--desktop") != arguments.end();
+  };
+  EXPECT_TRUE(is_told());
+  options.headless = true;
+  EXPECT_FALSE(is_told());
+  options.desktop = true;
+  EXPECT_TRUE(is_told());
+}
+
 TEST(Options, TheDeviceIsInTheUsersDataFolder) {
   setenv("XDG_DATA_HOME", "/data", 1);
   EXPECT_EQ(default_device_root(), "/data/sonavue/device");
