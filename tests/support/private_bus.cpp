@@ -132,6 +132,15 @@ void PrivateBus::kill() {
   waitpid(std::exchange(daemon_, 0), nullptr, 0);
 }
 
+void PrivateBus::freeze() const {
+  ::kill(daemon_, SIGSTOP);
+  waitpid(daemon_, nullptr, WUNTRACED);
+}
+
+void PrivateBus::thaw() const {
+  ::kill(daemon_, SIGCONT);
+}
+
 bool run_until(RunLoop& loop, const std::function<bool()>& has_happened) {
   loop.run_ready();
   for (int waited = 0; !has_happened(); waited += kLookEvery) {

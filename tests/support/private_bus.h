@@ -28,6 +28,9 @@ class PrivateBus {
   /// Returns when the daemon takes connections.
   void start();
   void kill();
+  /// Keeps the daemon from reading and answering.
+  void freeze() const;
+  void thaw() const;
   std::string address() const { return "unix:path=" + folder_ / "bus"; }
 
  private:

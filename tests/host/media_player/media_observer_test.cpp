@@ -33,6 +33,9 @@ TEST_F(MediaObservers, AreToldOfJumpsWithinASongAndOfNoOthers) {
   player().play();
   advance(21);
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Delta") << "Charlie is over";
+  player().setNowPlayingItem(item("Bravo"));
+  media().changeTrack(-1);
+  EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Alpha");
   EXPECT_THAT(jumps_, testing::IsEmpty());
   player().setCurrentPlaybackTime(5);
   EXPECT_THAT(jumps_, testing::ElementsAre(5));
