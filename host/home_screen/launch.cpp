@@ -67,6 +67,7 @@ void launch_home_screen(const ProcessOptions& options) {
   configuration.has_stepped_clock = options.stepped;
   static SupervisedProcesses processes;
   configuration.process_keeper = &processes;
+  configuration.library_number = &music_library_number;
   springboard::configure(configuration);
   configure_social(options.headless);
   start_gesture_service();

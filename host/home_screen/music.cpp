@@ -61,11 +61,17 @@ void start_music(const ProcessOptions& options) {
   std::error_code ignored;
   if (!std::filesystem::exists(media.index_path, ignored))
     media.first_scan = media_player::FirstScan::kBeforeStart;
+  media.watches_folders = !options.headless;
   media.pace = options.stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   if (options.headless) media.audio_output = "null";
   media.on_progress = ProgressLines();
   if (const auto problem = media_player::MediaService::start(std::move(media)))
     spdlog::error("there is no music: {}", *problem);
+}
+
+std::uint64_t music_library_number() {
+  const auto* service = media_player::MediaService::current();
+  return service ? service->library_number() : 0;
 }
 
 void stop_music() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "host/home_screen/process_options.h"
 
 namespace host::launcher {
@@ -8,5 +10,8 @@ namespace host::launcher {
 /// also starts without music; the reason is logged.
 void start_music(const ProcessOptions& options);
 void stop_music();
+
+/// Changes with the songs of the phone; 0 when there is no music.
+std::uint64_t music_library_number();
 
 }  // namespace host::launcher

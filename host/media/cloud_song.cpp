@@ -19,7 +19,6 @@
 namespace host::media {
 namespace {
 
-constexpr std::string_view cloud_suffix = ".cloud.toml";
 constexpr std::size_t longest_entry_bytes = 64 << 10;
 constexpr double longest_entry_seconds = 7 * 24 * 3600.0;
 constexpr std::int64_t largest_entry_number = 9999;
@@ -141,10 +140,6 @@ TagReading read_text(const std::string& path, const std::string& text) {
 }
 
 }  // namespace
-
-bool has_cloud_name(std::string_view name) {
-  return name.size() > cloud_suffix.size() && name.ends_with(cloud_suffix);
-}
 
 TagReading read_cloud_song(const std::string& path) {
   struct stat status {};

@@ -24,8 +24,7 @@ namespace host::media {
 //                               folder's picture, as for any song
 //
 // The picture is read again only when the entry changes.
-bool has_cloud_name(std::string_view name);
-
+//
 // Reads any file without throwing. A file that is not TOML, or has a value of the wrong type, is
 // refused with the reason.
 TagReading read_cloud_song(const std::string& path);

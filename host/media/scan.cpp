@@ -24,14 +24,6 @@ namespace {
 constexpr std::size_t songs_per_transaction = 500;
 constexpr std::size_t files_per_report = 50;
 
-bool is_below(std::string_view path, std::span<const std::string> roots) {
-  for (const std::string& root : roots) {
-    const bool is_inside = path.starts_with(root) && path.size() > root.size();
-    if (is_inside && (root.ends_with('/') || path[root.size()] == '/')) return true;
-  }
-  return false;
-}
-
 bool has_vanished(const std::string& path) {
   struct stat status {};
   return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
@@ -43,28 +35,19 @@ enum class Fate : char { unseen, unchanged, replaced };
 class Scan {
  public:
   // The index is loaded while the first folders are walked; until then nothing else uses it.
-  Scan(Index& index, const ScanReport& report)
+  Scan(Index& index, const ScanReport& report, KeptByScans& kept)
       : index_(index),
         report_(report),
+        kept_(kept),
         loading_(std::async(std::launch::async, [this] { load_files(); })) {}
 
   ScanOutcome run(std::span<const std::string> roots, const std::stop_token& stop,
                   std::shared_ptr<const Library> remembered) {
-    const WalkVisitor visitor{
-        [&](WalkedFolder& folder) {
-          waiting_.push_back(std::move(folder));
-          if (is_loaded()) visit_waiting(stop);
-        },
-        [this](const std::string& path, const std::string& reason) {
-          ++progress_.unreadable_folders;
-          log_warning(fmt::format("the folder {} cannot be read: {}", path, reason));
-          unreadable_.push_back(path);
-        },
-        [](const std::string& path, const std::string& reason) {
-          log_warning(fmt::format("{} cannot be reached: {}; it is skipped", path, reason));
-        }};
-    walk_folders(roots, visitor, stop);
+    for (const std::string& root : roots)
+      roots_.insert(root);
+    walk(roots, stop);
     loading_.wait();
+    if (known_.empty()) progress_.to_see = waiting_songs();
     visit_waiting(stop);
     if (!stop.stop_requested()) forget_unseen();
     if (!remembered || !is_as_it_was(*remembered)) {
@@ -73,10 +56,47 @@ class Scan {
     }
     save();
     report_(progress_);
-    return {progress_, remembered ? std::move(remembered) : Library::build(found_)};
+    return {progress_, remembered ? std::move(remembered) : Library::build(found_),
+            std::move(left_out_)};
   }
 
  private:
+  void walk(std::span<const std::string> roots, const std::stop_token& stop) {
+    WalkVisitor visitor;
+    visitor.on_folder = [&](WalkedFolder& folder) {
+      waiting_.push_back(std::move(folder));
+      // A first scan counts the songs before it reads them.
+      if (is_loaded() && !known_.empty()) visit_waiting(stop);
+    };
+    visitor.on_unreadable = [this](const std::string& path, const std::string& reason) {
+      ++progress_.unreadable_folders;
+      complain(fmt::format("the folder {} cannot be read: {}", path, reason));
+      unreadable_.push_back(path);
+    };
+    visitor.on_unreachable = [this](const std::string& path, const std::string& reason) {
+      complain(fmt::format("{} cannot be reached: {}; it is skipped", path, reason));
+    };
+    visitor.on_left_out = [this](const std::string& suffix) { ++left_out_[suffix]; };
+    if (FolderWatch* watch = kept_.watch) {
+      watch->begin_round();
+      visitor.on_enter = [watch](const std::string& path) { watch->watch(path); };
+      visitor.on_name = [watch](const std::string& path) { watch->watch_name(path); };
+    }
+    walk_folders(roots, visitor, stop);
+    if (kept_.watch && !stop.stop_requested()) kept_.watch->end_round();
+  }
+
+  void complain(const std::string& line) {
+    if (kept_.complaints.insert(line).second) log_warning(line);
+  }
+
+  std::size_t waiting_songs() const {
+    std::size_t count = 0;
+    for (const WalkedFolder& folder : waiting_)
+      count += folder.songs.size();
+    return count;
+  }
+
   void load_files() {
     KnownFiles files = index_.load_files();
     known_ = std::move(files.songs);
@@ -95,6 +115,7 @@ class Scan {
   }
 
   void visit_waiting(const std::stop_token& stop) {
+    if (progress_.to_see > 0) report_(progress_);
     for (WalkedFolder& folder : waiting_)
       visit(folder, stop);
     waiting_.clear();
@@ -197,9 +218,14 @@ class Scan {
     ++progress_.read;
     TagReading reading = read_song(file.path);
     if (reading.has_broken_picture) complain_of_cover(file.path);
+    if (!reading.tags && has_vanished(file.path)) {
+      --progress_.seen;
+      changes_.forgotten.push_back(std::move(file.path));
+      return;
+    }
     if (!reading.tags) {
       ++progress_.skipped;
-      if (!reading.refusal.empty()) {
+      if (!reading.refusal.empty() && !roots_.contains(file.path)) {
         log_warning(fmt::format("{} {}; it is skipped", file.path, reading.refusal));
       }
       changes_.forgotten.push_back(file.path);
@@ -252,7 +278,7 @@ class Scan {
   void forget_unseen() {
     if (std::ranges::count(fates_, Fate::unseen) > 0) prepare_for_changes();
     const auto forget = [this](const std::string& path) {
-      if (!is_below(path, unreadable_)) changes_.forgotten.push_back(path);
+      if (!is_within(path, unreadable_)) changes_.forgotten.push_back(path);
     };
     for (std::size_t i = 0; i < known_.size(); ++i) {
       if (fates_[i] == Fate::unseen) forget(known_[i].path);
@@ -269,7 +295,10 @@ class Scan {
 
   Index& index_;
   const ScanReport& report_;
+  KeptByScans& kept_;
   ScanProgress progress_;
+  LeftOut left_out_;
+  std::unordered_set<std::string> roots_;
   std::vector<KnownFile> known_;
   std::vector<Fate> fates_;          // One for each of known_.
   std::vector<SongRecord> records_;  // The same, once they are loaded.
@@ -294,13 +323,36 @@ class Scan {
 std::shared_ptr<const Library> remembered_library(Index& index,
                                                   std::span<const std::string> roots) {
   std::vector<SongRecord> songs = index.load().songs;
-  std::erase_if(songs, [roots](const SongRecord& song) { return !is_below(song.path, roots); });
+  std::erase_if(songs, [roots](const SongRecord& song) { return !is_within(song.path, roots); });
   return Library::build(songs);
 }
 
 ScanOutcome scan_folders(Index& index, std::span<const std::string> roots, const ScanReport& report,
-                         std::stop_token stop, std::shared_ptr<const Library> remembered) {
-  return Scan{index, report}.run(roots, stop, std::move(remembered));
+                         std::stop_token stop, std::shared_ptr<const Library> remembered,
+                         KeptByScans* kept) {
+  KeptByScans own;
+  return Scan{index, report, kept ? *kept : own}.run(roots, stop, std::move(remembered));
+}
+
+bool is_within(std::string_view path, std::span<const std::string> roots) {
+  return std::ranges::any_of(roots, [path](const std::string& root) {
+    if (!path.starts_with(root)) return false;
+    return path.size() == root.size() || root.ends_with('/') || path[root.size()] == '/';
+  });
+}
+
+std::string line_of(const LeftOut& left_out) {
+  std::vector<std::pair<std::string, std::size_t>> kinds{left_out.begin(), left_out.end()};
+  std::ranges::stable_sort(kinds, std::greater{}, [](const auto& kind) { return kind.second; });
+  std::size_t files = 0;
+  std::string list;
+  for (const auto& [suffix, count] : kinds) {
+    files += count;
+    list += fmt::format("{}{} {}", list.empty() ? "" : ", ", count, suffix);
+  }
+  if (files == 0) return {};
+  return fmt::format("{} left out: {}",
+                     files == 1 ? "1 file is" : fmt::format("{} files are", files), list);
 }
 
 }  // namespace host::media

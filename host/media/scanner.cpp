@@ -3,14 +3,27 @@
 #include <fmt/core.h>
 #include <malloc.h>
 
+#include <chrono>
+
 #include "host/media/log.h"
+#include "host/media/scan_pace.h"
 
 namespace host::media {
 
-void Scanner::start(std::vector<std::string> roots) {
-  thread_ = {};  // Stops and joins: two scans must not share the index.
-  thread_ = std::jthread{
-      [this, roots = std::move(roots)](const std::stop_token& stop) { run(roots, stop); }};
+Scanner::~Scanner() {
+  thread_.request_stop();
+  wake_.raise();
+}
+
+std::uint64_t Scanner::request(std::vector<std::string> roots) {
+  const std::lock_guard lock{mutex_};
+  latest_.roots = std::move(roots);
+  ++latest_.number;
+  wake_.raise();
+  if (!thread_.joinable()) {
+    thread_ = std::jthread{[this](const std::stop_token& stop) { run(stop); }};
+  }
+  return latest_.number;
 }
 
 std::optional<ScanUpdate> Scanner::take_update() {
@@ -22,24 +35,61 @@ std::optional<ScanUpdate> Scanner::take_update() {
   return update;
 }
 
-void Scanner::run(const std::vector<std::string>& roots, const std::stop_token& stop) {
-  Index index{index_path_};
-  const auto remembered = remembered_library(index, roots);
-  publish({ScanStage::remembered, {}, remembered});
-  ScanOutcome outcome = scan_folders(
-      index, roots,
-      [this](const ScanProgress& progress) {
-        publish({ScanStage::reading, progress, nullptr});
-      },
-      stop, remembered);
+Scanner::Request Scanner::latest_request() {
+  const std::lock_guard lock{mutex_};
+  wake_.clear();
+  return latest_;
+}
+
+void Scanner::run(const std::stop_token& stop) {
+  if (work_ == Work::watch) kept_.watch = &watch_.emplace();
+  ScanPace pace{wake_.descriptor(), kept_.watch};
+  // An index in memory is all that there is of it; one on the disk is closed between scans.
+  std::optional<Index> index;
+  while (!stop.stop_requested()) {
+    using std::chrono::steady_clock;
+    const auto start = steady_clock::now();
+    if (!index) index.emplace(index_path_);
+    if (work_ == Work::load) {
+      load(*index);
+    } else {
+      scan(*index, stop);
+    }
+    if (index->store() == IndexStore::on_disk) index.reset();
+    // The library now holds the only copy of what was read; return the rest to the system.
+    ::malloc_trim(0);
+    if (stop.stop_requested()) return;
+    pace.wait(std::chrono::duration_cast<ScanPace::Milliseconds>(steady_clock::now() - start));
+  }
+}
+
+void Scanner::load(Index& index) {
+  const Request request = latest_request();
+  publish({ScanStage::finished, {}, Library::build(index.load().songs), {}, request.number});
+}
+
+void Scanner::scan(Index& index, const std::stop_token& stop) {
+  const Request request = latest_request();
+  const bool is_first = !library_;
+  if (is_first) {
+    library_ = remembered_library(index, request.roots);
+    publish({ScanStage::remembered, {}, library_, {}, 0});
+  }
+  // Only the first scan takes long enough to be followed.
+  const ScanReport report = [this, is_first](const ScanProgress& progress) {
+    if (is_first) publish({ScanStage::reading, progress, nullptr, {}, 0});
+  };
+  ScanOutcome outcome = scan_folders(index, request.roots, report, stop, library_, &kept_);
   if (stop.stop_requested()) return;
   const ScanProgress& counts = outcome.progress;
-  log_note(fmt::format("{} songs; {} files read, {} skipped, {} folders unreadable",
-                       outcome.library->tracks().size(), counts.read, counts.skipped,
-                       counts.unreadable_folders));
-  publish({ScanStage::finished, counts, std::move(outcome.library)});
-  // The library now holds the only copy of what was read; return the rest to the system.
-  ::malloc_trim(0);
+  if (is_first || library_ != outcome.library) {
+    log_note(fmt::format("{} songs; {} files read, {} skipped, {} folders unreadable",
+                         outcome.library->tracks().size(), counts.read, counts.skipped,
+                         counts.unreadable_folders));
+  }
+  library_ = outcome.library;
+  publish({ScanStage::finished, counts, std::move(outcome.library), std::move(outcome.left_out),
+           request.number});
 }
 
 void Scanner::publish(ScanUpdate update) {

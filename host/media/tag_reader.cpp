@@ -13,7 +13,6 @@
 #include <xiphcomment.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <exception>
 #include <filesystem>
@@ -28,7 +27,6 @@
 namespace host::media {
 namespace {
 
-constexpr std::array audio_suffixes = {".flac", ".mp3", ".ogg", ".oga", ".opus", ".m4a", ".wav"};
 constexpr std::size_t largest_picture_bytes = 32u << 20;
 constexpr double longest_file_seconds = 7 * 24 * 3600.0;
 
@@ -141,18 +139,6 @@ TagReading read_opened(const std::string& path) {
 }
 
 }  // namespace
-
-bool has_audio_name(std::string_view name) {
-  const auto dot = name.rfind('.');
-  if (dot == std::string_view::npos || dot == 0) return false;
-  const std::string_view suffix = name.substr(dot);
-  auto equals_suffix = [suffix](std::string_view known) {
-    return std::ranges::equal(suffix, known, [](char given, char expected) {
-      return (given >= 'A' && given <= 'Z' ? given + ('a' - 'A') : given) == expected;
-    });
-  };
-  return std::ranges::any_of(audio_suffixes, equals_suffix);
-}
 
 TagReading read_tags(const std::string& path) {
   if (auto reason = reason_not_to_open(path); !reason.empty())

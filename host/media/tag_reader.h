@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "host/media/song_name.h"
 #include "host/media/song_tags.h"
 
 namespace host::media {
@@ -16,9 +16,6 @@ struct TagReading {
   // The song names a picture that cannot be shown; it counts as having none.
   bool has_broken_picture = false;
 };
-
-// Whether a file of this name is worth opening: FLAC, MP3, Ogg Vorbis, Opus, M4A and WAV.
-bool has_audio_name(std::string_view name);
 
 // Reads any file without throwing. An audio file without a title gets the file's name as its title;
 // a file without audio is refused with the reason.

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
@@ -25,8 +26,18 @@ namespace {
 
 FirstScan first_scan_for(const MediaOptions& options) {
   const bool is_stepped = options.pace == media::PlayerPace::stepped;
-  const bool is_beside = options.first_scan == FirstScan::kBeside;
-  return is_stepped && is_beside ? FirstScan::kBeforeStart : options.first_scan;
+  const bool is_scanned = options.first_scan != FirstScan::kNever;
+  return is_stepped && is_scanned ? FirstScan::kBeforeStart : options.first_scan;
+}
+
+/// Removes the songs that a folder among the roots contains: no song is found twice.
+void remove_contained(std::vector<std::string>& roots) {
+  const std::vector<std::string> all = roots;
+  std::erase_if(roots, [&all](const std::string& root) {
+    return std::ranges::any_of(all, [&root](const std::string& other) {
+      return other != root && media::is_within(root, {&other, 1});
+    });
+  });
 }
 
 }  // namespace
@@ -36,6 +47,8 @@ LibraryFeed::LibraryFeed(const MediaOptions& options, Listener listener)
       demo_(options.demo),
       index_path_(options.index_path),
       first_scan_(first_scan_for(options)),
+      watches_folders_(options.watches_folders),
+      is_stepped_(options.pace == media::PlayerPace::stepped),
       listener_(std::move(listener)) {
   if (demo_) roots_.push_back(demo_->folder);
 }
@@ -47,17 +60,21 @@ LibraryFeed::~LibraryFeed() {
 
 void LibraryFeed::start() {
   if (first_scan_ == FirstScan::kNever) {
-    media::Index index{index_path_};
-    deliver(media::Library::build(index.load().songs));
-  } else if (first_scan_ == FirstScan::kBeforeStart) {
+    load_now();
+  } else if (scans_at_once()) {
     make_demo_now();
     scan_now();
   } else if (missing_demo()) {
-    deliver(media::Library::build({}));
+    if (first_scan_ == FirstScan::kBeside) deliver(media::Library::build({}));
     start_demo();
   } else {
     start_scan();
   }
+}
+
+void LibraryFeed::load_now() {
+  media::Index index{index_path_};
+  deliver(media::Library::build(index.load().songs));
 }
 
 const DemoMusic* LibraryFeed::missing_demo() const {
@@ -79,6 +96,7 @@ void LibraryFeed::scan_now() {
     report_files(MediaProgress::Stage::kReadingFiles, files);
   });
   deliver(std::move(outcome.library));
+  say_left_out(outcome.left_out);
   report_files(MediaProgress::Stage::kReady, outcome.progress);
 }
 
@@ -98,16 +116,42 @@ void LibraryFeed::receive_demo_news() {
 }
 
 void LibraryFeed::start_scan() {
-  scanner_ = std::make_unique<media::Scanner>(index_path_);
-  scanner_->start(roots_);
+  using Work = media::Scanner::Work;
+  request_scan(watches_folders_ ? Work::watch : Work::scan);
   // Loading what the last scan left takes a moment only, and a screen that begins without it would
   // have to be filled twice.
-  while (!library_) {
+  while (!library_ && first_scan_ == FirstScan::kBeside) {
     pollfd waiting{scanner_->descriptor(), POLLIN, 0};
     ::poll(&waiting, 1, -1);
     if (const auto update = scanner_->take_update()) take(*update);
   }
-  scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { receive_scan_updates(); });
+}
+
+void LibraryFeed::request_scan(media::Scanner::Work work) {
+  if (!scanner_) {
+    scanner_ = std::make_unique<media::Scanner>(index_path_, work);
+    scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { receive_scan_updates(); });
+  }
+  last_request_ = scanner_->request(roots_);
+}
+
+void LibraryFeed::bring_in(const std::vector<std::string>& paths, std::function<void()> then) {
+  for (const std::string& path : paths) {
+    if (!covers(path)) roots_.push_back(path);
+  }
+  remove_contained(roots_);
+  if (scans_at_once()) {
+    scan_now();
+    return then();
+  }
+  // The demo music is made first; its scan is the first request.
+  if (scanner_) request_scan(media::Scanner::Work::scan);
+  waiting_.push_back({std::max<std::uint64_t>(last_request_, 1), std::move(then)});
+}
+
+void LibraryFeed::reload() {
+  if (is_stepped_) return load_now();
+  request_scan(media::Scanner::Work::load);
 }
 
 void LibraryFeed::receive_scan_updates() {
@@ -116,10 +160,30 @@ void LibraryFeed::receive_scan_updates() {
 }
 
 void LibraryFeed::take(const ScanUpdate& update) {
-  if (update.library) deliver(update.library);
   const bool is_ready = update.stage == ScanStage::finished;
+  const bool is_early = !is_ready && first_scan_ == FirstScan::kAwaited;
+  if (update.library && !is_early) deliver(update.library);
+  if (is_ready) say_left_out(update.left_out);
   report_files(is_ready ? MediaProgress::Stage::kReady : MediaProgress::Stage::kReadingFiles,
                update.progress);
+  if (is_ready) answer_waiting(update.request);
+}
+
+void LibraryFeed::answer_waiting(std::uint64_t request) {
+  for (Waiting& one : std::exchange(waiting_, {})) {
+    if (one.request > request) {
+      waiting_.push_back(std::move(one));
+    } else {
+      one.then();
+    }
+  }
+}
+
+void LibraryFeed::say_left_out(const media::LeftOut& left_out) {
+  std::string line = media::line_of(left_out);
+  if (line == said_left_out_) return;
+  said_left_out_ = std::move(line);
+  if (!said_left_out_.empty()) media::log_note(said_left_out_);
 }
 
 void LibraryFeed::deliver(std::shared_ptr<const media::Library> library) {

@@ -14,9 +14,10 @@ namespace host::media_player {
 /// When the files are first scanned.
 enum class FirstScan {
   kBeforeStart,  // The library is complete when the service has started.
+  kAwaited,      // The library arrives when the first scan is over; the service starts without.
   kBeside,       // The result of the last scan is available at once; the new scan runs in the
                  // background.
-  kNever,        // The result of the last scan is used as it is: another process scans the files.
+  kNever,        // The result of the last scan is used: another process scans the files.
 };
 
 /// Music to make when the user has none.
@@ -47,6 +48,8 @@ struct MediaOptions {
   /// advances the player to the clock's time.
   media::PlayerPace pace = media::PlayerPace::real;
   FirstScan first_scan = FirstScan::kBeside;
+  /// Whether changes in the folders are noticed after the first scan.
+  bool watches_folders = false;
   /// Empty lets the engine choose; "null" plays in real time without a sound device.
   std::string audio_output;
   /// Where queue, song and volume are stored between processes; empty means nowhere.

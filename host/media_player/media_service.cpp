@@ -1,6 +1,7 @@
 #include "host/media_player/media_service.h"
 
 #include <fmt/format.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <ranges>
@@ -10,8 +11,10 @@
 #include "host/media/cloud_song.h"
 #include "host/media/log.h"
 #include "host/media/mpv_player.h"
+#include "host/media/playable_path.h"
 #include "host/media/reading_trial.h"
 #include "host/media_player/playback_memory.h"
+#include "host/media_player/songs_at.h"
 #include "platform/Foundation/NSNotificationCenter.h"
 #include "platform/MediaPlayer/MPMediaQuery.h"
 
@@ -21,6 +24,10 @@ namespace {
 constexpr double kFirstVolume = 0.75;
 // In seconds. Saving waits for the disk, and a finger on the volume changes it with every frame.
 constexpr double kBetweenSaves = 0.25;
+// The number of a library counts in these bits; above them is the process's.
+constexpr int kCountBits = 32;
+// Files that cannot be played are named one by one up to this number.
+constexpr std::size_t kMostNamedFiles = 20;
 
 // Never destroyed after the end of `main`, when the loop it depends on is gone.
 std::unique_ptr<MediaService>& running() {
@@ -30,6 +37,14 @@ std::unique_ptr<MediaService>& running() {
 
 std::shared_ptr<ItemStore> empty_store() {
   return std::make_shared<ItemStore>(media::Library::build({}));
+}
+
+void log_refusals(const std::vector<std::string>& refusals) {
+  const std::size_t named = std::min(refusals.size(), kMostNamedFiles);
+  for (std::size_t i = 0; i < named; ++i)
+    media::log_warning(refusals[i]);
+  if (const std::size_t others = refusals.size() - named)
+    media::log_warning(fmt::format("{} more files cannot be played", others));
 }
 
 }  // namespace
@@ -42,7 +57,6 @@ std::optional<std::string> MediaService::start(MediaOptions options) {
   if (!player) return "the playback engine cannot be started";
   running().reset(new MediaService{std::move(options), std::move(player)});
   running()->feed_.start();
-  running()->restore_playback();
   return std::nullopt;
 }
 
@@ -58,6 +72,7 @@ MediaService* MediaService::current() {
 MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> player)
     : options_(std::move(options)),
       items_(empty_store()),
+      library_number_(static_cast<std::uint64_t>(::getpid()) << kCountBits),
       artwork_(options_.pace == media::PlayerPace::stepped ? CoverStore::Pace::Waits
                                                            : CoverStore::Pace::NeverWaits),
       playback_(std::move(player), options_.pace, [this](std::uint64_t id) { return file_of(id); }),
@@ -89,20 +104,58 @@ media::SongFile MediaService::file_of(std::uint64_t id) const {
 }
 
 void MediaService::take(std::shared_ptr<const media::Library> library) {
+  const auto song = playback_.song();
+  if (!song || library->find(*song)) {
+    departed_.reset();
+  } else if (items_->library().find(*song)) {
+    departed_ = items_;
+  }
   items_ = std::make_shared<ItemStore>(std::move(library));
+  ++library_number_;
   NSNotificationCenter::defaultCenter().postNotificationName(MPMediaLibraryDidChangeNotification,
                                                              nil, nil);
+  if (!std::exchange(is_restored_, true)) restore_playback();
   tell_change();
 }
 
 const media::Track* MediaService::now_playing() const {
   const auto song = playback_.song();
-  return song ? items_->library().find(*song) : nullptr;
+  if (!song) return nullptr;
+  const media::Track* track = items_->library().find(*song);
+  return track || !departed_ ? track : departed_->library().find(*song);
 }
 
 MPMediaItem MediaService::now_playing_item() {
   const auto song = playback_.song();
-  return song ? items_->item_with_id(*song) : MPMediaItem();
+  if (!song) return nil;
+  const MPMediaItem item = items_->item_with_id(*song);
+  return item || !departed_ ? item : departed_->item_with_id(*song);
+}
+
+void MediaService::play_files(std::vector<std::string> paths) {
+  std::vector<std::string> refusals;
+  std::erase_if(paths, [&refusals](const std::string& path) {
+    const std::string reason = media::reason_not_to_play(path);
+    if (!reason.empty()) refusals.push_back(fmt::format("{} {}", path, reason));
+    return !reason.empty();
+  });
+  log_refusals(refusals);
+  const auto is_covered = [this](const std::string& path) { return feed_.covers(path); };
+  if (std::ranges::all_of(paths, is_covered) && songs_at(paths, items_->library()).unknown.empty())
+    return play_found(paths);
+  feed_.bring_in(paths, [this, paths] { play_found(paths); });
+}
+
+void MediaService::play_found(const std::vector<std::string>& paths) {
+  SongsAt found = songs_at(paths, items_->library());
+  for (std::string& path : found.unknown)
+    path += " holds no music that can be played";
+  log_refusals(found.unknown);
+  if (found.songs.empty()) return;
+  const std::uint64_t first = found.songs.front();
+  playback_.set_queue(media::make_song_list(std::move(found.songs)));
+  playback_.set_current(first);
+  playback_.play();
 }
 
 bool MediaService::toggle() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -48,12 +49,22 @@ class MediaService {
   ArtworkImages& artwork() { return artwork_; }
 
   /// Returns the loaded song; null if none is loaded or the library no longer contains it.
+  /// A song whose file is gone stays there while it is loaded.
   const media::Track* now_playing() const;
   MPMediaItem now_playing_item();
 
   /// What the user has chosen in Settings; `choices_changed` reads it again.
   const MusicChoices& choices() const { return choices_; }
   void choices_changed();
+
+  /// Plays files, and the songs of folders, one after another; the library has them until the
+  /// process ends. The log names what cannot be played.
+  void play_files(std::vector<std::string> paths);
+
+  /// Changes with the library, and differs between processes.
+  std::uint64_t library_number() const { return library_number_; }
+  /// Takes over what another process has changed in the index.
+  void reload_library() { feed_.reload(); }
 
   /// With nothing loaded it plays the queue, or the whole library when the queue is empty. Returns
   /// false when there is nothing to play.
@@ -78,12 +89,16 @@ class MediaService {
   bool is_playable(std::uint64_t id) const;
   void tell_change();
   void tell_jump();
+  void play_found(const std::vector<std::string>& paths);
   void restore_playback();
   void save_playback_soon();
   void save_playback();
 
   MediaOptions options_;
   std::shared_ptr<ItemStore> items_;
+  std::shared_ptr<ItemStore> departed_;  // has the loaded song when `items_` no longer does
+  std::uint64_t library_number_ = 0;
+  bool is_restored_ = false;
   ArtworkImages artwork_;
   Playback playback_;
   LibraryFeed feed_;

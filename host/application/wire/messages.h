@@ -107,9 +107,10 @@ struct PlaybackIs {
   double elapsed = 0;
   double duration = 0;
   double volume = 0;
+  std::uint64_t library = 0;  ///< Changes when the songs of the phone have changed.
   template <class Fields>
   void list(Fields& fields) {
-    fields(song, is_playing, elapsed, duration, volume);
+    fields(song, is_playing, elapsed, duration, volume, library);
   }
 };
 

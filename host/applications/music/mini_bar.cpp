@@ -66,6 +66,12 @@ void MiniBar::player_changed() {
   show_or_hide();
 }
 
+void MiniBar::library_changed() {
+  // The title of a song that is gone stays while it plays.
+  if (player_.item()) shown_song_ = 0;
+  player_changed();
+}
+
 void MiniBar::set_wanted(bool wanted) {
   wanted_ = wanted;
   show_or_hide();

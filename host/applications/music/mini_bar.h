@@ -17,6 +17,7 @@ class MiniBar {
   MiniBar& operator=(const MiniBar&) = delete;
 
   void player_changed();
+  void library_changed();
   /// Pass true while the list below the bar is visible.
   void set_wanted(bool wanted);
   UIView view() const { return bar_.get(); }

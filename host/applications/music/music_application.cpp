@@ -13,6 +13,10 @@ namespace host::music {
 using application::PlayerRemote;
 
 MusicApplication::~MusicApplication() {
+  objc::state_of<SongsPage>(*songs_).on_library_change = [this] {
+    mini_bar_->library_changed();
+    objc::state_of<NowPlayingPage>(*now_playing_).library_changed();
+  };
   PlayerRemote::shared().on_change = {};
 }
 
@@ -49,6 +53,7 @@ void MusicApplication::open_now_playing() {
 }
 
 void MusicApplication::player_changed() {
+  application::follow_shared_library(PlayerRemote::shared().playback().library);
   player_.refresh();
   objc::state_of<SongsPage>(*songs_).player_changed();
   objc::state_of<NowPlayingPage>(*now_playing_).player_changed();

@@ -168,6 +168,11 @@ void NowPlayingPage::player_changed() {
   show_time();
 }
 
+void NowPlayingPage::library_changed() {
+  if (player_->item()) shown_song_.reset();
+  player_changed();
+}
+
 void NowPlayingPage::show_time() const {
   const double duration = player_->duration();
   const double elapsed = player_->elapsed();

@@ -27,6 +27,7 @@ class NowPlayingPage : public objc::Implementation<NowPlayingPage, MusicNowPlayi
   void view_will_appear(BOOL animated);
   void view_will_disappear(BOOL animated);
   void player_changed();
+  void library_changed();
   UILabel title_label() const { return title_.get(); }
   UIButton play_button() const { return play_.get(); }
   UIButton next_button() const { return next_.get(); }

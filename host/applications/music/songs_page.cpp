@@ -83,6 +83,7 @@ void SongsPage::player_changed() {
 void SongsPage::library_changed(objc::Object) {
   songs_.reset(all_songs());
   table_->reloadData();
+  if (on_library_change) on_library_change();
 }
 
 MPMediaItem SongsPage::song_at(NSInteger row) const {

@@ -24,6 +24,7 @@ class SongsPage : public objc::Implementation<SongsPage, MusicSongsController> {
   static objc::Ref<MusicSongsController> make(const PlayerState& player,
                                               std::function<void(MPMediaItem)> chosen);
   std::function<void(bool)> on_visible;
+  std::function<void()> on_library_change;
 
   void view_did_load();
   void view_will_appear(BOOL animated);

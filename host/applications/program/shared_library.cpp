@@ -1,6 +1,7 @@
 #include "host/applications/program/shared_library.h"
 
 #include <filesystem>
+#include <utility>
 
 #include "host/foundation/device_paths.h"
 #include "host/media/index.h"
@@ -25,6 +26,13 @@ void open_shared_library(bool is_stepped) {
   options.audio_output = "null";
   if (const auto problem = media_player::MediaService::start(std::move(options)))
     spdlog::error("there is no music: {}", *problem);
+}
+
+void follow_shared_library(std::uint64_t library_number) {
+  static std::uint64_t known = 0;
+  const std::uint64_t before = std::exchange(known, library_number);
+  if (before == 0 || before == library_number) return;
+  if (auto* service = media_player::MediaService::current()) service->reload_library();
 }
 
 // Opening a missing index would create an empty one.

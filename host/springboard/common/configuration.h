@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "host/springboard/model/icon_state.h"
@@ -23,6 +24,8 @@ struct Configuration {
   ProcessKeeper* process_keeper = nullptr;
   /// True when the clock is advanced by hand; applications are then kept in step with it.
   bool has_stepped_clock = false;
+  /// A number that changes with the library of songs; applications read theirs again then.
+  std::uint64_t (*library_number)() = nullptr;
 };
 
 void configure(Configuration configuration);

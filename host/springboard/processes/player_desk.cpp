@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/springboard/common/configuration.h"
 #include "host/springboard/model/strings.h"
 #include "host/springboard/processes/application_process.h"
 #include "platform/MediaPlayer/MPMusicPlayerController.h"
@@ -39,6 +40,7 @@ std::uint64_t song_id(MPMediaItem item) {
 PlaybackIs playback_now() {
   PlaybackIs found;
   found.volume = SBMediaController::sharedInstance().volume();
+  if (const auto number = configuration().library_number) found.library = number();
   const MPMediaItem item = player().nowPlayingItem();
   if (!item) return found;
   found.song = song_id(item);
@@ -120,7 +122,7 @@ void PlayerDesk::poll() {
   const double time = RunLoop::main().now();
   const bool same = reported_ && reported_->song == now.song &&
                     reported_->is_playing == now.is_playing && reported_->volume == now.volume &&
-                    reported_->duration == now.duration;
+                    reported_->duration == now.duration && reported_->library == now.library;
   const double expected =
       same ? reported_->elapsed + (now.is_playing ? time - reported_at_ : 0) : 0;
   if (same && std::abs(expected - now.elapsed) <= kElapsedTolerance) return;

@@ -332,3 +332,14 @@ TEST_F(Scanning, AnIndexThatCannotBeMadeWorksInMemory) {
   EXPECT_EQ(scan(index).progress.read, 0u);
   EXPECT_EQ(log.count("cannot be kept"), 1);
 }
+
+TEST_F(Scanning, CountsSoundThatIsNotPlayedByItsKind) {
+  fs::create_directories(at("album"));
+  for (const char* name : {"a.mid", "album/b.MID", "c.ra", "d.txt", ".hidden.mid", "cover.jpg"})
+    write_bytes(at(name), "sound");
+  const ScanOutcome outcome = scan();
+  EXPECT_EQ(line_of(outcome.left_out), "3 files are left out: 2 .mid, 1 .ra");
+  EXPECT_EQ(outcome.progress.seen, 0u);
+  EXPECT_EQ(line_of({{".mid", 1}}), "1 file is left out: 1 .mid");
+  EXPECT_EQ(line_of({}), "");
+}

@@ -33,11 +33,11 @@ TEST(Scanner, WakesTheMainLoopWithTheRememberedAndThenTheFinishedLibrary) {
   write_bytes(folder / "b.mp3", "no music");
   Scanner scanner{folder / "state/music.db"};
   EXPECT_FALSE(becomes_readable(scanner.descriptor(), 0));
-
-  scanner.start({folder.path()});
+  scanner.request({folder.path()});
   const auto first = updates_until_finished(scanner);
-  scanner.start({folder.path()});
-  const auto second = updates_until_finished(scanner);
+  Scanner later{folder / "state/music.db"};
+  later.request({folder.path()});
+  const auto second = updates_until_finished(later);
 
   ASSERT_GE(first.size(), 2u);
   EXPECT_EQ(first.front().stage, ScanStage::remembered);
@@ -49,7 +49,52 @@ TEST(Scanner, WakesTheMainLoopWithTheRememberedAndThenTheFinishedLibrary) {
   ASSERT_GE(second.size(), 2u);
   EXPECT_EQ(second.front().library->tracks().size(), 1u);
   EXPECT_EQ(second.back().progress.read, 0u);
+  EXPECT_EQ(second.back().library, second.front().library);
   EXPECT_FALSE(becomes_readable(scanner.descriptor(), 0));
+}
+
+TEST(Scanner, AnswersEachRequestWithItsOwnFolders) {
+  const TemporaryFolder folder;
+  const TemporaryFolder other;
+  write_tone(folder / "a.wav", 0.01);
+  write_tone(other / "b.wav", 0.01);
+  write_tone(other / "c.wav", 0.01);
+  Scanner scanner{folder / "state/music.db"};
+  EXPECT_EQ(scanner.request({folder.path()}), 1u);
+  EXPECT_EQ(updates_until_finished(scanner).back().library->tracks().size(), 1u);
+  EXPECT_EQ(scanner.request({folder.path(), other / "c.wav"}), 2u);
+  const auto with_song = updates_until_finished(scanner).back();
+  EXPECT_EQ(with_song.request, 2u);
+  EXPECT_EQ(with_song.library->tracks().size(), 2u);
+  EXPECT_EQ(with_song.progress.read, 1u);
+  scanner.request({other.path()});
+  EXPECT_EQ(updates_until_finished(scanner).back().library->tracks().size(), 2u);
+}
+
+TEST(Scanner, CountsTheSongsOfAFirstScanBeforeItReadsThem) {
+  const TemporaryFolder folder;
+  for (int i = 0; i < 120; ++i)
+    write_tone(folder / (std::to_string(i) + ".wav"), 0.01);
+  Scanner scanner{folder / "state/music.db"};
+  scanner.request({folder.path()});
+  const auto updates = updates_until_finished(scanner);
+  EXPECT_EQ(updates.back().progress.to_see, 120u);
+  EXPECT_EQ(updates.back().progress.seen, 120u);
+}
+
+TEST(Scanner, ReadsAnIndexThatAnotherHasChanged) {
+  const TemporaryFolder folder;
+  write_tone(folder / "a.wav", 0.01);
+  Scanner scanner{folder / "state/music.db", Scanner::Work::watch};
+  Scanner reader{folder / "state/music.db", Scanner::Work::load};
+  scanner.request({folder.path()});
+  updates_until_finished(scanner);
+  reader.request({});
+  EXPECT_EQ(updates_until_finished(reader).back().library->tracks().size(), 1u);
+  write_tone(folder / "b.wav", 0.01);
+  EXPECT_EQ(updates_until_finished(scanner).back().library->tracks().size(), 2u);
+  reader.request({});
+  EXPECT_EQ(updates_until_finished(reader).back().library->tracks().size(), 2u);
 }
 
 TEST(Scanner, StopsARunningScanWhenDestroyed) {
@@ -57,7 +102,7 @@ TEST(Scanner, StopsARunningScanWhenDestroyed) {
   for (int i = 0; i < 200; ++i)
     write_tone(folder / (std::to_string(i) + ".wav"), 0.01);
   Scanner scanner{folder / "state/music.db"};
-  scanner.start({folder.path()});
-  scanner.start({folder.path()});
+  scanner.request({folder.path()});
+  scanner.request({folder.path()});
   SUCCEED();
 }
