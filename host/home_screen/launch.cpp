@@ -4,6 +4,7 @@
 #include "host/foundation/bundles.h"
 #include "host/foundation/foundation_log.h"
 #include "host/foundation/loader.h"
+#include "host/home_screen/first_music.h"
 #include "host/home_screen/music.h"
 #include "host/home_screen/phone_mode.h"
 #include "host/home_screen/safe_mode_notice.h"
@@ -55,9 +56,19 @@ void launch_application_watched() {
   watch.during(kHomeScreen, [] { uikit::launch_application(kHomeScreen); });
 }
 
+/// Returns false when the phone was switched off before it had its music.
+bool launch_music(const ProcessOptions& options) {
+  const auto screen = options.headless ? FirstMusic::Screen::kNone : FirstMusic::Screen::kShown;
+  const auto first = std::make_shared<FirstMusic>(RunLoop::main(), screen);
+  const auto start = start_music(options, [first = std::weak_ptr(first)](const auto& progress) {
+    if (const auto waiting = first.lock()) waiting->take(progress);
+  });
+  return start == MusicStart::kReady || first->wait();
+}
+
 }  // namespace
 
-void launch_home_screen(const ProcessOptions& options) {
+bool launch_home_screen(const ProcessOptions& options) {
   give_large_blocks_back();
   process::start_home_screen();
   foundation::set_main_bundle("/System/Library/CoreServices/SpringBoard.app");
@@ -71,10 +82,11 @@ void launch_home_screen(const ProcessOptions& options) {
   springboard::configure(configuration);
   configure_social(options.headless);
   start_gesture_service();
-  start_music(options);
+  if (!launch_music(options)) return false;
   if (!options.safe_mode) foundation::load_libraries(kBundleIdentifier, kHomeScreen);
   launch_application_watched();
   if (options.safe_mode) show_safe_mode_notice();
+  return true;
 }
 
 }  // namespace host::launcher

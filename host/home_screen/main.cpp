@@ -56,13 +56,14 @@ struct Display {
   std::unique_ptr<launcher::WindowClipboard> clipboard;
   std::function<void()> raise;
   std::function<bool()> is_in_front;
+  std::function<void(bool)> set_awake;
 };
 
 std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
                                     screen::Input& input) {
   if (options.headless)
     return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr, [] {},
-                   [] { return false; }};
+                   [] { return false; }, [](bool) {}};
   const DeviceModel& device = current_device();
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
@@ -72,10 +73,12 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
   }
   auto service = std::make_unique<launcher::WindowService>(loop, *window);
   auto clipboard = std::make_unique<launcher::WindowClipboard>(*window);
+  window->set_awake(false);
   auto raise = [&shown = *window] { shown.raise(); };
   auto is_in_front = [&shown = *window] { return shown.is_in_front(); };
-  return Display{std::move(window), std::move(service), std::move(clipboard), std::move(raise),
-                 std::move(is_in_front)};
+  auto set_awake = [&shown = *window](bool is_awake) { shown.set_awake(is_awake); };
+  return Display{std::move(window),    std::move(service),     std::move(clipboard),
+                 std::move(raise), std::move(is_in_front), std::move(set_awake)};
 }
 
 std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& options, RunLoop& loop,
@@ -83,6 +86,12 @@ std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& option
   if (!options.desktop) return nullptr;
   return launcher::DesktopLink::begin(loop, {options.headless ? nullptr : display.raise,
                                              display.is_in_front, [&loop] { loop.stop(); }});
+}
+
+int switch_off(const launcher::Lifeline& lifeline) {
+  lifeline.say(launcher::LifeSign::SwitchedOff);
+  launcher::stop_music();
+  return 0;
 }
 
 int run(const ProcessOptions& options) {
@@ -104,8 +113,10 @@ int run(const ProcessOptions& options) {
     lifeline.say(launcher::LifeSign::CannotStart);
     return launcher::kCannotStart;
   }
-  launcher::launch_home_screen(options);
   process::PhoneScreen phone_screen(loop, *display->screen);
+  const bool is_launched = launcher::launch_home_screen(options);
+  display->set_awake(true);
+  if (!is_launched) return switch_off(lifeline);
 
   launcher::ConsolePhone phone(
       hands,
@@ -122,9 +133,7 @@ int run(const ProcessOptions& options) {
   lifeline.begin();
   loop.run();
   desktop.reset();
-  lifeline.say(launcher::LifeSign::SwitchedOff);
-  launcher::stop_music();
-  return 0;
+  return switch_off(lifeline);
 }
 
 }  // namespace

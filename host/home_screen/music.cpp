@@ -1,51 +1,44 @@
 #include "host/home_screen/music.h"
 
 #include <filesystem>
+#include <fstream>
 
 #include "host/foundation/device_paths.h"
+#include "host/home_screen/progress_lines.h"
 #include "host/launcher/installation.h"
 #include "host/media_player/exports.h"
 #include "host/media_player/media_service.h"
 #include "host/runtime/log.h"
+#include "host/runtime/progress_line.h"
 
 namespace host::launcher {
 namespace {
 
+namespace fs = std::filesystem;
+
 using media_player::MediaOptions;
-using media_player::MediaProgress;
 
-constexpr std::size_t kFilesBetweenLines = 1000;
-constexpr int kSongsBetweenLines = 10;
+/// Exists while the songs are read for the first time: what an interrupted reading leaves is a part
+/// of them only.
+fs::path mark_of_first_reading(const std::string& index) {
+  return index + ".being-made";
+}
 
-/// Logs the progress of the work from time to time, and its end.
-class ProgressLines {
- public:
-  void operator()(const MediaProgress& progress) {
-    switch (progress.stage) {
-      case MediaProgress::Stage::kMakingMusic:
-        if (progress.made % kSongsBetweenLines == 0 || progress.made == progress.to_make)
-          spdlog::info("making the demo music: {} of {} songs", progress.made, progress.to_make);
-        break;
-      case MediaProgress::Stage::kReadingFiles:
-        if (progress.files.seen >= said_files_ + kFilesBetweenLines) {
-          said_files_ = progress.files.seen;
-          spdlog::info("reading music: {} files seen, {} read, {} skipped", progress.files.seen,
-                       progress.files.read, progress.files.skipped);
-        }
-        break;
-      case MediaProgress::Stage::kReady:
-        spdlog::info("{} songs ({} files skipped)", progress.songs, progress.files.skipped);
-        break;
-    }
-  }
+bool knows_the_songs(const std::string& index) {
+  std::error_code ignored;
+  return fs::exists(index, ignored) && !fs::exists(mark_of_first_reading(index), ignored);
+}
 
- private:
-  std::size_t said_files_ = 0;
-};
+void mark_first_reading(const std::string& index) {
+  const fs::path mark = mark_of_first_reading(index);
+  std::error_code ignored;
+  fs::create_directories(mark.parent_path(), ignored);
+  static_cast<void>(std::ofstream(mark));
+}
 
 }  // namespace
 
-void start_music(const ProcessOptions& options) {
+MusicStart start_music(const ProcessOptions& options, OnMusicProgress on_progress) {
   MediaOptions media;
   for (const auto& folder : options.music)
     media.music_folders.push_back(folder.string());
@@ -58,15 +51,25 @@ void start_music(const ProcessOptions& options) {
   media.memory_path = foundation::path_on_this_machine("/var/mobile/Media/playback.plist");
   // The home screen's extensions read the library once, at start: a new phone must have one by
   // then. On later starts the result of the last scan is available immediately.
-  std::error_code ignored;
-  if (!std::filesystem::exists(media.index_path, ignored))
-    media.first_scan = media_player::FirstScan::kBeforeStart;
+  const bool is_first = !knows_the_songs(media.index_path);
+  if (is_first) media.first_scan = media_player::FirstScan::kAwaited;
+  if (is_first) mark_first_reading(media.index_path);
   media.watches_folders = !options.headless;
   media.pace = options.stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   if (options.headless) media.audio_output = "null";
-  media.on_progress = ProgressLines();
-  if (const auto problem = media_player::MediaService::start(std::move(media)))
+  media.on_progress = [lines = ProgressLines(has_progress_line()), index = media.index_path,
+                       on_progress = std::move(on_progress)](const auto& progress) mutable {
+    std::error_code ignored;
+    if (progress.stage == media_player::MediaProgress::Stage::kReady)
+      fs::remove(mark_of_first_reading(index), ignored);
+    lines(progress);
+    if (on_progress) on_progress(progress);
+  };
+  if (const auto problem = media_player::MediaService::start(std::move(media))) {
     spdlog::error("there is no music: {}", *problem);
+    return MusicStart::kReady;
+  }
+  return is_first ? MusicStart::kAwaited : MusicStart::kReady;
 }
 
 std::uint64_t music_library_number() {

@@ -1,14 +1,22 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "host/home_screen/process_options.h"
+#include "host/media_player/media_options.h"
 
 namespace host::launcher {
 
+using OnMusicProgress = std::function<void(const media_player::MediaProgress&)>;
+
+/// Whether the songs are there already, or come while the loop turns, up to the progress that says
+/// that they are ready.
+enum class MusicStart { kReady, kAwaited };
+
 /// Starts the phone's music: the user's folders, or the demo music when none were given. The phone
 /// also starts without music; the reason is logged.
-void start_music(const ProcessOptions& options);
+MusicStart start_music(const ProcessOptions& options, OnMusicProgress on_progress);
 void stop_music();
 
 /// Changes with the songs of the phone; 0 when there is no music.

@@ -202,6 +202,7 @@ void Window::handle_events() {
 }
 
 void Window::handle(const SDL_Event& event) {
+  if (!is_awake_ && event.type != SDL_QUIT && event.type != SDL_WINDOWEVENT) return;
   switch (event.type) {
     case SDL_QUIT:
       input_.close();

@@ -33,6 +33,9 @@ class Window final : public Screen {
   /// True while the user's keyboard belongs to it.
   bool is_in_front() const;
 
+  /// While it sleeps, only the window itself reacts to its user: it can be moved and closed.
+  void set_awake(bool is_awake) { is_awake_ = is_awake; }
+
   /// Forwards the user's actions since the last call to the input.
   void handle_events();
 
@@ -73,6 +76,7 @@ class Window final : public Screen {
   /// The size in pixels at which the body was last drawn.
   CGSize body_drawn_;
   Fingers fingers_;
+  bool is_awake_ = true;
 };
 
 }  // namespace host::screen

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "host/runtime/log_line.h"
+#include "host/runtime/progress_line.h"
 
 namespace {
 
@@ -39,6 +40,21 @@ TEST(Log, AMessageIsOneLine) {
   const std::string written = GetCapturedStderr();
   spdlog::set_default_logger(before);
   EXPECT_EQ(written, "[a process] warning: the song x\\n[a process] error: forged is skipped\n");
+}
+
+TEST(Log, AMessageTakesThePlaceOfTheProgressLine) {
+  const auto before = spdlog::default_logger();
+  CaptureStderr();
+  start_log("another process");
+  show_progress_line("half of\nit");
+  spdlog::warn("one");
+  spdlog::warn("two");
+  end_progress_line();
+  const std::string written = GetCapturedStderr();
+  spdlog::set_default_logger(before);
+  EXPECT_EQ(written,
+            "\r\x1b[Khalf of\\nit\r\x1b[K[another process] warning: one\n"
+            "[another process] warning: two\n");
 }
 
 }  // namespace
