@@ -15,15 +15,15 @@ Lifeline::~Lifeline() {
   if (watch_) loop_.unwatch(*watch_);
 }
 
-void Lifeline::begin() const {
+void Lifeline::begin(Orders orders) {
+  if (!descriptor_) return;
+  orders_ = std::move(orders);
   say(LifeSign::Started);
+  watch_ = loop_.watch(descriptor_.get(), [this] { listen(); });
 }
 
-void Lifeline::answer_questions(std::function<void()> show_window) {
-  if (!descriptor_) return;
-  show_window_ = std::move(show_window);
+void Lifeline::answer_questions() const {
   say(LifeSign::Alive);
-  watch_ = loop_.watch(descriptor_.get(), [this] { answer(); });
 }
 
 void Lifeline::say(LifeSign sign) const {
@@ -32,7 +32,7 @@ void Lifeline::say(LifeSign sign) const {
     static_cast<void>(!send(descriptor_.get(), &byte, 1, MSG_NOSIGNAL | MSG_DONTWAIT));
 }
 
-void Lifeline::answer() {
+void Lifeline::listen() {
   char byte = 0;
   const auto count = recv(descriptor_.get(), &byte, 1, MSG_DONTWAIT);
   if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
@@ -41,7 +41,8 @@ void Lifeline::answer() {
     return;
   }
   if (byte == static_cast<char>(Care::Question)) say(LifeSign::Alive);
-  if (byte == static_cast<char>(Care::ShowWindow)) show_window_();
+  if (byte == static_cast<char>(Care::ShowWindow)) orders_.show_window();
+  if (byte == static_cast<char>(Care::PlayFiles)) orders_.play_files();
 }
 
 }  // namespace host::launcher

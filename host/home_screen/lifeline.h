@@ -18,18 +18,22 @@ class Lifeline {
   Lifeline(const Lifeline&) = delete;
   Lifeline& operator=(const Lifeline&) = delete;
 
-  /// Call these when the loop's first turn comes next. A loop that has begun to answer questions is
-  /// noticed when it stops turning.
-  void begin() const;
-  void answer_questions(std::function<void()> show_window);
+  struct Orders {
+    std::function<void()> show_window;
+    std::function<void()> play_files;
+  };
+  /// Call these when the loop's first turn comes next. A loop that answers questions is noticed
+  /// when it stops turning.
+  void begin(Orders orders);
+  void answer_questions() const;
   void say(LifeSign sign) const;
 
  private:
-  void answer();
+  void listen();
 
   RunLoop& loop_;
   Descriptor descriptor_;
-  std::function<void()> show_window_;
+  Orders orders_;
   std::optional<RunLoop::Id> watch_;
 };
 

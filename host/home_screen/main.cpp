@@ -127,10 +127,11 @@ int run(const ProcessOptions& options) {
   std::optional<launcher::ConsoleService> service;
   if (options.console_descriptor >= 0)
     service.emplace(loop, options.console_descriptor, session, [&loop] { loop.stop(); });
+  lifeline.begin({[&display] { display->raise(); }, &launcher::play_handed_files});
   // Stepped time passes only between two questions, so it says nothing about the loop.
-  if (!options.stepped) lifeline.answer_questions([&display] { display->raise(); });
+  if (!options.stepped) lifeline.answer_questions();
   auto desktop = link_desktop(options, loop, *display);
-  lifeline.begin();
+  launcher::play_handed_files();
   loop.run();
   desktop.reset();
   return switch_off(lifeline);

@@ -1,10 +1,13 @@
 #include "host/home_screen/music.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include "host/foundation/device_paths.h"
 #include "host/home_screen/progress_lines.h"
+#include "host/launcher/control_socket.h"
+#include "host/launcher/handed_files.h"
 #include "host/launcher/installation.h"
 #include "host/media_player/exports.h"
 #include "host/media_player/media_service.h"
@@ -70,6 +73,16 @@ MusicStart start_music(const ProcessOptions& options, OnMusicProgress on_progres
     return MusicStart::kReady;
   }
   return is_first ? MusicStart::kAwaited : MusicStart::kReady;
+}
+
+void play_files(std::vector<std::string> paths) {
+  auto* service = media_player::MediaService::current();
+  if (service && !paths.empty()) service->play_files(std::move(paths));
+}
+
+void play_handed_files() {
+  const char* socket = std::getenv(kControlSocketVariable);
+  if (socket) play_files(take_handed_files(fs::path(socket).parent_path()));
 }
 
 std::uint64_t music_library_number() {

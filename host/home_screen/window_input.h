@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "host/home_screen/hands.h"
+#include "host/home_screen/music.h"
 
 namespace host::launcher {
 
@@ -24,6 +25,7 @@ class WindowInput final : public screen::Input {
     hands_.button(button, phase);
   }
   void shake() override { hands_.shake(); }
+  void drop(std::vector<std::string> things) override { play_files(std::move(things)); }
   void close() override { on_close_(); }
 
  private:

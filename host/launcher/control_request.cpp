@@ -20,7 +20,7 @@ struct Form {
 constexpr Form kForms[] = {
     {Kind::Open, "open", true, true},   {Kind::Close, "close", true, false},
     {Kind::Kill, "kill", false, true},  {Kind::Find, "find", false, true},
-    {Kind::Show, "show", false, false},
+    {Kind::Show, "show", false, false}, {Kind::Play, "play", false, false},
 };
 
 bool is_plain(std::string_view name) {

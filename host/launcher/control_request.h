@@ -9,8 +9,8 @@ namespace host::launcher {
 /// A request to the supervisor of a device, from one of its processes or from a second launcher.
 struct ControlRequest {
   /// `Kill` and `Find` name a running program, the home screen's included; `Show` raises the
-  /// window.
-  enum class Kind { Open, Close, Kill, Find, Show };
+  /// window; `Play` announces files in the folder of the control socket.
+  enum class Kind { Open, Close, Kill, Find, Show, Play };
   Kind kind = Kind::Show;
   std::string bundle;   // the application's identifier: `Open` and `Close`
   std::string program;  // the name of its program: `Open`, `Kill` and `Find`

@@ -19,6 +19,7 @@ enum class LifeSign : char {
 enum class Care : char {
   Question = '?',
   ShowWindow = 'w',
+  PlayFiles = 'p',  // there are lists of files in the folder of the control socket
 };
 
 }  // namespace host::launcher

@@ -5,7 +5,9 @@
 
 #include "host/basics/ascii.h"
 #include "host/basics/utf8.h"
+#include "host/media/playable_path.h"
 #include "host/runtime/device_model.h"
+#include "host/runtime/log_line.h"
 
 namespace host::launcher {
 namespace {
@@ -28,10 +30,15 @@ constexpr const char* kKeys =
     "Buttons are down as long as their key: hold F1 or F3, or F5 and F6 together.\n"
     "The mouse is a finger; one that comes in over the edge pulls from it.\n"
     "\n"
-    "A device runs once: a second start shows the window of the first.\n"
+    "Files and folders that are dropped on the window are played, too. What is not in\n"
+    "the folders of music is listed until the phone is switched off.\n"
+    "\n"
+    "A device runs once: a second start shows the window of the first, and hands its\n"
+    "files to it.\n"
     "\n"
     "Exit status\n"
-    "  0    the phone was switched off, or the window of a running one is in front\n"
+    "  0    the phone was switched off, or the window of a running one is in front, or\n"
+    "       that one plays the files\n"
     "  1    a line of the script failed\n"
     "  2    it could not be started; standard error says why\n"
     "  3    the home screen kept ending, even without extensions\n"
@@ -84,6 +91,16 @@ fs::path made_absolute(const fs::path& path) {
   return error ? path : made;
 }
 
+/// Keeps the files that can be played, and says why the others cannot.
+void check_files(Options& options) {
+  std::erase_if(options.files, [&options](std::string& file) {
+    const std::string reason = media::reason_not_to_play(file);
+    if (!reason.empty()) options.refusals.push_back(on_one_line(file + " " + reason));
+    file = media::settled_path(file);
+    return !reason.empty();
+  });
+}
+
 void make_absolute(Options& options) {
   if (!options.root.empty()) options.root = made_absolute(options.root);
   options.screenshots = made_absolute(options.screenshots);
@@ -116,6 +133,9 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   parser.add_option("--music", options.music, "Folder of music; may be given more than once")
       ->check(check_music)
       ->allow_extra_args(false);
+  parser.add_option("FILE", options.files,
+                    "Music to play, files and folders, one after another; a phone that runs "
+                    "already plays it");
   parser.add_option("--without", options.without, "Identifier of an application to leave out")
       ->allow_extra_args(false);
   parser.add_flag("--headless", options.headless, "No window");
@@ -140,6 +160,14 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   options.is_set_up = options.root.empty() && options.script.empty() && !new_phone;
   if (options.is_set_up) options.root = default_device_root();
   make_absolute(options);
+  const bool names_files = !options.files.empty();
+  check_files(options);
+  if (names_files && options.files.empty()) {
+    std::string text;
+    for (const std::string& refusal : options.refusals)
+      text += "sonavue: " + refusal + "\n";
+    return Ending{kBadUsage, text};
+  }
   // Foundation looks every file of the device up by a name in UTF-8.
   if (!utf8::is_valid(options.root.native())) {
     return Ending{kBadUsage, "sonavue: the device's folder " + ascii_of(options.root.native()) +

@@ -12,6 +12,8 @@ struct Options {
   std::string device;
   std::filesystem::path root;  // empty for a new one that is deleted afterwards
   std::vector<std::filesystem::path> music;
+  std::vector<std::string> files;     // to play
+  std::vector<std::string> refusals;  // a line for each file that cannot be played
   std::vector<std::string> without;
   std::filesystem::path screenshots;
   std::filesystem::path script;  // empty without one

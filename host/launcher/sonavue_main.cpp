@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "host/launcher/environment.h"
+#include "host/launcher/handed_files.h"
 #include "host/launcher/installation.h"
 #include "host/launcher/log_file.h"
 #include "host/launcher/options.h"
@@ -65,9 +66,25 @@ FolderOwner wait_for_owner(const std::filesystem::path& root) {
   return {};
 }
 
-/// Shows the window of the phone that already has this root, or says who has it.
+/// Hands the files to the phone of `owner`, and shows its window if it has one.
+bool hand_files(const Options& options, const FolderOwner& owner) {
+  const auto& socket = owner.control_socket;
+  if (!hand_over(socket.parent_path(), options.files) ||
+      !ask_supervisor(socket, {ControlRequest::Kind::Play, {}, {}}))
+    return false;
+  ask_supervisor(socket, {ControlRequest::Kind::Show, {}, {}});
+  return true;
+}
+
+/// Shows the window of the phone that already has this root, and hands it the files, or says who
+/// has it.
 int meet_running_phone(const Options& options) {
   const FolderOwner owner = wait_for_owner(options.root);
+  if (!options.files.empty() && !has_console(options) && !owner.control_socket.empty() &&
+      hand_files(options, owner)) {
+    std::fprintf(stderr, "sonavue: the phone of process %d plays the music\n", owner.process);
+    return 0;
+  }
   const bool is_shown = !options.headless && !has_console(options) &&
                         !owner.control_socket.empty() &&
                         ask_supervisor(owner.control_socket, {ControlRequest::Kind::Show, {}, {}});
@@ -91,6 +108,10 @@ int supervise(const Options& options, const FolderLock* lock) {
                         clock, has_console(options) ? &*front : nullptr);
   if (lock) lock->introduce(supervisor.control_socket());
   if (const auto reason = prepare(options, installation)) return complain(*reason);
+  if (!options.files.empty() &&
+      !hand_over(supervisor.control_socket().parent_path(), options.files)) {
+    std::fputs("sonavue: the music cannot be handed to the phone\n", stderr);
+  }
   return supervisor.run();
 }
 
@@ -122,6 +143,8 @@ int main(int count, char** arguments) try {
     return ending->status;
   }
   const auto& options = *std::get_if<Options>(&read);
+  for (const std::string& refusal : options.refusals)
+    complain(refusal);
   if (!options.headless) log_to_file_unless_seen();
   if (!options.headless && !has_display()) {
     return complain(

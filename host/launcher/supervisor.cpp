@@ -196,6 +196,11 @@ bool Supervisor::serve(const ControlRequest& request) {
       if (!has_window_ || child_ == 0) return false;
       say(Care::ShowWindow);
       return true;
+    case ControlRequest::Kind::Play:
+      // A home screen that is about to start looks for them itself.
+      if (status_ || ending_signal_) return false;
+      say(Care::PlayFiles);
+      return true;
   }
   return false;
 }

@@ -24,4 +24,18 @@ inline std::string reason_not_to_play(const std::string& path) {
   return {};
 }
 
+// The path as the library knows it: absolute, through no link to a folder. The name of a file
+// stays, also when it is a link, since its suffix says what it is.
+inline std::string settled_path(const std::string& path) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  const fs::path absolute = fs::absolute(path, error);
+  if (error) return path;
+  const bool is_folder = fs::is_directory(absolute, error);
+  const fs::path folder =
+      fs::weakly_canonical(is_folder ? absolute : absolute.parent_path(), error);
+  if (error) return absolute;
+  return is_folder ? folder : folder / absolute.filename();
+}
+
 }  // namespace host::media

@@ -140,6 +140,7 @@ void MediaService::play_files(std::vector<std::string> paths) {
     return !reason.empty();
   });
   log_refusals(refusals);
+  std::ranges::transform(paths, paths.begin(), &media::settled_path);
   const auto is_covered = [this](const std::string& path) { return feed_.covers(path); };
   if (std::ranges::all_of(paths, is_covered) && songs_at(paths, items_->library()).unknown.empty())
     return play_found(paths);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/CoreGraphics/CGGeometry.h"
 
@@ -33,6 +35,9 @@ class Input {
   /// A button goes down or up.
   virtual void button(Button button, ButtonPhase phase) = 0;
   virtual void shake() = 0;
+  /// Files and folders that were dropped on the window together, by their paths; also a text that
+  /// was dropped, an address for instance.
+  virtual void drop(std::vector<std::string> things) = 0;
   /// The user has closed the window.
   virtual void close() = 0;
 };

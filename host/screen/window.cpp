@@ -5,6 +5,7 @@
 #include <cmath>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "host/screen/event_descriptor.h"
 #include "host/screen/phone_body_drawing.h"
@@ -202,6 +203,7 @@ void Window::handle_events() {
 }
 
 void Window::handle(const SDL_Event& event) {
+  if (event.type >= SDL_DROPFILE && event.type <= SDL_DROPCOMPLETE) return handle_drop(event);
   if (!is_awake_ && event.type != SDL_QUIT && event.type != SDL_WINDOWEVENT) return;
   switch (event.type) {
     case SDL_QUIT:
@@ -235,6 +237,13 @@ void Window::handle(const SDL_Event& event) {
     default:
       break;
   }
+}
+
+void Window::handle_drop(const SDL_Event& event) {
+  if (event.drop.file) dropped_.emplace_back(event.drop.file);
+  SDL_free(event.drop.file);
+  if (event.type != SDL_DROPCOMPLETE || dropped_.empty()) return;
+  input_.drop(std::exchange(dropped_, {}));
 }
 
 void Window::handle_mouse(const SDL_Event& event) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/screen/fingers.h"
 #include "host/screen/keys.h"
@@ -53,6 +54,7 @@ class Window final : public Screen {
   void handle(const SDL_Event& event);
   void handle_mouse(const SDL_Event& event);
   void handle_finger(const SDL_Event& event);
+  void handle_drop(const SDL_Event& event);
   void present();
   void draw_body();
   CGSize window_size() const;
@@ -77,6 +79,7 @@ class Window final : public Screen {
   CGSize body_drawn_;
   Fingers fingers_;
   bool is_awake_ = true;
+  std::vector<std::string> dropped_;  // until the drop is complete
 };
 
 }  // namespace host::screen

@@ -12,8 +12,8 @@ using Kind = ControlRequest::Kind;
 
 TEST(ControlRequests, RoundTrip) {
   for (const ControlRequest& request :
-       {ControlRequest{Kind::Show, {}, {}}, ControlRequest{Kind::Kill, {}, "SpringBoard"},
-        ControlRequest{Kind::Find, {}, "Music"},
+       {ControlRequest{Kind::Show, {}, {}}, ControlRequest{Kind::Play, {}, {}},
+        ControlRequest{Kind::Kill, {}, "SpringBoard"}, ControlRequest{Kind::Find, {}, "Music"},
         ControlRequest{Kind::Open, "com.apple.Music", "Music"},
         ControlRequest{Kind::Close, "com.apple.Music", {}}})
     EXPECT_EQ(read_request(line_of(request)), request);
@@ -22,9 +22,9 @@ TEST(ControlRequests, RoundTrip) {
 TEST(ControlRequests, MustFillTheWholeLine) {
   for (const char* line :
        {"", "\n", "kill SpringBoard", "kill\n", "kill \n", "kill SpringBoard now\n", "open\n",
-        "show me\n", "show \n", "open com.apple.Music\n", "open com.apple.Music Music more\n",
-        "close\n", "close com.apple.Music Music\n", "shut com.apple.Music\n",
-        "open  com.apple.Music Music\n"})
+        "show me\n", "play /music/a.mp3\n", "show \n", "open com.apple.Music\n",
+        "open com.apple.Music Music more\n", "close\n", "close com.apple.Music Music\n",
+        "shut com.apple.Music\n", "open  com.apple.Music Music\n"})
     EXPECT_EQ(read_request(line), std::nullopt) << line;
 }
 

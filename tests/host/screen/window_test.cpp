@@ -76,6 +76,12 @@ class Windows : public testing::Test {
     event.key.repeat = repeat;
     SDL_PushEvent(&event);
   }
+  static void push_drop(Uint32 type, const char* thing = nullptr) {
+    SDL_Event event{};
+    event.type = type;
+    event.drop.file = thing ? SDL_strdup(thing) : nullptr;
+    SDL_PushEvent(&event);
+  }
   std::vector<std::string> handled() {
     input_.done.clear();
     window_->handle_events();
@@ -187,6 +193,29 @@ TEST_F(Windows, TextBeingComposedIsReported) {
 TEST_F(Windows, ShareTheDesktopsClipboard) {
   window_->set_clipboard_text("Größe");
   EXPECT_EQ(window_->clipboard_text(), "Größe");
+}
+
+TEST_F(Windows, FilesThatAreDroppedTogetherAreReportedTogether) {
+  push_drop(SDL_DROPBEGIN);
+  push_drop(SDL_DROPFILE, "/music/a song.flac");
+  push_drop(SDL_DROPFILE, "/music/album");
+  EXPECT_THAT(handled(), IsEmpty());
+  push_drop(SDL_DROPTEXT, "https://example.org/");
+  push_drop(SDL_DROPCOMPLETE);
+  push_drop(SDL_DROPBEGIN);
+  push_drop(SDL_DROPCOMPLETE);
+  EXPECT_THAT(handled(),
+              ElementsAre("drop /music/a song.flac, /music/album, https://example.org/"));
+}
+
+TEST_F(Windows, OnlyTheWindowItselfReactsWhileItSleeps) {
+  window_->set_awake(false);
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20);
+  push_key(SDLK_F1);
+  SDL_Event event{};
+  event.type = SDL_QUIT;
+  SDL_PushEvent(&event);
+  EXPECT_THAT(handled(), ElementsAre("close"));
 }
 
 TEST_F(Windows, ClosingTheWindowIsReported) {

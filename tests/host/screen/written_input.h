@@ -27,6 +27,9 @@ class WrittenInput : public host::screen::Input {
     done.push_back(fmt::format("{} {}", way, static_cast<int>(button)));
   }
   void shake() override { done.push_back("shake"); }
+  void drop(std::vector<std::string> things) override {
+    done.push_back(fmt::format("drop {}", fmt::join(things, ", ")));
+  }
   void close() override { done.push_back("close"); }
 
   std::vector<std::string> done;

@@ -1,0 +1,62 @@
+#include "host/launcher/handed_files.h"
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <sstream>
+
+#include "host/files/folder.h"
+
+namespace host::launcher {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kListPrefix = "play-";
+// No path contains it.
+constexpr char kEndOfPath = '\0';
+
+std::string name_of_new_list() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return fmt::format("{}{:020}-{}", kListPrefix, now / std::chrono::nanoseconds(1), getpid());
+}
+
+void append_list(const fs::path& list, std::vector<std::string>& files) {
+  std::ifstream file(list, std::ios::binary);
+  for (std::string path; std::getline(file, path, kEndOfPath);)
+    files.push_back(path);
+}
+
+}  // namespace
+
+bool hand_over(const fs::path& folder, const std::vector<std::string>& files) {
+  if (folder.empty()) return false;
+  const std::string name = name_of_new_list();
+  // A list that has its name is complete.
+  const fs::path unfinished = folder / ("." + name);
+  std::ofstream file(unfinished, std::ios::binary);
+  for (const std::string& path : files)
+    file << path << kEndOfPath;
+  file.close();
+  std::error_code error;
+  if (file) fs::rename(unfinished, folder / name, error);
+  if (file && !error) return true;
+  fs::remove(unfinished, error);
+  return false;
+}
+
+std::vector<std::string> take_handed_files(const fs::path& folder) {
+  std::vector<std::string> files;
+  std::error_code ignored;
+  for (const fs::path& path : files::paths_in(folder, ignored)) {
+    if (!path.filename().native().starts_with(kListPrefix)) continue;
+    append_list(path, files);
+    fs::remove(path, ignored);
+  }
+  return files;
+}
+
+}  // namespace host::launcher
