@@ -11,11 +11,12 @@
 namespace host::media {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, int>, 5> formats = {{
+constexpr std::array<std::pair<std::string_view, int>, 6> formats = {{
     {".flac", SF_FORMAT_FLAC | SF_FORMAT_PCM_16},
     {".ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS},
     {".opus", SF_FORMAT_OGG | SF_FORMAT_OPUS},
     {".mp3", SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III},
+    {".aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_16},
     {".wav", SF_FORMAT_WAV | SF_FORMAT_PCM_16},
 }};
 

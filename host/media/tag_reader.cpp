@@ -1,5 +1,9 @@
 #include "host/media/tag_reader.h"
 
+#include <aifffile.h>
+#include <apetag.h>
+#include <asffile.h>
+#include <asfpicture.h>
 #include <attachedpictureframe.h>
 #include <fileref.h>
 #include <flacfile.h>
@@ -10,6 +14,7 @@
 #include <tpropertymap.h>
 #include <vorbisfile.h>
 #include <wavfile.h>
+#include <wavpackfile.h>
 #include <xiphcomment.h>
 
 #include <algorithm>
@@ -18,6 +23,7 @@
 #include <filesystem>
 #include <span>
 
+#include "host/media/adts.h"
 #include "host/media/bounded_stream.h"
 #include "host/media/hash.h"
 #include "host/media/picture.h"
@@ -60,12 +66,36 @@ TagLib::ByteVector mp4_picture(const TagLib::MP4::Tag* tag) {
   return covers.isEmpty() ? TagLib::ByteVector{} : covers.front().data();
 }
 
+TagLib::ByteVector asf_picture(const TagLib::ASF::Tag* tag) {
+  TagLib::ByteVector best;
+  if (tag == nullptr) return best;
+  for (const auto& attribute : tag->attribute("WM/Picture")) {
+    const TagLib::ASF::Picture picture = attribute.toPicture();
+    const bool is_front = picture.type() == TagLib::ASF::Picture::FrontCover;
+    if (best.isEmpty() || is_front) best = picture.picture();
+    if (is_front) break;
+  }
+  return best;
+}
+
+// The item is the name of a file, a zero byte and the picture.
+TagLib::ByteVector ape_picture(const TagLib::APE::Tag* tag) {
+  if (tag == nullptr) return {};
+  const TagLib::ByteVector bytes = tag->itemListMap()["COVER ART (FRONT)"].binaryData();
+  const int end_of_name = bytes.find('\0');
+  return end_of_name < 0 ? TagLib::ByteVector{}
+                         : bytes.mid(static_cast<unsigned int>(end_of_name) + 1);
+}
+
 TagLib::ByteVector picture_in(TagLib::File* file) {
   if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(file)) {
     return best_flac_picture(flac->pictureList());
   }
   if (auto* mpeg = dynamic_cast<TagLib::MPEG::File*>(file)) return id3_picture(mpeg->ID3v2Tag());
   if (auto* wav = dynamic_cast<TagLib::RIFF::WAV::File*>(file)) return id3_picture(wav->ID3v2Tag());
+  if (auto* aiff = dynamic_cast<TagLib::RIFF::AIFF::File*>(file)) return id3_picture(aiff->tag());
+  if (auto* asf = dynamic_cast<TagLib::ASF::File*>(file)) return asf_picture(asf->tag());
+  if (auto* pack = dynamic_cast<TagLib::WavPack::File*>(file)) return ape_picture(pack->APETag());
   if (auto* mp4 = dynamic_cast<TagLib::MP4::File*>(file)) return mp4_picture(mp4->tag());
   if (auto* xiph = dynamic_cast<TagLib::Ogg::XiphComment*>(file->tag())) {
     return best_flac_picture(xiph->pictureList());
@@ -112,18 +142,30 @@ TagReading refused_file(std::string reason) {
   return {std::nullopt, std::move(reason), false};
 }
 
+std::string title_from_name(const std::string& path) {
+  return repaired_text(std::filesystem::path{path}.stem().string());
+}
+
+TagReading read_without_tags(const std::string& path) {
+  const AdtsSound sound = read_adts(path);
+  if (sound.sample_rate == 0) return refused_file("is not an audio file");
+  SongTags tags;
+  tags.title = title_from_name(path);
+  tags.duration_seconds = std::clamp(sound.duration_seconds, 0.0, longest_file_seconds);
+  return {std::move(tags), {}, false};
+}
+
 TagReading read_opened(const std::string& path) {
   BoundedStream stream{path.c_str()};
   const TagLib::FileRef reference{&stream, true, TagLib::AudioProperties::Average};
-  if (reference.isNull() || !reference.file()->isValid())
-    return refused_file("is not an audio file");
+  if (reference.isNull() || !reference.file()->isValid()) return read_without_tags(path);
   const TagLib::AudioProperties* audio = reference.audioProperties();
   if (audio == nullptr || audio->sampleRate() <= 0 || audio->channels() <= 0) {
     return refused_file("contains no audio");
   }
   SongTags tags = tags_from(reference.file()->properties());
   if (tags.title.empty()) {
-    tags.title = repaired_text(std::filesystem::path{path}.stem().string());
+    tags.title = title_from_name(path);
   }
   tags.duration_seconds =
       std::clamp(audio->lengthInMilliseconds() / 1000.0, 0.0, longest_file_seconds);

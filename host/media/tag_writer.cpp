@@ -1,5 +1,9 @@
 #include "host/media/tag_writer.h"
 
+#include <aifffile.h>
+#include <apetag.h>
+#include <asffile.h>
+#include <asfpicture.h>
 #include <attachedpictureframe.h>
 #include <fileref.h>
 #include <flacfile.h>
@@ -8,6 +12,7 @@
 #include <mpegfile.h>
 #include <tpropertymap.h>
 #include <wavfile.h>
+#include <wavpackfile.h>
 #include <xiphcomment.h>
 
 #include <exception>
@@ -52,6 +57,14 @@ TagLib::FLAC::Picture* new_flac_picture(const TagLib::ByteVector& jpeg) {
   return picture;
 }
 
+TagLib::ASF::Picture new_asf_picture(const TagLib::ByteVector& jpeg) {
+  TagLib::ASF::Picture picture;
+  picture.setMimeType("image/jpeg");
+  picture.setType(TagLib::ASF::Picture::FrontCover);
+  picture.setPicture(jpeg);
+  return picture;
+}
+
 void add_picture(TagLib::File* file, const TagLib::ByteVector& jpeg) {
   if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(file)) {
     flac->addPicture(new_flac_picture(jpeg));
@@ -59,6 +72,13 @@ void add_picture(TagLib::File* file, const TagLib::ByteVector& jpeg) {
     add_id3_picture(mpeg->ID3v2Tag(true), jpeg);
   } else if (auto* wav = dynamic_cast<TagLib::RIFF::WAV::File*>(file)) {
     add_id3_picture(wav->ID3v2Tag(), jpeg);
+  } else if (auto* aiff = dynamic_cast<TagLib::RIFF::AIFF::File*>(file)) {
+    add_id3_picture(aiff->tag(), jpeg);
+  } else if (auto* asf = dynamic_cast<TagLib::ASF::File*>(file)) {
+    asf->tag()->addAttribute("WM/Picture", new_asf_picture(jpeg));
+  } else if (auto* pack = dynamic_cast<TagLib::WavPack::File*>(file)) {
+    const TagLib::ByteVector name("cover.jpg", sizeof "cover.jpg");
+    pack->APETag(true)->setData("COVER ART (FRONT)", name + jpeg);
   } else if (auto* xiph = dynamic_cast<TagLib::Ogg::XiphComment*>(file->tag())) {
     xiph->addPicture(new_flac_picture(jpeg));
   }

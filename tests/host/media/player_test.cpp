@@ -284,6 +284,40 @@ TEST(MpvPlayer, AMissingSoundDeviceIsOneLineAStart) {
   EXPECT_EQ(log.count("no sound device"), 1);
 }
 
+TEST(MpvPlayer, PlaysEveryKindOfSong) {
+  struct Listener : PlayerListener {
+    int ends = 0;
+    void player_did_reach_end() override { ++ends; }
+    void player_did_fail(const std::string& path, const std::string& reason) override {
+      ADD_FAILURE() << path << ": " << reason;
+      ++ends;
+    }
+  } listener;
+  const TemporaryFolder folder;
+  std::vector<std::string> songs = {MEDIA_TEST_DATA "/tiny.m4a", MEDIA_TEST_DATA "/tiny.aac",
+                                    MEDIA_TEST_DATA "/tiny.wma", MEDIA_TEST_DATA "/tiny.wv"};
+  for (const char* name : {"a.aiff", "a.flac", "a.mp3", "a.ogg", "a.opus"}) {
+    write_tone(folder / name, 0.2);
+    songs.push_back(folder / name);
+  }
+  const auto player = MpvPlayer::create({"null", PlayerPace::real, {}});
+  ASSERT_TRUE(player);
+  player->set_listener(&listener);
+  player->play();
+  for (int played = 0; const std::string& song : songs) {
+    player->load(song);
+    // What is longer than it has to be is not waited for.
+    bool has_skipped = false;
+    pollfd waiting{player->descriptor(), POLLIN, 0};
+    ++played;
+    while (listener.ends < played && ::poll(&waiting, 1, 10'000) == 1) {
+      player->pump();
+      if (player->duration() > 2 && !std::exchange(has_skipped, true)) player->seek(3.7);
+    }
+    ASSERT_EQ(listener.ends, played) << song;
+  }
+}
+
 TEST(MpvPlayer, PlaysInRealTimeAndWakesTheMainLoopAtTheEnd) {
   struct Listener : PlayerListener {
     int ends = 0;

@@ -5,6 +5,9 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <filesystem>
+
+#include "host/media/tag_writer.h"
 #include "tests/support/media_fixtures.h"
 
 using namespace host::media;
@@ -36,6 +39,19 @@ SongTags sample_tags() {
   return tags;
 }
 
+// Reads the song back; what the file itself decides is taken over.
+void expect_tags(const std::string& path, SongTags expected,
+                 const std::vector<std::uint8_t>& cover) {
+  const TagReading reading = read_tags(path);
+  ASSERT_TRUE(reading.tags) << reading.refusal;
+  EXPECT_NE(reading.tags->own_artwork, 0u);
+  expected.duration_seconds = reading.tags->duration_seconds;
+  expected.own_artwork = reading.tags->own_artwork;
+  expected.own_picture = reading.tags->own_picture;
+  EXPECT_EQ(*reading.tags, expected);
+  EXPECT_EQ(read_embedded_picture(path), cover);
+}
+
 class TagFormats : public testing::TestWithParam<const char*> {};
 
 }  // namespace
@@ -45,22 +61,49 @@ TEST_P(TagFormats, TagsDurationAndCoverComeBackAsWritten) {
   const std::string path = folder / (std::string{"song"} + GetParam());
   const auto cover = jpeg_picture(32, 32, 0x336699);
   write_song(path, sample_tags(), cover, 2.0);
-
-  const TagReading reading = read_tags(path);
-
-  ASSERT_TRUE(reading.tags) << reading.refusal;
-  SongTags expected = sample_tags();
-  EXPECT_NEAR(reading.tags->duration_seconds, 2.0, 0.1);
-  EXPECT_NE(reading.tags->own_artwork, 0u);
-  expected.duration_seconds = reading.tags->duration_seconds;
-  expected.own_artwork = reading.tags->own_artwork;
-  expected.own_picture = reading.tags->own_picture;
-  EXPECT_EQ(*reading.tags, expected);
-  EXPECT_EQ(read_embedded_picture(path), cover);
+  expect_tags(path, sample_tags(), cover);
+  EXPECT_NEAR(read_tags(path).tags->duration_seconds, 2.0, 0.1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, TagFormats,
-                         testing::Values(".flac", ".ogg", ".opus", ".mp3", ".wav"));
+                         testing::Values(".flac", ".ogg", ".opus", ".mp3", ".wav", ".aiff"));
+
+class TagsOfMadeFiles : public testing::TestWithParam<const char*> {};
+
+TEST_P(TagsOfMadeFiles, AndCoverComeBackAsWritten) {
+  const TemporaryFolder folder;
+  const std::string path = folder / (std::string{"song"} + GetParam());
+  std::filesystem::copy_file(std::string{MEDIA_TEST_DATA "/tiny"} + GetParam(), path);
+  EXPECT_EQ(read_tags(path).tags->title, "Small Sine");
+  const auto cover = jpeg_picture(32, 32, 0x336699);
+  ASSERT_TRUE(write_tags(path, sample_tags(), cover));
+  SongTags expected = sample_tags();
+  // The tag library knows no such field of this kind of file.
+  if (path.ends_with(".wma")) expected.is_compilation = false;
+  expect_tags(path, expected, cover);
+  EXPECT_GT(read_tags(path).tags->duration_seconds, 0.2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, TagsOfMadeFiles, testing::Values(".wma", ".wv"));
+
+TEST(TagReader, RawAacHasTheNameOfItsFileAndTheLengthOfItsFrames) {
+  const TemporaryFolder folder;
+  const std::string raw = read_bytes(MEDIA_TEST_DATA "/tiny.aac");
+  const std::string id3 = std::string("ID3\x04\0\0\0\0\x01\0", 10) + std::string(128, '\0');
+  write_bytes(folder / "Plain.aac", raw);
+  write_bytes(folder / "Behind a tag.aac", id3 + raw);
+  for (const char* name : {"Plain", "Behind a tag"}) {
+    const TagReading reading = read_tags(folder / (std::string{name} + ".aac"));
+    ASSERT_TRUE(reading.tags) << reading.refusal;
+    EXPECT_EQ(reading.tags->title, name);
+    EXPECT_NEAR(reading.tags->duration_seconds, 0.32, 0.1);
+  }
+  write_bytes(folder / "One frame.aac", raw.substr(0, 20));
+  write_bytes(folder / "Letter.aac", "hello");
+  write_bytes(folder / "Only a tag.aac", id3);
+  for (const char* name : {"One frame.aac", "Letter.aac", "Only a tag.aac"})
+    EXPECT_EQ(read_tags(folder / name).refusal, "is not an audio file") << name;
+}
 
 TEST(TagReader, AnM4aFileIsRead) {
   const TagReading reading = read_tags(MEDIA_TEST_DATA "/tiny.m4a");
