@@ -21,10 +21,10 @@ ScrollMotion::ScrollMotion(objc::Object owner, std::function<void(CGPoint)> move
                            std::function<void(Kind)> finish)
     : owner_(owner), move_(std::move(move)), finish_(std::move(finish)) {}
 
-void ScrollMotion::glide(AxisGlide horizontal, AxisGlide vertical) {
+void ScrollMotion::start(Kind kind, AxisGlide horizontal, AxisGlide vertical) {
   horizontal_ = std::move(horizontal);
   vertical_ = std::move(vertical);
-  start(Kind::Glide, std::max(horizontal_.duration(), vertical_.duration()));
+  start(kind, std::max(horizontal_.duration(), vertical_.duration()));
 }
 
 void ScrollMotion::animate(CGPoint from, CGPoint to) {
@@ -59,7 +59,7 @@ CGPoint ScrollMotion::end() const {
 }
 
 CGPoint ScrollMotion::offset_at(double time) const {
-  if (kind_ == Kind::Glide)
+  if (kind_ != Kind::Animation)
     return on_pixel(CGPoint{horizontal_.position(time), vertical_.position(time)});
   const double share = eased(std::clamp(time / duration_, 0.0, 1.0));
   return on_pixel(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "host/runtime/run_loop.h"
 #include "host/uikit/scroll_physics/axis_glide.h"
@@ -9,11 +10,11 @@
 
 namespace host::uikit {
 
-/// Moves an offset without a finger: a glide after a release, or the animation to an offset that
-/// was set. It requests frames from the loop only while it runs.
+/// Moves an offset without a finger: a glide after a release, the short way of a notched wheel, or
+/// the animation to an offset that was set. It requests frames from the loop only while it runs.
 class ScrollMotion {
  public:
-  enum class Kind { None, Glide, Animation };
+  enum class Kind { None, Glide, Wheel, Animation };
 
   /// `owner` holds this motion and is kept alive during each frame. `move` receives every new
   /// offset, `finish` the kind of a motion that has come to its own end.
@@ -23,7 +24,12 @@ class ScrollMotion {
   ScrollMotion& operator=(const ScrollMotion&) = delete;
   ~ScrollMotion() { stop(); }
 
-  void glide(AxisGlide horizontal, AxisGlide vertical);
+  void glide(AxisGlide horizontal, AxisGlide vertical) {
+    start(Kind::Glide, std::move(horizontal), std::move(vertical));
+  }
+  void turn(AxisGlide horizontal, AxisGlide vertical) {
+    start(Kind::Wheel, std::move(horizontal), std::move(vertical));
+  }
   void animate(CGPoint from, CGPoint to);
   /// Ends the motion where it is, without calling `finish`.
   void stop();
@@ -36,6 +42,7 @@ class ScrollMotion {
   CGPoint end() const;
 
  private:
+  void start(Kind kind, AxisGlide horizontal, AxisGlide vertical);
   void start(Kind kind, double duration);
   void frame(double now);
   CGPoint offset_at(double time) const;

@@ -160,7 +160,10 @@ void ScrollView::update_indicators() {
 
 void ScrollView::offset_changed() {
   self.setNeedsLayout();
-  if (motion_.kind() == ScrollMotion::Kind::Glide && !moving_by_motion_) continue_glide();
+  if (!moving_by_motion_) {
+    if (motion_.kind() == ScrollMotion::Kind::Glide) continue_glide();
+    if (motion_.kind() == ScrollMotion::Kind::Wheel) motion_.stop();
+  }
   listener("scrollViewDidScroll:"_sel).scrollViewDidScroll(self);
 }
 
@@ -178,6 +181,8 @@ void ScrollView::stop_motion() {
 }
 
 void ScrollView::motion_finished(ScrollMotion::Kind kind) {
+  // The wheel may turn on: its run ends with a pause.
+  if (kind == ScrollMotion::Kind::Wheel) return;
   indicators_->fade();
   if (kind == ScrollMotion::Kind::Glide) {
     listener("scrollViewDidEndDecelerating:"_sel).scrollViewDidEndDecelerating(self);

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
+#include "host/runtime/countdown.h"
 #include "host/uikit/scroll/scroll_geometry.h"
 #include "host/uikit/scroll/scroll_motion.h"
+#include "host/uikit/scroll/wheel.h"
 #include "objc/class_builder.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIScrollView.h"
@@ -89,12 +92,23 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
   Caught finger_down(UIView touched);
   void finger_gone();
 
+  // For the desktop's wheel.
+  /// Whether the content can still move in the direction of `by`.
+  bool can_turn(CGPoint by) const;
+  void turn(CGPoint by, WheelKind kind);
+
  private:
   enum class Axis { Horizontal, Vertical };
   /// The axes along which the current drag moves the content.
   struct Axes {
     bool horizontal = false;
     bool vertical = false;
+  };
+  /// A series of turns without a pause, which the delegate takes for one drag.
+  struct WheelRun {
+    CGPoint began;
+    /// What the offset, which is on a pixel, lacks of the turns so far.
+    CGPoint rest;
   };
 
   ScrollGeometry geometry() const;
@@ -111,12 +125,19 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
   void begin_pull();
   void drag();
   void end_drag(CGPoint finger_velocity);
+  void release(AxisGlide horizontal, AxisGlide vertical, CGPoint velocity);
   /// Where the finger has pulled the content, ignoring edges.
   CGPoint pull() const;
   CGPoint dragged_offset(CGPoint pulled) const;
   CGPoint velocity_of_content(CGPoint finger_velocity) const;
   AxisGlide glide_along(Axis axis, double offset, double velocity) const;
   AxisGlide glide_to(Axis axis, double offset, double velocity, double target) const;
+
+  void begin_wheel();
+  void end_wheel();
+  CGPoint wheel_position() const;
+  CGPoint wheel_target(CGPoint by, WheelKind kind) const;
+  void turn_page(CGPoint by);
 
   void update_indicators();
 
@@ -137,6 +158,8 @@ class ScrollView : public objc::Implementation<ScrollView, UIScrollView> {
   Axes axes_;
   CGPoint drag_translation_;
   CGPoint drag_pull_;
+  std::optional<WheelRun> wheel_;
+  Countdown wheel_pause_;
   double touch_time_ = 0;
   /// Counts the offsets set with `setContentOffset:animated:`.
   unsigned settings_ = 0;

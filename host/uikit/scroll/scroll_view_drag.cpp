@@ -63,6 +63,7 @@ BOOL ScrollView::gesture_recognizer_should_begin(UIGestureRecognizer recognizer)
 }
 
 ScrollView::Caught ScrollView::finger_down(UIView touched) {
+  end_wheel();
   tracking_ = YES;
   touched_ = touched;
   touch_time_ = RunLoop::main().now();
@@ -184,9 +185,12 @@ void ScrollView::end_drag(CGPoint finger_velocity) {
   if (!dragging_) return;
   const CGPoint offset = self.contentOffset();
   const CGPoint velocity = velocity_of_content(finger_velocity);
-  AxisGlide horizontal = glide_along(Axis::Horizontal, offset.x, velocity.x);
-  AxisGlide vertical = glide_along(Axis::Vertical, offset.y, velocity.y);
+  release(glide_along(Axis::Horizontal, offset.x, velocity.x),
+          glide_along(Axis::Vertical, offset.y, velocity.y), velocity);
+}
 
+void ScrollView::release(AxisGlide horizontal, AxisGlide vertical, CGPoint velocity) {
+  const CGPoint offset = self.contentOffset();
   const CGPoint predicted{horizontal.end(), vertical.end()};
   CGPoint target = predicted;
   const unsigned settings_before = settings_;

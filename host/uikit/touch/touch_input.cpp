@@ -6,7 +6,6 @@
 
 #include "host/runtime/run_loop.h"
 #include "host/uikit/geometry/screen_space.h"
-#include "host/uikit/geometry/window_list.h"
 #include "host/uikit/touch/event.h"
 #include "host/uikit/touch/present_touches.h"
 #include "host/uikit/touch/system_gestures.h"
@@ -190,6 +189,11 @@ void TouchInput::send(UITouch touch, double timestamp) {
     touch.window().sendEvent(event);
   }
   state.set_changed_touch(before, timestamp);
+}
+
+Hit hit_of_pointer(CGPoint screen_point) {
+  if (!touches_enabled || ignores_touches()) return {};
+  return find_hit(screen_point, touches_event());
 }
 
 void cancel_every_touch() {

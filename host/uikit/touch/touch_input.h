@@ -3,6 +3,7 @@
 #include <map>
 #include <optional>
 
+#include "host/uikit/geometry/window_list.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UIGestureRecognizer.h"
 #include "platform/UIKit/UITouch.h"
@@ -66,6 +67,10 @@ class TouchInput {
   std::optional<int> shown_;
   Tap last_tap_;
 };
+
+/// Returns what a finger would touch at this point of the screen, for a pointer that is no finger;
+/// nothing while touches are disabled or ignored.
+Hit hit_of_pointer(CGPoint screen_point);
 
 /// Cancels every touch for its view and recognisers, which are told so. A finger that stays on the
 /// screen is then ignored until it lifts, unless a system gesture has claimed it: that one keeps
