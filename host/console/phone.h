@@ -13,6 +13,7 @@ namespace host::console {
 using screen::Button;
 using screen::ButtonPhase;
 using screen::TouchPhase;
+using screen::WheelKind;
 
 enum class SystemEvent {
   Banner,
@@ -44,6 +45,7 @@ class Phone {
   virtual void advance(double seconds) = 0;
   /// Moves one of the fingers; `point` is in points from the screen's top left.
   virtual void touch(int finger, TouchPhase phase, CGPoint point) = 0;
+  virtual Refusal wheel(CGPoint point, CGPoint by, WheelKind kind) = 0;
   /// The centre of a view, in points of the screen; empty when `object` is not a view or is not in
   /// a window.
   virtual std::optional<CGPoint> centre_of(objc::Object object) = 0;

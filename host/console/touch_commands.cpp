@@ -15,6 +15,7 @@ constexpr double kTapHold = 0.05;
 constexpr double kTapPause = 0.08;
 constexpr int kMostTaps = 10;
 constexpr double kLongestDrag = 60;
+constexpr double kLongestTurn = 10000;
 // The finger that taps and drags, and the default for touches.
 constexpr int kFirstFinger = 1;
 constexpr int kLastFinger = 5;
@@ -118,7 +119,31 @@ Result<Answer> drag(Session& session, LineReader& reader) {
   return Answer{};
 }
 
-constexpr Command kTouchCommands[] = {{"tap", &tap}, {"touch", &touch}, {"drag", &drag}};
+/// Reads how far the wheel turns along one axis.
+Result<double> turn_of(LineReader& reader) {
+  reader.at_end();
+  const Problem wrong = reader.problem(fmt::format("a wheel turns by at most {}", kLongestTurn));
+  const auto by = reader.number("how far the wheel turns");
+  if (by && std::abs(*by) > kLongestTurn) return wrong;
+  return by;
+}
+
+Result<Answer> wheel(Session& session, LineReader& reader) {
+  const auto point = session.point(reader);
+  if (!point) return point.problem();
+  const auto across = turn_of(reader);
+  if (!across) return across.problem();
+  const auto down = turn_of(reader);
+  if (!down) return down.problem();
+  const bool precise = reader.peek_word() == "precise";
+  if (precise) reader.word();
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().wheel(*point, {*across, *down},
+                                         precise ? WheelKind::Precise : WheelKind::Notched));
+}
+
+constexpr Command kTouchCommands[] = {
+    {"tap", &tap}, {"touch", &touch}, {"drag", &drag}, {"wheel", &wheel}};
 
 }  // namespace
 

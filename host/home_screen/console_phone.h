@@ -24,6 +24,9 @@ class ConsolePhone final : public console::Phone {
   void advance(double seconds) override { parts_.advance(seconds); }
   void touch(int finger, console::TouchPhase phase, CGPoint point) override;
   std::optional<CGPoint> centre_of(objc::Object object) override;
+  console::Refusal wheel(CGPoint point, CGPoint by, console::WheelKind kind) override {
+    return hands_.wheel(point, by, kind);
+  }
   console::Refusal type(std::string_view text) override { return hands_.type(text); }
   console::Refusal key(std::string_view name) override { return hands_.key(name); }
   console::Refusal press(console::Button button) override { return hands_.press(button); }

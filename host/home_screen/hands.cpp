@@ -40,6 +40,14 @@ void Hands::touch(int finger, screen::TouchPhase phase, CGPoint point) {
   }
 }
 
+Hands::Refusal Hands::wheel(CGPoint point, CGPoint by, screen::WheelKind kind) {
+  const bool notched = kind == screen::WheelKind::Notched;
+  const bool moves = springboard::turn_wheel_over(
+      point, by, notched ? uikit::WheelKind::Notched : uikit::WheelKind::Precise);
+  if (!moves) return "nothing there moves that way";
+  return std::nullopt;
+}
+
 Hands::Refusal Hands::type(std::string_view text) {
   const auto typed = NSString::stringWithUTF8String(std::string(text).c_str());
   if (!typed) return "the text is not UTF-8";

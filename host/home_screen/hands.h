@@ -22,6 +22,7 @@ class Hands {
   Hands(RunLoop& loop, CGSize screen) : loop_(loop), gestures_(loop, screen) {}
 
   void touch(int finger, screen::TouchPhase phase, CGPoint point);
+  Refusal wheel(CGPoint point, CGPoint by, screen::WheelKind kind);
   Refusal type(std::string_view text);
   /// Sets the text that an input method is composing; `caret` counts code points.
   Refusal compose(std::string_view text, int caret);

@@ -16,6 +16,9 @@ class WindowInput final : public screen::Input {
   void touch(int finger, screen::TouchPhase phase, CGPoint point) override {
     hands_.touch(finger, phase, point);
   }
+  void wheel(CGPoint point, CGPoint by, screen::WheelKind kind) override {
+    hands_.wheel(point, by, kind);
+  }
   // Failures are ignored: the user need not be told that nothing is taking a key.
   void type(std::string_view text) override { hands_.type(text); }
   void compose(std::string_view text, int caret) override { hands_.compose(text, caret); }

@@ -15,6 +15,9 @@ enum class Button { Home, HomeDouble, Lock, VolumeUp, VolumeDown, HomeTouch };
 
 enum class ButtonPhase { Down, Up };
 
+/// A notched wheel turns by notches; a touchpad, or a wheel without notches, by points.
+enum class WheelKind { Notched, Precise };
+
 /// Receives the user's actions on the phone.
 class Input {
  public:
@@ -22,6 +25,9 @@ class Input {
 
   /// `point` is in points of the screen from its top left; it may lie outside.
   virtual void touch(int finger, TouchPhase phase, CGPoint point) = 0;
+  /// The wheel turns over a point of the screen; positive values show what is further right or
+  /// below.
+  virtual void wheel(CGPoint point, CGPoint by, WheelKind kind) = 0;
   /// Text from the keyboard, as UTF-8, after composition by input methods.
   virtual void type(std::string_view text) = 0;
   /// Text that an input method is still composing; replaces what it composed before. Empty when the

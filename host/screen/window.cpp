@@ -219,6 +219,9 @@ void Window::handle(const SDL_Event& event) {
     case SDL_MOUSEMOTION:
       handle_mouse(event);
       break;
+    case SDL_MOUSEWHEEL:
+      handle_wheel(event.wheel);
+      break;
     case SDL_FINGERDOWN:
     case SDL_FINGERUP:
     case SDL_FINGERMOTION:
@@ -267,6 +270,15 @@ void Window::handle_mouse(const SDL_Event& event) {
   } else {
     pointers_.up(kMouseFinger, point);
   }
+}
+
+void Window::handle_wheel(const SDL_MouseWheelEvent& event) {
+  const auto box = Letterbox::fit(body_.size(), window_size());
+  const CGPoint point =
+      box.point_at({static_cast<double>(event.mouseX), static_cast<double>(event.mouseY)});
+  if (!body_.screen().contains(point)) return;
+  const auto [by, kind] = wheel_units_.of(event, box.scale);
+  input_.wheel({point.x - body_.screen().min_x(), point.y - body_.screen().min_y()}, by, kind);
 }
 
 void Window::handle_finger(const SDL_Event& event) {

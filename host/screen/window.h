@@ -9,10 +9,12 @@
 #include "host/screen/letterbox.h"
 #include "host/screen/pointers.h"
 #include "host/screen/screen.h"
+#include "host/screen/wheel_units.h"
 
 struct SDL_Renderer;
 struct SDL_Texture;
 struct SDL_Window;
+struct SDL_MouseWheelEvent;
 union SDL_Event;
 
 namespace host::screen {
@@ -53,6 +55,7 @@ class Window final : public Screen {
   bool create(double pixels_per_point);
   void handle(const SDL_Event& event);
   void handle_mouse(const SDL_Event& event);
+  void handle_wheel(const SDL_MouseWheelEvent& event);
   void handle_finger(const SDL_Event& event);
   void handle_drop(const SDL_Event& event);
   void present();
@@ -80,6 +83,7 @@ class Window final : public Screen {
   Fingers fingers_;
   bool is_awake_ = true;
   std::vector<std::string> dropped_;  // until the drop is complete
+  WheelUnits wheel_units_;
 };
 
 }  // namespace host::screen

@@ -114,6 +114,21 @@ struct PlaybackIs {
   }
 };
 
+/// The desktop's wheel turns over a point of the application's screen: by points if it is precise,
+/// else by notches.
+struct WheelTurn {
+  bool is_precise = false;
+  double x = 0;
+  double y = 0;
+  double across = 0;
+  double down = 0;
+  double time = 0;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(is_precise, x, y, across, down, time);
+  }
+};
+
 struct NewFrame {
   std::uint8_t buffer = 0;
   // The damage since the previous frame, in pixels.
@@ -181,8 +196,9 @@ struct SteerPlayer {
 };
 
 // A message's kind on the wire is its index in these lists.
-using ToApplication = std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey,
-                                   Visibility, TimeIs, ConsoleLine, Ping, FrameTaken, PlaybackIs>;
+using ToApplication =
+    std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey, Visibility, TimeIs,
+                 ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn>;
 using ToHome = std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer>;
 
 }  // namespace host::application

@@ -11,6 +11,7 @@ class OwnPhone final : public console::Phone {
   void advance(double) override {}
   void touch(int, console::TouchPhase, CGPoint) override {}
   std::optional<CGPoint> centre_of(objc::Object object) override;
+  console::Refusal wheel(CGPoint, CGPoint, console::WheelKind) override { return refused(); }
   console::Refusal type(std::string_view) override { return refused(); }
   console::Refusal key(std::string_view) override { return refused(); }
   console::Refusal press(console::Button) override { return refused(); }

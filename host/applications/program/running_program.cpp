@@ -4,6 +4,7 @@
 
 #include "host/applications/program/player_remote.h"
 #include "host/runtime/log.h"
+#include "host/uikit/scroll/wheel.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/text_layout/characters.h"
 #include "objc/autorelease_pool.h"
@@ -100,6 +101,12 @@ void RunningProgram::take(const FingerChange& change) {
     case FingerPhase::Cancelled:
       return touches_.cancelled(change.finger, point, time);
   }
+}
+
+void RunningProgram::take(const WheelTurn& turn) {
+  move_to(own_time(turn.time));
+  uikit::turn_wheel({turn.x, turn.y}, {turn.across, turn.down},
+                    turn.is_precise ? uikit::WheelKind::Precise : uikit::WheelKind::Notched);
 }
 
 // Text is dropped while no field accepts it, as on the home screen.

@@ -31,6 +31,7 @@ class RunningProgram {
   void watch();
   void handle_messages();
   void take(const FingerChange& change);
+  void take(const WheelTurn& turn);
   void take(const TypedText& typed);
   void take(const ComposedText& composed);
   void take(const PressedKey& pressed);

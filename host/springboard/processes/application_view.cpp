@@ -56,6 +56,12 @@ void ApplicationView::cancel_fingers() {
   fingers_.clear();
 }
 
+bool ApplicationView::turn_wheel(const application::WheelTurn& turn) const {
+  const auto process = process_.lock();
+  if (process) process->send(turn);
+  return static_cast<bool>(process);
+}
+
 void ApplicationView::touches_began(NSSet touches, UIEvent) {
   pass_on(touches, FingerPhase::Began);
 }

@@ -28,6 +28,9 @@ class ApplicationView : public objc::Implementation<ApplicationView, SBHostedApp
   /// Cancels the fingers that the application has.
   void cancel_fingers();
 
+  /// Passes on a turn of the wheel over this view. Returns false when the application has ended.
+  bool turn_wheel(const application::WheelTurn& turn) const;
+
   void touches_began(NSSet touches, UIEvent event);
   void touches_moved(NSSet touches, UIEvent event);
   void touches_ended(NSSet touches, UIEvent event);

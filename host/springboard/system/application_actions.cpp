@@ -1,11 +1,14 @@
 #include "host/application/wire/message_reader.h"
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/common/shared_instance.h"
+#include "host/springboard/processes/application_view.h"
 #include "host/springboard/processes/process_keeper.h"
 #include "host/springboard/processes/running_processes.h"
 #include "host/springboard/surfaces/surfaces.h"
 #include "host/springboard/system/system_actions.h"
 #include "host/springboard/system/ui_controller.h"
+#include "host/uikit/geometry/screen_space.h"
+#include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/responder.h"
 
 namespace host::springboard {
@@ -28,6 +31,15 @@ bool pass_on(const ToApplication& message) {
 }
 
 }  // namespace
+
+bool turn_wheel_over(CGPoint point, CGPoint by, uikit::WheelKind kind) {
+  const UIView view = uikit::hit_of_pointer(point).view;
+  if (!view.isKindOfClass(SBHostedApplicationView::cls()))
+    return uikit::turn_wheel(point, by, kind);
+  const CGPoint there = uikit::from_screen(view, point);
+  return objc::state_of<ApplicationView>(view).turn_wheel(
+      {kind == uikit::WheelKind::Precise, there.x, there.y, by.x, by.y, RunLoop::main().now()});
+}
 
 bool type_into_application(const std::string& text) {
   return pass_on(TypedText{text.substr(0, kLongestText)});

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/uikit/scroll/wheel.h"
+
 namespace host::springboard {
 
 // What can be done to the home screen from outside the screen. Each function sends the same
@@ -40,6 +42,10 @@ void present_control_centre();
 bool toggle_reachability();
 void lock();
 void unlock();
+
+/// Turns the desktop's wheel over a point of the screen, in whichever process has it. Returns false
+/// when nothing of the home screen moves; what an application does is not known.
+bool turn_wheel_over(CGPoint point, CGPoint by, uikit::WheelKind kind);
 
 // The physical keyboard while an application with a program is in front. Each returns true when the
 // input went to the application, because no view of the home screen itself is taking text.

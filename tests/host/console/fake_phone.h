@@ -23,6 +23,11 @@ class FakePhone : public host::console::Phone {
                                finger == 1 ? "" : fmt::format("finger {} ", finger),
                                kNames[static_cast<int>(phase)], point.x, point.y));
   }
+  Refusal wheel(CGPoint point, CGPoint by, host::console::WheelKind kind) override {
+    const bool notched = kind == host::console::WheelKind::Notched;
+    return note("wheel", fmt::format("{:.4g} {:.4g} by {:.4g} {:.4g} {}", point.x, point.y, by.x,
+                                     by.y, notched ? "notches" : "points"));
+  }
   std::optional<CGPoint> centre_of(objc::Object object) override {
     if (objc::cast<NSObject>(object).isKindOfClass(NSString::cls())) return CGPoint{30, 40};
     return std::nullopt;

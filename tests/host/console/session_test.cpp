@@ -144,6 +144,18 @@ TEST_F(Sessions, DragAcceptsViewsAndPoints) {
   EXPECT_EQ(say("drag 1 2 3 4"), "error: the number of seconds is missing (column 13)");
 }
 
+TEST_F(Sessions, TheWheelTurnsByNotchesOrByPoints) {
+  EXPECT_EQ(say("wheel 10 20 0 -1"), "ok");
+  EXPECT_EQ(say("wheel on @\"view\" 2.5 0 precise"), "ok");
+  EXPECT_THAT(phone_.done,
+              ElementsAre("wheel 10 20 by 0 -1 notches", "wheel 30 40 by 2.5 0 points"));
+  EXPECT_EQ(say("wheel 10 20 1"), "error: how far the wheel turns is missing (column 14)");
+  EXPECT_EQ(say("wheel 10 20 0 99999"), "error: a wheel turns by at most 10000 (column 15)");
+  EXPECT_EQ(say("wheel 10 20 0 1 coarse"), "error: unexpected text: coarse (column 17)");
+  phone_.refusal = "nothing there moves that way";
+  EXPECT_EQ(say("wheel 10 20 0 1"), "error: nothing there moves that way");
+}
+
 TEST_F(Sessions, KeyboardTakesLiteralTextAndKnownKeys) {
   EXPECT_EQ(say("type  #1 hit & more  "), "ok");
   EXPECT_EQ(say("key return"), "ok");

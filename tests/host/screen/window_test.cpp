@@ -82,6 +82,17 @@ class Windows : public testing::Test {
     event.drop.file = thing ? SDL_strdup(thing) : nullptr;
     SDL_PushEvent(&event);
   }
+  void push_wheel(float across, float up, CGPoint at = {10, 20}) {
+    SDL_Event event{};
+    event.type = SDL_MOUSEWHEEL;
+    event.wheel.mouseX = static_cast<int>(at.x + origin_.x);
+    event.wheel.mouseY = static_cast<int>(at.y + origin_.y);
+    event.wheel.x = static_cast<int>(across);
+    event.wheel.y = static_cast<int>(up);
+    event.wheel.preciseX = across;
+    event.wheel.preciseY = up;
+    SDL_PushEvent(&event);
+  }
   std::vector<std::string> handled() {
     input_.done.clear();
     window_->handle_events();
@@ -156,6 +167,40 @@ TEST_F(Windows, TheOtherMouseButtonTouchesHomeLightly) {
   push_mouse(SDL_MOUSEBUTTONDOWN, 50, 244, SDL_BUTTON_RIGHT);
   push_mouse(SDL_MOUSEBUTTONUP, 50, 244, SDL_BUTTON_RIGHT);
   EXPECT_THAT(handled(), ElementsAre("press 5"));
+}
+
+TEST_F(Windows, TheWheelTurnsByNotchesOverThePhonesScreen) {
+  push_wheel(0, -1);
+  push_wheel(2, 0);
+  push_wheel(0, -1, {-20, 20});
+  EXPECT_THAT(handled(), ElementsAre("wheel 10 20 by 0 1 notches", "wheel 10 20 by 2 0 notches"));
+}
+
+TEST_F(Windows, ShiftTurnsTheWheelSideways) {
+  SDL_SetModState(KMOD_LSHIFT);
+  push_wheel(0, -1);
+  EXPECT_THAT(handled(), ElementsAre("wheel 10 20 by 1 0 notches"));
+  SDL_SetModState(KMOD_NONE);
+}
+
+TEST_F(Windows, ATouchpadMovesByPoints) {
+  push_wheel(0.25F, -0.5F);
+  EXPECT_THAT(handled(), ElementsAre("wheel 10 20 by 2.5 5 points"));
+}
+
+TEST(Wheels, ReportsOfATouchpadMayHappenToBeWhole) {
+  WheelUnits units;
+  SDL_MouseWheelEvent event{};
+  event.timestamp = 5000;
+  event.preciseY = -0.5F;
+  EXPECT_EQ(units.of(event, 2).by, (CGPoint{0, 2.5}));
+  event.timestamp = 5900;
+  event.y = -1;
+  event.preciseY = -1;
+  EXPECT_EQ(units.of(event, 2).kind, WheelKind::Precise);
+  event.timestamp = 6100;
+  EXPECT_EQ(units.of(event, 2).kind, WheelKind::Notched);
+  EXPECT_EQ(units.of(event, 2).by, (CGPoint{0, 1}));
 }
 
 TEST_F(Windows, AKeyShakesThePhone) {

@@ -14,6 +14,11 @@ class WrittenInput : public host::screen::Input {
     done.push_back(
         fmt::format("touch {} {} {:g} {:g}", finger, static_cast<int>(phase), point.x, point.y));
   }
+  void wheel(CGPoint point, CGPoint by, host::screen::WheelKind kind) override {
+    const char* unit = kind == host::screen::WheelKind::Notched ? "notches" : "points";
+    done.push_back(
+        fmt::format("wheel {:g} {:g} by {:g} {:g} {}", point.x, point.y, by.x, by.y, unit));
+  }
   void type(std::string_view text) override { done.push_back(fmt::format("type {}", text)); }
   void compose(std::string_view text, int caret) override {
     done.push_back(fmt::format("compose {} {}", text, caret));

@@ -142,6 +142,21 @@ TEST_F(ProcessesTest, TouchesGoToTheApplicationInFront) {
   EXPECT_EQ(quartzcore::image_of(music()->picture())->serial(), left);
 }
 
+TEST_F(ProcessesTest, TheWheelTurnsInTheApplicationInFront) {
+  launch_with("honest", Time::kStepped);
+  open_music();
+  const auto before = quartzcore::image_of(music()->picture())->serial();
+  EXPECT_TRUE(turn_wheel_over({100, 300}, {0, 1}, uikit::WheelKind::Notched));
+  advance(RunLoop::kFrame);
+  const auto turned = quartzcore::image_of(music()->picture())->serial();
+  EXPECT_NE(turned, before);
+  press_home();
+  advance(1);
+  turn_wheel_over({100, 300}, {0, 1}, uikit::WheelKind::Notched);
+  advance(1);
+  EXPECT_EQ(quartzcore::image_of(music()->picture())->serial(), turned);
+}
+
 TEST_F(ProcessesTest, OnASteppedClockThePictureIsUpToDateAtEachStep) {
   launch_with("honest", Time::kStepped);
   EXPECT_TRUE(open(kMusic));

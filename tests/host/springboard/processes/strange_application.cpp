@@ -33,14 +33,15 @@ void draw(Channel& channel, SharedSurface& surface) {
   send(channel, NewFrame{0, 0, 0, size.width, size.height});
 }
 
-/// Answers like any application, and draws on a touch.
+/// Answers like any application, and draws on a touch and a turn of the wheel.
 void answer(Channel& channel, SharedSurface& surface, const ToApplication& message) {
   if (const auto* time = std::get_if<TimeIs>(&message))
     send(channel, ReachedTime{time->time, time->time + 1000});
   if (const auto* ping = std::get_if<Ping>(&message)) send(channel, Pong{ping->number});
   if (const auto* line = std::get_if<ConsoleLine>(&message))
     send(channel, ConsoleAnswer{"\"" + line->text + "\""});
-  if (std::holds_alternative<FingerChange>(message)) draw(channel, surface);
+  if (std::holds_alternative<FingerChange>(message) || std::holds_alternative<WheelTurn>(message))
+    draw(channel, surface);
 }
 
 void misbehave(const std::string& behaviour, Channel& channel, SharedSurface& surface) {
