@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/text_layout/characters.h"
 #include "host/uikit/view/responder.h"
 #include "platform/UIKit/UITextField.h"
@@ -63,6 +64,15 @@ bool press_key(std::string_view name) {
     return false;
   }
   return report_typing();
+}
+
+std::optional<CGRect> caret_on_screen() {
+  const UITextField taker = text_responder();
+  if (!taker) return std::nullopt;
+  if (!taker.isKindOfClass(UIView::cls())) return CGRect();
+  const bool has_caret = taker.respondsToSelector("_caretFrame"_sel);
+  const CGRect frame = has_caret ? objc::send<CGRect>(taker, "_caretFrame"_sel) : CGRect();
+  return convert_rect(taker, frame == CGRect() ? taker.bounds() : frame, nil);
 }
 
 void observe_typing(void (*observer)()) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
+#include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/Foundation/NSString.h"
 
 // The physical keyboard: typed text goes to the first responder, as that of the on-screen keyboard
@@ -22,6 +24,10 @@ bool compose_text(NSString text, NSUInteger caret);
 /// key, or when no responder handles it. A class implements `_pressKey:`, which returns whether the
 /// key did something.
 bool press_key(std::string_view name);
+
+/// Returns where typed text goes, on the screen; nothing when no responder takes text. A class
+/// implements `_caretFrame`, in its own coordinates, or is such a place as a whole.
+std::optional<CGRect> caret_on_screen();
 
 /// Calls `observer` after each successful call of one of these functions: the on-screen keyboard
 /// follows what is typed on the physical one.

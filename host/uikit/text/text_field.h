@@ -110,6 +110,7 @@ class TextField : public objc::Implementation<TextField, UITextField>, private S
   BOOL press_key(NSString name);
 
   const Caret& caret() const { return caret_; }
+  CGRect caret_frame() const { return caret_.is_shown() ? caret_.frame() : CGRect(); }
   const SelectionMarks& marks() const { return marks_; }
 
  private:

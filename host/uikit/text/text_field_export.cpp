@@ -70,6 +70,7 @@ void add_editing(objc::ClassBuilder& field) {
       .method<&TextField::select_all>("selectAll:")
       .method<&TextField::long_pressed>("_longPressed:")
       .method<&TextField::press_key>("_pressKey:")
+      .method<&TextField::caret_frame>("_caretFrame")
       .method<&TextField::text_before_caret>("_textBeforeCaret")
       .method<&TextField::keyboard_type>("keyboardType")
       .method<&TextField::set_keyboard_type>("setKeyboardType:")

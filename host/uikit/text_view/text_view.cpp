@@ -112,6 +112,7 @@ void export_text_view() {
       .method<&TextView::set_marked_text>("setMarkedText:selectedRange:")
       .method<&TextView::unmark_text>("unmarkText")
       .method<&TextView::press_key>("_pressKey:")
+      .method<&TextView::caret_frame>("_caretFrame")
       .finish();
 }
 

@@ -55,6 +55,7 @@ class TextView : public objc::Implementation<TextView, UITextView> {
   BOOL press_key(NSString name);
 
   const Caret& caret() const { return caret_; }
+  CGRect caret_frame() const { return caret_.is_shown() ? caret_.frame() : CGRect(); }
   std::size_t caret_index() const { return text_.caret(); }
 
  private:
