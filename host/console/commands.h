@@ -16,7 +16,7 @@ struct Command {
 /// nullptr for an unknown name.
 const Command* command_named(std::string_view name);
 
-/// Commands for fingers and the wheel: tap, touch, drag and wheel.
+/// Commands for fingers and the wheel: tap, touch, drag, wheel and right-click.
 std::span<const Command> touch_commands();
 /// Commands for buttons, keys and system events.
 std::span<const Command> device_commands();

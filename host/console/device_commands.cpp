@@ -21,11 +21,12 @@ constexpr ButtonName kButtons[] = {
     {"volume-down", Button::VolumeDown},
 };
 
-constexpr std::string_view kKeys[] = {"return", "delete", "escape", "tab",  "space", "left",
-                                      "right",  "up",     "down",   "home", "end"};
+constexpr std::string_view kKeys[] = {
+    "return", "delete", "escape", "tab",        "space",      "left",           "right",     "up",
+    "down",   "home",   "end",    "media-play", "media-next", "media-previous", "media-stop"};
 
 // With the control key, these letters edit text or make a gesture; without it they are typed.
-constexpr std::string_view kControlKeys[] = {"a", "c", "g", "v", "x"};
+constexpr std::string_view kControlKeys[] = {"a", "c", "f", "g", "v", "x"};
 
 enum class Detail { None, Text, BundleIdentifier };
 

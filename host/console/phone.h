@@ -50,6 +50,8 @@ class Phone {
   /// a window.
   virtual std::optional<CGPoint> centre_of(objc::Object object) = 0;
 
+  virtual Refusal right_click(CGPoint point) = 0;
+
   /// The physical keyboard: return, delete, escape, tab, space, left, right, up, down, home, end.
   virtual Refusal type(std::string_view text) = 0;
   virtual Refusal key(std::string_view name) = 0;

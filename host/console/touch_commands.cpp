@@ -142,8 +142,18 @@ Result<Answer> wheel(Session& session, LineReader& reader) {
                                          precise ? WheelKind::Precise : WheelKind::Notched));
 }
 
-constexpr Command kTouchCommands[] = {
-    {"tap", &tap}, {"touch", &touch}, {"drag", &drag}, {"wheel", &wheel}};
+Result<Answer> right_click(Session& session, LineReader& reader) {
+  const auto point = session.point(reader);
+  if (!point) return point.problem();
+  if (const auto problem = reader.end()) return *problem;
+  return answer_of(session.phone().right_click(*point));
+}
+
+constexpr Command kTouchCommands[] = {{"tap", &tap},
+                                      {"touch", &touch},
+                                      {"drag", &drag},
+                                      {"wheel", &wheel},
+                                      {"right-click", &right_click}};
 
 }  // namespace
 

@@ -28,7 +28,11 @@ class ConsolePhone final : public console::Phone {
     return hands_.wheel(point, by, kind);
   }
   console::Refusal type(std::string_view text) override { return hands_.type(text); }
-  console::Refusal key(std::string_view name) override { return hands_.key(name); }
+  console::Refusal key(std::string_view name) override {
+    const bool types = name == "space" && Hands::caret();
+    return types ? hands_.type(" ") : hands_.key(name);
+  }
+  console::Refusal right_click(CGPoint point) override { return hands_.right_click(point); }
   console::Refusal press(console::Button button) override { return hands_.press(button); }
   console::Refusal button(console::Button button, console::ButtonPhase phase) override {
     return hands_.button(button, phase);

@@ -1,6 +1,5 @@
 #include "host/home_screen/hands.h"
 
-#include "host/springboard/system/system_actions.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/text_layout/characters.h"
 
@@ -67,14 +66,16 @@ Hands::Refusal Hands::compose(std::string_view text, int caret) {
 
 Hands::Refusal Hands::key(std::string_view name) {
   if (gestures_.press_key(name)) return std::nullopt;
-  if (name == "space") return type(" ");
   // With return and escape, and with delete, modifiers have no meaning.
   const std::string_view alone = name.substr(name.rfind('-') + 1);
   if (alone == "delete") name = "backspace";
   if (alone == "return" || alone == "escape") name = alone;
-  if (springboard::press_key_in_application(std::string(name))) return std::nullopt;
-  const bool taken = uikit::press_key(name);
-  if (!taken) return "nothing is taking this key";
+  if (!springboard::press_key(std::string(name))) return "nothing is taking this key";
+  return std::nullopt;
+}
+
+Hands::Refusal Hands::right_click(CGPoint point) {
+  if (!springboard::hold_icon_at(point)) return "no icon is there";
   return std::nullopt;
 }
 

@@ -7,6 +7,7 @@
 #include "host/activator/service/phone_gestures.h"
 #include "host/runtime/run_loop.h"
 #include "host/screen/input.h"
+#include "host/springboard/system/system_actions.h"
 #include "host/uikit/touch/touch_input.h"
 
 namespace host::launcher {
@@ -26,8 +27,11 @@ class Hands {
   Refusal type(std::string_view text);
   /// Sets the text that an input method is composing; `caret` counts code points.
   Refusal compose(std::string_view text, int caret);
-  /// Presses a key by its name, which may have the prefixes `control-` and `shift-`.
+  /// Presses a key by its name, which may have the prefixes `control-` and `shift-`. The space that
+  /// the key `space` types into a field comes as text.
   Refusal key(std::string_view name);
+  static std::optional<CGRect> caret() { return springboard::caret_on_screen(); }
+  Refusal right_click(CGPoint point);
   /// Presses and releases a button.
   Refusal press(screen::Button button);
   Refusal button(screen::Button button, screen::ButtonPhase phase);

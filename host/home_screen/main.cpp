@@ -62,8 +62,12 @@ struct Display {
 std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
                                     screen::Input& input) {
   if (options.headless)
-    return Display{std::make_unique<screen::Headless>(options.blind), nullptr, nullptr, [] {},
-                   [] { return false; }, [](bool) {}};
+    return Display{std::make_unique<screen::Headless>(options.blind),
+                   nullptr,
+                   nullptr,
+                   [] {},
+                   [] { return false; },
+                   [](bool) {}};
   const DeviceModel& device = current_device();
   std::string problem;
   auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
@@ -77,8 +81,8 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
   auto raise = [&shown = *window] { shown.raise(); };
   auto is_in_front = [&shown = *window] { return shown.is_in_front(); };
   auto set_awake = [&shown = *window](bool is_awake) { shown.set_awake(is_awake); };
-  return Display{std::move(window),    std::move(service),     std::move(clipboard),
-                 std::move(raise), std::move(is_in_front), std::move(set_awake)};
+  return Display{std::move(window), std::move(service),     std::move(clipboard),
+                 std::move(raise),  std::move(is_in_front), std::move(set_awake)};
 }
 
 std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& options, RunLoop& loop,

@@ -23,6 +23,8 @@ class WindowInput final : public screen::Input {
   void type(std::string_view text) override { hands_.type(text); }
   void compose(std::string_view text, int caret) override { hands_.compose(text, caret); }
   void key(std::string_view name) override { hands_.key(name); }
+  std::optional<CGRect> caret() const override { return Hands::caret(); }
+  void right_click(CGPoint point) override { hands_.right_click(point); }
   void press(screen::Button button) override { hands_.press(button); }
   void button(screen::Button button, screen::ButtonPhase phase) override {
     hands_.button(button, phase);

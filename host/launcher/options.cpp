@@ -1,5 +1,7 @@
 #include "host/launcher/options.h"
 
+#include <fmt/format.h>
+
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
@@ -8,6 +10,7 @@
 #include "host/media/playable_path.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log_line.h"
+#include "host/screen/key_list.h"
 
 namespace host::launcher {
 namespace {
@@ -17,18 +20,8 @@ namespace fs = std::filesystem;
 constexpr const char* kDescription =
     "Sonavue on the desktop: a home screen to use with a mouse, a finger or a key.";
 
-constexpr const char* kKeys =
-    "In the window\n"
-    "  F1 or Home       the Home button             or click it\n"
-    "  F2               Home, pressed twice         or double-click it\n"
-    "  F3               the lock button             or click it, at the side or the top\n"
-    "  F4               Home, touched twice: the    or click it with the other button\n"
-    "                   screen comes down\n"
-    "  F5, F6           volume down, up             or click them, at the left\n"
-    "  F7               shakes the phone\n"
-    "  Control-G        the keyboard's own gesture\n"
+constexpr const char* kNotes =
     "Buttons are down as long as their key: hold F1 or F3, or F5 and F6 together.\n"
-    "The mouse is a finger; one that comes in over the edge pulls from it.\n"
     "\n"
     "Files and folders that are dropped on the window are played, too. What is not in\n"
     "the folders of music is listed until the phone is switched off.\n"
@@ -51,6 +44,21 @@ constexpr const char* kKeys =
     "\n"
     "SONAVUE_PATIENCE=0 in the environment waits for ever for a home screen or an\n"
     "extension that hangs; any other number multiplies the time until it is ended.";
+
+/// The keys and the mouse in the window.
+std::string key_list() {
+  std::string text;
+  for (const screen::KeyGroup& group : screen::kKeyGroups) {
+    text += fmt::format("{}\n", group.title);
+    for (const screen::KeyRow& row : group) {
+      const bool has_mouse = *row.mouse != '\0';
+      text +=
+          fmt::format("  {:<22} {}{}{}\n", row.keys, row.does, has_mouse ? ", or " : "", row.mouse);
+    }
+    text += "\n";
+  }
+  return text;
+}
 
 std::string check_device(const std::string& identifier) {
   if (device_model(identifier)) return {};
@@ -117,7 +125,7 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   options.screenshots = ".";
 
   CLI::App parser(kDescription, "sonavue");
-  parser.footer(kKeys);
+  parser.footer(key_list() + kNotes);
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
   parser.add_option("--device", options.device, "The phone or tablet to show: " + all_devices())
       ->check(check_device);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,8 +35,13 @@ class Input {
   /// composition is cancelled. `caret` counts code points from its start.
   virtual void compose(std::string_view text, int caret) = 0;
   /// A key that types no text: return, delete, escape, tab, left, right, up, down, home or end, or
-  /// a letter with the control key. The prefixes are `control-` and `shift-`, in this order.
+  /// a letter with the control key. The prefixes are `control-` and `shift-`, in this order. Also
+  /// `space`, whose text comes by itself, and `media-play`, `-next`, `-previous` and `-stop`.
   virtual void key(std::string_view name) = 0;
+  /// Where typed text goes, in points of the screen; nothing while no field takes text.
+  virtual std::optional<CGRect> caret() const = 0;
+  /// The other mouse button is pressed on the screen.
+  virtual void right_click(CGPoint point) = 0;
   /// A complete press of a button that cannot be held.
   virtual void press(Button button) = 0;
   /// A button goes down or up.

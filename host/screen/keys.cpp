@@ -19,9 +19,16 @@ constexpr KeyName kKeys[] = {
     {SDLK_END, "end"},
 };
 
+// Keys that repeat only for a text field: held down, they act once otherwise.
+constexpr KeyName kSingleKeys[] = {
+    {SDLK_SPACE, "space"},          {SDLK_AUDIOPLAY, "media-play"},
+    {SDLK_AUDIONEXT, "media-next"}, {SDLK_AUDIOPREV, "media-previous"},
+    {SDLK_AUDIOSTOP, "media-stop"},
+};
+
 // With the control key, letters edit text instead of typing it.
 constexpr KeyName kControlKeys[] = {
-    {SDLK_a, "a"}, {SDLK_c, "c"}, {SDLK_g, "g"}, {SDLK_v, "v"}, {SDLK_x, "x"},
+    {SDLK_a, "a"}, {SDLK_c, "c"}, {SDLK_f, "f"}, {SDLK_g, "g"}, {SDLK_v, "v"}, {SDLK_x, "x"},
 };
 
 struct KeyButton {
@@ -30,8 +37,10 @@ struct KeyButton {
 };
 
 constexpr KeyButton kKeyButtons[] = {
-    {SDLK_F1, Button::Home},       {SDLK_HOME, Button::Home},   {SDLK_F3, Button::Lock},
-    {SDLK_F5, Button::VolumeDown}, {SDLK_F6, Button::VolumeUp},
+    {SDLK_F1, Button::Home},           {SDLK_HOME, Button::Home},
+    {SDLK_F3, Button::Lock},           {SDLK_F5, Button::VolumeDown},
+    {SDLK_F6, Button::VolumeUp},       {SDLK_VOLUMEDOWN, Button::VolumeDown},
+    {SDLK_VOLUMEUP, Button::VolumeUp},
 };
 
 // The buttons that cannot be held.
@@ -79,6 +88,12 @@ void Keys::handle_button(const SDL_KeyboardEvent& event) {
 void Keys::handle_text_key(const SDL_KeyboardEvent& event) {
   const SDL_Keycode pressed = event.keysym.sym;
   const Uint16 held = event.keysym.mod;
+  for (const auto& [key, name] : kSingleKeys) {
+    if (key == pressed && event.repeat == 0) input_.key(with_modifiers(name, held));
+  }
+  // Without a field, only the volume goes on changing.
+  const bool steps = pressed == SDLK_UP || pressed == SDLK_DOWN;
+  if (event.repeat != 0 && !steps && !input_.caret()) return;
   for (const auto& [key, name] : kKeys) {
     if (key == pressed) input_.key(with_modifiers(name, held));
   }

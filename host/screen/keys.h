@@ -6,9 +6,8 @@ struct SDL_KeyboardEvent;
 
 namespace host::screen {
 
-/// The desktop's keyboard: F1 or Home is the Home button, F2 presses it twice, F3 locks, F4 touches
-/// Home twice without pressing it, F5 and F6 change the volume, F7 shakes the phone. All other keys
-/// are keys of the phone's keyboard.
+/// The desktop's keyboard (`key_list.h`): some keys are buttons of the phone or shake it. All
+/// others are keys of the phone's keyboard.
 class Keys {
  public:
   Keys(Input& input, HeldButtons& buttons) : input_(input), buttons_(buttons) {}

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "host/screen/shapes.h"
+
 namespace host::screen {
 namespace {
 
@@ -27,17 +29,6 @@ constexpr Grey kSquare{0.5};
 
 void set(cairo_t* drawing, Grey grey) {
   cairo_set_source_rgb(drawing, grey.light, grey.light, grey.light);
-}
-
-void add_rounded(cairo_t* drawing, CGRect rect, double radius) {
-  constexpr double kQuarter = std::numbers::pi / 2;
-  cairo_new_sub_path(drawing);
-  cairo_arc(drawing, rect.max_x() - radius, rect.min_y() + radius, radius, -kQuarter, 0);
-  cairo_arc(drawing, rect.max_x() - radius, rect.max_y() - radius, radius, 0, kQuarter);
-  cairo_arc(drawing, rect.min_x() + radius, rect.max_y() - radius, radius, kQuarter, 2 * kQuarter);
-  cairo_arc(drawing, rect.min_x() + radius, rect.min_y() + radius, radius, 2 * kQuarter,
-            3 * kQuarter);
-  cairo_close_path(drawing);
 }
 
 void add_circle(cairo_t* drawing, CGPoint centre, double radius) {

@@ -45,7 +45,8 @@ void Pointers::up(int finger, CGPoint point) {
   if (pointer.touches) input_.touch(finger, TouchPhase::Ended, on_screen(point));
 }
 
-void Pointers::touch_lightly(CGPoint point) const {
+void Pointers::right_click(CGPoint point) const {
+  if (body_.screen().contains(point)) return input_.right_click(on_screen(point));
   if (body_.button_at(point) == Button::Home) input_.press(Button::HomeTouch);
 }
 

@@ -21,8 +21,8 @@ class Pointers {
   void down(int finger, CGPoint point, int clicks = 1);
   void moved(int finger, CGPoint point);
   void up(int finger, CGPoint point);
-  /// Touches the Home button twice without pressing it, if the point is on it.
-  void touch_lightly(CGPoint point) const;
+  /// The other mouse button. On the Home button it touches that twice without pressing it.
+  void right_click(CGPoint point) const;
 
  private:
   struct Pointer {

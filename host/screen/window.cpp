@@ -70,6 +70,7 @@ Window::Window(CGSize screen, Input& input)
 Window::~Window() {
   texture_.reset();
   body_texture_.reset();
+  help_.reset();
   renderer_.reset();
   window_.reset();
   SDL_QuitSubSystem(SDL_INIT_VIDEO);
@@ -134,6 +135,8 @@ void Window::present() {
   SDL_RenderClear(renderer_.get());
   SDL_RenderCopyF(renderer_.get(), body_texture_.get(), nullptr, &body_place);
   SDL_RenderCopyF(renderer_.get(), texture_.get(), nullptr, &screen_place);
+  if (help_ && help_drawn_ != output_size()) draw_help();
+  if (help_) SDL_RenderCopyF(renderer_.get(), help_.get(), nullptr, nullptr);
   SDL_RenderPresent(renderer_.get());
 }
 
@@ -228,14 +231,14 @@ void Window::handle(const SDL_Event& event) {
       handle_finger(event);
       break;
     case SDL_TEXTINPUT:
-      input_.type(event.text.text);
+      take_text(event.text.text);
       break;
     case SDL_TEXTEDITING:
       input_.compose(event.edit.text, event.edit.start);
       break;
     case SDL_KEYDOWN:
     case SDL_KEYUP:
-      keys_.handle(event.key);
+      if (!take_key(event.key)) keys_.handle(event.key);
       break;
     default:
       break;
@@ -261,7 +264,8 @@ void Window::handle_mouse(const SDL_Event& event) {
   const bool down = event.type == SDL_MOUSEBUTTONDOWN;
   const CGPoint point =
       box.point_at({static_cast<double>(event.button.x), static_cast<double>(event.button.y)});
-  if (event.button.button == SDL_BUTTON_RIGHT && down) pointers_.touch_lightly(point);
+  if (down && help_) return show_help(false);
+  if (event.button.button == SDL_BUTTON_RIGHT && down) pointers_.right_click(point);
   if (event.button.button != SDL_BUTTON_LEFT) return;
   // A drag may leave the window, like a finger that leaves the screen at its edge.
   SDL_CaptureMouse(down ? SDL_TRUE : SDL_FALSE);

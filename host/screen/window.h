@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/screen/fingers.h"
@@ -58,6 +59,12 @@ class Window final : public Screen {
   void handle_wheel(const SDL_MouseWheelEvent& event);
   void handle_finger(const SDL_Event& event);
   void handle_drop(const SDL_Event& event);
+  /// Keys that act on the window itself. Returns whether this is one.
+  bool take_key(const SDL_KeyboardEvent& event);
+  void take_text(std::string_view text);
+  void fill_display(bool fills);
+  void show_help(bool shown);
+  void draw_help();
   void present();
   void draw_body();
   CGSize window_size() const;
@@ -80,6 +87,11 @@ class Window final : public Screen {
   std::unique_ptr<SDL_Texture, Destroy> body_texture_;
   /// The size in pixels at which the body was last drawn.
   CGSize body_drawn_;
+  /// The list of keys, while it is shown, and the size in pixels for which it was drawn.
+  std::unique_ptr<SDL_Texture, Destroy> help_;
+  CGSize help_drawn_;
+  /// The text of the last key is not typed.
+  bool drops_text_ = false;
   Fingers fingers_;
   bool is_awake_ = true;
   std::vector<std::string> dropped_;  // until the drop is complete

@@ -195,10 +195,24 @@ struct SteerPlayer {
   }
 };
 
+/// Where the application's text field that has the keyboard is typing, in points of its screen.
+struct TextInputIs {
+  bool takes_text = false;
+  double x = 0;
+  double y = 0;
+  double width = 0;
+  double height = 0;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(takes_text, x, y, width, height);
+  }
+};
+
 // A message's kind on the wire is its index in these lists.
 using ToApplication =
     std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey, Visibility, TimeIs,
                  ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn>;
-using ToHome = std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer>;
+using ToHome =
+    std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer, TextInputIs>;
 
 }  // namespace host::application

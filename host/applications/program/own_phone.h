@@ -12,6 +12,7 @@ class OwnPhone final : public console::Phone {
   void touch(int, console::TouchPhase, CGPoint) override {}
   std::optional<CGPoint> centre_of(objc::Object object) override;
   console::Refusal wheel(CGPoint, CGPoint, console::WheelKind) override { return refused(); }
+  console::Refusal right_click(CGPoint) override { return refused(); }
   console::Refusal type(std::string_view) override { return refused(); }
   console::Refusal key(std::string_view) override { return refused(); }
   console::Refusal press(console::Button) override { return refused(); }

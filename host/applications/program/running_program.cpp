@@ -5,6 +5,7 @@
 #include "host/applications/program/player_remote.h"
 #include "host/runtime/log.h"
 #include "host/uikit/scroll/wheel.h"
+#include "host/uikit/shortcuts/shortcuts.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/text_layout/characters.h"
 #include "objc/autorelease_pool.h"
@@ -14,6 +15,8 @@ namespace {
 
 /// The time that means "nothing is due" on the wire.
 constexpr double kVeryLate = 1e15;
+/// Among the observers of a turn's end.
+constexpr int kAfterDrawing = process::PhoneScreen::kTurnOrder + 100;
 
 NSString to_ns(const std::string& text) {
   return NSString::stringWithUTF8String(text.c_str());
@@ -28,12 +31,14 @@ RunningProgram::RunningProgram(HomeLink& link, RunLoop& loop, SteppedClock* step
       stepped_(stepped),
       screen_([this](const NewFrame& frame) { link_.send(frame); }),
       phone_screen_(loop, screen_),
-      session_(phone_, globals) {
+      session_(phone_, globals),
+      turns_(loop.add_turn_observer(kAfterDrawing, [this] { report_text_input(); })) {
   PlayerRemote::shared().send = [this](const SteerPlayer& command) { link_.send(command); };
 }
 
 RunningProgram::~RunningProgram() {
   PlayerRemote::shared().send = {};
+  loop_.remove_turn_observer(turns_);
   for (const auto& watch : {message_watch_, home_watch_}) {
     if (watch) loop_.unwatch(*watch);
   }
@@ -85,6 +90,7 @@ void RunningProgram::take(const Hello& hello) {
   if (stepped_) ahead_ = loop_.now() - hello.now;
   touches_.cancel_all(loop_.now());
   screen_.attach(std::move(surface));
+  reported_caret_.reset();
 }
 
 void RunningProgram::take(const FingerChange& change) {
@@ -120,7 +126,8 @@ void RunningProgram::take(const ComposedText& composed) {
 }
 
 void RunningProgram::take(const PressedKey& pressed) {
-  uikit::press_key(pressed.name);
+  if (!uikit::press_key(pressed.name) && !uikit::caret_on_screen())
+    uikit::perform_shortcut(pressed.name);
 }
 
 void RunningProgram::take(const Visibility& visibility) {
@@ -133,6 +140,7 @@ void RunningProgram::take(const TimeIs& reached) {
   move_to(time);
   loop_.run_ready();
   finish_frame();
+  report_text_input();
   const double due = loop_.next_due();
   link_.send(ReachedTime{reached.time, std::isfinite(due) ? due - ahead_ : kVeryLate});
 }
@@ -149,6 +157,15 @@ void RunningProgram::take(const PlaybackIs& playback) {
 
 void RunningProgram::move_to(double own_time) {
   if (stepped_) loop_.advance_to(*stepped_, own_time);
+}
+
+void RunningProgram::report_text_input() {
+  const auto caret = uikit::caret_on_screen();
+  if (caret == reported_caret_) return;
+  reported_caret_ = caret;
+  const CGRect place = caret.value_or(CGRect());
+  link_.send(TextInputIs{caret.has_value(), place.min_x(), place.min_y(), place.size.width,
+                         place.size.height});
 }
 
 // On a stepped clock the home screen waits until the frame of the current time is complete.

@@ -45,6 +45,7 @@ class RunningProgram {
   double own_time(double home_time) const { return home_time + ahead_; }
   void move_to(double own_time);
   void finish_frame();
+  void report_text_input();
 
   HomeLink& link_;
   RunLoop& loop_;
@@ -56,6 +57,9 @@ class RunningProgram {
   console::Session session_;
   std::optional<RunLoop::Id> message_watch_;
   std::optional<RunLoop::Id> home_watch_;
+  RunLoop::Id turns_;
+  /// The caret that the home screen knows of.
+  std::optional<CGRect> reported_caret_;
   /// How far this clock is ahead of the home screen's, which starts again with a restart.
   double ahead_ = 0;
 };

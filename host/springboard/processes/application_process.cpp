@@ -195,6 +195,11 @@ void ApplicationProcess::take(const SteerPlayer& command) {
   if (events_.steers) events_.steers(command);
 }
 
+void ApplicationProcess::take(const TextInputIs& input) {
+  caret_.reset();
+  if (input.takes_text) caret_ = CGRect(input.x, input.y, input.width, input.height);
+}
+
 void ApplicationProcess::end(ProcessEnd reason) {
   if (!is_alive()) return;
   channel_.close();

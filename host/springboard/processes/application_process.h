@@ -51,6 +51,8 @@ class ApplicationProcess {
   void set_in_front(bool is_in_front);
   bool is_in_front() const { return is_in_front_; }
   void send(const application::ToApplication& message);
+  /// Where text goes that is typed into the application; nothing while no field of it takes text.
+  std::optional<CGRect> caret() const { return caret_; }
   /// Runs a console line in the application and returns its answer; nothing when it gave none.
   std::optional<std::string> ask(const std::string& line);
 
@@ -78,6 +80,7 @@ class ApplicationProcess {
   void take(const application::Pong& pong);
   void take(const application::Closing&) { end(ProcessEnd::Ended); }
   void take(const application::SteerPlayer& command);
+  void take(const application::TextInputIs& input);
 
   double patience() const { return has_answered_ ? kPatience : kFirstPatience; }
 
@@ -113,6 +116,7 @@ class ApplicationProcess {
   std::optional<double> reached_;
   double next_due_ = 0;
   bool has_answered_ = false;
+  std::optional<CGRect> caret_;
   std::optional<std::string> answer_;
   std::uint64_t asked_ = 0;
   std::uint64_t answered_ = 0;

@@ -5,6 +5,7 @@
 #include "host/springboard/processes/process_keeper.h"
 #include "host/springboard/processes/running_processes.h"
 #include "host/springboard/surfaces/surfaces.h"
+#include "host/springboard/system/keyboard_receiver.h"
 #include "host/springboard/system/system_actions.h"
 #include "host/springboard/system/ui_controller.h"
 #include "host/uikit/geometry/screen_space.h"
@@ -15,14 +16,13 @@ namespace host::springboard {
 
 using namespace application;
 
-namespace {
-
-/// The application that receives the physical keyboard's keys; null when the home screen does.
 RunningProcesses::Process keyboard_receiver() {
   if (is_locked() || uikit::first_responder()) return nullptr;
   return objc::state_of<UserInterfaceController>(SBUIController::sharedInstance())
       .process_in_front();
 }
+
+namespace {
 
 bool pass_on(const ToApplication& message) {
   const auto receiver = keyboard_receiver();

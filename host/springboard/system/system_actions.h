@@ -43,6 +43,17 @@ bool toggle_reachability();
 void lock();
 void unlock();
 
+/// Presses a key of the physical keyboard, which goes to the text field that has the keyboard.
+/// While none has, `space` and the arrows with `control-` are the player's, `escape` does what Home
+/// does while a window covers the screen and otherwise goes back, and `control-f` searches. The
+/// keys `media-play`, `-next`, `-previous` and `-stop` are always the player's. Returns false when
+/// there is nothing to do; what an application does is not known.
+bool press_key(const std::string& name);
+/// Returns where typed text goes; nothing while no field takes text in the process in front.
+std::optional<CGRect> caret_on_screen();
+/// Does what holding the icon at this point of the screen does; returns false when there is none.
+bool hold_icon_at(CGPoint point);
+
 /// Turns the desktop's wheel over a point of the screen, in whichever process has it. Returns false
 /// when nothing of the home screen moves; what an application does is not known.
 bool turn_wheel_over(CGPoint point, CGPoint by, uikit::WheelKind kind);

@@ -15,6 +15,7 @@
 #include "host/springboard/surfaces/volume_overlay.h"
 #include "host/springboard/switcher/recent_applications.h"
 #include "host/springboard/system/system_actions.h"
+#include "host/springboard/system/windows_in_the_way.h"
 #include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/geometry/window_list.h"
 #include "host/uikit/touch/touch_traces.h"
@@ -28,8 +29,6 @@
 namespace host::springboard {
 namespace {
 
-// Nothing that takes touches is smaller than a finger.
-constexpr CGFloat kFinger = 40;
 constexpr CGFloat kNearness = 0.01;
 constexpr std::size_t kMostOfAKind = 3;
 
@@ -117,21 +116,10 @@ void add_icons(Reasons& reasons) {
   reasons.add_some(out_of_reach);
 }
 
-/// Reports windows other than the home screen and the status bar that receive touches.
 void add_windows_in_the_way(Reasons& reasons) {
-  const UIWindow home = icon_controller().home().window();
-  const CGSize screen = home.bounds().size;
-  UIWindow last;
-  for (CGFloat y = kFinger / 2; y < screen.height; y += kFinger) {
-    for (CGFloat x = kFinger / 2; x < screen.width; x += kFinger) {
-      const UIWindow window = uikit::find_hit({x, y}, nil).window;
-      const bool is_homes = window == home || window.windowLevel() == UIWindowLevelStatusBar;
-      if (window == last || !window || is_homes) continue;
-      last = window;
-      reasons.add(fmt::format("{} of level {} takes touches at {{{}, {}}}", class_of(window),
-                              window.windowLevel(), x, y));
-    }
-  }
+  for (const auto& [window, point] : windows_in_the_way())
+    reasons.add(fmt::format("{} of level {} takes touches at {{{}, {}}}", class_of(window),
+                            window.windowLevel(), point.x, point.y));
 }
 
 /// Names the layer's view, or the layer itself when it has none.

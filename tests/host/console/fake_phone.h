@@ -32,6 +32,9 @@ class FakePhone : public host::console::Phone {
     if (objc::cast<NSObject>(object).isKindOfClass(NSString::cls())) return CGPoint{30, 40};
     return std::nullopt;
   }
+  Refusal right_click(CGPoint point) override {
+    return note("right-click", fmt::format("{:.4g} {:.4g}", point.x, point.y));
+  }
   Refusal type(std::string_view text) override { return note("type", text); }
   Refusal key(std::string_view name) override { return note("key", name); }
   Refusal press(host::console::Button button) override {

@@ -87,11 +87,12 @@ TEST_F(PointersTest, TheSecondOfTwoQuickClicksOnHomeIsADoublePress) {
   EXPECT_THAT(done(), ElementsAre("push 2"));
 }
 
-TEST_F(PointersTest, ALightTouchOnlyAffectsHome) {
-  pointers_.touch_lightly(on(Button::Lock));
-  pointers_.touch_lightly(at(10, 10));
+TEST_F(PointersTest, ARightClickTouchesHomeLightlyOrIsOneOnTheScreen) {
+  pointers_.right_click(on(Button::Lock));
   EXPECT_THAT(done(), IsEmpty());
-  pointers_.touch_lightly(on(Button::Home));
+  pointers_.right_click(at(10, 10));
+  EXPECT_THAT(done(), ElementsAre("right click 10 10"));
+  pointers_.right_click(on(Button::Home));
   EXPECT_THAT(done(), ElementsAre("press 5"));
 }
 

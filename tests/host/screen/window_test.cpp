@@ -82,6 +82,12 @@ class Windows : public testing::Test {
     event.drop.file = thing ? SDL_strdup(thing) : nullptr;
     SDL_PushEvent(&event);
   }
+  static void push_text(const char* text) {
+    SDL_Event event{};
+    event.type = SDL_TEXTINPUT;
+    std::snprintf(event.text.text, sizeof event.text.text, "%s", text);
+    SDL_PushEvent(&event);
+  }
   void push_wheel(float across, float up, CGPoint at = {10, 20}) {
     SDL_Event event{};
     event.type = SDL_MOUSEWHEEL;
@@ -114,12 +120,13 @@ TEST_F(Windows, TheMouseIsAFingerWhileItsButtonIsDown) {
 }
 
 TEST_F(Windows, OtherMouseButtonsAreNotFingers) {
-  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20, SDL_BUTTON_RIGHT);
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20, SDL_BUTTON_MIDDLE);
   push_mouse(SDL_MOUSEMOTION, 30, 40);
   EXPECT_THAT(handled(), IsEmpty());
 }
 
 TEST_F(Windows, KeysAreButtonsOrKeysOfTheKeyboard) {
+  input_.caret_place = CGRect(10, 10, 2, 20);
   push_key(SDLK_F1);
   push_key(SDLK_F1, 1);
   push_key(SDLK_BACKSPACE);
@@ -203,6 +210,67 @@ TEST(Wheels, ReportsOfATouchpadMayHappenToBeWhole) {
   EXPECT_EQ(units.of(event, 2).by, (CGPoint{0, 1}));
 }
 
+TEST_F(Windows, ARightClickOnTheScreenIsOne) {
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20, SDL_BUTTON_RIGHT);
+  push_mouse(SDL_MOUSEBUTTONUP, 10, 20, SDL_BUTTON_RIGHT);
+  EXPECT_THAT(handled(), ElementsAre("right click 10 20"));
+}
+
+TEST_F(Windows, KeysForThePlayerActOnceHoweverLongTheyAreHeld) {
+  for (const Uint8 repeat : {0, 1, 1}) {
+    push_key(SDLK_SPACE, repeat);
+    push_key(SDLK_RIGHT, repeat, KMOD_LCTRL);
+    push_key(SDLK_AUDIONEXT, repeat);
+  }
+  EXPECT_THAT(handled(), ElementsAre("key space", "key control-right", "key media-next"));
+  push_key(SDLK_UP, 1, KMOD_LCTRL);
+  EXPECT_THAT(handled(), ElementsAre("key control-up"));
+  push_key(SDLK_VOLUMEUP);
+  EXPECT_THAT(handled(), ElementsAre("push 3"));
+}
+
+TEST_F(Windows, InAFieldKeysRepeat) {
+  input_.caret_place = CGRect(10, 10, 2, 20);
+  push_key(SDLK_RIGHT, 1, KMOD_LCTRL);
+  push_key(SDLK_RIGHT, 1, KMOD_LCTRL);
+  EXPECT_THAT(handled(), ElementsAre("key control-right", "key control-right"));
+}
+
+TEST_F(Windows, TheNextKeyOrClickClosesTheListOfKeysAndDoesNothingElse) {
+  push_key(SDLK_F12);
+  push_key(SDLK_LSHIFT);
+  push_key(SDLK_F1);
+  EXPECT_THAT(handled(), IsEmpty());
+  push_key(SDLK_F1);
+  EXPECT_THAT(handled(), ElementsAre("push 0"));
+  push_text("?");
+  push_key(SDLK_SLASH, 0, KMOD_LSHIFT);
+  push_text("?");
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20);
+  EXPECT_THAT(handled(), ElementsAre("touch 0 0 10 20"));
+  push_mouse(SDL_MOUSEBUTTONUP, 10, 20);
+  push_text("?");
+  push_mouse(SDL_MOUSEBUTTONDOWN, 10, 20);
+  push_mouse(SDL_MOUSEBUTTONUP, 10, 20);
+  EXPECT_THAT(handled(), ElementsAre("touch 0 2 10 20"));
+  push_key(SDLK_DOWN);
+  EXPECT_THAT(handled(), ElementsAre("key down"));
+}
+
+TEST_F(Windows, AFieldGetsAQuestionMark) {
+  input_.caret_place = CGRect(10, 10, 2, 20);
+  push_text("?");
+  EXPECT_THAT(handled(), ElementsAre("type ?"));
+}
+
+TEST_F(Windows, KeysThatFillTheDisplayAreNotThePhones) {
+  push_key(SDLK_F11);
+  push_key(SDLK_RETURN, 0, KMOD_LALT);
+  EXPECT_THAT(handled(), IsEmpty());
+  push_key(SDLK_RETURN);
+  EXPECT_THAT(handled(), ElementsAre("key return"));
+}
+
 TEST_F(Windows, AKeyShakesThePhone) {
   push_key(SDLK_F7);
   push_key(SDLK_F7, 1);
@@ -211,10 +279,7 @@ TEST_F(Windows, AKeyShakesThePhone) {
 }
 
 TEST_F(Windows, ComposedTextIsTyped) {
-  SDL_Event event{};
-  event.type = SDL_TEXTINPUT;
-  std::snprintf(event.text.text, sizeof event.text.text, "ö");
-  SDL_PushEvent(&event);
+  push_text("ö");
   EXPECT_THAT(handled(), ElementsAre("type ö"));
 }
 

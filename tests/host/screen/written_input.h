@@ -24,6 +24,10 @@ class WrittenInput : public host::screen::Input {
     done.push_back(fmt::format("compose {} {}", text, caret));
   }
   void key(std::string_view name) override { done.push_back(fmt::format("key {}", name)); }
+  std::optional<CGRect> caret() const override { return caret_place; }
+  void right_click(CGPoint point) override {
+    done.push_back(fmt::format("right click {:g} {:g}", point.x, point.y));
+  }
   void press(host::screen::Button button) override {
     done.push_back(fmt::format("press {}", static_cast<int>(button)));
   }
@@ -38,4 +42,5 @@ class WrittenInput : public host::screen::Input {
   void close() override { done.push_back("close"); }
 
   std::vector<std::string> done;
+  std::optional<CGRect> caret_place;
 };
