@@ -7,11 +7,6 @@ namespace {
 
 constexpr const char* kCovers = "/var/mobile/Library/Caches/covers";
 
-/// Notifications are off: nothing asks the user yet.
-bool wants_notifications() {
-  return false;
-}
-
 }  // namespace
 
 std::unique_ptr<DesktopLink> DesktopLink::begin(RunLoop& loop, Window window) {
@@ -25,7 +20,9 @@ DesktopLink::DesktopLink(RunLoop& loop, media_player::MediaService& music, Windo
       now_playing_(loop, music, foundation::path_on_this_machine(kCovers)),
       player_(session_, now_playing_, {window.raise, window.quit}),
       sleep_lock_(loop, session_, now_playing_),
-      notifier_(session_, now_playing_, {&wants_notifications, window.is_in_front, window.raise}) {
+      notifier_(session_, now_playing_,
+                {[&music] { return music.choices().announces_songs; }, window.is_in_front,
+                 window.raise}) {
   session_.open();
 }
 
