@@ -16,6 +16,7 @@
 #include "host/home_screen/window_clipboard.h"
 #include "host/home_screen/window_input.h"
 #include "host/home_screen/window_service.h"
+#include "host/launcher/log_file.h"
 #include "host/launcher/supervisor.h"
 #include "host/process/library_globals.h"
 #include "host/process/phone_screen.h"
@@ -70,7 +71,10 @@ std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop
                    [](bool) {}};
   const DeviceModel& device = current_device();
   std::string problem;
-  auto window = screen::Window::open({device.width, device.height}, device.scale, input, problem);
+  const std::string memory =
+      launcher::default_log_file().parent_path() / ("window-" + std::string(device.identifier));
+  auto window =
+      screen::Window::open({device.width, device.height}, device.scale, input, problem, memory);
   if (!window) {
     spdlog::error("no window can be opened: {}; --headless --console needs none", problem);
     return std::nullopt;

@@ -46,6 +46,10 @@ void PhoneScreen::draw() {
   std::vector<screen::PixelRect> damage;
   for (const auto& part : compositor_.render(layers, loop_.now()))
     damage.push_back({part.x, part.y, part.width, part.height});
+  if (screen_.needs_everything()) {
+    const quartzcore::PixelRect whole = compositor_.screen();
+    damage = {{whole.x, whole.y, whole.width, whole.height}};
+  }
   if (!damage.empty()) screen_.show(picture(), damage);
 }
 

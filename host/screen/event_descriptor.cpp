@@ -2,23 +2,10 @@
 
 #include <SDL.h>
 #include <SDL_syswm.h>
-#include <dlfcn.h>
+
+#include "host/screen/desktop_library.h"
 
 namespace host::screen {
-namespace {
-
-// SDL has loaded the desktop's library; its function is looked up by name, because linking would
-// require the libraries of both desktops.
-int ask(const char* library, const char* function, void* display) {
-  void* loaded = dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
-  if (!loaded) return -1;
-  const auto descriptor_of = reinterpret_cast<int (*)(void*)>(dlsym(loaded, function));
-  const int descriptor = descriptor_of ? descriptor_of(display) : -1;
-  dlclose(loaded);
-  return descriptor;
-}
-
-}  // namespace
 
 int event_descriptor(SDL_Window* window) {
   SDL_SysWMinfo info;
@@ -27,11 +14,11 @@ int event_descriptor(SDL_Window* window) {
   switch (info.subsystem) {
 #if defined(SDL_VIDEO_DRIVER_X11)
     case SDL_SYSWM_X11:
-      return ask("libX11.so.6", "XConnectionNumber", info.info.x11.display);
+      return ask_desktop("libX11.so.6", "XConnectionNumber", info.info.x11.display, -1);
 #endif
 #if defined(SDL_VIDEO_DRIVER_WAYLAND)
     case SDL_SYSWM_WAYLAND:
-      return ask("libwayland-client.so.0", "wl_display_get_fd", info.info.wl.display);
+      return ask_desktop("libwayland-client.so.0", "wl_display_get_fd", info.info.wl.display, -1);
 #endif
     default:
       return -1;

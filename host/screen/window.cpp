@@ -2,28 +2,36 @@
 
 #include <SDL.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "host/screen/desktop_scale.h"
 #include "host/screen/event_descriptor.h"
 #include "host/screen/phone_body_drawing.h"
+#include "host/screen/window_icon.h"
 
 namespace host::screen {
 namespace {
 
+constexpr const char* kTitle = "Sonavue";
+// The name of the application's entry on the desktop.
+constexpr const char* kApplicationId = "sonavue";
 // The mouse counts as an additional finger besides those of a touch screen.
 constexpr int kMouseFinger = 0;
-// The share of the desktop's height for a phone that would not fit on it.
+// The share of the desktop for a phone that would not fit on it.
 constexpr double kLargestPart = 0.92;
 constexpr auto kGroundShade = static_cast<Uint8>(kGroundLight * 255);
 
-CGSize first_size(CGSize phone) {
+/// The largest size of this shape, up to `wanted`, that leaves the desktop some room.
+CGSize fitted(CGSize wanted) {
   SDL_Rect desktop{};
-  if (SDL_GetDisplayUsableBounds(0, &desktop) != 0 || desktop.h <= 0) return phone;
-  const double shrink = std::min(1.0, desktop.h * kLargestPart / phone.height);
-  return {std::round(phone.width * shrink), std::round(phone.height * shrink)};
+  if (SDL_GetDisplayUsableBounds(0, &desktop) != 0 || desktop.h <= 0) return wanted;
+  const double shrink = std::min(
+      {1.0, desktop.h * kLargestPart / wanted.height, desktop.w * kLargestPart / wanted.width});
+  return {std::round(wanted.width * shrink), std::round(wanted.height * shrink)};
 }
 
 /// SDL falls back to a driver without a display when it cannot reach one.
@@ -60,14 +68,17 @@ void Window::Destroy::operator()(SDL_Texture* texture) const {
   SDL_DestroyTexture(texture);
 }
 
-Window::Window(CGSize screen, Input& input)
+Window::Window(CGSize screen, double pixels_per_point, Input& input, const std::string& memory)
     : body_(screen),
+      pixels_per_point_(pixels_per_point),
       input_(input),
+      memory_(memory),
       buttons_(input),
       keys_(input, buttons_),
       pointers_(body_, input, buttons_) {}
 
 Window::~Window() {
+  if (chosen_size_) memory_.keep(*chosen_size_);
   texture_.reset();
   body_texture_.reset();
   help_.reset();
@@ -77,41 +88,56 @@ Window::~Window() {
 }
 
 std::unique_ptr<Window> Window::open(CGSize screen, double pixels_per_point, Input& input,
-                                     std::string& problem) {
+                                     std::string& problem, const std::string& memory) {
   // Signals are handled by the supervisor of the process.
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "1");
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+  SDL_SetHint(SDL_HINT_APP_NAME, kTitle);
+  // The class is what desktops find the application's entry by. The user's own choice stays.
+  SDL_setenv("SDL_VIDEO_X11_WMCLASS", kApplicationId, 0);
+  SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", kApplicationId, 0);
   std::unique_ptr<Window> made;
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
-    made.reset(new Window(screen, input));
+    made.reset(new Window(screen, pixels_per_point, input, memory));
     if (is_unseen()) {
       problem = "the display" + display_names() + " cannot be reached";
       return nullptr;
     }
-    if (made->create(pixels_per_point)) return made;
+    if (made->create()) return made;
   }
   problem = SDL_GetError();
   return nullptr;
 }
 
-bool Window::create(double pixels_per_point) {
-  const CGSize size = first_size(body_.size());
-  window_.reset(SDL_CreateWindow("Sonavue", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
-                                 static_cast<int>(size.width), static_cast<int>(size.height),
+bool Window::create() {
+  const CGSize size = body_.size();
+  const double scale = desktop_scale();
+  const CGSize scaled{size.width * scale, size.height * scale};
+  const CGSize first = fitted(memory_.recall().value_or(scaled));
+  window_.reset(SDL_CreateWindow(kTitle, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                 static_cast<int>(first.width), static_cast<int>(first.height),
                                  SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
   if (!window_) return false;
+  set_window_icon(window_.get());
   renderer_.reset(SDL_CreateRenderer(window_.get(), -1, 0));
   if (!renderer_) return false;
-  texture_.reset(SDL_CreateTexture(
-      renderer_.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
-      static_cast<int>(std::lround(body_.screen().size.width * pixels_per_point)),
-      static_cast<int>(std::lround(body_.screen().size.height * pixels_per_point))));
+  make_texture();
   SDL_StartTextInput();
   return texture_ != nullptr;
 }
 
+void Window::make_texture() {
+  const CGSize points = body_.screen().size;
+  texture_.reset(
+      SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
+                        static_cast<int>(std::lround(points.width * pixels_per_point_)),
+                        static_cast<int>(std::lround(points.height * pixels_per_point_))));
+}
+
 void Window::show(const Picture& picture, std::span<const PixelRect> damage) {
+  if (minimized_) return;
+  if (!texture_) make_texture();
   for (const PixelRect& part : damage) {
     const SDL_Rect place{part.x, part.y, part.width, part.height};
     const unsigned char* first =
@@ -119,9 +145,11 @@ void Window::show(const Picture& picture, std::span<const PixelRect> damage) {
     SDL_UpdateTexture(texture_.get(), &place, first, picture.stride);
   }
   if (!damage.empty()) present();
+  follow_caret();
 }
 
 void Window::present() {
+  if (!texture_) return;
   draw_body();
   const Letterbox box = Letterbox::fit(body_.size(), output_size());
   const CGRect screen = body_.screen();
@@ -203,6 +231,8 @@ void Window::handle_events() {
   while (SDL_PollEvent(&event))
     handle(event);
   if (buttons_.has_change()) present();
+  follow_caret();
+  keep_chosen_size();
 }
 
 void Window::handle(const SDL_Event& event) {
@@ -213,9 +243,7 @@ void Window::handle(const SDL_Event& event) {
       input_.close();
       break;
     case SDL_WINDOWEVENT:
-      if (event.window.event == SDL_WINDOWEVENT_EXPOSED ||
-          event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED)
-        present();
+      handle_window(event.window);
       break;
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP:

@@ -11,11 +11,13 @@
 #include "host/screen/pointers.h"
 #include "host/screen/screen.h"
 #include "host/screen/wheel_units.h"
+#include "host/screen/window_memory.h"
 
 struct SDL_Renderer;
 struct SDL_Texture;
 struct SDL_Window;
 struct SDL_MouseWheelEvent;
+struct SDL_WindowEvent;
 union SDL_Event;
 
 namespace host::screen {
@@ -25,12 +27,15 @@ namespace host::screen {
 class Window final : public Screen {
  public:
   /// `screen` is in points; `pixels_per_point` is the scale of the phone. Returns null, with the
-  /// reason in `problem`, when the desktop cannot show a window.
+  /// reason in `problem`, when the desktop cannot show a window. `memory` is the
+  /// file that keeps the window's size.
   static std::unique_ptr<Window> open(CGSize screen, double pixels_per_point, Input& input,
-                                      std::string& problem);
+                                      std::string& problem, const std::string& memory = {});
   ~Window() override;
 
   void show(const Picture& picture, std::span<const PixelRect> damage) override;
+  bool is_watched() const override { return !minimized_; }
+  bool needs_everything() const override { return !minimized_ && !texture_; }
 
   /// Brings the window in front of the others of the desktop, even if it was minimized.
   void raise();
@@ -52,8 +57,14 @@ class Window final : public Screen {
   int event_descriptor() const;
 
  private:
-  Window(CGSize screen, Input& input);
-  bool create(double pixels_per_point);
+  Window(CGSize screen, double pixels_per_point, Input& input, const std::string& memory);
+  bool create();
+  void make_texture();
+  void handle_window(const SDL_WindowEvent& event);
+  void set_minimized(bool minimized);
+  void keep_chosen_size();
+  /// Keeps the candidates of input methods beside the text.
+  void follow_caret();
   void handle(const SDL_Event& event);
   void handle_mouse(const SDL_Event& event);
   void handle_wheel(const SDL_MouseWheelEvent& event);
@@ -77,7 +88,15 @@ class Window final : public Screen {
   };
 
   const PhoneBody body_;
+  const double pixels_per_point_;
   Input& input_;
+  WindowMemory memory_;
+  /// A size outside of full screen that the user has chosen and that is not kept yet, and when, in
+  /// milliseconds.
+  std::optional<CGSize> chosen_size_;
+  std::uint32_t chosen_at_ = 0;
+  bool minimized_ = false;
+  std::optional<CGRect> caret_;
   HeldButtons buttons_;
   Keys keys_;
   Pointers pointers_;

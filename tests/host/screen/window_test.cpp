@@ -82,6 +82,12 @@ class Windows : public testing::Test {
     event.drop.file = thing ? SDL_strdup(thing) : nullptr;
     SDL_PushEvent(&event);
   }
+  static void push_window(SDL_WindowEventID what) {
+    SDL_Event event{};
+    event.type = SDL_WINDOWEVENT;
+    event.window.event = static_cast<Uint8>(what);
+    SDL_PushEvent(&event);
+  }
   static void push_text(const char* text) {
     SDL_Event event{};
     event.type = SDL_TEXTINPUT;
@@ -298,6 +304,25 @@ TEST_F(Windows, TextBeingComposedIsReported) {
   event.edit.start = 2;
   SDL_PushEvent(&event);
   EXPECT_THAT(handled(), ElementsAre("compose にほ 2"));
+}
+
+TEST_F(Windows, AMinimizedWindowKeepsNoPicturesAndNeedsAllOfTheNextOne) {
+  const std::vector<unsigned> pixels(200 * 400, 0xFF00FF00);
+  const Picture picture{reinterpret_cast<const unsigned char*>(pixels.data()), 200, 400, 800};
+  const std::array whole{PixelRect{0, 0, 200, 400}};
+  window_->show(picture, whole);
+  EXPECT_TRUE(window_->is_watched());
+  EXPECT_FALSE(window_->needs_everything());
+  push_window(SDL_WINDOWEVENT_MINIMIZED);
+  handled();
+  EXPECT_FALSE(window_->is_watched());
+  window_->show(picture, whole);
+  push_window(SDL_WINDOWEVENT_RESTORED);
+  handled();
+  EXPECT_TRUE(window_->is_watched());
+  EXPECT_TRUE(window_->needs_everything());
+  window_->show(picture, whole);
+  EXPECT_FALSE(window_->needs_everything());
 }
 
 TEST_F(Windows, ShareTheDesktopsClipboard) {
