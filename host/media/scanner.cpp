@@ -82,7 +82,7 @@ void Scanner::scan(Index& index, const std::stop_token& stop) {
   ScanOutcome outcome = scan_folders(index, request.roots, report, stop, library_, &kept_);
   if (stop.stop_requested()) return;
   const ScanProgress& counts = outcome.progress;
-  if (is_first || library_ != outcome.library) {
+  if (is_first) {
     log_note(fmt::format("{} songs; {} files read, {} skipped, {} folders unreadable",
                          outcome.library->tracks().size(), counts.read, counts.skipped,
                          counts.unreadable_folders));
