@@ -8,15 +8,13 @@
 #include "host/home_screen/console_phone.h"
 #include "host/home_screen/console_service.h"
 #include "host/home_screen/desktop_link.h"
+#include "host/home_screen/display.h"
 #include "host/home_screen/launch.h"
 #include "host/home_screen/lifeline.h"
 #include "host/home_screen/music.h"
 #include "host/home_screen/passing_time.h"
 #include "host/home_screen/process_options.h"
-#include "host/home_screen/window_clipboard.h"
 #include "host/home_screen/window_input.h"
-#include "host/home_screen/window_service.h"
-#include "host/launcher/log_file.h"
 #include "host/launcher/supervisor.h"
 #include "host/process/library_globals.h"
 #include "host/process/phone_screen.h"
@@ -50,50 +48,13 @@ class ProcessClock {
   std::optional<SteppedClock> stepped_;
 };
 
-/// The window, or an invisible screen without one.
-struct Display {
-  std::unique_ptr<screen::Screen> screen;
-  std::unique_ptr<launcher::WindowService> service;
-  std::unique_ptr<launcher::WindowClipboard> clipboard;
-  std::function<void()> raise;
-  std::function<bool()> is_in_front;
-  std::function<void(bool)> set_awake;
-};
-
-std::optional<Display> open_display(const ProcessOptions& options, RunLoop& loop,
-                                    screen::Input& input) {
-  if (options.headless)
-    return Display{std::make_unique<screen::Headless>(options.blind),
-                   nullptr,
-                   nullptr,
-                   [] {},
-                   [] { return false; },
-                   [](bool) {}};
-  const DeviceModel& device = current_device();
-  std::string problem;
-  const std::string memory =
-      launcher::default_log_file().parent_path() / ("window-" + std::string(device.identifier));
-  auto window =
-      screen::Window::open({device.width, device.height}, device.scale, input, problem, memory);
-  if (!window) {
-    spdlog::error("no window can be opened: {}; --headless --console needs none", problem);
-    return std::nullopt;
-  }
-  auto service = std::make_unique<launcher::WindowService>(loop, *window);
-  auto clipboard = std::make_unique<launcher::WindowClipboard>(*window);
-  window->set_awake(false);
-  auto raise = [&shown = *window] { shown.raise(); };
-  auto is_in_front = [&shown = *window] { return shown.is_in_front(); };
-  auto set_awake = [&shown = *window](bool is_awake) { shown.set_awake(is_awake); };
-  return Display{std::move(window), std::move(service),     std::move(clipboard),
-                 std::move(raise),  std::move(is_in_front), std::move(set_awake)};
-}
-
 std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& options, RunLoop& loop,
-                                                    const Display& display) {
+                                                    const launcher::Display& display) {
   if (!options.desktop) return nullptr;
-  return launcher::DesktopLink::begin(loop, {options.headless ? nullptr : display.raise,
-                                             display.is_in_front, [&loop] { loop.stop(); }});
+  launcher::DesktopLink::Window window{nullptr, [&display] { return display.is_in_front(); },
+                                       [&loop] { loop.stop(); }};
+  if (display.has_window()) window.raise = [&display] { display.raise(); };
+  return launcher::DesktopLink::begin(loop, std::move(window));
 }
 
 int switch_off(const launcher::Lifeline& lifeline) {
@@ -116,12 +77,12 @@ int run(const ProcessOptions& options) {
   close_on_exec(options.console_descriptor);
   launcher::Hands hands(loop, {device.width, device.height});
   launcher::WindowInput input(hands, [&loop] { loop.stop(); });
-  auto display = open_display(options, loop, input);
+  const auto display = launcher::Display::open(options, loop, input);
   if (!display) {
     lifeline.say(launcher::LifeSign::CannotStart);
     return launcher::kCannotStart;
   }
-  process::PhoneScreen phone_screen(loop, *display->screen);
+  process::PhoneScreen phone_screen(loop, display->screen());
   const bool is_launched = launcher::launch_home_screen(options);
   display->set_awake(true);
   if (!is_launched) return switch_off(lifeline);

@@ -30,10 +30,10 @@ struct WalkVisitor {
   std::function<void(const std::string& path, const std::string& reason)> on_unreachable;
   // Optional: before a folder is read, and for a path that is no folder below the roots but whose
   // changes change the walk: a root that is a song or missing, or a link to a folder.
-  std::function<void(const std::string& path)> on_enter;
-  std::function<void(const std::string& path)> on_name;
+  std::function<void(const std::string& path)> on_enter = {};
+  std::function<void(const std::string& path)> on_name = {};
   // Optional: sound of a kind that is not played, with its suffix in small letters.
-  std::function<void(const std::string& suffix)> on_left_out;
+  std::function<void(const std::string& suffix)> on_left_out = {};
 };
 
 // Whether a file of this name takes part in a walk.
