@@ -9,13 +9,13 @@ constexpr const char* kCovers = "/var/mobile/Library/Caches/covers";
 
 }  // namespace
 
-std::unique_ptr<DesktopLink> DesktopLink::begin(RunLoop& loop, Window window) {
+std::unique_ptr<DesktopLink> DesktopLink::begin(RunLoop& loop, const Window& window) {
   media_player::MediaService* const music = media_player::MediaService::current();
   if (!music) return nullptr;
-  return std::unique_ptr<DesktopLink>(new DesktopLink(loop, *music, std::move(window)));
+  return std::unique_ptr<DesktopLink>(new DesktopLink(loop, *music, window));
 }
 
-DesktopLink::DesktopLink(RunLoop& loop, media_player::MediaService& music, Window window)
+DesktopLink::DesktopLink(RunLoop& loop, media_player::MediaService& music, const Window& window)
     : session_(loop, desktop::Bus::Kind::kSession),
       now_playing_(loop, music, foundation::path_on_this_machine(kCovers)),
       player_(session_, now_playing_, {window.raise, window.quit}),

@@ -22,10 +22,10 @@ class DesktopLink {
   };
 
   /// Returns null for a phone without music. The music must outlive the link.
-  static std::unique_ptr<DesktopLink> begin(RunLoop& loop, Window window);
+  static std::unique_ptr<DesktopLink> begin(RunLoop& loop, const Window& window);
 
  private:
-  DesktopLink(RunLoop& loop, media_player::MediaService& music, Window window);
+  DesktopLink(RunLoop& loop, media_player::MediaService& music, const Window& window);
 
   desktop::Bus session_;
   desktop::NowPlaying now_playing_;

@@ -21,7 +21,6 @@ class DesktopPhones : public PhoneTest {
 
   host::RealClock clock_;
   host::RunLoop loop_{clock_};
-  host::test::Variable no_system_{"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus"};
   host::test::PrivateBus bus_;
 };
 

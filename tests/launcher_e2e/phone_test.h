@@ -9,6 +9,7 @@
 
 #include "tests/support/media_fixtures.h"
 #include "tests/support/running_phone.h"
+#include "tests/support/variable.h"
 
 namespace launcher_e2e {
 
@@ -67,6 +68,9 @@ class PhoneTest : public testing::Test {
 
  private:
   media_tests::TemporaryFolder folder_;
+  // A phone with a window would appear on the desktop of who runs the tests.
+  host::test::Variable no_session_bus_{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus"};
+  host::test::Variable no_system_bus_{"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus"};
 };
 
 }  // namespace launcher_e2e

@@ -159,7 +159,7 @@ SlotRef Bus::deliver_to(OnMessage work, const Start& start) {
     spdlog::warn("a message to the {} bus cannot be sent: {}", name(), reason(result));
     return nullptr;
   }
-  owned.release();
+  static_cast<void>(owned.release());
   sd_bus_slot_set_destroy_callback(slot, [](void* kept) { delete static_cast<OnMessage*>(kept); });
   return SlotRef(slot);
 }

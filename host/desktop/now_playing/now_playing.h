@@ -22,6 +22,7 @@ struct PlayerState {
   bool can_go_previous = false;
 
   bool is_playing() const { return playback == media::PlaybackState::playing; }
+  bool can_pause() const { return song || is_playing(); }
   bool can_seek() const { return song && song->microseconds > 0; }
   bool operator==(const PlayerState&) const = default;
 };

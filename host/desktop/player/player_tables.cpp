@@ -158,7 +158,7 @@ struct PlayerTables::Handlers {
   static bool can_go_next(void* data) { return state(data).can_go_next; }
   static bool can_go_previous(void* data) { return state(data).can_go_previous; }
   static bool can_play(void* data) { return state(data).can_play; }
-  static bool can_pause(void* data) { return state(data).song.has_value(); }
+  static bool can_pause(void* data) { return state(data).can_pause(); }
   static bool can_seek(void* data) { return state(data).can_seek(); }
 };
 

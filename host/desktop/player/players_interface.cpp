@@ -27,7 +27,7 @@ std::vector<const char*> changed_properties(const PlayerState& before, const Pla
   compare("CanGoNext", before.can_go_next == now.can_go_next);
   compare("CanGoPrevious", before.can_go_previous == now.can_go_previous);
   compare("CanPlay", before.can_play == now.can_play);
-  compare("CanPause", before.song.has_value() == now.song.has_value());
+  compare("CanPause", before.can_pause() == now.can_pause());
   compare("CanSeek", before.can_seek() == now.can_seek());
   return names;
 }
