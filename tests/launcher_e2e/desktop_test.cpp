@@ -41,6 +41,29 @@ TEST_F(DesktopPhones, AreControlledFromOutside) {
   EXPECT_EQ(phone.wait_for_end(), 0);
 }
 
+TEST_F(DesktopPhones, WithAWindowAreControlledUnasked) {
+  const host::test::Variable driver("SDL_VIDEODRIVER", "dummy");
+  RunningPhone phone({"--root", root(), "--music", music()});
+  ASSERT_TRUE(appears()) << phone.errors();
+  host::test::BusPeer peer(loop_);
+  const auto get = [&](const char* property) {
+    return peer.ask({kPlayer, kPath, "org.freedesktop.DBus.Properties", "Get"},
+                    [&](sd_bus_message* call) {
+                      sd_bus_message_append(call, "ss", "org.mpris.MediaPlayer2", property);
+                    });
+  };
+  EXPECT_EQ(get("CanRaise"), "true");
+  EXPECT_EQ(peer.ask({kPlayer, kPath, "org.mpris.MediaPlayer2", "Raise"}), "");
+  bus_.kill();
+  ASSERT_TRUE(phone.waits_for_error("the session bus has ended"));
+  bus_.start();
+  ASSERT_TRUE(phone.waits_for_error("the session bus is back"));
+  ASSERT_TRUE(appears());
+  host::test::BusPeer next(loop_);
+  EXPECT_EQ(next.ask({kPlayer, kPath, "org.mpris.MediaPlayer2", "Quit"}), "");
+  EXPECT_EQ(phone.wait_for_end(), 0);
+}
+
 TEST_F(DesktopPhones, WithoutAWindowLeaveTheDesktopAlone) {
   RunningPhone phone(headless({"--console"}));
   EXPECT_EQ(phone.ask("print [[SBMediaController sharedInstance] togglePlayPause]"), "YES");

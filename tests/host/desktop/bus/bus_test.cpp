@@ -151,6 +151,24 @@ TEST_F(ABus, ThatDoesNotAnswerKeepsTheLoopAsleep) {
   daemon_.thaw();
 }
 
+TEST_F(ABus, OfManyMessagesHandlesSomeATurn) {
+  bus_.add_client(echo_);
+  ASSERT_TRUE(opens());
+  host::test::BusPeer peer(loop);
+  constexpr int kCalls = 1000;
+  int answers = 0;
+  int most_a_turn = 0;
+  int before = 0;
+  const auto observer = loop.add_turn_observer(
+      0, [&] { most_a_turn = std::max(most_a_turn, answers - std::exchange(before, answers)); });
+  std::vector<SlotRef> questions;
+  for (int i = 0; i < kCalls; ++i)
+    questions.push_back(peer.bus.call(kPing, nullptr, [&](const Answer&) { ++answers; }));
+  EXPECT_TRUE(run_until(loop, [&] { return answers == kCalls; }));
+  EXPECT_LE(most_a_turn, 64);
+  loop.remove_turn_observer(observer);
+}
+
 TEST_F(ABus, WithoutADaemonIsNoError) {
   daemon_.kill();
   std::filesystem::remove(daemon_.address().substr(10));
