@@ -9,6 +9,7 @@
 #include "host/home_screen/phone_mode.h"
 #include "host/home_screen/safe_mode_notice.h"
 #include "host/home_screen/supervised_processes.h"
+#include "host/media/log.h"
 #include "host/process/device_images.h"
 #include "host/runtime/hang_watch.h"
 #include "host/runtime/heap.h"
@@ -16,6 +17,7 @@
 #include "host/runtime/patience.h"
 #include "host/social/delivery/configuration.h"
 #include "host/springboard/common/configuration.h"
+#include "host/springboard/status_bar/status_bar.h"
 #include "host/uikit/application/application.h"
 
 namespace host::launcher {
@@ -82,6 +84,7 @@ bool launch_home_screen(const ProcessOptions& options) {
   springboard::configure(configuration);
   configure_social(options.headless);
   start_gesture_service();
+  if (!options.headless) media::set_user_warning(&springboard::show_status_notice);
   if (!launch_music(options)) return false;
   if (!options.safe_mode) foundation::load_libraries(kBundleIdentifier, kHomeScreen);
   launch_application_watched();

@@ -261,7 +261,8 @@ void MpvPlayer::check_sound_device() {
     report({Report::lost_device, {}, {}});
   }
   if (std::exchange(has_complained_, true)) return;
-  log_warning("no sound device can be opened: music plays without sound until there is one");
+  warn_user("no sound device can be opened: music plays without sound until there is one",
+            "No sound device");
 }
 
 // Only files for speech have a lower rate than a CD. Music that follows one is worth the moment

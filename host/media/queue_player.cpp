@@ -101,7 +101,8 @@ void QueuePlayer::player_did_reach_end() {
 }
 
 void QueuePlayer::player_did_fail(const std::string& path, const std::string& reason) {
-  log_warning(fmt::format("{} cannot be played ({}); the next song starts", path, reason));
+  warn_user(fmt::format("{} cannot be played ({}); the next song starts", path, reason),
+            fmt::format("Cannot play {}", std::filesystem::path(path).filename().string()));
   next();
 }
 

@@ -249,7 +249,8 @@ void MediaService::save_playback() {
   const media::SongList& all = items_->library().songs();
   if (queue != all && *queue != *all) memory.queue = *queue;
   if (!write_playback(*memory_, memory)) {
-    media::log_warning("the playback state cannot be saved to " + memory_->path());
+    media::warn_user("the playback state cannot be saved to " + memory_->path(),
+                     "The disk cannot be written");
     memory_.reset();
   }
 }

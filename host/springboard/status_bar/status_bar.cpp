@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/runtime/log_line.h"
 #include "host/springboard/common/make_view.h"
 #include "host/springboard/common/pictures.h"
 #include "host/springboard/common/screen_grid.h"
@@ -17,9 +18,13 @@ constexpr CGFloat kSideMargin = 6;
 constexpr CGFloat kItemGap = 5;
 constexpr CGFloat kStatusFontSize = 12;
 constexpr CGFloat kChargeWidth = 44;
+// Between the glyphs on both sides.
+constexpr CGFloat kNoticeInset = 78;
+constexpr double kNoticeLasts = 6;
 
 /// Null before the launch.
 StatusBar* status_bar = nullptr;
+std::string waiting_notice;
 
 /// Adds a glyph, vertically centred in the bar, and returns the x behind it.
 CGFloat add_bar_glyph(UIView bar, NSString name, CGFloat x) {
@@ -54,6 +59,7 @@ StatusBar::StatusBar(const WallClock& clock)
   color_contents();
   window_->setHidden(NO);
   status_bar = this;
+  if (!waiting_notice.empty()) show_notice(to_ns(std::exchange(waiting_notice, {})));
 }
 
 StatusBar::~StatusBar() {
@@ -75,11 +81,32 @@ void StatusBar::add_time() {
 void StatusBar::set_locked(bool locked) {
   locked_ = locked;
   window_->setWindowLevel(locked ? kLockedStatusBarLevel : UIWindowLevelStatusBar);
-  time_->setHidden(locked ? YES : NO);
   if (locked && !padlock_)
     padlock_ = add_glyph(*window_, "lock"_ns, window_->bounds(), UIColor::whiteColor());
-  if (padlock_) padlock_->setHidden(locked ? NO : YES);
+  update_middle();
   color_contents();
+}
+
+void StatusBar::update_middle() const {
+  const bool has_notice = static_cast<bool>(notice_);
+  time_->setHidden(locked_ || has_notice ? YES : NO);
+  if (padlock_) padlock_->setHidden(locked_ && !has_notice ? NO : YES);
+}
+
+void StatusBar::show_notice(NSString words) {
+  if (notice_) notice_->removeFromSuperview();
+  CGRect frame = window_->bounds();
+  frame.origin.x += kNoticeInset;
+  frame.size.width -= 2 * kNoticeInset;
+  notice_ = add_text(*window_, frame, "HelveticaNeue-Medium"_ns, NSTextAlignmentCenter);
+  notice_->setText(words);
+  update_middle();
+  color_contents();
+  notice_ends_.start(kNoticeLasts, [this] {
+    notice_->removeFromSuperview();
+    notice_.reset();
+    update_middle();
+  });
 }
 
 bool StatusBar::set_dark(bool dark) {
@@ -94,6 +121,7 @@ void StatusBar::color_contents() const {
   window_->setTintColor(color);
   time_->setTextColor(color);
   charge_->setTextColor(color);
+  if (notice_) notice_->setTextColor(color);
 }
 
 void StatusBar::add_battery() {
@@ -116,6 +144,15 @@ void StatusBar::show_time() {
 
 void set_status_bar_locked(bool locked) {
   if (status_bar) status_bar->set_locked(locked);
+}
+
+void show_status_notice(std::string_view words) {
+  std::string line = on_one_line(words);
+  if (!status_bar) {
+    waiting_notice = std::move(line);
+  } else {
+    status_bar->show_notice(to_ns(line));
+  }
 }
 
 bool set_status_bar_dark(bool dark) {

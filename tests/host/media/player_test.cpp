@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "host/media/log.h"
 #include "host/media/mpv_player.h"
 #include "host/media/queue_player.h"
 #include "tests/support/media_fixtures.h"
@@ -151,6 +152,17 @@ TEST_F(SteppedQueue, NextAndPreviousChangeWhatTheEnginePlays) {
   queue_->next();
   EXPECT_EQ(player_->engine().path, "");
   EXPECT_EQ(queue_->state(), PlaybackState::stopped);
+}
+
+std::string told;
+
+TEST_F(SteppedQueue, TheUserIsToldOfASongThatCannotBePlayed) {
+  set_user_warning([](std::string_view words) { told = words; });
+  queue_->set_queue(make_song_list({4, 9, 2}));
+  queue_->play();
+  step(0);
+  set_user_warning(nullptr);
+  EXPECT_EQ(told, "Cannot play 4.flac");
 }
 
 TEST_F(SteppedQueue, ASongThatCannotBePlayedIsSkipped) {

@@ -228,6 +228,43 @@ class TickingWallClock final : public WallClock {
   double start_;
 };
 
+/// The texts that are seen in the bar.
+std::vector<std::string> texts_of(const StatusBar& bar) {
+  std::vector<std::string> texts;
+  for (const UIView part : bar.window().subviews().of<UIView>())
+    if (part.isKindOfClass(UILabel::cls()) && !part.isHidden())
+      texts.emplace_back(objc::cast<UILabel>(part).text().UTF8String());
+  return texts;
+}
+
+TEST_F(HomeScreenTest, ANoticeStandsInTheStatusBarForAWhileInsteadOfTheTime) {
+  launch();
+  show_status_notice("For the bar of this phone");
+  const FixedWallClock wall;
+  StatusBar bar(wall);
+  const auto ordinary = texts_of(bar);
+  show_status_notice("Cannot play \x1b[2J.flac");
+  auto with_notice = texts_of(bar);
+  ASSERT_EQ(with_notice.size(), ordinary.size());
+  EXPECT_EQ(with_notice.back().substr(0, 12), "Cannot play ");
+  EXPECT_EQ(with_notice.back().find('\x1b'), std::string::npos);
+  advance(4);
+  bar.set_locked(true);
+  show_status_notice("No sound device");
+  advance(4);
+  EXPECT_EQ(texts_of(bar).back(), "No sound device");
+  bar.set_locked(false);
+  advance(4);
+  EXPECT_EQ(texts_of(bar), ordinary);
+}
+
+TEST_F(HomeScreenTest, ANoticeFromBeforeTheLaunchWaitsForTheStatusBar) {
+  show_status_notice("No sound device");
+  const FixedWallClock wall;
+  const StatusBar bar(wall);
+  EXPECT_EQ(texts_of(bar).back(), "No sound device");
+}
+
 TEST_F(HomeScreenTest, TheStatusBarFollowsTheWallClockFromMinuteToMinute) {
   const TickingWallClock wall(clock);
   StatusBar bar(wall);
