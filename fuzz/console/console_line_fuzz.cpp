@@ -12,6 +12,8 @@ class StillPhone final : public Phone {
  public:
   void advance(double) override {}
   void touch(int, TouchPhase, CGPoint) override {}
+  Refusal wheel(CGPoint, CGPoint, WheelKind) override { return std::nullopt; }
+  Refusal right_click(CGPoint) override { return std::nullopt; }
   std::optional<CGPoint> centre_of(objc::Object) override { return CGPoint{1, 2}; }
   Refusal type(std::string_view) override { return std::nullopt; }
   Refusal key(std::string_view) override { return std::nullopt; }
