@@ -18,8 +18,6 @@ constexpr int rest_per_scan = 2;  // Times as long as the scan took.
 constexpr Milliseconds between_reads{100};
 constexpr Milliseconds quiet{200};
 constexpr Milliseconds longest_unrest{800};
-// Where not all folders can be watched.
-constexpr Milliseconds between_blind_scans{60'000};
 
 }  // namespace
 
@@ -27,7 +25,7 @@ void ScanPace::wait(Milliseconds scan_took) {
   if (rest(std::clamp(scan_took * rest_per_scan, shortest_rest, longest_rest))) return;
   for (;;) {
     const bool is_blind = watch_ && !watch_->sees_everything();
-    switch (wait_for_news(is_blind ? between_blind_scans : for_ever)) {
+    switch (wait_for_news(is_blind ? blind_wait_ : for_ever)) {
       case News::woken:
         return;
       case News::none:

@@ -12,9 +12,12 @@ namespace host::media {
 class ScanPace {
  public:
   using Milliseconds = std::chrono::milliseconds;
+  static constexpr Milliseconds between_blind_scans{60'000};
 
-  // Becomes readable when waiting must end; `watch` is null when nothing is watched.
-  ScanPace(int wake_descriptor, FolderWatch* watch) : wake_(wake_descriptor), watch_(watch) {}
+  // `wake_descriptor` becomes readable when waiting must end; `watch` is null when nothing is
+  // watched. Where not all folders can be watched, a scan is due after `blind_wait` at the latest.
+  ScanPace(int wake_descriptor, FolderWatch* watch, Milliseconds blind_wait = between_blind_scans)
+      : wake_(wake_descriptor), watch_(watch), blind_wait_(blind_wait) {}
 
   // Waits, after a scan that took `scan_took`, until another one is due or `wake` is readable.
   void wait(Milliseconds scan_took);
@@ -28,6 +31,7 @@ class ScanPace {
 
   int wake_;
   FolderWatch* watch_;
+  Milliseconds blind_wait_;
 };
 
 }  // namespace host::media

@@ -1,13 +1,16 @@
 #include "host/media/folder_watch.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 
+#include "host/media/event_signal.h"
 #include "host/media/scan.h"
+#include "host/media/scan_pace.h"
 #include "tests/support/media_fixtures.h"
 #include "tests/support/ordinary_user.h"
 
@@ -178,18 +181,44 @@ TEST_F(WatchingFolders, MoreChangesThanAreReportedCountAsOneAndAreSaidOnce) {
   std::size_t queue = 0;
   std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> queue;
   ASSERT_GT(queue, 0u);
+  // Names that matter to no one: only the overflow itself is a change. Equal reports in a row are
+  // one.
+  const std::string letters[] = {at("album/a.txt"), at("album/b.txt")};
+  for (const std::string& letter : letters)
+    write_bytes(letter, "hello");
+  EXPECT_FALSE(has_changed());
   const CapturedLog log;
   for (int round = 0; round < 2; ++round) {
-    // Names that matter to no one: only the overflow itself is a change.
     for (std::size_t i = 0; i <= queue; ++i)
-      ::mknod(at("album/" + std::to_string(i % 3) + ".txt").c_str(), S_IFREG | 0600, 0),
-          ::unlink(at("album/" + std::to_string(i % 3) + ".txt").c_str());
+      ::close(::open(letters[i % 2].c_str(), O_WRONLY | O_CLOEXEC));
     bool has_seen = false;
     while (!is_quiet())
       has_seen |= has_changed();
     EXPECT_TRUE(has_seen);
   }
   EXPECT_EQ(log.count("more changes"), 1);
+}
+
+TEST_F(WatchingFolders, AScanIsDueNowAndThenWhereNotAllFoldersCanBeWatched) {
+  FolderWatch few{1};
+  kept_.watch = &few;
+  EXPECT_EQ(scan(), 1u);
+  write_tone(at("album/b.wav"), 0.01);
+  EXPECT_FALSE(few.take_changes());
+  const EventSignal never;
+  ScanPace{never.descriptor(), &few, ScanPace::Milliseconds{1}}.wait({});
+  EXPECT_EQ(scan(), 2u);
+}
+
+TEST_F(WatchingFolders, AScanIsDueWhenTheChangesHaveSettledOrWaitingIsToEnd) {
+  EventSignal wake;
+  ScanPace pace{wake.descriptor(), &watch_};
+  write_tone(at("album/b.wav"), 0.01);
+  pace.wait({});
+  EXPECT_TRUE(is_quiet());
+  wake.raise();
+  pace.wait({});
+  EXPECT_TRUE(is_quiet());
 }
 
 TEST_F(WatchingFolders, FoldersBeyondTheLimitAreSaidOnce) {
