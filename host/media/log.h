@@ -4,14 +4,14 @@
 
 namespace host::media {
 
-// The media folder writes to the common log through these two functions, so only one of its files
+// The media folder writes to the common log through these functions, so only one of its files
 // compiles the logging headers.
 void log_note(std::string_view text);
 void log_warning(std::string_view text);
 
 // A warning that the user must see, who is told in a few words.
 void warn_user(std::string_view text, std::string_view few_words);
-// Calls `tell` with these words; nullptr for nobody. Without it they are only in the log.
+// Calls `tell` with these words; nullptr for no one. Without it they are only in the log.
 void set_user_warning(void (*tell)(std::string_view few_words));
 
 }  // namespace host::media

@@ -158,7 +158,7 @@ void QueuePlayer::player_did_continue() {
 
 void QueuePlayer::player_did_lose_device() {
   if (state_ != PlaybackState::playing) return;
-  log_warning("the sound device has gone: the music is paused");
+  warn_user("the sound device has gone: the music is paused", "No sound device");
   pause();
 }
 
