@@ -48,9 +48,9 @@ std::optional<Frame> read_frame(std::ifstream& file, std::size_t place) {
   const auto& bytes = *header;
   const bool is_frame = bytes[0] == 0xff && (bytes[1] & 0xf6u) == 0xf0;
   const std::size_t rate = bytes[2] >> 2 & 0xfu;
-  const std::size_t length = (bytes[3] & 0x3u) << 11 | bytes[4] << 3 | bytes[5] >> 5;
+  const std::size_t length = (bytes[3] & 0x3u) << 11 | std::size_t{bytes[4]} << 3 | bytes[5] >> 5;
   if (!is_frame || rate >= sample_rates.size() || length <= header_bytes) return std::nullopt;
-  const int channels = (bytes[2] & 1) << 2 | bytes[3] >> 6;
+  const auto channels = static_cast<int>((bytes[2] & 1u) << 2 | bytes[3] >> 6);
   return Frame{sample_rates[rate], channels == 0 ? 2 : channels, length};
 }
 
