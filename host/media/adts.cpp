@@ -19,14 +19,14 @@ constexpr int most_frames = 500;
 // Fewer could be anything that happens to look like them.
 constexpr int fewest_frames = 2;
 
-struct Frame {
+struct AdtsFrame {
   int sample_rate;
   int channels;
   std::size_t length;
 };
 
 template <std::size_t count>
-std::optional<std::array<std::uint8_t, count>> read_at(std::ifstream& file, std::size_t place) {
+std::optional<std::array<std::uint8_t, count>> bytes_at(std::ifstream& file, std::size_t place) {
   std::array<std::uint8_t, count> bytes;
   file.seekg(static_cast<std::streamoff>(place));
   if (!file.read(reinterpret_cast<char*>(bytes.data()), count)) return std::nullopt;
@@ -34,7 +34,7 @@ std::optional<std::array<std::uint8_t, count>> read_at(std::ifstream& file, std:
 }
 
 std::size_t end_of_id3_tag(std::ifstream& file) {
-  const auto header = read_at<id3_header_bytes>(file, 0);
+  const auto header = bytes_at<id3_header_bytes>(file, 0);
   if (!header || (*header)[0] != 'I' || (*header)[1] != 'D' || (*header)[2] != '3') return 0;
   std::size_t size = 0;
   for (std::size_t i = 6; i < id3_header_bytes; ++i)
@@ -42,8 +42,8 @@ std::size_t end_of_id3_tag(std::ifstream& file) {
   return id3_header_bytes + size;
 }
 
-std::optional<Frame> read_frame(std::ifstream& file, std::size_t place) {
-  const auto header = read_at<header_bytes>(file, place);
+std::optional<AdtsFrame> read_frame(std::ifstream& file, std::size_t place) {
+  const auto header = bytes_at<header_bytes>(file, place);
   if (!header) return std::nullopt;
   const auto& bytes = *header;
   const bool is_frame = bytes[0] == 0xff && (bytes[1] & 0xf6u) == 0xf0;
@@ -51,7 +51,7 @@ std::optional<Frame> read_frame(std::ifstream& file, std::size_t place) {
   const std::size_t length = (bytes[3] & 0x3u) << 11 | std::size_t{bytes[4]} << 3 | bytes[5] >> 5;
   if (!is_frame || rate >= sample_rates.size() || length <= header_bytes) return std::nullopt;
   const auto channels = static_cast<int>((bytes[2] & 1u) << 2 | bytes[3] >> 6);
-  return Frame{sample_rates[rate], channels == 0 ? 2 : channels, length};
+  return AdtsFrame{sample_rates[rate], channels == 0 ? 2 : channels, length};
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ constexpr unsigned watched_kinds = IN_CREATE | IN_CLOSE_WRITE | IN_MOVED_FROM | 
                                    IN_ONLYDIR;
 constexpr unsigned kinds_of_the_folder_itself = IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT;
 // Whoever fills the queue as fast as it is read does not keep the reader for ever.
-constexpr int most_reads = 16;
+constexpr int most_reads_at_once = 16;
 constexpr std::size_t bytes_per_read = 64 * 1024;
 
 // A song that is being written is a change when it is complete.
@@ -97,7 +97,7 @@ void FolderWatch::end_round() {
 bool FolderWatch::take_changes() {
   bool has_changed = false;
   alignas(inotify_event) std::array<char, bytes_per_read> bytes;
-  for (int reads = 0; reads < most_reads; ++reads) {
+  for (int reads = 0; reads < most_reads_at_once; ++reads) {
     const auto count = ::read(events_.get(), bytes.data(), bytes.size());
     if (count <= 0) break;
     for (std::size_t at = 0; at < static_cast<std::size_t>(count);) {
