@@ -54,7 +54,7 @@ std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& option
   launcher::DesktopLink::Window window{nullptr, [&display] { return display.is_in_front(); },
                                        [&loop] { loop.stop(); }};
   if (display.has_window()) window.raise = [&display] { display.raise(); };
-  return launcher::DesktopLink::begin(loop, std::move(window));
+  return launcher::DesktopLink::begin(loop, window);
 }
 
 int switch_off(const launcher::Lifeline& lifeline) {

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdlib>
+#include <optional>
 
 #include "host/basics/ascii.h"
 #include "host/basics/utf8.h"
@@ -117,14 +118,7 @@ void make_absolute(Options& options) {
     folder = made_absolute(folder);
 }
 
-}  // namespace
-
-std::variant<Options, Ending> read_options(int count, const char* const* arguments) {
-  Options options;
-  options.device = kDefaultDevice;
-  options.screenshots = ".";
-
-  CLI::App parser(kDescription, "sonavue");
+void add_options(CLI::App& parser, Options& options, bool& new_phone) {
   parser.footer(key_list() + kNotes);
   parser.set_version_flag("--version", "sonavue " SONAVUE_VERSION);
   parser.add_option("--device", options.device, "The phone or tablet to show: " + all_devices())
@@ -132,7 +126,6 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   auto* root = parser.add_option("--root", options.root,
                                  "Folder that holds the device's own files; a script without it "
                                  "plays on a new device that is deleted afterwards");
-  bool new_phone = false;
   parser
       .add_flag("--new-phone", new_phone,
                 "An untouched device, which asks for its settings itself and is deleted "
@@ -156,6 +149,30 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
                   "With --headless: take part in the desktop's session like a phone with a window: "
                   "media keys, players' controls, no sleep while music plays");
   parser.add_option("--screenshots", options.screenshots, "Folder for screenshots");
+}
+
+/// What cannot be started, and why: nothing of what was named can be played, or Foundation would
+/// not find the device's files, which it looks up by names in UTF-8.
+std::optional<Ending> reason_not_to_start(const Options& options) {
+  std::string text;
+  for (const std::string& refusal : options.refusals)
+    text += "sonavue: " + refusal + "\n";
+  if (options.files.empty() && !text.empty()) return Ending{kBadUsage, text};
+  if (utf8::is_valid(options.root.native())) return std::nullopt;
+  return Ending{kBadUsage, "sonavue: the device's folder " + ascii_of(options.root.native()) +
+                               " is not valid UTF-8; --root names another\n"};
+}
+
+}  // namespace
+
+std::variant<Options, Ending> read_options(int count, const char* const* arguments) {
+  Options options;
+  options.device = kDefaultDevice;
+  options.screenshots = ".";
+
+  CLI::App parser(kDescription, "sonavue");
+  bool new_phone = false;
+  add_options(parser, options, new_phone);
   try {
     parser.parse(count, arguments);
   } catch (const CLI::CallForHelp&) {
@@ -168,19 +185,8 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   options.is_set_up = options.root.empty() && options.script.empty() && !new_phone;
   if (options.is_set_up) options.root = default_device_root();
   make_absolute(options);
-  const bool names_files = !options.files.empty();
   check_files(options);
-  if (names_files && options.files.empty()) {
-    std::string text;
-    for (const std::string& refusal : options.refusals)
-      text += "sonavue: " + refusal + "\n";
-    return Ending{kBadUsage, text};
-  }
-  // Foundation looks every file of the device up by a name in UTF-8.
-  if (!utf8::is_valid(options.root.native())) {
-    return Ending{kBadUsage, "sonavue: the device's folder " + ascii_of(options.root.native()) +
-                                 " is not valid UTF-8; --root names another\n"};
-  }
+  if (auto reason = reason_not_to_start(options)) return *reason;
   return options;
 }
 

@@ -2,6 +2,7 @@
 
 #include <fmt/core.h>
 
+#include <filesystem>
 #include <utility>
 
 #include "host/media/log.h"
