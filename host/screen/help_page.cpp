@@ -55,7 +55,7 @@ void set(cairo_t* drawing, Shade shade) {
 }
 
 void set_font(cairo_t* drawing, double size, cairo_font_weight_t weight) {
-  cairo_select_font_face(drawing, "sans", CAIRO_FONT_SLANT_NORMAL, weight);
+  cairo_select_font_face(drawing, "Inter", CAIRO_FONT_SLANT_NORMAL, weight);
   cairo_set_font_size(drawing, size);
 }
 
