@@ -53,6 +53,23 @@ TEST_F(Files, AnOpenListOfMusicFollowsTheFolder) {
   EXPECT_EQ(phone.ask(kSongs), "1");
 }
 
+TEST_F(Files, TheBarOfMusicFollowsTheTagsOfItsSong) {
+  RunningPhone phone(in_a_window({"--console"}));
+  ASSERT_EQ(waits_for(phone, kSongs, "1"), "1");
+  ASSERT_EQ(phone.ask("print [[SBMediaController sharedInstance] togglePlayPause]"), "YES");
+  ASSERT_EQ(phone.ask("print [[SBMediaController sharedInstance] togglePlayPause]"), "YES");
+  ASSERT_EQ(phone.ask("system open com.apple.Music"), "ok");
+  ASSERT_EQ(phone.ask("advance 1"), "ok");
+  ASSERT_EQ(phone.ask("process Music"), "ok");
+  const char* const title =
+      "print [[[[[UIApplication sharedApplication] miniBar] subviews] objectAtIndex:2] text]";
+  ASSERT_EQ(waits_for(phone, title, "\"tone\""), "\"tone\"");
+  host::media::SongTags tags;
+  tags.title = "Another Name";
+  media_tests::write_song(music() / "tone.flac", tags);
+  EXPECT_EQ(waits_for(phone, title, "\"Another Name\""), "\"Another Name\"");
+}
+
 TEST_F(Files, AReadingThatWasInterruptedIsFinishedBeforeTheExtensionsStart) {
   run_once();
   media_tests::write_bytes(root() / "var/mobile/Media/library.sqlite.being-made", "");

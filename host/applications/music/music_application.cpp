@@ -13,10 +13,6 @@ namespace host::music {
 using application::PlayerRemote;
 
 MusicApplication::~MusicApplication() {
-  objc::state_of<SongsPage>(*songs_).on_library_change = [this] {
-    mini_bar_->library_changed();
-    objc::state_of<NowPlayingPage>(*now_playing_).library_changed();
-  };
   PlayerRemote::shared().on_change = {};
 }
 
@@ -33,6 +29,10 @@ void MusicApplication::application_did_finish_launching(objc::Object) {
   mini_bar_ = std::make_unique<MiniBar>(*window_, player_, [this] { open_now_playing(); });
   objc::state_of<SongsPage>(*songs_).on_visible = [this](bool visible) {
     mini_bar_->set_wanted(visible);
+  };
+  objc::state_of<SongsPage>(*songs_).on_library_change = [this] {
+    mini_bar_->library_changed();
+    objc::state_of<NowPlayingPage>(*now_playing_).library_changed();
   };
   PlayerRemote::shared().on_change = [this] { player_changed(); };
   window_->makeKeyAndVisible();
