@@ -31,13 +31,9 @@ NSString text_for(const MediaProgress& progress) {
 }
 
 std::string count_for(const MediaProgress& progress) {
-  const bool is_making = progress.stage == MediaProgress::Stage::kMakingMusic;
-  const std::size_t done =
-      is_making ? static_cast<std::size_t>(progress.made) : progress.files.seen;
-  const std::size_t all =
-      is_making ? static_cast<std::size_t>(progress.to_make) : progress.files.to_see;
-  if (all == 0) return done == 0 ? std::string() : in_thousands(done) + " songs";
-  return fmt::format("{} of {} songs", in_thousands(done), in_thousands(all));
+  const std::string done = in_thousands(progress.done());
+  if (progress.all() > 0) return fmt::format("{} of {} songs", done, in_thousands(progress.all()));
+  return progress.done() > 0 ? done + " songs" : std::string();
 }
 
 }  // namespace
@@ -73,9 +69,11 @@ BootScreen::~BootScreen() {
 void BootScreen::show(const MediaProgress& progress) {
   springboard::show_text(*text_, text_for(progress));
   springboard::show_text(*count_, NSString::stringWithUTF8String(count_for(progress).c_str()));
-  const auto part = part_done(progress);
-  track_->setHidden(part ? NO : YES);
-  const CGFloat width = std::max(kBarHeight, kBarWidth * part.value_or(0));
+  const bool is_known = progress.all() > 0;
+  track_->setHidden(is_known ? NO : YES);
+  const double part =
+      is_known ? static_cast<double>(progress.done()) / static_cast<double>(progress.all()) : 0;
+  const CGFloat width = std::max(kBarHeight, kBarWidth * part);
   bar_->setFrame({0, 0, width, kBarHeight});
 }
 

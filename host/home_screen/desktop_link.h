@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include "host/desktop/bus/bus.h"
@@ -8,6 +7,7 @@
 #include "host/desktop/now_playing/now_playing.h"
 #include "host/desktop/player/players_interface.h"
 #include "host/desktop/sleep/sleep_lock.h"
+#include "host/home_screen/display.h"
 
 namespace host::launcher {
 
@@ -15,17 +15,12 @@ namespace host::launcher {
 /// and its notifications.
 class DesktopLink {
  public:
-  struct Window {
-    std::function<void()> raise;  // empty without a window
-    std::function<bool()> is_in_front;
-    std::function<void()> quit;
-  };
-
-  /// Returns null for a phone without music. The music must outlive the link.
-  static std::unique_ptr<DesktopLink> begin(RunLoop& loop, const Window& window);
+  /// Returns null for a phone without music. The music and the display
+  /// must outlive the link.
+  static std::unique_ptr<DesktopLink> begin(RunLoop& loop, const Display& display);
 
  private:
-  DesktopLink(RunLoop& loop, media_player::MediaService& music, const Window& window);
+  DesktopLink(RunLoop& loop, media_player::MediaService& music, const Display& display);
 
   desktop::Bus session_;
   desktop::NowPlaying now_playing_;

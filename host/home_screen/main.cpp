@@ -48,15 +48,6 @@ class ProcessClock {
   std::optional<SteppedClock> stepped_;
 };
 
-std::unique_ptr<launcher::DesktopLink> link_desktop(const ProcessOptions& options, RunLoop& loop,
-                                                    const launcher::Display& display) {
-  if (!options.desktop) return nullptr;
-  launcher::DesktopLink::Window window{nullptr, [&display] { return display.is_in_front(); },
-                                       [&loop] { loop.stop(); }};
-  if (display.has_window()) window.raise = [&display] { display.raise(); };
-  return launcher::DesktopLink::begin(loop, window);
-}
-
 int switch_off(const launcher::Lifeline& lifeline) {
   lifeline.say(launcher::LifeSign::SwitchedOff);
   launcher::stop_music();
@@ -99,7 +90,7 @@ int run(const ProcessOptions& options) {
   lifeline.begin({[&display] { display->raise(); }, &launcher::play_handed_files});
   // Stepped time passes only between two questions, so it says nothing about the loop.
   if (!options.stepped) lifeline.answer_questions();
-  auto desktop = link_desktop(options, loop, *display);
+  auto desktop = options.desktop ? launcher::DesktopLink::begin(loop, *display) : nullptr;
   launcher::play_handed_files();
   loop.run();
   desktop.reset();

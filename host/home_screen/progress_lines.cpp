@@ -15,37 +15,42 @@ constexpr std::size_t kLines = 4;
 // While it is not known how many files there are.
 constexpr std::size_t kFilesBetweenTexts = 100;
 
+const char* name_of(Stage stage) {
+  return stage == Stage::kMakingMusic ? "making the demo music" : "reading music";
+}
+
 }  // namespace
 
 void ProgressLines::operator()(const MediaProgress& progress) {
-  const media::ScanProgress& files = progress.files;
-  switch (progress.stage) {
-    case Stage::kMakingMusic:
-      return follow("making the demo music", static_cast<std::size_t>(progress.made),
-                    static_cast<std::size_t>(progress.to_make));
-    case Stage::kReadingFiles:
-      return follow("reading music", files.seen, files.to_see);
-    case Stage::kReady:
-      return say_result(progress);
+  if (progress.stage == Stage::kReady) {
+    say_result(progress);
+  } else if (has_terminal_) {
+    rewrite_line(progress);
+  } else if (progress.stage == Stage::kMakingMusic || progress.all() >= kNotWorthALine) {
+    say_part(progress);
   }
 }
 
-void ProgressLines::follow(const std::string& work, std::size_t done, std::size_t all) {
-  if (has_terminal_) {
-    const std::size_t percent = all ? done * 100 / all : 0;
-    std::string text =
-        all ? fmt::format("{}: {} % of {}", work, percent, in_thousands(all))
-            : fmt::format("{}: {}", work, in_thousands(done - done % kFilesBetweenTexts));
-    if (text == shown_) return;
-    shown_ = std::move(text);
-    return show_progress_line(shown_);
-  }
-  if (all < kNotWorthALine && work == "reading music") return;
+void ProgressLines::rewrite_line(const MediaProgress& progress) {
+  const std::size_t done = progress.done();
+  const std::size_t all = progress.all();
+  std::string text = all ? fmt::format("{}: {} % of {}", name_of(progress.stage), done * 100 / all,
+                                       in_thousands(all))
+                         : fmt::format("{}: {}", name_of(progress.stage),
+                                       in_thousands(done - done % kFilesBetweenTexts));
+  if (text == shown_) return;
+  shown_ = std::move(text);
+  show_progress_line(shown_);
+}
+
+void ProgressLines::say_part(const MediaProgress& progress) {
+  const std::size_t done = progress.done();
+  const std::size_t all = progress.all();
   const std::size_t part = all ? done * kLines / all : 0;
   if (done < said_) said_ = 0;
   if (part == 0 || (said_ != 0 && part <= said_ * kLines / all)) return;
   said_ = done;
-  spdlog::info("{}: {} of {}", work, done, all);
+  spdlog::info("{}: {} of {}", name_of(progress.stage), done, all);
 }
 
 void ProgressLines::say_result(const MediaProgress& progress) {
@@ -56,14 +61,6 @@ void ProgressLines::say_result(const MediaProgress& progress) {
   if (result == result_) return;
   result_ = std::move(result);
   spdlog::info(result_);
-}
-
-std::optional<double> part_done(const MediaProgress& progress) {
-  const bool is_reading = progress.stage == Stage::kReadingFiles;
-  const double all = is_reading ? static_cast<double>(progress.files.to_see) : progress.to_make;
-  const double done = is_reading ? static_cast<double>(progress.files.seen) : progress.made;
-  if (all <= 0) return std::nullopt;
-  return done / all;
 }
 
 std::string in_thousands(std::size_t number) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "host/media_player/media_options.h"
@@ -16,7 +15,8 @@ class ProgressLines {
   void operator()(const media_player::MediaProgress& progress);
 
  private:
-  void follow(const std::string& work, std::size_t done, std::size_t all);
+  void rewrite_line(const media_player::MediaProgress& progress);
+  void say_part(const media_player::MediaProgress& progress);
   void say_result(const media_player::MediaProgress& progress);
 
   bool has_terminal_;
@@ -24,9 +24,6 @@ class ProgressLines {
   std::string shown_;
   std::string result_;
 };
-
-/// The part that is done, from 0 to 1; nothing while it is not known how much there is to do.
-std::optional<double> part_done(const media_player::MediaProgress& progress);
 
 /// "1,204", as a number for people.
 std::string in_thousands(std::size_t number);

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <chrono>
 #include <fstream>
-#include <sstream>
 
 #include "host/files/folder.h"
+#include "host/files/replace_file.h"
 
 namespace host::launcher {
 namespace {
@@ -34,18 +34,10 @@ void append_list(const fs::path& list, std::vector<std::string>& files) {
 
 bool hand_over(const fs::path& folder, const std::vector<std::string>& files) {
   if (folder.empty()) return false;
-  const std::string name = name_of_new_list();
-  // A list that has its name is complete.
-  const fs::path unfinished = folder / ("." + name);
-  std::ofstream file(unfinished, std::ios::binary);
+  std::string list;
   for (const std::string& path : files)
-    file << path << kEndOfPath;
-  file.close();
-  std::error_code error;
-  if (file) fs::rename(unfinished, folder / name, error);
-  if (file && !error) return true;
-  fs::remove(unfinished, error);
-  return false;
+    list += path + kEndOfPath;
+  return !files::replace_file(folder / name_of_new_list(), list).error;
 }
 
 std::vector<std::string> take_handed_files(const fs::path& folder) {

@@ -116,8 +116,7 @@ void LibraryFeed::receive_demo_news() {
 }
 
 void LibraryFeed::start_scan() {
-  using Work = media::Scanner::Work;
-  request_scan(watches_folders_ ? Work::watch : Work::scan);
+  request_scan();
   // Loading what the last scan left takes a moment only, and a screen that begins without it would
   // have to be filled twice.
   while (!library_ && first_scan_ == FirstScan::kBeside) {
@@ -127,9 +126,15 @@ void LibraryFeed::start_scan() {
   }
 }
 
-void LibraryFeed::request_scan(media::Scanner::Work work) {
+media::Scanner::Work LibraryFeed::work() const {
+  using Work = media::Scanner::Work;
+  if (first_scan_ == FirstScan::kNever) return Work::load;
+  return watches_folders_ ? Work::watch : Work::scan;
+}
+
+void LibraryFeed::request_scan() {
   if (!scanner_) {
-    scanner_ = std::make_unique<media::Scanner>(index_path_, work);
+    scanner_ = std::make_unique<media::Scanner>(index_path_, work());
     scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { receive_scan_updates(); });
   }
   last_request_ = scanner_->request(roots_);
@@ -145,13 +150,13 @@ void LibraryFeed::bring_in(const std::vector<std::string>& paths, std::function<
     return then();
   }
   // The demo music is made first; its scan is the first request.
-  if (scanner_) request_scan(media::Scanner::Work::scan);
+  if (scanner_) request_scan();
   waiting_.push_back({std::max<std::uint64_t>(last_request_, 1), std::move(then)});
 }
 
 void LibraryFeed::reload() {
   if (is_stepped_) return load_now();
-  request_scan(media::Scanner::Work::load);
+  request_scan();
 }
 
 void LibraryFeed::receive_scan_updates() {

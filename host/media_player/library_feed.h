@@ -52,7 +52,8 @@ class LibraryFeed {
   void scan_now();
   void start_demo();
   void start_scan();
-  void request_scan(media::Scanner::Work work);
+  media::Scanner::Work work() const;
+  void request_scan();
   bool scans_at_once() const { return first_scan_ == FirstScan::kBeforeStart; }
   void answer_waiting(std::uint64_t request);
   void say_left_out(const media::LeftOut& left_out);

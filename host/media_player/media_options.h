@@ -34,6 +34,15 @@ struct MediaProgress {
   int to_make = 0;
   media::ScanProgress files;
   std::size_t songs = 0;  // In the library at this moment.
+
+  /// Songs that are made, or looked at, so far.
+  std::size_t done() const {
+    return stage == Stage::kMakingMusic ? static_cast<std::size_t>(made) : files.seen;
+  }
+  /// Of how many; 0 while that is not known.
+  std::size_t all() const {
+    return stage == Stage::kMakingMusic ? static_cast<std::size_t>(to_make) : files.to_see;
+  }
 };
 
 /// All paths are paths of this machine.

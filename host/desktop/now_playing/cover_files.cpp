@@ -1,16 +1,17 @@
 #include "host/desktop/now_playing/cover_files.h"
 
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "host/files/folder.h"
+#include "host/files/new_file.h"
 #include "host/media/picture.h"
 #include "host/runtime/log.h"
 
@@ -19,9 +20,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr mode_t kReadableByAll = 0644;
+
 bool is_there(const std::string& path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+}
+
+/// A cache is not flushed: what a power failure takes of it is made again.
+bool write_file(const fs::path& path, const std::vector<std::uint8_t>& bytes) {
+  if (bytes.empty()) return false;
+  std::error_code ignored;
+  fs::create_directories(path.parent_path(), ignored);
+  const Descriptor folder(open(path.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  files::NewFile file(folder.get(), kReadableByAll, files::Durability::kUnflushed);
+  const std::string_view contents(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+  return !file.error() && !file.write(contents) && !file.replace(path.filename());
 }
 
 }  // namespace
@@ -57,22 +71,11 @@ void CoverFiles::receive() {
   }
 }
 
-/// A cache is not flushed: what a power failure takes of it is made again.
 bool CoverFiles::write(std::uint64_t key, const media::Picture& picture) {
-  const std::vector<std::uint8_t> bytes = media::jpeg_of(picture);
-  std::error_code error;
-  fs::create_directories(folder_, error);
-  const std::string path = path_of(key);
-  const std::string unfinished = path + ".new";
-  std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
-  file.write(reinterpret_cast<const char*>(bytes.data()),
-             static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!bytes.empty() && file && std::rename(unfinished.c_str(), path.c_str()) == 0) {
+  if (write_file(path_of(key), media::jpeg_of(picture))) {
     remove_oldest();
     return true;
   }
-  std::remove(unfinished.c_str());
   if (!std::exchange(has_complained_, true))
     spdlog::warn("covers cannot be written to {}: other programs show songs without them", folder_);
   return false;

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "host/foundation/device_paths.h"
+#include "host/media_player/music_choices.h"
 #include "tests/host/media_player/media_player_test.h"
 
 namespace {
@@ -17,6 +19,18 @@ class MediaController : public host::test::MediaPlayerTest {
 TEST_F(MediaController, IsOneObject) {
   ASSERT_TRUE(media());
   EXPECT_EQ(media(), SBMediaController::sharedInstance());
+}
+
+TEST_F(MediaController, ReadsWhatTheUserHasChosenInSettingsWhenItIsTold) {
+  using host::media_player::MediaService;
+  using host::media_player::MusicChoices;
+  const MusicChoices chosen{host::media::ReplayGain::album, true};
+  host::foundation::set_device_root(folder_.path());
+  ASSERT_TRUE(host::media_player::write_music_choices(chosen));
+  EXPECT_EQ(MediaService::current()->choices(), MusicChoices());
+  objc::send<void>(media(), "_musicChoicesChanged"_sel);
+  EXPECT_EQ(MediaService::current()->choices(), chosen);
+  host::foundation::set_device_root("");
 }
 
 TEST_F(MediaController, ToggleWithNothingLoadedPlaysTheFirstSongOfTheLibrary) {
