@@ -1,5 +1,6 @@
 #include "host/home_screen/display.h"
 
+#include "host/launcher/installation.h"
 #include "host/launcher/log_file.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
@@ -20,6 +21,7 @@ std::unique_ptr<Display> Display::open(const ProcessOptions& options, RunLoop& l
     spdlog::error("no window can be opened: {}; --headless --console needs none", problem);
     return nullptr;
   }
+  display->window_->set_icon(find_installation().icon);
   display->service_.emplace(loop, *display->window_);
   display->clipboard_.emplace(*display->window_);
   display->set_awake(false);

@@ -10,6 +10,7 @@ Installation find_installation() {
   return {programs / "SpringBoard",
           programs / "device",
           build / "host-pictures" / "covers",
+          build / "host-pictures" / "icon.png",
           {build / "staging", build / "applications"},
           build / "first-files"};
 }

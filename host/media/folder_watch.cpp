@@ -22,7 +22,7 @@ constexpr unsigned watched_kinds = IN_CREATE | IN_CLOSE_WRITE | IN_MOVED_FROM | 
                                    IN_DELETE | IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF |
                                    IN_ONLYDIR;
 constexpr unsigned kinds_of_the_folder_itself = IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT;
-// Whoever fills the queue as fast as it is read does not keep the reader for ever.
+// A program that fills the queue as fast as it is read does not keep the reader for ever.
 constexpr int most_reads_at_once = 16;
 constexpr std::size_t bytes_per_read = 64 * 1024;
 

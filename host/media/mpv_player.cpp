@@ -8,6 +8,7 @@
 #include <iterator>
 #include <utility>
 
+#include "host/basics/program_identity.h"
 #include "host/media/log.h"
 #include "host/media/plain_file.h"
 
@@ -28,7 +29,7 @@ constexpr MpvEngine::Option real_options[] = {
     {"prefetch-playlist", "yes"},
     {"replaygain-clip", "no"},
     // What the desktop's mixer shows.
-    {"audio-client-name", "Sonavue"},
+    {"audio-client-name", kProgramName},
     {"title", "${?metadata/by-key/artist:${metadata/by-key/artist} – }${media-title}"},
 };
 

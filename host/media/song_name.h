@@ -10,6 +10,12 @@ namespace host::media {
 inline constexpr std::array<std::string_view, 13> audio_suffixes = {
     ".flac", ".mp3",  ".ogg",  ".oga", ".opus", ".m4a", ".wav",
     ".aif",  ".aiff", ".aifc", ".wma", ".aac",  ".wv"};
+// The same kinds as desktops call them, which have several names for most.
+inline constexpr std::array audio_types = {
+    "audio/flac",     "audio/x-flac",     "audio/mpeg",     "audio/ogg",    "audio/x-vorbis+ogg",
+    "audio/opus",     "audio/x-opus+ogg", "audio/mp4",      "audio/x-m4a",  "audio/wav",
+    "audio/x-wav",    "audio/vnd.wave",   "audio/aiff",     "audio/x-aiff", "audio/x-aifc",
+    "audio/x-ms-wma", "audio/aac",        "audio/x-wavpack"};
 inline constexpr std::string_view cloud_suffix = ".cloud.toml";
 
 // Changes the letters A to Z only.

@@ -1,8 +1,11 @@
 #include "host/media/sound_libraries.h"
 
 #include <dlfcn.h>
+#include <fmt/core.h>
 
 #include <cstdlib>
+
+#include "host/basics/program_identity.h"
 
 namespace host::media {
 namespace {
@@ -16,8 +19,9 @@ void ignore_error(const char*, int, const char*, int, const char*, ...) {}
 void prepare_sound_libraries() {
   constexpr int keep_the_users_choice = 0;
   ::setenv("PIPEWIRE_DEBUG", "0", keep_the_users_choice);
-  ::setenv("PULSE_PROP_application.icon_name", "sonavue", keep_the_users_choice);
-  ::setenv("PIPEWIRE_PROPS", "{ application.icon-name = sonavue }", keep_the_users_choice);
+  ::setenv("PULSE_PROP_application.icon_name", kDesktopEntry, keep_the_users_choice);
+  ::setenv("PIPEWIRE_PROPS", fmt::format("{{ application.icon-name = {} }}", kDesktopEntry).c_str(),
+           keep_the_users_choice);
   // The engine brings the library with it, or was built without it.
   using SetHandler = int (*)(ErrorHandler);
   const auto set_handler =

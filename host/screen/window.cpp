@@ -8,17 +8,14 @@
 #include <string_view>
 #include <utility>
 
+#include "host/basics/program_identity.h"
 #include "host/screen/desktop_scale.h"
 #include "host/screen/event_descriptor.h"
 #include "host/screen/phone_body_drawing.h"
-#include "host/screen/window_icon.h"
 
 namespace host::screen {
 namespace {
 
-constexpr const char* kTitle = "Sonavue";
-// The name of the application's entry on the desktop.
-constexpr const char* kApplicationId = "sonavue";
 // The mouse counts as an additional finger besides those of a touch screen.
 constexpr int kMouseFinger = 0;
 // The share of the desktop for a phone that would not fit on it.
@@ -93,10 +90,10 @@ std::unique_ptr<Window> Window::open(CGSize screen, double pixels_per_point, Inp
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "1");
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
-  SDL_SetHint(SDL_HINT_APP_NAME, kTitle);
+  SDL_SetHint(SDL_HINT_APP_NAME, kProgramName);
   // The class is what desktops find the application's entry by. The user's own choice stays.
-  SDL_setenv("SDL_VIDEO_X11_WMCLASS", kApplicationId, 0);
-  SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", kApplicationId, 0);
+  SDL_setenv("SDL_VIDEO_X11_WMCLASS", kDesktopEntry, 0);
+  SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", kDesktopEntry, 0);
   std::unique_ptr<Window> made;
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
     made.reset(new Window(screen, pixels_per_point, input, memory));
@@ -115,11 +112,10 @@ bool Window::create() {
   const double scale = desktop_scale();
   const CGSize scaled{size.width * scale, size.height * scale};
   const CGSize first = fitted(memory_.recall().value_or(scaled));
-  window_.reset(SDL_CreateWindow(kTitle, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+  window_.reset(SDL_CreateWindow(kProgramName, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                                  static_cast<int>(first.width), static_cast<int>(first.height),
                                  SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
   if (!window_) return false;
-  set_window_icon(window_.get());
   renderer_.reset(SDL_CreateRenderer(window_.get(), -1, 0));
   if (!renderer_) return false;
   make_texture();

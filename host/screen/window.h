@@ -27,8 +27,8 @@ namespace host::screen {
 class Window final : public Screen {
  public:
   /// `screen` is in points; `pixels_per_point` is the scale of the phone. Returns null, with the
-  /// reason in `problem`, when the desktop cannot show a window. `memory` is the
-  /// file that keeps the window's size.
+  /// reason in `problem`, when the desktop cannot show a window. `memory` is the file
+  /// that keeps the window's size.
   static std::unique_ptr<Window> open(CGSize screen, double pixels_per_point, Input& input,
                                       std::string& problem, const std::string& memory = {});
   ~Window() override;
@@ -37,6 +37,9 @@ class Window final : public Screen {
   bool is_watched() const override { return !minimized_; }
   bool needs_everything() const override { return !minimized_ && !texture_; }
 
+  /// Gives the desktop a PNG file's picture as the window's icon. One that cannot be read is
+  /// ignored.
+  void set_icon(const std::string& file);
   /// Brings the window in front of the others of the desktop, even if it was minimized.
   void raise();
   /// True while the user's keyboard belongs to it.

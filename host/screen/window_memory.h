@@ -13,8 +13,7 @@ class WindowMemory {
   /// Without a file, nothing is kept.
   explicit WindowMemory(std::string file) : file_(std::move(file)) {}
 
-  /// Nothing when there is none; a file that holds anything else is ignored, with a line in the
-  /// log.
+  /// Nothing without a file; one that holds anything else is ignored, with a line in the log.
   std::optional<CGSize> recall();
   /// Writes the size if it is another one than the file has. A size that cannot be kept is not.
   void keep(CGSize size);

@@ -64,7 +64,7 @@ void end(pid_t& process) {
 
 SoundSink::SoundSink(int rate) {
   const std::string device = "module-null-sink sink_name=device format=s16le channels=2 rate=";
-  // The server keeps to this folder, whoever else plays sound on this machine.
+  // The server keeps to this folder, whatever else plays sound on this machine.
   ::setenv("PULSE_RUNTIME_PATH", folder_.path().c_str(), 1);
   ::setenv("PULSE_STATE_PATH", folder_.path().c_str(), 1);
   ::setenv("PULSE_SERVER", server().c_str(), 1);

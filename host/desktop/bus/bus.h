@@ -10,7 +10,7 @@
 
 namespace host::desktop {
 
-/// Something that lives on a bus. It begins anew with every connection.
+/// Something that lives on a bus. It begins again with every connection.
 class BusClient {
  public:
   virtual ~BusClient() = default;

@@ -3,6 +3,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/basics/program_identity.h"
 #include "host/runtime/log.h"
 
 namespace host::desktop {
@@ -10,7 +11,6 @@ namespace {
 
 constexpr const char* kService = "org.freedesktop.Notifications";
 constexpr const char* kPath = "/org/freedesktop/Notifications";
-constexpr const char* kEntry = "sonavue";
 constexpr const char* kClick = "default";
 constexpr std::uint8_t kLowUrgency = 0;
 constexpr int kUsualTime = -1;
@@ -38,7 +38,7 @@ std::string body_of(const SongFacts& song) {
 
 void append_hints(sd_bus_message* call, const SongFacts& song) {
   sd_bus_message_open_container(call, 'a', "{sv}");
-  sd_bus_message_append(call, "{sv}", "desktop-entry", "s", kEntry);
+  sd_bus_message_append(call, "{sv}", "desktop-entry", "s", kDesktopEntry);
   sd_bus_message_append(call, "{sv}", "urgency", "y", kLowUrgency);
   sd_bus_message_append(call, "{sv}", "suppress-sound", "b", 1);
   // It is not kept in a list of what the user has missed.
@@ -104,7 +104,7 @@ void SongNotifier::notify(const Abilities& abilities) {
   if (has_click) listen();
   const auto fill = [&](sd_bus_message* call) {
     const std::string body = body_of(song);
-    sd_bus_message_append(call, "susss", "Sonavue", number_, kEntry, song.title.c_str(),
+    sd_bus_message_append(call, "susss", kProgramName, number_, kDesktopEntry, song.title.c_str(),
                           abilities.has_markup ? escaped(body).c_str() : body.c_str());
     if (has_click) {
       sd_bus_message_append(call, "as", 2, kClick, "Show");

@@ -4,16 +4,15 @@
 #include <string>
 #include <utility>
 
+#include "host/basics/program_identity.h"
 #include "host/desktop/player/metadata.h"
 #include "host/desktop/player/players_interface.h"
+#include "host/media/song_name.h"
 
 namespace host::desktop {
 namespace {
 
 constexpr const char* kFileScheme = "file";
-constexpr const char* kMimeTypes[] = {
-    "audio/flac", "audio/x-flac", "audio/mpeg",         "audio/mp4", "audio/x-m4a",
-    "audio/ogg",  "audio/opus",   "audio/x-vorbis+ogg", "audio/wav", "audio/x-wav"};
 constexpr double kRate = 1;
 
 const char* name_of(media::PlaybackState state) {
@@ -140,7 +139,7 @@ struct PlayerTables::Handlers {
   static int get_mime_types(sd_bus*, const char*, const char*, const char*, sd_bus_message* reply,
                             void*, sd_bus_error*) {
     int result = sd_bus_message_open_container(reply, 'a', "s");
-    for (const char* type : kMimeTypes) {
+    for (const char* type : media::audio_types) {
       if (result >= 0) result = append(reply, type);
     }
     return result < 0 ? result : sd_bus_message_close_container(reply);
@@ -149,8 +148,8 @@ struct PlayerTables::Handlers {
   static bool yes(void*) { return true; }
   static bool no(void*) { return false; }
   static double rate(void*) { return kRate; }
-  static const char* identity(void*) { return "Sonavue"; }
-  static const char* entry(void*) { return Self::kEntry; }
+  static const char* identity(void*) { return kProgramName; }
+  static const char* entry(void*) { return kDesktopEntry; }
   static bool can_raise(void* data) { return of(data).window_.raise != nullptr; }
   static const char* status(void* data) { return name_of(state(data).playback); }
   static double volume(void* data) { return state(data).volume; }

@@ -19,8 +19,6 @@ class PlayersInterface final : private BusClient, private NowPlayingListener {
   static constexpr const char* kRoot = "org.mpris.MediaPlayer2";
   static constexpr const char* kPlayer = "org.mpris.MediaPlayer2.Player";
   static constexpr const char* kName = "org.mpris.MediaPlayer2.sonavue";
-  /// The name of the desktop entry.
-  static constexpr const char* kEntry = "sonavue";
 
   struct Window {
     std::function<void()> raise;  // empty without a window

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/basics/program_identity.h"
 #include "host/runtime/log.h"
 
 namespace host::desktop {
@@ -18,7 +19,6 @@ constexpr std::uint32_t kSleeping = 4;
 
 constexpr Bus::Method kLoginInhibit = {"org.freedesktop.login1", "/org/freedesktop/login1",
                                        "org.freedesktop.login1.Manager", "Inhibit"};
-constexpr const char* kWho = "Sonavue";
 constexpr const char* kWhy = "Music is playing";
 
 }  // namespace
@@ -87,7 +87,7 @@ void SleepLock::portal_changed(sd_bus_message* change) {
 void SleepLock::ask_login_service() {
   if (!system_.open()) return complain("there is neither a portal nor a login service");
   const auto fill = [](sd_bus_message* call) {
-    sd_bus_message_append(call, "ssss", "sleep", kWho, kWhy, "block");
+    sd_bus_message_append(call, "ssss", "sleep", kProgramName, kWhy, "block");
   };
   login_question_ =
       system_.call(kLoginInhibit, fill, [this](const Answer& answer) { take_lock(answer); });
