@@ -51,7 +51,7 @@ void unlock();
 bool press_key(const std::string& name);
 /// Returns where typed text goes; nothing while no field takes text in the process in front.
 std::optional<CGRect> caret_on_screen();
-/// Does what holding the icon at this point of the screen does; returns false when there is none.
+/// Does what holding the icon at this point of the screen does; returns false where no icon is.
 bool hold_icon_at(CGPoint point);
 
 /// Turns the desktop's wheel over a point of the screen, in whichever process has it. Returns false
