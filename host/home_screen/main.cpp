@@ -21,6 +21,7 @@
 #include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
+#include "host/springboard/system/system_actions.h"
 #include "objc/autorelease_pool.h"
 
 namespace {
@@ -75,6 +76,7 @@ int run(const ProcessOptions& options) {
   }
   process::PhoneScreen phone_screen(loop, display->screen());
   const bool is_launched = launcher::launch_home_screen(options);
+  phone_screen.on_rescale(&springboard::adopt_screen_density);
   display->set_awake(true);
   if (!is_launched) return switch_off(lifeline);
 

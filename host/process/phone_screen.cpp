@@ -3,16 +3,13 @@
 #include <cmath>
 #include <vector>
 
+#include "host/quartzcore/layers/screen_density.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/geometry/window_list.h"
 
 namespace host::process {
 namespace {
-
-int pixels(double points) {
-  return static_cast<int>(std::lround(points * current_device().scale));
-}
 
 std::vector<CALayer> window_layers() {
   std::vector<CALayer> layers;
@@ -26,35 +23,53 @@ std::vector<CALayer> window_layers() {
 PhoneScreen::PhoneScreen(RunLoop& loop, screen::Screen& screen)
     : loop_(loop),
       screen_(screen),
-      compositor_(pixels(current_device().width), pixels(current_device().height),
-                  current_device().scale),
-      observer_(loop.add_turn_observer(kTurnOrder, [this] { end_turn(); })) {}
+      observer_(loop.add_turn_observer(kTurnOrder, [this] { end_turn(); })) {
+  make_compositor(current_device().scale);
+}
 
 PhoneScreen::~PhoneScreen() {
   loop_.remove_turn_observer(observer_);
+}
+
+void PhoneScreen::make_compositor(double scale) {
+  const DeviceModel& device = current_device();
+  const auto pixels = [scale](double points) {
+    return static_cast<int>(std::lround(points * scale));
+  };
+  compositor_ =
+      std::make_unique<quartzcore::Compositor>(pixels(device.width), pixels(device.height), scale);
+  quartzcore::set_screen_density(scale / device.scale);
+}
+
+void PhoneScreen::follow_scale() {
+  const double scale = screen_.pixels_per_point().value_or(current_device().scale);
+  if (scale == compositor_->scale()) return;
+  make_compositor(scale);
+  if (rescaled_) rescaled_();
 }
 
 void PhoneScreen::end_turn() {
   if (!screen_.is_watched()) return;
   if (!loop_.wants_frames() || loop_.turn_has_frame()) draw();
   // Nothing is animated: time to prepare for the next animation.
-  if (!loop_.wants_frames()) compositor_.prepare_ahead(window_layers(), loop_.now());
+  if (!loop_.wants_frames()) compositor_->prepare_ahead(window_layers(), loop_.now());
 }
 
 void PhoneScreen::draw() {
+  follow_scale();
   const std::vector<CALayer> layers = window_layers();
   std::vector<screen::PixelRect> damage;
-  for (const auto& part : compositor_.render(layers, loop_.now()))
+  for (const auto& part : compositor_->render(layers, loop_.now()))
     damage.push_back({part.x, part.y, part.width, part.height});
   if (screen_.needs_everything()) {
-    const quartzcore::PixelRect whole = compositor_.screen();
+    const quartzcore::PixelRect whole = compositor_->screen();
     damage = {{whole.x, whole.y, whole.width, whole.height}};
   }
   if (!damage.empty()) screen_.show(picture(), damage);
 }
 
 screen::Picture PhoneScreen::picture() const {
-  cairo_surface_t* surface = compositor_.surface().get();
+  cairo_surface_t* surface = compositor_->surface().get();
   cairo_surface_flush(surface);
   return {cairo_image_surface_get_data(surface), cairo_image_surface_get_width(surface),
           cairo_image_surface_get_height(surface), cairo_image_surface_get_stride(surface)};
@@ -62,8 +77,18 @@ screen::Picture PhoneScreen::picture() const {
 
 std::optional<std::string> PhoneScreen::write(const std::string& file) {
   quartzcore::flush_layers();
-  draw();
-  return screen::write_png(picture(), file);
+  const double scale = compositor_->scale();
+  if (scale == current_device().scale) {
+    draw();
+    return screen::write_png(picture(), file);
+  }
+  auto shown = std::move(compositor_);
+  make_compositor(current_device().scale);
+  compositor_->render(window_layers(), loop_.now());
+  auto problem = screen::write_png(picture(), file);
+  compositor_ = std::move(shown);
+  quartzcore::set_screen_density(scale / current_device().scale);
+  return problem;
 }
 
 }  // namespace host::process

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -22,19 +24,26 @@ class PhoneScreen {
   PhoneScreen(const PhoneScreen&) = delete;
   PhoneScreen& operator=(const PhoneScreen&) = delete;
 
-  /// Updates the picture and writes it to a PNG file. Returns the reason on failure.
+  /// Sets the function called when the screen has taken another number of pixels per point.
+  void on_rescale(std::function<void()> rescaled) { rescaled_ = std::move(rescaled); }
+
+  /// Updates the picture and writes it to a PNG file, always with the device's pixels. Returns the
+  /// reason on failure.
   std::optional<std::string> write(const std::string& file);
-  const quartzcore::Compositor& compositor() const { return compositor_; }
+  const quartzcore::Compositor& compositor() const { return *compositor_; }
 
  private:
   void end_turn();
   void draw();
+  void follow_scale();
+  void make_compositor(double scale);
   screen::Picture picture() const;
 
   RunLoop& loop_;
   screen::Screen& screen_;
-  quartzcore::Compositor compositor_;
+  std::unique_ptr<quartzcore::Compositor> compositor_;
   RunLoop::Id observer_;
+  std::function<void()> rescaled_;
 };
 
 }  // namespace host::process

@@ -32,6 +32,8 @@ class Screen {
   virtual void show(const Picture& picture, std::span<const PixelRect> damage) = 0;
   /// True when every new picture should be shown; false when pictures are drawn only on request.
   virtual bool is_watched() const { return true; }
+  /// The pixels that it has for each point of the phone; none stands for those of the device.
+  virtual std::optional<double> pixels_per_point() const { return std::nullopt; }
   /// True when the screen has lost what it was shown: the next picture is needed as a whole.
   virtual bool needs_everything() const { return false; }
 };

@@ -20,6 +20,8 @@ namespace {
 constexpr int kMouseFinger = 0;
 // The share of the desktop for a phone that would not fit on it.
 constexpr double kLargestPart = 0.92;
+// In pixels, by which a picture may miss its place through rounding.
+constexpr double kAlmost = 2;
 constexpr auto kGroundShade = static_cast<Uint8>(kGroundLight * 255);
 
 /// The largest size of this shape, up to `wanted`, that leaves the desktop some room.
@@ -48,9 +50,13 @@ std::string display_names() {
   return names;
 }
 
-SDL_FRect to_sdl(CGRect rect) {
-  return {static_cast<float>(rect.min_x()), static_cast<float>(rect.min_y()),
-          static_cast<float>(rect.size.width), static_cast<float>(rect.size.height)};
+int whole(double value) {
+  return static_cast<int>(std::lround(value));
+}
+
+SDL_Rect whole_pixels(CGRect rect) {
+  return {whole(rect.min_x()), whole(rect.min_y()), whole(rect.size.width),
+          whole(rect.size.height)};
 }
 
 }  // namespace
@@ -67,6 +73,7 @@ void Window::Destroy::operator()(SDL_Texture* texture) const {
 
 Window::Window(CGSize screen, double pixels_per_point, Input& input, const std::string& memory)
     : body_(screen),
+      device_pixels_per_point_(pixels_per_point),
       pixels_per_point_(pixels_per_point),
       input_(input),
       memory_(memory),
@@ -118,22 +125,24 @@ bool Window::create() {
   if (!window_) return false;
   renderer_.reset(SDL_CreateRenderer(window_.get(), -1, 0));
   if (!renderer_) return false;
-  make_texture();
+  pixels_per_point_ = fitting_pixels_per_point();
   SDL_StartTextInput();
-  return texture_ != nullptr;
+  return true;
 }
 
-void Window::make_texture() {
-  const CGSize points = body_.screen().size;
-  texture_.reset(
-      SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
-                        static_cast<int>(std::lround(points.width * pixels_per_point_)),
-                        static_cast<int>(std::lround(points.height * pixels_per_point_))));
+double Window::fitting_pixels_per_point() const {
+  const double points = body_.screen().size.width;
+  const double scale = Letterbox::fit(body_.size(), output_size()).scale;
+  return std::min(device_pixels_per_point_, std::max(1.0, std::round(points * scale)) / points);
 }
 
 void Window::show(const Picture& picture, std::span<const PixelRect> damage) {
   if (minimized_) return;
-  if (!texture_) make_texture();
+  if (!texture_ || picture_size_ != CGSize(picture.width, picture.height)) {
+    picture_size_ = {static_cast<double>(picture.width), static_cast<double>(picture.height)};
+    texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
+                                     SDL_TEXTUREACCESS_STREAMING, picture.width, picture.height));
+  }
   for (const PixelRect& part : damage) {
     const SDL_Rect place{part.x, part.y, part.width, part.height};
     const unsigned char* first =
@@ -144,21 +153,30 @@ void Window::show(const Picture& picture, std::span<const PixelRect> damage) {
   follow_caret();
 }
 
+SDL_Rect Window::place_of_screen() const {
+  const Letterbox box = Letterbox::fit(body_.size(), output_size());
+  const CGRect screen = body_.screen();
+  CGSize size{screen.size.width * box.scale, screen.size.height * box.scale};
+  // A picture that was drawn for this size is not scaled by a pixel.
+  if (std::abs(size.width - picture_size_.width) < kAlmost &&
+      std::abs(size.height - picture_size_.height) < kAlmost)
+    size = picture_size_;
+  return whole_pixels({{box.place.origin.x + screen.min_x() * box.scale,
+                        box.place.origin.y + screen.min_y() * box.scale},
+                       size});
+}
+
 void Window::present() {
   if (!texture_) return;
   draw_body();
   const Letterbox box = Letterbox::fit(body_.size(), output_size());
-  const CGRect screen = body_.screen();
-  const CGRect in_window{box.place.origin.x + screen.min_x() * box.scale,
-                         box.place.origin.y + screen.min_y() * box.scale,
-                         screen.size.width * box.scale, screen.size.height * box.scale};
-  const SDL_FRect body_place = to_sdl(box.place);
-  const SDL_FRect screen_place = to_sdl(in_window);
+  const SDL_Rect body_place = whole_pixels({box.place.origin, body_drawn_});
+  const SDL_Rect screen_place = place_of_screen();
   SDL_SetRenderDrawColor(renderer_.get(), kGroundShade, kGroundShade, kGroundShade,
                          SDL_ALPHA_OPAQUE);
   SDL_RenderClear(renderer_.get());
-  SDL_RenderCopyF(renderer_.get(), body_texture_.get(), nullptr, &body_place);
-  SDL_RenderCopyF(renderer_.get(), texture_.get(), nullptr, &screen_place);
+  SDL_RenderCopy(renderer_.get(), body_texture_.get(), nullptr, &body_place);
+  SDL_RenderCopy(renderer_.get(), texture_.get(), nullptr, &screen_place);
   if (help_ && help_drawn_ != output_size()) draw_help();
   if (help_) SDL_RenderCopyF(renderer_.get(), help_.get(), nullptr, nullptr);
   SDL_RenderPresent(renderer_.get());
@@ -229,6 +247,7 @@ void Window::handle_events() {
   if (buttons_.has_change()) present();
   follow_caret();
   keep_chosen_size();
+  follow_size();
 }
 
 void Window::handle(const SDL_Event& event) {

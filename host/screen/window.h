@@ -13,6 +13,7 @@
 #include "host/screen/wheel_units.h"
 #include "host/screen/window_memory.h"
 
+struct SDL_Rect;
 struct SDL_Renderer;
 struct SDL_Texture;
 struct SDL_Window;
@@ -35,6 +36,9 @@ class Window final : public Screen {
 
   void show(const Picture& picture, std::span<const PixelRect> damage) override;
   bool is_watched() const override { return !minimized_; }
+  /// Those of the window, up to the device's: text is as sharp as the window allows. They follow
+  /// the window's size when it has settled.
+  std::optional<double> pixels_per_point() const override { return pixels_per_point_; }
   bool needs_everything() const override { return !minimized_ && !texture_; }
 
   /// Gives the desktop a PNG file's picture as the window's icon. One that cannot be read is
@@ -62,7 +66,10 @@ class Window final : public Screen {
  private:
   Window(CGSize screen, double pixels_per_point, Input& input, const std::string& memory);
   bool create();
-  void make_texture();
+  double fitting_pixels_per_point() const;
+  void follow_size();
+  /// Where the phone's picture is shown, in pixels of the window.
+  SDL_Rect place_of_screen() const;
   void handle_window(const SDL_WindowEvent& event);
   void set_minimized(bool minimized);
   void keep_chosen_size();
@@ -91,13 +98,15 @@ class Window final : public Screen {
   };
 
   const PhoneBody body_;
-  const double pixels_per_point_;
+  const double device_pixels_per_point_;
+  double pixels_per_point_;
   Input& input_;
   WindowMemory memory_;
   /// A size outside of full screen that the user has chosen and that is not kept yet, and when, in
   /// milliseconds.
   std::optional<CGSize> chosen_size_;
   std::uint32_t chosen_at_ = 0;
+  std::uint32_t resized_at_ = 0;
   bool minimized_ = false;
   std::optional<CGRect> caret_;
   HeldButtons buttons_;
@@ -106,6 +115,8 @@ class Window final : public Screen {
   std::unique_ptr<SDL_Window, Destroy> window_;
   std::unique_ptr<SDL_Renderer, Destroy> renderer_;
   std::unique_ptr<SDL_Texture, Destroy> texture_;
+  /// In pixels, of the texture's picture.
+  CGSize picture_size_;
   std::unique_ptr<SDL_Texture, Destroy> body_texture_;
   /// The size in pixels at which the body was last drawn.
   CGSize body_drawn_;

@@ -12,8 +12,10 @@ namespace {
 constexpr Uint32 kNotItsOwnSize =
     SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_MAXIMIZED | SDL_WINDOW_MINIMIZED;
 
-// How long, in milliseconds, the user must not have changed the size.
+// How long, in milliseconds, the user must not have changed the size before it is kept, and before
+// the phone is drawn for it.
 constexpr Uint32 kSettled = 500;
+constexpr Uint32 kStill = 150;
 
 }  // namespace
 
@@ -26,6 +28,7 @@ void Window::handle_window(const SDL_WindowEvent& event) {
       break;
     case SDL_WINDOWEVENT_SIZE_CHANGED:
       caret_.reset();
+      resized_at_ = event.timestamp;
       present();
       break;
     case SDL_WINDOWEVENT_EXPOSED:
@@ -42,6 +45,12 @@ void Window::handle_window(const SDL_WindowEvent& event) {
     default:
       break;
   }
+}
+
+// Not on the way: a picture that is drawn for each size would follow an edge too slowly.
+void Window::follow_size() {
+  if (!minimized_ && SDL_GetTicks() - resized_at_ >= kStill)
+    pixels_per_point_ = fitting_pixels_per_point();
 }
 
 // Not at the end: the session may end the process.

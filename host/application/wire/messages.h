@@ -129,8 +129,22 @@ struct WheelTurn {
   }
 };
 
+/// The size of the screen in pixels: at most that of the surface, of which frames then fill the top
+/// left.
+struct ScreenPixels {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(width, height);
+  }
+};
+
 struct NewFrame {
   std::uint8_t buffer = 0;
+  // The size of the whole picture in pixels.
+  std::int32_t picture_width = 0;
+  std::int32_t picture_height = 0;
   // The damage since the previous frame, in pixels.
   std::int32_t x = 0;
   std::int32_t y = 0;
@@ -138,7 +152,7 @@ struct NewFrame {
   std::int32_t height = 0;
   template <class Fields>
   void list(Fields& fields) {
-    fields(buffer, x, y, width, height);
+    fields(buffer, picture_width, picture_height, x, y, width, height);
   }
 };
 
@@ -211,7 +225,7 @@ struct TextInputIs {
 // A message's kind on the wire is its index in these lists.
 using ToApplication =
     std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey, Visibility, TimeIs,
-                 ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn>;
+                 ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn, ScreenPixels>;
 using ToHome =
     std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer, TextInputIs>;
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "host/applications/program/player_remote.h"
+#include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
 #include "host/uikit/scroll/wheel.h"
 #include "host/uikit/shortcuts/shortcuts.h"
@@ -91,6 +92,10 @@ void RunningProgram::take(const Hello& hello) {
   touches_.cancel_all(loop_.now());
   screen_.attach(std::move(surface));
   reported_caret_.reset();
+}
+
+void RunningProgram::take(const ScreenPixels& pixels) {
+  if (pixels.width > 0) screen_.set_pixels_per_point(pixels.width / current_device().width);
 }
 
 void RunningProgram::take(const FingerChange& change) {

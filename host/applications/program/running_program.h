@@ -30,6 +30,7 @@ class RunningProgram {
  private:
   void watch();
   void handle_messages();
+  void take(const ScreenPixels& pixels);
   void take(const FingerChange& change);
   void take(const WheelTurn& turn);
   void take(const TypedText& typed);

@@ -20,7 +20,9 @@ void SurfaceScreen::Part::add(const Part& other) {
 
 void SurfaceScreen::show(const screen::Picture& picture,
                          std::span<const screen::PixelRect> damage) {
+  const bool is_resized = picture_ && picture_->width != picture.width;
   picture_ = picture;
+  if (is_resized) forget_frames();
   Part changed;
   for (const screen::PixelRect& one : damage)
     changed.add({one.x, one.y, one.x + one.width, one.y + one.height});
@@ -34,10 +36,15 @@ void SurfaceScreen::attach(std::shared_ptr<SharedSurface> surface) {
   surface_ = std::move(surface);
   next_buffer_ = 0;
   is_busy_ = false;
+  pixels_per_point_.reset();
+  forget_frames();
+  send_waiting();
+}
+
+void SurfaceScreen::forget_frames() {
   for (Part& missing : missing_)
     missing = whole();
   waiting_ = whole();
-  send_waiting();
 }
 
 void SurfaceScreen::set_in_front(bool is_in_front) {
@@ -62,8 +69,9 @@ void SurfaceScreen::send_waiting() {
   const Part part = std::exchange(waiting_, Part());
   const int buffer = std::exchange(next_buffer_, 1 - next_buffer_);
   is_busy_ = true;
-  announce_({static_cast<std::uint8_t>(buffer), part.left, part.top, part.right - part.left,
-             part.bottom - part.top});
+  const Part all = whole();
+  announce_({static_cast<std::uint8_t>(buffer), all.right, all.bottom, part.left, part.top,
+             part.right - part.left, part.bottom - part.top});
 }
 
 void SurfaceScreen::copy(const Part& part) {

@@ -21,6 +21,10 @@ class SurfaceScreen final : public screen::Screen {
 
   void show(const screen::Picture& picture, std::span<const screen::PixelRect> damage) override;
 
+  std::optional<double> pixels_per_point() const override { return pixels_per_point_; }
+  /// From the next `show` on, until a new surface is attached.
+  void set_pixels_per_point(double pixels) { pixels_per_point_ = pixels; }
+
   /// Starts drawing for a new home screen, which gets the whole picture.
   void attach(std::shared_ptr<SharedSurface> surface);
   void detach() { surface_.reset(); }
@@ -38,6 +42,7 @@ class SurfaceScreen final : public screen::Screen {
     void add(const Part& other);
   };
 
+  void forget_frames();
   void send_waiting();
   void copy(const Part& part);
   Part whole() const;
@@ -45,6 +50,7 @@ class SurfaceScreen final : public screen::Screen {
   Announce announce_;
   std::shared_ptr<SharedSurface> surface_;
   std::optional<screen::Picture> picture_;
+  std::optional<double> pixels_per_point_;
   /// The damage that each buffer lacks, and the damage not yet announced.
   Part missing_[SharedSurface::kBuffers];
   Part waiting_;

@@ -2,6 +2,8 @@
 
 #include <numbers>
 
+#include "host/quartzcore/layers/screen_density.h"
+
 namespace host::quartzcore {
 namespace {
 
@@ -31,6 +33,37 @@ void add_rounded_rect(cairo_t* drawing, const CGRect& r, double radius) {
   cairo_close_path(drawing);
 }
 
+struct Span {
+  int first = 0;
+  int end = 0;
+};
+
+Span shown_span(double from, double to) {
+  const int first = to_pixel(std::round(from));
+  const int end = to_pixel(std::round(to));
+  if (end > first || !(to > from)) return {first, end};
+  const int middle = to_pixel(std::floor((from + to) / 2));
+  return {middle, middle + 1};
+}
+
+/// Returns the nearest pixels. Where the screen has fewer pixels than the device, a hairline still
+/// gets one.
+PixelRect shown_pixels(const CGRect& rect) {
+  if (screen_density() == 1) return nearest_pixels(rect);
+  const Span across = shown_span(rect.min_x(), rect.max_x());
+  const Span down = shown_span(rect.min_y(), rect.max_y());
+  return from_edges(across.first, down.first, across.end, down.end);
+}
+
+/// True for what the layer has drawn for these pixels. The picture has whole pixels for any place
+/// of the layer, so it may be larger by one.
+bool is_drawn_for(const PixelRect& box, const Contents& contents) {
+  const int wider = contents.image()->width() - box.width;
+  const int higher = contents.image()->height() - box.height;
+  if (contents.density == 1) return wider == 0 && higher == 0;
+  return wider >= 0 && wider <= 1 && higher >= 0 && higher <= 1;
+}
+
 /// Adds the bounds to the path. Upright bounds without rounded corners end at whole pixels, so that
 /// hairlines are sharp and neighbours meet.
 void add_bounds(const Canvas& canvas, const RenderNode& node) {
@@ -39,7 +72,7 @@ void add_bounds(const Canvas& canvas, const RenderNode& node) {
   cairo_new_path(drawing);
   if (p.corner_radius <= 0 && is_upright(node.to_device)) {
     use_pixels(canvas);
-    const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(p.bounds, node.to_device));
+    const PixelRect box = shown_pixels(CGRectApplyAffineTransform(p.bounds, node.to_device));
     cairo_rectangle(drawing, box.x, box.y, box.width, box.height);
   } else {
     use_layer_space(canvas, node.to_device);
@@ -90,18 +123,20 @@ void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const
 }
 
 void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
-  const Image& image = *node.layer->model.contents.image();
-  const CGRect place = node.layer->model.contents.place_in(node.properties.bounds);
+  const Contents& contents = node.layer->model.contents;
+  const Image& image = *contents.image();
+  const CGRect place = contents.place_in(node.properties.bounds);
   if (!(place.size.width > 0) || !(place.size.height > 0)) return;
   cairo_save(canvas.drawing.get());
   // Contents may extend beyond the bounds, unless the layer clips.
   if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
-  const bool own_size = box.width == image.width() && box.height == image.height();
+  const bool own_size = is_drawn_for(box, contents);
   if (is_upright(node.to_device) && !box.is_empty() && (own_size || !node.is_scaling)) {
-    const Surface pixels = images.scaled(image, box.width, box.height);
+    const Surface pixels = images.scaled(image, own_size ? image.width() : box.width,
+                                         own_size ? image.height() : box.height);
     const Opacity kind = image.is_opaque() ? Opacity::Opaque : Opacity::Translucent;
-    if (pixels) paint_surface(canvas, pixels, box.x, box.y, opacity, kind);
+    if (pixels) paint_surface(canvas, pixels, box, opacity, kind);
   } else {
     paint_transformed_image(canvas, node, image, place, opacity);
   }
@@ -160,12 +195,17 @@ void paint_border(const Canvas& canvas, const RenderNode& node, double opacity) 
 
 void paint_surface(const Canvas& canvas, const Surface& surface, int x, int y, double opacity,
                    Opacity kind) {
+  paint_surface(canvas, surface, {x, y, width_of(surface), height_of(surface)}, opacity, kind);
+}
+
+void paint_surface(const Canvas& canvas, const Surface& surface, const PixelRect& place,
+                   double opacity, Opacity kind) {
   cairo_t* drawing = canvas.drawing.get();
   use_pixels(canvas);
-  cairo_set_source_surface(drawing, surface.get(), x, y);
+  cairo_set_source_surface(drawing, surface.get(), place.x, place.y);
   cairo_pattern_set_filter(cairo_get_source(drawing), CAIRO_FILTER_NEAREST);
   cairo_new_path(drawing);
-  cairo_rectangle(drawing, x, y, width_of(surface), height_of(surface));
+  cairo_rectangle(drawing, place.x, place.y, place.width, place.height);
   if (opacity < 1) {
     cairo_save(drawing);
     cairo_clip(drawing);

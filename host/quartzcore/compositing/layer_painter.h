@@ -26,5 +26,8 @@ void paint_border(const Canvas& canvas, const RenderNode& node, double opacity);
 /// Copies or blends `surface`, whose top left is the screen pixel (x, y).
 void paint_surface(const Canvas& canvas, const Surface& surface, int x, int y, double opacity,
                    Opacity kind);
+/// The same, of as much of the surface as fits into `place`.
+void paint_surface(const Canvas& canvas, const Surface& surface, const PixelRect& place,
+                   double opacity, Opacity kind);
 
 }  // namespace host::quartzcore

@@ -51,6 +51,11 @@ CALayer oldest_backing_store() {
   return stores().oldest_first.front().layer;
 }
 
+void for_each_backing_store(const std::function<void(CALayer)>& visit) {
+  for (const Entry& entry : stores().oldest_first)
+    visit(entry.layer);
+}
+
 void renew_oldest_backing_store() {
   auto& layers = stores().oldest_first;
   layers.splice(layers.end(), layers, layers.begin());

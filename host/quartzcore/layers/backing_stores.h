@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 #include "platform/QuartzCore/CALayer.h"
 
@@ -30,6 +31,7 @@ std::size_t backing_store_bytes();
 
 /// The layer that drew itself the longest time ago. There must be at least one backing store.
 CALayer oldest_backing_store();
+void for_each_backing_store(const std::function<void(CALayer)>& visit);
 /// Treats that layer as the one that drew itself last.
 void renew_oldest_backing_store();
 

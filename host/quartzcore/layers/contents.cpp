@@ -59,10 +59,11 @@ std::optional<Gravity> gravity_named(std::string_view name) {
 void Contents::show(objc::Object object) {
   object_.reset(object);
   image_ = image_of(object);
+  density = 1;
 }
 
 CGRect Contents::place_in(const CGRect& bounds) const {
-  CGSize size{image_->width() / scale, image_->height() / scale};
+  CGSize size{image_->width() / (scale * density), image_->height() / (scale * density)};
   const double fit_x = bounds.size.width / size.width;
   const double fit_y = bounds.size.height / size.height;
   switch (gravity) {

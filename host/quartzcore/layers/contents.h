@@ -33,6 +33,9 @@ class Contents {
  public:
   Gravity gravity = Gravity::Resize;
   double scale = 1;
+  /// The density of the screen for which the layer has drawn the image; 1 for an image that it was
+  /// given.
+  double density = 1;
 
   objc::Object object() const { return object_.get(); }
   /// Null when the object is not an image.

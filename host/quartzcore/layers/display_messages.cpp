@@ -2,16 +2,14 @@
 #include <utility>
 
 #include "host/quartzcore/animations/delegate.h"
-#include "host/quartzcore/drawing/context.h"
+#include "host/quartzcore/layers/drawn_contents.h"
 #include "host/quartzcore/layers/layer.h"
 #include "host/quartzcore/layers/layer_messages.h"
 #include "host/quartzcore/layers/marked_layers.h"
+#include "host/quartzcore/layers/screen_density.h"
 
 namespace host::quartzcore {
 namespace {
-
-// Backing stores with more pixels than this on a side are drawn more coarsely, not refused.
-constexpr double kLargestBackingSide = 8192;
 
 void mark(CALayer self) {
   if (!std::exchange(layer_of(self).marks.is_listed, true)) add_marked_layer(self);
@@ -58,28 +56,6 @@ bool is_custom_drawn(CALayer self) {
   return answers(layer_of(self).delegate, "drawLayer:inContext:"_sel);
 }
 
-/// The scale, in pixels per point, at which a layer of this size is drawn.
-double drawing_scale(double contents_scale, CGSize size) {
-  const double longest = std::max(size.width, size.height) * contents_scale;
-  return contents_scale * std::min(1.0, kLargestBackingSide / longest);
-}
-
-/// Returns an image (+1) of what the layer draws itself.
-CGImageRef draw(CALayer self) {
-  const LayerModel& model = layer_of(self).model;
-  const CGRect bounds = model.properties.bounds;
-  const Opacity opacity = model.opaque ? Opacity::Opaque : Opacity::Translucent;
-  CGContextRef context =
-      make_bitmap_context(bounds.size, drawing_scale(model.contents.scale, bounds.size), opacity);
-  cairo_translate(context->cairo(), -bounds.origin.x, -bounds.origin.y);
-  self.drawInContext(context);
-  // The pixels must be copied only if the context was retained, because its owner may draw again.
-  CGImageRef image = context->references == 1 ? make_image(context->surface, opacity)
-                                              : CGBitmapContextCreateImage(context);
-  CGContextRelease(context);
-  return image;
-}
-
 void display(CALayer self) {
   if (answers(layer_of(self).delegate, "displayLayer:"_sel)) {
     objc::send<>(layer_of(self).delegate, "displayLayer:"_sel, self);
@@ -91,8 +67,9 @@ void display(CALayer self) {
     self.setContents(objc::Object());
     return;
   }
-  CGImageRef image = draw(self);
+  CGImageRef image = draw_contents(self);
   self.setContents(image);
+  layer_of(self).model.contents.density = screen_density();
   layer_of(self).backing_store.note(CGImageGetBytesPerRow(image) * CGImageGetHeight(image));
   CGImageRelease(image);
 }

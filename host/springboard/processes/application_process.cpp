@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "host/quartzcore/layers/screen_density.h"
 #include "host/runtime/device_model.h"
 
 namespace host::springboard {
@@ -15,13 +16,21 @@ namespace {
 constexpr int kMostMessagesInOneWait = 20000;
 constexpr int kReadsPerTurn = 16;
 
-SurfaceSize screen_size() {
+int pixels(double points, double scale) {
+  return static_cast<int>(std::lround(points * scale));
+}
+
+SurfaceSize surface_size() {
   const DeviceModel& device = current_device();
-  const auto pixels = [&device](double points) {
-    return static_cast<int>(std::lround(points * device.scale));
-  };
-  const int width = pixels(device.width);
-  return {width, pixels(device.height), cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, width)};
+  const int width = pixels(device.width, device.scale);
+  return {width, pixels(device.height, device.scale),
+          cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, width)};
+}
+
+ScreenPixels screen_pixels() {
+  const DeviceModel& device = current_device();
+  const double scale = device.scale * quartzcore::screen_density();
+  return {pixels(device.width, scale), pixels(device.height, scale)};
 }
 
 }  // namespace
@@ -31,9 +40,10 @@ ApplicationProcess::ApplicationProcess(Channel channel, Time time, Events events
       channel_(std::move(channel)),
       time_(time),
       events_(std::move(events)),
-      surface_(SharedSurface::make(screen_size())) {
+      surface_(SharedSurface::make(surface_size())) {
   if (!surface_ || !greet()) channel_.close();
   if (!is_alive()) return;
+  if (quartzcore::screen_density() != 1) write(screen_pixels());
   watch();
   if (time_ == Time::Stepped) catch_up_soon();
 }
@@ -48,6 +58,10 @@ bool ApplicationProcess::greet() {
   const Hello hello{time_ == Time::Stepped, loop_.now(), size.width, size.height, size.stride};
   return channel_.send(encoded(ToApplication(hello)), Channel::Patience::NeverWaits,
                        surface_->descriptor()) == Channel::Sending::Done;
+}
+
+void ApplicationProcess::adopt_screen_density() {
+  send(screen_pixels());
 }
 
 CGImageRef ApplicationProcess::picture() const {
@@ -171,11 +185,14 @@ void ApplicationProcess::take(const ToHome& message) {
 }
 
 void ApplicationProcess::take(const NewFrame& frame) {
-  if (frame.buffer >= SharedSurface::kBuffers) {
+  const SurfaceSize& size = surface_->size();
+  if (frame.buffer >= SharedSurface::kBuffers || frame.picture_width <= 0 ||
+      frame.picture_width > size.width || frame.picture_height <= 0 ||
+      frame.picture_height > size.height) {
     end(ProcessEnd::Garbage);
     return;
   }
-  new_frame_ = frame.buffer;
+  new_frame_ = frame;
 }
 
 void ApplicationProcess::take(const ReachedTime& reached) {

@@ -48,6 +48,8 @@ class ApplicationProcess {
   /// The latest frame; null before the first.
   CGImageRef picture() const;
 
+  /// Has it draw with as many pixels as the screen has now.
+  void adopt_screen_density();
   void set_in_front(bool is_in_front);
   bool is_in_front() const { return is_in_front_; }
   void send(const application::ToApplication& message);
@@ -103,7 +105,7 @@ class ApplicationProcess {
   MessageBudget budget_;
   std::shared_ptr<const application::SharedSurface> surface_;
   objc::Ref<quartzcore::CGImageObject> picture_;
-  std::optional<int> new_frame_;
+  std::optional<application::NewFrame> new_frame_;
   std::optional<RunLoop::Id> screen_frames_;
   int quiet_frames_ = 0;
   std::optional<RunLoop::Id> watch_;

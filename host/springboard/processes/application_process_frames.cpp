@@ -13,15 +13,16 @@ namespace {
 /// The number of screen frames without a new picture after which the application is at rest.
 constexpr int kRestAfter = 2;
 
-/// Wraps the buffer's pixels without copying them; keeps the memory alive as long as the surface.
-quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memory, int buffer) {
+/// Wraps the frame's pixels without copying them; keeps the memory alive as long as the surface.
+quartzcore::Surface surface_on(const std::shared_ptr<const SharedSurface>& memory,
+                               const NewFrame& frame) {
   using Owner = std::shared_ptr<const SharedSurface>;
   static const cairo_user_data_key_t kOwner{};
-  const SurfaceSize& size = memory->size();
   // Cairo has no read-only surfaces; nothing draws on an image.
-  auto* pixels = const_cast<unsigned char*>(memory->buffer(buffer));
-  cairo_surface_t* made = cairo_image_surface_create_for_data(pixels, CAIRO_FORMAT_ARGB32,
-                                                              size.width, size.height, size.stride);
+  auto* pixels = const_cast<unsigned char*>(memory->buffer(frame.buffer));
+  cairo_surface_t* made =
+      cairo_image_surface_create_for_data(pixels, CAIRO_FORMAT_ARGB32, frame.picture_width,
+                                          frame.picture_height, memory->size().stride);
   cairo_surface_set_user_data(made, &kOwner, new Owner(memory),
                               [](void* owner) { delete static_cast<Owner*>(owner); });
   return quartzcore::Surface::adopt(made);
@@ -53,9 +54,9 @@ void ApplicationProcess::screen_frame() {
 }
 
 void ApplicationProcess::show_new_frame() {
-  const int buffer = *std::exchange(new_frame_, std::nullopt);
+  const NewFrame frame = *std::exchange(new_frame_, std::nullopt);
   const CGImageRef made =
-      quartzcore::make_image(surface_on(surface_, buffer), quartzcore::Opacity::Opaque);
+      quartzcore::make_image(surface_on(surface_, frame), quartzcore::Opacity::Opaque);
   picture_ = objc::Ref<quartzcore::CGImageObject>::adopt(
       objc::cast<quartzcore::CGImageObject>(quartzcore::object_of(made)));
   if (events_.frame_came) events_.frame_came();

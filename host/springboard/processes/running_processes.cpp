@@ -82,6 +82,13 @@ void RunningProcesses::bring_to_front(const std::string& bundle) {
   player_.watch(!bundle.empty());
 }
 
+void RunningProcesses::adopt_screen_density() {
+  // A process that turns out to have ended leaves the list.
+  const auto running = running_;
+  for (const auto& [bundle, entry] : running)
+    entry.process->adopt_screen_density();
+}
+
 void RunningProcesses::close(const std::string& bundle) {
   if (!running_.erase(bundle)) return;
   if (front_ == bundle) front_.clear();

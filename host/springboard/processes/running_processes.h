@@ -29,6 +29,8 @@ class RunningProcesses {
   Process find_program(const std::string& program) const;
   /// Sets what the user sees from now on; an empty string for the home screen.
   void bring_to_front(const std::string& bundle);
+  /// Call when the screen has got another number of pixels.
+  void adopt_screen_density();
   /// Ends it without calling the `on_gone` function.
   void close(const std::string& bundle);
 

@@ -67,6 +67,10 @@ bool kill_application(std::string_view bundle) {
   return true;
 }
 
+void adopt_screen_density() {
+  running_processes().adopt_screen_density();
+}
+
 bool is_application_running(const std::string& program) {
   return static_cast<bool>(running_processes().find_program(program));
 }

@@ -72,6 +72,9 @@ bool is_application_running(const std::string& program);
 /// none.
 bool kill_application(std::string_view bundle);
 
+/// Call when the screen has got another number of pixels: the applications draw for it.
+void adopt_screen_density();
+
 /// What the user sees below any surface that covers it.
 enum class Shown { HomeScreen, LockScreen, Application };
 Shown shown_now();

@@ -20,11 +20,14 @@ class CompositorTest : public QuartzTest {
     const CALayer roots[] = {root};
     return compositor.render(roots, loop.now());
   }
-  std::uint32_t pixel(int x, int y) const {
-    const auto* bytes = cairo_image_surface_get_data(compositor.surface().get());
+  std::uint32_t pixel(int x, int y) const { return pixel_of(compositor, x, y); }
+  static std::uint32_t pixel_of(const quartzcore::Compositor& compositor, int x, int y) {
+    cairo_surface_t* const surface = compositor.surface().get();
     std::uint32_t value = 0;
     __builtin_memcpy(
-        &value, bytes + y * cairo_image_surface_get_stride(compositor.surface().get()) + x * 4, 4);
+        &value,
+        cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface) + x * 4,
+        4);
     return value;
   }
   /// A layer of one colour in the root.

@@ -325,6 +325,34 @@ TEST_F(Windows, AMinimizedWindowKeepsNoPicturesAndNeedsAllOfTheNextOne) {
   EXPECT_FALSE(window_->needs_everything());
 }
 
+TEST_F(Windows, HavePixelsForTheirSizeUpToTheDevices) {
+  SDL_Window* window = nullptr;
+  for (Uint32 id = 1; !window; ++id)
+    window = SDL_GetWindowFromID(id);
+  const CGSize body = PhoneBody({100, 200}).size();
+  const auto resize = [&](double scale) {
+    SDL_SetWindowSize(window, static_cast<int>(body.width * scale),
+                      static_cast<int>(body.height * scale));
+    handled();
+  };
+  const auto is_near = [&](double pixels) {
+    return std::abs(*window_->pixels_per_point() - pixels) < 0.02;
+  };
+  const auto settle_at = [&](double pixels) {
+    for (int looks = 0; looks < 500 && !is_near(pixels); ++looks) {
+      SDL_Delay(10);
+      handled();
+    }
+    EXPECT_TRUE(is_near(pixels)) << *window_->pixels_per_point();
+  };
+  EXPECT_TRUE(is_near(1));
+  resize(1.5);
+  EXPECT_TRUE(is_near(1)) << "the user may go on";
+  settle_at(1.5);
+  resize(3);
+  settle_at(2);
+}
+
 TEST_F(Windows, ShareTheDesktopsClipboard) {
   window_->set_clipboard_text("Größe");
   EXPECT_EQ(window_->clipboard_text(), "Größe");

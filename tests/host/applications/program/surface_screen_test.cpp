@@ -88,6 +88,24 @@ TEST_F(SurfaceScreens, SendNothingWhileHidden) {
   EXPECT_EQ(shown(frames_[0].buffer, 0, 0), 1u);
 }
 
+TEST_F(SurfaceScreens, FillTheTopLeftWithAPictureOfFewerPixels) {
+  attach();
+  screen_.set_in_front(true);
+  EXPECT_EQ(screen_.pixels_per_point(), std::nullopt);
+  draw(0, 0, 1);
+  screen_.frame_taken();
+  screen_.set_pixels_per_point(0.5);
+  EXPECT_EQ(screen_.pixels_per_point(), 0.5);
+  std::vector<std::uint32_t> small(4 * 3, 9);
+  const screen::PixelRect damage[] = {{0, 0, 4, 3}};
+  screen_.show({reinterpret_cast<unsigned char*>(small.data()), 4, 3, 4 * 4}, damage);
+  ASSERT_EQ(frames_.size(), 2u);
+  EXPECT_EQ(frames_[1].picture_width, 4);
+  EXPECT_EQ(frames_[1].picture_height, 3);
+  EXPECT_EQ(shown(frames_[1].buffer, 3, 2), 9u);
+  EXPECT_EQ(shown(frames_[1].buffer, 4, 0), 0u);
+}
+
 TEST_F(SurfaceScreens, SendANewHomeScreenTheWholePicture) {
   attach();
   screen_.set_in_front(true);

@@ -3,6 +3,7 @@
 #include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
 #include "host/process/phone_screen.h"
+#include "host/quartzcore/layers/screen_density.h"
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/common/make_view.h"
 #include "host/springboard/model/strings.h"
@@ -235,7 +236,7 @@ TEST_F(ProcessesTest, OneThatIsOpenedAfterItsEndStartsAgain) {
 }
 
 TEST_F(ProcessesTest, OneThatSendsInvalidMessagesIsClosed) {
-  for (const char* behaviour : {"garbage", "bad-buffer"}) {
+  for (const char* behaviour : {"garbage", "bad-buffer", "bad-size", "no-size"}) {
     launch_with(behaviour);
     open_music();
     ASSERT_TRUE(comes_true([&] { return !music(); })) << behaviour;
@@ -288,6 +289,30 @@ TEST_F(ProcessesTest, OneThatFloodsDoesNotDelayTheHomeScreensFrames) {
     EXPECT_GT(now, place) << frame;
     place = now;
   }
+}
+
+TEST_F(ProcessesTest, OneIsToldHowManyPixelsTheScreenHas) {
+  launch_with("honest", Time::kStepped);
+  open_music();
+  ASSERT_TRUE(music());
+  const auto width = [this] { return quartzcore::image_of(music()->picture())->width(); };
+  const int of_device = width();
+  quartzcore::set_screen_density(0.5);
+  adopt_screen_density();
+  EXPECT_TRUE(comes_true([&] { return width() == of_device / 2; }));
+  advance(1);
+  quartzcore::set_screen_density(1);
+  adopt_screen_density();
+  EXPECT_TRUE(comes_true([&] { return width() == of_device; }));
+}
+
+TEST_F(ProcessesTest, OneThatStartsOnASmallScreenIsToldAtOnce) {
+  quartzcore::set_screen_density(0.5);
+  launch_with("honest", Time::kStepped);
+  open_music();
+  const auto width = [this] { return quartzcore::image_of(music()->picture())->width(); };
+  EXPECT_TRUE(comes_true([&] { return width() == std::lround(current_device().width); }));
+  quartzcore::set_screen_density(1);
 }
 
 TEST_F(ProcessesTest, OneCannotShrinkTheSharedMemory) {

@@ -30,7 +30,7 @@ void draw(Channel& channel, SharedSurface& surface) {
   const SurfaceSize& size = surface.size();
   for (std::size_t i = 0; i < size.buffer_bytes() / sizeof kColor; ++i)
     std::memcpy(surface.writable_buffer(0) + i * sizeof kColor, &kColor, sizeof kColor);
-  send(channel, NewFrame{0, 0, 0, size.width, size.height});
+  send(channel, NewFrame{0, size.width, size.height, 0, 0, size.width, size.height});
 }
 
 /// Answers like any application, and draws on a touch and a turn of the wheel.
@@ -40,6 +40,8 @@ void answer(Channel& channel, SharedSurface& surface, const ToApplication& messa
   if (const auto* ping = std::get_if<Ping>(&message)) send(channel, Pong{ping->number});
   if (const auto* line = std::get_if<ConsoleLine>(&message))
     send(channel, ConsoleAnswer{"\"" + line->text + "\""});
+  if (const auto* pixels = std::get_if<ScreenPixels>(&message))
+    send(channel, NewFrame{0, pixels->width, pixels->height, 0, 0, 1, 1});
   if (std::holds_alternative<FingerChange>(message) || std::holds_alternative<WheelTurn>(message))
     draw(channel, surface);
 }
@@ -55,12 +57,14 @@ void misbehave(const std::string& behaviour, Channel& channel, SharedSurface& su
     std::exit(0);
   }
   if (behaviour == "garbage") channel.send("\xFF\xFF\xFF\xFFgarbage", Channel::Patience::Waits);
-  if (behaviour == "bad-buffer") send(channel, NewFrame{7, 0, 0, 1, 1});
+  if (behaviour == "bad-buffer") send(channel, NewFrame{7, 1, 1, 0, 0, 1, 1});
+  if (behaviour == "bad-size") send(channel, NewFrame{0, 1, 100000, 0, 0, 1, 1});
+  if (behaviour == "no-size") send(channel, NewFrame{0, 0, -1, 0, 0, 1, 1});
   // This would crash the home screen if it were allowed.
   if (behaviour == "shrink" && ftruncate(surface.descriptor(), 0) == 0) std::exit(1);
   if (behaviour == "flood") {
     for (;;)
-      send(channel, NewFrame{0, 0, 0, 1, 1});
+      send(channel, NewFrame{0, 1, 1, 0, 0, 1, 1});
   }
 }
 

@@ -1,0 +1,71 @@
+#include "host/process/phone_screen.h"
+
+#include <cairo.h>
+
+#include <cmath>
+#include <filesystem>
+#include <vector>
+
+#include "host/quartzcore/layers/screen_density.h"
+#include "host/quartzcore/pixels/surface.h"
+#include "host/runtime/device_model.h"
+#include "tests/support/phone_fixture.h"
+
+namespace host::test {
+namespace {
+
+/// A screen that notes the widths of its pictures and what has changed in the last one.
+struct SizedScreen final : screen::Screen {
+  void show(const screen::Picture& picture, std::span<const screen::PixelRect> damage) override {
+    widths.push_back(picture.width);
+    damaged = damage.front();
+  }
+  std::optional<double> pixels_per_point() const override { return wanted; }
+
+  std::optional<double> wanted;
+  std::vector<int> widths;
+  screen::PixelRect damaged;
+};
+
+struct PhoneScreens : PhoneTest {
+  PhoneScreens() { launch(); }
+  ~PhoneScreens() override { quartzcore::set_screen_density(1); }
+
+  SizedScreen screen;
+};
+
+TEST_F(PhoneScreens, DrawWithThePixelsOfTheScreen) {
+  process::PhoneScreen phone(loop, screen);
+  int rescaled = 0;
+  phone.on_rescale([&] { ++rescaled; });
+  settle();
+  const auto device_width = static_cast<int>(current_device().width * current_device().scale);
+  ASSERT_FALSE(screen.widths.empty());
+  EXPECT_EQ(screen.widths.back(), device_width);
+  EXPECT_EQ(rescaled, 0);
+
+  screen.wanted = 1;
+  settle();
+  const auto points = static_cast<int>(current_device().width);
+  EXPECT_EQ(screen.widths.back(), points);
+  EXPECT_EQ(screen.damaged.width, points) << "all of the picture is new";
+  EXPECT_EQ(rescaled, 1);
+  EXPECT_EQ(quartzcore::screen_density(), 1 / current_device().scale);
+}
+
+TEST_F(PhoneScreens, ScreenshotsHaveTheDevicesPixels) {
+  screen.wanted = 0.7;
+  process::PhoneScreen phone(loop, screen);
+  settle();
+  const std::string file = device / "shot.png";
+  const double density = quartzcore::screen_density();
+  ASSERT_EQ(phone.write(file), std::nullopt);
+  cairo_surface_t* const shot = cairo_image_surface_create_from_png(file.c_str());
+  EXPECT_EQ(cairo_image_surface_get_width(shot), current_device().width * current_device().scale);
+  cairo_surface_destroy(shot);
+  EXPECT_EQ(quartzcore::screen_density(), density);
+  EXPECT_NEAR(phone.compositor().scale(), 0.7, 1e-9);
+}
+
+}  // namespace
+}  // namespace host::test
