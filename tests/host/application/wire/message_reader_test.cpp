@@ -7,6 +7,7 @@
 namespace {
 
 using namespace host::application;
+using host::MessageKind;
 
 using HomeReader = MessageReader<ToHome>;
 

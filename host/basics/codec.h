@@ -10,7 +10,7 @@
 #include <string_view>
 #include <type_traits>
 
-namespace host::application {
+namespace host {
 
 static_assert(std::endian::native == std::endian::little, "both ends run on one machine");
 
@@ -99,4 +99,4 @@ class Decoder {
   bool failed_ = false;
 };
 
-}  // namespace host::application
+}  // namespace host
