@@ -13,7 +13,7 @@ _sonavue() {
       case $word in
         -*)
           mapfile -t COMPREPLY < <(compgen -W "--help --version --device --root --new-phone --music
-            --without --headless --blind --desktop --console --script --screenshots" -- "$word")
+            --without --browser --headless --blind --desktop --console --script --screenshots" -- "$word")
           ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
       esac

@@ -28,7 +28,8 @@ DesktopLink::DesktopLink(RunLoop& loop, media_player::MediaService& music, const
       sleep_lock_(loop, session_, now_playing_),
       notifier_(session_, now_playing_,
                 {[&music] { return music.choices().announces_songs; },
-                 [&display] { return display.is_in_front(); }, raising(display)}) {
+                 [&display] { return display.is_in_front(); }, raising(display)}),
+      page_song_(now_playing_, display.page()) {
   session_.open();
 }
 

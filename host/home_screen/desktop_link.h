@@ -8,11 +8,12 @@
 #include "host/desktop/player/players_interface.h"
 #include "host/desktop/sleep/sleep_lock.h"
 #include "host/home_screen/display.h"
+#include "host/home_screen/page_song.h"
 
 namespace host::launcher {
 
-/// What connects the phone's music with the user's desktop: its media keys and panels, its sleep
-/// and its notifications.
+/// What connects the phone's music with the user's desktop: its media keys and panels, its sleep,
+/// its notifications and the title of its page in a browser.
 class DesktopLink {
  public:
   /// Returns null for a phone without music. The music and the display
@@ -27,6 +28,7 @@ class DesktopLink {
   desktop::PlayersInterface player_;
   desktop::SleepLock sleep_lock_;
   desktop::SongNotifier notifier_;
+  PageSong page_song_;
 };
 
 }  // namespace host::launcher

@@ -4,6 +4,7 @@
 
 #include "host/application/wire/process_arguments.h"
 #include "host/basics/ascii.h"
+#include "host/launcher/browser_door.h"
 #include "host/launcher/supervisor.h"
 #include "host/runtime/device_model.h"
 
@@ -23,6 +24,8 @@ std::optional<ProcessOptions> read_process_options(int count, const char* const*
   parser.add_flag(application::kSafeModeArgument, options.safe_mode);
   parser.add_option(kConsoleArgument, options.console_descriptor);
   parser.add_option(kLifelineArgument, options.lifeline_descriptor);
+  parser.add_option(kBrowserArgument, options.browser_descriptor);
+  parser.add_option(kAccessArgument, options.access_descriptor);
   try {
     parser.parse(count, arguments);
   } catch (const CLI::ParseError&) {

@@ -20,6 +20,9 @@ struct ProcessOptions {
   bool safe_mode = false;  // no extensions
   int console_descriptor = -1;
   int lifeline_descriptor = -1;
+  // For a phone in a browser: the listening socket and the memory of who may use it.
+  int browser_descriptor = -1;
+  int access_descriptor = -1;
 };
 
 /// Folders come as ASCII (`host/basics/ascii.h`). Returns nothing when the arguments are

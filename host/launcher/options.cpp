@@ -139,7 +139,12 @@ void add_options(CLI::App& parser, Options& options, bool& new_phone) {
                     "already plays it");
   parser.add_option("--without", options.without, "Identifier of an application to leave out")
       ->allow_extra_args(false);
-  parser.add_flag("--headless", options.headless, "No window");
+  auto* headless = parser.add_flag("--headless", options.headless, "No window");
+  parser
+      .add_flag("--browser", options.browser,
+                "A page in a browser of this machine instead of a window; without a display, "
+                "this is how the phone is shown")
+      ->excludes(headless);
   parser.add_flag("--blind", options.blind,
                   "With --headless: draw nothing but screenshots, so that hours pass in minutes");
   parser.add_flag("--console", options.console, "Read commands on standard input");
@@ -205,7 +210,7 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
     made.push_back("--music");
     made.push_back(ascii_of(folder.native()));
   }
-  if (options.headless) made.push_back("--headless");
+  if (!options.has_window()) made.push_back("--headless");
   if (options.headless && options.blind) made.push_back("--blind");
   if (options.has_stepped_clock()) made.push_back("--stepped");
   if (options.takes_part_in_desktop()) made.push_back("--desktop");

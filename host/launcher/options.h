@@ -19,12 +19,14 @@ struct Options {
   std::filesystem::path script;  // empty without one
   bool is_set_up = false;        // a new device gets its first files
   bool headless = false;
+  bool browser = false;  // no window either, but a page
   bool blind = false;
   bool console = false;
   bool desktop = false;
 
   /// Without a window, the clock moves only when the console steps it.
   bool has_stepped_clock() const { return headless && (console || !script.empty()); }
+  bool has_window() const { return !headless && !browser; }
   /// A phone that its user does not see leaves the desktop alone, unless it is told otherwise.
   bool takes_part_in_desktop() const { return desktop || !headless; }
 };

@@ -88,9 +88,11 @@ int meet_running_phone(const Options& options) {
   const bool is_shown = !options.headless && !has_console(options) &&
                         !owner.control_socket.empty() &&
                         ask_supervisor(owner.control_socket, {ControlRequest::Kind::Show, {}, {}});
+  const char* const shown = options.browser ? ", which prints a new link or shows its window"
+                                            : ", whose window is in front now";
   const std::string name = owner.process ? std::to_string(owner.process) : "that is starting";
   std::fprintf(stderr, "sonavue: %s is already in use by process %s%s\n", options.root.c_str(),
-               name.c_str(), is_shown ? ", whose window is in front now" : "");
+               name.c_str(), is_shown ? shown : "");
   return is_shown ? 0 : kInUse;
 }
 
@@ -101,10 +103,15 @@ int supervise(const Options& options, const FolderLock* lock) {
   if (!front) return complain(problem);
   const Installation installation = find_installation();
   const host::RealClock clock;
+  BrowserDoor page;
+  if (options.browser) page = BrowserDoor::open(problem);
+  if (!problem.empty()) return complain(problem);
+  if (page) say_link(page.link());
   const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
   Supervisor supervisor({{installation.home_screen, home_screen_arguments(options), {path}},
                          {{}, application_arguments(options), {path}},
-                         !options.headless},
+                         options.has_window(),
+                         std::move(page)},
                         clock, has_console(options) ? &*front : nullptr);
   if (lock) lock->introduce(supervisor.control_socket());
   if (const auto reason = prepare(options, installation)) return complain(*reason);
@@ -142,15 +149,11 @@ int main(int count, char** arguments) try {
     std::fputs(ending->text.c_str(), ending->status == 0 ? stdout : stderr);
     return ending->status;
   }
-  const auto& options = *std::get_if<Options>(&read);
+  auto options = *std::get_if<Options>(&read);
   for (const std::string& refusal : options.refusals)
     complain(refusal);
-  if (!options.headless) log_to_file_unless_seen();
-  if (!options.headless && !has_display()) {
-    return complain(
-        "there is no display for a window. Start it on a desktop, or without a window: "
-        "--headless --console, then `screenshot FILE.png`.");
-  }
+  if (options.has_window()) log_to_file_unless_seen();
+  options.browser |= !options.headless && !has_display();
   return run_phone(options);
 } catch (const std::exception& failure) {
   return complain(failure.what());

@@ -51,14 +51,19 @@ std::string how_it_ended(int status) {
                      WEXITSTATUS(status));
 }
 
+void pass_on(const char* argument, const Descriptor& descriptor, ChildCommand& command) {
+  if (!descriptor) return;
+  command.arguments.emplace_back(argument);
+  command.arguments.push_back(std::to_string(descriptor.get()));
+}
+
 /// Makes a connection to a child. The child gets `theirs`, whose number follows `argument`.
 void connect(const char* argument, ChildCommand& command, Descriptor& ours, Descriptor& theirs) {
   int pair[2];
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair) != 0) return;
   ours = Descriptor(pair[0]);
   theirs = Descriptor(pair[1]);
-  command.arguments.emplace_back(argument);
-  command.arguments.push_back(std::to_string(theirs.get()));
+  pass_on(argument, theirs, command);
 }
 
 /// Adds the control socket's path to the command's environment.
@@ -74,6 +79,7 @@ Supervisor::Supervisor(Commands commands, const Clock& clock, ConsoleFront* fron
       clock_(clock),
       front_(front),
       has_window_(commands.has_window),
+      browser_(std::move(commands.browser)),
       applications_({command_.program.parent_path(), control_.folder()},
                     with_control_socket(std::move(commands.applications), control_)) {}
 
@@ -93,8 +99,12 @@ void Supervisor::start() {
   Descriptor lifeline;
   if (front_) connect(kConsoleArgument, command, console_, console);
   connect(kLifelineArgument, command, lifeline_, lifeline);
+  pass_on(kBrowserArgument, browser_.listener, command);
+  pass_on(kAccessArgument, browser_.access, command);
   if (is_safe_) command.arguments.emplace_back(application::kSafeModeArgument);
-  const auto child = start_child(command, std::array{console.get(), lifeline.get()});
+  const auto child = start_child(
+      command,
+      std::array{console.get(), lifeline.get(), browser_.listener.get(), browser_.access.get()});
   if (!child) {
     spdlog::error("{} cannot be started: {}", name(),
                   std::error_code(errno, std::generic_category()).message());
@@ -193,7 +203,7 @@ bool Supervisor::serve(const ControlRequest& request) {
     case ControlRequest::Kind::Find:
       return is_home_screen(request.program) || applications_.is_program_running(request.program);
     case ControlRequest::Kind::Show:
-      if (!has_window_ || child_ == 0) return false;
+      if ((!has_window_ && !browser_) || child_ == 0) return false;
       say(Care::ShowWindow);
       return true;
     case ControlRequest::Kind::Play:

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "host/launcher/browser_door.h"
 #include "host/launcher/child_process.h"
 #include "host/launcher/console_front.h"
 #include "host/launcher/control_socket.h"
@@ -36,6 +37,7 @@ class Supervisor {
     ChildCommand home_screen;
     ChildCommand applications;
     bool has_window = false;
+    BrowserDoor browser;  // closed unless the phone is shown in a browser
   };
 
   /// If `front` is nullptr, the process gets no console.
@@ -73,6 +75,7 @@ class Supervisor {
   const Clock& clock_;
   ConsoleFront* front_;
   const bool has_window_;
+  const BrowserDoor browser_;
   RunningApplications applications_;
   RestartLimit limit_;
   Descriptor signals_;
