@@ -1,6 +1,9 @@
 #include "host/uikit/shortcuts/shortcuts.h"
 
+#include "host/uikit/focus/focus.h"
+#include "host/uikit/focus/focus_scrolling.h"
 #include "host/uikit/geometry/screen_space.h"
+#include "host/uikit/text/key_input.h"
 #include "host/uikit/touch/touch_input.h"
 #include "objc/ref.h"
 #include "platform/UIKit/UINavigationController.h"
@@ -33,13 +36,6 @@ bool takes_touches(UIView view) {
   const auto centre = centre_on_screen(view);
   const UIView hit = centre ? hit_of_pointer(*centre).view : UIView();
   return hit && hit.isDescendantOfView(view);
-}
-
-UIScrollView scroll_view_around(UIView view) {
-  for (UIView outer = view.superview(); outer; outer = outer.superview()) {
-    if (outer.isKindOfClass(UIScrollView::cls())) return objc::cast<UIScrollView>(outer);
-  }
-  return nil;
 }
 
 bool focus(UITextField field) {
@@ -84,10 +80,17 @@ bool focus_search_field() {
   return false;
 }
 
+bool take_key(std::string_view key) {
+  if (!caret_on_screen()) return perform_shortcut(key);
+  const bool leaves = key == "tab" || key == "shift-tab";
+  return press_key(key) || (leaves && perform_shortcut(key));
+}
+
 bool perform_shortcut(std::string_view key) {
   if (key == "escape") return go_back();
   if (key == "control-f") return focus_search_field();
-  return false;
+  Focus* focus = Focus::current();
+  return focus && focus->press_key(key);
 }
 
 }  // namespace host::uikit
