@@ -1,7 +1,6 @@
 #include "host/process/phone_screen.h"
 
 #include <cmath>
-#include <vector>
 
 #include "host/quartzcore/layers/screen_density.h"
 #include "host/quartzcore/service/layer_service.h"
@@ -9,20 +8,11 @@
 #include "host/uikit/geometry/window_list.h"
 
 namespace host::process {
-namespace {
-
-std::vector<CALayer> window_layers() {
-  std::vector<CALayer> layers;
-  for (const UIWindow window : uikit::visible_windows())
-    layers.push_back(window.layer());
-  return layers;
-}
-
-}  // namespace
 
 PhoneScreen::PhoneScreen(RunLoop& loop, screen::Screen& screen)
     : loop_(loop),
       screen_(screen),
+      focus_(loop),
       observer_(loop.add_turn_observer(kTurnOrder, [this] { end_turn(); })) {
   make_compositor(current_device().scale);
 }
@@ -48,18 +38,25 @@ void PhoneScreen::follow_scale() {
   if (rescaled_) rescaled_();
 }
 
+std::vector<CALayer> PhoneScreen::layers() const {
+  std::vector<CALayer> layers;
+  for (const UIWindow window : uikit::visible_windows())
+    layers.push_back(window.layer());
+  if (const CALayer ring = focus_.ring()) layers.push_back(ring);
+  return layers;
+}
+
 void PhoneScreen::end_turn() {
   if (!screen_.is_watched()) return;
   if (!loop_.wants_frames() || loop_.turn_has_frame()) draw();
   // Nothing is animated: time to prepare for the next animation.
-  if (!loop_.wants_frames()) compositor_->prepare_ahead(window_layers(), loop_.now());
+  if (!loop_.wants_frames()) compositor_->prepare_ahead(layers(), loop_.now());
 }
 
 void PhoneScreen::draw() {
   follow_scale();
-  const std::vector<CALayer> layers = window_layers();
   std::vector<screen::PixelRect> damage;
-  for (const auto& part : compositor_->render(layers, loop_.now()))
+  for (const auto& part : compositor_->render(layers(), loop_.now()))
     damage.push_back({part.x, part.y, part.width, part.height});
   if (screen_.needs_everything()) {
     const quartzcore::PixelRect whole = compositor_->screen();
@@ -84,7 +81,7 @@ std::optional<std::string> PhoneScreen::write(const std::string& file) {
   }
   auto shown = std::move(compositor_);
   make_compositor(current_device().scale);
-  compositor_->render(window_layers(), loop_.now());
+  compositor_->render(layers(), loop_.now());
   auto problem = screen::write_png(picture(), file);
   compositor_ = std::move(shown);
   quartzcore::set_screen_density(scale / current_device().scale);

@@ -4,10 +4,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/quartzcore/compositing/compositor.h"
 #include "host/runtime/run_loop.h"
 #include "host/screen/screen.h"
+#include "host/uikit/focus/focus.h"
 
 namespace host::process {
 
@@ -37,11 +39,13 @@ class PhoneScreen {
   void draw();
   void follow_scale();
   void make_compositor(double scale);
+  std::vector<CALayer> layers() const;
   screen::Picture picture() const;
 
   RunLoop& loop_;
   screen::Screen& screen_;
   std::unique_ptr<quartzcore::Compositor> compositor_;
+  uikit::Focus focus_;
   RunLoop::Id observer_;
   std::function<void()> rescaled_;
 };

@@ -5,6 +5,7 @@
 #include "host/applications/program/player_remote.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log.h"
+#include "host/uikit/focus/focus.h"
 #include "host/uikit/scroll/wheel.h"
 #include "host/uikit/shortcuts/shortcuts.h"
 #include "host/uikit/text/key_input.h"
@@ -116,6 +117,7 @@ void RunningProgram::take(const FingerChange& change) {
 
 void RunningProgram::take(const WheelTurn& turn) {
   move_to(own_time(turn.time));
+  uikit::end_focus();
   uikit::turn_wheel({turn.x, turn.y}, {turn.across, turn.down},
                     turn.is_precise ? uikit::WheelKind::Precise : uikit::WheelKind::Notched);
 }
@@ -131,12 +133,13 @@ void RunningProgram::take(const ComposedText& composed) {
 }
 
 void RunningProgram::take(const PressedKey& pressed) {
-  if (!uikit::press_key(pressed.name) && !uikit::caret_on_screen())
-    uikit::perform_shortcut(pressed.name);
+  uikit::take_key(pressed.name);
 }
 
 void RunningProgram::take(const Visibility& visibility) {
   screen_.set_in_front(visibility.is_in_front);
+  // The user may use the mouse elsewhere before coming back.
+  if (!visibility.is_in_front) uikit::end_focus();
 }
 
 void RunningProgram::take(const TimeIs& reached) {

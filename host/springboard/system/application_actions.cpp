@@ -8,6 +8,7 @@
 #include "host/springboard/system/keyboard_receiver.h"
 #include "host/springboard/system/system_actions.h"
 #include "host/springboard/system/ui_controller.h"
+#include "host/uikit/focus/focus.h"
 #include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/touch/touch_input.h"
 #include "host/uikit/view/responder.h"
@@ -33,6 +34,7 @@ bool pass_on(const ToApplication& message) {
 }  // namespace
 
 bool turn_wheel_over(CGPoint point, CGPoint by, uikit::WheelKind kind) {
+  uikit::end_focus();
   const UIView view = uikit::hit_of_pointer(point).view;
   if (!view.isKindOfClass(SBHostedApplicationView::cls()))
     return uikit::turn_wheel(point, by, kind);

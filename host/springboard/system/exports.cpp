@@ -23,6 +23,8 @@
 #include "host/springboard/view/icon_list_view.h"
 #include "host/springboard/view/icon_view.h"
 #include "host/springboard/view/icon_view_map.h"
+#include "host/uikit/focus/focus_stops.h"
+#include "platform/SpringBoard/SBIconView.h"
 
 namespace host::springboard {
 
@@ -53,6 +55,7 @@ void export_springboard() {
   export_reachability();
   export_ui_controller();
   export_spring_board_application();
+  uikit::add_focus_class(SBIconView::cls());
 }
 
 void forget_springboard() {

@@ -3,6 +3,7 @@
 #include "host/springboard/system/keyboard_receiver.h"
 #include "host/springboard/system/system_actions.h"
 #include "host/springboard/system/windows_in_the_way.h"
+#include "host/uikit/focus/focus.h"
 #include "host/uikit/shortcuts/shortcuts.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/touch/touch_input.h"
@@ -79,7 +80,7 @@ std::optional<CGRect> caret_on_screen() {
 
 bool press_key(const std::string& name) {
   if (acts(kMediaKeys, name)) return true;
-  if (uikit::caret_on_screen()) return uikit::press_key(name);
+  if (uikit::caret_on_screen()) return uikit::take_key(name);
   if (caret_on_screen()) return press_key_in_application(name);
   if (acts(kPlayerKeys, name)) return true;
   if (is_covered()) {
@@ -91,6 +92,7 @@ bool press_key(const std::string& name) {
 }
 
 bool hold_icon_at(CGPoint point) {
+  uikit::end_focus();
   UIView view = uikit::hit_of_pointer(point).view;
   while (view && !view.isKindOfClass(SBIconView::cls()))
     view = view.superview();
