@@ -27,6 +27,9 @@ inline constexpr KeyRow kFreeKeys[] = {
     {"Space", "plays or pauses", ""},
     {"Control-Left, Right", "previous, next song", ""},
     {"Control-Up, Down", "volume up, down", ""},
+    {"Tab, Shift-Tab", "focuses what comes next, before", ""},
+    {"Arrows", "focus what is beside it", ""},
+    {"Return", "taps what has the focus", ""},
     {"Control-F", "types into the search field", "click it"},
     {"Escape", "closes what is open; goes back", ""},
 };

@@ -59,6 +59,13 @@ std::string with_modifiers(const char* name, Uint16 held) {
   return full + name;
 }
 
+/// Whether a key that is held goes on without a field: the focus moves, and the volume changes.
+bool goes_on(SDL_Keycode pressed, Uint16 held) {
+  if (pressed == SDLK_UP || pressed == SDLK_DOWN) return true;
+  const bool moves = pressed == SDLK_LEFT || pressed == SDLK_RIGHT || pressed == SDLK_TAB;
+  return moves && (held & KMOD_CTRL) == 0;
+}
+
 }  // namespace
 
 void Keys::handle(const SDL_KeyboardEvent& event) {
@@ -91,9 +98,7 @@ void Keys::handle_text_key(const SDL_KeyboardEvent& event) {
   for (const auto& [key, name] : kSingleKeys) {
     if (key == pressed && event.repeat == 0) input_.key(with_modifiers(name, held));
   }
-  // Without a field, only the volume goes on changing.
-  const bool steps = pressed == SDLK_UP || pressed == SDLK_DOWN;
-  if (event.repeat != 0 && !steps && !input_.caret()) return;
+  if (event.repeat != 0 && !goes_on(pressed, held) && !input_.caret()) return;
   for (const auto& [key, name] : kKeys) {
     if (key == pressed) input_.key(with_modifiers(name, held));
   }

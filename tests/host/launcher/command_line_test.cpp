@@ -130,9 +130,10 @@ TEST(Options, HelpListsTheKeysOfTheWindow) {
   const char* arguments[] = {"sonavue", "--help"};
   const auto read = read_options(std::size(arguments), arguments);
   const auto& help = std::get<Ending>(read).text;
-  for (const char* key : {"F1, Home", "F2", "F3", "F4", "F5, F6", "F7", "Control-G",
-                          "F11, Alt-Return", "F12, ?", "Space", "Control-Left, Right",
-                          "Control-Up, Down", "Control-F", "Escape", "Wheel", "Right click"})
+  for (const char* key :
+       {"F1, Home", "F2", "F3", "F4", "F5, F6", "F7", "Control-G", "F11, Alt-Return", "F12, ?",
+        "Space", "Control-Left, Right", "Control-Up, Down", "Tab, Shift-Tab", "Arrows", "Return",
+        "Control-F", "Escape", "Wheel", "Right click"})
     EXPECT_THAT(help, HasSubstr(std::string("  ") + key + " ")) << key;
 }
 

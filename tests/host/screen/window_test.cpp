@@ -235,6 +235,16 @@ TEST_F(Windows, KeysForThePlayerActOnceHoweverLongTheyAreHeld) {
   EXPECT_THAT(handled(), ElementsAre("push 3"));
 }
 
+TEST_F(Windows, TheFocusMovesOnWhileItsKeysAreHeld) {
+  for (const Uint8 repeat : {0, 1}) {
+    push_key(SDLK_TAB, repeat, KMOD_LSHIFT);
+    push_key(SDLK_RIGHT, repeat);
+    push_key(SDLK_RETURN, repeat);
+  }
+  EXPECT_THAT(handled(), ElementsAre("key shift-tab", "key right", "key return", "key shift-tab",
+                                     "key right"));
+}
+
 TEST_F(Windows, InAFieldKeysRepeat) {
   input_.caret_place = CGRect(10, 10, 2, 20);
   push_key(SDLK_RIGHT, 1, KMOD_LCTRL);
