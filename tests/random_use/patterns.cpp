@@ -82,6 +82,7 @@ constexpr Pattern kActions[] = {
     {2, "tap on searchBar\nadvance <pause>\ntype <text>"},
     {2, "type <text>"},
     {2, "key <key>"},
+    {3, "key <key>\nkey <key>\nkey return\nadvance <pause>"},
     {3, "<settings>"},
     {1, "<damage>"},
     {2, "<song>"},

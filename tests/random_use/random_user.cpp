@@ -51,7 +51,9 @@ const Choices kChoices[] = {
     {"application",
      {"com.apple.Music", "com.apple.Music", "com.apple.Preferences", "com.apple.calculator"}},
     {"text", {"a", "Song", "ÄÖ .*["}},
-    {"key", {"delete", "return", "escape", "control-a"}},
+    {"key",
+     {"delete", "return", "escape", "control-a", "tab", "shift-tab", "up", "down", "left",
+      "right"}},
 };
 
 const char* one_of(std::span<const Pattern> patterns, RandomHand& hand) {
