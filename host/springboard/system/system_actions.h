@@ -45,9 +45,10 @@ void unlock();
 
 /// Presses a key of the physical keyboard, which goes to the text field that has the keyboard.
 /// While none has, `space` and the arrows with `control-` are the player's, `escape` does what Home
-/// does while a window covers the screen and otherwise goes back, and `control-f` searches. The
-/// keys `media-play`, `-next`, `-previous` and `-stop` are always the player's. Returns false when
-/// there is nothing to do; what an application does is not known.
+/// does while a window covers the screen and otherwise goes back, `control-f` searches, and `tab`,
+/// the arrows and `return` are the focus's. The keys `media-play`, `-next`, `-previous` and `-stop`
+/// are always the player's. Returns false when there is nothing to do; what an application does is
+/// not known.
 bool press_key(const std::string& name);
 /// Returns where typed text goes; nothing while no field takes text in the process in front.
 std::optional<CGRect> caret_on_screen();
