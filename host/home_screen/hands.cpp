@@ -29,6 +29,7 @@ void Hands::touch(int finger, screen::TouchPhase phase, CGPoint point) {
   const double now = loop_.now();
   switch (phase) {
     case screen::TouchPhase::Began:
+      springboard::end_focus();
       return touches_.began(finger, point, now);
     case screen::TouchPhase::Moved:
       return touches_.moved(finger, point, now);
@@ -40,6 +41,7 @@ void Hands::touch(int finger, screen::TouchPhase phase, CGPoint point) {
 }
 
 Hands::Refusal Hands::wheel(CGPoint point, CGPoint by, screen::WheelKind kind) {
+  springboard::end_focus();
   const bool notched = kind == screen::WheelKind::Notched;
   const bool moves = springboard::turn_wheel_over(
       point, by, notched ? uikit::WheelKind::Notched : uikit::WheelKind::Precise);
@@ -75,6 +77,7 @@ Hands::Refusal Hands::key(std::string_view name) {
 }
 
 Hands::Refusal Hands::right_click(CGPoint point) {
+  springboard::end_focus();
   if (!springboard::hold_icon_at(point)) return "no icon is there";
   return std::nullopt;
 }

@@ -140,6 +140,13 @@ struct ScreenPixels {
   }
 };
 
+/// The user has turned to the mouse, or to something over the application: the keyboard's focus
+/// ends.
+struct FocusEnds {
+  template <class Fields>
+  void list(Fields&) {}
+};
+
 struct NewFrame {
   std::uint8_t buffer = 0;
   // The size of the whole picture in pixels.
@@ -225,7 +232,7 @@ struct TextInputIs {
 // A message's kind on the wire is its index in these lists.
 using ToApplication =
     std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey, Visibility, TimeIs,
-                 ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn, ScreenPixels>;
+                 ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn, ScreenPixels, FocusEnds>;
 using ToHome =
     std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer, TextInputIs>;
 

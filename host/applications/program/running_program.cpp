@@ -117,9 +117,12 @@ void RunningProgram::take(const FingerChange& change) {
 
 void RunningProgram::take(const WheelTurn& turn) {
   move_to(own_time(turn.time));
-  uikit::end_focus();
   uikit::turn_wheel({turn.x, turn.y}, {turn.across, turn.down},
                     turn.is_precise ? uikit::WheelKind::Precise : uikit::WheelKind::Notched);
+}
+
+void RunningProgram::take(const FocusEnds&) {
+  uikit::end_focus();
 }
 
 // Text is dropped while no field accepts it, as on the home screen.
@@ -138,7 +141,6 @@ void RunningProgram::take(const PressedKey& pressed) {
 
 void RunningProgram::take(const Visibility& visibility) {
   screen_.set_in_front(visibility.is_in_front);
-  // The user may use the mouse elsewhere before coming back.
   if (!visibility.is_in_front) uikit::end_focus();
 }
 

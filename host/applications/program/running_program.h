@@ -33,6 +33,7 @@ class RunningProgram {
   void take(const ScreenPixels& pixels);
   void take(const FingerChange& change);
   void take(const WheelTurn& turn);
+  void take(const FocusEnds&);
   void take(const TypedText& typed);
   void take(const ComposedText& composed);
   void take(const PressedKey& pressed);

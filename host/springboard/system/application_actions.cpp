@@ -17,10 +17,26 @@ namespace host::springboard {
 
 using namespace application;
 
-RunningProcesses::Process keyboard_receiver() {
-  if (is_locked() || uikit::first_responder()) return nullptr;
+namespace {
+
+RunningProcesses::Process process_in_front() {
   return objc::state_of<UserInterfaceController>(SBUIController::sharedInstance())
       .process_in_front();
+}
+
+}  // namespace
+
+RunningProcesses::Process keyboard_receiver() {
+  return is_locked() || uikit::first_responder() ? nullptr : process_in_front();
+}
+
+void end_focus_in_application() {
+  if (const auto process = process_in_front()) process->send(FocusEnds{});
+}
+
+void end_focus() {
+  uikit::end_focus();
+  end_focus_in_application();
 }
 
 namespace {
@@ -34,7 +50,6 @@ bool pass_on(const ToApplication& message) {
 }  // namespace
 
 bool turn_wheel_over(CGPoint point, CGPoint by, uikit::WheelKind kind) {
-  uikit::end_focus();
   const UIView view = uikit::hit_of_pointer(point).view;
   if (!view.isKindOfClass(SBHostedApplicationView::cls()))
     return uikit::turn_wheel(point, by, kind);

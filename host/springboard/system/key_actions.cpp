@@ -3,7 +3,6 @@
 #include "host/springboard/system/keyboard_receiver.h"
 #include "host/springboard/system/system_actions.h"
 #include "host/springboard/system/windows_in_the_way.h"
-#include "host/uikit/focus/focus.h"
 #include "host/uikit/shortcuts/shortcuts.h"
 #include "host/uikit/text/key_input.h"
 #include "host/uikit/touch/touch_input.h"
@@ -84,6 +83,7 @@ bool press_key(const std::string& name) {
   if (caret_on_screen()) return press_key_in_application(name);
   if (acts(kPlayerKeys, name)) return true;
   if (is_covered()) {
+    end_focus_in_application();
     if (name != "escape") return uikit::perform_shortcut(name);
     press_home();
     return true;
@@ -92,7 +92,6 @@ bool press_key(const std::string& name) {
 }
 
 bool hold_icon_at(CGPoint point) {
-  uikit::end_focus();
   UIView view = uikit::hit_of_pointer(point).view;
   while (view && !view.isKindOfClass(SBIconView::cls()))
     view = view.superview();

@@ -52,6 +52,9 @@ void unlock();
 bool press_key(const std::string& name);
 /// Returns where typed text goes; nothing while no field takes text in the process in front.
 std::optional<CGRect> caret_on_screen();
+/// Ends the keyboard's focus, here and in the application in front: its user has turned to the
+/// mouse.
+void end_focus();
 /// Does what holding the icon at this point of the screen does; returns false where no icon is.
 bool hold_icon_at(CGPoint point);
 

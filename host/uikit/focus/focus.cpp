@@ -62,11 +62,9 @@ std::optional<FocusStop> outermost_stop(FocusStep step, const std::vector<FocusS
 Focus::Focus(RunLoop& loop)
     : loop_(loop), turns_(loop.add_turn_observer(kTurnOrder, [this] { settle(); })) {
   present = this;
-  add_system_gestures(this);
 }
 
 Focus::~Focus() {
-  remove_system_gestures(this);
   loop_.remove_turn_observer(turns_);
   present = nullptr;
 }
@@ -90,17 +88,10 @@ void Focus::end() {
   ring_.hide();
 }
 
-Focus::Claim Focus::touch(int, UITouchPhase phase, CGPoint, double) {
-  if (phase == UITouchPhaseBegan && !is_pressing_) end();
-  return Claim::Windows;
-}
-
 bool Focus::press() {
   if (!view_ || !is_in_sight(*view_)) return false;
   const CGPoint point = place_in(*view_, nil).centre();
-  is_pressing_ = true;
   finger_.began(kFinger, point, loop_.now());
-  is_pressing_ = false;
   lift_.start(kTapTime, [this, point] { finger_.ended(kFinger, point, loop_.now()); });
   return true;
 }

@@ -8,19 +8,18 @@
 #include "host/uikit/focus/focus_ring.h"
 #include "host/uikit/focus/focus_steps.h"
 #include "host/uikit/focus/focus_stops.h"
-#include "host/uikit/touch/system_gestures.h"
 #include "host/uikit/touch/touch_input.h"
 #include "platform/UIKit/UIScrollView.h"
 
 namespace host::uikit {
 
 /// The focus of the physical keyboard: keys move it from one view to the next and press the view
-/// that has it. There is none until a key moves it, and none after a finger lands or the view goes.
+/// that has it. There is none until a key moves it, and none after it was ended or the view goes.
 /// At most one instance exists in a process.
-class Focus final : private SystemGestures {
+class Focus {
  public:
   explicit Focus(RunLoop& loop);
-  ~Focus() override;
+  ~Focus();
   Focus(const Focus&) = delete;
   Focus& operator=(const Focus&) = delete;
 
@@ -46,7 +45,6 @@ class Focus final : private SystemGestures {
     CGRect from;
   };
 
-  Claim touch(int finger, UITouchPhase phase, CGPoint screen_point, double timestamp) override;
   bool move(FocusStep step);
   bool press();
   std::optional<FocusStop> search(UIView start, FocusStep step);
@@ -65,7 +63,6 @@ class Focus final : private SystemGestures {
   std::optional<PageTurn> turning_;
   TouchInput finger_;
   Countdown lift_;
-  bool is_pressing_ = false;
 };
 
 /// Ends the focus of this process, because its user has turned to the mouse.

@@ -52,13 +52,13 @@ TEST_F(FocusOnIcons, OnlyWhatIsInFrontHasStops) {
   EXPECT_FALSE(press_key("tab")) << "a dark display takes no touches";
 }
 
-TEST_F(FocusOnIcons, TheWheelAndARightClickEndIt) {
+TEST_F(FocusOnIcons, AfterItsEndItBeginsAgainAtTheFirstIcon) {
   press_key("tab");
-  turn_wheel_over({187, 300}, {0, 1}, uikit::WheelKind::Notched);
-  EXPECT_FALSE(focus.view());
-  press_key("tab");
-  EXPECT_TRUE(hold_icon_at(on_screen(kMusic)));
-  EXPECT_FALSE(focus.view());
+  press_key("right");
+  end_focus();
+  EXPECT_FALSE(focus.ring());
+  press_key("right");
+  EXPECT_EQ(focus.view(), icon_view(kCalendar));
 }
 
 }  // namespace

@@ -126,10 +126,10 @@ TEST_F(FocusTest, ASwitchKeepsTheFocusWhileItMoves) {
   EXPECT_EQ(plain.isOn(), NO);
 }
 
-TEST_F(FocusTest, TheRingEndsWithTheNextTouch) {
+TEST_F(FocusTest, NothingIsLeftWhenItEnds) {
   add_button(window, "button", kFirst);
   key("tab");
-  tap({300, 600});
+  uikit::end_focus();
   EXPECT_FALSE(focus.ring());
   EXPECT_FALSE(focus.view());
   EXPECT_FALSE(key("return"));
