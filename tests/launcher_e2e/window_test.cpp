@@ -88,6 +88,18 @@ TEST_F(DesktopWindow, KeysWorkThePlayerAndTheRightButtonHoldsAnIcon) {
   EXPECT_TRUE(answers(phone, edits, "YES"));
 }
 
+TEST_F(DesktopWindow, TheKeyboardAloneOpensAnApplication) {
+  DesktopDisplay display;
+  RunningPhone phone(in_a_window());
+  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(answers(phone, "rest", "ok"));
+  const std::string mode = "print [[LAActivator sharedInstance] currentEventMode]";
+  EXPECT_EQ(phone.ask(mode), R"("springboard")");
+  for (const char* keys : {"Tab", "Right", "shift+Tab", "Return"})
+    display.press(keys);
+  EXPECT_TRUE(answers(phone, mode, R"("application")"));
+}
+
 TEST_F(DesktopWindow, FillsTheDisplayAndReturns) {
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
