@@ -49,11 +49,15 @@ void collect(UIView view, CGRect seen, std::vector<FocusStop>& stops) {
   const CGRect place = place_in(view, nil);
   if (seen.contains(place.centre()) && is_stop(view) && is_in_sight(view))
     stops.push_back({objc::Ref<UIView>::retain(view), place});
-  if (view.clipsToBounds()) seen = CGRectIntersection(seen, place);
-  if (seen.size.width <= 0 || seen.size.height <= 0) return;
+  const bool clips = view.clipsToBounds();
+  if (clips) seen = CGRectIntersection(seen, place);
+  if (CGRectIsEmpty(seen)) return;
+  const CGRect bounds = view.bounds();
   const auto parts = objc::state_of<View>(view).children();
-  for (const auto& part : parts)
-    collect(part.get(), seen, stops);
+  for (const auto& part : parts) {
+    // Of thousands of albums only a few are in sight.
+    if (!clips || CGRectIntersectsRect(part->frame(), bounds)) collect(part.get(), seen, stops);
+  }
 }
 
 }  // namespace
