@@ -37,7 +37,7 @@ class Supervisor {
     ChildCommand home_screen;
     ChildCommand applications;
     bool has_window = false;
-    BrowserDoor browser;  // closed unless the phone is shown in a browser
+    BrowserDoor browser = {};  // closed unless the phone is shown in a browser
   };
 
   /// If `front` is nullptr, the process gets no console.
