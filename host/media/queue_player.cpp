@@ -18,17 +18,17 @@ void log_skipped(const std::string& first_refusal, std::size_t songs) {
   }
 }
 
-// No song comes before the first, so a search backwards that found no playable song turns around
-// and ends at the song where it started.
+// No song comes before the first of a queue that ends, so a search backwards that found no playable
+// song turns around and ends at the song where it started.
 std::optional<std::uint64_t> step(PlayQueue& queue, bool& backwards) {
-  if (queue.index() == 0u) backwards = false;
+  if (queue.index() == 0u && !queue.repeats()) backwards = false;
   return backwards ? queue.previous() : queue.next();
 }
 
 }  // namespace
 
-QueuePlayer::QueuePlayer(Player& player, FileOf file_of)
-    : player_(player), file_of_(std::move(file_of)) {
+QueuePlayer::QueuePlayer(Player& player, FileOf file_of, std::uint32_t seed)
+    : player_(player), file_of_(std::move(file_of)), queue_(seed) {
   player_.set_listener(this);
 }
 
@@ -45,8 +45,19 @@ void QueuePlayer::set_queue(SongList ids) {
   report_song_change();
 }
 
+void QueuePlayer::set_repeat(Repeat repeat) {
+  withdraw_next();
+  queue_.set_repeat(repeat);
+}
+
+void QueuePlayer::set_shuffles(bool shuffles) {
+  withdraw_next();
+  queue_.set_shuffles(shuffles);
+}
+
 bool QueuePlayer::set_current(std::uint64_t id) {
   if (!queue_.select(id)) return false;
+  failures_ = 0;
   load_current();
   return true;
 }
@@ -85,32 +96,44 @@ void QueuePlayer::stop() {
 }
 
 void QueuePlayer::next() {
-  if (!queue_.current()) return;
-  if (queue_.next()) {
+  failures_ = 0;
+  if (queue_.current()) go_on(queue_.next());
+}
+
+void QueuePlayer::previous() {
+  failures_ = 0;
+  if (queue_.previous()) load_current(Direction::backwards);
+}
+
+void QueuePlayer::player_did_reach_end() {
+  failures_ = 0;
+  if (queue_.current()) go_on(queue_.follow());
+}
+
+void QueuePlayer::player_did_fail(const std::string& path, const std::string& reason) {
+  warn_user(fmt::format("{} cannot be played ({}); the next song starts", path, reason),
+            fmt::format("Cannot play {}", std::filesystem::path(path).filename().string()));
+  const bool is_hopeless = ++failures_ >= queue_.tracks().size();
+  if (queue_.current()) go_on(is_hopeless ? std::nullopt : queue_.next());
+}
+
+void QueuePlayer::go_on(std::optional<std::uint64_t> song) {
+  if (song) {
     load_current();
   } else {
     finish_queue();
   }
 }
 
-void QueuePlayer::previous() {
-  if (queue_.previous()) load_current(Direction::backwards);
-}
-
-void QueuePlayer::player_did_reach_end() {
-  next();
-}
-
-void QueuePlayer::player_did_fail(const std::string& path, const std::string& reason) {
-  warn_user(fmt::format("{} cannot be played ({}); the next song starts", path, reason),
-            fmt::format("Cannot play {}", std::filesystem::path(path).filename().string()));
-  next();
-}
-
 QueuePlayer::Playable QueuePlayer::find_playable(PlayQueue from, Direction direction) const {
   Playable found;
   bool backwards = direction == Direction::backwards;
+  const bool is_round = from.repeats();
   for (auto id = from.current(); id; id = step(from, backwards)) {
+    if (is_round && found.refused == from.tracks().size()) {
+      from.clear_selection();
+      break;
+    }
     SongFile file = file_of_(*id);
     if (file.refusal.empty()) {
       found.path = std::move(file.path);
@@ -130,18 +153,19 @@ void QueuePlayer::arrive(Playable playable) {
 
 void QueuePlayer::load_current(Direction direction) {
   next_.reset();
+  const auto before = loaded_;
   Playable playable = find_playable(queue_, direction);
   const std::string path = playable.path;
   arrive(std::move(playable));
   if (!loaded_) return finish_queue();
   player_.load(path);
-  report_song_change();
+  report_arrival(before);
 }
 
 void QueuePlayer::offer_next() {
   if (next_ || !loaded_) return;
   PlayQueue rest = queue_;
-  if (!rest.next()) return;
+  if (!rest.follow()) return;
   next_ = find_playable(std::move(rest), Direction::forwards);
   player_.follow_with(next_->path);
 }
@@ -153,8 +177,10 @@ void QueuePlayer::withdraw_next() {
 
 void QueuePlayer::player_did_continue() {
   if (!next_) return;
+  failures_ = 0;
+  const auto before = loaded_;
   arrive(*std::exchange(next_, std::nullopt));
-  report_song_change();
+  report_arrival(before);
 }
 
 void QueuePlayer::player_did_lose_device() {
@@ -177,6 +203,11 @@ void QueuePlayer::report_song_change() {
   if (std::exchange(reported_, queue_.current()) != queue_.current() && on_song_change) {
     on_song_change();
   }
+}
+
+void QueuePlayer::report_arrival(std::optional<std::uint64_t> before) {
+  report_song_change();
+  if (before == loaded_ && on_restart) on_restart();
 }
 
 }  // namespace host::media

@@ -19,14 +19,16 @@ struct SongFile {
   std::string refusal;  // Why it cannot be played, naming the song; empty when it can.
 };
 
-// Plays a queue, one song after the other, and stops at the end. Songs that cannot be played are
-// skipped in the direction of travel, with one line in the log. The system's music player is built
-// on this class. Main thread only; the player must outlive it.
+// Plays a queue, one song after the other, and stops at the end of one that does not repeat, or
+// when no song of it can be played. Songs that cannot be played are skipped in the direction of
+// travel, with one line in the log. The system's music player is built on this class. Main thread
+// only; the player must outlive it.
 class QueuePlayer final : private PlayerListener {
  public:
   using FileOf = std::function<SongFile(std::uint64_t)>;
 
-  QueuePlayer(Player& player, FileOf file_of);
+  // The seed is that of shuffled queues.
+  QueuePlayer(Player& player, FileOf file_of, std::uint32_t seed = 1);
   ~QueuePlayer() override;
   QueuePlayer(const QueuePlayer&) = delete;
   QueuePlayer& operator=(const QueuePlayer&) = delete;
@@ -34,8 +36,12 @@ class QueuePlayer final : private PlayerListener {
   // Called after a change, and only if something changed.
   std::function<void()> on_song_change;
   std::function<void(PlaybackState)> on_state_change;
+  // Called when the song begins again, instead of a change.
+  std::function<void()> on_restart;
 
   void set_queue(SongList ids);
+  void set_repeat(Repeat repeat);
+  void set_shuffles(bool shuffles);
   // Makes the song, or the next playable one after it, current and keeps playing or paused. Returns
   // false when it is not queued.
   bool set_current(std::uint64_t id);
@@ -49,13 +55,12 @@ class QueuePlayer final : private PlayerListener {
   void play();
   void pause();
   void stop();
-  // Stops after the last song.
+  // Stops after the last song, unless the queue repeats.
   void next();
-  // From the first song, or the first playable one, starts it again.
+  // From the first song, or the first playable one, starts it again, unless the queue repeats.
   void previous();
-  void restart() { player_.seek(0); }
-  // Lets the next playable song follow the current one without a gap. Call it when the current one
-  // is about to end; `withdraw_next` takes it back.
+  // Lets the song that comes by itself follow the current one without a gap. Call it when the
+  // current one is about to end; `withdraw_next` takes it back.
   void offer_next();
   void withdraw_next();
   void seek(double seconds) { player_.seek(seconds); }
@@ -86,10 +91,12 @@ class QueuePlayer final : private PlayerListener {
 
   Playable find_playable(PlayQueue from, Direction direction) const;
   void arrive(Playable playable);
+  void go_on(std::optional<std::uint64_t> song);
   void load_current(Direction direction = Direction::forwards);
   void set_state(PlaybackState state);
   void finish_queue();
   void report_song_change();
+  void report_arrival(std::optional<std::uint64_t> before);
 
   Player& player_;
   FileOf file_of_;
@@ -98,6 +105,7 @@ class QueuePlayer final : private PlayerListener {
   std::optional<std::uint64_t> loaded_;
   std::optional<Playable> next_;           // What the player continues with.
   std::optional<std::uint64_t> reported_;  // The song that was last reported.
+  std::size_t failures_ = 0;               // Songs in a row that turned out to be unplayable.
 };
 
 }  // namespace host::media

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 #include <utility>
 
 #include "host/media_player/playback_state.h"
@@ -22,6 +23,11 @@ constexpr double kOfferAhead = 5;
 constexpr double kReportStep = 1e-6;
 constexpr std::uint32_t kReportSteps = 1000;
 
+// On a stepped clock everything happens again in the same way.
+std::uint32_t shuffle_seed(media::PlayerPace pace) {
+  return pace == media::PlayerPace::stepped ? 1 : std::random_device{}();
+}
+
 // The system's objects are told in the next turn, since on the phone the notification comes from
 // another process.
 void post_volume_change() {
@@ -37,9 +43,12 @@ void post_volume_change() {
 
 Playback::Playback(std::unique_ptr<media::Player> player, media::PlayerPace pace,
                    media::QueuePlayer::FileOf file_of)
-    : player_(std::move(player)), pace_(pace), queue_(*player_, std::move(file_of)) {
+    : player_(std::move(player)),
+      pace_(pace),
+      queue_(*player_, std::move(file_of), shuffle_seed(pace)) {
   queue_.on_state_change = [this](media::PlaybackState state) { state_changed(state); };
   queue_.on_song_change = [this] { song_changed(); };
+  queue_.on_restart = [this] { report_jump(); };
   watch_ = RunLoop::main().watch(player_->descriptor(), [this] {
     player_->pump();
     // The engine may have learned the song's length.
@@ -64,29 +73,29 @@ void Playback::set_queue(media::SongList songs) {
   changed();
 }
 
-bool Playback::set_current(std::uint64_t id) {
-  const auto before = song();
-  if (!queue_.set_current(id)) return false;
-  report_jump_within(before);
-  return true;
+void Playback::set_repeat(media::Repeat repeat) {
+  if (repeat == queue().repeat()) return;
+  queue_.set_repeat(repeat);
+  follow_end();
+  changed();
+}
+
+void Playback::set_shuffles(bool shuffles) {
+  if (shuffles == queue().shuffles()) return;
+  queue_.set_shuffles(shuffles);
+  follow_end();
+  changed();
 }
 
 bool Playback::resume_paused(std::uint64_t id, double seconds) {
-  const auto before = song();
   if (!queue_.resume_paused(id, seconds)) return false;
-  report_jump_within(before);
+  report();
   return true;
-}
-
-void Playback::previous() {
-  const auto before = song();
-  queue_.previous();
-  report_jump_within(before);
 }
 
 void Playback::seek(double seconds) {
   queue_.seek(seconds);
-  report_jump_within(song());
+  report_jump();
 }
 
 void Playback::set_volume(double volume) {
@@ -104,9 +113,9 @@ void Playback::report() {
   changed();
 }
 
-void Playback::report_jump_within(std::optional<std::uint64_t> song_before) {
+void Playback::report_jump() {
   report();
-  if (song() && song() == song_before && on_jump) on_jump();
+  if (song() && on_jump) on_jump();
 }
 
 void Playback::state_changed(media::PlaybackState state) {

@@ -29,14 +29,16 @@ class Playback {
   std::function<void()> on_jump;
 
   void set_queue(media::SongList songs);
-  bool set_current(std::uint64_t id);
+  void set_repeat(media::Repeat repeat);
+  void set_shuffles(bool shuffles);
+  bool set_current(std::uint64_t id) { return queue_.set_current(id); }
   void prepare() { queue_.prepare(); }
   bool resume_paused(std::uint64_t id, double seconds);
   void play() { queue_.play(); }
   void pause() { queue_.pause(); }
   void stop() { queue_.stop(); }
   void next() { queue_.next(); }
-  void previous();
+  void previous() { queue_.previous(); }
   void seek(double seconds);
 
   media::PlaybackState state() const { return queue_.state(); }
@@ -66,7 +68,7 @@ class Playback {
   void state_changed(media::PlaybackState state);
   void song_changed();
   void follow_end();
-  void report_jump_within(std::optional<std::uint64_t> song_before);
+  void report_jump();
   void changed() const {
     if (on_change) on_change();
   }

@@ -120,6 +120,35 @@ TEST_F(OfferedSongs, AnotherQueueOffersItsOwnNextSong) {
   EXPECT_THAT(offers, ElementsAre("2", "", "3", ""));
 }
 
+TEST_F(OfferedSongs, ARepeatedSongIsOfferedAgain) {
+  playback->set_repeat(host::media::Repeat::one);
+  advance(16);
+  EXPECT_THAT(offers, ElementsAre("1"));
+  int jumps = 0;
+  playback->on_jump = [&] { ++jumps; };
+  engine->go_on();
+  EXPECT_EQ(playback->song(), 1u);
+  EXPECT_EQ(jumps, 1);
+  advance(16);
+  EXPECT_THAT(offers, ElementsAre("1", "1"));
+}
+
+TEST_F(OfferedSongs, AnotherModeTakesTheOfferBackForItsOwn) {
+  advance(16);
+  playback->set_repeat(host::media::Repeat::one);
+  EXPECT_THAT(offers, ElementsAre("2", "", "1"));
+  playback->set_repeat(host::media::Repeat::all);
+  EXPECT_THAT(offers, ElementsAre("2", "", "1", "", "2"));
+  playback->set_current(3);
+  advance(16);
+  EXPECT_EQ(offers.back(), "1") << "the first after the last";
+  playback->set_repeat(host::media::Repeat::none);
+  EXPECT_EQ(offers.back(), "") << "nothing follows";
+  offers.clear();
+  playback->set_shuffles(true);
+  EXPECT_EQ(offers.size(), 1u) << "the playing song is the first, so another follows";
+}
+
 TEST_F(OfferedSongs, ADeviceThatIsLostPauses) {
   engine->lose_device();
   EXPECT_EQ(playback->state(), host::media::PlaybackState::paused);
