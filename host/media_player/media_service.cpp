@@ -89,9 +89,17 @@ MediaService::MediaService(MediaOptions options, std::unique_ptr<media::Player> 
   choices_changed();
 }
 
-void MediaService::choices_changed() {
-  choices_ = read_music_choices();
-  playback_.set_replay_gain(choices_.replay_gain);
+void MediaService::follow(const MusicChoices& choices) {
+  choices_ = choices;
+  playback_.set_replay_gain(choices.replay_gain);
+  playback_.set_repeat(choices.repeat);
+  playback_.set_shuffles(choices.shuffles);
+}
+
+void MediaService::choose(const MusicChoices& choices) {
+  if (choices == choices_) return;
+  write_music_choices(choices);
+  follow(choices);
 }
 
 MediaService::~MediaService() = default;
@@ -178,25 +186,30 @@ bool MediaService::is_playable(std::uint64_t id) const {
   return track && !media::has_cloud_name(track->path);
 }
 
+template <class Songs>
+bool MediaService::has_playable(const Songs& songs) const {
+  return std::ranges::any_of(songs, [this](std::uint64_t id) { return is_playable(id); });
+}
+
 bool MediaService::can_play() const {
   const media::PlayQueue& queue = playback_.queue();
-  const media::SongList& songs = queue.tracks().empty() ? items_->library().songs() : queue.list();
-  const auto rest = std::span(*songs).subspan(queue.index().value_or(0));
-  return std::ranges::any_of(rest, [this](std::uint64_t id) { return is_playable(id); });
+  if (queue.tracks().empty()) return has_playable(*items_->library().songs());
+  const std::size_t first = queue.repeats() ? 0 : queue.index().value_or(0);
+  return has_playable(queue.tracks().subspan(first));
 }
 
 bool MediaService::can_go_next() const {
   const media::PlayQueue& queue = playback_.queue();
   if (!queue.index()) return false;
   const auto later = queue.tracks().subspan(*queue.index() + 1);
-  return std::ranges::any_of(later, [this](std::uint64_t id) { return is_playable(id); });
+  return has_playable(later) || (queue.repeats() && has_playable(queue.tracks()));
 }
 
 bool MediaService::can_go_previous() const {
   const media::PlayQueue& queue = playback_.queue();
-  const auto earlier = queue.tracks().first(queue.index().value_or(0));
-  const auto nearest_first = std::views::reverse(earlier);
-  return std::ranges::any_of(nearest_first, [this](std::uint64_t id) { return is_playable(id); });
+  if (!queue.index()) return false;
+  const auto earlier = std::views::reverse(queue.tracks().first(*queue.index()));
+  return has_playable(earlier) || (queue.repeats() && has_playable(queue.tracks()));
 }
 
 // An observer may remove itself.

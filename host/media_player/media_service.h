@@ -53,9 +53,11 @@ class MediaService {
   const media::Track* now_playing() const;
   MPMediaItem now_playing_item();
 
-  /// What the user has chosen in Settings; `choices_changed` reads it again.
+  /// What the user has chosen; `choices_changed` reads what another process has written.
   const MusicChoices& choices() const { return choices_; }
-  void choices_changed();
+  void choices_changed() { follow(read_music_choices()); }
+  /// Chosen in this process, and kept.
+  void choose(const MusicChoices& choices);
 
   /// Plays files, and the songs of folders, one after another; the library has them until the
   /// process ends. The log names what cannot be played.
@@ -87,6 +89,9 @@ class MediaService {
   void take(std::shared_ptr<const media::Library> library);
   media::SongFile file_of(std::uint64_t id) const;
   bool is_playable(std::uint64_t id) const;
+  template <class Songs>
+  bool has_playable(const Songs& songs) const;
+  void follow(const MusicChoices& choices);
   void tell_change();
   void tell_jump();
   void play_found(const std::vector<std::string>& paths);

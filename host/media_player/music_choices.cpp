@@ -14,13 +14,41 @@ namespace {
 constexpr const char* kFile = "/var/mobile/Library/Preferences/com.apple.mobileipod.plist";
 
 // In the order of the enumeration.
-constexpr std::array<const char*, 3> kReplayGains{"off", "track", "album"};
+using Names = std::array<const char*, 3>;
+constexpr Names kReplayGains{"off", "track", "album"};
+constexpr Names kRepeats{"none", "one", "all"};
 
 NSString replay_gain_key() {
   return "ReplayGain"_ns;
 }
+NSString repeat_key() {
+  return "Repeat"_ns;
+}
+NSString shuffles_key() {
+  return "Shuffle"_ns;
+}
 NSString announces_songs_key() {
   return "AnnouncesSongs"_ns;
+}
+
+template <class Choice>
+void read(Choice& choice, const Names& names, NSDictionary kept, NSString key) {
+  const auto value = objc::cast<NSObject>(kept.objectForKey(key));
+  if (!value || !value.isKindOfClass(NSString::cls())) return;
+  const auto found =
+      std::ranges::find(names, std::string_view(objc::cast<NSString>(value).UTF8String()));
+  if (found != names.end()) choice = static_cast<Choice>(found - names.begin());
+}
+
+void read(bool& choice, NSDictionary kept, NSString key) {
+  const auto value = objc::cast<NSObject>(kept.objectForKey(key));
+  if (value && value.isKindOfClass(NSNumber::cls()))
+    choice = objc::cast<NSNumber>(value).boolValue();
+}
+
+template <class Choice>
+NSString name_of(Choice choice, const Names& names) {
+  return NSString::stringWithUTF8String(names[static_cast<std::size_t>(choice)]);
 }
 
 }  // namespace
@@ -28,16 +56,10 @@ NSString announces_songs_key() {
 MusicChoices read_music_choices() {
   MusicChoices choices;
   const NSDictionary kept = foundation::PropertyListFile(kFile).read();
-  const auto gain = objc::cast<NSObject>(kept.objectForKey(replay_gain_key()));
-  if (gain && gain.isKindOfClass(NSString::cls())) {
-    const std::string_view name = objc::cast<NSString>(gain).UTF8String();
-    const auto found = std::ranges::find(kReplayGains, name);
-    if (found != kReplayGains.end())
-      choices.replay_gain = static_cast<media::ReplayGain>(found - kReplayGains.begin());
-  }
-  const auto announces = objc::cast<NSObject>(kept.objectForKey(announces_songs_key()));
-  if (announces && announces.isKindOfClass(NSNumber::cls()))
-    choices.announces_songs = objc::cast<NSNumber>(announces).boolValue();
+  read(choices.replay_gain, kReplayGains, kept, replay_gain_key());
+  read(choices.repeat, kRepeats, kept, repeat_key());
+  read(choices.shuffles, kept, shuffles_key());
+  read(choices.announces_songs, kept, announces_songs_key());
   return choices;
 }
 
@@ -45,8 +67,9 @@ bool write_music_choices(const MusicChoices& choices) {
   foundation::PropertyListFile file(kFile);
   const auto kept = NSMutableDictionary::dictionary();
   if (const NSDictionary before = file.read()) kept.addEntriesFromDictionary(before);
-  const char* gain = kReplayGains[static_cast<std::size_t>(choices.replay_gain)];
-  kept.setObject(NSString::stringWithUTF8String(gain), replay_gain_key());
+  kept.setObject(name_of(choices.replay_gain, kReplayGains), replay_gain_key());
+  kept.setObject(name_of(choices.repeat, kRepeats), repeat_key());
+  kept.setObject(NSNumber::numberWithBool(choices.shuffles), shuffles_key());
   kept.setObject(NSNumber::numberWithBool(choices.announces_songs), announces_songs_key());
   return file.write(kept);
 }

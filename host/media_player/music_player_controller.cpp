@@ -26,6 +26,20 @@ Playback* playback() {
   return service ? &service->playback() : nullptr;
 }
 
+MusicChoices choices() {
+  const MediaService* service = MediaService::current();
+  return service ? service->choices() : MusicChoices();
+}
+
+template <class Choice>
+void choose(Choice MusicChoices::*member, Choice choice) {
+  MediaService* service = MediaService::current();
+  if (!service) return;
+  MusicChoices choices = service->choices();
+  choices.*member = choice;
+  service->choose(choices);
+}
+
 // One for the life of the process: a library loaded early may keep it.
 MPMusicPlayerController ipod_music_player(objc::Object) {
   static const MPMusicPlayerController player = MPMusicPlayerController::alloc().init();
@@ -82,6 +96,26 @@ void MusicPlayerController::set_current_playback_time(double seconds) {
   if (Playback* player = playback()) player->seek(seconds);
 }
 
+MPMusicRepeatMode MusicPlayerController::repeat_mode() {
+  return platform_repeat(choices().repeat);
+}
+
+// The default mode is what the user has chosen already.
+void MusicPlayerController::set_repeat_mode(MPMusicRepeatMode mode) {
+  for (const auto repeat : {media::Repeat::none, media::Repeat::one, media::Repeat::all})
+    if (platform_repeat(repeat) == mode) choose(&MusicChoices::repeat, repeat);
+}
+
+MPMusicShuffleMode MusicPlayerController::shuffle_mode() {
+  return choices().shuffles ? MPMusicShuffleModeSongs : MPMusicShuffleModeOff;
+}
+
+void MusicPlayerController::set_shuffle_mode(MPMusicShuffleMode mode) {
+  if (mode == MPMusicShuffleModeOff) choose(&MusicChoices::shuffles, false);
+  if (mode == MPMusicShuffleModeSongs || mode == MPMusicShuffleModeAlbums)
+    choose(&MusicChoices::shuffles, true);
+}
+
 void MusicPlayerController::playback_state_did_change(NSInteger state) {
   const NSDictionary details = NSDictionary::dictionaryWithObject(
       NSNumber::numberWithInteger(state), "MPMusicPlayerControllerPlaybackStateKey"_ns);
@@ -109,6 +143,10 @@ void export_music_player_controller() {
       .method<&Controller::stop>("stop")
       .method<&Controller::current_playback_time>("currentPlaybackTime")
       .method<&Controller::set_current_playback_time>("setCurrentPlaybackTime:")
+      .method<&Controller::repeat_mode>("repeatMode")
+      .method<&Controller::set_repeat_mode>("setRepeatMode:")
+      .method<&Controller::shuffle_mode>("shuffleMode")
+      .method<&Controller::set_shuffle_mode>("setShuffleMode:")
       .method<&Controller::playback_state_did_change>("_playbackStateDidChange:")
       .finish();
 }

@@ -22,6 +22,11 @@ class MusicPlayerController
   void stop();
   double current_playback_time();
   void set_current_playback_time(double seconds);
+  MPMusicRepeatMode repeat_mode();
+  void set_repeat_mode(MPMusicRepeatMode mode);
+  MPMusicShuffleMode shuffle_mode();
+  /// Albums are shuffled as songs are.
+  void set_shuffle_mode(MPMusicShuffleMode mode);
   void playback_state_did_change(NSInteger state);
 };
 

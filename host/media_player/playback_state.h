@@ -5,7 +5,7 @@
 
 namespace host::media_player {
 
-/// Returns the player's state as a constant of the platform.
+/// The player's state and choices as constants of the platform.
 constexpr MPMusicPlaybackState platform_state(media::PlaybackState state) {
   switch (state) {
     case media::PlaybackState::playing:
@@ -16,6 +16,18 @@ constexpr MPMusicPlaybackState platform_state(media::PlaybackState state) {
       break;
   }
   return MPMusicPlaybackStateStopped;
+}
+
+constexpr MPMusicRepeatMode platform_repeat(media::Repeat repeat) {
+  switch (repeat) {
+    case media::Repeat::one:
+      return MPMusicRepeatModeOne;
+    case media::Repeat::all:
+      return MPMusicRepeatModeAll;
+    case media::Repeat::none:
+      break;
+  }
+  return MPMusicRepeatModeNone;
 }
 
 }  // namespace host::media_player

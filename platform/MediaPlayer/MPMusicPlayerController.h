@@ -17,6 +17,21 @@ enum MPMusicPlaybackState : NSInteger {
   MPMusicPlaybackStateSeekingBackward,
 };
 
+// Of `repeatMode` and `shuffleMode`. The default is what the user has chosen.
+enum MPMusicRepeatMode : NSInteger {
+  MPMusicRepeatModeDefault,
+  MPMusicRepeatModeNone,
+  MPMusicRepeatModeOne,
+  MPMusicRepeatModeAll,
+};
+
+enum MPMusicShuffleMode : NSInteger {
+  MPMusicShuffleModeDefault,
+  MPMusicShuffleModeOff,
+  MPMusicShuffleModeSongs,
+  MPMusicShuffleModeAlbums,
+};
+
 struct MPMusicPlayerController
     : objc::Bound<MPMusicPlayerController, "MPMusicPlayerController", NSObject> {
   /// The player of the system's own Music application.

@@ -16,39 +16,87 @@ PSSpecifier group(NSString footer) {
   return made;
 }
 
-NSNumber number(media::ReplayGain gain) {
-  return NSNumber::numberWithInteger(static_cast<NSInteger>(gain));
+template <class Choice>
+NSNumber number(Choice choice) {
+  return NSNumber::numberWithInteger(static_cast<NSInteger>(choice));
 }
 
-void choose(const MusicChoices& choices) {
+template <class Choice>
+Choice choice_in(objc::Object value) {
+  return static_cast<Choice>(objc::cast<NSNumber>(value).integerValue());
+}
+
+/// Keeps one of the choices and tells the process that plays.
+template <class Choice>
+void choose(Choice MusicChoices::*which, Choice value) {
+  MusicChoices choices = media_player::read_music_choices();
+  choices.*which = value;
   media_player::write_music_choices(choices);
   application::PlayerRemote::shared().read_choices();
+}
+
+/// How a row is named, and the page's methods for its value.
+struct Row {
+  NSString name;
+  objc::Sel set;
+  objc::Sel get;
+};
+
+PSSpecifier list_row(PrefsMusicController page, const Row& row, NSArray values, NSArray titles) {
+  const auto made = PSSpecifier::preferenceSpecifierNamed(
+      row.name, page, row.set, row.get, objc_getClass("PSListItemsController"),
+      PSTableCell::cellTypeFromString("PSLinkListCell"_ns), nullptr);
+  made.setValues(values, titles);
+  return made;
+}
+
+PSSpecifier switch_row(PrefsMusicController page, const Row& row) {
+  return PSSpecifier::preferenceSpecifierNamed(row.name, page, row.set, row.get, nullptr,
+                                               PSTableCell::cellTypeFromString("PSSwitchCell"_ns),
+                                               nullptr);
 }
 
 }  // namespace
 
 NSArray MusicPage::specifiers() {
   if (const NSArray made = self.cached_specifiers()) return made;
+  using media::Repeat;
   using media::ReplayGain;
-  const auto gain = PSSpecifier::preferenceSpecifierNamed(
-      "ReplayGain"_ns, self, "setReplayGain:specifier:"_sel, "replayGain:"_sel,
-      objc_getClass("PSListItemsController"), PSTableCell::cellTypeFromString("PSLinkListCell"_ns),
-      nullptr);
-  gain.setValues(NSArray::arrayWithObjects(number(ReplayGain::off), number(ReplayGain::track),
-                                           number(ReplayGain::album)),
-                 NSArray::arrayWithObjects("Off"_ns, "Song"_ns, "Album"_ns));
-  const auto announces = PSSpecifier::preferenceSpecifierNamed(
-      "Announce Songs"_ns, self, "setAnnouncesSongs:specifier:"_sel, "announcesSongs:"_sel, nullptr,
-      PSTableCell::cellTypeFromString("PSSwitchCell"_ns), nullptr);
   const auto rows = NSArray::arrayWithObjects(
+      PSSpecifier::emptyGroupSpecifier(),
+      list_row(
+          self, {"Repeat"_ns, "setRepeat:specifier:"_sel, "repeat:"_sel},
+          NSArray::arrayWithObjects(number(Repeat::none), number(Repeat::all), number(Repeat::one)),
+          NSArray::arrayWithObjects("Off"_ns, "All"_ns, "One"_ns)),
+      switch_row(self, {"Shuffle"_ns, "setShuffles:specifier:"_sel, "shuffles:"_sel}),
       group("Plays songs, or whole albums, as loud as each other, where their files say how loud "
             "they are."_ns),
-      gain,
+      list_row(self, {"ReplayGain"_ns, "setReplayGain:specifier:"_sel, "replayGain:"_sel},
+               NSArray::arrayWithObjects(number(ReplayGain::off), number(ReplayGain::track),
+                                         number(ReplayGain::album)),
+               NSArray::arrayWithObjects("Off"_ns, "Song"_ns, "Album"_ns)),
       group("The desktop shows a notification when a new song begins and this window is not in "
             "front."_ns),
-      announces);
+      switch_row(self,
+                 {"Announce Songs"_ns, "setAnnouncesSongs:specifier:"_sel, "announcesSongs:"_sel}));
   self.setSpecifiers(rows);
   return rows;
+}
+
+objc::Object MusicPage::repeat(PSSpecifier) {
+  return number(media_player::read_music_choices().repeat);
+}
+
+void MusicPage::set_repeat(objc::Object value, PSSpecifier) {
+  choose(&MusicChoices::repeat, choice_in<media::Repeat>(value));
+}
+
+objc::Object MusicPage::shuffles(PSSpecifier) {
+  return NSNumber::numberWithBool(media_player::read_music_choices().shuffles);
+}
+
+void MusicPage::set_shuffles(objc::Object value, PSSpecifier) {
+  choose(&MusicChoices::shuffles, choice_in<bool>(value));
 }
 
 objc::Object MusicPage::replay_gain(PSSpecifier) {
@@ -56,9 +104,7 @@ objc::Object MusicPage::replay_gain(PSSpecifier) {
 }
 
 void MusicPage::set_replay_gain(objc::Object value, PSSpecifier) {
-  MusicChoices choices = media_player::read_music_choices();
-  choices.replay_gain = static_cast<media::ReplayGain>(objc::cast<NSNumber>(value).integerValue());
-  choose(choices);
+  choose(&MusicChoices::replay_gain, choice_in<media::ReplayGain>(value));
 }
 
 objc::Object MusicPage::announces_songs(PSSpecifier) {
@@ -66,15 +112,17 @@ objc::Object MusicPage::announces_songs(PSSpecifier) {
 }
 
 void MusicPage::set_announces_songs(objc::Object value, PSSpecifier) {
-  MusicChoices choices = media_player::read_music_choices();
-  choices.announces_songs = objc::cast<NSNumber>(value).boolValue();
-  choose(choices);
+  choose(&MusicChoices::announces_songs, choice_in<bool>(value));
 }
 
 void export_music_page() {
   objc::ClassBuilder("PrefsMusicController", "PSListController")
       .state<MusicPage>()
       .method<&MusicPage::specifiers>("specifiers")
+      .method<&MusicPage::repeat>("repeat:")
+      .method<&MusicPage::set_repeat>("setRepeat:specifier:")
+      .method<&MusicPage::shuffles>("shuffles:")
+      .method<&MusicPage::set_shuffles>("setShuffles:specifier:")
       .method<&MusicPage::replay_gain>("replayGain:")
       .method<&MusicPage::set_replay_gain>("setReplayGain:specifier:")
       .method<&MusicPage::announces_songs>("announcesSongs:")

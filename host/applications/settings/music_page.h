@@ -14,6 +14,10 @@ class MusicPage : public objc::Implementation<MusicPage, PrefsMusicController> {
   using Implementation::Implementation;
 
   NSArray specifiers();
+  objc::Object repeat(PSSpecifier specifier);
+  void set_repeat(objc::Object value, PSSpecifier specifier);
+  objc::Object shuffles(PSSpecifier specifier);
+  void set_shuffles(objc::Object value, PSSpecifier specifier);
   objc::Object replay_gain(PSSpecifier specifier);
   void set_replay_gain(objc::Object value, PSSpecifier specifier);
   objc::Object announces_songs(PSSpecifier specifier);

@@ -24,13 +24,11 @@ TEST_F(MediaController, IsOneObject) {
 TEST_F(MediaController, ReadsWhatTheUserHasChosenInSettingsWhenItIsTold) {
   using host::media_player::MediaService;
   using host::media_player::MusicChoices;
-  const MusicChoices chosen{host::media::ReplayGain::album, true};
-  host::foundation::set_device_root(folder_.path());
+  const MusicChoices chosen{host::media::ReplayGain::album, host::media::Repeat::all, true, true};
   ASSERT_TRUE(host::media_player::write_music_choices(chosen));
   EXPECT_EQ(MediaService::current()->choices(), MusicChoices());
   objc::send<void>(media(), "_musicChoicesChanged"_sel);
   EXPECT_EQ(MediaService::current()->choices(), chosen);
-  host::foundation::set_device_root("");
 }
 
 TEST_F(MediaController, ToggleWithNothingLoadedPlaysTheFirstSongOfTheLibrary) {

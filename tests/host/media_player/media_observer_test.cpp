@@ -51,6 +51,23 @@ TEST_F(MediaObservers, ASongThatBeginsAgainIsAJump) {
   EXPECT_THAT(jumps_, testing::ElementsAre(0, 0));
 }
 
+TEST_F(MediaObservers, ARepeatedSongIsAJump) {
+  play("Alpha");
+  set_repeat_mode(MPMusicRepeatModeOne);
+  EXPECT_GT(changes_, 0);
+  advance(8.5);
+  ASSERT_EQ(jumps_.size(), 1u);
+  EXPECT_NEAR(jumps_[0], 0, 0.1);
+}
+
+TEST_F(MediaObservers, ARepeatedQueueHasNoEnd) {
+  play("Delta");
+  set_repeat_mode(MPMusicRepeatModeAll);
+  EXPECT_TRUE(service().can_go_next());
+  play("Alpha");
+  EXPECT_TRUE(service().can_go_previous());
+}
+
 TEST_F(MediaObservers, HearOfSongStateAndVolume) {
   play("Bravo");
   EXPECT_GT(std::exchange(changes_, 0), 0);

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "host/foundation/device_paths.h"
 #include "host/media_player/exports.h"
 #include "host/quartzcore/service/exports.h"
 #include "host/runtime/hooking.h"
@@ -42,6 +43,7 @@ media::SongTags tags(const char* title, const char* artist, const char* album, i
 }  // namespace
 
 MediaPlayerTest::MediaPlayerTest() {
+  foundation::set_device_root(folder_ / "device");
   quartzcore::export_quartzcore();
   uikit::export_drawing();
   media_player::export_media_player();
@@ -59,6 +61,7 @@ MediaPlayerTest::MediaPlayerTest() {
 
 MediaPlayerTest::~MediaPlayerTest() {
   MediaService::stop();
+  foundation::set_device_root("");
 }
 
 void MediaPlayerTest::start() {

@@ -31,6 +31,18 @@ class MediaPlayerTest : public HostTest {
 
   SBMediaController media() const { return SBMediaController::sharedInstance(); }
   MPMusicPlayerController player() const { return MPMusicPlayerController::iPodMusicPlayer(); }
+  MPMusicRepeatMode repeat_mode() const {
+    return objc::send<MPMusicRepeatMode>(player(), "repeatMode"_sel);
+  }
+  void set_repeat_mode(MPMusicRepeatMode mode) const {
+    objc::send<void>(player(), "setRepeatMode:"_sel, mode);
+  }
+  MPMusicShuffleMode shuffle_mode() const {
+    return objc::send<MPMusicShuffleMode>(player(), "shuffleMode"_sel);
+  }
+  void set_shuffle_mode(MPMusicShuffleMode mode) const {
+    objc::send<void>(player(), "setShuffleMode:"_sel, mode);
+  }
   MPUNowPlayingController now_playing() const { return now_playing_.get(); }
   /// Returns a property of the playing item; empty when it is missing.
   std::string playing(NSString property) const;

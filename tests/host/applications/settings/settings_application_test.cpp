@@ -169,6 +169,23 @@ TEST_F(SettingsTest, MusicIsPlayedAsChosen) {
   open("Music");
   photograph("settings-music", clock.now());
   EXPECT_EQ(media_player::read_music_choices(), MusicChoices());
+  const auto turn = [this](NSInteger section, NSInteger row) {
+    const UITableViewCell cell = objc::cast<PSListController>(top()).table().cellForRowAtIndexPath(
+        NSIndexPath::indexPathForRow(row, section));
+    tap(cell.accessoryView().convertPointToView({20, 15}, nil));
+    advance(1);
+  };
+  open("Repeat");
+  photograph("settings-repeat", clock.now());
+  open("One");
+  EXPECT_EQ(media_player::read_music_choices().repeat, media::Repeat::one);
+  EXPECT_EQ(std::exchange(told, 0), 1);
+  tap(kBack);
+  advance(1);
+  turn(0, 1);
+  EXPECT_EQ(media_player::read_music_choices(),
+            (MusicChoices{media::ReplayGain::off, media::Repeat::one, true, false}));
+  EXPECT_EQ(std::exchange(told, 0), 1);
   open("ReplayGain");
   photograph("settings-replay-gain", clock.now());
   open("Album");
@@ -176,11 +193,9 @@ TEST_F(SettingsTest, MusicIsPlayedAsChosen) {
   EXPECT_EQ(told, 1);
   tap(kBack);
   advance(1);
-  const UITableViewCell row = objc::cast<PSListController>(top()).table().cellForRowAtIndexPath(
-      NSIndexPath::indexPathForRow(0, 1));
-  tap(row.accessoryView().convertPointToView({20, 15}, nil));
-  advance(1);
-  EXPECT_EQ(media_player::read_music_choices(), (MusicChoices{media::ReplayGain::album, true}));
+  turn(2, 0);
+  EXPECT_EQ(media_player::read_music_choices(),
+            (MusicChoices{media::ReplayGain::album, media::Repeat::one, true, true}));
   EXPECT_EQ(told, 2);
 }
 
@@ -188,6 +203,8 @@ TEST_F(SettingsTest, ChoicesThatMakeNoSenseAreThoseOfANewPhone) {
   const std::string file = "/var/mobile/Library/Preferences/com.apple.mobileipod.plist";
   for (const char* entries :
        {"<key>ReplayGain</key><string>loud</string>", "<key>ReplayGain</key><integer>2</integer>",
+        "<key>Repeat</key><string>twice</string>", "<key>Repeat</key><true/>",
+        "<key>Shuffle</key><string>yes</string>",
         "<key>AnnouncesSongs</key><string>yes</string>"}) {
     write(file, std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">"
                             "<dict>") +
