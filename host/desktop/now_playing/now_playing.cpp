@@ -57,6 +57,8 @@ PlayerState NowPlaying::look() {
   PlayerState now;
   now.playback = playback.state();
   now.volume = std::round(playback.volume() * kVolumeSteps) / kVolumeSteps;
+  now.repeat = playback.queue().repeat();
+  now.shuffles = playback.queue().shuffles();
   now.can_play = service_.can_play();
   now.can_go_next = service_.can_go_next();
   now.can_go_previous = service_.can_go_previous();

@@ -17,6 +17,8 @@ struct PlayerState {
   std::optional<SongFacts> song;
   bool awaits_cover = false;  // the song's cover has no file yet, and will have one
   double volume = 0;          // from 0 to 1
+  media::Repeat repeat = media::Repeat::none;
+  bool shuffles = false;
   bool can_play = false;
   bool can_go_next = false;
   bool can_go_previous = false;

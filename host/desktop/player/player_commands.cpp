@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "host/basics/ascii.h"
+#include "host/media_player/playback_state.h"
 #include "platform/MediaPlayer/MPMusicPlayerController.h"
 #include "platform/SpringBoard/SBMediaController.h"
 
@@ -68,6 +69,19 @@ void PlayerCommands::move_to(std::int64_t microseconds) {
 
 void PlayerCommands::set_volume(double volume) {
   if (std::isfinite(volume)) media().setVolume(static_cast<float>(std::clamp(volume, 0.0, 1.0)));
+}
+
+void PlayerCommands::set_rate(double rate) {
+  if (rate == 0) pause();
+}
+
+void PlayerCommands::set_repeat(media::Repeat repeat) {
+  objc::send<void>(player(), "setRepeatMode:"_sel, media_player::platform_repeat(repeat));
+}
+
+void PlayerCommands::set_shuffles(bool shuffles) {
+  objc::send<void>(player(), "setShuffleMode:"_sel,
+                   shuffles ? MPMusicShuffleModeSongs : MPMusicShuffleModeOff);
 }
 
 bool PlayerCommands::open(const std::string& address) {

@@ -25,6 +25,10 @@ class PlayerCommands {
   /// Ignored outside of the song.
   void move_to(std::int64_t microseconds);
   void set_volume(double volume);
+  /// There is one rate, and setting it changes nothing. Rate 0 means a pause.
+  void set_rate(double rate);
+  void set_repeat(media::Repeat repeat);
+  void set_shuffles(bool shuffles);
   /// Plays a song of the library by the address of its file. Returns false when it has none.
   bool open(const std::string& address);
 

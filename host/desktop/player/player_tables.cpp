@@ -1,7 +1,10 @@
 #include "host/desktop/player/player_tables.h"
 
+#include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "host/basics/program_identity.h"
@@ -26,6 +29,9 @@ const char* name_of(media::PlaybackState state) {
   }
   return "Stopped";
 }
+
+// In the order of the enumeration.
+constexpr std::array kLoopNames{"None", "Track", "Playlist"};
 
 int append(sd_bus_message* reply, bool value) {
   return sd_bus_message_append(reply, "b", static_cast<int>(value));
@@ -105,23 +111,30 @@ struct PlayerTables::Handlers {
                             "no song of the library has this address");
   }
 
-  static int set_volume(sd_bus*, const char*, const char*, const char*, sd_bus_message* value,
-                        void* data, sd_bus_error*) {
-    double volume = 0;
-    const int result = sd_bus_message_read(value, "d", &volume);
+  template <auto Command, class Value, char Type>
+  static int set(sd_bus*, const char*, const char*, const char*, sd_bus_message* message,
+                 void* data, sd_bus_error*) {
+    Value value{};
+    const int result = sd_bus_message_read_basic(message, Type, &value);
     if (result < 0) return result;
-    of(data).commands_.set_volume(volume);
+    (of(data).commands_.*Command)(value);
     of(data).now_playing_.tell();
     return 1;
   }
 
-  /// There is one rate, and setting it changes nothing. Rate 0 means a pause.
-  static int set_rate(sd_bus*, const char*, const char*, const char*, sd_bus_message* value,
-                      void* data, sd_bus_error*) {
-    double rate = 0;
-    const int result = sd_bus_message_read(value, "d", &rate);
+  static constexpr auto set_rate = set<&PlayerCommands::set_rate, double, 'd'>;
+  static constexpr auto set_volume = set<&PlayerCommands::set_volume, double, 'd'>;
+  static constexpr auto set_shuffles = set<&PlayerCommands::set_shuffles, int, 'b'>;
+
+  static int set_loop(sd_bus*, const char*, const char*, const char*, sd_bus_message* value,
+                      void* data, sd_bus_error* error) {
+    const char* name = nullptr;
+    const int result = sd_bus_message_read(value, "s", &name);
     if (result < 0) return result;
-    if (rate == 0) of(data).commands_.pause();
+    const auto found = std::ranges::find(kLoopNames, std::string_view(name));
+    if (found == kLoopNames.end())
+      return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, "no such LoopStatus");
+    of(data).commands_.set_repeat(static_cast<media::Repeat>(found - kLoopNames.begin()));
     of(data).now_playing_.tell();
     return 1;
   }
@@ -152,6 +165,10 @@ struct PlayerTables::Handlers {
   static const char* entry(void*) { return kDesktopEntry; }
   static bool can_raise(void* data) { return of(data).window_.raise != nullptr; }
   static const char* status(void* data) { return name_of(state(data).playback); }
+  static const char* loop(void* data) {
+    return kLoopNames[static_cast<std::size_t>(state(data).repeat)];
+  }
+  static bool shuffles(void* data) { return state(data).shuffles; }
   static double volume(void* data) { return state(data).volume; }
   static std::int64_t position(void* data) { return of(data).now_playing_.position(); }
   static bool can_go_next(void* data) { return state(data).can_go_next; }
@@ -201,13 +218,17 @@ const sd_bus_vtable PlayerTables::player[] = {
                             kFree),
     SD_BUS_SIGNAL_WITH_ARGS("Seeked", SD_BUS_ARGS("x", Position), 0),
     SD_BUS_PROPERTY("PlaybackStatus", "s", &Handlers::get<&Handlers::status>, 0, kTold),
-    SD_BUS_WRITABLE_PROPERTY("Rate", "d", &Handlers::get<&Handlers::rate>, &Handlers::set_rate, 0,
+    SD_BUS_WRITABLE_PROPERTY("LoopStatus", "s", &Handlers::get<&Handlers::loop>,
+                             &Handlers::set_loop, 0, kTold | kFree),
+    SD_BUS_WRITABLE_PROPERTY("Shuffle", "b", &Handlers::get<&Handlers::shuffles>,
+                             Handlers::set_shuffles, 0, kTold | kFree),
+    SD_BUS_WRITABLE_PROPERTY("Rate", "d", &Handlers::get<&Handlers::rate>, Handlers::set_rate, 0,
                              kTold | kFree),
     SD_BUS_PROPERTY("MinimumRate", "d", &Handlers::get<&Handlers::rate>, 0, kTold),
     SD_BUS_PROPERTY("MaximumRate", "d", &Handlers::get<&Handlers::rate>, 0, kTold),
     SD_BUS_PROPERTY("Metadata", "a{sv}", &Handlers::get_metadata, 0, kTold),
-    SD_BUS_WRITABLE_PROPERTY("Volume", "d", &Handlers::get<&Handlers::volume>,
-                             &Handlers::set_volume, 0, kTold | kFree),
+    SD_BUS_WRITABLE_PROPERTY("Volume", "d", &Handlers::get<&Handlers::volume>, Handlers::set_volume,
+                             0, kTold | kFree),
     SD_BUS_PROPERTY("Position", "x", &Handlers::get<&Handlers::position>, 0, 0),
     SD_BUS_PROPERTY("CanGoNext", "b", &Handlers::get<&Handlers::can_go_next>, 0, kTold),
     SD_BUS_PROPERTY("CanGoPrevious", "b", &Handlers::get<&Handlers::can_go_previous>, 0, kTold),

@@ -22,6 +22,8 @@ std::vector<const char*> changed_properties(const PlayerState& before, const Pla
     if (!is_same) names.push_back(name);
   };
   compare("PlaybackStatus", before.playback == now.playback);
+  compare("LoopStatus", before.repeat == now.repeat);
+  compare("Shuffle", before.shuffles == now.shuffles);
   compare("Metadata", before.song == now.song);
   compare("Volume", before.volume == now.volume);
   compare("CanGoNext", before.can_go_next == now.can_go_next);

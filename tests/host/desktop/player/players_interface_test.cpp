@@ -53,6 +53,13 @@ class APlayer : public host::test::DesktopTest {
                    const char* interface = PlayersInterface::kPlayer) {
     return peer_.ask({name_.c_str(), PlayersInterface::kPath, interface, method}, fill);
   }
+  template <class Value>
+  std::string set(const char* property, const char* type, Value value) {
+    return peer_.ask(
+        {name_.c_str(), PlayersInterface::kPath, kProperties, "Set"}, [&](sd_bus_message* call) {
+          sd_bus_message_append(call, "ssv", PlayersInterface::kPlayer, property, type, value);
+        });
+  }
   std::string set_position(const std::string& track, std::int64_t position) {
     return call("SetPosition", [&](sd_bus_message* message) {
       sd_bus_message_append(message, "ox", track.c_str(), position);
@@ -149,12 +156,7 @@ TEST_F(APlayer, VolumeGoesBothWays) {
   media().setVolume(0.3F);
   EXPECT_THAT(signals(), ElementsAre("PropertiesChanged \"org.mpris.MediaPlayer2.Player\" "
                                      "{\"Volume\": 0.3} []"));
-  const auto set = [this](double volume) {
-    return peer_.ask(
-        {name_.c_str(), PlayersInterface::kPath, kProperties, "Set"}, [&](sd_bus_message* call) {
-          sd_bus_message_append(call, "ssv", PlayersInterface::kPlayer, "Volume", "d", volume);
-        });
-  };
+  const auto set = [this](double volume) { return this->set("Volume", "d", volume); };
   EXPECT_EQ(set(0.5), "");
   EXPECT_EQ(media().volume(), 0.5F);
   EXPECT_EQ(set(-3), "");
@@ -163,6 +165,33 @@ TEST_F(APlayer, VolumeGoesBothWays) {
   EXPECT_EQ(media().volume(), 1.0F);
   EXPECT_EQ(set(std::nan("")), "");
   EXPECT_EQ(media().volume(), 1.0F);
+}
+
+TEST_F(APlayer, RepeatingAndShufflingGoBothWays) {
+  appear();
+  EXPECT_EQ(get("LoopStatus"), "\"None\"");
+  EXPECT_EQ(get("Shuffle"), "false");
+  set_repeat_mode(MPMusicRepeatModeOne);
+  set_shuffle_mode(MPMusicShuffleModeSongs);
+  EXPECT_THAT(signals(), ElementsAre("PropertiesChanged \"org.mpris.MediaPlayer2.Player\" "
+                                     "{\"LoopStatus\": \"Track\" \"Shuffle\": true} []"));
+  EXPECT_EQ(set("LoopStatus", "s", "Playlist"), "");
+  EXPECT_EQ(set("Shuffle", "b", 0), "");
+  EXPECT_EQ(repeat_mode(), MPMusicRepeatModeAll);
+  EXPECT_EQ(shuffle_mode(), MPMusicShuffleModeOff);
+  EXPECT_EQ(set("LoopStatus", "s", "Sometimes"), "error: org.freedesktop.DBus.Error.InvalidArgs");
+  EXPECT_EQ(get("LoopStatus"), "\"Playlist\"");
+}
+
+TEST_F(APlayer, ARepeatedSongIsAJumpToItsStart) {
+  appear();
+  set_repeat_mode(MPMusicRepeatModeOne);
+  play("Alpha");
+  signals();
+  advance(8.5);
+  const auto told = signals();
+  ASSERT_EQ(told.size(), 1u) << testing::PrintToString(told);
+  EXPECT_THAT(told[0], HasSubstr("Seeked"));
 }
 
 TEST_F(APlayer, SeeksWithinTheSongAndSaysSo) {
