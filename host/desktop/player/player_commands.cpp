@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "host/basics/ascii.h"
+#include "host/media/playable_path.h"
 #include "host/media_player/playback_state.h"
 #include "platform/MediaPlayer/MPMusicPlayerController.h"
 #include "platform/SpringBoard/SBMediaController.h"
@@ -84,18 +85,24 @@ void PlayerCommands::set_shuffles(bool shuffles) {
                    shuffles ? MPMusicShuffleModeSongs : MPMusicShuffleModeOff);
 }
 
-bool PlayerCommands::open(const std::string& address) {
-  const std::string path = path_in(address);
+std::string PlayerCommands::open(const std::string& address) {
+  const std::string named = path_in(address);
+  if (named.empty()) return address + " is not the address of a file";
+  const std::string reason = media::reason_not_to_play(named);
+  if (!reason.empty()) return named + " " + reason;
+  const std::string path = media::settled_path(named);
   media_player::MediaService& service = now_playing_.service();
-  const auto& library = service.items()->library();
-  const auto found = std::ranges::find(library.tracks(), std::string_view(path),
-                                       [](const media::Track& track) { return track.path; });
-  if (found == library.tracks().end()) return false;
+  const auto tracks = service.items()->library().tracks();
+  const auto found = std::ranges::find(tracks, std::string_view(path), &media::Track::path);
+  if (found == tracks.end()) {
+    service.play_files({path});
+    return {};
+  }
   const MPMediaItem item = service.items()->item_with_id(found->id);
   player().setQueueWithQuery(MPMediaQuery::alloc().init().autorelease());
   player().setNowPlayingItem(item);
   player().play();
-  return true;
+  return {};
 }
 
 }  // namespace host::desktop

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "host/basics/program_identity.h"
+#include "host/desktop/bus/bus_text.h"
 #include "host/desktop/player/metadata.h"
 #include "host/desktop/player/players_interface.h"
 #include "host/media/song_name.h"
@@ -106,9 +107,9 @@ struct PlayerTables::Handlers {
     const char* address = nullptr;
     const int result = sd_bus_message_read(call, "s", &address);
     if (result < 0) return result;
-    if (of(data).commands_.open(address)) return done(of(data), call);
-    return sd_bus_error_set(error, SD_BUS_ERROR_FILE_NOT_FOUND,
-                            "no song of the library has this address");
+    const std::string refusal = of(data).commands_.open(address);
+    if (refusal.empty()) return done(of(data), call);
+    return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, bus_text(refusal).c_str());
   }
 
   template <auto Command, class Value, char Type>

@@ -62,6 +62,12 @@ struct Row {
 
 TEST_F(Playerctl, EveryCommandDoesAndTellsWhatTheTableSays) {
   const std::string charlie = "open " + song_path("c.ogg");
+  host::media::SongTags tags;
+  tags.title = "X-ray";
+  media_tests::write_song(folder_ / "x ray.flac", tags, {}, 2);
+  media_tests::write_bytes(folder_ / "letter.txt", "no music");
+  const std::string xray = "open file://" + folder_.path() + "/x%20ray.flac";
+  const std::string letter = "open " + folder_.path() + "/letter.txt";
   const Row table[] = {
       {"-l", "sonavue", {}},
       {"status", "Stopped", {}},
@@ -99,7 +105,10 @@ TEST_F(Playerctl, EveryCommandDoesAndTellsWhatTheTableSays) {
       {"volume 3", "", {"PropertiesChanged {\"Volume\": 1} []"}},
       {"volume", "1.000000", {}},
       {charlie.c_str(), "", {"PropertiesChanged {\"PlaybackStatus\": \"Playing\" \"Charlie\"} []"}},
-      {"open file:///etc/passwd", "no song of the library has this address", {}},
+      {"open file:///etc/passwd", "/etc/passwd is not music of a kind that can be played", {}},
+      {letter.c_str(), "letter.txt is not music of a kind that can be played", {}},
+      {"open file:///nowhere.flac", "/nowhere.flac cannot be found", {}},
+      {"open https://example.org/song.mp3", "song.mp3 is not the address of a file", {}},
       {"loop", "None", {}},
       {"loop Track", "", {"PropertiesChanged {\"LoopStatus\": \"Track\"} []"}},
       {"loop", "Track", {}},
@@ -135,6 +144,9 @@ TEST_F(Playerctl, EveryCommandDoesAndTellsWhatTheTableSays) {
        "",
        {"PropertiesChanged {\"PlaybackStatus\": \"Playing\" \"Delta\" \"CanPause\": true "
         "\"CanSeek\": true} []"}},
+      {xray.c_str(), "", {"PropertiesChanged {\"X-ray\" \"CanGoPrevious\": false} []"}},
+      {"status", "Playing", {}},
+      {"metadata title", "X-ray", {}},
   };
   for (const Row& row : table) {
     SCOPED_TRACE(row.command);

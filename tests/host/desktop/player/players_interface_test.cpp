@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 #include "tests/support/caught_log.h"
 #include "tests/support/desktop_fixture.h"
 
@@ -231,7 +233,7 @@ TEST_F(APlayer, SeekingBeyondTheEndGoesToTheNextSong) {
   EXPECT_EQ(get("Position"), "0");
 }
 
-TEST_F(APlayer, OpensSongsOfTheLibrary) {
+TEST_F(APlayer, OpensFilesOfMusic) {
   appear();
   const auto open = [this](const std::string& address) {
     return call("OpenUri", [&](sd_bus_message* message) {
@@ -242,10 +244,16 @@ TEST_F(APlayer, OpensSongsOfTheLibrary) {
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Charlie");
   EXPECT_EQ(open("file://localhost" + song_path("%62.flac")), "");
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Bravo");
-  EXPECT_EQ(open("file:///etc/passwd"), "error: org.freedesktop.DBus.Error.FileNotFound");
-  EXPECT_EQ(open("https://example.org/x.mp3"), "error: org.freedesktop.DBus.Error.FileNotFound");
-  EXPECT_EQ(open(""), "error: org.freedesktop.DBus.Error.FileNotFound");
+  EXPECT_EQ(get("CanGoNext"), "true") << "the other songs of the library follow";
+  for (const char* const address :
+       {"file:///etc/passwd", "file:///dev/zero", "file:///gone%ff%0a.flac", "file:relative.flac",
+        "https://example.org/x.mp3", "\x01://", ""}) {
+    EXPECT_EQ(open(address), "error: org.freedesktop.DBus.Error.InvalidArgs") << address;
+  }
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Bravo");
+  std::filesystem::copy(song_path("d.flac"), folder_ / "e.flac");
+  EXPECT_EQ(open("file://" + folder_.path() + "/music/../e.flac"), "");
+  EXPECT_EQ(engine_path(), folder_ / "e.flac");
 }
 
 TEST_F(APlayer, OfTheSameNameIsAnInstance) {
