@@ -3,6 +3,8 @@
 #include <map>
 #include <mutex>
 
+#include "host/basics/user_warning.h"
+#include "host/files/read_file.h"
 #include "host/files/replace_file.h"
 #include "host/runtime/log.h"
 
@@ -47,6 +49,12 @@ Errors& errors_of_writing() {
   return *errors;
 }
 
+/// Without its folder, or with something else in its place, the disk is not what is wrong.
+void report(const std::string& path, const std::error_code& error) {
+  spdlog::error("{} cannot be written: {}", path, error.message());
+  if (!files::is_missing(error) && !files::is_no_file(error)) warn_user(kDiskWarning);
+}
+
 void log_replacement(const std::string& path, const files::Replacement& done) {
   if (done.kept.empty()) {
     spdlog::warn("{} could not be read ({}) and is replaced", path, done.unread.message());
@@ -62,7 +70,7 @@ std::error_code write_atomically(const std::string& path, std::string_view bytes
   const auto done = files::replace_file(path, bytes, errors_of_reading().of(path));
   const bool is_news = errors_of_writing().note(path, done.error);
   if (done.error) {
-    if (is_news) spdlog::error("{} cannot be written: {}", path, done.error.message());
+    if (is_news) report(path, done.error);
     return done.error;
   }
   if (done.unread) log_replacement(path, done);

@@ -9,12 +9,12 @@
 #include "host/home_screen/phone_mode.h"
 #include "host/home_screen/safe_mode_notice.h"
 #include "host/home_screen/supervised_processes.h"
-#include "host/media/log.h"
 #include "host/process/device_images.h"
 #include "host/runtime/hang_watch.h"
 #include "host/runtime/heap.h"
 #include "host/runtime/log.h"
 #include "host/runtime/patience.h"
+#include "host/runtime/user_warnings.h"
 #include "host/social/delivery/configuration.h"
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/status_bar/status_bar.h"
@@ -47,6 +47,12 @@ void configure_social(bool headless) {
 void start_gesture_service() {
   static const PhoneMode mode;
   activator::Service::restart(activator::Service::Role::HomeScreen, &mode);
+}
+
+/// Never destroyed, since the loop is not there at the end of the process.
+void show_user_warnings() {
+  [[maybe_unused]] static const auto* const warnings =
+      new UserWarnings(RunLoop::main(), &springboard::show_status_notice);
 }
 
 /// The loop does not turn yet, so the supervisor cannot notice an extension that hangs here.
@@ -84,7 +90,7 @@ bool launch_home_screen(const ProcessOptions& options) {
   springboard::configure(configuration);
   configure_social(options.headless);
   start_gesture_service();
-  if (!options.headless) media::set_user_warning(&springboard::show_status_notice);
+  if (!options.headless) show_user_warnings();
   if (!launch_music(options)) return false;
   if (!options.safe_mode) foundation::load_libraries(kBundleIdentifier, kHomeScreen);
   launch_application_watched();

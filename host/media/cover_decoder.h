@@ -8,8 +8,8 @@
 #include <thread>
 #include <vector>
 
+#include "host/basics/event_signal.h"
 #include "host/media/cover_file.h"
-#include "host/media/event_signal.h"
 
 namespace host::media {
 

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "host/basics/user_warning.h"
 #include "host/files/aside.h"
 #include "host/media/database.h"
 #include "host/media/log.h"
@@ -166,10 +167,11 @@ void Index::set_aside() {
 }
 
 void Index::work_in_memory(const std::string& reason) {
-  log_warning(
+  warn_user(
       fmt::format("the music index {} cannot be kept ({}); the music will be read again at the "
                   "next start",
-                  path_, reason));
+                  path_, reason),
+      kDiskWarning);
   store_ = IndexStore::in_memory;
   open({});
 }
@@ -222,10 +224,11 @@ bool Index::apply(const IndexChanges& changes) {
                        write(changes) && database_->execute("COMMIT") == DatabaseStatus::ok;
   if (is_kept) return true;
   if (!has_complained_) {
-    log_warning(
+    warn_user(
         fmt::format("the music index cannot be written ({}); the songs are available now, and "
                     "will be read again at the next start",
-                    database_->message()));
+                    database_->message()),
+        kDiskWarning);
     has_complained_ = true;
   }
   database_->execute("ROLLBACK");

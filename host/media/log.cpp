@@ -2,13 +2,9 @@
 
 #include <spdlog/spdlog.h>
 
+#include "host/basics/user_warning.h"
+
 namespace host::media {
-
-namespace {
-
-void (*tell_user)(std::string_view) = nullptr;
-
-}  // namespace
 
 void log_note(std::string_view text) {
   spdlog::info("media: {}", text);
@@ -20,11 +16,7 @@ void log_warning(std::string_view text) {
 
 void warn_user(std::string_view text, std::string_view few_words) {
   log_warning(text);
-  if (tell_user) tell_user(few_words);
-}
-
-void set_user_warning(void (*tell)(std::string_view)) {
-  tell_user = tell;
+  host::warn_user(few_words);
 }
 
 }  // namespace host::media

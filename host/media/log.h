@@ -11,7 +11,5 @@ void log_warning(std::string_view text);
 
 // A warning that the user must see, who is told in a few words.
 void warn_user(std::string_view text, std::string_view few_words);
-// Calls `tell` with these words; nullptr for no one. Without it they are only in the log.
-void set_user_warning(void (*tell)(std::string_view few_words));
 
 }  // namespace host::media

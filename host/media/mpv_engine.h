@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "host/media/event_signal.h"
+#include "host/basics/event_signal.h"
 
 struct mpv_handle;
 struct mpv_event;

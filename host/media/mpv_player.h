@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/media/event_signal.h"
+#include "host/basics/event_signal.h"
 #include "host/media/mpv_engine.h"
 #include "host/media/player.h"
 #include "host/media/reading_marks.h"

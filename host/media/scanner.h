@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "host/media/event_signal.h"
+#include "host/basics/event_signal.h"
 #include "host/media/scan.h"
 
 namespace host::media {

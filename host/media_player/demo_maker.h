@@ -5,8 +5,8 @@
 #include <string>
 #include <thread>
 
+#include "host/basics/event_signal.h"
 #include "host/demo_music/demo_library.h"
-#include "host/media/event_signal.h"
 #include "host/media_player/media_options.h"
 
 namespace host::media_player {
@@ -30,7 +30,7 @@ class DemoMaker {
  private:
   void run(const DemoMusic& demo, const std::stop_token& stop);
 
-  media::EventSignal signal_;
+  EventSignal signal_;
   std::mutex mutex_;
   News news_;
   std::jthread thread_;  // Last, so that it ends before what it uses.

@@ -40,6 +40,10 @@ void remove_contained(std::vector<std::string>& roots) {
   });
 }
 
+void report_missing_demo(const std::string& failure) {
+  media::warn_user("the demo music cannot be made: " + failure, "The demo music cannot be made");
+}
+
 }  // namespace
 
 LibraryFeed::LibraryFeed(const MediaOptions& options, Listener listener)
@@ -87,7 +91,7 @@ void LibraryFeed::make_demo_now() {
   if (!demo) return;
   const auto failure = media::make_demo_library(
       demo->folder, demo->covers, [this](media::DemoProgress progress) { report_demo(progress); });
-  if (failure) media::log_warning("the demo music cannot be made: " + *failure);
+  if (failure) report_missing_demo(*failure);
 }
 
 void LibraryFeed::scan_now() {
@@ -109,7 +113,7 @@ void LibraryFeed::receive_demo_news() {
   const DemoMaker::News news = demo_maker_->take_news();
   report_demo(news.progress);
   if (!news.is_over) return;
-  if (news.failure) media::log_warning("the demo music cannot be made: " + *news.failure);
+  if (news.failure) report_missing_demo(*news.failure);
   RunLoop::main().unwatch(std::exchange(demo_watch_, 0));
   demo_maker_.reset();
   start_scan();

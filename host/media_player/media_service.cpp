@@ -4,10 +4,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <ranges>
 #include <span>
 #include <utility>
 
+#include "host/basics/user_warning.h"
 #include "host/media/cloud_song.h"
 #include "host/media/log.h"
 #include "host/media/mpv_player.h"
@@ -39,12 +41,27 @@ std::shared_ptr<ItemStore> empty_store() {
   return std::make_shared<ItemStore>(media::Library::build({}));
 }
 
-void log_refusals(const std::vector<std::string>& refusals) {
+/// A file that the user has named, and why it is not played.
+struct Refusal {
+  std::string path;
+  std::string reason;
+};
+
+std::string in_few_words(const std::vector<Refusal>& refusals) {
+  if (refusals.size() > 1) return fmt::format("Cannot play {} files", refusals.size());
+  const std::string& path = refusals.front().path;
+  const std::string name = std::filesystem::path(path).filename();
+  return "Cannot play " + (name.empty() ? path : name);
+}
+
+void report(const std::vector<Refusal>& refusals) {
+  if (refusals.empty()) return;
   const std::size_t named = std::min(refusals.size(), kMostNamedFiles);
-  for (std::size_t i = 0; i < named; ++i)
-    media::log_warning(refusals[i]);
+  for (const auto& [path, reason] : std::span(refusals).first(named))
+    media::log_warning(fmt::format("{} {}", path, reason));
   if (const std::size_t others = refusals.size() - named)
     media::log_warning(fmt::format("{} more files cannot be played", others));
+  warn_user(in_few_words(refusals));
 }
 
 }  // namespace
@@ -141,13 +158,13 @@ MPMediaItem MediaService::now_playing_item() {
 }
 
 void MediaService::play_files(std::vector<std::string> paths) {
-  std::vector<std::string> refusals;
+  std::vector<Refusal> refusals;
   std::erase_if(paths, [&refusals](const std::string& path) {
     const std::string reason = media::reason_not_to_play(path);
-    if (!reason.empty()) refusals.push_back(fmt::format("{} {}", path, reason));
+    if (!reason.empty()) refusals.push_back({path, reason});
     return !reason.empty();
   });
-  log_refusals(refusals);
+  report(refusals);
   std::ranges::transform(paths, paths.begin(), &media::settled_path);
   const auto is_covered = [this](const std::string& path) { return feed_.covers(path); };
   if (std::ranges::all_of(paths, is_covered) && songs_at(paths, items_->library()).unknown.empty())
@@ -157,9 +174,10 @@ void MediaService::play_files(std::vector<std::string> paths) {
 
 void MediaService::play_found(const std::vector<std::string>& paths) {
   SongsAt found = songs_at(paths, items_->library());
-  for (std::string& path : found.unknown)
-    path += " holds no music that can be played";
-  log_refusals(found.unknown);
+  std::vector<Refusal> refusals;
+  for (const std::string& path : found.unknown)
+    refusals.push_back({path, "holds no music that can be played"});
+  report(refusals);
   if (found.songs.empty()) return;
   const std::uint64_t first = found.songs.front();
   playback_.set_queue(media::make_song_list(std::move(found.songs)));
@@ -262,8 +280,7 @@ void MediaService::save_playback() {
   const media::SongList& all = items_->library().songs();
   if (queue != all && *queue != *all) memory.queue = *queue;
   if (!write_playback(*memory_, memory)) {
-    media::warn_user("the playback state cannot be saved to " + memory_->path(),
-                     "The disk cannot be written");
+    media::log_warning("the playback state cannot be saved to " + memory_->path());
     memory_.reset();
   }
 }

@@ -1,3 +1,4 @@
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <functional>
@@ -98,6 +99,27 @@ TEST_F(DesktopWindow, TheKeyboardAloneOpensAnApplication) {
   for (const char* keys : {"Tab", "Right", "shift+Tab", "Return"})
     display.press(keys);
   EXPECT_TRUE(answers(phone, mode, R"("application")"));
+}
+
+TEST_F(DesktopWindow, ShowsInTheStatusBarThatTheDiskIsFullForAnApplication) {
+  DesktopDisplay display;
+  RunningPhone phone(in_a_window());
+  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_EQ(phone.ask("system open com.apple.Preferences"), "ok");
+  ASSERT_TRUE(answers(phone, "process Preferences", "ok"));
+  const std::string number = phone.ask("print [[NSProcessInfo processInfo] processIdentifier]");
+  ASSERT_GT(std::atoi(number.c_str()), 1) << number;
+  const rlimit nothing{0, 0};
+  ASSERT_EQ(prlimit(std::atoi(number.c_str()), RLIMIT_FSIZE, &nothing, nullptr), 0);
+  EXPECT_EQ(phone.ask("print [[[[PrefsMusicController alloc] init] autorelease] "
+                      "setShuffles:YES specifier:nil]"),
+            "void");
+  ASSERT_EQ(phone.ask("process SpringBoard"), "ok");
+  EXPECT_TRUE(answers(phone,
+                      "print [[[[[[UIApplication sharedApplication] windows] objectAtIndex:1] "
+                      "subviews] lastObject] text]",
+                      "\"The disk cannot be written\""));
+  EXPECT_EQ(phone.count_of_errors_with("com.apple.mobileipod.plist cannot be written"), 1);
 }
 
 TEST_F(DesktopWindow, FillsTheDisplayAndReturns) {

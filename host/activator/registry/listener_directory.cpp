@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "host/activator/event/strings.h"
+#include "host/basics/user_warning.h"
 #include "host/files/folder.h"
 #include "host/files/replace_file.h"
 #include "host/foundation/device_paths.h"
@@ -120,6 +121,7 @@ std::string ListenerDirectory::keep_icon(const std::string& listener, UIImage ic
   const auto error = write_png(place, image->surface().get());
   if (!error) return path;
   spdlog::warn("the icon of gesture listener {} could not be kept: {}", listener, error.message());
+  warn_user(kDiskWarning);
   return {};
 }
 

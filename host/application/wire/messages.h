@@ -229,11 +229,20 @@ struct TextInputIs {
   }
 };
 
+/// The user must be told of a failure, in these words.
+struct UserWarning {
+  std::string few_words;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(few_words);
+  }
+};
+
 // A message's kind on the wire is its index in these lists.
 using ToApplication =
     std::variant<Hello, FingerChange, TypedText, ComposedText, PressedKey, Visibility, TimeIs,
                  ConsoleLine, Ping, FrameTaken, PlaybackIs, WheelTurn, ScreenPixels, FocusEnds>;
-using ToHome =
-    std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer, TextInputIs>;
+using ToHome = std::variant<NewFrame, ReachedTime, ConsoleAnswer, Pong, Closing, SteerPlayer,
+                            TextInputIs, UserWarning>;
 
 }  // namespace host::application

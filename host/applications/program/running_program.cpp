@@ -34,7 +34,10 @@ RunningProgram::RunningProgram(HomeLink& link, RunLoop& loop, SteppedClock* step
       screen_([this](const NewFrame& frame) { link_.send(frame); }),
       phone_screen_(loop, screen_),
       session_(phone_, globals),
-      turns_(loop.add_turn_observer(kAfterDrawing, [this] { report_text_input(); })) {
+      turns_(loop.add_turn_observer(kAfterDrawing, [this] { report_text_input(); })),
+      warnings_(loop, [this](const std::string& few_words) {
+        link_.send(UserWarning{few_words.substr(0, kLongestText)});
+      }) {
   PlayerRemote::shared().send = [this](const SteerPlayer& command) { link_.send(command); };
 }
 

@@ -9,6 +9,7 @@
 #include "host/console/session.h"
 #include "host/process/phone_screen.h"
 #include "host/runtime/run_loop.h"
+#include "host/runtime/user_warnings.h"
 #include "host/uikit/touch/touch_input.h"
 
 namespace host::application {
@@ -60,6 +61,7 @@ class RunningProgram {
   std::optional<RunLoop::Id> message_watch_;
   std::optional<RunLoop::Id> home_watch_;
   RunLoop::Id turns_;
+  UserWarnings warnings_;
   /// The caret that the home screen knows of.
   std::optional<CGRect> reported_caret_;
   /// How far this clock is ahead of the home screen's, which starts again with a restart.

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/basics/user_warning.h"
 #include "host/files/folder.h"
 #include "host/files/new_file.h"
 #include "host/media/picture.h"
@@ -76,8 +77,9 @@ bool CoverFiles::write(std::uint64_t key, const media::Picture& picture) {
     remove_oldest();
     return true;
   }
-  if (!std::exchange(has_complained_, true))
-    spdlog::warn("covers cannot be written to {}: other programs show songs without them", folder_);
+  if (std::exchange(has_complained_, true)) return false;
+  spdlog::warn("covers cannot be written to {}: other programs show songs without them", folder_);
+  warn_user(kDiskWarning);
   return false;
 }
 

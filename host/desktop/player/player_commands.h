@@ -29,8 +29,9 @@ class PlayerCommands {
   void set_rate(double rate);
   void set_repeat(media::Repeat repeat);
   void set_shuffles(bool shuffles);
-  /// Plays a file or folder by its address: a song of the library with the others after it, anything
-  /// else as if it were dropped on the window. Returns why it cannot be played, or nothing.
+  /// Plays a file or folder by its address: a song of the library with the others after it,
+  /// anything else as if it were dropped on the window. Returns why it cannot be played, or
+  /// nothing.
   std::string open(const std::string& address);
 
  private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "host/basics/user_warning.h"
 #include "host/files/folder.h"
 #include "host/files/new_file.h"
 #include "host/runtime/log.h"
@@ -39,6 +40,7 @@ Outbox::Result Outbox::put(std::string_view kind, std::string_view text) const {
   const auto failed = [&](const std::string& reason) {
     const std::string problem = folder_.string() + ": " + reason;
     spdlog::error("a text could not be put into the outbox: {}", problem);
+    warn_user("The text could not be kept");
     return Result{{}, problem};
   };
   std::error_code error = files::make_folders(folder_);

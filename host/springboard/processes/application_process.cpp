@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "host/basics/user_warning.h"
 #include "host/quartzcore/layers/screen_density.h"
 #include "host/runtime/device_model.h"
 
@@ -215,6 +216,10 @@ void ApplicationProcess::take(const SteerPlayer& command) {
 void ApplicationProcess::take(const TextInputIs& input) {
   caret_.reset();
   if (input.takes_text) caret_ = CGRect(input.x, input.y, input.width, input.height);
+}
+
+void ApplicationProcess::take(const UserWarning& warning) {
+  warn_user(warning.few_words);
 }
 
 void ApplicationProcess::end(ProcessEnd reason) {

@@ -83,6 +83,7 @@ class ApplicationProcess {
   void take(const application::Closing&) { end(ProcessEnd::Ended); }
   void take(const application::SteerPlayer& command);
   void take(const application::TextInputIs& input);
+  void take(const application::UserWarning& warning);
 
   double patience() const { return has_answered_ ? kPatience : kFirstPatience; }
 

@@ -10,9 +10,11 @@
 #include "host/files/new_file.h"
 #include "platform/Foundation/NSData.h"
 #include "platform/Foundation/NSDictionary.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/host_test.h"
 #include "tests/support/no_descriptors.h"
 #include "tests/support/ordinary_user.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -57,6 +59,20 @@ TEST_F(AtomicWrites, ANewFileHasDefaultPermissionsAndLeavesNoOther) {
   EXPECT_EQ(content(), "one");
   EXPECT_EQ(permissions(), 0640u);
   EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
+}
+
+TEST_F(AtomicWrites, TheUserIsToldOfAFullDiskAndOfNoOtherFailure) {
+  const host::test::ToldUser user;
+  EXPECT_TRUE(write_atomically(folder / "missing/settings.plist", "one"));
+  EXPECT_TRUE(write_atomically(folder, "one"));
+  EXPECT_THAT(user.words(), testing::IsEmpty());
+  {
+    const FullDisk full(1);
+    EXPECT_TRUE(write_atomically(path, "two"));
+    EXPECT_TRUE(write_atomically(path, "three"));
+  }
+  EXPECT_THAT(user.words(), testing::ElementsAre(host::kDiskWarning)) << "as often as the log";
+  EXPECT_FALSE(write_atomically(path, "four"));
 }
 
 TEST_F(AtomicWrites, AReplacedFileKeepsItsPermissions) {

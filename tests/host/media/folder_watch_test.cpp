@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/media/event_signal.h"
+#include "host/basics/event_signal.h"
 #include "host/media/scan.h"
 #include "host/media/scan_pace.h"
 #include "tests/support/media_fixtures.h"
@@ -205,13 +205,13 @@ TEST_F(WatchingFolders, AScanIsDueNowAndThenWhereNotAllFoldersCanBeWatched) {
   EXPECT_EQ(scan(), 1u);
   write_tone(at("album/b.wav"), 0.01);
   EXPECT_FALSE(few.take_changes());
-  const EventSignal never;
+  const host::EventSignal never;
   ScanPace{never.descriptor(), &few, ScanPace::Milliseconds{1}}.wait({});
   EXPECT_EQ(scan(), 2u);
 }
 
 TEST_F(WatchingFolders, AScanIsDueWhenTheChangesHaveSettledOrWaitingIsToEnd) {
-  EventSignal wake;
+  host::EventSignal wake;
   ScanPace pace{wake.descriptor(), &watch_};
   write_tone(at("album/b.wav"), 0.01);
   pace.wait({});

@@ -5,10 +5,10 @@
 
 #include <filesystem>
 
-#include "host/media/log.h"
 #include "host/media/mpv_player.h"
 #include "host/media/queue_player.h"
 #include "tests/support/media_fixtures.h"
+#include "tests/support/told_user.h"
 
 using namespace host::media;
 using namespace media_tests;
@@ -154,15 +154,12 @@ TEST_F(SteppedQueue, NextAndPreviousChangeWhatTheEnginePlays) {
   EXPECT_EQ(queue_->state(), PlaybackState::stopped);
 }
 
-std::string told;
-
 TEST_F(SteppedQueue, TheUserIsToldOfASongThatCannotBePlayed) {
-  set_user_warning([](std::string_view words) { told = words; });
+  const host::test::ToldUser user;
   queue_->set_queue(make_song_list({4, 9, 2}));
   queue_->play();
   step(0);
-  set_user_warning(nullptr);
-  EXPECT_EQ(told, "Cannot play 4.flac");
+  EXPECT_THAT(user.words(), ElementsAre("Cannot play 4.flac"));
 }
 
 TEST_F(SteppedQueue, ASongThatCannotBePlayedIsSkipped) {

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "tests/support/media_fixtures.h"
+#include "tests/support/told_user.h"
 
 using namespace host::media;
 using namespace media_tests;
@@ -315,10 +316,12 @@ TEST_F(Scanning, AFullDiskLosesNoSongAndSaysSoOnce) {
   }
   constexpr std::int64_t pages_for_the_tables_only = 8;
   const CapturedLog log;
+  const host::test::ToldUser user;
   Index index{index_path(), pages_for_the_tables_only};
   EXPECT_EQ(scan(index).library->tracks().size(), 60u);
   EXPECT_EQ(scan(index).library->tracks().size(), 60u);
   EXPECT_EQ(log.count("cannot be written"), 1);
+  EXPECT_THAT(user.words(), testing::ElementsAre(host::kDiskWarning));
   EXPECT_FALSE(fs::exists(index_path() + ".damaged"));
 }
 
@@ -326,8 +329,10 @@ TEST_F(Scanning, AnIndexThatCannotBeMadeWorksInMemory) {
   write_song(at("a.flac"), titled("A"));
   fs::create_directories(index_path());
   const CapturedLog log;
+  const host::test::ToldUser user;
   Index index{index_path()};
   EXPECT_EQ(index.store(), IndexStore::in_memory);
+  EXPECT_THAT(user.words(), testing::ElementsAre(host::kDiskWarning));
   EXPECT_EQ(only(scan(index)).title, "A");
   EXPECT_EQ(scan(index).progress.read, 0u);
   EXPECT_EQ(log.count("cannot be kept"), 1);

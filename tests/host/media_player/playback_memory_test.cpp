@@ -7,6 +7,7 @@
 #include "tests/host/media_player/media_player_test.h"
 #include "tests/support/full_disk.h"
 #include "tests/support/ordinary_user.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -155,12 +156,14 @@ TEST_F(PlaybackMemory, AnUnreadableFileIsNotReplaced) {
 TEST_F(PlaybackMemory, AFullDiskIsReportedOnce) {
   start();
   media_tests::CapturedLog log;
+  const host::test::ToldUser user;
   const FullDisk disk(1);
   for (const char* song : {"Bravo", "Charlie"}) {
     play(song);
     advance(1);
   }
   EXPECT_EQ(log.count("the playback state cannot be saved"), 1);
+  EXPECT_THAT(user.words(), testing::ElementsAre(host::kDiskWarning));
 }
 
 TEST_F(PlaybackMemory, ADamagedFileDoesNotKeepTheMusicFromPlaying) {

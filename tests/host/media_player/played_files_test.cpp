@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "tests/host/media_player/media_player_test.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -79,6 +80,15 @@ TEST_F(PlayedFiles, ASongAndThenItsFolderAreInTheLibraryOnce) {
   play_files({outside("album")});
   EXPECT_EQ(title(), "Yankee");
   EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta", "Yankee", "Zulu"));
+}
+
+TEST_F(PlayedFiles, TheUserIsToldWhatIsNotPlayed) {
+  const host::test::ToldUser user;
+  play_files({outside("letter.txt")});
+  play_files({outside("broken.flac"), song_path("a.flac")});
+  play_files({outside("letter.txt"), outside("gone.flac")});
+  EXPECT_THAT(user.words(), ElementsAre("Cannot play letter.txt", "Cannot play broken.flac",
+                                        "Cannot play 2 files"));
 }
 
 TEST_F(PlayedFiles, WhatIsNoMusicIsNamedInALineEachAndTheOthersPlay) {

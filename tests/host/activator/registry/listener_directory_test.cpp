@@ -5,6 +5,8 @@
 #include <filesystem>
 
 #include "tests/host/activator/support/service_test.h"
+#include "tests/support/full_disk.h"
+#include "tests/support/told_user.h"
 
 namespace host::test {
 namespace {
@@ -43,6 +45,13 @@ TEST_F(Directories, ShareListenersAnswersWithOtherProcesses) {
   EXPECT_FALSE(record.admits("springboard"));
   const UIImage icon = UIImage::imageWithContentsOfFile(to_ns(record.icon));
   EXPECT_EQ(icon.size(), (CGSize{10, 5}));
+}
+
+TEST_F(Directories, TellTheUserOfAnIconThatCannotBeKept) {
+  const host::test::ToldUser user;
+  const FullDisk full(1);
+  EXPECT_EQ(ListenerDirectory().keep_icon("a", picture()), "");
+  EXPECT_THAT(user.words(), testing::ElementsAre(kDiskWarning));
 }
 
 TEST_F(Directories, ReplaceAnIconAtOnce) {

@@ -8,6 +8,7 @@
 #include "tests/support/host_test.h"
 #include "tests/support/media_fixtures.h"
 #include "tests/support/private_bus.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -84,9 +85,11 @@ TEST_F(ACoverFile, IsOneOfTheLatest) {
 
 TEST_F(ACoverFile, ThatCannotBeWrittenIsSaidOnce) {
   media_tests::write_bytes(made(), "a file in the folder's place");
+  const host::test::ToldUser user;
   CoverFiles covers(loop, made());
   EXPECT_EQ(file_of(covers, cover(1)), "");
   EXPECT_EQ(file_of(covers, cover(2)), "");
+  EXPECT_THAT(user.words(), testing::ElementsAre(host::kDiskWarning));
   const std::string said = log_.take();
   EXPECT_THAT(said, HasSubstr("covers cannot be written to " + made()));
   EXPECT_EQ(std::ranges::count(said, '\n'), 1);

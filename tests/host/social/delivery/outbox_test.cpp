@@ -10,6 +10,7 @@
 
 #include "tests/support/full_disk.h"
 #include "tests/support/media_fixtures.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -81,6 +82,7 @@ TEST(Outbox, KeepsTextsByteForByteAndPrivate) {
 TEST(Outbox, OnAFullDiskReportsItOnceAndLeavesNoPartialFile) {
   const TemporaryFolder folder;
   const CapturedLog log;
+  const host::test::ToldUser user;
   Outbox::Result result;
   {
     const FullDisk full(100);
@@ -90,6 +92,7 @@ TEST(Outbox, OnAFullDiskReportsItOnceAndLeavesNoPartialFile) {
   EXPECT_NE(result.problem.find(folder.path()), std::string::npos);
   EXPECT_EQ(log.count(""), 1);
   EXPECT_EQ(log.count("outbox"), 1);
+  EXPECT_EQ(user.words(), std::vector<std::string>{"The text could not be kept"});
   EXPECT_EQ(files_in(folder.path()), 0u);
   EXPECT_TRUE(Outbox(folder.path()).put("share", "room again"));
 }

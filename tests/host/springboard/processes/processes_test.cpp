@@ -15,6 +15,7 @@
 #include "platform/SpringBoard/SBUIController.h"
 #include "tests/support/media_fixtures.h"
 #include "tests/support/phone_fixture.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -245,6 +246,15 @@ TEST_F(ProcessesTest, OneThatSendsInvalidMessagesIsClosed) {
     EXPECT_EQ(shown_now(), Shown::HomeScreen);
     end();
   }
+}
+
+TEST_F(ProcessesTest, WhatTheUserOfOneMustKnowIsTold) {
+  const host::test::ToldUser user;
+  launch_with("warn");
+  open_music();
+  EXPECT_TRUE(comes_true([&] { return !user.words().empty(); }));
+  EXPECT_EQ(user.words(), std::vector<std::string>{std::string(kDiskWarning)});
+  EXPECT_TRUE(music());
 }
 
 TEST_F(ProcessesTest, OneThatFloodsIsReadALittleAtATimeAndThenClosed) {
