@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/basics/markup.h"
 #include "host/basics/utf16.h"
 #include "host/property_list/builder.h"
 #include "host/property_list/encoding.h"
@@ -35,22 +36,6 @@ std::string utf8_of(NSString text) {
   std::string bytes;
   utf16::append_utf8(bytes, units);
   return bytes;
-}
-
-std::string escaped(std::string_view text) {
-  std::string xml;
-  for (const char c : text) {
-    if (c == '<') {
-      xml += "&lt;";
-    } else if (c == '>') {
-      xml += "&gt;";
-    } else if (c == '&') {
-      xml += "&amp;";
-    } else {
-      xml += c;
-    }
-  }
-  return xml;
 }
 
 /// The four digits of a year are all that readers know.
@@ -93,7 +78,7 @@ class XmlWriter {
     const auto is = [&](objc::Class cls) { return cls && object.isKindOfClass(cls); };
     if (++count_ > kMostObjects || xml_.size() > kLargestList || !object) return false;
     if (is(NSString::cls())) {
-      element("string", escaped(utf8_of(objc::cast<NSString>(object))));
+      element("string", as_markup(utf8_of(objc::cast<NSString>(object))));
     } else if (is(NSNumber::cls())) {
       number(objc::cast<NSNumber>(object));
     } else if (is(NSData::cls())) {
@@ -142,7 +127,7 @@ class XmlWriter {
     if (!enter("<dict>")) return false;
     for (const auto& [key, object] : entries) {
       ++count_;
-      element("key", escaped(key));
+      element("key", as_markup(key));
       if (!value(objc::cast<NSObject>(object))) return false;
     }
     leave("</dict>");

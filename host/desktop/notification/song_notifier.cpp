@@ -3,6 +3,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/basics/markup.h"
 #include "host/basics/program_identity.h"
 #include "host/runtime/log.h"
 
@@ -14,22 +15,6 @@ constexpr const char* kPath = "/org/freedesktop/Notifications";
 constexpr const char* kClick = "default";
 constexpr std::uint8_t kLowUrgency = 0;
 constexpr int kUsualTime = -1;
-
-std::string escaped(std::string_view text) {
-  std::string made;
-  for (const char sign : text) {
-    if (sign == '&') {
-      made += "&amp;";
-    } else if (sign == '<') {
-      made += "&lt;";
-    } else if (sign == '>') {
-      made += "&gt;";
-    } else {
-      made += sign;
-    }
-  }
-  return made;
-}
 
 std::string body_of(const SongFacts& song) {
   if (song.artist.empty() || song.album.empty()) return song.artist + song.album;
@@ -105,7 +90,7 @@ void SongNotifier::notify(const Abilities& abilities) {
   const auto fill = [&](sd_bus_message* call) {
     const std::string body = body_of(song);
     sd_bus_message_append(call, "susss", kProgramName, number_, kDesktopEntry, song.title.c_str(),
-                          abilities.has_markup ? escaped(body).c_str() : body.c_str());
+                          abilities.has_markup ? as_markup(body).c_str() : body.c_str());
     if (has_click) {
       sd_bus_message_append(call, "as", 2, kClick, "Show");
     } else {
