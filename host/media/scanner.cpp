@@ -94,10 +94,9 @@ void Scanner::scan(Index& index, const std::stop_token& stop) {
 
 void Scanner::publish(ScanUpdate update) {
   const std::lock_guard lock{mutex_};
-  // A newer count replaces one that has not been taken, so a busy screen never works through a
-  // backlog.
-  const bool is_count = update.stage == ScanStage::reading;
-  if (is_count && !updates_.empty() && updates_.back().stage == ScanStage::reading) {
+  // A newer count or library replaces one that has not been taken, so a busy screen never works
+  // through a backlog, and old libraries take no memory.
+  if (!updates_.empty() && updates_.back().stage == update.stage) {
     updates_.back() = std::move(update);
   } else {
     updates_.push_back(std::move(update));

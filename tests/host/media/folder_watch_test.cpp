@@ -199,6 +199,27 @@ TEST_F(WatchingFolders, MoreChangesThanAreReportedCountAsOneAndAreSaidOnce) {
   EXPECT_EQ(log.count("more changes"), 1);
 }
 
+TEST_F(WatchingFolders, AFloodOfChangesIsReadInAFewCallsAndFoundByOneScan) {
+  constexpr int changes = 100'000;
+  const CapturedLog log;
+  const auto folders = watch_.count();
+  for (int i = 0; i < changes; ++i) {
+    const bool is_there = i % 2 == 0;
+    ASSERT_EQ(::rename(at(is_there ? "album/a.wav" : "album/b.wav").c_str(),
+                       at(is_there ? "album/b.wav" : "album/a.wav").c_str()),
+              0);
+  }
+  int calls = 0;
+  for (; !is_quiet() && calls < 100; ++calls)
+    EXPECT_TRUE(has_changed());
+  // The system keeps a part of them, and a call reads a megabyte.
+  EXPECT_LE(calls, 2);
+  EXPECT_EQ(log.count("more changes"), 1);
+  EXPECT_EQ(scan(), 1u);
+  EXPECT_EQ(watch_.count(), folders);
+  EXPECT_TRUE(is_quiet());
+}
+
 TEST_F(WatchingFolders, AScanIsDueNowAndThenWhereNotAllFoldersCanBeWatched) {
   FolderWatch few{1};
   kept_.watch = &few;

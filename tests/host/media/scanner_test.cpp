@@ -3,10 +3,15 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 
+#include <filesystem>
+#include <thread>
+
 #include "tests/support/media_fixtures.h"
 
 using namespace host::media;
 using namespace media_tests;
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -95,6 +100,32 @@ TEST(Scanner, ReadsAnIndexThatAnotherHasChanged) {
   EXPECT_EQ(updates_until_finished(scanner).back().library->tracks().size(), 2u);
   reader.request({});
   EXPECT_EQ(updates_until_finished(reader).back().library->tracks().size(), 2u);
+}
+
+TEST(Scanner, OnlyTheLatestLibraryWaitsForAMainLoopThatIsBusy) {
+  const TemporaryFolder folder;
+  const std::string index = folder / "state/music.db";
+  fs::create_directories(folder / "music");
+  Scanner scanner{index};
+  constexpr std::size_t scans = 4;
+  for (std::size_t songs = 1; songs <= scans; ++songs) {
+    write_tone(folder / ("music/" + std::to_string(songs) + ".wav"), 0.01);
+    scanner.request({folder / "music"});
+    // The index is written before the library is passed on.
+    while (Index{index}.load().songs.size() != songs)
+      std::this_thread::yield();
+  }
+  std::size_t libraries = 0;
+  std::size_t songs = 0;
+  while (songs != scans && becomes_readable(scanner.descriptor(), 20'000)) {
+    while (const auto update = scanner.take_update()) {
+      if (update->stage != ScanStage::finished) continue;
+      ++libraries;
+      songs = update->library->tracks().size();
+    }
+  }
+  EXPECT_EQ(songs, scans);
+  EXPECT_LE(libraries, 2u) << "the last one may come while the others are taken";
 }
 
 TEST(Scanner, StopsARunningScanWhenDestroyed) {
