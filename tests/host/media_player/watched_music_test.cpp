@@ -159,6 +159,40 @@ TEST_F(WatchedMusic, AmongThousandsOfSongsChangesAreNoticed) {
   EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Bravo");
 }
 
+TEST_F(WatchedMusic, AFloodOfChangesLeavesTheLoopFreeAndIsAFewScans) {
+  constexpr std::uint64_t kChanges = 100'000;
+  start_and_play();
+  write_tiny("flood.wav", 1);
+  ASSERT_TRUE(waits_until_it_has("flood"));
+  const std::uint64_t before = MediaService::current()->library_number();
+  std::uint64_t last = before;
+  std::uint64_t turns = 0;
+  std::uint64_t most_in_a_turn = 0;
+  const auto counter = loop.add_turn_observer(0, [&] {
+    const std::uint64_t now = MediaService::current()->library_number();
+    most_in_a_turn = std::max(most_in_a_turn, now - std::exchange(last, now));
+  });
+  std::atomic<std::uint64_t> changes = 0;
+  std::jthread flood([this, &changes] {
+    const std::string names[] = {song_path("flood.wav"), song_path("ebb.wav")};
+    for (; changes < kChanges; ++changes)
+      fs::rename(names[changes % 2], names[(changes + 1) % 2]);
+    media_tests::write_bytes(song_path("last.wav"), tiny_song(2));
+  });
+  EXPECT_TRUE(waits_for([&] {
+    ++turns;
+    return changes == kChanges;
+  }));
+  EXPECT_TRUE(waits_until_it_has("last"));
+  EXPECT_TRUE(waits_for_songs(6));
+  loop.remove_turn_observer(counter);
+  EXPECT_LE(most_in_a_turn, 1u);
+  EXPECT_GT(turns, last - before) << "the loop turned between the scans";
+  EXPECT_LT(last - before, kChanges / 1000);
+  EXPECT_TRUE(is_playing());
+  EXPECT_EQ(playing(MPMediaItemPropertyTitle), "Bravo");
+}
+
 TEST_F(WatchedMusic, AStormOfChangesIsAFewScansAndTheLastOneIsRight) {
   constexpr std::uint32_t kChanges = 40'000;
   start_and_play();

@@ -1,7 +1,10 @@
 
+#include "host/foundation/device_paths.h"
 #include "host/launcher/control_socket.h"
 #include "host/launcher/running_applications.h"
 #include "host/launcher/unix_socket.h"
+#include "host/media_player/exports.h"
+#include "host/media_player/media_service.h"
 #include "host/process/phone_screen.h"
 #include "host/quartzcore/layers/screen_density.h"
 #include "host/springboard/common/configuration.h"
@@ -255,6 +258,27 @@ TEST_F(ProcessesTest, WhatTheUserOfOneMustKnowIsTold) {
   EXPECT_TRUE(comes_true([&] { return !user.words().empty(); }));
   EXPECT_EQ(user.words(), std::vector<std::string>{std::string(kDiskWarning)});
   EXPECT_TRUE(music());
+}
+
+TEST_F(ProcessesTest, OneThatHasChangedTheSettingsOfMusicIsHeard) {
+  using media_player::MediaService;
+  foundation::set_device_root(device);
+  media_player::export_media_player();
+  media_player::export_media_controller();
+  media_player::MediaOptions options;
+  options.index_path = device / "index.db";
+  options.pace = media::PlayerPace::stepped;
+  options.audio_output = "null";
+  ASSERT_FALSE(MediaService::start(options));
+  media_player::MusicChoices chosen;
+  chosen.repeat = media::Repeat::all;
+  ASSERT_TRUE(media_player::write_music_choices(chosen));
+  launch_with("choose");
+  EXPECT_NE(MediaService::current()->choices(), chosen);
+  open_music();
+  EXPECT_TRUE(comes_true([&] { return MediaService::current()->choices() == chosen; }));
+  MediaService::stop();
+  foundation::set_device_root("");
 }
 
 TEST_F(ProcessesTest, OneThatFloodsIsReadALittleAtATimeAndThenClosed) {

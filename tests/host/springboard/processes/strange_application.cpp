@@ -57,6 +57,7 @@ void misbehave(const std::string& behaviour, Channel& channel, SharedSurface& su
     std::exit(0);
   }
   if (behaviour == "warn") send(channel, UserWarning{"The disk cannot be written"});
+  if (behaviour == "choose") send(channel, SteerPlayer{PlayerCommand::ReadChoices, 0, 0});
   if (behaviour == "garbage") channel.send("\xFF\xFF\xFF\xFFgarbage", Channel::Patience::Waits);
   if (behaviour == "bad-buffer") send(channel, NewFrame{7, 1, 1, 0, 0, 1, 1});
   if (behaviour == "bad-size") send(channel, NewFrame{0, 1, 100000, 0, 0, 1, 1});
