@@ -41,8 +41,10 @@ void TableCell::refresh(PSSpecifier specifier) {
   self.textLabel().setText(specifier.name());
   const auto icon = objc::cast<UIImage>(specifier.propertyForKey("iconImage"_ns));
   if (icon || self.imageView().image()) self.imageView().setImage(icon);
-  self.setAccessoryType(leads_on(type) ? UITableViewCellAccessoryDisclosureIndicator
-                                       : UITableViewCellAccessoryNone);
+  // The mark of an item belongs to its list.
+  if (type != kListItemCell)
+    self.setAccessoryType(leads_on(type) ? UITableViewCellAccessoryDisclosureIndicator
+                                         : UITableViewCellAccessoryNone);
   self.textLabel().setTextColor(type == kButtonCell ? self.tintColor() : UIColor::blackColor());
   const bool answers = leads_on(type) || type == kButtonCell || type == kListItemCell;
   self.setSelectionStyle(answers ? UITableViewCellSelectionStyleDefault

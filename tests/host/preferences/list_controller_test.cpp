@@ -63,6 +63,11 @@ TEST_F(ListControllerTest, AListOpensItsItemsAndStoresTheChoice) {
   advance(1);
   EXPECT_EQ(shown(), pane);
   EXPECT_STREQ(cell(0, kLooks).detailTextLabel().text().UTF8String(), "Blue");
+  tap_row(0, kLooks);
+  EXPECT_EQ(cell(2, 0).accessoryType(), UITableViewCellAccessoryCheckmark);
+  EXPECT_EQ(cell(0, 0).accessoryType(), UITableViewCellAccessoryNone);
+  tap(kBack);
+  advance(1);
   EXPECT_FALSE(pane.table().indexPathForSelectedRow());
 }
 
