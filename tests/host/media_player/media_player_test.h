@@ -1,5 +1,7 @@
 #pragma once
 
+#include <poll.h>
+
 #include <string>
 #include <vector>
 
@@ -28,6 +30,19 @@ class MediaPlayerTest : public HostTest {
   MPMediaItem item(const char* title) const;
   void play(const char* title) const;
   void add_song(const std::string& file, const char* title) const;
+
+  /// Runs the loop until the condition is true, for at most a minute.
+  template <class Condition>
+  bool waits_for(Condition condition) {
+    constexpr int kLongestWait = 60'000;  // in milliseconds
+    constexpr int kPause = 10;
+    for (int waited = 0; !condition() && waited < kLongestWait; waited += kPause) {
+      pollfd pause{-1, 0, 0};
+      ::poll(&pause, 1, kPause);
+      loop.run_ready();
+    }
+    return condition();
+  }
 
   SBMediaController media() const { return SBMediaController::sharedInstance(); }
   MPMusicPlayerController player() const { return MPMusicPlayerController::iPodMusicPlayer(); }

@@ -1,11 +1,11 @@
 #include <gmock/gmock.h>
-#include <poll.h>
 
 #include <algorithm>
 #include <filesystem>
 
 #include "host/media_player/demo_maker.h"
 #include "tests/host/media_player/media_player_test.h"
+#include "tests/support/told_user.h"
 
 namespace {
 
@@ -16,8 +16,6 @@ using host::media_player::MediaService;
 using host::test::titles;
 using testing::Contains;
 using testing::ElementsAre;
-
-constexpr int kLongestWaitMilliseconds = 60'000;
 
 // The library while its files are scanned in the background; the test waits for updates as the
 // screen does.
@@ -35,12 +33,7 @@ class RealTimeMusic : public host::test::MediaPlayerTest {
   }
 
   void wait_until_ready() {
-    for (int waited = 0; !is_ready() && waited < kLongestWaitMilliseconds; waited += 10) {
-      pollfd pause{-1, 0, 0};
-      ::poll(&pause, 1, 10);
-      loop.run_ready();
-    }
-    ASSERT_TRUE(is_ready());
+    ASSERT_TRUE(waits_for([this] { return is_ready(); }));
   }
 
   std::vector<std::string> songs() const { return titles(query_->items()); }
@@ -64,6 +57,33 @@ TEST_F(RealTimeMusic, TheLastScanIsAvailableAtOnceAndNewSongsFollow) {
   EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
   wait_until_ready();
   EXPECT_THAT(songs(), Contains("Echo"));
+}
+
+class CountedJumps final : public host::media_player::MediaObserver {
+ public:
+  void media_did_change() override {}
+  void media_did_jump() override { ++jumps; }
+  int jumps = 0;
+};
+
+TEST_F(RealTimeMusic, ARepeatedSongFollowsItselfInTheEngine) {
+  ASSERT_FALSE(MediaService::start(beside()));
+  wait_until_ready();
+  set_repeat_mode(MPMusicRepeatModeOne);
+  play("Alpha");
+  const host::media_player::Playback& playback = MediaService::current()->playback();
+  ASSERT_TRUE(waits_for([&] { return playback.duration() > 0; }));
+  CountedJumps counted;
+  for (int round = 0; round < 2; ++round) {
+    player().setCurrentPlaybackTime(playback.duration() - 0.3);
+    MediaService::current()->add_observer(counted);
+    EXPECT_TRUE(waits_for([&] { return counted.jumps > round; }));
+    MediaService::current()->remove_observer(counted);
+    EXPECT_TRUE(waits_for([&] { return playback.position() < 2 && playback.duration() > 0; }));
+    EXPECT_EQ(engine_path(), song_path("a.flac"));
+    EXPECT_FALSE(is_engine_paused());
+  }
+  EXPECT_EQ(counted.jumps, 2);
 }
 
 TEST_F(RealTimeMusic, TheDemoMusicIsMadeOnceAndItsProgressIsReported) {
@@ -91,9 +111,11 @@ TEST_F(RealTimeMusic, DemoMusicThatHasNoPlaceIsSaidAndThePhoneStarts) {
   std::filesystem::create_symlink("loop", folder_ / "loop");
   options.demo = {folder_ / "loop/demo-music", folder_ / "no-covers"};
   const media_tests::CapturedLog log;
+  const host::test::ToldUser user;
   ASSERT_FALSE(MediaService::start(options));
   wait_until_ready();
   EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
+  EXPECT_THAT(user.words(), ElementsAre("The demo music cannot be made"));
   EXPECT_EQ(log.count("the demo music cannot be made"), 1);
 }
 

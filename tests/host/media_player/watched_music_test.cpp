@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <poll.h>
 
 #include <algorithm>
 #include <atomic>
@@ -19,8 +18,6 @@ using host::test::text;
 using host::test::titles;
 using testing::Contains;
 using testing::Not;
-
-constexpr int kLongestWaitMilliseconds = 60'000;
 
 std::string little_endian(std::uint32_t number, int bytes) {
   std::string made;
@@ -58,16 +55,6 @@ class WatchedMusic : public host::test::MediaPlayerTest {
     ASSERT_TRUE(waits_for([this] { return is_ready_; }));
     play("Bravo");
     ASSERT_TRUE(waits_for([this] { return is_playing(); }));
-  }
-
-  template <class Condition>
-  bool waits_for(Condition condition) {
-    for (int waited = 0; !condition() && waited < kLongestWaitMilliseconds; waited += 10) {
-      pollfd pause{-1, 0, 0};
-      ::poll(&pause, 1, 10);
-      loop.run_ready();
-    }
-    return condition();
   }
 
   bool waits_for_songs(std::size_t count) {
