@@ -1,17 +1,21 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 namespace host::console {
 
 /// The console's answer to one line.
 struct Answer {
-  enum class Kind { Done, Value, Error, Quit };
+  enum class Kind { Done, Value, List, Error, Quit };
   Kind kind = Kind::Done;
-  std::string text;  // the value or the error
+  std::string text;  // the value, the error, or the lines of a list as the protocol has them
 
-  /// The line of the protocol: `ok`, the value, or `error: …`.
+  /// The form of the protocol: `ok`, the value, `error: …`, or indented lines and then `ok`.
   std::string line() const;
 };
+
+/// An answer with several lines.
+Answer list_of(std::span<const std::string> lines);
 
 }  // namespace host::console

@@ -2,7 +2,9 @@
 
 #include "host/console/commands.h"
 #include "host/console/compare.h"
+#include "host/console/description.h"
 #include "host/console/print.h"
+#include "host/inspection/view_tree.h"
 
 namespace host::console {
 namespace {
@@ -22,12 +24,17 @@ Result<Answer> advance(Session& session, LineReader& reader) {
   return Answer{};
 }
 
-Result<Answer> print(Session& session, LineReader& reader) {
-  if (const auto answer = session.elsewhere(std::string(reader.line()))) return *answer;
+/// The value of an expression that ends the line.
+Result<Value> last_value(Session& session, LineReader& reader) {
   const auto expression = session.expression(reader);
   if (!expression) return expression.problem();
   if (const auto problem = reader.end()) return *problem;
-  const auto value = session.evaluator().evaluate(*expression);
+  return session.evaluator().evaluate(*expression);
+}
+
+Result<Answer> print(Session& session, LineReader& reader) {
+  if (const auto answer = session.elsewhere(std::string(reader.line()))) return *answer;
+  const auto value = last_value(session, reader);
   if (!value) return value.problem();
   return Answer{Answer::Kind::Value, text_of(*value)};
 }
@@ -72,12 +79,61 @@ Result<Answer> where(Session& session, LineReader& reader) {
   return Answer{Answer::Kind::Value, fmt::format("{{{}, {}}}", point->x, point->y)};
 }
 
-Result<Answer> screenshot(Session& session, LineReader& reader) {
+/// Lists the views of the process, or a view and those below it.
+Result<Answer> tree(Session& session, LineReader& reader) {
+  if (const auto answer = session.elsewhere(std::string(reader.line()))) return *answer;
+  std::vector<inspection::TreeLine> views;
+  if (reader.at_end()) {
+    views = inspection::tree_of_windows();
+  } else {
+    const Problem wrong = reader.problem("this is not a view");
+    const auto value = last_value(session, reader);
+    if (!value) return value.problem();
+    const auto* object = value->as<objc::Object>();
+    const UIView view = object ? inspection::as_view(*object) : UIView();
+    if (!view) return wrong;
+    views = inspection::tree_of(view);
+  }
+  std::vector<std::string> lines;
+  for (const auto& [depth, view, text] : views)
+    lines.push_back(std::string(static_cast<std::size_t>(depth) * 2, ' ') + text);
+  return list_of(lines);
+}
+
+/// Lists what the class of an object, or a class, consists of.
+Result<Answer> describe(Session& session, LineReader& reader) {
+  if (const auto answer = session.elsewhere(std::string(reader.line()))) return *answer;
   reader.at_end();
-  const Problem wrong = reader.problem("the name of a .png file is missing");
+  const Problem wrong = reader.problem("only objects and classes can be described");
+  const auto value = last_value(session, reader);
+  if (!value) return value.problem();
+  if (const auto* cls = value->as<objc::Class>()) return list_of(description_of(*cls));
+  const auto* object = value->as<objc::Object>();
+  if (!object) return wrong;
+  return list_of(description_of(objc::class_of(object->id())));
+}
+
+/// Reads a file's name with this ending, which may contain blanks.
+Result<std::string> file_name(LineReader& reader, std::string_view ending) {
+  reader.at_end();
+  const Problem wrong = reader.problem(fmt::format("the name of a {} file is missing", ending));
   const auto file = reader.rest();
-  if (!file.ends_with(".png") || file.size() == std::string_view(".png").size()) return wrong;
-  return answer_of(session.phone().screenshot(std::string(file)));
+  if (!file.ends_with(ending) || file.size() == ending.size()) return wrong;
+  return std::string(file);
+}
+
+Result<Answer> screenshot(Session& session, LineReader& reader) {
+  const auto file = file_name(reader, ".png");
+  if (!file) return file.problem();
+  return answer_of(session.phone().screenshot(*file));
+}
+
+Result<Answer> compare(Session& session, LineReader& reader) {
+  const auto file = file_name(reader, ".png");
+  if (!file) return file.problem();
+  if (auto difference = session.phone().compare(*file))
+    return Answer{Answer::Kind::Error, std::move(*difference)};
+  return Answer{Answer::Kind::Value, "equal"};
 }
 
 /// Checks that input has left nothing open or under way.
@@ -113,9 +169,18 @@ Result<Answer> asking(Session& session, LineReader& reader) {
 }
 
 constexpr Command kInspectionCommands[] = {
-    {"advance", &advance}, {"print", &asking<&print>},  {"expect", &asking<&expect>},
-    {"where", &where},     {"screenshot", &screenshot}, {"rest", &rest},
-    {"echo", &echo},       {"process", &process},       {"quit", &quit},
+    {"advance", &advance},
+    {"print", &asking<&print>},
+    {"expect", &asking<&expect>},
+    {"tree", &asking<&tree>},
+    {"describe", &asking<&describe>},
+    {"where", &where},
+    {"screenshot", &screenshot},
+    {"compare", &compare},
+    {"rest", &rest},
+    {"echo", &echo},
+    {"process", &process},
+    {"quit", &quit},
 };
 
 }  // namespace

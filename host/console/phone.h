@@ -62,6 +62,8 @@ class Phone {
   virtual Refusal system(SystemEvent event, std::string_view detail) = 0;
   virtual Refusal gesture(std::string_view event) = 0;
   virtual Refusal screenshot(const std::string& file) = 0;
+  /// Compares the screen with the picture in a PNG file; refuses when they differ.
+  virtual Refusal compare(const std::string& file) = 0;
   /// Reports what keeps the phone from resting on its home screen, with nothing open and nothing
   /// under way; empty when it rests.
   virtual Refusal unrest() = 0;

@@ -4,20 +4,37 @@
 
 #include <cstdio>
 
+#include "host/basics/console_line.h"
 #include "host/console/commands.h"
+#include "host/runtime/log_line.h"
 #include "objc/autorelease_pool.h"
 
 namespace host::console {
+namespace {
+
+constexpr std::string_view kDone = "ok";
+constexpr std::string_view kError = "error: ";
+
+}  // namespace
 
 std::string Answer::line() const {
   switch (kind) {
     case Kind::Value:
       return text;
     case Kind::Error:
-      return "error: " + text;
+      return std::string(kError) + text;
+    case Kind::List:
+      return text + std::string(kDone);
     default:
-      return "ok";
+      return std::string(kDone);
   }
+}
+
+Answer list_of(std::span<const std::string> lines) {
+  Answer made{Answer::Kind::List, {}};
+  for (const std::string& line : lines)
+    made.text += fmt::format("{}{}\n", kListedLine, on_one_line(line));
+  return made;
 }
 
 Answer Session::execute(std::string_view line) {
@@ -93,8 +110,9 @@ Result<CGPoint> Session::point_on_view(LineReader& reader) {
 std::optional<Answer> Session::elsewhere(const std::string& line) {
   const auto said = phone_.answer_elsewhere(line);
   if (!said) return std::nullopt;
-  constexpr std::string_view kError = "error: ";
-  if (*said == "ok") return Answer{};
+  if (*said == kDone) return Answer{};
+  if (said->starts_with(kListedLine) && said->ends_with(kDone))
+    return Answer{Answer::Kind::List, said->substr(0, said->size() - kDone.size())};
   if (said->starts_with(kError)) return Answer{Answer::Kind::Error, said->substr(kError.size())};
   return Answer{Answer::Kind::Value, *said};
 }

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "host/activator/service/phone_gestures.h"
+#include "host/comparison/difference.h"
 #include "host/home_screen/launch.h"
 #include "host/springboard/system/system_actions.h"
 #include "host/springboard/system/unrest.h"
@@ -88,11 +89,27 @@ Refusal ConsolePhone::gesture(std::string_view event) {
                      "the gesture service has no event with this name");
 }
 
-Refusal ConsolePhone::screenshot(const std::string& file) {
+Refusal ConsolePhone::make_folder() const {
   std::error_code error;
   std::filesystem::create_directories(parts_.screenshots, error);
   if (error) return fmt::format("{}: {}", parts_.screenshots.string(), error.message());
-  return parts_.screenshot(parts_.screenshots / file);
+  return std::nullopt;
+}
+
+Refusal ConsolePhone::screenshot(const std::string& file) {
+  if (auto refusal = make_folder()) return refusal;
+  return parts_.with_picture([&](const screen::Picture& picture) {
+    return screen::write_png(picture, parts_.screenshots / file);
+  });
+}
+
+Refusal ConsolePhone::compare(const std::string& file) {
+  if (auto refusal = make_folder()) return refusal;
+  const std::string stem = std::filesystem::path(file).stem();
+  return parts_.with_picture([&](const screen::Picture& picture) {
+    return comparison::reason_not_equal(picture, file,
+                                        parts_.screenshots / (stem + "-difference.png"));
+  });
 }
 
 Refusal ConsolePhone::unrest() {

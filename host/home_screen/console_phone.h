@@ -5,6 +5,7 @@
 
 #include "host/console/phone.h"
 #include "host/home_screen/hands.h"
+#include "host/process/phone_screen.h"
 
 namespace host::launcher {
 
@@ -14,8 +15,8 @@ class ConsolePhone final : public console::Phone {
   /// The parts that differ between phones.
   struct Parts {
     std::function<void(double seconds)> advance;
-    /// Draws everything that is due and writes the picture to the file.
-    std::function<console::Refusal(const std::string& file)> screenshot;
+    /// Draws everything that is due and hands over the picture.
+    std::function<console::Refusal(const process::PhoneScreen::Use& use)> with_picture;
     std::filesystem::path screenshots;
   };
 
@@ -40,11 +41,15 @@ class ConsolePhone final : public console::Phone {
   console::Refusal system(console::SystemEvent event, std::string_view detail) override;
   console::Refusal gesture(std::string_view event) override;
   console::Refusal screenshot(const std::string& file) override;
+  console::Refusal compare(const std::string& file) override;
   console::Refusal unrest() override;
   console::Refusal talk_to(std::string_view process) override;
   std::optional<std::string> answer_elsewhere(const std::string& line) override;
 
  private:
+  /// The folder for what the console writes. Returns the reason when there is none.
+  console::Refusal make_folder() const;
+
   Hands& hands_;
   Parts parts_;
   /// The process that the console talks to; empty for this one.

@@ -83,7 +83,7 @@ int run(const ProcessOptions& options) {
   launcher::ConsolePhone phone(
       hands,
       {[&](double seconds) { clock.advance(loop, seconds); },
-       [&](const std::string& file) { return phone_screen.write(file); }, options.screenshots});
+       [&](const auto& use) { return phone_screen.with_picture(use); }, options.screenshots});
   const console::Globals globals = process::globals_of_libraries();
   console::Session session(phone, globals);
   std::optional<launcher::ConsoleService> service;

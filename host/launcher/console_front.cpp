@@ -15,11 +15,27 @@ namespace {
 
 constexpr const char* kQuit = "quit";
 constexpr std::string_view kPlay = "play ";
+constexpr std::string_view kCompare = "compare ";
 constexpr int kDeepest = 8;
 
 // Reading pauses while so many lines wait.
 constexpr std::size_t kMostTypedLines = 1000;
 constexpr std::size_t kShownPart = 40;
+
+/// Gives the line of a command that reads a file the file's whole name, since the process that
+/// reads it knows neither the script nor the folder of the user.
+std::string with_whole_name(const std::string& line, const std::string& beside) {
+  const auto start = line.find_first_not_of(" \t");
+  if (start == std::string::npos || line.compare(start, kCompare.size(), kCompare) != 0)
+    return line;
+  const auto name = line.find_first_not_of(" \t", start + kCompare.size());
+  if (name == std::string::npos) return line;
+  std::error_code error;
+  const auto file = std::filesystem::path(beside).parent_path() / line.substr(name);
+  const std::string whole = std::filesystem::absolute(file, error);
+  // A name with a line feed would be two lines.
+  return error || whole.find('\n') != std::string::npos ? line : std::string(kCompare) + whole;
+}
 
 /// Removes the first complete line from `text` and returns it.
 std::optional<std::string> take_line(std::string& text) {
@@ -90,13 +106,13 @@ void ConsoleFront::send_next() {
       line_ = std::move(script_.front());
       script_.pop_front();
       if (play(line_.text, line_.script, line_.depth)) continue;
-      send_line(line_.text);
+      send_line(with_whole_name(line_.text, line_.script));
     } else if (!typed_.empty()) {
       const std::string line = std::move(typed_.front());
       typed_.pop_front();
       typing_ = true;
       if (play(line, {}, 0)) continue;
-      send_line(line);
+      send_line(with_whole_name(line, {}));
     } else {
       return end_input();
     }
@@ -155,7 +171,12 @@ bool ConsoleFront::read_answer() {
   }
   answer_part_.append(bytes, static_cast<std::size_t>(count));
   while (const auto line = take_line(answer_part_)) {
-    if (waiting_) answered(*line);
+    if (!waiting_) continue;
+    if (line->starts_with(kListedLine)) {
+      output_.put(*line + "\n");
+    } else {
+      answered(*line);
+    }
   }
   send_next();
   return true;

@@ -12,9 +12,10 @@ namespace host::launcher {
 
 /// The user's end of the console. It sends the lines of a script, then those of standard input, one
 /// at a time to the process that runs the phone's console, and prints its answers. `play FILE` is
-/// replaced by the lines of another script; a relative name is looked up beside the script that
-/// contains it. The front outlives the process: after a restart the next line goes to the new one.
-/// Nothing here waits, neither for the process nor for the reader of the answers.
+/// replaced by the lines of another script; its relative name, and that of `compare FILE`, is
+/// looked up beside the script that contains it. The front outlives the process: after a restart
+/// the next line goes to the new one. Nothing here waits, neither for the process nor for the
+/// reader of the answers.
 class ConsoleFront {
  public:
   static constexpr int kFailed = 1;

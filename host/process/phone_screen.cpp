@@ -72,17 +72,17 @@ screen::Picture PhoneScreen::picture() const {
           cairo_image_surface_get_height(surface), cairo_image_surface_get_stride(surface)};
 }
 
-std::optional<std::string> PhoneScreen::write(const std::string& file) {
+std::optional<std::string> PhoneScreen::with_picture(const Use& use) {
   quartzcore::flush_layers();
   const double scale = compositor_->scale();
   if (scale == current_device().scale) {
     draw();
-    return screen::write_png(picture(), file);
+    return use(picture());
   }
   auto shown = std::move(compositor_);
   make_compositor(current_device().scale);
   compositor_->render(layers(), loop_.now());
-  auto problem = screen::write_png(picture(), file);
+  auto problem = use(picture());
   compositor_ = std::move(shown);
   quartzcore::set_screen_density(scale / current_device().scale);
   return problem;

@@ -29,9 +29,10 @@ class PhoneScreen {
   /// Sets the function called when the screen has taken another number of pixels per point.
   void on_rescale(std::function<void()> rescaled) { rescaled_ = std::move(rescaled); }
 
-  /// Updates the picture and writes it to a PNG file, always with the device's pixels. Returns the
-  /// reason on failure.
-  std::optional<std::string> write(const std::string& file);
+  /// Updates the picture and hands it to `use`, always with the device's pixels. Returns what that
+  /// returns, for instance why it failed.
+  using Use = std::function<std::optional<std::string>(const screen::Picture&)>;
+  std::optional<std::string> with_picture(const Use& use);
   const quartzcore::Compositor& compositor() const { return *compositor_; }
 
  private:

@@ -132,8 +132,13 @@ bool RunningPhone::say(std::string_view line) {
 std::string RunningPhone::next_answer() {
   std::size_t end = 0;
   const bool came = pump_until([&] {
-    end = output_.find('\n', answered_);
-    return end != output_.npos;
+    // Indented lines belong to the answer that follows them.
+    for (std::size_t line = answered_; line < output_.size(); line = end + 1) {
+      end = output_.find('\n', line);
+      if (end == output_.npos) return false;
+      if (output_[line] != ' ') return true;
+    }
+    return false;
   });
   if (!came) return "(no answer)";
   return output_.substr(std::exchange(answered_, end + 1), end - answered_);

@@ -159,8 +159,14 @@ void RunningProgram::take(const TimeIs& reached) {
 }
 
 void RunningProgram::take(const ConsoleLine& line) {
-  std::string answer = session_.execute(line.text).line();
-  if (answer.size() > kLongestText) answer.resize(kLongestText);
+  const console::Answer made = session_.execute(line.text);
+  std::string answer = made.line();
+  const bool is_cut = answer.size() > kLongestText;
+  if (is_cut && made.kind == console::Answer::Kind::List) {
+    answer = "error: the list is too long for this process; ask for a part of it";
+  } else if (is_cut) {
+    answer.resize(kLongestText);
+  }
   link_.send(ConsoleAnswer{std::move(answer)});
 }
 

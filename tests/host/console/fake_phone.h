@@ -49,10 +49,17 @@ class FakePhone : public host::console::Phone {
   }
   Refusal gesture(std::string_view event) override { return note("gesture", event); }
   Refusal screenshot(const std::string& file) override { return note("screenshot", file); }
+  Refusal compare(const std::string& file) override { return note("compare", file); }
   Refusal unrest() override { return note("rest", ""); }
   Refusal talk_to(std::string_view process) override { return note("process", process); }
 
+  std::optional<std::string> answer_elsewhere(const std::string&) override {
+    if (elsewhere.empty()) return std::nullopt;
+    return elsewhere;
+  }
+
   double now = 0;
+  std::string elsewhere;
   Refusal refusal;
   std::vector<std::string> done;
 

@@ -12,7 +12,9 @@ namespace {
 
 using namespace host::console;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 using testing::StartsWith;
 
 int counter = 3;
@@ -218,6 +220,38 @@ TEST_F(Sessions, PrintAnswersWithTheValue) {
   EXPECT_EQ(say("echo one  two"), "one  two");
 }
 
+TEST_F(Sessions, DescribeListsAClassAndWhatItInherits) {
+  make_grump_class();
+  const std::string listed = say("describe ConsoleTestGrump");
+  EXPECT_THAT(listed, StartsWith("  ConsoleTestGrump : NSObject\n"));
+  EXPECT_THAT(listed, HasSubstr("\n  - (id) description\n"));
+  EXPECT_THAT(listed, HasSubstr("\n  - (BOOL) isEqual:(id)\n"));
+  EXPECT_THAT(listed, HasSubstr("\n  + (id) allocWithZone:(void *)\n"));
+  EXPECT_THAT(listed, MatchesRegex("(.|\n)*\n  inherited methods: NSObject [1-9][0-9]*\nok"));
+  EXPECT_EQ(say("describe [[[ConsoleTestGrump alloc] init] autorelease]"), listed);
+}
+
+TEST_F(Sessions, OnlyObjectsAndClassesAreDescribedAndOnlyViewsHaveTrees) {
+  EXPECT_EQ(say("describe counter"),
+            "error: only objects and classes can be described (column 10)");
+  EXPECT_EQ(say("describe nil"), "error: only objects and classes can be described (column 10)");
+  EXPECT_EQ(say("describe NSString NSArray"), "error: unexpected text: NSArray (column 19)");
+  EXPECT_EQ(say("tree @\"text\""), "error: this is not a view (column 6)");
+  EXPECT_EQ(say("tree counter"), "error: this is not a view (column 6)");
+}
+
+TEST(Answers, ThatHaveSeveralLinesEndWithOk) {
+  const std::string lines[] = {"one", "  below", "a\nb"};
+  EXPECT_EQ(list_of(lines).line(), "  one\n    below\n  a\\nb\nok");
+  EXPECT_EQ(list_of({}).line(), "ok");
+}
+
+TEST_F(Sessions, AListOfAnotherProcessStaysOne) {
+  phone_.elsewhere = "  one\n    two\nok";
+  EXPECT_EQ(say("tree"), phone_.elsewhere);
+  EXPECT_EQ(session_.execute("tree").kind, Answer::Kind::List);
+}
+
 TEST_F(Sessions, AnObjectThatRaisesWhenItIsAskedIsAnError) {
   make_grump_class();
   EXPECT_EQ(say("print [[[ConsoleTestGrump alloc] init] autorelease]"), kRaised);
@@ -246,6 +280,14 @@ TEST_F(Sessions, ScreenshotsAreNamedPngFiles) {
   EXPECT_EQ(say("screenshot open panel.png"), "ok");
   EXPECT_THAT(phone_.done, ElementsAre("screenshot open panel.png"));
   EXPECT_EQ(say("screenshot panel.jpg"), "error: the name of a .png file is missing (column 12)");
+}
+
+TEST_F(Sessions, ComparisonsWithAPictureAnswerEqualOrWhatDiffers) {
+  EXPECT_EQ(say("compare open panel.png"), "equal");
+  EXPECT_THAT(phone_.done, ElementsAre("compare open panel.png"));
+  EXPECT_EQ(say("compare"), "error: the name of a .png file is missing (column 8)");
+  phone_.refusal = "3 pixels differ";
+  EXPECT_EQ(say("compare a.png"), "error: 3 pixels differ");
 }
 
 TEST_F(Sessions, QuitAsksForTheEnd) {

@@ -62,7 +62,8 @@ void answer(int questions) {
     pause();
 }
 
-/// Echoes each line of the console, except for `crash` and `quit`, which it executes.
+/// Echoes each line of the console, except for `crash` and `quit`, which it executes, and `list`,
+/// whose answer has several lines.
 int echo(int descriptor) {
   std::string line;
   for (char byte = 0; read(descriptor, &byte, 1) == 1;) {
@@ -76,7 +77,8 @@ int echo(int descriptor) {
       static_cast<void>(!std::system("killall SpringBoard"));
       wait_for_ever();
     }
-    const std::string answer = (line == "quit" ? "ok" : line) + "\n";
+    std::string answer = (line == "quit" ? "ok" : line) + "\n";
+    if (line == "list") answer = "  one\n    two\nok\n";
     send(descriptor, answer.data(), answer.size(), MSG_NOSIGNAL);
     if (line == "quit") return switched_off();
     line.clear();

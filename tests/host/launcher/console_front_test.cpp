@@ -79,6 +79,14 @@ TEST_F(ConsoleFronts, AScriptStopsAtTheFirstFailureAndNamesTheLine) {
   EXPECT_EQ(output_.lines(), Lines());
 }
 
+TEST_F(ConsoleFronts, AnAnswerWithSeveralLinesIsPrintedWholeAndOneAnswer) {
+  EXPECT_EQ(run({"a.scn", {"list", "after"}}), 0);
+  EXPECT_EQ(output_.lines(), Lines({"  one", "    two", "after"}));
+  EXPECT_EQ(run_typed("list\nafter\n"), 0);
+  EXPECT_EQ(output_.lines(),
+            Lines({"  one", "    two", "after", "  one", "    two", "ok", "after", "ok"}));
+}
+
 TEST_F(ConsoleFronts, EveryTypedLineIsAnswered) {
   EXPECT_EQ(run_typed("one\nerror: two\nthree\n"), 0);
   EXPECT_EQ(output_.lines(), Lines({"one", "error: two", "three", "ok"}));
@@ -184,6 +192,17 @@ TEST_F(ConsoleFronts, AFailureNamesTheScriptThatWasPlayedAndEndsBoth) {
   EXPECT_EQ(run({folder_.path() / "a.scn", {"1", "play b.scn", "never sent"}}), 1);
   EXPECT_EQ(errors_.lines(), Lines({(folder_.path() / "b.scn").string() + ":2: error: no"}));
   EXPECT_EQ(output_.lines(), Lines({"1", "2"}));
+}
+
+TEST_F(ConsoleFronts, APictureToCompareIsLookedUpBesideTheScriptThatNamesIt) {
+  const std::string folder = folder_.path();
+  write_file(folder_.path() / "more/b.scn", "  compare b c.png\ncompare\n");
+  EXPECT_EQ(run({folder + "/a.scn", {"compare a.png", "play more/b.scn", "compare /c.png"}}), 0);
+  EXPECT_EQ(output_.lines(),
+            Lines({"compare " + folder + "/a.png", "compare " + folder + "/more/b c.png", "compare",
+                   "compare /c.png"}));
+  EXPECT_EQ(run({folder + "/two\nlines/a.scn", {"compare a.png"}}), 0);
+  EXPECT_EQ(output_.lines().back(), "compare a.png");
 }
 
 TEST_F(ConsoleFronts, AScriptThatIsMissingOrPlaysItselfIsAnError) {

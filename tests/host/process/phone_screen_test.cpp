@@ -59,7 +59,10 @@ TEST_F(PhoneScreens, ScreenshotsHaveTheDevicesPixels) {
   settle();
   const std::string file = device / "shot.png";
   const double density = quartzcore::screen_density();
-  ASSERT_EQ(phone.write(file), std::nullopt);
+  const auto write = [&](const screen::Picture& picture) {
+    return screen::write_png(picture, file);
+  };
+  ASSERT_EQ(phone.with_picture(write), std::nullopt);
   cairo_surface_t* const shot = cairo_image_surface_create_from_png(file.c_str());
   EXPECT_EQ(cairo_image_surface_get_width(shot), current_device().width * current_device().scale);
   cairo_surface_destroy(shot);
