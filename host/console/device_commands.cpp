@@ -3,23 +3,10 @@
 #include <algorithm>
 
 #include "host/console/commands.h"
+#include "host/console/names.h"
 
 namespace host::console {
 namespace {
-
-struct ButtonName {
-  std::string_view name;
-  Button button;
-};
-
-constexpr ButtonName kButtons[] = {
-    {"home", Button::Home},
-    {"home-double", Button::HomeDouble},
-    {"home-touch", Button::HomeTouch},
-    {"lock", Button::Lock},
-    {"volume-up", Button::VolumeUp},
-    {"volume-down", Button::VolumeDown},
-};
 
 constexpr std::string_view kKeys[] = {
     "return", "delete", "escape", "tab",        "space",      "left",           "right",     "up",
@@ -59,17 +46,15 @@ Result<Answer> button(Session& session, LineReader& reader) {
   reader.at_end();
   const Problem unknown =
       reader.problem("home, home-double, home-touch, lock, volume-up or volume-down is missing");
-  const auto name = reader.word();
-  const auto* found = std::find_if(std::begin(kButtons), std::end(kButtons),
-                                   [name](const ButtonName& known) { return known.name == name; });
-  if (found == std::end(kButtons)) return unknown;
+  const auto found = value_named(kButtons, reader.word());
+  if (!found) return unknown;
   std::optional<ButtonPhase> phase;
   if (reader.peek_word() == "down") phase = ButtonPhase::Down;
   if (reader.peek_word() == "up") phase = ButtonPhase::Up;
   if (phase) reader.word();
   if (const auto problem = reader.end()) return *problem;
-  if (phase) return answer_of(session.phone().button(found->button, *phase));
-  return answer_of(session.phone().press(found->button));
+  if (phase) return answer_of(session.phone().button(*found, *phase));
+  return answer_of(session.phone().press(*found));
 }
 
 // The text is taken literally, including `#`: a search may begin with one.
@@ -106,6 +91,12 @@ Result<Answer> key(Session& session, LineReader& reader) {
   return answer_of(session.phone().key(name));
 }
 
+/// The answer to a line that no hand can carry out, of which the phone is told.
+Result<Answer> carried_out(Session& session, const LineReader& reader, const Refusal& refusal) {
+  if (!refusal) session.phone().carried_out(reader.line());
+  return answer_of(refusal);
+}
+
 const SystemName* read_system_name(LineReader& reader) {
   const auto name = reader.word();
   for (const SystemName& known : kSystemEvents) {
@@ -134,14 +125,14 @@ Result<Answer> system_event(Session& session, LineReader& reader) {
     }
     if (const auto problem = reader.end()) return *problem;
   }
-  return answer_of(session.phone().system(found->event, detail));
+  return carried_out(session, reader, session.phone().system(found->event, detail));
 }
 
 Result<Answer> gesture(Session& session, LineReader& reader) {
   if (reader.at_end()) return reader.problem("the name of an event is missing");
   const auto event = reader.word();
   if (const auto problem = reader.end()) return *problem;
-  return answer_of(session.phone().gesture(event));
+  return carried_out(session, reader, session.phone().gesture(event));
 }
 
 constexpr Command kDeviceCommands[] = {

@@ -136,6 +136,14 @@ Result<Answer> compare(Session& session, LineReader& reader) {
   return Answer{Answer::Kind::Value, "equal"};
 }
 
+Result<Answer> record(Session& session, LineReader& reader) {
+  LineReader ahead = reader;
+  if (ahead.word() == "off" && !ahead.end()) return answer_of(session.phone().end_recording());
+  const auto file = file_name(reader, ".scn");
+  if (!file) return Problem{file.problem().text + ", or off", file.problem().offset};
+  return answer_of(session.phone().record(*file));
+}
+
 /// Checks that input has left nothing open or under way.
 Result<Answer> rest(Session& session, LineReader& reader) {
   if (const auto problem = reader.end()) return *problem;
@@ -177,6 +185,7 @@ constexpr Command kInspectionCommands[] = {
     {"where", &where},
     {"screenshot", &screenshot},
     {"compare", &compare},
+    {"record", &record},
     {"rest", &rest},
     {"echo", &echo},
     {"process", &process},

@@ -64,6 +64,11 @@ class Phone {
   virtual Refusal screenshot(const std::string& file) = 0;
   /// Compares the screen with the picture in a PNG file; refuses when they differ.
   virtual Refusal compare(const std::string& file) = 0;
+  /// Writes what is done to the phone from now on to a new file, as a script.
+  virtual Refusal record(const std::string& file) = 0;
+  virtual Refusal end_recording() = 0;
+  /// Called after a line that does something to the phone which no hand can do.
+  virtual void carried_out(std::string_view) {}
   /// Reports what keeps the phone from resting on its home screen, with nothing open and nothing
   /// under way; empty when it rests.
   virtual Refusal unrest() = 0;

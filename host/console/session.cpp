@@ -56,7 +56,7 @@ Answer Session::execute(std::string_view line) {
 void Session::touch(int finger, TouchPhase phase, CGPoint point) {
   const bool is_down = phase == TouchPhase::Began || phase == TouchPhase::Moved;
   if (is_down) {
-    fingers_.insert(finger);
+    fingers_[finger] = point;
   } else {
     fingers_.erase(finger);
   }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -23,6 +23,8 @@ class Session {
 
   Phone& phone() { return phone_; }
   bool is_down(int finger) const { return fingers_.contains(finger); }
+  /// Where a finger that is down was last.
+  CGPoint place_of(int finger) const { return fingers_.at(finger); }
   void touch(int finger, TouchPhase phase, CGPoint point);
 
   /// Reads and checks an expression for later evaluation.
@@ -38,7 +40,7 @@ class Session {
  private:
   Phone& phone_;
   Evaluator evaluator_;
-  std::set<int> fingers_;
+  std::map<int, CGPoint> fingers_;
 };
 
 }  // namespace host::console

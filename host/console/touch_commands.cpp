@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/console/commands.h"
+#include "host/console/names.h"
 
 namespace host::console {
 namespace {
@@ -19,18 +20,6 @@ constexpr double kLongestTurn = 10000;
 // The finger that taps and drags, and the default for touches.
 constexpr int kFirstFinger = 1;
 constexpr int kLastFinger = 5;
-
-struct PhaseName {
-  std::string_view name;
-  TouchPhase phase;
-};
-
-constexpr PhaseName kPhases[] = {
-    {"began", TouchPhase::Began},
-    {"moved", TouchPhase::Moved},
-    {"ended", TouchPhase::Ended},
-    {"cancelled", TouchPhase::Cancelled},
-};
 
 const Problem kFingerIsDown{"a finger is on the screen already", 0};
 const Problem kNoFinger{"no finger is on the screen", 0};
@@ -70,37 +59,54 @@ Result<int> finger_of(LineReader& reader) {
   return static_cast<int>(*number);
 }
 
+/// Reads a number of seconds that a finger may take for its way.
+Result<double> seconds_of(LineReader& reader, std::string_view what) {
+  reader.at_end();
+  const Problem wrong =
+      reader.problem(fmt::format("a {} lasts 0 to {} seconds", what, kLongestDrag));
+  const auto seconds = reader.number("the number of seconds");
+  if (seconds && (*seconds < 0 || *seconds > kLongestDrag)) return wrong;
+  return seconds;
+}
+
+// Reports one touch per frame, as a screen does, so recognisers see the intended speed.
+void glide(Session& session, int finger, CGPoint to, double seconds) {
+  const CGPoint from = session.place_of(finger);
+  const int frames = std::max(1, static_cast<int>(std::lround(seconds / kFrame)));
+  for (int frame = 1; frame <= frames; ++frame) {
+    const double part = static_cast<double>(frame) / frames;
+    session.phone().advance(seconds / frames);
+    session.touch(finger, TouchPhase::Moved,
+                  {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part});
+  }
+}
+
 Result<Answer> touch(Session& session, LineReader& reader) {
   reader.at_end();
   const auto finger = finger_of(reader);
   if (!finger) return finger.problem();
   reader.at_end();
   const Problem unknown = reader.problem("began, moved, ended or cancelled is missing");
-  const auto name = reader.word();
-  const auto* phase = std::find_if(std::begin(kPhases), std::end(kPhases),
-                                   [name](const PhaseName& known) { return known.name == name; });
-  if (phase == std::end(kPhases)) return unknown;
+  const auto phase = value_named(kPhases, reader.word());
+  if (!phase) return unknown;
   const auto point = session.point(reader);
   if (!point) return point.problem();
+  std::optional<double> seconds;
+  if (*phase == TouchPhase::Moved && !reader.at_end()) {
+    const auto given = seconds_of(reader, "movement");
+    if (!given) return given.problem();
+    seconds = *given;
+  }
   if (const auto problem = reader.end()) return *problem;
-  const bool begins = phase->phase == TouchPhase::Began;
+  const bool begins = *phase == TouchPhase::Began;
   if (begins && session.is_down(*finger)) return kFingerIsDown;
   if (!begins && !session.is_down(*finger)) return kNoFinger;
-  session.touch(*finger, phase->phase, *point);
-  return Answer{};
-}
-
-// Reports one touch per frame, as a screen does, so recognisers see the intended speed.
-void move_finger(Session& session, CGPoint from, CGPoint to, double seconds) {
-  const int frames = std::max(1, static_cast<int>(std::lround(seconds / kFrame)));
-  session.touch(kFirstFinger, TouchPhase::Began, from);
-  for (int frame = 1; frame <= frames; ++frame) {
-    const double part = static_cast<double>(frame) / frames;
-    session.phone().advance(seconds / frames);
-    session.touch(kFirstFinger, TouchPhase::Moved,
-                  {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part});
+  if (seconds) {
+    glide(session, *finger, *point, *seconds);
+  } else {
+    session.touch(*finger, *phase, *point);
   }
-  session.touch(kFirstFinger, TouchPhase::Ended, to);
+  return Answer{};
 }
 
 Result<Answer> drag(Session& session, LineReader& reader) {
@@ -108,14 +114,13 @@ Result<Answer> drag(Session& session, LineReader& reader) {
   if (!from) return from.problem();
   const auto to = session.point(reader);
   if (!to) return to.problem();
-  reader.at_end();
-  const Problem wrong = reader.problem(fmt::format("a drag lasts 0 to {} seconds", kLongestDrag));
-  const auto seconds = reader.number("the number of seconds");
+  const auto seconds = seconds_of(reader, "drag");
   if (!seconds) return seconds.problem();
-  if (*seconds < 0 || *seconds > kLongestDrag) return wrong;
   if (const auto problem = reader.end()) return *problem;
   if (session.is_down(kFirstFinger)) return kFingerIsDown;
-  move_finger(session, *from, *to, *seconds);
+  session.touch(kFirstFinger, TouchPhase::Began, *from);
+  glide(session, kFirstFinger, *to, *seconds);
+  session.touch(kFirstFinger, TouchPhase::Ended, *to);
   return Answer{};
 }
 

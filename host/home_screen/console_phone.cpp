@@ -112,6 +112,11 @@ Refusal ConsolePhone::compare(const std::string& file) {
   });
 }
 
+Refusal ConsolePhone::record(const std::string& file) {
+  if (auto refusal = make_folder()) return refusal;
+  return hands_.record(parts_.screenshots / file);
+}
+
 Refusal ConsolePhone::unrest() {
   const std::vector<std::string> reasons = springboard::reasons_for_unrest();
   if (reasons.empty()) return std::nullopt;

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "host/console/phone.h"
-#include "host/home_screen/hands.h"
+#include "host/home_screen/recorded_hands.h"
 #include "host/process/phone_screen.h"
 
 namespace host::launcher {
@@ -20,7 +20,7 @@ class ConsolePhone final : public console::Phone {
     std::filesystem::path screenshots;
   };
 
-  ConsolePhone(Hands& hands, Parts parts) : hands_(hands), parts_(std::move(parts)) {}
+  ConsolePhone(RecordedHands& hands, Parts parts) : hands_(hands), parts_(std::move(parts)) {}
 
   void advance(double seconds) override { parts_.advance(seconds); }
   void touch(int finger, console::TouchPhase phase, CGPoint point) override;
@@ -42,6 +42,9 @@ class ConsolePhone final : public console::Phone {
   console::Refusal gesture(std::string_view event) override;
   console::Refusal screenshot(const std::string& file) override;
   console::Refusal compare(const std::string& file) override;
+  console::Refusal record(const std::string& file) override;
+  console::Refusal end_recording() override { return hands_.end_recording(); }
+  void carried_out(std::string_view line) override { hands_.note(line); }
   console::Refusal unrest() override;
   console::Refusal talk_to(std::string_view process) override;
   std::optional<std::string> answer_elsewhere(const std::string& line) override;
@@ -50,7 +53,7 @@ class ConsolePhone final : public console::Phone {
   /// The folder for what the console writes. Returns the reason when there is none.
   console::Refusal make_folder() const;
 
-  Hands& hands_;
+  RecordedHands& hands_;
   Parts parts_;
   /// The process that the console talks to; empty for this one.
   std::string elsewhere_;

@@ -67,7 +67,10 @@ int run(const ProcessOptions& options) {
   const DeviceModel& device = current_device();
   launcher::Lifeline lifeline(loop, options.lifeline_descriptor);
   close_on_exec(options.console_descriptor);
-  launcher::Hands hands(loop, {device.width, device.height});
+  launcher::Hands bare_hands(loop, {device.width, device.height});
+  launcher::RecordedHands hands(
+      bare_hands, loop,
+      options.stepped ? recording::Fidelity::exact() : recording::Fidelity::by_hand());
   launcher::WindowInput input(hands, [&loop] { loop.stop(); });
   const auto display = launcher::Display::open(options, loop, input);
   if (!display) {

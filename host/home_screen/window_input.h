@@ -2,15 +2,15 @@
 
 #include <functional>
 
-#include "host/home_screen/hands.h"
 #include "host/home_screen/music.h"
+#include "host/home_screen/recorded_hands.h"
 
 namespace host::launcher {
 
 /// Applies the user's actions in the window to the phone.
 class WindowInput final : public screen::Input {
  public:
-  WindowInput(Hands& hands, std::function<void()> on_close)
+  WindowInput(RecordedHands& hands, std::function<void()> on_close)
       : hands_(hands), on_close_(std::move(on_close)) {}
 
   void touch(int finger, screen::TouchPhase phase, CGPoint point) override {
@@ -30,11 +30,14 @@ class WindowInput final : public screen::Input {
     hands_.button(button, phase);
   }
   void shake() override { hands_.shake(); }
-  void drop(std::vector<std::string> things) override { play_files(std::move(things)); }
+  void drop(std::vector<std::string> things) override {
+    hands_.note("# Files were dropped on the window here, which no script can do.");
+    play_files(std::move(things));
+  }
   void close() override { on_close_(); }
 
  private:
-  Hands& hands_;
+  RecordedHands& hands_;
   std::function<void()> on_close_;
 };
 

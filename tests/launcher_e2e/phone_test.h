@@ -2,8 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,15 @@ class PhoneTest : public testing::Test {
     Arguments made = {"--headless", "--root", root(), "--music", music()};
     made.insert(made.end(), more.begin(), more.end());
     return made;
+  }
+
+  /// Waits for a condition, up to a deadline.
+  static bool comes_true(const std::function<bool()>& condition) {
+    constexpr int kTries = 400;
+    constexpr int kPause = 50'000;  // microseconds
+    for (int i = 0; i < kTries && !condition(); ++i)
+      usleep(kPause);
+    return condition();
   }
 
   /// Installs an extension of the home screen; a version that is there is replaced.

@@ -1,8 +1,6 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include <functional>
-
 #include "tests/launcher_e2e/phone_test.h"
 #include "tests/support/desktop_display.h"
 
@@ -23,13 +21,6 @@ class DesktopWindow : public PhoneTest {
   ~DesktopWindow() override { unsetenv("XDG_STATE_HOME"); }
 
   Arguments in_a_window() const { return {"--root", root(), "--music", music(), "--console"}; }
-  static bool comes_true(const std::function<bool()>& condition) {
-    constexpr int kTries = 400;
-    constexpr int kPause = 50'000;  // microseconds
-    for (int i = 0; i < kTries && !condition(); ++i)
-      usleep(kPause);
-    return condition();
-  }
   static bool answers(RunningPhone& phone, const std::string& line, const std::string& wanted) {
     return comes_true([&] { return phone.ask(line) == wanted; });
   }

@@ -162,6 +162,14 @@ void DesktopDisplay::click(int button) const {
   user({"click", std::to_string(button)});
 }
 
+void DesktopDisplay::hold(int button) const {
+  user({"mousedown", std::to_string(button)});
+}
+
+void DesktopDisplay::let_go(int button) const {
+  user({"mouseup", std::to_string(button)});
+}
+
 void DesktopDisplay::press(const std::string& keys) const {
   user({"key", keys});
 }

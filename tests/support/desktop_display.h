@@ -34,6 +34,8 @@ class DesktopDisplay {
   /// right one, 4 to 7 are a wheel's up, down, left and right.
   void point_at(double across, double down) const;
   void click(int button) const;
+  void hold(int button) const;
+  void let_go(int button) const;
   void press(const std::string& keys) const;
 
  private:

@@ -21,6 +21,8 @@ class OwnPhone final : public console::Phone {
   console::Refusal gesture(std::string_view) override { return refused(); }
   console::Refusal screenshot(const std::string&) override { return refused(); }
   console::Refusal compare(const std::string&) override { return refused(); }
+  console::Refusal record(const std::string&) override { return refused(); }
+  console::Refusal end_recording() override { return refused(); }
   console::Refusal unrest() override { return refused(); }
   console::Refusal talk_to(std::string_view) override { return refused(); }
 

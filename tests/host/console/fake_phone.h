@@ -50,6 +50,9 @@ class FakePhone : public host::console::Phone {
   Refusal gesture(std::string_view event) override { return note("gesture", event); }
   Refusal screenshot(const std::string& file) override { return note("screenshot", file); }
   Refusal compare(const std::string& file) override { return note("compare", file); }
+  Refusal record(const std::string& file) override { return note("record", file); }
+  Refusal end_recording() override { return note("recorded", ""); }
+  void carried_out(std::string_view line) override { told.emplace_back(line); }
   Refusal unrest() override { return note("rest", ""); }
   Refusal talk_to(std::string_view process) override { return note("process", process); }
 
@@ -62,6 +65,7 @@ class FakePhone : public host::console::Phone {
   std::string elsewhere;
   Refusal refusal;
   std::vector<std::string> done;
+  std::vector<std::string> told;
 
  private:
   Refusal note(std::string_view what, std::string_view detail) {

@@ -110,6 +110,19 @@ TEST_F(Sessions, TouchGoesThroughItsPhasesInOrder) {
   EXPECT_THAT(phone_.done, ElementsAre("began 1 2", "moved 3 4", "cancelled 3 4"));
 }
 
+TEST_F(Sessions, AFingerThatIsDownGlidesOncePerFrame) {
+  EXPECT_EQ(say("touch 2 began 0 0"), "ok");
+  EXPECT_EQ(say("touch 2 moved 30 60 0.05"), "ok");
+  EXPECT_EQ(say("touch 2 moved on @\"view\" 0"), "ok");
+  EXPECT_THAT(phone_.done,
+              ElementsAre("finger 2 began 0 0", "advance 0.01667", "finger 2 moved 10 20",
+                          "advance 0.01667", "finger 2 moved 20 40", "advance 0.01667",
+                          "finger 2 moved 30 60", "advance 0", "finger 2 moved 30 40"));
+  EXPECT_EQ(say("touch 2 moved 1 2 61"), "error: a movement lasts 0 to 60 seconds (column 19)");
+  EXPECT_EQ(say("touch 2 ended 1 2 3"), "error: unexpected text: 3 (column 19)");
+  EXPECT_EQ(say("touch moved 1 2 3"), "error: no finger is on the screen (column 1)");
+}
+
 TEST_F(Sessions, FingersAreTouchedByTheirNumbers) {
   EXPECT_EQ(say("touch 2 began 1 2"), "ok");
   EXPECT_EQ(say("touch began 3 4"), "ok");
@@ -288,6 +301,24 @@ TEST_F(Sessions, ComparisonsWithAPictureAnswerEqualOrWhatDiffers) {
   EXPECT_EQ(say("compare"), "error: the name of a .png file is missing (column 8)");
   phone_.refusal = "3 pixels differ";
   EXPECT_EQ(say("compare a.png"), "error: 3 pixels differ");
+}
+
+TEST_F(Sessions, RecordNamesANewScriptOrEndsIt) {
+  EXPECT_EQ(say("record my session.scn"), "ok");
+  EXPECT_EQ(say("record off # done"), "ok");
+  EXPECT_EQ(say("record"), "error: the name of a .scn file is missing, or off (column 7)");
+  EXPECT_EQ(say("record off now"), "error: the name of a .scn file is missing, or off (column 8)");
+  EXPECT_THAT(phone_.done, ElementsAre("record my session.scn", "recorded "));
+}
+
+TEST_F(Sessions, ThePhoneIsToldOfLinesThatNoHandCarriesOut) {
+  EXPECT_EQ(say("system lock # now"), "ok");
+  EXPECT_EQ(say("gesture shake"), "ok");
+  EXPECT_EQ(say("button home"), "ok");
+  phone_.refusal = "not available";
+  say("gesture shake");
+  say("system unlock");
+  EXPECT_THAT(phone_.told, ElementsAre("system lock # now", "gesture shake"));
 }
 
 TEST_F(Sessions, QuitAsksForTheEnd) {
