@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/basics/markup.h"
 #include "host/basics/utf16.h"
+#include "host/basics/xml.h"
 #include "host/property_list/builder.h"
 #include "host/property_list/encoding.h"
 #include "platform/Foundation/NSArray.h"
@@ -78,7 +78,7 @@ class XmlWriter {
     const auto is = [&](objc::Class cls) { return cls && object.isKindOfClass(cls); };
     if (++count_ > kMostObjects || xml_.size() > kLargestList || !object) return false;
     if (is(NSString::cls())) {
-      element("string", as_markup(utf8_of(objc::cast<NSString>(object))));
+      element("string", xml::escaped(utf8_of(objc::cast<NSString>(object))));
     } else if (is(NSNumber::cls())) {
       number(objc::cast<NSNumber>(object));
     } else if (is(NSData::cls())) {
@@ -127,7 +127,7 @@ class XmlWriter {
     if (!enter("<dict>")) return false;
     for (const auto& [key, object] : entries) {
       ++count_;
-      element("key", as_markup(key));
+      element("key", xml::escaped(key));
       if (!value(objc::cast<NSObject>(object))) return false;
     }
     leave("</dict>");

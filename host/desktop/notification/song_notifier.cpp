@@ -3,8 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include "host/basics/markup.h"
 #include "host/basics/program_identity.h"
+#include "host/basics/xml.h"
 #include "host/runtime/log.h"
 
 namespace host::desktop {
@@ -90,7 +90,7 @@ void SongNotifier::notify(const Abilities& abilities) {
   const auto fill = [&](sd_bus_message* call) {
     const std::string body = body_of(song);
     sd_bus_message_append(call, "susss", kProgramName, number_, kDesktopEntry, song.title.c_str(),
-                          abilities.has_markup ? as_markup(body).c_str() : body.c_str());
+                          abilities.has_markup ? xml::escaped(body).c_str() : body.c_str());
     if (has_click) {
       sd_bus_message_append(call, "as", 2, kClick, "Show");
     } else {
