@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* kQuit = "quit";
 constexpr std::string_view kPlay = "play ";
+constexpr std::string_view kError = "error: ";
 constexpr std::string_view kCompare = "compare ";
 constexpr int kDeepest = 8;
 
@@ -95,7 +96,7 @@ bool ConsoleFront::play(const std::string& line, const std::string& beside, int 
 
 // An empty line goes to the process, to report the refusal only after all earlier answers.
 void ConsoleFront::refuse(const std::string& reason) {
-  refusal_ = "error: " + reason;
+  refusal_ = std::string(kError) + reason;
   send_line("");
 }
 
@@ -143,7 +144,10 @@ void ConsoleFront::send_more() {
 
 /// The first failure ends the script, and the console with it, unless the script was typed in.
 void ConsoleFront::fail(const std::string& answer) {
-  std::fprintf(errors_, "%s:%zu: %s\n", line_.script.c_str(), line_.number, answer.c_str());
+  std::fprintf(errors_, "%s: %s\n", line_.place().c_str(), answer.c_str());
+  for (const ScriptLine& line : script_) {
+    if (witness_) witness_->left_out(line);
+  }
   script_.clear();
   if (!typing_) verdict_ = kFailed;
 }
@@ -151,14 +155,24 @@ void ConsoleFront::fail(const std::string& answer) {
 void ConsoleFront::answered(const std::string& given) {
   const std::string answer = std::exchange(refusal_, std::nullopt).value_or(given);
   waiting_ = false;
-  const bool failed = answer.starts_with("error: ");
+  const bool failed = answer.starts_with(kError);
   if (!from_script_) {
     if (answers_all_) output_.put(answer + "\n");
-  } else if (failed) {
+    return;
+  }
+  if (witness_)
+    witness_->answered(line_,
+                       std::string_view(answer).substr(failed ? kError.size() : answer.size()));
+  if (failed) {
     fail(answer);
   } else if (answer != "ok") {
-    output_.put(answer + "\n");
+    print(answer);
   }
+}
+
+void ConsoleFront::print(const std::string& line) {
+  output_.put(line + "\n");
+  if (witness_ && from_script_) witness_->printed(line + "\n");
 }
 
 bool ConsoleFront::read_answer() {
@@ -173,7 +187,7 @@ bool ConsoleFront::read_answer() {
   while (const auto line = take_line(answer_part_)) {
     if (!waiting_) continue;
     if (line->starts_with(kListedLine)) {
-      output_.put(*line + "\n");
+      print(*line);
     } else {
       answered(*line);
     }

@@ -24,6 +24,9 @@ class ConsoleFront {
   /// printed to `output`; a failure in a script ends the console and is printed to `errors`.
   ConsoleFront(const Script& script, int input, std::FILE* output, std::FILE* errors);
 
+  /// Tells the witness of every line of the scripts. Call it before the first process.
+  void tell(ScriptWitness* witness) { witness_ = witness; }
+
   /// Connects the front to a process.
   void attach(int descriptor);
   enum class Departure { Asked, Unexpected };
@@ -47,14 +50,6 @@ class ConsoleFront {
   std::optional<int> verdict() const { return verdict_; }
 
  private:
-  /// A pending line and its position.
-  struct Line {
-    std::string text;
-    std::string script;
-    std::size_t number;
-    int depth;  // the nesting depth of scripts
-  };
-
   void send_next();
   void send_line(const std::string& line);
   /// Reports the failure of a line that is not for the process, after all earlier answers.
@@ -65,15 +60,17 @@ class ConsoleFront {
   /// Returns true if the line plays another script, which has then been inserted or refused.
   bool play(const std::string& line, const std::string& beside, int depth);
   void fail(const std::string& answer);
+  void print(const std::string& line);
 
-  std::deque<Line> script_;
+  std::deque<ScriptLine> script_;
   /// The answer to a line that the process does not know.
   std::optional<std::string> refusal_;
-  Line line_;  // the script line that was sent last
+  ScriptLine line_;  // the script line that was sent last
   int input_;
   const bool answers_all_;  // typed lines show every answer
   PatientOutput output_;
   std::FILE* errors_;
+  ScriptWitness* witness_ = nullptr;
   int process_ = -1;
   std::string unsent_;
   std::deque<std::string> typed_;

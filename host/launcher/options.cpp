@@ -93,6 +93,14 @@ std::string check_script(const std::string& file) {
   return file + " is not a script";
 }
 
+std::string check_report(const std::string& file) {
+  std::error_code error;
+  const fs::path folder = fs::path(file).parent_path();
+  if (!folder.empty() && !fs::is_directory(folder, error))
+    return file + " cannot be written: " + folder.string() + " is not a folder";
+  return fs::is_directory(file, error) ? file + " is a folder" : std::string();
+}
+
 fs::path made_absolute(const fs::path& path) {
   std::error_code error;
   const fs::path absolute = fs::absolute(path, error);
@@ -113,9 +121,11 @@ void check_files(Options& options) {
 void make_absolute(Options& options) {
   if (!options.root.empty()) options.root = made_absolute(options.root);
   options.screenshots = made_absolute(options.screenshots);
-  if (!options.script.empty()) options.script = made_absolute(options.script);
-  for (fs::path& folder : options.music)
-    folder = made_absolute(folder);
+  if (!options.report.empty()) options.report = made_absolute(options.report);
+  for (auto* paths : {&options.music, &options.scripts}) {
+    for (fs::path& path : *paths)
+      path = made_absolute(path);
+  }
 }
 
 void add_options(CLI::App& parser, Options& options, bool& new_phone) {
@@ -148,17 +158,28 @@ void add_options(CLI::App& parser, Options& options, bool& new_phone) {
   parser.add_flag("--blind", options.blind,
                   "With --headless: draw nothing but screenshots, so that hours pass in minutes");
   parser.add_flag("--console", options.console, "Read commands on standard input");
-  parser.add_option("--script", options.script, "Run a file of commands, then end")
-      ->check(check_script);
+  auto* script = parser
+                     .add_option("--script", options.scripts,
+                                 "Run a file of commands, then end; may be given more than once: "
+                                 "each file gets a phone that is started for it")
+                     ->check(check_script)
+                     ->allow_extra_args(false);
+  parser
+      .add_option("--junit", options.report,
+                  "With --script: write what passed and failed to this file, for a build server")
+      ->check(check_report)
+      ->needs(script);
   parser.add_flag("--desktop", options.desktop,
                   "With --headless: take part in the desktop's session like a phone with a window: "
                   "media keys, players' controls, no sleep while music plays");
   parser.add_option("--screenshots", options.screenshots, "Folder for screenshots");
 }
 
-/// What cannot be started, and why: nothing of what was named can be played, or Foundation would
-/// not find the device's files, which it looks up by names in UTF-8.
+/// What cannot be started, and why: the console does not go with it, nothing of what was named can
+/// be played, or Foundation would not find the device's files, which it looks up by names in UTF-8.
 std::optional<Ending> reason_not_to_start(const Options& options) {
+  if (options.console && (options.scripts.size() > 1 || !options.report.empty()))
+    return Ending{kBadUsage, "sonavue: --console takes one --script, and no --junit\n"};
   std::string text;
   for (const std::string& refusal : options.refusals)
     text += "sonavue: " + refusal + "\n";
@@ -187,7 +208,7 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   } catch (const CLI::ParseError& error) {
     return Ending{kBadUsage, std::string("sonavue: ") + error.what() + "\n"};
   }
-  options.is_set_up = options.root.empty() && options.script.empty() && !new_phone;
+  options.is_set_up = options.root.empty() && options.scripts.empty() && !new_phone;
   if (options.is_set_up) options.root = default_device_root();
   make_absolute(options);
   check_files(options);

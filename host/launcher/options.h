@@ -16,8 +16,9 @@ struct Options {
   std::vector<std::string> refusals;  // a line for each file that cannot be played
   std::vector<std::string> without;
   std::filesystem::path screenshots;
-  std::filesystem::path script;  // empty without one
-  bool is_set_up = false;        // a new device gets its first files
+  std::vector<std::filesystem::path> scripts;  // each is played on a phone started for it
+  std::filesystem::path report;                // of the scripts; empty without one
+  bool is_set_up = false;                      // a new device gets its first files
   bool headless = false;
   bool browser = false;  // no window either, but a page
   bool blind = false;
@@ -25,7 +26,7 @@ struct Options {
   bool desktop = false;
 
   /// Without a window, the clock moves only when the console steps it.
-  bool has_stepped_clock() const { return headless && (console || !script.empty()); }
+  bool has_stepped_clock() const { return headless && (console || !scripts.empty()); }
   bool has_window() const { return !headless && !browser; }
   /// A phone that its user does not see leaves the desktop alone, unless it is told otherwise.
   bool takes_part_in_desktop() const { return desktop || !headless; }

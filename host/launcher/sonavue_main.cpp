@@ -5,12 +5,14 @@
 #include <cstdlib>
 #include <exception>
 
+#include "host/files/replace_file.h"
 #include "host/launcher/environment.h"
 #include "host/launcher/handed_files.h"
 #include "host/launcher/installation.h"
 #include "host/launcher/log_file.h"
 #include "host/launcher/options.h"
 #include "host/launcher/supervisor.h"
+#include "host/launcher/test_report.h"
 #include "host/launcher/throwaway_folder.h"
 #include "host/runtime/log.h"
 
@@ -21,6 +23,9 @@ using namespace host::launcher;
 // How long another process may take between taking a device's root and introducing itself.
 constexpr int kMostNaps = 100;
 constexpr int kNapMilliseconds = 20;
+
+// A status above it is that of a phone that a signal has ended, and the user with it.
+constexpr int kSignalled = 128;
 
 int complain(const std::string& reason) {
   std::fprintf(stderr, "sonavue: %s\n", reason.c_str());
@@ -37,13 +42,14 @@ bool has_display() {
 }
 
 bool has_console(const Options& options) {
-  return options.console || !options.script.empty();
+  return options.console || !options.scripts.empty();
 }
 
 /// Empty, with the reason in `problem`, when the options name a script that cannot be read.
 std::optional<ConsoleFront> console_for(const Options& options, std::string& problem) {
   std::optional<Script> script = Script{};
-  if (!options.script.empty()) script = read_script(options.script, Pipes::Allowed, problem);
+  if (!options.scripts.empty())
+    script = read_script(options.scripts.front(), Pipes::Allowed, problem);
   if (!script) return std::nullopt;
   return ConsoleFront(*script, options.console ? STDIN_FILENO : -1, stdout, stderr);
 }
@@ -96,11 +102,12 @@ int meet_running_phone(const Options& options) {
   return is_shown ? 0 : kInUse;
 }
 
-/// `lock` is nullptr for a root that no one else can know.
-int supervise(const Options& options, const FolderLock* lock) {
+/// `lock` is nullptr for a root that no one else can know, `witness` when nothing is reported.
+int supervise(const Options& options, const FolderLock* lock, ScriptWitness* witness) {
   std::string problem;
   auto front = console_for(options, problem);
   if (!front) return complain(problem);
+  front->tell(witness);
   const Installation installation = find_installation();
   const host::RealClock clock;
   BrowserDoor page;
@@ -122,20 +129,44 @@ int supervise(const Options& options, const FolderLock* lock) {
   return supervisor.run();
 }
 
-int run_on_new_device(Options options) {
+int run_on_new_device(Options options, ScriptWitness* witness) {
   const ThrowawayFolder device;
   if (device.path().empty()) return complain("no temporary folder can be made for a new device");
   options.root = device.path();
-  return supervise(options, nullptr);
+  return supervise(options, nullptr, witness);
 }
 
-int run_phone(const Options& options) {
+int run_phone(const Options& options, ScriptWitness* witness = nullptr) {
   remove_abandoned_folders();
-  if (options.root.empty()) return run_on_new_device(options);
+  if (options.root.empty()) return run_on_new_device(options, witness);
   FolderLock lock;
   bool has_owner = false;
   if (const auto reason = take_device_root(options.root, lock, has_owner)) return complain(*reason);
-  return has_owner ? meet_running_phone(options) : supervise(options, &lock);
+  return has_owner ? meet_running_phone(options) : supervise(options, &lock, witness);
+}
+
+bool write_report(const TestReport& report, const std::string& file) {
+  const auto failure = host::files::replace_file(file, report.xml()).error;
+  if (failure) complain(file + " cannot be written: " + failure.message());
+  return !failure;
+}
+
+/// Plays the scripts one after another. Returns the status of the first that failed.
+int run_scripts(const Options& options) {
+  const host::RealClock clock;
+  TestReport report(clock);
+  int first_failure = 0;
+  for (const auto& script : options.scripts) {
+    Options one = options;
+    one.scripts = {script};
+    report.begin(script);
+    const int status = run_phone(one, &report);
+    report.end(status);
+    if (first_failure == 0) first_failure = status;
+    if (!options.report.empty() && !write_report(report, options.report)) return kBadUsage;
+    if (status > kSignalled) break;
+  }
+  return first_failure;
 }
 
 }  // namespace
@@ -154,7 +185,7 @@ int main(int count, char** arguments) try {
     complain(refusal);
   if (options.has_window()) log_to_file_unless_seen();
   options.browser |= !options.headless && !has_display();
-  return run_phone(options);
+  return options.scripts.empty() ? run_phone(options) : run_scripts(options);
 } catch (const std::exception& failure) {
   return complain(failure.what());
 }

@@ -85,4 +85,55 @@ TEST_F(Scripts, WithoutARootPlayOnANewDeviceEachTime) {
   unsetenv("TMPDIR");
 }
 
+TEST_F(Scripts, EachPlayOnAPhoneOfTheirOwnAndAreReportedTogether) {
+  const std::string file = "@\"/var/mobile/Library/Preferences/mark.plist\"";
+  const std::string is_new =
+      "expect [[NSFileManager defaultManager] fileExistsAtPath:" + file + "] == NO\n";
+  media_tests::write_bytes(folder() / "first.scn",
+                           is_new + "expect [@\"mark\" writeToFile:" + file +
+                               " atomically:YES] == YES\necho <first> & last\n");
+  media_tests::write_bytes(folder() / "fails.scn", "advance 1\nexpect isShow == YES\nrest\n");
+  media_tests::write_bytes(folder() / "second.scn", is_new + "advance 1\nrest\n");
+  const fs::path report = folder() / "report.xml";
+  RunningPhone phone({"--headless", "--music", music(), "--junit", report,  //
+                      "--script", folder() / "first.scn", "--script", folder() / "fails.scn",
+                      "--script", folder() / "second.scn"});
+  EXPECT_EQ(phone.wait_for_end(), 1);
+  EXPECT_EQ(phone.output(), "<first> & last\n");
+  EXPECT_THAT(phone.errors(),
+              HasSubstr((folder() / "fails.scn").string() +
+                        ":2: error: expected isShow == YES, but NO is not == YES\n"));
+  const std::string xml = media_tests::read_bytes(report);
+  EXPECT_THAT(xml, HasSubstr(R"(<testsuites tests="6" failures="1" errors="0" skipped="1" )"));
+  EXPECT_THAT(xml, HasSubstr("<failure message=\"expected isShow == YES, but NO is not == YES\">"));
+  EXPECT_THAT(xml, HasSubstr("<system-out>&lt;first&gt; &amp; last\n</system-out>"));
+}
+
+TEST_F(Scripts, OfWhichOneCannotBeReadAreReportedAndTheOthersPlay) {
+  const fs::path secret = folder() / "secret.scn";
+  media_tests::write_bytes(secret, "rest\n");
+  chmod(secret.c_str(), 0);
+  media_tests::write_bytes(folder() / "good.scn", "advance 1\nrest\n");
+  const fs::path report = folder() / "report.xml";
+  RunningPhone phone({"--headless", "--music", music(), "--junit", report, "--script", secret,
+                      "--script", folder() / "good.scn"},
+                     Hardship::kOrdinaryUser);
+  EXPECT_EQ(phone.wait_for_end(), 2);
+  const std::string xml = media_tests::read_bytes(report);
+  EXPECT_THAT(xml, HasSubstr(R"(<testsuites tests="2" failures="0" errors="1" skipped="0" )"));
+}
+
+TEST_F(Scripts, WhoseReportCannotBeWrittenSaySo) {
+  media_tests::write_bytes(folder() / "good.scn", "advance 1\nrest\n");
+  const fs::path locked = folder() / "locked";
+  fs::create_directories(locked);
+  chmod(locked.c_str(), 0500);
+  RunningPhone phone({"--headless", "--music", music(), "--junit", locked / "report.xml",
+                      "--script", folder() / "good.scn"},
+                     Hardship::kOrdinaryUser);
+  EXPECT_EQ(phone.wait_for_end(), 2);
+  EXPECT_THAT(phone.errors(), HasSubstr((locked / "report.xml").string() +
+                                        " cannot be written: Permission denied"));
+}
+
 }  // namespace

@@ -51,6 +51,30 @@ TEST_F(CommandLine, ARootThatCannotBeWrittenIsOneLineAndStatusTwo) {
   EXPECT_THAT(outcome.errors[0], HasSubstr("/dev/null/root"));
 }
 
+TEST_F(CommandLine, AReportNeedsAScriptAndAPlace) {
+  const std::string script = folder_.path() / "a.scn";
+  write_file(script, "");
+  const struct {
+    std::string arguments;
+    std::string reason;
+  } refused[] = {
+      {"--headless --junit report.xml", "--junit requires --script"},
+      {"--headless --script " + script + " --junit /nowhere/report.xml",
+       "/nowhere/report.xml cannot be written: /nowhere is not a folder"},
+      {"--headless --script " + script + " --junit /", "/ is a folder"},
+      {"--headless --console --script " + script + " --junit report.xml",
+       "--console takes one --script, and no --junit"},
+      {"--headless --console --script " + script + " --script " + script,
+       "--console takes one --script, and no --junit"},
+  };
+  for (const auto& [arguments, reason] : refused) {
+    const auto outcome = run(arguments);
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    ASSERT_THAT(outcome.errors, SizeIs(1)) << arguments;
+    EXPECT_THAT(outcome.errors[0], HasSubstr(reason));
+  }
+}
+
 TEST_F(CommandLine, AMissingScriptIsOneLineAndStatusTwo) {
   const auto outcome = run("--headless --script /nowhere/a.scn");
   EXPECT_EQ(outcome.status, 2);

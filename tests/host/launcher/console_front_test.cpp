@@ -87,6 +87,25 @@ TEST_F(ConsoleFronts, AnAnswerWithSeveralLinesIsPrintedWholeAndOneAnswer) {
             Lines({"  one", "    two", "after", "  one", "    two", "ok", "after", "ok"}));
 }
 
+TEST_F(ConsoleFronts, AWitnessSeesWhatIsPlayedAndWhatIsLeftOut) {
+  struct Witness final : ScriptWitness {
+    void printed(std::string_view text) override { seen += "printed " + std::string(text); }
+    void answered(const ScriptLine& line, std::string_view failure) override {
+      seen += std::to_string(line.number) + " " + line.text + ": " + std::string(failure) + "\n";
+    }
+    void left_out(const ScriptLine& line) override { seen += "not " + line.text + "\n"; }
+    std::string seen;
+  } witness;
+  write_file(folder_.path() / "b.scn", "list\nerror: no\ninner\n");
+  ConsoleFront front({folder_.path() / "a.scn", {"ok", "play b.scn", "outer"}}, -1, output_.file(),
+                     errors_.file());
+  front.tell(&witness);
+  EXPECT_EQ(run_with(front, "echo"), 1);
+  EXPECT_EQ(witness.seen,
+            "1 ok: \nprinted   one\nprinted     two\n1 list: \n2 error: no: no\n"
+            "not inner\nnot outer\n");
+}
+
 TEST_F(ConsoleFronts, EveryTypedLineIsAnswered) {
   EXPECT_EQ(run_typed("one\nerror: two\nthree\n"), 0);
   EXPECT_EQ(output_.lines(), Lines({"one", "error: two", "three", "ok"}));
