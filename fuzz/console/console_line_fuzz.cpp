@@ -1,5 +1,6 @@
 #include <cstdlib>
 
+#include "host/basics/console_line.h"
 #include "host/console/session.h"
 #include "objc/autorelease_pool.h"
 
@@ -22,6 +23,9 @@ class StillPhone final : public Phone {
   Refusal system(SystemEvent, std::string_view) override { return std::nullopt; }
   Refusal gesture(std::string_view) override { return std::nullopt; }
   Refusal screenshot(const std::string&) override { return std::nullopt; }
+  Refusal compare(const std::string&) override { return std::nullopt; }
+  Refusal record(const std::string&) override { return std::nullopt; }
+  Refusal end_recording() override { return "refused"; }
   Refusal unrest() override { return std::nullopt; }
   Refusal talk_to(std::string_view) override { return std::nullopt; }
 };
@@ -45,9 +49,18 @@ void check(const Session& session, std::string_view line) {
   }
 }
 
+/// Whether a reader of lines finds the end of this answer: all its lines but the last are indented.
+bool is_one_answer(std::string_view text) {
+  for (auto end = text.find('\n'); end != text.npos; end = text.find('\n')) {
+    if (!text.starts_with(host::kListedLine)) return false;
+    text.remove_prefix(end + 1);
+  }
+  return !text.starts_with(host::kListedLine);
+}
+
 }  // namespace
 
-// Lines as they reach the console, which answers each with one line.
+// Lines as they reach the console, which gives each one answer.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   StillPhone phone;
   Globals globals;
@@ -59,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));
     const bool sends = line.find('[') != line.npos;
     if (sends) check(session, line);
-    if (!sends && session.execute(line).line().find('\n') != std::string::npos) std::abort();
+    if (!sends && !is_one_answer(session.execute(line).line())) std::abort();
   }
   return 0;
 }

@@ -98,4 +98,22 @@ TEST_F(Applications, TheyEndWithThePhone) {
   EXPECT_EQ(kill(music, 0), -1);
 }
 
+TEST_F(Applications, AListThatIsTooLongForTheConnectionIsAnError) {
+  open_music();
+  ASSERT_EQ(phone_.ask("process Music"), "ok");
+  const std::string page = "[[[UIApplication sharedApplication] navigation] view]";
+  const std::string whole = phone_.ask("tree");
+  EXPECT_TRUE(whole.ends_with("\nok")) << whole;
+  const std::string add = "print [" + page +
+                          " addSubview:[[[UIView alloc] initWithFrame:{{100000.125, 100000.125}, "
+                          "{100000.125, 100000.125}}] autorelease]]";
+  for (int i = 0; i < 1000; ++i)
+    ASSERT_EQ(phone_.ask(add), "void");
+  EXPECT_EQ(phone_.ask("tree"),
+            "error: the list is too long for this process; ask for a part of it");
+  EXPECT_TRUE(phone_.ask("tree [" + page + " superview]").starts_with("error: "));
+  EXPECT_EQ(phone_.ask("tree [[" + page + " subviews] lastObject]"),
+            "  UIView {{100000.125, 100000.125}, {100000.125, 100000.125}}\nok");
+}
+
 }  // namespace
