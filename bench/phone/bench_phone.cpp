@@ -73,10 +73,11 @@ BenchPhone::BenchPhone(Pace pace, std::string_view preferences, const Music& mus
   launcher::launch_home_screen(options);
   phone_screen_ = std::make_unique<process::PhoneScreen>(loop_, screen_);
   console_phone_ = std::make_unique<launcher::ConsolePhone>(
-      hands_, launcher::ConsolePhone::Parts{
-                  [this](double seconds) { loop_.advance_to(stepped_, stepped_.now() + seconds); },
-                  [this](const std::string& file) { return phone_screen_->write(file); },
-                  fs::temp_directory_path()});
+      recorded_hands_,
+      launcher::ConsolePhone::Parts{
+          [this](double seconds) { loop_.advance_to(stepped_, stepped_.now() + seconds); },
+          [this](const auto& use) { return phone_screen_->with_picture(use); },
+          fs::temp_directory_path()});
   for (const auto& library : foundation::loaded_libraries())
     globals_.add_table(static_cast<const console::ExportedGlobal*>(
         dlsym(library.handle, console::Globals::kTableSymbol)));

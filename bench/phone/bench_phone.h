@@ -93,6 +93,7 @@ class BenchPhone {
   WatchedScreen screen_;
   std::unique_ptr<host::quartzcore::LayerService> layers_;
   host::launcher::Hands hands_{loop_, kScreen};
+  host::launcher::RecordedHands recorded_hands_{hands_, loop_, host::recording::Fidelity::exact()};
   std::unique_ptr<host::process::PhoneScreen> phone_screen_;
   std::unique_ptr<host::launcher::ConsolePhone> console_phone_;
   host::console::Globals globals_;
