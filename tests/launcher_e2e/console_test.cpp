@@ -86,4 +86,42 @@ TEST_F(Console, MessagesThatRaiseAreErrorsAndThePhoneContinues) {
   EXPECT_EQ(phone.home_screen(), process);
 }
 
+TEST_F(Console, ComparesTheScreenWithAPictureAndMarksWhatDiffers) {
+  const fs::path pictures = folder() / "pictures";
+  const std::string home = pictures / "home.png";
+  RunningPhone phone(headless({"--console", "--screenshots", pictures}));
+  ASSERT_EQ(phone.ask("advance 1"), "ok");
+  ASSERT_EQ(phone.ask("screenshot home.png"), "ok");
+  EXPECT_EQ(phone.ask("compare " + home), "equal");
+  ASSERT_EQ(phone.ask("system control-centre"), "ok");
+  ASSERT_EQ(phone.ask("advance 1"), "ok");
+  const fs::path marked = pictures / "home-difference.png";
+  EXPECT_FALSE(fs::exists(marked));
+  const std::string answer = phone.ask("compare " + home);
+  EXPECT_THAT(answer, StartsWith("error: the screen differs from " + home + " in "));
+  EXPECT_TRUE(answer.ends_with("; the difference is in " + marked.string())) << answer;
+  EXPECT_TRUE(fs::exists(marked));
+  // A picture of another size is not compared pixel by pixel.
+  const auto small = media_tests::png_picture(3, 4, 0xFF0000);
+  media_tests::write_bytes(pictures / "small.png", media_tests::as_text(small));
+  EXPECT_EQ(phone.ask("compare " + (pictures / "small.png").string()),
+            "error: the screen has 750 × 1334 pixels, and " + (pictures / "small.png").string() +
+                " has 3 × 4");
+}
+
+TEST_F(Console, ListsTheViewsOfTwoPhonesAlike) {
+  std::string trees[2];
+  for (std::string& tree : trees) {
+    RunningPhone phone(headless({"--console"}));
+    ASSERT_EQ(phone.ask("advance 1"), "ok");
+    tree = phone.ask("tree");
+    EXPECT_EQ(phone.ask("tree musicIcon").substr(0, 12), "  SBIconView");
+    EXPECT_EQ(phone.ask("tree isShow"), "error: this is not a view (column 6)");
+  }
+  EXPECT_THAT(trees[0], StartsWith("  UIWindow {{0, 0}, {375, 667}}\n    "));
+  EXPECT_TRUE(trees[0].ends_with("\nok"));
+  EXPECT_EQ(trees[0].find("0x"), std::string::npos);
+  EXPECT_EQ(trees[0], trees[1]);
+}
+
 }  // namespace
