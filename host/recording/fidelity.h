@@ -18,7 +18,14 @@ struct Fidelity {
   double typing = 0;
 
   static constexpr Fidelity exact() { return {}; }
-  static constexpr Fidelity by_hand() { return {1e3, 1e2, 1, 0.05, false, 1}; }
+  static constexpr Fidelity by_hand() {
+    return {.parts_of_second = 1e3,
+            .parts_of_point = 1e2,
+            .bend = 1,
+            .rest = 0.05,
+            .keeps_reports = false,
+            .typing = 1};
+  }
 };
 
 }  // namespace host::recording
