@@ -4,7 +4,7 @@ _sonavue() {
   compopt -o filenames 2>/dev/null
   case $previous in
     --root | --music | --screenshots) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
-    --script | --junit) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    --script | --junit | --extension) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     --device)
       mapfile -t COMPREPLY < <(compgen -W "iPhone3,1 iPhone4,1 iPhone5,1 iPhone6,1 iPhone7,2 iPhone7,1 iPad4,1" -- "$word")
       ;;
@@ -13,7 +13,7 @@ _sonavue() {
       case $word in
         -*)
           mapfile -t COMPREPLY < <(compgen -W "--help --version --device --root --new-phone --music
-            --without --browser --headless --blind --desktop --console --script --junit --screenshots" -- "$word")
+            --without --extension --browser --headless --blind --desktop --console --script --junit --screenshots" -- "$word")
           ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
       esac

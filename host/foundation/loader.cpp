@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 
 #include "host/files/folder.h"
 #include "host/foundation/crash_report.h"
@@ -24,24 +25,42 @@ constexpr std::string_view kLibraries = "/Library/MobileSubstrate/DynamicLibrari
 // Seconds after which a load is slow, and after which it counts as endless.
 constexpr double kSlowLoad = 2;
 constexpr double kEndlessLoad = 10;
+constexpr std::string_view kHomeScreenBundle = "com.apple.springboard";
 constexpr std::string_view kMarks = "/var/mobile/Library/Caches/loader";
 
 std::vector<LoadedLibrary> loaded;
 
-std::vector<std::filesystem::path> library_files() {
-  std::vector<std::filesystem::path> libraries;
+struct Library {
+  std::filesystem::path file;
+  bool is_installed = true;
+};
+
+/// By the names of their files.
+using Libraries = std::map<std::string, Library>;
+
+Libraries installed_libraries() {
+  Libraries libraries;
   const std::filesystem::path folder = libraries_folder();
   std::error_code error;
   for (const std::filesystem::path& path : files::paths_in(folder, error)) {
-    if (path.extension() == ".so") libraries.push_back(path);
+    if (path.extension() == ".so") libraries[path.filename()] = {path};
   }
   if (error && error != std::errc::no_such_file_or_directory)
     spdlog::error("extensions are left out: {}: {}", folder.string(), error.message());
   return libraries;
 }
 
-bool is_wanted(const std::string& name, std::string_view bundle, std::string_view executable) {
-  const std::string list = std::string(kLibraries) + "/" + name + ".plist";
+bool is_missing(const std::filesystem::path& file) {
+  std::error_code error;
+  return symlink_status(file, error).type() == std::filesystem::file_type::not_found;
+}
+
+bool is_wanted(const Library& library, const std::string& name, std::string_view bundle,
+               std::string_view executable) {
+  auto filter = library.file;
+  filter.replace_extension(".plist");
+  if (!library.is_installed && is_missing(filter)) return bundle == kHomeScreenBundle;
+  const std::string list = path_on_device(filter.string());
   const Admission answer = admission(list, bundle, executable);
   if (answer == Admission::kNoFilter)
     spdlog::warn("{} is left out: {} has no process filter", name, list);
@@ -109,13 +128,17 @@ std::filesystem::path libraries_folder() {
 }
 
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
-                                          std::string_view executable) {
+                                          std::string_view executable,
+                                          std::span<const std::filesystem::path> tried) {
   objc::AutoreleasePool pool;
   LoadWatch watch;
   const std::size_t before = loaded.size();
-  for (const auto& file : library_files()) {
-    const std::string name = file.stem().string();
-    if (is_wanted(name, bundle_identifier, executable)) load(file, name, watch);
+  Libraries libraries = installed_libraries();
+  for (const auto& file : tried)
+    libraries[file.filename()] = {file, false};
+  for (const auto& [_, library] : libraries) {
+    const std::string name = library.file.stem().string();
+    if (is_wanted(library, name, bundle_identifier, executable)) load(library.file, name, watch);
   }
   return {loaded.begin() + static_cast<std::ptrdiff_t>(before), loaded.end()};
 }

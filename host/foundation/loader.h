@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +24,12 @@ struct LoadedLibrary {
 /// not end, until their file changes. Names a library that is slow to load while it is being
 /// loaded, and ends the process when that does not end. Returns the libraries that this call has
 /// loaded.
+///
+/// `tried` are more libraries, anywhere on this machine. Each takes the place of an installed one
+/// with the same name. One without a property list beside it is for the home screen.
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
-                                          std::string_view executable);
+                                          std::string_view executable,
+                                          std::span<const std::filesystem::path> tried = {});
 
 /// All libraries loaded into this process so far.
 const std::vector<LoadedLibrary>& loaded_libraries();

@@ -92,7 +92,8 @@ bool launch_home_screen(const ProcessOptions& options) {
   start_gesture_service();
   if (!options.headless) show_user_warnings();
   if (!launch_music(options)) return false;
-  if (!options.safe_mode) foundation::load_libraries(kBundleIdentifier, kHomeScreen);
+  if (!options.safe_mode)
+    foundation::load_libraries(kBundleIdentifier, kHomeScreen, options.extensions);
   launch_application_watched();
   if (options.safe_mode) show_safe_mode_notice();
   return true;

@@ -21,6 +21,7 @@ std::optional<ProcessOptions> read_process_options(int count, const char* const*
   parser.add_flag("--blind", options.blind);
   parser.add_flag("--stepped", options.stepped);
   parser.add_flag("--desktop", options.desktop);
+  parser.add_option(application::kExtensionArgument, options.extensions)->allow_extra_args(false);
   parser.add_flag(application::kSafeModeArgument, options.safe_mode);
   parser.add_option(kConsoleArgument, options.console_descriptor);
   parser.add_option(kLifelineArgument, options.lifeline_descriptor);

@@ -13,6 +13,7 @@ struct ProcessOptions {
   std::string root;
   std::vector<std::filesystem::path> music;
   std::filesystem::path screenshots;
+  std::vector<std::filesystem::path> extensions;  // that are not installed
   bool headless = false;
   bool blind = false;
   bool stepped = false;

@@ -6,8 +6,10 @@
 #include <cstdlib>
 #include <optional>
 
+#include "host/application/wire/process_arguments.h"
 #include "host/basics/ascii.h"
 #include "host/basics/utf8.h"
+#include "host/launcher/library_file.h"
 #include "host/media/playable_path.h"
 #include "host/runtime/device_model.h"
 #include "host/runtime/log_line.h"
@@ -101,6 +103,11 @@ std::string check_report(const std::string& file) {
   return fs::is_directory(file, error) ? file + " is a folder" : std::string();
 }
 
+std::string check_extension(const std::string& file) {
+  const std::string reason = reason_not_to_load(file);
+  return reason.empty() ? reason : on_one_line(file + reason);
+}
+
 fs::path made_absolute(const fs::path& path) {
   std::error_code error;
   const fs::path absolute = fs::absolute(path, error);
@@ -122,7 +129,7 @@ void make_absolute(Options& options) {
   if (!options.root.empty()) options.root = made_absolute(options.root);
   options.screenshots = made_absolute(options.screenshots);
   if (!options.report.empty()) options.report = made_absolute(options.report);
-  for (auto* paths : {&options.music, &options.scripts}) {
+  for (auto* paths : {&options.music, &options.scripts, &options.extensions}) {
     for (fs::path& path : *paths)
       path = made_absolute(path);
   }
@@ -148,6 +155,12 @@ void add_options(CLI::App& parser, Options& options, bool& new_phone) {
                     "Music to play, files and folders, one after another; a phone that runs "
                     "already plays it");
   parser.add_option("--without", options.without, "Identifier of an application to leave out")
+      ->allow_extra_args(false);
+  parser
+      .add_option("--extension", options.extensions,
+                  "Library to try without installing it, in the processes that the property list "
+                  "beside it names, or in the home screen; may be given more than once")
+      ->check(check_extension)
       ->allow_extra_args(false);
   auto* headless = parser.add_flag("--headless", options.headless, "No window");
   parser
@@ -216,6 +229,17 @@ std::variant<Options, Ending> read_options(int count, const char* const* argumen
   return options;
 }
 
+namespace {
+
+void add_extensions(std::vector<std::string>& arguments, const Options& options) {
+  for (const fs::path& extension : options.extensions) {
+    arguments.emplace_back(application::kExtensionArgument);
+    arguments.push_back(extension);
+  }
+}
+
+}  // namespace
+
 fs::path default_device_root() {
   const char* data = std::getenv("XDG_DATA_HOME");
   if (data && *data == '/') return fs::path(data) / "sonavue/device";
@@ -231,6 +255,7 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
     made.push_back("--music");
     made.push_back(ascii_of(folder.native()));
   }
+  add_extensions(made, options);
   if (!options.has_window()) made.push_back("--headless");
   if (options.headless && options.blind) made.push_back("--blind");
   if (options.has_stepped_clock()) made.push_back("--stepped");
@@ -239,7 +264,9 @@ std::vector<std::string> home_screen_arguments(const Options& options) {
 }
 
 std::vector<std::string> application_arguments(const Options& options) {
-  return {"--device", options.device, "--root", options.root};
+  std::vector<std::string> made = {"--device", options.device, "--root", options.root};
+  add_extensions(made, options);
+  return made;
 }
 
 }  // namespace host::launcher

@@ -15,6 +15,7 @@ struct Options {
   std::vector<std::string> files;     // to play
   std::vector<std::string> refusals;  // a line for each file that cannot be played
   std::vector<std::string> without;
+  std::vector<std::filesystem::path> extensions;  // libraries to try without installing them
   std::filesystem::path screenshots;
   std::vector<std::filesystem::path> scripts;  // each is played on a phone started for it
   std::filesystem::path report;                // of the scripts; empty without one

@@ -91,12 +91,19 @@ int meet_running_phone(const Options& options) {
     std::fprintf(stderr, "sonavue: the phone of process %d plays the music\n", owner.process);
     return 0;
   }
+  const std::string name = owner.process ? std::to_string(owner.process) : "that is starting";
+  if (!options.extensions.empty()) {
+    std::fprintf(stderr,
+                 "sonavue: %s is in use by process %s, and extensions are loaded when a phone "
+                 "starts: switch that one off first\n",
+                 options.root.c_str(), name.c_str());
+    return kInUse;
+  }
   const bool is_shown = !options.headless && !has_console(options) &&
                         !owner.control_socket.empty() &&
                         ask_supervisor(owner.control_socket, {ControlRequest::Kind::Show, {}, {}});
   const char* const shown = options.browser ? ", which prints a new link or shows its window"
                                             : ", whose window is in front now";
-  const std::string name = owner.process ? std::to_string(owner.process) : "that is starting";
   std::fprintf(stderr, "sonavue: %s is already in use by process %s%s\n", options.root.c_str(),
                name.c_str(), is_shown ? shown : "");
   return is_shown ? 0 : kInUse;

@@ -8,4 +8,7 @@ inline constexpr const char* kListenerArgument = "--listener";
 /// Starts a process of the phone, also the home screen, without extensions.
 inline constexpr const char* kSafeModeArgument = "--safe-mode";
 
+/// Precedes a library that is loaded without being installed, also for the home screen.
+inline constexpr const char* kExtensionArgument = "--extension";
+
 }  // namespace host::application

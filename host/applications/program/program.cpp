@@ -1,7 +1,9 @@
 #include "host/applications/program/program.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <optional>
+#include <vector>
 
 #include "host/application/wire/process_arguments.h"
 #include "host/applications/program/running_program.h"
@@ -29,7 +31,8 @@ struct Options {
   std::string device;
   std::string root;
   int listener = -1;
-  bool safe_mode = false;  // no extensions
+  std::vector<std::filesystem::path> extensions;  // that are not installed
+  bool safe_mode = false;                         // no extensions
 };
 
 std::optional<Options> read_options(int count, const char* const* arguments) {
@@ -38,6 +41,7 @@ std::optional<Options> read_options(int count, const char* const* arguments) {
   parser.add_option("--device", options.device)->required();
   parser.add_option("--root", options.root)->required();
   parser.add_option(kListenerArgument, options.listener)->required();
+  parser.add_option(kExtensionArgument, options.extensions)->allow_extra_args(false);
   parser.add_flag(kSafeModeArgument, options.safe_mode);
   try {
     parser.parse(count, arguments);
@@ -58,7 +62,7 @@ Hello wait_for_home(HomeLink& link) {
   }
 }
 
-void live(HomeLink& link, const Program& program, bool safe_mode) {
+void live(HomeLink& link, const Program& program, const Options& options) {
   const Hello hello = wait_for_home(link);
   SteppedClock stepped;
   RealClock real;
@@ -70,7 +74,8 @@ void live(HomeLink& link, const Program& program, bool safe_mode) {
   foundation::take_foundation_log();
   const quartzcore::LayerService layers(loop);
   if (program.export_classes) program.export_classes();
-  if (!safe_mode) foundation::load_libraries(program.bundle, program.name);
+  if (!options.safe_mode)
+    foundation::load_libraries(program.bundle, program.name, options.extensions);
   if (program.prepare) program.prepare(hello.is_stepped);
   uikit::launch_application(program.application_class);
   const console::Globals globals = process::globals_of_libraries();
@@ -94,7 +99,7 @@ int run_program(int count, char** arguments, const Program& program) {
   foundation::set_device_root(options->root);
   close_on_exec(options->listener);
   HomeLink link{Descriptor(options->listener)};
-  live(link, program, options->safe_mode);
+  live(link, program, *options);
   return 0;
 }
 
