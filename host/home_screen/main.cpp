@@ -2,6 +2,9 @@
 #include <functional>
 #include <memory>
 
+#include "host/application/wire/process_arguments.h"
+#include "host/basics/ascii.h"
+#include "host/class_headers/framework_headers.h"
 #include "host/console/globals.h"
 #include "host/foundation/crash_report.h"
 #include "host/foundation/device_paths.h"
@@ -102,10 +105,24 @@ int run(const ProcessOptions& options) {
   return switch_off(lifeline);
 }
 
+/// For who writes extensions: no home screen, only the headers of its classes.
+int write_headers(const char* folder) {
+  ProcessClock clock(true);
+  RunLoop loop(clock.clock());
+  RunLoop::set_main(&loop);
+  const objc::AutoreleasePool pool;
+  const std::string problem = class_headers::write_headers(bytes_of_ascii(folder));
+  if (problem.empty()) return 0;
+  std::fprintf(stderr, "sonavue: the headers cannot be written: %s\n", problem.c_str());
+  return launcher::kCannotStart;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   start_log(launcher::kHomeScreen);
+  if (count == 3 && std::string_view(arguments[1]) == application::kHeadersArgument)
+    return write_headers(arguments[2]);
   const auto options = launcher::read_process_options(count, arguments);
   if (!options) {
     std::fputs("SpringBoard must be started by sonavue.\n", stderr);

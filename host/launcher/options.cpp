@@ -128,6 +128,7 @@ void check_files(Options& options) {
 void make_absolute(Options& options) {
   if (!options.root.empty()) options.root = made_absolute(options.root);
   options.screenshots = made_absolute(options.screenshots);
+  if (!options.headers.empty()) options.headers = made_absolute(options.headers);
   if (!options.report.empty()) options.report = made_absolute(options.report);
   for (auto* paths : {&options.music, &options.scripts, &options.extensions}) {
     for (fs::path& path : *paths)
@@ -162,6 +163,9 @@ void add_options(CLI::App& parser, Options& options, bool& new_phone) {
                   "beside it names, or in the home screen; may be given more than once")
       ->check(check_extension)
       ->allow_extra_args(false);
+  parser.add_option("--headers", options.headers,
+                    "Write Objective-C headers of the phone's classes to this folder, for "
+                    "extensions; starts no phone");
   auto* headless = parser.add_flag("--headless", options.headless, "No window");
   parser
       .add_flag("--browser", options.browser,

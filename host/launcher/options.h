@@ -19,7 +19,8 @@ struct Options {
   std::filesystem::path screenshots;
   std::vector<std::filesystem::path> scripts;  // each is played on a phone started for it
   std::filesystem::path report;                // of the scripts; empty without one
-  bool is_set_up = false;                      // a new device gets its first files
+  std::filesystem::path headers;  // folder to write them to, instead of starting a phone
+  bool is_set_up = false;         // a new device gets its first files
   bool headless = false;
   bool browser = false;  // no window either, but a page
   bool blind = false;

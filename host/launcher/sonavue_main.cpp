@@ -1,10 +1,14 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 
+#include "host/application/wire/process_arguments.h"
+#include "host/basics/ascii.h"
 #include "host/files/replace_file.h"
 #include "host/launcher/environment.h"
 #include "host/launcher/handed_files.h"
@@ -176,6 +180,15 @@ int run_scripts(const Options& options) {
   return first_failure;
 }
 
+/// The home screen's program has the classes. Returns only on failure.
+int write_headers(const std::filesystem::path& folder) {
+  const auto program = find_installation().home_screen;
+  const std::string ascii = host::ascii_of(folder.native());
+  execl(program.c_str(), program.c_str(), host::application::kHeadersArgument, ascii.c_str(),
+        nullptr);
+  return complain(program.string() + " cannot be started: " + std::strerror(errno));
+}
+
 }  // namespace
 
 int main(int count, char** arguments) try {
@@ -188,6 +201,7 @@ int main(int count, char** arguments) try {
     return ending->status;
   }
   auto options = *std::get_if<Options>(&read);
+  if (!options.headers.empty()) return write_headers(options.headers);
   for (const std::string& refusal : options.refusals)
     complain(refusal);
   if (options.has_window()) log_to_file_unless_seen();
