@@ -7,8 +7,6 @@
 namespace host::foundation {
 namespace {
 
-constexpr const char* kEndlessNote = "endless";
-
 std::string version_of(const std::filesystem::path& file) {
   std::error_code error;
   const auto size = std::filesystem::file_size(file, error);
@@ -25,22 +23,21 @@ LoadGuard::LoadGuard(const std::filesystem::path& library, const std::filesystem
   int crashes = 0;
   if (!(mark >> version >> crashes) || version != version_) return;
   crashes_ = crashes;
-  std::string note;
-  is_endless_ = mark >> note && note == kEndlessNote;
+  std::getline(mark >> std::ws, reason_);
 }
 
-void LoadGuard::write_mark(const char* note) const {
+void LoadGuard::write_mark(const std::string& reason) const {
   std::error_code error;
   std::filesystem::create_directories(mark_.parent_path(), error);
-  std::ofstream(mark_) << version_ << ' ' << crashes_ + 1 << ' ' << note << '\n';
+  std::ofstream(mark_) << version_ << ' ' << crashes_ + 1 << ' ' << reason << '\n';
 }
 
 void LoadGuard::will_load() {
   write_mark("");
 }
 
-void LoadGuard::will_not_load() {
-  write_mark(kEndlessNote);
+void LoadGuard::will_not_load(const std::string& reason) {
+  write_mark(reason);
 }
 
 void LoadGuard::did_load() {

@@ -13,6 +13,7 @@
 #include "host/foundation/device_paths.h"
 #include "host/foundation/load_filter.h"
 #include "host/foundation/load_guard.h"
+#include "host/foundation/unanswered_messages.h"
 #include "host/runtime/hang_watch.h"
 #include "host/runtime/log.h"
 #include "host/runtime/patience.h"
@@ -28,7 +29,18 @@ constexpr double kEndlessLoad = 10;
 constexpr std::string_view kHomeScreenBundle = "com.apple.springboard";
 constexpr std::string_view kMarks = "/var/mobile/Library/Caches/loader";
 
+// The status of a process that ends itself because of a library.
+constexpr int kEndedByLoader = 1;
+
 std::vector<LoadedLibrary> loaded;
+
+/// The library whose `dlopen` is running.
+struct CurrentLoad {
+  const std::string& name;
+  const std::filesystem::path& file;
+  LoadGuard& guard;
+};
+CurrentLoad* current_load = nullptr;
 
 struct Library {
   std::filesystem::path file;
@@ -80,11 +92,9 @@ class LoadWatch {
   void end_process(const std::string& name) {
     spdlog::error("{} does not finish loading: the process ends, and leaves it out from now on",
                   name);
-    guard_->will_not_load();
-    _exit(kEndedByWatch);
+    guard_->will_not_load("its load did not end");
+    _exit(kEndedByLoader);
   }
-
-  static constexpr int kEndedByWatch = 1;
 
   LoadGuard* guard_ = nullptr;
   HangWatch slow_{patience_of(kSlowLoad), [](const std::string& name) {
@@ -96,8 +106,18 @@ class LoadWatch {
 };
 
 std::string reason_for_giving_up(const LoadGuard& guard) {
-  if (guard.is_endless()) return "its load did not end";
+  if (!guard.reason().empty()) return guard.reason();
   return fmt::format("it crashed {} times while being loaded", guard.crashes());
+}
+
+/// Compiled libraries refer to a class by a symbol with this beginning.
+constexpr std::string_view kClassSymbol = "undefined symbol: __objc_class_name_";
+
+std::string reason_of(std::string_view error) {
+  const auto symbol = error.find(kClassSymbol);
+  if (symbol == error.npos) return std::string(error);
+  return fmt::format("it needs the class {}, which this home screen does not have",
+                     error.substr(symbol + kClassSymbol.size()));
 }
 
 void load(const std::filesystem::path& file, const std::string& name, LoadWatch& watch) {
@@ -110,14 +130,17 @@ void load(const std::filesystem::path& file, const std::string& name, LoadWatch&
   guard.will_load();
   crash_report_begins_load(name);
   void* handle = nullptr;
+  CurrentLoad current{name, file, guard};
+  current_load = &current;
   watch.during(name, guard, [&] { handle = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL); });
+  current_load = nullptr;
   crash_report_ends_load(name, handle);
   guard.did_load();
   if (!handle) {
-    spdlog::error("{} is left out: {}", name, dlerror());
+    spdlog::error("{} is left out: {}", name, reason_of(dlerror()));
     return;
   }
-  loaded.push_back({name, handle});
+  loaded.push_back({name, handle, file});
   spdlog::info("loaded {}", name);
 }
 
@@ -131,6 +154,7 @@ std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
                                           std::string_view executable,
                                           std::span<const std::filesystem::path> tried) {
   objc::AutoreleasePool pool;
+  report_unanswered_messages();
   LoadWatch watch;
   const std::size_t before = loaded.size();
   Libraries libraries = installed_libraries();
@@ -141,6 +165,27 @@ std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
     if (is_wanted(library, name, bundle_identifier, executable)) load(library.file, name, watch);
   }
   return {loaded.begin() + static_cast<std::ptrdiff_t>(before), loaded.end()};
+}
+
+std::string library_at(const void* code) {
+  Dl_info found;
+  if (!dladdr(code, &found) || !found.dli_fname) return {};
+  if (current_load && current_load->file == found.dli_fname) return current_load->name;
+  for (const LoadedLibrary& library : loaded) {
+    if (library.file == found.dli_fname) return library.name;
+  }
+  return {};
+}
+
+bool is_loading_library() {
+  return current_load != nullptr;
+}
+
+void refuse_current_library(const std::string& reason) {
+  spdlog::error("{} cannot be loaded: {}. The process ends, and leaves it out from now on",
+                current_load->name, reason);
+  current_load->guard.will_not_load(reason);
+  _exit(kEndedByLoader);
 }
 
 const std::vector<LoadedLibrary>& loaded_libraries() {

@@ -14,6 +14,7 @@ std::filesystem::path libraries_folder();
 struct LoadedLibrary {
   std::string name;  // of the file, without its extension
   void* handle;      // for dlsym
+  std::filesystem::path file;
 };
 
 /// Loads those dynamic libraries in `/Library/MobileSubstrate/DynamicLibraries`, in the order of
@@ -30,6 +31,16 @@ struct LoadedLibrary {
 std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
                                           std::string_view executable,
                                           std::span<const std::filesystem::path> tried = {});
+
+/// Whether the code of a library that is not loaded yet is running.
+bool is_loading_library();
+/// Ends the process because that library must not run, and leaves it out until its file changes.
+/// The log gets the reason now and at each start.
+[[noreturn]] void refuse_current_library(const std::string& reason);
+
+/// The name of the library whose code is at this address, also while it is being loaded; empty for
+/// other code.
+std::string library_at(const void* code);
 
 /// All libraries loaded into this process so far.
 const std::vector<LoadedLibrary>& loaded_libraries();

@@ -4,6 +4,7 @@
 #include "host/foundation/exports.h"
 #include "host/media_player/exports.h"
 #include "host/preferences/exports.h"
+#include "host/process/class_names.h"
 #include "host/quartzcore/service/exports.h"
 #include "host/social/composers/exports.h"
 #include "host/springboard/system/exports.h"
@@ -42,18 +43,32 @@ void export_uikit() {
   uikit::export_picker();
 }
 
+#define SONAVUE_NAME(name) #name,
+constexpr std::string_view kQuartzCoreClasses[] = {SONAVUE_QUARTZCORE_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kUIKitClasses[] = {SONAVUE_UIKIT_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kMediaPlayerClasses[] = {SONAVUE_MEDIA_PLAYER_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kMediaPlayerUIClasses[] = {
+    SONAVUE_MEDIA_PLAYER_UI_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kMessageUIClasses[] = {SONAVUE_MESSAGE_UI_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kTwitterClasses[] = {SONAVUE_TWITTER_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kPreferencesClasses[] = {SONAVUE_PREFERENCES_CLASSES(SONAVUE_NAME)};
+constexpr std::string_view kGestureServiceClasses[] = {
+    SONAVUE_GESTURE_SERVICE_CLASSES(SONAVUE_NAME)};
+#undef SONAVUE_NAME
+
 // The last ones consist only of C functions, which are in every program. They are listed because
 // libraries request them.
 constexpr DeviceImage kImages[] = {
     {kFoundation, {}, &foundation::export_foundation},
-    {kQuartzCore, kBelowQuartzCore, &quartzcore::export_quartzcore},
-    {kUIKit, kBelowUIKit, &export_uikit},
-    {kMediaPlayer, kAboveUIKit, &media_player::export_media_player},
-    {kMediaPlayerUI, kBelowMediaPlayerUI, &media_player::export_now_playing_controller},
-    {kMessageUI, kAboveUIKit, &social::export_message_ui},
-    {kTwitter, kAboveUIKit, &social::export_twitter},
-    {kPreferences, kAboveUIKit, &preferences::export_preferences},
-    {kGestureService, kAboveUIKit, &activator::export_activator},
+    {kQuartzCore, kBelowQuartzCore, &quartzcore::export_quartzcore, kQuartzCoreClasses},
+    {kUIKit, kBelowUIKit, &export_uikit, kUIKitClasses},
+    {kMediaPlayer, kAboveUIKit, &media_player::export_media_player, kMediaPlayerClasses},
+    {kMediaPlayerUI, kBelowMediaPlayerUI, &media_player::export_now_playing_controller,
+     kMediaPlayerUIClasses},
+    {kMessageUI, kAboveUIKit, &social::export_message_ui, kMessageUIClasses},
+    {kTwitter, kAboveUIKit, &social::export_twitter, kTwitterClasses},
+    {kPreferences, kAboveUIKit, &preferences::export_preferences, kPreferencesClasses},
+    {kGestureService, kAboveUIKit, &activator::export_activator, kGestureServiceClasses},
     {"/System/Library/Frameworks/CoreFoundation.framework/CoreFoundation", {}, nullptr},
     {"/System/Library/Frameworks/CoreGraphics.framework/CoreGraphics", {}, nullptr},
     {"/Library/Frameworks/CydiaSubstrate.framework/CydiaSubstrate", {}, nullptr},

@@ -30,4 +30,11 @@ bool load_device_image(std::string_view path) {
   return true;
 }
 
+void load_image_of_class(std::string_view name) {
+  for (const DeviceImage& image : device_images) {
+    if (std::find(image.classes.begin(), image.classes.end(), name) != image.classes.end())
+      load_device_image(image.path);
+  }
+}
+
 }  // namespace host

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "host/runtime/class_family.h"
+#include "host/runtime/compiled_selector.h"
 
 namespace {
 
@@ -22,6 +23,8 @@ objc::Method own_method(objc::Class cls, objc::Sel selector) {
 
 void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
                      objc::Imp* original) {
+  if (const host::CompiledSelector* early = host::as_unregistered(selector))
+    selector = sel_registerTypedName(early->name, early->types);
   const objc::Method answering = cls ? class_getInstanceMethod(cls, selector) : nullptr;
   if (!answering) return;
   const objc::Imp before = method_getImplementation(answering);

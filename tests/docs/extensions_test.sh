@@ -30,6 +30,8 @@ printf '#!/bin/sh\nexec "%s" --screenshots "%s" "$@"\n' "$sonavue" "$work" >run
 chmod +x run
 export XDG_DATA_HOME="$3" XDG_RUNTIME_DIR="$work"
 awk '/^```sh$/ { inside = 1; next } /^```/ { inside = 0 } inside' "$page" >commands
-grep -c '^\./run .*--script' commands >runs || fail "the page runs no example"
-[ "$(cat runs)" -eq "$(ls "$source"/docs/examples | wc -l)" ] || fail "the page does not run every example"
+for example in "$source"/docs/examples/*/*.cpp "$source"/docs/examples/*/*.m; do
+  grep -q " ${example#"$source"/} " commands || fail "the page does not build ${example#"$source"/}"
+done
+[ "$(grep -c '^\./run .*--script' commands)" -eq "$(grep -c '^g[c+][c+] ' commands)" ] || fail "the page does not run what it builds"
 sh -ex commands || fail "a command of the page"
