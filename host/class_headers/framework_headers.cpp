@@ -23,6 +23,24 @@ constexpr const char* kHooking =
     "/* Replaces a method; `original` receives what was there. */\n"
     "void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP *original);\n";
 
+constexpr const char* kNotifications =
+    "#import <Foundation/Foundation.h>\n\n"
+    "/* Notifications between processes: names without contents. */\n"
+    "typedef void *CFNotificationCenterRef;\n"
+    "typedef void (*CFNotificationCallback)(CFNotificationCenterRef center, void *observer,\n"
+    "                                       NSString *name, const void *object, id userInfo);\n"
+    "CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter(void);\n"
+    "void CFNotificationCenterAddObserver(CFNotificationCenterRef center, const void *observer,\n"
+    "                                     CFNotificationCallback callback, NSString *name,\n"
+    "                                     const void *object, NSInteger behavior);\n"
+    "void CFNotificationCenterRemoveObserver(CFNotificationCenterRef center,\n"
+    "                                        const void *observer, NSString *name,\n"
+    "                                        const void *object);\n"
+    "void CFNotificationCenterPostNotification(CFNotificationCenterRef center, NSString *name,\n"
+    "                                          const void *object, const void *userInfo,\n"
+    "                                          unsigned char immediately);\n"
+    "unsigned notify_post(const char *name);\n";
+
 /// The methods of each class, by name.
 using Methods = std::map<std::string, std::set<std::string>>;
 
@@ -128,6 +146,7 @@ std::string write_headers(const std::filesystem::path& folder) {
   writer.write_framework("SpringBoard");
   writer.write_structures();
   writer.write("substrate.h", kHooking);
+  writer.write(file_of("CoreFoundation"), kNotifications);
   return writer.problem();
 }
 
