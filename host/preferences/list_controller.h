@@ -4,6 +4,7 @@
 
 #include "host/preferences/specifier_groups.h"
 #include "objc/class_builder.h"
+#include "platform/Foundation/NSBundle.h"
 #include "platform/Preferences/PSListController.h"
 
 namespace host::preferences {
@@ -19,7 +20,28 @@ class ListController : public objc::Implementation<ListController, PSListControl
   void reload_specifiers();
   void reload();
   void reload_specifier(PSSpecifier specifier);
+  void reload_specifier_animated(PSSpecifier specifier, BOOL animated);
+  void reload_specifier_id(NSString identifier);
+  void reload_specifier_id_animated(NSString identifier, BOOL animated);
   PSSpecifier specifier_for_id(NSString identifier);
+
+  // Rows that come and go; the specifiers that the page has change with them.
+  void insert_at(PSSpecifier specifier, NSInteger index, BOOL animated);
+  void insert_after(PSSpecifier specifier, PSSpecifier before, BOOL animated);
+  void insert_after_id(PSSpecifier specifier, NSString identifier, BOOL animated);
+  void insert_all_after(NSArray specifiers, PSSpecifier before, BOOL animated);
+  void insert_all_after_id(NSArray specifiers, NSString identifier, BOOL animated);
+  void add(PSSpecifier specifier, BOOL animated);
+  void remove(PSSpecifier specifier, BOOL animated);
+  void remove_id(NSString identifier, BOOL animated);
+  void remove_all(NSArray specifiers, BOOL animated);
+  BOOL contains(PSSpecifier specifier);
+
+  // Values in the files of preferences.
+  NSBundle bundle();
+  NSArray load_list(NSString name, objc::Object target);
+  objc::Object read_value(PSSpecifier specifier);
+  void write_value(objc::Object value, PSSpecifier specifier);
   UITableView table();
 
   PSSpecifier specifier() const { return specifier_.get(); }
@@ -50,6 +72,7 @@ class ListController : public objc::Implementation<ListController, PSListControl
   void keep(NSArray specifiers);
   void show_rows();
   void show_values();
+  void change_rows(NSArray specifiers, BOOL animated);
   bool open_detail(PSSpecifier specifier);
 
   SpecifierGroups groups_;

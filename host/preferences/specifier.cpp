@@ -24,9 +24,9 @@ PSSpecifier Specifier::named(objc::Object cls, NSString name, objc::Object targe
   const PSSpecifier made = make(cls);
   Specifier& state = objc::state_of<Specifier>(made);
   made.setName(name);
-  state.target_ = target;
-  state.set_ = set;
-  state.get_ = get;
+  state.set_target(target);
+  *objc::field<objc::Sel>(made, "setter") = set;
+  *objc::field<objc::Sel>(made, "getter") = get;
   state.detail_ = detail;
   state.cell_ = cell;
   state.edit_ = edit;
@@ -56,12 +56,10 @@ objc::Object Specifier::property(NSString key) const {
 
 void Specifier::set_property(objc::Object value, NSString key) {
   if (!key) return;
-  if (!properties_)
-    properties_ = objc::Ref<NSMutableDictionary>::retain(NSMutableDictionary::dictionary());
   if (value) {
-    properties_->setObject(value, key);
+    properties().setObject(value, key);
   } else {
-    properties_->removeObjectForKey(key);
+    properties().removeObjectForKey(key);
   }
 }
 
@@ -74,27 +72,57 @@ void Specifier::set_values(NSArray values, NSArray titles) {
   titles_ = objc::Ref<NSDictionary>::retain(by_value);
 }
 
+NSMutableDictionary Specifier::properties() {
+  if (!properties_)
+    properties_ = objc::Ref<NSMutableDictionary>::retain(NSMutableDictionary::dictionary());
+  return properties_.get();
+}
+
+void Specifier::set_properties(NSDictionary properties) {
+  const NSDictionary wanted = properties ? properties : NSDictionary::dictionary();
+  properties_ =
+      objc::Ref<NSMutableDictionary>::retain(NSMutableDictionary::dictionaryWithDictionary(wanted));
+}
+
+objc::Object Specifier::target() const {
+  return objc::Object(*objc::field<objc::Id>(self, "target"));
+}
+
+void Specifier::set_target(objc::Object target) {
+  *objc::field<objc::Id>(self, "target") = target.id();
+}
+
 objc::Sel Specifier::action() const {
-  const objc::Sel* field = objc::field<objc::Sel>(self, "action");
-  return field ? *field : nullptr;
+  return *objc::field<objc::Sel>(self, "action");
+}
+
+objc::Sel Specifier::setter() const {
+  return *objc::field<objc::Sel>(self, "setter");
+}
+
+objc::Sel Specifier::getter() const {
+  return *objc::field<objc::Sel>(self, "getter");
 }
 
 objc::Object Specifier::value() const {
-  return understands(target_, get_) ? objc::send<objc::Object>(target_, get_, self)
-                                    : objc::Object();
+  return understands(target(), getter()) ? objc::send<objc::Object>(target(), getter(), self)
+                                         : objc::Object();
 }
 
-void Specifier::set_value(objc::Object value) const {
-  if (understands(target_, set_)) objc::send<>(target_, set_, value, self);
+void Specifier::set_value(objc::Object value) {
+  if (understands(target(), setter())) objc::send<>(target(), setter(), value, self);
 }
 
 void Specifier::send_action() const {
-  uikit::send_action_message(target_, action(), self, nil);
+  uikit::send_action_message(target(), action(), self, nil);
 }
 
 void export_specifier() {
   objc::ClassBuilder("PSSpecifier", "NSObject")
       .state<Specifier>()
+      .field<objc::Id>("target")
+      .field<objc::Sel>("setter")
+      .field<objc::Sel>("getter")
       .field<objc::Sel>("action")
       .class_method<&Specifier::named>("preferenceSpecifierNamed:target:set:get:detail:cell:edit:")
       .class_method<&Specifier::empty_group>("emptyGroupSpecifier")
@@ -107,6 +135,13 @@ void export_specifier() {
       .method<&Specifier::set_target>("setTarget:")
       .method<&Specifier::property>("propertyForKey:")
       .method<&Specifier::set_property>("setProperty:forKey:")
+      .method<&Specifier::remove_property>("removePropertyForKey:")
+      .method<&Specifier::properties>("properties")
+      .method<&Specifier::set_properties>("setProperties:")
+      .method<&Specifier::set_button_action>("setButtonAction:")
+      .method<&Specifier::action>("buttonAction")
+      .method<&Specifier::value>("performGetter")
+      .method<&Specifier::set_value>("performSetterWithValue:")
       .method<&Specifier::set_values>("setValues:titles:")
       .method<&Specifier::values>("values")
       .method<&Specifier::titles>("titleDictionary")
