@@ -32,6 +32,10 @@ const char* cell_class_name(PSCellType type) {
   switch (type) {
     case kSwitchCell:
       return "PSSwitchTableCell";
+    case kSliderCell:
+      return "PSSliderTableCell";
+    case kEditTextCell:
+      return "PSEditableTableCell";
     default:
       return "PSTableCell";
   }

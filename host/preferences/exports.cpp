@@ -5,6 +5,7 @@
 #include "host/preferences/list_items_controller.h"
 #include "host/preferences/specifier.h"
 #include "host/preferences/table_cell.h"
+#include "host/preferences/value_cells.h"
 
 namespace host::preferences {
 
@@ -13,6 +14,7 @@ void export_preferences() {
   export_specifier();
   export_table_cell();
   export_control_cells();
+  export_value_cells();
   export_list_controller();
   export_list_items_controller();
 }

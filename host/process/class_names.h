@@ -22,7 +22,7 @@
   CLASS(UIPanGestureRecognizer) CLASS(UIPasteboard) CLASS(UIPickerView) CLASS(UIPickerWheel) \
   CLASS(UIResponder) CLASS(UIScreen) CLASS(UIScrollView) \
   CLASS(UIScrollViewDelayedTouchesBeganGestureRecognizer) \
-  CLASS(UIScrollViewPanGestureRecognizer) CLASS(UISelectionGrabber) CLASS(UISwitch) \
+  CLASS(UIScrollViewPanGestureRecognizer) CLASS(UISelectionGrabber) CLASS(UISlider) CLASS(UISwitch) \
   CLASS(UITableView) CLASS(UITableViewCell) CLASS(UITapGestureRecognizer) \
   CLASS(UITextEffectsWindow) CLASS(UITextField) CLASS(UITextView) CLASS(UITouch) CLASS(UIView) \
   CLASS(UIViewController) CLASS(UIWindow) CLASS(_UIBackdropView) CLASS(_UIBackdropViewSettings) \
@@ -48,8 +48,8 @@
   CLASS(TWTweetComposeViewController)
 
 #define SONAVUE_PREFERENCES_CLASSES(CLASS) \
-  CLASS(PSControlTableCell) CLASS(PSListController) CLASS(PSListItemsController) \
-  CLASS(PSSpecifier) CLASS(PSSwitchTableCell) CLASS(PSTableCell)
+  CLASS(PSControlTableCell) CLASS(PSEditableTableCell) CLASS(PSListController) CLASS(PSListItemsController) \
+  CLASS(PSSliderTableCell) CLASS(PSSpecifier) CLASS(PSSwitchTableCell) CLASS(PSTableCell)
 
 #define SONAVUE_GESTURE_SERVICE_CLASSES(CLASS) \
   CLASS(LAActivator) CLASS(LAEvent) CLASS(LAListenerListViewController) \

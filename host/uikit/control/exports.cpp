@@ -2,6 +2,7 @@
 
 #include "host/uikit/control/button.h"
 #include "host/uikit/control/control.h"
+#include "host/uikit/control/slider.h"
 #include "host/uikit/control/switch.h"
 
 namespace host::uikit {
@@ -10,6 +11,7 @@ void export_control() {
   if (UIControl::cls()) return;
   export_control_class();
   export_button();
+  export_slider();
   export_switch();
 }
 

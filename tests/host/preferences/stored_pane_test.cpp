@@ -5,8 +5,10 @@
 
 #include "host/foundation/device_paths.h"
 #include "host/foundation/notifications.h"
+#include "host/uikit/text/key_input.h"
 #include "objc/field.h"
 #include "platform/Foundation/NSBundle.h"
+#include "platform/UIKit/UITextField.h"
 #include "tests/host/preferences/pane_test.h"
 
 // A pane as others write them: its rows are in a property list, its values in a file of
@@ -26,7 +28,12 @@ constexpr const char* kList = R"({
     { cell = PSLinkListCell; id = SIZE; key = size; defaults = "com.example.others"; default = 2;
       label = "Size"; validValues = (1, 2); validTitles = (Small, Large); },
     { cell = PSButtonCell; id = PRESS; label = "Press"; action = press; },
-    { cell = PSTitleValueCell; label = "Own"; key = own; get = "ownValue:"; }
+    { cell = PSTitleValueCell; label = "Own"; key = own; get = "ownValue:"; },
+    { cell = PSGroupCell; },
+    { cell = PSSliderCell; id = LEVEL; key = level; defaults = "com.example.others"; min = 10;
+      max = 20; default = 15; },
+    { cell = PSEditTextCell; id = NAME; key = name; defaults = "com.example.others";
+      label = "Name"; placeholder = "None"; }
   );
 })";
 
@@ -88,7 +95,7 @@ class StoredPane : public PaneTest {
   std::vector<std::string> labels() {
     std::vector<std::string> found;
     for (const UITableViewCell each : others.table().visibleCells().of<UITableViewCell>())
-      found.emplace_back(each.textLabel().text().UTF8String());
+      if (each.textLabel().text()) found.emplace_back(each.textLabel().text().UTF8String());
     return found;
   }
   PSSpecifier row_named(NSString name) {
@@ -105,7 +112,7 @@ class StoredPane : public PaneTest {
 
 TEST_F(StoredPane, AListMakesTheRowsAndTheTitle) {
   EXPECT_STREQ(others.title().UTF8String(), "Others");
-  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Size", "Press", "Own"}));
+  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Size", "Press", "Own", "Name"}));
   EXPECT_TRUE(shows(others.view(), "FIRST"_ns));
   EXPECT_TRUE(shows(others.view(), "Below."_ns));
   EXPECT_STREQ(cell(3, 0).detailTextLabel().text().UTF8String(), "mine");
@@ -139,6 +146,36 @@ TEST_F(StoredPane, AButtonSendsItsAction) {
   EXPECT_EQ(pressed, 1);
 }
 
+TEST_F(StoredPane, ASliderSetsItsValueWhenTheFingerIsLifted) {
+  const UIView slider = cell(0, 1).accessoryView();
+  const CGPoint middle = slider.convertPointToView({slider.bounds().size.width / 2, 20}, nil);
+  const CGFloat length = slider.bounds().size.width - 28;
+  press(middle);
+  advance(0.3);
+  move({middle.x + length / 10, middle.y});
+  move({middle.x + length / 5, middle.y});
+  EXPECT_FALSE(fs::exists(file()));
+  lift({middle.x + length / 5, middle.y});
+  ASSERT_TRUE(saved());
+  EXPECT_NEAR(objc::cast<NSNumber>(saved().objectForKey("level"_ns)).doubleValue(), 17, 0.01);
+  advance(0.1);
+  photograph("stored-pane-slider", clock.now());
+}
+
+TEST_F(StoredPane, ATextIsSetWhenEditingEnds) {
+  const UIView field = cell(1, 1).accessoryView();
+  tap(field.convertPointToView({40, 20}, nil));
+  advance(1);
+  ASSERT_TRUE(objc::cast<UITextField>(field).isEditing());
+  uikit::type_text("Ada"_ns);
+  EXPECT_FALSE(fs::exists(file()));
+  uikit::type_text("\n"_ns);
+  advance(1);
+  EXPECT_FALSE(objc::cast<UITextField>(field).isEditing());
+  ASSERT_TRUE(saved());
+  EXPECT_TRUE(objc::cast<NSString>(saved().objectForKey("name"_ns)).isEqualToString("Ada"_ns));
+}
+
 TEST_F(StoredPane, TheTargetAndTheMessagesAreVariables) {
   const PSSpecifier row = others.specifierForID("ENABLED"_ns);
   ASSERT_TRUE(row);
@@ -164,7 +201,8 @@ TEST_F(StoredPane, RowsComeAndGoWithAnimation) {
   const PSSpecifier fresh = row_named("Fresh"_ns);
   const CGFloat before = cell(1, 0).center().y;
   objc::send<>(others, "insertSpecifier:afterSpecifierID:animated:"_sel, fresh, "ENABLED"_ns, YES);
-  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Fresh", "Size", "Press", "Own"}));
+  EXPECT_EQ(labels(),
+            (std::vector<std::string>{"Enabled", "Fresh", "Size", "Press", "Own", "Name"}));
   EXPECT_TRUE(objc::send<BOOL>(others, "containsSpecifier:"_sel, fresh));
   advance(0.1);
   const auto moving = objc::send<CALayer>(cell(2, 0).layer(), "presentationLayer"_sel);
@@ -174,11 +212,11 @@ TEST_F(StoredPane, RowsComeAndGoWithAnimation) {
   photograph("stored-pane-inserted", clock.now());
   objc::send<>(others, "removeSpecifierID:animated:"_sel, "Fresh"_ns, YES);
   advance(1);
-  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Size", "Press", "Own"}));
+  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Size", "Press", "Own", "Name"}));
   EXPECT_EQ(cell(1, 0).center().y, before);
   objc::send<>(others, "insertSpecifier:atIndex:animated:"_sel, fresh, NSInteger{99}, NO);
   objc::send<>(others, "removeSpecifier:animated:"_sel, others.specifierForID("PRESS"_ns), NO);
-  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Size", "Own", "Fresh"}));
+  EXPECT_EQ(labels(), (std::vector<std::string>{"Enabled", "Size", "Own", "Name", "Fresh"}));
 }
 
 TEST_F(StoredPane, AListThatIsMissingIsAnEmptyPage) {
