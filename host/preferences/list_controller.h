@@ -15,7 +15,7 @@ class ListController : public objc::Implementation<ListController, PSListControl
   explicit ListController(PSListController owner) : Implementation(owner) {}
   ~ListController();
 
-  NSArray specifiers() { return self.cached_specifiers(); }
+  NSArray specifiers();
   void set_specifiers(NSArray specifiers);
   void reload_specifiers();
   void reload();

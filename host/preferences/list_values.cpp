@@ -6,6 +6,14 @@
 
 namespace host::preferences {
 
+// A subclass makes its own rows; without one, the row that leads here may have them.
+NSArray ListController::specifiers() {
+  const auto items = objc::cast<NSArray>(self.specifier().propertyForKey(kItems()));
+  if (!self.cached_specifiers() && items)
+    keep(specifiers_of_items(items, objc::send<NSBundle>(self, "bundle"_sel), self));
+  return self.cached_specifiers();
+}
+
 // The page that leads here says where this one comes from.
 NSBundle ListController::bundle() {
   const auto path = objc::cast<NSString>(self.specifier().propertyForKey(kBundlePath()));

@@ -10,6 +10,11 @@ inline NSString kBundlePath() {
   return "bundlePath"_ns;
 }
 
+/// Another of its properties: the items of a page that has no class of its own.
+inline NSString kItems() {
+  return "items"_ns;
+}
+
 /// A page as a property list describes it.
 struct SpecifierList {
   NSArray specifiers;  // empty when there is no usable list

@@ -14,6 +14,9 @@ namespace {
 using activator::to_ns;
 using activator::to_string;
 
+// The class of pages that are only a list.
+constexpr const char* kPlainPage = "PSListController";
+
 bool is_there(const std::string& file) {
   return NSFileManager::defaultManager().fileExistsAtPath(to_ns(file));
 }
@@ -27,12 +30,24 @@ std::string text_in(NSDictionary list, const char* key) {
   return to_string(list.objectForKey(to_ns(key)));
 }
 
+/// Empty when the list does not have its page's rows in it.
+objc::Ref<NSArray> rows_in(NSDictionary list) {
+  const auto items = objc::cast<NSObject>(list.objectForKey("items"_ns));
+  const bool is_array = items && items.isKindOfClass(NSArray::cls());
+  return objc::Ref<NSArray>::retain(is_array ? objc::cast<NSArray>(items) : NSArray());
+}
+
+/// Lists without a bundle of their own have their files beside them.
+std::string bundle_folder(NSDictionary entry) {
+  const std::string name = text_in(entry, "bundle");
+  return name.empty() ? kLoaderFolder : std::string(kBundleFolder) + "/" + name + ".bundle";
+}
+
 /// Returns the icon's path, in the entry's bundle or beside the list.
 std::string icon_file(NSDictionary entry) {
   std::string name = text_in(entry, "icon");
   if (name.empty() || name.starts_with('/')) return name;
-  const std::string in_bundle =
-      std::string(kBundleFolder) + "/" + text_in(entry, "bundle") + ".bundle/" + name;
+  const std::string in_bundle = bundle_folder(entry) + "/" + name;
   return is_there(in_bundle) ? in_bundle : std::string(kLoaderFolder) + "/" + name;
 }
 
@@ -45,7 +60,9 @@ std::optional<LoaderEntry> read_entry(const std::string& file) {
   if (!list) return refused("it is no property list");
   const NSDictionary inner = dictionary_in(list.objectForKey("entry"_ns));
   const NSDictionary entry = inner ? inner : list;
-  LoaderEntry read{text_in(entry, "label"), text_in(entry, "detail"), icon_file(entry)};
+  LoaderEntry read{text_in(entry, "label"), text_in(entry, "detail"), icon_file(entry),
+                   bundle_folder(entry), rows_in(list)};
+  if (read.detail.empty() && read.items) read.detail = kPlainPage;
   if (read.label.empty()) return refused("it has no label");
   if (read.detail.empty() || !objc_getClass(read.detail.c_str()))
     return refused("the class of its page is missing");

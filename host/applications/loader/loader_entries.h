@@ -3,6 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "objc/ref.h"
+#include "platform/Foundation/NSArray.h"
+
 namespace host::settings {
 
 /// A row of the root list that an extension adds with a property list.
@@ -12,6 +15,10 @@ struct LoaderEntry {
   std::string detail;
   /// A picture's file; empty for none.
   std::string icon;
+  /// The folder of the page's bundle on the device.
+  std::string bundle = {};
+  /// The rows of a page without a class of its own; empty otherwise.
+  objc::Ref<NSArray> items = {};
 };
 
 inline constexpr const char* kLoaderFolder = "/Library/PreferenceLoader/Preferences";

@@ -4,6 +4,7 @@
 #include "host/activator/page/page_look.h"
 #include "host/applications/loader/loader_entries.h"
 #include "host/applications/settings/row_icons.h"
+#include "host/preferences/specifier_list.h"
 #include "host/process/device_images.h"
 #include "platform/Activator/LAListenerListViewController.h"
 #include "platform/UIKit/UINavigationController.h"
@@ -21,6 +22,14 @@ PSSpecifier row(objc::Object target, NSString name, objc::Class detail, UIImage 
 
 PSSpecifier link(NSString name, const char* detail, UIImage icon) {
   return row(nil, name, objc_getClass(detail), icon);
+}
+
+PSSpecifier entry_row(const LoaderEntry& entry) {
+  const auto made =
+      link(activator::to_ns(entry.label), entry.detail.c_str(), activator::row_icon(entry.icon));
+  made.setProperty(activator::to_ns(entry.bundle), preferences::kBundlePath());
+  made.setProperty(entry.items.get(), preferences::kItems());
+  return made;
 }
 
 }  // namespace
@@ -43,8 +52,7 @@ NSArray RootPage::specifiers() {
   const auto entries = read_loader_entries();
   if (!entries.empty()) rows.addObject(PSSpecifier::emptyGroupSpecifier());
   for (const LoaderEntry& entry : entries)
-    rows.addObject(
-        link(activator::to_ns(entry.label), entry.detail.c_str(), activator::row_icon(entry.icon)));
+    rows.addObject(entry_row(entry));
   rows.addObject(PSSpecifier::emptyGroupSpecifier());
   rows.addObject(link("Music"_ns, "PrefsMusicController", row_icon(RowIcon::Music)));
   rows.addObject(PSSpecifier::emptyGroupSpecifier());

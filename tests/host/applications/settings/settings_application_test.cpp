@@ -13,6 +13,7 @@
 #include "host/springboard/common/configuration.h"
 #include "host/springboard/common/wallpaper.h"
 #include "host/uikit/application/application.h"
+#include "platform/Foundation/NSValue.h"
 #include "platform/Preferences/PSListController.h"
 #include "tests/host/uikit/support/page_test.h"
 #include "tests/support/media_fixtures.h"
@@ -110,6 +111,39 @@ TEST_F(SettingsTest, ExtensionsAddRowsThatOpenTheirPages) {
   open("Zebra");
   EXPECT_TRUE(top().isKindOfClass(objc_getClass("TestSettingsPane")));
   EXPECT_STREQ(top().title().UTF8String(), "Zebra");
+}
+
+TEST_F(SettingsTest, AListMayHaveTheRowsOfItsPageInIt) {
+  write(settings::kLoaderFolder + std::string("/inline.plist"),
+        R"({ entry = { cell = PSLinkCell; label = "Inline"; bundle = Inline; };
+             items = ({ cell = PSSwitchCell; label = "Here"; key = here; default = 1;
+                        defaults = "com.example.inline"; }); })");
+  launch();
+  EXPECT_THAT(rows(), ::testing::Contains("Inline"));
+  open("Inline");
+  EXPECT_STREQ(top().title().UTF8String(), "Inline");
+  EXPECT_THAT(rows(), ::testing::ElementsAre("Here"));
+  const auto list = objc::cast<PSListController>(top());
+  const auto cell = objc::cast<UITableViewCell>(list.table().visibleCells().objectAtIndex(0));
+  tap(cell.accessoryView().convertPointToView({25, 15}, nil));
+  advance(1);
+  const auto saved = NSDictionary::dictionaryWithContentsOfFile(
+      "/var/mobile/Library/Preferences/com.example.inline.plist"_ns);
+  ASSERT_TRUE(saved);
+  EXPECT_FALSE(objc::cast<NSNumber>(saved.objectForKey("here"_ns)).boolValue());
+}
+
+TEST_F(SettingsTest, APageFindsTheBundleOfItsEntry) {
+  write(settings::kBundleFolder + std::string("/Ant.bundle/Ant.plist"),
+        "{ items = ({ cell = PSStaticTextCell; label = Legs; }); }");
+  write_entry("a.plist",
+              text("label", "Ant") + text("detail", "TestSettingsPane") + text("bundle", "Ant"));
+  launch();
+  open("Ant");
+  const auto read =
+      objc::send<NSArray>(top(), "loadSpecifiersFromPlistName:target:"_sel, "Ant"_ns, top());
+  ASSERT_EQ(read.count(), 1u);
+  EXPECT_STREQ(objc::cast<PSSpecifier>(read.objectAtIndex(0)).name().UTF8String(), "Legs");
 }
 
 TEST_F(SettingsTest, DamagedEntriesAreSkippedAndLogged) {
