@@ -118,8 +118,10 @@ SONAVUE_EXPORTED objc::Class objc_get_class(const char* name) {
   host::load_image_of_class(name);
   const objc::Class found = objc_getClass(name);
   static std::set<std::string> missing;
-  if (!found && missing.insert(name).second)
-    spdlog::warn("a library sends messages to the class {}, which this process does not have",
-                 name);
+  if (!found && missing.insert(name).second) {
+    const std::string library = host::foundation::library_at(__builtin_return_address(0));
+    spdlog::warn("{} sends messages to the class {}, which this process does not have",
+                 library.empty() ? "a library" : library, name);
+  }
   return found;
 }

@@ -142,6 +142,30 @@ __attribute__((constructor)) static void start(void) {
       << phone.errors();
 }
 
+TEST_F(CompiledExtension, AClassOfAnotherProcessIsNilAndALine) {
+  media_tests::write_bytes(folder() / "Guest.plist",
+                           "{ Filter = { Bundles = (\"com.apple.Preferences\"); }; }");
+  compile(R"(
+@interface SBIconController : NSObject
++ (id)sharedInstance;
+@end
+@interface Asker : NSObject
+@end
+@implementation Asker
++ (BOOL)finds { return [SBIconController sharedInstance] != nil; }
+@end
+)");
+  RunningPhone phone(trying());
+  for (const char* line : {"advance 1", "system open com.apple.Preferences", "advance 1",
+                           "process Preferences", "expect [Asker finds] == NO"})
+    ASSERT_EQ(phone.ask(line), "ok") << line;
+  EXPECT_EQ(
+      phone.count_of_errors_with("Guest sends messages to the class SBIconController, which this "
+                                 "process does not have"),
+      1)
+      << phone.errors();
+}
+
 TEST_F(CompiledExtension, AMessageThatNothingAnswersIsNamedOnceForEachSelector) {
   compile(R"(
 @interface NSObject (Unknown)

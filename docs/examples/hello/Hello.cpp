@@ -2,6 +2,7 @@
 
 #include "objc/class_builder.h"
 #include "platform/Activator/LAActivator.h"
+#include "platform/Foundation/NSValue.h"
 #include "platform/Preferences/PSListController.h"
 #include "platform/Preferences/PSTableCell.h"
 #include "platform/UIKit/UILabel.h"
@@ -9,6 +10,10 @@
 
 extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
                                 objc::Imp* original);
+extern "C" void* CFNotificationCenterGetDarwinNotifyCenter();
+extern "C" void CFNotificationCenterAddObserver(void* center, const void* observer,
+                                                void (*callback)(), objc::Id name,
+                                                const void* object, long behavior);
 
 namespace {
 
@@ -16,6 +21,14 @@ struct HelloListener : objc::Bound<HelloListener, "HelloListener", NSObject> {};
 
 UILabel label;
 objc::Imp launched_before = nullptr;
+
+// Called at the start and whenever the switch in Settings changes.
+void show_or_hide() {
+  const auto settings = NSDictionary::dictionaryWithContentsOfFile(
+      "/var/mobile/Library/Preferences/com.example.hello.plist"_ns);
+  const auto hidden = objc::cast<NSNumber>(settings.objectForKey("hidden"_ns));
+  label.setHidden(hidden.boolValue());
+}
 
 // The hook: the home screen launches as always, then gets a label of its own.
 void launched(objc::Id self, objc::Sel selector, objc::Id application) {
@@ -33,6 +46,9 @@ void launched(objc::Id self, objc::Sel selector, objc::Id application) {
   window.setHidden(NO);
   LAActivator::sharedInstance().registerListener(HelloListener::alloc().init(),
                                                  "com.example.hello"_ns);
+  CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &label,
+                                  &show_or_hide, "com.example.hello/changed"_ns.id(), nullptr, 0);
+  show_or_hide();
 }
 
 // The listener: the gesture that is assigned to it in Settings greets in another language.
@@ -41,12 +57,15 @@ void receive_event(HelloListener, LAActivator, LAEvent event) {
   event.setHandled(YES);
 }
 
-// The page in Settings.
+// The page in Settings: a switch, whose value is kept in a file of preferences.
 NSArray specifiers(PSListController page) {
   if (const NSArray made = page.cached_specifiers()) return made;
   const auto row = PSSpecifier::preferenceSpecifierNamed(
-      "The home screen says hello"_ns, page, nullptr, nullptr, nullptr,
-      PSTableCell::cellTypeFromString("PSStaticTextCell"_ns), nullptr);
+      "Hide the label"_ns, page, "setPreferenceValue:specifier:"_sel, "readPreferenceValue:"_sel,
+      nullptr, PSTableCell::cellTypeFromString("PSSwitchCell"_ns), nullptr);
+  row.setProperty("com.example.hello"_ns, "defaults"_ns);
+  row.setProperty("hidden"_ns, "key"_ns);
+  row.setProperty("com.example.hello/changed"_ns, "PostNotification"_ns);
   page.setSpecifiers(NSArray::arrayWithObjects(PSSpecifier::emptyGroupSpecifier(), row));
   return page.cached_specifiers();
 }

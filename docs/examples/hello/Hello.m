@@ -1,5 +1,6 @@
 /* A label over the home screen, a hook, a gesture listener and a page in Settings. */
 
+#import <CoreFoundation/CoreFoundation.h>
 #import <Preferences/Preferences.h>
 #import <SpringBoard/SpringBoard.h>
 #import <UIKit/UIKit.h>
@@ -37,25 +38,35 @@ static HelloLabel *label;
 }
 @end
 
-/* The page in Settings. */
+/* The page in Settings: a switch, whose value is kept in a file of preferences. */
 @interface HelloPage : PSListController
 @end
 
 @implementation HelloPage
 - (id)specifiers {
   if ([super specifiers] == nil) {
-    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:@"The home screen says hello"
+    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:@"Hide the label"
                                                       target:self
-                                                         set:NULL
-                                                         get:NULL
+                                                         set:@selector(setPreferenceValue:specifier:)
+                                                         get:@selector(readPreferenceValue:)
                                                       detail:Nil
-                                                        cell:[PSTableCell cellTypeFromString:@"PSStaticTextCell"]
+                                                        cell:[PSTableCell cellTypeFromString:@"PSSwitchCell"]
                                                         edit:Nil];
+    [row setProperty:@"com.example.hello" forKey:@"defaults"];
+    [row setProperty:@"hidden" forKey:@"key"];
+    [row setProperty:@"com.example.hello/changed" forKey:@"PostNotification"];
     [self setSpecifiers:[NSArray arrayWithObjects:[PSSpecifier emptyGroupSpecifier], row, nil]];
   }
   return [super specifiers];
 }
 @end
+
+/* Called at the start and whenever the switch in Settings changes. */
+static void showOrHide(CFNotificationCenterRef center, void *observer, NSString *name, const void *object, id info) {
+  NSDictionary *settings =
+      [NSDictionary dictionaryWithContentsOfFile:@"/var/mobile/Library/Preferences/com.example.hello.plist"];
+  [label setHidden:[[settings objectForKey:@"hidden"] boolValue]];
+}
 
 /* The hook: the home screen launches as always, then gets a label of its own. */
 static void (*launchedBefore)(id, SEL, id);
@@ -73,6 +84,9 @@ static void launched(id self, SEL selector, id application) {
   [window setUserInteractionEnabled:NO];
   [window setHidden:NO];
   [[LAActivator sharedInstance] registerListener:[HelloListener new] forName:@"com.example.hello"];
+  CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &label, showOrHide,
+                                  @"com.example.hello/changed", NULL, 0);
+  showOrHide(NULL, NULL, nil, NULL, nil);
 }
 
 /* Runs when the library is loaded, into each process that its filter names. */
