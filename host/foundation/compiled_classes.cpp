@@ -119,7 +119,7 @@ SONAVUE_EXPORTED objc::Class objc_get_class(const char* name) {
   const objc::Class found = objc_getClass(name);
   static std::set<std::string> missing;
   if (!found && missing.insert(name).second) {
-    const std::string library = host::foundation::library_at(__builtin_return_address(0));
+    const std::string library = host::foundation::library_with(__builtin_return_address(0));
     spdlog::warn("{} sends messages to the class {}, which this process does not have",
                  library.empty() ? "a library" : library, name);
   }

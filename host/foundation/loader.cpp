@@ -167,7 +167,7 @@ std::vector<LoadedLibrary> load_libraries(std::string_view bundle_identifier,
   return {loaded.begin() + static_cast<std::ptrdiff_t>(before), loaded.end()};
 }
 
-std::string library_at(const void* code) {
+std::string library_with(const void* code) {
   Dl_info found;
   if (!dladdr(code, &found) || !found.dli_fname) return {};
   if (current_load && current_load->file == found.dli_fname) return current_load->name;

@@ -40,7 +40,7 @@ bool is_loading_library();
 
 /// The name of the library whose code is at this address, also while it is being loaded; empty for
 /// other code.
-std::string library_at(const void* code);
+std::string library_with(const void* code);
 
 /// All libraries loaded into this process so far.
 const std::vector<LoadedLibrary>& loaded_libraries();

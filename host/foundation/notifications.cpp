@@ -74,7 +74,7 @@ class Observers {
   void take() {
     alignas(inotify_event) char bytes[4096];
     ssize_t count = 0;
-    while ((count = read(events_.get(), bytes, sizeof bytes)) > 0) {
+    while ((count = ::read(events_.get(), bytes, sizeof bytes)) > 0) {
       for (const char* at = bytes; at < bytes + count;) {
         const auto& event = *reinterpret_cast<const inotify_event*>(at);
         at += sizeof event + event.len;

@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <unwind.h>
 
+#include <bit>
 #include <mutex>
 #include <set>
 #include <string>
@@ -38,7 +39,7 @@ struct SenderSearch {
   static _Unwind_Reason_Code visit(_Unwind_Context* frame, void* pointer) {
     auto& search = *static_cast<SenderSearch*>(pointer);
     // The return address may be that of the next function.
-    const void* code = reinterpret_cast<const void*>(_Unwind_GetIP(frame) - 1);
+    const void* code = std::bit_cast<const void*>(_Unwind_GetIP(frame) - 1);
     const bool is_runtime = file_at(code) == search.runtime;
     if (search.is_in_runtime && !is_runtime) {
       search.sender = code;
@@ -53,7 +54,7 @@ struct SenderSearch {
 std::string sender() {
   SenderSearch search;
   _Unwind_Backtrace(&SenderSearch::visit, &search);
-  return library_at(search.sender);
+  return library_with(search.sender);
 }
 
 bool is_first(const std::string& library, const std::string& selector) {
