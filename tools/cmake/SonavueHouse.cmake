@@ -39,6 +39,11 @@ if(CMAKE_UNITY_BUILD)
   # In a batch these warn about code that is correct file by file; the other presets enable them.
   add_compile_options(-Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
+# Pictures and numbers are the same on every desktop and on the phone: char is signed, and
+# multiplications are not fused with additions. Compilers for x86-64 need not be told.
+if(NOT SONAVUE_PHONE AND NOT CMAKE_SYSTEM_PROCESSOR STREQUAL x86_64)
+  add_compile_options(-fsigned-char -ffp-contract=off)
+endif()
 if(SONAVUE_PHONE)
   # Exceptions of the system pass through the library, which has no handlers.
   add_compile_options(-funwind-tables)
