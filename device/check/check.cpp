@@ -8,8 +8,8 @@
 #include "device/check/layout.h"
 #include "device/check/library.h"
 #include "device/check/linker_stubs.h"
+#include "device/check/phone_page.h"
 #include "device/check/platform.h"
-#include "device/check/readme.h"
 #include "device/check/signature.h"
 #include "device/check/unwind.h"
 
@@ -36,7 +36,7 @@ void check_platform(const PackageFile& package, const Image& library,
     const std::string text(control->content.begin(), control->content.end());
     const SystemRange promised = promised_range(text);
     check_platform(platform_use(library), known, promised, findings);
-    check_readme(source, promised, findings);
+    check_phone_page(source, promised, findings);
   } catch (const FormatError& problem) {
     findings.push_back(problem.what());
   }

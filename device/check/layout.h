@@ -10,7 +10,7 @@ inline constexpr const char* kLibraryPath =
 inline constexpr const char* kBundlePath =
     "Library/PreferenceBundles/SonavueSettings.bundle/SonavueSettings";
 
-/// The processors that the control file and README name for the library.
+/// The processors that the control file and docs/phone.md name for the library.
 inline constexpr const char* kProcessors = "arm64, without pointer authentication";
 
 /// Checks the package's files and their owners, the control file, and the compression. `source` is

@@ -22,6 +22,7 @@ class FactsFolder {
 
   const std::filesystem::path& path() const { return path_; }
   void write(const std::string& file, const std::string& text) const {
+    std::filesystem::create_directories((path_ / file).parent_path());
     std::ofstream(path_ / file) << text;
   }
 

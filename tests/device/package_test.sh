@@ -67,7 +67,7 @@ broken "up to and without 8.4, the facts prove" sed -i 's/(<< 9.0)/(<< 8.4)/' DE
 broken "up to and without 10.0, the facts prove" sed -i 's/(<< 9.0)/(<< 10.0)/' DEBIAN/control
 broken "-[SBReachabilityManager _keepAliveTimerFired:] is missing" \
   sed -i 's/(<< 9.0)/(<< 10.0)/' DEBIAN/control
-broken "README: its table has no row" sed -i 's/(<< 9.0)/(<< 8.4)/' DEBIAN/control
+broken "docs/phone.md: its table has no row" sed -i 's/(<< 9.0)/(<< 8.4)/' DEBIAN/control
 for field in Package Name Architecture; do
   broken "control: lacks \`$field: " sed -i "s/^$field: .*/$field: org.example.other/" DEBIAN/control
 done
@@ -148,8 +148,9 @@ broken "an initialiser is not ours" as_numbers "$library" "$first, 0, $second, 0
 broken "initialisers other than" patch "$library" __mod_init_func __mod_term_func
 
 # Rules that compare with the source are broken in a copy of the files that they read.
-mkdir -p "$work/source/device/check"
-cp -a "$source/README.md" "$source/resources" "$work/source"
+mkdir -p "$work/source/device/check" "$work/source/docs"
+cp -a "$source/resources" "$work/source"
+cp "$source/docs/phone.md" "$work/source/docs"
 cp -a "$source/device/stubs" "$source/device/facts" "$work/source/device"
 cp "$source/device/check/own_names.txt" "$work/source/device/check"
 against=$work/source
@@ -162,8 +163,8 @@ sed -i /^Linker$/d "$against/device/check/own_names.txt"
 broken "have no class Linker" true
 sed -i /^tweet$/d "$against/device/check/own_names.txt"
 broken "have no selector tweet" true
-sed -i 's/^| phones | arm64/| phones | every/' "$against/README.md"
-broken "README: its table has no row \`| phones | arm64" true
+sed -i 's/^| phones | arm64/| phones | every/' "$against/docs/phone.md"
+broken "docs/phone.md: its table has no row \`| phones | arm64" true
 
 # contradicted EXPECTED FILE CHANGE changes the facts for one run of the checker.
 contradicted() {

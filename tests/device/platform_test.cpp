@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "device/check/readme.h"
+#include "device/check/phone_page.h"
 #include "device/macho/bytes.h"
 #include "tests/device/facts_folder.h"
 #include "tests/device/library_bytes.h"
@@ -209,21 +209,22 @@ TEST(PromisedRange, HasTwoEnds) {
   EXPECT_THROW(promised_range("Description: firmware (>= 8.0), firmware (<< 9.0)\n"), FormatError);
 }
 
-TEST(Readme, NamesTheSamePhonesAndSystems) {
+TEST(PhonePage, NamesTheSamePhonesAndSystems) {
   const FactsFolder folder;
   const SystemRange range = {{8, 0}, {9, 0}};
   const auto findings = [&] {
     Findings found;
-    check_readme(folder.path(), range, found);
+    check_phone_page(folder.path(), range, found);
     return found;
   };
   const std::string phones = "\n| phones | arm64, without pointer authentication: three |";
-  folder.write("README.md", phones + "\n| systems | 8.0 up to and without 9.0 |\n");
+  folder.write("docs/phone.md", phones + "\n| systems | 8.0 up to and without 9.0 |\n");
   EXPECT_THAT(findings(), IsEmpty());
-  folder.write("README.md", phones + "\n| systems | 8.0 up to and without 9.3 |\n");
-  EXPECT_THAT(findings(), ElementsAre("README: its table has no row `| systems | 8.0 up to and "
-                                      "without 9.0 |`"));
-  folder.write("README.md", "\n| systems | 8.0 up to and without 9.0 |\n");
+  folder.write("docs/phone.md", phones + "\n| systems | 8.0 up to and without 9.3 |\n");
+  EXPECT_THAT(findings(),
+              ElementsAre("docs/phone.md: its table has no row `| systems | 8.0 up to and "
+                          "without 9.0 |`"));
+  folder.write("docs/phone.md", "\n| systems | 8.0 up to and without 9.0 |\n");
   EXPECT_THAT(findings(), ElementsAre(HasSubstr("| phones | arm64")));
 }
 

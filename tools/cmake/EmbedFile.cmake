@@ -6,9 +6,9 @@ string(MAKE_C_IDENTIFIER ${name} name)
 file(WRITE ${OUTPUT} "#include <string_view>
 namespace embedded {
 namespace {
-constexpr char bytes[] = {${bytes}'\\0'};
+constexpr char bytes_of_${name}[] = {${bytes}'\\0'};
 }
 extern const std::string_view ${name};
-constinit const std::string_view ${name}(bytes, sizeof bytes - 1);
+constinit const std::string_view ${name}(bytes_of_${name}, sizeof bytes_of_${name} - 1);
 }  // namespace embedded
 ")

@@ -88,11 +88,11 @@ TEST_F(CommandLine, UnknownOptionsAreOneLineAndStatusTwo) {
   EXPECT_THAT(outcome.errors, SizeIs(1));
 }
 
-TEST_F(CommandLine, WithoutADisplayTheErrorNamesHeadless) {
-  const auto outcome = run("");
+TEST_F(CommandLine, APhoneIsNotBothOnAPageAndNowhere) {
+  const auto outcome = run("--headless --browser");
   EXPECT_EQ(outcome.status, 2);
   ASSERT_THAT(outcome.errors, SizeIs(1));
-  EXPECT_THAT(outcome.errors[0], HasSubstr("--headless"));
+  EXPECT_THAT(outcome.errors[0], HasSubstr("--browser"));
 }
 
 TEST_F(CommandLine, HelpAndVersionSucceedWithNothingOnTheErrorStream) {
@@ -169,6 +169,14 @@ TEST(Options, TheClockIsSteppedOnlyUnderAConsoleOrScript) {
   EXPECT_TRUE(options.has_stepped_clock());
   options.headless = false;
   EXPECT_FALSE(options.has_stepped_clock());
+}
+
+TEST(Options, APhoneOnAPageHasNoWindowButItsUsersClock) {
+  Options options;
+  options.browser = options.console = true;
+  EXPECT_FALSE(options.has_window());
+  EXPECT_FALSE(options.has_stepped_clock());
+  EXPECT_TRUE(options.takes_part_in_desktop());
 }
 
 TEST(Options, OnlyPhonesThatAreSeenTakePartInTheDesktop) {
