@@ -16,5 +16,7 @@ extern const std::string_view @name@;
 constinit const std::string_view @name@(bytes_of_@name@, sizeof bytes_of_@name@ - 1);
 }  // namespace embedded
 ")
+  # Its user declares it once more.
+  set_source_files_properties(${source} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   set(${variable} ${${variable}} ${source} PARENT_SCOPE)
 endfunction()
