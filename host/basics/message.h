@@ -22,7 +22,7 @@ std::string message_bytes(Messages message) {
   return encoder.bytes();
 }
 
-/// Reads a whole message from untrusted bytes; nothing when they are none.
+/// Reads a whole message from untrusted bytes; nothing when they are invalid.
 template <class Messages, std::size_t Kind = 0>
 std::optional<Messages> message_from(std::string_view bytes) {
   if constexpr (Kind < std::variant_size_v<Messages>) {

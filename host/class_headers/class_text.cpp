@@ -4,14 +4,13 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <memory>
 #include <string_view>
 #include <vector>
 
+#include "host/runtime/class_lists.h"
+
 extern "C" {
 std::size_t class_getInstanceSize(objc::Class cls);
-objc::Protocol* class_copyProtocolList(objc::Class cls, unsigned* count);
 const char* protocol_getName(objc::Protocol protocol);
 }
 
@@ -20,18 +19,13 @@ namespace {
 
 constexpr std::size_t kWord = sizeof(void*);
 
-struct FreeMemory {
-  void operator()(void* memory) const { std::free(memory); }
-};
-
 objc::Class metaclass_of(objc::Class cls) {
   return objc::class_of(reinterpret_cast<objc::Id>(cls));
 }
 
 std::vector<objc::Method> own_methods(objc::Class cls) {
-  unsigned count = 0;
-  const std::unique_ptr<objc::Method[], FreeMemory> methods(class_copyMethodList(cls, &count));
-  std::vector<objc::Method> own(methods.get(), methods.get() + count);
+  const ClassMethods methods(cls);
+  std::vector<objc::Method> own(methods.items().begin(), methods.items().end());
   std::sort(own.begin(), own.end(), [](objc::Method left, objc::Method right) {
     return std::string_view(sel_getName(method_getName(left))) < sel_getName(method_getName(right));
   });
@@ -82,11 +76,10 @@ std::string all_declarations(objc::Class cls, const std::set<std::string>& known
 }
 
 std::string protocols_of(objc::Class cls) {
-  unsigned count = 0;
-  const std::unique_ptr<objc::Protocol[], FreeMemory> list(class_copyProtocolList(cls, &count));
+  const ClassProtocols protocols(cls);
   std::string names;
-  for (unsigned i = 0; i < count; ++i)
-    names += fmt::format("{}{}", i ? ", " : " <", protocol_getName(list[i]));
+  for (const objc::Protocol protocol : protocols.items())
+    names += (names.empty() ? " <" : ", ") + std::string(protocol_getName(protocol));
   return names.empty() ? names : names + ">";
 }
 

@@ -2,16 +2,13 @@
 
 #include <fmt/format.h>
 
-#include <cstdlib>
-#include <memory>
 #include <set>
-#include <span>
 #include <string_view>
 
 #include "host/console/type_encoding.h"
+#include "host/runtime/class_lists.h"
 
 extern "C" {
-objc::Ivar* class_copyIvarList(objc::Class cls, unsigned* count);
 const char* ivar_getName(objc::Ivar ivar);
 const char* ivar_getTypeEncoding(objc::Ivar ivar);
 }
@@ -36,25 +33,6 @@ std::string name_of(const Type& type) {
   return type.structure.empty() || type.structure == "?" ? "struct" : type.structure;
 }
 
-struct Free {
-  void operator()(void* list) const { std::free(list); }
-};
-
-/// A list that the runtime has made for its caller.
-template <class T, T* (*Copy)(objc::Class, unsigned*)>
-class CopiedList {
- public:
-  explicit CopiedList(objc::Class cls) : list_(Copy(cls, &count_)) {}
-  std::span<const T> items() const { return {list_.get(), list_ ? count_ : 0}; }
-
- private:
-  unsigned count_ = 0;
-  std::unique_ptr<T, Free> list_;
-};
-
-using Methods = CopiedList<objc::Method, &class_copyMethodList>;
-using Ivars = CopiedList<objc::Ivar, &class_copyIvarList>;
-
 std::string signature_of(objc::Method method) {
   const std::string selector = sel_getName(method_getName(method));
   const char* encoding = method_getTypeEncoding(method);
@@ -75,7 +53,7 @@ std::string signature_of(objc::Method method) {
 void add_methods(std::vector<std::string>& lines, objc::Class cls, char sign) {
   // Sorted by the selector, which is what one looks for.
   std::set<std::pair<std::string, std::string>> found;
-  const Methods methods(cls);
+  const ClassMethods methods(cls);
   for (const objc::Method method : methods.items())
     found.emplace(sel_getName(method_getName(method)), signature_of(method));
   for (const auto& [selector, signature] : found)
@@ -83,7 +61,7 @@ void add_methods(std::vector<std::string>& lines, objc::Class cls, char sign) {
 }
 
 void add_ivars(std::vector<std::string>& lines, objc::Class cls) {
-  const Ivars ivars(cls);
+  const ClassIvars ivars(cls);
   for (const objc::Ivar ivar : ivars.items()) {
     const char* encoding = ivar_getTypeEncoding(ivar);
     const auto type = parse_type(encoding);
@@ -103,7 +81,8 @@ std::vector<std::string> description_of(objc::Class cls) {
   std::vector<std::string> inherited;
   for (auto above = class_getSuperclass(cls); above; above = class_getSuperclass(above)) {
     lines.front() += fmt::format(" : {}", class_getName(above));
-    inherited.push_back(fmt::format("{} {}", class_getName(above), Methods(above).items().size()));
+    inherited.push_back(
+        fmt::format("{} {}", class_getName(above), ClassMethods(above).items().size()));
   }
   add_ivars(lines, cls);
   add_methods(lines, objc::class_of(reinterpret_cast<objc::Id>(cls)), '+');

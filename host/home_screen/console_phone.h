@@ -50,7 +50,7 @@ class ConsolePhone final : public console::Phone {
   std::optional<std::string> answer_elsewhere(const std::string& line) override;
 
  private:
-  /// The folder for what the console writes. Returns the reason when there is none.
+  /// Makes the folder for what the console writes. Returns the reason on failure.
   console::Refusal make_folder() const;
 
   RecordedHands& hands_;

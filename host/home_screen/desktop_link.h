@@ -16,8 +16,7 @@ namespace host::launcher {
 /// its notifications and the title of its page in a browser.
 class DesktopLink {
  public:
-  /// Returns null for a phone without music. The music and the display
-  /// must outlive the link.
+  /// Returns null for a phone without music. The music and the display must outlive the link.
   static std::unique_ptr<DesktopLink> begin(RunLoop& loop, const Display& display);
 
  private:

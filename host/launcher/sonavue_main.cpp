@@ -124,7 +124,7 @@ int supervise(const Options& options, const FolderLock* lock, ScriptWitness* wit
   BrowserDoor page;
   if (options.browser) page = BrowserDoor::open(problem);
   if (!problem.empty()) return complain(problem);
-  if (page) say_link(page.link());
+  const std::string link = page ? page.link() : std::string();
   const std::pair<std::string, std::string> path{"PATH", path_with(installation.tools)};
   Supervisor supervisor({{installation.home_screen, home_screen_arguments(options), {path}},
                          {{}, application_arguments(options), {path}},
@@ -133,6 +133,7 @@ int supervise(const Options& options, const FolderLock* lock, ScriptWitness* wit
                         clock, has_console(options) ? &*front : nullptr);
   if (lock) lock->introduce(supervisor.control_socket());
   if (const auto reason = prepare(options, installation)) return complain(*reason);
+  if (!link.empty()) say_link(link);
   if (!options.files.empty() &&
       !hand_over(supervisor.control_socket().parent_path(), options.files)) {
     std::fputs("sonavue: the music cannot be handed to the phone\n", stderr);

@@ -5,7 +5,7 @@
 namespace host::preferences {
 
 /// The value under the specifier's property `key` in the file of the domain that its property
-/// `defaults` names; its property `default` when there is none.
+/// `defaults` names; its property `default` when the file has no value.
 objc::Object stored_value(PSSpecifier specifier);
 
 /// Puts a value there, and posts the notification that its property `PostNotification` names to all

@@ -9,7 +9,7 @@ namespace {
 constexpr CGFloat kRowMargin = 15;
 constexpr CGFloat kLabelGap = 12;
 
-/// The number in a value or a property; `otherwise` if it is none.
+/// The number in a value or a property; `otherwise` if it is not a number.
 float number_of(objc::Object value, float otherwise) {
   const auto object = objc::cast<NSObject>(value);
   if (!object || !object.respondsToSelector("floatValue"_sel)) return otherwise;

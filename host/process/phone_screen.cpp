@@ -55,13 +55,8 @@ void PhoneScreen::end_turn() {
 
 void PhoneScreen::draw() {
   follow_scale();
-  std::vector<screen::PixelRect> damage;
-  for (const auto& part : compositor_->render(layers(), loop_.now()))
-    damage.push_back({part.x, part.y, part.width, part.height});
-  if (screen_.needs_everything()) {
-    const quartzcore::PixelRect whole = compositor_->screen();
-    damage = {{whole.x, whole.y, whole.width, whole.height}};
-  }
+  quartzcore::Damage damage = compositor_->render(layers(), loop_.now());
+  if (screen_.needs_everything()) damage = {compositor_->screen()};
   if (!damage.empty()) screen_.show(picture(), damage);
 }
 

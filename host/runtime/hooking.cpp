@@ -1,22 +1,18 @@
 #include "host/runtime/hooking.h"
 
-#include <cstdlib>
-
 #include "host/runtime/class_family.h"
+#include "host/runtime/class_lists.h"
 #include "host/runtime/compiled_selector.h"
 
 namespace {
 
 // Returns the class's own method, not one that it inherits.
 objc::Method own_method(objc::Class cls, objc::Sel selector) {
-  unsigned count = 0;
-  objc::Method* methods = class_copyMethodList(cls, &count);
-  objc::Method found = nullptr;
-  for (unsigned i = 0; i < count && !found; ++i) {
-    if (sel_isEqual(method_getName(methods[i]), selector)) found = methods[i];
+  const host::ClassMethods methods(cls);
+  for (const objc::Method method : methods.items()) {
+    if (sel_isEqual(method_getName(method), selector)) return method;
   }
-  std::free(methods);
-  return found;
+  return nullptr;
 }
 
 }  // namespace

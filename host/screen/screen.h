@@ -4,15 +4,11 @@
 #include <span>
 #include <string>
 
+#include "host/basics/pixel_rect.h"
+
 namespace host::screen {
 
-struct PixelRect {
-  int x = 0;
-  int y = 0;
-  int width = 0;
-  int height = 0;
-  friend bool operator==(const PixelRect&, const PixelRect&) = default;
-};
+using host::PixelRect;
 
 /// The pixels of a whole screen, 32 bits each in the machine's byte order: alpha, red, green, blue,
 /// premultiplied. Not owned.

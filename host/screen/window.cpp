@@ -143,6 +143,7 @@ void Window::show(const Picture& picture, std::span<const PixelRect> damage) {
     texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
                                      SDL_TEXTUREACCESS_STREAMING, picture.width, picture.height));
   }
+  if (!texture_) return;
   for (const PixelRect& part : damage) {
     const SDL_Rect place{part.x, part.y, part.width, part.height};
     const unsigned char* first =

@@ -30,6 +30,7 @@ class Phone:
                        if key not in ("DISPLAY", "WAYLAND_DISPLAY", "SDL_VIDEODRIVER",
                                       "DBUS_SESSION_BUS_ADDRESS")}
         environment |= {"HOME": self._home.name, "SDL_AUDIODRIVER": "dummy"}
+        self.environment = environment
         # Neither a display nor a word about a browser.
         self._process = subprocess.Popen([sonavue, "--console"],
                                          stdin=subprocess.PIPE, stdout=subprocess.PIPE,
@@ -205,6 +206,18 @@ class PhoneInBrowser(unittest.TestCase):
         self.wait_for_picture(browser)
         browser.open("about:blank")
         self.wait_for_picture(self.open(self.phone.next_link()))
+
+    def test_a_second_start_has_the_first_print_its_link_again(self):
+        browser = self.open()
+        self.wait_for_picture(browser)
+        second = subprocess.run([sonavue], env=self.phone.environment, capture_output=True,
+                                text=True, timeout=DEADLINE)
+        self.assertEqual(second.returncode, 0)
+        self.assertIn("which prints a new link", second.stderr)
+        other = self.open(self.phone.next_link())
+        self.wait_for_picture(other)
+        self.comes_true(browser, "document.getElementById('notice')"
+                                 ".textContent.includes('in another tab')")
 
     def test_a_finger_the_wheel_and_the_home_key_use_the_phone(self):
         browser = self.open()

@@ -75,6 +75,7 @@ TEST_F(StartUp, EndsWithoutADisplay) {
   EXPECT_EQ(phone.wait_for_end(), 2) << phone.errors();
   EXPECT_EQ(phone.count_of_errors_with("the display nowhere :4242 cannot be reached"), 1)
       << phone.errors();
+  EXPECT_EQ(phone.count_of_errors_with("--browser"), 1);
   EXPECT_EQ(phone.count_of_errors_with("--headless"), 1);
 }
 

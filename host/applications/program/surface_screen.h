@@ -35,25 +35,18 @@ class SurfaceScreen final : public screen::Screen {
   bool waits_for_buffer() const { return is_busy_ && !waiting_.is_empty(); }
 
  private:
-  /// A rectangle of pixels: the bounds of everything added.
-  struct Part {
-    int left = 0, top = 0, right = 0, bottom = 0;
-    bool is_empty() const { return right <= left || bottom <= top; }
-    void add(const Part& other);
-  };
-
   void forget_frames();
   void send_waiting();
-  void copy(const Part& part);
-  Part whole() const;
+  void copy(const PixelRect& part);
+  PixelRect whole() const;
 
   Announce announce_;
   std::shared_ptr<SharedSurface> surface_;
   std::optional<screen::Picture> picture_;
   std::optional<double> pixels_per_point_;
   /// The damage that each buffer lacks, and the damage not yet announced.
-  Part missing_[SharedSurface::kBuffers];
-  Part waiting_;
+  PixelRect missing_[SharedSurface::kBuffers];
+  PixelRect waiting_;
   int next_buffer_ = 0;
   bool is_busy_ = false;
   bool is_in_front_ = false;

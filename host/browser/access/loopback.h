@@ -8,7 +8,7 @@
 namespace host::browser {
 
 /// A socket that listens on this machine only, at a port that the system chooses. Empty, with
-/// `errno` set, when there is none.
+/// `errno` set, when the system refuses one.
 Descriptor listen_on_loopback();
 
 /// The address at which the socket listens, as in `http://127.0.0.1:8080/`. The token goes behind

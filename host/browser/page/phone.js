@@ -272,6 +272,12 @@ function nameOf(event) {
   return event.ctrlKey && letter.length === 1 && CONTROL_KEYS.includes(letter) ? letter : "";
 }
 
+/** Whether a key that is held goes on without a field: the focus moves, and the volume changes. */
+function goesOn(name, event) {
+  if (name === "up" || name === "down") return true;
+  return ["left", "right", "tab"].includes(name) && !event.ctrlKey;
+}
+
 addEventListener("keydown", (event) => {
   // A finger does not give it the keyboard, which would cover the page.
   if (document.activeElement !== keyboard) keyboard.focus({ preventScroll: true });
@@ -287,8 +293,7 @@ addEventListener("keydown", (event) => {
   const name = nameOf(event);
   if (!name) return;
   event.preventDefault();
-  const steps = name === "up" || name === "down";
-  if (!event.repeat || steps || takesText) send("key", withModifiers(name, event));
+  if (!event.repeat || goesOn(name, event) || takesText) send("key", withModifiers(name, event));
 });
 
 addEventListener("keyup", (event) => {

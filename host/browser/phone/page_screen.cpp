@@ -12,27 +12,11 @@ using screen::PixelRect;
 constexpr std::size_t kMostParts = 4;
 constexpr std::size_t kMostUnsharp = 16;
 // A part of this many pixels is sent without loss at once.
-constexpr int kFewPixels = 64 * 64;
+constexpr long kFewPixels = 64 * 64;
 // The rows of a resting part that are sent at a time: encoding more would hold up a frame.
 constexpr int kBand = 48;
 // In seconds, between two looks for parts that rest.
 constexpr double kLook = 0.1;
-
-PixelRect around(const PixelRect& a, const PixelRect& b) {
-  const int x = std::min(a.x, b.x);
-  const int y = std::min(a.y, b.y);
-  return {x, y, std::max(a.x + a.width, b.x + b.width) - x,
-          std::max(a.y + a.height, b.y + b.height) - y};
-}
-
-bool contains(const PixelRect& outer, const PixelRect& inner) {
-  return around(outer, inner) == outer;
-}
-
-bool touches(const PixelRect& a, const PixelRect& b) {
-  return a.x <= b.x + b.width && b.x <= a.x + a.width && a.y <= b.y + b.height &&
-         b.y <= a.y + a.height;
-}
 
 }  // namespace
 
@@ -45,8 +29,7 @@ PageScreen::~PageScreen() {
 
 void PageScreen::connect() {
   is_connected_ = true;
-  is_visible_ = true;
-  needs_everything_ = true;
+  is_visible_ = false;
   damage_.clear();
   unsharp_.clear();
   sent_ = shown_ = 0;
@@ -82,15 +65,15 @@ void PageScreen::show(const screen::Picture& picture, std::span<const PixelRect>
 
 void PageScreen::add_damage(const PixelRect& part) {
   for (PixelRect& known : damage_) {
-    if (!touches(known, part)) continue;
-    known = around(known, part);
+    if (!intersects(known, part)) continue;
+    known = united(known, part);
     return;
   }
   damage_.push_back(part);
   if (damage_.size() <= kMostParts) return;
   PixelRect all = damage_.front();
   for (const PixelRect& one : damage_)
-    all = around(all, one);
+    all = united(all, one);
   damage_ = {all};
 }
 
@@ -99,7 +82,7 @@ void PageScreen::send_damage() {
   ++sent_;
   const auto parts = std::exchange(damage_, {});
   for (const PixelRect& part : parts) {
-    const bool is_small = part.width * part.height <= kFewPixels;
+    const bool is_small = part.area() <= kFewPixels;
     if (!is_small) blur(part);
     send_part(part, is_small ? PartFormat::Png : PartFormat::Jpeg, &part == &parts.back());
   }
@@ -111,12 +94,12 @@ void PageScreen::send_part(const PixelRect& part, PartFormat format, bool is_las
 }
 
 void PageScreen::blur(const PixelRect& part) {
-  std::erase_if(unsharp_, [&part](const Unsharp& one) { return contains(part, one.part); });
+  std::erase_if(unsharp_, [&part](const Unsharp& one) { return part.contains(one.part); });
   unsharp_.push_back({part, loop_.now()});
   if (unsharp_.size() > kMostUnsharp) {
     PixelRect all = part;
     for (const Unsharp& one : unsharp_)
-      all = around(all, one.part);
+      all = united(all, one.part);
     unsharp_ = {{all, loop_.now()}};
   }
   sharpen_later();

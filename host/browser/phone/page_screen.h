@@ -30,7 +30,7 @@ class PageScreen final : public screen::Screen {
   bool needs_everything() const override { return needs_everything_; }
   std::optional<double> pixels_per_point() const override { return pixels_per_point_; }
 
-  /// A new page has nothing yet.
+  /// A new page has nothing yet, and is sent nothing before it has told its shape.
   void connect();
   void disconnect() { is_connected_ = false; }
   void take(const Shape& shape);
@@ -57,7 +57,7 @@ class PageScreen final : public screen::Screen {
   std::optional<screen::Picture> picture_;
   std::optional<double> pixels_per_point_;
   bool is_connected_ = false;
-  bool is_visible_ = true;
+  bool is_visible_ = false;
   bool needs_everything_ = false;
   std::vector<screen::PixelRect> damage_;
   std::vector<Unsharp> unsharp_;

@@ -111,7 +111,7 @@ void PhonePage::let_in(Place visitor, const std::string& secret) {
 void PhonePage::hear_page(std::string_view bytes) {
   const auto message = message_from<FromPage>(bytes);
   if (!message) {
-    lose_page("sends what is no message");
+    lose_page("sends an invalid message");
     return;
   }
   std::visit(

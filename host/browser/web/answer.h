@@ -29,7 +29,7 @@ std::optional<Answer> refusal(const Request& request);
 /// The file, with a policy that lets the page load nothing from elsewhere, or "not found".
 Answer answer(const Request& request, std::span<const PageFile> files);
 
-/// Accepts a WebSocket, or refuses a page from elsewhere and a handshake that is none.
+/// Accepts a WebSocket, or refuses a page from elsewhere and an invalid handshake.
 Answer handshake(const Request& request);
 
 }  // namespace host::browser

@@ -14,7 +14,7 @@
 namespace host::uikit {
 
 /// The focus of the physical keyboard: keys move it from one view to the next and press the view
-/// that has it. There is none until a key moves it, and none after it was ended or the view goes.
+/// that has it. No view has it until a key moves it, after it was ended, or when its view goes.
 /// At most one instance exists in a process.
 class Focus {
  public:

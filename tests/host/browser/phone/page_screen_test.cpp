@@ -47,6 +47,10 @@ std::vector<std::uint32_t> pixels_of_png(const std::string& bytes) {
 struct PageScreens : HostTest {
   PageScreens() : pixels(kWidth * kHeight, 0xFF203040) {}
 
+  void connect() {
+    screen.connect();
+    screen.take(Shape{1, true});
+  }
   void show(std::initializer_list<PixelRect> damage) {
     const std::vector<PixelRect> parts(damage);
     screen.show({reinterpret_cast<unsigned char*>(pixels.data()), kWidth, kHeight, kWidth * 4},
@@ -68,12 +72,14 @@ TEST_F(PageScreens, SendNothingWithoutAPage) {
   show({kWhole});
   EXPECT_THAT(sent, IsEmpty());
   screen.connect();
+  EXPECT_FALSE(screen.is_watched()) << "it has not told its shape";
+  screen.take(Shape{1, true});
   EXPECT_TRUE(screen.is_watched());
   EXPECT_TRUE(screen.needs_everything());
 }
 
 TEST_F(PageScreens, SendWhatHasChangedAsJpeg) {
-  screen.connect();
+  connect();
   show({{10, 20, 100, 120}});
   ASSERT_THAT(sent, SizeIs(1));
   EXPECT_EQ(sent[0].format, PartFormat::Jpeg);
@@ -96,7 +102,7 @@ TEST_F(PageScreens, SendWhatHasChangedAsJpeg) {
 TEST_F(PageScreens, WhatRestsIsSentOnceMoreExactlyAndThenNothing) {
   for (std::size_t i = 0; i < pixels.size(); ++i)
     pixels[i] = 0xFF000000 | static_cast<std::uint32_t>(i * 2654435761u) >> 8;
-  screen.connect();
+  connect();
   show({kWhole});
   acknowledge();
   sent.clear();
@@ -118,7 +124,7 @@ TEST_F(PageScreens, WhatRestsIsSentOnceMoreExactlyAndThenNothing) {
 }
 
 TEST_F(PageScreens, WhatMovesIsNotSentExactly) {
-  screen.connect();
+  connect();
   for (int frame = 0; frame < 60; ++frame) {
     show({kWhole});
     acknowledge();
@@ -129,7 +135,7 @@ TEST_F(PageScreens, WhatMovesIsNotSentExactly) {
 }
 
 TEST_F(PageScreens, AFewPixelsAreExactAtOnce) {
-  screen.connect();
+  connect();
   show({{0, 0, 64, 64}});
   ASSERT_THAT(sent, SizeIs(1));
   EXPECT_EQ(sent[0].format, PartFormat::Png);
@@ -139,9 +145,9 @@ TEST_F(PageScreens, AFewPixelsAreExactAtOnce) {
 }
 
 TEST_F(PageScreens, ASlowPageGetsTwoPicturesAndThenWhatHasChangedMeanwhile) {
-  screen.connect();
+  connect();
   for (int i = 0; i < 10; ++i)
-    show({{i * 10, 0, 10, 200}});
+    show({{i * 10, 0, 11, 200}});
   EXPECT_THAT(sent, SizeIs(2));
   screen.take(Shown{1});
   ASSERT_THAT(sent, SizeIs(3));
@@ -152,7 +158,7 @@ TEST_F(PageScreens, ASlowPageGetsTwoPicturesAndThenWhatHasChangedMeanwhile) {
 }
 
 TEST_F(PageScreens, AWordAboutAPictureThatWasNeverSentIsIgnored) {
-  screen.connect();
+  connect();
   show({kWhole});
   show({kWhole});
   for (const std::uint32_t number : {3u, 1000u, 0xFFFFFFFFu})
@@ -162,7 +168,7 @@ TEST_F(PageScreens, AWordAboutAPictureThatWasNeverSentIsIgnored) {
 }
 
 TEST_F(PageScreens, ManyPartsOfAPictureBecomeOne) {
-  screen.connect();
+  connect();
   show({{0, 0, 2, 2}, {50, 50, 2, 2}, {100, 100, 2, 2}, {150, 150, 2, 2}, {0, 250, 2, 2}});
   ASSERT_THAT(sent, SizeIs(1));
   EXPECT_EQ(sent[0].y, 0);
@@ -175,7 +181,7 @@ TEST_F(PageScreens, ManyPartsOfAPictureBecomeOne) {
 }
 
 TEST_F(PageScreens, APageOutOfSightIsSentNothingAndThenEverything) {
-  screen.connect();
+  connect();
   show({kWhole});
   screen.take(Shape{1, false});
   EXPECT_FALSE(screen.is_watched());

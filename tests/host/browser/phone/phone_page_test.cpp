@@ -108,7 +108,9 @@ struct PhonePages : HostTest {
   std::string enter(TestPage& page, const std::string& key) {
     page.send(Present{key});
     const auto welcome = page.take<Welcome>();
-    return welcome ? welcome->secret : "";
+    if (!welcome) return {};
+    page.send(Shape{1, true});
+    return welcome->secret;
   }
 
   const CaughtLog log;
@@ -129,6 +131,8 @@ TEST_F(PhonePages, TheLinkLetsOnePageIn) {
   EXPECT_EQ(welcome->width, body.size().width);
   EXPECT_EQ(welcome->screen_x, body.screen().min_x());
   EXPECT_EQ(welcome->screen_height, 200);
+  EXPECT_FALSE(phone->screen().is_watched());
+  page.send(Shape{1, true});
   EXPECT_TRUE(phone->screen().is_watched());
 }
 
@@ -251,7 +255,7 @@ TEST_F(PhonePages, AMessageThatIsNoneEndsTheConnectionWithALine) {
     EXPECT_FALSE(phone->screen().is_watched());
   }
   EXPECT_THAT(log.text(),
-              testing::HasSubstr("browser: the page sends what is no message: disconnected"));
+              testing::HasSubstr("browser: the page sends an invalid message: disconnected"));
 }
 
 TEST_F(PhonePages, PicturesSongsAndCaretsAreToldAsTheyChange) {

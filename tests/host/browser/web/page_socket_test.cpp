@@ -106,6 +106,12 @@ TEST_F(PageSockets, AFrameThatBreaksTheProtocolEndsTheConnection) {
   EXPECT_THAT(endings, ElementsAre("breaks the protocol"));
 }
 
+TEST_F(PageSockets, AFrameWithoutAMaskEndsTheConnection) {
+  write(std::string("\x82\x05hello"));
+  EXPECT_THAT(messages, IsEmpty());
+  EXPECT_THAT(endings, ElementsAre("breaks the protocol"));
+}
+
 TEST_F(PageSockets, ACutFrameIsNoMessage) {
   const std::string whole = frame("hello");
   write(whole.substr(0, whole.size() - 1));
