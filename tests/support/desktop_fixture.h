@@ -36,6 +36,15 @@ class DesktopTest : public MediaPlayerTest {
     loop.run_ready();
   }
 
+  /// Waits until all that the bus has for the phone has arrived.
+  void catch_up() {
+    bool is_answered = false;
+    const auto question =
+        bus.call({"org.freedesktop.DBus", "/", "org.freedesktop.DBus.Peer", "Ping"}, nullptr,
+                 [&](const desktop::Answer&) { is_answered = true; });
+    EXPECT_TRUE(run_until(loop, [&] { return is_answered; }));
+  }
+
   Variable no_system_bus{"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus"};
   PrivateBus daemon;
   desktop::Bus bus{loop, desktop::Bus::Kind::kSession};
