@@ -36,23 +36,19 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   last_roots_.assign(roots.begin(), roots.end());
   last_changes_ = layer_changes();
   last_animated_ = animated;
-  std::vector<Entry> after;
-  after.reserve(tree_.nodes().size());
-  for (const RenderNode& one : tree_.nodes()) {
-    const std::uint64_t content = one.layer->backdrop ? one.behind : one.signature;
-    after.push_back({one.serial, mix_signature(content, one.context), one.own});
-  }
-  Damage damage =
-      std::exchange(damage_all_, false) ? Damage{screen_} : merged(find_damage(entries_, after));
+  std::vector<Entry> after = take_entries();
+  Changes changes =
+      std::exchange(damage_all_, false) ? Changes{{screen_, -1}} : find_changes(after);
   entries_ = std::move(after);
-  if (damage.empty()) return damage;
+  if (changes.empty() && !needs_backdrops()) return {};
   ++frames_;
-  prepare_backdrops(tree_);
-  for (const PixelRect& rect : damage) {
-    painted_pixels_ += static_cast<std::uint64_t>(rect.area());
-    paint_damage(rect);
-  }
+  prepare_backdrops(changes);
+  const int underlay = prepare_underlay(changes);
+  Damage damage = merged(changes);
+  for (const PixelRect& rect : damage)
+    paint_screen(rect, underlay);
   cairo_surface_flush(surface_.get());
+  note_ready_backdrops();
   forget_unused();
   return damage;
 }
@@ -69,44 +65,54 @@ void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
   tree_.prepare(roots, screen_, scale_, now);
 }
 
+std::vector<Compositor::Entry> Compositor::take_entries() const {
+  std::vector<Entry> entries;
+  entries.reserve(tree_.nodes().size());
+  for (const RenderNode& one : tree_.nodes())
+    entries.push_back({one.serial, mix_signature(one.signature, one.context), one.own});
+  return entries;
+}
+
 // Layers are compared by identity. A changed layer damages its old and its new area; a layer whose
 // order has changed damages its area, too.
-Damage Compositor::find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after) {
+Compositor::Changes Compositor::find_changes(const std::vector<Entry>& after) const {
+  const std::vector<Entry>& before = entries_;
   std::unordered_map<std::uint64_t, int> places;
   places.reserve(before.size());
   for (std::size_t i = 0; i < before.size(); ++i)
     places.emplace(before[i].serial, static_cast<int>(i));
   std::vector<bool> kept(before.size(), false);
-  Damage damage;
+  Changes changes;
+  const auto add = [&](const PixelRect& place, int index) {
+    if (!place.is_empty()) changes.push_back({place, index});
+  };
   int highest = -1;
-  for (const Entry& entry : after) {
+  for (int i = 0; i < static_cast<int>(after.size()); ++i) {
+    const Entry& entry = after[static_cast<std::size_t>(i)];
     const auto found = places.find(entry.serial);
     if (found == places.end()) {
-      damage.push_back(entry.own);
+      add(entry.own, i);
       continue;
     }
     const Entry& old = before[static_cast<std::size_t>(found->second)];
     kept[static_cast<std::size_t>(found->second)] = true;
-    if (found->second < highest || old.signature != entry.signature) {
-      damage.push_back(old.own);
-      damage.push_back(entry.own);
+    const bool is_moved = found->second < highest;
+    if (is_moved || old.signature != entry.signature) {
+      add(old.own, is_moved ? -1 : i);
+      add(entry.own, is_moved ? -1 : i);
     }
     highest = std::max(highest, found->second);
   }
   for (std::size_t i = 0; i < before.size(); ++i) {
-    if (!kept[i]) damage.push_back(before[i].own);
+    if (!kept[i]) add(before[i].own, -1);
   }
-  // A blur needs everything under its whole area, so the whole area is painted for it.
-  for (const RenderNode& one : tree_.nodes()) {
-    if (one.layer->backdrop && !backdrop_is_ready(one)) damage.push_back(one.own);
-  }
-  return damage;
+  return changes;
 }
 
-Damage Compositor::merged(Damage damage) const {
-  std::erase_if(damage, [](const PixelRect& rect) { return rect.is_empty(); });
+Damage Compositor::merged(const Changes& changes) {
   Damage result;
-  for (PixelRect rect : damage) {
+  for (const Change& change : changes) {
+    PixelRect rect = change.place;
     // After absorbing a neighbour the rectangle may touch another one.
     for (std::size_t i = 0; i < result.size();) {
       if (intersects(result[i], rect)) {
@@ -117,7 +123,7 @@ Damage Compositor::merged(Damage damage) const {
         ++i;
       }
     }
-    result.push_back(rect);
+    if (!rect.is_empty()) result.push_back(rect);
   }
   if (result.size() <= kMostRectangles) return result;
   PixelRect all;
@@ -126,15 +132,9 @@ Damage Compositor::merged(Damage damage) const {
   return {all};
 }
 
-bool Compositor::backdrop_is_ready(const RenderNode& one) const {
-  const auto found = backdrops_.find(one.serial);
-  return found != backdrops_.end() && found->second.behind == one.behind &&
-         found->second.place == one.own;
-}
-
-// Returns the last drawing that hides everything before it, on the screen (-1) or in a group.
-int Compositor::first_needed(const PixelRect& damage, int group) const {
-  const int end = group < 0 ? static_cast<int>(tree_.nodes().size()) : node(group).end;
+// Returns the last drawing before `end` that hides everything before it, on the screen (-1) or in a
+// group.
+int Compositor::first_needed(const PixelRect& damage, int group, int end) const {
   for (int i = end - 1; i > group; --i) {
     const RenderNode& one = node(i);
     if (!one.is_opaque || !one.own.contains(damage)) continue;
@@ -147,25 +147,10 @@ int Compositor::first_needed(const PixelRect& damage, int group) const {
   return -1;
 }
 
-void Compositor::paint_damage(const PixelRect& damage) {
-  canvases_.clear();
-  canvases_.push_back(make_canvas(surface_, 0, 0));
-  cairo_t* drawing = canvases_.back().drawing.get();
-  cairo_rectangle(drawing, damage.x, damage.y, damage.width, damage.height);
-  cairo_clip(drawing);
-  const int first = first_needed(damage);
-  if (first < 0) {
-    cairo_set_source_rgb(drawing, 0, 0, 0);
-    cairo_paint(drawing);
-  }
-  for (int i = 0; i < static_cast<int>(tree_.nodes().size()); i = node(i).end)
-    paint_node(i, damage, first);
-  canvases_.clear();
-}
-
 // A blurred picture is kept for as long as its backdrop may come back. Screen-sized copies are too
 // large for that.
 void Compositor::forget_unused() {
+  if (underlay_.frame != frames_) underlay_ = {};
   const auto is_shown = [&](std::uint64_t serial) {
     return std::any_of(tree_.nodes().begin(), tree_.nodes().end(),
                        [&](const RenderNode& one) { return one.serial == serial; });

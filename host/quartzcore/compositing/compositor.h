@@ -52,12 +52,22 @@ class Compositor {
   };
   struct CachedBackdrop {
     std::uint64_t behind = 0;
+    // The frames in which it was blurred, and in which it last showed what is behind it.
     std::uint64_t frame = 0;
+    std::uint64_t last_ready = 0;
     PixelRect place;
     SmallPicture small;
+    // What was blurred, if it was on the screen; otherwise empty.
+    SmallPicture source;
     // In screen size; created when the blur is painted a second time.
     Surface surface;
     bool is_enlarged = false;
+  };
+  /// What is below a node that changes the whole screen in each frame, as a fade does.
+  struct Underlay {
+    std::uint64_t serial = 0;
+    std::uint64_t frame = 0;
+    Surface surface;
   };
   struct CachedGroup {
     std::uint64_t contents = 0;
@@ -67,28 +77,54 @@ class Compositor {
     bool is_opaque = false;
   };
 
-  Damage find_damage(const std::vector<Entry>& before, const std::vector<Entry>& after);
-  Damage merged(Damage damage) const;
-  void paint_damage(const PixelRect& damage);
-  int first_needed(const PixelRect& damage) const { return first_needed(damage, -1); }
-  int first_needed(const PixelRect& damage, int group) const;
-  bool backdrop_is_ready(const RenderNode& node) const;
+  /// Pixels that differ from the previous frame, and the node that changed them. A node that has
+  /// gone or whose order has changed is not known (-1): it may have been anywhere.
+  struct Change {
+    PixelRect place;
+    int node;
+  };
+  using Changes = std::vector<Change>;
+  /// What is painted at once: pixels, and the nodes from `first` until before `end` that touch
+  /// them. What is before `first` is hidden.
+  struct Part {
+    PixelRect damage;
+    int first;
+    int end;
+  };
 
-  void paint_node(int index, const PixelRect& damage, int first);
-  void paint_contents(int index, const PixelRect& damage, int first, double opacity);
-  void paint_group(int index, const PixelRect& damage);
-  void paint_backdrop(int index, const PixelRect& damage, double opacity);
   void prepare_tree(std::span<const CALayer> roots, double now);
-  void prepare_backdrops(const RenderTree& tree);
-  void blur(const RenderNode& backdrop, SmallPicture behind);
+  std::vector<Entry> take_entries() const;
+  Changes find_changes(const std::vector<Entry>& after) const;
+  static Damage merged(const Changes& changes);
+  Part part_of(const PixelRect& damage, int end) const;
+  int first_needed(const PixelRect& damage, int group, int end) const;
+  void forget_unused();
+
+  int fading_node(const Changes& changes) const;
+  int prepare_underlay(const Changes& changes);
+  void paint_screen(const PixelRect& damage, int underlay);
+  void paint(const Surface& surface, const Part& part);
+  void paint_node(int index, const Part& part);
+  void paint_contents(int index, const Part& part, double opacity);
+  void paint_group(int index, const PixelRect& damage);
   std::uint64_t contents_of_group(int index) const;
   void draw_group(int index, CachedGroup& group);
   void apply_mask(int index);
+
+  bool backdrop_is_ready(const RenderNode& node) const;
+  bool needs_backdrops() const;
+  void prepare_backdrops(Changes& changes);
+  void prepare_lone(const RenderTree& tree, const RenderNode& backdrop);
+  bool can_update(int index, const PixelRect& unknown) const;
+  PixelRect update_backdrop(int index, const Changes& changes);
+  void paint_backdrop(int index, const PixelRect& damage, double opacity);
+  void blur(const RenderNode& backdrop, SmallPicture behind);
   SmallPicture small_picture_behind(const RenderNode& backdrop, int reduction) const;
   SmallPicture small_copy_of(const RenderNode& picture, const PixelRect& place, int reduction);
-  void forget_unused();
+  void note_ready_backdrops();
 
   const RenderNode& node(int index) const { return tree_.nodes()[static_cast<std::size_t>(index)]; }
+  int node_count() const { return static_cast<int>(tree_.nodes().size()); }
 
   const PixelRect screen_;
   const double scale_;
@@ -101,6 +137,7 @@ class Compositor {
   std::vector<Canvas> canvases_;
   std::unordered_map<std::uint64_t, CachedBackdrop> backdrops_;
   std::unordered_map<std::uint64_t, CachedGroup> groups_;
+  Underlay underlay_;
   std::vector<CALayer> last_roots_;
   std::uint64_t last_changes_ = 0;
   bool last_animated_ = false;

@@ -1,41 +1,69 @@
 #include <algorithm>
 
-#include "host/quartzcore/compositing/backdrop_filter.h"
 #include "host/quartzcore/compositing/compositor.h"
-#include "host/quartzcore/kinds/backdrop_layer.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 
-void Compositor::paint_node(int index, const PixelRect& damage, int first) {
+Compositor::Part Compositor::part_of(const PixelRect& damage, int end) const {
+  return {damage, first_needed(damage, -1, end), end};
+}
+
+void Compositor::paint_screen(const PixelRect& damage, int underlay) {
+  painted_pixels_ += static_cast<std::uint64_t>(damage.area());
+  Part part = part_of(damage, node_count());
+  if (part.first < underlay) {
+    blend_opaque(underlay_.surface, surface_, 0, 0, damage, 1);
+    part.first = underlay;
+  }
+  paint(surface_, part);
+}
+
+void Compositor::paint(const Surface& surface, const Part& part) {
+  canvases_.clear();
+  canvases_.push_back(make_canvas(surface, 0, 0));
+  cairo_t* drawing = canvases_.back().drawing.get();
+  cairo_rectangle(drawing, part.damage.x, part.damage.y, part.damage.width, part.damage.height);
+  cairo_clip(drawing);
+  if (part.first < 0) {
+    cairo_set_source_rgb(drawing, 0, 0, 0);
+    cairo_paint(drawing);
+  }
+  for (int i = 0; i < part.end; i = node(i).end)
+    paint_node(i, part);
+  canvases_.clear();
+}
+
+void Compositor::paint_node(int index, const Part& part) {
   const RenderNode& one = node(index);
-  if (one.end <= first || !intersects(one.subtree, damage)) return;
+  if (one.end <= part.first || !intersects(one.subtree, part.damage)) return;
   if (one.is_group) {
-    paint_group(index, damage);
+    paint_group(index, part.damage);
   } else {
-    paint_contents(index, damage, first, one.opacity);
+    paint_contents(index, part, one.opacity);
   }
 }
 
-void Compositor::paint_contents(int index, const PixelRect& damage, int first, double opacity) {
+void Compositor::paint_contents(int index, const Part& part, double opacity) {
   const RenderNode& one = node(index);
   // By value: drawing a group below may reallocate the list of canvases.
   const Canvas canvas = canvases_.back();
   cairo_save(canvas.drawing.get());
-  if (index >= first && intersects(one.own, damage)) {
-    if (one.layer->backdrop) paint_backdrop(index, damage, opacity);
+  if (index >= part.first && intersects(one.own, part.damage)) {
+    if (one.layer->backdrop) paint_backdrop(index, part.damage, opacity);
     paint_layer(canvas, one, opacity, images_);
   }
+  const int end = std::min(one.end, part.end);
   const int first_child = one.mask >= 0 ? node(one.mask).end : index + 1;
-  if (first_child < one.end) {
+  if (first_child < end) {
     cairo_save(canvas.drawing.get());
     if (one.layer->model.masks_to_bounds) clip_to_layer(canvas, one);
-    for (int child = first_child; child < one.end; child = node(child).end)
-      paint_node(child, damage, first);
+    for (int child = first_child; child < end; child = node(child).end)
+      paint_node(child, part);
     cairo_restore(canvas.drawing.get());
   }
-  paint_border(canvas, one, opacity);
+  if (one.end <= part.end) paint_border(canvas, one, opacity);
   cairo_restore(canvas.drawing.get());
 }
 
@@ -74,13 +102,13 @@ void Compositor::paint_group(int index, const PixelRect& damage) {
 
 void Compositor::draw_group(int index, CachedGroup& group) {
   ++groups_drawn_;
-  const int first = first_needed(group.place, index);
+  const Part all{group.place, first_needed(group.place, index, node(index).end), node(index).end};
   // A drawing that fills the whole area needs no empty picture below it, and the result is opaque.
-  group.is_opaque = first >= 0;
+  group.is_opaque = all.first >= 0;
   const auto prepared = group.is_opaque ? reused : emptied;
   group.surface = prepared(std::move(group.surface), group.place.width, group.place.height);
   canvases_.push_back(make_canvas(group.surface, group.place.x, group.place.y));
-  paint_contents(index, group.place, first, 1);
+  paint_contents(index, all, 1);
   if (node(index).layer->tree.mask) apply_mask(index);
   canvases_.pop_back();
   cairo_surface_flush(group.surface.get());
@@ -93,8 +121,7 @@ void Compositor::apply_mask(int index) {
   const Surface shape = make_surface(width_of(canvas.surface), height_of(canvas.surface));
   canvases_.push_back(make_canvas(shape, canvas.x, canvas.y));
   if (mask >= 0) {
-    const PixelRect all{canvas.x, canvas.y, width_of(shape), height_of(shape)};
-    paint_node(mask, all, -1);
+    paint_node(mask, {{canvas.x, canvas.y, width_of(shape), height_of(shape)}, -1, node(mask).end});
   }
   canvases_.pop_back();
   cairo_t* drawing = canvas.drawing.get();
@@ -103,87 +130,6 @@ void Compositor::apply_mask(int index) {
   cairo_set_source_surface(drawing, shape.get(), 0, 0);
   cairo_paint(drawing);
   cairo_set_operator(drawing, CAIRO_OPERATOR_OVER);
-}
-
-// Only a group's own picture can be empty where the screen is not.
-SmallPicture Compositor::small_picture_behind(const RenderNode& backdrop, int reduction) const {
-  const PixelRect& place = backdrop.own;
-  if (canvases_.size() == 1) return reduce(canvases_.front().surface, place, reduction);
-  const Surface picture = make_surface(place.width, place.height);
-  const Canvas canvas = make_canvas(picture, place.x, place.y);
-  for (const Canvas& below : canvases_) {
-    cairo_surface_flush(below.surface.get());
-    const bool is_screen = &below == &canvases_.front();
-    paint_surface(canvas, below.surface, below.x, below.y, 1,
-                  is_screen ? Opacity::Opaque : Opacity::Translucent);
-  }
-  return reduce(picture, {0, 0, place.width, place.height}, reduction);
-}
-
-// A picture that only a backdrop sees is never scaled to the screen.
-SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect& place,
-                                       int reduction) {
-  const Image& image = *shown.layer->model.contents.image();
-  const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(
-      shown.layer->model.contents.place_in(shown.properties.bounds), shown.to_device));
-  const Surface scaled =
-      images_.scaled(image, std::max(1, box.width / reduction), std::max(1, box.height / reduction),
-                     ImageCache::Pixels::Waited);
-  const Surface small = make_surface((place.width + reduction - 1) / reduction,
-                                     (place.height + reduction - 1) / reduction);
-  const Drawing drawing = draw_on(small);
-  cairo_scale(drawing.get(), 1.0 / reduction, 1.0 / reduction);
-  cairo_translate(drawing.get(), box.x - place.x, box.y - place.y);
-  cairo_scale(drawing.get(), static_cast<double>(box.width) / width_of(scaled),
-              static_cast<double>(box.height) / height_of(scaled));
-  cairo_set_source_surface(drawing.get(), scaled.get(), 0, 0);
-  cairo_pattern_set_extend(cairo_get_source(drawing.get()), CAIRO_EXTEND_PAD);
-  cairo_pattern_set_filter(cairo_get_source(drawing.get()), CAIRO_FILTER_BILINEAR);
-  cairo_paint(drawing.get());
-  return take_reduced(small, reduction);
-}
-
-// Backdrops over a single picture are blurred before anything is painted, so that painting can skip
-// the hidden picture.
-void Compositor::prepare_backdrops(const RenderTree& tree) {
-  for (const RenderNode& one : tree.nodes()) {
-    if (one.lone_picture < 0 || one.own.is_empty() || backdrop_is_ready(one)) continue;
-    const RenderNode& picture = tree.nodes()[static_cast<std::size_t>(one.lone_picture)];
-    const int reduction = reduction_for(one.layer->backdrop->look(), scale_);
-    blur(one, small_copy_of(picture, one.own, reduction));
-  }
-}
-
-void Compositor::blur(const RenderNode& one, SmallPicture behind) {
-  ++blurs_;
-  BackdropLayer& backdrop = *one.layer->backdrop;
-  backdrop.note_luminance(filter_backdrop(behind, backdrop.look(), scale_));
-  CachedBackdrop& cached = backdrops_[one.serial];
-  cached = {one.behind, frames_, one.own, std::move(behind), std::move(cached.surface), false};
-}
-
-void Compositor::paint_backdrop(int index, const PixelRect& damage, double opacity) {
-  const RenderNode& one = node(index);
-  if (!backdrop_is_ready(one)) {
-    const int reduction = reduction_for(one.layer->backdrop->look(), scale_);
-    blur(one, small_picture_behind(one, reduction));
-  }
-  CachedBackdrop& cached = backdrops_[one.serial];
-  const Canvas& canvas = canvases_.back();
-  if (!cached.is_enlarged && cached.frame == frames_ && one.is_plain) {
-    const PixelRect part = intersection(one.own, damage);
-    return paint_enlarged(cached.small, canvas.surface, one.own.x - canvas.x, one.own.y - canvas.y,
-                          {part.x - canvas.x, part.y - canvas.y, part.width, part.height}, opacity);
-  }
-  if (!cached.is_enlarged) {
-    cached.surface = reused(std::move(cached.surface), one.own.width, one.own.height);
-    enlarge(cached.small, cached.surface);
-    cached.is_enlarged = true;
-  }
-  cairo_save(canvas.drawing.get());
-  clip_to_layer(canvas, one);
-  paint_surface(canvas, cached.surface, one.own.x, one.own.y, opacity, Opacity::Opaque);
-  cairo_restore(canvas.drawing.get());
 }
 
 }  // namespace host::quartzcore

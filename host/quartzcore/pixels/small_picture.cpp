@@ -60,13 +60,17 @@ std::uint16_t weight(int k, int reduction) {
 /// One row of a small picture as whole numbers, with its first and last pixel repeated once.
 using Line = std::vector<std::uint16_t>;
 
+std::uint16_t whole_number(float channel) {
+  return static_cast<std::uint16_t>(channel + 0.5F);
+}
+
 Line whole_numbers(const SmallPicture& picture, int y) {
   Line line(static_cast<std::size_t>(picture.width + 2) * 4);
   for (int x = -1; x <= picture.width; ++x) {
     const Channels& pixel = picture.row(y)[std::clamp(x, 0, picture.width - 1)];
     for (int channel = 0; channel < 4; ++channel)
       line[static_cast<std::size_t>((x + 1) * 4 + channel)] =
-          channel == 3 ? kOpaque : static_cast<std::uint16_t>(pixel[channel] + 0.5F);
+          channel == 3 ? kOpaque : whole_number(pixel[channel]);
   }
   return line;
 }
@@ -112,6 +116,27 @@ template <int Reduction, class Pixels, class Bytes>
     }
     here = next;
   }
+}
+
+/// Returns the squares, counted from the top left of `place`, that some pixels in it touch.
+PixelRect squares_of(const SmallPicture& picture, const PixelRect& place, const PixelRect& pixels) {
+  const int side = picture.reduction;
+  return from_edges((pixels.x - place.x) / side, (pixels.y - place.y) / side,
+                    (pixels.right() - place.x + side - 1) / side,
+                    (pixels.bottom() - place.y + side - 1) / side);
+}
+
+PixelRect pixels_of(const PixelRect& squares, int side, const PixelRect& place) {
+  return {place.x + squares.x * side, place.y + squares.y * side, squares.width * side,
+          squares.height * side};
+}
+
+/// True if two squares look different when they are enlarged.
+bool differs(const Channels& one, const Channels& other) {
+  for (int channel = 0; channel < 3; ++channel) {
+    if (whole_number(one[channel]) != whole_number(other[channel])) return true;
+  }
+  return false;
 }
 
 using Spread = void (*)(const Line& line, std::uint8_t* to);
@@ -189,6 +214,21 @@ SmallPicture reduce(const Surface& surface, const PixelRect& place, int reductio
   return picture;
 }
 
+PixelRect source_pixels(const SmallPicture& picture, const PixelRect& place,
+                        const PixelRect& changed) {
+  return intersection(pixels_of(squares_of(picture, place, changed), picture.reduction, place),
+                      place);
+}
+
+void reduce_again(SmallPicture& picture, const Surface& surface, const PixelRect& place,
+                  const PixelRect& changed) {
+  const PixelRect squares = squares_of(picture, place, changed);
+  const SmallPicture part =
+      reduce(surface, source_pixels(picture, place, changed), picture.reduction);
+  for (int y = 0; y < part.height; ++y)
+    std::copy_n(part.row(y), part.width, picture.row(squares.y + y) + squares.x);
+}
+
 SmallPicture take_reduced(const Surface& surface, int reduction) {
   SmallPicture picture = reduce(surface, {0, 0, width_of(surface), height_of(surface)}, 1);
   picture.reduction = reduction;
@@ -197,6 +237,20 @@ SmallPicture take_reduced(const Surface& surface, int reduction) {
 
 void enlarge(const SmallPicture& picture, const Surface& surface) {
   paint_enlarged(picture, surface, 0, 0, {0, 0, width_of(surface), height_of(surface)}, 1);
+}
+
+PixelRect difference_enlarged(const SmallPicture& one, const SmallPicture& other,
+                              const PixelRect& place) {
+  PixelRect squares;
+  for (int y = 0; y < one.height; ++y) {
+    for (int x = 0; x < one.width; ++x) {
+      if (differs(one.row(y)[x], other.row(y)[x])) squares = united(squares, {x, y, 1, 1});
+    }
+  }
+  if (squares.is_empty()) return {};
+  // Between the middles of two squares, a pixel is a mixture of both.
+  const PixelRect around{squares.x - 1, squares.y - 1, squares.width + 2, squares.height + 2};
+  return intersection(pixels_of(around, one.reduction, place), place);
 }
 
 void paint_enlarged(const SmallPicture& picture, const Surface& surface, int x, int y,

@@ -32,12 +32,27 @@ struct SmallPicture {
 /// may be cut off.
 SmallPicture reduce(const Surface& surface, const PixelRect& place, int reduction);
 
+/// Returns the pixels of the surface that have to be known for `reduce_again` with the same
+/// arguments: those of all squares that `changed` touches.
+PixelRect source_pixels(const SmallPicture& picture, const PixelRect& place,
+                        const PixelRect& changed);
+
+/// Makes the picture what `reduce` returns for the same place, if it was that before the pixels of
+/// `changed`, which is in `place`, changed.
+void reduce_again(SmallPicture& picture, const Surface& surface, const PixelRect& place,
+                  const PixelRect& changed);
+
 /// Returns the picture in `surface`, which has already been reduced.
 SmallPicture take_reduced(const Surface& surface, int reduction);
 
 /// Fills the surface with the picture enlarged to the screen's size, opaque, with smooth
 /// transitions between the squares.
 void enlarge(const SmallPicture& picture, const Surface& surface);
+
+/// Returns the pixels in which two pictures of the same size and reduction differ when they are
+/// enlarged at `place`, and some around them.
+PixelRect difference_enlarged(const SmallPicture& one, const SmallPicture& other,
+                              const PixelRect& place);
 
 /// Paints the same over the part `damage` of a surface, with an opacity and without an intermediate
 /// copy. The picture's top left is at pixel (x, y) of the surface.
