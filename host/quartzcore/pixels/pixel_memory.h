@@ -4,6 +4,7 @@
 #include <deque>
 #include <mutex>
 #include <new>
+#include <unordered_map>
 
 namespace host::quartzcore {
 
@@ -22,6 +23,9 @@ class PixelMemory {
   static constexpr std::size_t kMostKept = 12U << 20;
   /// In bytes. Smaller blocks come from pages that the process already has.
   static constexpr std::size_t kLeastKept = 128U << 10;
+  /// In bytes: a large page of the system. Blocks of about a multiple of it consist of large pages
+  /// where the system has them, which take two faults for a screen instead of a thousand.
+  static constexpr std::size_t kLargePage = 2U << 20;
 
   PixelMemory() = default;
   ~PixelMemory();
@@ -35,10 +39,13 @@ class PixelMemory {
 
  private:
   Block kept_block(std::size_t size);
+  Block new_block(std::size_t size, Contents contents);
+  void release(const Block& block);
 
   mutable std::mutex mutex_;
   std::deque<Block> blocks_;  // The latest returned first.
   std::size_t kept_ = 0;
+  std::unordered_map<const void*, std::size_t> mapped_;  // The blocks of large pages.
 };
 
 /// The only instance in this process.

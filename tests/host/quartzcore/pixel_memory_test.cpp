@@ -49,6 +49,18 @@ TEST(PixelMemory, KeepsNoMoreThanItsLimit) {
   EXPECT_EQ(memory.kept(), PixelMemory::kMostKept);
 }
 
+TEST(PixelMemory, AScreenBeginsAtALargePageAndIsReturnedWhole) {
+  constexpr std::size_t kScreen = 750UL * 1334 * 4;
+  PixelMemory memory;
+  auto block = memory.take(kScreen, Contents::Zeros);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block.bytes) % PixelMemory::kLargePage, 0U);
+  EXPECT_EQ(block.size, 2 * PixelMemory::kLargePage);
+  EXPECT_TRUE(std::all_of(block.bytes, block.bytes + kScreen, [](auto byte) { return !byte; }));
+  block.size = kScreen;
+  memory.give_back(block);
+  EXPECT_EQ(memory.kept(), 2 * PixelMemory::kLargePage);
+}
+
 TEST(PixelMemory, SmallBlocksAreNotKept) {
   PixelMemory memory;
   memory.give_back(memory.take(PixelMemory::kLeastKept - 1, Contents::Anything));
