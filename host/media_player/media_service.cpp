@@ -15,7 +15,6 @@
 #include "host/media/mpv_player.h"
 #include "host/media/playable_path.h"
 #include "host/media/reading_trial.h"
-#include "host/media_player/playback_memory.h"
 #include "host/media_player/songs_at.h"
 #include "platform/Foundation/NSNotificationCenter.h"
 #include "platform/MediaPlayer/MPMediaQuery.h"
@@ -243,7 +242,9 @@ void MediaService::tell_jump() {
 
 void MediaService::restore_playback() {
   if (options_.memory_path.empty()) return;
-  const RememberedPlayback memory = read_playback(memory_.emplace(options_.memory_path));
+  const auto pace = options_.pace == media::PlayerPace::stepped ? PlaybackFile::Pace::kWaits
+                                                                : PlaybackFile::Pace::kNeverWaits;
+  const RememberedPlayback memory = memory_.emplace(options_.memory_path, pace).read();
   if (memory.volume) playback_.set_volume(*memory.volume);
   if (memory.song == 0) return;
   playback_.set_queue(memory.queue ? media::make_song_list(*memory.queue)
@@ -279,7 +280,7 @@ void MediaService::save_playback() {
   const media::SongList& queue = playback_.queue().list();
   const media::SongList& all = items_->library().songs();
   if (queue != all && *queue != *all) memory.queue = *queue;
-  if (!write_playback(*memory_, memory)) {
+  if (!memory_->write(memory)) {
     media::log_warning("the playback state cannot be saved to " + memory_->path());
     memory_.reset();
   }

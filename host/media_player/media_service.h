@@ -13,6 +13,7 @@
 #include "host/media_player/media_options.h"
 #include "host/media_player/music_choices.h"
 #include "host/media_player/playback.h"
+#include "host/media_player/playback_memory.h"
 
 namespace host::media_player {
 
@@ -107,7 +108,7 @@ class MediaService {
   ArtworkImages artwork_;
   Playback playback_;
   LibraryFeed feed_;
-  std::optional<foundation::PropertyListFile> memory_;  // empty when nothing can be stored
+  std::optional<PlaybackFile> memory_;  // empty when nothing can be stored
   std::vector<MediaObserver*> observers_;
   bool needs_saving_ = false;
   double next_save_ = 0;

@@ -3,6 +3,9 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "host/files/folder.h"
+#include "host/foundation/device_paths.h"
+#include "host/property_list/xml_writer.h"
 #include "objc/autorelease_pool.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSValue.h"
@@ -35,25 +38,7 @@ std::optional<double> number(objc::Object value) {
   return found.doubleValue();
 }
 
-}  // namespace
-
-RememberedPlayback read_playback(foundation::PropertyListFile& file) {
-  const objc::AutoreleasePool pool;
-  RememberedPlayback playback;
-  const NSDictionary kept = file.read();
-  playback.song = identifier(kept.objectForKey("song"_ns));
-  playback.position_seconds = number(kept.objectForKey("position"_ns)).value_or(0);
-  playback.volume = number(kept.objectForKey("volume"_ns));
-  if (const auto queue = typed<NSArray>(kept.objectForKey("queue"_ns))) {
-    playback.queue.emplace();
-    for (const auto id : queue.of<objc::Object>())
-      playback.queue->push_back(identifier(id));
-  }
-  return playback;
-}
-
-bool write_playback(const foundation::PropertyListFile& file, const RememberedPlayback& playback) {
-  const objc::AutoreleasePool pool;
+NSDictionary list_of(const RememberedPlayback& playback) {
   const NSMutableDictionary kept = NSMutableDictionary::dictionary();
   kept.setObject(text_of(playback.song), "song"_ns);
   kept.setObject(NSNumber::numberWithDouble(playback.position_seconds), "position"_ns);
@@ -66,7 +51,38 @@ bool write_playback(const foundation::PropertyListFile& file, const RememberedPl
       queue.addObject(text_of(id));
     kept.setObject(queue, "queue"_ns);
   }
-  return file.write(kept);
+  return kept;
+}
+
+}  // namespace
+
+PlaybackFile::PlaybackFile(const std::string& path, Pace pace)
+    : list_(path), bytes_(foundation::path_on_this_machine(path), pace) {}
+
+RememberedPlayback PlaybackFile::read() {
+  const objc::AutoreleasePool pool;
+  RememberedPlayback playback;
+  const NSDictionary kept = list_.read();
+  playback.song = identifier(kept.objectForKey("song"_ns));
+  playback.position_seconds = number(kept.objectForKey("position"_ns)).value_or(0);
+  playback.volume = number(kept.objectForKey("volume"_ns));
+  if (const auto queue = typed<NSArray>(kept.objectForKey("queue"_ns))) {
+    playback.queue.emplace();
+    for (const auto id : queue.of<objc::Object>())
+      playback.queue->push_back(identifier(id));
+  }
+  return playback;
+}
+
+bool PlaybackFile::write(const RememberedPlayback& playback) {
+  if (list_.is_unread()) return false;
+  const objc::AutoreleasePool pool;
+  const auto bytes = property_list::xml_of(list_of(playback));
+  if (!bytes) return false;
+  // If this fails, so does writing, which says why.
+  files::make_folders(files::folder_of(foundation::path_on_this_machine(list_.path())));
+  bytes_.write(*bytes);
+  return bytes_.is_writable();
 }
 
 }  // namespace host::media_player

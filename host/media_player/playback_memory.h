@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/foundation/background_file.h"
 #include "host/foundation/property_list_file.h"
 
 namespace host::media_player {
@@ -17,9 +18,23 @@ struct RememberedPlayback {
   std::optional<double> volume;
 };
 
-/// Missing or malformed entries are treated as if nothing had been stored.
-RememberedPlayback read_playback(foundation::PropertyListFile& file);
-/// Returns false when it cannot be written.
-bool write_playback(const foundation::PropertyListFile& file, const RememberedPlayback& playback);
+/// The file that keeps it.
+class PlaybackFile {
+ public:
+  using Pace = foundation::BackgroundFile::Pace;
+
+  /// A path of the device or of this machine.
+  PlaybackFile(const std::string& path, Pace pace);
+
+  const std::string& path() const { return list_.path(); }
+  /// Missing or malformed entries are treated as if nothing had been stored.
+  RememberedPlayback read();
+  /// Returns false when it cannot be written; without waiting, one call later.
+  bool write(const RememberedPlayback& playback);
+
+ private:
+  foundation::PropertyListFile list_;
+  foundation::BackgroundFile bytes_;
+};
 
 }  // namespace host::media_player

@@ -62,15 +62,18 @@ std::string read_assignments() {
   return names;
 }
 
+host::media_player::PlaybackFile playback_file() {
+  return {kPlayback, host::media_player::PlaybackFile::Pace::kWaits};
+}
+
 void write_playback(int version) {
   host::media_player::RememberedPlayback playback;
   playback.song = static_cast<std::uint64_t>(version);
-  host::media_player::write_playback(PropertyListFile(kPlayback), playback);
+  playback_file().write(playback);
 }
 
 std::string read_playback() {
-  PropertyListFile file(kPlayback);
-  const auto song = host::media_player::read_playback(file).song;
+  const auto song = playback_file().read().song;
   return song ? std::to_string(song) : "none";
 }
 

@@ -6,8 +6,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
 #include "host/files/new_file.h"
+#include "host/foundation/background_file.h"
 #include "platform/Foundation/NSData.h"
 #include "platform/Foundation/NSDictionary.h"
 #include "tests/support/full_disk.h"
@@ -210,6 +212,39 @@ TEST_F(AtomicWrites, KeepWhatCouldNotBeReadBefore) {
               testing::UnorderedElementsAre("settings.plist", "settings.plist.unreadable"));
   EXPECT_TRUE(NSDictionary::dictionaryWithContentsOfFile(
       NSString::stringWithUTF8String((path + ".unreadable").c_str())));
+}
+
+using host::foundation::BackgroundFile;
+
+TEST_F(AtomicWrites, InTheBackgroundTheLatestBytesAreOnTheDiskAtTheEnd) {
+  {
+    BackgroundFile file(path, BackgroundFile::Pace::kNeverWaits);
+    for (int i = 0; i < 50; ++i)
+      file.write(std::to_string(i));
+  }
+  EXPECT_EQ(content(), "49");
+  EXPECT_THAT(names(), testing::ElementsAre("settings.plist"));
+}
+
+TEST_F(AtomicWrites, AFileInTheBackgroundTellsWhetherTheLatestAttemptFailed) {
+  BackgroundFile file((folder / "missing" / "file").string(), BackgroundFile::Pace::kNeverWaits);
+  EXPECT_TRUE(file.is_writable());
+  file.write("one");
+  while (file.is_writable())
+    std::this_thread::yield();
+  fs::create_directories(folder / "missing");
+  file.write("two");
+  while (!file.is_writable())
+    std::this_thread::yield();
+  EXPECT_TRUE(fs::exists(folder / "missing" / "file"));
+}
+
+TEST_F(AtomicWrites, AFileThatWaitsIsWrittenAtOnce) {
+  BackgroundFile file(path, BackgroundFile::Pace::kWaits);
+  file.write("one");
+  EXPECT_EQ(content(), "one");
+  file.write("two");
+  EXPECT_EQ(content(), "two");
 }
 
 }  // namespace

@@ -11,7 +11,9 @@
 
 namespace {
 
+using host::media_player::PlaybackFile;
 using host::media_player::RememberedPlayback;
+using Pace = PlaybackFile::Pace;
 using host::test::text;
 using testing::ElementsAre;
 
@@ -22,10 +24,7 @@ class PlaybackMemory : public host::test::MediaPlayerTest {
   host::foundation::PropertyListFile stored() const {
     return host::foundation::PropertyListFile(file());
   }
-  RememberedPlayback read() const {
-    auto memory = stored();
-    return host::media_player::read_playback(memory);
-  }
+  RememberedPlayback read() const { return PlaybackFile(file(), Pace::kWaits).read(); }
   void leave(std::string_view bytes) const {
     std::filesystem::create_directories(folder_ / "caches");
     media_tests::write_bytes(file(), bytes);
@@ -38,13 +37,23 @@ TEST_F(PlaybackMemory, KeepsWhatWasWritten) {
   kept.song = 0x7fffffffffffffff;
   kept.position_seconds = 12.25;
   kept.volume = 0.5;
-  ASSERT_TRUE(host::media_player::write_playback(stored(), kept));
+  ASSERT_TRUE(PlaybackFile(file(), Pace::kWaits).write(kept));
   const RememberedPlayback playback = read();
   ASSERT_TRUE(playback.queue);
   EXPECT_THAT(*playback.queue, ElementsAre(0x7fffffffffffffff, 2));
   EXPECT_EQ(playback.song, 0x7fffffffffffffffu);
   EXPECT_EQ(playback.position_seconds, 12.25);
   EXPECT_EQ(playback.volume, 0.5);
+}
+
+TEST_F(PlaybackMemory, WithoutWaitingItIsWrittenBeforeTheFileIsClosed) {
+  RememberedPlayback kept;
+  {
+    PlaybackFile written(file(), Pace::kNeverWaits);
+    for (kept.song = 1; kept.song < 20; ++kept.song)
+      EXPECT_TRUE(written.write(kept));
+  }
+  EXPECT_EQ(read().song, 19u);
 }
 
 TEST_F(PlaybackMemory, ADamagedFileCountsAsMissing) {
