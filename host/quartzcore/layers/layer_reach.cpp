@@ -84,13 +84,18 @@ const ChildIndex* LayerReach::child_index() const {
   return child_index_.get();
 }
 
-bool LayerReach::is_clipped_away() const {
+/// True when a layer above, made larger by that many of its sizes on each side, still clips it
+/// away.
+bool LayerReach::is_clipped_away_by(double sizes) const {
   CGRect place = layer_.model.properties.bounds;
   if (CGRectIsEmpty(place)) return false;
   const Layer* layer = &layer_;
   while (const Layer* above = layer->superlayer()) {
     place = CGRectApplyAffineTransform(place, layer->model.properties.to_super());
-    if (above->model.masks_to_bounds && !touch(place, above->model.properties.bounds)) return true;
+    const CGRect& bounds = above->model.properties.bounds;
+    const CGRect near =
+        CGRectInset(bounds, -sizes * bounds.size.width, -sizes * bounds.size.height);
+    if (above->model.masks_to_bounds && !touch(place, near)) return true;
     layer = above;
   }
   return false;

@@ -19,7 +19,9 @@ class LayerReach {
   /// The area that the layer with all its sublayers may cover, in its superlayer's coordinates.
   CGRect box() const;
   /// True when, according to the model, a layer above clips it away completely.
-  bool is_clipped_away() const;
+  bool is_clipped_away() const { return is_clipped_away_by(0); }
+  /// The same, and not even near: it would have to move by more than what clips it is large.
+  bool is_far_away() const { return is_clipped_away_by(1); }
   /// Calls `visit` for each sublayer in drawing order. If there are many, it skips most of those
   /// that cannot touch `rect`, which is in this layer's coordinates.
   template <class Visit>
@@ -35,6 +37,7 @@ class LayerReach {
   void forget_children();
 
  private:
+  bool is_clipped_away_by(double sizes) const;
   CGRect in_layer() const;
   std::vector<const Layer*> children_in_order() const;
   /// Null when there are only few sublayers.

@@ -141,6 +141,13 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
   void fade(CALayer layer, double from) {
     const double to = layer.opacity();
     if (from == to) return;
+    const bool repeats = asked_.has(UIViewAnimationOptionRepeat);
+    // Of thousands of tiles that fade at once, the screen shows a few.
+    if (!repeats && quartzcore::layer_of(layer).reach.is_far_away()) {
+      const double once =
+          asked_.has(UIViewAnimationOptionAutoreverse) ? 2 * asked_.duration : asked_.duration;
+      return asked_.run->unseen_animation_added(asked_.delay + once);
+    }
     quartzcore::RunningAnimation animation;
     animation.key = animation.key_path = "opacity";
     animation.values = fade_between(from, to);
@@ -149,8 +156,7 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
     animation.duration = asked_.duration;
     animation.curve = asked_.curve;
     animation.autoreverses = asked_.has(UIViewAnimationOptionAutoreverse);
-    if (asked_.has(UIViewAnimationOptionRepeat))
-      animation.repeat_count = std::numeric_limits<double>::infinity();
+    if (repeats) animation.repeat_count = std::numeric_limits<double>::infinity();
     animation.listener.reset(self);
     begin();
     quartzcore::layer_of(layer).run(std::move(animation));

@@ -1,5 +1,7 @@
 #include "host/uikit/view/animation_run.h"
 
+#include <utility>
+
 #include "host/runtime/run_loop.h"
 
 namespace host::uikit {
@@ -11,6 +13,14 @@ void AnimationRun::animation_stopped(bool finished) {
   const auto completion = std::move(completion_);
   completion_ = {};
   completion.get()(all_finished_ ? YES : NO);
+}
+
+void AnimationRun::unseen_animation_added(double seconds) {
+  if (std::exchange(has_unseen_, true)) return;
+  animation_added();
+  RunLoop& loop = RunLoop::main();
+  loop.add_timer(loop.now() + seconds, 0,
+                 [run = shared_from_this()] { run->animation_stopped(true); });
 }
 
 void AnimationRun::close() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "objc/block.h"
 
 namespace host::uikit {
@@ -7,12 +9,15 @@ namespace host::uikit {
 /// One animation block from its submission to its completion. The completion is called exactly
 /// once: when the last of the block's animations has stopped, or in the next turn of the run loop
 /// when the block changed nothing that animates.
-class AnimationRun {
+class AnimationRun : public std::enable_shared_from_this<AnimationRun> {
  public:
   explicit AnimationRun(objc::Block<void(BOOL)> completion) : completion_(completion) {}
 
   void animation_added() { ++running_; }
   void animation_stopped(bool finished);
+  /// Counts as an animation that ends after so many seconds. All changes of the block that nobody
+  /// can see share one.
+  void unseen_animation_added(double seconds);
   /// Called when the block has been run; no animation is added afterwards.
   void close();
 
@@ -21,6 +26,7 @@ class AnimationRun {
 
   objc::OwnedBlock<void(BOOL)> completion_;
   int running_ = 0;
+  bool has_unseen_ = false;
   bool closed_ = false;
   bool all_finished_ = true;
 };

@@ -75,6 +75,34 @@ TEST_F(BlockAnimationTest, SeveralChangesHaveOneCompletion) {
   EXPECT_EQ(ends.size(), 1u);
 }
 
+TEST_F(BlockAnimationTest, AFadeFarFromSightHasNoAnimationButEndsLikeOne) {
+  view.setClipsToBounds(YES);
+  const auto at = [this](CGFloat y) {
+    const UIView tile = UIView::alloc().initWithFrame({0, y, 100, 50}).autorelease();
+    view.addSubview(tile);
+    return tile;
+  };
+  const UIView seen = at(0);
+  const UIView near = at(190);
+  const UIView far = at(210);
+  const auto is_animated = [](UIView tile) { return tile.layer().animationKeys().count() > 0; };
+  UIView::animateWithDuration(0.5, objc::block([&] {
+                                for (const UIView tile : {seen, near, far})
+                                  tile.setAlpha(0.5);
+                              }));
+  EXPECT_TRUE(is_animated(seen));
+  EXPECT_TRUE(is_animated(near));
+  EXPECT_FALSE(is_animated(far));
+  EXPECT_EQ(far.layer().presentationLayer().opacity(), 0.5f);
+  advance(1);
+  UIView::animateWithDuration(0.5, 0.25, 0, objc::block([&] { far.setAlpha(0); }), note_end());
+  advance(0.7);
+  EXPECT_THAT(ends, ElementsAre());
+  advance(0.2);
+  EXPECT_THAT(ends, ElementsAre(testing::DoubleNear(1.75, 1.0 / 60 + 1e-6)));
+  EXPECT_THAT(finishes, ElementsAre(true));
+}
+
 TEST_F(BlockAnimationTest, MovementsAddUp) {
   const auto linear = UIViewAnimationOptionCurveLinear;
   UIView::animateWithDuration(1.0, 0.0, linear, objc::block([this] {
