@@ -58,6 +58,7 @@ struct PageSocket::Callbacks {
 
   static void message(wslay_event_context*, const wslay_event_on_msg_recv_arg* got, void* user) {
     auto& self = *static_cast<PageSocket*>(user);
+    if (self.is_ending_) return;
     if (got->opcode == WSLAY_TEXT_FRAME) self.end_soon("sends text, where bytes are due");
     if (got->opcode == WSLAY_BINARY_FRAME)
       self.received_.emplace_back(reinterpret_cast<const char*>(got->msg), got->msg_length);
@@ -93,7 +94,7 @@ void PageSocket::receive() {
   budget_ = kBytesPerTurn;
   if (wslay_event_recv(context_) != 0) end_soon("");
   for (const std::string& message : std::exchange(received_, {})) {
-    if (is_ending_ && !reason_.empty()) break;
+    if (!is_open()) break;
     // By value: the listener may set other events.
     if (const auto deliver = events_.message) deliver(message);
     if (life.expired()) return;

@@ -87,6 +87,18 @@ TEST_F(PageSockets, TextEndsTheConnection) {
   EXPECT_FALSE(socket->is_open());
 }
 
+TEST_F(PageSockets, WhatCameBeforeATextIsHeardHoweverItCame) {
+  for (const bool at_once : {true, false}) {
+    messages.clear();
+    connect("");
+    const std::string text = frame("hello", Opcode::kText) + frame("more");
+    if (!at_once) write(frame("first"));
+    write(at_once ? frame("first") + text : text);
+    EXPECT_THAT(messages, ElementsAre("first")) << at_once;
+    EXPECT_FALSE(socket->is_open());
+  }
+}
+
 TEST_F(PageSockets, AMessageThatIsTooLongEndsTheConnection) {
   write(frame(std::string(PageSocket::kLongestMessage + 1, 'x')));
   EXPECT_THAT(messages, IsEmpty());
