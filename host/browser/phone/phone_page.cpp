@@ -55,7 +55,11 @@ void PhonePage::send(const ToPage& message) {
 }
 
 void PhonePage::receive_visitor(Descriptor connection, std::string early) {
-  if (visitors_.size() >= kMostVisitors) return;
+  if (visitors_.size() >= kMostVisitors) {
+    if (crowd_.is_due())
+      spdlog::warn("browser: more than {} visitors at once: others are turned away", kMostVisitors);
+    return;
+  }
   const Place visitor = visitors_.emplace(visitors_.end());
   visitor->timer = loop_.add_timer(loop_.now() + kVisit, 0, [this, visitor] {
     visitor->timer = 0;
@@ -77,7 +81,8 @@ void PhonePage::hear_visitor(Place visitor, std::string_view bytes) {
   const auto* present = message ? std::get_if<Present>(&*message) : nullptr;
   if (!present) return dismiss(visitor);
   if (const auto secret = access_->admit(present->key)) return let_in(visitor, *secret);
-  spdlog::warn("browser: a page with a link that is not valid was turned away");
+  if (wrong_key_.is_due())
+    spdlog::warn("browser: a page with a link that is not valid was turned away");
   visitor->socket->set_events({{}, [this, visitor](const std::string&) { dismiss(visitor); }});
   refuse(*visitor->socket, page_ ? Reason::OpenElsewhere : Reason::UsedLink);
 }

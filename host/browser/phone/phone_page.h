@@ -9,6 +9,7 @@
 #include "host/browser/access/access.h"
 #include "host/browser/phone/page_input.h"
 #include "host/browser/phone/page_screen.h"
+#include "host/browser/web/complaint.h"
 #include "host/browser/web/page_socket.h"
 #include "host/browser/web/server.h"
 
@@ -74,6 +75,8 @@ class PhonePage {
   bool is_awake_ = true;
   RunLoop::Id return_timer_ = 0;
   RunLoop::Id turns_;
+  Complaint crowd_{loop_};
+  Complaint wrong_key_{loop_};
   Server server_;
 };
 

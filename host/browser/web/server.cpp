@@ -15,8 +15,6 @@ namespace {
 
 constexpr std::size_t kPiece = 4096;
 constexpr int kAcceptedPerTurn = 16;
-// In seconds, between two lines about visitors that were turned away.
-constexpr double kQuiet = 60;
 
 }  // namespace
 
@@ -38,10 +36,9 @@ void Server::accept_some() {
     Descriptor accepted(accept4(listener_, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC));
     if (!accepted) return;
     if (connections_.size() >= kMostConnections) {
-      if (loop_.now() - last_complaint_ > kQuiet)
+      if (crowd_.is_due())
         spdlog::warn("browser: more than {} connections at once: others are closed",
                      kMostConnections);
-      last_complaint_ = loop_.now();
       continue;
     }
     // What the phone shows does not wait for more.
@@ -89,10 +86,9 @@ bool Server::read(Connection& connection) {
     made = browser::answer(request, files_);
   }
   constexpr int kForbidden = 403;
-  if (made.status == kForbidden && loop_.now() - last_complaint_ > kQuiet) {
+  if (made.status == kForbidden && foreign_.is_due()) {
     spdlog::warn("browser: refused a request to the host '{}' by a page of '{}'",
                  on_one_line(request.header("host")), on_one_line(request.header("origin")));
-    last_complaint_ = loop_.now();
   }
   connection.answer = std::move(made.bytes);
   return true;

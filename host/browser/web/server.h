@@ -7,6 +7,7 @@
 
 #include "host/basics/descriptor.h"
 #include "host/browser/web/answer.h"
+#include "host/browser/web/complaint.h"
 #include "host/runtime/run_loop.h"
 
 namespace host::browser {
@@ -53,7 +54,8 @@ class Server {
   const Upgraded upgraded_;
   RunLoop::Id watch_;
   std::list<Connection> connections_;
-  double last_complaint_ = -1e9;
+  Complaint crowd_{loop_};
+  Complaint foreign_{loop_};
 };
 
 }  // namespace host::browser

@@ -84,7 +84,8 @@ TEST_F(Servers, RefuseAnotherNameAndSayItOnceAMinute) {
             "warning: browser: refused a request to the host 'evil.example' by a page of ''\n");
 }
 
-TEST_F(Servers, RefuseAPageFromElsewhere) {
+TEST_F(Servers, RefuseAPageFromElsewhereWithALine) {
+  const CaughtLog log;
   const Descriptor client = connect();
   write(client,
         "GET /phone HTTP/1.1\r\nHost: localhost\r\nOrigin: http://evil.example\r\n"
@@ -92,6 +93,22 @@ TEST_F(Servers, RefuseAPageFromElsewhere) {
         "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n\r\n");
   EXPECT_THAT(read(client), StartsWith("HTTP/1.1 403 "));
   EXPECT_TRUE(upgraded.empty());
+  EXPECT_EQ(log.text(),
+            "warning: browser: refused a request to the host 'localhost' by a page of "
+            "'http://evil.example'\n");
+}
+
+TEST_F(Servers, SayThatAPageIsFromElsewhereAlsoAfterACrowd) {
+  const CaughtLog log;
+  std::vector<Descriptor> crowd;
+  for (std::size_t i = 0; i <= Server::kMostConnections; ++i)
+    crowd.push_back(connect());
+  crowd.clear();
+  for (int i = 0; i < 4; ++i)
+    loop.run_ready();
+  write(connect(), "GET / HTTP/1.1\r\nHost: evil.example\r\n\r\n");
+  EXPECT_THAT(log.text(), HasSubstr("more than 32 connections"));
+  EXPECT_THAT(log.text(), HasSubstr("evil.example"));
 }
 
 TEST_F(Servers, CloseWhatIsNoRequest) {
