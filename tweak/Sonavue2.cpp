@@ -20,6 +20,7 @@
 #include "tweak/preferences/poll.h"
 #include "tweak/search/hits.h"
 #include "tweak/search/search.h"
+#include "tweak/search/title_reader.h"
 #include "tweak/share/share.h"
 #include "tweak/system/changes_prefs.h"
 #include "tweak/system/device.h"
@@ -126,6 +127,7 @@ void make_classes() {
   make_average_color_addition();
   make_song_list_source();
   make_hits();
+  make_title_reader();
   make_album_table_source();
   make_scroller();
   make_gesture_listener();

@@ -26,42 +26,38 @@ class GrownArray {
   const T& operator[](std::size_t index) const { return values_[index]; }
 
   void add(T value) {
-    if (count_ == room_ && !make_room(count_ + 1)) return;
+    reserve(count_ + 1);
+    if (count_ == room_) return;
     values_[count_++] = value;
   }
   /// Sets the count. New values are uninitialised.
   void resize(std::size_t count) {
-    if (count <= room_ || make_room(count)) count_ = count;
+    reserve(count);
+    if (count <= room_) count_ = count;
+  }
+  /// Makes room for so many values.
+  void reserve(std::size_t count) {
+    if (count > room_) make_room(count);
   }
   /// Discards the values but keeps the allocated memory.
   void clear() {
     count_ = 0;
     failed_ = false;
   }
-  /// Frees the memory that is allocated beyond the values.
-  void shrink() {
-    if (count_ == 0 || count_ == room_) return;
-    if (void* less = __builtin_realloc(values_, count_ * sizeof(T))) {
-      values_ = static_cast<T*>(less);
-      room_ = count_;
-    }
-  }
 
  private:
   static constexpr std::size_t kFirstRoom = 64;
 
-  bool make_room(std::size_t wanted) {
+  void make_room(std::size_t wanted) {
     std::size_t room = room_ ? room_ : kFirstRoom;
     while (room < wanted)
       room *= 2;
-    void* more = __builtin_realloc(values_, room * sizeof(T));
-    if (!more) {
+    if (void* more = __builtin_realloc(values_, room * sizeof(T))) {
+      values_ = static_cast<T*>(more);
+      room_ = room;
+    } else {
       failed_ = true;
-      return false;
     }
-    values_ = static_cast<T*>(more);
-    room_ = room;
-    return true;
   }
 
   T* values_ = nullptr;

@@ -1,21 +1,12 @@
 #include "tweak/search/search.h"
 
-#include <new>
-
 #include "tweak/Sonavue2.h"
 #include "tweak/search/hits.h"
 #include "tweak/search/title_index.h"
+#include "tweak/search/title_reader.h"
 
 namespace sonavue {
 namespace {
-
-// Never destroyed: it lives as long as the process.
-TitleIndex& index() {
-  alignas(TitleIndex) static unsigned char place[sizeof(TitleIndex)];
-  static TitleIndex* made = nullptr;
-  if (!made) made = new (place) TitleIndex;
-  return *made;
-}
 
 void search_by_platform(NSString lower_case_text) {
   for (const auto song : songItems.of<MPMediaItem>()) {
@@ -26,9 +17,10 @@ void search_by_platform(NSString lower_case_text) {
 void search(NSString lower_case_text) {
   if (!result) return;
   Hits& hits = hits_of(result);
-  index().follow(songItems);
-  if (index().find(lower_case_text, hits.places())) {
-    hits.show(index().songs());
+  TitleIndex& index = title_index();
+  index.follow(songItems);
+  if (index.find(lower_case_text, hits.places())) {
+    hits.show(index.songs());
   } else {
     search_by_platform(lower_case_text);
   }
@@ -42,7 +34,7 @@ void list_all_songs() {
 }  // namespace
 
 void read_titles_again() {
-  index().forget();
+  title_index().forget();
 }
 
 void end_search_typing() {
@@ -60,13 +52,14 @@ void textDidChange(SpringBoard, UITextField field) {
   tableView.reloadData();
 }
 
-// The rows stay until the first letter is typed. By then the titles have already been read.
+// The rows stay until the first letter is typed. By then the titles have usually been read.
 void textFieldDidBeginEditing(SpringBoard, UITextField) {
   isSearching = YES;
-  index().follow(songItems);
+  if (TitleReader* reader = title_reader()) reader->start();
 }
 
 void textFieldDidEndEditing(SpringBoard, UITextField field) {
+  if (TitleReader* reader = title_reader()) reader->stop();
   if (field.text().length() == 0) list_all_songs();
 }
 

@@ -1,9 +1,9 @@
 #include "tweak/search/title_index.h"
 
+#include <new>
+
 #include "objc/autorelease_pool.h"
-#include "objc/ref.h"
 #include "tweak/search/needle.h"
-#include "tweak/search/short_needle.h"
 
 namespace sonavue {
 namespace {
@@ -13,9 +13,8 @@ constexpr unsigned char kBorder = 0;
 // Titles are read and lists are compared in batches of this size.
 constexpr NSUInteger kLot = 512;
 constexpr std::size_t kMostBytes = UINT32_MAX;
-// How far the needles may read beyond the last title.
-constexpr std::size_t kReadBehind =
-    Needle::kReadBehind > ShortNeedle::kReadBehind ? Needle::kReadBehind : ShortNeedle::kReadBehind;
+// In bytes.
+constexpr std::size_t kUsualTitle = 32;
 
 NSString title_of(MPMediaItem song) {
   return objc::cast<NSString>(song.valueForProperty(MPMediaItemPropertyTitle));
@@ -46,9 +45,9 @@ MPMediaItem TitleIndex::song(std::uint32_t place) const {
   return objc::cast<MPMediaItem>(songs_->objectAtIndex(place));
 }
 
-bool TitleIndex::has_songs(NSArray songs) const {
-  const NSUInteger count = songs.count();
-  if (!songs_ || songs_->count() != count) return false;
+bool TitleIndex::begins(NSArray songs) const {
+  const NSUInteger count = this->count();
+  if (songs.count() < count) return false;
   objc::Object ours[kLot];
   objc::Object theirs[kLot];
   for (NSUInteger first = 0; first < count; first += kLot) {
@@ -60,104 +59,98 @@ bool TitleIndex::has_songs(NSArray songs) const {
   return true;
 }
 
-void TitleIndex::follow(NSArray songs) {
-  if (has_songs(songs)) return;
-  songs_ = objc::Ref<NSArray>::adopt(songs.copy());
-  read_titles();
+bool TitleIndex::seems_to_begin(NSArray songs) const {
+  const NSUInteger count = this->count();
+  return count == 0 || (songs.count() >= count &&
+                        songs.objectAtIndex(count - 1) == songs_->objectAtIndex(count - 1));
 }
 
+bool TitleIndex::read_some(NSArray songs, NSUInteger most) {
+  if (!seems_to_begin(songs)) forget();
+  if (count() == 0) {
+    // Arrays that grow copy what they hold, and a finger would wait for that.
+    songs_.reset(NSMutableArray::arrayWithCapacity(songs.count()));
+    ends_.reserve(songs.count());
+    bytes_.reserve(songs.count() * kUsualTitle);
+  }
+  objc::Object lot[kLot];
+  for (NSUInteger read = 0; read < most;) {
+    const NSUInteger left = songs.count() - count();
+    const NSUInteger wanted = most - read < kLot ? most - read : kLot;
+    const NSRange range{count(), left < wanted ? left : wanted};
+    if (range.length == 0) break;
+    const objc::AutoreleasePool pool;
+    songs.getObjects(lot, range);
+    for (NSUInteger i = 0; i < range.length; ++i)
+      read_title(objc::cast<MPMediaItem>(lot[i]));
+    read += range.length;
+  }
+  return count() == songs.count();
+}
+
+void TitleIndex::follow(NSArray songs) {
+  if (!begins(songs)) forget();
+  read_some(songs, songs.count());
+}
+
+// The hits of an earlier search may retain the list, so it is replaced rather than emptied.
 void TitleIndex::forget() {
   songs_.reset();
-}
-
-void TitleIndex::read_titles() {
   bytes_.clear();
-  starts_.clear();
+  ends_.clear();
   not_plain_.clear();
-  const NSUInteger count = songs_->count();
-  for (NSUInteger first = 0; first < count; first += kLot) {
-    const objc::AutoreleasePool pool;
-    for (NSUInteger place = first; place < count && place < first + kLot; ++place)
-      add_title(static_cast<std::uint32_t>(place),
-                title_of(song(static_cast<std::uint32_t>(place))));
-  }
-  starts_.add(static_cast<std::uint32_t>(bytes_.count()));
-  for (std::size_t behind = 0; behind < kReadBehind; ++behind)
-    bytes_.add(kBorder);
-  bytes_.shrink();
-  starts_.shrink();
-  is_usable_ = !bytes_.has_failed() && !starts_.has_failed() && !not_plain_.has_failed() &&
-               count < UINT32_MAX && bytes_.count() < kMostBytes;
 }
 
-void TitleIndex::add_title(std::uint32_t place, NSString title) {
-  starts_.add(static_cast<std::uint32_t>(bytes_.count()));
-  if (title.length() != 0 && !writer_.add_lowercase(title, bytes_)) not_plain_.add(place);
+void TitleIndex::read_title(MPMediaItem song) {
+  const NSString title = title_of(song);
+  if (title.length() != 0 && !writer_.add_lowercase(title, bytes_))
+    not_plain_.add(static_cast<std::uint32_t>(count()));
   bytes_.add(kBorder);
+  ends_.add(static_cast<std::uint32_t>(bytes_.count()));
+  songs_->addObject(song);
+}
+
+// The needle may read beyond the last title.
+bool TitleIndex::make_usable() {
+  bytes_.reserve(bytes_.count() + Needle::kReadBehind);
+  return !bytes_.has_failed() && !ends_.has_failed() && !not_plain_.has_failed() &&
+         count() < UINT32_MAX && bytes_.count() < kMostBytes;
 }
 
 bool TitleIndex::find(NSString lower_case_text, Places& found) {
   found.clear();
   wanted_.clear();
-  const bool is_plain = is_usable_ && writer_.add_lowercase(lower_case_text, wanted_);
+  const bool is_plain = make_usable() && writer_.add_lowercase(lower_case_text, wanted_);
   if (!is_plain || wanted_.count() == 0) return false;
-  if (wanted_.count() <= ShortNeedle::kLongest) {
-    find_short(found);
-  } else {
-    find_long(found);
-  }
+  find_plain(found);
   return add_other_titles(lower_case_text, found) && !found.has_failed();
 }
 
-// The last title that starts at or before `offset`; it is `from` or a later one. Frequent hits are
-// close together, so the search starts with small steps.
+// The first title, at `from` or later, that ends behind `offset`. Frequent hits are close together,
+// so the search starts with small steps.
 std::uint32_t TitleIndex::place_at(std::size_t offset, std::uint32_t from) const {
-  const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
+  const auto count = static_cast<std::uint32_t>(ends_.count());
   std::uint32_t step = 1;
-  while (step < count - from && starts_[from + step] <= offset) {
+  while (step <= count - from && ends_[from + step - 1] <= offset) {
     from += step;
     step *= 2;
   }
   for (; step > 0; step /= 2) {
-    if (step < count - from && starts_[from + step] <= offset) from += step;
+    if (step <= count - from && ends_[from + step - 1] <= offset) from += step;
   }
   return from;
 }
 
-void TitleIndex::find_long(Places& found) const {
+void TitleIndex::find_plain(Places& found) const {
   const Needle needle(wanted_.begin(), wanted_.count());
   const auto* const begin = bytes_.begin();
-  const auto* const end = begin + starts_[starts_.count() - 1];
+  const auto* const end = begin + bytes_.count();
   std::uint32_t place = 0;
   for (const auto* from = begin; (from = needle.find_in(from, end));) {
     place = place_at(static_cast<std::size_t>(from - begin), place);
     found.add(place);
-    from = begin + starts_[place + 1];
+    from = begin + ends_[place];
   }
-}
-
-// Writes the place of every title to the next slot, but advances the slot only for hits.
-void TitleIndex::find_short(Places& found) const {
-  const ShortNeedle needle(wanted_.begin(), wanted_.count());
-  const auto count = static_cast<std::uint32_t>(starts_.count() - 1);
-  found.resize(count);
-  if (found.has_failed()) return;
-  std::uint32_t* kept = found.begin();
-  std::uint32_t place = 0;
-  bool is_held = false;
-  for (const auto* block = bytes_.begin(); place < count; block += ShortNeedle::kPlaces) {
-    std::uint64_t hits = needle.places_in(block);
-    std::uint64_t borders = ShortNeedle::places_of(kBorder, block);
-    for (; borders && place < count; borders &= borders - 1) {
-      const std::uint64_t title = borders ^ (borders - 1);  // All bits up to the border.
-      *kept = place++;
-      kept += is_held | ((hits & title) != 0);
-      hits &= ~title;
-      is_held = false;
-    }
-    is_held |= hits != 0;
-  }
-  found.resize(static_cast<std::size_t>(kept - found.begin()));
 }
 
 // Searches the titles that are not plain with the platform's search, and merges the hits into
@@ -170,6 +163,14 @@ bool TitleIndex::add_other_titles(NSString text, Places& found) const {
   }
   merge(others, found);
   return !others.has_failed();
+}
+
+// Never destroyed: it lives as long as the process.
+TitleIndex& title_index() {
+  alignas(TitleIndex) static unsigned char place[sizeof(TitleIndex)];
+  static TitleIndex* made = nullptr;
+  if (!made) made = new (place) TitleIndex;
+  return *made;
 }
 
 }  // namespace sonavue

@@ -22,14 +22,18 @@ bool title_contains(MPMediaItem song, NSString lower_case_text);
 /// `title_contains` finds, and uses that function for titles that are not plain.
 class TitleIndex {
  public:
-  /// Builds the index of these songs unless it already exists. Compares the songs one by one, since
-  /// any code may have changed the list.
+  /// Reads up to `most` titles that have not been read yet. Returns true when all have been. Does
+  /// not notice every change of the list; `follow` does.
+  bool read_some(NSArray songs, NSUInteger most);
+
+  /// Reads all titles that have not been read yet. Compares the songs one by one, since any code
+  /// may have changed the list.
   void follow(NSArray songs);
 
   /// Discards the index. Needed when the songs may be the same but their titles have changed.
   void forget();
 
-  /// The songs of the index, as an immutable list. Borrowed.
+  /// The songs of the index. Borrowed; the list may grow, but never changes otherwise.
   NSArray songs() const { return songs_.get(); }
 
   /// Writes the places of the matching songs to `found`. Returns false if the text is not plain or
@@ -37,22 +41,25 @@ class TitleIndex {
   bool find(NSString lower_case_text, Places& found);
 
  private:
-  bool has_songs(NSArray songs) const;
-  void read_titles();
-  void add_title(std::uint32_t place, NSString title);
-  void find_long(Places& found) const;
-  void find_short(Places& found) const;
+  NSUInteger count() const { return songs_->count(); }
+  bool begins(NSArray songs) const;
+  bool seems_to_begin(NSArray songs) const;
+  void read_title(MPMediaItem song);
+  bool make_usable();
+  void find_plain(Places& found) const;
   bool add_other_titles(NSString text, Places& found) const;
   std::uint32_t place_at(std::size_t offset, std::uint32_t from) const;
   MPMediaItem song(std::uint32_t place) const;
 
-  objc::Ref<NSArray> songs_;
+  objc::Ref<NSMutableArray> songs_;
   PlainTextWriter writer_;
   Bytes bytes_;
   Bytes wanted_;
-  GrownArray<std::uint32_t> starts_;  // Offsets into `bytes_`, plus one for the end.
+  GrownArray<std::uint32_t> ends_;  // Offsets into `bytes_`.
   Places not_plain_;
-  bool is_usable_ = false;
 };
+
+/// The index of the songs that the panel lists.
+TitleIndex& title_index();
 
 }  // namespace sonavue

@@ -14,12 +14,11 @@ std::vector<std::string> many_titles(int count) {
 }
 
 TEST_F(TitleSearch, FindsTheSameWheneverMemoryRunsOut) {
-  // A single letter, and a text that takes the other search path. The second list is longer,
-  // because the arrays keep the memory that they have.
+  // The second list is longer, because the arrays keep the memory that they have.
   const struct {
     const char* typed;
     int count;
-  } searches[] = {{"a", 300}, {"a12", 1500}};
+  } searches[] = {{"a", 300}, {"a12", 5000}};
   for (const auto& [typed, count] : searches) {
     list_titles(many_titles(count));
     const auto expected = found_one_by_one(typed);
@@ -40,7 +39,7 @@ TEST_F(TitleSearch, FindsTheSameWheneverMemoryRunsOut) {
         ASSERT_EQ(titles("result"), expected) << typed << ", " << granted << ", " << attempt;
       }
     }
-    EXPECT_GT(failures, 10) << "the search requested no memory";
+    EXPECT_GT(failures, 5) << "the search requested no memory";
   }
 }
 
