@@ -1,6 +1,8 @@
 #include "tweak/Sonavue2.h"
 
 #include "objc/autorelease_pool.h"
+#include "objc/exported_global.h"
+#include "objc/hook.h"
 #include "platform/UIKit/UIScreen.h"
 #include "tweak/banner/banner.h"
 #include "tweak/banner/gesture_listener.h"
@@ -32,9 +34,6 @@
 // Everything that the extension changes in the home screen, and its entry point: the constructor
 // that runs when this library is loaded.
 
-extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
-                                objc::Imp* original);
-
 namespace sonavue {
 
 #define SONAVUE_DEFINE(Type, name, ...) constinit Type name = __VA_ARGS__;
@@ -42,12 +41,6 @@ SONAVUE_GLOBALS(SONAVUE_DEFINE)
 #undef SONAVUE_DEFINE
 
 namespace {
-
-struct ExportedGlobal {
-  const char* name;
-  const char* encoding;
-  void* address;
-};
 
 void add_methods() {
   // The names are those of the first version. They must not change: other extensions may call
@@ -89,36 +82,27 @@ void add_methods() {
     class_addMethod(spring_board, sel_registerName(method.selector), method.body, method.types);
 }
 
-// Installs them in this order. The replaced body is kept in `original_of<&function>`.
+// In this order.
 void replace_methods() {
-  const ReplacedMethod methods[] = {
-      replaces<"SpringBoard", "applicationDidFinishLaunching:", &launched>(),
-      replaces<"SBIconView", "touchesBegan:withEvent:", &touches_began_on_icon>(),
-      replaces<"SBUIController", "clickedMenuButton", &home_button_clicked>(),
-      replaces<"SBUIController", "handleMenuDoubleTap", &home_button_clicked_twice>(),
-      replaces<"SBBannerController", "_presentBannerForContext:reason:", &banner_presented>(),
-      replaces<"SBLockScreenViewController", "_handleDisplayTurnedOff", &display_turned_off>(),
-      replaces<"SBLockScreenViewController", "prepareForUIUnlock", &unlock_prepared>(),
-      replaces<"SBNotificationCenterViewController", "hostWillPresent",
-               &notification_center_shown>(),
-      replaces<"SBControlCenterContainerView", "controlCenterWillPresent", &control_center_shown>(),
-      replaces_class_method<"SBReachabilityManager", "reachabilitySupported",
-                            &reachability_is_supported>(),
-      replaces<"SBReachabilityManager", "_handleReachabilityDeactivated",
-               &reachability_deactivated>(),
-      replaces<"SBReachabilityManager", "_handleReachabilityActivated", &reachability_activated>(),
-      replaces<"SBReachabilityManager", "_handleSignificantTimeChanged", &time_changed>(),
-      replaces<"SBReachabilityManager", "_keepAliveTimerFired:", &kept_alive>(),
-      replaces<"SBMediaController", "_systemVolumeChanged:", &volume_changed>(),
-      replaces<"UIWindow", "_shouldCreateContextAsSecure", &window_is_secure>(),
-      replaces<"MPMusicPlayerController", "_playbackStateDidChange:", &playback_state_changed>(),
-  };
-  for (const ReplacedMethod& method : methods) {
-    objc::Class cls = objc_getClass(method.cls);
-    if (cls && method.is_class_method) cls = objc::class_of(reinterpret_cast<objc::Id>(cls));
-    method.original->selector = method.selector;
-    MSHookMessageEx(cls, method.selector, method.ours, &method.original->body);
-  }
+  objc::hook<"SpringBoard", "applicationDidFinishLaunching:", &launched>();
+  objc::hook<"SBIconView", "touchesBegan:withEvent:", &touches_began_on_icon>();
+  objc::hook<"SBUIController", "clickedMenuButton", &home_button_clicked>();
+  objc::hook<"SBUIController", "handleMenuDoubleTap", &home_button_clicked_twice>();
+  objc::hook<"SBBannerController", "_presentBannerForContext:reason:", &banner_presented>();
+  objc::hook<"SBLockScreenViewController", "_handleDisplayTurnedOff", &display_turned_off>();
+  objc::hook<"SBLockScreenViewController", "prepareForUIUnlock", &unlock_prepared>();
+  objc::hook<"SBNotificationCenterViewController", "hostWillPresent", &notification_center_shown>();
+  objc::hook<"SBControlCenterContainerView", "controlCenterWillPresent", &control_center_shown>();
+  objc::hook_class_method<"SBReachabilityManager", "reachabilitySupported",
+                          &reachability_is_supported>();
+  objc::hook<"SBReachabilityManager", "_handleReachabilityDeactivated",
+             &reachability_deactivated>();
+  objc::hook<"SBReachabilityManager", "_handleReachabilityActivated", &reachability_activated>();
+  objc::hook<"SBReachabilityManager", "_handleSignificantTimeChanged", &time_changed>();
+  objc::hook<"SBReachabilityManager", "_keepAliveTimerFired:", &kept_alive>();
+  objc::hook<"SBMediaController", "_systemVolumeChanged:", &volume_changed>();
+  objc::hook<"UIWindow", "_shouldCreateContextAsSecure", &window_is_secure>();
+  objc::hook<"MPMusicPlayerController", "_playbackStateDidChange:", &playback_state_changed>();
 }
 
 void make_classes() {
@@ -154,9 +138,9 @@ void fill_globals() {
 
 // Read by the host's console. Nothing reads it on a phone.
 extern "C" __attribute__((visibility("default"), used))
-const sonavue::ExportedGlobal exported_globals[] = {
+const objc::ExportedGlobal exported_globals[] = {
 #define SONAVUE_EXPORT(Type, name, initial) \
   {#name, objc::Encode<Type>::text.c_str(), &sonavue::name},
     SONAVUE_GLOBALS(SONAVUE_EXPORT)
 #undef SONAVUE_EXPORT
-        {nullptr, nullptr, nullptr}};
+        {}};

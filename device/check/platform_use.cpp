@@ -21,7 +21,7 @@ class Reader {
     use_.classes = texts_of("__ZN4objc12cached_class");
     use_.classes.merge(texts_of("__ZN4objc9own_class"));
     use_.selectors = texts_of("__ZN4objc15cached_selector");
-    for (const char* cache : {"__ZN4objc14cached_message", "__ZN7sonavue16replaced_message"})
+    for (const char* cache : {"__ZN4objc14cached_message", "__ZN4objc16replaced_message"})
       for (const std::string& text : texts_of(cache))
         use_.messages.insert(message_in(text));
     use_.asked = texts_of("__ZN4objc13asked_message");

@@ -104,7 +104,7 @@ broken "does not load the library" patch "$bundle/SonavueSettings" Sonavue2.dyli
 broken "library: is not a dynamic library" cp "$bundle/SonavueSettings" "$library"
 broken "settings bundle: is not a bundle" cp "$library" "$bundle/SonavueSettings"
 for cache in 4objc15cached_selector 4objc14cached_message 4objc12cached_class 4objc9own_class \
-  4objc13asked_message 7sonavue16replaced_message; do
+  4objc13asked_message 4objc16replaced_message; do
   broken "has no symbol __ZN$cache" patch "$library" $cache "${cache%?}X"
 done
 broken "library: sends no messages" patch "$library" _objc_msgSend _objc_msgSenD

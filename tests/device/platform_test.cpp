@@ -178,7 +178,7 @@ TEST_F(PlatformRules, ALibraryWithoutSymbolsIsNotProven) {
   EXPECT_THAT(platform_use(Image(library_bytes())).silent,
               ElementsAre("__ZN4objc12cached_class", "__ZN4objc9own_class",
                           "__ZN4objc15cached_selector", "__ZN4objc14cached_message",
-                          "__ZN7sonavue16replaced_message", "__ZN4objc13asked_message"));
+                          "__ZN4objc16replaced_message", "__ZN4objc13asked_message"));
   use_.silent = {"__ZN4objc12cached_class"};
   EXPECT_THAT(findings(), ElementsAre("library: has no symbol __ZN4objc12cached_class…"));
 }

@@ -5,12 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "objc/class_builder.h"
+#include "objc/hook.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/Foundation/NSValue.h"
-
-extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
-                                objc::Imp* original);
 
 namespace {
 

@@ -8,11 +8,9 @@
 #include <string_view>
 #include <thread>
 
+#include "objc/hook.h"
 #include "objc/send.h"
 #include "platform/Dispatch/dispatch_queue.h"
-
-extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
-                                objc::Imp* original);
 
 namespace {
 

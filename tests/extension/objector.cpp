@@ -2,12 +2,9 @@
 // replacements, raise an exception on request. It also calls that method and catches the exception
 // above their replacements.
 
-#include "objc/class_builder.h"
+#include "objc/hook.h"
 #include "platform/Foundation/NSString.h"
 #include "platform/SpringBoard/SBReachabilityManager.h"
-
-extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
-                                objc::Imp* original);
 
 namespace {
 

@@ -1,11 +1,9 @@
 // Another extension, unlike ours: it replaces a method of Foundation's strings and has no state
 // except the previous implementation.
 
+#include "objc/hook.h"
 #include "objc/send.h"
 #include "platform/Foundation/NSString.h"
-
-extern "C" void MSHookMessageEx(objc::Class cls, objc::Sel selector, objc::Imp replacement,
-                                objc::Imp* original);
 
 namespace {
 

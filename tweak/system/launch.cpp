@@ -1,5 +1,6 @@
 #include "tweak/system/launch.h"
 
+#include "objc/hook.h"
 #include "platform/Foundation/NSTimer.h"
 #include "tweak/Sonavue2.h"
 #include "tweak/appearance/color.h"
@@ -7,7 +8,6 @@
 #include "tweak/panel/panel.h"
 #include "tweak/preferences/preferences.h"
 #include "tweak/system/device.h"
-#include "tweak/system/methods.h"
 
 namespace sonavue {
 namespace {
@@ -24,7 +24,7 @@ void start_timer(double interval, objc::Sel action) {
 }  // namespace
 
 void launched(SpringBoard self, objc::Object application) {
-  original<&launched>(self, application);
+  objc::original<&launched>(self, application);
   nowPlayingController = MPUNowPlayingController::alloc().init();
   register_gesture_listener();
   Spring = self;

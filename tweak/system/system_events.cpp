@@ -1,5 +1,6 @@
 #include "tweak/system/system_events.h"
 
+#include "objc/hook.h"
 #include "platform/Foundation/NSSet.h"
 #include "platform/SpringBoard/SBControlCenterController.h"
 #include "platform/UIKit/UITouch.h"
@@ -7,7 +8,6 @@
 #include "tweak/motion/icon_home.h"
 #include "tweak/motion/movement.h"
 #include "tweak/preferences/preferences.h"
-#include "tweak/system/methods.h"
 
 namespace sonavue {
 namespace {
@@ -35,7 +35,7 @@ void dismiss_control_center() {
 // is in its slot: during closing it can be touched elsewhere.
 
 void touches_began_on_icon(SBIconView self, NSSet touches, UIEvent event) {
-  original<&touches_began_on_icon>(self, touches, event);
+  objc::original<&touches_began_on_icon>(self, touches, event);
   const auto touch = objc::cast<UITouch>(event.allTouches().anyObject());
   const UIView touched = touch.view();
   if (touched && touched == musicIcon && !icon_is_away()) save_icon_home();
@@ -44,43 +44,43 @@ void touches_began_on_icon(SBIconView self, NSSet touches, UIEvent event) {
 // While the panel is shown, the Home button only closes it.
 
 BOOL home_button_clicked(objc::Object self) {
-  if (!panel_is_up()) return original<&home_button_clicked>(self);
+  if (!panel_is_up()) return objc::original<&home_button_clicked>(self);
   close_panel();
   return YES;
 }
 
 BOOL home_button_clicked_twice(objc::Object self) {
-  if (!panel_is_up()) return original<&home_button_clicked_twice>(self);
+  if (!panel_is_up()) return objc::original<&home_button_clicked_twice>(self);
   close_panel();
   return YES;
 }
 
 void banner_presented(objc::Object self, objc::Object context, NSInteger reason) {
   close_panel_if_up();
-  original<&banner_presented>(self, context, reason);
+  objc::original<&banner_presented>(self, context, reason);
 }
 
 // The next four call the system's method first.
 
 void display_turned_off(objc::Object self) {
-  original<&display_turned_off>(self);
+  objc::original<&display_turned_off>(self);
   close_panel_if_up();
 }
 
 void unlock_prepared(objc::Object self) {
-  original<&unlock_prepared>(self);
+  objc::original<&unlock_prepared>(self);
   close_panel_if_up();
 }
 
 void notification_center_shown(objc::Object self) {
-  original<&notification_center_shown>(self);
+  objc::original<&notification_center_shown>(self);
   close_panel_if_up();
 }
 
 // The control centre cannot open over the full panel. It also closes a banner that is fully down,
 // and is itself dismissed. While a banner moves, both are left alone.
 void control_center_shown(objc::Object self) {
-  original<&control_center_shown>(self);
+  objc::original<&control_center_shown>(self);
   if (isShow) dismiss_control_center();
   if (isBanner && window.frame().origin.y == 0) {
     objc::send<>(Spring, "dismissBanner"_sel);
@@ -92,26 +92,26 @@ void control_center_shown(objc::Object self) {
 // shown.
 
 BOOL reachability_is_supported(objc::Object self) {
-  return original<&reachability_is_supported>(self);
+  return objc::original<&reachability_is_supported>(self);
 }
 
 void reachability_deactivated(objc::Object self) {
-  original<&reachability_deactivated>(self);
+  objc::original<&reachability_deactivated>(self);
   close_panel();
 }
 
 void reachability_activated(objc::Object self) {
-  original<&reachability_activated>(self);
+  objc::original<&reachability_activated>(self);
   close_panel();
 }
 
 void time_changed(objc::Object self) {
-  original<&time_changed>(self);
+  objc::original<&time_changed>(self);
   close_panel();
 }
 
 void kept_alive(objc::Object self, objc::Object timer) {
-  original<&kept_alive>(self, timer);
+  objc::original<&kept_alive>(self, timer);
   close_panel();
 }
 
@@ -130,7 +130,7 @@ BOOL window_is_secure(UIWindow) {
 }
 
 void playback_state_changed(MPMusicPlayerController self, NSInteger state) {
-  original<&playback_state_changed>(self, state);
+  objc::original<&playback_state_changed>(self, state);
   playbackState = static_cast<int>(state);
 }
 
