@@ -1,7 +1,6 @@
-/* A label over the home screen, a hook, a gesture listener and a page in Settings. */
+/* A label over the home screen, a hook, a gesture listener, and what a switch in Settings does. */
 
 #import <CoreFoundation/CoreFoundation.h>
-#import <Preferences/Preferences.h>
 #import <SpringBoard/SpringBoard.h>
 #import <UIKit/UIKit.h>
 #import <libactivator/libactivator.h>
@@ -38,29 +37,6 @@ static HelloLabel *label;
 }
 @end
 
-/* The page in Settings: a switch, whose value is kept in a file of preferences. */
-@interface HelloPage : PSListController
-@end
-
-@implementation HelloPage
-- (id)specifiers {
-  if ([super specifiers] == nil) {
-    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:@"Hide the label"
-                                                      target:self
-                                                         set:@selector(setPreferenceValue:specifier:)
-                                                         get:@selector(readPreferenceValue:)
-                                                      detail:Nil
-                                                        cell:[PSTableCell cellTypeFromString:@"PSSwitchCell"]
-                                                        edit:Nil];
-    [row setProperty:@"com.example.hello" forKey:@"defaults"];
-    [row setProperty:@"hidden" forKey:@"key"];
-    [row setProperty:@"com.example.hello/changed" forKey:@"PostNotification"];
-    [self setSpecifiers:[NSArray arrayWithObjects:[PSSpecifier emptyGroupSpecifier], row, nil]];
-  }
-  return [super specifiers];
-}
-@end
-
 /* Called at the start and whenever the switch in Settings changes. */
 static void showOrHide(CFNotificationCenterRef center, void *observer, NSString *name, const void *object, id info) {
   NSDictionary *settings =
@@ -89,7 +65,7 @@ static void launched(id self, SEL selector, id application) {
   showOrHide(NULL, NULL, nil, NULL, nil);
 }
 
-/* Runs when the library is loaded, into each process that its filter names. */
+/* Runs when the library is loaded. */
 @interface HelloStart : NSObject
 @end
 
