@@ -95,8 +95,9 @@ Result<Answer> tree(Session& session, LineReader& reader) {
     views = inspection::tree_of(view);
   }
   std::vector<std::string> lines;
-  for (const auto& [depth, view, text] : views)
-    lines.push_back(std::string(static_cast<std::size_t>(depth) * 2, ' ') + text);
+  for (const inspection::TreeLine& line : views)
+    lines.push_back(std::string(static_cast<std::size_t>(line.depth) * 2, ' ') +
+                    inspection::text_of(line));
   return list_of(lines);
 }
 

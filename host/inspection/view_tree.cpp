@@ -2,8 +2,10 @@
 
 #include <fmt/format.h>
 
+#include "host/uikit/geometry/screen_space.h"
 #include "host/uikit/geometry/window_list.h"
 #include "platform/UIKit/UIGestureRecognizer.h"
+#include "platform/UIKit/UILabel.h"
 
 namespace host::inspection {
 namespace {
@@ -23,38 +25,35 @@ std::string gestures_of(UIView view) {
   return names;
 }
 
-std::string text_of(UIView view) {
-  const CGRect frame = view.frame();
-  std::string text = fmt::format("{} {{{{{}, {}}}, {{{}, {}}}}}", class_name(view), frame.min_x(),
-                                 frame.min_y(), frame.size.width, frame.size.height);
-  if (view.isHidden()) text += " hidden";
-  // A layer keeps its opacity in single precision.
-  if (view.alpha() != 1) text += fmt::format(" alpha {}", static_cast<float>(view.alpha()));
-  const std::string gestures = gestures_of(view);
-  if (!gestures.empty()) text += fmt::format(" gestures ({})", gestures);
-  return text;
+// Asks no object: some answer nothing at all.
+bool is_kind_of(objc::Object object, objc::Class kind) {
+  if (!object) return false;
+  for (auto cls = objc::class_of(object.id()); cls; cls = class_getSuperclass(cls)) {
+    if (cls == kind) return true;
+  }
+  return false;
+}
+
+std::string label_text(UIView view) {
+  if (!is_kind_of(view, UILabel::cls())) return {};
+  const NSString text = objc::cast<UILabel>(view).text();
+  const char* const bytes = text ? text.UTF8String() : nullptr;
+  return bytes ? bytes : "";
 }
 
 void add(std::vector<TreeLine>& lines, UIView view, int depth) {
   if (lines.size() > kMostLines) return;
-  if (depth > kDeepest || lines.size() == kMostLines) {
-    lines.push_back({depth, view, "…"});
-    return;
-  }
-  lines.push_back({depth, view, text_of(view)});
+  const bool is_cut = depth > kDeepest || lines.size() == kMostLines;
+  lines.push_back({depth, view, is_cut});
+  if (is_cut) return;
   for (const objc::Object subview : view.subviews().of())
     add(lines, objc::cast<UIView>(subview), depth + 1);
 }
 
 }  // namespace
 
-// Asks no object: some answer nothing at all.
 UIView as_view(objc::Object object) {
-  if (!object) return {};
-  for (auto cls = objc::class_of(object.id()); cls; cls = class_getSuperclass(cls)) {
-    if (cls == UIView::cls()) return objc::cast<UIView>(object);
-  }
-  return {};
+  return is_kind_of(object, UIView::cls()) ? objc::cast<UIView>(object) : UIView();
 }
 
 std::vector<TreeLine> tree_of(UIView root) {
@@ -68,6 +67,30 @@ std::vector<TreeLine> tree_of_windows() {
   for (const UIWindow window : uikit::visible_windows())
     add(lines, window, 0);
   return lines;
+}
+
+ViewFacts facts_of(UIView view) {
+  return {.class_name = class_name(view),
+          .frame = view.frame(),
+          .on_screen = uikit::convert_rect(view, view.bounds(), {}),
+          .clips = view.clipsToBounds() == YES,
+          .is_hidden = view.isHidden() == YES,
+          .alpha = view.alpha(),
+          .gestures = gestures_of(view),
+          .text = label_text(view)};
+}
+
+std::string text_of(const TreeLine& line) {
+  if (line.is_cut) return "…";
+  const ViewFacts facts = facts_of(line.view);
+  std::string text =
+      fmt::format("{} {{{{{}, {}}}, {{{}, {}}}}}", facts.class_name, facts.frame.min_x(),
+                  facts.frame.min_y(), facts.frame.size.width, facts.frame.size.height);
+  if (facts.is_hidden) text += " hidden";
+  // A layer keeps its opacity in single precision.
+  if (facts.alpha != 1) text += fmt::format(" alpha {}", static_cast<float>(facts.alpha));
+  if (!facts.gestures.empty()) text += fmt::format(" gestures ({})", facts.gestures);
+  return text;
 }
 
 }  // namespace host::inspection

@@ -11,10 +11,20 @@ namespace host::inspection {
 struct TreeLine {
   int depth = 0;
   UIView view;
-  /// Its class, its frame, and what differs from a view that is plainly visible: `hidden`,
-  /// `alpha 0.5`, the classes of its gesture recognisers. The same view gives the same text in
-  /// every run.
-  std::string text;
+  /// The tree goes on from here, but is not listed.
+  bool is_cut = false;
+};
+
+/// What can be seen of a view.
+struct ViewFacts {
+  std::string class_name;
+  CGRect frame;
+  CGRect on_screen;  ///< The smallest upright rectangle around it.
+  bool clips = false;
+  bool is_hidden = false;
+  double alpha = 1;
+  std::string gestures;  ///< The classes of its gesture recognisers.
+  std::string text;      ///< Of a label.
 };
 
 /// Nil when the object is no view.
@@ -26,5 +36,12 @@ std::vector<TreeLine> tree_of(UIView root);
 
 /// The trees of all visible windows, back to front.
 std::vector<TreeLine> tree_of_windows();
+
+ViewFacts facts_of(UIView view);
+
+/// The view's class, its frame, and what differs from a view that is plainly visible: `hidden`,
+/// `alpha 0.5`, the classes of its gesture recognisers. The same view gives the same text in every
+/// run.
+std::string text_of(const TreeLine& line);
 
 }  // namespace host::inspection

@@ -3,12 +3,15 @@
 #include <gmock/gmock.h>
 
 #include "objc/class_builder.h"
+#include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UITapGestureRecognizer.h"
 #include "tests/host/uikit/support/uikit_test.h"
 
 namespace host::test {
 namespace {
 
+using inspection::facts_of;
+using inspection::text_of;
 using inspection::tree_of;
 using inspection::tree_of_windows;
 using inspection::TreeLine;
@@ -18,7 +21,7 @@ using testing::SizeIs;
 std::vector<std::string> written(const std::vector<TreeLine>& lines) {
   std::vector<std::string> texts;
   for (const TreeLine& line : lines)
-    texts.push_back(std::to_string(line.depth) + " " + line.text);
+    texts.push_back(std::to_string(line.depth) + " " + text_of(line));
   return texts;
 }
 
@@ -57,6 +60,22 @@ TEST_F(ViewTrees, TellWhatCannotBeSeenAndWhatTakesGestures) {
                           "(UITapGestureRecognizer, UITapGestureRecognizer)"));
 }
 
+TEST_F(ViewTrees, TellWhereAViewIsOnTheScreenAndWhatALabelSays) {
+  const UIView panel = add_view({10, 20, 100, 50});
+  panel.setBounds({0, 30, 100, 50});
+  panel.setClipsToBounds(YES);
+  const UILabel label = UILabel::alloc().initWithFrame({5, 40, 60, 10}).autorelease();
+  label.setText("Dear"_ns);
+  panel.addSubview(label);
+  EXPECT_TRUE(facts_of(panel).clips);
+  EXPECT_EQ(facts_of(panel).text, "");
+  const inspection::ViewFacts facts = facts_of(label);
+  EXPECT_EQ(facts.frame, CGRect(5, 40, 60, 10));
+  EXPECT_EQ(facts.on_screen, CGRect(15, 30, 60, 10));
+  EXPECT_FALSE(facts.clips);
+  EXPECT_EQ(facts.text, "Dear");
+}
+
 TEST_F(ViewTrees, OfTheWindowsLeaveOutHiddenOnes) {
   add_view({0, 0, 5, 5});
   EXPECT_THAT(written(tree_of_windows()),
@@ -76,7 +95,8 @@ TEST_F(ViewTrees, EndAlthoughAViewContainsItself) {
   const auto serpent = objc::send<UIView>(objc::send<UIView>(cls, "alloc"_sel), "init"_sel);
   const auto lines = tree_of(serpent);
   ASSERT_THAT(lines, SizeIs(10'001));
-  EXPECT_EQ(lines.back().text, "…");
+  EXPECT_TRUE(lines.back().is_cut);
+  EXPECT_EQ(text_of(lines.back()), "…");
   serpent.release();
 }
 
