@@ -13,6 +13,8 @@ const FROM_PAGE = {
   button: [8, "byte", "bool"],
   shake: [9],
   shown: [10, "unsigned"],
+  askViews: [11],
+  askDescription: [12, "unsigned"],
 };
 
 const TO_PAGE = [
@@ -23,7 +25,16 @@ const TO_PAGE = [
     format: "byte", bytes: "bytes" }],
   ["song", { title: "text", artist: "text", isPlaying: "bool" }],
   ["caret", { takesText: "bool", x: "double", y: "double", width: "double", height: "double" }],
+  ["views", { leftOut: "unsigned", count: "unsigned", rows: "bytes" }],
+  ["description", { view: "unsigned", text: "text" }],
 ];
+
+const VIEW_ROW = {
+  depth: "int", className: "text", text: "text",
+  frameX: "double", frameY: "double", frameWidth: "double", frameHeight: "double",
+  x: "double", y: "double", width: "double", height: "double",
+  clips: "bool", isHidden: "bool", alpha: "double", gestures: "text",
+};
 
 const SIZES = { byte: 1, bool: 1, int: 4, unsigned: 4, double: 8 };
 
@@ -62,15 +73,12 @@ export function encode(name, ...values) {
   return view.buffer;
 }
 
-export function decode(buffer) {
-  const view = new DataView(buffer);
-  const [name, types] = TO_PAGE[view.getUint16(0, true)];
-  const message = { name };
-  let at = 2;
+/** Reads fields by their types into the message; returns where the next begin. */
+function read(view, at, types, message) {
   for (const [field, type] of Object.entries(types)) {
     if (type === "text" || type === "bytes") {
       const size = view.getUint32(at, true);
-      const bytes = new Uint8Array(buffer, at + 4, size);
+      const bytes = new Uint8Array(view.buffer, view.byteOffset + at + 4, size);
       message[field] = type === "text" ? new TextDecoder().decode(bytes) : bytes;
       at += 4 + size;
       continue;
@@ -82,5 +90,20 @@ export function decode(buffer) {
     else message[field] = view.getUint8(at);
     at += SIZES[type];
   }
+  return at;
+}
+
+export function decode(buffer) {
+  const view = new DataView(buffer);
+  const [name, types] = TO_PAGE[view.getUint16(0, true)];
+  const message = { name };
+  read(view, 2, types, message);
   return message;
+}
+
+export function decodeRows({ rows, count }) {
+  const view = new DataView(rows.buffer, rows.byteOffset, rows.byteLength);
+  const made = Array.from({ length: count }, () => ({}));
+  made.reduce((at, row) => read(view, at, VIEW_ROW, row), 0);
+  return made;
 }

@@ -4,6 +4,8 @@
 #include <string>
 #include <variant>
 
+#include "platform/CoreGraphics/CGGeometry.h"
+
 // The messages between the phone and its page; `host/browser/page/wire.js` is the other end. Points
 // are those of the phone's body, from its top left, unless they say otherwise.
 namespace host::browser {
@@ -123,6 +125,21 @@ struct Shown {
   }
 };
 
+/// The page wants to know once which views are there.
+struct AskViews {
+  template <class Fields>
+  void list(Fields&) {}
+};
+
+/// And what one of them is made of, by its place in the last `Views`.
+struct AskDescription {
+  std::uint32_t view = 0;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(view);
+  }
+};
+
 /// The page may use the phone. Sizes are in points.
 struct Welcome {
   std::string secret;
@@ -190,9 +207,51 @@ struct Caret {
   }
 };
 
+/// One of the `Views`. Its frame is in points of the view around it, its place in those of the
+/// screen.
+struct ViewRow {
+  std::int32_t depth = 0;
+  std::string class_name;
+  std::string text;
+  CGRect frame;
+  CGRect place;
+  bool clips = false;
+  bool is_hidden = false;
+  double alpha = 1;
+  std::string gestures;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(depth, class_name, text);
+    for (CGRect* rect : {&frame, &place})
+      fields(rect->origin.x, rect->origin.y, rect->size.width, rect->size.height);
+    fields(clips, is_hidden, alpha, gestures);
+  }
+};
+
+/// The views of the screen, each followed by those within it, from back to front.
+struct Views {
+  std::uint32_t left_out = 0;  ///< At the end; there are too many.
+  std::uint32_t count = 0;
+  std::string rows;  ///< The fields of each `ViewRow`.
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(left_out, count, rows);
+  }
+};
+
+/// What a view is made of, in lines; empty when there is no such view.
+struct Description {
+  std::uint32_t view = 0;
+  std::string text;
+  template <class Fields>
+  void list(Fields& fields) {
+    fields(view, text);
+  }
+};
+
 // A message's kind is its index in these lists.
 using FromPage = std::variant<Present, Shape, PointerChange, OtherButton, Wheel, Typed, Composed,
-                              Key, ButtonHeld, Shake, Shown>;
-using ToPage = std::variant<Welcome, Refused, Part, Song, Caret>;
+                              Key, ButtonHeld, Shake, Shown, AskViews, AskDescription>;
+using ToPage = std::variant<Welcome, Refused, Part, Song, Caret, Views, Description>;
 
 }  // namespace host::browser

@@ -38,7 +38,11 @@ PhonePage::PhonePage(RunLoop& loop, int listener, std::unique_ptr<Access> access
       page_input_(body, input),
       body_picture_(picture_of(body)),
       files_(files_with(body_picture_)),
-      turns_(loop.add_turn_observer(kAfterDrawing, [this] { follow_caret(); })),
+      turns_(loop.add_turn_observer(kAfterDrawing,
+                                    [this] {
+                                      follow_caret();
+                                      tell_views();
+                                    })),
       server_(loop, listener, files_, [this](Descriptor connection, std::string early) {
         receive_visitor(std::move(connection), std::move(early));
       }) {}
@@ -110,6 +114,8 @@ void PhonePage::let_in(Place visitor, const std::string& secret) {
                screen.size.width, screen.size.height});
   send(song_);
   caret_.reset();
+  asks_views_ = false;
+  asked_description_.reset();
   screen_.connect();
 }
 
@@ -119,16 +125,7 @@ void PhonePage::hear_page(std::string_view bytes) {
     lose_page("sends an invalid message");
     return;
   }
-  std::visit(
-      [this](const auto& one) {
-        using One = std::decay_t<decltype(one)>;
-        if constexpr (std::is_same_v<One, Shape> || std::is_same_v<One, Shown>) {
-          screen_.take(one);
-        } else if constexpr (!std::is_same_v<One, Present>) {
-          if (is_awake_) page_input_.take(one);
-        }
-      },
-      *message);
+  std::visit([this](const auto& one) { hear(one); }, *message);
 }
 
 void PhonePage::lose_page(const std::string& reason) {
@@ -160,6 +157,15 @@ void PhonePage::follow_caret() {
   caret_ = caret;
   const CGRect place = caret.value_or(CGRect());
   send(Caret{caret.has_value(), place.min_x(), place.min_y(), place.size.width, place.size.height});
+}
+
+// At the end of a turn, when views have their places, and at most once in each: a page that asks
+// without end does not hold up the phone.
+void PhonePage::tell_views() {
+  if (!page_ || !views_) return;
+  if (std::exchange(asks_views_, false)) send(views_->views());
+  if (const auto view = std::exchange(asked_description_, std::nullopt))
+    send(Description{*view, views_->description(*view)});
 }
 
 }  // namespace host::browser

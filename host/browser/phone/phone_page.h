@@ -10,6 +10,7 @@
 #include "host/browser/phone/page_input.h"
 #include "host/browser/phone/page_screen.h"
 #include "host/browser/web/complaint.h"
+#include "host/browser/phone/view_source.h"
 #include "host/browser/web/page_socket.h"
 #include "host/browser/web/server.h"
 
@@ -35,6 +36,9 @@ class PhonePage {
   screen::Screen& screen() { return screen_; }
   /// Tells what plays; an empty title for nothing.
   void set_song(Song song);
+  /// What the page is answered when it asks for the views. It outlives this object, or is replaced
+  /// by null; until there is one, the page waits.
+  void set_views(ViewSource* views) { views_ = views; }
   /// Makes a new link, for a user who asks for the phone again.
   void offer_link();
   bool is_seen() const { return screen_.is_watched(); }
@@ -55,7 +59,17 @@ class PhonePage {
   void let_in(Place visitor, const std::string& secret);
   void hear_page(std::string_view bytes);
   void lose_page(const std::string& reason);
+  void hear(const AskViews&) { asks_views_ = true; }
+  void hear(const AskDescription& asked) { asked_description_ = asked.view; }
+  void hear(const Shape& shape) { screen_.take(shape); }
+  void hear(const Shown& shown) { screen_.take(shown); }
+  void hear(const Present&) {}
+  template <class Action>
+  void hear(const Action& action) {
+    if (is_awake_) page_input_.take(action);
+  }
   void follow_caret();
+  void tell_views();
   void send(const ToPage& message);
 
   RunLoop& loop_;
@@ -72,6 +86,9 @@ class PhonePage {
   std::unique_ptr<PageSocket> page_;
   Song song_;
   std::optional<CGRect> caret_;
+  ViewSource* views_ = nullptr;
+  bool asks_views_ = false;
+  std::optional<std::uint32_t> asked_description_;
   bool is_awake_ = true;
   RunLoop::Id return_timer_ = 0;
   RunLoop::Id turns_;

@@ -38,19 +38,21 @@ class TypeNames {
   }
 };
 
+template <class Fields>
+std::string types_of_fields(Fields message) {
+  TypeNames types;
+  message.list(types);
+  std::string line;
+  for (const std::string& name : types.names)
+    line += name + " ";
+  return line;
+}
+
 /// The types of all messages in the order of their kinds, with a line for each.
 template <class Messages, std::size_t... Kinds>
 std::vector<std::string> types_of(std::index_sequence<Kinds...>) {
   std::vector<std::string> lines;
-  const auto add = [&lines](auto message) {
-    TypeNames types;
-    message.list(types);
-    std::string line;
-    for (const std::string& name : types.names)
-      line += name + " ";
-    lines.push_back(line);
-  };
-  (add(std::variant_alternative_t<Kinds, Messages>()), ...);
+  (lines.push_back(types_of_fields(std::variant_alternative_t<Kinds, Messages>())), ...);
   return lines;
 }
 
@@ -98,6 +100,10 @@ TEST(Wire, ThePageReadsWhatThePhoneWrites) {
        matches(constant("TO_PAGE"), std::regex(R"(\["\w+", \{([^}]*)\}\])")))
     lines.push_back(words(fields, std::regex(": \"(\\w+)\"")));
   EXPECT_THAT(lines, ElementsAreArray(types_of<ToPage>()));
+}
+
+TEST(Wire, ThePageReadsTheRowsOfViews) {
+  EXPECT_EQ(words(constant("VIEW_ROW"), std::regex(": \"(\\w+)\"")), types_of_fields(ViewRow()));
 }
 
 }  // namespace
