@@ -15,6 +15,7 @@
 #include "host/home_screen/launch.h"
 #include "host/home_screen/lifeline.h"
 #include "host/home_screen/music.h"
+#include "host/home_screen/page_views.h"
 #include "host/home_screen/passing_time.h"
 #include "host/home_screen/process_options.h"
 #include "host/home_screen/window_input.h"
@@ -98,6 +99,7 @@ int run(const ProcessOptions& options) {
   lifeline.begin({[&display] { display->raise(); }, &launcher::play_handed_files});
   // Stepped time passes only between two questions, so it says nothing about the loop.
   if (!options.stepped) lifeline.answer_questions();
+  const launcher::PageViews page_views(display->page());
   auto desktop = options.desktop ? launcher::DesktopLink::begin(loop, *display) : nullptr;
   launcher::play_handed_files();
   loop.run();
