@@ -1,5 +1,6 @@
 // The phone's page: shows its pictures and sends what the user does.
 
+import { Views } from "./views.js";
 import { button, decode, encode, format, pointerPhase, reason } from "./wire.js";
 
 const phone = document.getElementById("phone");
@@ -66,6 +67,10 @@ function take(message) {
       return tellSong(message);
     case "caret":
       return followCaret(message);
+    case "views":
+      return views.takeViews(message);
+    case "description":
+      return views.takeDescription(message);
   }
 }
 
@@ -82,6 +87,7 @@ function begin(welcome) {
   phone.hidden = false;
   say("");
   place();
+  views.screen = welcome;
   setTimeout(() => note.classList.add("faded"), 8000);
 }
 
@@ -95,6 +101,12 @@ function tellSong({ title, artist, isPlaying }) {
 
 const BAR = 52;
 const SMALL = 500;
+const glass = document.getElementById("glass");
+const views = new Views({
+  ask: send,
+  resized: () => place(),
+  leave: () => keyboard.focus({ preventScroll: true }),
+});
 const STILL = 150;
 
 let layout = null;
@@ -107,7 +119,9 @@ function place() {
   const isBare = Math.min(innerWidth, innerHeight) < SMALL && matchMedia("(pointer: coarse)").matches;
   document.documentElement.classList.toggle("bare", isBare);
   const margin = isBare ? 0 : 12;
-  const room = { width: innerWidth - 2 * margin, height: innerHeight - 2 * margin - (isBare ? BAR : 0) };
+  const { right, bottom } = views.taken;
+  const page = { width: innerWidth - right, height: innerHeight - (bottom || (isBare ? BAR : 0)) };
+  const room = { width: page.width - 2 * margin, height: page.height - 2 * margin };
   const shown = isBare ? { width: layout.screenWidth, height: layout.screenHeight } : layout;
   const fitting = Math.min(room.width / shown.width, room.height / shown.height);
   // The screen has whole pixels of the display, so that none is between two of the picture.
@@ -119,19 +133,20 @@ function place() {
   const screenLeft = onPixel(layout.screenX * scale);
   const screenTop = onPixel(layout.screenY * scale);
   const left = isBare
-    ? (innerWidth - layout.screenWidth * scale) / 2 - screenLeft
-    : (innerWidth - layout.width * scale) / 2;
+    ? (page.width - layout.screenWidth * scale) / 2 - screenLeft
+    : (page.width - layout.width * scale) / 2;
   const top = isBare
-    ? (innerHeight - BAR - layout.screenHeight * scale) / 2 - screenTop
-    : (innerHeight - layout.height * scale) / 2;
+    ? (page.height - layout.screenHeight * scale) / 2 - screenTop
+    : (page.height - layout.height * scale) / 2;
   Object.assign(phone.style, {
     left: `${onPixel(left)}px`, top: `${onPixel(top)}px`,
     width: `${layout.width * scale}px`, height: `${layout.height * scale}px`,
   });
-  Object.assign(canvas.style, {
+  const screen = {
     left: `${screenLeft}px`, top: `${screenTop}px`, width: `${pixels / ratio}px`,
     height: `${Math.round(layout.screenHeight * pixelsPerPoint) / ratio}px`,
-  });
+  };
+  for (const one of [canvas, glass]) Object.assign(one.style, screen);
   tellShape();
 }
 
@@ -173,6 +188,7 @@ async function draw(picture, { picture: number, width, height }) {
     bitmaps[i].close();
   });
   send("shown", number);
+  views.pictureChanged();
 }
 
 // --- Mouse and fingers --------------------------------------------------------------------------
@@ -279,6 +295,12 @@ function goesOn(name, event) {
 }
 
 addEventListener("keydown", (event) => {
+  if (event.key === "F9") {
+    event.preventDefault();
+    if (!event.repeat) views.toggle();
+    return;
+  }
+  if (event.target.closest?.("#views")) return;
   // A finger does not give it the keyboard, which would cover the page.
   if (document.activeElement !== keyboard) keyboard.focus({ preventScroll: true });
   if (event.isComposing || event.altKey || event.metaKey) return;
