@@ -221,8 +221,11 @@ function countClicks({ timeStamp, clientX, clientY }) {
   return lastClick.count;
 }
 
+// Focus stays where it is. Firefox forgets a second finger of the same moment when the first one's
+// own event is prevented, so this is left to the mouse event that a finger makes.
+phone.addEventListener("mousedown", (event) => event.preventDefault());
+
 phone.addEventListener("pointerdown", (event) => {
-  event.preventDefault();
   if (event.pointerType !== "touch") keyboard.focus({ preventScroll: true });
   if (event.button === 2) return send("otherButton", ...pointOf(event));
   if (event.button !== 0) return;

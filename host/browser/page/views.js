@@ -56,7 +56,8 @@ export class Views {
   get taken() {
     if (!this.isOpen) return { right: 0, bottom: 0 };
     const { width, left, top } = panel.getBoundingClientRect();
-    return width < innerWidth ? { right: innerWidth - left, bottom: 0 } : { right: 0, bottom: innerHeight - top };
+    const isBeside = width < innerWidth;
+    return { right: isBeside ? innerWidth - left : 0, bottom: isBeside ? 0 : innerHeight - top };
   }
 
   toggle(opens = !this.isOpen) {

@@ -31,7 +31,6 @@ export class Outline {
       glass.append(one);
     }
     glass.addEventListener("pointerdown", (event) => {
-      event.preventDefault();
       event.stopPropagation();
       const row = event.button === 0 ? this.pickAt(this.pointOf(event)) : null;
       if (row) picked(row);
@@ -78,8 +77,9 @@ export class Outline {
   /** A further press at the same place goes to the view behind, in the end to the first again. */
   pickAt(point) {
     const rows = this.rowsAt(point);
-    const isSame = this.last && Math.hypot(point.x - this.last.point.x, point.y - this.last.point.y) < SAME_PLACE;
-    const before = isSame ? rows.findIndex(({ key }) => key === this.last.key) : -1;
+    const { last } = this;
+    const isSame = last && Math.hypot(point.x - last.point.x, point.y - last.point.y) < SAME_PLACE;
+    const before = isSame ? rows.findIndex(({ key }) => key === last.key) : -1;
     const row = rows[(before + 1) % rows.length];
     this.last = row && { point, key: row.key };
     return row;
@@ -99,11 +99,16 @@ export class Outline {
     if (!row) return;
     this.place(this.frame, row);
     this.label.textContent = `${row.className}  ${Math.round(row.width)} × ${Math.round(row.height)}`;
-    const isBelowTop = row.y >= this.size.height * 0.04;
-    this.label.classList.toggle("above", isBelowTop);
+    // Within the screen, and not over what it names.
+    const { width, height } = this.size;
     const inside = (value, most) => Math.min(Math.max(value, 0), most);
-    this.place(this.label, { x: inside(row.x, this.size.width), y: inside(row.y, this.size.height), width: 0, height: 0 });
-    this.label.style.width = this.label.style.height = "";
+    const isAtRight = row.x + row.width / 2 > width / 2 && row.x > width / 4;
+    this.label.classList.toggle("above", row.y >= height * 0.04);
+    this.label.classList.toggle("leftwards", isAtRight);
+    Object.assign(this.label.style, {
+      left: `${100 * inside(row.x + (isAtRight ? row.width : 0), width) / width}%`,
+      top: `${100 * inside(row.y, height) / height}%`,
+    });
   }
 
   point(row) {

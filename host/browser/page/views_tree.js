@@ -4,7 +4,8 @@ import { chip, element, shortGestures, written } from "./views_words.js";
 
 export class Tree {
   constructor(list, { selected, pointed }) {
-    Object.assign(this, { list, selected, pointed, rows: [], items: new Map(), closed: new Set(), key: null });
+    Object.assign(this, { list, selected, pointed, key: null });
+    Object.assign(this, { rows: [], items: new Map(), closed: new Set() });
     // Until there are rows to be reached, it has the keyboard itself.
     list.tabIndex = -1;
     list.addEventListener("click", (event) => this.clicked(event));
@@ -59,8 +60,8 @@ export class Tree {
 
   /** Hides the rows below those that are closed. */
   unfold() {
-    for (const { row, item } of this.items.values())
-      item.hidden = Boolean(row.parent) && (this.closed.has(row.parent.key) || this.items.get(row.parent.key).item.hidden);
+    for (const { row: { parent }, item } of this.items.values())
+      item.hidden = Boolean(parent) && (this.closed.has(parent.key) || this.items.get(parent.key).item.hidden);
   }
 
   /** Only one row can be reached by Tab. */
@@ -93,7 +94,7 @@ export class Tree {
     const edge = item.offsetHeight;
     const top = item.offsetTop - list.offsetTop;
     const least = top + 2 * edge - list.clientHeight;
-    if (list.scrollTop > top - edge || list.scrollTop < least) list.scrollTop = Math.min(Math.max(list.scrollTop, least), top - edge);
+    list.scrollTop = Math.min(Math.max(list.scrollTop, least), top - edge);
     list.scrollLeft = item.querySelector(".class").offsetLeft - item.offsetLeft - list.clientWidth / 3;
   }
 

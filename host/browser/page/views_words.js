@@ -21,5 +21,5 @@ export function written(x, y, width, height) {
 }
 
 export function shortGestures(classes) {
-  return classes.split(", ").map((name) => name.replace(/^UI/, "").replace(/GestureRecognizer/, "")).join(", ");
+  return classes.replace(/\bUI|GestureRecognizer/g, "");
 }
