@@ -3,12 +3,10 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <fstream>
 
+#include "bench/support/core_time.h"
 #include "host/foundation/device_paths.h"
 #include "host/foundation/loader.h"
 #include "host/home_screen/launch.h"
@@ -38,20 +36,7 @@ fs::path new_device() {
   return root;
 }
 
-double process_seconds() {
-  timespec time;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
 }  // namespace
-
-void require(bool is_so, std::string_view what) {
-  if (is_so) return;
-  std::fprintf(stderr, "this benchmark measured nothing: %.*s\n", static_cast<int>(what.size()),
-               what.data());
-  std::exit(EXIT_FAILURE);
-}
 
 BenchPhone::BenchPhone(Pace pace, std::string_view preferences, const Music& music)
     : root_(new_device()), loop_(pace == Pace::kReal ? static_cast<Clock&>(real_) : stepped_) {

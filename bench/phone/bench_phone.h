@@ -7,28 +7,39 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/support/require.h"
 #include "host/console/session.h"
 #include "host/home_screen/console_phone.h"
+#include "host/home_screen/window_input.h"
 #include "host/process/phone_screen.h"
 #include "host/quartzcore/service/layer_service.h"
 #include "objc/autorelease_pool.h"
 
 namespace bench {
 
-/// A screen whose last frame can be read.
+/// A screen whose last frame can be read, and which may pass its frames on.
 class WatchedScreen final : public host::screen::Screen {
  public:
   void show(const host::screen::Picture& picture,
-            std::span<const host::screen::PixelRect>) override {
+            std::span<const host::screen::PixelRect> damage) override {
     picture_ = picture;
     ++frames_;
+    if (next_) next_->show(picture, damage);
   }
+  bool is_watched() const override { return !next_ || next_->is_watched(); }
+  bool needs_everything() const override { return next_ && next_->needs_everything(); }
+  std::optional<double> pixels_per_point() const override {
+    return next_ ? next_->pixels_per_point() : std::nullopt;
+  }
+  /// Null ends it.
+  void pass_on_to(host::screen::Screen* next) { next_ = next; }
   const host::screen::Picture& picture() const { return picture_; }
   int frames() const { return frames_; }
 
  private:
   host::screen::Picture picture_;
   int frames_ = 0;
+  host::screen::Screen* next_ = nullptr;
 };
 
 /// The phone's model.
@@ -76,6 +87,9 @@ class BenchPhone {
   /// The root folder of the device's files.
   const std::filesystem::path& root() const { return root_; }
   const WatchedScreen& screen() const { return screen_; }
+  WatchedScreen& screen() { return screen_; }
+  /// What the user of another screen does.
+  host::screen::Input& input() { return input_; }
   const host::quartzcore::Compositor& compositor() const { return phone_screen_->compositor(); }
   /// A copy of the screen's pixels, row by row without gaps.
   std::vector<std::uint32_t> pixels() const;
@@ -94,13 +108,11 @@ class BenchPhone {
   std::unique_ptr<host::quartzcore::LayerService> layers_;
   host::launcher::Hands hands_{loop_, kScreen};
   host::launcher::RecordedHands recorded_hands_{hands_, loop_, host::recording::Fidelity::exact()};
+  host::launcher::WindowInput input_{recorded_hands_, [] {}};
   std::unique_ptr<host::process::PhoneScreen> phone_screen_;
   std::unique_ptr<host::launcher::ConsolePhone> console_phone_;
   host::console::Globals globals_;
   std::unique_ptr<host::console::Session> session_;
 };
-
-/// Ends the program with the reason when the benchmark did not measure what it should.
-void require(bool is_so, std::string_view what);
 
 }  // namespace bench
