@@ -17,6 +17,9 @@ struct ClockTimerHandle : objc::Bound<ClockTimerHandle, "__NSCFTimer", NSObject>
 // The platform's shortest interval, in seconds. A repeating timer with interval 0 would block the
 // loop.
 constexpr double kShortestInterval = 0.0001;
+// The share of its interval by which a repeating timer may be late. Its later ticks are none the
+// later for it.
+constexpr double kTolerance = 0.1;
 
 class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
  public:
@@ -36,8 +39,9 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
     if (scheduled_ || !valid_) return;
     // The loop retains the timer until it is invalidated; the timer retains its target.
     held_by_loop_.reset(self);
-    scheduled_ = RunLoop::main().add_timer(RunLoop::main().now() + interval_,
-                                           repeats_ ? interval_ : 0, [this] { fire(); });
+    const double repeat = repeats_ ? interval_ : 0;
+    scheduled_ = RunLoop::main().add_timer(
+        RunLoop::main().now() + interval_, repeat, [this] { fire(); }, repeat * kTolerance);
   }
 
   void fire() {

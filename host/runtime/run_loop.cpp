@@ -58,8 +58,8 @@ void RunLoop::perform(Work work) {
   work_.push_back(std::move(work));
 }
 
-RunLoop::Id RunLoop::add_timer(double due, double interval, Work work) {
-  timers_.push_back({++last_id_, due, interval, std::move(work)});
+RunLoop::Id RunLoop::add_timer(double due, double interval, Work work, double tolerance) {
+  timers_.push_back({++last_id_, due, interval, std::move(work), tolerance});
   return last_id_;
 }
 
@@ -109,6 +109,19 @@ double RunLoop::next_due() const {
   for (const Timer& timer : timers_)
     due = std::min(due, timer.due);
   return due;
+}
+
+double RunLoop::next_wake() const {
+  double latest = frame_observers_.empty() ? kNever : next_frame_;
+  for (const Timer& timer : timers_)
+    latest = std::min(latest, timer.due + timer.tolerance);
+  // Nothing is late without reason: the last of those that come until then decides.
+  double wake = next_due();
+  for (const Timer& timer : timers_) {
+    if (timer.due <= latest) wake = std::max(wake, timer.due);
+  }
+  if (!frame_observers_.empty() && next_frame_ <= latest) wake = std::max(wake, next_frame_);
+  return wake;
 }
 
 bool RunLoop::run_work() {
@@ -221,7 +234,7 @@ void RunLoop::advance_to(SteppedClock& clock, double time) {
 void RunLoop::run() {
   running_ = true;
   while (running_) {
-    const double wait = work_.empty() ? next_due() - now() : 0;
+    const double wait = work_.empty() ? next_wake() - now() : 0;
     const int timeout =
         wait == kNever ? -1 : static_cast<int>(std::ceil(std::max(wait, 0.0) * 1e3));
     turn(timeout);

@@ -34,8 +34,9 @@ class RunLoop {
   void perform(Work work);
 
   /// Runs `work` at `due` (clock seconds) and, with an `interval` above 0, repeatedly after it. The
-  /// next due time is relative to the last due time; ticks already past are skipped.
-  Id add_timer(double due, double interval, Work work);
+  /// next due time is relative to the last due time; ticks already past are skipped. A loop that
+  /// sleeps on the real clock may run it as much as `tolerance` seconds late, together with others.
+  Id add_timer(double due, double interval, Work work, double tolerance = 0);
   void remove_timer(Id timer);
 
   /// Runs `work` when the descriptor is readable (real clock: while waiting; stepped: each turn).
@@ -60,6 +61,8 @@ class RunLoop {
 
   /// The clock time of the next timer or frame; infinity when there is none.
   double next_due() const;
+  /// Until when a loop may sleep: one of those times, up to which the timers before it may be late.
+  double next_wake() const;
 
   /// Stepped clock: moves `clock` to `time` and runs everything due until then at its due time.
   void advance_to(SteppedClock& clock, double time);
@@ -76,6 +79,7 @@ class RunLoop {
     double due;
     double interval;
     Work work;
+    double tolerance;
   };
   struct Watch {
     Id id;

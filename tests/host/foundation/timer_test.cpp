@@ -46,6 +46,23 @@ struct TimerTest : host::test::HostTest {
   TickTarget target;
 };
 
+TEST_F(TimerTest, RepeatingTimersMayWaitForEachOther) {
+  const double start = clock.now();
+  const Timer first = Timer::scheduled(0.1, target, YES);
+  advance(0.009);
+  const Timer second = Timer::scheduled(0.1, target, YES);
+  EXPECT_NEAR(loop.next_wake(), start + 0.109, 1e-6);
+  second.invalidate();
+  const Timer once = Timer::scheduled(0.1, target, NO);
+  EXPECT_NEAR(loop.next_wake(), start + 0.109, 1e-6);
+  first.invalidate();
+  const Timer other = Timer::scheduled(0.105, target, YES);
+  EXPECT_NEAR(loop.next_wake(), start + 0.109, 1e-6) << "one that does not repeat is not late";
+  other.invalidate();
+  once.invalidate();
+  target.release();
+}
+
 TEST_F(TimerTest, RepeatsOnTheClockUntilInvalidated) {
   const Timer timer = Timer::scheduled(0.1, target, YES);
   target.release();

@@ -47,6 +47,37 @@ TEST_F(RunLoopTest, ARepeatingTimerKeepsItsGridAndSkipsMissedTicks) {
   EXPECT_EQ(ticks, 5);
 }
 
+TEST_F(RunLoopTest, TimersThatMayBeLateWakeASleepingLoopTogether) {
+  loop.add_timer(start + 0.1, 0.1, note("first"), 0.01);
+  EXPECT_DOUBLE_EQ(loop.next_wake(), start + 0.1);
+  loop.add_timer(start + 0.106, 0.1, note("second"), 0.01);
+  loop.add_timer(start + 0.109, 0, note("once"));
+  EXPECT_DOUBLE_EQ(loop.next_wake(), start + 0.109);
+  clock.move_to(loop.next_wake());
+  loop.run_ready();
+  EXPECT_EQ(log, (std::vector<std::string>{"first", "second", "once"}));
+  EXPECT_DOUBLE_EQ(loop.next_due(), start + 0.2) << "being late once delays no other tick";
+}
+
+TEST_F(RunLoopTest, NoTimerIsLaterThanItMayBe) {
+  loop.add_timer(start + 0.1, 0.1, note("late"), 0.01);
+  const auto punctual = loop.add_timer(start + 0.105, 0, note("punctual"));
+  loop.add_timer(start + 0.108, 0, note("after"));
+  EXPECT_DOUBLE_EQ(loop.next_wake(), start + 0.105);
+  loop.remove_timer(punctual);
+  EXPECT_DOUBLE_EQ(loop.next_wake(), start + 0.108);
+  loop.add_frame_observer([](double) {});
+  EXPECT_DOUBLE_EQ(loop.next_wake(), loop.next_due()) << "a frame is never late";
+}
+
+TEST_F(RunLoopTest, OnASteppedClockNoTimerIsLate) {
+  loop.add_timer(
+      start + 0.1, 0.1, [&] { EXPECT_DOUBLE_EQ(clock.now(), start + 0.1); }, 0.01);
+  loop.add_timer(start + 0.106, 0, note("once"));
+  advance(0.15);
+  EXPECT_EQ(log, std::vector<std::string>{"once"});
+}
+
 TEST_F(RunLoopTest, TenthsOfASecondAddUpToWholeSeconds) {
   int ticks = 0;
   loop.add_timer(start + 0.1, 0.1, [&] { ++ticks; });
