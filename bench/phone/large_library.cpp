@@ -54,9 +54,9 @@ std::vector<Bytes> make_covers(const fs::path& folder) {
   return covers;
 }
 
-void make_files(const fs::path& folder) {
+void make_files(const fs::path& folder, int albums) {
   const std::vector<Bytes> covers = make_covers(folder);
-  for (int album = 0; album < LargeLibrary::kAlbums; ++album) {
+  for (int album = 0; album < albums; ++album) {
     const fs::path place = folder / fmt::format("{:04}", album);
     fs::create_directory(place);
     const Bytes& cover = covers[static_cast<std::size_t>(album) % covers.size()];
@@ -84,11 +84,12 @@ media::SongRecord record_of(media::WalkedFile& file, const media::FolderPicture&
 
 }  // namespace
 
-LargeLibrary::LargeLibrary() : demo_(media_player::default_demo_folder()) {
+LargeLibrary::LargeLibrary(int albums)
+    : albums_(albums), demo_(media_player::default_demo_folder()) {
   std::string name = (fs::temp_directory_path() / "bench-music-XXXXXX").string();
   require(mkdtemp(name.data()) != nullptr, "a folder for the music");
   folder_ = name;
-  make_files(folder_);
+  make_files(folder_, albums_);
   if (fs::exists(demo_)) return;
   const auto failure = media::make_demo_library(demo_, launcher::find_installation().covers,
                                                 [](media::DemoProgress) {});
@@ -114,11 +115,12 @@ void LargeLibrary::remember(const fs::path& path) const {
                                    [](const std::string&, const std::string&) {},
                                    [](const std::string&, const std::string&) {}};
   media::walk_folders({roots.data(), 1}, visitor, {});
-  require(changes.songs.size() == kSongs && index.apply(changes), "the songs in the index");
+  const auto songs = static_cast<std::size_t>(this->songs());
+  require(changes.songs.size() == songs && index.apply(changes), "the songs in the index");
   // Only the demo music is read, as usual.
   const auto outcome = media::scan_folders(index, roots, [](const media::ScanProgress&) {});
-  require(outcome.progress.read < kSongs / 100, "the index knows the songs");
-  require(outcome.library->tracks().size() == kSongs + outcome.progress.read, "the whole library");
+  require(outcome.progress.read < songs, "the index knows the songs");
+  require(outcome.library->tracks().size() == songs + outcome.progress.read, "the whole library");
 }
 
 }  // namespace bench

@@ -1,11 +1,10 @@
-#include <unistd.h>
-
 #include <cmath>
 #include <cstdio>
 #include <ctime>
 
 #include "bench/phone/frame_series.h"
 #include "bench/phone/large_library.h"
+#include "bench/phone/panel_use.h"
 #include "platform/MediaPlayer/MPMediaQuery.h"
 #include "platform/SpringBoard/SpringBoard.h"
 #include "platform/UIKit/UIImageView.h"
@@ -18,7 +17,13 @@
 namespace {
 
 using bench::BenchPhone;
+using bench::fling;
+using bench::global;
 using bench::LargeLibrary;
+using bench::offset_of;
+using bench::open_page;
+using bench::play;
+using bench::playable_songs;
 using bench::require;
 using bench::Series;
 using bench::Stopwatch;
@@ -32,10 +37,6 @@ constexpr int kFlings = 5;
 constexpr int kZooms = 3;
 constexpr int kTrackChanges = 6;
 constexpr int kReloads = 9;
-constexpr CGPoint kMiddle{187, 380};
-constexpr double kFlingStep = 45;
-constexpr int kFlingFrames = 7;
-constexpr int kMostGlideFrames = 400;
 constexpr int kZoomFrames = 60;
 
 double wall_seconds() {
@@ -50,39 +51,6 @@ double seconds_of(Work work) {
   const double start = bench::core_seconds();
   work();
   return bench::core_seconds() - start;
-}
-
-template <class T>
-T global(BenchPhone& phone, const char* name) {
-  return objc::cast<T>(phone.global(name));
-}
-
-CGPoint offset_of(BenchPhone& phone, const char* name) {
-  return global<UIScrollView>(phone, name).contentOffset();
-}
-
-void open_page(BenchPhone& phone, int page) {
-  phone.run("print [container setContentOffset:{" + std::to_string(page * 375) + ", 0}]");
-  phone.run("advance 1");
-}
-
-/// Presses, drags and releases at full speed, and watches until the view is at rest.
-void fling(BenchPhone& phone, Stopwatch& watch, Series& series, const char* view) {
-  CGPoint finger = kMiddle;
-  watch.frame(series, [&] { phone.touch(TouchPhase::Began, finger); });
-  for (int i = 0; i < kFlingFrames; ++i) {
-    finger.y -= kFlingStep;
-    watch.frame(series, [&] { phone.touch(TouchPhase::Moved, finger); });
-  }
-  watch.frame(series, [&] { phone.touch(TouchPhase::Ended, finger); });
-  CGPoint before = offset_of(phone, view);
-  for (int i = 0; i < kMostGlideFrames; ++i) {
-    watch.frames(series, 1);
-    const CGPoint now = offset_of(phone, view);
-    if (now == before && i > 2) break;
-    before = now;
-  }
-  phone.settle();
 }
 
 void check_rows(BenchPhone& phone) {
@@ -186,35 +154,6 @@ int coloured_parts(BenchPhone& phone, UIColor border, UIColor text) {
     }
   }
   return count;
-}
-
-/// Returns two playable songs from different albums.
-std::vector<NSUInteger> playable_songs(BenchPhone& phone) {
-  std::vector<NSUInteger> found;
-  NSString last_album;
-  NSUInteger place = 0;
-  for (const auto item : global<NSArray>(phone, "songItems").of<MPMediaItem>()) {
-    const auto album = objc::cast<NSString>(item.valueForProperty(MPMediaItemPropertyAlbumTitle));
-    if (album && !album.hasPrefix("Album "_ns) && !album.isEqualToString(last_album)) {
-      last_album = album;
-      found.push_back(place);
-    }
-    ++place;
-  }
-  require(found.size() >= 2, "there are songs to play");
-  return found;
-}
-
-void play(BenchPhone& phone, NSUInteger place) {
-  phone.run("print [musicPlayer setQueueWithQuery:fullList]");
-  phone.run("print [musicPlayer setNowPlayingItem:[songItems objectAtIndex:" +
-            std::to_string(place) + "]]");
-  phone.run("print [musicPlayer play]");
-  for (int i = 0; i < 20; ++i) {
-    usleep(10'000);
-    phone.turn();
-  }
-  phone.run("expect [mc isPlaying] == YES");
 }
 
 void measure_track_change(BenchPhone& phone) {
