@@ -1,5 +1,6 @@
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <functional>
 #include <vector>
 
@@ -7,11 +8,12 @@
 #include "bench/screen/page.h"
 #include "bench/screen/vnc.h"
 #include "bench/support/core_time.h"
+#include "bench/support/ratio.h"
 
 // Shows a phone in use to a viewer in another process, in real time: on its page for browsers, and
-// through libvncserver. Prints the updates a second that the viewer gets, what is sent, and the
-// processor time of the phone's process beyond what it needs for drawing, while an icon is dragged,
-// while a list glides, and at rest. In the end the viewer must see what the phone shows.
+// through libvncserver. Prints the frames that the phone draws, the updates that the viewer gets,
+// what is sent, and the processor time of the phone's process beyond drawing, while an icon is
+// dragged, while a list glides, and at rest. In the end the viewer must see what the phone shows.
 
 namespace {
 
@@ -186,18 +188,48 @@ Figures figures_of(const Watched& watched) {
   return figures;
 }
 
+/// What an update costs the phone's process beyond drawing, in seconds.
+double cost_of_update(const Counts& counts, const Counts& alone) {
+  return (counts.core - counts.frames * alone.core / alone.frames) / counts.updates;
+}
+
 void print_line(const char* who, const Counts& counts, const Counts& alone) {
-  std::printf("  %-14s %10.1f %12.1f %12.0f %12.1f\n", who, counts.updates / kMovement,
-              counts.frames / kMovement, counts.bytes / kMovement / 1000,
-              100 * (counts.core - alone.core) / kMovement);
+  std::printf("  %-16s %9.1f %9.1f %11.1f %9.0f %12.2f\n", who, counts.frames / kMovement,
+              counts.updates / kMovement, counts.bytes / counts.updates / 1000,
+              counts.bytes / kMovement / 1000, cost_of_update(counts, alone) * 1e3);
 }
 
 void print(const char* what, const Counts& alone, const Counts& page, const Counts* vnc) {
-  std::printf("%-16s %10s %12s %12s %12s\n", what, "updates/s", "frames/s", "kB/s", "% of a core");
-  std::printf("  %-14s %10s %12.1f %12s %12.1f\n", "drawing alone", "", alone.frames / kMovement,
-              "", 100 * alone.core / kMovement);
+  std::printf("%-18s %9s %9s %11s %9s %12s\n", what, "frames/s", "updates/s", "kB/update", "kB/s",
+              "ms/update");
+  std::printf("  %-16s %9.1f %9s %11s %9s %12.2f a frame\n", "drawing alone",
+              alone.frames / kMovement, "", "", "", alone.core / alone.frames * 1e3);
   print_line("page", page, alone);
-  if (vnc) print_line("libvncserver", *vnc, alone);
+  if (!vnc) return;
+  print_line("libvncserver", *vnc, alone);
+  std::printf("  %-16s %9.2f %9.2f %11.2f %9.2f %12.2f\n", "page / it", page.frames / vnc->frames,
+              page.updates / vnc->updates, page.bytes / page.updates / (vnc->bytes / vnc->updates),
+              page.bytes / vnc->bytes, cost_of_update(page, alone) / cost_of_update(*vnc, alone));
+}
+
+void print_rest(const char* who, const Counts& counts) {
+  std::printf("  %-16s %9.0f bytes, %.2f %% of a core\n", who, counts.bytes,
+              100 * counts.core / kMovement);
+}
+
+/// What a copy of the screen takes here and now, by which figures of different machines compare.
+void print_copy(const BenchPhone& phone) {
+  constexpr int kCopies = 50;
+  const auto pixels = phone.pixels();
+  auto copy = pixels;
+  std::vector<double> times;
+  for (int i = 0; i < kCopies; ++i) {
+    const double start = bench::core_seconds();
+    std::memcpy(copy.data(), pixels.data(), pixels.size() * sizeof pixels.front());
+    bench::keep(*copy.data());
+    times.push_back(bench::core_seconds() - start);
+  }
+  std::printf("a copy of the screen: %.3f ms\n", bench::summary(times).median * 1e3);
 }
 
 void require_movement(const Counts& counts, const char* what) {
@@ -232,8 +264,11 @@ int main() {
   if (vnc_server) vnc = measure(phone, *vnc_server, vnc_viewer, 3);
   print("drag", alone.drag, page.drag, vnc_server ? &vnc.drag : nullptr);
   print("fling", alone.fling, page.fling, vnc_server ? &vnc.fling : nullptr);
-  print("rest", alone.rest, page.rest, vnc_server ? &vnc.rest : nullptr);
-  std::printf("rest: %.0f bytes for the page   (aim: none)%s\n", page.rest.bytes,
-              page.rest.bytes == 0 ? "" : "   MISSED");
+  std::puts("rest");
+  print_rest("phone alone", alone.rest);
+  print_rest("page", page.rest);
+  if (vnc_server) print_rest("libvncserver", vnc.rest);
+  if (page.rest.bytes > 0) std::puts("the page is sent something at rest   MISSED");
+  print_copy(phone);
   if (!vnc_server) std::puts("libvncserver was not installed when this was built");
 }
