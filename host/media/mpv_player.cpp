@@ -27,6 +27,8 @@ constexpr double unseen_drift_seconds = 0.05;
 constexpr MpvEngine::Option real_options[] = {
     {"audio-channels", "stereo"},
     {"prefetch-playlist", "yes"},
+    // Without a device nobody hears how much is played at once, and the phone rests longer.
+    {"ao-null-buffer", "0.5"},
     {"replaygain-clip", "no"},
     // What the desktop's mixer shows.
     {"audio-client-name", kProgramName},
