@@ -18,4 +18,8 @@ void blend_row(const std::uint8_t* from, std::uint8_t* to, int pixels, int share
 void blend_opaque(const Surface& surface, const Surface& below, int x, int y,
                   const PixelRect& damage, double opacity);
 
+/// Paints a surface with transparent pixels over the same part of `below`, rounded as pixman does.
+void blend_over(const Surface& surface, const Surface& below, int x, int y,
+                const PixelRect& damage);
+
 }  // namespace host::quartzcore

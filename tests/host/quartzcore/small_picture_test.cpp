@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <random>
 
 #include "host/quartzcore/compositing/backdrop_filter.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
@@ -91,6 +92,36 @@ TEST(PixelBlend, AnOpaqueSurfaceIsBlendedInsideTheDamageAndTheSurfaceBelow) {
       const bool inside = x >= 3 && x < 33 && y >= 5 && y < 9;
       ASSERT_EQ(row_of(screen, y)[x], inside ? 0xff404040 : 0xff000000) << x << ", " << y;
     }
+  }
+}
+
+// Any colours, also those that are brighter than their alpha allows.
+TEST(PixelBlend, ATranslucentSurfaceIsPaintedAsCairoPaintsIt) {
+  constexpr int kWidth = 83;
+  constexpr int kHeight = 256;
+  std::mt19937 random{11};
+  const Surface picture = filled(kWidth, kHeight, 0);
+  const Surface expected = filled(kWidth, kHeight + 7, 0);
+  for (int y = 0; y < kHeight; ++y) {
+    for (int x = 0; x < kWidth; ++x) {
+      const std::uint32_t alpha = x < 20 ? 255 : x < 40 ? 0 : static_cast<std::uint32_t>(y);
+      row_of(picture, y)[x] = alpha == 0 ? 0 : alpha << 24 | (random() & 0xffffff);
+      row_of(expected, y)[x] = static_cast<std::uint32_t>(random());
+    }
+  }
+  const Surface screen = filled(kWidth, kHeight + 7, 0);
+  for (int y = 0; y < kHeight + 7; ++y)
+    std::copy_n(row_of(expected, y), kWidth, row_of(screen, y));
+  const Drawing drawing = draw_on(expected);
+  cairo_rectangle(drawing.get(), 3, 5, kWidth - 4, kHeight);
+  cairo_clip(drawing.get());
+  cairo_set_source_surface(drawing.get(), picture.get(), 2, 4);
+  cairo_paint(drawing.get());
+  cairo_surface_flush(expected.get());
+  blend_over(picture, screen, 2, 4, {3, 5, kWidth - 4, kHeight});
+  for (int y = 0; y < kHeight + 7; ++y) {
+    for (int x = 0; x < kWidth; ++x)
+      ASSERT_EQ(row_of(screen, y)[x], row_of(expected, y)[x]) << x << ", " << y;
   }
 }
 
