@@ -9,8 +9,8 @@
 #include "host/browser/access/access.h"
 #include "host/browser/phone/page_input.h"
 #include "host/browser/phone/page_screen.h"
-#include "host/browser/web/complaint.h"
 #include "host/browser/phone/view_source.h"
+#include "host/browser/web/complaint.h"
 #include "host/browser/web/page_socket.h"
 #include "host/browser/web/server.h"
 

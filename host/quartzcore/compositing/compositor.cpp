@@ -45,8 +45,10 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   prepare_backdrops(changes);
   const int underlay = prepare_underlay(changes);
   Damage damage = merged(changes);
-  for (const PixelRect& rect : damage)
+  for (const PixelRect& rect : damage) {
+    painted_pixels_ += static_cast<std::uint64_t>(rect.area());
     paint_screen(rect, underlay);
+  }
   cairo_surface_flush(surface_.get());
   note_ready_backdrops();
   forget_unused();
@@ -136,15 +138,21 @@ Damage Compositor::merged(const Changes& changes) {
 // group.
 int Compositor::first_needed(const PixelRect& damage, int group, int end) const {
   for (int i = end - 1; i > group; --i) {
-    const RenderNode& one = node(i);
-    if (!one.is_opaque || !one.own.contains(damage)) continue;
-    if (one.layer->backdrop && !backdrop_is_ready(one)) continue;
-    bool in_group = one.is_group;
-    for (int p = one.parent; p > group && !in_group; p = node(p).parent)
-      in_group = node(p).is_group;
-    if (!in_group) return i;
+    if (node(i).own.contains(damage) && hides_what_is_below(i, group)) return i;
   }
   return -1;
+}
+
+/// True if the drawing is part of no other picture than that of the screen (-1) or the group, and
+/// covers its place there.
+bool Compositor::hides_what_is_below(int index, int group) const {
+  const RenderNode& one = node(index);
+  if (!one.is_opaque || one.is_group) return false;
+  if (one.layer->backdrop && !backdrop_is_ready(one)) return false;
+  for (int p = one.parent; p > group; p = node(p).parent) {
+    if (node(p).is_group) return false;
+  }
+  return true;
 }
 
 // A blurred picture is kept for as long as its backdrop may come back. Screen-sized copies are too

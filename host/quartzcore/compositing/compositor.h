@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -37,6 +38,8 @@ class Compositor {
 
   std::uint64_t frame_count() const { return frames_; }
   std::uint64_t painted_pixels() const { return painted_pixels_; }
+  /// The pixels that layers painted: more than those of the screen where one lies over another.
+  std::uint64_t drawn_pixels() const { return drawn_pixels_; }
   /// How often backdrops were blurred and groups drawn, apart from cached results.
   std::uint64_t blur_count() const { return blurs_; }
   std::uint64_t group_count() const { return groups_drawn_; }
@@ -98,11 +101,15 @@ class Compositor {
   static Damage merged(const Changes& changes);
   Part part_of(const PixelRect& damage, int end) const;
   int first_needed(const PixelRect& damage, int group, int end) const;
+  bool hides_what_is_below(int index, int group) const;
   void forget_unused();
 
   int fading_node(const Changes& changes) const;
   int prepare_underlay(const Changes& changes);
+  PixelRect largest_cover(const PixelRect& damage) const;
+  bool blurs_within(const PixelRect& damage) const;
   void paint_screen(const PixelRect& damage, int underlay);
+  void paint_part(const PixelRect& place, int underlay);
   void paint(const Surface& surface, const Part& part);
   void paint_node(int index, const Part& part);
   void paint_contents(int index, const Part& part, double opacity);
@@ -133,8 +140,9 @@ class Compositor {
   RenderTree tree_ahead_;
   ImageCache images_;
   std::vector<Entry> entries_;
-  // The screen at the bottom, groups above it: the canvases that a backdrop can see.
-  std::vector<Canvas> canvases_;
+  // The screen at the bottom, groups above it: the canvases that a backdrop can see. A deque, since
+  // a group begins its own while the one below is painted on.
+  std::deque<Canvas> canvases_;
   std::unordered_map<std::uint64_t, CachedBackdrop> backdrops_;
   std::unordered_map<std::uint64_t, CachedGroup> groups_;
   Underlay underlay_;
@@ -145,6 +153,7 @@ class Compositor {
   std::uint64_t state_ahead_ = 0;
   std::uint64_t frames_ = 0;
   std::uint64_t painted_pixels_ = 0;
+  std::uint64_t drawn_pixels_ = 0;
   std::uint64_t blurs_ = 0;
   std::uint64_t groups_drawn_ = 0;
 };

@@ -10,16 +10,6 @@ Compositor::Part Compositor::part_of(const PixelRect& damage, int end) const {
   return {damage, first_needed(damage, -1, end), end};
 }
 
-void Compositor::paint_screen(const PixelRect& damage, int underlay) {
-  painted_pixels_ += static_cast<std::uint64_t>(damage.area());
-  Part part = part_of(damage, node_count());
-  if (part.first < underlay) {
-    blend_opaque(underlay_.surface, surface_, 0, 0, damage, 1);
-    part.first = underlay;
-  }
-  paint(surface_, part);
-}
-
 void Compositor::paint(const Surface& surface, const Part& part) {
   canvases_.clear();
   canvases_.push_back(make_canvas(surface, 0, 0));
@@ -47,12 +37,11 @@ void Compositor::paint_node(int index, const Part& part) {
 
 void Compositor::paint_contents(int index, const Part& part, double opacity) {
   const RenderNode& one = node(index);
-  // By value: drawing a group below may reallocate the list of canvases.
-  const Canvas canvas = canvases_.back();
-  cairo_save(canvas.drawing.get());
+  const Canvas& canvas = canvases_.back();
   if (index >= part.first && intersects(one.own, part.damage)) {
+    drawn_pixels_ += static_cast<std::uint64_t>(intersection(one.own, part.damage).area());
     if (one.layer->backdrop) paint_backdrop(index, part.damage, opacity);
-    paint_layer(canvas, one, opacity, images_);
+    paint_layer(canvas, one, part.damage, opacity, images_);
   }
   const int end = std::min(one.end, part.end);
   const int first_child = one.mask >= 0 ? node(one.mask).end : index + 1;
@@ -64,7 +53,6 @@ void Compositor::paint_contents(int index, const Part& part, double opacity) {
     cairo_restore(canvas.drawing.get());
   }
   if (one.end <= part.end) paint_border(canvas, one, opacity);
-  cairo_restore(canvas.drawing.get());
 }
 
 // Identifies what a group shows by itself, without its own opacity and the opacity around it, so
@@ -115,8 +103,7 @@ void Compositor::draw_group(int index, CachedGroup& group) {
 }
 
 void Compositor::apply_mask(int index) {
-  // By value: the mask's own canvas may reallocate the list.
-  const Canvas canvas = canvases_.back();
+  const Canvas& canvas = canvases_.back();
   const int mask = node(index).mask;
   const Surface shape = make_surface(width_of(canvas.surface), height_of(canvas.surface));
   canvases_.push_back(make_canvas(shape, canvas.x, canvas.y));

@@ -3,6 +3,7 @@
 #include <numbers>
 
 #include "host/quartzcore/layers/screen_density.h"
+#include "host/quartzcore/pixels/pixel_blend.h"
 
 namespace host::quartzcore {
 namespace {
@@ -64,6 +65,11 @@ bool is_drawn_for(const PixelRect& box, const Contents& contents) {
   return wider >= 0 && wider <= 1 && higher >= 0 && higher <= 1;
 }
 
+/// The pixels of upright bounds.
+PixelRect bounds_box(const RenderNode& node) {
+  return shown_pixels(CGRectApplyAffineTransform(node.properties.bounds, node.to_device));
+}
+
 /// Adds the bounds to the path. Upright bounds without rounded corners end at whole pixels, so that
 /// hairlines are sharp and neighbours meet.
 void add_bounds(const Canvas& canvas, const RenderNode& node) {
@@ -72,7 +78,7 @@ void add_bounds(const Canvas& canvas, const RenderNode& node) {
   cairo_new_path(drawing);
   if (p.corner_radius <= 0 && is_upright(node.to_device)) {
     use_pixels(canvas);
-    const PixelRect box = shown_pixels(CGRectApplyAffineTransform(p.bounds, node.to_device));
+    const PixelRect box = bounds_box(node);
     cairo_rectangle(drawing, box.x, box.y, box.width, box.height);
   } else {
     use_layer_space(canvas, node.to_device);
@@ -83,23 +89,26 @@ void add_bounds(const Canvas& canvas, const RenderNode& node) {
 void paint_pattern(const Canvas& canvas, const RenderNode& node, const Pattern& pattern,
                    double opacity) {
   cairo_t* drawing = canvas.drawing.get();
-  cairo_save(drawing);
   cairo_clip(drawing);
   use_layer_space(canvas, node.to_device);
   set_source(drawing, pattern);
   cairo_paint_with_alpha(drawing, opacity);
-  cairo_restore(drawing);
 }
 
 void paint_background(const Canvas& canvas, const RenderNode& node, double opacity) {
   Rgba color = node.properties.background_color;
   if (color.alpha <= 0) return;
   color.alpha *= opacity;
+  cairo_t* drawing = canvas.drawing.get();
+  cairo_save(drawing);
   add_bounds(canvas, node);
-  if (const Pattern* pattern = shown_pattern(node))
-    return paint_pattern(canvas, node, *pattern, opacity);
-  set_source(canvas.drawing.get(), color);
-  cairo_fill(canvas.drawing.get());
+  if (const Pattern* pattern = shown_pattern(node)) {
+    paint_pattern(canvas, node, *pattern, opacity);
+  } else {
+    set_source(drawing, color);
+    cairo_fill(drawing);
+  }
+  cairo_restore(drawing);
 }
 
 void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const Image& image,
@@ -107,6 +116,8 @@ void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const
   cairo_t* drawing = canvas.drawing.get();
   const Surface pixels = image.surface_for_frame();
   if (!pixels) return;
+  cairo_save(drawing);
+  if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
   use_layer_space(canvas, node.to_device);
   cairo_rectangle(drawing, place.min_x(), place.min_y(), place.size.width, place.size.height);
   cairo_translate(drawing, place.min_x(), place.min_y());
@@ -120,27 +131,51 @@ void paint_transformed_image(const Canvas& canvas, const RenderNode& node, const
     cairo_clip(drawing);
     cairo_paint_with_alpha(drawing, opacity);
   }
+  cairo_restore(drawing);
 }
 
-void paint_image(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
+/// Paints as much of the surface as fits into `place`, without cairo: nothing but whole pixels cuts
+/// a plain layer.
+void paint_plain(const Canvas& canvas, const RenderNode& node, const Surface& pixels,
+                 const PixelRect& place, const PixelRect& damage) {
+  PixelRect part = intersection(intersection(place, node.own), damage);
+  if (node.layer->model.masks_to_bounds) part = intersection(part, bounds_box(node));
+  part.x -= canvas.x;
+  part.y -= canvas.y;
+  const int x = place.x - canvas.x;
+  const int y = place.y - canvas.y;
+  if (node.layer->model.contents.image()->is_opaque())
+    blend_opaque(pixels, canvas.surface, x, y, part, 1);
+  else
+    blend_over(pixels, canvas.surface, x, y, part);
+}
+
+void paint_clipped(const Canvas& canvas, const RenderNode& node, const Surface& pixels,
+                   const PixelRect& place, double opacity) {
+  cairo_save(canvas.drawing.get());
+  // Contents may extend beyond the bounds, unless the layer clips.
+  if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
+  const Opacity kind =
+      node.layer->model.contents.image()->is_opaque() ? Opacity::Opaque : Opacity::Translucent;
+  paint_surface(canvas, pixels, place, opacity, kind);
+  cairo_restore(canvas.drawing.get());
+}
+
+void paint_image(const Canvas& canvas, const RenderNode& node, const PixelRect& damage,
+                 double opacity, ImageCache& images) {
   const Contents& contents = node.layer->model.contents;
   const Image& image = *contents.image();
   const CGRect place = contents.place_in(node.properties.bounds);
   if (!(place.size.width > 0) || !(place.size.height > 0)) return;
-  cairo_save(canvas.drawing.get());
-  // Contents may extend beyond the bounds, unless the layer clips.
-  if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
   const bool own_size = is_drawn_for(box, contents);
-  if (is_upright(node.to_device) && !box.is_empty() && (own_size || !node.is_scaling)) {
-    const Surface pixels = images.scaled(image, own_size ? image.width() : box.width,
-                                         own_size ? image.height() : box.height);
-    const Opacity kind = image.is_opaque() ? Opacity::Opaque : Opacity::Translucent;
-    if (pixels) paint_surface(canvas, pixels, box, opacity, kind);
-  } else {
-    paint_transformed_image(canvas, node, image, place, opacity);
-  }
-  cairo_restore(canvas.drawing.get());
+  if (!is_upright(node.to_device) || box.is_empty() || (node.is_scaling && !own_size))
+    return paint_transformed_image(canvas, node, image, place, opacity);
+  const Surface pixels = images.scaled(image, own_size ? image.width() : box.width,
+                                       own_size ? image.height() : box.height);
+  if (!pixels) return;
+  if (node.is_plain && opacity >= 1) return paint_plain(canvas, node, pixels, box, damage);
+  paint_clipped(canvas, node, pixels, box, opacity);
 }
 
 void paint_drawing(const Canvas& canvas, const RenderNode& node, double opacity) {
@@ -169,9 +204,10 @@ void clip_to_layer(const Canvas& canvas, const RenderNode& node) {
   cairo_clip(canvas.drawing.get());
 }
 
-void paint_layer(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images) {
+void paint_layer(const Canvas& canvas, const RenderNode& node, const PixelRect& damage,
+                 double opacity, ImageCache& images) {
   if (!node.hides_background) paint_background(canvas, node, opacity);
-  if (node.layer->model.contents.image()) paint_image(canvas, node, opacity, images);
+  if (node.layer->model.contents.image()) paint_image(canvas, node, damage, opacity, images);
   if (node.layer->drawing) paint_drawing(canvas, node, opacity);
 }
 
@@ -181,6 +217,7 @@ void paint_border(const Canvas& canvas, const RenderNode& node, double opacity) 
   cairo_t* drawing = canvas.drawing.get();
   Rgba color = p.border_color;
   color.alpha *= opacity;
+  cairo_save(drawing);
   cairo_new_path(drawing);
   use_layer_space(canvas, node.to_device);
   const double half = p.border_width / 2;
@@ -191,6 +228,7 @@ void paint_border(const Canvas& canvas, const RenderNode& node, double opacity) 
   cairo_set_line_cap(drawing, CAIRO_LINE_CAP_BUTT);
   set_source(drawing, color);
   cairo_stroke(drawing);
+  cairo_restore(drawing);
 }
 
 void paint_surface(const Canvas& canvas, const Surface& surface, int x, int y, double opacity,

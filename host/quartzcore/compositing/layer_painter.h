@@ -18,8 +18,10 @@ Canvas make_canvas(Surface surface, int x, int y);
 /// Clips the canvas to the layer's bounds with their rounded corners.
 void clip_to_layer(const Canvas& canvas, const RenderNode& node);
 
-/// Paints the layer's own background, contents and drawing with the given opacity.
-void paint_layer(const Canvas& canvas, const RenderNode& node, double opacity, ImageCache& images);
+/// Paints the layer's own background, contents and drawing with the given opacity. The canvas is
+/// clipped to `damage`, which is in pixels of the screen.
+void paint_layer(const Canvas& canvas, const RenderNode& node, const PixelRect& damage,
+                 double opacity, ImageCache& images);
 /// Paints the border, which is above the sublayers.
 void paint_border(const Canvas& canvas, const RenderNode& node, double opacity);
 

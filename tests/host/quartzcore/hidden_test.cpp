@@ -1,0 +1,109 @@
+#include <random>
+#include <vector>
+
+#include "host/quartzcore/kinds/backdrop_layer.h"
+#include "tests/host/quartzcore/compositor_fixture.h"
+
+// Layers that hide others.
+
+namespace host::test {
+namespace {
+
+using quartzcore::Compositor;
+
+constexpr int kSide = 128;
+
+class HiddenTest : public CompositorTest {
+ public:
+  HiddenTest() { root.setFrame({0, 0, kSide, kSide}); }
+
+  void render(Compositor& on) {
+    const CALayer roots[] = {root};
+    on.render(roots, loop.now());
+  }
+  std::uint64_t drawn_by_next() {
+    const std::uint64_t before = screen.drawn_pixels();
+    render(screen);
+    return screen.drawn_pixels() - before;
+  }
+  static std::vector<std::uint32_t> pixels_of(const Compositor& of) {
+    std::vector<std::uint32_t> pixels;
+    for (int y = 0; y < kSide; ++y) {
+      for (int x = 0; x < kSide; ++x)
+        pixels.push_back(pixel_of(of, x, y));
+    }
+    return pixels;
+  }
+
+  Compositor screen{kSide, kSide, 1};
+};
+
+TEST_F(HiddenTest, NothingIsPaintedBelowAnOpaqueLayer) {
+  const CALayer cover = add({10, 20, 100, 100}, color(1, 0, 0));
+  EXPECT_EQ(drawn_by_next(), std::uint64_t{kSide * kSide});
+  cover.setPosition({60, 71});
+  EXPECT_EQ(drawn_by_next(), 100u * 101u);
+  EXPECT_EQ(pixel_of(screen, 60, 20), kBlue);
+  EXPECT_EQ(pixel_of(screen, 60, 21), kRed);
+  EXPECT_EQ(pixel_of(screen, 109, 120), kRed);
+  EXPECT_EQ(pixel_of(screen, 110, 120), kBlue);
+}
+
+TEST_F(HiddenTest, WhatShowsThroughALayerIsPaintedBelowIt) {
+  const CALayer cover = add({10, 20, 100, 100}, color(1, 0, 0));
+  cover.setCornerRadius(30);
+  EXPECT_EQ(drawn_by_next(), std::uint64_t{kSide * kSide + 100 * 100});
+  EXPECT_EQ(pixel_of(screen, 11, 21), kBlue);
+  cover.setCornerRadius(0);
+  cover.setOpacity(0.5);
+  EXPECT_EQ(drawn_by_next(), 2u * 100u * 100u);
+}
+
+TEST_F(HiddenTest, ABackdropSeesItsWholePlaceWhateverCoversIt) {
+  add({0, 0, kSide / 2, kSide}, color(1, 0, 0));
+  const CABackdropLayer backdrop = CABackdropLayer::layer();
+  backdrop.setFrame({0, 0, kSide, kSide});
+  objc::state_of<quartzcore::BackdropLayer>(backdrop).show({.blur_radius = 32});
+  root.addSublayer(backdrop);
+  render(screen);
+  const auto uncovered = pixels_of(screen);
+  add({20, 20, 80, 80}, color(0, 1, 0));
+  Compositor other{kSide, kSide, 1};
+  render(other);
+  EXPECT_EQ(pixel_of(other, 64, 64), 0xff00ff00);
+  for (const int at : {5, 19, 100, 127})
+    EXPECT_EQ(pixel_of(other, 64, at), uncovered[static_cast<std::size_t>(at * kSide + 64)]) << at;
+}
+
+// What one frame after the other has painted is what a new screen shows.
+TEST_F(HiddenTest, LayersThatMoveAtRandomLeaveNothingBehind) {
+  std::mt19937 random{3};
+  const auto number = [&](int least, int most) {
+    return least + static_cast<int>(random() % static_cast<unsigned>(most - least + 1));
+  };
+  std::vector<CALayer> layers;
+  for (int i = 0; i < 12; ++i) {
+    const CALayer layer = layer_at({});
+    layer.setBackgroundColor(color(number(0, 9) / 9.0, number(0, 9) / 9.0, 0.5));
+    if (i % 5 == 3) layer.setCornerRadius(10);
+    if (i % 4 == 2) layer.setMasksToBounds(YES);
+    (i % 3 == 1 ? layers.back() : root).addSublayer(layer);
+    layers.push_back(layer);
+  }
+  for (int frame = 0; frame < 60; ++frame) {
+    const CALayer layer = layers[static_cast<std::size_t>(number(0, 11))];
+    layer.setFrame({number(-20, 100) / 2.0, number(-20, 100) * 1.0, number(0, 130) * 1.0,
+                    number(0, 130) * 1.0});
+    layer.setOpacity(number(0, 3) == 0 ? 0.5F : 1.0F);
+    render(screen);
+    Compositor anew{kSide, kSide, 1};
+    render(anew);
+    for (int y = 0; y < kSide; ++y) {
+      for (int x = 0; x < kSide; ++x)
+        ASSERT_EQ(pixel_of(screen, x, y), pixel_of(anew, x, y)) << frame << ": " << x << ", " << y;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace host::test
