@@ -17,6 +17,7 @@
 #include "bench/phone/bench_phone.h"
 #include "bench/support/core_time.h"
 #include "bench/support/ratio.h"
+#include "bench/support/song_titles.h"
 #include "host/media/database.h"
 #include "host/media/library.h"
 #include "host/media_player/item_store.h"
@@ -27,6 +28,7 @@
 namespace {
 
 using bench::BenchPhone;
+using bench::make_title;
 using host::media::Database;
 using host::media::Library;
 using host::media::SongRecord;
@@ -36,24 +38,9 @@ constexpr double kMostToLike = 0.2;
 constexpr double kMostToPlatform = 0.5;
 constexpr double kQuarterFrame = 1 / 240.0;
 constexpr double kMostASong = 12e-9;
-constexpr const char* kQueries[] = {"a", "lov", "zanzibar", "no such title"};
-
-// Realistic titles: a few words, capitals, occasionally a number or a letter beyond ASCII.
-std::string make_title(std::mt19937& random) {
-  static constexpr const char* words[] = {
-      "Love",   "Night", "Blue",  "the",  "of",   "Dance",    "River", "In",   "Heart",
-      "Summer", "Ghost", "Train", "Slow", "Fire", "Electric", "Rain",  "Moon", "Little",
-      "Garden", "Snow",  "My",    "Lost", "Song", "Runner",   "City",  "Déjà", "Señor"};
-  std::string title = words[random() % std::size(words)];
-  for (std::uint32_t more = random() % 5; more > 0; --more)
-    title += std::string{" "} + words[random() % std::size(words)];
-  if (random() % 8 == 0) title += fmt::format(" ({})", 1950 + random() % 70);
-  if (random() % 10'000 == 0) title += " Zanzibar";
-  return title;
-}
 
 std::shared_ptr<const Library> make_library(std::size_t songs) {
-  std::mt19937 random{7};
+  std::mt19937 random{bench::kTitleSeed};
   std::vector<SongRecord> records(songs);
   for (std::size_t i = 0; i < songs; ++i) {
     records[i].id = i + 1;
@@ -216,7 +203,7 @@ void measure(BenchPhone& phone, std::size_t songs, int rounds, bool figures) {
   const Report report{songs, figures};
   SongList list{phone, library};
   measure_reading(phone, list, report);
-  for (const char* query : kQueries) {
+  for (const char* query : bench::kTitleQueries) {
     const NSString typed = NSString::stringWithUTF8String(query);
     std::size_t found = 0, by_bytes = 0, by_table = 0, by_platform = 0;
     const auto pair = bench::in_turns(

@@ -1,0 +1,47 @@
+// Scans a folder into a new index: `scan_songs FOLDER INDEX`. Prints the songs, the seconds, the
+// seconds of processor time, and the most memory in megabytes that the process has had.
+
+#include <fmt/core.h>
+#include <sys/resource.h>
+#include <time.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "host/media/reading_trial.h"
+#include "host/media/scan.h"
+
+namespace {
+
+double process_seconds() {
+  timespec time;
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+double most_megabytes() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<double>(usage.ru_maxrss) / 1024;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  if (count != 3) {
+    fmt::print(stderr, "Usage: scan_songs FOLDER INDEX\n");
+    return 2;
+  }
+  const std::vector<std::string> roots{words[1]};
+  const std::string index_file = words[2];
+  host::media::keep_reading_marks(index_file + ".marks", &host::media::read_for_trial);
+  const auto start = std::chrono::steady_clock::now();
+  const double core = process_seconds();
+  host::media::Index index{index_file};
+  const auto outcome =
+      host::media::scan_folders(index, roots, [](const host::media::ScanProgress&) {});
+  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+  fmt::print("{} {:.6f} {:.6f} {:.1f}\n", outcome.library->tracks().size(), seconds.count(),
+             process_seconds() - core, most_megabytes());
+}
