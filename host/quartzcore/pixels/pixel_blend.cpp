@@ -1,5 +1,6 @@
 #include "host/quartzcore/pixels/pixel_blend.h"
 
+#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -22,14 +23,17 @@ SONAVUE_WIDE void mix(const std::uint8_t* from, std::uint8_t* to, int bytes, int
 
 // Eight pixels, and every second channel of them.
 using EightPixels = std::uint32_t __attribute__((vector_size(32)));
+using FourPixels = std::uint32_t __attribute__((vector_size(16)));
+using TwoWords = std::uint64_t __attribute__((vector_size(16)));
 using HalfChannels = std::uint16_t __attribute__((vector_size(32)));
 constexpr int kStep = 8;
 
 [[gnu::always_inline]] inline bool is_all(const EightPixels& pixels, std::uint32_t wanted) {
   const EightPixels differences = pixels ^ (EightPixels{} + wanted);
-  std::uint64_t parts[sizeof differences / sizeof(std::uint64_t)];
-  std::memcpy(parts, &differences, sizeof parts);
-  return (parts[0] | parts[1] | parts[2] | parts[3]) == 0;
+  std::array<FourPixels, 2> halves;
+  std::memcpy(halves.data(), &differences, sizeof halves);
+  const auto parts = reinterpret_cast<TwoWords>(halves[0] | halves[1]);
+  return (parts[0] | parts[1]) == 0;
 }
 
 /// Adds to `above` what its alpha leaves of `below`; both are every second channel, from `shift`
