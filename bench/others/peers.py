@@ -58,8 +58,8 @@ def report(figures, chosen, load_before):
     copy = figures.median("scene.copy_ms")
     return "\n\n".join((
         f"Commit {commit()}; a copy of one frame takes {copy:.3f} ms on this machine, which has"
-        f" {os.cpu_count()} cores; load {load_before} before and {load()} after; medians of"
-        f" {chosen.rounds} rounds.",
+        f" {os.cpu_count()} cores; load {load_before} before and {load()} after;"
+        f" rounds: {chosen.rounds}, of which these are the medians.",
         table.scene_table(figures),
         table.scan_table(figures, chosen.songs),
         table.search_table(figures, SEARCHED)))
