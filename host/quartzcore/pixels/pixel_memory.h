@@ -4,7 +4,6 @@
 #include <deque>
 #include <mutex>
 #include <new>
-#include <unordered_map>
 
 namespace host::quartzcore {
 
@@ -23,9 +22,6 @@ class PixelMemory {
   static constexpr std::size_t kMostKept = 12U << 20;
   /// In bytes. Smaller blocks come from pages that the process already has.
   static constexpr std::size_t kLeastKept = 128U << 10;
-  /// In bytes: a large page of the system. Blocks of about a multiple of it consist of large pages
-  /// where the system has them, which take two faults for a screen instead of a thousand.
-  static constexpr std::size_t kLargePage = 2U << 20;
 
   PixelMemory() = default;
   ~PixelMemory();
@@ -35,17 +31,17 @@ class PixelMemory {
   /// Returns a block of at least `size` bytes; a null block when out of memory.
   Block take(std::size_t size, Contents contents);
   void give_back(Block block);
+  /// Keeps that many blocks of `size` bytes, touched, so that the first animation finds them: a new
+  /// screen takes a thousand page faults, which cost more than painting it.
+  void reserve(std::size_t size, int count);
   std::size_t kept() const;
 
  private:
   Block kept_block(std::size_t size);
-  Block new_block(std::size_t size, Contents contents);
-  void release(const Block& block);
 
   mutable std::mutex mutex_;
   std::deque<Block> blocks_;  // The latest returned first.
   std::size_t kept_ = 0;
-  std::unordered_map<const void*, std::size_t> mapped_;  // The blocks of large pages.
 };
 
 /// The only instance in this process.
