@@ -28,4 +28,13 @@ inline Stamp stamp_of(const struct stat& status) {
           nanoseconds_of(status.st_mtim), nanoseconds_of(status.st_ctim)};
 }
 
+/// Whether a change of the file from now on would change its stamp.
+inline bool has_settled(const Stamp& stamp) {
+  constexpr std::int64_t kCoarsestClock = 2'000'000'000;  // nanoseconds
+  // The time of files, which no stepped clock sets.
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  return nanoseconds_of(now) > stamp.changed + kCoarsestClock;
+}
+
 }  // namespace host::files

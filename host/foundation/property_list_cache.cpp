@@ -1,7 +1,5 @@
 #include "host/foundation/property_list_cache.h"
 
-#include <cstdint>
-#include <ctime>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -20,8 +18,6 @@ namespace {
 constexpr std::size_t kMostFiles = 256;
 // Together, in bytes: lists take memory in proportion to their files.
 constexpr std::size_t kMostBytes = property_list::kLargestList;
-// A file that has only just changed may change again under the same stamp.
-constexpr std::int64_t kSettlingTime = 2'000'000'000;  // nanoseconds
 
 struct KnownFile {
   files::Stamp stamp;
@@ -35,13 +31,6 @@ struct KnownFile {
 std::string problem_of(const std::error_code& error) {
   if (error == std::errc::is_a_directory) return "it is a folder";
   return files::is_no_file(error) ? "it is not a regular file" : error.message();
-}
-
-bool has_settled(const files::Stamp& stamp) {
-  // The time of files, which no stepped clock sets.
-  timespec now{};
-  clock_gettime(CLOCK_REALTIME, &now);
-  return files::nanoseconds_of(now) > stamp.changed + kSettlingTime;
 }
 
 property_list::Reading read_again(KnownFile& known, const files::OpenFile& file) {
@@ -93,7 +82,7 @@ class PropertyListCache {
     if (reading.list) bytes_ += stamp.size;
     known.list.reset(reading.list);
     known.stamp = stamp;
-    known.is_settled = has_settled(stamp);
+    known.is_settled = files::has_settled(stamp);
     if (known.problem != reading.problem && !reading.problem.empty())
       spdlog::warn("{} is not read: {}", shown, reading.problem);
     known.problem = reading.problem;

@@ -1,5 +1,6 @@
 #include "host/quartzcore/drawing/image.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 
@@ -8,9 +9,9 @@
 
 namespace host::quartzcore {
 
-Image::Image(CGImageObject owner) : Implementation(owner) {
-  static std::uint64_t last_serial = 0;
-  serial_ = ++last_serial;
+std::uint64_t next_image_serial() {
+  static std::atomic<std::uint64_t> last = 0;
+  return ++last;
 }
 
 CGImageRef make_image(Surface surface, Opacity opacity, ByteOrder order) {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 
 #include "host/quartzcore/pixels/surface.h"
 #include "objc/class_builder.h"
@@ -18,8 +17,11 @@ enum class Opacity { Translucent, Opaque };
 /// from the platform's decoder; drawings are blue first.
 enum class ByteOrder { BlueFirst, RedFirst };
 
+/// Returns a number that no other picture of the process has.
+std::uint64_t next_image_serial();
+
 /// Pixels that are produced when first needed, and may be released and produced again. Main thread
-/// only.
+/// only, unless a source says more.
 class PixelSource {
  public:
   virtual ~PixelSource() = default;
@@ -32,13 +34,19 @@ class PixelSource {
   virtual Opacity opacity() const = 0;
   /// Changes when pixels have become available that an earlier frame had to do without.
   virtual std::uint64_t revision() const = 0;
+
+  /// All images of one source are the same picture.
+  std::uint64_t serial() const { return serial_; }
+
+ private:
+  const std::uint64_t serial_ = next_image_serial();
 };
 
 /// What a CGImageRef points to: immutable premultiplied ARGB32 pixels, or a promise of them. It is
 /// also a runtime object.
 class Image : public objc::Implementation<Image, CGImageObject> {
  public:
-  explicit Image(CGImageObject owner);
+  explicit Image(CGImageObject owner) : Implementation(owner) {}
 
   /// Never null: promised pixels that cannot be produced are transparent.
   Surface surface() const;
@@ -46,8 +54,8 @@ class Image : public objc::Implementation<Image, CGImageObject> {
   Surface surface_for_frame() const { return source_ ? source_->pixels_for_frame() : surface_; }
   bool is_opaque() const { return (source_ ? source_->opacity() : opacity_) == Opacity::Opaque; }
   std::uint64_t revision() const { return source_ ? source_->revision() : 0; }
-  /// Unique within the process; caches use it as their key.
-  std::uint64_t serial() const { return serial_; }
+  /// Tells pictures of the process apart; caches use it as their key.
+  std::uint64_t serial() const { return source_ ? source_->serial() : serial_; }
   int width() const { return width_; }
   int height() const { return height_; }
   ByteOrder byte_order() const { return byte_order_; }
@@ -63,7 +71,7 @@ class Image : public objc::Implementation<Image, CGImageObject> {
   int height_ = 0;
   Opacity opacity_ = Opacity::Translucent;
   ByteOrder byte_order_ = ByteOrder::BlueFirst;
-  std::uint64_t serial_;
+  const std::uint64_t serial_ = next_image_serial();
 };
 
 /// Returns a new image (+1) of these pixels, which must not be drawn on afterwards.
@@ -73,12 +81,6 @@ CGImageRef make_image(Surface surface, Opacity opacity, ByteOrder order = ByteOr
 /// they are needed.
 CGImageRef promise_image(int width, int height, std::shared_ptr<PixelSource> source,
                          ByteOrder order = ByteOrder::BlueFirst);
-
-/// Decodes PNG, JPEG and every other format that gdk-pixbuf reads (+1); null for invalid data.
-/// Pictures with a side above `kLargestSide` are shrunk while they are decoded.
-CGImageRef decode_image_file(const char* path);
-CGImageRef decode_image_bytes(std::span<const unsigned char> bytes);
-inline constexpr int kLargestSide = 4096;
 
 inline objc::Object object_of(CGImageRef image) {
   return objc::Object(reinterpret_cast<objc::Id>(image));

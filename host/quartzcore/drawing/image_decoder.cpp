@@ -1,11 +1,13 @@
+#include "host/quartzcore/drawing/image_decoder.h"
+
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <libyuv/convert_argb.h>
 
 #include <algorithm>
 #include <memory>
+#include <string_view>
 
 #include "host/basics/premultiply.h"
-#include "host/quartzcore/drawing/image.h"
 
 namespace host::quartzcore {
 namespace {
@@ -55,41 +57,63 @@ bool has_translucent_pixel(const GdkPixbuf* pixbuf) {
   return false;
 }
 
-CGImageRef image_from(GdkPixbuf* decoded) {
-  if (!decoded) return nullptr;
-  const Pixbuf upright(gdk_pixbuf_apply_embedded_orientation(decoded));
-  const Opacity opacity =
-      has_translucent_pixel(upright.get()) ? Opacity::Translucent : Opacity::Opaque;
-  return make_image(surface_of(upright.get()), opacity, ByteOrder::RedFirst);
+// The decoder for the phone's own formats; others are found by the library, which collects some
+// bytes first.
+const char* usual_decoder(std::span<const unsigned char> bytes) {
+  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+  if (text.starts_with("\x89PNG\r\n")) return "png";
+  return text.starts_with("\xff\xd8\xff") ? "jpeg" : nullptr;
 }
 
-CGImageRef finish(const Loader& loader, bool written) {
-  // A truncated picture shows the part that exists; closing only reports that it is truncated.
-  gdk_pixbuf_loader_close(loader.get(), nullptr);
-  return written ? image_from(gdk_pixbuf_loader_get_pixbuf(loader.get())) : nullptr;
-}
-
-Loader make_loader() {
-  Loader loader(gdk_pixbuf_loader_new());
+Loader make_loader(std::span<const unsigned char> bytes) {
+  const char* usual = usual_decoder(bytes);
+  GdkPixbufLoader* typed = usual ? gdk_pixbuf_loader_new_with_type(usual, nullptr) : nullptr;
+  Loader loader(typed ? typed : gdk_pixbuf_loader_new());
   g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(shrink_huge_picture), nullptr);
   return loader;
 }
 
-}  // namespace
-
-CGImageRef decode_image_bytes(std::span<const unsigned char> bytes) {
-  const Loader loader = make_loader();
-  const bool written =
-      gdk_pixbuf_loader_write(loader.get(), bytes.data(), bytes.size(), nullptr) != 0;
-  return finish(loader, written);
+bool swaps_sides(GdkPixbuf* pixbuf) {
+  const char* orientation = gdk_pixbuf_get_option(pixbuf, "orientation");
+  return orientation && std::string_view("5678").find(*orientation) != std::string_view::npos;
 }
 
-CGImageRef decode_image_file(const char* path) {
-  char* contents = nullptr;
-  gsize length = 0;
-  if (!g_file_get_contents(path, &contents, &length, nullptr)) return nullptr;
-  const std::unique_ptr<char, decltype(&g_free)> owned(contents, g_free);
-  return decode_image_bytes({reinterpret_cast<const unsigned char*>(contents), length});
+void note_header(GdkPixbufLoader* loader, std::optional<ImageHeader>* header) {
+  if (*header) return;
+  GdkPixbuf* pixbuf = gdk_pixbuf_loader_get_pixbuf(loader);
+  *header = {gdk_pixbuf_get_width(pixbuf), gdk_pixbuf_get_height(pixbuf),
+             gdk_pixbuf_get_has_alpha(pixbuf) ? Opacity::Translucent : Opacity::Opaque};
+  if (swaps_sides(pixbuf)) std::swap((*header)->width, (*header)->height);
+}
+
+}  // namespace
+
+DecodedImage decode_image(std::span<const unsigned char> bytes) {
+  const Loader loader = make_loader(bytes);
+  const bool written =
+      gdk_pixbuf_loader_write(loader.get(), bytes.data(), bytes.size(), nullptr) != 0;
+  // A truncated picture shows the part that exists; closing only reports that it is truncated.
+  gdk_pixbuf_loader_close(loader.get(), nullptr);
+  GdkPixbuf* decoded = written ? gdk_pixbuf_loader_get_pixbuf(loader.get()) : nullptr;
+  if (!decoded) return {};
+  const Pixbuf upright(gdk_pixbuf_apply_embedded_orientation(decoded));
+  return {surface_of(upright.get()),
+          has_translucent_pixel(upright.get()) ? Opacity::Translucent : Opacity::Opaque};
+}
+
+std::optional<ImageHeader> read_image_header(std::span<const unsigned char> bytes) {
+  constexpr std::size_t kPiece = 1024;
+  const Loader loader = make_loader(bytes);
+  std::optional<ImageHeader> header;
+  g_signal_connect(loader.get(), "area-prepared", G_CALLBACK(note_header), &header);
+  for (auto rest = bytes; !rest.empty() && !header;) {
+    const auto piece = rest.first(std::min(rest.size(), kPiece));
+    if (!gdk_pixbuf_loader_write(loader.get(), piece.data(), piece.size(), nullptr)) break;
+    rest = rest.subspan(piece.size());
+  }
+  // Some formats are decoded only at their end.
+  gdk_pixbuf_loader_close(loader.get(), nullptr);
+  return header;
 }
 
 }  // namespace host::quartzcore

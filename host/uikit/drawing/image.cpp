@@ -2,16 +2,17 @@
 
 #include <fmt/format.h>
 
-#include <span>
-
-#include "host/quartzcore/drawing/image.h"
 #include "host/runtime/device_model.h"
 #include "host/uikit/drawing/image_orientation.h"
 #include "host/uikit/drawing/picture_file.h"
+#include "host/uikit/drawing/picture_store.h"
 #include "platform/Foundation/NSBundle.h"
 #include "platform/UIKit/UIGraphics.h"
 
 namespace host::uikit {
+
+using quartzcore::CGImageObject;
+
 namespace {
 
 UIImage image_with_file(objc::Object, NSString path) {
@@ -49,6 +50,10 @@ UIImage image_named(objc::Object, NSString name) {
   return image;
 }
 
+objc::Ref<CGImageObject> adopted(CGImageRef image) {
+  return objc::Ref<CGImageObject>::adopt(objc::cast<CGImageObject>(quartzcore::object_of(image)));
+}
+
 }  // namespace
 
 // A failed initializer releases its object and returns nil.
@@ -57,22 +62,24 @@ UIImage Image::refuse() {
   return nil;
 }
 
-UIImage Image::init_with_file(NSString path) {
-  const auto file = find_picture_file(path, current_device().scale);
-  if (!file || !is_picture_file(file->path)) return refuse();
-  picture_ = std::make_shared<Picture>(file->path);
-  scale_ = file->scale;
+UIImage Image::init_with_picture(const std::shared_ptr<quartzcore::EncodedImage>& picture) {
+  if (!picture) return refuse();
+  pixels_ = adopted(quartzcore::promise_image(picture));
   return self;
 }
 
+UIImage Image::init_with_file(NSString path) {
+  const auto file = find_picture_file(path, current_device().scale);
+  if (!file) return refuse();
+  scale_ = file->scale;
+  return init_with_picture(picture_of_file(file->path));
+}
+
 UIImage Image::init_with_data(NSData data) {
-  const auto* bytes = static_cast<const unsigned char*>(data.bytes());
-  const CGImageRef pixels =
-      bytes ? quartzcore::decode_image_bytes(std::span(bytes, data.length())) : nullptr;
-  if (!pixels) return refuse();
-  picture_ = std::make_shared<Picture>(pixels);
-  CGImageRelease(pixels);
-  return self;
+  const auto* bytes = static_cast<const char*>(data.bytes());
+  if (!bytes) return refuse();
+  return init_with_picture(
+      quartzcore::EncodedImage::read({bytes, data.length()}, "a picture in memory"));
 }
 
 UIImage Image::init_with_cg_image(CGImageRef image) {
@@ -82,7 +89,7 @@ UIImage Image::init_with_cg_image(CGImageRef image) {
 UIImage Image::init_with_oriented_cg_image(CGImageRef image, CGFloat scale,
                                            UIImageOrientation orientation) {
   if (!image) return refuse();
-  picture_ = std::make_shared<Picture>(image);
+  pixels_ = adopted(CGImageRetain(image));
   scale_ = scale > 0 ? scale : 1;
   orientation_ = orientation;
   return self;
@@ -96,14 +103,14 @@ CGSize Image::size() {
   return is_sideways(orientation_) ? CGSize{size.height, size.width} : size;
 }
 
-CGImageRef Image::cg_image() {
-  return picture_ ? picture_->pixels() : nullptr;
+CGImageRef Image::cg_image() const {
+  return reinterpret_cast<CGImageRef>(pixels_.get().id());
 }
 
 UIImage Image::with_rendering_mode(UIImageRenderingMode mode) const {
   const UIImage image = UIImage::alloc().init().autorelease();
   auto& state = objc::state_of<Image>(image);
-  state.picture_ = picture_;
+  state.pixels_ = pixels_;
   state.scale_ = scale_;
   state.orientation_ = orientation_;
   state.rendering_mode_ = mode;

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <memory>
-
-#include "host/uikit/drawing/picture.h"
+#include "host/quartzcore/drawing/encoded_image.h"
 #include "objc/class_builder.h"
+#include "objc/ref.h"
 #include "platform/UIKit/UIImage.h"
 
 namespace host::uikit {
@@ -20,7 +19,7 @@ class Image : public objc::Implementation<Image, UIImage> {
 
   CGSize size();
   CGFloat scale() const { return scale_; }
-  CGImageRef cg_image();
+  CGImageRef cg_image() const;
   UIImageOrientation orientation() const { return orientation_; }
   UIImageRenderingMode rendering_mode() const { return rendering_mode_; }
   UIImage with_rendering_mode(UIImageRenderingMode mode) const;
@@ -37,8 +36,9 @@ class Image : public objc::Implementation<Image, UIImage> {
  private:
   UIImage refuse();
 
-  /// Shared with copies in other rendering modes: the file is decoded once.
-  std::shared_ptr<Picture> picture_;
+  UIImage init_with_picture(const std::shared_ptr<quartzcore::EncodedImage>& picture);
+
+  objc::Ref<quartzcore::CGImageObject> pixels_;
   double scale_ = 1;
   UIImageOrientation orientation_ = UIImageOrientationUp;
   UIImageRenderingMode rendering_mode_ = UIImageRenderingModeAutomatic;

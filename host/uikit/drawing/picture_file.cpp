@@ -1,7 +1,6 @@
 #include "host/uikit/drawing/picture_file.h"
 
 #include <fmt/format.h>
-#include <gdk-pixbuf/gdk-pixbuf.h>
 #include <unistd.h>
 
 #include <string_view>
@@ -32,10 +31,6 @@ std::optional<PictureFile> find_picture_file(NSString path, double screen_scale)
       return found;
   }
   return readable(plain, 1);
-}
-
-bool is_picture_file(const std::string& path) {
-  return gdk_pixbuf_get_file_info(path.c_str(), nullptr, nullptr) != nullptr;
 }
 
 }  // namespace host::uikit

@@ -18,7 +18,4 @@ struct PictureFile {
 /// first. A path without an extension means a PNG. Returns nothing when no such file exists.
 std::optional<PictureFile> find_picture_file(NSString path, double screen_scale);
 
-/// Returns whether the file begins like a picture. Decodes nothing.
-bool is_picture_file(const std::string& path);
-
 }  // namespace host::uikit

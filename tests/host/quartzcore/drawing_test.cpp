@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/drawing/context.h"
-#include "host/quartzcore/drawing/image.h"
+#include "host/quartzcore/drawing/encoded_image.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGImage.h"
 #include "platform/CoreGraphics/CGPath.h"
@@ -24,6 +26,12 @@ std::uint32_t pixel(CGContextRef context, std::size_t x, std::size_t y) {
   std::uint32_t value = 0;
   __builtin_memcpy(&value, bytes + y * CGBitmapContextGetBytesPerRow(context) + x * 4, 4);
   return value;
+}
+
+CGImageRef image_of_file(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string bytes(std::istreambuf_iterator<char>(file), {});
+  return quartzcore::promise_image(quartzcore::EncodedImage::read(std::move(bytes), path));
 }
 
 TEST_F(DrawingTest, ContextsDrawInPointsFromTheTopLeft) {
@@ -86,18 +94,17 @@ TEST_F(DrawingTest, DecodedFilesAreRedFirstAndInvalidOnesAreNull) {
   CGContextFillRect(context, {0, 0, 2, 2});
   cairo_surface_write_to_png(context->surface.get(), path.c_str());
   CGContextRelease(context);
-  CGImageRef image = quartzcore::decode_image_file(path.c_str());
+  CGImageRef image = image_of_file(path);
   ASSERT_TRUE(image);
-  EXPECT_TRUE(quartzcore::image_of(image)->is_opaque());
+  EXPECT_EQ(CGImageGetWidth(image), 2u);
   CFDataRef data = CGDataProviderCopyData(CGImageGetDataProvider(image));
   EXPECT_EQ(CFDataGetBytePtr(data)[0], 255);
   EXPECT_EQ(CFDataGetBytePtr(data)[2], 0);
+  EXPECT_TRUE(quartzcore::image_of(image)->is_opaque());
   CFRelease(data);
   CGImageRelease(image);
   std::filesystem::remove(path);
-  const unsigned char noise[] = {1, 2, 3, 4, 5, 6, 7, 8};
-  EXPECT_FALSE(quartzcore::decode_image_bytes(noise));
-  EXPECT_FALSE(quartzcore::decode_image_file(path.c_str()));
+  EXPECT_FALSE(quartzcore::EncodedImage::read("noise", "noise"));
 }
 
 TEST_F(DrawingTest, EveryTranslucentPixelSurvivesAFile) {
@@ -113,7 +120,7 @@ TEST_F(DrawingTest, EveryTranslucentPixelSurvivesAFile) {
           alpha << 24 | level << 16 | (alpha - level) << 8 | level / 2;
   cairo_surface_mark_dirty(context->surface.get());
   cairo_surface_write_to_png(context->surface.get(), path.c_str());
-  CGImageRef image = quartzcore::decode_image_file(path.c_str());
+  CGImageRef image = image_of_file(path);
   std::filesystem::remove(path);
   ASSERT_TRUE(image);
   const auto* decoded = reinterpret_cast<const std::uint32_t*>(

@@ -1,21 +1,32 @@
+#include "host/quartzcore/drawing/image.h"
+
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "host/runtime/device_model.h"
+#include "objc/ref.h"
 #include "platform/CoreGraphics/CGImage.h"
 #include "platform/Foundation/NSIndexPath.h"
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UIImage.h"
+#include "tests/host/uikit/drawing/jpeg_file.h"
 #include "tests/host/uikit/drawing/png_file.h"
 #include "tests/host/uikit/support/drawing_test.h"
 
 namespace {
 
+namespace quartzcore = host::quartzcore;
 using host::test::write_png;
+using host::test::write_sideways_jpeg;
+using quartzcore::image_of;
+
+constexpr std::uint32_t kGrey = 0xff808080;
 
 class Image : public host::test::DrawingTest {
  protected:
@@ -34,6 +45,17 @@ class Image : public host::test::DrawingTest {
   std::string path(const char* name) const { return folder_ / name; }
   NSString platform_path(const char* name) const {
     return NSString::stringWithUTF8String(path(name).c_str());
+  }
+  /// An image that nobody else has.
+  objc::Ref<UIImage> load(const char* name) const {
+    return objc::adopt(UIImage::alloc().initWithContentsOfFile(platform_path(name)));
+  }
+  static cairo_surface_t* surface_of(UIImage image) {
+    return image_of(image.CGImage())->surface().get();
+  }
+  static std::uint32_t pixel_of(UIImage image) {
+    const quartzcore::Surface pixels = image_of(image.CGImage())->surface();
+    return *reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(pixels.get()));
   }
 
  private:
@@ -80,13 +102,106 @@ TEST_F(Image, AMissingOrInvalidFileReturnsNil) {
   EXPECT_FALSE(UIImage::imageWithCGImage(nullptr));
 }
 
-TEST_F(Image, TheFileIsDecodedOnFirstUse) {
+TEST_F(Image, TheFileIsDecodedWhenItIsFirstDrawn) {
+  write_png(path("late.png"), 10, 12);
+  const UIImage image = UIImage::imageWithContentsOfFile(platform_path("late.png"));
+
+  EXPECT_EQ(image.size(), (CGSize{10, 12}));
+  EXPECT_EQ(CGImageGetWidth(image.CGImage()), 10u);
+  // Only the pixels tell that none of them is transparent.
+  EXPECT_FALSE(image_of(image.CGImage())->is_opaque());
+  pixel_of(image);
+  EXPECT_TRUE(image_of(image.CGImage())->is_opaque());
+}
+
+TEST_F(Image, AFileThatIsGoneWhenItIsDrawnIsShown) {
   write_png(path("late.png"), 10, 10);
   const UIImage image = UIImage::imageWithContentsOfFile(platform_path("late.png"));
 
   std::filesystem::remove(path("late.png"));
 
-  EXPECT_EQ(image.CGImage(), nullptr);
+  EXPECT_EQ(pixel_of(image), kGrey);
+  EXPECT_FALSE(UIImage::imageWithContentsOfFile(platform_path("late.png")));
+}
+
+TEST_F(Image, AFileIsDecodedOnceForAllWhoLoadIt) {
+  write_png(path("shared.png"), 10, 10);
+  const objc::Ref first = load("shared.png");
+  const objc::Ref second = load("shared.png");
+
+  EXPECT_EQ(surface_of(first.get()), surface_of(second.get()));
+  EXPECT_EQ(image_of(first->CGImage())->serial(), image_of(second->CGImage())->serial());
+}
+
+TEST_F(Image, ASmallFileStaysDecodedForTheNextWhoLoadsIt) {
+  write_png(path("again.png"), 10, 10);
+  const quartzcore::Surface pixels = image_of(load("again.png")->CGImage())->surface();
+
+  EXPECT_EQ(surface_of(load("again.png").get()), pixels.get());
+}
+
+TEST_F(Image, PicturesThatNobodyHasDoNotFillTheMemory) {
+  constexpr int kPictures = 40;
+  constexpr int kSide = 256;  // 256 kB of pixels
+  std::vector<quartzcore::Surface> seen;
+  for (int i = 0; i < kPictures; ++i) {
+    const std::string name = std::to_string(i) + ".png";
+    write_png(path(name.c_str()), kSide, kSide);
+    seen.push_back(image_of(load(name.c_str())->CGImage())->surface());
+  }
+
+  const auto is_kept = [](const quartzcore::Surface& pixels) {
+    return cairo_surface_get_reference_count(pixels.get()) > 1;
+  };
+  EXPECT_FALSE(is_kept(seen.front()));
+  EXPECT_LE(std::count_if(seen.begin(), seen.end(), is_kept), kPictures / 2);
+}
+
+TEST_F(Image, AFileThatHasChangedIsAnotherPicture) {
+  write_png(path("changes.png"), 10, 10);
+  const objc::Ref before = load("changes.png");
+  EXPECT_EQ(pixel_of(before.get()), kGrey);
+
+  write_png(path("changes.png"), 10, 10, 1);
+  const objc::Ref after = load("changes.png");
+
+  EXPECT_EQ(pixel_of(after.get()), 0xffffffffu);
+  EXPECT_EQ(pixel_of(before.get()), kGrey);
+}
+
+TEST_F(Image, AChangeUnderTheSameStampIsSeen) {
+  write_png(path("quick.png"), 10, 10);
+  const auto time = std::filesystem::last_write_time(path("quick.png"));
+  const objc::Ref before = load("quick.png");
+  write_png(path("quick.png"), 10, 10, 1);
+  std::filesystem::last_write_time(path("quick.png"), time);
+
+  EXPECT_EQ(pixel_of(load("quick.png").get()), 0xffffffffu);
+}
+
+TEST_F(Image, ADamagedFileHasASizeAndNoPixels) {
+  write_png(path("damaged.png"), 64, 32);
+  std::fstream(path("damaged.png"), std::ios::in | std::ios::out | std::ios::binary)
+      .seekp(60)
+      .write("no chunk of pixels at all", 25);
+
+  const UIImage image = UIImage::imageWithContentsOfFile(platform_path("damaged.png"));
+
+  EXPECT_EQ(image.size(), (CGSize{64, 32}));
+  EXPECT_EQ(pixel_of(image), 0u);
+}
+
+TEST_F(Image, AnEmptyFileIsNoPicture) {
+  std::ofstream(path("empty.png")).flush();
+  EXPECT_FALSE(UIImage::imageWithContentsOfFile(platform_path("empty.png")));
+}
+
+TEST_F(Image, APhotographOnItsSideHasTheSizeThatItIsShownWith) {
+  write_sideways_jpeg(path("photo.jpg"), 30, 10);
+  const UIImage image = UIImage::imageWithContentsOfFile(platform_path("photo.jpg"));
+
+  EXPECT_EQ(image.size(), (CGSize{10, 30}));
+  EXPECT_EQ(cairo_image_surface_get_width(surface_of(image)), 10);
 }
 
 TEST_F(Image, ATemplateSharesThePixels) {
