@@ -168,7 +168,7 @@ void measure_track_change(BenchPhone& phone) {
 
 /// Uses a phone with so many songs, and writes a line for each figure.
 void measure(int songs) {
-  const LargeLibrary library(songs / LargeLibrary::kSongsOfAlbum);
+  const LargeLibrary library({songs / LargeLibrary::kSongsOfAlbum, LargeLibrary::kSongsOfAlbum});
   bench::Music music = library.music();
   double filling = 0;
   const auto remember = music.remember;

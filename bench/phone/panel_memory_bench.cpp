@@ -1,9 +1,8 @@
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <cstdlib>
 
+#include "bench/phone/in_a_process.h"
 #include "bench/phone/large_library.h"
 #include "host/launcher/throwaway_folder.h"
 #include "platform/UIKit/UIScrollView.h"
@@ -32,19 +31,6 @@ double resident_megabytes() {
   require(file && std::fscanf(file, "%ld %ld", &all, &resident) == 2, "/proc/self/statm");
   std::fclose(file);
   return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
-}
-
-template <class Work>
-void in_a_process(Work work) {
-  std::fflush(stdout);
-  const pid_t child = ::fork();
-  if (child == 0) {
-    work();
-    std::fflush(stdout);
-    ::_exit(EXIT_SUCCESS);
-  }
-  int status = 1;
-  require(::waitpid(child, &status, 0) == child && status == 0, "a process of the benchmark");
 }
 
 /// Scrolls through the whole contents of a scroll view of the panel. Returns the number of screens.
@@ -89,32 +75,18 @@ double megabytes_of(const bench::Music& music, std::size_t songs) {
   return megabytes;
 }
 
-double megabytes_in_a_process(const bench::Music& music, std::size_t songs) {
-  int ends[2];
-  require(::pipe(ends) == 0, "a pipe");
-  in_a_process([&] {
-    const double megabytes = megabytes_of(music, songs);
-    require(::write(ends[1], &megabytes, sizeof megabytes) == sizeof megabytes, "the pipe");
-  });
-  double megabytes = 0;
-  require(::read(ends[0], &megabytes, sizeof megabytes) == sizeof megabytes, "the pipe");
-  ::close(ends[0]);
-  ::close(ends[1]);
-  return megabytes;
-}
-
 }  // namespace
 
 int main() {
   const LargeLibrary library;
-  bench::Music large = library.music();
-  // The memory for filling the index must not count as the phone's.
-  large.remember = [remember = large.remember](const std::filesystem::path& index) {
-    in_a_process([&] { remember(index); });
-  };
+  const bench::Music large = bench::filled_apart(library.music());
   const host::launcher::ThrowawayFolder nothing;
-  const double without = megabytes_in_a_process({{nothing.path()}, {}}, 0);
-  const double more = megabytes_in_a_process(large, LargeLibrary::kSongs) - without;
+  const double without = bench::number_from_a_process([&] {
+    return megabytes_of({{nothing.path()}, {}}, 0);
+  });
+  const double more =
+      bench::number_from_a_process([&] { return megabytes_of(large, LargeLibrary::kSongs); }) -
+      without;
   std::printf(
       "the panel with 100,000 songs and 5,000 covers: %.1f MB above the empty library "
       "(aim: at most %g)%s\n",
