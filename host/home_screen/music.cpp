@@ -11,7 +11,6 @@
 #include "host/launcher/installation.h"
 #include "host/media_player/exports.h"
 #include "host/media_player/media_service.h"
-#include "host/runtime/log.h"
 #include "host/runtime/progress_line.h"
 
 namespace host::launcher {
@@ -68,10 +67,7 @@ MusicStart start_music(const ProcessOptions& options, OnMusicProgress on_progres
     lines(progress);
     if (on_progress) on_progress(progress);
   };
-  if (const auto problem = media_player::MediaService::start(std::move(media))) {
-    spdlog::error("there is no music: {}", *problem);
-    return MusicStart::kReady;
-  }
+  media_player::MediaService::start(std::move(media));
   return is_first ? MusicStart::kAwaited : MusicStart::kReady;
 }
 

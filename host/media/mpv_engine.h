@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,7 +15,9 @@ struct mpv_event;
 
 namespace host::media {
 
-// libmpv without its configuration, scripts and windows: sound only.
+// libmpv without its configuration, scripts and windows: sound only. It is loaded and started with
+// the first file, since it brings a hundred libraries; until then properties have the values that
+// they will start with.
 class MpvEngine {
  public:
   struct Option {
@@ -24,13 +27,15 @@ class MpvEngine {
   // The engine's name for a file in its list. It is never given twice.
   using Entry = std::int64_t;
 
-  // Null when the engine cannot be created or does not know an option. `signal` is raised when
-  // there are events.
-  static std::unique_ptr<MpvEngine> create(const std::vector<Option>& options, EventSignal& signal);
+  // `signal` is raised when there are events.
+  MpvEngine(const std::vector<Option>& options, EventSignal& signal);
   ~MpvEngine();
   MpvEngine(const MpvEngine&) = delete;
   MpvEngine& operator=(const MpvEngine&) = delete;
 
+  // False when the engine cannot be created or does not know an option.
+  bool start();
+  bool is_started() const { return handle_ != nullptr; }
   // Replaces the list by this file, which is then opened. Nothing when the engine refuses it.
   std::optional<Entry> load(const std::string& path);
   // Puts the file at the end of the list; an engine that has come to the end continues with it.
@@ -53,11 +58,11 @@ class MpvEngine {
     void operator()(mpv_handle* handle) const;
   };
 
-  MpvEngine();
-  bool start(const std::vector<Option>& options, EventSignal& signal);
   std::optional<Entry> add(const std::string& path, const char* how);
 
-  std::unique_ptr<mpv_handle, Destroy> handle_;
+  EventSignal& signal_;
+  std::map<std::string, std::string> first_values_;
+  std::unique_ptr<mpv_handle, Destroy> handle_;  // Null until the engine is started.
 };
 
 }  // namespace host::media

@@ -1,7 +1,6 @@
 #include "host/media/mpv_player.h"
 
 #include <fmt/core.h>
-#include <mpv/client.h>
 
 #include <algorithm>
 #include <cmath>
@@ -10,6 +9,7 @@
 
 #include "host/basics/program_identity.h"
 #include "host/media/log.h"
+#include "host/media/mpv_library.h"
 #include "host/media/plain_file.h"
 
 namespace host::media {
@@ -60,26 +60,18 @@ const char* engine_name(ReplayGain gain) {
   return "no";
 }
 
+std::vector<MpvEngine::Option> engine_options(const MpvOptions& options) {
+  if (options.pace == PlayerPace::stepped)
+    return {std::begin(stepped_options), std::end(stepped_options)};
+  std::vector<MpvEngine::Option> real{std::begin(real_options), std::end(real_options)};
+  real.push_back({"ao", options.audio_output.c_str()});
+  return real;
+}
+
 }  // namespace
 
-std::unique_ptr<MpvPlayer> MpvPlayer::create(MpvOptions options) {
-  std::unique_ptr<MpvPlayer> player{new MpvPlayer{std::move(options)}};
-  if (player->prepare()) return player;
-  log_warning("the playback engine cannot be started");
-  return nullptr;
-}
-
-bool MpvPlayer::prepare() {
-  std::vector<MpvEngine::Option> options;
-  if (is_stepped()) {
-    options.assign(std::begin(stepped_options), std::end(stepped_options));
-  } else {
-    options.assign(std::begin(real_options), std::end(real_options));
-    options.push_back({"ao", options_.audio_output.c_str()});
-  }
-  engine_ = MpvEngine::create(options, signal_);
-  return engine_ != nullptr;
-}
+MpvPlayer::MpvPlayer(MpvOptions options)
+    : options_(std::move(options)), engine_(engine_options(options_), signal_) {}
 
 void MpvPlayer::load(const std::string& path) {
   ++loads_;
@@ -90,13 +82,21 @@ void MpvPlayer::load(const std::string& path) {
   sought_.reset();
   engine_position_ = 0;
   if (auto reason = reason_not_to_open(path); !reason.empty()) return refuse(std::move(reason));
+  // A phone that starts with a paused song does not wait for the engine.
+  if (is_stepped() || !is_paused_ || engine_.is_started()) open();
+}
+
+void MpvPlayer::open() {
+  const std::string& path = sound_.path;
   sound_.mark = std::make_unique<ReadingMark>(Reading::sound, path);
   if (!sound_.mark->may_read()) return refuse("has ended the phone before");
+  if (!engine_.start()) return refuse("needs a playback engine that cannot be started");
   // A file that the user has chosen is played at its own rate.
-  engine_->set("gapless-audio", "weak");
-  const auto entry = engine_->load(path);
+  engine_.set("gapless-audio", "weak");
+  const auto entry = engine_.load(path);
   if (!entry) return refuse("was refused by the playback engine");
   sound_.entry = *entry;
+  if (const auto next = std::exchange(next_, std::nullopt)) follow_with(next->path);
   if (!is_stepped()) return;
   // Opening takes real time, which does not advance a stepped clock: wait for it before the next
   // step.
@@ -109,7 +109,7 @@ void MpvPlayer::load(const std::string& path) {
 
 void MpvPlayer::refuse(std::string reason) {
   // What was playing before must not be heard under this name.
-  engine_->command({"stop"});
+  engine_.command({"stop"});
   sound_.mark.reset();
   loading_ = Loading::nothing;
   report({Report::failed, sound_.path, std::move(reason)});
@@ -117,16 +117,20 @@ void MpvPlayer::refuse(std::string reason) {
 
 void MpvPlayer::follow_with(const std::string& path) {
   if (is_stepped() || path == (next_ ? next_->path : std::string{})) return;
-  if (next_) engine_->command({"playlist-remove", "1"});
+  if (next_) engine_.command({"playlist-remove", "1"});
   next_.reset();
   // A file that cannot be opened is refused when it is loaded, with the reason.
   if (path.empty() || loading_ == Loading::nothing || !reason_not_to_open(path).empty()) return;
+  if (!engine_.is_started()) {
+    next_ = Sound{path, 0, nullptr};
+    return;
+  }
   auto mark = std::make_unique<ReadingMark>(Reading::sound, path);
   if (!mark->may_read()) return;
   // The device stays open whatever the formats are, and the second file is converted to that of the
   // first: opening it again takes a fifth of a second.
-  engine_->set("gapless-audio", "yes");
-  if (const auto entry = engine_->append(path)) next_ = Sound{path, *entry, std::move(mark)};
+  engine_.set("gapless-audio", "yes");
+  if (const auto entry = engine_.append(path)) next_ = Sound{path, *entry, std::move(mark)};
 }
 
 void MpvPlayer::play() {
@@ -139,7 +143,8 @@ void MpvPlayer::pause() {
 
 void MpvPlayer::set_paused(bool paused) {
   is_paused_ = paused;
-  engine_->set("pause", paused);
+  engine_.set("pause", paused);
+  if (!paused && loading_ == Loading::pending && !engine_.is_started()) open();
   if (!is_stepped()) return;
   if (paused) {
     stepped_.halt(now());
@@ -157,8 +162,8 @@ void MpvPlayer::stop() {
   loading_ = Loading::nothing;
   sought_.reset();
   if (is_stepped()) stepped_.jump(0, now());
-  engine_->command({"stop"});
-  if (is_stepped()) wait_until([this] { return engine_->text("path").empty(); });
+  engine_.command({"stop"});
+  if (is_stepped()) wait_until([this] { return engine_.text("path").empty(); });
 }
 
 void MpvPlayer::seek(double seconds) {
@@ -175,31 +180,31 @@ void MpvPlayer::seek_engine(double seconds) {
   // A file that is still being opened cannot seek; the seek follows when it is loaded.
   if (loading_ != Loading::loaded) return;
   const std::string target = fmt::format("{:.6f}", seconds);
-  if (!engine_->command({"seek", target.c_str(), "absolute+exact"})) sought_.reset();
+  if (!engine_.command({"seek", target.c_str(), "absolute+exact"})) sought_.reset();
   if (is_stepped()) wait_until([this] { return !sought_; });
 }
 
 void MpvPlayer::set_volume(double volume) {
   if (!std::isfinite(volume)) return;
   volume_ = std::clamp(volume, 0.0, 1.0);
-  engine_->set("volume", volume_ * loudest_percent);
+  engine_.set("volume", volume_ * loudest_percent);
 }
 
 void MpvPlayer::set_replay_gain(ReplayGain gain) {
-  engine_->set("replaygain", engine_name(gain));
+  engine_.set("replaygain", engine_name(gain));
 }
 
 double MpvPlayer::position() const {
   if (loading_ == Loading::nothing) return 0;
   // The beginning of a file that follows another is in the device's buffer at first.
-  if (!is_stepped()) return sought_ ? *sought_ : std::max(0.0, engine_->number("time-pos"));
+  if (!is_stepped()) return sought_ ? *sought_ : std::max(0.0, engine_.number("time-pos"));
   const double length = duration();
   const double position = stepped_.at(now());
   return length > 0 ? std::min(position, length) : position;
 }
 
 double MpvPlayer::duration() const {
-  return loading_ == Loading::loaded ? engine_->number("duration") : 0;
+  return loading_ == Loading::loaded ? engine_.number("duration") : 0;
 }
 
 void MpvPlayer::pump() {
@@ -211,7 +216,7 @@ void MpvPlayer::pump() {
 
 void MpvPlayer::drain() {
   for (;;) {
-    const mpv_event& event = engine_->next_event(0);
+    const mpv_event& event = engine_.next_event(0);
     if (event.event_id == MPV_EVENT_NONE) return;
     handle(event);
   }
@@ -253,7 +258,7 @@ void MpvPlayer::handle_start(MpvEngine::Entry entry) {
 
 // The engine tries again at each song, and plays into nothing until a device is there.
 void MpvPlayer::check_sound_device() {
-  const std::string output = engine_->text("current-ao");
+  const std::string output = engine_.text("current-ao");
   if (is_stepped() || options_.audio_output == silent_output || output.empty()) return;
   if (output != silent_output) {
     has_device_ = true;
@@ -271,9 +276,9 @@ void MpvPlayer::check_sound_device() {
 // Only files for speech have a lower rate than a CD. Music that follows one is worth the moment
 // that opening the device again takes.
 void MpvPlayer::check_sample_rate() {
-  const double rate = engine_->number("audio-out-params/samplerate");
+  const double rate = engine_.number("audio-out-params/samplerate");
   if (is_stepped() || rate <= 0 || rate >= lowest_rate_of_music) return;
-  if (rate < engine_->number("audio-params/samplerate")) engine_->command({"ao-reload"});
+  if (rate < engine_.number("audio-params/samplerate")) engine_.command({"ao-reload"});
 }
 
 void MpvPlayer::handle_end_of_file(const mpv_event& event) {
@@ -283,7 +288,7 @@ void MpvPlayer::handle_end_of_file(const mpv_event& event) {
     if (next_) return;
     report({Report::ended, {}, {}});
   } else if (end.reason == MPV_END_FILE_REASON_ERROR) {
-    report({Report::failed, sound_.path, mpv_error_string(end.error)});
+    report({Report::failed, sound_.path, mpv()->error_string(end.error)});
   } else {
     return;
   }
@@ -296,7 +301,7 @@ void MpvPlayer::wait_until(const std::function<bool()>& is_done) {
   // as one on a disconnected disk, keeps opening and stays silent until then.
   constexpr double slice_seconds = 0.05;
   for (double waited = 0; !is_done() && waited < longest_wait_seconds;) {
-    const mpv_event& event = engine_->next_event(slice_seconds);
+    const mpv_event& event = engine_.next_event(slice_seconds);
     if (event.event_id == MPV_EVENT_NONE) {
       waited += slice_seconds;
     } else {
@@ -349,10 +354,10 @@ EngineState MpvPlayer::engine() {
   const bool has_to_follow = is_stepped() && loading_ == Loading::loaded;
   if (has_to_follow && engine_position_ != position()) seek_engine(position());
   EngineState state;
-  state.path = engine_->text("path");
-  state.is_paused = engine_->flag("pause");
-  state.position_seconds = engine_->number("time-pos");
-  state.volume_percent = engine_->number("volume");
+  state.path = engine_.text("path");
+  state.is_paused = engine_.flag("pause");
+  state.position_seconds = engine_.number("time-pos");
+  state.volume_percent = engine_.number("volume");
   return state;
 }
 

@@ -43,8 +43,7 @@ struct MpvOptions {
 // stepped clock the clock says when a file is over, so nothing follows by itself.
 class MpvPlayer final : public Player {
  public:
-  // Null when the engine cannot be created; the log says why.
-  static std::unique_ptr<MpvPlayer> create(MpvOptions options);
+  explicit MpvPlayer(MpvOptions options);
 
   void set_listener(PlayerListener* listener) override { listener_ = listener; }
   void load(const std::string& path) override;
@@ -79,11 +78,9 @@ class MpvPlayer final : public Player {
     std::unique_ptr<ReadingMark> mark;  // Until it is first heard.
   };
 
-  explicit MpvPlayer(MpvOptions options) : options_(std::move(options)) {}
-
-  bool prepare();
   bool is_stepped() const { return options_.pace == PlayerPace::stepped; }
   double now() const { return options_.clock(); }
+  void open();
   void set_paused(bool paused);
   void drain();
   void handle(const mpv_event& event);
@@ -100,12 +97,12 @@ class MpvPlayer final : public Player {
 
   MpvOptions options_;
   EventSignal signal_;
-  std::unique_ptr<MpvEngine> engine_;
+  MpvEngine engine_;
   PlayerListener* listener_ = nullptr;
 
   Sound sound_;  // What is loaded.
   Loading loading_ = Loading::nothing;
-  std::optional<Sound> next_;
+  std::optional<Sound> next_;     // Without an entry until the engine is started.
   MpvEngine::Entry started_ = 0;  // What the engine last began to open.
   bool is_paused_ = true;
   double volume_ = 1;

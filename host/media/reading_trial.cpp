@@ -28,15 +28,14 @@ void decode(const std::string& path) {
 
 void begin_to_play(const std::string& path) {
   Ending ending;
-  const auto player = MpvPlayer::create({"null", PlayerPace::real, {}});
-  if (!player) return;
-  player->set_listener(&ending);
-  player->load(path);
-  player->play();
-  for (int i = 0; i < most_slices && !ending.is_over && player->position() <= 0; ++i) {
-    pollfd waiting{player->descriptor(), POLLIN, 0};
+  MpvPlayer player{{"null", PlayerPace::real, {}}};
+  player.set_listener(&ending);
+  player.load(path);
+  player.play();
+  for (int i = 0; i < most_slices && !ending.is_over && player.position() <= 0; ++i) {
+    pollfd waiting{player.descriptor(), POLLIN, 0};
     ::poll(&waiting, 1, slice_milliseconds);
-    player->pump();
+    player.pump();
   }
 }
 

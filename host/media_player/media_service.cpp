@@ -65,15 +65,13 @@ void report(const std::vector<Refusal>& refusals) {
 
 }  // namespace
 
-std::optional<std::string> MediaService::start(MediaOptions options) {
+void MediaService::start(MediaOptions options) {
   stop();
   media::keep_reading_marks(options.marks_path, &media::read_for_trial);
-  auto player = media::MpvPlayer::create(
-      {options.audio_output, options.pace, [] { return RunLoop::main().now(); }});
-  if (!player) return "the playback engine cannot be started";
+  auto player = std::make_unique<media::MpvPlayer>(
+      media::MpvOptions{options.audio_output, options.pace, [] { return RunLoop::main().now(); }});
   running().reset(new MediaService{std::move(options), std::move(player)});
   running()->feed_.start();
-  return std::nullopt;
 }
 
 void MediaService::stop() {

@@ -32,9 +32,8 @@ class MediaObserver {
 /// empty library and play nothing.
 class MediaService {
  public:
-  /// Starts the service. Requires the process's run loop and the exported classes. Returns the
-  /// reason when music is not possible at all, otherwise nothing.
-  static std::optional<std::string> start(MediaOptions options);
+  /// Starts the service. Requires the process's run loop and the exported classes.
+  static void start(MediaOptions options);
   /// Saves the playback state and releases everything. Call before the run loop is destroyed.
   static void stop();
   /// Returns null when the service is not running.

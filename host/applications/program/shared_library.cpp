@@ -6,7 +6,6 @@
 #include "host/foundation/device_paths.h"
 #include "host/media/index.h"
 #include "host/media_player/media_service.h"
-#include "host/runtime/log.h"
 
 namespace host::application {
 namespace {
@@ -24,8 +23,7 @@ void open_shared_library(bool is_stepped) {
   options.first_scan = media_player::FirstScan::kNever;
   options.pace = is_stepped ? media::PlayerPace::stepped : media::PlayerPace::real;
   options.audio_output = "null";
-  if (const auto problem = media_player::MediaService::start(std::move(options)))
-    spdlog::error("there is no music: {}", *problem);
+  media_player::MediaService::start(std::move(options));
 }
 
 void follow_shared_library(std::uint64_t library_number) {

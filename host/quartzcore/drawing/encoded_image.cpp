@@ -1,5 +1,7 @@
 #include "host/quartzcore/drawing/encoded_image.h"
 
+#include <utility>
+
 #include "host/runtime/log.h"
 
 namespace host::quartzcore {
@@ -26,8 +28,7 @@ Surface EncodedImage::pixels() {
 }
 
 void EncodedImage::decode() {
-  const DecodedImage decoded = decode_image(span_of(bytes_));
-  bytes_ = {};
+  const DecodedImage decoded = decode_image(span_of(std::exchange(bytes_, std::string())));
   if (!decoded.pixels) return spdlog::warn("{} cannot be decoded", name_);
   pixels_ = decoded.pixels;
   opacity_ = decoded.opacity;

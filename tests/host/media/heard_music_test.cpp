@@ -101,7 +101,8 @@ class HeardMusic : public testing::Test {
       pump_until([this] { return queue.state() == PlaybackState::stopped; });
     }
 
-    std::unique_ptr<MpvPlayer> player = MpvPlayer::create({"pulse", PlayerPace::real, {}});
+    std::unique_ptr<MpvPlayer> player =
+        std::make_unique<MpvPlayer>(MpvOptions{"pulse", PlayerPace::real, {}});
     QueuePlayer queue;
   };
 

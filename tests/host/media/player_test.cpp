@@ -35,8 +35,8 @@ TEST(SteppedPosition, RunsOnlyBetweenStartAndHalt) {
 class SteppedQueue : public testing::Test {
  protected:
   void SetUp() override {
-    player_ = MpvPlayer::create({"null", PlayerPace::stepped, [this] { return now_; }});
-    ASSERT_TRUE(player_);
+    player_ = std::make_unique<MpvPlayer>(
+        MpvOptions{"null", PlayerPace::stepped, [this] { return now_; }});
     write_tone(path(1), 30);
     write_tone(path(2), 20);
     write_tone(path(3), 4);
@@ -254,8 +254,7 @@ TEST(MpvPlayer, OpensNoPipe) {
   } reasons;
   const TemporaryFolder folder;
   ASSERT_EQ(::mkfifo((folder / "pipe.mp3").c_str(), 0600), 0);
-  const auto player = MpvPlayer::create({"null", PlayerPace::real, {}});
-  ASSERT_TRUE(player);
+  const auto player = std::make_unique<MpvPlayer>(MpvOptions{"null", PlayerPace::real, {}});
   player->set_listener(&reasons);
   for (const std::string& path : {folder / "pipe.mp3", std::string{"/dev/zero"}, folder.path()}) {
     player->load(path);
@@ -278,8 +277,8 @@ TEST(MpvPlayer, AMissingSoundDeviceIsOneLineAStart) {
   ::setenv("PIPEWIRE_REMOTE", "nowhere", 1);
   const CapturedLog log;
   testing::internal::CaptureStderr();
-  const auto player = MpvPlayer::create({"alsa,pipewire", PlayerPace::real, {}});
-  ASSERT_TRUE(player);
+  const auto player =
+      std::make_unique<MpvPlayer>(MpvOptions{"alsa,pipewire", PlayerPace::real, {}});
   player->set_listener(&ends);
   player->play();
   for (int song = 1; song <= 2; ++song) {
@@ -309,8 +308,7 @@ TEST(MpvPlayer, PlaysEveryKindOfSong) {
     write_tone(folder / name, 0.2);
     songs.push_back(folder / name);
   }
-  const auto player = MpvPlayer::create({"null", PlayerPace::real, {}});
-  ASSERT_TRUE(player);
+  const auto player = std::make_unique<MpvPlayer>(MpvOptions{"null", PlayerPace::real, {}});
   player->set_listener(&listener);
   player->play();
   for (int played = 0; const std::string& song : songs) {
@@ -339,8 +337,7 @@ TEST(MpvPlayer, PlaysInRealTimeAndWakesTheMainLoopAtTheEnd) {
   const TemporaryFolder folder;
   write_tone(folder / "short.wav", 0.4);
   write_bytes(folder / "letter.flac", "no music");
-  const auto player = MpvPlayer::create({"null", PlayerPace::real, {}});
-  ASSERT_TRUE(player);
+  const auto player = std::make_unique<MpvPlayer>(MpvOptions{"null", PlayerPace::real, {}});
   player->set_listener(&listener);
   player->load(folder / "short.wav");
   player->play();

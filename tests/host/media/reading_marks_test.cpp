@@ -107,7 +107,8 @@ class ReadingMarks : public testing::Test {
         reason = given;
       }
     } listener;
-    const auto player = MpvPlayer::create({"null", PlayerPace::stepped, [] { return 0.0; }});
+    const auto player =
+        std::make_unique<MpvPlayer>(MpvOptions{"null", PlayerPace::stepped, [] { return 0.0; }});
     player->set_listener(&listener);
     player->load(path);
     player->pump();

@@ -64,8 +64,8 @@ TEST_F(RealMusic, ATaggedSongSaysWhoMadeIt) {
 TEST_F(RealMusic, EverySongPlaysOrIsLoggedAndSkipped) {
   constexpr std::size_t most_unknown = 3;
   double now = 100;
-  const auto player = MpvPlayer::create({"null", PlayerPace::stepped, [&now] { return now; }});
-  ASSERT_TRUE(player);
+  const auto player =
+      std::make_unique<MpvPlayer>(MpvOptions{"null", PlayerPace::stepped, [&now] { return now; }});
   QueuePlayer queue{*player, [this](std::uint64_t id) -> SongFile {
                       return {std::string{outcome_.library->find(id)->path}, {}};
                     }};

@@ -51,7 +51,7 @@ class WatchedMusic : public host::test::MediaPlayerTest {
   }
 
   void start_and_play() {
-    ASSERT_FALSE(MediaService::start(watched()));
+    MediaService::start(watched());
     ASSERT_TRUE(waits_for([this] { return is_ready_; }));
     play("Bravo");
     ASSERT_TRUE(waits_for([this] { return is_playing(); }));

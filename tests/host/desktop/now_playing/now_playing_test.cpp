@@ -75,7 +75,7 @@ TEST_F(WhatIsPlaying, HasTheTagsOfTheLatestScan) {
   add_song("d.flac", "Delta Blues");
   auto options = this->options();
   options.pace = host::media::PlayerPace::real;
-  ASSERT_FALSE(host::media_player::MediaService::start(options));
+  host::media_player::MediaService::start(options);
   follow();
   ASSERT_EQ(now_playing->state().song->title, "Delta") << "as the scan before has left it";
   listen();
