@@ -11,11 +11,10 @@
 #include <string>
 #include <vector>
 
+#include "bench/media/small_songs.h"
 #include "bench/support/core_time.h"
-#include "host/demo_music/audio_file.h"
 #include "host/media/reading_trial.h"
 #include "host/media/scan.h"
-#include "host/media/tag_writer.h"
 
 namespace {
 
@@ -24,34 +23,12 @@ using host::media::Index;
 using host::media::ScanOutcome;
 
 constexpr std::size_t kSongs = 10'000;
-constexpr std::size_t kSongsInAlbum = 12;
 constexpr int kRuns = 3;
-constexpr int kRate = 16'000;
 
 void require(bool is_true, const char* what) {
   if (is_true) return;
   fmt::print(stderr, "wrong result: {}\n", what);
   std::exit(1);
-}
-
-void make_music(const fs::path& folder) {
-  const fs::path first = folder / "first.flac";
-  require(host::media::write_audio(first, std::vector<float>(kRate / 4, 0.1F), kRate), "a tone");
-  for (std::size_t i = 0; i < kSongs; ++i) {
-    const std::size_t album = i / kSongsInAlbum;
-    const fs::path place = folder / fmt::format("artist {}/album {}", album / 3, album);
-    fs::create_directories(place);
-    const fs::path song = place / fmt::format("{:02} a song.flac", i % kSongsInAlbum + 1);
-    fs::copy_file(first, song);
-    host::media::SongTags tags;
-    tags.title = fmt::format("Song number {}", i * 7919 % kSongs);
-    tags.artist = fmt::format("Artist {}", album / 3);
-    tags.album = fmt::format("Album {}", album);
-    tags.genre = "Benchmark";
-    tags.track_number = static_cast<int>(i % kSongsInAlbum) + 1;
-    require(host::media::write_tags(song, tags, {}), "tags");
-  }
-  fs::remove(first);
 }
 
 double milliseconds(const std::function<void()>& work) {
@@ -72,7 +49,7 @@ ScanOutcome scan(const fs::path& index_file, const std::vector<std::string>& roo
 }
 
 void measure(const fs::path& folder) {
-  make_music(folder / "music");
+  require(bench::make_small_songs(folder / "music", kSongs), "songs");
   const std::vector roots{(folder / "music").string()};
   const fs::path index_file = folder / "index.db";
   const fs::path marks_file = folder / "marks";
@@ -121,7 +98,6 @@ void measure(const fs::path& folder) {
 int main() {
   std::string name = (fs::temp_directory_path() / "scan-bench-XXXXXX").string();
   if (!::mkdtemp(name.data())) return 1;
-  fs::create_directories(fs::path{name} / "music");
   measure(name);
   fs::remove_all(name);
   return 0;
