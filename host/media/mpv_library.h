@@ -22,7 +22,8 @@ struct MpvLibrary {
   decltype(&mpv_free_node_contents) free_node_contents;
 };
 
-// Loads the library at the first call; null when it is not there. Main thread only.
+// Loads the library at the first call, which takes a tenth of a second or more; null when it is not
+// there. For any thread.
 const MpvLibrary* mpv();
 
 }  // namespace host::media

@@ -27,8 +27,6 @@ constexpr double unseen_drift_seconds = 0.05;
 constexpr MpvEngine::Option real_options[] = {
     {"audio-channels", "stereo"},
     {"prefetch-playlist", "yes"},
-    // Without a device nobody hears how much is played at once, and the phone rests longer.
-    {"ao-null-buffer", "0.5"},
     {"replaygain-clip", "no"},
     // What the desktop's mixer shows.
     {"audio-client-name", kProgramName},
@@ -86,7 +84,21 @@ void MpvPlayer::load(const std::string& path) {
   if (is_stepped() || !is_paused_ || engine_.is_started()) open();
 }
 
+// Loading takes several frames of the screen, so a thread does it; the song is opened afterwards.
+bool MpvPlayer::has_library() {
+  if (is_stepped() || has_library_) return true;
+  if (!library_loader_.joinable()) {
+    library_loader_ = std::jthread{[this] {
+      mpv();
+      has_library_ = true;
+      signal_.raise();
+    }};
+  }
+  return false;
+}
+
 void MpvPlayer::open() {
+  if (!has_library()) return;
   const std::string& path = sound_.path;
   sound_.mark = std::make_unique<ReadingMark>(Reading::sound, path);
   if (!sound_.mark->may_read()) return refuse("has ended the phone before");
@@ -209,6 +221,7 @@ double MpvPlayer::duration() const {
 
 void MpvPlayer::pump() {
   signal_.clear();
+  if (has_library_ && loading_ == Loading::pending && !engine_.is_started()) open();
   drain();
   if (is_stepped()) follow_clock();
   deliver();

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -81,6 +83,7 @@ class MpvPlayer final : public Player {
   bool is_stepped() const { return options_.pace == PlayerPace::stepped; }
   double now() const { return options_.clock(); }
   void open();
+  bool has_library();
   void set_paused(bool paused);
   void drain();
   void handle(const mpv_event& event);
@@ -114,6 +117,8 @@ class MpvPlayer final : public Player {
   bool has_complained_ = false;
   int loads_ = 0;
   std::vector<Report> reports_;
+  std::atomic<bool> has_library_ = false;
+  std::jthread library_loader_;  // Last, so it ends before the members that it uses are destroyed.
 };
 
 }  // namespace host::media
