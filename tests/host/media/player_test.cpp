@@ -272,7 +272,7 @@ TEST(MpvPlayer, AMissingSoundDeviceIsOneLineAStart) {
     void player_did_fail(const std::string&, const std::string&) override {}
   } ends;
   const TemporaryFolder folder;
-  write_tone(folder / "short.wav", 0.1);
+  write_tone(folder / "short.wav", 0.6);
   ::setenv("ALSA_CONFIG_PATH", "/dev/null", 1);
   ::setenv("PIPEWIRE_REMOTE", "nowhere", 1);
   const CapturedLog log;
