@@ -19,7 +19,9 @@ class EncodedImage final : public PixelSource {
   int width() const { return header_.width; }
   int height() const { return header_.height; }
   /// Of the decoded pixels.
-  std::size_t byte_count() const { return std::size_t{4} * width() * height(); }
+  std::size_t byte_count() const {
+    return 4 * static_cast<std::size_t>(width()) * static_cast<std::size_t>(height());
+  }
 
   /// Null if the bytes turn out to be damaged.
   Surface pixels() override;
