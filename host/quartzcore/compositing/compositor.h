@@ -28,7 +28,7 @@ class Compositor {
   Damage render(std::span<const CALayer> roots, double now);
 
   /// Blurs the pictures behind faded-out backdrops in advance, so that no frame of their fade has
-  /// to, and takes the memory that the first fade needs. To be called between frames; nearly free
+  /// to. To be called between frames; nearly free
   /// when nothing has changed.
   void prepare_ahead(std::span<const CALayer> roots, double now);
 
@@ -151,7 +151,6 @@ class Compositor {
   std::uint64_t last_changes_ = 0;
   bool last_animated_ = false;
   bool damage_all_ = true;
-  bool has_reserved_ = false;
   std::uint64_t state_ahead_ = 0;
   std::uint64_t frames_ = 0;
   std::uint64_t painted_pixels_ = 0;

@@ -1,13 +1,9 @@
 #include "host/quartzcore/compositing/compositor.h"
 #include "host/quartzcore/kinds/backdrop_layer.h"
-#include "host/quartzcore/pixels/pixel_memory.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
 namespace {
-
-// What fades in, and what is below it.
-constexpr int kScreensOfAFade = 2;
 
 std::uint64_t mix_place(std::uint64_t state, const Layer& layer) {
   const CGAffineTransform t = layer.model.properties.to_super();
@@ -35,10 +31,6 @@ std::uint64_t state_of_pictures() {
 }  // namespace
 
 void Compositor::prepare_ahead(std::span<const CALayer> roots, double now) {
-  if (!std::exchange(has_reserved_, true)) {
-    const auto bytes = static_cast<std::size_t>(screen_.area()) * sizeof(std::uint32_t);
-    pixel_memory().reserve(bytes, kScreensOfAFade);
-  }
   const std::uint64_t state = state_of_pictures();
   if (std::exchange(state_ahead_, state) == state) return;
   tree_ahead_.prepare(roots, screen_, scale_, now, RenderTree::FadedOut::Included);

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <utility>
-#include <vector>
 
 namespace host::quartzcore {
 namespace {
@@ -52,20 +51,6 @@ void PixelMemory::give_back(Block block) {
     kept_ -= blocks_.back().size;
     blocks_.pop_back();
   }
-}
-
-void PixelMemory::reserve(std::size_t size, int count) {
-  std::vector<Block> blocks;
-  for (int i = 0; i < count; ++i) {
-    const Block block = take(size, Contents::Anything);
-    if (!block.bytes) break;
-    std::memset(block.bytes, 0, size);
-    // Not for nothing, as the compiler could think.
-    asm volatile("" : : "r"(block.bytes) : "memory");
-    blocks.push_back(block);
-  }
-  for (const Block& block : blocks)
-    give_back(block);
 }
 
 std::size_t PixelMemory::kept() const {

@@ -31,9 +31,6 @@ class PixelMemory {
   /// Returns a block of at least `size` bytes; a null block when out of memory.
   Block take(std::size_t size, Contents contents);
   void give_back(Block block);
-  /// Keeps that many blocks of `size` bytes, touched, so that the first animation finds them: a new
-  /// screen takes a thousand page faults, which cost more than painting it.
-  void reserve(std::size_t size, int count);
   std::size_t kept() const;
 
  private:

@@ -49,15 +49,6 @@ TEST(PixelMemory, KeepsNoMoreThanItsLimit) {
   EXPECT_EQ(memory.kept(), PixelMemory::kMostKept);
 }
 
-TEST(PixelMemory, WhatIsReservedServesTheNext) {
-  PixelMemory memory;
-  memory.reserve(kMegabyte, 2);
-  EXPECT_EQ(memory.kept(), 2 * kMegabyte);
-  const auto block = memory.take(kMegabyte, Contents::Anything);
-  EXPECT_EQ(memory.kept(), kMegabyte);
-  memory.give_back(block);
-}
-
 TEST(PixelMemory, SmallBlocksAreNotKept) {
   PixelMemory memory;
   memory.give_back(memory.take(PixelMemory::kLeastKept - 1, Contents::Anything));
