@@ -31,7 +31,7 @@ TEST_F(DesktopWindow, TheWheelScrollsAListInAnApplicationAndTurnsPagesOfTheHomeS
     media_tests::write_tone(music() / ("tone-" + std::to_string(i) + ".flac"));
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
-  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
   ASSERT_EQ(phone.ask("system open com.apple.Music"), "ok");
   ASSERT_TRUE(answers(phone, "process Music", "ok"));
   const std::string at_top =
@@ -58,7 +58,7 @@ TEST_F(DesktopWindow, TheWheelScrollsAListInAnApplicationAndTurnsPagesOfTheHomeS
 TEST_F(DesktopWindow, KeysWorkThePlayerAndTheRightButtonHoldsAnIcon) {
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
-  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
   const std::string plays = "print [[SBMediaController sharedInstance] isPlaying]";
   ASSERT_EQ(phone.ask(plays), "NO");
   display.press("space");
@@ -83,7 +83,7 @@ TEST_F(DesktopWindow, KeysWorkThePlayerAndTheRightButtonHoldsAnIcon) {
 TEST_F(DesktopWindow, TheKeyboardAloneOpensAnApplication) {
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
-  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
   ASSERT_TRUE(answers(phone, "rest", "ok"));
   const std::string mode = "print [[LAActivator sharedInstance] currentEventMode]";
   EXPECT_EQ(phone.ask(mode), R"("springboard")");
@@ -95,7 +95,7 @@ TEST_F(DesktopWindow, TheKeyboardAloneOpensAnApplication) {
 TEST_F(DesktopWindow, ShowsInTheStatusBarThatTheDiskIsFullForAnApplication) {
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
-  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
   ASSERT_EQ(phone.ask("system open com.apple.Preferences"), "ok");
   ASSERT_TRUE(answers(phone, "process Preferences", "ok"));
   const std::string number = phone.ask("print [[NSProcessInfo processInfo] processIdentifier]");
@@ -116,7 +116,7 @@ TEST_F(DesktopWindow, ShowsInTheStatusBarThatTheDiskIsFullForAnApplication) {
 TEST_F(DesktopWindow, FillsTheDisplayAndReturns) {
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
-  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
   const Frame before = display.frame();
   EXPECT_GT(before.height, before.width);
   for (const char* keys : {"F11", "alt+Return"}) {
@@ -132,13 +132,13 @@ TEST_F(DesktopWindow, IsLargerOnAScaledDesktopAndRemembersItsSize) {
   {
     DesktopDisplay display;
     RunningPhone phone(in_a_window());
-    ASSERT_TRUE(display.has_window("sonavue"));
+    ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
     plain = display.frame();
   }
   {
     DesktopDisplay display("Xft.dpi: 120\n");
     RunningPhone phone(in_a_window());
-    ASSERT_TRUE(display.has_window("sonavue"));
+    ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
     EXPECT_NEAR(display.frame().width, plain.width * 1.25, 1);
     EXPECT_NEAR(display.frame().height, plain.height * 1.25, 1);
     display.resize(500, 700);
@@ -152,7 +152,7 @@ TEST_F(DesktopWindow, IsLargerOnAScaledDesktopAndRemembersItsSize) {
   }
   DesktopDisplay display;
   RunningPhone phone(in_a_window());
-  ASSERT_TRUE(display.has_window("sonavue"));
+  ASSERT_TRUE(display.has_window("sonavue")) << phone.errors();
   EXPECT_EQ(display.frame().width, 500);
   EXPECT_EQ(display.frame().height, 700);
 }

@@ -8,6 +8,7 @@
 
 #include <charconv>
 #include <cstdlib>
+#include <filesystem>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -100,7 +101,13 @@ DesktopDisplay::DesktopDisplay(const std::string& resources) {
     contents.end_writing();
     waitpid(merge, nullptr, 0);
   }
-  manager_ = start({"openbox"});
+  // A window that appears while the manager takes the screen over may be shown by neither.
+  const std::string ready = (std::filesystem::temp_directory_path() /
+                             ("openbox-" + name + "-" + std::to_string(getpid())))
+                                .string();
+  manager_ = start({"openbox", "--startup", "touch " + ready});
+  for (int look = 0; look < kLooks && unlink(ready.c_str()) != 0; ++look)
+    usleep(kBetweenLooks);
 }
 
 DesktopDisplay::~DesktopDisplay() {
