@@ -3,22 +3,16 @@
 
 #include <fmt/core.h>
 #include <sys/resource.h>
-#include <time.h>
 
 #include <chrono>
 #include <string>
 #include <vector>
 
+#include "bench/support/core_time.h"
 #include "host/media/reading_trial.h"
 #include "host/media/scan.h"
 
 namespace {
-
-double process_seconds() {
-  timespec time;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
 
 double most_megabytes() {
   rusage usage{};
@@ -37,11 +31,11 @@ int main(int count, char** words) {
   const std::string index_file = words[2];
   host::media::keep_reading_marks(index_file + ".marks", &host::media::read_for_trial);
   const auto start = std::chrono::steady_clock::now();
-  const double core = process_seconds();
+  const double core = bench::process_seconds();
   host::media::Index index{index_file};
   const auto outcome =
       host::media::scan_folders(index, roots, [](const host::media::ScanProgress&) {});
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   fmt::print("{} {:.6f} {:.6f} {:.1f}\n", outcome.library->tracks().size(), seconds.count(),
-             process_seconds() - core, most_megabytes());
+             bench::process_seconds() - core, most_megabytes());
 }

@@ -87,7 +87,7 @@ class Command {
   [[noreturn]] static void run(const fs::path& root, const std::vector<fs::path>& music,
                                Screen screen) {
     ::setenv("SDL_VIDEODRIVER", "dummy", 1);
-    // The desktop of whoever measures is left alone.
+    // The phone must not appear on the message bus of this desktop.
     ::setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere", 1);
     const fs::path program =
         host::launcher::find_installation().home_screen.parent_path() / "sonavue";

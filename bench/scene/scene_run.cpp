@@ -1,7 +1,5 @@
 #include "bench/scene/scene_run.h"
 
-#include <time.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -9,18 +7,13 @@
 #include <vector>
 
 #include "bench/scene/picture.h"
+#include "bench/support/core_time.h"
 #include "bench/support/figures.h"
 
 namespace bench {
 namespace {
 
 constexpr std::array kKinds = {SceneKind::kPart, SceneKind::kFull, SceneKind::kBlur};
-
-double process_seconds() {
-  timespec time;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
 
 }  // namespace
 
