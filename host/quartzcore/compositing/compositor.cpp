@@ -143,16 +143,21 @@ int Compositor::first_needed(const PixelRect& damage, int group, int end) const 
   return -1;
 }
 
+/// True if a group above the node, but below the group `outer`, has a picture of its own.
+bool Compositor::is_in_group(int index, int outer) const {
+  for (int p = node(index).parent; p > outer; p = node(p).parent) {
+    if (node(p).is_group) return true;
+  }
+  return false;
+}
+
 /// True if the drawing is part of no other picture than that of the screen (-1) or the group, and
 /// covers its place there.
 bool Compositor::hides_what_is_below(int index, int group) const {
   const RenderNode& one = node(index);
   if (!one.is_opaque || one.is_group) return false;
   if (one.layer->backdrop && !backdrop_is_ready(one)) return false;
-  for (int p = one.parent; p > group; p = node(p).parent) {
-    if (node(p).is_group) return false;
-  }
-  return true;
+  return !is_in_group(index, group);
 }
 
 // A blurred picture is kept for as long as its backdrop may come back. Screen-sized copies are too

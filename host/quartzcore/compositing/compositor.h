@@ -102,6 +102,7 @@ class Compositor {
   static Damage merged(const Changes& changes);
   Part part_of(const PixelRect& damage, int end) const;
   int first_needed(const PixelRect& damage, int group, int end) const;
+  bool is_in_group(int index, int outer = -1) const;
   bool hides_what_is_below(int index, int group) const;
   void forget_unused();
 

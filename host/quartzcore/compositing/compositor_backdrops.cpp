@@ -53,10 +53,7 @@ bool Compositor::can_update(int index, const PixelRect& unknown) const {
   const auto found = backdrops_.find(one.serial);
   if (found == backdrops_.end() || intersects(one.own, unknown)) return false;
   const CachedBackdrop& cached = found->second;
-  for (int i = one.parent; i >= 0; i = node(i).parent) {
-    if (node(i).is_group) return false;
-  }
-  return one.is_plain && !one.is_group && cached.last_ready + 1 == frames_ &&
+  return one.is_plain && !one.is_group && !is_in_group(index) && cached.last_ready + 1 == frames_ &&
          cached.place == one.own && !cached.source.pixels.empty() &&
          cached.source.reduction == reduction_for(one.layer->backdrop->look(), scale_);
 }
@@ -85,8 +82,8 @@ void Compositor::blur(const RenderNode& one, SmallPicture behind) {
   ++blurs_;
   BackdropLayer& backdrop = *one.layer->backdrop;
   CachedBackdrop& cached = backdrops_[one.serial];
-  const bool is_in_group = canvases_.size() > 1;
-  cached.source = one.lone_picture < 0 && !is_in_group ? behind : SmallPicture{};
+  const bool is_on_screen = canvases_.size() <= 1;
+  cached.source = one.lone_picture < 0 && is_on_screen ? behind : SmallPicture{};
   backdrop.note_luminance(filter_backdrop(behind, backdrop.look(), scale_));
   cached.behind = one.behind;
   cached.frame = frames_;

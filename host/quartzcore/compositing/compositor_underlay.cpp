@@ -10,11 +10,8 @@ int Compositor::fading_node(const Changes& changes) const {
     if (change.node < 0 || !change.place.contains(screen_)) continue;
     if (first < 0 || change.node < first) first = change.node;
   }
-  if (first < 0 || first_needed(screen_, -1, node_count()) >= first) return -1;
-  for (int i = node(first).parent; i >= 0; i = node(i).parent) {
-    if (node(i).is_group) return -1;
-  }
-  return first;
+  const bool is_seen_through = first >= 0 && first_needed(screen_, -1, node_count()) < first;
+  return is_seen_through && !is_in_group(first) ? first : -1;
 }
 
 // From the second frame of a fade on, what is below is painted only where it changes.
