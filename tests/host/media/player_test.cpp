@@ -292,6 +292,28 @@ TEST(MpvPlayer, AMissingSoundDeviceIsOneLineAStart) {
   EXPECT_EQ(log.count("no sound device"), 1);
 }
 
+void pump_until_heard(MpvPlayer& player) {
+  pollfd waiting{player.descriptor(), POLLIN, 0};
+  for (int look = 0; player.position() <= 0 && look < 3000; ++look) {
+    ::poll(&waiting, 1, 10);
+    player.pump();
+  }
+}
+
+// The engine is loaded by a thread, while the user goes on.
+TEST(MpvPlayer, TheLatestSongIsOpenedOnceTheEngineIsLoaded) {
+  const TemporaryFolder folder;
+  for (const char* name : {"first.wav", "second.wav"})
+    write_tone(folder / name, 5);
+  MpvPlayer player{MpvOptions{"null", PlayerPace::real, {}}};
+  player.play();
+  player.load(folder / "first.wav");
+  player.load(folder / "second.wav");
+  EXPECT_EQ(player.engine().path, "");
+  pump_until_heard(player);
+  EXPECT_EQ(player.engine().path, folder / "second.wav");
+}
+
 TEST(MpvPlayer, PlaysEveryKindOfSong) {
   struct Listener : PlayerListener {
     int ends = 0;
