@@ -20,7 +20,7 @@ constexpr std::string_view kUpgrade =
     "Connection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
     "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n\r\n";
 
-/// What inputs have in place of the token of the link, which nobody can guess.
+/// What inputs have in place of the token of the link, which no input can guess.
 const std::string kToken(Access::kKeyLength, '0');
 
 Descriptor visit(int listener, std::string_view bytes) {
@@ -42,8 +42,8 @@ std::string frame(const FromPage& message) {
 
 }  // namespace
 
-/// Lets a visitor of the phone's page send these bytes behind its handshake. Checks that nobody
-/// without the token sees or uses the phone, and that its user can afterwards.
+/// Lets a visitor of the phone's page send these bytes behind its handshake. Checks that no
+/// page without the token sees or uses the phone, and that its user can afterwards.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   spdlog::set_level(spdlog::level::off);
   constexpr int kTurns = 4;

@@ -17,8 +17,8 @@ struct ClockTimerHandle : objc::Bound<ClockTimerHandle, "__NSCFTimer", NSObject>
 // The platform's shortest interval, in seconds. A repeating timer with interval 0 would block the
 // loop.
 constexpr double kShortestInterval = 0.0001;
-// The share of its interval by which a repeating timer may be late. Its later ticks are none the
-// later for it.
+// The share of its interval by which a repeating timer may be late. Later ticks come at their own
+// times.
 constexpr double kTolerance = 0.1;
 
 class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {

@@ -9,7 +9,7 @@ class ViewSource {
  public:
   virtual ~ViewSource() = default;
   virtual Views views() = 0;
-  /// Describes one of the views that were listed last; empty when there is none at this place.
+  /// Describes one of the views that were listed last; empty if the index is invalid.
   virtual std::string description(std::uint32_t view) = 0;
 };
 

@@ -7,9 +7,9 @@
 
 namespace host::uikit {
 
-/// Returns the picture in a file of this machine, null when there is none. All who load it share
-/// one, which is decoded once, as long as somebody has it and for some time longer. A file that has
-/// changed is another picture. For any thread.
+/// Returns the picture in a file of this machine, null if the file is no picture. Callers share one
+/// picture per unchanged file; it is decoded once and kept while in use, small ones also for some
+/// time afterwards. Thread-safe.
 std::shared_ptr<quartzcore::EncodedImage> picture_of_file(const std::string& path);
 
 }  // namespace host::uikit

@@ -15,8 +15,8 @@ class AnimationRun : public std::enable_shared_from_this<AnimationRun> {
 
   void animation_added() { ++running_; }
   void animation_stopped(bool finished);
-  /// Counts as an animation that ends after so many seconds. All changes of the block that nobody
-  /// can see share one.
+  /// Counts as an animation that ends after so many seconds. All changes of the block
+  /// that are out of sight share one.
   void unseen_animation_added(double seconds);
   /// Called when the block has been run; no animation is added afterwards.
   void close();

@@ -46,7 +46,7 @@ class Image : public host::test::DrawingTest {
   NSString platform_path(const char* name) const {
     return NSString::stringWithUTF8String(path(name).c_str());
   }
-  /// An image that nobody else has.
+  /// An image with no other owner.
   objc::Ref<UIImage> load(const char* name) const {
     return objc::adopt(UIImage::alloc().initWithContentsOfFile(platform_path(name)));
   }
