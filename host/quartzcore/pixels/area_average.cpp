@@ -8,12 +8,13 @@
 #include <cstring>
 #include <vector>
 
+#include "host/quartzcore/pixels/wide_loops.h"
+
 namespace host::quartzcore {
 namespace {
 
 /// The four channels of a pixel in one register.
 using Channels = float __attribute__((vector_size(16)));
-using WholeChannels = std::int32_t __attribute__((vector_size(16)));
 /// The source pixels that one pixel of the copy covers; the first and the last may count partly.
 struct Stretch {
   Stretch(int index, double ratio) {
@@ -23,86 +24,54 @@ struct Stretch {
     // Rounding may put the end of the last stretch slightly beyond the source.
     last = static_cast<int>(end - 1e-6);
     first_weight = static_cast<float>(std::min(end, first + 1.0) - begin);
-    last_weight = static_cast<float>(end - last);
+    last_weight = last > first ? static_cast<float>(end - last) : 0;
   }
 
   int first;
   int last;
   float first_weight;
-  /// Only used when the last pixel is not the first.
+  /// 0 when the last pixel is the first.
   float last_weight;
 };
 
-constexpr std::size_t kBytes = 4;
+constexpr std::size_t kChannels = 4;
 
-enum class Sums { Replace, Add };
-
-using Sixteen = std::uint8_t __attribute__((vector_size(16)));
-using Eight = std::uint16_t __attribute__((vector_size(16)));
-
-Channels numbers(Eight halves) {
-  return __builtin_convertvector(reinterpret_cast<WholeChannels>(halves), Channels);
+SONAVUE_WIDE void begin_sums(const std::uint8_t* row, float weight, std::vector<float>& sums) {
+  for (std::size_t i = 0; i < sums.size(); ++i)
+    sums[i] = static_cast<float>(row[i]) * weight;
 }
 
-/// Converts sixteen bytes to the numbers of four pixels, by interleaving them with zeros.
-std::array<Channels, 4> four_pixels(const std::uint8_t* bytes) {
-  Sixteen packed;
-  std::memcpy(&packed, bytes, sizeof packed);
-  const auto low = reinterpret_cast<Eight>(__builtin_shufflevector(
-      packed, Sixteen{}, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23));
-  const auto high = reinterpret_cast<Eight>(__builtin_shufflevector(
-      packed, Sixteen{}, 8, 24, 9, 25, 10, 26, 11, 27, 12, 28, 13, 29, 14, 30, 15, 31));
-  const auto first = [](Eight halves) {
-    return numbers(__builtin_shufflevector(halves, Eight{}, 0, 8, 1, 9, 2, 10, 3, 11));
-  };
-  const auto second = [](Eight halves) {
-    return numbers(__builtin_shufflevector(halves, Eight{}, 4, 12, 5, 13, 6, 14, 7, 15));
-  };
-  return {first(low), second(low), first(high), second(high)};
+SONAVUE_WIDE void add_to_sums(const std::uint8_t* row, float weight, std::vector<float>& sums) {
+  for (std::size_t i = 0; i < sums.size(); ++i)
+    sums[i] += static_cast<float>(row[i]) * weight;
 }
 
-Channels one_pixel(const std::uint8_t* bytes) {
-  return Channels{static_cast<float>(bytes[0]), static_cast<float>(bytes[1]),
-                  static_cast<float>(bytes[2]), static_cast<float>(bytes[3])};
+/// Returns the channels of the pixel at `x` of a row.
+[[gnu::always_inline]] inline Channels pixel_at(const std::vector<float>& row, int x) {
+  Channels pixel;
+  std::memcpy(&pixel, row.data() + std::ptrdiff_t{x} * 4, sizeof pixel);
+  return pixel;
 }
 
-template <Sums kSums>
-void add_row(const std::uint8_t* row, float weight, std::vector<Channels>& sums) {
-  const auto add = [weight](Channels& sum, const Channels& pixel) {
-    sum = kSums == Sums::Replace ? pixel * weight : sum + pixel * weight;
-  };
-  std::size_t x = 0;
-  for (; x + 4 <= sums.size(); x += 4) {
-    const auto pixels = four_pixels(row + x * kBytes);
-    for (std::size_t i = 0; i < 4; ++i)
-      add(sums[x + i], pixels[i]);
+/// Adds up the columns of each pixel of the copy.
+void sum_columns(const std::vector<float>& columns, const std::vector<Stretch>& stretches,
+                 std::vector<float>& sums) {
+  float* to = sums.data();
+  for (const Stretch& stretch : stretches) {
+    Channels sum = pixel_at(columns, stretch.first) * stretch.first_weight;
+    for (int x = stretch.first + 1; x < stretch.last; ++x)
+      sum += pixel_at(columns, x);
+    sum += pixel_at(columns, stretch.last) * stretch.last_weight;
+    std::memcpy(to, &sum, sizeof sum);
+    to += kChannels;
   }
-  for (; x < sums.size(); ++x)
-    add(sums[x], one_pixel(row + x * kBytes));
 }
 
-/// Packs four numbers, each at most 255, into the bytes of a pixel in the same order.
-std::uint32_t packed(const WholeChannels& channels) {
-  std::array<std::uint32_t, 4> bytes;
-  std::memcpy(bytes.data(), &channels, sizeof channels);
-  if constexpr (std::endian::native == std::endian::little)
-    return bytes[0] | bytes[1] << 8 | bytes[2] << 16 | bytes[3] << 24;
-  return bytes[3] | bytes[2] << 8 | bytes[1] << 16 | bytes[0] << 24;
-}
-
-void write_row(const Channels* sums, const std::vector<Stretch>& columns, float scale,
-               std::uint8_t* out) {
-  const Channels half = Channels{} + 0.5F;
-  for (const Stretch& column : columns) {
-    Channels pixel = sums[column.first] * column.first_weight;
-    for (int x = column.first + 1; x < column.last; ++x)
-      pixel += sums[x];
-    if (column.last > column.first) pixel += sums[column.last] * column.last_weight;
-    const auto whole = __builtin_convertvector(pixel * scale + half, WholeChannels);
-    const std::uint32_t bytes = packed(whole);
-    std::memcpy(out, &bytes, sizeof bytes);
-    out += sizeof bytes;
-  }
+SONAVUE_WIDE void write_row(const std::vector<float>& sums, float scale, std::uint8_t* out) {
+  const float* const from = sums.data();
+  const std::size_t count = sums.size();
+  for (std::size_t i = 0; i < count; ++i)
+    out[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(from[i] * scale + 0.5F));
 }
 
 }  // namespace
@@ -122,13 +91,15 @@ Surface area_average(const Surface& source, int width, int height) {
   auto* to = cairo_image_surface_get_data(result.get());
   const std::ptrdiff_t to_stride = cairo_image_surface_get_stride(result.get());
   const auto scale = static_cast<float>(1 / (across * down));
-  std::vector<Channels> sums(static_cast<std::size_t>(width_of(source)));
+  std::vector<float> sums(static_cast<std::size_t>(width_of(source)) * kChannels);
+  std::vector<float> means(static_cast<std::size_t>(width) * kChannels);
   for (int y = 0; y < height; ++y) {
     const Stretch rows(y, down);
-    add_row<Sums::Replace>(from + rows.first * from_stride, rows.first_weight, sums);
+    begin_sums(from + rows.first * from_stride, rows.first_weight, sums);
     for (int row = rows.first + 1; row <= rows.last; ++row)
-      add_row<Sums::Add>(from + row * from_stride, row < rows.last ? 1.0F : rows.last_weight, sums);
-    write_row(sums.data(), columns, scale, to + y * to_stride);
+      add_to_sums(from + row * from_stride, row < rows.last ? 1.0F : rows.last_weight, sums);
+    sum_columns(sums, columns, means);
+    write_row(means, scale, to + y * to_stride);
   }
   cairo_surface_mark_dirty(result.get());
   return result;
