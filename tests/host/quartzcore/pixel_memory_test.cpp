@@ -1,6 +1,8 @@
 #include "host/quartzcore/pixels/pixel_memory.h"
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -47,6 +49,18 @@ TEST(PixelMemory, KeepsNoMoreThanItsLimit) {
   for (const auto& block : blocks)
     memory.give_back(block);
   EXPECT_EQ(memory.kept(), PixelMemory::kMostKept);
+}
+
+TEST(PixelMemory, ANewBlockHasAllItsPages) {
+  PixelMemory memory;
+  const auto block = memory.take(4 * kMegabyte, Contents::Anything);
+  const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const auto address = reinterpret_cast<std::uintptr_t>(block.bytes);
+  const std::uintptr_t first = (address + page - 1) / page * page;
+  std::vector<unsigned char> present((address + block.size - first) / page);
+  ASSERT_EQ(mincore(reinterpret_cast<void*>(first), present.size() * page, present.data()), 0);
+  EXPECT_TRUE(std::all_of(present.begin(), present.end(), [](auto one) { return one & 1; }));
+  memory.give_back(block);
 }
 
 TEST(PixelMemory, SmallBlocksAreNotKept) {
