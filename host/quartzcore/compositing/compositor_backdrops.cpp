@@ -144,7 +144,8 @@ void Compositor::paint_backdrop(int index, const PixelRect& damage, double opaci
   }
   CachedBackdrop& cached = backdrops_[one.serial];
   const Canvas& canvas = canvases_.back();
-  if (!cached.is_enlarged && cached.frame == frames_ && one.is_plain) {
+  // Enlarging costs no more than a copy. Only a fade, which mixes as well, is faster with one.
+  if (one.is_plain && (opacity >= 1 || cached.frame == frames_)) {
     const PixelRect part = intersection(one.own, damage);
     return paint_enlarged(cached.small, canvas.surface, one.own.x - canvas.x, one.own.y - canvas.y,
                           {part.x - canvas.x, part.y - canvas.y, part.width, part.height}, opacity);

@@ -57,19 +57,22 @@ std::uint16_t weight(int k, int reduction) {
   return static_cast<std::uint16_t>((kWhole * k + kWhole / 2) / reduction);
 }
 
-/// One row of a small picture as whole numbers, with its first and last pixel repeated once.
+/// Neighbouring pixels of a row of a small picture as whole numbers.
 using Line = std::vector<std::uint16_t>;
 
 std::uint16_t whole_number(float channel) {
   return static_cast<std::uint16_t>(channel + 0.5F);
 }
 
-Line whole_numbers(const SmallPicture& picture, int y) {
-  Line line(static_cast<std::size_t>(picture.width + 2) * 4);
-  for (int x = -1; x <= picture.width; ++x) {
-    const Channels& pixel = picture.row(y)[std::clamp(x, 0, picture.width - 1)];
+/// Returns `count` pixels of the row from `first` on. Pixels and rows beyond the edges repeat the
+/// last ones.
+Line whole_numbers(const SmallPicture& picture, int y, int first, int count) {
+  const Channels* row = picture.row(std::clamp(y, 0, picture.height - 1));
+  Line line(static_cast<std::size_t>(count) * 4);
+  for (int i = 0; i < count; ++i) {
+    const Channels& pixel = row[std::clamp(first + i, 0, picture.width - 1)];
     for (int channel = 0; channel < 4; ++channel)
-      line[static_cast<std::size_t>((x + 1) * 4 + channel)] =
+      line[static_cast<std::size_t>(i * 4 + channel)] =
           channel == 3 ? kOpaque : whole_number(pixel[channel]);
   }
   return line;
@@ -155,43 +158,50 @@ Spread spread_over(int reduction) {
   return reduction == 2 ? &spread_2 : reduction == 4 ? &spread_4 : &spread_8;
 }
 
-/// Computes the rows of the screen from the rows of a small picture.
+/// Computes a part of the enlarged picture, row by row.
 class Enlarger {
  public:
-  explicit Enlarger(const SmallPicture& picture)
-      : reduction_(picture.reduction), spread_(spread_over(picture.reduction)) {
-    for (int y = 0; y < picture.height; ++y)
-      lines_.push_back(whole_numbers(picture, y));
+  Enlarger(const SmallPicture& picture, const PixelRect& part)
+      : reduction_(picture.reduction),
+        spread_(spread_over(picture.reduction)),
+        first_line_(gap_at(part.y) - 1) {
+    const int first = gap_at(part.x) - 1;
+    const int count = gap_at(part.right() - 1) - first + 1;
+    for (int y = first_line_; y <= gap_at(part.bottom() - 1); ++y)
+      lines_.push_back(whole_numbers(picture, y, first, count));
     blended_.resize(lines_.front().size());
     row_.resize((blended_.size() - 4) * static_cast<std::size_t>(reduction_));
+    skipped_ = std::ptrdiff_t{from_middle(part.x) % reduction_} * 4;
   }
 
-  /// Returns the row `y` of the screen, which is valid until the next call.
+  /// Returns the part's pixels of the row `y`, which are valid until the next call.
   const std::uint8_t* row(int y) {
-    // The middle of the first square is half a square below the top.
-    const int from_middle = y + reduction_ / 2;
-    const int next = from_middle / reduction_;
+    const Line& line = line_at(gap_at(y));
     if (reduction_ == 1) {
-      const Line& line = lines_[static_cast<std::size_t>(y)];
-      std::copy(line.begin() + 4, line.end() - 4, row_.begin());
+      std::copy(line.begin() + 4, line.end(), row_.begin());
       return row_.data();
     }
-    blend_lines(line_at(next - 1), line_at(next), weight(from_middle % reduction_, reduction_),
+    blend_lines(line_at(gap_at(y) - 1), line, weight(from_middle(y) % reduction_, reduction_),
                 blended_);
     spread_(blended_, row_.data());
-    return row_.data() + std::ptrdiff_t{reduction_ / 2} * 4;
+    return row_.data() + skipped_;
   }
 
  private:
-  const Line& line_at(int i) const {
-    return lines_[static_cast<std::size_t>(std::clamp(i, 0, static_cast<int>(lines_.size()) - 1))];
-  }
+  /// The middle of the first square is half a square beyond the edge.
+  int from_middle(int pixel) const { return pixel + reduction_ / 2; }
+  /// The number of the square whose middle is the end of the pixel's gap between two middles.
+  int gap_at(int pixel) const { return from_middle(pixel) / reduction_; }
+  const Line& line_at(int i) const { return lines_[static_cast<std::size_t>(i - first_line_)]; }
 
   int reduction_;
   Spread spread_;
+  int first_line_;
   std::vector<Line> lines_;
   Line blended_;
   std::vector<std::uint8_t> row_;
+  // The bytes of a row before the part.
+  std::ptrdiff_t skipped_;
 };
 
 }  // namespace
@@ -255,13 +265,14 @@ PixelRect difference_enlarged(const SmallPicture& one, const SmallPicture& other
 
 void paint_enlarged(const SmallPicture& picture, const Surface& surface, int x, int y,
                     const PixelRect& damage, double opacity) {
+  if (damage.is_empty()) return;
   cairo_surface_flush(surface.get());
   std::uint8_t* bytes = cairo_image_surface_get_data(surface.get());
   const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface.get());
   const int share = share_of(opacity);
-  Enlarger enlarger(picture);
+  Enlarger enlarger(picture, {damage.x - x, damage.y - y, damage.width, damage.height});
   for (int at = damage.y; at < damage.bottom(); ++at) {
-    const std::uint8_t* from = enlarger.row(at - y) + std::ptrdiff_t{damage.x - x} * 4;
+    const std::uint8_t* from = enlarger.row(at - y);
     std::uint8_t* to = bytes + at * stride + std::ptrdiff_t{damage.x} * 4;
     blend_row(from, to, damage.width, share);
   }
