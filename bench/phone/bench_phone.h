@@ -24,6 +24,7 @@ class WatchedScreen final : public host::screen::Screen {
             std::span<const host::screen::PixelRect> damage) override {
     picture_ = picture;
     ++frames_;
+    if (shown_) shown_();
     if (next_) next_->show(picture, damage);
   }
   bool is_watched() const override { return !next_ || next_->is_watched(); }
@@ -33,6 +34,8 @@ class WatchedScreen final : public host::screen::Screen {
   }
   /// Null ends it.
   void pass_on_to(host::screen::Screen* next) { next_ = next; }
+  /// Sets the function that is called after each picture; empty ends it.
+  void on_show(std::function<void()> shown) { shown_ = std::move(shown); }
   const host::screen::Picture& picture() const { return picture_; }
   int frames() const { return frames_; }
 
@@ -40,6 +43,7 @@ class WatchedScreen final : public host::screen::Screen {
   host::screen::Picture picture_;
   int frames_ = 0;
   host::screen::Screen* next_ = nullptr;
+  std::function<void()> shown_;
 };
 
 /// The phone's model.

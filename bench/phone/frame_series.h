@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "bench/phone/bench_phone.h"
@@ -20,16 +21,21 @@ class Stopwatch {
  public:
   explicit Stopwatch(BenchPhone& phone) : phone_(phone) {}
 
-  /// Runs one frame that begins with `work`, a touch or nothing. A frame in which nothing was
-  /// painted is not counted: it would improve the result.
+  /// Runs one frame that begins with `work`, a touch or nothing. What is drawn at once and what
+  /// follows with the next frame are two pictures, each with its own time. Work without a picture
+  /// is not counted: it would improve the result.
   template <class Work>
   void frame(Series& series, Work work) {
-    const int before = phone_.screen().frames();
-    const double start = core_seconds();
+    const std::size_t before = series.frames.size();
+    double last = core_seconds();
+    phone_.screen().on_show([&] {
+      const double now = core_seconds();
+      series.frames.push_back(now - std::exchange(last, now));
+    });
     work();
     phone_.frame();
-    const double seconds = core_seconds() - start;
-    if (phone_.screen().frames() > before) series.frames.push_back(seconds);
+    phone_.screen().on_show({});
+    if (series.frames.size() > before) series.frames.back() += core_seconds() - last;
     copy_frame(series);
   }
   void frames(Series& series, int count) {

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <numeric>
 
 #include "bench/phone/frame_series.h"
 #include "bench/phone/large_library.h"
@@ -67,7 +68,8 @@ class SharedFrames {
     watch_.frame(here_, work);
     if (here_.frames.size() > painted) {
       there_.push_back(music_.seconds() - before);
-      both_.frames.push_back(here_.frames.back() + there_.back());
+      const auto first = here_.frames.begin() + static_cast<std::ptrdiff_t>(painted);
+      both_.frames.push_back(std::accumulate(first, here_.frames.end(), there_.back()));
     }
   }
   void print() {

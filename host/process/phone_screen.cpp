@@ -1,6 +1,7 @@
 #include "host/process/phone_screen.h"
 
 #include <cmath>
+#include <utility>
 
 #include "host/quartzcore/layers/screen_density.h"
 #include "host/quartzcore/service/layer_service.h"
@@ -19,6 +20,7 @@ PhoneScreen::PhoneScreen(RunLoop& loop, screen::Screen& screen)
 
 PhoneScreen::~PhoneScreen() {
   loop_.remove_turn_observer(observer_);
+  if (frame_request_) loop_.remove_frame_observer(*frame_request_);
 }
 
 void PhoneScreen::make_compositor(double scale) {
@@ -48,16 +50,31 @@ std::vector<CALayer> PhoneScreen::layers() const {
 
 void PhoneScreen::end_turn() {
   if (!screen_.is_watched()) return;
-  if (!loop_.wants_frames() || loop_.turn_has_frame()) draw();
+  const bool is_frame = loop_.turn_has_frame();
+  if (!is_frame && loop_.wants_frames()) return;
+  const bool has_drawn = !is_frame && drawn_frame_ == loop_.frame_number();
+  if (has_drawn && !compositor_->is_current(layers())) {
+    request_frame();
+  } else {
+    draw();
+  }
   // Nothing is animated: time to prepare for the next animation.
   if (!loop_.wants_frames()) compositor_->prepare_ahead(layers(), loop_.now());
+}
+
+void PhoneScreen::request_frame() {
+  frame_request_ = loop_.add_frame_observer([this](double) {
+    loop_.remove_frame_observer(*std::exchange(frame_request_, std::nullopt));
+  });
 }
 
 void PhoneScreen::draw() {
   follow_scale();
   quartzcore::Damage damage = compositor_->render(layers(), loop_.now());
   if (screen_.needs_everything()) damage = {compositor_->screen()};
-  if (!damage.empty()) screen_.show(picture(), damage);
+  if (damage.empty()) return;
+  drawn_frame_ = loop_.frame_number();
+  screen_.show(picture(), damage);
 }
 
 screen::Picture PhoneScreen::picture() const {

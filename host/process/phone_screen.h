@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -13,9 +14,10 @@
 
 namespace host::process {
 
-/// Draws the windows of this process at the end of every turn of the loop, and passes the changes
-/// to the screen. A turn without changes draws nothing. While frames are requested, only frames are
-/// drawn: turns between them would not be visible.
+/// Draws the windows of this process at the end of a turn of the loop, and passes the changes to
+/// the screen. A turn without changes draws nothing. What changes at rest is drawn at once; then,
+/// and while frames are requested, the next picture is that of the next frame: more would not be
+/// visible.
 class PhoneScreen {
  public:
   /// The order among the observers of a turn's end: after layout.
@@ -38,6 +40,7 @@ class PhoneScreen {
  private:
   void end_turn();
   void draw();
+  void request_frame();
   void follow_scale();
   void make_compositor(double scale);
   std::vector<CALayer> layers() const;
@@ -48,6 +51,9 @@ class PhoneScreen {
   std::unique_ptr<quartzcore::Compositor> compositor_;
   uikit::Focus focus_;
   RunLoop::Id observer_;
+  // The frame of the last picture.
+  std::int64_t drawn_frame_ = -1;
+  std::optional<RunLoop::Id> frame_request_;
   std::function<void()> rescaled_;
 };
 

@@ -83,7 +83,7 @@ void RunLoop::unwatch(Id watch) {
 RunLoop::Id RunLoop::add_frame_observer(std::function<void(double)> work) {
   if (frame_observers_.empty()) {
     // The screen's frames are on one fixed grid, whenever they are requested.
-    next_frame_ = (std::floor(now() / kFrame + kTimeTolerance) + 1) * kFrame;
+    next_frame_ = static_cast<double>(frame_number() + 1) * kFrame;
   }
   frame_observers_.push_back({++last_id_, std::move(work)});
   return last_id_;
@@ -91,6 +91,10 @@ RunLoop::Id RunLoop::add_frame_observer(std::function<void(double)> work) {
 
 void RunLoop::remove_frame_observer(Id observer) {
   remove_entry(frame_observers_, observer);
+}
+
+std::int64_t RunLoop::frame_number() const {
+  return static_cast<std::int64_t>(std::floor(now() / kFrame + kTimeTolerance));
 }
 
 RunLoop::Id RunLoop::add_turn_observer(int order, Work work) {

@@ -51,6 +51,8 @@ class RunLoop {
   Id add_frame_observer(std::function<void(double frame_time)> work);
   void remove_frame_observer(Id observer);
   bool wants_frames() const { return !frame_observers_.empty(); }
+  /// The number of the frame on the screen's grid that the clock is in.
+  std::int64_t frame_number() const;
   /// At a turn's end: true when the turn included a frame of the screen.
   bool turn_has_frame() const { return turn_has_frame_; }
 

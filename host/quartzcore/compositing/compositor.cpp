@@ -27,15 +27,17 @@ Compositor::Compositor(int width, int height, double scale)
       surface_(make_surface(width, height)),
       images_(kScreensOfImages * kBytesOfPixel * width * height) {}
 
+bool Compositor::is_current(std::span<const CALayer> roots) const {
+  return animated_layers().empty() && !last_animated_ && last_changes_ == layer_changes() &&
+         std::equal(roots.begin(), roots.end(), last_roots_.begin(), last_roots_.end());
+}
+
 Damage Compositor::render(std::span<const CALayer> roots, double now) {
-  const bool same_roots =
-      std::equal(roots.begin(), roots.end(), last_roots_.begin(), last_roots_.end());
-  const bool animated = !animated_layers().empty();
-  if (same_roots && !animated && !last_animated_ && last_changes_ == layer_changes()) return {};
+  if (is_current(roots)) return {};
   prepare_tree(roots, now);
   last_roots_.assign(roots.begin(), roots.end());
   last_changes_ = layer_changes();
-  last_animated_ = animated;
+  last_animated_ = !animated_layers().empty();
   std::vector<Entry> after = take_entries();
   Changes changes =
       std::exchange(damage_all_, false) ? Changes{{screen_, -1}} : find_changes(after);

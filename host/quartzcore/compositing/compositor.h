@@ -24,6 +24,9 @@ class Compositor {
   /// Sizes are in pixels; `scale` is in pixels per point.
   Compositor(int width, int height, double scale);
 
+  /// True if the surface already shows `roots`, and nothing in them moves.
+  bool is_current(std::span<const CALayer> roots) const;
+
   /// Updates the surface to show `roots`, drawn in order over black, at the clock time `now`.
   Damage render(std::span<const CALayer> roots, double now);
 

@@ -53,6 +53,46 @@ TEST_F(PhoneScreens, DrawWithThePixelsOfTheScreen) {
   EXPECT_EQ(quartzcore::screen_density(), 1 / current_device().scale);
 }
 
+// A mouse may report a thousand times a second.
+TEST_F(PhoneScreens, DrawAtMostOnePictureAFrame) {
+  process::PhoneScreen phone(loop, screen);
+  settle();
+  const UIWindow window = UIWindow::alloc().initWithFrame(CGRect(0, 0, 100, 100));
+  window.setHidden(false);
+  settle();
+  const std::size_t before = screen.widths.size();
+  const auto change = [&](int i) {
+    window.setBackgroundColor(UIColor::colorWithWhite(i / 32.0, 1));
+    advance(RunLoop::kFrame / 16);
+  };
+  change(1);
+  EXPECT_EQ(screen.widths.size(), before + 1) << "at rest, a change is drawn at once";
+  for (int i = 2; i <= 12; ++i)
+    change(i);
+  EXPECT_EQ(screen.widths.size(), before + 1);
+  advance(RunLoop::kFrame);
+  EXPECT_EQ(screen.widths.size(), before + 2) << "the last change is drawn with the next frame";
+  EXPECT_FALSE(loop.wants_frames());
+  settle();
+  EXPECT_EQ(screen.widths.size(), before + 2);
+  window.setHidden(true);
+}
+
+TEST_F(PhoneScreens, AChangeRightAfterAPictureMayOutliveTheScreen) {
+  {
+    process::PhoneScreen phone(loop, screen);
+    settle();
+    const UIWindow window = UIWindow::alloc().initWithFrame(CGRect(0, 0, 100, 100));
+    window.setHidden(false);
+    advance(0);
+    window.setBackgroundColor(UIColor::redColor());
+    advance(0);
+    EXPECT_TRUE(loop.wants_frames());
+    window.setHidden(true);
+  }
+  EXPECT_FALSE(loop.wants_frames());
+}
+
 TEST_F(PhoneScreens, ScreenshotsHaveTheDevicesPixels) {
   screen.wanted = 0.7;
   process::PhoneScreen phone(loop, screen);
