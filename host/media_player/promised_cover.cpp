@@ -51,9 +51,13 @@ quartzcore::Surface PromisedCover::pixels_for_frame() {
   return surface_of(picture);
 }
 
+bool PromisedCover::is_awaited() const {
+  return store_->pace() == CoverStore::Pace::NeverWaits && !store_->is_broken(cover_.key) &&
+         !store_->keeps(*this);
+}
+
 quartzcore::Opacity PromisedCover::opacity() const {
-  if (store_->is_broken(cover_.key)) return quartzcore::Opacity::Translucent;
-  const bool has_pixels = store_->pace() == CoverStore::Pace::Waits || store_->keeps(*this);
+  const bool has_pixels = !is_awaited() && !store_->is_broken(cover_.key);
   return has_pixels ? opacity_ : quartzcore::Opacity::Translucent;
 }
 

@@ -19,6 +19,7 @@ class PromisedCover final : public quartzcore::PixelSource,
 
   quartzcore::Surface pixels() override;
   quartzcore::Surface pixels_for_frame() override;
+  bool is_awaited() const override;
   quartzcore::Opacity opacity() const override;
   std::uint64_t revision() const override { return revision_; }
 

@@ -42,6 +42,7 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   Changes changes =
       std::exchange(damage_all_, false) ? Changes{{screen_, -1}} : find_changes(after);
   entries_ = std::move(after);
+  shown_.note(tree_.nodes());
   if (changes.empty() && !needs_backdrops()) return {};
   ++frames_;
   prepare_backdrops(changes);
@@ -61,12 +62,12 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
 // so this is repeated, but not without end.
 void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
   for (int round = 0; round < kMostRounds; ++round) {
-    tree_.prepare(roots, screen_, scale_, now);
+    tree_.prepare(roots, screen_, scale_, now, shown_);
     if (tree_.undrawn().empty()) return;
     for (const auto& layer : retained(tree_.undrawn()))
       layer->displayIfNeeded();
   }
-  tree_.prepare(roots, screen_, scale_, now);
+  tree_.prepare(roots, screen_, scale_, now, shown_);
 }
 
 std::vector<Compositor::Entry> Compositor::take_entries() const {

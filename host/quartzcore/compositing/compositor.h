@@ -144,6 +144,7 @@ class Compositor {
   RenderTree tree_;
   RenderTree tree_ahead_;
   ImageCache images_;
+  ShownPictures shown_;
   std::vector<Entry> entries_;
   // The screen at the bottom, groups above it: the canvases that a backdrop can see. A deque, since
   // a group begins its own while the one below is painted on.

@@ -33,7 +33,7 @@ std::uint64_t state_of_pictures() {
 void Compositor::prepare_ahead(std::span<const CALayer> roots, double now) {
   const std::uint64_t state = state_of_pictures();
   if (std::exchange(state_ahead_, state) == state) return;
-  tree_ahead_.prepare(roots, screen_, scale_, now, RenderTree::FadedOut::Included);
+  tree_ahead_.prepare(roots, screen_, scale_, now, shown_, RenderTree::FadedOut::Included);
   for (const RenderNode& one : tree_ahead_.nodes()) {
     if (one.lone_picture >= 0 && !one.own.is_empty() && !backdrop_is_ready(one))
       prepare_lone(tree_ahead_, one);

@@ -116,9 +116,9 @@ SmallPicture Compositor::small_picture_behind(const RenderNode& backdrop, int re
 // A picture that only a backdrop sees is never scaled to the screen.
 SmallPicture Compositor::small_copy_of(const RenderNode& shown, const PixelRect& place,
                                        int reduction) {
-  const Image& image = *shown.layer->model.contents.image();
-  const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(
-      shown.layer->model.contents.place_in(shown.properties.bounds), shown.to_device));
+  const Image& image = *shown.image;
+  const PixelRect box =
+      nearest_pixels(CGRectApplyAffineTransform(place_of_image(shown), shown.to_device));
   const Surface scaled =
       images_.scaled(image, std::max(1, box.width / reduction), std::max(1, box.height / reduction),
                      ImageCache::Pixels::Waited);

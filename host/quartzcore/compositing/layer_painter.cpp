@@ -58,10 +58,10 @@ PixelRect shown_pixels(const CGRect& rect) {
 
 /// True for what the layer has drawn for these pixels. The picture has whole pixels for any place
 /// of the layer, so it may be larger by one.
-bool is_drawn_for(const PixelRect& box, const Contents& contents) {
-  const int wider = contents.image()->width() - box.width;
-  const int higher = contents.image()->height() - box.height;
-  if (contents.density == 1) return wider == 0 && higher == 0;
+bool is_drawn_for(const PixelRect& box, const RenderNode& node) {
+  const int wider = node.image->width() - box.width;
+  const int higher = node.image->height() - box.height;
+  if (node.layer->model.contents.density == 1) return wider == 0 && higher == 0;
   return wider >= 0 && wider <= 1 && higher >= 0 && higher <= 1;
 }
 
@@ -144,7 +144,7 @@ void paint_plain(const Canvas& canvas, const RenderNode& node, const Surface& pi
   part.y -= canvas.y;
   const int x = place.x - canvas.x;
   const int y = place.y - canvas.y;
-  if (node.layer->model.contents.image()->is_opaque())
+  if (node.image->is_opaque())
     blend_opaque(pixels, canvas.surface, x, y, part, 1);
   else
     blend_over(pixels, canvas.surface, x, y, part);
@@ -155,20 +155,18 @@ void paint_clipped(const Canvas& canvas, const RenderNode& node, const Surface& 
   cairo_save(canvas.drawing.get());
   // Contents may extend beyond the bounds, unless the layer clips.
   if (node.layer->model.masks_to_bounds) clip_to_layer(canvas, node);
-  const Opacity kind =
-      node.layer->model.contents.image()->is_opaque() ? Opacity::Opaque : Opacity::Translucent;
+  const Opacity kind = node.image->is_opaque() ? Opacity::Opaque : Opacity::Translucent;
   paint_surface(canvas, pixels, place, opacity, kind);
   cairo_restore(canvas.drawing.get());
 }
 
 void paint_image(const Canvas& canvas, const RenderNode& node, const PixelRect& damage,
                  double opacity, ImageCache& images) {
-  const Contents& contents = node.layer->model.contents;
-  const Image& image = *contents.image();
-  const CGRect place = contents.place_in(node.properties.bounds);
+  const Image& image = *node.image;
+  const CGRect place = place_of_image(node);
   if (!(place.size.width > 0) || !(place.size.height > 0)) return;
   const PixelRect box = nearest_pixels(CGRectApplyAffineTransform(place, node.to_device));
-  const bool own_size = is_drawn_for(box, contents);
+  const bool own_size = is_drawn_for(box, node);
   if (!is_upright(node.to_device) || box.is_empty() || (node.is_scaling && !own_size))
     return paint_transformed_image(canvas, node, image, place, opacity);
   const Surface pixels = images.scaled(image, own_size ? image.width() : box.width,
@@ -207,7 +205,7 @@ void clip_to_layer(const Canvas& canvas, const RenderNode& node) {
 void paint_layer(const Canvas& canvas, const RenderNode& node, const PixelRect& damage,
                  double opacity, ImageCache& images) {
   if (!node.hides_background) paint_background(canvas, node, opacity);
-  if (node.layer->model.contents.image()) paint_image(canvas, node, damage, opacity, images);
+  if (node.image) paint_image(canvas, node, damage, opacity, images);
   if (node.layer->drawing) paint_drawing(canvas, node, opacity);
 }
 

@@ -25,7 +25,7 @@ std::uint64_t sign_drawing(const RenderNode& node) {
   }
   result = mix_signature(result, CGPoint{p.corner_radius, p.border_width});
   if (p.border_width > 0) result = mix_signature(result, p.border_color);
-  if (const Image* image = layer.model.contents.image()) {
+  if (const Image* image = node.image) {
     result = mix_signature(result, image->serial());
     result = mix_signature(result, image->revision());
     result = mix_signature(result, static_cast<std::uint64_t>(layer.model.contents.gravity));
@@ -43,8 +43,7 @@ CGRect extent_of(const RenderNode& node) {
   const LayerProperties& p = node.properties;
   const bool plain = p.background_color.alpha > 0 || p.border_width > 0 || layer.backdrop;
   CGRect extent = plain ? p.bounds : CGRect();
-  if (layer.model.contents.image())
-    extent = CGRectUnion(extent, layer.model.contents.place_in(p.bounds));
+  if (node.image) extent = CGRectUnion(extent, place_of_image(node));
   if (layer.drawing) extent = CGRectUnion(extent, layer.drawing->extent(p));
   return layer.model.masks_to_bounds ? CGRectIntersection(extent, p.bounds) : extent;
 }
@@ -56,10 +55,8 @@ bool fits_whole_pixels(const RenderNode& node) {
 }
 
 bool is_filled_by_contents(const RenderNode& node) {
-  const Image* image = node.layer->model.contents.image();
-  if (!image || !image->is_opaque()) return false;
-  const CGRect filled = CGRectApplyAffineTransform(
-      node.layer->model.contents.place_in(node.properties.bounds), node.to_device);
+  if (!node.image || !node.image->is_opaque()) return false;
+  const CGRect filled = CGRectApplyAffineTransform(place_of_image(node), node.to_device);
   return nearest_pixels(filled).contains(node.own);
 }
 
@@ -155,11 +152,15 @@ bool is_in_sight(const RenderNode& node, const PixelRect& clip) {
   return intersects(pixels_round(box), clip);
 }
 
+CGRect place_of_image(const RenderNode& node) {
+  return node.layer->model.contents.place_of(*node.image, node.properties.bounds);
+}
+
 int elements_of(const RenderNode& node) {
   const Layer& layer = *node.layer;
   const LayerProperties& p = node.properties;
-  return (p.background_color.alpha > 0) + (layer.model.contents.image() != nullptr) +
-         (layer.backdrop != nullptr) + 2 * (layer.drawing != nullptr) + (p.border_width > 0);
+  return (p.background_color.alpha > 0) + (node.image != nullptr) + (layer.backdrop != nullptr) +
+         2 * (layer.drawing != nullptr) + (p.border_width > 0);
 }
 
 const Pattern* shown_pattern(const RenderNode& node) {

@@ -13,6 +13,8 @@ struct RenderNode {
   std::uint64_t serial = 0;
   LayerProperties properties;
   CGAffineTransform to_device;
+  /// The picture that the layer shows; null without one.
+  const Image* image = nullptr;
   /// The pixels that its own drawing may touch, within all clips above it.
   PixelRect own;
   /// The same for the whole subtree.
@@ -76,6 +78,8 @@ bool is_upright(const CGAffineTransform& transform);
 /// True if the transform reduces the layer to a line or a point.
 bool is_flat(const RenderNode& node);
 bool is_in_sight(const RenderNode& node, const PixelRect& clip);
+/// Returns the frame of the node's picture, which must not be null, in the layer's coordinates.
+CGRect place_of_image(const RenderNode& node);
 /// Returns how many pictures the layer itself paints, one over the other.
 int elements_of(const RenderNode& node);
 

@@ -16,7 +16,8 @@ CGRect shown_part(const CGAffineTransform& to_device, const PixelRect& clip) {
 }  // namespace
 
 void RenderTree::prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale,
-                         double now, FadedOut faded_out) {
+                         double now, const ShownPictures& shown, FadedOut faded_out) {
+  shown_ = &shown;
   nodes_.clear();
   undrawn_.clear();
   faded_out_ = faded_out;
@@ -38,6 +39,7 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   if (node.properties.opacity <= 0 && faded_out_ == FadedOut::Skipped) return;
   place(node, around);
   if (is_flat(node)) return;
+  node.image = shown_->picture_of(node);
   if (layer.marks.needs_display && is_in_sight(node, around.clip))
     undrawn_.push_back(layer.handle());
   node.is_scaling = around.is_scaling || layer.animations.is_scaling(now);
@@ -120,7 +122,7 @@ int RenderTree::lone_picture(int first, int index) const {
   const RenderNode& backdrop = at(index);
   const RenderNode& picture = at(first);
   const bool is_picture = picture.is_opaque && picture.own.contains(backdrop.own) &&
-                          picture.layer->model.contents.image() && elements_of(picture) == 1;
+                          picture.image && elements_of(picture) == 1;
   if (!is_picture) return -1;
   for (int k = first + 1; k < index; ++k) {
     if (intersects(at(k).own, backdrop.own)) return -1;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/quartzcore/compositing/render_node.h"
+#include "host/quartzcore/compositing/shown_pictures.h"
 
 namespace host::quartzcore {
 
@@ -15,9 +16,10 @@ class RenderTree {
   /// How fully transparent layers are treated.
   enum class FadedOut { Skipped, Included };
 
-  /// `screen` is in pixels, `scale` in pixels per point; `now` is the clock time.
+  /// `screen` is in pixels, `scale` in pixels per point; `now` is the clock time; `shown` are the
+  /// pictures of the frame before.
   void prepare(std::span<const CALayer> roots, const PixelRect& screen, double scale, double now,
-               FadedOut faded_out = FadedOut::Skipped);
+               const ShownPictures& shown, FadedOut faded_out = FadedOut::Skipped);
 
   const std::vector<RenderNode>& nodes() const { return nodes_; }
   /// Visible layers that are marked for display. Layers out of sight are not displayed yet.
@@ -41,6 +43,8 @@ class RenderTree {
 
   std::vector<RenderNode> nodes_;
   std::vector<CALayer> undrawn_;
+  // Only while the tree is being prepared.
+  const ShownPictures* shown_ = nullptr;
   FadedOut faded_out_ = FadedOut::Skipped;
 };
 

@@ -30,6 +30,8 @@ class PixelSource {
   virtual Surface pixels() = 0;
   /// The same for a frame of the screen, without blocking: null while they are being produced.
   virtual Surface pixels_for_frame() = 0;
+  /// True while a frame would have to do without pixels that are produced in the background.
+  virtual bool is_awaited() const { return false; }
   /// Opaque only if the pixels are available to a frame drawn now.
   virtual Opacity opacity() const = 0;
   /// Changes when pixels have become available that an earlier frame had to do without.
@@ -52,6 +54,9 @@ class Image : public objc::Implementation<Image, CGImageObject> {
   Surface surface() const;
   /// Null while promised pixels are being produced.
   Surface surface_for_frame() const { return source_ ? source_->pixels_for_frame() : surface_; }
+  /// True if the pixels come from a source, which may not have them yet.
+  bool is_promised() const { return source_ != nullptr; }
+  bool is_awaited() const { return source_ && source_->is_awaited(); }
   bool is_opaque() const { return (source_ ? source_->opacity() : opacity_) == Opacity::Opaque; }
   std::uint64_t revision() const { return source_ ? source_->revision() : 0; }
   /// Tells pictures of the process apart; caches use it as their key.

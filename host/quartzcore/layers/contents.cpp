@@ -62,8 +62,8 @@ void Contents::show(objc::Object object) {
   density = 1;
 }
 
-CGRect Contents::place_in(const CGRect& bounds) const {
-  CGSize size{image_->width() / (scale * density), image_->height() / (scale * density)};
+CGRect Contents::place_of(const Image& image, const CGRect& bounds) const {
+  CGSize size{image.width() / (scale * density), image.height() / (scale * density)};
   const double fit_x = bounds.size.width / size.width;
   const double fit_y = bounds.size.height / size.height;
   switch (gravity) {

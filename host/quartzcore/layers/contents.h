@@ -42,9 +42,8 @@ class Contents {
   const Image* image() const { return image_; }
   void show(objc::Object object);
 
-  /// The frame of the image, which must not be null, in the coordinates of a layer with these
-  /// bounds.
-  CGRect place_in(const CGRect& bounds) const;
+  /// The frame of an image in the coordinates of a layer with these bounds.
+  CGRect place_of(const Image& image, const CGRect& bounds) const;
   /// True when that frame may differ from the bounds.
   bool has_own_place() const { return gravity != Gravity::Resize; }
 

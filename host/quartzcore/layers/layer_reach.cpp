@@ -37,7 +37,8 @@ CGRect LayerReach::in_layer() const {
   in_layer_ = bounds;
   if (layer_.model.masks_to_bounds) return in_layer_;
   const Contents& contents = layer_.model.contents;
-  if (contents.image()) in_layer_ = CGRectUnion(in_layer_, contents.place_in(bounds));
+  if (const Image* image = contents.image())
+    in_layer_ = CGRectUnion(in_layer_, contents.place_of(*image, bounds));
   for (const auto& child : layer_.tree.sublayers)
     in_layer_ = CGRectUnion(in_layer_, layer_of(child.get()).reach.box());
   return in_layer_;

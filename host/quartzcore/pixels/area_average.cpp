@@ -1,8 +1,6 @@
 #include "host/quartzcore/pixels/area_average.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -15,6 +13,7 @@ namespace {
 
 /// The four channels of a pixel in one register.
 using Channels = float __attribute__((vector_size(16)));
+
 /// The source pixels that one pixel of the copy covers; the first and the last may count partly.
 struct Stretch {
   Stretch(int index, double ratio) {
@@ -49,7 +48,7 @@ SONAVUE_WIDE void add_to_sums(const std::uint8_t* row, float weight, std::vector
 /// Returns the channels of the pixel at `x` of a row.
 [[gnu::always_inline]] inline Channels pixel_at(const std::vector<float>& row, int x) {
   Channels pixel;
-  std::memcpy(&pixel, row.data() + std::ptrdiff_t{x} * 4, sizeof pixel);
+  std::memcpy(&pixel, row.data() + static_cast<std::size_t>(x) * kChannels, sizeof pixel);
   return pixel;
 }
 

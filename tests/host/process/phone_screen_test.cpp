@@ -83,6 +83,7 @@ TEST_F(PhoneScreens, AChangeRightAfterAPictureMayOutliveTheScreen) {
     process::PhoneScreen phone(loop, screen);
     settle();
     const UIWindow window = UIWindow::alloc().initWithFrame(CGRect(0, 0, 100, 100));
+    window.setBackgroundColor(UIColor::blueColor());
     window.setHidden(false);
     advance(0);
     window.setBackgroundColor(UIColor::redColor());

@@ -96,7 +96,9 @@ TEST_P(SmallPictureTest, EveryPartHasThePixelsOfTheWhole) {
   const SmallPicture small = reduce(pixels, {0, 0, kWidth, kHeight}, GetParam());
   const Surface whole = make_surface(kWidth, kHeight);
   enlarge(small, whole);
-  const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
+  const auto below = [&](int end) {
+    return static_cast<int>(random() % static_cast<unsigned>(end));
+  };
   for (int round = 0; round < 200; ++round) {
     const int left = below(kWidth);
     const int top = below(kHeight);
