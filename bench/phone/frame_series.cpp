@@ -6,8 +6,8 @@
 namespace bench {
 namespace {
 
-constexpr double kMedianAim = 8;
-constexpr double kWorstAim = 24;
+constexpr double kMedianAim = 5;
+constexpr double kWorstAim = 16;
 
 }  // namespace
 
