@@ -55,32 +55,34 @@ void bind_header(Statement& statement, int parameter, const PictureHeader& heade
       .bind(parameter + 2, std::int64_t{header.is_opaque});
 }
 
-KnownFile file_from(const Statement& row) {
-  return {static_cast<std::uint64_t>(row.integer(0)),
-          text_at(row, 1),
-          {row.integer(2), row.integer(3)},
-          {text_at(row, 4), static_cast<std::uint64_t>(row.integer(5)), header_at(row, 6)}};
+// A text that is there already is overwritten in its place.
+template <class File>
+void read_file(const Statement& row, File& file) {
+  file.id = static_cast<std::uint64_t>(row.integer(0));
+  file.path = row.bytes(1);
+  file.stamp = {row.integer(2), row.integer(3)};
+  file.folder_picture.path = row.bytes(4);
+  file.folder_picture.key = static_cast<std::uint64_t>(row.integer(5));
+  file.folder_picture.header = header_at(row, 6);
 }
 
-SongRecord record_from(const Statement& row) {
-  KnownFile file = file_from(row);
-  SongRecord record{file.id, std::move(file.path), file.stamp, std::move(file.folder_picture), {}};
+void read_record(const Statement& row, SongRecord& record) {
+  read_file(row, record);
   SongTags& tags = record.tags;
-  tags.title = text_at(row, 9);
-  tags.artist = text_at(row, 10);
-  tags.album_artist = text_at(row, 11);
-  tags.album = text_at(row, 12);
-  tags.genre = text_at(row, 13);
-  tags.composer = text_at(row, 14);
+  tags.title = row.bytes(9);
+  tags.artist = row.bytes(10);
+  tags.album_artist = row.bytes(11);
+  tags.album = row.bytes(12);
+  tags.genre = row.bytes(13);
+  tags.composer = row.bytes(14);
   tags.track_number = static_cast<int>(row.integer(15));
   tags.disc_number = static_cast<int>(row.integer(16));
   tags.duration_seconds = row.real(17);
   tags.is_compilation = row.integer(18) != 0;
   tags.is_cloud = row.integer(19) != 0;
   tags.own_artwork = static_cast<std::uint64_t>(row.integer(20));
-  tags.own_picture_path = text_at(row, 21);
+  tags.own_picture_path = row.bytes(21);
   tags.own_picture = header_at(row, 22);
-  return record;
 }
 
 void bind_record(Statement& statement, const SongRecord& record) {
@@ -178,7 +180,8 @@ void Index::work_in_memory(const std::string& reason) {
 
 IndexContents Index::load() {
   IndexContents contents;
-  DatabaseStatus status = read_songs(contents.songs);
+  DatabaseStatus status =
+      read_songs([&contents](const SongRecord& song) { contents.songs.push_back(song); });
   if (status == DatabaseStatus::ok) status = read_refused(contents.refused);
   if (status == DatabaseStatus::ok) return contents;
   recover(status);
@@ -194,11 +197,28 @@ KnownFiles Index::load_files() {
   return {};
 }
 
-DatabaseStatus Index::read_songs(std::vector<SongRecord>& songs) {
+bool Index::show_songs(const std::function<void(const SongRecord&)>& show) {
+  const DatabaseStatus status = read_songs(show);
+  recover(status);
+  return status == DatabaseStatus::ok;
+}
+
+std::size_t Index::count_songs() {
+  Statement count = database_->prepare("SELECT count(*) FROM songs");
+  const DatabaseStatus status = count.step();
+  if (status == DatabaseStatus::row) return static_cast<std::size_t>(count.integer(0));
+  recover(status);
+  return 0;
+}
+
+DatabaseStatus Index::read_songs(const std::function<void(const SongRecord&)>& show) {
   Statement rows = database_->prepare(select_songs);
+  SongRecord record;
   DatabaseStatus status = rows.step();
-  for (; status == DatabaseStatus::row; status = rows.step())
-    songs.push_back(record_from(rows));
+  for (; status == DatabaseStatus::row; status = rows.step()) {
+    read_record(rows, record);
+    show(record);
+  }
   return status;
 }
 
@@ -206,7 +226,7 @@ DatabaseStatus Index::read_files(std::vector<KnownFile>& files) {
   Statement rows = database_->prepare(select_files);
   DatabaseStatus status = rows.step();
   for (; status == DatabaseStatus::row; status = rows.step())
-    files.push_back(file_from(rows));
+    read_file(rows, files.emplace_back());
   return status;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -53,6 +54,10 @@ class Index {
 
   // Loads everything, with one query per table.
   IndexContents load();
+  // Shows every song, by identifier, in a record that is used again for the next. Returns false
+  // when the index turned out to be damaged: then it knew no songs, whatever was shown.
+  bool show_songs(const std::function<void(const SongRecord&)>& show);
+  std::size_t count_songs();
   // Loads the same songs without their tags, in a fraction of the time.
   KnownFiles load_files();
 
@@ -65,7 +70,7 @@ class Index {
  private:
   DatabaseStatus open(const std::string& path);
   DatabaseStatus prepare_schema();
-  DatabaseStatus read_songs(std::vector<SongRecord>& songs);
+  DatabaseStatus read_songs(const std::function<void(const SongRecord&)>& show);
   DatabaseStatus read_files(std::vector<KnownFile>& files);
   DatabaseStatus read_refused(std::vector<RefusedFile>& refused);
   void recover(DatabaseStatus status);

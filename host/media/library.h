@@ -15,6 +15,7 @@ namespace host::media {
 // title, ignoring case, then by artist, album, disc and number.
 class Library {
  public:
+  // Songs that are not in memory yet are better given to a `LibraryBuilder`.
   static std::shared_ptr<const Library> build(std::span<const SongRecord> records);
 
   Library(const Library&) = delete;
@@ -34,9 +35,9 @@ class Library {
   std::span<const std::uint32_t> places_of_album(std::uint64_t album_id) const;
 
  private:
-  explicit Library(std::span<const SongRecord> records);
+  friend class LibraryBuilder;
 
-  Track track_from(const SongRecord& record);
+  Library() = default;
 
   TextPool texts_;
   std::vector<Track> tracks_;

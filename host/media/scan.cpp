@@ -15,6 +15,7 @@
 #include "host/media/cloud_song.h"
 #include "host/media/folder_walk.h"
 #include "host/media/hash.h"
+#include "host/media/library_builder.h"
 #include "host/media/log.h"
 #include "host/media/picture.h"
 
@@ -56,8 +57,7 @@ class Scan {
     }
     save();
     report_(progress_);
-    return {progress_, remembered ? std::move(remembered) : Library::build(found_),
-            std::move(left_out_)};
+    return {progress_, remembered ? std::move(remembered) : found_.finish(), std::move(left_out_)};
   }
 
  private:
@@ -204,8 +204,8 @@ class Scan {
     if (!are_records_loaded_) load_records();
     for (std::size_t i = 0; i < known_.size(); ++i) {
       if (fates_[i] != Fate::unchanged) continue;
-      if (SongRecord* record = record_of(i)) {
-        found_.push_back(std::move(*record));
+      if (const SongRecord* record = record_of(i)) {
+        found_.add(*record);
       } else {
         WalkedFile file{known_[i].path, known_[i].stamp};
         read(file, known_[i].folder_picture, known_[i].id);
@@ -233,9 +233,9 @@ class Scan {
       return;
     }
     if (refused_.contains(file.path)) changes_.forgotten.push_back(file.path);
-    SongRecord record{id, std::move(file.path), file.stamp, picture, std::move(*reading.tags)};
-    changes_.songs.push_back(record);
-    found_.push_back(std::move(record));
+    changes_.songs.push_back(
+        {id, std::move(file.path), file.stamp, picture, std::move(*reading.tags)});
+    found_.add(changes_.songs.back());
   }
 
   // A new path is either a new song or a moved one: same size and time, and the old path is gone.
@@ -312,7 +312,7 @@ class Scan {
   std::unordered_map<std::string, FileStamp> refused_;
   std::unordered_set<std::string_view> is_refusal_seen_;
   std::vector<std::string> unreadable_;  // Folders.
-  std::vector<SongRecord> found_;
+  LibraryBuilder found_;
   IndexChanges changes_;
   std::vector<WalkedFolder> waiting_;  // Walked, but not yet compared with the index.
   std::future<void> loading_;          // Last, so it ends before the members that it fills.
@@ -320,11 +320,13 @@ class Scan {
 
 }  // namespace
 
-std::shared_ptr<const Library> remembered_library(Index& index,
-                                                  std::span<const std::string> roots) {
-  std::vector<SongRecord> songs = index.load().songs;
-  std::erase_if(songs, [roots](const SongRecord& song) { return !is_within(song.path, roots); });
-  return Library::build(songs);
+std::shared_ptr<const Library> remembered_library(
+    Index& index, std::optional<std::span<const std::string>> roots) {
+  LibraryBuilder builder;
+  const bool is_whole = index.show_songs([&builder, roots](const SongRecord& song) {
+    if (!roots || is_within(song.path, *roots)) builder.add(song);
+  });
+  return is_whole ? builder.finish() : Library::build({});
 }
 
 ScanOutcome scan_folders(Index& index, std::span<const std::string> roots, const ScanReport& report,

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <span>
 #include <stop_token>
@@ -43,8 +44,10 @@ struct KeptByScans {
 
 using ScanReport = std::function<void(const ScanProgress&)>;
 
-// Returns the songs below `roots` that the index remembers, without looking at the music folders.
-std::shared_ptr<const Library> remembered_library(Index& index, std::span<const std::string> roots);
+// Returns the songs that the index remembers, only those below `roots` if there are any, without
+// looking at the music folders.
+std::shared_ptr<const Library> remembered_library(
+    Index& index, std::optional<std::span<const std::string>> roots = {});
 
 // Updates the index from the folders and returns the library. Only files whose size or time has
 // changed are opened. A stopped scan keeps what it has read, forgets nothing, and returns the songs

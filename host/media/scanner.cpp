@@ -65,7 +65,7 @@ void Scanner::run(const std::stop_token& stop) {
 
 void Scanner::load(Index& index) {
   const Request request = latest_request();
-  publish({ScanStage::finished, {}, Library::build(index.load().songs), {}, request.number});
+  publish({ScanStage::finished, {}, remembered_library(index), {}, request.number});
 }
 
 void Scanner::scan(Index& index, const std::stop_token& stop) {

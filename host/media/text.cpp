@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
+#include <span>
 
 namespace host::media {
 namespace {
@@ -41,18 +42,25 @@ std::string repaired_text(std::string_view text) {
   return std::string{trimmed(result)};
 }
 
-std::string folded_text(std::string_view text) {
+void append_folded(std::string& key, std::string_view text) {
   // Nearly every title is plain ASCII, which needs no tables.
   if (std::ranges::all_of(text,
                           [](char letter) { return static_cast<signed char>(letter) >= 0; })) {
-    std::string folded{text};
-    for (char& letter : folded) {
+    const std::size_t start = key.size();
+    key += text;
+    for (char& letter : std::span{key}.subspan(start)) {
       if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
     }
-    return folded;
+    return;
   }
   const GText folded{g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free};
-  return folded.get();
+  key += folded.get();
+}
+
+std::string folded_text(std::string_view text) {
+  std::string key;
+  append_folded(key, text);
+  return key;
 }
 
 int number_in(std::string_view text) {

@@ -15,6 +15,10 @@ std::string repaired_text(std::string_view text);
 
 // Returns a key that sorts and compares ignoring case, the same in every locale.
 std::string folded_text(std::string_view text);
+void append_folded(std::string& key, std::string_view text);
+
+// Separates the parts of a key. It occurs in none of them, since tags hold no control characters.
+constexpr char key_separator = '\x01';
 
 // The leading number of "3", "3/12" or " 07 "; 0 for anything negative, absurd or not a number.
 int number_in(std::string_view text);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <deque>
-#include <string>
+#include <memory>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 namespace host::media {
 
@@ -12,6 +12,7 @@ namespace host::media {
 class TextPool {
  public:
   std::string_view keep(std::string_view text) {
+    if (text.empty()) return "";
     if (const auto known = kept_.find(text); known != kept_.end()) return *known;
     return *kept_.insert(store(text)).first;
   }
@@ -21,8 +22,8 @@ class TextPool {
     const std::size_t needed = text.size() + 1;
     if (needed > room_) {
       const std::size_t size = needed > block_bytes ? needed : block_bytes;
-      blocks_.emplace_back(size, '\0');
-      next_ = blocks_.back().data();
+      blocks_.push_back(std::make_unique_for_overwrite<char[]>(size));
+      next_ = blocks_.back().get();
       room_ = size;
     }
     char* const start = next_;
@@ -39,7 +40,7 @@ class TextPool {
  private:
   static constexpr std::size_t block_bytes = 64 * 1024;
 
-  std::deque<std::string> blocks_;
+  std::vector<std::unique_ptr<char[]>> blocks_;
   std::unordered_set<std::string_view> kept_;
   char* next_ = nullptr;
   std::size_t room_ = 0;

@@ -78,7 +78,7 @@ void LibraryFeed::start() {
 
 void LibraryFeed::load_now() {
   media::Index index{index_path_};
-  deliver(media::Library::build(index.load().songs));
+  deliver(media::remembered_library(index));
 }
 
 const DemoMusic* LibraryFeed::missing_demo() const {

@@ -37,7 +37,7 @@ void follow_shared_library(std::uint64_t library_number) {
 std::size_t count_of_shared_songs() {
   const std::string index = shared_index();
   std::error_code ignored;
-  return std::filesystem::exists(index, ignored) ? media::Index(index).load().songs.size() : 0;
+  return std::filesystem::exists(index, ignored) ? media::Index(index).count_songs() : 0;
 }
 
 }  // namespace host::application

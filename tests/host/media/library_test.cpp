@@ -95,3 +95,21 @@ TEST(Library, TextsOutliveTheRecordsAndEqualOnesAreKeptOnce) {
   EXPECT_EQ(library->find(1)->artist.data(), library->find(2)->artist.data());
   EXPECT_EQ(library->find(2)->album.size(), 100'000u);
 }
+
+// Objects for titles are shared by the address of the text.
+TEST(Library, EqualTitlesAreOneTextWhateverTheirCase) {
+  const std::vector records = {song(3, "Intro", "C"), song(1, "INTRO", "B"), song(2, "Intro", "D"),
+                               song(4, "Outro", "A")};
+  const auto library = Library::build(records);
+  EXPECT_EQ(library->find(3)->title.data(), library->find(2)->title.data());
+  EXPECT_EQ(library->find(1)->title, "INTRO");
+  EXPECT_EQ(library->find(4)->title, "Outro");
+}
+
+TEST(Library, EveryTextEndsWithAZeroByte) {
+  const auto library = Library::build(std::vector{song(1, "a", "", "b")});
+  const Track& track = *library->find(1);
+  for (const std::string_view text : {track.title, track.artist, track.album, track.album_artist,
+                                      track.genre, track.composer, track.path})
+    EXPECT_EQ(std::string_view{text.data()}, text);
+}
