@@ -4,6 +4,7 @@
 #include <malloc.h>
 
 #include <chrono>
+#include <utility>
 
 #include "host/media/log.h"
 #include "host/media/scan_pace.h"
@@ -13,6 +14,14 @@ namespace host::media {
 Scanner::~Scanner() {
   thread_.request_stop();
   wake_.raise();
+}
+
+Index& Scanner::index() {
+  return index_ ? *index_ : index_.emplace(index_path_);
+}
+
+std::shared_ptr<const Library> Scanner::remember(std::span<const std::string> roots) {
+  return library_ = remembered_library(index(), roots);
 }
 
 std::uint64_t Scanner::request(std::vector<std::string> roots) {
@@ -44,18 +53,16 @@ Scanner::Request Scanner::latest_request() {
 void Scanner::run(const std::stop_token& stop) {
   if (work_ == Work::watch) kept_.watch = &watch_.emplace();
   ScanPace pace{wake_.descriptor(), kept_.watch};
-  // An index in memory is all that there is of it; one on the disk is closed between scans.
-  std::optional<Index> index;
   while (!stop.stop_requested()) {
     using std::chrono::steady_clock;
     const auto start = steady_clock::now();
-    if (!index) index.emplace(index_path_);
     if (work_ == Work::load) {
-      load(*index);
+      load();
     } else {
-      scan(*index, stop);
+      scan(stop);
     }
-    if (index->store() == IndexStore::on_disk) index.reset();
+    // An index in memory is all that there is of it; one on the disk is closed between scans.
+    if (index().store() == IndexStore::on_disk) index_.reset();
     // The library now holds the only copy of what was read; return the rest to the system.
     ::malloc_trim(0);
     if (stop.stop_requested()) return;
@@ -63,23 +70,23 @@ void Scanner::run(const std::stop_token& stop) {
   }
 }
 
-void Scanner::load(Index& index) {
+void Scanner::load() {
   const Request request = latest_request();
-  publish({ScanStage::finished, {}, remembered_library(index), {}, request.number});
+  publish({ScanStage::finished, {}, remembered_library(index()), {}, request.number});
 }
 
-void Scanner::scan(Index& index, const std::stop_token& stop) {
+void Scanner::scan(const std::stop_token& stop) {
   const Request request = latest_request();
-  const bool is_first = !library_;
-  if (is_first) {
-    library_ = remembered_library(index, request.roots);
+  const bool is_first = !std::exchange(has_scanned_, true);
+  if (!library_) {
+    library_ = remembered_library(index(), request.roots);
     publish({ScanStage::remembered, {}, library_, {}, 0});
   }
   // Only the first scan takes long enough to be followed.
   const ScanReport report = [this, is_first](const ScanProgress& progress) {
     if (is_first) publish({ScanStage::reading, progress, nullptr, {}, 0});
   };
-  ScanOutcome outcome = scan_folders(index, request.roots, report, stop, library_, &kept_);
+  ScanOutcome outcome = scan_folders(index(), request.roots, report, stop, library_, &kept_);
   if (stop.stop_requested()) return;
   const ScanProgress& counts = outcome.progress;
   if (is_first) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <stop_token>
 #include <string>
 #include <thread>
@@ -42,6 +43,10 @@ class Scanner {
       : index_path_(std::move(index_path)), work_(work) {}
   ~Scanner();
 
+  // Returns what the last scan of these folders has left, which the thread would otherwise load and
+  // publish. Only before the first request.
+  std::shared_ptr<const Library> remember(std::span<const std::string> roots);
+
   // Scans these folders from now on; a running scan of others ends first. Returns the request's
   // number.
   std::uint64_t request(std::vector<std::string> roots);
@@ -56,8 +61,9 @@ class Scanner {
   };
 
   void run(const std::stop_token& stop);
-  void scan(Index& index, const std::stop_token& stop);
-  void load(Index& index);
+  void scan(const std::stop_token& stop);
+  void load();
+  Index& index();
   Request latest_request();
   void publish(ScanUpdate update);
 
@@ -69,10 +75,12 @@ class Scanner {
   Request latest_;
   std::deque<ScanUpdate> updates_;
 
-  // These are the thread's own.
+  // These are the thread's own, once it runs.
+  std::optional<Index> index_;
   std::optional<FolderWatch> watch_;
   KeptByScans kept_;
   std::shared_ptr<const Library> library_;
+  bool has_scanned_ = false;
 
   std::jthread thread_;  // Last, so it stops before the members that it uses are destroyed.
 };

@@ -1,7 +1,5 @@
 #include "host/media_player/library_feed.h"
 
-#include <poll.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -23,6 +21,9 @@ std::string default_demo_folder() {
 }
 
 namespace {
+
+// At the end of a turn, after the layers and the screen.
+constexpr int kAfterPicture = 1000;
 
 FirstScan first_scan_for(const MediaOptions& options) {
   const bool is_stepped = options.pace == media::PlayerPace::stepped;
@@ -58,6 +59,7 @@ LibraryFeed::LibraryFeed(const MediaOptions& options, Listener listener)
 }
 
 LibraryFeed::~LibraryFeed() {
+  if (turn_) RunLoop::main().remove_turn_observer(turn_);
   if (demo_watch_) RunLoop::main().unwatch(demo_watch_);
   if (scan_watch_) RunLoop::main().unwatch(scan_watch_);
 }
@@ -71,14 +73,28 @@ void LibraryFeed::start() {
   } else if (missing_demo()) {
     if (first_scan_ == FirstScan::kBeside) deliver(media::Library::build({}));
     start_demo();
+  } else if (first_scan_ == FirstScan::kBeside) {
+    start_beside();
   } else {
-    start_scan();
+    request_scan();
   }
 }
 
 void LibraryFeed::load_now() {
   media::Index index{index_path_};
   deliver(media::remembered_library(index));
+}
+
+void LibraryFeed::start_beside() {
+  // A screen that begins without what the last scan left would have to be filled twice.
+  deliver(scanner().remember(roots_));
+  // On a machine with few cores, the scan would delay the first picture.
+  RunLoop& loop = RunLoop::main();
+  turn_ = loop.add_turn_observer(kAfterPicture, [this, &loop] {
+    loop.remove_turn_observer(std::exchange(turn_, 0));
+    if (last_request_ == 0) request_scan();
+  });
+  loop.perform([] {});
 }
 
 const DemoMusic* LibraryFeed::missing_demo() const {
@@ -116,18 +132,7 @@ void LibraryFeed::receive_demo_news() {
   if (news.failure) report_missing_demo(*news.failure);
   RunLoop::main().unwatch(std::exchange(demo_watch_, 0));
   demo_maker_.reset();
-  start_scan();
-}
-
-void LibraryFeed::start_scan() {
   request_scan();
-  // Loading what the last scan left takes a moment only, and a screen that begins without it would
-  // have to be filled twice.
-  while (!library_ && first_scan_ == FirstScan::kBeside) {
-    pollfd waiting{scanner_->descriptor(), POLLIN, 0};
-    ::poll(&waiting, 1, -1);
-    if (const auto update = scanner_->take_update()) take(*update);
-  }
 }
 
 media::Scanner::Work LibraryFeed::work() const {
@@ -136,12 +141,16 @@ media::Scanner::Work LibraryFeed::work() const {
   return watches_folders_ ? Work::watch : Work::scan;
 }
 
-void LibraryFeed::request_scan() {
+media::Scanner& LibraryFeed::scanner() {
   if (!scanner_) {
     scanner_ = std::make_unique<media::Scanner>(index_path_, work());
     scan_watch_ = RunLoop::main().watch(scanner_->descriptor(), [this] { receive_scan_updates(); });
   }
-  last_request_ = scanner_->request(roots_);
+  return *scanner_;
+}
+
+void LibraryFeed::request_scan() {
+  last_request_ = scanner().request(roots_);
 }
 
 void LibraryFeed::bring_in(const std::vector<std::string>& paths, std::function<void()> then) {

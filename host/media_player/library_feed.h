@@ -51,8 +51,9 @@ class LibraryFeed {
   void make_demo_now();
   void scan_now();
   void start_demo();
-  void start_scan();
+  void start_beside();
   media::Scanner::Work work() const;
+  media::Scanner& scanner();
   void request_scan();
   bool scans_at_once() const { return first_scan_ == FirstScan::kBeforeStart; }
   void answer_waiting(std::uint64_t request);
@@ -76,6 +77,7 @@ class LibraryFeed {
   std::vector<Waiting> waiting_;
   std::uint64_t last_request_ = 0;
   std::string said_left_out_;
+  RunLoop::Id turn_ = 0;  // While a scan waits for its end.
   RunLoop::Id demo_watch_ = 0;
   RunLoop::Id scan_watch_ = 0;
   std::unique_ptr<DemoMaker> demo_maker_;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 
 #include "host/media_player/demo_maker.h"
 #include "tests/host/media_player/media_player_test.h"
@@ -58,6 +59,46 @@ TEST_F(RealTimeMusic, TheLastScanIsAvailableAtOnceAndNewSongsFollow) {
   EXPECT_THAT(songs(), ElementsAre("Alpha", "Bravo", "Charlie", "Delta"));
   wait_until_ready();
   EXPECT_THAT(songs(), Contains("Echo"));
+}
+
+std::ptrdiff_t threads() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
+TEST_F(RealTimeMusic, TheFirstPictureComesBeforeTheScan) {
+  MediaService::start(options());
+  MediaService::stop();
+  const auto before = threads();
+  MediaService::start(beside());
+  EXPECT_EQ(songs().size(), 4u);
+  std::vector<std::ptrdiff_t> at_pictures;
+  constexpr int kScreen = 200;  // The order in which it paints.
+  loop.add_turn_observer(kScreen, [&at_pictures] { at_pictures.push_back(threads()); });
+  wait_until_ready();
+  ASSERT_GE(at_pictures.size(), 2u);
+  EXPECT_EQ(at_pictures.front(), before);
+  EXPECT_EQ(at_pictures.back(), before + 1);
+  EXPECT_EQ(news_.back().songs, 4u);
+}
+
+TEST_F(RealTimeMusic, FilesThatAreBroughtBeforeTheFirstPictureArePlayed) {
+  MediaService::start(options());
+  const std::string other = folder_ / "other.flac";
+  std::filesystem::copy(song_path("a.flac"), other);
+  MediaService::start(beside());
+  MediaService::current()->play_files({other});
+  EXPECT_TRUE(waits_for([this, &other] { return engine_path() == other; }));
+  EXPECT_EQ(songs().size(), 5u);
+}
+
+TEST_F(RealTimeMusic, AnIndexThatCannotBeKeptIsSaidOnce) {
+  MediaOptions options = beside();
+  std::filesystem::create_directories(options.index_path);
+  const media_tests::CapturedLog log;
+  MediaService::start(options);
+  wait_until_ready();
+  EXPECT_EQ(songs().size(), 4u);
+  EXPECT_EQ(log.count("cannot be kept"), 1);
 }
 
 bool has_engine() {
