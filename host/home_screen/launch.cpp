@@ -17,6 +17,7 @@
 #include "host/runtime/user_warnings.h"
 #include "host/social/delivery/configuration.h"
 #include "host/springboard/common/configuration.h"
+#include "host/springboard/home/wallpaper_ahead.h"
 #include "host/springboard/status_bar/status_bar.h"
 #include "host/uikit/application/application.h"
 
@@ -88,6 +89,7 @@ bool launch_home_screen(const ProcessOptions& options) {
   configuration.process_keeper = &processes;
   configuration.library_number = &music_library_number;
   springboard::configure(configuration);
+  const springboard::WallpaperAhead wallpaper;
   configure_social(options.headless);
   start_gesture_service();
   if (!options.headless) show_user_warnings();

@@ -1,3 +1,8 @@
+#include "host/quartzcore/drawing/image.h"
+#include "host/springboard/common/configuration.h"
+#include "host/springboard/common/pictures.h"
+#include "host/springboard/common/wallpaper.h"
+#include "host/springboard/home/wallpaper_ahead.h"
 #include "host/springboard/status_bar/status_bar.h"
 #include "host/springboard/system/system_actions.h"
 #include "platform/SpringBoard/SBApplicationController.h"
@@ -39,6 +44,28 @@ class TabletHomeScreenTest : public PhoneTest {
 
 std::string class_of(NSObject object) {
   return object.className().UTF8String();
+}
+
+// Only decoded pixels can be opaque.
+bool is_decoded(UIImage picture) {
+  return quartzcore::image_of(picture.CGImage())->is_opaque();
+}
+
+TEST_F(HomeScreenTest, TheWallpaperIsDecodedAheadOnceForAll) {
+  const UIImage shown = picture(chosen_wallpaper());
+  ASSERT_TRUE(shown);
+  EXPECT_FALSE(is_decoded(shown));
+  { const WallpaperAhead ahead; }
+  EXPECT_TRUE(is_decoded(shown));
+}
+
+TEST_F(HomeScreenTest, AMissingWallpaperIsNotDecoded) {
+  Configuration changed = configuration();
+  changed.wallpaper = "no-wallpaper";
+  configure(changed);
+  { const WallpaperAhead ahead; }
+  launch();
+  EXPECT_TRUE(icon_view(kMusic));
 }
 
 TEST_F(HomeScreenTest, AnIconsOriginIsRelativeToThePageBelowTheStatusBar) {
