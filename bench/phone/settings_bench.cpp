@@ -1,4 +1,7 @@
+#include <array>
+
 #include "bench/phone/frame_series.h"
+#include "host/process/device_images.h"
 #include "platform/UIKit/UINavigationController.h"
 #include "platform/UIKit/UIWindow.h"
 
@@ -99,6 +102,8 @@ void print(const char* what, const Series& series, std::size_t least) {
 }  // namespace
 
 int main() {
+  // The extension makes its pages where their base class is: it is loaded after it.
+  host::process::start_program(std::array{host::process::kPreferences});
   BenchPhone phone(bench::Pace::kStepped, R"({ enable = 0; firstBoot = 1; checked = 1; })");
   phone.run("advance 1");
   SettingsPages pages(phone);
