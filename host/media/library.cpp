@@ -8,7 +8,6 @@
 #include "host/media/text.h"
 
 namespace host::media {
-namespace {}  // namespace
 
 std::uint64_t album_identifier(const SongTags& tags) {
   const std::string& artist = tags.album_artist.empty() ? tags.artist : tags.album_artist;
