@@ -1,5 +1,7 @@
 #include "host/foundation/property_list_cache.h"
 
+#include <sys/stat.h>
+
 #include <functional>
 #include <map>
 #include <mutex>
@@ -33,6 +35,14 @@ std::string problem_of(const std::error_code& error) {
   return files::is_no_file(error) ? "it is not a regular file" : error.message();
 }
 
+/// A look without opening the file, which a poll ten times a second saves. Permissions are part of
+/// the stamp, so a file that may no longer be read is opened.
+bool is_unchanged(const std::string& path, const KnownFile& known) {
+  struct stat status {};
+  return known.is_settled && stat(path.c_str(), &status) == 0 &&
+         files::stamp_of(status) == known.stamp;
+}
+
 property_list::Reading read_again(KnownFile& known, const files::OpenFile& file) {
   if (file.stamp.size > property_list::kLargestList) return property_list::too_large();
   const auto contents = files::read_file(file, property_list::kLargestList);
@@ -52,6 +62,9 @@ class PropertyListCache {
   /// The list is autoreleased, since another thread may make this forget it.
   objc::Object list_of(const std::string& path, const char* shown) {
     const std::lock_guard lock(mutex_);
+    if (const auto known = files_.find(path);
+        known != files_.end() && is_unchanged(path, known->second))
+      return autoreleased(known->second);
     const files::OpenFile file = files::open_file(path);
     note_reading(path, files::is_shortage(file.error) ? file.error : std::error_code());
     if (files::is_missing(file.error)) {
@@ -65,10 +78,14 @@ class PropertyListCache {
       const auto reading = read_again(known, file);
       replace(known, file.stamp, reading, shown);
     }
-    return objc::send<objc::Object>(objc::Ref(known.list).leak(), "autorelease"_sel);
+    return autoreleased(known);
   }
 
  private:
+  static objc::Object autoreleased(const KnownFile& known) {
+    return objc::send<objc::Object>(objc::Ref(known.list).leak(), "autorelease"_sel);
+  }
+
   KnownFile& known_file(const std::string& path) {
     const auto found = files_.find(path);
     if (found != files_.end()) return found->second;

@@ -72,7 +72,7 @@ objc::Object table_of_text(NSString self) {
 template <objc::Handle Collection, objc::FixedString Initialiser>
 Collection with_list(Collection self, objc::Object list) {
   if (objc::cast<NSObject>(list).isKindOfClass(Collection::cls()))
-    return objc::send<Collection>(self, sel_registerName(Initialiser.c_str()), list);
+    return objc::send<Collection>(self, objc::selector<Initialiser>(), list);
   objc::send<>(self, "release"_sel);
   return Collection();
 }

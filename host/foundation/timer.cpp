@@ -31,6 +31,8 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
     interval_ = interval > 0 ? interval : kShortestInterval;
     target_.reset(target);
     action_ = action;
+    // An action without an argument is as valid as one that takes the timer.
+    takes_timer_ = std::strchr(sel_getName(action), ':') ? YES : NO;
     user_info_.reset(user_info);
     repeats_ = repeats;
   }
@@ -47,8 +49,7 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
   void fire() {
     if (!valid_) return;
     const auto alive = objc::Ref<ClockTimerHandle>::retain(self);
-    // An action without an argument is as valid as one that takes the timer.
-    if (std::strchr(sel_getName(action_), ':')) {
+    if (takes_timer_) {
       objc::send<>(target_.get(), action_, objc::Object(self));
     } else {
       objc::send<>(target_.get(), action_);
@@ -81,6 +82,7 @@ class ClockTimer : public objc::Implementation<ClockTimer, ClockTimerHandle> {
   objc::Ref<objc::Object> user_info_;
   objc::Ref<ClockTimerHandle> held_by_loop_;
   objc::Sel action_ = nullptr;
+  BOOL takes_timer_ = NO;
   BOOL repeats_ = NO;
   BOOL valid_ = YES;
   RunLoop::Id scheduled_ = 0;

@@ -9,6 +9,7 @@
 #include "platform/Foundation/NSValue.h"
 #include "tests/support/caught_log.h"
 #include "tests/support/host_test.h"
+#include "tests/support/no_descriptors.h"
 
 namespace {
 
@@ -79,6 +80,28 @@ TEST_F(PropertyListReaderTest, AnUnchangedFileIsParsedOnce) {
   EXPECT_EQ(read().objectForKey("list"_ns), list);
   write("<key>list</key><array><string>b</string></array>");
   EXPECT_NE(read().objectForKey("list"_ns), list);
+}
+
+// A file that has changed within two seconds is read in any case, so these files of the sources are
+// read through a link.
+TEST_F(PropertyListReaderTest, AnUnchangedFileIsNotOpenedAgain) {
+  std::filesystem::create_symlink(SETTLED_LISTS "/preferences-xml.plist", file);
+  const NSDictionary first = read();
+  ASSERT_TRUE(first);
+  const NoDescriptors none;
+  EXPECT_TRUE(read().isEqualToDictionary(first));
+}
+
+TEST_F(PropertyListReaderTest, AnotherOldFileInItsPlaceIsNoticed) {
+  std::filesystem::create_symlink(SETTLED_LISTS "/preferences-xml.plist", file);
+  const NSDictionary first = read();
+  ASSERT_TRUE(first);
+  std::filesystem::remove(file);
+  EXPECT_FALSE(read());
+  std::filesystem::create_symlink(SETTLED_LISTS "/../../../docs/settings.plist", file);
+  const NSDictionary second = read();
+  ASSERT_TRUE(second);
+  EXPECT_FALSE(second.isEqualToDictionary(first));
 }
 
 TEST_F(PropertyListReaderTest, ADamagedFileIsParsedAndReportedOnce) {
