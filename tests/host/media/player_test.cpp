@@ -3,8 +3,10 @@
 #include <poll.h>
 #include <sys/stat.h>
 
+#include <chrono>
 #include <filesystem>
 
+#include "host/demo_music/audio_file.h"
 #include "host/media/mpv_player.h"
 #include "host/media/queue_player.h"
 #include "tests/support/media_fixtures.h"
@@ -344,6 +346,43 @@ TEST(MpvPlayer, PlaysEveryKindOfSong) {
       if (player->duration() > 2 && !std::exchange(has_skipped, true)) player->seek(3.7);
     }
     ASSERT_EQ(listener.ends, played) << song;
+  }
+}
+
+TEST(MpvPlayer, SilentSongsOfAnyRateTakeTheirTimeThoughPaused) {
+  struct Listener : PlayerListener {
+    int ends = 0;
+    void player_did_reach_end() override { ++ends; }
+    void player_did_fail(const std::string& path, const std::string& reason) override {
+      ADD_FAILURE() << path << ": " << reason;
+    }
+  } listener;
+  constexpr double length = 1;
+  // A pause may empty the buffers of the engine and the output.
+  constexpr double most_buffered = 0.45;
+  const TemporaryFolder folder;
+  const auto player = std::make_unique<MpvPlayer>(MpvOptions{"null", PlayerPace::real, {}});
+  player->set_listener(&listener);
+  pollfd waiting{player->descriptor(), POLLIN, 0};
+  for (const int rate : {8'000, 22'050, 44'100, 96'000}) {
+    const std::string song = folder / (std::to_string(rate) + ".wav");
+    const auto samples = static_cast<std::size_t>(length * rate);
+    ASSERT_TRUE(write_audio(song, std::vector<float>(samples), rate));
+    const auto start = std::chrono::steady_clock::now();
+    const int ends_before = listener.ends;
+    player->load(song);
+    player->play();
+    for (int looks = 0; player->position() < length / 4 && looks < 500; ++looks) {
+      ::poll(&waiting, 1, 20);
+      player->pump();
+    }
+    player->pause();
+    player->play();
+    while (listener.ends == ends_before && ::poll(&waiting, 1, 10'000) == 1)
+      player->pump();
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    ASSERT_EQ(listener.ends, ends_before + 1) << rate;
+    EXPECT_GE(taken.count(), length - most_buffered) << rate;
   }
 }
 
