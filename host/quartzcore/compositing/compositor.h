@@ -112,6 +112,7 @@ class Compositor {
   int fading_node(const Changes& changes) const;
   int prepare_underlay(const Changes& changes);
   PixelRect largest_cover(const PixelRect& damage) const;
+  bool is_hidden_by_several(int index, const Part& part) const;
   bool blurs_within(const PixelRect& damage) const;
   void paint_screen(const PixelRect& damage, int underlay);
   void paint_part(const PixelRect& place, int underlay);

@@ -38,7 +38,10 @@ void Compositor::paint_node(int index, const Part& part) {
 void Compositor::paint_contents(int index, const Part& part, double opacity) {
   const RenderNode& one = node(index);
   const Canvas& canvas = canvases_.back();
-  if (index >= part.first && intersects(one.own, part.damage)) {
+  // Groups are drawn whole, since they are kept.
+  const bool is_hidden =
+      canvases_.size() == 1 && !one.layer->backdrop && is_hidden_by_several(index, part);
+  if (index >= part.first && intersects(one.own, part.damage) && !is_hidden) {
     drawn_pixels_ += static_cast<std::uint64_t>(intersection(one.own, part.damage).area());
     if (one.layer->backdrop) paint_backdrop(index, part.damage, opacity);
     paint_layer(canvas, one, part.damage, opacity, images_);

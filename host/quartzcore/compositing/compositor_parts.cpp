@@ -21,6 +21,20 @@ std::array<PixelRect, 4> around(const PixelRect& all, const PixelRect& inner) {
           from_edges(all.x, inner.bottom(), all.right(), all.bottom())};
 }
 
+/// The rest of `all` if the cover takes a whole edge of it; otherwise all of it.
+PixelRect without_edge(const PixelRect& all, const PixelRect& cover) {
+  PixelRect largest;
+  const PixelRect inner = intersection(all, cover);
+  if (inner.is_empty()) return all;
+  int parts = 0;
+  for (const PixelRect& rest : around(all, inner)) {
+    if (rest.is_empty()) continue;
+    largest = rest;
+    ++parts;
+  }
+  return parts > 1 ? all : largest;
+}
+
 }  // namespace
 
 // Nothing is painted where an opaque layer hides it: the damage is divided into the layer's place
@@ -52,6 +66,22 @@ PixelRect Compositor::largest_cover(const PixelRect& damage) const {
   }
   const bool is_worthwhile = largest.area() >= std::max(kLeastHidden, damage.area() / kLeastShare);
   return is_worthwhile ? largest : PixelRect{};
+}
+
+/// True if layers over a large node hide it together, as the rows of a list hide the list.
+bool Compositor::is_hidden_by_several(int index, const Part& part) const {
+  PixelRect visible = intersection(node(index).own, part.damage);
+  if (visible.area() < kLeastHidden || visible.area() < part.damage.area() / 2) return false;
+  // Each round finds what is at the edge of the rest, in whatever order the layers lie.
+  for (PixelRect before; !visible.is_empty();) {
+    before = visible;
+    for (int i = index + 1; i < part.end; ++i) {
+      if (node(i).layer->backdrop && !backdrop_is_ready(node(i))) break;
+      if (hides_what_is_below(i, -1)) visible = without_edge(visible, node(i).own);
+    }
+    if (visible == before) return false;
+  }
+  return true;
 }
 
 void Compositor::paint_part(const PixelRect& place, int underlay) {

@@ -59,6 +59,60 @@ TEST_F(HiddenTest, WhatShowsThroughALayerIsPaintedBelowIt) {
   EXPECT_EQ(drawn_by_next(), 2u * 100u * 100u);
 }
 
+// As the rows of a list lie over the list, in any order.
+class RowsTest : public HiddenTest {
+ public:
+  static constexpr int kRows = 16;
+  static constexpr int kHeight = kSide / kRows;
+
+  RowsTest() {
+    for (int i = 0; i < kRows; ++i)
+      rows.push_back(add({0, i * 7 % kRows * kHeight * 1.0, kSide, kHeight}, color(1, 0, 0)));
+  }
+  CALayer row_at(int place) { return rows[static_cast<std::size_t>(place * 7 % kRows)]; }
+
+  std::vector<CALayer> rows;
+};
+
+TEST_F(RowsTest, NothingIsPaintedBelowLayersThatHideItTogether) {
+  EXPECT_EQ(drawn_by_next(), std::uint64_t{kSide * kSide});
+  for (int y = 0; y < kSide; ++y)
+    ASSERT_EQ(pixel_of(screen, 5, y), kRed) << y;
+}
+
+TEST_F(RowsTest, AGapBetweenThemShowsWhatIsBelow) {
+  row_at(3).setBounds({0, 0, kSide, kHeight - 2});
+  EXPECT_EQ(drawn_by_next(), std::uint64_t{kSide * (2 * kSide - 2)});
+  EXPECT_EQ(pixel_of(screen, 5, 3 * kHeight), kBlue);
+  EXPECT_EQ(pixel_of(screen, 5, 3 * kHeight + 1), kRed);
+  row_at(3).setBounds({0, 0, kSide - 2, kHeight});
+  EXPECT_EQ(drawn_by_next(), std::uint64_t{kSide * kHeight + (kSide - 2) * kHeight});
+  EXPECT_EQ(pixel_of(screen, 0, 3 * kHeight + 1), kBlue);
+  EXPECT_EQ(pixel_of(screen, 1, 3 * kHeight + 1), kRed);
+}
+
+TEST_F(RowsTest, WhatShowsThroughOneOfThemIsPainted) {
+  row_at(9).setOpacity(0.5F);
+  render(screen);
+  EXPECT_EQ(pixel_of(screen, 5, 8 * kHeight + 1), kRed);
+  EXPECT_NE(pixel_of(screen, 5, 9 * kHeight + 1), kRed);
+  EXPECT_NE(pixel_of(screen, 5, 9 * kHeight + 1), pixel_of(Compositor{kSide, kSide, 1}, 5, 5));
+}
+
+TEST_F(RowsTest, ABlurBetweenThemSeesWhatTheUpperOnesHide) {
+  const CABackdropLayer backdrop = CABackdropLayer::layer();
+  backdrop.setFrame({0, 0, kSide, kSide});
+  objc::state_of<quartzcore::BackdropLayer>(backdrop).show({.blur_radius = 16});
+  root.addSublayer(backdrop);
+  for (int place = kRows / 2; place < kRows; ++place)
+    root.addSublayer(row_at(place));
+  render(screen);
+  const std::uint32_t nearest = pixel_of(screen, 5, kSide / 2 - 1);
+  EXPECT_GT(nearest & 0xff, 0x20u) << "no blue of the root";
+  EXPECT_GT(nearest >> 16 & 0xff, 0x20u) << "no red of the rows";
+  EXPECT_EQ(pixel_of(screen, 5, kSide / 2), kRed);
+}
+
 TEST_F(HiddenTest, ABackdropSeesItsWholePlaceWhateverCoversIt) {
   add({0, 0, kSide / 2, kSide}, color(1, 0, 0));
   const CABackdropLayer backdrop = CABackdropLayer::layer();
