@@ -38,11 +38,10 @@ Damage Compositor::render(std::span<const CALayer> roots, double now) {
   last_roots_.assign(roots.begin(), roots.end());
   last_changes_ = layer_changes();
   last_animated_ = !animated_layers().empty();
-  std::vector<Entry> after = take_entries();
-  Changes changes =
-      std::exchange(damage_all_, false) ? Changes{{screen_, -1}} : find_changes(after);
-  entries_ = std::move(after);
+  std::swap(entries_, last_entries_);
+  take_entries();
   shown_.note(tree_.nodes());
+  Changes changes = std::exchange(damage_all_, false) ? Changes{{screen_, -1}} : find_changes();
   if (changes.empty() && !needs_backdrops()) return {};
   ++frames_;
   prepare_backdrops(changes);
@@ -70,46 +69,54 @@ void Compositor::prepare_tree(std::span<const CALayer> roots, double now) {
   tree_.prepare(roots, screen_, scale_, now, shown_);
 }
 
-std::vector<Compositor::Entry> Compositor::take_entries() const {
-  std::vector<Entry> entries;
-  entries.reserve(tree_.nodes().size());
+void Compositor::take_entries() {
+  entries_.clear();
   for (const RenderNode& one : tree_.nodes())
-    entries.push_back({one.serial, mix_signature(one.signature, one.context), one.own});
-  return entries;
+    entries_.push_back({one.serial, mix_signature(one.signature, one.context), one.own});
 }
 
 // Layers are compared by identity. A changed layer damages its old and its new area; a layer whose
 // order has changed damages its area, too.
-Compositor::Changes Compositor::find_changes(const std::vector<Entry>& after) const {
-  const std::vector<Entry>& before = entries_;
-  std::unordered_map<std::uint64_t, int> places;
-  places.reserve(before.size());
-  for (std::size_t i = 0; i < before.size(); ++i)
-    places.emplace(before[i].serial, static_cast<int>(i));
-  std::vector<bool> kept(before.size(), false);
+Compositor::Changes Compositor::find_changes() const {
+  const std::vector<Entry>& before = last_entries_;
+  const std::vector<Entry>& after = entries_;
+  // Most frames have the layers of the one before, which need not be looked up.
+  const auto is_same = [](const Entry& a, const Entry& b) { return a.serial == b.serial; };
+  const auto same = static_cast<std::size_t>(
+      std::mismatch(before.begin(), before.end(), after.begin(), after.end(), is_same).first -
+      before.begin());
+  std::unordered_map<std::uint64_t, std::size_t> places;
+  places.reserve(before.size() - same);
+  for (std::size_t i = same; i < before.size(); ++i)
+    places.emplace(before[i].serial, i);
+  std::vector<bool> kept(before.size() - same, false);
   Changes changes;
   const auto add = [&](const PixelRect& place, int index) {
     if (!place.is_empty()) changes.push_back({place, index});
   };
-  int highest = -1;
-  for (int i = 0; i < static_cast<int>(after.size()); ++i) {
-    const Entry& entry = after[static_cast<std::size_t>(i)];
-    const auto found = places.find(entry.serial);
-    if (found == places.end()) {
-      add(entry.own, i);
-      continue;
+  std::size_t highest = 0;
+  for (std::size_t i = 0; i < after.size(); ++i) {
+    const Entry& entry = after[i];
+    const int index = static_cast<int>(i);
+    std::size_t place = i;
+    if (i >= same) {
+      const auto found = places.find(entry.serial);
+      if (found == places.end()) {
+        add(entry.own, index);
+        continue;
+      }
+      place = found->second;
+      kept[place - same] = true;
     }
-    const Entry& old = before[static_cast<std::size_t>(found->second)];
-    kept[static_cast<std::size_t>(found->second)] = true;
-    const bool is_moved = found->second < highest;
-    if (is_moved || old.signature != entry.signature) {
-      add(old.own, is_moved ? -1 : i);
-      add(entry.own, is_moved ? -1 : i);
+    const bool is_moved = place < highest;
+    if (is_moved || before[place].signature != entry.signature) {
+      add(before[place].own, is_moved ? -1 : index);
+      add(entry.own, is_moved ? -1 : index);
     }
-    highest = std::max(highest, found->second);
+    highest = std::max(highest, place);
   }
-  for (std::size_t i = 0; i < before.size(); ++i) {
-    if (!kept[i]) add(before[i].own, -1);
+  for (std::size_t i = same; i < before.size(); ++i) {
+    if (!kept[i - same]) add(before[i].own, -1);
   }
   return changes;
 }

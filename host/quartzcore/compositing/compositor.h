@@ -100,8 +100,8 @@ class Compositor {
   };
 
   void prepare_tree(std::span<const CALayer> roots, double now);
-  std::vector<Entry> take_entries() const;
-  Changes find_changes(const std::vector<Entry>& after) const;
+  void take_entries();
+  Changes find_changes() const;
   static Damage merged(const Changes& changes);
   Part part_of(const PixelRect& damage, int end) const;
   int first_needed(const PixelRect& damage, int group, int end) const;
@@ -146,7 +146,9 @@ class Compositor {
   RenderTree tree_ahead_;
   ImageCache images_;
   ShownPictures shown_;
+  // What the screen shows, and what it showed in the last frame.
   std::vector<Entry> entries_;
+  std::vector<Entry> last_entries_;
   // The screen at the bottom, groups above it: the canvases that a backdrop can see. A deque, since
   // a group begins its own while the one below is painted on.
   std::deque<Canvas> canvases_;
