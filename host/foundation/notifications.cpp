@@ -38,7 +38,8 @@ struct Observation {
   std::function<void()> work;
 };
 
-/// The observations of this process, and its watch over the folder.
+/// The observations of this process, and its watch over the folder, which lasts as long as there
+/// are any.
 class Observers {
  public:
   static Observers& shared() {
@@ -55,6 +56,7 @@ class Observers {
     std::erase_if(observations_, [&](const Observation& each) {
       return each.owner == owner && (name.empty() || each.name == name);
     });
+    if (observations_.empty()) end_watch();
   }
 
  private:
@@ -68,7 +70,13 @@ class Observers {
       spdlog::error("no notifications of other processes: {}: {}", folder, error.message());
       return;
     }
-    RunLoop::main().watch(events_.get(), [this] { take(); });
+    watch_ = RunLoop::main().watch(events_.get(), [this] { take(); });
+  }
+
+  void end_watch() {
+    if (watch_ && RunLoop::has_main()) RunLoop::main().unwatch(watch_);
+    watch_ = 0;
+    events_.reset();
   }
 
   void take() {
@@ -92,6 +100,7 @@ class Observers {
   }
 
   Descriptor events_;
+  RunLoop::Id watch_ = 0;
   std::vector<Observation> observations_;
 };
 

@@ -63,4 +63,27 @@ TEST_F(Notifications, AnObserverMayStop) {
   EXPECT_EQ(told.size(), 1u);
 }
 
+TEST_F(Notifications, ObserversThatComeAfterTheLastHasGoneAreTold) {
+  observe("first");
+  stop_observing_processes(this, "first");
+  fs::remove_all(root);
+  observe("second");
+  post_to_processes("first");
+  post_to_processes("second");
+  loop.run_ready();
+  EXPECT_EQ(told, std::vector<std::string>{"second"});
+}
+
+TEST_F(Notifications, AnObserverMayMakeRoomForAnother) {
+  observe_processes(this, "once", [this] {
+    stop_observing_processes(this, "once");
+    observe("next");
+  });
+  post_to_processes("once");
+  loop.run_ready();
+  post_to_processes("next");
+  loop.run_ready();
+  EXPECT_EQ(told, std::vector<std::string>{"next"});
+}
+
 }  // namespace
