@@ -11,7 +11,8 @@ namespace host::quartzcore {
 class Layer;
 
 /// Finds the few visible sublayers among thousands. It checks them in lots of neighbours in drawing
-/// order, which are mostly neighbours on the screen as well.
+/// order, which are mostly neighbours on the screen as well. It follows changes of some sublayers;
+/// after changes of many it has to be made again.
 class ChildIndex {
  public:
   /// From this number of sublayers on, an index saves more than it costs.
@@ -21,7 +22,30 @@ class ChildIndex {
   /// superlayer's coordinates.
   ChildIndex(std::vector<const Layer*> layers, std::vector<CGRect> boxes);
 
-  /// Calls `visit` in drawing order for each layer that may touch `rect`.
+  void append(const Layer& layer, const CGRect& box);
+
+  // A change that the index cannot follow returns false, and leaves it unusable.
+
+  /// The layer's box is asked for in `settle`.
+  bool insert(std::size_t place, const Layer& layer);
+  bool erase(std::size_t place);
+  /// To be called when a layer's box has become unknown.
+  bool note_moved(const Layer& layer);
+
+  /// The layers whose boxes are unknown.
+  const std::vector<const Layer*>& moved() const { return moved_; }
+  /// Asks `box_of` for the unknown boxes.
+  template <class BoxOf>
+  void settle(BoxOf box_of) {
+    if (changes_ == 0) return;
+    for (const Layer* layer : moved_)
+      boxes_[place_of(layer)] = box_of(*layer);
+    moved_.clear();
+    changes_ = 0;
+    make_lots();
+  }
+
+  /// Calls `visit` in drawing order for each layer that may touch `rect`. The index is settled.
   template <class Visit>
   void visit(const CGRect& rect, Visit visit) const {
     for (std::size_t lot = 0; lot < lots_.size(); ++lot) {
@@ -35,15 +59,24 @@ class ChildIndex {
 
  private:
   static constexpr std::size_t kLot = 64;
+  // Each change moves or searches the whole list.
+  static constexpr int kMostChanges = 16;
 
   static bool touch(const CGRect& a, const CGRect& b) {
     return a.min_x() <= b.max_x() && b.min_x() <= a.max_x() && a.min_y() <= b.max_y() &&
            b.min_y() <= a.max_y();
   }
 
+  bool count_change() { return ++changes_ <= kMostChanges; }
+  std::size_t place_of(const Layer* layer) const;
+  void add_to_lot(std::size_t place);
+  void make_lots();
+
   std::vector<const Layer*> layers_;
   std::vector<CGRect> boxes_;
   std::vector<CGRect> lots_;
+  std::vector<const Layer*> moved_;
+  int changes_ = 0;
 };
 
 }  // namespace host::quartzcore

@@ -17,6 +17,10 @@ bool touch(const CGRect& a, const CGRect& b) {
          b.min_y() <= a.max_y();
 }
 
+bool has_z_position(const Layer* layer) {
+  return layer->model.properties.z_position != 0;
+}
+
 }  // namespace
 
 // The reach is computed even if it is not used: an index that holds this box is invalidated only
@@ -46,17 +50,43 @@ CGRect LayerReach::in_layer() const {
 
 void LayerReach::forget() {
   if (!std::exchange(is_known_, false)) return;
-  if (Layer* above = layer_.superlayer()) above->reach.forget_children();
+  if (Layer* above = layer_.superlayer()) above->reach.sublayer_moved(layer_);
 }
 
-void LayerReach::forget_children() {
-  for (LayerReach* reach = this;;) {
-    reach->is_index_stale_ = true;
-    if (reach->layer_.model.masks_to_bounds || !std::exchange(reach->is_known_, false)) return;
-    Layer* above = reach->layer_.superlayer();
-    if (!above) return;
-    reach = &above->reach;
+void LayerReach::forget_sublayers_area() {
+  if (!layer_.model.masks_to_bounds) forget();
+}
+
+void LayerReach::sublayer_moved(const Layer& child) {
+  // A mask adds nothing to the area.
+  if (child.handle() == layer_.tree.mask.get()) return;
+  if (child_index_ && (is_sorted_by_z_ || !child_index_->note_moved(child))) child_index_.reset();
+  forget_sublayers_area();
+}
+
+// Thousands of sublayers are mostly added one after the other, each when it is complete and its
+// parts are still in the processor's cache: the best time to measure it.
+void LayerReach::sublayer_came(std::size_t place) {
+  const auto& sublayers = layer_.tree.sublayers;
+  const Layer& child = layer_of(sublayers[place].get());
+  const bool is_last = place + 1 == sublayers.size();
+  if (child_index_) {
+    if (is_sorted_by_z_ || child.model.properties.z_position != 0) {
+      child_index_.reset();
+    } else if (is_last) {
+      child_index_->append(child, child.reach.box());
+    } else if (!child_index_->insert(place, child)) {
+      child_index_.reset();
+    }
+  } else if (is_last && sublayers.size() == ChildIndex::kWorthwhile) {
+    make_index();
   }
+  forget_sublayers_area();
+}
+
+void LayerReach::sublayer_left(std::size_t place) {
+  if (child_index_ && (is_sorted_by_z_ || !child_index_->erase(place))) child_index_.reset();
+  forget_sublayers_area();
 }
 
 std::vector<const Layer*> LayerReach::children_in_order() const {
@@ -64,25 +94,31 @@ std::vector<const Layer*> LayerReach::children_in_order() const {
   order.reserve(layer_.tree.sublayers.size());
   for (const auto& child : layer_.tree.sublayers)
     order.push_back(&layer_of(child.get()));
-  const auto z = [](const Layer* one) { return one->model.properties.z_position; };
-  if (std::any_of(order.begin(), order.end(), [&](const Layer* one) { return z(one) != 0; })) {
-    std::stable_sort(order.begin(), order.end(),
-                     [&](const Layer* a, const Layer* b) { return z(a) < z(b); });
+  is_sorted_by_z_ = std::any_of(order.begin(), order.end(), &has_z_position);
+  if (is_sorted_by_z_) {
+    std::stable_sort(order.begin(), order.end(), [](const Layer* a, const Layer* b) {
+      return a->model.properties.z_position < b->model.properties.z_position;
+    });
   }
   return order;
 }
 
 const ChildIndex* LayerReach::child_index() const {
   if (layer_.tree.sublayers.size() < ChildIndex::kWorthwhile) return nullptr;
-  if (!is_index_stale_) return child_index_.get();
+  if (child_index_ && std::ranges::any_of(child_index_->moved(), &has_z_position))
+    child_index_.reset();
+  if (!child_index_) make_index();
+  child_index_->settle([](const Layer& child) { return child.reach.box(); });
+  return child_index_.get();
+}
+
+void LayerReach::make_index() const {
   std::vector<const Layer*> order = children_in_order();
   std::vector<CGRect> boxes;
   boxes.reserve(order.size());
   for (const Layer* child : order)
     boxes.push_back(child->reach.box());
   child_index_ = std::make_unique<ChildIndex>(std::move(order), std::move(boxes));
-  is_index_stale_ = false;
-  return child_index_.get();
 }
 
 /// True when a layer above, made larger by that many of its sizes on each side, still clips it

@@ -33,22 +33,27 @@ class LayerReach {
 
   /// To be called after a change of the layer's place or of the area that it covers.
   void forget();
-  /// To be called after such a change of a sublayer, or after a change of the list of sublayers.
-  void forget_children();
+  /// To be called after a sublayer has been added or removed, with its place in the list.
+  void sublayer_came(std::size_t place);
+  void sublayer_left(std::size_t place);
 
  private:
   bool is_clipped_away_by(double sizes) const;
   CGRect in_layer() const;
+  void sublayer_moved(const Layer& child);
+  void forget_sublayers_area();
   std::vector<const Layer*> children_in_order() const;
   /// Null when there are only few sublayers.
   const ChildIndex* child_index() const;
+  void make_index() const;
 
   const Layer& layer_;
-  // While a layer's reach is unknown, the layer is in no index, and of the layers above it only
-  // those that clip know theirs.
+  // While a layer's reach is unknown, its superlayer's index knows that it has moved, and of the
+  // layers above it only those that clip know theirs.
   mutable bool is_known_ = false;
-  mutable bool is_index_stale_ = true;
+  mutable bool is_sorted_by_z_ = false;
   mutable CGRect in_layer_;
+  // Null until it is needed, and after changes that it cannot follow.
   mutable std::unique_ptr<ChildIndex> child_index_;
 };
 

@@ -26,9 +26,9 @@ void leave_superlayer(CALayer self) {
   }
   Sublayers& siblings = above->tree.sublayers;
   const std::size_t index = index_of(self, siblings);
-  if (index < siblings.size())
-    siblings.erase(siblings.begin() + static_cast<std::ptrdiff_t>(index));
-  above->reach.forget_children();
+  if (index == siblings.size()) return;
+  siblings.erase(siblings.begin() + static_cast<std::ptrdiff_t>(index));
+  above->reach.sublayer_left(index);
 }
 
 void insert_child(CALayer self, CALayer child, std::size_t index) {
@@ -44,7 +44,7 @@ void insert_child(CALayer self, CALayer child, std::size_t index) {
   index = std::min(index, sublayers.size());
   sublayers.insert(sublayers.begin() + static_cast<std::ptrdiff_t>(index), kept);
   place.superlayer = self;
-  layer_of(self).reach.forget_children();
+  layer_of(self).reach.sublayer_came(index);
   if (layer_of(child).marks.awaits_layout()) layer_of(child).announce_layout();
   note_layer_change();
   self.setNeedsLayout();

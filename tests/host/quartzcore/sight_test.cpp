@@ -1,4 +1,8 @@
+#include <algorithm>
+#include <random>
+
 #include "host/quartzcore/layers/backing_stores.h"
+#include "host/quartzcore/layers/layer.h"
 #include "host/quartzcore/service/backing_store_budget.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/Foundation/NSValue.h"
@@ -154,6 +158,64 @@ TEST_F(SightTest, ManyLayersAreOrderedByTheirZPosition) {
   row(0).removeFromSuperlayer();
   render();
   EXPECT_EQ(pixel(0, 0), kGreen);
+}
+
+/// Those of the list's sublayers, in drawing order, that a picture of `place` may show.
+std::vector<CALayer> within(CALayer list, CGRect place) {
+  std::vector<CALayer> found;
+  for (const CALayer one : list.sublayers().of<CALayer>()) {
+    const CGRect frame = one.frame();
+    if (frame.max_y() >= place.min_y() && frame.min_y() <= place.max_y()) found.push_back(one);
+  }
+  std::ranges::stable_sort(found, {}, [](CALayer one) { return one.zPosition(); });
+  return found;
+}
+
+std::vector<CALayer> visited(CALayer list, CGRect place) {
+  std::vector<CALayer> found;
+  quartzcore::layer_of(list).reach.visit_sublayers(
+      place, [&](const quartzcore::Layer& one) { found.push_back(one.handle()); });
+  return found;
+}
+
+TEST_F(SightTest, AmongManyLayersOnlyThoseInSightAreVisitedWhateverChanges) {
+  std::minstd_rand random(7);
+  const auto any = [&random](int below) {
+    return static_cast<int>(random() % static_cast<unsigned>(below));
+  };
+  for (int round = 0; round < 400; ++round) {
+    // Now and then more than an index follows.
+    for (int change = round % 20 == 0 ? 60 : any(5); change >= 0; --change) {
+      const CALayer one = row(any(kMany));
+      const int kind = any(6);
+      if (kind == 0) one.setPosition({2, 2.0 * any(kMany) + 1});
+      if (kind == 1) list.insertSublayerBelow(one, row(any(kMany)));
+      if (kind == 2) list.addSublayer(one);
+      if (kind == 3 && any(4) == 0) one.removeFromSuperlayer();
+      if (kind == 4) one.setZPosition(round >= 200 ? any(3) - 1 : 0);
+      if (kind == 5) one.setBounds({0, 0, 4, 2.0 * any(4)});
+    }
+    const CGRect place{0, 2.0 * any(kMany), 4, 4};
+    for (int i = 0; list.sublayers().count() < 100; ++i)
+      list.addSublayer(row(i));
+    ASSERT_EQ(visited(list, place), within(list, place)) << round;
+  }
+}
+
+TEST_F(SightTest, AmongManyLayersTheMaskIsNone) {
+  render();
+  // given a mask that was one of them before
+  const CALayer mask = row(150);
+  mask.setBackgroundColor(color(0, 0, 0));
+  list.setMask(mask);
+  mask.setFrame({0, 0, 4, 4});
+  row(0).setBackgroundColor(color(1, 0, 0));
+  render();
+  EXPECT_EQ(pixel(0, 0), kRed);
+  mask.setFrame({0, 1, 4, 3});
+  render();
+  EXPECT_EQ(pixel(0, 0), kBlue);
+  EXPECT_EQ(pixel(0, 1), kRed);
 }
 
 TEST_F(SightTest, AClippedLayerIsDrawnWhenItBecomesVisible) {
