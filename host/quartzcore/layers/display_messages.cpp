@@ -19,9 +19,9 @@ BOOL needs_display(CALayer self) {
   return layer_of(self).marks.needs_display;
 }
 
+// A mark that outlived a turn belongs to a layer out of sight: the frame that shows it displays it.
 void set_needs_display(CALayer self) {
-  layer_of(self).marks.needs_display = true;
-  mark(self);
+  if (!std::exchange(layer_of(self).marks.needs_display, true)) mark(self);
 }
 
 BOOL needs_display_on_bounds_change(CALayer self) {

@@ -3,6 +3,7 @@
 
 #include "host/quartzcore/layers/backing_stores.h"
 #include "host/quartzcore/layers/layer.h"
+#include "host/quartzcore/layers/marked_layers.h"
 #include "host/quartzcore/service/backing_store_budget.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/Foundation/NSValue.h"
@@ -239,6 +240,36 @@ TEST_F(SightTest, AClippedLayerIsDrawnWhenItBecomesVisible) {
   scroll_to(150);
   render();
   EXPECT_EQ(notes_of(painter).drawn, there);
+  for (const CALayer one : rows)
+    one.setDelegate({});
+}
+
+TEST_F(SightTest, ALayerOutOfSightWaitsForDisplayAtNoCost) {
+  // given layers that a turn has left marked, since they are out of sight
+  const TestPainter painter = make_painter();
+  for (const CALayer one : rows) {
+    one.setDelegate(painter);
+    one.setNeedsDisplay();
+  }
+  quartzcore::flush_layers();
+  render();
+  const int drawn = notes_of(painter).drawn;
+
+  // when all are marked again
+  for (const CALayer one : rows)
+    one.setNeedsDisplay();
+
+  // then the next turn looks only at those in sight, and the others are drawn when they are seen
+  EXPECT_LE(quartzcore::marked_layer_count(), 3u);
+  quartzcore::flush_layers();
+  EXPECT_GE(notes_of(painter).drawn, drawn + 2);
+  scroll_to(150);
+  row(150).setNeedsDisplay();
+  quartzcore::flush_layers();
+  render();
+  EXPECT_EQ(pixel(0, 0), kGreen);
+  EXPECT_FALSE(row(150).needsDisplay());
+  EXPECT_TRUE(row(100).needsDisplay());
   for (const CALayer one : rows)
     one.setDelegate({});
 }
