@@ -149,7 +149,10 @@ class View : public objc::Implementation<View, UIView> {
   void resize_subviews(CGSize old_size);
   void size_changed(CGSize old_size);
 
+  // Callers walk through thousands of views; what they read comes first, to share one cache line.
   objc::Ref<CALayer> layer_;
+  // What `subviews` returns until they change.
+  mutable objc::Ref<NSArray> subview_array_;
   objc::Ref<UIColor> background_color_;
   objc::Ref<UIColor> tint_color_;
   std::vector<objc::Ref<UIView>> subviews_;

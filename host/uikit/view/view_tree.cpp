@@ -7,11 +7,15 @@
 namespace host::uikit {
 
 NSArray View::subviews() const {
-  std::vector<objc::Object> objects;
-  objects.reserve(subviews_.size());
-  for (const auto& child : subviews_)
-    objects.push_back(child.get());
-  return NSArray::arrayWithObjects(objects.data(), objects.size());
+  if (!subview_array_) {
+    std::vector<objc::Object> objects;
+    objects.reserve(subviews_.size());
+    for (const auto& child : subviews_)
+      objects.push_back(child.get());
+    subview_array_.reset(NSArray::arrayWithObjects(objects.data(), objects.size()));
+  }
+  // The caller may change the subviews while it walks through them.
+  return subview_array_->retain().autorelease();
 }
 
 void View::add_subview(UIView view) {
@@ -96,6 +100,7 @@ void View::insert(UIView view, std::size_t index) {
   // The messages sent during the move may have changed the children.
   index = std::min(index, subviews_.size());
   subviews_.insert(subviews_.begin() + static_cast<std::ptrdiff_t>(index), kept);
+  subview_array_.reset();
   child.superview_ = self;
   put_layer_at(view, index);
   if (changes_window) child.settle_in_window(window);
@@ -111,6 +116,7 @@ void View::reorder(UIView view, std::size_t index) {
   const auto kept = subviews_[present];
   subviews_.erase(subviews_.begin() + static_cast<std::ptrdiff_t>(present));
   subviews_.insert(subviews_.begin() + static_cast<std::ptrdiff_t>(index), kept);
+  subview_array_.reset();
   put_layer_at(view, index);
 }
 
@@ -129,6 +135,7 @@ void View::detach_quietly(UIView view) {
   objc::state_of<View>(view).superview_ = nil;
   view.layer().removeFromSuperlayer();
   subviews_.erase(subviews_.begin() + static_cast<std::ptrdiff_t>(place));
+  subview_array_.reset();
 }
 
 void View::detach(UIView view) {

@@ -42,6 +42,32 @@ class FourViewsTest : public ViewTreeTest {
   UIView views[4];
 };
 
+TEST_F(FourViewsTest, SubviewsAreOneArrayUntilTheyChange) {
+  auto& [a, b, c, d] = views;
+  const NSArray before = parent.subviews();
+  EXPECT_EQ(parent.subviews(), before);
+  parent.addSubview(d);
+  const NSArray four = parent.subviews();
+  EXPECT_EQ(four.count(), 4u);
+  parent.bringSubviewToFront(a);
+  EXPECT_EQ(parent.subviews().lastObject(), a);
+  b.removeFromSuperview();
+  EXPECT_EQ(parent.subviews().count(), 3u);
+  // Those that a caller walks through stay as they were.
+  EXPECT_EQ(before.count(), 3u);
+  EXPECT_EQ(four.firstObject(), a);
+  EXPECT_EQ(four.lastObject(), d);
+}
+
+TEST_F(FourViewsTest, ACallerMayRemoveTheSubviewsThatItWalksThrough) {
+  parent.subviews();
+  for (const UIView child : parent.subviews().of<UIView>()) {
+    const objc::AutoreleasePool pool;
+    child.removeFromSuperview();
+  }
+  EXPECT_EQ(parent.subviews().count(), 0u);
+}
+
 TEST_F(FourViewsTest, ViewsAndTheirLayersAreInTheSameOrder) {
   auto& [a, b, c, d] = views;
   expect_order({a, b, c});
