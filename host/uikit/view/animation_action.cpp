@@ -111,7 +111,14 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
     asked_ = asked;
   }
 
+  /// For fades out of sight. They have no animation, only a duration.
+  void prepare_unseen(const BlockAnimation& asked) {
+    asked_ = asked;
+    is_unseen_ = true;
+  }
+
   void run_action(NSString key, objc::Object object, NSDictionary) {
+    if (is_unseen_) return asked_.run->unseen_animation_added(asked_.delay + fade_duration());
     const CALayer layer = objc::cast<CALayer>(object);
     const auto* opacity = std::get_if<double>(&old_value_);
     if (opacity && inherits_add_animation(layer)) return fade(layer, *opacity);
@@ -141,13 +148,6 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
   void fade(CALayer layer, double from) {
     const double to = layer.opacity();
     if (from == to) return;
-    const bool repeats = asked_.has(UIViewAnimationOptionRepeat);
-    // Of thousands of tiles that fade at once, the screen shows a few.
-    if (!repeats && quartzcore::layer_of(layer).reach.is_far_away()) {
-      const double once =
-          asked_.has(UIViewAnimationOptionAutoreverse) ? 2 * asked_.duration : asked_.duration;
-      return asked_.run->unseen_animation_added(asked_.delay + once);
-    }
     quartzcore::RunningAnimation animation;
     animation.key = animation.key_path = "opacity";
     animation.values = fade_between(from, to);
@@ -156,10 +156,15 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
     animation.duration = asked_.duration;
     animation.curve = asked_.curve;
     animation.autoreverses = asked_.has(UIViewAnimationOptionAutoreverse);
-    if (repeats) animation.repeat_count = std::numeric_limits<double>::infinity();
+    if (asked_.has(UIViewAnimationOptionRepeat))
+      animation.repeat_count = std::numeric_limits<double>::infinity();
     animation.listener.reset(self);
     begin();
     quartzcore::layer_of(layer).run(std::move(animation));
+  }
+
+  double fade_duration() const {
+    return asked_.has(UIViewAnimationOptionAutoreverse) ? 2 * asked_.duration : asked_.duration;
   }
 
   bool blocks_touches() const { return !asked_.has(UIViewAnimationOptionAllowUserInteraction); }
@@ -242,12 +247,36 @@ class AnimationAction : public objc::Implementation<AnimationAction, UIViewAnima
   objc::Ref<UIView> view_;
   OldValue old_value_;
   BlockAnimation asked_;
+  bool is_unseen_ = false;
 };
+
+namespace {
+
+/// Returns whether a fade of the layer needs no animation: nothing of it can be seen before its
+/// end.
+bool fades_unseen(CALayer layer, const BlockAnimation& asked) {
+  return !asked.has(UIViewAnimationOptionRepeat) && inherits_add_animation(layer) &&
+         quartzcore::layer_of(layer).reach.is_far_away();
+}
+
+// Of thousands of tiles that fade at once, the screen shows a few; the others share one action.
+objc::Object unseen_action(const BlockAnimation& asked) {
+  objc::Ref<objc::Object>& shared = asked.run->unseen_action;
+  if (!shared) {
+    const auto action = UIViewAnimationAction::alloc().init();
+    shared = objc::Ref<objc::Object>::adopt(action);
+    objc::state_of<AnimationAction>(action).prepare_unseen(asked);
+  }
+  return shared.get();
+}
+
+}  // namespace
 
 objc::Object make_animation_action(UIView view, CALayer layer, NSString key) {
   const BlockAnimation* asked = current_block_animation();
   if (!asked || asked->duration <= 0) return nil;
   const std::string_view name = characters_of(key);
+  if (name == "opacity" && fades_unseen(layer, *asked)) return unseen_action(*asked);
   OldValue old_value;
   if (name == "position") {
     old_value = layer.position();

@@ -25,6 +25,7 @@ void AnimationRun::unseen_animation_added(double seconds) {
 
 void AnimationRun::close() {
   closed_ = true;
+  unseen_action.reset();
   if (running_ == 0) complete_in_next_turn();
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "objc/block.h"
+#include "objc/ref.h"
 
 namespace host::uikit {
 
@@ -18,6 +19,8 @@ class AnimationRun : public std::enable_shared_from_this<AnimationRun> {
   /// Counts as an animation that ends after so many seconds. All changes of the block
   /// that are out of sight share one.
   void unseen_animation_added(double seconds);
+  /// The action that they share; nil until it is set, and once the block has been run.
+  objc::Ref<objc::Object> unseen_action;
   /// Called when the block has been run; no animation is added afterwards.
   void close();
 

@@ -103,6 +103,30 @@ TEST_F(BlockAnimationTest, AFadeFarFromSightHasNoAnimationButEndsLikeOne) {
   EXPECT_THAT(finishes, ElementsAre(true));
 }
 
+TEST_F(BlockAnimationTest, FadesFarFromSightEndWithTheirOwnBlock) {
+  view.setClipsToBounds(YES);
+  UIView far[3];
+  for (UIView& tile : far) {
+    tile = UIView::alloc().initWithFrame({0, 300, 100, 50}).autorelease();
+    view.addSubview(tile);
+  }
+  UIView::animateWithDuration(0.25, objc::block([&] {
+                                far[0].setAlpha(0.5);
+                                far[1].setAlpha(0.5);
+                              }),
+                              note_end());
+  UIView::animateWithDuration(0.75, objc::block([&] {
+                                far[0].setAlpha(0);
+                                far[2].setAlpha(0);
+                              }),
+                              note_end());
+  advance(2);
+  EXPECT_THAT(ends, ElementsAre(testing::DoubleNear(0.25, 1.0 / 60 + 1e-6),
+                                testing::DoubleNear(0.75, 1.0 / 60 + 1e-6)));
+  EXPECT_EQ(far[0].alpha(), 0);
+  EXPECT_EQ(far[1].alpha(), 0.5);
+}
+
 TEST_F(BlockAnimationTest, MovementsAddUp) {
   const auto linear = UIViewAnimationOptionCurveLinear;
   UIView::animateWithDuration(1.0, 0.0, linear, objc::block([this] {
