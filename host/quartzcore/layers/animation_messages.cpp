@@ -46,8 +46,7 @@ objc::Object action_for_key(CALayer self, NSString key) {
   if (answers(layer.delegate, "actionForLayer:forKey:"_sel)) {
     const auto action =
         objc::send<objc::Object>(layer.delegate, "actionForLayer:forKey:"_sel, self, key);
-    if (action)
-      return objc::cast<NSObject>(action).isKindOfClass(NSNull::cls()) ? objc::Object() : action;
+    if (action) return action == NSNull::null() ? objc::Object() : action;
   }
   return default_action(layer, key);
 }

@@ -62,12 +62,14 @@ class Layer : public objc::Implementation<Layer, CALayer> {
 
   /// Unique within the process.
   const std::uint64_t serial;
-  LayerModel model;
-  LayerTree tree;
-  LayerMarks marks;
-  bool needs_display_on_bounds_change = false;
+  // What every change reads shares a cache line with the object's class: thousands of layers may
+  // change at once.
   /// Not retained, as on the platform.
   objc::Object delegate;
+  LayerMarks marks;
+  bool needs_display_on_bounds_change = false;
+  LayerTree tree;
+  LayerModel model;
   /// For a presentation layer: the layer that it presents.
   CALayer model_layer;
   /// Values that callers have set under their own keys.

@@ -17,8 +17,8 @@ struct LayerProperties {
   CGPoint position;
   CGPoint anchor{0.5, 0.5};
   double z_position = 0;
-  CATransform3D transform;
   double opacity = 1;
+  CATransform3D transform;
   double corner_radius = 0;
   double border_width = 0;
   Rgba border_color{0, 0, 0, 1};
