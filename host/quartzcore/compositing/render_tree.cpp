@@ -7,6 +7,9 @@
 namespace host::quartzcore {
 namespace {
 
+// What is fainter changes no pixel. So the first frame of a fade need not draw what comes.
+constexpr double kLeastOpacity = 0.5 / 256;
+
 /// Returns the rectangle that `clip` shows, in the layer's coordinates, and a little more.
 CGRect shown_part(const CGAffineTransform& to_device, const PixelRect& clip) {
   const CGRect pixels(clip.x - 1, clip.y - 1, clip.width + 2, clip.height + 2);
@@ -36,7 +39,7 @@ void RenderTree::add(const Layer& layer, const Surroundings& around, double now)
   node.layer = &layer;
   node.serial = layer.serial;
   node.properties = layer.present(now);
-  if (node.properties.opacity <= 0 && faded_out_ == FadedOut::Skipped) return;
+  if (node.properties.opacity < kLeastOpacity && faded_out_ == FadedOut::Skipped) return;
   place(node, around);
   if (is_flat(node)) return;
   node.image = shown_->picture_of(node);

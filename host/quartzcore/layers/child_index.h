@@ -22,30 +22,32 @@ class ChildIndex {
   /// superlayer's coordinates.
   ChildIndex(std::vector<const Layer*> layers, std::vector<CGRect> boxes);
 
+  /// To be called for a layer that has become the last one of its superlayer.
   void append(const Layer& layer, const CGRect& box);
 
   // A change that the index cannot follow returns false, and leaves it unusable.
 
-  /// The layer's box is asked for in `settle`.
+  /// For a layer with this place among the sublayers. Its box is asked for in `settle`.
   bool insert(std::size_t place, const Layer& layer);
-  bool erase(std::size_t place);
-  /// To be called when a layer's box has become unknown.
+  bool erase(const Layer& layer);
+  /// To be called when a layer's box or z position may have changed.
   bool note_moved(const Layer& layer);
-
-  /// The layers whose boxes are unknown.
-  const std::vector<const Layer*>& moved() const { return moved_; }
-  /// Asks `box_of` for the unknown boxes.
+  /// To be called before `visit`. Asks `box_of` for the boxes that may have changed.
   template <class BoxOf>
-  void settle(BoxOf box_of) {
-    if (changes_ == 0) return;
-    for (const Layer* layer : moved_)
-      boxes_[place_of(layer)] = box_of(*layer);
+  bool settle(BoxOf box_of) {
+    if (changes_ == 0) return true;
+    for (const Layer* layer : moved_) {
+      const std::size_t place = place_of(*layer);
+      if (has_other_z(place)) return false;
+      boxes_[place] = box_of(*layer);
+    }
     moved_.clear();
     changes_ = 0;
-    make_lots();
+    make_lots(0);
+    return true;
   }
 
-  /// Calls `visit` in drawing order for each layer that may touch `rect`. The index is settled.
+  /// Calls `visit` in drawing order for each layer that may touch `rect`.
   template <class Visit>
   void visit(const CGRect& rect, Visit visit) const {
     for (std::size_t lot = 0; lot < lots_.size(); ++lot) {
@@ -67,12 +69,13 @@ class ChildIndex {
            b.min_y() <= a.max_y();
   }
 
-  bool count_change() { return ++changes_ <= kMostChanges; }
-  std::size_t place_of(const Layer* layer) const;
-  void add_to_lot(std::size_t place);
-  void make_lots();
+  std::size_t place_of(const Layer& layer) const;
+  bool has_other_z(std::size_t place) const;
+  void put(std::size_t place, const Layer& layer, const CGRect& box);
+  void make_lots(std::size_t first);
 
   std::vector<const Layer*> layers_;
+  std::vector<double> z_;
   std::vector<CGRect> boxes_;
   std::vector<CGRect> lots_;
   std::vector<const Layer*> moved_;

@@ -17,8 +17,8 @@ bool touch(const CGRect& a, const CGRect& b) {
          b.min_y() <= a.max_y();
 }
 
-bool has_z_position(const Layer* layer) {
-  return layer->model.properties.z_position != 0;
+bool is_below(const Layer* a, const Layer* b) {
+  return a->model.properties.z_position < b->model.properties.z_position;
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ void LayerReach::forget_sublayers_area() {
 void LayerReach::sublayer_moved(const Layer& child) {
   // A mask adds nothing to the area.
   if (child.handle() == layer_.tree.mask.get()) return;
-  if (child_index_ && (is_sorted_by_z_ || !child_index_->note_moved(child))) child_index_.reset();
+  if (child_index_ && !child_index_->note_moved(child)) child_index_.reset();
   forget_sublayers_area();
 }
 
@@ -71,9 +71,7 @@ void LayerReach::sublayer_came(std::size_t place) {
   const Layer& child = layer_of(sublayers[place].get());
   const bool is_last = place + 1 == sublayers.size();
   if (child_index_) {
-    if (is_sorted_by_z_ || child.model.properties.z_position != 0) {
-      child_index_.reset();
-    } else if (is_last) {
+    if (is_last) {
       child_index_->append(child, child.reach.box());
     } else if (!child_index_->insert(place, child)) {
       child_index_.reset();
@@ -84,8 +82,8 @@ void LayerReach::sublayer_came(std::size_t place) {
   forget_sublayers_area();
 }
 
-void LayerReach::sublayer_left(std::size_t place) {
-  if (child_index_ && (is_sorted_by_z_ || !child_index_->erase(place))) child_index_.reset();
+void LayerReach::sublayer_left(const Layer& child) {
+  if (child_index_ && !child_index_->erase(child)) child_index_.reset();
   forget_sublayers_area();
 }
 
@@ -94,21 +92,15 @@ std::vector<const Layer*> LayerReach::children_in_order() const {
   order.reserve(layer_.tree.sublayers.size());
   for (const auto& child : layer_.tree.sublayers)
     order.push_back(&layer_of(child.get()));
-  is_sorted_by_z_ = std::any_of(order.begin(), order.end(), &has_z_position);
-  if (is_sorted_by_z_) {
-    std::stable_sort(order.begin(), order.end(), [](const Layer* a, const Layer* b) {
-      return a->model.properties.z_position < b->model.properties.z_position;
-    });
-  }
+  if (!std::is_sorted(order.begin(), order.end(), is_below))
+    std::stable_sort(order.begin(), order.end(), is_below);
   return order;
 }
 
 const ChildIndex* LayerReach::child_index() const {
   if (layer_.tree.sublayers.size() < ChildIndex::kWorthwhile) return nullptr;
-  if (child_index_ && std::ranges::any_of(child_index_->moved(), &has_z_position))
-    child_index_.reset();
-  if (!child_index_) make_index();
-  child_index_->settle([](const Layer& child) { return child.reach.box(); });
+  const auto box_of = [](const Layer& child) { return child.reach.box(); };
+  if (!child_index_ || !child_index_->settle(box_of)) make_index();
   return child_index_.get();
 }
 

@@ -33,9 +33,9 @@ class LayerReach {
 
   /// To be called after a change of the layer's place or of the area that it covers.
   void forget();
-  /// To be called after a sublayer has been added or removed, with its place in the list.
+  /// To be called after a sublayer has been added, with its place in the list, or removed.
   void sublayer_came(std::size_t place);
-  void sublayer_left(std::size_t place);
+  void sublayer_left(const Layer& child);
 
  private:
   bool is_clipped_away_by(double sizes) const;
@@ -51,7 +51,6 @@ class LayerReach {
   // While a layer's reach is unknown, its superlayer's index knows that it has moved, and of the
   // layers above it only those that clip know theirs.
   mutable bool is_known_ = false;
-  mutable bool is_sorted_by_z_ = false;
   mutable CGRect in_layer_;
   // Null until it is needed, and after changes that it cannot follow.
   mutable std::unique_ptr<ChildIndex> child_index_;

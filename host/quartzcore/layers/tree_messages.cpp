@@ -27,8 +27,8 @@ void leave_superlayer(CALayer self) {
   Sublayers& siblings = above->tree.sublayers;
   const std::size_t index = index_of(self, siblings);
   if (index == siblings.size()) return;
+  above->reach.sublayer_left(layer_of(self));
   siblings.erase(siblings.begin() + static_cast<std::ptrdiff_t>(index));
-  above->reach.sublayer_left(index);
 }
 
 void insert_child(CALayer self, CALayer child, std::size_t index) {
