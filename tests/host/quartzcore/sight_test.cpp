@@ -48,6 +48,14 @@ class SightTest : public CompositorTest {
     }
   }
 
+  void draw_rows_with(TestPainter painter) {
+    for (const CALayer one : rows) {
+      one.setDelegate(painter);
+      one.setNeedsDisplay();
+    }
+    quartzcore::flush_layers();
+    render();
+  }
   CALayer row(int i) const { return rows[static_cast<std::size_t>(i)]; }
   void scroll_to(int i) {
     CATransaction::setDisableActions(YES);
@@ -221,12 +229,7 @@ TEST_F(SightTest, AmongManyLayersTheMaskIsNone) {
 
 TEST_F(SightTest, AClippedLayerIsDrawnWhenItBecomesVisible) {
   const TestPainter painter = make_painter();
-  for (const CALayer one : rows) {
-    one.setDelegate(painter);
-    one.setNeedsDisplay();
-  }
-  quartzcore::flush_layers();
-  render();
+  draw_rows_with(painter);
   EXPECT_LE(notes_of(painter).drawn, 3);
   EXPECT_EQ(pixel(0, 0), kGreen);
   const int before = notes_of(painter).drawn;
@@ -247,12 +250,7 @@ TEST_F(SightTest, AClippedLayerIsDrawnWhenItBecomesVisible) {
 TEST_F(SightTest, ALayerOutOfSightWaitsForDisplayAtNoCost) {
   // given layers that a turn has left marked, since they are out of sight
   const TestPainter painter = make_painter();
-  for (const CALayer one : rows) {
-    one.setDelegate(painter);
-    one.setNeedsDisplay();
-  }
-  quartzcore::flush_layers();
-  render();
+  draw_rows_with(painter);
   const int drawn = notes_of(painter).drawn;
 
   // when all are marked again

@@ -8,25 +8,15 @@
 #include <random>
 
 #include "host/quartzcore/compositing/backdrop_filter.h"
-#include "host/quartzcore/pixels/area_average.h"
 #include "host/quartzcore/pixels/pixel_blend.h"
+#include "tests/host/quartzcore/test_surfaces.h"
 
 namespace host::quartzcore {
 namespace {
 
-std::uint32_t* row_of(const Surface& surface, int y) {
-  return reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()) +
-                                          static_cast<std::ptrdiff_t>(y) *
-                                              cairo_image_surface_get_stride(surface.get()));
-}
-
-Surface filled(int width, int height, std::uint32_t color) {
-  const Surface surface = make_surface(width, height);
-  for (int y = 0; y < height; ++y)
-    std::fill_n(row_of(surface, y), width, color);
-  cairo_surface_mark_dirty(surface.get());
-  return surface;
-}
+using test::filled;
+using test::opaque_noise;
+using test::row_of;
 
 class SmallPictureTest : public testing::TestWithParam<int> {};
 
@@ -88,11 +78,7 @@ TEST_P(SmallPictureTest, EveryPartHasThePixelsOfTheWhole) {
   constexpr int kWidth = 53;
   constexpr int kHeight = 47;
   std::mt19937 random{5};
-  const Surface pixels = filled(kWidth, kHeight, 0);
-  for (int y = 0; y < kHeight; ++y) {
-    for (int x = 0; x < kWidth; ++x)
-      row_of(pixels, y)[x] = 0xff000000 | (random() & 0xffffff);
-  }
+  const Surface pixels = opaque_noise(kWidth, kHeight, random);
   const SmallPicture small = reduce(pixels, {0, 0, kWidth, kHeight}, GetParam());
   const Surface whole = make_surface(kWidth, kHeight);
   enlarge(small, whole);
@@ -109,40 +95,6 @@ TEST_P(SmallPictureTest, EveryPartHasThePixelsOfTheWhole) {
       for (int x = 0; x < kWidth; ++x) {
         const bool inside = part.contains({x, y, 1, 1});
         ASSERT_EQ(row_of(painted, y)[x], inside ? row_of(whole, y)[x] : 0) << x << ", " << y;
-      }
-    }
-  }
-}
-
-TEST(AreaAverage, EveryPixelIsTheMeanOfWhatItCovers) {
-  constexpr int kWidth = 60;
-  constexpr int kHeight = 41;
-  std::mt19937 random{3};
-  const Surface source = filled(kWidth, kHeight, 0);
-  for (int y = 0; y < kHeight; ++y) {
-    for (int x = 0; x < kWidth; ++x)
-      row_of(source, y)[x] = 0xff000000 | (random() & 0xffffff);
-  }
-  struct Size {
-    int width, height;
-  };
-  for (const Size size : {Size{60, 40}, Size{50, 35}, Size{17, 41}, Size{8, 3}, Size{1, 1}}) {
-    const Surface copy = area_average(source, size.width, size.height);
-    const double across = static_cast<double>(kWidth) / size.width;
-    const double down = static_cast<double>(kHeight) / size.height;
-    const auto share = [](int pixel, double from, double to) {
-      return std::max(0.0, std::min(pixel + 1.0, to) - std::max<double>(pixel, from));
-    };
-    for (int y = 0; y < size.height; ++y) {
-      for (int x = 0; x < size.width; ++x) {
-        double mean = 0;
-        for (int v = 0; v < kHeight; ++v) {
-          for (int u = 0; u < kWidth; ++u)
-            mean += share(v, y * down, (y + 1) * down) * share(u, x * across, (x + 1) * across) *
-                    (row_of(source, v)[u] >> 8 & 0xff);
-        }
-        ASSERT_NEAR(row_of(copy, y)[x] >> 8 & 0xff, mean / across / down, 0.51) << x << ", " << y;
-        ASSERT_EQ(row_of(copy, y)[x] >> 24, 0xffU);
       }
     }
   }
