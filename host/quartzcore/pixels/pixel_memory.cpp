@@ -25,12 +25,10 @@ PixelMemory::Block new_block(std::size_t size, PixelMemory::Contents contents) {
       static_cast<unsigned char*>(is_zeroed ? std::calloc(size, 1) : std::malloc(size));
   if (!bytes) return {};
   if (size < PixelMemory::kLeastKept) return {bytes, size};
-  static const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-  const auto address = reinterpret_cast<std::uintptr_t>(bytes);
-  const std::uintptr_t first = (address + page - 1) / page * page;
-  const std::uintptr_t end = (address + size) / page * page;
+  static const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+  const std::size_t before = -reinterpret_cast<std::uintptr_t>(bytes) % page;
   // Older kernels do not know the advice, which changes nothing but the time.
-  if (end > first) madvise(reinterpret_cast<void*>(first), end - first, MADV_POPULATE_WRITE);
+  madvise(bytes + before, (size - before) / page * page, MADV_POPULATE_WRITE);
   return {bytes, size};
 }
 
