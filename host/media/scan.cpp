@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "host/media/cloud_song.h"
+#include "host/media/fetch_ahead.h"
 #include "host/media/folder_walk.h"
 #include "host/media/hash.h"
 #include "host/media/library_builder.h"
@@ -24,6 +25,8 @@ namespace {
 
 constexpr std::size_t songs_per_transaction = 500;
 constexpr std::size_t files_per_report = 50;
+// In one folder. Those of the next one are fetched as well.
+constexpr std::size_t files_ahead = 64;
 
 bool has_vanished(const std::string& path) {
   struct stat status {};
@@ -116,8 +119,11 @@ class Scan {
 
   void visit_waiting(const std::stop_token& stop) {
     if (progress_.to_see > 0) report_(progress_);
-    for (WalkedFolder& folder : waiting_)
-      visit(folder, stop);
+    for (std::size_t i = 0; i < waiting_.size(); ++i) {
+      if (i == 0) fetch(waiting_[0], 0);
+      if (i + 1 < waiting_.size()) fetch(waiting_[i + 1], 0);
+      visit(waiting_[i], stop);
+    }
     waiting_.clear();
   }
 
@@ -128,13 +134,30 @@ class Scan {
 
   void visit(WalkedFolder& folder, const std::stop_token& stop) {
     if (!folder.songs.empty()) find_header(folder.picture);
-    for (WalkedFile& file : folder.songs) {
+    for (std::size_t i = 0; i < folder.songs.size(); ++i) {
       if (stop.stop_requested()) return;
+      if (i % files_ahead == 0) fetch(folder, i + files_ahead);
       ++progress_.seen;
-      take(file, folder.picture);
+      take(folder.songs[i], folder.picture);
       if (progress_.seen % files_per_report == 0) report_(progress_);
       if (changes_.count() >= songs_per_transaction) save();
     }
+  }
+
+  // Fetches some of the folder's songs, from a place on, if they will be read.
+  void fetch(const WalkedFolder& folder, std::size_t from) const {
+    const std::size_t end = std::min(folder.songs.size(), from + files_ahead);
+    for (std::size_t i = from; i < end; ++i) {
+      const WalkedFile& file = folder.songs[i];
+      if (!is_unchanged(file)) fetch_ahead(file.path, file.stamp.size);
+    }
+  }
+
+  bool is_unchanged(const WalkedFile& file) const {
+    if (const auto known = known_by_path_.find(file.path); known != known_by_path_.end())
+      return known_[known->second].stamp == file.stamp;
+    const auto refused = refused_.find(file.path);
+    return refused != refused_.end() && refused->second == file.stamp;
   }
 
   // A picture whose key is known has not changed since it was last read.
