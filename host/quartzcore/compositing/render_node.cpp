@@ -1,6 +1,7 @@
 #include "host/quartzcore/compositing/render_node.h"
 
 #include "host/quartzcore/kinds/backdrop_layer.h"
+#include "host/quartzcore/layers/screen_density.h"
 #include "host/quartzcore/values/signature.h"
 
 namespace host::quartzcore {
@@ -46,6 +47,15 @@ CGRect extent_of(const RenderNode& node) {
   if (node.image) extent = CGRectUnion(extent, place_of_image(node));
   if (layer.drawing) extent = CGRectUnion(extent, layer.drawing->extent(p));
   return layer.model.masks_to_bounds ? CGRectIntersection(extent, p.bounds) : extent;
+}
+
+/// True for a plain colour and a picture that keeps its size: they are painted on the nearest whole
+/// pixels, wherever the layer is.
+bool ends_at_pixels(const RenderNode& node) {
+  const LayerProperties& p = node.properties;
+  return is_upright(node.to_device) && !node.is_scaling && p.corner_radius <= 0 &&
+         p.border_width <= 0 && !node.layer->drawing && !node.layer->backdrop &&
+         !shown_pattern(node) && screen_density() == 1;
 }
 
 bool fits_whole_pixels(const RenderNode& node) {
@@ -112,7 +122,10 @@ void decide_group(RenderNode& node) {
 
 void measure(RenderNode& node, const Surroundings& around) {
   const CGRect extent = CGRectApplyAffineTransform(extent_of(node), node.to_device);
-  node.own = intersection(pixels_round(extent), around.clip);
+  PixelRect pixels = ends_at_pixels(node) ? nearest_pixels(extent) : PixelRect{};
+  // What is thinner than half a pixel is painted faintly.
+  if (pixels.is_empty()) pixels = pixels_round(extent);
+  node.own = intersection(pixels, around.clip);
   node.subtree = node.own;
 }
 
