@@ -46,8 +46,8 @@ constexpr MpvEngine::Option stepped_options[] = {
     {"keep-open-pause", "no"},
 };
 
-// What nobody hears may have any rate. At a fixed one a piece of samples is a piece of time: a
-// tenth of a second, half of the output's buffer, so that the engine's threads wake up less often.
+// Sound that is not heard may have any rate. At a fixed one, 800 samples are a tenth of a second,
+// half of the output's buffer: the engine's threads wake up less often.
 constexpr MpvEngine::Option silent_options[] = {
     {"audio-samplerate", "8000"},
     {"ao-null-outburst", "800"},
