@@ -136,7 +136,8 @@ TEST_F(Recorded, WhatWasDoneBeforeTheEndIsInTheFile) {
   say_all(phone, {"record session.scn", "advance 0.5", "button home", "advance 2"});
   EXPECT_EQ(recorded(), "# Recorded on iPhone7,2.\nadvance 0.5\nbutton home\n");
   phone.kill_launcher();
-  EXPECT_EQ(recorded(), "# Recorded on iPhone7,2.\nadvance 0.5\nbutton home\n");
+  // The home screen may have seen the end already, and have written the last pause.
+  EXPECT_THAT(recorded(), StartsWith("# Recorded on iPhone7,2.\nadvance 0.5\nbutton home\n"));
 }
 
 }  // namespace
