@@ -31,8 +31,7 @@ class Compositor {
   Damage render(std::span<const CALayer> roots, double now);
 
   /// Blurs the pictures behind faded-out backdrops in advance, so that no frame of their fade has
-  /// to. To be called between frames; nearly free
-  /// when nothing has changed.
+  /// to. To be called between frames; nearly free when nothing has changed.
   void prepare_ahead(std::span<const CALayer> roots, double now);
 
   /// ARGB32, `width` × `height`. The same surface for the compositor's lifetime.

@@ -103,6 +103,8 @@ void RenderTree::dissolve_group(int index) {
   for (int i = index; i < group.end; ++i) {
     RenderNode& node = at(i);
     node.opacity *= opacity;
+    // In a group it would be rounded differently.
+    node.context = mix_signature(node.context, opacity);
     if (opacity < 1) node.is_opaque = false;
   }
 }
