@@ -84,15 +84,18 @@ TEST(MpvPlayer, TheLatestSongIsOpenedOnceTheEngineIsLoaded) {
   EXPECT_EQ(player.engine().path, folder / "second.wav");
 }
 
+/// Counts the songs that have ended; none may fail.
+struct EndsOfSongs : PlayerListener {
+  int ends = 0;
+  void player_did_reach_end() override { ++ends; }
+  void player_did_fail(const std::string& path, const std::string& reason) override {
+    ADD_FAILURE() << path << ": " << reason;
+    ++ends;
+  }
+};
+
 TEST(MpvPlayer, PlaysEveryKindOfSong) {
-  struct Listener : PlayerListener {
-    int ends = 0;
-    void player_did_reach_end() override { ++ends; }
-    void player_did_fail(const std::string& path, const std::string& reason) override {
-      ADD_FAILURE() << path << ": " << reason;
-      ++ends;
-    }
-  } listener;
+  EndsOfSongs listener;
   const TemporaryFolder folder;
   std::vector<std::string> songs = {MEDIA_TEST_DATA "/tiny.m4a", MEDIA_TEST_DATA "/tiny.aac",
                                     MEDIA_TEST_DATA "/tiny.wma", MEDIA_TEST_DATA "/tiny.wv"};
@@ -118,13 +121,7 @@ TEST(MpvPlayer, PlaysEveryKindOfSong) {
 }
 
 TEST(MpvPlayer, SilentSongsOfAnyRateTakeTheirTimeThoughPaused) {
-  struct Listener : PlayerListener {
-    int ends = 0;
-    void player_did_reach_end() override { ++ends; }
-    void player_did_fail(const std::string& path, const std::string& reason) override {
-      ADD_FAILURE() << path << ": " << reason;
-    }
-  } listener;
+  EndsOfSongs listener;
   constexpr double length = 1;
   // A pause may empty the buffers of the engine and the output.
   constexpr double most_buffered = 0.45;

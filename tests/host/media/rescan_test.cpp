@@ -1,8 +1,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
+#include <set>
+#include <string>
 
+#include "host/basics/descriptor.h"
 #include "host/media/scan.h"
 #include "tests/support/media_fixtures.h"
 
@@ -74,6 +80,36 @@ TEST_F(Rescanning, ASongThatChangedIsReadAndTheOthersKeepTheirTags) {
   EXPECT_EQ(outcome.library->tracks()[0].title, "Another");
   EXPECT_EQ(outcome.library->tracks()[1].title, "B");
   EXPECT_EQ(outcome.library->tracks()[1].album, "Album");
+}
+
+/// The names of the files that have been opened in a folder, without those of folders.
+class Opened {
+ public:
+  explicit Opened(const std::string& folder) : events_(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
+    EXPECT_GE(inotify_add_watch(events_.get(), folder.c_str(), IN_OPEN), 0);
+  }
+  std::set<std::string> names() const {
+    std::set<std::string> found;
+    alignas(inotify_event) char bytes[4096];
+    for (ssize_t size; (size = ::read(events_.get(), bytes, sizeof bytes)) > 0;) {
+      for (ssize_t at = 0; at < size;) {
+        const auto* event = reinterpret_cast<const inotify_event*>(bytes + at);
+        if (event->len > 0) found.insert(event->name);
+        at += static_cast<ssize_t>(sizeof *event + event->len);
+      }
+    }
+    return found;
+  }
+
+ private:
+  host::Descriptor events_;
+};
+
+TEST_F(Rescanning, OnlyWhatHasChangedIsOpened) {
+  fs::last_write_time(at("b.flac"), fs::last_write_time(at("b.flac")) + std::chrono::hours(1));
+  const Opened opened(folder_ / "music");
+  EXPECT_EQ(scan(known_).progress.read, 1u);
+  EXPECT_THAT(opened.names(), testing::ElementsAre("b.flac"));
 }
 
 TEST_F(Rescanning, ANewPictureReachesTheSongsWithoutOpeningThem) {
